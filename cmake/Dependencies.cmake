@@ -1,0 +1,20 @@
+# The libraries that the program stands on. Found here, once and at the top, since an imported target is known only
+# in the folder that finds it and below.
+find_package(PkgConfig REQUIRED)
+find_package(SQLite3 3.40 REQUIRED)
+pkg_check_modules(UTF8PROC REQUIRED IMPORTED_TARGET libutf8proc)
+set(TW_CORE_LIBRARIES SQLite::SQLite3 PkgConfig::UTF8PROC)
+
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core)
+if(TUNWRIGHT_WINDOWS)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg PrintSupport Network)
+endif()
+if(TUNWRIGHT_TESTS)
+  find_package(GTest REQUIRED)
+  if(TUNWRIGHT_WINDOWS)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+  endif()
+endif()
+if(TUNWRIGHT_BENCH)
+  find_package(benchmark REQUIRED)
+endif()

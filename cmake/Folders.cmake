@@ -1,0 +1,28 @@
+# The folders of the core from the lowest layer up. A folder includes itself and what stands before it in this list,
+# nothing behind it; tests/architecture/CheckLayers.cmake fails otherwise.
+set(TW_CORE_FOLDERS platform values calc water store tree document catalogue reports help tools shell)
+
+# tw_core_folder(NAME): the logic of src/NAME (not its ui/ and qt/ folders) as an object library tw_NAME.
+function(tw_core_folder name)
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_library(tw_${name} OBJECT ${sources})
+  target_include_directories(tw_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(tw_${name} PUBLIC tw_flags)
+endfunction()
+
+# tw_objects_up_to(VAR NAME): the object libraries of all folders from the bottom up to NAME.
+function(tw_objects_up_to var name)
+  set(found)
+  foreach(folder IN LISTS TW_CORE_FOLDERS)
+    if(TARGET tw_${folder})
+      list(APPEND found tw_${folder})
+    endif()
+    if(folder STREQUAL name)
+      break()
+    endif()
+  endforeach()
+  set(${var} ${found} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,45 @@
+// The one exception type of the program. What no routine traps rises to the event loop of the program, which
+// shows it in a box and goes on; an entry of the brewer never ends the process.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace tw {
+
+// An error that carries where it came from, what happened and a number.
+class Error : public std::runtime_error {
+  public:
+    // what() is the description.
+    Error(std::string source, const std::string& description, int number)
+        : std::runtime_error(description), source_(std::move(source)), number_(number) {}
+
+    const std::string& Source() const { return source_; }
+    std::string Description() const { return what(); }
+    int Number() const { return number_; }
+
+    // "{description} ({number})", the form of most error boxes.
+    std::string WithNumber() const { return Description() + " (" + std::to_string(number_) + ")"; }
+    // "{source}\r\n{description} ({number})", the form of the boxes of store operations.
+    std::string WithSource() const { return source_ + "\r\n" + WithNumber(); }
+
+  private:
+    std::string source_;
+    int number_;
+};
+
+inline constexpr int kOverflowNumber = 6;
+inline constexpr int kDivisionByZeroNumber = 11;
+
+// Raises the arithmetic error "Division by zero", number 11.
+[[noreturn]] void RaiseDivisionByZero();
+// Raises the arithmetic error "Overflow", number 6.
+[[noreturn]] void RaiseOverflow();
+
+// numerator / denominator. Raises "Division by zero" for a zero denominator and "Overflow" for a result that
+// is not finite, so that no figure ever holds infinity or NaN.
+double Divide(double numerator, double denominator);
+// value itself; raises "Overflow" when it is infinite or NaN.
+double Finite(double value);
+
+}  // namespace tw
