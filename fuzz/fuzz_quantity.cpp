@@ -1,0 +1,119 @@
+// Any text may be typed into a quantity field. For each parser and validator: nothing but an Error of the
+// program is raised, an accepted number is finite, a refused one is not written, and a call with a message
+// box decides as a quiet one does. The first eight bytes, taken for a double, become text and the same number
+// again.
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+#include "platform/Error.h"
+#include "values/NumberText.h"
+#include "values/ParserValidater.h"
+#include "values/Text.h"
+
+namespace {
+
+using namespace tw;
+
+constexpr double kUntouched = -98765.25;
+
+void Require(bool holds) {
+    if (!holds) std::abort();
+}
+
+class CountingMessages : public MessagePort {
+  public:
+    void ShowMessage(std::string_view title, std::string_view) override {
+        Require(title == kInvalidEntry);
+        ++shown;
+    }
+    Answer Ask(std::string_view, std::string_view, Question) override { std::abort(); }
+    void Beep() override { std::abort(); }
+
+    int shown = 0;
+};
+
+enum class Outcome { Accepted, Refused, Raised };
+
+template <typename Call>
+Outcome Run(Call call, double& value) {
+    value = kUntouched;
+    try {
+        if (call(value)) {
+            Require(std::isfinite(value));
+            return Outcome::Accepted;
+        }
+    } catch (const Error& error) {
+        Require(error.Number() == kDivisionByZeroNumber || error.Number() == kOverflowNumber);
+        Require(value == kUntouched);
+        return Outcome::Raised;
+    }
+    Require(value == kUntouched);
+    return Outcome::Refused;
+}
+
+void CheckNumberText(double value) {
+    const std::string text = NumberText(value);
+    double read = kUntouched;
+    Require(ReadNumber(text, read) && read == value);
+    double rounded = value;
+    Require(FormatQuantity(rounded, 3) == NumberText(rounded));
+    for (const std::string_view pattern : {"0", "0.#0", "#.0", "0.0% abv", "000000000000.000000000000"})
+        Require(!FormatNumber(value, pattern).empty());
+}
+
+void CheckParser(Parser parser, std::string_view text) {
+    double value = 0;
+    if (Run([&](double& v) { return parser(text, v); }, value) == Outcome::Accepted) CheckNumberText(value);
+}
+
+void CheckValidator(Validator validator, std::string_view text) {
+    CountingMessages messages;
+    double loud = 0;
+    double quiet = 0;
+    const Outcome outcome = Run([&](double& v) { return validator(text, v, &messages); }, loud);
+    Require(Run([&](double& v) { return validator(text, v, nullptr); }, quiet) == outcome);
+    Require(loud == quiet);
+    Require(messages.shown == (outcome == Outcome::Refused ? 1 : 0));
+    if (IsBlank(text)) Require(outcome == Outcome::Accepted && loud == 0);
+}
+
+void CheckTokens(std::string_view text) {
+    // Each token but those of a leading tilde, bracket or tab takes something away, so the text ends before
+    // its length.
+    for (std::size_t i = 0; i <= text.size(); ++i) {
+        const std::size_t before = text.size();
+        const std::string_view token = GetToken(text);
+        Require(token.size() + text.size() <= before);
+    }
+}
+
+constexpr Parser kParsers[] = {
+    ParseReal,    ParseWholeNumber, ParseFraction,     ParseSG,          ParsePlato,       ParseGallons,
+    ParseQuarts,  ParsePints,       ParseCups,         ParseFluidOunces, ParseTablespoons, ParseTeaspoons,
+    ParseLiters,  ParseMilliliters, ParsePounds,       ParseOunces,      ParseGrams,       ParseKilograms,
+    ParsePercent, ParseAAU,         ParseIBU,          ParseCO2Volumes,  ParseMinutes,     ParseHours,
+    ParseSeconds, ParseFahrenheit,  ParseCelsius,      ParseKelvin,      ParsePSI,         ParseKPa,
+    ParsePa,      ParseAtm,         ParseOuncesAnyUnit};
+
+constexpr Validator kValidators[] = {ValidateVolume,  ValidateGravity,     ValidatePercent,
+                                     ValidatePounds,  ValidateGrams,       ValidateOunces,
+                                     ValidateMinutes, ValidateTemperature, ValidatePressure};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string_view text(reinterpret_cast<const char*>(data), size);
+    for (const Parser parser : kParsers) CheckParser(parser, text);
+    for (const Validator validator : kValidators) CheckValidator(validator, text);
+    CheckTokens(text);
+    Require(CodePointCount(text) <= text.size() && CodePointCount(Upper(text)) == CodePointCount(text));
+    Require(SameName(text, Upper(text)));
+    if (size >= sizeof(double)) {
+        double bits = 0;
+        std::memcpy(&bits, data, sizeof bits);
+        if (std::isfinite(bits)) CheckNumberText(bits);
+    }
+    return 0;
+}

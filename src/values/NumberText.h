@@ -1,0 +1,33 @@
+// Numbers as text and back. NumberText is the one place that turns a double into its shortest text; nothing
+// in the program reads or writes numbers by the user's locale.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tw {
+
+// The shortest decimal text that reads back as the same double: fixed notation, never an exponent, "." as the
+// mark, no "+", "0" also for minus zero. A large number is its shortest digits followed by zeros. REQUIRES:
+// value is finite.
+std::string NumberText(double value);
+// Writes the same text to the end of out.
+void AppendNumberText(std::string& out, double value);
+
+// True when text as a whole is a number: an optional leading "-", digits, at most one ".", at least one
+// digit, nothing else (no blanks, no "+", no exponent). Then value holds it; otherwise value is untouched.
+// Raises "Overflow" for digits beyond the range of a double.
+bool ReadNumber(std::string_view text, double& value);
+
+// value in a number pattern: "0" a digit that is always shown, "#" one shown if needed, "." the decimal mark,
+// a "%" in the text behind scales by 100, and all other text before and behind the digits stands as it is. A
+// "0" to the right of a "#" in the decimals forces all places before it: "0.##0" always shows three. Decimals
+// are rounded half away from zero on the number's decimal text. A number that rounds to zero shows no sign.
+// REQUIRES: value is finite.
+std::string FormatNumber(double value, std::string_view pattern);
+
+// Rounds value in place to the displayed precision, two decimals when decimals is below 1 and that many
+// otherwise, and returns the shortest text of the rounded number: 5.004 gives "5". REQUIRES: value is finite.
+std::string FormatQuantity(double& value, int decimals);
+
+}  // namespace tw

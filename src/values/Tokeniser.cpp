@@ -1,0 +1,105 @@
+// Tokens and plain numbers: the lower layer of ParserValidater.
+#include "platform/Error.h"
+#include "values/NumberReader.h"
+#include "values/ParserValidater.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// The length of the numeric token at the front of text: digits, "." and "/"; a "-" only in the first place.
+std::size_t NumericLength(std::string_view text) {
+    std::size_t n = 1;
+    while (n < text.size() && (IsDigit(text[n]) || text[n] == '.' || text[n] == '/')) ++n;
+    return n;
+}
+
+// The length of the word at the front of text: up to the first space or tab, or with the first "." as its
+// last character. A carriage return or line feed belongs to the word; that is intended.
+std::size_t WordLength(std::string_view text) {
+    std::size_t n = 0;
+    for (; n < text.size() && text[n] != ' ' && text[n] != '\t'; ++n) {
+        if (text[n] == '.') return n + 1;
+    }
+    return n;
+}
+
+bool ReadWhole(std::string_view text, double& value) {
+    double read = 0;
+    if (ReadNumeric(text, read) != Numeric::Whole) return false;
+    value = read;
+    return true;
+}
+
+// The fraction that may follow a whole number: adds it to value and cuts it off rest.
+void TakeFraction(std::string_view& rest, double& value) {
+    if (rest.find('/') == std::string_view::npos) return;
+    std::string_view behind = rest;
+    const std::string_view token = GetToken(behind);
+    double fraction = 0;
+    if (!ParseFraction(token, fraction)) return;
+    // Added to a negative whole number too, so that "-2 1/2" is -1.5; that is intended.
+    value = Finite(value + fraction);
+    rest = behind;
+}
+
+}  // namespace
+
+// A leading "~" is dropped, and everything from the first "(" on, so that displayed figures such as "~5 gal
+// (about)" can be read back. What the first character is, is settled before the bracket is cut: a text that
+// begins with "(" leaves nothing.
+std::string_view GetToken(std::string_view& text) {
+    if (text.empty()) return {};
+    if (text.front() == '~') text = Trim(text.substr(1));
+    const char first = text.empty() ? '\0' : text.front();
+    const std::size_t bracket = text.find('(');
+    if (bracket != std::string_view::npos) text = Trim(text.substr(0, bracket));
+    if (text.empty()) return {};
+
+    const bool numeric = IsDigit(first) || first == '.' || first == '-';
+    const std::size_t length = numeric ? NumericLength(text) : WordLength(text);
+    const std::string_view token = text.substr(0, length);
+    text.remove_prefix(length);
+    while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+    return token;
+}
+
+bool ParseReal(std::string_view text, double& value) {
+    return ReadNumeric(text, value) != Numeric::No;
+}
+
+bool ParseWholeNumber(std::string_view text, double& value) {
+    return ReadWhole(text, value);
+}
+
+bool ParseFraction(std::string_view text, double& value) {
+    const std::size_t slash = text.find('/');
+    if (slash == std::string_view::npos) return false;
+    double numerator = 0;
+    double denominator = 0;
+    if (!ReadWhole(text.substr(0, slash), numerator) || !ReadWhole(text.substr(slash + 1), denominator))
+        return false;
+    value = Divide(numerator, denominator);
+    return true;
+}
+
+bool ParseMixedNumber(std::string_view token, std::string_view& rest, double& value) {
+    double read = 0;
+    switch (ReadNumeric(token, read)) {
+        case Numeric::No:
+            return ParseFraction(token, value);
+        case Numeric::Whole:
+            TakeFraction(rest, read);
+            break;
+        case Numeric::Real:
+            break;
+    }
+    value = read;
+    return true;
+}
+
+}  // namespace tw

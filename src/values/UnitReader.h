@@ -1,0 +1,64 @@
+// One typed quantity, read once: the number at its head and what stands behind it. The unit parsers and the
+// validators ask it for one unit after another, so that a text is upper-cased, cut and read a single time,
+// whatever its unit.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "values/UnitWords.h"
+
+namespace tw {
+
+// text in upper case without the blanks at both ends. Short ASCII texts, that is nearly all, need no
+// allocation.
+class UpperText {
+  public:
+    explicit UpperText(std::string_view text);
+    UpperText(const UpperText&) = delete;
+    UpperText& operator=(const UpperText&) = delete;
+
+    std::string_view View() const { return view_; }
+
+  private:
+    static constexpr std::size_t kRoom = 48;
+    char room_[kRoom];
+    std::string long_;
+    std::string_view view_;
+};
+
+enum class NumberForm {
+    Mixed,  // "2", "2.5", "1/2", "2 1/2"
+    Real    // "2", "2.5"
+};
+
+class UnitReader {
+  public:
+    // Reads the number. Raises "Division by zero" and "Overflow" as the parsers do.
+    UnitReader(std::string_view text, NumberForm form);
+
+    // False when there is no number of the form at the head; the other functions mean nothing then.
+    bool HasNumber() const { return hasNumber_; }
+    double Number() const { return number_; }
+    // What stands behind the number, in upper case, trimmed.
+    std::string_view Rest() const { return rest_; }
+
+    // True when Rest is one of the unit's words as a whole.
+    bool Names(Unit unit) const { return units_.Has(unit); }
+    // The same with an optional degree word before the unit's word: "12 DEG P".
+    bool NamesDegree(Unit unit) const { return NamesBehind(IsDegreeWord, unit); }
+    // The same with an optional "FL", "FL." or "FLUID" before it.
+    bool NamesFluid(Unit unit) const { return NamesBehind(IsFluidWord, unit); }
+
+  private:
+    UpperText upper_;
+    std::string_view rest_;
+    double number_ = 0;
+    bool hasNumber_ = false;
+    UnitSet units_;
+
+    bool NamesBehind(bool (*isOptional)(std::string_view), Unit unit) const;
+};
+
+}  // namespace tw

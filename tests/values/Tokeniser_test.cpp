@@ -1,0 +1,212 @@
+#include <gtest/gtest.h>
+
+#include "platform/Error.h"
+#include "values/ParserValidater.h"
+
+namespace tw {
+namespace {
+
+struct Cut {
+    std::string token;
+    std::string rest;
+    bool operator==(const Cut&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Cut& cut) {
+    return out << "[" << cut.token << "][" << cut.rest << "]";
+}
+
+Cut CutOf(std::string_view text) {
+    const std::string_view token = GetToken(text);
+    return {std::string(token), std::string(text)};
+}
+
+TEST(Tokeniser, GivesAnEmptyTokenForAnEmptyText) {
+    EXPECT_EQ(CutOf(""), (Cut{"", ""}));
+}
+
+TEST(Tokeniser, EndsANumberBeforeTheFirstOtherCharacter) {
+    EXPECT_EQ(CutOf("5 GAL"), (Cut{"5", "GAL"}));
+    EXPECT_EQ(CutOf("5GAL"), (Cut{"5", "GAL"}));
+    EXPECT_EQ(CutOf("5.25"), (Cut{"5.25", ""}));
+    EXPECT_EQ(CutOf("1/2 QT"), (Cut{"1/2", "QT"}));
+    EXPECT_EQ(CutOf(".5 QT"), (Cut{".5", "QT"}));
+    EXPECT_EQ(CutOf("1,000"), (Cut{"1", ",000"}));
+}
+
+TEST(Tokeniser, TakesAMinusOnlyInTheFirstPlace) {
+    EXPECT_EQ(CutOf("-5"), (Cut{"-5", ""}));
+    EXPECT_EQ(CutOf("1-2"), (Cut{"1", "-2"}));
+    EXPECT_EQ(CutOf("-X"), (Cut{"-", "X"}));
+}
+
+TEST(Tokeniser, EndsAWordBeforeABlankOrATab) {
+    EXPECT_EQ(CutOf("FL OZ"), (Cut{"FL", "OZ"}));
+    EXPECT_EQ(CutOf("FL\tOZ"), (Cut{"FL", "\tOZ"}));
+    EXPECT_EQ(CutOf("GALLONS"), (Cut{"GALLONS", ""}));
+}
+
+TEST(Tokeniser, EndsAWordBehindItsFirstPoint) {
+    EXPECT_EQ(CutOf("GAL.5"), (Cut{"GAL.", "5"}));
+    EXPECT_EQ(CutOf("GAL."), (Cut{"GAL.", ""}));
+    EXPECT_EQ(CutOf("A.B.C"), (Cut{"A.", "B.C"}));
+}
+
+// Intended: a line break is no end of a word.
+TEST(Tokeniser, KeepsLineBreaksInAWord) {
+    EXPECT_EQ(CutOf("GAL\r\nX"), (Cut{"GAL\r\nX", ""}));
+    EXPECT_EQ(CutOf("GAL\nX Y"), (Cut{"GAL\nX", "Y"}));
+}
+
+TEST(Tokeniser, LeftTrimsTheRestOfBlanksButNotOfTabs) {
+    EXPECT_EQ(CutOf("5    GAL"), (Cut{"5", "GAL"}));
+    EXPECT_EQ(CutOf("5 \tGAL"), (Cut{"5", "\tGAL"}));
+    EXPECT_EQ(CutOf(" 5 GAL"), (Cut{"", "5 GAL"}));
+}
+
+TEST(Tokeniser, DropsALeadingTilde) {
+    EXPECT_EQ(CutOf("~5 gal"), (Cut{"5", "gal"}));
+    EXPECT_EQ(CutOf("~  5 gal  "), (Cut{"5", "gal"}));
+    EXPECT_EQ(CutOf("~"), (Cut{"", ""}));
+    EXPECT_EQ(CutOf("~~5"), (Cut{"~5", ""}));
+    EXPECT_EQ(CutOf("5~"), (Cut{"5", "~"}));
+}
+
+TEST(Tokeniser, CutsFromTheFirstBracketOn) {
+    EXPECT_EQ(CutOf("30 SRM (75 HCU)"), (Cut{"30", "SRM"}));
+    EXPECT_EQ(CutOf("30 (a) (b)"), (Cut{"30", ""}));
+    EXPECT_EQ(CutOf("(5)"), (Cut{"", ""}));
+    EXPECT_EQ(CutOf("~(5)"), (Cut{"", ""}));
+}
+
+// Intended: the first character is not taken again after the bracket is cut, so a blank there makes a word of
+// a number.
+TEST(Tokeniser, KeepsTheKindOfItsFirstCharacterWhenABracketIsCut) {
+    EXPECT_EQ(CutOf(" 5.5 (x)"), (Cut{"5.", "5"}));
+    EXPECT_EQ(CutOf(" 1/2 3 (x)"), (Cut{"1/2", "3"}));
+}
+
+struct Numeral {
+    std::string_view text;
+    double value;
+};
+
+TEST(ParseReal, AcceptsSignDigitsAndOnePoint) {
+    constexpr Numeral kGood[] = {{"0", 0},      {"5", 5},  {"-5", -5}, {"1.050", 1.05}, {".5", 0.5},
+                                 {"-.5", -0.5}, {"5.", 5}, {"007", 7}, {"-0.25", -0.25}};
+    for (const Numeral& good : kGood) {
+        double value = 99;
+        EXPECT_TRUE(ParseReal(good.text, value)) << good.text;
+        EXPECT_EQ(value, good.value) << good.text;
+    }
+}
+
+TEST(ParseReal, RefusesEverythingElse) {
+    for (const std::string_view bad : {"", " ", ".", "-", "-.", "+5", " 5", "5 ", "5e3", "1,000", "1.2.3",
+                                       "--5", "5-", "0x10", "inf", "nan", "1/2", "\xC2\xB2"}) {
+        double value = 99;
+        EXPECT_FALSE(ParseReal(bad, value)) << bad;
+        EXPECT_EQ(value, 99) << bad;
+    }
+}
+
+TEST(ParseWholeNumber, RefusesAPoint) {
+    double value = 99;
+    EXPECT_FALSE(ParseWholeNumber("5.", value));
+    EXPECT_FALSE(ParseWholeNumber("5.0", value));
+    EXPECT_FALSE(ParseWholeNumber("", value));
+    EXPECT_EQ(value, 99);
+    EXPECT_TRUE(ParseWholeNumber("-12", value));
+    EXPECT_EQ(value, -12);
+}
+
+TEST(ParseFraction, IsAQuotientOfWholeNumbers) {
+    double value = 99;
+    EXPECT_TRUE(ParseFraction("1/2", value));
+    EXPECT_EQ(value, 0.5);
+    EXPECT_TRUE(ParseFraction("-3/4", value));
+    EXPECT_EQ(value, -0.75);
+    EXPECT_TRUE(ParseFraction("1/-2", value));
+    EXPECT_EQ(value, -0.5);
+    EXPECT_TRUE(ParseFraction("0/7", value));
+    EXPECT_EQ(value, 0);
+}
+
+TEST(ParseFraction, RefusesAnythingElse) {
+    for (const std::string_view bad : {"", "1", "/", "1/", "/2", "1/2.5", "1.5/2", "1/2/3", "1 / 2", "a/b"}) {
+        double value = 99;
+        EXPECT_FALSE(ParseFraction(bad, value)) << bad;
+        EXPECT_EQ(value, 99) << bad;
+    }
+}
+
+template <typename Call>
+std::string RaisedBy(Call call) {
+    try {
+        call();
+    } catch (const Error& error) {
+        return error.WithNumber();
+    }
+    return "nothing";
+}
+
+TEST(ParseFraction, RaisesForAZeroDenominator) {
+    for (const std::string_view text : {"1/0", "0/0", "-5/000", "1/-0"}) {
+        double value = 99;
+        EXPECT_EQ(RaisedBy([&] { ParseFraction(text, value); }), "Division by zero (11)") << text;
+        EXPECT_EQ(value, 99) << text;
+    }
+}
+
+struct Mixed {
+    bool read;
+    double value;
+    std::string rest;
+    bool operator==(const Mixed&) const = default;
+};
+
+Mixed MixedOf(std::string_view token, std::string_view rest) {
+    Mixed mixed{false, 99, ""};
+    mixed.read = ParseMixedNumber(token, rest, mixed.value);
+    mixed.rest = rest;
+    return mixed;
+}
+
+TEST(ParseMixedNumber, AddsAFractionBehindAWholeNumber) {
+    EXPECT_EQ(MixedOf("2", "1/2 QT"), (Mixed{true, 2.5, "QT"}));
+    EXPECT_EQ(MixedOf("2", "1/2"), (Mixed{true, 2.5, ""}));
+    EXPECT_EQ(MixedOf("2", "~1/2 QT"), (Mixed{true, 2.5, "QT"}));
+    EXPECT_EQ(MixedOf("2", "-1/2"), (Mixed{true, 1.5, ""}));
+}
+
+// Intended: the fraction is added to a negative whole number too.
+TEST(ParseMixedNumber, AddsTheFractionToANegativeNumber) {
+    EXPECT_EQ(MixedOf("-2", "1/2"), (Mixed{true, -1.5, ""}));
+}
+
+TEST(ParseMixedNumber, LeavesTheRestWithoutAFraction) {
+    EXPECT_EQ(MixedOf("2", "QT"), (Mixed{true, 2, "QT"}));
+    EXPECT_EQ(MixedOf("2", "3 QT"), (Mixed{true, 2, "3 QT"}));
+    EXPECT_EQ(MixedOf("2", "1/2.5 QT"), (Mixed{true, 2, "1/2.5 QT"}));
+    EXPECT_EQ(MixedOf("2", "~ QT/X"), (Mixed{true, 2, "~ QT/X"}));
+    EXPECT_EQ(MixedOf("2.5", "1/2"), (Mixed{true, 2.5, "1/2"}));
+    EXPECT_EQ(MixedOf("1/2", "1/4"), (Mixed{true, 0.5, "1/4"}));
+}
+
+TEST(ParseMixedNumber, RefusesWhatIsNoNumber) {
+    EXPECT_EQ(MixedOf("", "5"), (Mixed{false, 99, "5"}));
+    EXPECT_EQ(MixedOf("GAL", "5"), (Mixed{false, 99, "5"}));
+    EXPECT_EQ(MixedOf("1/2.5", ""), (Mixed{false, 99, ""}));
+}
+
+TEST(ParseMixedNumber, RaisesForAZeroDenominatorBehindAWholeNumber) {
+    EXPECT_EQ(RaisedBy([] { MixedOf("5", "1/0 GAL"); }), "Division by zero (11)");
+}
+
+TEST(ParseMixedNumber, RaisesWhenASumLeavesTheRangeOfADouble) {
+    const std::string largest = "17976931348623157" + std::string(292, '0');
+    EXPECT_EQ(RaisedBy([&] { MixedOf(largest, largest + "/1"); }), "Overflow (6)");
+}
+
+}  // namespace
+}  // namespace tw
