@@ -1,0 +1,226 @@
+#include "store/CatalogueFile.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <utf8proc.h>
+
+#include "platform/Error.h"
+#include "values/NumberText.h"
+#include "values/Text.h"
+
+namespace tw {
+
+namespace {
+
+std::string Quoted(std::string_view text) {
+    std::string quoted(1, '"');
+    quoted.append(text).push_back('"');
+    return quoted;
+}
+
+std::vector<std::string_view> Split(std::string_view text, char separator) {
+    std::vector<std::string_view> parts;
+    for (std::size_t start = 0;;) {
+        const std::size_t end = text.find(separator, start);
+        if (end == std::string_view::npos) {
+            parts.push_back(text.substr(start));
+            return parts;
+        }
+        parts.push_back(text.substr(start, end - start));
+        start = end + 1;
+    }
+}
+
+// True for a code point that shows as nothing or as a blank that is not the plain one.
+bool IsInvisible(utf8proc_int32_t codePoint) {
+    if (codePoint == ' ') return false;
+    switch (utf8proc_category(codePoint)) {
+        case UTF8PROC_CATEGORY_CC:
+        case UTF8PROC_CATEGORY_CF:
+        case UTF8PROC_CATEGORY_CN:
+        case UTF8PROC_CATEGORY_CO:
+        case UTF8PROC_CATEGORY_ZS:
+        case UTF8PROC_CATEGORY_ZL:
+        case UTF8PROC_CATEGORY_ZP:
+            return true;
+        default:
+            return false;
+    }
+}
+
+// What is wrong with the bytes of a line; empty when nothing is.
+std::string EncodingFault(std::string_view line) {
+    for (std::size_t at = 0; at < line.size();) {
+        utf8proc_int32_t codePoint = 0;
+        const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(line.data()) + at;
+        const auto length =
+            utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(line.size() - at), &codePoint);
+        if (length <= 0) return "the line is not valid UTF-8";
+        if (codePoint != '\t' && IsInvisible(codePoint)) {
+            std::array<char, 16> code{};
+            std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(codePoint));
+            return "the line holds the invisible character " + std::string(code.data());
+        }
+        at += static_cast<std::size_t>(length);
+    }
+    return {};
+}
+
+// The checks of one file, in the order of its lines.
+class Reader {
+  public:
+    Reader(CatalogueSheet& sheet, std::span<const CatalogueColumn> columns, CatalogueProblems& problems)
+        : sheet_(sheet), columns_(columns), problems_(problems) {}
+
+    void Read(std::istream& stream) {
+        std::string line;
+        std::getline(stream, line);
+        ++line_;
+        if (!CheckHeader(line)) return;
+        while (std::getline(stream, line)) {
+            ++line_;
+            ReadRow(line);
+        }
+    }
+
+  private:
+    void Report(std::string what) { problems_.push_back({sheet_.file, line_, std::move(what)}); }
+
+    bool CheckHeader(std::string_view line) {
+        std::string expected;
+        for (const CatalogueColumn& column : columns_) {
+            if (!expected.empty()) expected += '\t';
+            expected += column.header;
+        }
+        sheet_.readable = line == expected;
+        if (!sheet_.readable) {
+            Report("the header row must name, between tabs: " + ReplaceAll(expected, "\t", ", "));
+        }
+        return sheet_.readable;
+    }
+
+    void ReadRow(std::string_view line) {
+        CatalogueRow row;
+        row.columns = columns_;
+        row.line = line_;
+        for (std::string_view cell : Split(line, '\t')) row.cells.emplace_back(cell);
+        const std::size_t found = row.cells.size();
+        row.cells.resize(columns_.size());
+        row.numbers.resize(columns_.size());
+        if (std::string fault = EncodingFault(line); !fault.empty()) {
+            Report(std::move(fault));
+        } else if (found != columns_.size()) {
+            Report("the row has " + std::to_string(found) + " cells, not " + std::to_string(columns_.size()));
+        } else {
+            CheckCells(row);
+        }
+        CheckName(row.cells.front());
+        sheet_.rows.push_back(std::move(row));
+    }
+
+    void CheckCells(CatalogueRow& row) {
+        for (std::size_t at = 0; at < columns_.size(); ++at) {
+            CheckCell(columns_[at], row.cells[at], row.numbers[at]);
+        }
+        for (std::size_t at = 0; at + 1 < columns_.size(); ++at) {
+            if (columns_[at].header.ends_with("_lo")) CheckRange(row, at);
+        }
+    }
+
+    void CheckCell(const CatalogueColumn& column, const std::string& cell, std::optional<double>& number) {
+        const std::string header(column.header);
+        if (Trim(cell) != cell || cell.find("  ") != std::string::npos) {
+            Report(header + " " + Quoted(cell) + " holds a stray blank");
+            return;
+        }
+        if (cell.empty()) {
+            if (column.required) Report(header + " is blank");
+            return;
+        }
+        if (column.kind == CatalogueColumn::Kind::Word) CheckWord(column, cell);
+        if (column.kind == CatalogueColumn::Kind::Number) CheckNumber(column, cell, number);
+    }
+
+    void CheckWord(const CatalogueColumn& column, const std::string& cell) {
+        if (std::ranges::find(column.words, cell) != column.words.end()) return;
+        std::string known;
+        for (std::string_view word : column.words) known += (known.empty() ? "" : ", ") + std::string(word);
+        Report(std::string(column.header) + " " + Quoted(cell) + " is none of: " + known);
+    }
+
+    void CheckNumber(const CatalogueColumn& column, const std::string& cell, std::optional<double>& number) {
+        const std::string start = std::string(column.header) + " " + Quoted(cell);
+        double value = 0;
+        try {
+            if (!ReadNumber(cell, value)) {
+                Report(start + " is not a number");
+                return;
+            }
+        } catch (const Error& overflow) {
+            Report(start + " is not a number: " + overflow.Description());
+            return;
+        }
+        number = value;
+        if (value < column.least || value > column.most) {
+            Report(start + " is not between " + NumberText(column.least) + " and " + NumberText(column.most));
+        }
+    }
+
+    void CheckRange(const CatalogueRow& row, std::size_t low) {
+        const std::string lowText = std::string(columns_[low].header) + " " + Quoted(row.cells[low]);
+        const std::string highText = std::string(columns_[low + 1].header) + " " + Quoted(row.cells[low + 1]);
+        if (row.cells[low].empty() != row.cells[low + 1].empty()) {
+            Report("a range needs both ends or none: " + lowText + ", " + highText);
+        } else if (row.numbers[low] && row.numbers[low + 1] && *row.numbers[low] > *row.numbers[low + 1]) {
+            Report(lowText + " is above " + highText);
+        }
+    }
+
+    void CheckName(const std::string& name) {
+        if (IsBlank(name)) return;
+        // Some statements of the program put a name between double quotes.
+        if (name.find('"') != std::string::npos) Report("name " + Quoted(name) + " holds a double quote");
+        const auto [known, isNew] = lineOfName_.emplace(Upper(Trim(name)), line_);
+        if (!isNew) {
+            Report("name " + Quoted(name) + " stands in line " + std::to_string(known->second) + " already");
+        }
+    }
+
+    CatalogueSheet& sheet_;
+    std::span<const CatalogueColumn> columns_;
+    CatalogueProblems& problems_;
+    int line_ = 0;
+    std::map<std::string, int> lineOfName_;
+};
+
+}  // namespace
+
+std::size_t CatalogueRow::IndexOf(std::string_view header) const {
+    const auto found = std::ranges::find(columns, header, &CatalogueColumn::header);
+    return static_cast<std::size_t>(found - columns.begin());
+}
+
+std::string CatalogueProblem::Text() const {
+    return file + ":" + std::to_string(line) + ": " + what;
+}
+
+CatalogueSheet ReadCatalogueFile(const std::string& path, std::span<const CatalogueColumn> columns,
+                                 CatalogueProblems& problems) {
+    CatalogueSheet sheet;
+    sheet.file = path;
+    std::error_code ignored;
+    std::ifstream stream;
+    if (std::filesystem::is_regular_file(path, ignored)) stream.open(path, std::ios::binary);
+    if (!stream.is_open()) {
+        problems.push_back({path, 1, "the file cannot be read"});
+        return sheet;
+    }
+    Reader(sheet, columns, problems).Read(stream);
+    return sheet;
+}
+
+}  // namespace tw

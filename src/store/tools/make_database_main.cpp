@@ -1,0 +1,74 @@
+// tunwright-make-database FOLDER TARGET: makes the starting database TARGET from the catalogue files in
+// FOLDER. A TARGET that exists holds a brewer's recipes: it is left alone. Exit status: 0 made or left alone,
+// 1 not made (the reasons are on standard error), 2 wrong arguments.
+#include <filesystem>
+#include <iostream>
+#include <string>
+
+#include "platform/Error.h"
+#include "store/CatalogueLoader.h"
+#include "store/Database.h"
+#include "store/Schema.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// A fixed date, so that every build gives the same styles and folders.
+constexpr tw::DateTime kCatalogueDate{.year = 2024, .month = 1, .day = 1};
+
+// The database under way, beside its target. Goes, with the files that the store keeps beside it, unless it
+// was put in its place.
+class PartFile {
+  public:
+    explicit PartFile(const fs::path& target) : target_(target), path_(target.string() + ".part") {
+        Remove();
+    }
+    ~PartFile() { Remove(); }
+    PartFile(const PartFile&) = delete;
+    PartFile& operator=(const PartFile&) = delete;
+
+    const std::string& Path() const { return path_; }
+    void PutInPlace() { fs::rename(path_, target_); }
+
+  private:
+    void Remove() const {
+        std::error_code ignored;
+        for (const char* suffix : {"", "-journal", "-wal", "-shm"}) fs::remove(path_ + suffix, ignored);
+    }
+
+    fs::path target_;
+    std::string path_;
+};
+
+int MakeDatabase(const std::string& folder, const fs::path& target) {
+    if (fs::exists(fs::symlink_status(target))) return 0;
+    PartFile part(target);
+    tw::CatalogueProblems problems;
+    {
+        const auto database = tw::Database::CreateDatabase(part.Path(), "");
+        tw::CreateSchema(*database);
+        problems = tw::LoadCatalogue(folder, *database, kCatalogueDate);
+    }
+    for (const tw::CatalogueProblem& problem : problems) std::cerr << problem.Text() << '\n';
+    if (!problems.empty()) return 1;
+    part.PutInPlace();
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        std::cerr << "usage: tunwright-make-database FOLDER TARGET\n";
+        return 2;
+    }
+    try {
+        return MakeDatabase(argv[1], argv[2]);
+    } catch (const tw::Error& error) {
+        std::cerr << argv[2] << ": " << error.WithNumber() << '\n';
+    } catch (const std::exception& error) {
+        std::cerr << argv[2] << ": " << error.what() << '\n';
+    }
+    return 1;
+}

@@ -1,0 +1,249 @@
+// The product's own catalogue files. Figures are checked against published ones and against chemistry, worked
+// here.
+#include <cmath>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "store/CatalogueLoader.h"
+#include "store/Database.h"
+
+namespace tw {
+namespace {
+
+using testing::ElementsAre;
+using testing::Ge;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+// Conventional atomic weights.
+constexpr double kH = 1.008, kC = 12.011, kO = 15.999, kNa = 22.990, kMg = 24.305, kS = 32.06, kCl = 35.45,
+                 kCa = 40.078;
+constexpr double kWater = 2 * kH + kO;
+constexpr double kSulfate = kS + 4 * kO;
+constexpr double kBicarbonate = kH + kC + 3 * kO;
+constexpr double kLitersPerGallon = 3.785411784;
+
+class CatalogueData : public testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        database_ = Database::CreateInMemory();
+        for (const CatalogueProblem& problem :
+             LoadCatalogue(CATALOGUE_FOLDER, *database_, {.year = 2024, .month = 1, .day = 1})) {
+            problems_.push_back(problem.Text());
+        }
+    }
+    static void TearDownTestSuite() { database_.reset(); }
+
+    // The rows of a SELECT, each as its fields' texts with "|" between, NULL as "NULL".
+    static std::vector<std::string> Rows(const std::string& sql) {
+        std::vector<std::string> rows;
+        for (Recordset records = database_->OpenRecordset(sql); !records.AtEnd(); records.MoveNext()) {
+            std::string row;
+            for (int at = 0; at < records.FieldCount(); ++at) {
+                if (at > 0) row += "|";
+                row += records.Fields(at).IsNull() ? "NULL" : records.Fields(at).Text();
+            }
+            rows.push_back(row);
+        }
+        return rows;
+    }
+    static std::vector<std::string> Names(const std::string& table, const std::string& where) {
+        return Rows("SELECT NAME FROM " + table + " WHERE " + where);
+    }
+
+    static inline std::unique_ptr<Database> database_;
+    static inline std::vector<std::string> problems_;
+};
+
+TEST_F(CatalogueData, LoadsWithoutAProblem) {
+    EXPECT_THAT(problems_, IsEmpty());
+}
+
+TEST_F(CatalogueData, HoldsACatalogueOfUsefulSize) {
+    EXPECT_THAT(Names("STYLES", "TRUE"), SizeIs(Ge(150u)));
+    EXPECT_THAT(Names("FOLDERS", "STYLE"), SizeIs(Ge(40u)));
+    EXPECT_THAT(Names("GRAINS", "GRAIN"), SizeIs(Ge(125u)));
+    EXPECT_THAT(Names("GRAINS", "NOT GRAIN"), SizeIs(Ge(40u)));
+    EXPECT_THAT(Names("GRAIN_TYPES", "TRUE"), SizeIs(Ge(10u)));
+    EXPECT_THAT(Names("HOPS", "TRUE"), SizeIs(Ge(184u)));
+    EXPECT_THAT(Names("YEAST", "TRUE"), SizeIs(Ge(238u)));
+    EXPECT_THAT(Names("WATER_PROFILES", "TRUE"), SizeIs(Ge(35u)));
+    EXPECT_THAT(Names("SALTS", "TRUE"), SizeIs(Ge(8u)));
+    EXPECT_THAT(Names("SUGARS", "TRUE"), SizeIs(Ge(12u)));
+}
+
+TEST_F(CatalogueData, EveryStyleHasAFolderATypeAndADescription) {
+    EXPECT_THAT(Names("STYLES", "FOLDER_ID = 0 OR TYPE IS NULL OR DESCR = ''"), IsEmpty());
+    EXPECT_THAT(Names("STYLES", "FOLDER_ID NOT IN (SELECT ID FROM FOLDERS WHERE STYLE)"), IsEmpty());
+}
+
+TEST_F(CatalogueData, EveryIngredientHasADescription) {
+    for (const char* table : {"GRAINS", "HOPS", "YEAST", "WATER_PROFILES", "SALTS", "SUGARS"}) {
+        EXPECT_THAT(Names(table, "DESCR = ''"), IsEmpty()) << table;
+    }
+    EXPECT_THAT(Names("YEAST", "FULL_DESCR = ''"), IsEmpty());
+}
+
+TEST_F(CatalogueData, EveryStylesWaterProfileExists) {
+    EXPECT_THAT(Names("STYLES",
+                      "WATER_PROFILE IS NOT NULL AND WATER_PROFILE NOT IN (SELECT NAME FROM WATER_PROFILES)"),
+                IsEmpty());
+    EXPECT_THAT(Names("STYLES", "WATER_PROFILE IS NOT NULL"), SizeIs(Ge(90u)));
+}
+
+// The program removes a type when its last grain goes; one without any would stay for ever.
+TEST_F(CatalogueData, EveryGrainTypeHasGrains) {
+    EXPECT_THAT(Names("GRAIN_TYPES", "ID NOT IN (SELECT GRAIN_TYPE FROM GRAINS)"), IsEmpty());
+}
+
+TEST_F(CatalogueData, HopsAndYeastsUseTheWordsOfTheirLists) {
+    EXPECT_THAT(Rows("SELECT DISTINCT USAGE FROM HOPS ORDER BY USAGE"),
+                ElementsAre("Aroma", "Bittering", "Dual purpose"));
+    EXPECT_THAT(Rows("SELECT DISTINCT FLOC FROM YEAST ORDER BY FLOC"),
+                ElementsAre("High", "Low", "Medium", "Very High"));
+}
+
+TEST_F(CatalogueData, RecipeLinesFindAMidPointForEveryGrainHopAndSugar) {
+    EXPECT_THAT(Names("GRAINS", "(PPG_LO+PPG_HI)/2 IS NULL OR (COLOR_LO+COLOR_HI)/2 IS NULL"), IsEmpty());
+    EXPECT_THAT(Names("HOPS", "(AA_LO+AA_HI)/2 IS NULL"), IsEmpty());
+    EXPECT_THAT(Names("SUGARS", "(FERMENT_LO+FERMENT_HI)/2 IS NULL"), IsEmpty());
+}
+
+// One gram in a US gallon, by formula; carbonate counted as bicarbonate.
+TEST_F(CatalogueData, SaltsAddWhatTheirFormulaSays) {
+    struct Salt {
+        double molarMass;
+        std::vector<double> ions;  // grams of Ca, HCO3, Cl, Mg, Na, SO4 in a mole
+    };
+    const std::map<std::string, Salt> salts = {
+        {"Gypsum", {kCa + kSulfate + 2 * kWater, {kCa, 0, 0, 0, 0, kSulfate}}},
+        {"Calcium Chloride (dihydrate)", {kCa + 2 * kCl + 2 * kWater, {kCa, 0, 2 * kCl, 0, 0, 0}}},
+        {"Calcium Chloride (anhydrous)", {kCa + 2 * kCl, {kCa, 0, 2 * kCl, 0, 0, 0}}},
+        {"Epsom Salt", {kMg + kSulfate + 7 * kWater, {0, 0, 0, kMg, 0, kSulfate}}},
+        {"Magnesium Chloride", {kMg + 2 * kCl + 6 * kWater, {0, 0, 2 * kCl, kMg, 0, 0}}},
+        {"Table Salt", {kNa + kCl, {0, 0, kCl, 0, kNa, 0}}},
+        {"Baking Soda", {kNa + kBicarbonate, {0, kBicarbonate, 0, 0, kNa, 0}}},
+        // CaCO3 + CO2 + H2O gives calcium and two bicarbonates.
+        {"Chalk", {kCa + kC + 3 * kO, {kCa, 2 * kBicarbonate, 0, 0, 0, 0}}},
+    };
+    std::size_t found = 0;
+    Recordset records = database_->OpenRecordset("SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM SALTS");
+    for (; !records.AtEnd(); records.MoveNext()) {
+        const std::string name = records.Fields("NAME").Text();
+        const auto salt = salts.find(name);
+        ASSERT_NE(salt, salts.end()) << name;
+        ++found;
+        for (int ion = 0; ion < 6; ++ion) {
+            const double grams = salt->second.ions[static_cast<std::size_t>(ion)] / salt->second.molarMass;
+            EXPECT_NEAR(records.Fields(ion + 1).Number(), 1000 * grams / kLitersPerGallon, 0.06)
+                << name << ion;
+        }
+    }
+    EXPECT_EQ(found, salts.size());
+}
+
+// Positive and negative charges balance only when the carbonate column counts bicarbonate, one charge for 61
+// grams. The published Cologne and Pilsen analyses lack some anions.
+TEST_F(CatalogueData, WaterProfilesBalanceWithCarbonateAsBicarbonate) {
+    Recordset records = database_->OpenRecordset("SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM WATER_PROFILES");
+    for (; !records.AtEnd(); records.MoveNext()) {
+        const std::string name = records.Fields("NAME").Text();
+        const auto ion = [&](const char* column) { return records.Fields(column).Number(); };
+        const double positive = ion("CA") * 2 / kCa + ion("MG") * 2 / kMg + ion("NA") / kNa;
+        const double negative = ion("CO3") / kBicarbonate + ion("CL") / kCl + ion("SO4") * 2 / kSulfate;
+        const double share = name == "Cologne" || name == "Pilsen" ? 0.2 : 0.06;
+        EXPECT_NEAR(negative, positive, share * positive) << name;
+    }
+}
+
+TEST_F(CatalogueData, WatersAndSaltsSayHowCarbonateIsCounted) {
+    for (const char* table : {"WATER_PROFILES", "SALTS"}) {
+        Recordset records = database_->OpenRecordset(std::string("SELECT NAME, DESCR, CO3 FROM ") + table);
+        for (; !records.AtEnd(); records.MoveNext()) {
+            const bool says =
+                records.Fields("DESCR").Text().find("counted as bicarbonate (HCO3)") != std::string::npos;
+            EXPECT_EQ(says, records.Fields("CO3").Number() > 0) << records.Fields("NAME").Text();
+        }
+    }
+}
+
+// volumes = ounces * percent / 100 * 0.27027 / (gallons * 0.133): the percentage at which that many grams in
+// a liter give one volume.
+double PercentForGramsPerLiter(double grams) {
+    const double ounces = grams * kLitersPerGallon / 28.349523125;
+    return 100 / (ounces * 0.27027 / 0.133);
+}
+
+TEST_F(CatalogueData, PrimingSugarsStandOnTheScaleOfTheFormula) {
+    // A mole of CO2, 44.009 g, fills 22.414 liters: one volume is 1.9635 g/l.
+    const double carbonDioxide = kC + 2 * kO;
+    const double volume = carbonDioxide / 22.414;
+    const double glucoseMonohydrate = 6 * kC + 12 * kH + 6 * kO + kWater;  // ferments to two CO2
+    const double sucrose = 12 * kC + 22 * kH + 11 * kO;                    // ferments to four CO2
+    Recordset corn = database_->OpenRecordset("SELECT * FROM SUGARS WHERE NAME = 'Corn Sugar (Dextrose)'");
+    ASSERT_FALSE(corn.AtEnd());
+    EXPECT_NEAR(corn.Fields("FERMENT_LO").Number(),
+                PercentForGramsPerLiter(volume * glucoseMonohydrate / (2 * carbonDioxide)), 1);
+    EXPECT_NEAR(corn.Fields("FERMENT_HI").Number(), PercentForGramsPerLiter(4.0), 1);
+    Recordset table = database_->OpenRecordset("SELECT * FROM SUGARS WHERE NAME = 'Table Sugar (Sucrose)'");
+    ASSERT_FALSE(table.AtEnd());
+    EXPECT_NEAR(table.Fields("FERMENT_LO").Number(),
+                PercentForGramsPerLiter(volume * sucrose / (4 * carbonDioxide)), 1);
+    EXPECT_EQ(table.Fields("FERMENT_HI").Number(), 100);
+}
+
+TEST_F(CatalogueData, HoldsWellKnownGrainsAsPublished) {
+    const std::string select = "SELECT PPG_LO, PPG_HI, COLOR_LO, COLOR_HI FROM GRAINS WHERE NAME = ";
+    EXPECT_THAT(Rows(select + "'Maris Otter Pale Malt'"), ElementsAre("37|38|2.5|3.75"));
+    EXPECT_THAT(Rows(select + "'Caramel/Crystal Malt 60L'"), ElementsAre("34|35.5|60|60"));
+    EXPECT_THAT(Rows(select + "'Table Sugar (Sucrose)'"), ElementsAre("46|46|0|1"));
+    EXPECT_THAT(Rows(select + "'Dry Malt Extract, Light'"), ElementsAre("42|44|4|8"));
+    EXPECT_THAT(
+        Rows("SELECT GRAIN_TYPES.NAME FROM GRAINS, GRAIN_TYPES WHERE GRAINS.GRAIN_TYPE = GRAIN_TYPES.ID AND "
+             "GRAINS.NAME = 'Roasted Barley (UK)'"),
+        ElementsAre("Roasted Malt"));
+}
+
+TEST_F(CatalogueData, HoldsWellKnownHopsAsPublished) {
+    EXPECT_THAT(Names("HOPS", "NAME = 'Cascade' AND AA_LO >= 4.5 AND AA_HI <= 9"), SizeIs(1));
+    EXPECT_THAT(Names("HOPS", "NAME = 'Saaz' AND AA_LO >= 2 AND AA_HI <= 5"), SizeIs(1));
+    EXPECT_THAT(Names("HOPS", "NAME = 'Chinook' AND AA_LO >= 11 AND AA_HI <= 14"), SizeIs(1));
+    EXPECT_THAT(Names("HOPS", "NAME = 'Brewer''s Gold (German)'"), SizeIs(1));
+}
+
+TEST_F(CatalogueData, HoldsWellKnownYeastsAsPublished) {
+    const std::string select = "SELECT TYPE, FLOC, AA_LO, AA_HI, TEMP_LO, TEMP_HI FROM YEAST WHERE NAME = ";
+    EXPECT_THAT(Rows(select + "'Wyeast 3068 Weihenstephan Weizen'"), ElementsAre("2|Low|73|77|64|75"));
+    EXPECT_THAT(Rows(select + "'White Labs WLP002 English Ale'"), ElementsAre("0|Very High|63|70|65|68"));
+    // 12 to 18 degrees Celsius.
+    EXPECT_THAT(Rows(select + "'Fermentis SafLager W-34/70'"), ElementsAre("1|High|80|84|54|64"));
+}
+
+TEST_F(CatalogueData, HoldsWellKnownWatersAndSaltsAsPublished) {
+    EXPECT_THAT(Rows("SELECT CA, CO3, CL, MG, NA, SO4 FROM WATER_PROFILES WHERE NAME = 'Burton-on-Trent'"),
+                ElementsAre("295|300|25|45|55|725"));
+    EXPECT_THAT(Rows("SELECT CA, CO3, CL, MG, NA, SO4 FROM WATER_PROFILES WHERE NAME = 'Distilled'"),
+                ElementsAre("0|0|0|0|0|0"));
+    EXPECT_THAT(Rows("SELECT CA, CO3, CL, MG, NA, SO4 FROM SALTS WHERE NAME = 'Gypsum'"),
+                ElementsAre("61.5|0|0|0|0|147.4"));
+}
+
+TEST_F(CatalogueData, HoldsWellKnownStylesAsPublished) {
+    EXPECT_THAT(Rows("SELECT TYPE, OG_LO, OG_HI, FG_LO, FG_HI, ABV_LO, ABV_HI, COLOR_LO, COLOR_HI, IBU_LO, "
+                     "IBU_HI FROM "
+                     "STYLES WHERE NAME = 'American IPA'"),
+                ElementsAre("0|1.056|1.07|1.008|1.014|5.5|7.5|6|14|40|70"));
+    EXPECT_THAT(
+        Rows("SELECT STYLES.TYPE, OG_LO, OG_HI, IBU_LO, IBU_HI, FOLDERS.NAME FROM STYLES, FOLDERS WHERE "
+             "STYLES.FOLDER_ID = FOLDERS.ID AND STYLES.NAME = 'German Pils'"),
+        ElementsAre("1|1.044|1.05|22|40|Pale Bitter European Beer"));
+    EXPECT_THAT(Rows("SELECT TYPE, OG_LO, WATER_PROFILE FROM STYLES WHERE NAME = 'Fruit Beer'"),
+                ElementsAre("0|NULL|NULL"));
+}
+
+}  // namespace
+}  // namespace tw

@@ -1,0 +1,313 @@
+#include "store/CatalogueLoader.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+#include "store/Database.h"
+
+namespace tw {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr DateTime kCreated{.year = 2024, .month = 2, .day = 29, .hour = 13, .minute = 5, .second = 7};
+
+// A folder with a small catalogue without faults, gone with the test.
+class CatalogueLoaderTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        static int count = 0;
+        folder_ = std::filesystem::path(testing::TempDir()) /
+                  ("catalogue_" + std::to_string(getpid()) + "_" + std::to_string(++count));
+        std::filesystem::create_directories(folder_);
+        Append("grain_types.tsv", "name\tkind\nBase Malt\tgrain\nSugar\textract\n");
+        Append("grains.tsv",
+               "name\tkind\ttype\tppg_lo\tppg_hi\tcolor_lo\tcolor_hi\tdescription\n"
+               "Pale Malt\tgrain\tBase Malt\t36\t37.5\t1.8\t2\tA base.\n"
+               "Honey\textract\tSugar\t\t\t\t\t\n");
+        Append("hops.tsv",
+               "name\tusage\talpha_lo\talpha_hi\tdescription\n"
+               "Brewer's Gold\tBittering\t8\t10\tDark fruit.\n"
+               "Wild Hop\t\t\t\t\n");
+        Append(
+            "yeast.tsv",
+            "name\ttype\tflocculation\tattenuation_lo\tattenuation_hi\ttemp_lo\ttemp_hi\tshort_description\t"
+            "description\n"
+            "Kölsch Yeast\tAle\tVery High\t72\t78\t65\t69\tClean\tCrisp and clean.\n"
+            "Cider Yeast\tWine/Mead/Cider\tLow\t75\t80\t54\t82\t\t\n"
+            "House Yeast\t\t\t\t\t\t\t\t\n");
+        Append("water_profiles.tsv",
+               "name\tca\tco3\tcl\tmg\tna\tso4\tdescription\n"
+               "Pilsen\t7\t15\t5\t2\t2\t5.5\tSoft.\n");
+        Append("salts.tsv",
+               "name\tca\tco3\tcl\tmg\tna\tso4\tdescription\nGypsum\t61.5\t0\t0\t0\t0\t147.4\t\n");
+        Append("sugars.tsv",
+               "name\tfermentable_lo\tfermentable_hi\tdescription\nCane\t97\t100\tWhite.\nPanela\t\t\t\n");
+        Append("styles.tsv",
+               "name\tfolder\ttype\twater_profile\tog_lo\tog_hi\tfg_lo\tfg_hi\tabv_lo\tabv_hi\tcolor_"
+               "lo\tcolor_hi\t"
+               "ibu_lo\tibu_hi\tco2_lo\tco2_hi\tdescription\n"
+               "Pils\tPale "
+               "Beer\tLager\tPilsen\t1.044\t1.050\t1.008\t1.013\t4.4\t5.2\t2\t4\t22\t40\t2.4\t2.7\tDry.\n"
+               "Fruit Beer\tOther Beer\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\n"
+               "Helles\tPale Beer\tLager\t\t1.044\t1.048\t1.006\t1.012\t\t\t\t\t\t\t\t\tMild.\n");
+    }
+    void TearDown() override { std::filesystem::remove_all(folder_); }
+
+    void Append(const std::string& file, const std::string& text) const {
+        std::ofstream(folder_ / file, std::ios::binary | std::ios::app) << text;
+    }
+    void Replace(const std::string& file, const std::string& text) const {
+        std::filesystem::remove(folder_ / file);
+        Append(file, text);
+    }
+
+    // What is wrong, each as "{file}:{line}: {what}" with the file's bare name.
+    std::vector<std::string> Load() {
+        std::vector<std::string> texts;
+        for (CatalogueProblem& problem : LoadCatalogue(folder_.string(), *database_, kCreated)) {
+            problem.file = std::filesystem::path(problem.file).filename().string();
+            texts.push_back(problem.Text());
+        }
+        return texts;
+    }
+    // The rows of a SELECT, each as its fields' texts with "|" between, NULL as "NULL".
+    std::vector<std::string> Rows(const std::string& sql) {
+        std::vector<std::string> rows;
+        for (Recordset records = database_->OpenRecordset(sql); !records.AtEnd(); records.MoveNext()) {
+            std::string row;
+            for (int at = 0; at < records.FieldCount(); ++at) {
+                if (at > 0) row += "|";
+                row += records.Fields(at).IsNull() ? "NULL" : records.Fields(at).Text();
+            }
+            rows.push_back(row);
+        }
+        return rows;
+    }
+    void ExpectNothingWritten() {
+        for (const char* table : {"FOLDERS", "STYLES", "GRAIN_TYPES", "GRAINS", "HOPS", "YEAST",
+                                  "WATER_PROFILES", "SALTS", "SUGARS"}) {
+            EXPECT_THAT(Rows(std::string("SELECT * FROM ") + table), IsEmpty()) << table;
+        }
+    }
+
+    std::filesystem::path folder_;
+    std::unique_ptr<Database> database_ = Database::CreateInMemory();
+};
+
+TEST_F(CatalogueLoaderTest, WritesGrainsAndExtractsUnderTheirTypes) {
+    ASSERT_THAT(Load(), IsEmpty());
+    EXPECT_THAT(Rows("SELECT NAME FROM GRAIN_TYPES WHERE GRAIN ORDER BY ID"), ElementsAre("Base Malt"));
+    EXPECT_THAT(Rows("SELECT NAME FROM GRAIN_TYPES WHERE NOT GRAIN ORDER BY ID"), ElementsAre("Sugar"));
+    const std::string select =
+        "SELECT GRAINS.NAME, GRAIN_TYPES.NAME, DESCR, PPG_LO, PPG_HI, COLOR_LO, COLOR_HI FROM GRAINS, "
+        "GRAIN_TYPES "
+        "WHERE GRAINS.GRAIN_TYPE = GRAIN_TYPES.ID AND ";
+    EXPECT_THAT(Rows(select + "GRAINS.GRAIN"), ElementsAre("Pale Malt|Base Malt|A base.|36|37.5|1.8|2"));
+    EXPECT_THAT(Rows(select + "NOT GRAINS.GRAIN"), ElementsAre("Honey|Sugar||NULL|NULL|NULL|NULL"));
+}
+
+TEST_F(CatalogueLoaderTest, WritesHopsWithApostrophesAndNullForBlankRanges) {
+    ASSERT_THAT(Load(), IsEmpty());
+    EXPECT_THAT(Rows("SELECT NAME, USAGE, DESCR, AA_LO, AA_HI FROM HOPS ORDER BY NAME"),
+                ElementsAre("Brewer's Gold|Bittering|Dark fruit.|8|10", "Wild Hop|||NULL|NULL"));
+}
+
+TEST_F(CatalogueLoaderTest, WritesYeastTypesAsCodes) {
+    ASSERT_THAT(Load(), IsEmpty());
+    EXPECT_THAT(Rows("SELECT NAME, DESCR, FLOC, FULL_DESCR, TYPE, AA_LO, AA_HI, TEMP_LO, TEMP_HI FROM YEAST "
+                     "ORDER BY NAME"),
+                ElementsAre("Cider Yeast||Low||4|75|80|54|82", "House Yeast||||NULL|NULL|NULL|NULL|NULL",
+                            "Kölsch Yeast|Clean|Very High|Crisp and clean.|0|72|78|65|69"));
+}
+
+TEST_F(CatalogueLoaderTest, WritesWatersSaltsAndSugars) {
+    ASSERT_THAT(Load(), IsEmpty());
+    EXPECT_THAT(Rows("SELECT NAME, DESCR, CA, CO3, CL, MG, NA, SO4 FROM WATER_PROFILES"),
+                ElementsAre("Pilsen|Soft.|7|15|5|2|2|5.5"));
+    EXPECT_THAT(Rows("SELECT NAME, DESCR, CA, CO3, CL, MG, NA, SO4 FROM SALTS"),
+                ElementsAre("Gypsum||61.5|0|0|0|0|147.4"));
+    EXPECT_THAT(Rows("SELECT NAME, DESCR, FERMENT_LO, FERMENT_HI FROM SUGARS ORDER BY NAME"),
+                ElementsAre("Cane|White.|97|100", "Panela||NULL|NULL"));
+}
+
+TEST_F(CatalogueLoaderTest, WritesEachStyleIntoTheOneFolderOfItsName) {
+    ASSERT_THAT(Load(), IsEmpty());
+    EXPECT_THAT(Rows("SELECT NAME, PARENT_ID FROM FOLDERS WHERE STYLE ORDER BY NAME"),
+                ElementsAre("Other Beer|0", "Pale Beer|0"));
+    EXPECT_THAT(Rows("SELECT NAME FROM FOLDERS WHERE NOT STYLE"), IsEmpty());
+    EXPECT_THAT(
+        Rows("SELECT STYLES.NAME, FOLDERS.NAME FROM STYLES, FOLDERS WHERE STYLES.FOLDER_ID = FOLDERS.ID "
+             "ORDER BY STYLES.NAME"),
+        ElementsAre("Fruit Beer|Other Beer", "Helles|Pale Beer", "Pils|Pale Beer"));
+}
+
+TEST_F(CatalogueLoaderTest, WritesStyleRangesWithNullForBlankCells) {
+    ASSERT_THAT(Load(), IsEmpty());
+    const std::string select =
+        "SELECT DESCR, TYPE, WATER_PROFILE, OG_LO, OG_HI, FG_LO, FG_HI, ABV_LO, ABV_HI, COLOR_LO, COLOR_HI, "
+        "IBU_LO, "
+        "IBU_HI, CO2_LO, CO2_HI FROM STYLES WHERE NAME = ";
+    EXPECT_THAT(Rows(select + "'Pils'"),
+                ElementsAre("Dry.|1|Pilsen|1.044|1.05|1.008|1.013|4.4|5.2|2|4|22|40|2.4|2.7"));
+    EXPECT_THAT(Rows(select + "'Fruit Beer'"),
+                ElementsAre("|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL"));
+}
+
+TEST_F(CatalogueLoaderTest, StylesAndFoldersCarryTheGivenDate) {
+    ASSERT_THAT(Load(), IsEmpty());
+    EXPECT_THAT(Rows("SELECT DISTINCT CREATED_WHEN, MODIFIED_WHEN FROM STYLES"),
+                ElementsAre("02/29/2024 13:05:07|02/29/2024 13:05:07"));
+    EXPECT_THAT(Rows("SELECT DISTINCT CREATED_WHEN, MODIFIED_WHEN FROM FOLDERS"),
+                ElementsAre("02/29/2024 13:05:07|02/29/2024 13:05:07"));
+}
+
+TEST_F(CatalogueLoaderTest, AFileMayEndWithoutALineFeed) {
+    Append("hops.tsv", "Saaz\tAroma\t2.5\t4.5\tNoble.");
+    EXPECT_THAT(Load(), IsEmpty());
+    EXPECT_THAT(Rows("SELECT DESCR FROM HOPS WHERE NAME = 'Saaz'"), ElementsAre("Noble."));
+}
+
+TEST_F(CatalogueLoaderTest, ReportsAMissingFileOnceAndNothingThatFollowsFromIt) {
+    std::filesystem::remove(folder_ / "water_profiles.tsv");
+    std::filesystem::remove(folder_ / "grain_types.tsv");
+    EXPECT_THAT(Load(), ElementsAre("grain_types.tsv:1: the file cannot be read",
+                                    "water_profiles.tsv:1: the file cannot be read"));
+    ExpectNothingWritten();
+}
+
+TEST_F(CatalogueLoaderTest, AFolderIsNoFile) {
+    std::filesystem::remove(folder_ / "sugars.tsv");
+    std::filesystem::create_directory(folder_ / "sugars.tsv");
+    EXPECT_THAT(Load(), ElementsAre("sugars.tsv:1: the file cannot be read"));
+}
+
+TEST_F(CatalogueLoaderTest, ReportsAnotherHeaderRow) {
+    Replace("sugars.tsv", "name\tfermentable\nCane\t100\n");
+    Replace("hops.tsv", "");
+    EXPECT_THAT(
+        Load(),
+        ElementsAre(
+            "hops.tsv:1: the header row must name, between tabs: name, usage, alpha_lo, alpha_hi, "
+            "description",
+            "sugars.tsv:1: the header row must name, between tabs: name, fermentable_lo, fermentable_hi, "
+            "description"));
+    ExpectNothingWritten();
+}
+
+TEST_F(CatalogueLoaderTest, ReportsEveryProblemOfEveryFileAndWritesNothing) {
+    Append("hops.tsv", "\tAroma\tx\t101\t\nSaaz\tAroma\n");
+    Append("sugars.tsv", "cane\t5\t4\t\n");
+    EXPECT_THAT(Load(), ElementsAre("hops.tsv:4: name is blank", "hops.tsv:4: alpha_lo \"x\" is not a number",
+                                    "hops.tsv:4: alpha_hi \"101\" is not between 0 and 100",
+                                    "hops.tsv:5: the row has 2 cells, not 5",
+                                    "sugars.tsv:4: fermentable_lo \"5\" is above fermentable_hi \"4\"",
+                                    "sugars.tsv:4: name \"cane\" stands in line 2 already"));
+    ExpectNothingWritten();
+}
+
+// One faulty row behind the good ones of its file.
+struct BadRow {
+    std::string name;
+    std::string file;
+    std::string row;
+    std::string problem;
+};
+
+class BadRowTest : public CatalogueLoaderTest, public testing::WithParamInterface<BadRow> {};
+
+TEST_P(BadRowTest, IsReportedByFileAndLineAndNothingIsWritten) {
+    Append(GetParam().file, GetParam().row + "\n");
+    EXPECT_THAT(Load(), ElementsAre(GetParam().problem));
+    ExpectNothingWritten();
+}
+
+std::vector<BadRow> BadRows() {
+    const std::string control = std::string("\x01");
+    return {
+        {"EmptyLine", "hops.tsv", "", "hops.tsv:4: the row has 1 cells, not 5"},
+        {"TooManyCells", "hops.tsv", "Saaz\tAroma\t3\t4\t\t", "hops.tsv:4: the row has 6 cells, not 5"},
+        {"BlankName", "hops.tsv", "\tAroma\t3\t4\t", "hops.tsv:4: name is blank"},
+        {"LeadingBlank", "hops.tsv", " Saaz\tAroma\t3\t4\t",
+         "hops.tsv:4: name \" Saaz\" holds a stray blank"},
+        {"TrailingBlank", "hops.tsv", "Saaz\tAroma\t3\t4\tNoble. ",
+         "hops.tsv:4: description \"Noble. \" holds a stray blank"},
+        {"DoubledBlank", "hops.tsv", "Saaz  US\tAroma\t3\t4\t",
+         "hops.tsv:4: name \"Saaz  US\" holds a stray blank"},
+        {"OnlyBlanks", "hops.tsv", "Saaz\t \t3\t4\t", "hops.tsv:4: usage \" \" holds a stray blank"},
+        {"CarriageReturn", "hops.tsv", "Saaz\tAroma\t3\t4\t\r",
+         "hops.tsv:4: the line holds the invisible character U+000D"},
+        {"ControlCharacter", "hops.tsv", "Sa" + control + "az\tAroma\t3\t4\t",
+         "hops.tsv:4: the line holds the invisible character U+0001"},
+        {"NoBreakBlank", "hops.tsv", "Saaz\u00A0US\tAroma\t3\t4\t",
+         "hops.tsv:4: the line holds the invisible character U+00A0"},
+        {"NotUtf8", "hops.tsv", "Hallertauer Mittelfr\xFCh\tAroma\t3\t4\t",
+         "hops.tsv:4: the line is not valid UTF-8"},
+        {"CutShortUtf8", "hops.tsv", "Saaz\tAroma\t3\t4\tM\xC3", "hops.tsv:4: the line is not valid UTF-8"},
+        {"DoubleQuoteInName", "hops.tsv", "\"Saaz\"\tAroma\t3\t4\t",
+         "hops.tsv:4: name \"\"Saaz\"\" holds a double quote"},
+        {"NameTwice", "hops.tsv", "BREWER'S GOLD\tAroma\t3\t4\t",
+         "hops.tsv:4: name \"BREWER'S GOLD\" stands in line 2 already"},
+        {"NameTwiceBeyondAscii", "yeast.tsv", "KÖLSCH YEAST\tAle\tLow\t\t\t\t\t\t",
+         "yeast.tsv:5: name \"KÖLSCH YEAST\" stands in line 2 already"},
+        {"NameOfGrainAndExtract", "grains.tsv", "Pale malt\textract\tSugar\t\t\t\t\t",
+         "grains.tsv:4: name \"Pale malt\" stands in line 2 already"},
+        {"Exponent", "hops.tsv", "Saaz\tAroma\t3\t1e1\t", "hops.tsv:4: alpha_hi \"1e1\" is not a number"},
+        {"DecimalComma", "hops.tsv", "Saaz\tAroma\t3,5\t4\t", "hops.tsv:4: alpha_lo \"3,5\" is not a number"},
+        {"NumberTooLarge", "hops.tsv", "Saaz\tAroma\t3\t1" + std::string(400, '0') + "\t",
+         "hops.tsv:4: alpha_hi \"1" + std::string(400, '0') + "\" is not a number: Overflow"},
+        {"NegativeNumber", "hops.tsv", "Saaz\tAroma\t-3\t4\t",
+         "hops.tsv:4: alpha_lo \"-3\" is not between 0 and 100"},
+        {"PercentAboveHundred", "sugars.tsv", "Rice\t90\t100.1\t",
+         "sugars.tsv:4: fermentable_hi \"100.1\" is not between 0 and 100"},
+        {"LowAboveHigh", "hops.tsv", "Saaz\tAroma\t4.5\t4.4\t",
+         "hops.tsv:4: alpha_lo \"4.5\" is above alpha_hi \"4.4\""},
+        {"HighMissing", "hops.tsv", "Saaz\tAroma\t4.5\t\t",
+         "hops.tsv:4: a range needs both ends or none: alpha_lo \"4.5\", alpha_hi \"\""},
+        {"LowMissing", "grains.tsv", "Oats\tgrain\tBase Malt\t\t33\t1\t2\t",
+         "grains.tsv:4: a range needs both ends or none: ppg_lo \"\", ppg_hi \"33\""},
+        {"PointsOutOfBounds", "grains.tsv", "Oats\tgrain\tBase Malt\t33\t330\t1\t2\t",
+         "grains.tsv:4: ppg_hi \"330\" is not between 0 and 50"},
+        {"UnknownKind", "grain_types.tsv", "Adjunct\tcereal",
+         "grain_types.tsv:4: kind \"cereal\" is none of: grain, extract"},
+        {"BlankKind", "grain_types.tsv", "Adjunct\t", "grain_types.tsv:4: kind is blank"},
+        {"UnknownGrainType", "grains.tsv", "Oats\tgrain\tAdjunct\t\t\t\t\t",
+         "grains.tsv:4: type \"Adjunct\" is not in grain_types.tsv"},
+        {"BlankGrainType", "grains.tsv", "Oats\tgrain\t\t\t\t\t\t", "grains.tsv:4: type is blank"},
+        {"GrainTypeOfTheOtherKind", "grains.tsv", "Oats\tgrain\tSugar\t\t\t\t\t",
+         "grains.tsv:4: type \"Sugar\" is of kind \"extract\", not \"grain\""},
+        {"UnknownYeastType", "yeast.tsv", "Baker\tBread\tLow\t\t\t\t\t\t",
+         "yeast.tsv:5: type \"Bread\" is none of: Ale, Lager, Wheat, Lactic, Wine/Mead/Cider"},
+        {"UnknownFlocculation", "yeast.tsv", "Baker\tAle\tMedium to High\t\t\t\t\t\t",
+         "yeast.tsv:5: flocculation \"Medium to High\" is none of: Low, Medium, High, Very High"},
+        {"TemperatureInCelsius", "yeast.tsv", "Baker\tAle\tLow\t\t\t18\t40\t\t",
+         "yeast.tsv:5: temp_lo \"18\" is not between 32 and 212"},
+        {"YeastNameWithADash", "yeast.tsv", "Baker - dry\tAle\tLow\t\t\t\t\t\t",
+         "yeast.tsv:5: name \"Baker - dry\" holds \" - \""},
+        {"BlankIon", "water_profiles.tsv", "Rain\t0\t\t0\t0\t0\t0\t", "water_profiles.tsv:3: co3 is blank"},
+        {"NegativeIon", "salts.tsv", "Lime\t-1\t0\t0\t0\t0\t0\t",
+         "salts.tsv:3: ca \"-1\" is not between 0 and 10000"},
+        {"UnknownWaterProfile", "styles.tsv", "Ale\tPale Beer\tAle\tBurton\t\t\t\t\t\t\t\t\t\t\t\t\t",
+         "styles.tsv:5: water_profile \"Burton\" is not in water_profiles.tsv"},
+        {"UnknownStyleType", "styles.tsv", "Ale\tPale Beer\t0\t\t\t\t\t\t\t\t\t\t\t\t\t\t",
+         "styles.tsv:5: type \"0\" is none of: Ale, Lager, Wheat, Lactic, Wine/Mead/Cider"},
+        {"BlankFolder", "styles.tsv", "Ale\t\tAle\t\t\t\t\t\t\t\t\t\t\t\t\t\t",
+         "styles.tsv:5: folder is blank"},
+        {"FolderSpeltInTwoWays", "styles.tsv", "Ale\tPale beer\tAle\t\t\t\t\t\t\t\t\t\t\t\t\t\t",
+         "styles.tsv:5: folder \"Pale beer\" is written \"Pale Beer\" further up"},
+        {"GravityOutOfBounds", "styles.tsv", "Ale\tPale Beer\tAle\t\t0.044\t1.050\t\t\t\t\t\t\t\t\t\t\t",
+         "styles.tsv:5: og_lo \"0.044\" is not between 0.9 and 1.3"},
+    };
+}
+
+INSTANTIATE_TEST_SUITE_P(Catalogue, BadRowTest, testing::ValuesIn(BadRows()),
+                         [](const testing::TestParamInfo<BadRow>& bad) { return bad.param.name; });
+
+}  // namespace
+}  // namespace tw
