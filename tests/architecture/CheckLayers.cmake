@@ -1,0 +1,76 @@
+# The rules of the architecture page that a machine can see. Run as
+#     cmake -DROOT=<checkout> -P CheckLayers.cmake
+# Prints every offence as FILE: RULE and fails when there is one.
+cmake_minimum_required(VERSION 3.25)
+include(${CMAKE_CURRENT_LIST_DIR}/../../cmake/Folders.cmake)
+
+set(offences 0)
+function(offence file text)
+  message(NOTICE "${file}: ${text}")
+  math(EXPR count "${offences} + 1")
+  set(offences ${count} PARENT_SCOPE)
+endfunction()
+
+# includes_of(VAR FILE): the targets of the #include lines, their first quote or bracket kept: "<QString", "\"calc/Grid.h".
+function(includes_of var file)
+  file(STRINGS ${ROOT}/${file} lines REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"]")
+  set(found)
+  foreach(line IN LISTS lines)
+    string(REGEX REPLACE "^[ \t]*#[ \t]*include[ \t]*([<\"][^>\"]*).*" "\\1" target "${line}")
+    list(APPEND found "${target}")
+  endforeach()
+  set(${var} "${found}" PARENT_SCOPE)
+endfunction()
+
+# A logic file of the core knows neither Qt, nor a window, nor a folder above its own.
+function(check_core_file file folder)
+  list(FIND TW_CORE_FOLDERS "${folder}" own)
+  includes_of(targets ${file})
+  foreach(target IN LISTS targets)
+    if(target MATCHES "^[<\"](Q|q[a-z0-9_]*\\.h)")
+      offence(${file} "includes Qt (${target}); only ui/, qt/, src/cli and src/app may")
+    elseif(target MATCHES "^\"([a-z]+)/((ui|qt)/)?")
+      list(FIND TW_CORE_FOLDERS "${CMAKE_MATCH_1}" other)
+      if(CMAKE_MATCH_2)
+        offence(${file} "includes a window's file (${target})")
+      elseif(other LESS 0)
+        offence(${file} "includes ${CMAKE_MATCH_1}/, which is no folder of the core (${target})")
+      elseif(own GREATER_EQUAL 0 AND other GREATER own)
+        offence(${file} "includes ${CMAKE_MATCH_1}/, which stands above ${folder}/ (${target})")
+      endif()
+    endif()
+  endforeach()
+  set(offences ${offences} PARENT_SCOPE)
+endfunction()
+
+file(GLOB_RECURSE sources RELATIVE ${ROOT} ${ROOT}/src/*.h ${ROOT}/src/*.cpp)
+foreach(file IN LISTS sources)
+  string(REGEX REPLACE "^src/([^/]*)/.*" "\\1" folder "${file}")
+  if(NOT file MATCHES "/(ui|qt)/" AND NOT file MATCHES "^src/(cli|app)/")
+    check_core_file(${file} ${folder})
+  endif()
+  if(NOT file MATCHES "^src/platform/qt/")
+    file(STRINGS ${ROOT}/${file} boxes REGEX "QMessageBox|QFileDialog::|QInputDialog")
+    if(boxes)
+      offence(${file} "asks the user past the ports: ${boxes}")
+    endif()
+  endif()
+endforeach()
+
+# Work left for later belongs into the issue list, not into the tree.
+file(GLOB_RECURSE texts RELATIVE ${ROOT} ${ROOT}/src/* ${ROOT}/tests/*.cpp ${ROOT}/tests/*.h ${ROOT}/tests/*.txt
+  ${ROOT}/tests/*.cmake ${ROOT}/tests/*.tws ${ROOT}/bench/*.cpp ${ROOT}/fuzz/*.cpp ${ROOT}/scripts/* ${ROOT}/cmake/*
+  ${ROOT}/docs/*.md)
+foreach(file IN LISTS texts)
+  file(STRINGS ${ROOT}/${file} words REGEX "(^|[^A-Za-z0-9_])(TO[D]O|FIX[M]E|X[X]X|HA[C]K)([^A-Za-z0-9_]|$)")
+  if(words)
+    offence(${file} "leaves something for later: ${words}")
+  endif()
+endforeach()
+
+if(NOT sources)
+  message(FATAL_ERROR "${ROOT}/src holds no sources")
+endif()
+if(offences GREATER 0)
+  message(FATAL_ERROR "${offences} offence(s) against the layers")
+endif()

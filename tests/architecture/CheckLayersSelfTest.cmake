@@ -1,0 +1,45 @@
+# CheckLayers.cmake must pass a good tree and name the offence in each bad one. Run as
+#     cmake -DWORK=<folder to write in> -P CheckLayersSelfTest.cmake
+cmake_minimum_required(VERSION 3.25)
+
+# check(EXPECTED PATH TEXT): a tree of one good file and of PATH holding TEXT; EXPECTED is "" or what must be reported.
+function(check expected path text)
+  file(REMOVE_RECURSE ${WORK})
+  file(WRITE ${WORK}/src/values/Good.h "#include <string>\n#include \"platform/Ports.h\"\n#include \"values/Text.h\"\n")
+  file(WRITE ${WORK}/${path} "${text}\n")
+  execute_process(COMMAND ${CMAKE_COMMAND} -DROOT=${WORK} -P ${CMAKE_CURRENT_LIST_DIR}/CheckLayers.cmake
+    RESULT_VARIABLE status OUTPUT_VARIABLE output ERROR_VARIABLE output)
+  if(expected STREQUAL "" AND NOT status EQUAL 0)
+    message(FATAL_ERROR "${path} with [${text}] was refused:\n${output}")
+  elseif(NOT expected STREQUAL "" AND (status EQUAL 0 OR NOT output MATCHES "${path}: [^\n]*${expected}"))
+    message(FATAL_ERROR "${path} with [${text}] should report '${expected}', status ${status}:\n${output}")
+  endif()
+endfunction()
+
+check("" src/document/Recipe.cpp "#include \"document/Recipe.h\"\n#include \"tree/TWTree.h\"\n#include \"calc/Grid.h\"")
+check("" src/document/ui/frmDocument.cpp "#include <QWidget>\n#include \"document/Recipe.h\"")
+check("" src/platform/qt/Boxes.cpp "#include <QMessageBox>\nvoid f() { QMessageBox::about(nullptr, \"a\", \"b\"); }")
+check("" src/cli/Main.cpp "#include <QCoreApplication>\n#include \"shell/Shell.h\"")
+check("" src/app/Main.cpp "#include <QApplication>\n#include \"shell/ui/frmMain.h\"")
+check("" src/values/Words.cpp "// METODOLOGIA, todo")
+
+check("includes Qt" src/document/Recipe.cpp "#include <QString>")
+check("includes Qt" src/document/Recipe.cpp "  #  include \"QtCore/QString\"")
+check("includes Qt" src/calc/Grid.h "#include <qobject.h>")
+check("stands above" src/values/Text.cpp "#include \"calc/Grid.h\"")
+check("stands above" src/water/Treatment.cpp "#include \"store/Database.h\"")
+check("stands above" src/tree/TWTree.h "#include \"document/Recipe.h\"")
+check("stands above" src/tools/Scale.cpp "#include \"shell/Shell.h\"")
+check("window's file" src/shell/Shell.cpp "#include \"shell/ui/frmMain.h\"")
+check("window's file" src/shell/Shell.cpp "#include \"platform/qt/Boxes.h\"")
+check("no folder of the core" src/shell/Shell.cpp "#include \"cli/Console.h\"")
+check("past the ports" src/document/ui/frmDocument.cpp "int f() { return QMessageBox::Yes; }")
+check("past the ports" src/shell/ui/frmMain.cpp "void f() { QFileDialog::getOpenFileName(); }")
+check("past the ports" src/app/Main.cpp "#include <QInputDialog>")
+foreach(halves "TO;DO" "FIX;ME" "X;XX" "HA;CK")
+  list(JOIN halves "" word)
+  check("for later" src/values/Text.cpp "// ${word}: later")
+  check("for later" tests/values/TextTest.cpp "// ${word}")
+endforeach()
+
+file(REMOVE_RECURSE ${WORK})
