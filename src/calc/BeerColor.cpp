@@ -1,0 +1,90 @@
+#include "calc/BeerColor.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/Error.h"
+
+namespace tw {
+namespace {
+
+constexpr int kLastKey = 294;
+constexpr ColorTable::Entry kBelowTable{40, 240};
+constexpr ColorTable::Entry kAboveTable{0, 0};
+
+double Between(double from, double to, double fraction) {
+    return (to - from) * fraction + from;
+}
+
+std::uint8_t ToByte(double channel) {
+    return static_cast<std::uint8_t>(std::clamp(std::lround(channel), 0L, 255L));
+}
+
+}  // namespace
+
+double HCUToSRM(double hcu) {
+    return Finite(1.4922 * std::pow(hcu, 0.6859));
+}
+
+ColorTable::ColorTable()
+    : entries_{{1, {40, 230}},  {2, {36, 207}},    {3, {32, 190}}, {5, {28, 167}}, {10, {24, 130}},
+               {13, {20, 117}}, {16, {16, 98}},    {21, {12, 79}}, {25, {10, 63}}, {36, {6, 45}},
+               {50, {3, 36}},   {75, {1, 32}},     {100, {0, 29}}, {125, {0, 25}}, {150, {0, 22}},
+               {175, {0, 18}},  {200, {0, 14}},    {225, {0, 11}}, {250, {0, 7}},  {275, {0, 3}},
+               {288, {0, 1}},   {kLastKey, {0, 0}}} {}
+
+ColorTable::Entry ColorTable::LookupColorEntry(int key) const {
+    if (key < 1) return kBelowTable;
+    if (key > kLastKey) return kAboveTable;
+    const auto upper = entries_.lower_bound(key);
+    if (upper->first == key) return upper->second;
+    const auto lower = std::prev(upper);
+    const double fraction = static_cast<double>(key - lower->first) / (upper->first - lower->first);
+    return {Between(lower->second.hue, upper->second.hue, fraction),
+            Between(lower->second.lightness, upper->second.lightness, fraction)};
+}
+
+void ColorTable::HCUToHSL(double hcu, double& hue, double& lightness, double& saturation) const {
+    saturation = 240;
+    // Beyond the table every colour is the last one; this also keeps a huge figure within a whole number.
+    const double floor = std::floor(std::min(hcu, static_cast<double>(kLastKey + 1)));
+    const int key = static_cast<int>(floor);
+    const double fraction = std::min(hcu, static_cast<double>(kLastKey + 1)) - floor;
+    const Entry low = LookupColorEntry(key);
+    if (fraction == 0) {
+        hue = low.hue;
+        lightness = low.lightness;
+        return;
+    }
+    const Entry high = LookupColorEntry(key + 1);
+    hue = Between(low.hue, high.hue, fraction);
+    lightness = Between(low.lightness, high.lightness, fraction);
+}
+
+Rgb ColorTable::HCUToColor(double hcu) const {
+    double hue = 0, lightness = 0, saturation = 0;
+    HCUToHSL(hcu, hue, lightness, saturation);
+    return HSLToRGB(hue, lightness, saturation);
+}
+
+Rgb HSLToRGB(double hue, double lightness, double saturation) {
+    const double h = hue * 360 / 240;
+    const double l = lightness / 240;
+    const double s = saturation / 240;
+    if (s == 0) return {ToByte(l * 255), ToByte(l * 255), ToByte(l * 255)};
+    const double m2 = l <= 0.5 ? l * (1 + s) : l + s - l * s;
+    const double m1 = 2 * l - m2;
+    return {ToByte(HueToChannel(m1, m2, h + 120) * 255), ToByte(HueToChannel(m1, m2, h) * 255),
+            ToByte(HueToChannel(m1, m2, h - 120) * 255)};
+}
+
+double HueToChannel(double m1, double m2, double h) {
+    if (h > 360) h -= 360;
+    if (h < 0) h += 360;
+    if (h < 60) return m1 + (m2 - m1) * h / 60;
+    if (h < 180) return m2;
+    if (h < 240) return m1 + (m2 - m1) * (240 - h) / 60;
+    return m1;
+}
+
+}  // namespace tw

@@ -1,0 +1,67 @@
+#include "calc/Figures.h"
+
+#include <cmath>
+
+#include "platform/Error.h"
+#include "values/Converter.h"
+
+namespace tw {
+namespace {
+
+// The part of the keg pressure equation that does not hold the volumes.
+double PressureWithoutGas(double fahrenheit) {
+    const double square = fahrenheit * fahrenheit;
+    return -16.6999 - 0.0101059 * fahrenheit + 0.00116512 * square;
+}
+
+}  // namespace
+
+AlcoholFigures ComputeAlcohol(double og, double fg) {
+    AlcoholFigures f{};
+    f.originalExtract = SGToPlato(og);
+    f.apparentExtract = SGToPlato(fg);
+    const double q = 0.22 + 0.001 * f.originalExtract;
+    f.realExtract = Divide(q * f.originalExtract + f.apparentExtract, 1 + q);
+    f.byWeight = Divide(f.originalExtract - f.realExtract, 2.0665 - 0.010655 * f.originalExtract);
+    f.byVolume = Finite(f.byWeight * fg / 0.794);
+    return f;
+}
+
+double AttenuatedGravity(double og, double attenuationPercent) {
+    const double attenuation = attenuationPercent / 100;
+    const double originalExtract = SGToPlato(og);
+    return Finite(PlatoToSG(originalExtract - attenuation * originalExtract));
+}
+
+double CaloriesPer12FlOz(double realExtract, double alcoholByWeight, double fg) {
+    return Finite((realExtract * 4.08 + alcoholByWeight * 7.1) * fg * 3.55);
+}
+
+double ResidualCO2(double fahrenheit) {
+    const double square = fahrenheit * fahrenheit;
+    return Finite(3.0378 - 0.050062 * fahrenheit + 0.00026555 * square);
+}
+
+double KegPressure(double fahrenheit, double volumes) {
+    return Finite(PressureWithoutGas(fahrenheit) + 0.173354 * fahrenheit * volumes + 4.24267 * volumes -
+                  0.0684226 * (volumes * volumes));
+}
+
+bool KegVolumes(double fahrenheit, double psi, double& volumes) {
+    const double a = -0.0684226;
+    const double b = 0.173354 * fahrenheit + 4.24267;
+    const double c = PressureWithoutGas(fahrenheit) - psi;
+    const double discriminant = b * b - 4 * a * c;
+    if (discriminant < 0) return false;
+    double v = (-b + std::sqrt(discriminant)) / (2 * a);
+    if (v < 0) v = (-b - std::sqrt(discriminant)) / (2 * a);
+    if (v < 0) return false;
+    volumes = Finite(v);
+    return true;
+}
+
+double PrimingVolumes(double ounces, double fermentablePercent, double gallons) {
+    return Divide(ounces * (fermentablePercent / 100) * 0.27027, gallons * 0.133);
+}
+
+}  // namespace tw

@@ -1,0 +1,109 @@
+// Keeps the derived figures of one recipe record consistent: the row calculations, the column totals, the
+// figures, and the fixed chains that run when a field or a cell is committed. There is no dependency
+// mechanism: each chain is an ordered list of operations. A missing input shows as an empty figure, never as
+// a failure; only carbonation can refuse, and only arithmetic (a zero denominator) raises.
+#pragma once
+
+#include "calc/BeerColor.h"
+#include "calc/RecipeRecord.h"
+
+namespace tw {
+
+// The commands of the main window that a recipe steers.
+class RecipeCommands {
+  public:
+    virtual ~RecipeCommands() = default;
+    virtual void EnableResizeRecipe(bool enabled) = 0;
+    virtual void EnableChangeStrength(bool enabled) = 0;
+    virtual void EnableChangeBitterness(bool enabled) = 0;
+    virtual void EnableChangeCarbonation(bool enabled) = 0;
+};
+
+class RecipeCalculator {
+  public:
+    // Holds references: record, commands and colors must outlive the calculator.
+    RecipeCalculator(RecipeRecord& record, RecipeCommands& commands, const ColorTable& colors)
+        : r_(record), commands_(commands), colors_(colors) {}
+
+    // The chains of the committed text boxes. Each expects the box's value and committed text to be the new
+    // ones.
+    void BoilVolCommitted();
+    void TotalVolCommitted();
+    void FinalVolCommitted();
+    void ExtractCommitted();
+    void HopExtractionCommitted();
+    void FGCommitted();
+    // ok is false when no non-negative carbonation exists at the temperature; nothing else was done then.
+    void TempCommitted(bool& ok);
+
+    // The chains of the committed cells. The cell's text and value are the new ones.
+    void FermentableCommitted(Grid& grid, int row, int col);
+    void HopCommitted(int row);
+    void PrimingCommitted(int row);
+    void PressureCommitted();
+    // A row of gridTreatment got another amount or salt.
+    void TreatmentCommitted(int row);
+
+    // The chains of the option groups.
+    void IbuMethodChosen() { RecalcHops(); }
+    void PackagingChosen();
+
+    // Row calculations; unless skipTotal, the column's total follows at once.
+    void CalcPoints(Grid& grid, int row, bool useGrainExtraction, bool skipTotal);
+    void CalcHCU(Grid& grid, int row, bool skipTotal);
+    void CalcHopIBU(Grid& grid, int row, bool skipTotal);
+    void CalcPrimingVolumes(int row, bool skipTotal);
+    void UpdateTreatmentRow(int row, bool skipTotals);
+
+    // Column totals: the sum over the data rows whose cell has text, or an empty text when none has.
+    void TotalPoints(Grid& grid);
+    void TotalHCU(Grid& grid);
+    void TotalIBU(Grid& grid);
+    // Residual CO2 counts too; without it the total is empty. ShowCO2 follows.
+    void TotalPrimingVolumes();
+    void UpdateTreatmentTotals();
+    // The amount cell of the totals row of gridGrain, gridExtract and gridHops.
+    void ShowGridTotal(Grid& grid);
+
+    // Whole-grid loops.
+    void RecalcPoints(Grid& grid, bool useGrainExtraction);
+    void RecalcHCU(Grid& grid);
+    void RecalcHops();
+    void RecalcPriming();
+    void RecalcTreatment();
+
+    // Figures.
+    void CalcOG();
+    void CalcBG();
+    void CalcABV();
+    void CalcColor();
+    void CalcOGAndColor();
+    void ShowIBU();
+    void ShowCO2();
+    // Row "Treatment Needed" of gridWater (target less source), and the emphasis of the row of totals.
+    void UpdateTreatmentNeeded();
+    // ok is false when the pressure has no non-negative volumes at the temperature: the cell stays then. With
+    // usePressure the given pressure is only tested and nothing is written.
+    void CalcKegVolumes(bool usePressure, double pressure, bool& ok);
+    void CalcCarbonation(bool& ok);
+
+    // Whether the change-carbonation command makes sense.
+    bool CanEnableCO2() const;
+
+    // Sets the four scaling commands by the record's present figures.
+    void RefreshCommands();
+
+  private:
+    void RefreshCarbonationCommand() { commands_.EnableChangeCarbonation(CanEnableCO2()); }
+    void TotalColumn(Grid& grid, int col);
+    void ShowHopTotal();
+    void MarkTreatmentTotal(int col);
+    // The number behind "0" for an empty totals cell.
+    static double TotalOf(const Grid& grid, int col);
+
+    RecipeRecord& r_;
+    RecipeCommands& commands_;
+    const ColorTable& colors_;
+};
+
+}  // namespace tw

@@ -1,0 +1,239 @@
+// One open recipe: its record, the commits of its fields and cells, its rows, its style, and its way into the
+// database and back. A window shows the record and calls these operations with what the brewer does; it holds
+// nothing itself.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "calc/RecipeCalculator.h"
+#include "calc/RecipeRecord.h"
+#include "document/DocumentHost.h"
+#include "platform/Ports.h"
+#include "store/Database.h"
+#include "store/RecipeRows.h"
+
+namespace tw {
+
+// The nine tabs.
+enum class Tab : int { General, Grains, Extracts, Hops, Water, Carbonation, Adjuncts, Log, Notes };
+inline constexpr int kTabs = 9;
+
+// What the editor of a cell offers.
+struct CellList {
+    std::vector<std::string> entries;
+    bool freeText = true;  // another text than the entries may be typed
+};
+
+// The window of a document, as far as the logic needs it.
+class DocumentView {
+  public:
+    virtual ~DocumentView() = default;
+    // Commits whatever is being edited in the window: the open cell editor, the focused text box.
+    virtual void FlushEditors() = 0;
+};
+
+class RecipeDocument {
+  public:
+    // A new recipe with the defaults of the settings, not changed. All references must outlive the document.
+    // number is shown in the caption of a document without a name; 0 is none.
+    RecipeDocument(DocumentHost& host, Platform& platform, Database& database, const ColorTable& colors,
+                   int number);
+    RecipeDocument(const RecipeDocument&) = delete;
+    RecipeDocument& operator=(const RecipeDocument&) = delete;
+
+    RecipeRecord& Record() { return record_; }
+    const RecipeRecord& Record() const { return record_; }
+    void SetView(DocumentView* view) { view_ = view; }
+
+    // Identity and state.
+    const std::string& Key() const { return key_; }
+    void SetKey(std::string key) { key_ = std::move(key); }
+    const std::string& OrigName() const { return origName_; }
+    const std::string& BeerName() const { return record_.txtName.Text(); }
+    const std::string& BeerStyle() const { return record_.cmbStyle.Text(); }
+    std::int64_t FolderID() const { return folderId_; }
+    void SetFolderID(std::int64_t id) { folderId_ = id; }
+    std::int64_t StyleID() const { return styleId_; }
+    // Reloads the style list and selects that style, or "(None)"; shows its ranges. Not an edit of the
+    // recipe.
+    void SetStyleID(std::int64_t id);
+    bool Changed() const { return changed_; }
+    // The window's caption: the trimmed name, else "Untitled {number}", else "Untitled".
+    std::string Caption() const;
+
+    // Text boxes. SetText is each change while typing; CommitField is what runs when the box loses the focus
+    // or edits are flushed: validation, then the field's chain. It returns false for a bad entry (whose box
+    // has been shown, unless quiet): the text stays and the box keeps the focus. It raises for an arithmetic
+    // fault; the field then has its last committed text again. A computed box refuses both.
+    void SetText(TextBox& box, std::string_view text);
+    bool CommitField(TextBox& box, bool quiet = false);
+    // Puts the last committed text back (Escape, a refused entry of a script).
+    void RestoreField(TextBox& box);
+
+    // The style list.
+    void SelectStyle(int index);
+    // Selects the style of that name (trimmed, case ignored). False when there is none.
+    bool ChangeStyle(std::string_view name);
+    void ReloadStyles();
+
+    // Option buttons, by the name of the option. False for an unknown one.
+    bool ChooseOption(std::string_view option);
+
+    // Cells. CanEdit: the cell is a data cell and neither its row nor its column is read-only.
+    bool CanEdit(const Grid& grid, int row, int col) const;
+    CellList ListOf(const Grid& grid, int row, int col) const;
+    // Validates the text and commits it: the cell's chain runs. False for a bad entry (whose box has been
+    // shown, unless quiet) and for a cell that cannot be edited: nothing has changed then. Raises for an
+    // arithmetic fault; the cell is then as before.
+    bool EditCell(Grid& grid, int row, int col, std::string_view text, bool quiet = false);
+    // The validation alone, as the editor closes: value is what the cell would hold.
+    bool ValidateCell(const Grid& grid, int row, int col, std::string_view text, bool quiet,
+                      CellValue& value);
+    // A check-box cell. False when the cell is none.
+    bool SetChecked(Grid& grid, int row, int col, bool checked);
+    // A day of the calendar for the current row of gridLog.
+    void PickLogDate(const DateTime& day);
+
+    // Rows. The first two act on the present tab's grid.
+    void InsertRow();
+    void DeleteRow();
+    void InsertRowForGrid(Grid& grid);
+    void DeleteRowForGrid(Grid& grid);
+    bool CanInsertRow(const Grid& grid) const;
+    // True when the current row is a data row and the grid may lose one.
+    bool CanDeleteRow(const Grid& grid) const;
+    // The grid that InsertRow and DeleteRow act on, nullptr on tabs without one.
+    Grid* GridOfTab(Tab tab);
+    void SetCurrentCell(Grid& grid, int row, int col);
+
+    // Steering the main window.
+    Tab CurrentTab() const { return tab_; }
+    void SetTab(Tab tab);
+    // The document's window became the active one.
+    void Activate();
+    void FlushEdits();
+
+    // Persistence. OpenRecipe fills the document from the stored recipe of that name; REQUIRES: it exists.
+    void OpenRecipe(std::string_view name);
+    // Writes the document. ok is false when the brewer refused to overwrite another recipe; nothing has
+    // changed then. A store error raises and leaves what was done so far, the document still changed.
+    void Save(bool saveAs, bool silent, bool& ok);
+    // Names and places the document, dates its creation today, then saves.
+    void SaveRecipeAs(std::string_view name, std::int64_t folderId, bool silent, bool& ok);
+
+    // Notices of what happened in the database. Names compare trimmed, case ignored, with OrigName.
+    void NotifyRecipeMoved(std::string_view name, std::int64_t folderId);
+    void NotifyRecipeNewStyle(std::string_view name, std::int64_t styleId);
+    void NotifyRecipeRenamed(std::string_view oldName, std::string_view newName);
+    void NotifyStyleRenamed(std::int64_t styleId, std::string_view newName);
+    void NotifyRecipeDeleted(std::string_view name);
+    void NotifyStyleDeleted(std::int64_t styleId);
+    void NotifyRecipeFolderDeleted(std::int64_t folderId);
+    // The catalogue has changed.
+    void DBChanged();
+
+    bool CanEnableCO2() const { return calculator_.CanEnableCO2(); }
+
+  private:
+    // Passes the commands on while the document is the active one.
+    class ActiveCommands final : public RecipeCommands {
+      public:
+        explicit ActiveCommands(RecipeDocument& document) : document_(document) {}
+        void EnableResizeRecipe(bool enabled) override;
+        void EnableChangeStrength(bool enabled) override;
+        void EnableChangeBitterness(bool enabled) override;
+        void EnableChangeCarbonation(bool enabled) override;
+
+      private:
+        RecipeDocument& document_;
+    };
+
+    bool IsActive() const { return host_.IsActive(*this); }
+    void ApplyDefaults();
+    void CommitDefault(TextBox& box, const std::string& text);
+    void MarkChanged();
+    void ClearChanged();
+    void SetDetached();
+
+    // Fields (RecipeDocumentFields.cpp).
+    bool ValidateField(const TextBox& box, std::string_view text, bool quiet, double& value);
+    bool ValidateHopExtraction(std::string_view text, bool quiet, double& value);
+    bool RunFieldChain(TextBox& box, bool quiet);
+    // Style (RecipeDocumentStyle.cpp).
+    // Both give the style's water profile, nothing without one.
+    std::optional<std::string> ShowStyleRanges(std::int64_t styleId);
+    std::optional<std::string> EmptyStyleRanges();
+    void ChooseStyle(std::int64_t id);
+
+    // Cells (RecipeDocumentCells.cpp).
+    bool ValidateNumber(std::string_view text, std::string_view kind, bool quiet, CellValue& value);
+    bool ValidateHopAmount(std::string_view text, bool quiet, CellValue& value);
+    bool ValidateHopForm(std::string_view text, CellValue& value) const;
+    bool ValidateKegPressure(std::string_view text, bool quiet, CellValue& value);
+    bool Refuse(std::string_view message, bool quiet);
+    void ChangeRow(Grid& grid, int row, const std::function<void()>& change);
+    void RunCellChain(Grid& grid, int row, int col);
+    void RecalculateGrid(Grid& grid, int row);
+    // Catalogue look-ups by the row's name (RecipeDocumentCatalogue.cpp); whether the name was found.
+    bool LookUpFermentable(Grid& grid, int row);
+    bool LookUpSugar(int row);
+    void LookUpHop(int row);
+    void LookUpWater(int row);
+    void LookUpSalt(int row);
+    void LookUpYeast(int row);
+    void FillFromCatalogue(Grid& grid, int row, int col, const Field& field);
+
+    // Rows (RecipeDocumentRows.cpp).
+    void AddBlankRow(Grid& grid, int row);
+    void ClearRowCells(Grid& grid, int row);
+    void RecalculateAfterDelete(Grid& grid);
+    void RefreshRowCommands();
+
+    // Persistence (RecipeDocumentStore.cpp, RecipeMapping.cpp).
+    bool AskOverwrite();
+    void DeleteOwnRow();
+    StoredRecipe ToStored() const;
+    void LinesToStored(StoredRecipe& stored) const;
+    // Raises an error for a form that the table does not know.
+    static void CheckHopForms(const StoredRecipe& stored);
+    void FillFields(const StoredRecipe& stored);
+    void FillWaterAndKeg(const StoredRecipe& stored);
+    void FillGrids(const StoredRecipe& stored);
+    void FillFermentables(Grid& grid, const std::vector<StoredGrain>& lines);
+    void FillHop(const StoredHop& hop);
+    void FillTextGrids(const StoredRecipe& stored);
+    void FillBox(TextBox& box, const StoredQuantity& stored);
+    static void FillText(Grid& grid, int row, int col, const StoredText& text);
+    void FillCell(Grid& grid, int row, int col, const StoredQuantity& stored);
+    // Adds blank rows until the grid has that place; gives its row.
+    int GrowTo(Grid& grid, int rowId);
+    static void FinishGrid(Grid& grid);
+    void Recalculate(const std::function<void()>& operation);
+    static bool Quietly(const std::function<bool()>& reading);
+
+    DocumentHost& host_;
+    Platform& platform_;
+    Database& database_;
+    RecipeRecord record_;
+    ActiveCommands commands_{*this};
+    RecipeCalculator calculator_;
+    DocumentView* view_ = nullptr;
+
+    std::string key_;
+    std::string origName_;
+    int number_ = 0;
+    std::int64_t folderId_ = -1;
+    std::int64_t styleId_ = 0;
+    std::optional<DateTime> createdWhen_;
+    Tab tab_ = Tab::General;
+    bool changed_ = false;
+    bool loaded_ = false;      // events count as edits
+    bool savingOver_ = false;  // the document's own save replaces its stored recipe
+};
+
+}  // namespace tw

@@ -1,0 +1,141 @@
+// What the catalogue gives to a recipe: the entries of a cell's list, and the figures of a name that was
+// chosen.
+#include "calc/Figures.h"
+#include "document/RecipeDocument.h"
+#include "values/NumberText.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+constexpr const char* kWhenAdded[] = {"During Boil",
+                                      "After Boil while Wort cools",
+                                      "After cooled Wort placed in Fermentor",
+                                      "After pitching Yeast to Primary",
+                                      "After racking to Secondary",
+                                      "Before Bottling"};
+constexpr const char* kLogActions[] = {"Steeped Specialty Grains",
+                                       "Added Extracts or Sugars",
+                                       "Added Hops",
+                                       "Removed Wort from Heat",
+                                       "Pitched Yeast",
+                                       "Racked",
+                                       "Dry-Hopped",
+                                       "Bottled",
+                                       "Tasted"};
+
+// The statement behind the list of a cell; nullptr where the list is no query.
+const char* ListQuery(const RecipeRecord& r, const Grid& grid, int col) {
+    if (col == 0) {
+        if (&grid == &r.gridGrain) return "SELECT NAME FROM GRAINS WHERE GRAIN ORDER BY 1";
+        if (&grid == &r.gridExtract) return "SELECT NAME FROM GRAINS WHERE NOT GRAIN ORDER BY 1";
+        if (&grid == &r.gridHops) return "SELECT NAME FROM HOPS ORDER BY 1";
+        if (&grid == &r.gridPriming) return "SELECT NAME FROM SUGARS ORDER BY 1";
+        if (&grid == &r.gridTreatment) return "SELECT NAME FROM SALTS ORDER BY 1";
+        if (&grid == &r.gridAdjuncts) return "SELECT DISTINCT NAME FROM RECIPE_ADJUNCTS ORDER BY NAME";
+    }
+    if (&grid == &r.gridWater && col == WaterCol::Profile)
+        return "SELECT NAME FROM WATER_PROFILES ORDER BY 1";
+    return nullptr;
+}
+
+}  // namespace
+
+CellList RecipeDocument::ListOf(const Grid& grid, int row, int col) const {
+    CellList list;
+    if (!CanEdit(grid, row, col)) return list;
+    if (&grid == &record_.gridHops && col == HopCol::Form) {
+        list.freeText = false;
+        for (const HopForm& form : kHopForms) list.entries.emplace_back(form.name);
+    } else if (&grid == &record_.gridAdjuncts && col == AdjunctCol::WhenAdded) {
+        list.entries.assign(std::begin(kWhenAdded), std::end(kWhenAdded));
+    } else if (&grid == &record_.gridLog && col == LogCol::Action) {
+        list.entries.assign(std::begin(kLogActions), std::end(kLogActions));
+    } else if (const char* query = ListQuery(record_, grid, col)) {
+        for (Recordset rs = database_.OpenRecordset(query); !rs.AtEnd(); rs.MoveNext())
+            list.entries.push_back(rs.Fields(0).Text());
+    }
+    return list;
+}
+
+// A mid-point of the catalogue becomes the cell's text and number; NULL empties the cell.
+void RecipeDocument::FillFromCatalogue(Grid& grid, int row, int col, const Field& field) {
+    if (field.IsNull()) {
+        grid.Clear(row, col);
+        return;
+    }
+    grid.SetText(row, col, NumberText(field.Number()));
+    grid.SetValue(row, col, CellValue::Of(field.Number()));
+}
+
+bool RecipeDocument::LookUpFermentable(Grid& grid, int row) {
+    Recordset rs = database_.OpenRecordset(
+        "SELECT NAME, (PPG_LO+PPG_HI)/2, (COLOR_LO+COLOR_HI)/2 FROM GRAINS WHERE NAME = " +
+        SqlText(grid.Text(row, GrainCol::Name)) +
+        (&grid == &record_.gridGrain ? " AND GRAIN" : " AND NOT GRAIN"));
+    if (rs.AtEnd()) return false;
+    FillFromCatalogue(grid, row, GrainCol::Ppg, rs.Fields(1));
+    FillFromCatalogue(grid, row, GrainCol::Color, rs.Fields(2));
+    return true;
+}
+
+void RecipeDocument::LookUpHop(int row) {
+    Grid& hops = record_.gridHops;
+    Recordset rs = database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM HOPS WHERE NAME = " +
+                                           SqlText(hops.Text(row, HopCol::Variety)));
+    if (!rs.AtEnd()) FillFromCatalogue(hops, row, HopCol::AlphaAcid, rs.Fields(1));
+}
+
+bool RecipeDocument::LookUpSugar(int row) {
+    Grid& priming = record_.gridPriming;
+    Recordset rs =
+        database_.OpenRecordset("SELECT NAME, (FERMENT_LO+FERMENT_HI)/2 FROM SUGARS WHERE NAME = " +
+                                SqlText(priming.Text(row, PrimingCol::Sugar)));
+    if (rs.AtEnd()) return false;
+    FillFromCatalogue(priming, row, PrimingCol::Fermentable, rs.Fields(1));
+    return true;
+}
+
+void RecipeDocument::LookUpWater(int row) {
+    Grid& water = record_.gridWater;
+    Recordset rs =
+        database_.OpenRecordset("SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM WATER_PROFILES WHERE NAME = " +
+                                SqlText(water.Text(row, WaterCol::Profile)));
+    if (rs.AtEnd()) return;
+    for (int ion = 0; ion < kIons; ++ion) {
+        const double ppm = rs.Fields(ion + 1).Number();
+        water.SetText(row, WaterCol::FirstIon + ion, NumberText(ppm));
+        water.SetValue(row, WaterCol::FirstIon + ion, CellValue::Of(ppm));
+    }
+}
+
+// The numbers behind the ion cells of a treatment row are what one gram of the salt adds to one gallon.
+void RecipeDocument::LookUpSalt(int row) {
+    Grid& treatment = record_.gridTreatment;
+    Recordset rs = database_.OpenRecordset("SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM SALTS WHERE NAME = " +
+                                           SqlText(treatment.Text(row, TreatmentCol::Name)));
+    for (int ion = 0; ion < kIons; ++ion)
+        treatment.SetValue(row, TreatmentCol::FirstIon + ion,
+                           CellValue::Of(rs.AtEnd() ? 0 : rs.Fields(ion + 1).Number()));
+}
+
+// Pitched yeast sets the final gravity from its apparent attenuation.
+void RecipeDocument::LookUpYeast(int row) {
+    const Grid& log = record_.gridLog;
+    if (!SameName(log.Text(row, LogCol::Action), "PITCHED YEAST")) return;
+    std::string_view name = Trim(log.Text(row, LogCol::Notes));
+    name = name.substr(0, name.find(" - "));
+    Recordset rs =
+        database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM YEAST WHERE NAME = " + SqlText(name));
+    if (rs.AtEnd() || rs.Fields(1).IsNull() || record_.txtOG.Empty()) return;
+    TextBox& fg = record_.txtFG;
+    const double gravity = AttenuatedGravity(record_.txtOG.Value(), rs.Fields(1).Number());
+    // An attenuation that breaks the alcohol's formula raises before anything has changed.
+    ComputeAlcohol(record_.txtOG.Value(), gravity);
+    fg.SetValue(gravity);
+    fg.SetText(FormatNumber(fg.Value(), "0.##0"));
+    fg.SetCommitted(fg.Text());
+    calculator_.CalcABV();
+}
+
+}  // namespace tw

@@ -1,0 +1,114 @@
+// The text boxes of a recipe: typing, validation, commit.
+#include "document/RecipeDocument.h"
+#include "values/ParserValidater.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+using FieldValidator = Validator;
+
+// The quantity that a text box holds; nullptr for free text.
+FieldValidator ValidatorOf(const RecipeRecord& r, const TextBox& box) {
+    if (&box == &r.txtBoilVol || &box == &r.txtTotalVol || &box == &r.txtDilutions || &box == &r.txtFinalVol)
+        return ValidateVolume;
+    if (&box == &r.txtExtract) return ValidatePercent;
+    if (&box == &r.txtFG) return ValidateGravity;
+    if (&box == &r.txtTemp) return ValidateTemperature;
+    return nullptr;
+}
+
+bool IsFreeText(const RecipeRecord& r, const TextBox& box) {
+    return &box == &r.txtName || &box == &r.txtNumBatches || &box == &r.txtNotes;
+}
+
+}  // namespace
+
+void RecipeDocument::SetText(TextBox& box, std::string_view text) {
+    if (box.Computed() || box.Text() == text) return;
+    box.SetText(text);
+    if (!IsFreeText(record_, box)) return;
+    MarkChanged();
+    if (&box == &record_.txtName) host_.DocumentRenamed(*this);
+}
+
+void RecipeDocument::RestoreField(TextBox& box) {
+    if (!box.Computed()) SetText(box, std::string(box.Committed()));
+}
+
+bool RecipeDocument::CommitField(TextBox& box, bool quiet) {
+    if (box.Computed() || box.Text() == box.Committed()) return true;
+    if (IsFreeText(record_, box)) {
+        box.SetCommitted(box.Text());
+        return true;
+    }
+    const std::string oldText = box.Committed();
+    const double oldValue = box.Value();
+    const auto goBack = [&] {
+        box.SetValue(oldValue);
+        box.SetCommitted(oldText);
+    };
+    bool chainRan = false;
+    try {
+        double value = 0;
+        if (!ValidateField(box, box.Text(), quiet, value)) return false;
+        box.SetValue(value);
+        // The text being committed counts in its own chain.
+        box.SetCommitted(box.Text());
+        chainRan = true;
+        if (!RunFieldChain(box, quiet)) {
+            goBack();
+            return false;
+        }
+    } catch (const Error&) {
+        goBack();
+        box.SetText(oldText);
+        if (chainRan) RunFieldChain(box, true);
+        throw;
+    }
+    MarkChanged();
+    return true;
+}
+
+bool RecipeDocument::ValidateField(const TextBox& box, std::string_view text, bool quiet, double& value) {
+    if (&box == &record_.txtHopExtraction) return ValidateHopExtraction(text, quiet, value);
+    return ValidatorOf(record_, box)(text, value, quiet ? nullptr : &platform_.messages);
+}
+
+bool RecipeDocument::ValidateHopExtraction(std::string_view text, bool quiet, double& value) {
+    if (IsBlank(text)) {
+        value = 1;
+        return true;
+    }
+    double number = 0;
+    const char* refusal = nullptr;
+    if (!ParseReal(text, number))
+        refusal = "Please enter a valid decimal number";
+    else if (number < 0)
+        refusal = "Please enter a positive decimal number";
+    if (!refusal) {
+        value = number;
+        return true;
+    }
+    if (!quiet) platform_.messages.ShowMessage(kInvalidEntry, refusal);
+    return false;
+}
+
+// False when the chain refuses the value; the record is then to be set back.
+bool RecipeDocument::RunFieldChain(TextBox& box, bool quiet) {
+    if (&box == &record_.txtBoilVol) calculator_.BoilVolCommitted();
+    if (&box == &record_.txtTotalVol) calculator_.TotalVolCommitted();
+    if (&box == &record_.txtFinalVol) calculator_.FinalVolCommitted();
+    if (&box == &record_.txtExtract) calculator_.ExtractCommitted();
+    if (&box == &record_.txtHopExtraction) calculator_.HopExtractionCommitted();
+    if (&box == &record_.txtFG) calculator_.FGCommitted();
+    if (&box != &record_.txtTemp) return true;
+    bool ok = true;
+    calculator_.TempCommitted(ok);
+    if (!ok && !quiet)
+        platform_.messages.ShowMessage("Error calculating carbonation",
+                                       "Please enter a more reasonable temperature.");
+    return ok;
+}
+
+}  // namespace tw

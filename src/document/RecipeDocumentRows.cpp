@@ -1,0 +1,119 @@
+// Rows of the grids: inserting, deleting, and the commands that offer it.
+#include <algorithm>
+
+#include "document/RecipeDocument.h"
+
+namespace tw {
+
+Grid* RecipeDocument::GridOfTab(Tab tab) {
+    switch (tab) {
+        case Tab::Grains:
+            return &record_.gridGrain;
+        case Tab::Extracts:
+            return &record_.gridExtract;
+        case Tab::Hops:
+            return &record_.gridHops;
+        case Tab::Water:
+            return &record_.gridTreatment;
+        case Tab::Carbonation:
+            return &record_.gridPriming;
+        case Tab::Adjuncts:
+            return &record_.gridAdjuncts;
+        case Tab::Log:
+            return &record_.gridLog;
+        case Tab::General:
+        case Tab::Notes:
+            break;
+    }
+    return nullptr;
+}
+
+bool RecipeDocument::CanInsertRow(const Grid& grid) const {
+    return grid.RowsCanChange() && (&grid != &record_.gridPriming || record_.Bottled());
+}
+
+bool RecipeDocument::CanDeleteRow(const Grid& grid) const {
+    return CanInsertRow(grid) && grid.IsDataRow(grid.CurrentRow()) && grid.DataRows() > grid.LeastDataRows();
+}
+
+void RecipeDocument::RefreshRowCommands() {
+    if (!IsActive()) return;
+    const Grid* grid = GridOfTab(tab_);
+    host_.Commands().EnableInsert(grid && CanInsertRow(*grid));
+    host_.Commands().EnableDelete(grid && CanDeleteRow(*grid));
+}
+
+void RecipeDocument::SetCurrentCell(Grid& grid, int row, int col) {
+    grid.SetCurrent(row, col);
+    RefreshRowCommands();
+}
+
+void RecipeDocument::InsertRow() {
+    Grid* grid = GridOfTab(tab_);
+    if (!grid || !CanInsertRow(*grid)) return;
+    FlushEdits();
+    InsertRowForGrid(*grid);
+}
+
+void RecipeDocument::DeleteRow() {
+    Grid* grid = GridOfTab(tab_);
+    if (!grid) return;
+    FlushEdits();
+    if (CanDeleteRow(*grid)) DeleteRowForGrid(*grid);
+}
+
+// A row with the defaults of a new one: a hop row has the settings' form and sock, every other cell is empty.
+void RecipeDocument::AddBlankRow(Grid& grid, int row) {
+    grid.InsertRow(row);
+    if (&grid != &record_.gridHops) return;
+    const RecipeDefaults defaults = host_.Defaults();
+    const auto last = static_cast<int>(kHopForms.size()) - 1;
+    const int form = std::clamp(defaults.hopForm, 0, last);
+    grid.SetText(row, HopCol::Form, kHopForms[static_cast<std::size_t>(form)].name);
+    grid.SetValue(row, HopCol::Form, CellValue::Of(form));
+    grid.SetChecked(row, HopCol::Sock, defaults.hopSocks);
+}
+
+void RecipeDocument::InsertRowForGrid(Grid& grid) {
+    if (!grid.RowsCanChange()) return;
+    const int row = host_.AppendRows() ? grid.EndOfData()
+                                       : std::clamp(grid.CurrentRow(), Grid::FixedRows(), grid.EndOfData());
+    AddBlankRow(grid, row);
+    grid.SetCurrent(row, grid.CurrentCol());
+    MarkChanged();
+    RefreshRowCommands();
+}
+
+void RecipeDocument::DeleteRowForGrid(Grid& grid) {
+    const int row = grid.CurrentRow();
+    if (!grid.RowsCanChange() || !grid.IsDataRow(row) || grid.DataRows() <= grid.LeastDataRows()) return;
+    ClearRowCells(grid, row);
+    grid.RemoveRow(row);
+    RecalculateAfterDelete(grid);
+    MarkChanged();
+    RefreshRowCommands();
+}
+
+void RecipeDocument::ClearRowCells(Grid& grid, int row) {
+    for (int col = 0; col < grid.Cols(); ++col)
+        if (CanEdit(grid, row, col) && !grid.IsCheckBox(row, col)) EditCell(grid, row, col, "", true);
+}
+
+void RecipeDocument::RecalculateAfterDelete(Grid& grid) {
+    if (&grid == &record_.gridGrain || &grid == &record_.gridExtract) {
+        calculator_.TotalPoints(grid);
+        calculator_.TotalHCU(grid);
+        calculator_.ShowGridTotal(grid);
+        calculator_.CalcOGAndColor();
+    } else if (&grid == &record_.gridHops) {
+        calculator_.TotalIBU(grid);
+        calculator_.ShowGridTotal(grid);
+        calculator_.ShowIBU();
+    } else if (&grid == &record_.gridTreatment) {
+        calculator_.RecalcTreatment();
+    } else if (&grid == &record_.gridPriming) {
+        calculator_.TotalPrimingVolumes();
+    }
+}
+
+}  // namespace tw

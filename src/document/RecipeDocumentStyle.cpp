@@ -1,0 +1,115 @@
+// The style of a recipe: the list, the choice, the ranges shown beside the figures.
+#include "document/RecipeDocument.h"
+#include "values/NumberText.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+struct RangeLabel {
+    Label RecipeRecord::*label;
+    const char* low;
+    const char* high;
+    const char* pattern;     // of a single value and of the upper end
+    const char* lowPattern;  // of the lower end of a range
+};
+
+constexpr RangeLabel kRangeLabels[] = {
+    {&RecipeRecord::lblOGStyle, "OG_LO", "OG_HI", "0.##0", "0.##0"},
+    {&RecipeRecord::lblFGStyle, "FG_LO", "FG_HI", "0.##0", "0.##0"},
+    {&RecipeRecord::lblABVStyle, "ABV_LO", "ABV_HI", "0.0 abv", "0.0"},
+    {&RecipeRecord::lblColorStyle, "COLOR_LO", "COLOR_HI", "0 SRM", "0"},
+    {&RecipeRecord::lblIBUStyle, "IBU_LO", "IBU_HI", "0", "0"},
+    {&RecipeRecord::lblCO2Style, "CO2_LO", "CO2_HI", "0.0", "0.0"},
+};
+
+std::string RangeText(const Field& low, const Field& high, const RangeLabel& label) {
+    if (low.IsNull() && high.IsNull()) return "";
+    if (low.IsNull()) return "<= " + FormatNumber(high.Number(), label.pattern);
+    if (high.IsNull()) return ">= " + FormatNumber(low.Number(), label.pattern);
+    if (low.Number() == high.Number()) return FormatNumber(low.Number(), label.pattern);
+    return FormatNumber(low.Number(), label.lowPattern) + " - " + FormatNumber(high.Number(), label.pattern);
+}
+
+}  // namespace
+
+void RecipeDocument::ReloadStyles() {
+    std::vector<ListBox::Entry> entries{{"(None)", 0}};
+    int selected = 0;
+    for (Recordset rs = database_.OpenRecordset("SELECT NAME, ID FROM STYLES ORDER BY 1"); !rs.AtEnd();
+         rs.MoveNext()) {
+        const std::int64_t id = rs.Fields(1).Integer();
+        if (id == styleId_) selected = static_cast<int>(entries.size());
+        entries.push_back({rs.Fields(0).Text(), id});
+    }
+    record_.cmbStyle.SetEntries(std::move(entries), selected);
+    if (selected == 0 && styleId_ != 0) {
+        styleId_ = 0;
+        EmptyStyleRanges();
+    }
+}
+
+void RecipeDocument::SetStyleID(std::int64_t id) {
+    styleId_ = id;
+    ReloadStyles();
+    if (styleId_ == 0)
+        EmptyStyleRanges();
+    else
+        ShowStyleRanges(styleId_);
+}
+
+void RecipeDocument::SelectStyle(int index) {
+    const auto& entries = record_.cmbStyle.Entries();
+    if (index < 0 || index >= static_cast<int>(entries.size())) return;
+    const std::int64_t id = entries[static_cast<std::size_t>(index)].itemData;
+    if (id == styleId_) return;
+    record_.cmbStyle.Select(index);
+    ChooseStyle(id);
+}
+
+bool RecipeDocument::ChangeStyle(std::string_view name) {
+    ReloadStyles();
+    const auto& entries = record_.cmbStyle.Entries();
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        if (!SameName(entries[i].text, name)) continue;
+        SelectStyle(static_cast<int>(i));
+        return true;
+    }
+    return false;
+}
+
+void RecipeDocument::ChooseStyle(std::int64_t id) {
+    styleId_ = id;
+    const std::optional<std::string> profile = id == 0 ? EmptyStyleRanges() : ShowStyleRanges(id);
+    Grid& water = record_.gridWater;
+    if (profile) {
+        EditCell(water, WaterRow::Target, WaterCol::Profile, Trim(*profile), true);
+    } else {
+        for (int col = WaterCol::Profile; col < water.Cols(); ++col) water.Clear(WaterRow::Target, col);
+        calculator_.UpdateTreatmentNeeded();
+    }
+    MarkChanged();
+}
+
+std::optional<std::string> RecipeDocument::ShowStyleRanges(std::int64_t id) {
+    Recordset rs = database_.OpenRecordset("SELECT * FROM STYLES WHERE ID = " + std::to_string(id));
+    if (rs.AtEnd()) {
+        styleId_ = 0;
+        return EmptyStyleRanges();
+    }
+    for (const RangeLabel& range : kRangeLabels) {
+        const Field low = rs.Fields(range.low);
+        const Field high = rs.Fields(range.high);
+        (record_.*range.label).SetText(RangeText(low, high, range));
+    }
+    const Field profile = rs.Fields("WATER_PROFILE");
+    if (profile.IsNull()) return std::nullopt;
+    return profile.Text();
+}
+
+std::optional<std::string> RecipeDocument::EmptyStyleRanges() {
+    for (const RangeLabel& range : kRangeLabels) (record_.*range.label).SetText("");
+    return std::nullopt;
+}
+
+}  // namespace tw
