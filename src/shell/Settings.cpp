@@ -1,0 +1,252 @@
+#include "shell/Settings.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <span>
+#include <variant>
+
+#include "platform/Error.h"
+#include "shell/RecentList.h"
+#include "values/NumberText.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+struct Real {
+    double Settings::*field;
+};
+// An integer of 16 or 32 bits, or a colour.
+struct Integer {
+    int Settings::*field;
+    int least = std::numeric_limits<std::int32_t>::min();
+    int most = std::numeric_limits<std::int32_t>::max();
+};
+struct Flag {
+    bool Settings::*field;
+    std::string_view yes = "True";
+    std::string_view no = "False";
+};
+struct TextValue {
+    std::string Settings::*field;
+};
+
+using FieldOf = std::variant<Real, Integer, Flag, TextValue>;
+
+struct KeyRow {
+    std::string_view key;
+    std::string_view fallback;
+    FieldOf field;
+};
+
+constexpr Integer Short(int Settings::*field) {
+    return {field, std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::int16_t>::max()};
+}
+constexpr Integer Long(int Settings::*field) {
+    return {field};
+}
+
+// All keys of the section in the order of reading.
+constexpr std::array kKeys = std::to_array<KeyRow>({
+    {"MainLeft", "1000", Real{&Settings::mainLeft}},
+    {"MainTop", "1000", Real{&Settings::mainTop}},
+    {"MainWidth", "6500", Real{&Settings::mainWidth}},
+    {"MainHeight", "6500", Real{&Settings::mainHeight}},
+    {"IconStyle", "0", Short(&Settings::iconStyle)},
+    {"ButtonStyle", "0", Short(&Settings::buttonStyle)},
+    {"ChildState", "0", Long(&Settings::childState)},
+    {"AppendRows", "False", Flag{&Settings::appendRows, "1", "0"}},
+    {"HopForm", "0", Short(&Settings::hopForm)},
+    {"HopSocks", "1", Flag{&Settings::hopSocks}},
+    {"HopExtraction", "1.0", TextValue{&Settings::hopExtraction}},
+    {"GrainExtraction", "40%", TextValue{&Settings::grainExtraction}},
+    {"WaterProfile", "", TextValue{&Settings::waterProfile}},
+    {"Packaging", "0", Short(&Settings::packaging)},
+    {"BoilVol", "", TextValue{&Settings::boilVol}},
+    {"TotalVol", "", TextValue{&Settings::totalVol}},
+    {"IBUMethod", "0", Short(&Settings::ibuMethod)},
+    {"ReportType", "0", Short(&Settings::reportType)},
+    {"CopyHeaders", "0", Flag{&Settings::copyHeaders}},
+    {"PasteMismatchSize", "0", Flag{&Settings::pasteMismatchSize}},
+    {"ShowAssistantAtStartup", "1", Flag{&Settings::showAssistantAtStartup}},
+    {"DoAutoSave", "0", Flag{&Settings::doAutoSave}},
+    {"DoAutoSaveEvery", "5", Short(&Settings::doAutoSaveEvery)},
+    {"AskBeforeNonUndoableChange", "1", Flag{&Settings::askBeforeNonUndoableChange}},
+    {"QuickPrintFromToolbar", "1", Flag{&Settings::quickPrintFromToolbar}},
+    {"GridReadOnlyBg", "65535", Long(&Settings::gridReadOnlyBg)},
+    {"GridTotalBg", "65280", Long(&Settings::gridTotalBg)},
+    {"GridReadOnlyFg", "1", Long(&Settings::gridReadOnlyFg)},
+    {"GridTotalFg", "1", Long(&Settings::gridTotalFg)},
+    {"LPMaxIter", "1000", Long(&Settings::lpMaxIter)},
+});
+
+using KeyRows = std::span<const KeyRow>;
+constexpr KeyRows kAllKeys{kKeys};
+constexpr KeyRows kGeometryKeys = kAllKeys.first(4);
+constexpr KeyRows kStyleKeys = kAllKeys.subspan(4, 2);
+constexpr KeyRows kWindowKeys = kAllKeys.first(6);
+constexpr KeyRows kProgramKeys = kAllKeys.subspan(6);
+constexpr KeyRows kColorKeys = kAllKeys.subspan(25, 4);
+constexpr KeyRows kPreferenceKeys = kAllKeys.subspan(6, 19);
+static_assert(kColorKeys.front().key == "GridReadOnlyBg" && kColorKeys.back().key == "GridTotalFg");
+
+// Reads the text into the field; false for a text of another form.
+struct Reader {
+    Settings& settings;
+    std::string_view text;
+
+    bool operator()(const Real& real) const {
+        double value = 0;
+        if (!ReadNumber(Trim(text), value)) return false;
+        settings.*real.field = value;
+        return true;
+    }
+    bool operator()(const Integer& integer) const {
+        double value = 0;
+        if (!ReadNumber(Trim(text), value)) return false;
+        value = std::round(value);
+        if (value < integer.least || value > integer.most) return false;
+        settings.*integer.field = static_cast<int>(value);
+        return true;
+    }
+    bool operator()(const Flag& flag) const {
+        double value = 0;
+        if (SameName(text, "True")) {
+            settings.*flag.field = true;
+        } else if (SameName(text, "False")) {
+            settings.*flag.field = false;
+        } else if (ReadNumber(Trim(text), value)) {
+            settings.*flag.field = value != 0;
+        } else {
+            return false;
+        }
+        return true;
+    }
+    bool operator()(const TextValue& value) const {
+        settings.*value.field = text;
+        return true;
+    }
+};
+
+struct Writer {
+    const Settings& settings;
+
+    std::string operator()(const Real& real) const { return NumberText(settings.*real.field); }
+    std::string operator()(const Integer& integer) const { return std::to_string(settings.*integer.field); }
+    std::string operator()(const Flag& flag) const {
+        return std::string(settings.*flag.field ? flag.yes : flag.no);
+    }
+    std::string operator()(const TextValue& value) const { return settings.*value.field; }
+};
+
+// A text of the wrong form, put there from outside, counts as not present.
+void TakeText(Settings& settings, const KeyRow& row, std::string_view text) {
+    bool read = false;
+    try {
+        read = std::visit(Reader{settings, text}, row.field);
+    } catch (const Error&) {
+        // More digits than a number can hold.
+    }
+    if (!read) std::visit(Reader{settings, row.fallback}, row.field);
+}
+
+void LoadKeys(Settings& settings, const SettingsStore& store, KeyRows rows) {
+    for (const KeyRow& row : rows) {
+        TakeText(settings, row, store.GetSetting(kSettingsSection, row.key, row.fallback));
+    }
+}
+
+void StoreKeys(const Settings& settings, const SettingsStore& store, KeyRows rows) {
+    for (const KeyRow& row : rows) {
+        store.SaveSetting(kSettingsSection, row.key, std::visit(Writer{settings}, row.field), false);
+    }
+}
+
+struct DefaultRow {
+    std::string_view key;
+    std::string_view fallback;
+};
+
+constexpr DefaultRow kTextOptions[] = {{"NumColumns", "75"}, {"PageBreak", "1"}, {"Append", "0"}};
+constexpr DefaultRow kHtmlOptions[] = {{"BGColor", "16777215"}, {"HorzRuler", "1"}};
+constexpr DefaultRow kRtfOptions[] = {
+    {"TitleBColor", "16777215"}, {"LabelBColor", "16777215"}, {"TextBColor", "16777215"}, {"PageBreak", "1"}};
+constexpr DefaultRow kFontOptions[] = {
+    {"TitleFont", "MS Sans Serif"},
+    {"TitleSize", "12"},
+    {"TitleBold", "1"},
+    {"TitleItalic", "0"},
+    {"TitleUnderline", "0"},
+    {"TitleStrikethru", "0"},
+    {"TitleColor", "0"},
+    {"LabelFont", "MS Sans Serif"},
+    {"LabelSize", "10"},
+    {"LabelBold", "1"},
+    {"LabelItalic", "0"},
+    {"LabelUnderline", "0"},
+    {"LabelStrikethru", "0"},
+    {"LabelColor", "0"},
+    {"TextFont", "MS Sans Serif"},
+    {"TextSize", "10"},
+    {"TextBold", "0"},
+    {"TextItalic", "0"},
+    {"TextUnderline", "0"},
+    {"TextStrikethru", "0"},
+    {"TextColor", "0"},
+};
+
+template <typename Rows>
+std::optional<std::string> FindDefault(const Rows& rows, std::string_view key) {
+    for (const auto& row : rows) {
+        if (row.key == key) return std::string(row.fallback);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> RecentDefault(std::string_view key) {
+    for (int slot = 0; slot < kMruCount; ++slot) {
+        if (key == "File" + std::to_string(slot)) return "";
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+void Settings::LoadWindowKeys(const SettingsStore& store) {
+    LoadKeys(*this, store, kWindowKeys);
+}
+
+void Settings::LoadProgramKeys(const SettingsStore& store) {
+    LoadKeys(*this, store, kProgramKeys);
+}
+
+void Settings::Store(const SettingsStore& store) const {
+    StoreKeys(*this, store, kPreferenceKeys);
+    StoreKeys(*this, store, kStyleKeys);
+    StoreKeys(*this, store, kColorKeys);
+}
+
+void Settings::StoreGeometry(const SettingsStore& store) const {
+    StoreKeys(*this, store, kGeometryKeys);
+}
+
+bool Settings::Take(std::string_view key, std::string_view text) {
+    const auto row = std::ranges::find(kKeys, key, &KeyRow::key);
+    if (row == kKeys.end()) return false;
+    TakeText(*this, *row, text);
+    return true;
+}
+
+std::optional<std::string> Settings::DefaultOf(std::string_view section, std::string_view key) {
+    if (section == kSettingsSection) return FindDefault(kKeys, key);
+    if (section == kMruSection) return RecentDefault(key);
+    if (section == "TextOptions") return FindDefault(kTextOptions, key);
+    const bool html = section == "HTMLOptions";
+    if (!html && section != "RTFOptions") return std::nullopt;
+    if (auto font = FindDefault(kFontOptions, key)) return font;
+    return html ? FindDefault(kHtmlOptions, key) : FindDefault(kRtfOptions, key);
+}
+
+}  // namespace tw

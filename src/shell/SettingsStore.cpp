@@ -1,0 +1,28 @@
+#include "shell/SettingsStore.h"
+
+#include <optional>
+
+namespace tw {
+namespace {
+
+// A value is read into 256 bytes that hold its terminator too.
+constexpr std::size_t kLongestValue = 255;
+
+}  // namespace
+
+std::string SettingsStore::GetSetting(std::string_view section, std::string_view key,
+                                      std::string_view fallback) const {
+    for (const auto layer : {SettingsPort::Layer::User, SettingsPort::Layer::Machine}) {
+        std::optional<std::string> value = port_.Read(layer, section, key);
+        if (value && value->size() <= kLongestValue) return std::move(*value);
+    }
+    return std::string(fallback);
+}
+
+void SettingsStore::SaveSetting(std::string_view section, std::string_view key, std::string_view value,
+                                bool machineWide) const {
+    if (machineWide && port_.Write(SettingsPort::Layer::Machine, section, key, value)) return;
+    port_.Write(SettingsPort::Layer::User, section, key, value);
+}
+
+}  // namespace tw

@@ -1,0 +1,178 @@
+// The program around the recipes: the connection to the database, the open documents, the commands, the
+// settings and the notices between them. The logic of the main window (frmMain) without the window.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "calc/BeerColor.h"
+#include "document/DocumentHost.h"
+#include "document/RecipeDocument.h"
+#include "platform/Ports.h"
+#include "shell/CommandBar.h"
+#include "shell/RecentList.h"
+#include "shell/Settings.h"
+#include "store/DB_IO.h"
+#include "store/Database.h"
+
+namespace tw {
+
+// The arrangements of the document windows.
+enum class Arrangement : int { Cascade, TileHorizontal, TileVertical };
+
+// The main window, as far as the logic needs it. Every call comes after the change.
+class ShellView {
+  public:
+    virtual ~ShellView() = default;
+    virtual void DocumentOpened(RecipeDocument&) {}
+    // The document still exists during the call.
+    virtual void DocumentClosing(RecipeDocument&) {}
+    // Shows and focuses that document's window, un-minimised; nullptr when none is left.
+    virtual void DocumentActivated(RecipeDocument*) {}
+    // Caption or changed state.
+    virtual void DocumentRenamed(const RecipeDocument&) {}
+    virtual void ArrangeDocuments(Arrangement) {}
+    // Ends the program (the close request has been granted, or the database could not be opened).
+    virtual void CloseMainWindow() {}
+};
+
+class Shell final : public DocumentHost, public DocumentCommands, public ObjectListener {
+  public:
+    explicit Shell(Platform& platform);
+    ~Shell() override;
+    void SetView(ShellView* view) { view_ = view; }
+
+    // Start-up. LoadWindowSettings runs while the window is made; PerformSplashScreenInit behind the splash:
+    // it reads the settings, fills the recent list and opens the database exclusively. False when that
+    // failed; its box has been shown then and the main window is told to close. ":memory:" opens an empty
+    // database of the full schema.
+    void LoadWindowSettings();
+    bool PerformSplashScreenInit(const std::string& databasePath);
+    // Tunwright.mdb in the program's folder.
+    static std::string DatabasePath(std::string_view programFolder);
+
+    // Shut-down. RequestExit asks every document and is false when the brewer called it off: the documents
+    // that have not been asked stay open. Unload writes the settings and the recent list and closes the
+    // database.
+    bool RequestExit();
+    void Unload(bool storeGeometry);
+
+    Settings& CurrentSettings() { return settings_; }
+    SettingsStore& Store() { return store_; }
+    CommandBar& Bar() { return bar_; }
+    RecentList& Recent() { return recent_; }
+    // Stores a setting for the user; one of the section "Settings" acts in the running program at once.
+    void StoreSetting(std::string_view section, std::string_view key, std::string_view text);
+    const ColorTable& Colors() const { return colors_; }
+    // nullptr before the database is open.
+    Database* DB() { return database_.get(); }
+
+    // Documents, in the order of their opening.
+    const std::vector<std::unique_ptr<RecipeDocument>>& Documents() const { return documents_; }
+    RecipeDocument* ActiveDocument() const { return active_; }
+    void Activate(RecipeDocument& document);
+    // Makes a new document (blank name), or one filled from the stored recipe of that name; it becomes the
+    // active one. A recipe that cannot be read raises and leaves no document behind. REQUIRES: the database
+    // is open and holds the recipe.
+    RecipeDocument& CreateDocumentWindow(std::string_view name);
+    // Opens the recipe, or focuses its open window with a beep when one has exactly that name; a name in
+    // another case opens a second window, on purpose.
+    void LoadDoc(std::string_view name);
+    // What choosing a name does, as the recent list: a box when there is no such recipe, otherwise LoadDoc of
+    // the trimmed name.
+    void OpenByName(std::string_view name);
+    // Asks about unsaved changes, then closes. False when called off.
+    bool CloseDocument(RecipeDocument& document);
+    // Removes the document from the collection without a question and destroys it. The document used before
+    // it becomes active; without one the document commands go dark.
+    void DeleteWindow(RecipeDocument& document);
+
+    // Both give whether the recipe was saved. An error is shown in a box titled "Error". silent asks nothing:
+    // a document that was never saved, or whose edited name is another recipe's, is passed over.
+    bool SaveRecipe(RecipeDocument& document, bool silent);
+    bool SaveRecipeAs(RecipeDocument& document);
+    // SaveRecipeAs with the answer of the dialog given. silent asks nothing.
+    bool SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId, bool silent);
+
+    // Runs a menu item's action by its name. False when it is disabled or hidden, or unknown: nothing happens
+    // then. An error that rises from the action is shown as Guard does.
+    bool RunMenu(std::string_view name);
+    // A toolbar button, by its key; likewise.
+    bool PressButton(std::string_view key);
+    // Cut and paste state again: the clipboard may have changed.
+    void ReapplyPasteState();
+
+    // Runs an operation and shows an error that rises from it in a box titled "Error": "{description}
+    // ({number})"; false then.
+    bool Guard(const std::function<void()>& operation);
+
+    // DocumentHost
+    DocumentCommands& Commands() override { return *this; }
+    bool IsActive(const RecipeDocument& document) const override { return active_ == &document; }
+    RecipeDefaults Defaults() const override;
+    bool AppendRows() const override;
+    void SetAppendRows(bool append);
+    void DeleteRecipe(std::string_view name) override;
+    void RecipeStored(std::string_view name) override;
+    void AddToMRU(std::string_view name) override;
+    void DocumentRenamed(const RecipeDocument& document) override;
+
+    // DocumentCommands
+    void EnableResizeRecipe(bool enabled) override;
+    void EnableChangeStrength(bool enabled) override;
+    void EnableChangeBitterness(bool enabled) override;
+    void EnableChangeCarbonation(bool enabled) override;
+    void EnableSave(bool enabled) override;
+    void EnableInsert(bool enabled) override;
+    void EnableDelete(bool enabled) override;
+    void EnableCopyPaste(bool enableCopy, bool enableCutPaste) override;
+    void EnableUndo(bool enabled, std::string_view description) override;
+    void EnableRedo(bool enabled, std::string_view description) override;
+    void CheckEnableSaveAll() override;
+    void CheckEnableDelete() override;
+    void EnableClose(bool enabled);
+    void EnableWindowMenu(bool enabled);
+
+    // ObjectListener
+    void NotifyRecipeDeleted(const std::string& name) override;
+
+  private:
+    using Action = std::function<void(Shell&)>;
+    bool OpenDatabase(const std::string& path);
+    // Empty for a name without an action.
+    static Action FindAction(std::string_view name);
+    bool RunAction(std::string_view name);
+    bool CloseAll();
+    void DarkenDocumentCommands();
+    // Runs a save; an error in it is shown and counts as not saved.
+    bool TrySave(const std::function<void(bool& ok)>& save);
+    void EnableCopy(bool enabled);
+    void EnablePaste(bool enabled);
+    // A menu item and its button.
+    void EnablePair(std::string_view item, std::string_view button, bool enabled);
+    void EnablePairWithTwin(std::string_view item, std::string_view button, bool enabled);
+    void ShowOpenDialog();
+    void SaveAllDocuments();
+
+    Platform& platform_;
+    SettingsStore store_;
+    Settings settings_;
+    CommandBar bar_;
+    RecentList recent_;
+    ColorTable colors_;
+    std::unique_ptr<Database> database_;
+    std::unique_ptr<DB_IO> objects_;
+    std::vector<std::unique_ptr<RecipeDocument>> documents_;
+    std::vector<RecipeDocument*> useOrder_;  // least recently active first
+    RecipeDocument* active_ = nullptr;
+    ShellView* view_ = nullptr;
+    int windowCounter_ = 0;
+    int nextDocKey_ = 0;
+    bool lastPasteEnable_ = false;
+};
+
+}  // namespace tw

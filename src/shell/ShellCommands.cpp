@@ -1,0 +1,208 @@
+// The commands of the shell: what a menu item or button does, and what the documents light and darken.
+#include <algorithm>
+#include <array>
+
+#include "shell/AboutModel.h"
+#include "shell/OpenSaveModel.h"
+#include "shell/Shell.h"
+
+namespace tw {
+
+namespace {
+
+bool IsEditItem(std::string_view name) {
+    return name.starts_with("mnuEdit");
+}
+
+}  // namespace
+
+Shell::Action Shell::FindAction(std::string_view name) {
+    struct Row {
+        std::string_view name;
+        void (*action)(Shell&);
+    };
+    static constexpr Row kActions[] = {
+        {"mnuFileNew", [](Shell& s) { s.CreateDocumentWindow(""); }},
+        {"mnuFileOpen", [](Shell& s) { s.ShowOpenDialog(); }},
+        {"mnuFileClose",
+         [](Shell& s) {
+             if (s.active_) s.CloseDocument(*s.active_);
+         }},
+        {"mnuFileCloseAll", [](Shell& s) { s.CloseAll(); }},
+        {"mnuFileSave",
+         [](Shell& s) {
+             if (s.active_) s.SaveRecipe(*s.active_, false);
+         }},
+        {"mnuFileSaveAs",
+         [](Shell& s) {
+             if (s.active_) s.SaveRecipeAs(*s.active_);
+         }},
+        {"mnuFileSaveAll", [](Shell& s) { s.SaveAllDocuments(); }},
+        {"mnuFileExit",
+         [](Shell& s) {
+             if (s.RequestExit() && s.view_) s.view_->CloseMainWindow();
+         }},
+        {"mnuEditInsert", [](Shell& s) { s.active_->InsertRow(); }},
+        {"mnuEditDelete", [](Shell& s) { s.active_->DeleteRow(); }},
+        {"mnuEditAppendFlag", [](Shell& s) { s.SetAppendRows(!s.AppendRows()); }},
+        {"mnuWindowCascade",
+         [](Shell& s) {
+             if (s.view_) s.view_->ArrangeDocuments(Arrangement::Cascade);
+         }},
+        {"mnuWindowTileHorizontal",
+         [](Shell& s) {
+             if (s.view_) s.view_->ArrangeDocuments(Arrangement::TileHorizontal);
+         }},
+        {"mnuWindowTileVertical",
+         [](Shell& s) {
+             if (s.view_) s.view_->ArrangeDocuments(Arrangement::TileVertical);
+         }},
+        {"mnuHelpAbout",
+         [](Shell& s) {
+             AboutModel about;
+             s.platform_.dialogs.ShowModal(about);
+         }},
+    };
+    const auto found = std::ranges::find(kActions, name, &Row::name);
+    if (found != std::end(kActions)) return found->action;
+    for (int slot = 0; slot < kMruCount; ++slot) {
+        if (name == RecentList::ItemName(slot)) {
+            return [slot](Shell& s) { s.OpenByName(s.recent_.NameOf(slot)); };
+        }
+    }
+    return {};
+}
+
+bool Shell::RunAction(std::string_view name) {
+    const Action action = FindAction(name);
+    // Without a database the program is about to end.
+    if (!action || !database_) return false;
+    // Every edit item is about the active document and does nothing without one.
+    if (IsEditItem(name) && !active_) return true;
+    Guard([&] { action(*this); });
+    return true;
+}
+
+bool Shell::RunMenu(std::string_view name) {
+    const MenuItem* item = bar_.FindItem(name);
+    return item && item->enabled && item->visible && RunAction(name);
+}
+
+bool Shell::PressButton(std::string_view key) {
+    const ToolButton* button = bar_.FindButton(key);
+    return button && button->enabled && RunAction(button->menuItem);
+}
+
+void Shell::ShowOpenDialog() {
+    OpenSaveModel dialog(OpenSaveModel::Style::Open, *database_, platform_.messages);
+    platform_.dialogs.ShowModal(dialog);
+    if (!dialog.Cancelled()) LoadDoc(dialog.BeerName());
+}
+
+void Shell::SaveAllDocuments() {
+    // One that cannot be saved does not keep the others from it.
+    for (std::size_t i = 0; i < documents_.size(); ++i) {
+        Guard([&] {
+            documents_[i]->FlushEdits();
+            SaveRecipe(*documents_[i], false);
+        });
+    }
+}
+
+void Shell::EnablePair(std::string_view item, std::string_view button, bool enabled) {
+    bar_.SetEnabled(item, enabled);
+    bar_.SetButtonEnabled(button, enabled);
+}
+
+void Shell::EnablePairWithTwin(std::string_view item, std::string_view button, bool enabled) {
+    bar_.SetEnabled(item, enabled);
+    bar_.SetButtonWithTwin(button, enabled);
+}
+
+void Shell::EnableResizeRecipe(bool enabled) {
+    EnablePair("mnuToolsResizeRecipe", "Volume", enabled);
+}
+void Shell::EnableChangeStrength(bool enabled) {
+    EnablePair("mnuToolsChangeStrength", "Strength", enabled);
+}
+void Shell::EnableChangeBitterness(bool enabled) {
+    EnablePair("mnuToolsChangeBitterness", "Bitterness", enabled);
+}
+void Shell::EnableChangeCarbonation(bool enabled) {
+    EnablePair("mnuToolsChangeCO2", "Carbonation", enabled);
+}
+void Shell::EnableInsert(bool enabled) {
+    EnablePair("mnuEditInsert", "Insert", enabled);
+}
+void Shell::EnableDelete(bool enabled) {
+    EnablePair("mnuEditDelete", "Delete", enabled);
+}
+
+void Shell::EnableSave(bool enabled) {
+    EnablePairWithTwin("mnuFileSave", "Save", enabled);
+    CheckEnableSaveAll();
+}
+
+void Shell::EnableCopyPaste(bool enableCopy, bool enableCutPaste) {
+    EnableCopy(enableCopy);
+    EnablePaste(enableCutPaste);
+    lastPasteEnable_ = enableCutPaste;
+}
+
+void Shell::EnableCopy(bool enabled) {
+    bar_.SetEnabled("mnuEditSelectAll", enabled);
+    EnablePairWithTwin("mnuEditCopy", "Copy", enabled);
+}
+
+void Shell::EnablePaste(bool enabled) {
+    bar_.SetEnabled("mnuEditClear", enabled);
+    EnablePair("mnuEditCut", "Cut", enabled);
+    EnablePairWithTwin("mnuEditPaste", "Paste", enabled && platform_.clipboard.HasText());
+}
+
+void Shell::ReapplyPasteState() {
+    EnablePaste(lastPasteEnable_);
+}
+
+void Shell::EnableUndo(bool enabled, std::string_view description) {
+    bar_.SetCaption("mnuEditUndo", "&Undo " + std::string(description));
+    EnablePair("mnuEditUndo", "Undo", enabled);
+}
+
+void Shell::EnableRedo(bool enabled, std::string_view description) {
+    bar_.SetCaption("mnuEditRedo", "&Redo " + std::string(description));
+    EnablePair("mnuEditRedo", "Redo", enabled);
+}
+
+void Shell::EnableClose(bool enabled) {
+    bar_.SetEnabled("mnuFileClose", enabled);
+    bar_.SetEnabled("mnuFileCloseAll", enabled);
+    bar_.SetEnabled("mnuFileSaveAs", enabled);
+    EnablePairWithTwin("mnuFilePrint", "Print", enabled);
+}
+
+void Shell::EnableWindowMenu(bool enabled) {
+    bar_.SetEnabled("mnuWindowCascade", enabled);
+    bar_.SetEnabled("mnuWindowTileHorizontal", enabled);
+    bar_.SetEnabled("mnuWindowTileVertical", enabled);
+}
+
+void Shell::CheckEnableSaveAll() {
+    bar_.SetEnabled("mnuFileSaveAll", std::ranges::any_of(documents_, [](const auto& document) {
+                        return document->Changed();
+                    }));
+}
+
+void Shell::CheckEnableDelete() {
+    const bool anyRecipe = !database_->OpenRecordset("SELECT * FROM RECIPES").AtEnd();
+    // Compared with mnuFileDelete alone, on purpose: at a start with recipes mnuFilePrint stays off, and with
+    // the first recipe it goes on, also without an open document.
+    if (bar_.Wanted("mnuFileDelete") == anyRecipe) return;
+    bar_.SetEnabled("mnuFileDelete", anyRecipe);
+    bar_.SetEnabled("mnuFilePrint", anyRecipe);
+    bar_.SetEnabled("mnuFileOpen", anyRecipe);
+    bar_.SetEnabled("mnuFileExport", anyRecipe);
+    bar_.SetButtonEnabled("Open", anyRecipe);
+}
+
+}  // namespace tw

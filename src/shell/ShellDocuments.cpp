@@ -1,0 +1,179 @@
+// The open documents of the shell: how they come, go, are saved, and hear of what happens in the database.
+#include <algorithm>
+
+#include "shell/OpenSaveModel.h"
+#include "shell/Shell.h"
+#include "store/RecipeRows.h"
+#include "values/Text.h"
+
+namespace tw {
+
+void Shell::Activate(RecipeDocument& document) {
+    if (active_ != &document) {
+        active_ = &document;
+        std::erase(useOrder_, &document);
+        useOrder_.push_back(&document);
+        document.Activate();
+    }
+    if (view_) view_->DocumentActivated(&document);
+}
+
+RecipeDocument& Shell::CreateDocumentWindow(std::string_view name) {
+    // The counter rises for every window, so that untitled numbers skip where recipes were opened: intended.
+    ++windowCounter_;
+    documents_.push_back(
+        std::make_unique<RecipeDocument>(*this, platform_, *database_, colors_, windowCounter_));
+    RecipeDocument& document = *documents_.back();
+    document.SetKey(std::to_string(nextDocKey_++));
+    EnableClose(true);
+    EnableWindowMenu(true);
+    if (view_) view_->DocumentOpened(document);
+    Activate(document);
+    if (IsBlank(name)) return document;
+    try {
+        document.OpenRecipe(name);
+    } catch (...) {
+        // A recipe that was read in part must never be saved over the whole one.
+        DeleteWindow(document);
+        throw;
+    }
+    return document;
+}
+
+void Shell::LoadDoc(std::string_view name) {
+    const auto open =
+        std::ranges::find_if(documents_, [&](const auto& document) { return document->OrigName() == name; });
+    if (open == documents_.end()) {
+        CreateDocumentWindow(name);
+        return;
+    }
+    Activate(**open);
+    platform_.messages.Beep();
+}
+
+void Shell::OpenByName(std::string_view name) {
+    const std::string trimmed(Trim(name));
+    if (!RecipeExists(*database_, trimmed)) {
+        platform_.messages.ShowMessage("Could not find recipe", "Recipe '" + trimmed + "' no longer exists!");
+        return;
+    }
+    LoadDoc(trimmed);
+}
+
+bool Shell::CloseDocument(RecipeDocument& document) {
+    // An entry that is still being typed counts, so that it is asked about.
+    if (!Guard([&] { document.FlushEdits(); })) return false;
+    if (document.Changed()) {
+        Activate(document);
+        const std::string question =
+            "Recipe '" + document.BeerName() + "' has changed. Do you wish to save your changes?";
+        const Answer answer = platform_.messages.Ask("Unsaved Changes", question, Question::YesNoCancel);
+        if (answer == Answer::Yes) {
+            // A save that could not write its rows reports success and leaves the document changed.
+            if (!SaveRecipe(document, false) || document.Changed()) return false;
+        } else if (answer != Answer::No) {
+            return false;
+        }
+    }
+    DeleteWindow(document);
+    return true;
+}
+
+void Shell::DeleteWindow(RecipeDocument& document) {
+    if (view_) view_->DocumentClosing(document);
+    std::erase(useOrder_, &document);
+    const bool wasActive = active_ == &document;
+    if (wasActive) active_ = nullptr;
+    std::erase_if(documents_, [&](const auto& open) { return open.get() == &document; });
+    if (documents_.empty()) {
+        DarkenDocumentCommands();
+        if (view_) view_->DocumentActivated(nullptr);
+    } else if (wasActive) {
+        Activate(*useOrder_.back());
+    } else {
+        CheckEnableSaveAll();
+    }
+}
+
+void Shell::DarkenDocumentCommands() {
+    EnableClose(false);
+    EnableWindowMenu(false);
+    EnableSave(false);
+    EnableInsert(false);
+    EnableDelete(false);
+    EnableCopyPaste(false, false);
+    EnableUndo(false, "");
+    EnableRedo(false, "");
+    EnableResizeRecipe(false);
+    EnableChangeStrength(false);
+    EnableChangeBitterness(false);
+    EnableChangeCarbonation(false);
+}
+
+bool Shell::TrySave(const std::function<void(bool& ok)>& save) {
+    bool ok = false;
+    try {
+        save(ok);
+    } catch (const Error& error) {
+        platform_.messages.ShowMessage("Error", "Error during save:\r\n" + error.WithNumber());
+        return false;
+    }
+    return ok;
+}
+
+bool Shell::SaveRecipe(RecipeDocument& document, bool silent) {
+    if (IsBlank(document.BeerName()) || document.FolderID() < 0) return !silent && SaveRecipeAs(document);
+    return TrySave([&](bool& ok) {
+        document.FlushEdits();
+        const bool renamed = !SameName(document.BeerName(), document.OrigName());
+        if (silent && renamed && RecipeExists(*database_, document.BeerName())) return;
+        document.Save(false, silent, ok);
+    });
+}
+
+bool Shell::SaveRecipeAs(RecipeDocument& document) {
+    std::unique_ptr<OpenSaveModel> dialog;
+    const bool shown = TrySave([&](bool& ok) {
+        document.FlushEdits();
+        dialog = std::make_unique<OpenSaveModel>(OpenSaveModel::Style::Save, *database_, platform_.messages);
+        dialog->SetRecipe(document.Caption(), document.FolderID());
+        platform_.dialogs.ShowModal(*dialog);
+        ok = true;
+    });
+    if (!shown || dialog->Cancelled()) return false;
+    return SaveRecipeUnder(document, dialog->BeerName(), dialog->FolderID(), true);
+}
+
+bool Shell::SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId,
+                            bool silent) {
+    return TrySave([&](bool& ok) {
+        document.FlushEdits();
+        document.SaveRecipeAs(name, folderId, silent, ok);
+    });
+}
+
+void Shell::DeleteRecipe(std::string_view name) {
+    objects_->DeleteRecipeByName(Trim(name));
+    CheckEnableDelete();
+}
+
+void Shell::RecipeStored(std::string_view name) {
+    objects_->AddRecipeNodesByName(name);
+    CheckEnableDelete();
+}
+
+void Shell::AddToMRU(std::string_view name) {
+    recent_.Add(name);
+}
+
+void Shell::DocumentRenamed(const RecipeDocument& document) {
+    CheckEnableSaveAll();
+    if (view_) view_->DocumentRenamed(document);
+}
+
+void Shell::NotifyRecipeDeleted(const std::string& name) {
+    recent_.Remove(name);
+    for (const auto& document : documents_) document->NotifyRecipeDeleted(name);
+}
+
+}  // namespace tw

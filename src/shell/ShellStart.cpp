@@ -1,0 +1,131 @@
+// Start-up, shut-down and the settings of the shell.
+#include "calc/RecipeRecord.h"
+#include "shell/Shell.h"
+#include "store/Schema.h"
+
+namespace tw {
+
+namespace {
+
+constexpr std::string_view kInMemory = ":memory:";
+
+std::unique_ptr<Database> OpenRecipeDatabase(const std::string& path) {
+    if (path == kInMemory) return Database::CreateInMemory();
+    auto database = Database::OpenDatabase(path, true);
+    CheckSchema(*database);
+    return database;
+}
+
+// index, or the first choice when a stored number names none of the choices.
+int ChoiceOf(int index, int choices) {
+    return index >= 0 && index < choices ? index : 0;
+}
+
+constexpr int kIbuMethods = 3;
+constexpr int kPackagings = 2;
+
+}  // namespace
+
+Shell::Shell(Platform& platform) : platform_(platform), store_(platform.settings), recent_(bar_) {}
+
+Shell::~Shell() = default;
+
+void Shell::LoadWindowSettings() {
+    settings_.LoadWindowKeys(store_);
+}
+
+bool Shell::PerformSplashScreenInit(const std::string& databasePath) {
+    settings_.LoadProgramKeys(store_);
+    SetAppendRows(settings_.appendRows);
+    recent_.Load(store_);
+    bar_.SetVisible("mnuFileBar7", !recent_.Captions().empty());
+    if (!OpenDatabase(databasePath)) return false;
+    CheckEnableDelete();
+    nextDocKey_ = 0;
+    return true;
+}
+
+bool Shell::OpenDatabase(const std::string& path) {
+    try {
+        database_ = OpenRecipeDatabase(path);
+    } catch (const Error& error) {
+        platform_.messages.ShowMessage("Fatal Error",
+                                       error.Description() + "\r\nCould not open Tunwright database!");
+        if (view_) view_->CloseMainWindow();
+        return false;
+    }
+    objects_ = std::make_unique<DB_IO>(*database_, platform_.clock, *this);
+    return true;
+}
+
+std::string Shell::DatabasePath(std::string_view programFolder) {
+    std::string path(programFolder);
+    if (!path.empty() && path.back() != '/') path += '/';
+    return path + "Tunwright.mdb";
+}
+
+bool Shell::CloseAll() {
+    // A document that refuses leaves the others unasked.
+    while (!documents_.empty()) {
+        if (!CloseDocument(*documents_.front())) return false;
+    }
+    return true;
+}
+
+bool Shell::RequestExit() {
+    return CloseAll();
+}
+
+void Shell::Unload(bool storeGeometry) {
+    settings_.appendRows = AppendRows();
+    if (storeGeometry) settings_.StoreGeometry(store_);
+    settings_.Store(store_);
+    recent_.Store(store_);
+    while (!documents_.empty()) DeleteWindow(*documents_.back());
+    objects_.reset();
+    database_.reset();
+}
+
+void Shell::StoreSetting(std::string_view section, std::string_view key, std::string_view text) {
+    store_.SaveSetting(section, key, text, false);
+    if (section != kSettingsSection || !settings_.Take(key, text)) return;
+    if (key == "AppendRows") SetAppendRows(settings_.appendRows);
+}
+
+RecipeDefaults Shell::Defaults() const {
+    RecipeDefaults defaults;
+    defaults.grainExtraction = settings_.grainExtraction;
+    defaults.hopExtraction = settings_.hopExtraction;
+    defaults.waterProfile = settings_.waterProfile;
+    defaults.boilVol = settings_.boilVol;
+    defaults.totalVol = settings_.totalVol;
+    defaults.ibuMethod = ChoiceOf(settings_.ibuMethod, kIbuMethods);
+    defaults.packaging = ChoiceOf(settings_.packaging, kPackagings);
+    defaults.hopForm = ChoiceOf(settings_.hopForm, static_cast<int>(kHopForms.size()));
+    defaults.hopSocks = settings_.hopSocks;
+    return defaults;
+}
+
+bool Shell::AppendRows() const {
+    return bar_.FindItem("mnuEditAppendFlag")->checked;
+}
+
+void Shell::SetAppendRows(bool append) {
+    bar_.SetChecked("mnuEditAppendFlag", append);
+}
+
+bool Shell::Guard(const std::function<void()>& operation) {
+    std::string text;
+    try {
+        operation();
+        return true;
+    } catch (const Error& error) {
+        text = error.WithNumber();
+    } catch (const std::exception& error) {
+        text = error.what();
+    }
+    platform_.messages.ShowMessage("Error", text);
+    return false;
+}
+
+}  // namespace tw

@@ -1,0 +1,282 @@
+#include "shell/AboutModel.h"
+#include "shell/ShellTest.h"
+
+namespace tw::test {
+namespace {
+
+TEST_F(ShellTest, EveryLitCommandHasAnAction) {
+    RecipeDocument& document = NewSaved("Pale Ale");
+    document.SetTab(Tab::Adjuncts);
+    const std::vector<MenuItem> items = bar().Items();
+    for (const MenuItem& item : items) {
+        if (item.IsSeparator() || !item.visible || !item.enabled || item.name == "mnuFileExit" ||
+            item.name.starts_with("mnuFileClose") || item.name == "mnuFileNew") {
+            continue;
+        }
+        EXPECT_TRUE(shell.RunMenu(item.name)) << item.name;
+    }
+    outside.messages.answers = {Answer::No};
+    EXPECT_TRUE(shell.RunMenu("mnuFileCloseAll"));
+    EXPECT_TRUE(shell.Documents().empty());
+}
+
+TEST_F(ShellTest, WhatIsOffHiddenOrUnknownDoesNothing) {
+    EXPECT_FALSE(shell.RunMenu("mnuFileClose"));      // off
+    EXPECT_FALSE(shell.RunMenu("mnuFileReport"));     // hidden
+    EXPECT_FALSE(shell.RunMenu("mnuEditWaterCalc"));  // hidden
+    EXPECT_FALSE(shell.RunMenu("mnuToolsOptions"));   // not built
+    EXPECT_FALSE(shell.RunMenu("mnuFileBar0"));
+    EXPECT_FALSE(shell.RunMenu("mnuFile"));
+    EXPECT_FALSE(shell.RunMenu("mnuNothing"));
+    EXPECT_FALSE(shell.PressButton("Save"));
+    EXPECT_FALSE(shell.PressButton("Nothing"));
+    EXPECT_TRUE(shell.Documents().empty());
+}
+
+TEST_F(ShellTest, AButtonRunsTheActionOfItsItem) {
+    EXPECT_TRUE(shell.PressButton("New"));
+    EXPECT_EQ(Captions(), Strings{"Untitled 1"});
+}
+
+TEST_F(ShellTest, AnErrorInACommandIsShown) {
+    NewSaved("Pale Ale");
+    shell.DB()->SetStatementHook([](std::string_view) { throw Error("Database", "disk gone", 10); });
+    EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));
+    EXPECT_EQ(outside.messages.log, Strings{"[Error] disk gone (10)"});
+}
+
+TEST_F(ShellTest, GuardShowsAnyErrorAndTellsOfIt) {
+    EXPECT_TRUE(shell.Guard([] {}));
+    EXPECT_FALSE(shell.Guard([] { RaiseOverflow(); }));
+    EXPECT_FALSE(shell.Guard([] { throw std::runtime_error("odd"); }));
+    EXPECT_EQ(outside.messages.log, (Strings{"[Error] Overflow (6)", "[Error] odd"}));
+}
+
+TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem) {
+    constexpr std::string_view commands[] = {
+        "mnuFileClose",     "mnuFileCloseAll",         "mnuFileSaveAs",
+        "mnuWindowCascade", "mnuWindowTileHorizontal", "mnuWindowTileVertical"};
+    for (const std::string_view item : commands) EXPECT_FALSE(Lit(item)) << item;
+    RecipeDocument& document = shell.CreateDocumentWindow("");
+    for (const std::string_view item : commands) EXPECT_TRUE(Lit(item)) << item;
+    EXPECT_TRUE(bar().Wanted("mnuFilePrint"));
+    EXPECT_TRUE(bar().FindButton("Print")->wanted);
+    document.SetTab(Tab::Adjuncts);
+    document.SetText(document.Record().txtNotes, "x");
+    EXPECT_TRUE(Lit("mnuFileSave"));
+    EXPECT_TRUE(Lit("mnuFileSaveAll"));
+    EXPECT_TRUE(Lit("mnuEditInsert"));
+    EXPECT_EQ(Button("Save").image, "Save");
+    outside.messages.answers = {Answer::No};
+    EXPECT_TRUE(shell.CloseDocument(document));
+    for (const std::string_view item : commands) EXPECT_FALSE(Lit(item)) << item;
+    for (const char* item : {"mnuFileSave", "mnuFileSaveAll", "mnuFilePrint", "mnuEditInsert",
+                             "mnuEditDelete", "mnuEditCopy", "mnuEditSelectAll", "mnuEditCut", "mnuEditClear",
+                             "mnuEditPaste", "mnuEditUndo", "mnuEditRedo", "mnuToolsResizeRecipe",
+                             "mnuToolsChangeStrength", "mnuToolsChangeBitterness", "mnuToolsChangeCO2"}) {
+        EXPECT_FALSE(bar().Wanted(item)) << item;
+    }
+    for (const char* key : {"Save", "Insert", "Delete"}) EXPECT_FALSE(Button(key).enabled) << key;
+    EXPECT_EQ(Button("Save").image, "SaveTransparent");
+    EXPECT_EQ(bar().FindItem("mnuEditUndo")->caption, "&Undo ");
+}
+
+// Closing the last document leaves these to the stored recipes alone.
+TEST_F(ShellTest, OpenAndExportFollowTheStoredRecipesNotTheDocuments) {
+    RecipeDocument& document = NewSaved("Pale Ale");
+    EXPECT_TRUE(shell.CloseDocument(document));
+    EXPECT_TRUE(Lit("mnuFileOpen"));
+    EXPECT_TRUE(Button("Open").enabled);
+    EXPECT_TRUE(bar().Wanted("mnuFileExport"));
+    EXPECT_TRUE(bar().Wanted("mnuFileDelete"));
+    EXPECT_FALSE(bar().Wanted("mnuFilePrint"));
+    shell.DeleteRecipe("Pale Ale");
+    EXPECT_FALSE(Lit("mnuFileOpen"));
+    EXPECT_FALSE(Button("Open").enabled);
+    EXPECT_FALSE(bar().Wanted("mnuFileExport"));
+}
+
+// Intended: the first recipe turns Print on even while no document is open.
+TEST_F(ShellTest, TheFirstRecipeTurnsPrintOnWithoutADocument) {
+    AddRecipeRow(*shell.DB(), "Pale Ale");
+    shell.CheckEnableDelete();
+    EXPECT_TRUE(bar().Wanted("mnuFilePrint"));
+    EXPECT_FALSE(bar().FindButton("Print")->wanted);
+}
+
+// Intended: the comparison is made with mnuFileDelete alone.
+TEST_F(ShellTest, NothingIsTouchedWhileDeleteIsAsItShouldBe) {
+    AddRecipeRow(*shell.DB(), "Pale Ale");
+    shell.CheckEnableDelete();
+    shell.Bar().SetEnabled("mnuFilePrint", false);
+    shell.Bar().SetEnabled("mnuFileOpen", false);
+    shell.CheckEnableDelete();
+    EXPECT_FALSE(bar().Wanted("mnuFilePrint"));
+    EXPECT_FALSE(bar().Wanted("mnuFileOpen"));
+}
+
+TEST_F(ShellTest, TheFirstSaveLightsTheRecipeCommands) {
+    EXPECT_FALSE(Lit("mnuFileOpen"));
+    NewSaved("Pale Ale");
+    EXPECT_TRUE(Lit("mnuFileOpen"));
+    EXPECT_TRUE(bar().Wanted("mnuFileDelete"));
+}
+
+TEST_F(ShellTest, SaveAllIsOnExactlyWhileSomeDocumentIsChanged) {
+    RecipeDocument& first = NewSaved("One");
+    RecipeDocument& second = NewSaved("Two");
+    EXPECT_FALSE(Lit("mnuFileSaveAll"));
+    first.SetText(first.Record().txtNotes, "x");
+    EXPECT_TRUE(Lit("mnuFileSaveAll"));
+    EXPECT_FALSE(Lit("mnuFileSave"));  // the active one is clean
+    shell.Activate(first);
+    EXPECT_TRUE(Lit("mnuFileSave"));
+    shell.Activate(second);
+    EXPECT_FALSE(Lit("mnuFileSave"));
+    EXPECT_TRUE(shell.SaveRecipe(first, false));
+    EXPECT_FALSE(Lit("mnuFileSaveAll"));
+}
+
+TEST_F(ShellTest, EachOperationLightsItsItemAndItsButton) {
+    struct Pair {
+        void (Shell::*enable)(bool);
+        const char* item;
+        const char* button;
+    };
+    const Pair pairs[] = {
+        {&Shell::EnableSave, "mnuFileSave", "Save"},
+        {&Shell::EnableInsert, "mnuEditInsert", "Insert"},
+        {&Shell::EnableDelete, "mnuEditDelete", "Delete"},
+        {&Shell::EnableResizeRecipe, "mnuToolsResizeRecipe", "Volume"},
+        {&Shell::EnableChangeStrength, "mnuToolsChangeStrength", "Strength"},
+        {&Shell::EnableChangeBitterness, "mnuToolsChangeBitterness", "Bitterness"},
+        {&Shell::EnableChangeCarbonation, "mnuToolsChangeCO2", "Carbonation"},
+    };
+    for (const Pair& pair : pairs) {
+        for (const bool on : {true, false}) {
+            (shell.*pair.enable)(on);
+            EXPECT_EQ(bar().Wanted(pair.item), on) << pair.item;
+            EXPECT_EQ(Button(pair.button).wanted, on) << pair.button;
+        }
+    }
+}
+
+TEST_F(ShellTest, UndoAndRedoShowTheirDescriptionAlways) {
+    shell.EnableUndo(false, "Typing");
+    shell.EnableRedo(true, "Insert Row");
+    EXPECT_EQ(bar().FindItem("mnuEditUndo")->caption, "&Undo Typing");
+    EXPECT_EQ(bar().FindItem("mnuEditRedo")->caption, "&Redo Insert Row");
+    EXPECT_FALSE(bar().Wanted("mnuEditUndo"));
+    EXPECT_TRUE(bar().Wanted("mnuEditRedo"));
+    EXPECT_TRUE(Button("Redo").wanted);
+}
+
+TEST_F(ShellTest, CopyAndPasteLightTheirCommands) {
+    outside.clipboard.text = "x";
+    shell.EnableCopyPaste(true, false);
+    EXPECT_TRUE(bar().Wanted("mnuEditCopy"));
+    EXPECT_TRUE(bar().Wanted("mnuEditSelectAll"));
+    EXPECT_TRUE(Button("Copy").wanted);
+    EXPECT_FALSE(bar().Wanted("mnuEditCut"));
+    EXPECT_FALSE(bar().Wanted("mnuEditPaste"));
+    shell.EnableCopyPaste(false, true);
+    EXPECT_FALSE(bar().Wanted("mnuEditCopy"));
+    for (const char* item : {"mnuEditCut", "mnuEditClear", "mnuEditPaste"})
+        EXPECT_TRUE(bar().Wanted(item)) << item;
+    EXPECT_TRUE(Button("Cut").wanted);
+    EXPECT_TRUE(Button("Paste").wanted);
+}
+
+TEST_F(ShellTest, PasteStaysOffWhileTheClipboardHoldsNoText) {
+    shell.EnableCopyPaste(true, true);
+    EXPECT_TRUE(bar().Wanted("mnuEditCut"));
+    EXPECT_FALSE(bar().Wanted("mnuEditPaste"));
+    EXPECT_FALSE(Button("Paste").wanted);
+    outside.clipboard.text = "from elsewhere";
+    shell.ReapplyPasteState();
+    EXPECT_TRUE(bar().Wanted("mnuEditPaste"));
+    EXPECT_TRUE(Button("Paste").wanted);
+    outside.clipboard.text.reset();
+    shell.ReapplyPasteState();
+    EXPECT_FALSE(bar().Wanted("mnuEditPaste"));
+    EXPECT_TRUE(bar().Wanted("mnuEditCut"));
+}
+
+TEST_F(ShellTest, ReapplyingKeepsWhatTheDocumentRefused) {
+    outside.clipboard.text = "x";
+    shell.EnableCopyPaste(true, false);
+    shell.ReapplyPasteState();
+    EXPECT_FALSE(bar().Wanted("mnuEditPaste"));
+    EXPECT_FALSE(bar().Wanted("mnuEditCut"));
+}
+
+// Intended: every edit item is about the active document, the append flag too.
+TEST_F(ShellTest, TheAppendFlagTogglesWhileADocumentIsOpen) {
+    EXPECT_TRUE(shell.RunMenu("mnuEditAppendFlag"));
+    EXPECT_FALSE(shell.AppendRows());
+    shell.CreateDocumentWindow("");
+    EXPECT_TRUE(shell.RunMenu("mnuEditAppendFlag"));
+    EXPECT_TRUE(shell.AppendRows());
+    EXPECT_TRUE(bar().FindItem("mnuEditAppendFlag")->checked);
+    EXPECT_TRUE(shell.RunMenu("mnuEditAppendFlag"));
+    EXPECT_FALSE(shell.AppendRows());
+}
+
+TEST_F(ShellTest, InsertAndDeleteActOnTheActiveDocument) {
+    RecipeDocument& document = shell.CreateDocumentWindow("");
+    document.SetTab(Tab::Adjuncts);
+    const int before = document.Record().gridAdjuncts.Rows();
+    EXPECT_TRUE(shell.RunMenu("mnuEditInsert"));
+    EXPECT_EQ(document.Record().gridAdjuncts.Rows(), before + 1);
+}
+
+TEST_F(ShellTest, TheWindowMenuArranges) {
+    shell.CreateDocumentWindow("");
+    view.log.clear();
+    EXPECT_TRUE(shell.RunMenu("mnuWindowCascade"));
+    EXPECT_TRUE(shell.RunMenu("mnuWindowTileHorizontal"));
+    EXPECT_TRUE(shell.RunMenu("mnuWindowTileVertical"));
+    EXPECT_EQ(view.log, (Strings{"arrange 0", "arrange 1", "arrange 2"}));
+}
+
+TEST_F(ShellTest, CloseAllStopsAtTheFirstRefusal) {
+    NewNamed("One");
+    shell.CreateDocumentWindow("");
+    EXPECT_TRUE(shell.RunMenu("mnuFileCloseAll"));
+    EXPECT_EQ(shell.Documents().size(), 2u);
+    outside.messages.answers = {Answer::No};
+    EXPECT_TRUE(shell.RunMenu("mnuFileCloseAll"));
+    EXPECT_TRUE(shell.Documents().empty());
+}
+
+TEST_F(ShellTest, OpenTakesTheNameOfTheDialog) {
+    RecipeDocument& document = NewSaved("Pale Ale");
+    EXPECT_TRUE(shell.CloseDocument(document));
+    outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+        dialog.SetControl("txtName", "Pale Ale");
+        dialog.Press("cmdOK");
+    });
+    EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));
+    EXPECT_EQ(Captions(), Strings{"Pale Ale"});
+    EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));  // cancelled
+    EXPECT_EQ(shell.Documents().size(), 1u);
+}
+
+TEST_F(ShellTest, TheAboutWindowTellsTitleAndVersion) {
+    outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+        EXPECT_EQ(dialog.FormName(), "frmAbout");
+        ASSERT_EQ(dialog.Controls().size(), 2u);
+        EXPECT_EQ(dialog.Controls()[0].text, "Tunwright");
+        EXPECT_EQ(dialog.Controls()[1].text, "Version 1.0.0");
+        EXPECT_FALSE(dialog.SetControl("lblTitle", "x"));
+        EXPECT_FALSE(dialog.Press("cmdCancel"));
+        EXPECT_TRUE(dialog.IsOpen());
+        EXPECT_TRUE(dialog.Press("cmdOK"));
+        EXPECT_FALSE(dialog.IsOpen());
+    });
+    EXPECT_TRUE(shell.RunMenu("mnuHelpAbout"));
+    EXPECT_EQ(outside.dialogs.shown, Strings{"frmAbout"});
+}
+
+}  // namespace
+}  // namespace tw::test

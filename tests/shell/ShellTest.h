@@ -1,0 +1,104 @@
+// A started shell on an empty database in memory, with a recording platform and view.
+#pragma once
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/Shell.h"
+#include "support/RecordingPlatform.h"
+
+namespace tw::test {
+
+class RecordingView : public ShellView {
+  public:
+    void DocumentOpened(RecipeDocument& document) override { log.push_back("opened " + document.Key()); }
+    void DocumentClosing(RecipeDocument& document) override { log.push_back("closing " + document.Key()); }
+    void DocumentActivated(RecipeDocument* document) override {
+        log.push_back("activated " + (document ? document->Key() : "none"));
+    }
+    void ArrangeDocuments(Arrangement arrangement) override {
+        log.push_back("arrange " + std::to_string(static_cast<int>(arrangement)));
+    }
+    void CloseMainWindow() override { log.emplace_back("close main window"); }
+
+    std::vector<std::string> log;
+};
+
+// Adds a bare recipe row, as another program's import might leave it.
+inline void AddRecipeRow(Database& database, const std::string& name) {
+    database.Execute("INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES (" + SqlText(name) + ", 0, 0)");
+}
+
+inline std::vector<std::string> RecipeNames(Database& database) {
+    std::vector<std::string> names;
+    for (Recordset rows = database.OpenRecordset("SELECT NAME FROM RECIPES ORDER BY NAME"); !rows.AtEnd();
+         rows.MoveNext()) {
+        names.push_back(rows.Fields(0).Text());
+    }
+    return names;
+}
+
+// A folder of its own for one test, removed with everything in it.
+class ScratchFolder {
+  public:
+    ScratchFolder() {
+        const auto* info = testing::UnitTest::GetInstance()->current_test_info();
+        path_ = std::filesystem::path(testing::TempDir()) /
+                (std::string("tunwright_") + info->test_suite_name() + "_" + info->name());
+        std::filesystem::remove_all(path_);
+        std::filesystem::create_directories(path_);
+    }
+    ~ScratchFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+    std::string File(std::string_view name) const { return (path_ / name).string(); }
+
+  private:
+    std::filesystem::path path_;
+};
+
+class ShellTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        shell.SetView(&view);
+        ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
+    }
+
+    bool Lit(std::string_view item) const { return bar().FindItem(item)->enabled; }
+    bool Visible(std::string_view item) const { return bar().FindItem(item)->visible; }
+    const ToolButton& Button(std::string_view key) const { return *bar().FindButton(key); }
+    const CommandBar& bar() const { return const_cast<Shell&>(shell).Bar(); }
+
+    std::vector<std::string> Captions() const {
+        std::vector<std::string> captions;
+        for (const auto& document : shell.Documents()) captions.push_back(document->Caption());
+        return captions;
+    }
+
+    // A document with that name typed in, changed.
+    RecipeDocument& NewNamed(std::string_view name) {
+        RecipeDocument& document = shell.CreateDocumentWindow("");
+        document.SetText(document.Record().txtName, name);
+        return document;
+    }
+    // A document that has been saved under that name.
+    RecipeDocument& NewSaved(std::string_view name) {
+        RecipeDocument& document = shell.CreateDocumentWindow("");
+        EXPECT_TRUE(shell.SaveRecipeUnder(document, name, 0, true));
+        return document;
+    }
+
+    RecordingPlatform outside;
+    RecordingView view;
+    Shell shell{outside.platform};
+};
+
+using Strings = std::vector<std::string>;
+
+}  // namespace tw::test

@@ -1,0 +1,110 @@
+// A program around recipe documents, for tests: it records the calls of a document in their order, keeps the state of
+// the commands that documents steer, and passes the notices of the store on to its documents as the shell does.
+#pragma once
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "document/DocumentHost.h"
+#include "document/RecipeDocument.h"
+#include "store/DB_IO.h"
+
+namespace tw::test {
+
+class RecordingHost : public DocumentHost, public DocumentCommands, private ObjectListener {
+  public:
+    RecordingHost(Database& database, ClockPort& clock) : io_(database, clock, *this) {}
+
+    // What a test sets.
+    RecipeDefaults defaults;
+    bool appendRows = false;
+    const RecipeDocument* active = nullptr;   // the active document
+    std::vector<RecipeDocument*> documents;   // those that hear the notices
+
+    // What a test reads: every call, such as "EnableSave on" or "AddToMRU Stout", and the state of each command.
+    std::vector<std::string> log;
+    std::map<std::string, bool, std::less<>> commands;
+    std::vector<std::string> TakeLog() { return std::exchange(log, {}); }
+    bool IsOn(std::string_view command) const {
+        const auto found = commands.find(command);
+        return found != commands.end() && found->second;
+    }
+
+    DocumentCommands& Commands() override { return *this; }
+    bool IsActive(const RecipeDocument& document) const override { return &document == active; }
+    RecipeDefaults Defaults() const override { return defaults; }
+    bool AppendRows() const override { return appendRows; }
+    void DeleteRecipe(std::string_view name) override {
+        log.push_back("DeleteRecipe " + std::string(name));
+        io_.DeleteRecipeByName(name);
+    }
+    void RecipeStored(std::string_view name) override {
+        log.push_back("RecipeStored " + std::string(name));
+        io_.AddRecipeNodesByName(name);
+    }
+    void AddToMRU(std::string_view name) override { log.push_back("AddToMRU " + std::string(name)); }
+    void DocumentRenamed(const RecipeDocument& document) override {
+        log.push_back("DocumentRenamed " + document.Caption());
+    }
+
+    void EnableResizeRecipe(bool on) override { Set("EnableResizeRecipe", on); }
+    void EnableChangeStrength(bool on) override { Set("EnableChangeStrength", on); }
+    void EnableChangeBitterness(bool on) override { Set("EnableChangeBitterness", on); }
+    void EnableChangeCarbonation(bool on) override { Set("EnableChangeCarbonation", on); }
+    void EnableSave(bool on) override { Set("EnableSave", on); }
+    void EnableInsert(bool on) override { Set("EnableInsert", on); }
+    void EnableDelete(bool on) override { Set("EnableDelete", on); }
+    void EnableCopyPaste(bool copy, bool cutPaste) override {
+        Set("EnableCopy", copy);
+        Set("EnableCutPaste", cutPaste);
+    }
+    void EnableUndo(bool on, std::string_view) override { Set("EnableUndo", on); }
+    void EnableRedo(bool on, std::string_view) override { Set("EnableRedo", on); }
+    void CheckEnableSaveAll() override { log.push_back("CheckEnableSaveAll"); }
+    void CheckEnableDelete() override { log.push_back("CheckEnableDelete"); }
+
+  private:
+    void Set(const std::string& command, bool on) {
+        log.push_back(command + (on ? " on" : " off"));
+        commands[command] = on;
+    }
+    void NotifyRecipeDeleted(const std::string& name) override {
+        for (RecipeDocument* document : documents) document->NotifyRecipeDeleted(name);
+    }
+
+    DB_IO io_;
+};
+
+// Writes every change of a record into a log of its own or the host's, such as "txtOG=1.050", "gridGrain 1,3=23.04".
+class ChangeRecorder : public RecordObserver {
+  public:
+    explicit ChangeRecorder(std::vector<std::string>& log) : log_(log) {}
+
+    void TextBoxChanged(const TextBox& box) override { log_.push_back(box.Name() + "=" + box.Text()); }
+    void LabelChanged(const Label& label) override { log_.push_back(label.Name() + "=" + label.Text()); }
+    void ButtonChanged(const Button& button) override {
+        log_.push_back(button.Name() + (button.Enabled() ? " on" : " off"));
+    }
+    void ListChanged(const ListBox& list) override { log_.push_back(list.Name() + "=" + list.Text()); }
+    void OptionChanged(const OptionGroup& group) override { log_.push_back(group.Value() + " chosen"); }
+    void SwatchChanged(Rgb) override { log_.push_back("swatch"); }
+    void CellChanged(const Grid& grid, int row, int col) override {
+        log_.push_back(grid.Name() + " " + std::to_string(row) + "," + std::to_string(col) + "=" +
+                       grid.Text(row, col));
+    }
+    void RowInserted(const Grid& grid, int row) override {
+        log_.push_back(grid.Name() + " row " + std::to_string(row) + " in");
+    }
+    void RowRemoved(const Grid& grid, int row) override {
+        log_.push_back(grid.Name() + " row " + std::to_string(row) + " out");
+    }
+
+  private:
+    std::vector<std::string>& log_;
+};
+
+}  // namespace tw::test
