@@ -10,10 +10,7 @@ namespace {
 constexpr std::string_view kInMemory = ":memory:";
 
 std::unique_ptr<Database> OpenRecipeDatabase(const std::string& path) {
-    if (path == kInMemory) return Database::CreateInMemory();
-    auto database = Database::OpenDatabase(path, true);
-    CheckSchema(*database);
-    return database;
+    return path == kInMemory ? Database::CreateInMemory() : OpenMainDatabase(path);
 }
 
 // index, or the first choice when a stored number names none of the choices.

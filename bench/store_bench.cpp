@@ -1,0 +1,222 @@
+// Saving and opening a recipe of 40 lines among a thousand, beside the same statements run by SQLite alone in
+// the same run, with the same locks, journal and syncs. The counter "x_limit" is the ratio of the medians.
+// The files are made in the present folder: run it on the disk that is to be measured.
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <sqlite3.h>
+#include <string>
+#include <vector>
+
+#include "store/DB_IO.h"
+#include "store/RecipeRows.h"
+#include "store/Schema.h"
+#include "store/SqlDialect.h"
+#include "store/SqliteHandle.h"
+#include "values/NumberText.h"
+
+namespace {
+
+using namespace tw;
+using Clock = std::chrono::steady_clock;
+
+constexpr int kRecipes = 1000;
+const std::string kStoreFile = "store_bench_a.mdb";
+const std::string kRawFile = "store_bench_b.mdb";
+
+class FixedClock : public ClockPort {
+  public:
+    DateTime Now() override { return {2024, 2, 28, 18, 30, 0}; }
+};
+
+class NoListener : public ObjectListener {
+  public:
+    void NotifyRecipeDeleted(const std::string&) override {}
+};
+
+std::string NameOf(int number) {
+    return "Copper Lantern Bitter " + std::to_string(number);
+}
+
+// 14 grains, 4 extracts, 10 hops, 4 salts, 2 sugars, 3 adjuncts and 3 lines of log.
+StoredRecipe MakeRecipe(const std::string& name) {
+    StoredRecipe r;
+    r.name = name;
+    r.styleId = 7;
+    r.folderId = 3;
+    r.createdWhen = DateTime{2024, 1, 31, 12, 0, 0};
+    r.modifiedWhen = DateTime{2024, 2, 28, 18, 30, 0};
+    r.bv = {"7 gal", 7};
+    r.tv = {"5.5 gal", 5.5};
+    r.fv = {"5 gal", 5};
+    r.bg = {"1.041", 1.04123456789};
+    r.og = {"1.052", 1.05214285714286};
+    r.fg = {"1.012", 1.012};
+    r.notes = std::string(400, 'n');
+    r.source = {"Home", {"40", "120", "20", "8", "15", "30"}};
+    r.target = {"Burton", {"268", "200", "36", "62", "54", "638"}};
+    for (int i = 0; i < 14; ++i)
+        r.grains.push_back({i, "Pale malt, two row", {"8 lb 4 oz", 8.25}, {"36.5", 36.5}, {"2.2", 2.2}});
+    for (int i = 0; i < 4; ++i)
+        r.extracts.push_back({i, "Light dry extract", {"1 lb", 1}, {"44", 44}, {"5", 5}});
+    for (int i = 0; i < 10; ++i)
+        r.hops.push_back(
+            {i, "East Kent Goldings", 0, false, false, {"1 1/2 oz", 1.5}, {"5.2%", 5.2}, {"60 min", 60}});
+    for (int i = 0; i < 4; ++i)
+        r.salts.push_back({i, "Gypsum", {"3.125 grams", 3.125}, {61.5, 0, 0, 0, 0, 147.4}});
+    for (int i = 0; i < 2; ++i) r.sugars.push_back({i, "Corn sugar", {"100%", 100}, {"4 oz", 4}});
+    for (int i = 0; i < 3; ++i) r.adjuncts.push_back({i, "Irish moss", "1 tsp", "15 min", "Boil"});
+    for (int i = 0; i < 3; ++i)
+        r.log.push_back({i, "02/28/2024", "Pitched Yeast", "London ale - a fresh pack"});
+    return r;
+}
+
+void RemoveFiles() {
+    for (const std::string& file : {kStoreFile, kRawFile})
+        for (const std::string end : {"", "-journal"}) std::filesystem::remove(file + end);
+}
+
+void Fill(Database& database) {
+    UnitOfWork unit(database);
+    for (int i = 0; i < kRecipes; ++i) InsertRecipe(database, MakeRecipe(NameOf(i)));
+    unit.Commit();
+}
+
+void Save(Database& database, const StoredRecipe& recipe) {
+    FixedClock clock;
+    NoListener listener;
+    UnitOfWork unit(database);
+    DB_IO(database, clock, listener).DeleteRecipeByName(recipe.name);
+    InsertRecipe(database, recipe);
+    unit.Commit();
+}
+
+// The database of the store, the same file for SQLite alone, and a third one in memory that goes along and
+// tells the statements.
+class Bed {
+  public:
+    Bed() {
+        RemoveFiles();
+        {
+            const auto made = Database::CreateDatabase(kStoreFile, "");
+            CreateSchema(*made);
+            Fill(*made);
+        }
+        std::filesystem::copy_file(kStoreFile, kRawFile);
+        Fill(*shadow_);
+        store = OpenMainDatabase(kStoreFile);
+        raw = OpenDatabaseFile(kRawFile, true);
+        shadow_->SetStatementHook([this](std::string_view sql) { statements_.push_back(Native(sql)); });
+    }
+    ~Bed() {
+        store.reset();
+        raw.reset();
+        RemoveFiles();
+    }
+    Bed(const Bed&) = delete;
+    Bed& operator=(const Bed&) = delete;
+
+    template <typename Action>
+    std::vector<std::string> StatementsOf(Action action) {
+        statements_.clear();
+        action(*shadow_);
+        return statements_;
+    }
+
+    std::unique_ptr<Database> store;
+    SqliteHandle raw;
+
+  private:
+    // The statement as SQLite takes it, with its numbers in the text.
+    static std::string Native(std::string_view sql) {
+        DialectStatement statement = TranslateSql(sql);
+        for (const double number : statement.numbers)
+            statement.sql.replace(statement.sql.find('?'), 1, NumberText(number));
+        return statement.sql;
+    }
+    std::unique_ptr<Database> shadow_ = Database::CreateInMemory();
+    std::vector<std::string> statements_;
+};
+
+// Prepares, runs and reads each statement with every column.
+void RunRaw(sqlite3* handle, const std::vector<std::string>& statements) {
+    for (const std::string& sql : statements) {
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(handle, sql.c_str(), static_cast<int>(sql.size() + 1), &statement, nullptr) !=
+            SQLITE_OK)
+            RaiseStoreError(handle, kDatabaseSource);
+        while (sqlite3_step(statement) == SQLITE_ROW)
+            for (int i = sqlite3_column_count(statement); i-- > 0;) {
+                if (sqlite3_column_type(statement, i) == SQLITE_TEXT)
+                    benchmark::DoNotOptimize(sqlite3_column_text(statement, i));
+                else
+                    benchmark::DoNotOptimize(sqlite3_column_double(statement, i));
+            }
+        if (sqlite3_finalize(statement) != SQLITE_OK) RaiseStoreError(handle, kDatabaseSource);
+    }
+}
+
+template <typename Action>
+double Seconds(Action action) {
+    const auto start = Clock::now();
+    action();
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+double Median(std::vector<double> times) {
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+// The two ways in turn, so that a slow spell of the disk meets both.
+template <typename Store, typename Raw>
+void Compare(benchmark::State& state, Store store, Raw raw) {
+    std::vector<double> storeTimes;
+    std::vector<double> rawTimes;
+    for (auto _ : state) {
+        const double time = Seconds(store);
+        state.SetIterationTime(time);
+        storeTimes.push_back(time);
+        rawTimes.push_back(raw());
+    }
+    state.counters["raw_us"] = Median(rawTimes) * 1e6;
+    state.counters["store_us"] = Median(storeTimes) * 1e6;
+    state.counters["x_limit"] = Median(storeTimes) / Median(rawTimes);
+}
+
+void BM_SaveRecipe(benchmark::State& state) {
+    Bed bed;
+    const StoredRecipe recipe = MakeRecipe(NameOf(500));
+    Compare(
+        state, [&] { Save(*bed.store, recipe); },
+        [&] {
+            const auto statements = bed.StatementsOf([&](Database& database) { Save(database, recipe); });
+            return Seconds([&] {
+                RunNative(bed.raw.get(), "BEGIN IMMEDIATE");
+                RunRaw(bed.raw.get(), statements);
+                RunNative(bed.raw.get(), "COMMIT");
+            });
+        });
+}
+BENCHMARK(BM_SaveRecipe)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+void BM_OpenRecipe(benchmark::State& state) {
+    Bed bed;
+    int number = 0;
+    std::string name;
+    Compare(
+        state,
+        [&] {
+            name = NameOf(number++ % kRecipes);
+            benchmark::DoNotOptimize(ReadRecipe(*bed.store, name));
+        },
+        [&] {
+            const auto statements = bed.StatementsOf([&](Database& database) { ReadRecipe(database, name); });
+            return Seconds([&] { RunRaw(bed.raw.get(), statements); });
+        });
+}
+BENCHMARK(BM_OpenRecipe)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+}  // namespace

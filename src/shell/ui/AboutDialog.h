@@ -1,0 +1,24 @@
+// The about window (frmAbout).
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "platform/DialogModel.h"
+
+namespace tw {
+
+class AboutDialog final : public QDialog {
+    Q_OBJECT
+  public:
+    AboutDialog(DialogModel& model, QWidget* parent);
+    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
+
+  protected:
+    void reject() override;
+
+  private:
+    DialogModel& model_;
+};
+
+}  // namespace tw

@@ -1,0 +1,83 @@
+#include "shell/ui/DocumentArea.h"
+
+#include <QCloseEvent>
+#include <QPainter>
+
+#include "document/ui/frmDocument.h"
+#include "platform/qt/Appearance.h"
+#include "shell/ui/Icons.h"
+
+namespace tw {
+namespace {
+
+constexpr int kPictureUnits = 14;
+
+}  // namespace
+
+DocumentArea::DocumentArea(QWidget* parent) : QMdiArea(parent) {
+    setObjectName(QStringLiteral("DocumentArea"));
+    setAccessibleName(tr("Open recipes"));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setActivationOrder(QMdiArea::ActivationHistoryOrder);
+    setBackground(palette().brush(QPalette::Midlight));
+}
+
+void DocumentArea::SetWelcome(const QString& line) {
+    welcome_ = line;
+    setAccessibleDescription(line);
+    viewport()->update();
+}
+
+void DocumentArea::paintEvent(QPaintEvent* event) {
+    QMdiArea::paintEvent(event);
+    if (!subWindowList().isEmpty() || welcome_.isEmpty()) return;
+    QPainter painter(viewport());
+    const int unit = Unit(*this), side = unit * kPictureUnits;
+    const QRect all = viewport()->rect();
+    const QRect lines = painter.fontMetrics().boundingRect(all.adjusted(unit * 2, 0, -unit * 2, 0),
+                                                           Qt::AlignHCenter | Qt::TextWordWrap, welcome_);
+    const int top = all.center().y() - (side + unit * 2 + lines.height()) / 2;
+    const QRect picture(all.center().x() - side / 2, top, side, side);
+    ProgramIcon().paint(&painter, picture);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(QRect(all.left() + unit * 2, picture.bottom() + unit * 2, all.width() - unit * 4, lines.height()),
+                     Qt::AlignHCenter | Qt::TextWordWrap, welcome_);
+}
+
+void DocumentArea::changeEvent(QEvent* event) {
+    QMdiArea::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) setBackground(palette().brush(QPalette::Midlight));
+}
+
+void DocumentArea::TileHorizontally() { Tile(Qt::Vertical); }
+
+void DocumentArea::TileVertically() { Tile(Qt::Horizontal); }
+
+void DocumentArea::Tile(Qt::Orientation stacked) {
+    QList<QMdiSubWindow*> windows = subWindowList(QMdiArea::CreationOrder);
+    windows.removeIf([](const QMdiSubWindow* window) { return window->isMinimized() || !window->isVisible(); });
+    const int count = static_cast<int>(windows.size());
+    const QRect all = viewport()->rect();
+    for (int i = 0; i < count; ++i) {
+        QMdiSubWindow& window = *windows[i];
+        window.showNormal();
+        if (stacked == Qt::Vertical)
+            window.setGeometry(0, all.height() * i / count, all.width(), all.height() / count);
+        else
+            window.setGeometry(all.width() * i / count, 0, all.width() / count, all.height());
+    }
+}
+
+DocumentSubWindow::DocumentSubWindow(frmDocument* document, QWidget* parent)
+    : QMdiSubWindow(parent), document_(document) {
+    setWidget(document);
+    setWindowIcon(ProgramIcon());
+}
+
+void DocumentSubWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    emit CloseRequested();
+}
+
+}  // namespace tw

@@ -1,0 +1,48 @@
+// The area of the main window where the recipes lie. While none is open it says how to start.
+#pragma once
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+
+namespace tw {
+
+class frmDocument;
+
+class DocumentArea final : public QMdiArea {
+    Q_OBJECT
+  public:
+    explicit DocumentArea(QWidget* parent);
+    // Shown in the middle while no recipe is open.
+    void SetWelcome(const QString& line);
+    // Below each other, across the whole width; tileSubWindows would make columns.
+    void TileHorizontally();
+    // Beside each other, over the whole height.
+    void TileVertically();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    void Tile(Qt::Orientation stacked);
+    QString welcome_;
+};
+
+// The frame of one recipe. It never closes by itself: it asks, and the shell closes the recipe.
+class DocumentSubWindow final : public QMdiSubWindow {
+    Q_OBJECT
+  public:
+    DocumentSubWindow(frmDocument* document, QWidget* parent);
+    frmDocument& Document() const { return *document_; }
+
+  signals:
+    void CloseRequested();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+
+  private:
+    frmDocument* document_;
+};
+
+}  // namespace tw

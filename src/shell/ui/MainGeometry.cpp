@@ -1,0 +1,51 @@
+#include "shell/ui/MainGeometry.h"
+
+#include <QMainWindow>
+#include <QScreen>
+#include <algorithm>
+
+#include "platform/qt/Appearance.h"
+
+namespace tw {
+namespace {
+
+// What only the windows remember, apart from the settings of the program.
+constexpr std::string_view kWindowsSection = "Windows";
+constexpr std::string_view kStateKey = "MainState";
+constexpr std::string_view kMaximized = "2";
+constexpr std::string_view kNormal = "0";
+
+}  // namespace
+
+QRect GeometryOf(const Settings& settings, double dotsPerInch, const QSize& least, const QRect& screen) {
+    const auto pixels = [&](double twips) { return PixelsOfTwips(twips, dotsPerInch); };
+    const QSize wanted = QSize(pixels(settings.mainWidth), pixels(settings.mainHeight)).expandedTo(least);
+    const QSize size = wanted.boundedTo(screen.size());
+    const int left = std::clamp(pixels(settings.mainLeft), screen.left(), screen.right() + 1 - size.width());
+    const int top = std::clamp(pixels(settings.mainTop), screen.top(), screen.bottom() + 1 - size.height());
+    return {QPoint(left, top), size};
+}
+
+void ApplyGeometry(QMainWindow& window, const Settings& settings, const SettingsStore& store) {
+    const QScreen& screen = *window.screen();
+    const QRect geometry =
+        GeometryOf(settings, screen.logicalDotsPerInch(), window.minimumSize(), screen.availableGeometry());
+    window.setMinimumSize(window.minimumSize().boundedTo(geometry.size()));
+    window.resize(geometry.size());
+    window.move(geometry.topLeft());
+    if (store.GetSetting(kWindowsSection, kStateKey, kNormal) == kMaximized)
+        window.setWindowState(window.windowState() | Qt::WindowMaximized);
+}
+
+void KeepGeometry(const QMainWindow& window, Settings& settings, const SettingsStore& store) {
+    const double dotsPerInch = window.screen()->logicalDotsPerInch();
+    const QRect geometry =
+        window.isMaximized() ? window.normalGeometry() : QRect(window.pos(), window.size());
+    settings.mainLeft = TwipsOfPixels(geometry.left(), dotsPerInch);
+    settings.mainTop = TwipsOfPixels(geometry.top(), dotsPerInch);
+    settings.mainWidth = TwipsOfPixels(geometry.width(), dotsPerInch);
+    settings.mainHeight = TwipsOfPixels(geometry.height(), dotsPerInch);
+    store.SaveSetting(kWindowsSection, kStateKey, window.isMaximized() ? kMaximized : kNormal, false);
+}
+
+}  // namespace tw

@@ -1,0 +1,280 @@
+#include "shell/ui/frmMain.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QStatusBar>
+#include <QToolBar>
+#include <algorithm>
+#include <array>
+
+#include "document/ui/frmDocument.h"
+#include "platform/qt/Appearance.h"
+#include "platform/qt/QtText.h"
+#include "shell/ui/CommandMenus.h"
+#include "shell/ui/DocumentArea.h"
+#include "shell/ui/Icons.h"
+#include "shell/ui/MainGeometry.h"
+#include "shell/ui/frmSplash.h"
+
+namespace tw {
+namespace {
+
+// The sensible minimum: all tabs of a recipe side by side, its first tab without scrolling.
+constexpr QSize kLeastUnits(128, 84);
+constexpr int kStateMaximized = 2;
+constexpr int kStateNormal = 0;
+
+// Commands that look at what is being typed: it is committed first, and a refused entry calls them off.
+constexpr std::array<std::string_view, 14> kFlushing{
+    "mnuFileSave",          "mnuFileSaveAs",          "mnuFileSaveAll",           "mnuFileClose",
+    "mnuFileCloseAll",      "mnuFileExport",          "mnuFilePrint",             "mnuFileExit",
+    "mnuEditInsert",        "mnuEditDelete",          "mnuToolsResizeRecipe",     "mnuToolsChangeStrength",
+    "mnuToolsChangeBitterness", "mnuToolsChangeCO2"};
+
+// A colour of the settings: blue, green and red from the highest byte down.
+QColor ColorOf(int stored) {
+    const auto value = static_cast<unsigned>(stored);
+    return {static_cast<int>(value & 0xFF), static_cast<int>(value >> 8 & 0xFF), static_cast<int>(value >> 16 & 0xFF)};
+}
+
+}  // namespace
+
+frmMain::frmMain(Shell& shell, Platform& platform)
+    : shell_(shell), platform_(platform), area_(new DocumentArea(this)) {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(QStringLiteral("Tunwright"));
+    setWindowIcon(ProgramIcon());
+    setAccessibleName(windowTitle());
+    menus_ = new CommandMenus(
+        shell.Bar(), *this, [this](const QString& name) { RunCommand(FromQt(name)); },
+        [this](const QString& key) { PressButton(key); });
+    setCentralWidget(area_);
+    statusBar()->setObjectName(QStringLiteral("sbStatusBar"));
+    statusBar()->setAccessibleName(tr("Status"));
+    shell_.SetView(this);
+    shell_.LoadWindowSettings();
+    menus_->SetFlat(shell_.CurrentSettings().buttonStyle != 0);
+    setMinimumSize(kLeastUnits * Unit(*this));
+    ApplyGeometry(*this, shell_.CurrentSettings(), shell_.Store());
+
+    connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
+        auto* frame = qobject_cast<DocumentSubWindow*>(window);
+        if (changing_ || !frame || !frame->Document().Document()) return;
+        RecipeDocument& document = *frame->Document().Document();
+        if (shell_.ActiveDocument() != &document) shell_.Guard([&] { shell_.Activate(document); });
+    });
+    connect(menus_->Menu(QStringLiteral("mnuWindow")), &QMenu::aboutToShow, this, &frmMain::FillWindowMenu);
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] { shell_.ReapplyPasteState(); });
+}
+
+frmMain::~frmMain() {
+    shell_.SetView(nullptr);
+    // The windows of recipes refer to documents of the shell and let go of them first.
+    delete area_;
+    delete menus_;
+}
+
+bool frmMain::StartUp(const std::string& databasePath) {
+    frmSplash splash(this);
+    splash.show();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    const bool opened = shell_.PerformSplashScreenInit(databasePath);
+    splash.hide();
+    if (!opened) return false;
+    ShowWelcome();
+    shell_.ReapplyPasteState();
+    return true;
+}
+
+void frmMain::ShowWelcome() {
+    const MenuItem* open = shell_.Bar().FindItem("mnuFileOpen");
+    area_->SetWelcome(open && open->enabled ? tr("No recipe is open. Ctrl+N starts a new one, Ctrl+O opens one.")
+                                            : tr("No recipe is here yet. Ctrl+N starts your first one."));
+}
+
+frmDocument* frmMain::ActiveWindow() const {
+    const RecipeDocument* document = shell_.ActiveDocument();
+    DocumentSubWindow* window = document ? WindowOf(*document) : nullptr;
+    return window ? &window->Document() : nullptr;
+}
+
+DocumentSubWindow* frmMain::WindowOf(const RecipeDocument& document) const {
+    for (QMdiSubWindow* window : area_->subWindowList()) {
+        auto* frame = qobject_cast<DocumentSubWindow*>(window);
+        if (frame && frame->Document().Document() == &document) return frame;
+    }
+    return nullptr;
+}
+
+void frmMain::DocumentOpened(RecipeDocument& document) {
+    auto* window = new DocumentSubWindow(new frmDocument(document, platform_, *this), area_);
+    window->setWindowTitle(ToQt(document.Caption()));
+    changing_ = true;
+    area_->addSubWindow(window);
+    changing_ = false;
+    RecipeDocument* opened = &document;
+    connect(window, &DocumentSubWindow::CloseRequested, this, [this, window, opened] {
+        if (!window->Document().Document() || !window->Document().Flush()) return;
+        shell_.Guard([&] { shell_.CloseDocument(*opened); });
+    });
+    connect(window, &QMdiSubWindow::windowStateChanged, this, [this](Qt::WindowStates, Qt::WindowStates now) {
+        // A minimised window is never what the next one starts as.
+        if (changing_ || now.testFlag(Qt::WindowMinimized)) return;
+        shell_.CurrentSettings().childState = now.testFlag(Qt::WindowMaximized) ? kStateMaximized : kStateNormal;
+    });
+    PlaceSubWindow(*window);
+}
+
+void frmMain::PlaceSubWindow(DocumentSubWindow& window) {
+    changing_ = true;
+    if (shell_.CurrentSettings().childState == kStateMaximized) {
+        window.showMaximized();
+    } else {
+        window.resize(window.sizeHint().boundedTo(area_->viewport()->size()));
+        window.show();
+    }
+    changing_ = false;
+}
+
+void frmMain::DocumentClosing(RecipeDocument& document) {
+    DocumentSubWindow* window = WindowOf(document);
+    if (!window) return;
+    window->Document().Detach();
+    changing_ = true;
+    area_->removeSubWindow(window);
+    changing_ = false;
+    window->hide();
+    // It may be this window's own close button that we are in.
+    window->deleteLater();
+}
+
+void frmMain::DocumentActivated(RecipeDocument* document) {
+    if (!document) {
+        ShowWelcome();
+        return;
+    }
+    DocumentSubWindow* window = WindowOf(*document);
+    if (!window) return;
+    if (window->isMinimized())
+        shell_.CurrentSettings().childState == kStateMaximized ? window->showMaximized() : window->showNormal();
+    if (area_->activeSubWindow() != window) area_->setActiveSubWindow(window);
+    if (!window->isAncestorOf(QApplication::focusWidget())) window->Document().setFocus();
+}
+
+void frmMain::DocumentRenamed(const RecipeDocument& document) {
+    if (DocumentSubWindow* window = WindowOf(document)) window->setWindowTitle(ToQt(document.Caption()));
+}
+
+void frmMain::CloseMainWindow() {
+    exitGranted_ = true;
+    close();
+}
+
+void frmMain::ArrangeDocuments(Arrangement arrangement) {
+    if (arrangement == Arrangement::Cascade)
+        area_->cascadeSubWindows();
+    else if (arrangement == Arrangement::TileHorizontal)
+        area_->TileHorizontally();
+    else
+        area_->TileVertically();
+}
+
+bool frmMain::FlushBefore(std::string_view name) {
+    frmDocument* window = ActiveWindow();
+    if (!window || std::find(kFlushing.begin(), kFlushing.end(), name) == kFlushing.end()) return true;
+    return window->Flush();
+}
+
+bool frmMain::RunCommand(std::string_view name) {
+    const MenuItem* item = shell_.Bar().FindItem(name);
+    if (!item || !item->enabled || !item->visible) return false;
+    // A refused entry has had its message; the key or click is used up.
+    if (!FlushBefore(name)) return true;
+    // name may be the item's own text, which the command can change.
+    const std::string command(name);
+    bool ran = false;
+    shell_.Guard([&] { ran = shell_.RunMenu(command); });
+    return ran || RunInTextBox(command);
+}
+
+void frmMain::PressButton(const QString& key) {
+    const ToolButton* button = shell_.Bar().FindButton(FromQt(key));
+    if (!button || !button->enabled || !FlushBefore(button->menuItem)) return;
+    const std::string menuItem = button->menuItem;
+    bool ran = false;
+    shell_.Guard([&] { ran = shell_.PressButton(FromQt(key)); });
+    if (!ran) RunInTextBox(menuItem);
+}
+
+bool frmMain::RunInTextBox(std::string_view name) {
+    QWidget* focus = QApplication::focusWidget();
+    const auto run = [&](auto& box) {
+        if (name == "mnuEditCut")
+            box.cut();
+        else if (name == "mnuEditCopy")
+            box.copy();
+        else if (name == "mnuEditPaste")
+            box.paste();
+        else if (name == "mnuEditSelectAll")
+            box.selectAll();
+        else
+            return false;
+        return true;
+    };
+    if (auto* line = qobject_cast<QLineEdit*>(focus)) return run(*line);
+    if (auto* text = qobject_cast<QPlainTextEdit*>(focus)) return run(*text);
+    return false;
+}
+
+bool frmMain::CanRun(std::string_view name) const { return shell_.Bar().FindItem(name) != nullptr; }
+
+void frmMain::ShowEditMenu(const QPoint& globalPosition) {
+    menus_->Menu(QStringLiteral("mnuEdit"))->popup(globalPosition);
+}
+
+GridColors frmMain::Colors() const {
+    const Settings& settings = shell_.CurrentSettings();
+    return {ColorOf(settings.gridReadOnlyBg), ColorOf(settings.gridReadOnlyFg), ColorOf(settings.gridTotalBg),
+            ColorOf(settings.gridTotalFg)};
+}
+
+void frmMain::FillWindowMenu() {
+    QMenu& menu = *menus_->Menu(QStringLiteral("mnuWindow"));
+    for (QAction* action : menu.actions())
+        if (action->property("openRecipe").toBool()) delete action;
+    int number = 0;
+    for (QMdiSubWindow* window : area_->subWindowList(QMdiArea::CreationOrder)) {
+        if (number == 0) menu.addSeparator()->setProperty("openRecipe", true);
+        ++number;
+        QString title = window->windowTitle();
+        title.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        QAction* action = menu.addAction(number < 10 ? QStringLiteral("&%1 %2").arg(number).arg(title) : title);
+        action->setProperty("openRecipe", true);
+        action->setCheckable(true);
+        action->setChecked(window == area_->activeSubWindow());
+        connect(action, &QAction::triggered, window, [this, window] { area_->setActiveSubWindow(window); });
+    }
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (!exitGranted_) {
+        if (!FlushBefore("mnuFileExit")) return;
+        shell_.Guard([this] { exitGranted_ = shell_.RequestExit(); });
+        if (!exitGranted_) return;
+    }
+    if (!isMinimized()) KeepGeometry(*this, shell_.CurrentSettings(), shell_.Store());
+    shell_.Unload(!isMinimized());
+    event->accept();
+}
+
+void frmMain::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && shell_.DB()) shell_.ReapplyPasteState();
+}
+
+}  // namespace tw

@@ -1,0 +1,67 @@
+// The main window: menus, toolbar, and the area with the windows of the open recipes.
+#pragma once
+
+#include <QMainWindow>
+
+#include "document/ui/DocumentFrame.h"
+#include "shell/Shell.h"
+
+namespace tw {
+
+class CommandMenus;
+class DocumentArea;
+class DocumentSubWindow;
+class frmDocument;
+
+class frmMain final : public QMainWindow, private ShellView, private DocumentFrame {
+    Q_OBJECT
+  public:
+    // Both must outlive the window. It takes the place and size of the settings.
+    frmMain(Shell& shell, Platform& platform);
+    ~frmMain() override;
+
+    // What happens when the window first comes up: the splash, the settings, the database. False when the database could
+    // not be opened; the box has been shown and the window is closed then.
+    bool StartUp(const std::string& databasePath);
+
+    // The window of the recipe in front, nullptr without one.
+    frmDocument* ActiveWindow() const;
+
+    // DocumentFrame
+    bool RunCommand(std::string_view name) override;
+    bool CanRun(std::string_view name) const override;
+    void ShowEditMenu(const QPoint& globalPosition) override;
+    GridColors Colors() const override;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+  private:
+    // ShellView
+    void DocumentOpened(RecipeDocument& document) override;
+    void DocumentClosing(RecipeDocument& document) override;
+    void DocumentActivated(RecipeDocument* document) override;
+    void DocumentRenamed(const RecipeDocument& document) override;
+    void CloseMainWindow() override;
+    void ArrangeDocuments(Arrangement arrangement) override;
+
+    void ShowWelcome();
+    void PlaceSubWindow(DocumentSubWindow& window);
+    void PressButton(const QString& key);
+    // Commits what is being edited before a command that needs it. False when an entry was refused.
+    bool FlushBefore(std::string_view name);
+    // Cut, copy, paste and their kin in a text box.
+    static bool RunInTextBox(std::string_view name);
+    void FillWindowMenu();
+    DocumentSubWindow* WindowOf(const RecipeDocument& document) const;
+
+    Shell& shell_;
+    Platform& platform_;
+    CommandMenus* menus_;
+    DocumentArea* area_;
+    bool exitGranted_ = false;
+    bool changing_ = false;  // the shell is changing the windows; their signals are its echo
+};
+
+}  // namespace tw

@@ -1,0 +1,20 @@
+// The picture that stands over the main window while the program gets ready: it goes as soon as that is done.
+#pragma once
+
+#include <QWidget>
+
+namespace tw {
+
+class frmSplash final : public QWidget {
+    Q_OBJECT
+  public:
+    // Sized to its picture, in the middle of parent.
+    explicit frmSplash(QWidget* parent);
+
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+};
+
+}  // namespace tw

@@ -1,0 +1,162 @@
+// The one local relational database: an open file, statements run on it, and the rows they give. The classes
+// have the shape of the data access objects that the program's SQL was designed for; SqlDialect turns that
+// SQL into SQLite's.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "platform/DateTime.h"
+#include "platform/Error.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace tw {
+
+// The declared type of a field, by its data-access number.
+enum class FieldType { Boolean = 1, Long = 4, Double = 7, Date = 8, Text = 10, Memo = 12 };
+
+struct Null {
+    bool operator==(const Null&) const = default;
+};
+
+// What a field of a row holds: nothing, a boolean, a number, or text. A date is the text of DateText.
+using Value = std::variant<Null, bool, double, std::string>;
+
+// One field of the present row of a recordset. Valid until the recordset moves or goes.
+class Field {
+  public:
+    const std::string& Name() const;
+    FieldType Type() const;
+
+    bool IsNull() const;
+    tw::Value Value() const;
+    // The value as text: numbers by NumberText, booleans "TRUE" and "FALSE"; empty for NULL.
+    std::string Text() const;
+    // The value as a number; a text that is no number and NULL give 0.
+    double Number() const;
+    std::int64_t Integer() const;
+    bool Boolean() const;
+
+  private:
+    friend class Recordset;
+    Field(sqlite3_stmt* statement, int column, const std::string* name, FieldType type)
+        : statement_(statement), column_(column), name_(name), type_(type) {}
+    sqlite3_stmt* statement_;
+    int column_;
+    const std::string* name_;
+    FieldType type_;
+};
+
+// A forward-read result of one SELECT. Closed when it goes out of scope.
+class Recordset {
+  public:
+    Recordset(Recordset&&) noexcept;
+    Recordset& operator=(Recordset&&) noexcept;
+    ~Recordset();
+
+    // True behind the last row (the interface's EOF, whose name C has taken).
+    bool AtEnd() const;
+    void MoveNext();
+    // Back to the first row: the statement runs again.
+    void MoveFirst();
+    void Close();
+
+    int FieldCount() const;
+    // By position from 0. Raises an error at EOF and for a position beyond the fields.
+    Field Fields(int index) const;
+    // By name without regard to case; a field of a join also as "TABLE.NAME". Raises an error for an unknown
+    // name.
+    Field Fields(std::string_view name) const;
+    const std::string& FieldName(int index) const;
+    FieldType TypeOf(int index) const;
+
+  private:
+    friend class Database;
+    struct Impl;
+    explicit Recordset(std::unique_ptr<Impl> impl);
+    std::unique_ptr<Impl> impl_;
+};
+
+// One open database file. Not copyable; closes itself.
+class Database {
+  public:
+    // Opens an existing file. exclusive keeps every other process out for as long as it is open, also while
+    // nothing is written. Raises an error that says what is wrong when the file is missing, is a folder, is
+    // no database, is cut short, or is in use; the file is untouched then. A write-protected file is refused
+    // when exclusive is set, and can be read otherwise. What a crash has left half-written is rolled back.
+    // Nothing waits for another program.
+    static std::unique_ptr<Database> OpenDatabase(const std::string& path, bool exclusive);
+    // Makes a new empty database file (without any table) and opens it. Raises an error when path exists or
+    // cannot be written. locale is accepted for the sake of the interface and has no effect: all text is
+    // UTF-8.
+    static std::unique_ptr<Database> CreateDatabase(const std::string& path, std::string_view locale);
+    // A database of the full schema, without catalogue rows, that lives in memory alone.
+    static std::unique_ptr<Database> CreateInMemory();
+
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    // Runs one INSERT, UPDATE or DELETE. Raises an error that carries the store's description.
+    void Execute(std::string_view sql);
+    // Rows changed by the last Execute.
+    int RecordsAffected() const { return recordsAffected_; }
+    // Runs one SELECT; the recordset stands on its first row or at EOF.
+    Recordset OpenRecordset(std::string_view sql);
+    const std::string& Path() const { return path_; }
+
+    // Called with the text of each statement before it runs. Tests count statements with it, end the process
+    // or raise an error in the middle of an operation.
+    using StatementHook = std::function<void(std::string_view sql)>;
+    void SetStatementHook(StatementHook hook) { hook_ = std::move(hook); }
+
+    // For the schema and the store's own files: runs SQLite's own SQL, any number of statements.
+    void ExecuteNative(const std::string& sql);
+
+  private:
+    friend class UnitOfWork;
+    // Takes the handle over.
+    Database(sqlite3* handle, std::string path);
+    // Calls the hook, translates and compiles. REQUIRES: select tells a SELECT from the other statements.
+    sqlite3_stmt* Prepare(std::string_view sql, bool select);
+
+    sqlite3* handle_;
+    std::string path_;
+    int recordsAffected_ = 0;
+    int unitDepth_ = 0;
+    StatementHook hook_;
+};
+
+// Makes what one user operation writes one unit on the disk: a crash or a loss of power leaves the old state
+// or the new one, whole. A failure is something else: what was done before it stays, so the unit is committed
+// also when an exception ends it. Units nest; the outermost counts.
+class UnitOfWork {
+  public:
+    explicit UnitOfWork(Database& database);
+    // Commits. Raises the store's error when the disk refuses; the old state stands then.
+    void Commit();
+    ~UnitOfWork();
+    UnitOfWork(const UnitOfWork&) = delete;
+    UnitOfWork& operator=(const UnitOfWork&) = delete;
+
+  private:
+    Database& database_;
+    bool open_ = true;
+};
+
+// text with every "'" doubled, for a literal between single quotes.
+std::string DoubleQuotes(std::string_view text);
+// "'" + DoubleQuotes(text) + "'".
+std::string SqlText(std::string_view text);
+// Writes SqlText(text) to the end of out.
+void AppendSqlText(std::string& out, std::string_view text);
+
+}  // namespace tw

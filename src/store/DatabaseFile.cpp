@@ -1,0 +1,174 @@
+// Opening and making the file of a database.
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+#include <system_error>
+
+#include "platform/Error.h"
+#include "store/SqliteHandle.h"
+
+namespace tw {
+namespace {
+
+namespace fs = std::filesystem;
+
+// The header of a SQLite file: its first 100 bytes, numbers with the high byte first.
+constexpr std::size_t kHeaderSize = 100;
+constexpr std::string_view kMagic{"SQLite format 3\0", 16};
+constexpr std::size_t kPageSizeAt = 16;
+constexpr std::size_t kChangeCounterAt = 24;
+constexpr std::size_t kPageCountAt = 28;
+constexpr std::size_t kPageCountValidForAt = 92;
+using Header = std::array<unsigned char, kHeaderSize>;
+
+[[noreturn]] void Refuse(const std::string& path, std::string_view what, int number) {
+    throw Error(kDatabaseSource, "'" + path + "' " + std::string(what), number);
+}
+
+std::uint32_t NumberAt(const Header& header, std::size_t at) {
+    return static_cast<std::uint32_t>(header[at]) << 24 | static_cast<std::uint32_t>(header[at + 1]) << 16 |
+           static_cast<std::uint32_t>(header[at + 2]) << 8 | header[at + 3];
+}
+
+std::int64_t PageSize(const Header& header) {
+    constexpr std::int64_t kLargest = 65536;  // does not fit two bytes and is written as 1
+    const std::int64_t size = header[kPageSizeAt] * 256 + header[kPageSizeAt + 1];
+    return size == 1 ? kLargest : size;
+}
+
+// The checks that need no look inside. The write bits are looked at themselves: an administrator's process
+// may write a file that its owner has locked against changes.
+void CheckFile(const std::string& path, bool exclusive) {
+    if (path.find('\0') != std::string::npos) Refuse(path, "is no file name.", SQLITE_CANTOPEN);
+    std::error_code failure;
+    const fs::file_status status = fs::status(path, failure);
+    if (status.type() == fs::file_type::not_found)
+        throw Error(kDatabaseSource, "Could not find file '" + path + "'.", SQLITE_CANTOPEN);
+    if (failure) Refuse(path, "cannot be opened: " + failure.message() + ".", SQLITE_CANTOPEN);
+    if (fs::is_directory(status)) Refuse(path, "is a folder.", SQLITE_CANTOPEN);
+    if (!fs::is_regular_file(status)) Refuse(path, "is not a file.", SQLITE_CANTOPEN);
+    constexpr fs::perms kWriteBits =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    if (exclusive && (status.permissions() & kWriteBits) == fs::perms::none)
+        Refuse(path, "is write-protected.", SQLITE_READONLY);
+}
+
+// The open file behind a handle. It is read through this one and never opened a second time: closing another
+// descriptor of the same file would drop the locks that this process holds on it.
+sqlite3_file* FileOf(sqlite3* handle) {
+    sqlite3_file* file = nullptr;
+    sqlite3_file_control(handle, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void*>(&file));
+    if (file == nullptr || file->pMethods == nullptr) RaiseStoreError(handle, kDatabaseSource);
+    return file;
+}
+
+std::int64_t FileSize(sqlite3_file* file) {
+    sqlite3_int64 size = 0;
+    return file->pMethods->xFileSize(file, &size) == SQLITE_OK ? size : 0;
+}
+
+// The header. Raises an error for a file that is none of ours.
+Header ReadHeader(sqlite3* handle, const std::string& path) {
+    sqlite3_file* const file = FileOf(handle);
+    if (FileSize(file) == 0) Refuse(path, "is empty.", SQLITE_NOTADB);
+    Header header{};
+    // A short read fills the rest with zeros.
+    const int result = file->pMethods->xRead(file, header.data(), static_cast<int>(kHeaderSize), 0);
+    const std::string_view front(reinterpret_cast<const char*>(header.data()), kMagic.size());
+    if (front != kMagic) Refuse(path, "is not a database.", SQLITE_NOTADB);
+    if (result == SQLITE_IOERR_SHORT_READ) Refuse(path, "is cut short.", SQLITE_CORRUPT);
+    if (result != SQLITE_OK) Refuse(path, "cannot be read.", SQLITE_IOERR);
+    return header;
+}
+
+// Compares the file's size with the pages that it should hold. REQUIRES: no journal waits to be rolled back.
+void CheckComplete(sqlite3* handle, const std::string& path) {
+    const Header header = ReadHeader(handle, path);
+    if (NumberAt(header, kChangeCounterAt) != NumberAt(header, kPageCountValidForAt)) return;
+    if (FileSize(FileOf(handle)) < PageSize(header) * NumberAt(header, kPageCountAt))
+        Refuse(path, "is cut short.", SQLITE_CORRUPT);
+}
+
+[[noreturn]] void RefuseUnreadable(sqlite3* handle, const std::string& path) {
+    const int code = sqlite3_extended_errcode(handle) & 0xff;
+    if (code == SQLITE_BUSY || code == SQLITE_LOCKED) Refuse(path, "is in use by another program.", code);
+    if (code == SQLITE_NOTADB) Refuse(path, "is not a database.", code);
+    const std::string message = sqlite3_errmsg(handle);
+    if (code == SQLITE_CORRUPT) Refuse(path, "is damaged: " + message + ".", code);
+    Refuse(path, "cannot be opened: " + message + ".", code);
+}
+
+// One thread uses a handle, so that SQLite needs no locks inside the process.
+constexpr int kOpenFlags = SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX;
+
+SqliteHandle OpenHandle(const std::string& path, int flags) {
+    sqlite3* handle = nullptr;
+    std::error_code failure;
+    // An absolute path is never taken for a URI or for the name of a database in memory.
+    const std::string name = (flags & SQLITE_OPEN_MEMORY) != 0 ? path : fs::absolute(path, failure).string();
+    if (failure) Refuse(path, "cannot be opened: " + failure.message() + ".", SQLITE_CANTOPEN);
+    // SQLite knows a database in memory by its name; the flag would put what is attached to it in memory too.
+    const int openFlags = (flags & ~SQLITE_OPEN_MEMORY) | kOpenFlags;
+    const int result = sqlite3_open_v2(name.c_str(), &handle, openFlags, nullptr);
+    SqliteHandle owner(handle);
+    if (handle == nullptr) throw Error(kDatabaseSource, "Out of memory.", SQLITE_NOMEM);
+    if (result != SQLITE_OK) RefuseUnreadable(handle, path);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    RegisterFunctions(handle);
+    return owner;
+}
+
+void RunOrRefuse(sqlite3* handle, const std::string& path, const char* sql) {
+    if (sqlite3_exec(handle, sql, nullptr, nullptr, nullptr) != SQLITE_OK) RefuseUnreadable(handle, path);
+}
+
+}  // namespace
+
+void RaiseStoreError(sqlite3* handle, const char* source) {
+    throw Error(source, sqlite3_errmsg(handle), sqlite3_extended_errcode(handle) & 0xff);
+}
+
+void RunNative(sqlite3* handle, const std::string& sql) {
+    if (sqlite3_exec(handle, sql.c_str(), nullptr, nullptr, nullptr) != SQLITE_OK)
+        RaiseStoreError(handle, kDatabaseSource);
+}
+
+SqliteHandle OpenDatabaseFile(const std::string& path, bool exclusive) {
+    CheckFile(path, exclusive);
+    SqliteHandle handle = OpenHandle(path, SQLITE_OPEN_READWRITE);
+    sqlite3* const raw = handle.get();
+    ReadHeader(raw, path);
+    if (exclusive && sqlite3_db_readonly(raw, "main") == 1)
+        Refuse(path, "is write-protected.", SQLITE_READONLY);
+    RunOrRefuse(raw, path, "PRAGMA synchronous=FULL");
+    // An exclusive lock that is taken once in this locking mode stays until the file is closed. Nothing is
+    // written, so that no journal is made and no byte changes; only a journal left by a crash is rolled back
+    // by the first read.
+    if (exclusive) RunOrRefuse(raw, path, "PRAGMA locking_mode=EXCLUSIVE");
+    RunOrRefuse(raw, path, exclusive ? "BEGIN EXCLUSIVE" : "BEGIN");
+    RunOrRefuse(raw, path, "SELECT COUNT(*) FROM sqlite_schema");
+    CheckComplete(raw, path);
+    RunOrRefuse(raw, path, "COMMIT");
+    return handle;
+}
+
+SqliteHandle CreateDatabaseFile(const std::string& path) {
+    if (path.empty() || path.find('\0') != std::string::npos)
+        Refuse(path, "is no file name.", SQLITE_CANTOPEN);
+    std::error_code failure;
+    if (fs::symlink_status(path, failure).type() != fs::file_type::not_found)
+        Refuse(path, "exists already.", SQLITE_CANTOPEN);
+    SqliteHandle handle = OpenHandle(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+    // A file without a page is no database yet: writing any field of the header makes the first one.
+    RunNative(handle.get(), "PRAGMA synchronous=FULL; PRAGMA user_version=1");
+    return handle;
+}
+
+SqliteHandle OpenMemoryDatabase() {
+    return OpenHandle(":memory:", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MEMORY);
+}
+
+}  // namespace tw

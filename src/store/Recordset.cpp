@@ -1,0 +1,264 @@
+#include <cmath>
+#include <sqlite3.h>
+#include <vector>
+
+#include "store/Database.h"
+#include "store/SqliteHandle.h"
+#include "values/NumberText.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+std::string_view ColumnText(sqlite3_stmt* statement, int column) {
+    // The text first, then its length: asking for the text may change its encoding.
+    const unsigned char* const text = sqlite3_column_text(statement, column);
+    if (text == nullptr) return {};
+    return {reinterpret_cast<const char*>(text),
+            static_cast<std::size_t>(sqlite3_column_bytes(statement, column))};
+}
+
+bool IsNumeric(int storage) {
+    return storage == SQLITE_INTEGER || storage == SQLITE_FLOAT;
+}
+
+// The type that a column of a table was declared with (see Schema).
+FieldType DeclaredType(std::string_view declared) {
+    if (declared == "TEXT") return FieldType::Text;
+    if (declared == "DOUBLE") return FieldType::Double;
+    if (declared == "INTEGER") return FieldType::Long;
+    if (declared == "BOOLEAN") return FieldType::Boolean;
+    if (declared == "DATETIME") return FieldType::Date;
+    if (declared == "LONGTEXT") return FieldType::Memo;
+    return FieldType::Text;
+}
+
+// The type of an expression is that of its value.
+FieldType ValueType(int storage) {
+    if (storage == SQLITE_INTEGER) return FieldType::Long;
+    if (storage == SQLITE_FLOAT) return FieldType::Double;
+    return FieldType::Text;
+}
+
+// A number that is the same for names that differ in case alone. Names beyond ASCII share one.
+std::uint32_t NameHash(std::string_view name) {
+    constexpr std::uint32_t kBasis = 2166136261U;
+    constexpr std::uint32_t kPrime = 16777619U;
+    std::uint32_t hash = kBasis;
+    for (const char c : name) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte >= 0x80) return 0;
+        hash = (hash ^ (byte | 0x20U)) * kPrime;
+    }
+    return hash;
+}
+
+[[noreturn]] void Raise(const std::string& description, int number) {
+    throw Error(kRecordsetSource, description, number);
+}
+
+}  // namespace
+
+const std::string& Field::Name() const {
+    return *name_;
+}
+
+FieldType Field::Type() const {
+    return type_;
+}
+
+bool Field::IsNull() const {
+    return sqlite3_column_type(statement_, column_) == SQLITE_NULL;
+}
+
+Value Field::Value() const {
+    const int storage = sqlite3_column_type(statement_, column_);
+    if (storage == SQLITE_NULL) return Null{};
+    if (!IsNumeric(storage)) return std::string(ColumnText(statement_, column_));
+    if (type_ == FieldType::Boolean) return Boolean();
+    return Number();
+}
+
+std::string Field::Text() const {
+    const int storage = sqlite3_column_type(statement_, column_);
+    if (!IsNumeric(storage)) return std::string(ColumnText(statement_, column_));
+    if (type_ == FieldType::Boolean) return Boolean() ? "TRUE" : "FALSE";
+    // A 64-bit whole number has digits that a double cannot hold.
+    if (storage == SQLITE_INTEGER) return std::to_string(sqlite3_column_int64(statement_, column_));
+    return NumberText(Number());
+}
+
+double Field::Number() const {
+    const int storage = sqlite3_column_type(statement_, column_);
+    if (IsNumeric(storage)) return Finite(sqlite3_column_double(statement_, column_));
+    double number = 0;
+    return ReadNumber(ColumnText(statement_, column_), number) ? number : 0;
+}
+
+std::int64_t Field::Integer() const {
+    if (sqlite3_column_type(statement_, column_) == SQLITE_INTEGER)
+        return sqlite3_column_int64(statement_, column_);
+    constexpr double kLimit = 9223372036854775808.0;  // 2^63
+    const double number = std::trunc(Number());
+    if (number < -kLimit || number >= kLimit) RaiseOverflow();
+    return static_cast<std::int64_t>(number);
+}
+
+bool Field::Boolean() const {
+    return Number() != 0;
+}
+
+// The compiled statement, and the names of its fields once one is asked for.
+struct Recordset::Impl {
+    explicit Impl(sqlite3_stmt* compiled) : statement(compiled) {}
+    ~Impl() { sqlite3_finalize(statement); }
+    Impl(const Impl&) = delete;
+    Impl& operator=(const Impl&) = delete;
+
+    void Step();
+    const std::vector<std::string>& Names();
+    // Position of the field of that name, -1 when there is none.
+    int Find(std::string_view name);
+
+  private:
+    bool Same(int column, std::string_view name, std::uint32_t hash) const;
+    std::string_view TableOf(int column) const;
+    // Puts the table before each name that stands behind another of the same name, and before that one.
+    void QualifySharedNames();
+
+  public:
+    sqlite3_stmt* statement;
+    bool atEnd = true;
+
+  private:
+    std::vector<std::string> names_;
+    std::vector<std::uint32_t> hashes_;
+};
+
+void Recordset::Impl::Step() {
+    const int result = sqlite3_step(statement);
+    atEnd = result != SQLITE_ROW;
+    if (result != SQLITE_ROW && result != SQLITE_DONE)
+        RaiseStoreError(sqlite3_db_handle(statement), kRecordsetSource);
+}
+
+std::string_view Recordset::Impl::TableOf(int column) const {
+    const char* const table = sqlite3_column_table_name(statement, column);
+    return table == nullptr ? std::string_view() : std::string_view(table);
+}
+
+bool Recordset::Impl::Same(int column, std::string_view name, std::uint32_t hash) const {
+    const auto index = static_cast<std::size_t>(column);
+    return hashes_[index] == hash && CompareNoCase(names_[index], name) == 0;
+}
+
+const std::vector<std::string>& Recordset::Impl::Names() {
+    if (!names_.empty()) return names_;
+    const int count = sqlite3_column_count(statement);
+    names_.reserve(static_cast<std::size_t>(count));
+    hashes_.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i) {
+        const char* const name = sqlite3_column_name(statement, i);
+        names_.emplace_back(name == nullptr ? "" : name);
+        hashes_.push_back(NameHash(names_.back()));
+    }
+    QualifySharedNames();
+    return names_;
+}
+
+void Recordset::Impl::QualifySharedNames() {
+    const int count = static_cast<int>(names_.size());
+    std::vector<int> shared;
+    for (int i = 1; i < count; ++i) {
+        const auto index = static_cast<std::size_t>(i);
+        for (int k = 0; k < i; ++k) {
+            if (!Same(k, names_[index], hashes_[index])) continue;
+            shared.push_back(k);
+            shared.push_back(i);
+            break;
+        }
+    }
+    for (const int column : shared) {
+        const auto index = static_cast<std::size_t>(column);
+        const std::string_view table = TableOf(column);
+        // Three fields of one name put the first of them on the list twice.
+        if (table.empty() || hashes_[index] != NameHash(sqlite3_column_name(statement, column))) continue;
+        names_[index] = std::string(table) + "." + names_[index];
+        hashes_[index] = NameHash(names_[index]);
+    }
+}
+
+int Recordset::Impl::Find(std::string_view name) {
+    const int count = static_cast<int>(Names().size());
+    const std::uint32_t hash = NameHash(name);
+    for (int i = 0; i < count; ++i)
+        if (Same(i, name, hash)) return i;
+    const std::size_t dot = name.find('.');
+    if (dot == std::string_view::npos) return -1;
+    const std::string_view own = name.substr(dot + 1);
+    const std::uint32_t ownHash = NameHash(own);
+    for (int i = 0; i < count; ++i)
+        if (Same(i, own, ownHash) && CompareNoCase(TableOf(i), name.substr(0, dot)) == 0) return i;
+    return -1;
+}
+
+Recordset::Recordset(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {
+    impl_->Step();
+}
+Recordset::Recordset(Recordset&&) noexcept = default;
+Recordset& Recordset::operator=(Recordset&&) noexcept = default;
+Recordset::~Recordset() = default;
+
+bool Recordset::AtEnd() const {
+    return !impl_ || impl_->atEnd;
+}
+
+void Recordset::MoveNext() {
+    if (AtEnd()) Raise("No current record.", SQLITE_MISUSE);
+    impl_->Step();
+}
+
+void Recordset::MoveFirst() {
+    if (!impl_) Raise("The recordset is closed.", SQLITE_MISUSE);
+    sqlite3_reset(impl_->statement);
+    impl_->Step();
+}
+
+void Recordset::Close() {
+    impl_.reset();
+}
+
+int Recordset::FieldCount() const {
+    return impl_ ? sqlite3_column_count(impl_->statement) : 0;
+}
+
+Field Recordset::Fields(int index) const {
+    if (AtEnd()) Raise("No current record.", SQLITE_MISUSE);
+    const std::string& name = FieldName(index);
+    return {impl_->statement, index, &name, TypeOf(index)};
+}
+
+Field Recordset::Fields(std::string_view name) const {
+    if (AtEnd()) Raise("No current record.", SQLITE_MISUSE);
+    const int index = impl_->Find(name);
+    if (index < 0) Raise("Item not found in this collection: '" + std::string(name) + "'.", SQLITE_RANGE);
+    return Fields(index);
+}
+
+const std::string& Recordset::FieldName(int index) const {
+    if (index < 0 || index >= FieldCount()) Raise("Item not found in this collection.", SQLITE_RANGE);
+    return impl_->Names()[static_cast<std::size_t>(index)];
+}
+
+FieldType Recordset::TypeOf(int index) const {
+    if (index < 0 || index >= FieldCount()) Raise("Item not found in this collection.", SQLITE_RANGE);
+    const char* const declared = sqlite3_column_decltype(impl_->statement, index);
+    if (declared != nullptr) return DeclaredType(declared);
+    return ValueType(sqlite3_column_type(impl_->statement, index));
+}
+
+Recordset Database::OpenRecordset(std::string_view sql) {
+    return Recordset(std::make_unique<Recordset::Impl>(Prepare(sql, true)));
+}
+
+}  // namespace tw

@@ -1,0 +1,101 @@
+#include <array>
+#include <cstddef>
+#include <cstring>
+#include <string_view>
+#include <utf8proc.h>
+
+#include "store/SqliteHandle.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+std::string_view Bytes(const void* data, int size) {
+    return {static_cast<const char*>(data), static_cast<std::size_t>(size)};
+}
+
+// Negative, zero or positive as the first text sorts. Memory that runs out inside falls back to the bytes'
+// order: no exception may cross SQLite.
+int CompareText(void*, int sizeA, const void* a, int sizeB, const void* b) noexcept {
+    const std::string_view left = Bytes(a, sizeA);
+    const std::string_view right = Bytes(b, sizeB);
+    try {
+        return CompareNoCase(left, right);
+    } catch (...) {
+        return left.compare(right);
+    }
+}
+
+// "MM/DD/YYYY HH:MM:SS": the year, then month and day, then the time. Text of another length sorts by its
+// bytes.
+int CompareDates(void*, int sizeA, const void* a, int sizeB, const void* b) noexcept {
+    constexpr std::size_t kDateSize = 19;
+    constexpr std::size_t kYear = 6;
+    constexpr std::size_t kYearSize = 4;
+    const std::string_view left = Bytes(a, sizeA);
+    const std::string_view right = Bytes(b, sizeB);
+    if (left.size() == kDateSize && right.size() == kDateSize) {
+        const int years = std::memcmp(left.data() + kYear, right.data() + kYear, kYearSize);
+        if (years != 0) return years;
+    }
+    return left.compare(right);
+}
+
+std::string Lower(std::string_view text) {
+    std::string lower;
+    lower.reserve(text.size() + 4);
+    while (!text.empty()) {
+        constexpr std::size_t kLongest = 4;
+        const std::string_view front = text.substr(0, kLongest);
+        utf8proc_int32_t codePoint = -1;
+        const auto* const bytes = reinterpret_cast<const utf8proc_uint8_t*>(front.data());
+        const utf8proc_ssize_t length =
+            utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(front.size()), &codePoint);
+        if (length < 1) {  // no valid UTF-8: the byte stays
+            lower.push_back(text.front());
+            text.remove_prefix(1);
+            continue;
+        }
+        std::array<utf8proc_uint8_t, kLongest> encoded{};
+        const utf8proc_ssize_t size = utf8proc_encode_char(utf8proc_tolower(codePoint), encoded.data());
+        lower.append(reinterpret_cast<const char*>(encoded.data()), static_cast<std::size_t>(size));
+        text.remove_prefix(static_cast<std::size_t>(length));
+    }
+    return lower;
+}
+
+// The SQL function around a change of case: NULL stays NULL, a number is taken as its text.
+template <std::string (*Change)(std::string_view)>
+void ChangeCase(sqlite3_context* context, int, sqlite3_value** arguments) noexcept {
+    const unsigned char* const text = sqlite3_value_text(arguments[0]);
+    if (text == nullptr) {
+        sqlite3_result_null(context);
+        return;
+    }
+    try {
+        const std::string changed = Change(Bytes(text, sqlite3_value_bytes(arguments[0])));
+        sqlite3_result_text64(context, changed.data(), changed.size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+    } catch (...) {
+        sqlite3_result_error_nomem(context);
+    }
+}
+
+void CheckRegistered(sqlite3* handle, int result) {
+    if (result != SQLITE_OK) RaiseStoreError(handle, kDatabaseSource);
+}
+
+}  // namespace
+
+void RegisterFunctions(sqlite3* handle) {
+    CheckRegistered(
+        handle, sqlite3_create_collation_v2(handle, "TWTEXT", SQLITE_UTF8, nullptr, CompareText, nullptr));
+    CheckRegistered(
+        handle, sqlite3_create_collation_v2(handle, "TWDATE", SQLITE_UTF8, nullptr, CompareDates, nullptr));
+    constexpr int kFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS;
+    CheckRegistered(handle, sqlite3_create_function_v2(handle, "UCASE", 1, kFlags, nullptr, ChangeCase<Upper>,
+                                                       nullptr, nullptr, nullptr));
+    CheckRegistered(handle, sqlite3_create_function_v2(handle, "LCASE", 1, kFlags, nullptr, ChangeCase<Lower>,
+                                                       nullptr, nullptr, nullptr));
+}
+
+}  // namespace tw

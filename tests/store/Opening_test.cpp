@@ -1,0 +1,245 @@
+// Opening and making database files: what is refused, with the file as it was afterwards.
+#include <array>
+#include <csignal>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "StoreSupport.h"
+#include "store/Schema.h"
+#include "store/SqliteHandle.h"
+
+namespace tw::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Opening : public testing::Test {
+  protected:
+    // Opens the file as the main database, expects a refusal and the bytes unchanged, and gives its
+    // description without the path.
+    std::string Refusal() {
+        const std::string before = ReadFile(path_);
+        const Error error = ErrorOf([&] { OpenMainDatabase(path_); });
+        EXPECT_EQ(ReadFile(path_), before);
+        EXPECT_FALSE(fs::exists(path_ + "-journal"));
+        EXPECT_EQ(error.Source(), "Database");
+        const std::string quoted = "'" + path_ + "' ";
+        EXPECT_EQ(error.Description().substr(0, quoted.size()), quoted) << error.Description();
+        return error.Description().substr(std::min(quoted.size(), error.Description().size()));
+    }
+
+    const TemporaryFolder folder_;
+    const std::string path_ = folder_.File("Tunwright.mdb");
+};
+
+// A child process that holds the file open until it is let go.
+class Holder {
+  public:
+    Holder(const std::string& path, bool exclusive) {
+        std::array<int, 2> ready{};
+        std::array<int, 2> release{};
+        if (pipe(ready.data()) != 0 || pipe(release.data()) != 0) throw std::runtime_error("no pipe");
+        child_ = fork();
+        if (child_ == 0) {
+            close(release[1]);
+            Hold(path, exclusive, ready[1], release[0]);
+        }
+        close(ready[1]);
+        close(release[0]);
+        char byte = 0;
+        if (read(ready[0], &byte, 1) != 1) throw std::runtime_error("the holder could not open the file");
+        close(ready[0]);
+        release_ = release[1];
+    }
+    ~Holder() {
+        close(release_);
+        int status = 0;
+        waitpid(child_, &status, 0);
+    }
+    Holder(const Holder&) = delete;
+    Holder& operator=(const Holder&) = delete;
+
+  private:
+    [[noreturn]] static void Hold(const std::string& path, bool exclusive, int ready, int release) {
+        try {
+            const auto db = Database::OpenDatabase(path, exclusive);
+            const UnitOfWork* const unit = exclusive ? nullptr : new UnitOfWork(*db);
+            char byte = 'r';
+            if (write(ready, &byte, 1) == 1) (void)!read(release, &byte, 1);
+            delete unit;
+        } catch (const Error&) {
+            _exit(1);
+        }
+        _exit(0);
+    }
+    pid_t child_ = 0;
+    int release_ = -1;
+};
+
+TEST_F(Opening, OpensAMainDatabaseWithoutChangingIt) {
+    MakeMainDatabase(path_);
+    const std::string before = ReadFile(path_);
+    OpenMainDatabase(path_).reset();
+    EXPECT_EQ(ReadFile(path_), before);
+    EXPECT_FALSE(fs::exists(path_ + "-journal"));
+}
+
+TEST_F(Opening, LeavesNoJournalBehindAfterWriting) {
+    MakeMainDatabase(path_);
+    {
+        const auto db = OpenMainDatabase(path_);
+        db->Execute("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
+    }
+    EXPECT_FALSE(fs::exists(path_ + "-journal"));
+    EXPECT_EQ(Cell(*OpenMainDatabase(path_), "SELECT NAME FROM HOPS"), "Cascade");
+}
+
+TEST_F(Opening, RefusesAMissingFile) {
+    const Error error = ErrorOf([&] { OpenMainDatabase(path_); });
+    EXPECT_EQ(error.Description(), "Could not find file '" + path_ + "'.");
+    EXPECT_FALSE(fs::exists(path_));
+    EXPECT_EQ(ErrorOf([] { OpenMainDatabase(""); }).Description(), "Could not find file ''.");
+    EXPECT_EQ(ErrorOf([] { OpenMainDatabase(":memory:"); }).Description(), "Could not find file ':memory:'.");
+}
+
+TEST_F(Opening, RefusesANameThatHoldsANul) {
+    MakeMainDatabase(path_);
+    const std::string name = path_ + '\0' + "x";
+    EXPECT_EQ(ErrorOf([&] { OpenMainDatabase(name); }).Number(), SQLITE_CANTOPEN);
+}
+
+TEST_F(Opening, RefusesAFolder) {
+    fs::create_directory(path_);
+    EXPECT_EQ(ErrorOf([&] { OpenMainDatabase(path_); }).Description(), "'" + path_ + "' is a folder.");
+}
+
+TEST_F(Opening, RefusesAPipe) {
+    ASSERT_EQ(mkfifo(path_.c_str(), 0600), 0);
+    EXPECT_EQ(ErrorOf([&] { OpenMainDatabase(path_); }).Description(), "'" + path_ + "' is not a file.");
+}
+
+TEST_F(Opening, RefusesATextFile) {
+    WriteFile(path_, "This is a letter to a friend.\n" + std::string(5000, 'x'));
+    EXPECT_EQ(Refusal(), "is not a database.");
+    WriteFile(path_, "short");
+    EXPECT_EQ(Refusal(), "is not a database.");
+}
+
+TEST_F(Opening, RefusesAnEmptyFile) {
+    WriteFile(path_, "");
+    EXPECT_EQ(Refusal(), "is empty.");
+}
+
+TEST_F(Opening, RefusesAWriteProtectedFile) {
+    MakeMainDatabase(path_);
+    fs::permissions(path_, fs::perms::owner_read | fs::perms::group_read);
+    EXPECT_EQ(Refusal(), "is write-protected.");
+    // A file that is only read may be protected: an exchange file on a disc.
+    EXPECT_NO_THROW(Database::OpenDatabase(path_, false));
+}
+
+TEST_F(Opening, RefusesATruncatedFile) {
+    MakeMainDatabase(path_);
+    const std::string whole = ReadFile(path_);
+    const std::size_t page = 4096;
+    for (const std::size_t length : {std::size_t{16}, std::size_t{99}}) {
+        WriteFile(path_, whole.substr(0, length));
+        EXPECT_EQ(Refusal(), "is cut short.") << length;
+    }
+    // Inside the first page, behind some pages, inside the last page, one byte short: SQLite itself notices
+    // some.
+    for (const std::size_t length : {std::size_t{100}, std::size_t{1000}, page, 3 * page, whole.size() - page,
+                                     whole.size() - page / 2, whole.size() - 1}) {
+        WriteFile(path_, whole.substr(0, length));
+        const std::string refusal = Refusal();
+        EXPECT_TRUE(refusal == "is cut short." || refusal.starts_with("is damaged: ") ||
+                    refusal == "is not a database.")
+            << length << ": " << refusal;
+    }
+    WriteFile(path_, whole);
+    EXPECT_NO_THROW(OpenMainDatabase(path_));
+}
+
+TEST_F(Opening, RefusesGarbageBehindTheMagic) {
+    std::string garbage(20000, '\0');
+    unsigned state = 12345;
+    for (char& c : garbage) {
+        state = state * 1103515245U + 12345U;
+        c = static_cast<char>(state >> 16U);
+    }
+    garbage.replace(0, 16, std::string("SQLite format 3\0", 16));
+    WriteFile(path_, garbage);
+    const std::string refusal = Refusal();
+    EXPECT_TRUE(refusal.starts_with("is damaged: ") || refusal == "is not a database.") << refusal;
+}
+
+TEST_F(Opening, RefusesADamagedSchema) {
+    MakeMainDatabase(path_);
+    std::string bytes = ReadFile(path_);
+    bytes.replace(100, 900, std::string(900, '\x7f'));
+    WriteFile(path_, bytes);
+    EXPECT_TRUE(Refusal().starts_with("is damaged: "));
+}
+
+TEST_F(Opening, RefusesADatabaseOfAnotherSchema) {
+    Database::CreateDatabase(path_, "")->ExecuteNative("CREATE TABLE LETTERS (A TEXT)");
+    EXPECT_EQ(Refusal(), "is no Tunwright database: it has no table FOLDERS.");
+}
+
+TEST_F(Opening, RefusesAFileThatAnotherProcessHolds) {
+    MakeMainDatabase(path_);
+    {
+        const Holder holder(path_, true);
+        EXPECT_EQ(Refusal(), "is in use by another program.");
+        EXPECT_EQ(ErrorOf([&] { Database::OpenDatabase(path_, false); }).Number(), SQLITE_BUSY);
+    }
+    EXPECT_NO_THROW(OpenMainDatabase(path_));
+}
+
+TEST_F(Opening, RefusesAFileThatAnotherProcessIsWriting) {
+    MakeMainDatabase(path_);
+    const Holder holder(path_, false);
+    EXPECT_EQ(Refusal(), "is in use by another program.");
+}
+
+TEST_F(Opening, RefusesASecondOpeningInTheSameProcessAndKeepsTheLock) {
+    MakeMainDatabase(path_);
+    const auto db = OpenMainDatabase(path_);
+    EXPECT_EQ(Refusal(), "is in use by another program.");
+    // The refused opening has not given the lock away.
+    EXPECT_THROW(Holder(path_, true), std::runtime_error);
+}
+
+TEST_F(Opening, MakesAnEmptyDatabase) {
+    const std::string path = folder_.File("new.TWR");
+    Database::CreateDatabase(path, ";LANGID=0x0409;CP=1252;COUNTRY=0").reset();
+    const auto db = Database::OpenDatabase(path, false);
+    EXPECT_EQ(Cell(*db, "SELECT COUNT(*) FROM sqlite_schema"), "0");
+    EXPECT_EQ(db->Path(), path);
+}
+
+TEST_F(Opening, MakesNoDatabaseOverAFile) {
+    WriteFile(path_, "a letter");
+    EXPECT_EQ(ErrorOf([&] { Database::CreateDatabase(path_, ""); }).Description(),
+              "'" + path_ + "' exists already.");
+    EXPECT_EQ(ReadFile(path_), "a letter");
+}
+
+TEST_F(Opening, MakesNoDatabaseInAMissingFolder) {
+    const std::string path = folder_.File("missing/new.TWR");
+    EXPECT_EQ(ErrorOf([&] { Database::CreateDatabase(path, ""); }).Number(), SQLITE_CANTOPEN);
+}
+
+TEST_F(Opening, TakesOddFileNamesAsTheyAre) {
+    for (const std::string name : {"file:a.mdb?mode=memory", ":memory:", "a b%20.mdb", "Bräu.mdb"}) {
+        MakeMainDatabase(folder_.File(name));
+        EXPECT_TRUE(fs::is_regular_file(folder_.File(name))) << name;
+        EXPECT_NO_THROW(OpenMainDatabase(folder_.File(name))) << name;
+    }
+}
+
+}  // namespace
+}  // namespace tw::test

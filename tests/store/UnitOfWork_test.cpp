@@ -1,0 +1,225 @@
+// Units of work: whole after a crash, and with what was done so far after a failure.
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "StoreSupport.h"
+#include "store/DB_IO.h"
+#include "store/Schema.h"
+
+namespace tw::test {
+namespace {
+
+class FixedClock : public ClockPort {
+  public:
+    DateTime Now() override { return {2024, 5, 6, 7, 8, 9}; }
+};
+
+class NoListener : public ObjectListener {
+  public:
+    void NotifyRecipeDeleted(const std::string&) override {}
+};
+
+// A save: the old recipe goes, the new one takes its place.
+void Save(Database& database, const StoredRecipe& recipe) {
+    FixedClock clock;
+    NoListener listener;
+    UnitOfWork unit(database);
+    DB_IO(database, clock, listener).DeleteRecipeByName(recipe.name);
+    InsertRecipe(database, recipe);
+    unit.Commit();
+}
+
+StoredRecipe NewRecipe() {
+    StoredRecipe recipe = FullRecipe("Mild", 3);
+    recipe.notes = std::string(20000, 'n');  // more pages than the old one
+    return recipe;
+}
+
+// Runs action in a child process that the action itself kills; false when it came to its end alive.
+template <typename Action>
+bool DiesIn(Action action) {
+    const pid_t child = fork();
+    if (child == 0) {
+        try {
+            action();
+        } catch (const Error&) {
+            _exit(2);
+        }
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
+    return WIFSIGNALED(status);
+}
+
+class Crash : public testing::Test {
+  protected:
+    Crash() {
+        MakeMainDatabase(path_);
+        const auto db = OpenMainDatabase(path_);
+        InsertRecipe(*db, FullRecipe("Mild"));
+        InsertRecipe(*db, FullRecipe("Other"));
+        old_ = Dump(*db);
+    }
+    const TemporaryFolder folder_;
+    const std::string path_ = folder_.File("Tunwright.mdb");
+    std::string old_;
+};
+
+TEST_F(Crash, LeavesTheOldRecipeWholeAtEveryStatement) {
+    const std::string bytes = ReadFile(path_);
+    int statement = 0;
+    for (bool died = true; died; ++statement) {
+        WriteFile(path_, bytes);
+        died = DiesIn([&] {
+            const auto db = OpenMainDatabase(path_);
+            // Few pages in memory, so that half-done pages reach the file before the end.
+            db->ExecuteNative("PRAGMA cache_size=3");
+            int count = 0;
+            db->SetStatementHook([&](std::string_view) {
+                if (count++ == statement) raise(SIGKILL);
+            });
+            Save(*db, NewRecipe());
+        });
+        const auto db = OpenMainDatabase(path_);
+        if (died) {
+            EXPECT_EQ(Dump(*db), old_) << "killed before statement " << statement;
+        } else {
+            EXPECT_EQ(Describe(*ReadRecipe(*db, "Mild")), Describe(NewRecipe()));
+        }
+    }
+    // 2 look-ups, 5 DELETEs, INSERT, look-up, 3 UPDATEs and 7 times 3 lines, then the run that lives.
+    EXPECT_EQ(statement, 33 + 1);
+}
+
+TEST_F(Crash, LeavesTheOldRecipeWholeBeforeTheUnitEnds) {
+    const std::string bytes = ReadFile(path_);
+    EXPECT_TRUE(DiesIn([&] {
+        const auto db = OpenMainDatabase(path_);
+        db->ExecuteNative("PRAGMA cache_size=3");
+        const UnitOfWork unit(*db);
+        Save(*db, NewRecipe());
+        raise(SIGKILL);
+    }));
+    EXPECT_NE(ReadFile(path_), bytes) << "nothing was half-written";
+    EXPECT_EQ(Dump(*OpenMainDatabase(path_)), old_);
+}
+
+TEST_F(Crash, KeepsTheNewRecipeOnceTheUnitHasEnded) {
+    EXPECT_TRUE(DiesIn([&] {
+        const auto db = OpenMainDatabase(path_);
+        Save(*db, NewRecipe());
+        raise(SIGKILL);
+    }));
+    EXPECT_EQ(Describe(*ReadRecipe(*OpenMainDatabase(path_), "Mild")), Describe(NewRecipe()));
+}
+
+// The dump of a fresh database after the statements, each run on its own.
+std::string DumpAfter(const std::vector<std::string>& statements) {
+    const auto db = Database::CreateInMemory();
+    InsertRecipe(*db, FullRecipe("Mild"));
+    for (const std::string& sql : statements) db->Execute(sql);
+    return Dump(*db);
+}
+
+TEST(Failure, LeavesWhatWasDoneBeforeEveryStatement) {
+    int statement = 0;
+    for (bool failed = true; failed; ++statement) {
+        const auto db = Database::CreateInMemory();
+        InsertRecipe(*db, FullRecipe("Mild"));
+        std::vector<std::string> done;
+        int count = 0;
+        db->SetStatementHook([&](std::string_view sql) {
+            if (count++ == statement) throw Error("Test", "the disk is on fire", 1);
+            if (!sql.starts_with("SELECT")) done.emplace_back(sql);
+        });
+        failed = false;
+        try {
+            Save(*db, NewRecipe());
+        } catch (const Error& error) {
+            failed = true;
+            EXPECT_EQ(error.Description(), "the disk is on fire");
+        }
+        db->SetStatementHook(nullptr);
+        EXPECT_EQ(Dump(*db), DumpAfter(done)) << "failed at statement " << statement;
+    }
+    EXPECT_EQ(statement, 33 + 1);
+}
+
+TEST(Failure, OfOneStatementLeavesTheOthersOfItsUnit) {
+    const auto db = Database::CreateInMemory();
+    {
+        UnitOfWork unit(*db);
+        db->Execute("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
+        EXPECT_THROW(
+            db->Execute("INSERT INTO RECIPES (NAME, CREATED_WHEN) VALUES ('A', NULL), ('B', 'no date')"),
+            Error);
+        db->Execute("INSERT INTO HOPS (NAME) VALUES ('Fuggle')");
+        unit.Commit();
+    }
+    EXPECT_EQ(Cell(*db, "SELECT COUNT(*) FROM HOPS"), "2");
+    EXPECT_EQ(Cell(*db, "SELECT COUNT(*) FROM RECIPES"), "0");
+}
+
+TEST(UnitOfWork, EndsWithItsScope) {
+    const TemporaryFolder folder;
+    MakeMainDatabase(folder.File("a.mdb"));
+    {
+        const auto db = OpenMainDatabase(folder.File("a.mdb"));
+        const UnitOfWork unit(*db);
+        db->Execute("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
+    }
+    EXPECT_EQ(Cell(*OpenMainDatabase(folder.File("a.mdb")), "SELECT NAME FROM HOPS"), "Cascade");
+}
+
+TEST(UnitOfWork, IsOneUnitWithThoseInside) {
+    const TemporaryFolder folder;
+    const std::string path = folder.File("a.mdb");
+    MakeMainDatabase(path);
+    EXPECT_TRUE(DiesIn([&] {
+        const auto db = OpenMainDatabase(path);
+        const UnitOfWork outer(*db);
+        {
+            UnitOfWork inner(*db);
+            db->Execute("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
+            inner.Commit();
+        }
+        raise(SIGKILL);
+    }));
+    EXPECT_EQ(Cell(*OpenMainDatabase(path), "SELECT COUNT(*) FROM HOPS"), "0");
+}
+
+TEST(UnitOfWork, RunsNothingMoreOnceTheDiskHasUndoneIt) {
+    const auto db = Database::CreateInMemory();
+    UnitOfWork unit(*db);
+    db->Execute("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
+    db->ExecuteNative("ROLLBACK");  // as SQLite does by itself when the disk is full
+    EXPECT_EQ(ErrorOf([&] { db->Execute("INSERT INTO HOPS (NAME) VALUES ('Fuggle')"); }).Description(),
+              "The operation was undone by an earlier error.");
+    EXPECT_EQ(ErrorOf([&] { unit.Commit(); }).Description(), "The operation was undone by an earlier error.");
+    EXPECT_EQ(Cell(*db, "SELECT COUNT(*) FROM HOPS"), "0");
+}
+
+TEST(UnitOfWork, LeavesTheOldStateWhenTheDiskRefuses) {
+    const TemporaryFolder folder;
+    const std::string path = folder.File("a.mdb");
+    MakeMainDatabase(path);
+    const auto db = Database::OpenDatabase(path, false);
+    const auto reader = Database::OpenDatabase(path, false);
+    reader->Execute("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
+    {
+        UnitOfWork unit(*db);
+        db->Execute("DELETE FROM HOPS");
+        const Recordset reading = reader->OpenRecordset("SELECT NAME FROM HOPS");
+        EXPECT_EQ(ErrorOf([&] { unit.Commit(); }).WithSource(), "Database\r\ndatabase is locked (5)");
+    }
+    EXPECT_EQ(Cell(*db, "SELECT NAME FROM HOPS"), "Cascade");
+    // The next operation starts anew.
+    UnitOfWork(*db).Commit();
+}
+
+}  // namespace
+}  // namespace tw::test
