@@ -1,0 +1,43 @@
+// Any text may be given to the console as a script. It ends with one of its three statuses, says why exactly
+// when it stops at a line, and every line that it prints is one line. What the commands do to a recipe and
+// its database must raise nothing that the program does not show.
+#include <cstdint>
+#include <cstdlib>
+#include <sqlite3.h>
+#include <sstream>
+#include <string>
+
+#include "cli/Console.h"
+
+namespace {
+
+using namespace tw;
+
+void Require(bool holds) {
+    if (!holds) std::abort();
+}
+
+void LimitMemory() {
+    // A statement that asks for more memory than this is refused by the store.
+    constexpr sqlite3_int64 kMostMemory = 256 * 1024 * 1024;
+    sqlite3_hard_heap_limit64(kMostMemory);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static const bool limited = (LimitMemory(), true);
+    Require(limited);
+    std::istringstream script(std::string(reinterpret_cast<const char*>(data), size));
+    std::ostringstream out;
+    std::ostringstream errors;
+    MemorySettings settings;
+    Console console(":memory:", settings, out, errors);
+    const ExitStatus status = console.Run(script, "script");
+    if (status == ExitStatus::Done) console.End();
+    Require(status != ExitStatus::NoDatabase);
+    Require((status == ExitStatus::BadLine) == !errors.str().empty());
+    Require(out.str().find('\r') == std::string::npos);
+    Require(out.str().empty() || out.str().back() == '\n');
+    return 0;
+}

@@ -1,0 +1,33 @@
+// The commands of the console. One table, in files by topic; the help page and the tests of its completeness
+// read it.
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "cli/ScriptReader.h"
+#include "cli/Session.h"
+
+namespace tw {
+
+struct Command {
+    std::string_view name;
+    std::string_view form;  // its arguments as the help shows them
+    std::string_view help;  // one line
+    // Takes all arguments first, so that a line with too many changes nothing. Raises ScriptError for a line
+    // that cannot be carried out, Error for what the program shows in a box.
+    void (*run)(Session& session, Arguments& arguments);
+};
+
+std::span<const Command> CommandsOnValues();
+std::span<const Command> CommandsOnRecipes();
+std::span<const Command> CommandsOnGrids();
+std::span<const Command> CommandsOnProgram();
+
+// All commands in the order of the help.
+std::vector<Command> AllCommands();
+// nullptr for an unknown name.
+const Command* FindCommand(std::string_view name);
+
+}  // namespace tw

@@ -1,0 +1,68 @@
+#include "cli/Console.h"
+
+#include <istream>
+#include <ostream>
+#include <utility>
+
+#include "cli/Command.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+// Without the carriage return of a line that ends in CR LF.
+std::string_view WithoutReturn(std::string_view line) {
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    return line;
+}
+
+// What is read is answered before the script's writer is waited for.
+void FlushBeforeWaiting(std::istream& script, ScriptOutput& out) {
+    if (script.rdbuf()->in_avail() <= 0) out.Flush();
+}
+
+}  // namespace
+
+Console::Console(std::string databasePath, SettingsPort& settings, std::ostream& out, std::ostream& errors)
+    : out_(out), errors_(errors), session_(std::move(databasePath), settings, out_) {}
+
+ExitStatus Console::Run(std::istream& script, std::string_view name) {
+    std::string line;
+    for (long long number = 1; std::getline(script, line); ++number) {
+        const auto refuse = [&](std::string_view reason) {
+            out_.Flush();
+            errors_ << name << ':' << number << ": " << EscapeText(reason) << '\n';
+            return ExitStatus::BadLine;
+        };
+        try {
+            RunLine(WithoutReturn(line));
+        } catch (const StartFailure&) {
+            out_.Flush();
+            return ExitStatus::NoDatabase;
+        } catch (const ScriptError& error) {
+            return refuse(error.Reason());
+        } catch (const std::exception& failure) {
+            return refuse(failure.what());
+        }
+        FlushBeforeWaiting(script, out_);
+    }
+    out_.Flush();
+    return ExitStatus::Done;
+}
+
+void Console::RunLine(std::string_view line) {
+    Arguments arguments(line);
+    if (arguments.AtEnd() || Trim(line).starts_with('#')) return;
+    const std::string name = arguments.Word("the command");
+    const Command* const command = FindCommand(name);
+    if (command == nullptr) throw ScriptError("unknown command '" + name + "'");
+    try {
+        command->run(session_, arguments);
+    } catch (const Error& error) {
+        // The box of the program's event loop; the program goes on.
+        session_.Messages().ShowMessage("Error", error.WithNumber());
+    }
+    session_.FinishExit();
+}
+
+}  // namespace tw

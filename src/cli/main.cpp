@@ -1,0 +1,72 @@
+// The script console: runs scripts of commands through the same logic as the windows.
+#include <QCoreApplication>
+#include <fstream>
+#include <iostream>
+#include <memory>
+
+#include "cli/CommandLine.h"
+#include "cli/Console.h"
+#include "cli/ScriptReader.h"
+#include "platform/qt/QtSettings.h"
+
+namespace {
+
+constexpr int kBadLine = static_cast<int>(tw::ExitStatus::BadLine);
+
+std::unique_ptr<tw::SettingsPort> OpenSettings(const std::string& file) {
+    if (file == ":memory:") return std::make_unique<tw::MemorySettings>();
+    if (file.empty()) return tw::QtSettings::OfUser();
+    return tw::QtSettings::OfFile(file);
+}
+
+tw::ExitStatus RunScript(tw::Console& console, const std::string& name) {
+    if (name == "-") return console.Run(std::cin, "stdin");
+    std::ifstream script(name, std::ios::binary);
+    // The first byte tells a folder, which opens but cannot be read, from a file.
+    script.peek();
+    if (!script.is_open() || script.bad()) {
+        std::cerr << name << ": the script cannot be read\n";
+        return tw::ExitStatus::BadLine;
+    }
+    script.clear();
+    return console.Run(script, name);
+}
+
+int RunScripts(const tw::CommandLine& line, const std::string& database) {
+    const std::unique_ptr<tw::SettingsPort> settings = OpenSettings(line.settings);
+    tw::Console console(database, *settings, std::cout, std::cerr);
+    for (const std::string& script : line.scripts) {
+        const tw::ExitStatus status = RunScript(console, script);
+        if (status != tw::ExitStatus::Done) return static_cast<int>(status);
+    }
+    console.End();
+    return 0;
+}
+
+int Run(const std::vector<std::string>& arguments) {
+    tw::CommandLine line = tw::ReadCommandLine(arguments);
+    if (line.help) {
+        std::cout << tw::HelpPage();
+        return 0;
+    }
+    if (line.scripts.empty()) line.scripts.emplace_back("-");
+    const std::string folder = QCoreApplication::applicationDirPath().toStdString();
+    return RunScripts(line, line.database.empty() ? tw::Shell::DatabasePath(folder) : line.database);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    std::cin.tie(nullptr);
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    const QCoreApplication application(argc, argv);
+    try {
+        return Run(arguments);
+    } catch (const tw::ScriptError& error) {
+        std::cerr << "tunwright-cli: " << error.Reason() << '\n';
+    } catch (const std::exception& failure) {
+        std::cerr << "tunwright-cli: " << failure.what() << '\n';
+    }
+    return kBadLine;
+}

@@ -1,0 +1,84 @@
+// The settings store on QSettings: any text comes back letter for letter.
+#include "platform/qt/QtSettings.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace tw {
+namespace {
+
+using Layer = SettingsPort::Layer;
+
+class QtSettingsTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        const auto* const info = testing::UnitTest::GetInstance()->current_test_info();
+        folder_ = std::filesystem::path(testing::TempDir()) / (std::string("QtSettingsTest-") + info->name());
+        std::filesystem::remove_all(folder_);
+        std::filesystem::create_directories(folder_);
+    }
+    void TearDown() override { std::filesystem::remove_all(folder_); }
+
+    std::string File() const { return (folder_ / "settings.ini").string(); }
+    void Write(const std::string& text) const { std::ofstream(File(), std::ios::binary) << text; }
+
+    // Stored by one program run and read by the next.
+    std::optional<std::string> RoundTrip(const std::string& text) const {
+        EXPECT_TRUE(QtSettings::OfFile(File())->Write(Layer::User, "Settings", "Key", text));
+        return QtSettings::OfFile(File())->Read(Layer::User, "Settings", "Key");
+    }
+
+    std::filesystem::path folder_;
+};
+
+TEST_F(QtSettingsTest, BringsAnyTextBack) {
+    for (const std::string text :
+         {"",           " ",          "  two blanks  ", "007",          "1.050",
+          "1e3",        "0x10",       "true",           "False",        "a, b, c",
+          ",",          "a;b",        "@ByteArray(x)",  "@Invalid()",   "@",
+          "100%",       "%2F",        "a\\b",           "\\x41",        "a\r\nb\tc",
+          "\"quoted\"", "[Settings]", "Key=1",          "# no comment", "Märzen 12 °P",
+          "日本"}) {
+        EXPECT_EQ(RoundTrip(text), text);
+    }
+    const std::string withZero("a\0b", 3);
+    EXPECT_EQ(RoundTrip(withZero), withZero);
+}
+
+TEST_F(QtSettingsTest, KeepsSectionsAndKeysApart) {
+    const auto store = QtSettings::OfFile(File());
+    store->Write(Layer::User, "A/B", "C", "1");
+    store->Write(Layer::User, "A", "B/C", "2");
+    store->Write(Layer::User, "General", "C", "3");
+    store->Write(Layer::User, "A%2FB", "C", "4");
+    EXPECT_EQ(store->Read(Layer::User, "A/B", "C"), "1");
+    EXPECT_EQ(store->Read(Layer::User, "A", "B/C"), "2");
+    EXPECT_EQ(store->Read(Layer::User, "General", "C"), "3");
+    EXPECT_EQ(store->Read(Layer::User, "A%2FB", "C"), "4");
+}
+
+TEST_F(QtSettingsTest, ReadsAFileWrittenByHand) {
+    Write("[Settings]\nHopForm=2\nWaterProfile=Burton-on-Trent, Moderate\nBoilVol=007\n");
+    const auto store = QtSettings::OfFile(File());
+    EXPECT_EQ(store->Read(Layer::User, "Settings", "HopForm"), "2");
+    EXPECT_EQ(store->Read(Layer::User, "Settings", "WaterProfile"), "Burton-on-Trent, Moderate");
+    EXPECT_EQ(store->Read(Layer::User, "Settings", "BoilVol"), "007");
+    EXPECT_EQ(store->Read(Layer::User, "Settings", "TotalVol"), std::nullopt);
+    EXPECT_EQ(store->Read(Layer::User, "MRU", "HopForm"), std::nullopt);
+}
+
+TEST_F(QtSettingsTest, SaysThatALayerCannotBeWritten) {
+    // A file stands where the settings file's folder would have to be.
+    Write("x");
+    EXPECT_FALSE(QtSettings::OfFile(File() + "/in.ini")->Write(Layer::User, "Settings", "Key", "1"));
+}
+
+TEST_F(QtSettingsTest, KeepsTheMachinesLayerApart) {
+    const auto store = QtSettings::OfFile(File());
+    store->Write(Layer::User, "Settings", "KeyOfThisTestAlone", "1");
+    EXPECT_EQ(store->Read(Layer::Machine, "Settings", "KeyOfThisTestAlone"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace tw
