@@ -9,8 +9,8 @@
 namespace tw {
 namespace {
 
-// Both numbers have two decimals at most, so that a smaller difference is a trace of binary arithmetic: exactly
-// 2.5 PPM or 3% is close enough.
+// Both numbers have two decimals at most, so that a smaller difference is a trace of binary arithmetic:
+// exactly 2.5 PPM or 3% is close enough.
 constexpr double kTrace = 1e-6;
 
 }  // namespace

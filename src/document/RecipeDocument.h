@@ -102,7 +102,10 @@ class RecipeDocument {
     // Rows. The first two act on the present tab's grid.
     void InsertRow();
     void DeleteRow();
+    // A blank row at the current row, or behind the last data row as the setting says; nothing in a grid of
+    // fixed rows.
     void InsertRowForGrid(Grid& grid);
+    // The current row goes; nothing when it is no data row or the grid may not lose one.
     void DeleteRowForGrid(Grid& grid);
     bool CanInsertRow(const Grid& grid) const;
     // True when the current row is a data row and the grid may lose one.

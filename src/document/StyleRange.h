@@ -1,5 +1,5 @@
-// Where a figure lies in the range that its style gives: what the range bars show. It works on the texts shown, so that
-// the bar never says another thing than the label beside it.
+// Where a figure lies in the range that its style gives: what the range bars show. It works on the texts
+// shown, so that the bar never says another thing than the label beside it.
 #pragma once
 
 #include <optional>
@@ -14,11 +14,12 @@ struct StyleRange {
     bool operator==(const StyleRange&) const = default;
 };
 
-// The range of a style label: "{lo} - {hi}", ">= {lo}", "<= {hi}" or one value, a unit behind the last number. Nothing for
-// an empty or another text.
+// The range of a style label: "{lo} - {hi}", ">= {lo}", "<= {hi}" or one value, a unit behind the last
+// number. Nothing for an empty or another text.
 std::optional<StyleRange> RangeOfLabel(std::string_view text);
 
-// The first number of a figure's text ("5.2% abv", "7 SRM (5 HCU)", ">50 SRM (80 HCU)"), nothing when there is none.
+// The first number of a figure's text ("5.2% abv", "7 SRM (5 HCU)", ">50 SRM (80 HCU)"), nothing when there
+// is none.
 std::optional<double> FigureOf(std::string_view text);
 
 enum class RangePlace { Below, Within, Above };
@@ -32,8 +33,8 @@ struct RangeScale {
     double bandEnd = 1;
     double mark = 0;  // at 0 or 1 when the figure lies beyond the bar
 };
-// A range of two ends takes the middle half of the bar; an open end runs to the end of the bar. A figure outside keeps
-// its distance in the same measure as long as the bar reaches.
+// A range of two ends takes the middle half of the bar; an open end runs to the end of the bar. A figure
+// outside keeps its distance in the same measure as long as the bar reaches.
 RangeScale ScaleOf(const StyleRange& range, double figure);
 
 }  // namespace tw

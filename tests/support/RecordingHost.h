@@ -1,5 +1,6 @@
-// A program around recipe documents, for tests: it records the calls of a document in their order, keeps the state of
-// the commands that documents steer, and passes the notices of the store on to its documents as the shell does.
+// A program around recipe documents, for tests: it records the calls of a document in their order, keeps the
+// state of the commands that documents steer, and passes the notices of the store on to its documents as the
+// shell does.
 #pragma once
 
 #include <algorithm>
@@ -22,10 +23,11 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     // What a test sets.
     RecipeDefaults defaults;
     bool appendRows = false;
-    const RecipeDocument* active = nullptr;   // the active document
-    std::vector<RecipeDocument*> documents;   // those that hear the notices
+    const RecipeDocument* active = nullptr;  // the active document
+    std::vector<RecipeDocument*> documents;  // those that hear the notices
 
-    // What a test reads: every call, such as "EnableSave on" or "AddToMRU Stout", and the state of each command.
+    // What a test reads: every call, such as "EnableSave on" or "AddToMRU Stout", and the state of each
+    // command.
     std::vector<std::string> log;
     std::map<std::string, bool, std::less<>> commands;
     std::vector<std::string> TakeLog() { return std::exchange(log, {}); }
@@ -79,7 +81,8 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     DB_IO io_;
 };
 
-// Writes every change of a record into a log of its own or the host's, such as "txtOG=1.050", "gridGrain 1,3=23.04".
+// Writes every change of a record into a log of its own or the host's, such as "txtOG=1.050", "gridGrain
+// 1,3=23.04".
 class ChangeRecorder : public RecordObserver {
   public:
     explicit ChangeRecorder(std::vector<std::string>& log) : log_(log) {}

@@ -1,0 +1,252 @@
+// Recalculation of a recipe of 30 lines (14 grains, 4 extracts, 10 hops, 2 sugars) through its document,
+// without a window, beside the least that the arithmetic and the texts can cost. The counter "x_limit" is the
+// ratio to that floor, both measured in turn in the same run.
+#include <algorithm>
+#include <array>
+#include <benchmark/benchmark.h>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "document/RecipeDocument.h"
+#include "platform/DialogModel.h"
+
+namespace {
+
+constexpr int kGrains = 14;
+constexpr int kExtracts = 4;
+constexpr int kHops = 10;
+constexpr int kSugars = 2;
+
+// A small generator of its own, so that every run and every machine sees the same recipe.
+class Dice {
+  public:
+    double Next() {
+        state_ = state_ * 6364136223846793005u + 1442695040888963407u;
+        return static_cast<double>(state_ >> 11) / 9007199254740992.0;
+    }
+
+  private:
+    std::uint64_t state_ = 7;
+};
+
+// A number of two decimals, as a brewer types it.
+std::string Typed(double value) {
+    std::array<char, 32> buffer;
+    const auto result =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 2);
+    return {buffer.data(), result.ptr};
+}
+
+// The floor. One recalculation writes and reads at least this much:
+//   written, shortest text: points and colour units of 18 rows, 10 IBUs, 2 priming volumes, 6 totals (54
+//   numbers); read from text again: the 36 + 13 cells that are summed and the 6 totals (55 numbers); written
+//   by pattern: both gravities, alcohol, two of colour, bitterness, carbonation (7 numbers); one exp and one
+//   pow for each hop row, one pow for the colour.
+// Buffers lie on the stack; there are no cells, no commands and no entry to read.
+class Floor {
+  public:
+    Floor() {
+        Dice dice;
+        for (std::size_t i = 0; i < kEntries; ++i) {
+            typed_.push_back(std::round(dice.Next() * 3000) / 100);
+            std::array<char, 32> buffer;
+            const auto result =
+                std::to_chars(buffer.data(), buffer.data() + buffer.size(), typed_.back() * 1.0000001234567);
+            full_.emplace_back(buffer.data(), result.ptr);
+        }
+    }
+
+    void Run() {
+        base_ = (base_ + 97) % (kEntries - 128);
+        const double volume = typed_[base_] + 1;
+        double sum = 0;
+        for (std::size_t row = 0; row < kGrains + kExtracts; ++row) {
+            const double amount = typed_[base_ + row];
+            Write(amount * 36.5 * 0.72 / volume);
+            Write(amount * 4.2 / volume);
+        }
+        for (std::size_t cell = 0; cell < 2 * (kGrains + kExtracts); ++cell) sum += Read(cell);
+        const double boilGravity = 1 + sum / 100000;
+        for (std::size_t row = 0; row < kHops; ++row)
+            Write(typed_[base_ + row] * 7490 / volume * 1.65 * std::pow(0.000125, boilGravity - 1) *
+                  (1 - std::exp(-0.04 * typed_[base_ + row + 20])) / 4.15);
+        for (std::size_t cell = 0; cell < kHops + kSugars + 1; ++cell) sum += Read(cell);
+        for (std::size_t row = 0; row < kSugars; ++row) Write(typed_[base_ + row] * 0.27 / volume);
+        for (std::size_t total = 0; total < 6; ++total) {
+            Write(sum * (static_cast<double>(total) + 1.1));
+            benchmark::DoNotOptimize(Read(total));
+        }
+        const double srm = 1.4922 * std::pow(std::fabs(sum) + 1, 0.6859);
+        for (int figure = 0; figure < 7; ++figure) WriteFixed(figure == 0 ? srm : sum + figure, figure % 4);
+    }
+
+  private:
+    static constexpr std::size_t kEntries = 4096;
+
+    double Read(std::size_t cell) const {
+        const std::string& text = full_[base_ + cell];
+        double value = 0;
+        std::from_chars(text.data(), text.data() + text.size(), value);
+        return value;
+    }
+    static void Write(double value) {
+        std::array<char, 64> buffer;
+        benchmark::DoNotOptimize(std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr);
+        benchmark::ClobberMemory();
+    }
+    static void WriteFixed(double value, int decimals) {
+        std::array<char, 64> buffer;
+        benchmark::DoNotOptimize(std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                               std::chars_format::fixed, decimals)
+                                     .ptr);
+        benchmark::ClobberMemory();
+    }
+
+    std::vector<double> typed_;
+    std::vector<std::string> full_;
+    std::size_t base_ = 0;
+};
+
+// A platform and a program around the document that do nothing.
+class Nothing : public tw::MessagePort,
+                public tw::DialogPort,
+                public tw::SettingsPort,
+                public tw::ClockPort,
+                public tw::ClipboardPort {
+  public:
+    void ShowMessage(std::string_view, std::string_view) override {}
+    tw::Answer Ask(std::string_view, std::string_view, tw::Question) override { return tw::Answer::No; }
+    void Beep() override {}
+    void ShowModal(tw::DialogModel& dialog) override { dialog.CloseBox(); }
+    std::optional<std::string> Read(Layer, std::string_view, std::string_view) override {
+        return std::nullopt;
+    }
+    bool Write(Layer, std::string_view, std::string_view, std::string_view) override { return false; }
+    tw::DateTime Now() override { return {}; }
+    bool HasText() override { return false; }
+    std::string Text() override { return {}; }
+    void SetText(std::string_view) override {}
+};
+
+class QuietHost : public tw::DocumentHost, public tw::DocumentCommands {
+  public:
+    tw::DocumentCommands& Commands() override { return *this; }
+    bool IsActive(const tw::RecipeDocument&) const override { return true; }
+    tw::RecipeDefaults Defaults() const override {
+        return {"72%", "1.0", "", "6.5 gal", "5 gal", 0, 0, 0, true};
+    }
+    bool AppendRows() const override { return true; }
+    void DeleteRecipe(std::string_view) override {}
+    void RecipeStored(std::string_view) override {}
+    void AddToMRU(std::string_view) override {}
+    void DocumentRenamed(const tw::RecipeDocument&) override {}
+    void EnableResizeRecipe(bool) override {}
+    void EnableChangeStrength(bool) override {}
+    void EnableChangeBitterness(bool) override {}
+    void EnableChangeCarbonation(bool) override {}
+    void EnableSave(bool) override {}
+    void EnableInsert(bool) override {}
+    void EnableDelete(bool) override {}
+    void EnableCopyPaste(bool, bool) override {}
+    void EnableUndo(bool, std::string_view) override {}
+    void EnableRedo(bool, std::string_view) override {}
+    void CheckEnableSaveAll() override {}
+    void CheckEnableDelete() override {}
+};
+
+class Recipe {
+  public:
+    Recipe() {
+        Dice dice;
+        tw::RecipeRecord& r = document_.Record();
+        Lines(r.gridGrain, kGrains, dice, {{1, 10}, {2, 36}, {4, 20}});
+        Lines(r.gridExtract, kExtracts, dice, {{1, 3}, {2, 40}, {4, 8}});
+        Lines(r.gridHops, kHops, dice, {{1, 15}, {4, 2}, {6, 80}});
+        Lines(r.gridPriming, kSugars, dice, {{1, 100}, {2, 4}});
+        Commit(r.txtTemp, "68");
+        Commit(r.txtFG, "1.012");
+        for (const tw::TextBox* figure : {&r.txtOG, &r.txtBG, &r.txtABV, &r.txtColor, &r.txtIBU, &r.txtCO2})
+            if (figure->Empty()) throw tw::Error("Recipe", "A figure is missing", 1);
+    }
+
+    void Commit(tw::TextBox& box, std::string_view text) {
+        document_.SetText(box, text);
+        if (!document_.CommitField(box)) throw tw::Error("Recipe", "The entry was refused", 1);
+    }
+    void CommitTotalVolume(std::string_view text) { Commit(document_.Record().txtTotalVol, text); }
+    void CommitGrain(int row, std::string_view text) {
+        if (!document_.EditCell(document_.Record().gridGrain, row, tw::GrainCol::Amount, text))
+            throw tw::Error("Recipe", "The entry was refused", 1);
+    }
+
+  private:
+    struct Entry {
+        int col;
+        double most;
+    };
+    void Lines(tw::Grid& grid, int lines, Dice& dice, const std::vector<Entry>& entries) {
+        while (grid.DataRows() < lines) document_.InsertRowForGrid(grid);
+        for (int row = 1; row <= lines; ++row)
+            for (const Entry& entry : entries)
+                document_.EditCell(grid, row, entry.col, Typed((0.1 + 0.9 * dice.Next()) * entry.most));
+    }
+
+    Nothing nothing_;
+    tw::Platform platform_{nothing_, nothing_, nothing_, nothing_, nothing_};
+    QuietHost host_;
+    std::unique_ptr<tw::Database> database_ = tw::Database::CreateInMemory();
+    tw::ColorTable colors_;
+    tw::RecipeDocument document_{host_, platform_, *database_, colors_, 1};
+};
+
+// Runs edit(n) for n = 0, 1, ... and the floor in turn, in rounds of a few; the median of the rounds' ratios
+// counts.
+void Compare(benchmark::State& state, const std::function<void(int)>& edit) {
+    using Clock = std::chrono::steady_clock;
+    constexpr int kRound = 20;
+    Floor floor;
+    std::vector<double> ratios;
+    int n = 0;
+    for ([[maybe_unused]] const auto _ : state) {
+        const Clock::time_point begin = Clock::now();
+        for (int i = 0; i < kRound; ++i) edit(n++);
+        const Clock::time_point middle = Clock::now();
+        for (int i = 0; i < kRound; ++i) floor.Run();
+        const Clock::time_point end = Clock::now();
+        const std::chrono::duration<double> own = middle - begin;
+        const std::chrono::duration<double> least = end - middle;
+        state.SetIterationTime(own.count());
+        ratios.push_back(own / least);
+    }
+    std::nth_element(ratios.begin(), ratios.begin() + static_cast<std::ptrdiff_t>(ratios.size() / 2),
+                     ratios.end());
+    state.counters["x_limit"] = ratios[ratios.size() / 2];
+    state.counters["per_edit"] =
+        benchmark::Counter(static_cast<double>(state.iterations() * kRound),
+                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+
+void RecalculateTotalVolume(benchmark::State& state) {
+    Recipe recipe;
+    std::vector<std::string> volumes;
+    for (int i = 0; i < 16; ++i) volumes.push_back(Typed(4 + i * 0.37) + " gal");
+    Compare(state, [&](int n) { recipe.CommitTotalVolume(volumes[static_cast<std::size_t>(n % 16)]); });
+}
+BENCHMARK(RecalculateTotalVolume)->UseManualTime();
+
+void RecalculateGrainAmount(benchmark::State& state) {
+    Recipe recipe;
+    std::vector<std::string> amounts;
+    for (int i = 0; i < 15; ++i) amounts.push_back(Typed(2 + i * 0.53));
+    Compare(state,
+            [&](int n) { recipe.CommitGrain(1 + n % kGrains, amounts[static_cast<std::size_t>(n % 15)]); });
+}
+BENCHMARK(RecalculateGrainAmount)->UseManualTime();
+
+}  // namespace

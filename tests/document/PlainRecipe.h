@@ -1,0 +1,108 @@
+// A second, plain calculation of a recipe, written apart from the program's: numbers kept as doubles, each
+// chain spelled out as one list of steps, and a fault in the middle undone by going back to a copy. The model
+// test compares the program with it after every edit.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tw::test {
+
+// What the catalogue gives for a name; an absent number is NULL.
+struct PlainCatalogue {
+    struct Fermentable {
+        std::optional<double> ppg, color;
+    };
+    using Ions = std::vector<std::optional<double>>;
+    std::map<std::string, Fermentable> grains, extracts;
+    std::map<std::string, std::optional<double>> hops, sugars, yeasts;
+    std::map<std::string, Ions> waters, salts;
+    std::map<int, std::optional<std::string>> styleWaters;  // water profile by style
+};
+
+struct PlainCell {
+    std::string text;
+    double number = 0;
+    char kind = ' ';  // of a hop amount: ' ' a weight, 'A', 'I'
+    bool checked = false;
+    bool bold = false;
+    bool Empty() const { return text.empty(); }
+};
+using PlainRow = std::vector<PlainCell>;
+using PlainRows = std::vector<PlainRow>;
+
+struct PlainBox {
+    std::string text;
+    double number = 0;
+};
+
+class PlainRecipe {
+  public:
+    enum class Outcome { Done, Refused, Raised };
+
+    explicit PlainRecipe(const PlainCatalogue& catalogue, int hopForm, bool hopSock);
+
+    // What is typed and left. Refused and Raised leave everything as it was.
+    Outcome Commit(const std::string& box, const std::string& text);
+    Outcome Edit(const std::string& grid, int row, int col, const std::string& text);
+    Outcome Check(int hopRow, int col, bool checked);
+    Outcome ChooseMethod(int method);
+    Outcome ChoosePackaging(int packaging);
+    void ChooseStyle(int id);
+    // row counts from 0 among the data rows.
+    void InsertRow(const std::string& grid, int row);
+    Outcome DeleteRow(const std::string& grid, int row);
+    // What saving and opening does to what is seen.
+    void Reopen();
+
+    std::map<std::string, PlainBox> boxes;
+    std::map<std::string, PlainRows> rows;   // the data rows of each grid
+    std::map<std::string, PlainRow> totals;  // the last row of the grids that have one
+    PlainCell residual;                      // CO2 left in the beer
+    int method = 0, packaging = 0, style = 0;
+    bool changed = false;
+    std::map<std::string, bool> buttons;
+    std::map<std::string, bool> commands;
+
+  private:
+    template <class Change>
+    Outcome Try(Change change);
+    bool ReadBox(const std::string& box, const std::string& text, double& number);
+    bool ReadCell(const std::string& grid, int row, int col, const std::string& text, PlainCell& cell);
+    void RunBox(const std::string& box);
+    void RunCell(const std::string& grid, int row, int col);
+    void EditNow(const std::string& grid, int row, int col, const PlainCell& cell);
+    PlainRow NewRow(const std::string& grid) const;
+
+    void Points(const std::string& grid, int row, bool total);
+    void Hcu(const std::string& grid, int row, bool total);
+    void Sum(const std::string& grid, int col);
+    void AmountTotal(const std::string& grid);
+    void OriginalGravity();
+    void BoilGravity();
+    void Alcohol();
+    void Color();
+    void Ibu(int row);
+    void AllIbus();
+    void ShowIbu();
+    void Priming(int row);
+    void PrimingTotal();
+    void AllPriming();
+    void ShowCO2();
+    bool KegVolumes(std::optional<double> pressure);
+    bool Carbonation();
+    void CarbonationCommand();
+    void Treatment(int row);
+    void TreatmentTotals();
+    void Needed();
+    void MarkTotal(int col);
+    void Yeast(int row);
+
+    const PlainCatalogue& catalogue_;
+    int hopForm_;
+    bool hopSock_;
+};
+
+}  // namespace tw::test

@@ -1,0 +1,303 @@
+// The way of a recipe into the database: its questions, its order, and what stands where after a failure.
+#include <gmock/gmock.h>
+
+#include "DocumentTest.h"
+
+namespace tw::test {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class SavingTest : public DocumentTest {
+  protected:
+    bool Save(bool saveAs = false, bool silent = false) {
+        bool ok = false;
+        document->Save(saveAs, silent, ok);
+        return ok;
+    }
+    // A new document with some lines in it.
+    void NewWithLines() {
+        New();
+        Put(R().gridGrain, 1, 0, "Pale Malt");
+        Put(R().gridGrain, 1, 1, "8 lb");
+        document->InsertRowForGrid(R().gridLog);
+        Put(R().gridLog, 1, 2, "note");
+    }
+    void Rename(std::string_view name) { document->SetText(R().txtName, name); }
+};
+
+TEST_F(SavingTest, AFirstSaveMakesTheRecipe) {
+    NewWithLines();
+    Rename("  O'Hara's ");
+    document->SetFolderID(0);
+    host.log.clear();
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(One("SELECT NAME FROM RECIPES"), "O'Hara's");
+    EXPECT_EQ(One("SELECT CREATED_WHEN FROM RECIPES"), "03/09/2024 14:05:07");
+    EXPECT_EQ(One("SELECT AMOUNT FROM RECIPE_GRAINS WHERE GRAIN"), "8 lb");
+    EXPECT_EQ(One("SELECT AMOUNT_DATA FROM RECIPE_GRAINS WHERE GRAIN"), "8");
+    // Blank rows are lines too.
+    EXPECT_EQ(Count("RECIPE_GRAINS"), 2);
+    EXPECT_EQ(Count("RECIPE_HOPS"), 1);
+    EXPECT_EQ(Count("RECIPE_SUGARS"), 1);
+    EXPECT_EQ(Count("RECIPE_LOG"), 1);
+    EXPECT_EQ(document->OrigName(), "O'Hara's");
+    EXPECT_FALSE(document->Changed());
+    EXPECT_FALSE(host.IsOn("EnableSave"));
+    EXPECT_THAT(host.log, Contains("AddToMRU O'Hara's"));
+    EXPECT_THAT(host.log, Contains("RecipeStored O'Hara's"));
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(SavingTest, EverySaveIsANewRowOfTheSameDay) {
+    NewWithLines();
+    Rename("A");
+    Save();
+    const std::string id = One("SELECT ID FROM RECIPES");
+    platform.clock.now.day = 20;
+    Set(R().txtTotalVol, "5");
+    EXPECT_TRUE(Save());
+    EXPECT_NE(One("SELECT ID FROM RECIPES"), id);
+    EXPECT_EQ(One("SELECT CREATED_WHEN FROM RECIPES"), "03/09/2024 14:05:07");
+    EXPECT_EQ(One("SELECT MODIFIED_WHEN FROM RECIPES"), "03/20/2024 14:05:07");
+    EXPECT_EQ(Count("RECIPES"), 1);
+    EXPECT_EQ(Count("RECIPE_GRAINS"), 2);
+    // Deleting a recipe leaves its sugars behind: intended.
+    EXPECT_EQ(Count("RECIPE_SUGARS"), 2);
+    // Opened and saved again it keeps its day.
+    Open("a");
+    platform.clock.now.day = 21;
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(One("SELECT CREATED_WHEN FROM RECIPES"), "03/09/2024 14:05:07");
+    EXPECT_EQ(One("SELECT MODIFIED_WHEN FROM RECIPES"), "03/21/2024 14:05:07");
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(SavingTest, AnEditedNameRenamesTheRecipe) {
+    NewWithLines();
+    Rename("A");
+    Save();
+    Rename("B");
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(Count("RECIPES"), 1);
+    EXPECT_EQ(One("SELECT NAME FROM RECIPES"), "B");
+    EXPECT_EQ(document->OrigName(), "B");
+    EXPECT_THAT(Boxes(), IsEmpty());
+    // Another case, or blanks around it, is the same name.
+    Rename(" b ");
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(One("SELECT NAME FROM RECIPES"), "b");
+    EXPECT_EQ(Count("RECIPES"), 1);
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(SavingTest, SavingUnderAnotherNameMakesACopy) {
+    NewWithLines();
+    Rename("A");
+    Save();
+    platform.clock.now.day = 20;
+    bool ok = false;
+    document->SaveRecipeAs("B", 5, false, ok);
+    EXPECT_TRUE(ok);
+    EXPECT_EQ(Count("RECIPES"), 2);
+    EXPECT_EQ(One("SELECT CREATED_WHEN FROM RECIPES WHERE NAME = 'B'"), "03/20/2024 14:05:07");
+    EXPECT_EQ(One("SELECT FOLDER_ID FROM RECIPES WHERE NAME = 'B'"), "5");
+    EXPECT_EQ(document->OrigName(), "B");
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(SavingTest, SavingAsItselfAsks) {
+    NewWithLines();
+    Rename("A");
+    Save();
+    Put(R().gridGrain, 1, 1, "9 lb");
+    bool ok = true;
+    document->SaveRecipeAs("A", 0, false, ok);
+    EXPECT_FALSE(ok);
+    EXPECT_THAT(Boxes(),
+                ElementsAre("[Overwrite existing recipe?] Another recipe named 'A' already exists.\r\n"
+                            "Overwrite it? -> No"));
+    EXPECT_EQ(One("SELECT AMOUNT FROM RECIPE_GRAINS WHERE GRAIN"), "8 lb");
+    platform.clock.now.day = 20;
+    platform.messages.answers = {Answer::Yes};
+    document->SaveRecipeAs("A", 0, false, ok);
+    EXPECT_TRUE(ok);
+    EXPECT_EQ(Count("RECIPES"), 1);
+    EXPECT_EQ(One("SELECT CREATED_WHEN FROM RECIPES"), "03/20/2024 14:05:07");
+    EXPECT_EQ(One("SELECT AMOUNT FROM RECIPE_GRAINS WHERE GRAIN"), "9 lb");
+    EXPECT_EQ(document->OrigName(), "A");
+    Boxes();
+    document->SaveRecipeAs("a", 0, true, ok);
+    EXPECT_TRUE(ok);
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(SavingTest, TheNameOfAnotherRecipeAsks) {
+    New();
+    SaveAs("It's Mine");
+    RecipeDocument other(host, platform.platform, *database, colors, 1);
+    other.OpenRecipe("It's Mine");
+    NewWithLines();
+    host.documents = {&other, document.get()};
+    Rename("Yours");
+    Save();
+    Rename("it's MINE ");
+    host.log.clear();
+    EXPECT_FALSE(Save());
+    EXPECT_THAT(Boxes(),
+                ElementsAre("[Overwrite existing recipe?] Another recipe named 'it's MINE' already exists."
+                            "\r\nOverwrite it? -> No"));
+    EXPECT_EQ(Count("RECIPES"), 2);
+    EXPECT_TRUE(document->Changed());
+    EXPECT_EQ(document->OrigName(), "Yours");
+    EXPECT_THAT(host.log, IsEmpty());
+    platform.messages.answers = {Answer::Yes};
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(Count("RECIPES"), 1);
+    EXPECT_EQ(One("SELECT NAME FROM RECIPES"), "it's MINE");
+    // The other window stays, as an unsaved recipe; the saved one is no stranger to itself.
+    EXPECT_EQ(other.OrigName(), "");
+    EXPECT_TRUE(other.Changed());
+    EXPECT_EQ(document->OrigName(), "it's MINE");
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(SavingTest, ASilentSaveAsksNothing) {
+    New();
+    SaveAs("A");
+    NewWithLines();
+    Rename("A");
+    EXPECT_TRUE(Save(false, true));
+    EXPECT_EQ(Count("RECIPES"), 1);
+    EXPECT_EQ(One("SELECT AMOUNT FROM RECIPE_GRAINS WHERE GRAIN"), "8 lb");
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(SavingTest, OrphanedLinesNeverComeToANewRecipe) {
+    NewWithLines();
+    document->InsertRowForGrid(R().gridTreatment);
+    Put(R().gridTreatment, 1, 0, "Gypsum");
+    Rename("A");
+    Save();
+    host.DeleteRecipe("A");
+    EXPECT_EQ(Count("RECIPE_SALTS"), 1);
+    New();
+    SaveAs("B");
+    Open("B");
+    EXPECT_EQ(R().gridTreatment.DataRows(), 0);
+}
+
+TEST_F(SavingTest, ADetachedRecipeIsSavedAnew) {
+    NewWithLines();
+    Rename("A");
+    Save();
+    host.DeleteRecipe("A");
+    EXPECT_TRUE(document->Changed());
+    EXPECT_EQ(Count("RECIPES"), 0);
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(Count("RECIPES"), 1);
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+// Every statement of a save in turn raises. The document must stay as it is, changed and with its window's
+// texts; and saving again when the trouble is over must bring everything into the database, once.
+TEST_F(SavingTest, AFailureAnywhereLosesNothingOfTheDocument) {
+    int statements = 0;
+    for (int failing = 0;; ++failing) {
+        database = Database::CreateInMemory();
+        FillCatalogue(*database);
+        RecordingHost ownHost(*database, platform.clock);
+        RecipeDocument own(ownHost, platform.platform, *database, colors, 1);
+        ownHost.documents = {&own};
+        ownHost.active = &own;
+        bool ok = false;
+        own.SaveRecipeAs("Old", 0, true, ok);
+        own.EditCell(own.Record().gridGrain, 1, 1, "8 lb");
+        own.InsertRowForGrid(own.Record().gridLog);
+        own.EditCell(own.Record().gridLog, 1, 2, "note");
+        own.SetText(own.Record().txtName, "New");
+        int count = 0;
+        bool failed = false;
+        database->SetStatementHook([&](std::string_view) {
+            if (count++ != failing) return;
+            failed = true;
+            throw Error("Database", "disk I/O error", 10);
+        });
+        try {
+            own.Save(false, false, ok);
+        } catch (const Error& error) {
+            EXPECT_EQ(error.WithNumber(), "disk I/O error (10)");
+        }
+        database->SetStatementHook({});
+        if (!failed) {
+            statements = count;
+            break;
+        }
+        EXPECT_TRUE(own.Changed()) << failing;
+        EXPECT_EQ(own.BeerName(), "New") << failing;
+        EXPECT_EQ(own.Record().gridGrain.Text(1, 1), "8 lb") << failing;
+        EXPECT_LE(Count("RECIPES"), 1) << failing;
+        own.Save(false, true, ok);
+        EXPECT_TRUE(ok) << failing;
+        EXPECT_FALSE(own.Changed()) << failing;
+        EXPECT_EQ(Count("RECIPES"), 1) << failing;
+        EXPECT_EQ(One("SELECT NAME FROM RECIPES"), "New") << failing;
+        // Lines of the old recipe may be left over; no recipe has their id any more.
+        const std::string ofRecipe = " WHERE RECIPE_ID = " + One("SELECT ID FROM RECIPES");
+        EXPECT_EQ(Count("RECIPE_GRAINS" + ofRecipe), 2) << failing;
+        EXPECT_EQ(One("SELECT NOTES FROM RECIPE_LOG" + ofRecipe), "note") << failing;
+    }
+    // The look-ups, the old row with its lines, the new row, its id, three updates, five lines, the folder.
+    EXPECT_GE(statements, 15);
+}
+
+// What was done before a failure stays: no rolling back.
+TEST_F(SavingTest, AFailureLeavesWhatWasDoneSoFar) {
+    NewWithLines();
+    Rename("A");
+    Save();
+    Put(R().gridGrain, 1, 1, "9 lb");
+    const auto failAt = [&](std::string_view words) {
+        database->SetStatementHook([words](std::string_view sql) {
+            if (sql.starts_with(words)) throw Error("Database", "disk I/O error", 10);
+        });
+        EXPECT_THROW(Save(), Error) << words;
+        database->SetStatementHook({});
+    };
+    failAt("INSERT INTO RECIPE_HOPS");
+    EXPECT_EQ(Count("RECIPES"), 1);
+    EXPECT_EQ(One("SELECT AMOUNT FROM RECIPE_GRAINS WHERE GRAIN"), "9 lb");
+    EXPECT_EQ(Count("RECIPE_HOPS"), 0);
+    failAt("INSERT INTO RECIPES");
+    EXPECT_EQ(Count("RECIPES"), 0);
+    EXPECT_EQ(Count("RECIPE_GRAINS"), 0);
+    EXPECT_TRUE(document->Changed());
+    EXPECT_EQ(document->OrigName(), "A");
+    EXPECT_TRUE(Save());
+    EXPECT_EQ(Count("RECIPE_GRAINS"), 2);
+}
+
+// An update that touches no row ends the save with a box; the question of success was the overwriting alone.
+TEST_F(SavingTest, ARowThatCannotBeFoundAgainIsToldInABox) {
+    NewWithLines();
+    Rename("A");
+    database->SetStatementHook([&](std::string_view sql) {
+        if (!sql.starts_with("UPDATE RECIPES SET ABV")) return;
+        database->ExecuteNative("DELETE FROM RECIPES");
+    });
+    bool ok = false;
+    document->Save(false, false, ok);
+    database->SetStatementHook({});
+    EXPECT_TRUE(ok);
+    EXPECT_THAT(Boxes(), ElementsAre("[UNKNOWN ERROR] Error saving recipe to database!"));
+    EXPECT_TRUE(document->Changed());
+    EXPECT_EQ(document->OrigName(), "");
+    EXPECT_EQ(Count("RECIPE_GRAINS"), 0);
+    EXPECT_TRUE(Save());
+    EXPECT_FALSE(document->Changed());
+}
+
+}  // namespace
+}  // namespace tw::test

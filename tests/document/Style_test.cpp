@@ -1,0 +1,191 @@
+#include <gmock/gmock.h>
+
+#include "DocumentTest.h"
+
+namespace tw::test {
+namespace {
+
+using testing::ElementsAre;
+
+class StyleTest : public DocumentTest {
+  protected:
+    StyleTest() { New(); }
+    Log Labels() {
+        Log labels;
+        for (const Label* label : R().Labels()) labels.push_back(label->Text());
+        return labels;
+    }
+    Log Target() {
+        Log target;
+        for (int col = 1; col < 8; ++col) target.push_back(R().gridWater.Text(WaterRow::Target, col));
+        return target;
+    }
+};
+
+TEST_F(StyleTest, ListsTheStylesByNameBehindNone) {
+    Log names;
+    for (const ListBox::Entry& entry : R().cmbStyle.Entries()) names.push_back(entry.text);
+    EXPECT_THAT(names, ElementsAre("(None)", "Half Open", "Lager", "Odd Water", "Stout"));
+    EXPECT_EQ(R().cmbStyle.Selected(), 0);
+    EXPECT_EQ(R().cmbStyle.Entries()[0].itemData, 0);
+    EXPECT_EQ(R().cmbStyle.Entries()[4].itemData, kStout);
+}
+
+TEST_F(StyleTest, ShowsItsRanges) {
+    ASSERT_TRUE(document->ChangeStyle(" STOUT "));
+    EXPECT_EQ(document->StyleID(), kStout);
+    EXPECT_EQ(document->BeerStyle(), "Stout");
+    // The final gravity of this style has no limits.
+    EXPECT_THAT(Labels(),
+                ElementsAre("1.035 - 1.050", "", "3.2 - 5.5 abv", "35 - 200 SRM", "30 - 50", "2.0 - 2.5"));
+    document->ChangeStyle("Lager");
+    EXPECT_THAT(Labels(), ElementsAre("1.045", "1.010", "5.0 abv", "4 SRM", "20", "2.5"));
+    document->ChangeStyle("Half Open");
+    EXPECT_THAT(Labels(), ElementsAre(">= 1.050", "<= 1.012", ">= 6.0 abv", "<= 12 SRM", ">= 26", "<= 2.8"));
+    document->SelectStyle(0);
+    EXPECT_THAT(Labels(), ElementsAre("", "", "", "", "", ""));
+}
+
+TEST_F(StyleTest, BringsItsWater) {
+    Put(R().gridWater, 1, WaterCol::Profile, "Soft");
+    document->ChangeStyle("Stout");
+    EXPECT_THAT(Target(), ElementsAre("Burton", "275", "270", "35", "40", "0", "610"));
+    EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "268");
+    EXPECT_TRUE(document->Changed());
+    EXPECT_TRUE(host.IsOn("EnableSave"));
+    // A profile that the catalogue does not know leaves the ions.
+    document->ChangeStyle("Odd Water");
+    EXPECT_THAT(Target(), ElementsAre("No Such Water", "275", "270", "35", "40", "0", "610"));
+    // A style without a profile, and no style, empty the row; what is needed follows.
+    document->ChangeStyle("Lager");
+    EXPECT_THAT(Target(), ElementsAre("", "", "", "", "", "", ""));
+    EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "-7");
+    document->ChangeStyle("Stout");
+    document->ChangeStyle("(None)");
+    EXPECT_THAT(Target(), ElementsAre("", "", "", "", "", "", ""));
+    EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "-7");
+}
+
+TEST_F(StyleTest, ChoosingTheSameOneIsNoEdit) {
+    document->ChangeStyle("Stout");
+    SaveAs("A");
+    document->ChangeStyle("stout");
+    document->SelectStyle(R().cmbStyle.Selected());
+    document->SelectStyle(-1);
+    document->SelectStyle(99);
+    EXPECT_FALSE(document->ChangeStyle("Porter"));
+    EXPECT_FALSE(document->Changed());
+    EXPECT_EQ(document->StyleID(), kStout);
+}
+
+TEST_F(StyleTest, SettingTheIdIsNoEditAndLeavesTheWater) {
+    document->SetStyleID(kStout);
+    EXPECT_EQ(document->BeerStyle(), "Stout");
+    EXPECT_EQ(Labels()[0], "1.035 - 1.050");
+    EXPECT_THAT(Target(), ElementsAre("", "", "", "", "", "", ""));
+    document->SetStyleID(99);
+    EXPECT_EQ(document->StyleID(), 0);
+    EXPECT_EQ(document->BeerStyle(), "(None)");
+    EXPECT_EQ(Labels()[0], "");
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(StyleTest, TheListFollowsTheCatalogue) {
+    document->ChangeStyle("Stout");
+    database->Execute("UPDATE STYLES SET NAME = 'Zwickel' WHERE ID = 2");
+    database->Execute("INSERT INTO STYLES (ID, NAME) VALUES (9, 'Alt')");
+    document->DBChanged();
+    EXPECT_EQ(R().cmbStyle.Entries().size(), 6u);
+    EXPECT_EQ(R().cmbStyle.Entries()[1].text, "Alt");
+    EXPECT_EQ(R().cmbStyle.Entries()[5].text, "Zwickel");
+    EXPECT_EQ(document->BeerStyle(), "Stout");
+    EXPECT_EQ(document->StyleID(), kStout);
+}
+
+class NoticesTest : public DocumentTest {
+  protected:
+    NoticesTest() {
+        New();
+        document->ChangeStyle("Stout");
+        SaveAs("Old Ale");
+        document->SetFolderID(7);
+        host.log.clear();
+    }
+};
+
+TEST_F(NoticesTest, AMoveIsFollowedByNameWithoutRegardToCase) {
+    document->NotifyRecipeMoved(" OLD ale ", 12);
+    EXPECT_EQ(document->FolderID(), 12);
+    document->NotifyRecipeMoved("Other", 13);
+    EXPECT_EQ(document->FolderID(), 12);
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(NoticesTest, ANewStyleIsShownAndNoEdit) {
+    document->NotifyRecipeNewStyle("Other", kLager);
+    EXPECT_EQ(document->StyleID(), kStout);
+    document->NotifyRecipeNewStyle("old ale", kLager);
+    EXPECT_EQ(document->StyleID(), kLager);
+    EXPECT_EQ(R().lblOGStyle.Text(), "1.045");
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(NoticesTest, ARenameTakesTheNameUnlessTheBrewerEditedIt) {
+    document->NotifyRecipeRenamed("Other", "X");
+    EXPECT_EQ(document->OrigName(), "Old Ale");
+    document->NotifyRecipeRenamed(" old ALE", " Older Ale ");
+    EXPECT_EQ(document->OrigName(), "Older Ale");
+    EXPECT_EQ(document->BeerName(), "Older Ale");
+    EXPECT_EQ(document->Caption(), "Older Ale");
+    EXPECT_FALSE(document->Changed());
+    document->SetText(R().txtName, "My Ale");
+    document->NotifyRecipeRenamed("Older Ale", "Oldest Ale");
+    EXPECT_EQ(document->OrigName(), "Oldest Ale");
+    EXPECT_EQ(document->BeerName(), "My Ale");
+}
+
+TEST_F(NoticesTest, ARenamedStyleShowsItsNewName) {
+    database->Execute("UPDATE STYLES SET NAME = 'Porter' WHERE ID = 1");
+    document->NotifyStyleRenamed(kLager, "Porter");
+    EXPECT_EQ(document->BeerStyle(), "Stout");
+    document->NotifyStyleRenamed(kStout, "Porter");
+    EXPECT_EQ(document->BeerStyle(), "Porter");
+    EXPECT_EQ(document->StyleID(), kStout);
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(NoticesTest, ADeletedStyleShowsNone) {
+    document->NotifyStyleDeleted(kLager);
+    EXPECT_EQ(document->StyleID(), kStout);
+    database->Execute("DELETE FROM STYLES WHERE ID = 1");
+    document->NotifyStyleDeleted(kStout);
+    EXPECT_EQ(document->StyleID(), 0);
+    EXPECT_EQ(document->BeerStyle(), "(None)");
+    EXPECT_EQ(R().lblOGStyle.Text(), "");
+    EXPECT_EQ(R().cmbStyle.Entries().size(), 4u);
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(NoticesTest, ADeletedRecipeIsDetached) {
+    document->NotifyRecipeDeleted("Other");
+    EXPECT_FALSE(document->Changed());
+    document->NotifyRecipeDeleted("OLD ALE ");
+    EXPECT_TRUE(document->Changed());
+    EXPECT_EQ(document->OrigName(), "");
+    EXPECT_EQ(document->FolderID(), -1);
+    EXPECT_EQ(document->BeerName(), "Old Ale");
+    EXPECT_TRUE(host.IsOn("EnableSave"));
+}
+
+TEST_F(NoticesTest, ADeletedFolderDetachesItsRecipes) {
+    document->NotifyRecipeFolderDeleted(8);
+    EXPECT_FALSE(document->Changed());
+    host.active = nullptr;
+    document->NotifyRecipeFolderDeleted(7);
+    EXPECT_TRUE(document->Changed());
+    EXPECT_EQ(document->OrigName(), "");
+    EXPECT_THAT(host.log, testing::Not(testing::Contains("EnableSave on")));
+}
+
+}  // namespace
+}  // namespace tw::test
