@@ -7,7 +7,7 @@ set(TW_CORE_LIBRARIES SQLite::SQLite3 PkgConfig::UTF8PROC)
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core)
 if(TUNWRIGHT_WINDOWS)
-  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg PrintSupport Network)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg PrintSupport Network DBus)
 endif()
 if(TUNWRIGHT_TESTS)
   find_package(GTest REQUIRED)

@@ -53,7 +53,9 @@ CommandMenus::CommandMenus(CommandBar& bar, QMainWindow& window, std::function<v
     bar_.SetObserver(this);
 }
 
-CommandMenus::~CommandMenus() { bar_.SetObserver(nullptr); }
+CommandMenus::~CommandMenus() {
+    bar_.SetObserver(nullptr);
+}
 
 void CommandMenus::AddItem(const MenuItem& item, QMainWindow& window) {
     const QString name = ToQt(item.name);
@@ -81,7 +83,8 @@ void CommandMenus::AddButton(const ToolButton& button, int& group) {
     QAction* action = toolBar_->addAction(ToolIcon(button.image), ToQt(button.toolTip));
     action->setObjectName(QStringLiteral("tbToolBar(%1)").arg(key));
     const MenuItem* item = bar_.FindItem(button.menuItem);
-    const QString shortcut = item ? QKeySequence(ToQt(item->shortcut)).toString(QKeySequence::NativeText) : QString();
+    const QString shortcut =
+        item ? QKeySequence(ToQt(item->shortcut)).toString(QKeySequence::NativeText) : QString();
     const QString tip = ToQt(button.toolTip);
     action->setToolTip(shortcut.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, shortcut));
     action->setStatusTip(CommandTip(button.menuItem));
@@ -97,7 +100,8 @@ void CommandMenus::AddButton(const ToolButton& button, int& group) {
 
 void CommandMenus::SetFlat(bool flat) {
     for (QAction* action : std::as_const(buttons_))
-        if (auto* button = qobject_cast<QToolButton*>(toolBar_->widgetForAction(action))) button->setAutoRaise(flat);
+        if (auto* button = qobject_cast<QToolButton*>(toolBar_->widgetForAction(action)))
+            button->setAutoRaise(flat);
 }
 
 void CommandMenus::Show(QAction& action, const MenuItem& item) {
@@ -107,7 +111,9 @@ void CommandMenus::Show(QAction& action, const MenuItem& item) {
     if (action.isCheckable()) action.setChecked(item.checked);
 }
 
-void CommandMenus::Show(QAction& action, const ToolButton& button) { action.setEnabled(button.enabled); }
+void CommandMenus::Show(QAction& action, const ToolButton& button) {
+    action.setEnabled(button.enabled);
+}
 
 void CommandMenus::MenuItemChanged(const MenuItem& item) {
     if (QAction* action = items_.value(ToQt(item.name))) Show(*action, item);

@@ -1,4 +1,5 @@
-// The menu bar and the toolbar of the main window: they show the commands of the shell and follow their states.
+// The menu bar and the toolbar of the main window: they show the commands of the shell and follow their
+// states.
 #pragma once
 
 #include <QHash>
@@ -17,7 +18,8 @@ namespace tw {
 class CommandMenus final : public QObject, public CommandObserver {
     Q_OBJECT
   public:
-    // run is called with a menu item's or (press) a button's name when it is chosen. bar must outlive this object.
+    // run is called with a menu item's or (press) a button's name when it is chosen. bar must outlive this
+    // object.
     CommandMenus(CommandBar& bar, QMainWindow& window, std::function<void(const QString&)> run,
                  std::function<void(const QString&)> press);
     ~CommandMenus() override;

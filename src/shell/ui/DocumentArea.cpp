@@ -20,7 +20,7 @@ DocumentArea::DocumentArea(QWidget* parent) : QMdiArea(parent) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setActivationOrder(QMdiArea::ActivationHistoryOrder);
-    setBackground(palette().brush(QPalette::Midlight));
+    setBackground(palette().brush(QPalette::Window));
 }
 
 void DocumentArea::SetWelcome(const QString& line) {
@@ -41,22 +41,28 @@ void DocumentArea::paintEvent(QPaintEvent* event) {
     const QRect picture(all.center().x() - side / 2, top, side, side);
     ProgramIcon().paint(&painter, picture);
     painter.setPen(palette().color(QPalette::WindowText));
-    painter.drawText(QRect(all.left() + unit * 2, picture.bottom() + unit * 2, all.width() - unit * 4, lines.height()),
-                     Qt::AlignHCenter | Qt::TextWordWrap, welcome_);
+    painter.drawText(
+        QRect(all.left() + unit * 2, picture.bottom() + unit * 2, all.width() - unit * 4, lines.height()),
+        Qt::AlignHCenter | Qt::TextWordWrap, welcome_);
 }
 
 void DocumentArea::changeEvent(QEvent* event) {
     QMdiArea::changeEvent(event);
-    if (event->type() == QEvent::PaletteChange) setBackground(palette().brush(QPalette::Midlight));
+    if (event->type() == QEvent::PaletteChange) setBackground(palette().brush(QPalette::Window));
 }
 
-void DocumentArea::TileHorizontally() { Tile(Qt::Vertical); }
+void DocumentArea::TileHorizontally() {
+    Tile(Qt::Vertical);
+}
 
-void DocumentArea::TileVertically() { Tile(Qt::Horizontal); }
+void DocumentArea::TileVertically() {
+    Tile(Qt::Horizontal);
+}
 
 void DocumentArea::Tile(Qt::Orientation stacked) {
     QList<QMdiSubWindow*> windows = subWindowList(QMdiArea::CreationOrder);
-    windows.removeIf([](const QMdiSubWindow* window) { return window->isMinimized() || !window->isVisible(); });
+    windows.removeIf(
+        [](const QMdiSubWindow* window) { return window->isMinimized() || !window->isVisible(); });
     const int count = static_cast<int>(windows.size());
     const QRect all = viewport()->rect();
     for (int i = 0; i < count; ++i) {

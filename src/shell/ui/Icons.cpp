@@ -13,7 +13,9 @@
 #include "platform/qt/QtText.h"
 
 // A resource of a static library is registered by hand, outside any namespace.
-static void RegisterIcons() { Q_INIT_RESOURCE(icons); }
+static void RegisterIcons() {
+    Q_INIT_RESOURCE(icons);
+}
 
 namespace tw {
 namespace {
@@ -85,6 +87,8 @@ QIcon ToolIcon(std::string_view image) {
     return IconOf(QStringLiteral(":/icons/simple/%1.svg").arg(ToQt(image)));
 }
 
-QIcon ProgramIcon() { return IconOf(QStringLiteral(":/icons/tunwright.svg")); }
+QIcon ProgramIcon() {
+    return IconOf(QStringLiteral(":/icons/tunwright.svg"));
+}
 
 }  // namespace tw

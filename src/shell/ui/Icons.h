@@ -6,8 +6,8 @@
 
 namespace tw {
 
-// The icon of a toolbar image such as "New". The name of a greyed twin ("SaveTransparent") gives the same picture: the
-// twin is the disabled state, drawn by opacity. An empty icon for an unknown name.
+// The icon of a toolbar image such as "New". The name of a greyed twin ("SaveTransparent") gives the same
+// picture: the twin is the disabled state, drawn by opacity. An empty icon for an unknown name.
 QIcon ToolIcon(std::string_view image);
 
 // The program's icon: a glass of pale ale.

@@ -15,7 +15,19 @@ constexpr std::string_view kStateKey = "MainState";
 constexpr std::string_view kMaximized = "2";
 constexpr std::string_view kNormal = "0";
 
+// The first start, when no size has ever been stored: all tabs of a recipe side by side, its face without
+// scrolling.
+constexpr QSize kFirstUnits(156, 100);
+
+bool IsFirstStart(const SettingsStore& store) {
+    return store.GetSetting(kSettingsSection, "MainWidth", {}).empty();
+}
+
 }  // namespace
+
+QSize FirstSize(const QWidget& window) {
+    return kFirstUnits * Unit(window);
+}
 
 QRect GeometryOf(const Settings& settings, double dotsPerInch, const QSize& least, const QRect& screen) {
     const auto pixels = [&](double twips) { return PixelsOfTwips(twips, dotsPerInch); };
@@ -28,8 +40,9 @@ QRect GeometryOf(const Settings& settings, double dotsPerInch, const QSize& leas
 
 void ApplyGeometry(QMainWindow& window, const Settings& settings, const SettingsStore& store) {
     const QScreen& screen = *window.screen();
+    const QSize least = IsFirstStart(store) ? FirstSize(window) : window.minimumSize();
     const QRect geometry =
-        GeometryOf(settings, screen.logicalDotsPerInch(), window.minimumSize(), screen.availableGeometry());
+        GeometryOf(settings, screen.logicalDotsPerInch(), least, screen.availableGeometry());
     window.setMinimumSize(window.minimumSize().boundedTo(geometry.size()));
     window.resize(geometry.size());
     window.move(geometry.topLeft());

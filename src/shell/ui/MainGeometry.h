@@ -6,8 +6,12 @@
 #include "shell/Settings.h"
 
 class QMainWindow;
+class QWidget;
 
 namespace tw {
+
+// The size of the main window before any has been stored, in pixels.
+QSize FirstSize(const QWidget& window);
 
 // The settings' place and size in pixels, moved and made to fit so that all of it lies on the screen.
 QRect GeometryOf(const Settings& settings, double dotsPerInch, const QSize& least, const QRect& screen);

@@ -3,9 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QLineEdit>
 #include <QMenu>
-#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QToolBar>
 #include <algorithm>
@@ -23,22 +21,35 @@
 namespace tw {
 namespace {
 
-// The sensible minimum: all tabs of a recipe side by side, its first tab without scrolling.
-constexpr QSize kLeastUnits(128, 84);
+constexpr QSize kLeastUnits(84, 60);
 constexpr int kStateMaximized = 2;
+// How windows of recipes are laid when they open.
+constexpr int kSteps = 6;
+constexpr int kStepUnits = 4;
+constexpr double kRoomyFactor = 1.4;
 constexpr int kStateNormal = 0;
 
 // Commands that look at what is being typed: it is committed first, and a refused entry calls them off.
-constexpr std::array<std::string_view, 14> kFlushing{
-    "mnuFileSave",          "mnuFileSaveAs",          "mnuFileSaveAll",           "mnuFileClose",
-    "mnuFileCloseAll",      "mnuFileExport",          "mnuFilePrint",             "mnuFileExit",
-    "mnuEditInsert",        "mnuEditDelete",          "mnuToolsResizeRecipe",     "mnuToolsChangeStrength",
-    "mnuToolsChangeBitterness", "mnuToolsChangeCO2"};
+constexpr std::array<std::string_view, 14> kFlushing{"mnuFileSave",
+                                                     "mnuFileSaveAs",
+                                                     "mnuFileSaveAll",
+                                                     "mnuFileClose",
+                                                     "mnuFileCloseAll",
+                                                     "mnuFileExport",
+                                                     "mnuFilePrint",
+                                                     "mnuFileExit",
+                                                     "mnuEditInsert",
+                                                     "mnuEditDelete",
+                                                     "mnuToolsResizeRecipe",
+                                                     "mnuToolsChangeStrength",
+                                                     "mnuToolsChangeBitterness",
+                                                     "mnuToolsChangeCO2"};
 
 // A colour of the settings: blue, green and red from the highest byte down.
 QColor ColorOf(int stored) {
     const auto value = static_cast<unsigned>(stored);
-    return {static_cast<int>(value & 0xFF), static_cast<int>(value >> 8 & 0xFF), static_cast<int>(value >> 16 & 0xFF)};
+    return {static_cast<int>(value & 0xFF), static_cast<int>(value >> 8 & 0xFF),
+            static_cast<int>(value >> 16 & 0xFF)};
 }
 
 }  // namespace
@@ -68,7 +79,8 @@ frmMain::frmMain(Shell& shell, Platform& platform)
         if (shell_.ActiveDocument() != &document) shell_.Guard([&] { shell_.Activate(document); });
     });
     connect(menus_->Menu(QStringLiteral("mnuWindow")), &QMenu::aboutToShow, this, &frmMain::FillWindowMenu);
-    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, [this] { shell_.ReapplyPasteState(); });
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
+            [this] { shell_.ReapplyPasteState(); });
 }
 
 frmMain::~frmMain() {
@@ -92,8 +104,9 @@ bool frmMain::StartUp(const std::string& databasePath) {
 
 void frmMain::ShowWelcome() {
     const MenuItem* open = shell_.Bar().FindItem("mnuFileOpen");
-    area_->SetWelcome(open && open->enabled ? tr("No recipe is open. Ctrl+N starts a new one, Ctrl+O opens one.")
-                                            : tr("No recipe is here yet. Ctrl+N starts your first one."));
+    area_->SetWelcome(open && open->enabled
+                          ? tr("No recipe is open. Ctrl+N starts a new one, Ctrl+O opens one.")
+                          : tr("No recipe is here yet. Ctrl+N starts your first one."));
 }
 
 frmDocument* frmMain::ActiveWindow() const {
@@ -124,7 +137,8 @@ void frmMain::DocumentOpened(RecipeDocument& document) {
     connect(window, &QMdiSubWindow::windowStateChanged, this, [this](Qt::WindowStates, Qt::WindowStates now) {
         // A minimised window is never what the next one starts as.
         if (changing_ || now.testFlag(Qt::WindowMinimized)) return;
-        shell_.CurrentSettings().childState = now.testFlag(Qt::WindowMaximized) ? kStateMaximized : kStateNormal;
+        shell_.CurrentSettings().childState =
+            now.testFlag(Qt::WindowMaximized) ? kStateMaximized : kStateNormal;
     });
     PlaceSubWindow(*window);
 }
@@ -134,7 +148,12 @@ void frmMain::PlaceSubWindow(DocumentSubWindow& window) {
     if (shell_.CurrentSettings().childState == kStateMaximized) {
         window.showMaximized();
     } else {
-        window.resize(window.sizeHint().boundedTo(area_->viewport()->size()));
+        // Each a step further in, with its whole frame in sight.
+        const int step =
+            (static_cast<int>(area_->subWindowList().size()) - 1) % kSteps * kStepUnits * Unit(*this);
+        const QSize room = area_->viewport()->size() - QSize(step, step);
+        window.move(step, step);
+        window.resize((window.sizeHint() * kRoomyFactor).boundedTo(room));
         window.show();
     }
     changing_ = false;
@@ -160,9 +179,12 @@ void frmMain::DocumentActivated(RecipeDocument* document) {
     DocumentSubWindow* window = WindowOf(*document);
     if (!window) return;
     if (window->isMinimized())
-        shell_.CurrentSettings().childState == kStateMaximized ? window->showMaximized() : window->showNormal();
+        shell_.CurrentSettings().childState == kStateMaximized ? window->showMaximized()
+                                                               : window->showNormal();
     if (area_->activeSubWindow() != window) area_->setActiveSubWindow(window);
-    if (!window->isAncestorOf(QApplication::focusWidget())) window->Document().setFocus();
+    // Qt gives the focus to the frame or to the tabs at first.
+    const QWidget* focus = QApplication::focusWidget();
+    if (!focus || !window->Document().IsEditing(*focus)) window->Document().setFocus();
 }
 
 void frmMain::DocumentRenamed(const RecipeDocument& document) {
@@ -198,39 +220,18 @@ bool frmMain::RunCommand(std::string_view name) {
     const std::string command(name);
     bool ran = false;
     shell_.Guard([&] { ran = shell_.RunMenu(command); });
-    return ran || RunInTextBox(command);
+    return ran;
 }
 
 void frmMain::PressButton(const QString& key) {
     const ToolButton* button = shell_.Bar().FindButton(FromQt(key));
     if (!button || !button->enabled || !FlushBefore(button->menuItem)) return;
-    const std::string menuItem = button->menuItem;
-    bool ran = false;
-    shell_.Guard([&] { ran = shell_.PressButton(FromQt(key)); });
-    if (!ran) RunInTextBox(menuItem);
+    shell_.Guard([&] { shell_.PressButton(FromQt(key)); });
 }
 
-bool frmMain::RunInTextBox(std::string_view name) {
-    QWidget* focus = QApplication::focusWidget();
-    const auto run = [&](auto& box) {
-        if (name == "mnuEditCut")
-            box.cut();
-        else if (name == "mnuEditCopy")
-            box.copy();
-        else if (name == "mnuEditPaste")
-            box.paste();
-        else if (name == "mnuEditSelectAll")
-            box.selectAll();
-        else
-            return false;
-        return true;
-    };
-    if (auto* line = qobject_cast<QLineEdit*>(focus)) return run(*line);
-    if (auto* text = qobject_cast<QPlainTextEdit*>(focus)) return run(*text);
-    return false;
+bool frmMain::CanRun(std::string_view name) const {
+    return shell_.Bar().FindItem(name) != nullptr;
 }
-
-bool frmMain::CanRun(std::string_view name) const { return shell_.Bar().FindItem(name) != nullptr; }
 
 void frmMain::ShowEditMenu(const QPoint& globalPosition) {
     menus_->Menu(QStringLiteral("mnuEdit"))->popup(globalPosition);
@@ -252,7 +253,8 @@ void frmMain::FillWindowMenu() {
         ++number;
         QString title = window->windowTitle();
         title.replace(QLatin1Char('&'), QStringLiteral("&&"));
-        QAction* action = menu.addAction(number < 10 ? QStringLiteral("&%1 %2").arg(number).arg(title) : title);
+        QAction* action =
+            menu.addAction(number < 10 ? QStringLiteral("&%1 %2").arg(number).arg(title) : title);
         action->setProperty("openRecipe", true);
         action->setCheckable(true);
         action->setChecked(window == area_->activeSubWindow());
@@ -274,7 +276,8 @@ void frmMain::closeEvent(QCloseEvent* event) {
 
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && shell_.DB()) shell_.ReapplyPasteState();
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && shell_.DB())
+        shell_.ReapplyPasteState();
 }
 
 }  // namespace tw

@@ -20,8 +20,8 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     frmMain(Shell& shell, Platform& platform);
     ~frmMain() override;
 
-    // What happens when the window first comes up: the splash, the settings, the database. False when the database could
-    // not be opened; the box has been shown and the window is closed then.
+    // What happens when the window first comes up: the splash, the settings, the database. False when the
+    // database could not be opened; the box has been shown and the window is closed then.
     bool StartUp(const std::string& databasePath);
 
     // The window of the recipe in front, nullptr without one.
@@ -51,8 +51,6 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     void PressButton(const QString& key);
     // Commits what is being edited before a command that needs it. False when an entry was refused.
     bool FlushBefore(std::string_view name);
-    // Cut, copy, paste and their kin in a text box.
-    static bool RunInTextBox(std::string_view name);
     void FillWindowMenu();
     DocumentSubWindow* WindowOf(const RecipeDocument& document) const;
 

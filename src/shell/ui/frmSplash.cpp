@@ -16,7 +16,9 @@ frmSplash::frmSplash(QWidget* parent) : QWidget(parent) {
     move(parent->rect().center() - rect().center());
 }
 
-QSize frmSplash::sizeHint() const { return QSize(44, 26) * Unit(*this); }
+QSize frmSplash::sizeHint() const {
+    return QSize(44, 26) * Unit(*this);
+}
 
 void frmSplash::paintEvent(QPaintEvent*) {
     QPainter painter(this);

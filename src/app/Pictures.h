@@ -1,0 +1,19 @@
+// Pictures of the windows, for looking at them and for the handbook.
+#pragma once
+
+#include <QString>
+
+namespace tw {
+
+class QtDialogs;
+class Shell;
+class frmMain;
+
+// Writes what the main window shows into a PNG file. False when the file cannot be written.
+bool TakePicture(frmMain& window, const QString& file);
+
+// Writes every tab of the recipe in front and every dialog into folder, on light and on dark. False when a
+// file cannot be written.
+bool TakeAllPictures(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& folder);
+
+}  // namespace tw

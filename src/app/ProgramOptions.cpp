@@ -1,0 +1,41 @@
+#include "app/ProgramOptions.h"
+
+#include <QCommandLineParser>
+
+namespace tw {
+
+ProgramOptions ReadOptions(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("Formulates, calculates and files beer recipes."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption database(QStringLiteral("database"),
+                                      QStringLiteral("Uses this database in place of Tunwright.mdb."),
+                                      QStringLiteral("FILE"));
+    const QCommandLineOption settings(QStringLiteral("settings"),
+                                      QStringLiteral("Keeps the settings in this file."),
+                                      QStringLiteral("FILE"));
+    const QCommandLineOption open(
+        QStringLiteral("open"), QStringLiteral("Opens the recipe of that name; can be given several times."),
+        QStringLiteral("NAME"));
+    const QCommandLineOption tab(QStringLiteral("tab"), QStringLiteral("Shows this tab, 0 to 8."),
+                                 QStringLiteral("N"), QStringLiteral("0"));
+    const QCommandLineOption picture(QStringLiteral("picture"),
+                                     QStringLiteral("Writes a picture of the main window and ends."),
+                                     QStringLiteral("FILE"));
+    const QCommandLineOption pictures(QStringLiteral("pictures"),
+                                      QStringLiteral("Writes pictures of all windows and ends."),
+                                      QStringLiteral("FOLDER"));
+    parser.addOptions({database, settings, open, tab, picture, pictures});
+    parser.process(arguments);
+    ProgramOptions options;
+    options.database = parser.value(database);
+    options.settings = parser.value(settings);
+    options.open = parser.values(open);
+    options.tab = parser.value(tab).toInt();
+    options.picture = parser.value(picture);
+    options.pictures = parser.value(pictures);
+    return options;
+}
+
+}  // namespace tw

@@ -1,0 +1,20 @@
+// The words of the command line.
+#pragma once
+
+#include <QStringList>
+
+namespace tw {
+
+struct ProgramOptions {
+    QString database;  // empty: Tunwright.mdb in the program's folder
+    QString settings;  // empty: the user's
+    QStringList open;  // names of recipes
+    int tab = 0;
+    QString picture;   // a file for a picture of the main window; the program ends then
+    QString pictures;  // a folder for pictures of all windows; the program ends then
+};
+
+// Reads the words. Ends the process with a message for an unknown option, --help and --version.
+ProgramOptions ReadOptions(const QStringList& arguments);
+
+}  // namespace tw

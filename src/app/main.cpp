@@ -1,0 +1,90 @@
+// The program with windows.
+#include <QDir>
+#include <cstdio>
+
+#include "app/Application.h"
+#include "app/Pictures.h"
+#include "app/PrintedMessages.h"
+#include "app/ProgramOptions.h"
+#include "document/ui/DetailsDialog.h"
+#include "document/ui/RangeBar.h"
+#include "document/ui/frmDocument.h"
+#include "platform/SystemClock.h"
+#include "platform/qt/DesktopColors.h"
+#include "platform/qt/ProgramStyle.h"
+#include "platform/qt/QtClipboard.h"
+#include "platform/qt/QtDialogs.h"
+#include "platform/qt/QtMessages.h"
+#include "platform/qt/QtSettings.h"
+#include "platform/qt/QtText.h"
+#include "shell/Shell.h"
+#include "shell/ui/AboutDialog.h"
+#include "shell/ui/Icons.h"
+#include "shell/ui/OpenSaveDialog.h"
+#include "shell/ui/frmMain.h"
+
+namespace tw {
+namespace {
+
+void RegisterForms(QtDialogs& dialogs) {
+    for (const char* form : {"frmStrengthDetails", "frmFinalVolDetails", "frmHopDetails"})
+        dialogs.Register(form, &DetailsDialog::Make);
+    dialogs.Register("frmAbout", &AboutDialog::Make);
+    dialogs.Register("frmOpenSave", &OpenSaveDialog::Make);
+}
+
+std::string DatabaseOf(const ProgramOptions& options) {
+    if (!options.database.isEmpty()) return FromQt(options.database);
+    return Shell::DatabasePath(FromQt(QCoreApplication::applicationDirPath()));
+}
+
+void OpenRecipes(frmMain& window, Shell& shell, const ProgramOptions& options) {
+    for (const QString& name : options.open) shell.Guard([&] { shell.OpenByName(FromQt(name)); });
+    frmDocument* document = window.ActiveWindow();
+    if (document && options.tab >= 0 && options.tab < kTabs) document->ShowTab(static_cast<Tab>(options.tab));
+}
+
+// The exit code of a run that only takes pictures.
+int Photograph(frmMain& window, Shell& shell, QtDialogs& dialogs, const ProgramOptions& options) {
+    bool ok = true;
+    if (!options.picture.isEmpty()) ok &= TakePicture(window, options.picture);
+    if (!options.pictures.isEmpty()) ok &= TakeAllPictures(window, shell, dialogs, options.pictures);
+    if (!ok) std::fputs("tunwright: a picture could not be written\n", stderr);
+    return ok ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+int Run(int argc, char** argv) {
+    Application application(argc, argv);
+    const ProgramOptions options = ReadOptions(QCoreApplication::arguments());
+    ProgramStyle::Install();
+    QApplication::setWindowIcon(ProgramIcon());
+    const bool photographing = !options.picture.isEmpty() || !options.pictures.isEmpty();
+    QtMessages boxes;
+    PrintedMessages printed;
+    MessagePort& messages = photographing ? static_cast<MessagePort&>(printed) : boxes;
+    application.SetMessages(messages);
+    QtDialogs dialogs;
+    RegisterForms(dialogs);
+    InstallRangeBarAccessibility();
+    const std::unique_ptr<QtSettings> settings =
+        options.settings.isEmpty() ? QtSettings::OfUser() : QtSettings::OfFile(FromQt(options.settings));
+    SystemClock clock;
+    QtClipboard clipboard;
+    Platform platform{messages, dialogs, *settings, clock, clipboard};
+    Shell shell(platform);
+    frmMain window(shell, platform);
+    DesktopColors colors;
+    window.show();
+    if (!window.StartUp(DatabaseOf(options))) return EXIT_FAILURE;
+    OpenRecipes(window, shell, options);
+    if (photographing) return Photograph(window, shell, dialogs, options);
+    colors.Follow();
+    return QApplication::exec();
+}
+
+}  // namespace
+}  // namespace tw
+
+int main(int argc, char** argv) {
+    return tw::Run(argc, argv);
+}

@@ -1,0 +1,31 @@
+// The windows that show more about a recipe's figures: frmStrengthDetails, frmFinalVolDetails, frmHopDetails.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "document/DetailWindows.h"
+
+class QVBoxLayout;
+
+namespace tw {
+
+class DetailsDialog final : public QDialog {
+    Q_OBJECT
+  public:
+    DetailsDialog(DetailsModel& model, QWidget* parent);
+
+    // The window of a details model. REQUIRES: model is one.
+    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
+
+  protected:
+    void reject() override;
+
+  private:
+    void AddFigures(QVBoxLayout& column);
+    void AddBalance(QVBoxLayout& column);
+
+    DetailsModel& model_;
+};
+
+}  // namespace tw

@@ -1,0 +1,89 @@
+// Ties the widgets of one document window to the objects of its record. Widgets register what they show;
+// changes of the record come back to them. When the document goes before its window, the widgets fall silent.
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <functional>
+#include <unordered_map>
+#include <vector>
+
+#include "document/RecipeDocument.h"
+#include "document/ui/DocumentFrame.h"
+
+class QKeyEvent;
+class QWidget;
+
+namespace tw {
+
+class GridView;
+
+class DocumentBinding final : public RecordObserver {
+  public:
+    // The document and the platform must live until Detach.
+    DocumentBinding(RecipeDocument& document, Platform& platform, DocumentFrame& frame);
+    ~DocumentBinding() override;
+    DocumentBinding(const DocumentBinding&) = delete;
+    DocumentBinding& operator=(const DocumentBinding&) = delete;
+
+    // nullptr after Detach.
+    RecipeDocument* Document() const { return document_; }
+    Platform& Ports() const { return platform_; }
+    DocumentFrame& Frame() const { return frame_; }
+    // Lets go of the document.
+    void Detach();
+
+    // show runs at every change of that object of the record (a TextBox, Label, Button, ListBox or
+    // OptionGroup).
+    void Watch(const void* object, std::function<void()> show);
+    void WatchSwatch(std::function<void(Rgb)> show) { showSwatch_ = std::move(show); }
+    void AddGrid(const Grid& grid, GridView& view) { grids_[&grid] = &view; }
+    GridView* ViewOf(const Grid& grid) const;
+    // Every grid that has a widget.
+    void ForEachGrid(const std::function<void(GridView&)>& visit) const;
+
+    // A step to the next (+1) or previous (-1) tab.
+    void SetStepTab(std::function<void(int)> stepTab) { stepTab_ = std::move(stepTab); }
+    // The keys that grids and text boxes share. True when the key has been used up.
+    bool HandleKey(const QKeyEvent& key, bool inGrid);
+
+    // Runs an operation on the document; an error that rises is shown. False then, and after Detach.
+    bool Run(const std::function<void(RecipeDocument&)>& operation);
+
+    // The text box that may hold an uncommitted text; commit gives false for a bad entry.
+    void SetActiveField(QWidget* field, std::function<bool()> commit);
+    // A bad entry has been refused: its box takes the focus back as soon as the present event is over.
+    void Refuse(QWidget* field, std::function<void()> takeBack);
+    bool IsRefusing() const { return !refused_.isNull(); }
+
+    // Commits the open cell editor and the active text box. False when an entry was refused.
+    bool Flush();
+
+    void TextBoxChanged(const TextBox& box) override { Fire(&box); }
+    void LabelChanged(const Label& label) override { Fire(&label); }
+    void ButtonChanged(const Button& button) override { Fire(&button); }
+    void ListChanged(const ListBox& list) override { Fire(&list); }
+    void OptionChanged(const OptionGroup& group) override { Fire(&group); }
+    void SwatchChanged(Rgb color) override;
+    void CellChanged(const Grid& grid, int row, int col) override;
+    void RowInserted(const Grid& grid, int row) override;
+    void RowRemoved(const Grid& grid, int row) override;
+    void CurrentCellChanged(const Grid& grid) override;
+    void GridFilled(const Grid& grid) override;
+
+  private:
+    void Fire(const void* object);
+
+    RecipeDocument* document_;
+    Platform& platform_;
+    DocumentFrame& frame_;
+    std::unordered_map<const void*, std::vector<std::function<void()>>> watchers_;
+    std::unordered_map<const Grid*, GridView*> grids_;
+    std::function<void(Rgb)> showSwatch_;
+    std::function<void(int)> stepTab_;
+    QPointer<QWidget> activeField_;
+    std::function<bool()> commitActiveField_;
+    QPointer<QWidget> refused_;
+};
+
+}  // namespace tw

@@ -1,0 +1,29 @@
+// What a document window asks of the main window around it.
+#pragma once
+
+#include <QColor>
+#include <QPoint>
+#include <string_view>
+
+namespace tw {
+
+// The two colour pairs of the settings, painted exactly as stored.
+struct GridColors {
+    QColor readOnlyBack, readOnlyFore;
+    QColor totalBack, totalFore;
+};
+
+class DocumentFrame {
+  public:
+    virtual ~DocumentFrame() = default;
+    // Runs the action of a menu item, or of a button that opens a window (cmdBrowseStyles), by its control
+    // name. False when it is off: the key may then do what it does elsewhere.
+    virtual bool RunCommand(std::string_view menuItem) = 0;
+    // Whether the program has an action of that name at all.
+    virtual bool CanRun(std::string_view name) const = 0;
+    // Opens the edit menu as a popup.
+    virtual void ShowEditMenu(const QPoint& globalPosition) = 0;
+    virtual GridColors Colors() const = 0;
+};
+
+}  // namespace tw

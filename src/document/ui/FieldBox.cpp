@@ -1,0 +1,105 @@
+#include "document/ui/FieldBox.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QStyleOptionFrame>
+
+#include "platform/qt/Appearance.h"
+#include "platform/qt/QtText.h"
+
+namespace tw {
+
+FieldBox::FieldBox(DocumentBinding& binding, TextBox& box, const QString& name, int digits, QWidget* parent)
+    : QLineEdit(parent), binding_(binding), box_(box), computed_(box.Computed()), digits_(digits) {
+    setObjectName(ToQt(box.Name()));
+    setAccessibleName(name);
+    if (digits_ > 0) setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    if (computed_) {
+        setReadOnly(true);
+        // A figure can be copied with the mouse, and Tab goes from entry to entry.
+        setFocusPolicy(Qt::ClickFocus);
+        setFrame(false);
+        LookComputed();
+    }
+    ShowText();
+    binding_.Watch(&box_, [this] { ShowText(); });
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
+        binding_.Run([&](RecipeDocument& document) { document.SetText(box_, FromQt(text)); });
+    });
+}
+
+QSize FieldBox::sizeHint() const {
+    QSize size = QLineEdit::sizeHint();
+    if (digits_ > 0) size.setWidth(DigitsWidth(*this, digits_) + Unit(*this) * 2 + 4);
+    return size;
+}
+
+QSize FieldBox::minimumSizeHint() const {
+    QSize size = QLineEdit::minimumSizeHint();
+    size.setWidth(digits_ > 0 ? sizeHint().width() : DigitsWidth(*this, 12));
+    return size;
+}
+
+void FieldBox::ShowText() {
+    const QString wanted = ToQt(box_.Text());
+    if (text() == wanted) return;
+    setText(wanted);
+    setCursorPosition(hasFocus() ? static_cast<int>(wanted.size()) : 0);
+}
+
+// A figure stands on the window's ground, not in a box that asks for an entry.
+void FieldBox::LookComputed() {
+    QPalette colors = palette();
+    const QColor ground = parentWidget() ? parentWidget()->palette().color(QPalette::Window) : QColor();
+    if (!ground.isValid() || colors.color(QPalette::Base) == ground) return;
+    colors.setColor(QPalette::Base, ground);
+    setPalette(colors);
+}
+
+void FieldBox::changeEvent(QEvent* event) {
+    QLineEdit::changeEvent(event);
+    if (computed_ && event->type() == QEvent::PaletteChange) LookComputed();
+}
+
+bool FieldBox::Commit() {
+    bool accepted = true;
+    binding_.Run([&](RecipeDocument& document) { accepted = document.CommitField(box_); });
+    if (!accepted) selectAll();
+    return accepted;
+}
+
+void FieldBox::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    if (!computed_) binding_.SetActiveField(this, [this] { return Commit(); });
+}
+
+void FieldBox::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    // A menu, or another program in front, is not leaving the box.
+    const bool left = event->reason() != Qt::PopupFocusReason && event->reason() != Qt::MenuBarFocusReason &&
+                      event->reason() != Qt::ActiveWindowFocusReason;
+    if (!left || computed_ || binding_.IsRefusing() || !binding_.Document()) return;
+    if (Commit()) return;
+    binding_.Refuse(this, [this] {
+        setFocus();
+        selectAll();
+    });
+}
+
+void FieldBox::keyPressEvent(QKeyEvent* event) {
+    if (binding_.HandleKey(*event, false)) return;
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (Commit()) selectAll();
+            return;
+        case Qt::Key_Escape:
+            binding_.Run([this](RecipeDocument& document) { document.RestoreField(box_); });
+            selectAll();
+            return;
+        default:
+            QLineEdit::keyPressEvent(event);
+    }
+}
+
+}  // namespace tw

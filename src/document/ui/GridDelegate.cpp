@@ -1,0 +1,213 @@
+#include "document/ui/GridDelegate.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+
+#include "document/ui/GridHeader.h"
+#include "document/ui/GridModel.h"
+#include "document/ui/GridView.h"
+#include "platform/qt/Appearance.h"
+#include "platform/qt/ProgramStyle.h"
+#include "platform/qt/QtText.h"
+
+namespace tw {
+namespace {
+
+void PaintCheckBox(QPainter& painter, const QStyleOptionViewItem& option, Qt::CheckState state) {
+    const int side = option.fontMetrics.ascent() + 2;
+    const QRect box = QStyle::alignedRect(option.direction, Qt::AlignCenter, QSize(side, side), option.rect);
+    PaintCheckIndicator(painter, box, option.palette, state == Qt::Checked);
+}
+
+// The current cell: a strong frame while the grid has the focus, a thin one while it has not.
+void PaintCurrentFrame(QPainter& painter, const QStyleOptionViewItem& option, bool focused) {
+    const int width = focused ? 2 : 1;
+    QPen pen(focused ? option.palette.color(QPalette::Highlight) : HintColor(option.palette), width);
+    pen.setJoinStyle(Qt::MiterJoin);
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    const double half = width / 2.0;
+    painter.drawRect(QRectF(option.rect).adjusted(half, half, -half, -half));
+}
+
+}  // namespace
+
+GridDelegate::GridDelegate(GridView& body, QObject* parent) : QStyledItemDelegate(parent), body_(body) {}
+
+void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& plain,
+                         const QModelIndex& index) const {
+    QStyleOptionViewItem option = plain;
+    initStyleOption(&option, index);
+    const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
+    const bool current = view && view->currentIndex() == index;
+    painter->save();
+    const QVariant ground = index.data(Qt::BackgroundRole);
+    painter->fillRect(option.rect,
+                      ground.isValid() ? ground.value<QBrush>() : option.palette.brush(QPalette::Base));
+    if (option.state.testFlag(QStyle::State_Selected) && !current) {
+        QColor veil = option.palette.color(QPalette::Highlight);
+        veil.setAlphaF(0.3F);
+        painter->fillRect(option.rect, veil);
+    }
+    const QVariant check = index.data(Qt::CheckStateRole);
+    if (check.isValid()) {
+        PaintCheckBox(*painter, option, static_cast<Qt::CheckState>(check.toInt()));
+    } else {
+        const QVariant ink = index.data(Qt::ForegroundRole);
+        painter->setPen(ink.isValid() ? ink.value<QBrush>().color() : option.palette.color(QPalette::Text));
+        painter->setFont(option.font);
+        const int padding = CellPadding(body_);
+        const QRect place = option.rect.adjusted(padding, 0, -padding, 0);
+        const QString text = option.fontMetrics.elidedText(option.text, Qt::ElideRight, place.width());
+        painter->drawText(place, static_cast<int>(option.displayAlignment) | Qt::TextSingleLine, text);
+    }
+    painter->setPen(HairlineColor(option.palette));
+    painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
+    painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+    if (current) PaintCurrentFrame(*painter, option, view->hasFocus());
+    painter->restore();
+}
+
+QSize GridDelegate::sizeHint(const QStyleOptionViewItem& plain, const QModelIndex& index) const {
+    QStyleOptionViewItem option = plain;
+    initStyleOption(&option, index);
+    return {option.fontMetrics.horizontalAdvance(option.text) + 2 * CellPadding(body_) + 2,
+            body_.RowHeight()};
+}
+
+QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                    const QModelIndex& index) const {
+    const CellList list = body_.ListOf(index);
+    QWidget* editor = nullptr;
+    if (list.entries.empty()) {
+        auto* line = new QLineEdit(parent);
+        line->setTextMargins(CellPadding(body_) / 2, 0, CellPadding(body_) / 2, 0);
+        line->setAlignment(Qt::Alignment(index.data(Qt::TextAlignmentRole).toInt()));
+        editor = line;
+    } else {
+        editor = MakeListEditor(parent, list);
+    }
+    editor->setAutoFillBackground(true);
+    editor->setAccessibleName(index.data(Qt::AccessibleTextRole).toString());
+    body_.SetEditor(editor, index);
+    return editor;
+}
+
+QWidget* GridDelegate::MakeListEditor(QWidget* parent, const CellList& list) const {
+    auto* combo = new QComboBox(parent);
+    combo->setMaxVisibleItems(16);
+    QStringList entries;
+    entries.reserve(static_cast<qsizetype>(list.entries.size()));
+    for (const std::string& entry : list.entries) entries.append(ToQt(entry));
+    combo->addItems(entries);
+    if (!list.freeText) return combo;
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    QCompleter* completer = combo->completer();
+    completer->setCompletionMode(QCompleter::PopupCompletion);
+    completer->setFilterMode(Qt::MatchContains);
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    // The popups are as wide as their widest entry, whatever the column's width.
+    const int widest = completer->popup()->sizeHintForColumn(0) +
+                       2 * combo->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    completer->popup()->setMinimumWidth(widest);
+    combo->view()->setMinimumWidth(widest);
+    // Qt makes editors by a const function, and their signals end in this object.
+    auto* self = const_cast<GridDelegate*>(this);
+    // With the list of matches open, Enter comes as these two: a match was picked, or the text stands as
+    // typed.
+    connect(completer, qOverload<const QString&>(&QCompleter::activated), combo,
+            [self, combo](const QString& text) {
+                combo->setEditText(text);
+                self->Close(*combo, SubmitModelCache);
+            });
+    connect(combo->lineEdit(), &QLineEdit::returnPressed, combo, [self, combo, completer] {
+        const bool picking = completer->popup()->isVisible() && completer->popup()->currentIndex().isValid();
+        if (!picking) self->Close(*combo, SubmitModelCache);
+    });
+    return combo;
+}
+
+void GridDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    const QString text = index.data(Qt::EditRole).toString();
+    if (auto* line = qobject_cast<QLineEdit*>(editor)) {
+        line->setText(text);
+    } else if (auto* combo = qobject_cast<QComboBox*>(editor)) {
+        combo->setCurrentIndex(combo->findText(text, Qt::MatchFixedString));
+        if (combo->isEditable()) combo->setEditText(text);
+    }
+    SelectEditorText(*editor);
+}
+
+void GridDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                                        const QModelIndex&) const {
+    editor->setGeometry(option.rect);
+}
+
+QString GridDelegate::EditorText(const QWidget& editor) {
+    if (const auto* line = qobject_cast<const QLineEdit*>(&editor)) return line->text();
+    const auto* combo = qobject_cast<const QComboBox*>(&editor);
+    return combo ? combo->currentText() : QString();
+}
+
+void GridDelegate::SelectEditorText(QWidget& editor) {
+    auto* line = qobject_cast<QLineEdit*>(&editor);
+    if (auto* combo = qobject_cast<QComboBox*>(&editor)) line = combo->lineEdit();
+    if (line) line->selectAll();
+}
+
+void GridDelegate::Close(QWidget& editor, EndEditHint hint) {
+    if (hint != RevertModelCache) emit commitData(&editor);
+    emit closeEditor(&editor, hint);
+}
+
+bool GridDelegate::HandleKey(QWidget& editor, const QKeyEvent& key) {
+    switch (key.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            Close(editor, SubmitModelCache);
+            return true;
+        case Qt::Key_Tab:
+            Close(editor, EditNextItem);
+            return true;
+        case Qt::Key_Backtab:
+            Close(editor, EditPreviousItem);
+            return true;
+        case Qt::Key_Escape:
+            Close(editor, RevertModelCache);
+            return true;
+        default:
+            return key.key() != Qt::Key_Delete && body_.Binding().HandleKey(key, true);
+    }
+}
+
+bool GridDelegate::eventFilter(QObject* object, QEvent* event) {
+    auto* editor = qobject_cast<QWidget*>(object);
+    if (!editor) return false;
+    switch (event->type()) {
+        case QEvent::KeyPress:
+            return HandleKey(*editor, *static_cast<QKeyEvent*>(event));
+        case QEvent::ShortcutOverride:
+            if (static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) return false;
+            event->accept();
+            return true;
+        case QEvent::FocusOut: {
+            const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+            const QWidget* now = QApplication::focusWidget();
+            const bool left = reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason &&
+                              reason != Qt::ActiveWindowFocusReason && now != editor &&
+                              !(now && editor->isAncestorOf(now));
+            if (left) Close(*editor, NoHint);
+            return false;
+        }
+        default:
+            return false;
+    }
+}
+
+}  // namespace tw

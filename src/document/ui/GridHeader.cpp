@@ -1,0 +1,64 @@
+#include "document/ui/GridHeader.h"
+
+#include <QPainter>
+#include <cmath>
+
+#include "platform/qt/Appearance.h"
+
+namespace tw {
+namespace {
+
+constexpr double kLines = 1.7;
+
+}  // namespace
+
+int CellPadding(const QWidget& widget) {
+    return Unit(widget) * 3 / 4;
+}
+
+GridHeader::GridHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+    setSectionsClickable(true);
+    setHighlightSections(false);
+    setResizeContentsPrecision(-1);
+    setMinimumSectionSize(Unit(*this) * 3);
+    setTextElideMode(Qt::ElideRight);
+    setFont(BoldFont(parent->font()));
+}
+
+void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section) const {
+    painter->fillRect(rect, palette().brush(QPalette::Button));
+    painter->setPen(HairlineColor(palette()));
+    painter->drawLine(rect.topRight(), rect.bottomRight());
+    painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+    const int padding = CellPadding(*this);
+    const QRect place = rect.adjusted(padding, 0, -padding, 0);
+    const QString text = model()->headerData(section, orientation(), Qt::DisplayRole).toString();
+    const int alignment = model()->headerData(section, orientation(), Qt::TextAlignmentRole).toInt();
+    painter->setFont(font());
+    painter->setPen(palette().color(QPalette::ButtonText));
+    painter->drawText(place, alignment | Qt::TextSingleLine,
+                      fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
+}
+
+// Beyond the last column the header goes on, without text.
+void GridHeader::paintEvent(QPaintEvent* event) {
+    QPainter painter(viewport());
+    painter.fillRect(viewport()->rect(), palette().brush(QPalette::Button));
+    painter.setPen(HairlineColor(palette()));
+    painter.drawLine(viewport()->rect().bottomLeft(), viewport()->rect().bottomRight());
+    painter.end();
+    QHeaderView::paintEvent(event);
+}
+
+QSize GridHeader::sectionSizeFromContents(int section) const {
+    const QString text = model()->headerData(section, orientation(), Qt::DisplayRole).toString();
+    return {fontMetrics().horizontalAdvance(text) + 2 * CellPadding(*this) + 2,
+            static_cast<int>(std::lround(kLines * fontMetrics().lineSpacing()))};
+}
+
+void GridHeader::changeEvent(QEvent* event) {
+    QHeaderView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) viewport()->update();
+}
+
+}  // namespace tw

@@ -1,0 +1,23 @@
+// The header row of a grid: bold, flat, its texts over those of the cells.
+#pragma once
+
+#include <QHeaderView>
+
+namespace tw {
+
+class GridHeader final : public QHeaderView {
+    Q_OBJECT
+  public:
+    explicit GridHeader(QWidget* parent);
+
+  protected:
+    void paintSection(QPainter* painter, const QRect& rect, int section) const override;
+    void paintEvent(QPaintEvent* event) override;
+    QSize sectionSizeFromContents(int section) const override;
+    void changeEvent(QEvent* event) override;
+};
+
+// Distance of a cell's text from the cell's edge, in pixels.
+int CellPadding(const QWidget& widget);
+
+}  // namespace tw

@@ -1,0 +1,169 @@
+#include "document/ui/GridModel.h"
+
+#include <QBrush>
+#include <QFont>
+
+#include "platform/qt/QtText.h"
+
+namespace tw {
+namespace {
+
+// Columns that hold words; all others hold numbers or check boxes.
+bool HoldsText(const Grid& grid, int col) {
+    const std::string& name = grid.Name();
+    if (name == "gridAdjuncts" || name == "gridLog") return true;
+    if (name == "gridWater") return col <= WaterCol::Profile;
+    if (name == "gridHops") return col == HopCol::Variety || col == HopCol::Form;
+    return col == 0 && name != "gridPressure";
+}
+
+// The ion cells of "Treatment Needed" and "Treatment Totals".
+bool IsItalic(const Grid& grid, int row, int col) {
+    return grid.Name() == "gridWater" && row >= WaterRow::Needed && col >= WaterCol::FirstIon;
+}
+
+}  // namespace
+
+GridModel::GridModel(DocumentBinding& binding, Grid& grid, Part part, QObject* parent)
+    : QAbstractTableModel(parent), binding_(binding), grid_(&grid), part_(part), rows_(CountRows()) {}
+
+int GridModel::FirstRow() const {
+    return part_ == Part::Data || !grid_ ? Grid::FixedRows() : grid_->EndOfData();
+}
+
+int GridModel::CountRows() const {
+    return part_ == Part::Data ? grid_->DataRows() : grid_->Rows() - grid_->EndOfData();
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() || !grid_ ? 0 : rows_;
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() || !grid_ ? 0 : grid_->Cols();
+}
+
+int GridModel::ModelRow(int gridRow) const {
+    const int row = gridRow - FirstRow();
+    return row >= 0 && row < rows_ ? row : -1;
+}
+
+bool GridModel::IsCheckBox(const QModelIndex& index) const {
+    return grid_ && index.isValid() && grid_->IsCheckBox(GridRow(index.row()), index.column());
+}
+
+bool GridModel::CanEdit(const QModelIndex& index) const {
+    const RecipeDocument* document = binding_.Document();
+    return grid_ && document && index.isValid() && part_ == Part::Data &&
+           document->CanEdit(*grid_, GridRow(index.row()), index.column());
+}
+
+Qt::Alignment GridModel::AlignmentOf(const Grid& grid, int col) {
+    if (grid.ColumnAt(col).checkBox) return Qt::AlignCenter;
+    return Qt::AlignVCenter | (HoldsText(grid, col) ? Qt::AlignLeft : Qt::AlignRight);
+}
+
+QVariant GridModel::Colored(int row, int col, bool background) const {
+    const GridColors colors = binding_.Frame().Colors();
+    switch (grid_->Paint(row, col)) {
+        case CellPaint::ReadOnly:
+            return QBrush(background ? colors.readOnlyBack : colors.readOnlyFore);
+        case CellPaint::Total:
+            return QBrush(background ? colors.totalBack : colors.totalFore);
+        default:
+            return {};
+    }
+}
+
+QVariant GridModel::FontOf(int row, int col) const {
+    const bool bold = grid_->At(row, col).bold, italic = IsItalic(*grid_, row, col);
+    if (!bold && !italic) return {};
+    QFont font;
+    font.setBold(bold);
+    font.setItalic(italic);
+    return font;
+}
+
+// What an assistive program says of a cell: its row, its column and its value.
+QString GridModel::Spoken(int row, int col) const {
+    QString value = ToQt(grid_->Shown(row, col));
+    if (grid_->IsCheckBox(row, col)) value = grid_->Checked(row, col) ? tr("yes") : tr("no");
+    if (value.isEmpty()) value = tr("empty");
+    return tr("Row %1, %2: %3").arg(row).arg(ToQt(grid_->ColumnAt(col).header), value);
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+    if (!grid_ || !index.isValid()) return {};
+    const int row = GridRow(index.row()), col = index.column();
+    if (!grid_->HasCell(row, col)) return {};
+    switch (role) {
+        case Qt::DisplayRole:
+            return ToQt(grid_->Shown(row, col));
+        case Qt::EditRole:
+            return ToQt(grid_->Text(row, col));
+        case Qt::TextAlignmentRole:
+            return QVariant::fromValue(AlignmentOf(*grid_, col));
+        case Qt::BackgroundRole:
+            return Colored(row, col, true);
+        case Qt::ForegroundRole:
+            return Colored(row, col, false);
+        case Qt::FontRole:
+            return FontOf(row, col);
+        case Qt::CheckStateRole:
+            if (!grid_->IsCheckBox(row, col)) return {};
+            return grid_->Checked(row, col) ? Qt::Checked : Qt::Unchecked;
+        case Qt::AccessibleTextRole:
+            return Spoken(row, col);
+        default:
+            return {};
+    }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (!grid_ || orientation != Qt::Horizontal || section < 0 || section >= grid_->Cols()) return {};
+    if (role == Qt::DisplayRole) return ToQt(grid_->ColumnAt(section).header);
+    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AlignmentOf(*grid_, section));
+    return {};
+}
+
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    if (CanEdit(index)) flags |= IsCheckBox(index) ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
+    return flags;
+}
+
+void GridModel::CellChanged(int gridRow, int col) {
+    const int row = ModelRow(gridRow);
+    if (row < 0) return;
+    const QModelIndex cell = index(row, col);
+    emit dataChanged(cell, cell);
+}
+
+void GridModel::RowInserted(int gridRow) {
+    const int row = gridRow - FirstRow();
+    if (rows_ == CountRows() || row < 0 || row > rows_) return;
+    beginInsertRows({}, row, row);
+    ++rows_;
+    endInsertRows();
+}
+
+void GridModel::RowRemoved(int gridRow) {
+    const int row = ModelRow(gridRow);
+    if (rows_ == CountRows() || row < 0) return;
+    beginRemoveRows({}, row, row);
+    --rows_;
+    endRemoveRows();
+}
+
+void GridModel::AllChanged() {
+    if (grid_ && rows_ > 0) emit dataChanged(index(0, 0), index(rows_ - 1, grid_->Cols() - 1));
+}
+
+void GridModel::Detach() {
+    beginResetModel();
+    grid_ = nullptr;
+    rows_ = 0;
+    endResetModel();
+}
+
+}  // namespace tw

@@ -1,0 +1,43 @@
+// A grid with what belongs around it: the totals rows pinned below the data rows, and one grey line that says
+// what to type while the grid is blank.
+#pragma once
+
+#include <QFrame>
+
+#include "document/ui/GridView.h"
+
+class QLabel;
+
+namespace tw {
+
+class GridPanel final : public QFrame {
+    Q_OBJECT
+  public:
+    // name: the grid's name to assistive programs; hint: what to type, may be empty.
+    GridPanel(DocumentBinding& binding, Grid& grid, const QString& name, const QString& hint,
+              QWidget* parent);
+
+    GridView& View() const { return *view_; }
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    void MakeTotals(DocumentBinding& binding, Grid& grid);
+    int TotalsHeight() const;
+    // Places the rows, the totals under the last row, or at the bottom when there is no room for all rows.
+    void Arrange();
+    void LookHint();
+
+    GridView* view_;
+    QTableView* totals_ = nullptr;
+    QLabel* hint_ = nullptr;
+};
+
+}  // namespace tw

@@ -1,0 +1,355 @@
+#include "document/ui/GridView.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+#include "document/ui/GridDelegate.h"
+#include "document/ui/GridHeader.h"
+#include "platform/qt/Appearance.h"
+#include "platform/qt/QtText.h"
+
+namespace tw {
+namespace {
+
+constexpr double kLinesPerRow = 1.6;
+constexpr int kExtraPerColumn = 7;
+
+// What a column's contents ask for at most: notes of the log must not push the other columns out of sight.
+constexpr int kWidestInDigits = 60;
+
+}  // namespace
+
+std::vector<int> FitColumns(std::vector<int> autoWidths, int clientWidth) {
+    if (autoWidths.empty()) return autoWidths;
+    const int count = static_cast<int>(autoWidths.size());
+    const int sum = std::accumulate(autoWidths.begin(), autoWidths.end(), kExtraPerColumn * count);
+    if (sum < clientWidth)
+        for (int& width : autoWidths) width += (clientWidth - sum) / count;
+    return autoWidths;
+}
+
+GridView::GridView(DocumentBinding& binding, Grid& grid, const QString& name, QWidget* parent)
+    : QTableView(parent), binding_(binding), grid_(&grid) {
+    setObjectName(ToQt(grid.Name()));
+    setAccessibleName(name);
+    setFrameShape(QFrame::NoFrame);
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
+    setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
+    setHorizontalScrollMode(ScrollPerPixel);
+    setWordWrap(false);
+    // The delegate draws the hairlines: the styles differ in theirs, and some vanish on a dark ground.
+    setShowGrid(false);
+    setCornerButtonEnabled(false);
+    model_ = new GridModel(binding, grid, GridModel::Part::Data, this);
+    setModel(model_);
+    setItemDelegate(new GridDelegate(*this, this));
+    BuildHeader();
+    Connect();
+    binding.AddGrid(grid, *this);
+    ShowCurrentCell();
+}
+
+void GridView::BuildHeader() {
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(RowHeight());
+    setHorizontalHeader(new GridHeader(this));
+    horizontalHeader()->setAccessibleName(tr("Columns of %1").arg(accessibleName()));
+}
+
+void GridView::Connect() {
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int col, int, int width) {
+        if (!fitting_) widthsChosen_ = true;
+        if (totals_) totals_->setColumnWidth(col, width);
+    });
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+        if (totals_) totals_->horizontalScrollBar()->setValue(value);
+    });
+}
+
+int GridView::RowHeight() const {
+    return static_cast<int>(std::lround(kLinesPerRow * fontMetrics().lineSpacing()));
+}
+
+int GridView::ContentHeight() const {
+    return horizontalHeader()->sizeHint().height() + model_->rowCount() * RowHeight();
+}
+
+void GridView::ShowCell(int row, int col) {
+    model_->CellChanged(row, col);
+    if (totals_) static_cast<GridModel*>(totals_->model())->CellChanged(row, col);
+    if (!widthsChosen_ && WantsMoreRoom(row, col)) FitGridColumns();
+    emit ContentChanged();
+}
+
+bool GridView::WantsMoreRoom(int row, int col) const {
+    if (!grid_ || !isVisible()) return false;
+    const int modelRow = model_->ModelRow(row);
+    const int wanted = modelRow >= 0 ? sizeHintForIndex(model_->index(modelRow, col)).width() : 0;
+    return std::min(wanted, DigitsWidth(*this, kWidestInDigits)) > columnWidth(col);
+}
+
+void GridView::ShowRowInserted(int row) {
+    model_->RowInserted(row);
+    emit ContentChanged();
+}
+
+void GridView::ShowRowRemoved(int row) {
+    model_->RowRemoved(row);
+    emit ContentChanged();
+}
+
+void GridView::ShowCurrentCell() {
+    if (!grid_) return;
+    const int row = model_->ModelRow(grid_->CurrentRow());
+    const QModelIndex wanted = row < 0 ? QModelIndex() : model_->index(row, grid_->CurrentCol());
+    if (wanted.isValid() && wanted != currentIndex()) setCurrentIndex(wanted);
+    viewport()->update();
+    if (totals_) totals_->viewport()->update();
+}
+
+void GridView::ShowColors() {
+    model_->AllChanged();
+    if (totals_) static_cast<GridModel*>(totals_->model())->AllChanged();
+}
+
+void GridView::Detach() {
+    if (!grid_) return;
+    grid_ = nullptr;
+    refused_ = false;
+    model_->Detach();
+    if (totals_) static_cast<GridModel*>(totals_->model())->Detach();
+}
+
+void GridView::FitGridColumns() {
+    if (!grid_ || !isVisible()) return;
+    ensurePolished();
+    const int widest = DigitsWidth(*this, kWidestInDigits);
+    std::vector<int> widths;
+    for (int col = 0; col < model_->columnCount(); ++col) {
+        int width = std::max(sizeHintForColumn(col), horizontalHeader()->sectionSizeHint(col));
+        for (int row = 0; totals_ && row < totals_->model()->rowCount(); ++row)
+            width = std::max(width, totals_->sizeHintForIndex(totals_->model()->index(row, col)).width());
+        widths.push_back(std::min(width, widest));
+    }
+    widths = FitColumns(std::move(widths), viewport()->width());
+    fitting_ = true;
+    for (int col = 0; col < static_cast<int>(widths.size()); ++col)
+        setColumnWidth(col, widths[static_cast<std::size_t>(col)]);
+    fitting_ = false;
+    widthsChosen_ = false;
+}
+
+bool GridView::IsBlankGrid() const {
+    if (!grid_) return false;
+    for (int row = Grid::FixedRows(); row < grid_->EndOfData(); ++row)
+        for (int col = 0; col < grid_->Cols(); ++col)
+            if (!grid_->Empty(row, col) && !(grid_->Name() == "gridHops" && col == HopCol::Form))
+                return false;
+    return true;
+}
+
+void GridView::SetEditor(QWidget* editor, const QModelIndex& cell) {
+    editor_ = editor;
+    editedCell_ = cell;
+    refused_ = false;
+}
+
+CellList GridView::ListOf(const QModelIndex& cell) const {
+    CellList list;
+    if (!grid_) return list;
+    const int row = model_->GridRow(cell.row());
+    binding_.Run([&](RecipeDocument& document) { list = document.ListOf(*grid_, row, cell.column()); });
+    return list;
+}
+
+bool GridView::CommitEditor() {
+    if (!editor_) return true;
+    commitData(editor_);
+    if (refused_) {
+        KeepEditor();
+        return false;
+    }
+    closeEditor(editor_, QAbstractItemDelegate::NoHint);
+    return true;
+}
+
+bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    if (hasDates_ && trigger == DoubleClicked && index.column() == LogCol::Date) {
+        emit CalendarRequested(model_->GridRow(index.row()));
+        return false;
+    }
+    return QTableView::edit(index, trigger, event);
+}
+
+void GridView::commitData(QWidget* editor) {
+    if (!grid_ || !editor || editor != editor_ || refused_ || committing_ || !editedCell_.isValid()) return;
+    const int row = model_->GridRow(editedCell_.row()), col = editedCell_.column();
+    const std::string text = FromQt(GridDelegate::EditorText(*editor));
+    bool accepted = true;
+    committing_ = true;
+    // An arithmetic error leaves the cell as it was; the editor closes then.
+    binding_.Run([&](RecipeDocument& document) { accepted = document.EditCell(*grid_, row, col, text); });
+    committing_ = false;
+    refused_ = !accepted;
+}
+
+void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    if (committing_) return;
+    if (editor == editor_ && refused_ && hint != QAbstractItemDelegate::RevertModelCache) {
+        KeepEditor();
+        return;
+    }
+    refused_ = false;
+    editor_ = nullptr;
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem)
+        focusNextPrevChild(hint == QAbstractItemDelegate::EditNextItem);
+    else if (hint == QAbstractItemDelegate::SubmitModelCache)
+        StepDown();
+}
+
+// The editor of a refused entry stays open, with its text selected.
+void GridView::KeepEditor() {
+    const auto takeBack = [this] {
+        refused_ = false;
+        if (!editor_) return;
+        if (editedCell_.isValid() && currentIndex() != editedCell_) setCurrentIndex(editedCell_);
+        editor_->setFocus();
+        GridDelegate::SelectEditorText(*editor_);
+    };
+    if (editor_->hasFocus())
+        takeBack();
+    else if (!binding_.IsRefusing())
+        binding_.Refuse(editor_, takeBack);
+}
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (!grid_ || !current.isValid()) return;
+    const int row = model_->GridRow(current.row()), col = current.column();
+    if (row == grid_->CurrentRow() && col == grid_->CurrentCol()) return;
+    binding_.Run([&](RecipeDocument& document) { document.SetCurrentCell(*grid_, row, col); });
+}
+
+void GridView::Toggle(const QModelIndex& cell) {
+    if (!model_->IsCheckBox(cell) || !model_->CanEdit(cell)) return;
+    const int row = model_->GridRow(cell.row()), col = cell.column();
+    binding_.Run(
+        [&](RecipeDocument& document) { document.SetChecked(*grid_, row, col, !grid_->Checked(row, col)); });
+}
+
+void GridView::ClearCell(const QModelIndex& cell) {
+    if (!model_->CanEdit(cell) || model_->IsCheckBox(cell)) return;
+    const int row = model_->GridRow(cell.row()), col = cell.column();
+    binding_.Run([&](RecipeDocument& document) { document.EditCell(*grid_, row, col, {}); });
+}
+
+bool GridView::Step(int direction) {
+    const int cols = model_->columnCount(), cells = model_->rowCount() * cols;
+    int place = currentIndex().row() * cols + currentIndex().column() + direction;
+    for (; place >= 0 && place < cells; place += direction) {
+        const QModelIndex cell = model_->index(place / cols, place % cols);
+        if (!model_->CanEdit(cell)) continue;
+        setCurrentIndex(cell);
+        return true;
+    }
+    return false;
+}
+
+void GridView::StepDown() {
+    const QModelIndex below = model_->index(currentIndex().row() + 1, currentIndex().column());
+    if (below.isValid()) setCurrentIndex(below);
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+    if (binding_.HandleKey(*event, true)) return;
+    const QModelIndex cell = currentIndex();
+    switch (event->key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            StepDown();
+            return;
+        case Qt::Key_Space:
+            if (!model_->IsCheckBox(cell)) break;
+            Toggle(cell);
+            return;
+        case Qt::Key_Delete:
+            ClearCell(cell);
+            return;
+        case Qt::Key_Down:
+            if (!hasDates_ || !event->modifiers().testFlag(Qt::AltModifier) || !cell.isValid()) break;
+            emit CalendarRequested(model_->GridRow(cell.row()));
+            return;
+        default:
+            break;
+    }
+    QTableView::keyPressEvent(event);
+}
+
+bool GridView::focusNextPrevChild(bool next) {
+    if (!CommitEditor()) return true;
+    if (hasFocus() && Step(next ? 1 : -1)) return true;
+    return QAbstractScrollArea::focusNextPrevChild(next);
+}
+
+void GridView::focusInEvent(QFocusEvent* event) {
+    QTableView::focusInEvent(event);
+    ShowCurrentCell();
+    if (!currentIndex().isValid() && model_->rowCount() > 0) setCurrentIndex(model_->index(0, 0));
+}
+
+void GridView::focusOutEvent(QFocusEvent* event) {
+    QTableView::focusOutEvent(event);
+    viewport()->update();
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+    // A refused entry holds its place until its editor has the focus back.
+    if (binding_.IsRefusing()) return;
+    const QModelIndex cell = indexAt(event->pos());
+    // The right button moves the current cell, unless the click falls into the selection.
+    if (event->button() == Qt::RightButton && cell.isValid() && selectionModel()->isSelected(cell)) return;
+    QTableView::mousePressEvent(event);
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent* event) {
+    const QModelIndex cell = indexAt(event->pos());
+    const bool clicked = event->button() == Qt::LeftButton && cell.isValid() && cell == currentIndex() &&
+                         !binding_.IsRefusing();
+    QTableView::mouseReleaseEvent(event);
+    if (clicked) Toggle(cell);
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent* event) {
+    QPoint place = event->globalPos();
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        place = viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
+    binding_.Frame().ShowEditMenu(place);
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    if (!widthsChosen_ && event->size().width() != event->oldSize().width()) FitGridColumns();
+}
+
+void GridView::showEvent(QShowEvent* event) {
+    QTableView::showEvent(event);
+    if (!widthsChosen_) FitGridColumns();
+}
+
+void GridView::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() != QEvent::FontChange) return;
+    verticalHeader()->setDefaultSectionSize(RowHeight());
+    horizontalHeader()->setFont(BoldFont(font()));
+    emit ContentChanged();
+}
+
+}  // namespace tw

@@ -1,0 +1,94 @@
+#include "document/ui/ListField.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include "platform/qt/QtText.h"
+
+namespace tw {
+namespace {
+
+constexpr int kVisibleEntries = 20;
+constexpr int kUsualCharacters = 12;
+
+}  // namespace
+
+ListField::ListField(DocumentBinding& binding, const ListBox& list, const QString& name, QWidget* parent,
+                     std::function<void(RecipeDocument&, int)> select)
+    : QComboBox(parent), binding_(binding), list_(list), select_(std::move(select)) {
+    setObjectName(ToQt(list.Name()));
+    setAccessibleName(name);
+    setFocusPolicy(Qt::StrongFocus);
+    setMaxVisibleItems(kVisibleEntries);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(kUsualCharacters);
+    setEditable(true);
+    setInsertPolicy(QComboBox::NoInsert);
+    lineEdit()->setAccessibleName(name);
+    completer()->setCompletionMode(QCompleter::PopupCompletion);
+    completer()->setFilterMode(Qt::MatchContains);
+    completer()->setCaseSensitivity(Qt::CaseInsensitive);
+    completer()->setMaxVisibleItems(kVisibleEntries);
+    ShowList();
+    binding_.Watch(&list_, [this] { ShowList(); });
+    connect(this, &QComboBox::activated, this, &ListField::Choose);
+    connect(lineEdit(), &QLineEdit::editingFinished, this, &ListField::Settle);
+}
+
+void ListField::ShowList() {
+    if (!binding_.Document()) return;
+    const QSignalBlocker blocker(this);
+    QStringList entries;
+    entries.reserve(static_cast<qsizetype>(list_.Entries().size()));
+    for (const ListBox::Entry& entry : list_.Entries()) entries.append(ToQt(entry.text));
+    bool same = entries.size() == count();
+    for (int i = 0; same && i < count(); ++i) same = itemText(i) == entries[i];
+    if (!same) {
+        clear();
+        addItems(entries);
+    }
+    setCurrentIndex(list_.Selected());
+    setEditText(ToQt(list_.Text()));
+    lineEdit()->setCursorPosition(0);
+}
+
+void ListField::Choose(int index) {
+    if (!binding_.Document() || index == list_.Selected()) return;
+    binding_.Run([&](RecipeDocument& document) { select_(document, index); });
+    ShowList();
+}
+
+void ListField::Settle() {
+    if (!binding_.Document()) return;
+    const int typed = findText(currentText().trimmed(), Qt::MatchFixedString);
+    if (typed >= 0) Choose(typed);
+    ShowList();
+    if (hasFocus()) lineEdit()->selectAll();
+}
+
+void ListField::focusInEvent(QFocusEvent* event) {
+    QComboBox::focusInEvent(event);
+    if (event->reason() != Qt::PopupFocusReason) lineEdit()->selectAll();
+}
+
+// The wheel changes the list only after it was chosen; before, it scrolls the page.
+void ListField::wheelEvent(QWheelEvent* event) {
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+void ListField::keyPressEvent(QKeyEvent* event) {
+    if (binding_.HandleKey(*event, false)) return;
+    if (event->key() == Qt::Key_Escape) {
+        ShowList();
+        lineEdit()->selectAll();
+        return;
+    }
+    QComboBox::keyPressEvent(event);
+}
+
+}  // namespace tw

@@ -1,0 +1,35 @@
+// A list of the record whose entries are found by typing any part of their text. Only an entry counts: any
+// other text gives way to the entry that is selected.
+#pragma once
+
+#include <QComboBox>
+#include <functional>
+
+#include "document/ui/DocumentBinding.h"
+
+namespace tw {
+
+class ListField final : public QComboBox {
+    Q_OBJECT
+  public:
+    // select carries out the choice of an entry.
+    ListField(DocumentBinding& binding, const ListBox& list, const QString& name, QWidget* parent,
+              std::function<void(RecipeDocument&, int)> select);
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void ShowList();
+    void Choose(int index);
+    // What was typed becomes the choice, or the present entry comes back.
+    void Settle();
+
+    DocumentBinding& binding_;
+    const ListBox& list_;
+    std::function<void(RecipeDocument&, int)> select_;
+};
+
+}  // namespace tw

@@ -1,0 +1,29 @@
+// The notes of a recipe: text of many lines.
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "document/ui/DocumentBinding.h"
+
+namespace tw {
+
+class NotesBox final : public QPlainTextEdit {
+    Q_OBJECT
+  public:
+    NotesBox(DocumentBinding& binding, TextBox& box, const QString& name, QWidget* parent);
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void ShowText();
+    bool Commit();
+
+    DocumentBinding& binding_;
+    TextBox& box_;
+    bool showing_ = false;  // the text comes from the document, not from the keyboard
+};
+
+}  // namespace tw

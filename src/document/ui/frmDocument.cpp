@@ -1,0 +1,109 @@
+#include "document/ui/frmDocument.h"
+
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "document/ui/DocumentPages.h"
+#include "document/ui/GridView.h"
+#include "document/ui/PageBuilder.h"
+#include "platform/qt/Appearance.h"
+
+namespace tw {
+
+frmDocument::frmDocument(RecipeDocument& document, Platform& platform, DocumentFrame& frame, QWidget* parent)
+    : QWidget(parent), binding_(document, platform, frame), tabs_(new QTabWidget(this)) {
+    setObjectName(QStringLiteral("frmDocument"));
+    setAccessibleName(tr("Recipe"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(tabs_);
+    tabs_->setObjectName(QStringLiteral("SSTab1"));
+    tabs_->setAccessibleName(tr("Parts of the recipe"));
+    tabs_->setDocumentMode(true);
+    tabs_->tabBar()->setAccessibleName(tabs_->accessibleName());
+    tabs_->tabBar()->setElideMode(Qt::ElideNone);
+    for (int i = 0; i < kTabs; ++i) {
+        auto* page = new QScrollArea(tabs_);
+        page->setFrameShape(QFrame::NoFrame);
+        page->setWidgetResizable(true);
+        page->setFocusPolicy(Qt::NoFocus);
+        page->verticalScrollBar()->setObjectName(QStringLiteral("VScroll1"));
+        pages_[static_cast<std::size_t>(i)] = page;
+        tabs_->addTab(page, tr(TextOf(static_cast<Tab>(i)).caption));
+    }
+    BuildTab(0);
+    setFocusProxy(FirstField());
+    document.SetView(this);
+    connect(tabs_, &QTabWidget::currentChanged, this, &frmDocument::TabChosen);
+    binding_.SetStepTab([this](int step) {
+        const int to = tabs_->currentIndex() + step;
+        if (to >= 0 && to < kTabs) ShowTab(static_cast<Tab>(to));
+    });
+}
+
+frmDocument::~frmDocument() {
+    Detach();
+    // The controls refer to the binding and go before it.
+    delete tabs_;
+}
+
+void frmDocument::Detach() {
+    if (!binding_.Document()) return;
+    binding_.Document()->SetView(nullptr);
+    binding_.Detach();
+}
+
+void frmDocument::BuildTab(int index) {
+    QScrollArea& area = *pages_[static_cast<std::size_t>(index)];
+    if (area.widget() || !binding_.Document()) return;
+    auto* page = new QWidget;
+    page->setObjectName(QStringLiteral("ContainerBox(%1)").arg(index));
+    PageBuilder builder(binding_, *page);
+    BuildPage(static_cast<Tab>(index), builder);
+    area.setWidget(page);
+}
+
+void frmDocument::ShowTab(Tab tab) {
+    if (binding_.Flush()) tabs_->setCurrentIndex(static_cast<int>(tab));
+}
+
+void frmDocument::TabChosen(int index) {
+    if (index == shown_) return;
+    if (!binding_.Flush()) {
+        tabs_->setCurrentIndex(shown_);
+        return;
+    }
+    shown_ = index;
+    BuildTab(index);
+    binding_.Run([index](RecipeDocument& document) { document.SetTab(static_cast<Tab>(index)); });
+    QWidget* first = FirstField();
+    setFocusProxy(first);
+    if (first) first->setFocus(Qt::TabFocusReason);
+}
+
+QWidget* frmDocument::FirstField() const {
+    const QString name = QString::fromLatin1(TextOf(static_cast<Tab>(shown_)).firstFocus);
+    return pages_[static_cast<std::size_t>(shown_)]->findChild<QWidget*>(name);
+}
+
+bool frmDocument::IsEditing(const QWidget& control) const {
+    const QWidget* page = pages_[static_cast<std::size_t>(shown_)]->widget();
+    return page && page->isAncestorOf(&control);
+}
+
+void frmDocument::GridColorsChanged() {
+    binding_.ForEachGrid([](GridView& view) { view.ShowColors(); });
+}
+
+QSize frmDocument::sizeHint() const {
+    // All tabs side by side, and the first one without scrolling.
+    const QWidget* general = pages_[0]->widget();
+    const QSize page = general ? general->sizeHint() : QSize();
+    const int tabs = tabs_->tabBar()->sizeHint().width();
+    return {qMax(page.width(), tabs) + Unit(*this), page.height() + tabs_->tabBar()->sizeHint().height()};
+}
+
+}  // namespace tw

@@ -1,0 +1,31 @@
+// The window of a form that has no window of its own: its controls in the form's order, under their names.
+#pragma once
+
+#include <QDialog>
+#include <string>
+#include <vector>
+
+#include "platform/DialogModel.h"
+
+class QFormLayout;
+
+namespace tw {
+
+class GenericDialog final : public QDialog {
+    Q_OBJECT
+  public:
+    explicit GenericDialog(DialogModel& model, QWidget* parent = nullptr);
+
+  protected:
+    void reject() override;
+
+  private:
+    void AddControl(QFormLayout& form, const DialogControl& control);
+    // Presses the first of the buttons that the form has; the window goes when the model is done.
+    void Press(const std::vector<std::string>& buttons);
+    void ShowControls();
+
+    DialogModel& model_;
+};
+
+}  // namespace tw

@@ -1,0 +1,15 @@
+// Message boxes and questions in Qt: the only place of the program that opens one.
+#pragma once
+
+#include "platform/Ports.h"
+
+namespace tw {
+
+class QtMessages final : public MessagePort {
+  public:
+    void ShowMessage(std::string_view title, std::string_view text) override;
+    Answer Ask(std::string_view title, std::string_view text, Question kind) override;
+    void Beep() override;
+};
+
+}  // namespace tw

@@ -1,0 +1,84 @@
+// The main window on an empty database in memory with a few catalogue entries, on a platform that records.
+#pragma once
+
+#include <QtTest/QTest>
+#include <QtWidgets>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "document/ui/GridView.h"
+#include "document/ui/frmDocument.h"
+#include "platform/qt/QtText.h"
+#include "shell/Shell.h"
+#include "shell/ui/frmMain.h"
+#include "support/RecordingPlatform.h"
+
+namespace tw::test {
+
+class GuiTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        window.resize(1100, 720);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        ASSERT_TRUE(window.StartUp(":memory:"));
+        for (const char* sql :
+             {"INSERT INTO STYLES (NAME, OG_LO, OG_HI, IBU_LO) VALUES ('Stout', 1.02, 1.03, 25)",
+              "INSERT INTO GRAINS (NAME, PPG_LO, PPG_HI, COLOR_LO, COLOR_HI, GRAIN) VALUES "
+              "('Pale Malt', 36, 36, 2, 2, TRUE)"})
+            shell.DB()->Execute(sql);
+    }
+
+    // A new recipe in front.
+    frmDocument& NewRecipe() {
+        EXPECT_TRUE(window.RunCommand("mnuFileNew"));
+        return *window.ActiveWindow();
+    }
+    // Shows every tab once, so that all its controls are made.
+    void BuildAllTabs() {
+        for (int tab = 0; tab < kTabs; ++tab) window.ActiveWindow()->ShowTab(static_cast<Tab>(tab));
+    }
+    template <class Control>
+    Control& Find(const char* name) {
+        auto* control = window.ActiveWindow()->findChild<Control*>(QLatin1String(name));
+        EXPECT_NE(control, nullptr) << name;
+        return *control;
+    }
+    // Shows the tab of a grid and gives the grid the focus at a cell.
+    GridView& GridAt(Tab tab, const char* name, int row, int col) {
+        window.ActiveWindow()->ShowTab(tab);
+        auto& view = Find<GridView>(name);
+        view.setFocus();
+        view.setCurrentIndex(view.Model().index(row - 1, col));
+        return view;
+    }
+    std::string Text(const char* name) { return FromQt(Find<QLineEdit>(name).text()); }
+    std::string Shown(GridView& view, int row, int col) {
+        return FromQt(view.Model().index(row - 1, col).data(Qt::DisplayRole).toString());
+    }
+
+    // Keys go where the focus is, as from a keyboard.
+    static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        ASSERT_NE(QApplication::focusWidget(), nullptr);
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+    static void Type(const char* text) {
+        for (; *text; ++text) {
+            ASSERT_NE(QApplication::focusWidget(), nullptr);
+            QTest::keyClick(QApplication::focusWidget(), *text);
+        }
+    }
+    static std::string Focus() {
+        QWidget* focus = QApplication::focusWidget();
+        return focus ? FromQt(focus->objectName()) : std::string();
+    }
+
+    RecordingPlatform outside;
+    Shell shell{outside.platform};
+    frmMain window{shell, outside.platform};
+};
+
+using Strings = std::vector<std::string>;
+
+}  // namespace tw::test

@@ -1,0 +1,175 @@
+// Nothing is cut, overlaps or is without a name, on light and on dark. The build runs these tests twice, the
+// second time on a display of twice the density with a larger font.
+#include <functional>
+#include <map>
+#include <set>
+
+#include "GuiTest.h"
+#include "document/ui/DetailsDialog.h"
+#include "document/ui/FancyLabel.h"
+#include "platform/qt/Appearance.h"
+#include "shell/AboutModel.h"
+#include "shell/ui/AboutDialog.h"
+#include "shell/ui/OpenSaveDialog.h"
+
+namespace tw::test {
+namespace {
+
+class Layout : public GuiTest, public testing::WithParamInterface<bool> {
+  protected:
+    void SetUp() override {
+        QApplication::setPalette(GetParam() ? DarkPalette() : LightPalette());
+        GuiTest::SetUp();
+        NewRecipe();
+        window.ActiveWindow()->parentWidget()->showMaximized();
+    }
+    void TearDown() override { QApplication::setPalette(QPalette()); }
+
+    // Each tab, then each dialog.
+    void ForEachWindow(const std::function<void(QWidget&)>& visit) {
+        for (int tab = 0; tab < kTabs; ++tab) {
+            window.ActiveWindow()->ShowTab(static_cast<Tab>(tab));
+            QApplication::processEvents();
+            visit(window);
+        }
+        AboutModel about;
+        DetailsModel strength = StrengthDetails(1.05, 1.01), hops = HopDetails(1.05, 30);
+        DetailsModel volume = FinalVolDetails({5, 0, 5, 1.05, 1.01});
+        OpenSaveModel openSave(OpenSaveModel::Style::Open, *shell.DB(), outside.messages);
+        AboutDialog aboutWindow(about, nullptr);
+        DetailsDialog strengthWindow(strength, nullptr), hopsWindow(hops, nullptr),
+            volumeWindow(volume, nullptr);
+        OpenSaveDialog openSaveWindow(openSave, nullptr);
+        for (QDialog* dialog : {static_cast<QDialog*>(&aboutWindow), static_cast<QDialog*>(&strengthWindow),
+                                static_cast<QDialog*>(&hopsWindow), static_cast<QDialog*>(&volumeWindow),
+                                static_cast<QDialog*>(&openSaveWindow)}) {
+            dialog->show();
+            QApplication::processEvents();
+            visit(*dialog);
+        }
+    }
+};
+
+std::string NameOf(const QWidget& widget, const QString& text) {
+    return FromQt(widget.objectName() + QStringLiteral(" \"") + text + QLatin1Char('"'));
+}
+
+int WidthOf(const QWidget& widget, const QString& text) {
+    return widget.fontMetrics().size(Qt::TextShowMnemonic, text).width();
+}
+
+TEST_P(Layout, NoTextIsWiderThanItsWidget) {
+    ForEachWindow([](QWidget& top) {
+        for (const auto* label : top.findChildren<QLabel*>()) {
+            if (!label->isVisible() || label->wordWrap() || !label->pixmap().isNull()) continue;
+            EXPECT_LE(WidthOf(*label, label->text()), label->width()) << NameOf(*label, label->text());
+        }
+        for (const auto* button : top.findChildren<QAbstractButton*>()) {
+            if (!button->isVisible() || qobject_cast<const QToolButton*>(button)) continue;
+            EXPECT_LE(WidthOf(*button, button->text()), button->width()) << NameOf(*button, button->text());
+        }
+        for (const auto* label : top.findChildren<FancyLabel*>()) {
+            if (!label->isVisible()) continue;
+            EXPECT_LE(label->sizeHint().width(), label->width()) << FromQt(label->Caption());
+        }
+    });
+}
+
+TEST_P(Layout, NoHeadingOfAGridIsCut) {
+    ForEachWindow([](QWidget& top) {
+        for (const auto* view : top.findChildren<GridView*>()) {
+            if (!view->isVisible()) continue;
+            for (int col = 0; col < view->model()->columnCount(); ++col) {
+                const QString text = view->model()->headerData(col, Qt::Horizontal).toString();
+                EXPECT_LE(WidthOf(*view->horizontalHeader(), text), view->columnWidth(col)) << FromQt(text);
+            }
+        }
+    });
+}
+
+TEST_P(Layout, NoControlsOverlap) {
+    ForEachWindow([](QWidget& top) {
+        for (const auto* label : top.findChildren<QLabel*>()) {
+            if (!label->isVisible() || !label->buddy()) continue;
+            const auto siblings =
+                label->parentWidget()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+            for (const auto* other : siblings) {
+                if (other == label || !other->isVisible() || other->isWindow()) continue;
+                EXPECT_FALSE(label->geometry().intersects(other->geometry()))
+                    << NameOf(*label, label->text()) << " and " << NameOf(*other, {});
+            }
+        }
+    });
+}
+
+TEST_P(Layout, EveryControlHasAnAccessibleName) {
+    ForEachWindow([](QWidget& top) {
+        for (QWidget* widget : top.findChildren<QWidget*>()) {
+            const bool isControl =
+                qobject_cast<QLineEdit*>(widget) || qobject_cast<QAbstractButton*>(widget) ||
+                qobject_cast<QComboBox*>(widget) || qobject_cast<QTableView*>(widget) ||
+                qobject_cast<QPlainTextEdit*>(widget) || qobject_cast<QTabWidget*>(widget) ||
+                qobject_cast<QListView*>(widget) || qobject_cast<QSlider*>(widget) ||
+                QLatin1String(widget->metaObject()->className()).startsWith(QLatin1String("tw::"));
+            // Qt's own parts of a calendar, a list or the frame name themselves.
+            const QString name = widget->objectName();
+            if (!isControl || name.startsWith(QLatin1String("qt_")) || !widget->isVisible()) continue;
+            QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+            ASSERT_NE(spoken, nullptr);
+            EXPECT_FALSE(spoken->text(QAccessible::Name).isEmpty())
+                << NameOf(*widget, QLatin1String(widget->metaObject()->className()));
+        }
+    });
+}
+
+TEST_P(Layout, MnemonicsDoNotClashWithinATab) {
+    const auto mnemonicOf = [](const QString& text) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        return key.isEmpty() ? std::string() : FromQt(key.toString());
+    };
+    ForEachWindow([&](QWidget& top) {
+        std::map<std::string, std::string> taken;
+        const auto take = [&](const QString& text) {
+            const std::string key = mnemonicOf(text);
+            if (key.empty()) return;
+            const auto [place, isNew] = taken.emplace(key, FromQt(text));
+            EXPECT_TRUE(isNew) << place->second << " and " << FromQt(text);
+        };
+        if (auto* main = qobject_cast<QMainWindow*>(&top))
+            for (const QAction* menu : main->menuBar()->actions()) take(menu->text());
+        for (const auto* label : top.findChildren<QLabel*>())
+            if (label->isVisible() && label->buddy()) take(label->text());
+        for (const auto* button : top.findChildren<QAbstractButton*>())
+            if (button->isVisible() && !qobject_cast<const QToolButton*>(button)) take(button->text());
+    });
+}
+
+std::string PaletteName(const testing::TestParamInfo<bool>& info) {
+    return info.param ? "Dark" : "Light";
+}
+INSTANTIATE_TEST_SUITE_P(LayoutOn, Layout, testing::Bool(), PaletteName);
+
+class Controls : public GuiTest {};
+
+TEST_F(Controls, AllOfTheRecipeAreThereUnderTheirNames) {
+    NewRecipe();
+    BuildAllTabs();
+    const RecipeRecord& record = shell.ActiveDocument()->Record();
+    std::set<std::string> missing;
+    const auto look = [&](const std::string& name) {
+        if (!window.ActiveWindow()->findChild<QWidget*>(ToQt(name))) missing.insert(name);
+    };
+    for (const TextBox* box : record.TextBoxes()) look(box->Name());
+    for (const Grid* grid : record.Grids()) look(grid->Name());
+    for (const Label* label : record.Labels()) look(label->Name());
+    for (const Button* button : record.Buttons()) look(button->Name());
+    for (const OptionGroup* group : {&record.grpIBUMethod, &record.grpPkgMethod})
+        for (const std::string& option : group->Options()) look(option);
+    for (const char* name : {"SSTab1", "cmbStyle", "cmdBrowseStyles", "MonthView1", "VScroll1",
+                             "ContainerBox(0)", "ContainerBox(8)", "FancyLabel1", "FancyLabel8"})
+        look(name);
+    EXPECT_EQ(missing, std::set<std::string>{});
+}
+
+}  // namespace
+}  // namespace tw::test

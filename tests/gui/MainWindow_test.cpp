@@ -1,0 +1,158 @@
+// The main window: its menus and toolbar, its place on the screen, its documents, its end.
+#include "GuiTest.h"
+#include "shell/ui/CommandTips.h"
+#include "shell/ui/DocumentArea.h"
+#include "shell/ui/Icons.h"
+#include "shell/ui/MainGeometry.h"
+
+namespace tw::test {
+namespace {
+
+// A drawing that Qt cannot read leaves its picture empty.
+bool HasInk(const QImage& picture) {
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            if (qAlpha(picture.pixel(x, y)) == 255) return true;
+    return false;
+}
+
+class MainWindow : public GuiTest {
+  protected:
+    QAction& Action(const char* name) {
+        auto* action = window.findChild<QAction*>(QLatin1String(name));
+        EXPECT_NE(action, nullptr) << name;
+        return *action;
+    }
+};
+
+TEST_F(MainWindow, ShowsEveryCommandOfTheBar) {
+    for (const MenuItem& item : shell.Bar().Items()) {
+        const QAction& action = Action(item.name.c_str());
+        EXPECT_EQ(action.isSeparator(), item.IsSeparator()) << item.name;
+        EXPECT_EQ(action.isVisible(), item.visible) << item.name;
+        EXPECT_EQ(action.isEnabled() && action.isVisible(), item.enabled && item.visible) << item.name;
+        EXPECT_EQ(action.shortcut(), QKeySequence(ToQt(item.shortcut))) << item.name;
+        if (item.IsSeparator()) continue;
+        EXPECT_EQ(FromQt(action.text()), item.caption);
+    }
+}
+
+TEST_F(MainWindow, EveryVisibleCommandHasASentenceForTheStatusBar) {
+    for (const MenuItem& item : shell.Bar().Items()) {
+        if (item.IsSeparator() || !item.visible) continue;
+        EXPECT_TRUE(CommandTip(item.name).endsWith(QLatin1Char('.'))) << item.name;
+    }
+}
+
+TEST_F(MainWindow, EveryToolbarButtonHasAPictureAndItsKeyInTheTip) {
+    for (const ToolButton& button : shell.Bar().Buttons()) {
+        ASSERT_FALSE(ToolIcon(button.image).isNull()) << button.image;
+        EXPECT_TRUE(HasInk(ToolIcon(button.image).pixmap(QSize(48, 48)).toImage())) << button.image;
+    }
+    EXPECT_EQ(Action("tbToolBar(New)").toolTip(), QStringLiteral("New (Ctrl+N)"));
+    EXPECT_EQ(Action("tbToolBar(Insert)").toolTip(), QStringLiteral("Insert Row"));
+}
+
+TEST_F(MainWindow, FollowsTheStatesOfTheCommands) {
+    EXPECT_FALSE(Action("mnuFileSave").isEnabled());
+    NewRecipe();
+    Type("A");
+    EXPECT_TRUE(Action("mnuFileSave").isEnabled());
+    EXPECT_TRUE(Action("tbToolBar(Save)").isEnabled());
+    EXPECT_FALSE(Action("mnuEditInsert").isEnabled());
+    window.ActiveWindow()->ShowTab(Tab::Grains);
+    EXPECT_TRUE(Action("mnuEditInsert").isEnabled());
+    EXPECT_FALSE(Action("mnuEditDelete").isEnabled());
+}
+
+TEST_F(MainWindow, AppendOnInsertIsCheckedByItsCommandAlone) {
+    NewRecipe();
+    const bool before = shell.AppendRows();
+    Action("mnuEditAppendFlag").trigger();
+    EXPECT_EQ(shell.AppendRows(), !before);
+    EXPECT_EQ(Action("mnuEditAppendFlag").isChecked(), !before);
+}
+
+TEST_F(MainWindow, ListsTheOpenRecipesInTheWindowMenu) {
+    NewRecipe();
+    Type("Bock & Co");
+    NewRecipe();
+    auto* menu = window.findChild<QMenu*>(QStringLiteral("mnuWindow"));
+    emit menu->aboutToShow();
+    emit menu->aboutToShow();  // a second opening lists each once
+    QStringList titles;
+    for (const QAction* action : menu->actions())
+        if (action->isCheckable()) titles << action->text();
+    EXPECT_EQ(titles, (QStringList{QStringLiteral("&1 Bock && Co"), QStringLiteral("&2 Untitled 2")}));
+    menu->actions().at(menu->actions().size() - 2)->trigger();
+    EXPECT_EQ(shell.ActiveDocument()->BeerName(), "Bock & Co");
+}
+
+TEST_F(MainWindow, TilesAcrossAndDown) {
+    NewRecipe();
+    NewRecipe();
+    auto* area = window.findChild<DocumentArea*>();
+    const QSize all = area->viewport()->size();
+    ASSERT_TRUE(window.RunCommand("mnuWindowTileHorizontal"));
+    for (const QMdiSubWindow* child : area->subWindowList()) EXPECT_EQ(child->width(), all.width());
+    ASSERT_TRUE(window.RunCommand("mnuWindowTileVertical"));
+    for (const QMdiSubWindow* child : area->subWindowList()) EXPECT_EQ(child->height(), all.height());
+}
+
+TEST_F(MainWindow, RemembersWhetherRecipesAreMaximized) {
+    NewRecipe();
+    window.ActiveWindow()->parentWidget()->showMaximized();
+    EXPECT_EQ(shell.CurrentSettings().childState, 2);
+    // A minimised one is never remembered.
+    window.ActiveWindow()->parentWidget()->showMinimized();
+    EXPECT_EQ(shell.CurrentSettings().childState, 2);
+    window.ActiveWindow()->parentWidget()->showNormal();
+    EXPECT_EQ(shell.CurrentSettings().childState, 0);
+}
+
+TEST_F(MainWindow, StaysWhenARecipeRefusesToClose) {
+    NewRecipe();
+    Type("Draft");
+    outside.messages.answers = {Answer::Cancel, Answer::No};
+    EXPECT_FALSE(window.close());
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(window.close());
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(shell.DB(), nullptr);
+}
+
+// 15 twips are a pixel at 96 dots per inch.
+TEST_F(MainWindow, KeepsItsSizeInTwips) {
+    window.setGeometry(30, 40, 900, 600);
+    EXPECT_TRUE(window.close());
+    EXPECT_EQ(outside.settings.Read(SettingsPort::Layer::User, "Settings", "MainWidth"), "13500");
+    EXPECT_EQ(outside.settings.Read(SettingsPort::Layer::User, "Settings", "MainHeight"), "9000");
+}
+
+TEST(MainGeometry, ComesFromTwipsAndStaysOnTheScreen) {
+    const QRect screen(0, 0, 1000, 800);
+    Settings settings;
+    settings.mainLeft = 1500, settings.mainTop = 750, settings.mainWidth = 7500, settings.mainHeight = 6000;
+    EXPECT_EQ(GeometryOf(settings, 96, {100, 100}, screen), QRect(100, 50, 500, 400));
+    // Never smaller than the least size, never beyond an edge, never larger than the screen.
+    EXPECT_EQ(GeometryOf(settings, 96, {600, 100}, screen), QRect(100, 50, 600, 400));
+    settings.mainLeft = 90000;
+    EXPECT_EQ(GeometryOf(settings, 96, {100, 100}, screen), QRect(500, 50, 500, 400));
+    settings.mainLeft = -90000, settings.mainWidth = 90000;
+    EXPECT_EQ(GeometryOf(settings, 96, {100, 100}, screen), QRect(0, 50, 1000, 400));
+}
+
+TEST_F(MainWindow, ShowsAnErrorThatNoRoutineTraps) {
+    NewRecipe();
+    // A store that fails at its next statement, from inside an event handler.
+    shell.DB()->SetStatementHook([](std::string_view) { throw Error("Store", "the disk is gone", 3024); });
+    window.ActiveWindow()->ShowTab(Tab::Grains);
+    Type("x");
+    shell.DB()->SetStatementHook(nullptr);
+    ASSERT_FALSE(outside.messages.log.empty());
+    EXPECT_EQ(outside.messages.log.front(), "[Error] the disk is gone (3024)");
+    EXPECT_TRUE(window.isVisible());
+}
+
+}  // namespace
+}  // namespace tw::test
