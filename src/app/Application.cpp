@@ -6,11 +6,15 @@
 namespace tw {
 
 Application::Application(int& argc, char** argv) : QApplication(argc, argv) {
+    SetIdentity();
+}
+
+void Application::SetIdentity() {
     setOrganizationName(QStringLiteral("Quillon Labs"));
     setApplicationName(QStringLiteral("Tunwright"));
     setApplicationVersion(
         QLatin1String(kProgramVersion.data(), static_cast<qsizetype>(kProgramVersion.size())));
-    setDesktopFileName(QStringLiteral("tunwright"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("tunwright"));
 }
 
 bool Application::notify(QObject* receiver, QEvent* event) {

@@ -11,6 +11,8 @@ class Application final : public QApplication {
     Q_OBJECT
   public:
     Application(int& argc, char** argv);
+    // The names and the version that Qt gives to settings and windows.
+    static void SetIdentity();
     // Where errors are shown; must outlive the event loop.
     void SetMessages(MessagePort& messages) { messages_ = &messages; }
 

@@ -1,6 +1,8 @@
 // The program with windows.
 #include <QDir>
+#include <algorithm>
 #include <cstdio>
+#include <string_view>
 
 #include "app/Application.h"
 #include "app/Pictures.h"
@@ -53,7 +55,32 @@ int Photograph(frmMain& window, Shell& shell, QtDialogs& dialogs, const ProgramO
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
+// --help and --version are answered anywhere, also without a display.
+void AnswerWithoutDisplay(int argc, char** argv) {
+    const auto asks = [](std::string_view word) {
+        return word == "--help" || word == "-h" || word == "--help-all" || word == "--version" ||
+               word == "-v";
+    };
+    if (std::none_of(argv, argv + argc, asks)) return;
+    const QCoreApplication application(argc, argv);
+    Application::SetIdentity();
+    ReadOptions(QCoreApplication::arguments());
+}
+
+bool HasDisplay() {
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        if (!qEnvironmentVariableIsEmpty(name)) return true;
+    return false;
+}
+
 int Run(int argc, char** argv) {
+    AnswerWithoutDisplay(argc, argv);
+    if (!HasDisplay()) {
+        std::fputs(
+            "tunwright: there is no display here. Start it on a desktop, or set QT_QPA_PLATFORM=offscreen.\n",
+            stderr);
+        return EXIT_FAILURE;
+    }
     Application application(argc, argv);
     const ProgramOptions options = ReadOptions(QCoreApplication::arguments());
     ProgramStyle::Install();
