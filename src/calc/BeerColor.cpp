@@ -46,10 +46,12 @@ ColorTable::Entry ColorTable::LookupColorEntry(int key) const {
 
 void ColorTable::HCUToHSL(double hcu, double& hue, double& lightness, double& saturation) const {
     saturation = 240;
-    // Beyond the table every colour is the last one; this also keeps a huge figure within a whole number.
-    const double floor = std::floor(std::min(hcu, static_cast<double>(kLastKey + 1)));
+    // Beyond either end of the table the colour no longer changes; this also keeps a huge figure within a
+    // whole number.
+    const double known = std::clamp(hcu, 0.0, static_cast<double>(kLastKey + 1));
+    const double floor = std::floor(known);
     const int key = static_cast<int>(floor);
-    const double fraction = std::min(hcu, static_cast<double>(kLastKey + 1)) - floor;
+    const double fraction = known - floor;
     const Entry low = LookupColorEntry(key);
     if (fraction == 0) {
         hue = low.hue;

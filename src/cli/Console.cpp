@@ -16,6 +16,13 @@ std::string_view WithoutReturn(std::string_view line) {
     return line;
 }
 
+// Without the byte order mark with which some editors begin a text in UTF-8.
+std::string_view WithoutMark(std::string_view line) {
+    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+    if (line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
+    return line;
+}
+
 // What is read is answered before the script's writer is waited for.
 void FlushBeforeWaiting(std::istream& script, ScriptOutput& out) {
     if (script.rdbuf()->in_avail() <= 0) out.Flush();
@@ -35,7 +42,7 @@ ExitStatus Console::Run(std::istream& script, std::string_view name) {
             return ExitStatus::BadLine;
         };
         try {
-            RunLine(WithoutReturn(line));
+            RunLine(WithoutReturn(number == 1 ? WithoutMark(line) : line));
         } catch (const StartFailure&) {
             out_.Flush();
             return ExitStatus::NoDatabase;

@@ -64,19 +64,17 @@ void Gravity(Session& session, Arguments& arguments) {
     PrintNumber(session, PlatoToSG(plato));
 }
 
-double PositiveHcu(Arguments& arguments) {
+void Srm(Session& session, Arguments& arguments) {
     const double hcu = arguments.Number("HCU");
     arguments.End();
     if (hcu < 0) throw ScriptError("HCU must not be negative");
-    return hcu;
-}
-
-void Srm(Session& session, Arguments& arguments) {
-    PrintNumber(session, HCUToSRM(PositiveHcu(arguments)));
+    PrintNumber(session, HCUToSRM(hcu));
 }
 
 void ShowRgb(Session& session, Arguments& arguments) {
-    session.Out().Line(ColorText(ColorTable().HCUToColor(PositiveHcu(arguments))));
+    const double hcu = arguments.Number("HCU");
+    arguments.End();
+    session.Out().Line(ColorText(ColorTable().HCUToColor(hcu)));
 }
 
 void Utilisation(Session& session, Arguments& arguments) {

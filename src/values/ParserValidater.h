@@ -58,7 +58,7 @@ bool ParseKPa(std::string_view text, double& value);
 bool ParsePa(std::string_view text, double& value);
 bool ParseAtm(std::string_view text, double& value);
 
-// Ounces from any weight unit, without a message or a range check.
+// Ounces from any weight unit, without a message or a range check. A blank text is 0, as for the validators.
 bool ParseOuncesAnyUnit(std::string_view text, double& ounces);
 
 inline constexpr std::string_view kInvalidEntry = "Invalid Entry";

@@ -177,6 +177,10 @@ constexpr Quantity kPressure{ReadPSI, IsNotNegative, "Please enter a valid press
 }  // namespace
 
 bool ParseOuncesAnyUnit(std::string_view text, double& ounces) {
+    if (IsBlank(text)) {
+        ounces = 0;
+        return true;
+    }
     const UnitReader reader(text, NumberForm::Mixed);
     static constexpr Conversion kPlainOunces[] = {{Unit::Ounces, 1, 1}};
     if (Convert(reader, kPlainOunces, ounces)) return true;

@@ -44,6 +44,12 @@ TEST(Console, TakesEitherLineEndAndNoneAtTheLastLine) {
     EXPECT_EQ(RunText("gravity 0\r\nparse ParseReal 5\r\n\r\nparse ParseReal 6").out, "1\n5\n6\n");
 }
 
+TEST(Console, SkipsAByteOrderMarkBeforeTheFirstLineOnly) {
+    EXPECT_EQ(RunText("\xEF\xBB\xBFgravity 0\n").out, "1\n");
+    EXPECT_EQ(RunText("\xEF\xBB\xBF# a comment\ngravity 0\n").out, "1\n");
+    EXPECT_EQ(RunText("gravity 0\n\xEF\xBB\xBFgravity 0\n").status, ExitStatus::BadLine);
+}
+
 TEST(Console, StopsAtTheFirstLineThatCannotBeCarriedOut) {
     const Outcome outcome = RunText("gravity 0\n\nfrobnicate\ngravity 0\n");
     EXPECT_EQ(outcome.status, ExitStatus::BadLine);

@@ -281,9 +281,11 @@ TEST(ParseOuncesAnyUnit, ReadsEveryWeightWithoutARange) {
                                                         {"28.35 g", 1},
                                                         {"1 kg", 35.274},
                                                         {"-2 oz", -2},
-                                                        {"0", 0}})
+                                                        {"0", 0},
+                                                        {"", 0},
+                                                        {"  ", 0}})
         ExpectAccepted({"ParseOuncesAnyUnit", good.text, good.value});
-    for (const std::string_view text : {"", " ", "5 AAU", "5 gal", "A5"})
+    for (const std::string_view text : {"\t", "5 AAU", "5 gal", "A5"})
         ExpectRefused("ParseOuncesAnyUnit", text);
 }
 
