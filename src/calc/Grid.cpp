@@ -120,12 +120,34 @@ void Grid::RemoveRow(int row) {
 }
 
 void Grid::SetCurrent(int row, int col) {
-    row = std::clamp(row, std::min(FixedRows(), Rows() - 1), Rows() - 1);
-    col = std::clamp(col, 0, Cols() - 1);
-    if (row == currentRow_ && col == currentCol_) return;
-    currentRow_ = row;
-    currentCol_ = col;
+    Select({row, col, row, col});
+}
+
+void Grid::Select(GridRange range) {
+    const auto clipRow = [&](int row) {
+        return std::clamp(row, std::min(FixedRows(), Rows() - 1), Rows() - 1);
+    };
+    const auto clipCol = [&](int col) { return std::clamp(col, 0, Cols() - 1); };
+    const GridRange wanted{
+        clipRow(std::min(range.row1, range.row2)), clipCol(std::min(range.col1, range.col2)),
+        clipRow(std::max(range.row1, range.row2)), clipCol(std::max(range.col1, range.col2))};
+    if (wanted == selection_ && currentRow_ == wanted.row1 && currentCol_ == wanted.col1) return;
+    selection_ = wanted;
+    currentRow_ = wanted.row1;
+    currentCol_ = wanted.col1;
     if (link_->observer) link_->observer->CurrentCellChanged(*this);
+}
+
+void Grid::OrderRows(const std::vector<int>& order) {
+    std::vector<Row> rows;
+    rows.reserve(order.size());
+    for (const int place : order)
+        rows.push_back(std::move(rows_[static_cast<std::size_t>(FixedRows() + place)]));
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const int row = FixedRows() + static_cast<int>(i);
+        rows_[static_cast<std::size_t>(row)] = std::move(rows[i]);
+        for (int col = 0; col < Cols(); ++col) Changed(row, col);
+    }
 }
 
 void Grid::NotifyFilled() const {

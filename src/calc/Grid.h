@@ -44,6 +44,14 @@ struct Column {
 // How a cell is painted; the colours come from the settings.
 enum class CellPaint : std::uint8_t { Plain, ReadOnly, Total };
 
+// A rectangle of cells, both corners included.
+struct GridRange {
+    int row1 = 1, col1 = 0, row2 = 1, col2 = 0;
+    int Rows() const { return row2 - row1 + 1; }
+    int Cols() const { return col2 - col1 + 1; }
+    bool operator==(const GridRange&) const = default;
+};
+
 class Grid {
   public:
     struct Layout {
@@ -109,6 +117,14 @@ class Grid {
     int CurrentCol() const { return currentCol_; }
     // Clips to the grid's cells below the header.
     void SetCurrent(int row, int col);
+    // The selected cells; the current cell alone unless more were selected since it was made current.
+    GridRange Selection() const { return selection_; }
+    // Selects a rectangle, its corners in either order, clipped to the cells below the header; its first cell
+    // becomes the current one.
+    void Select(GridRange range);
+    // Puts the data rows into another order: the row at place i comes from place order[i], both counted from
+    // 0 at the first data row. REQUIRES: a permutation of all data rows.
+    void OrderRows(const std::vector<int>& order);
     // Tells the window that the grid was filled anew.
     void NotifyFilled() const;
 
@@ -133,6 +149,7 @@ class Grid {
     std::vector<Row> rows_;
     int currentRow_ = 1;
     int currentCol_ = 0;
+    GridRange selection_;
 };
 
 }  // namespace tw

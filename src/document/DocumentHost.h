@@ -52,6 +52,8 @@ class DocumentHost {
     // A recipe of that name has just been written by a save.
     virtual void RecipeStored(std::string_view name) = 0;
     virtual void AddToMRU(std::string_view name) = 0;
+    // An edit of the recipe; it is changed.
+    virtual void DocumentEdited(const RecipeDocument&) {}
     // The document's caption or changed state is another one.
     virtual void DocumentRenamed(const RecipeDocument& document) = 0;
 };

@@ -11,6 +11,7 @@ RecipeDocument::RecipeDocument(DocumentHost& host, Platform& platform, Database&
       database_(database),
       calculator_(record_, commands_, colors),
       number_(number) {
+    recorder_.SetTracking(false);
     // An empty box counts as the multiplier 1, also before anything was committed in it.
     record_.txtHopExtraction.SetValue(1);
     for (Grid* grid : {&record_.gridGrain, &record_.gridExtract, &record_.gridHops, &record_.gridPriming})
@@ -18,6 +19,7 @@ RecipeDocument::RecipeDocument(DocumentHost& host, Platform& platform, Database&
     ReloadStyles();
     ApplyDefaults();
     loaded_ = true;
+    recorder_.SetTracking(true);
 }
 
 void RecipeDocument::ApplyDefaults() {
@@ -62,6 +64,7 @@ void RecipeDocument::MarkChanged() {
     else
         host_.Commands().CheckEnableSaveAll();
     if (first) host_.DocumentRenamed(*this);
+    host_.DocumentEdited(*this);
 }
 
 void RecipeDocument::ClearChanged() {
@@ -88,6 +91,9 @@ bool RecipeDocument::ChooseOption(std::string_view option) {
         isMethod ? calculator_.IbuMethodChosen() : calculator_.PackagingChosen();
         throw;
     }
+    const EditRecorder::Edit edit{ControlType::OptionGroup, ChangeType::Selection};
+    recorder_.RecordEdit(group->Name(), EditValue::OfText(group->Options()[static_cast<std::size_t>(before)]),
+                         EditValue::OfText(group->Value()), edit);
     MarkChanged();
     if (!isMethod) RefreshRowCommands();
     return true;
@@ -96,6 +102,7 @@ bool RecipeDocument::ChooseOption(std::string_view option) {
 void RecipeDocument::SetTab(Tab tab) {
     FlushEdits();
     tab_ = tab;
+    recorder_.SetTab(static_cast<int>(tab));
     RefreshRowCommands();
 }
 
@@ -103,8 +110,7 @@ void RecipeDocument::Activate() {
     DocumentCommands& commands = host_.Commands();
     commands.EnableSave(changed_);
     calculator_.RefreshCommands();
-    commands.EnableUndo(false, "");
-    commands.EnableRedo(false, "");
+    RefreshUndoCommands();
     commands.EnableCopyPaste(true, true);
     RefreshRowCommands();
 }

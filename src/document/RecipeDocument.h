@@ -13,11 +13,14 @@
 #include "calc/RecipeCalculator.h"
 #include "calc/RecipeRecord.h"
 #include "document/DocumentHost.h"
+#include "document/EditRecorder.h"
 #include "platform/Ports.h"
 #include "store/Database.h"
 #include "store/RecipeRows.h"
 
 namespace tw {
+
+struct RecipeSnapshot;
 
 // The nine tabs.
 enum class Tab : int { General, Grains, Extracts, Hops, Water, Carbonation, Adjuncts, Log, Notes };
@@ -35,6 +38,8 @@ class DocumentView {
     virtual ~DocumentView() = default;
     // Commits whatever is being edited in the window: the open cell editor, the focused text box.
     virtual void FlushEditors() = 0;
+    // An undo or redo works on that tab.
+    virtual void TabWanted(Tab) {}
 };
 
 class RecipeDocument {
@@ -72,7 +77,8 @@ class RecipeDocument {
     // fault; the field then has its last committed text again. A computed box refuses both.
     void SetText(TextBox& box, std::string_view text);
     bool CommitField(TextBox& box, bool quiet = false);
-    // Puts the last committed text back (Escape, a refused entry of a script).
+    // Puts the last committed text back (Escape, a refused entry of a script); the typing stays balanced in
+    // the history.
     void RestoreField(TextBox& box);
 
     // The style list.
@@ -113,6 +119,17 @@ class RecipeDocument {
     // The grid that InsertRow and DeleteRow act on, nullptr on tabs without one.
     Grid* GridOfTab(Tab tab);
     void SetCurrentCell(Grid& grid, int row, int col);
+    // A click on a column's header: sorts the data rows by it, the other way round on the same column again.
+    // Nothing in a grid of fixed rows or one without that column.
+    void ClickHeader(Grid& grid, int col);
+    int SortColumn() const { return sortColumn_; }
+    bool SortDescending() const { return sortDescending_; }
+
+    // Undo and redo of the edits since the document was opened or saved, one step each; false when there is
+    // none.
+    bool Undo();
+    bool Redo();
+    const UndoStack& History() const { return recorder_.Stack(); }
 
     // Steering the main window.
     Tab CurrentTab() const { return tab_; }
@@ -120,6 +137,10 @@ class RecipeDocument {
     // The document's window became the active one.
     void Activate();
     void FlushEdits();
+    // As FlushEdits without a word, for a save that nobody asked for: commits the text boxes that can be
+    // read. Those that cannot, those that have just been emptied, and an open cell editor stay as they are
+    // being typed.
+    void FlushEditsQuietly();
 
     // Persistence. OpenRecipe fills the document from the stored recipe of that name; REQUIRES: it exists.
     void OpenRecipe(std::string_view name);
@@ -128,6 +149,13 @@ class RecipeDocument {
     void Save(bool saveAs, bool silent, bool& ok);
     // Names and places the document, dates its creation today, then saves.
     void SaveRecipeAs(std::string_view name, std::int64_t folderId, bool silent, bool& ok);
+
+    // The recipe as it stands, unsaved edits included, and the same put into a new document: it is changed
+    // then, and nothing has been stored. A recipe or folder that is gone from the database meanwhile leaves
+    // it without a place, so that its save asks for one. An entry that was being typed is committed if it can
+    // be read.
+    RecipeSnapshot TakeSnapshot() const;
+    void Restore(const RecipeSnapshot& snapshot);
 
     // Notices of what happened in the database. Names compare trimmed, case ignored, with OrigName.
     void NotifyRecipeMoved(std::string_view name, std::int64_t folderId);
@@ -166,7 +194,7 @@ class RecipeDocument {
     // Fields (RecipeDocumentFields.cpp).
     bool ValidateField(const TextBox& box, std::string_view text, bool quiet, double& value);
     bool ValidateHopExtraction(std::string_view text, bool quiet, double& value);
-    bool RunFieldChain(TextBox& box, bool quiet);
+    bool RunFieldChain(TextBox& box);
     // Style (RecipeDocumentStyle.cpp).
     // Both give the style's water profile, nothing without one.
     std::optional<std::string> ShowStyleRanges(std::int64_t styleId);
@@ -179,7 +207,9 @@ class RecipeDocument {
     bool ValidateHopForm(std::string_view text, CellValue& value) const;
     bool ValidateKegPressure(std::string_view text, bool quiet, CellValue& value);
     bool Refuse(std::string_view message, bool quiet);
-    void ChangeRow(Grid& grid, int row, const std::function<void()>& change);
+    void ChangeRow(Grid& grid, int row, int col, const std::function<void()>& change);
+    void RecordRowChange(Grid& grid, int row, int col, const std::vector<Cell>& before);
+    void ReadTimeAgain(Grid& hops, int row);
     void RunCellChain(Grid& grid, int row, int col);
     void RecalculateGrid(Grid& grid, int row);
     // Catalogue look-ups by the row's name (RecipeDocumentCatalogue.cpp); whether the name was found.
@@ -196,6 +226,23 @@ class RecipeDocument {
     void ClearRowCells(Grid& grid, int row);
     void RecalculateAfterDelete(Grid& grid);
     void RefreshRowCommands();
+
+    void RemoveRow(Grid& grid, int row);
+
+    // Undo (RecipeDocumentUndo.cpp).
+    bool ApplyStep(const EditTracker* head, bool undo);
+    void ApplyEdit(const EditTracker& edit, bool undo);
+    void ApplyToTextBox(TextBox& box, const EditValue& value);
+    void ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo);
+    void ApplyToCell(Grid& grid, int row, int col, const EditValue& value);
+    void ApplyRowInsert(Grid& grid, const EditTracker& edit, bool insert);
+    void ApplyRowDelete(Grid& grid, int row, bool remove);
+    void RefreshUndoCommands();
+    void RecordText(TextBox& box, std::string_view newText, ChangeType type);
+
+    // Sorting (RecipeDocumentSort.cpp).
+    std::vector<int> SortedOrder(const Grid& grid, int col) const;
+    void OrderGrid(Grid& grid, const std::vector<int>& order, int col);
 
     // Persistence (RecipeDocumentStore.cpp, RecipeMapping.cpp).
     bool AskOverwrite();
@@ -216,6 +263,8 @@ class RecipeDocument {
     // Adds blank rows until the grid has that place; gives its row.
     int GrowTo(Grid& grid, int rowId);
     static void FinishGrid(Grid& grid);
+    void RestorePlace(const RecipeSnapshot& snapshot);
+    static void RestoreRows(Grid& grid, const std::vector<std::vector<Cell>>& rows);
     void Recalculate(const std::function<void()>& operation);
     static bool Quietly(const std::function<bool()>& reading);
 
@@ -225,7 +274,16 @@ class RecipeDocument {
     RecipeRecord record_;
     ActiveCommands commands_{*this};
     RecipeCalculator calculator_;
+    EditRecorder recorder_{[this] { RefreshUndoCommands(); }};
     DocumentView* view_ = nullptr;
+    int sortColumn_ = -1;
+    bool sortDescending_ = false;
+    // What a pitched yeast has just made of txtFG, until it is recorded with the log cell's edit.
+    struct GravityChange {
+        std::string oldText;
+        double oldValue;
+    };
+    std::optional<GravityChange> gravityChange_;
 
     std::string key_;
     std::string origName_;

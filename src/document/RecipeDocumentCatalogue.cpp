@@ -132,6 +132,7 @@ void RecipeDocument::LookUpYeast(int row) {
     const double gravity = AttenuatedGravity(record_.txtOG.Value(), rs.Fields(1).Number());
     // An attenuation that breaks the alcohol's formula raises before anything has changed.
     ComputeAlcohol(record_.txtOG.Value(), gravity);
+    gravityChange_ = GravityChange{fg.Text(), fg.Value()};
     fg.SetValue(gravity);
     fg.SetText(FormatNumber(fg.Value(), "0.##0"));
     fg.SetCommitted(fg.Text());

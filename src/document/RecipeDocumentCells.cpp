@@ -122,7 +122,7 @@ bool RecipeDocument::EditCell(Grid& grid, int row, int col, std::string_view tex
     if (!ValidateCell(grid, row, col, text, quiet, value)) return false;
     if (IsHopForm(record_, grid, col) && value.kind == CellValue::Kind::Number)
         text = kHopForms[static_cast<std::size_t>(value.number)].name;
-    ChangeRow(grid, row, [&] {
+    ChangeRow(grid, row, col, [&] {
         // In gridTreatment the number behind an ion cell is the salt's factor, and a name has none.
         grid.SetText(row, col, text);
         grid.SetValue(row, col, value);
@@ -134,21 +134,27 @@ bool RecipeDocument::EditCell(Grid& grid, int row, int col, std::string_view tex
 bool RecipeDocument::SetChecked(Grid& grid, int row, int col, bool checked) {
     if (!grid.HasCell(row, col) || !grid.IsCheckBox(row, col)) return false;
     if (grid.Checked(row, col) == checked) return true;
-    ChangeRow(grid, row, [&] {
+    ChangeRow(grid, row, col, [&] {
         grid.SetChecked(row, col, checked);
         // A time that was typed as free text counts again as soon as the hops go into the kettle.
-        CellValue time;
-        if (col == HopCol::DryHopped && !checked &&
-            ValidateCell(grid, row, HopCol::Time, grid.Text(row, HopCol::Time), true, time))
-            grid.SetValue(row, HopCol::Time, time);
+        if (col == HopCol::DryHopped && !checked) ReadTimeAgain(grid, row);
         RunCellChain(grid, row, col);
     });
     return true;
 }
 
-// Runs a change of one row. When it raises, the row is as before, its figures too, and the error goes on.
-void RecipeDocument::ChangeRow(Grid& grid, int row, const std::function<void()>& change) {
+void RecipeDocument::ReadTimeAgain(Grid& hops, int row) {
+    CellValue time;
+    if (Quietly(
+            [&] { return ValidateCell(hops, row, HopCol::Time, hops.Text(row, HopCol::Time), true, time); }))
+        hops.SetValue(row, HopCol::Time, time);
+}
+
+// Runs a change of one row that began in one cell, and records it. When it raises, the row is as before, its
+// figures too, nothing is recorded, and the error goes on.
+void RecipeDocument::ChangeRow(Grid& grid, int row, int col, const std::function<void()>& change) {
     const std::vector<Cell> before = grid.CellsOf(row);
+    gravityChange_.reset();
     try {
         change();
     } catch (const Error&) {
@@ -156,6 +162,7 @@ void RecipeDocument::ChangeRow(Grid& grid, int row, const std::function<void()>&
         RecalculateGrid(grid, row);
         throw;
     }
+    RecordRowChange(grid, row, col, before);
     MarkChanged();
 }
 

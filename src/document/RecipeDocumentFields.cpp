@@ -26,6 +26,7 @@ bool IsFreeText(const RecipeRecord& r, const TextBox& box) {
 
 void RecipeDocument::SetText(TextBox& box, std::string_view text) {
     if (box.Computed() || box.Text() == text) return;
+    RecordText(box, text, ChangeType::Typing);
     box.SetText(text);
     if (!IsFreeText(record_, box)) return;
     MarkChanged();
@@ -33,7 +34,12 @@ void RecipeDocument::SetText(TextBox& box, std::string_view text) {
 }
 
 void RecipeDocument::RestoreField(TextBox& box) {
-    if (!box.Computed()) SetText(box, std::string(box.Committed()));
+    if (box.Computed() || box.Text() == box.Committed()) return;
+    const std::string committed = box.Committed();
+    // Free text has no refusals; what was typed since it was left is typed back.
+    RecordText(box, committed, IsFreeText(record_, box) ? ChangeType::Typing : ChangeType::Abort);
+    box.SetText(committed);
+    if (&box == &record_.txtName) host_.DocumentRenamed(*this);
 }
 
 bool RecipeDocument::CommitField(TextBox& box, bool quiet) {
@@ -56,18 +62,30 @@ bool RecipeDocument::CommitField(TextBox& box, bool quiet) {
         // The text being committed counts in its own chain.
         box.SetCommitted(box.Text());
         chainRan = true;
-        if (!RunFieldChain(box, quiet)) {
+        if (!RunFieldChain(box)) {
             goBack();
+            // The record is whole again before the box, behind which the program goes on.
+            if (!quiet)
+                platform_.messages.ShowMessage("Error calculating carbonation",
+                                               "Please enter a more reasonable temperature.");
             return false;
         }
     } catch (const Error&) {
         goBack();
-        box.SetText(oldText);
-        if (chainRan) RunFieldChain(box, true);
+        RestoreField(box);
+        if (chainRan) RunFieldChain(box);
         throw;
     }
     MarkChanged();
     return true;
+}
+
+void RecipeDocument::FlushEditsQuietly() {
+    for (TextBox* box : record_.TextBoxes()) {
+        if (IsBlank(box->Text())) continue;
+        const std::string typed = box->Text();
+        if (!Quietly([&] { return CommitField(*box, true); })) SetText(*box, typed);
+    }
 }
 
 bool RecipeDocument::ValidateField(const TextBox& box, std::string_view text, bool quiet, double& value) {
@@ -95,7 +113,7 @@ bool RecipeDocument::ValidateHopExtraction(std::string_view text, bool quiet, do
 }
 
 // False when the chain refuses the value; the record is then to be set back.
-bool RecipeDocument::RunFieldChain(TextBox& box, bool quiet) {
+bool RecipeDocument::RunFieldChain(TextBox& box) {
     if (&box == &record_.txtBoilVol) calculator_.BoilVolCommitted();
     if (&box == &record_.txtTotalVol) calculator_.TotalVolCommitted();
     if (&box == &record_.txtFinalVol) calculator_.FinalVolCommitted();
@@ -105,9 +123,6 @@ bool RecipeDocument::RunFieldChain(TextBox& box, bool quiet) {
     if (&box != &record_.txtTemp) return true;
     bool ok = true;
     calculator_.TempCommitted(ok);
-    if (!ok && !quiet)
-        platform_.messages.ShowMessage("Error calculating carbonation",
-                                       "Please enter a more reasonable temperature.");
     return ok;
 }
 

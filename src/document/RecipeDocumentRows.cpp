@@ -76,8 +76,11 @@ void RecipeDocument::AddBlankRow(Grid& grid, int row) {
 
 void RecipeDocument::InsertRowForGrid(Grid& grid) {
     if (!grid.RowsCanChange()) return;
-    const int row = host_.AppendRows() ? grid.EndOfData()
-                                       : std::clamp(grid.CurrentRow(), Grid::FixedRows(), grid.EndOfData());
+    const bool append = host_.AppendRows();
+    EditRecorder::Edit edit{ControlType::Grid, ChangeType::InsertRow, {}, grid.CurrentRow(), append ? 1 : 0};
+    recorder_.RecordEdit(grid.Name(), EditValue::OfBoolean(false), EditValue::OfBoolean(true), edit);
+    const int row =
+        append ? grid.EndOfData() : std::clamp(grid.CurrentRow(), Grid::FixedRows(), grid.EndOfData());
     AddBlankRow(grid, row);
     grid.SetCurrent(row, grid.CurrentCol());
     MarkChanged();
@@ -87,16 +90,29 @@ void RecipeDocument::InsertRowForGrid(Grid& grid) {
 void RecipeDocument::DeleteRowForGrid(Grid& grid) {
     const int row = grid.CurrentRow();
     if (!grid.RowsCanChange() || !grid.IsDataRow(row) || grid.DataRows() <= grid.LeastDataRows()) return;
+    const CompoundEdit compound(recorder_, ChangeType::DeleteRow);
     ClearRowCells(grid, row);
+    const EditRecorder::Edit edit{ControlType::Grid, ChangeType::DeleteRow, {}, row, 0};
+    recorder_.RecordEdit(grid.Name(), EditValue::OfBoolean(false), EditValue::OfBoolean(true), edit);
+    RemoveRow(grid, row);
+}
+
+void RecipeDocument::RemoveRow(Grid& grid, int row) {
     grid.RemoveRow(row);
     RecalculateAfterDelete(grid);
     MarkChanged();
     RefreshRowCommands();
 }
 
+// Empties each cell with a record of its own, so that an undo brings the whole row back.
 void RecipeDocument::ClearRowCells(Grid& grid, int row) {
-    for (int col = 0; col < grid.Cols(); ++col)
-        if (CanEdit(grid, row, col) && !grid.IsCheckBox(row, col)) EditCell(grid, row, col, "", true);
+    for (int col = 0; col < grid.Cols(); ++col) {
+        if (!CanEdit(grid, row, col)) continue;
+        if (grid.IsCheckBox(row, col))
+            SetChecked(grid, row, col, false);
+        else
+            EditCell(grid, row, col, "", true);
+    }
 }
 
 void RecipeDocument::RecalculateAfterDelete(Grid& grid) {

@@ -62,6 +62,8 @@ void RecipeDocument::Save(bool saveAs, bool silent, bool& ok) {
     for (TextBox* box : {&record_.txtName, &record_.txtNumBatches, &record_.txtNotes})
         box->SetCommitted(box->Text());
     ClearChanged();
+    // Nothing before a save can be undone.
+    recorder_.Clear();
     host_.AddToMRU(name);
 }
 
@@ -89,10 +91,13 @@ void RecipeDocument::OpenRecipe(std::string_view name) {
     CheckHopForms(*stored);
     {
         const ScopedFlag loading(loaded_, false);
+        recorder_.SetTracking(false);
         FillFields(*stored);
         FillWaterAndKeg(*stored);
         FillGrids(*stored);
     }
+    recorder_.SetTracking(true);
+    recorder_.Clear();
     origName_ = Trim(BeerName());
     ClearChanged();
     if (IsActive()) Activate();

@@ -79,15 +79,22 @@ bool RecipeDocument::ChangeStyle(std::string_view name) {
 }
 
 void RecipeDocument::ChooseStyle(std::int64_t id) {
+    const std::int64_t oldId = styleId_;
     styleId_ = id;
     const std::optional<std::string> profile = id == 0 ? EmptyStyleRanges() : ShowStyleRanges(id);
+    // The water that the style brings belongs to the same step.
+    EditTracker* const choice = recorder_.RecordEdit(
+        record_.cmbStyle.Name(), EditValue::OfNumber(static_cast<double>(oldId)),
+        EditValue::OfNumber(static_cast<double>(styleId_)), {ControlType::ComboBox, ChangeType::Selection});
+    const CompoundEdit compound(recorder_, choice);
     Grid& water = record_.gridWater;
-    if (profile) {
+    if (profile)
         EditCell(water, WaterRow::Target, WaterCol::Profile, Trim(*profile), true);
-    } else {
-        for (int col = WaterCol::Profile; col < water.Cols(); ++col) water.Clear(WaterRow::Target, col);
-        calculator_.UpdateTreatmentNeeded();
-    }
+    else
+        ChangeRow(water, WaterRow::Target, WaterCol::Profile, [&] {
+            for (int col = WaterCol::Profile; col < water.Cols(); ++col) water.Clear(WaterRow::Target, col);
+            calculator_.UpdateTreatmentNeeded();
+        });
     MarkChanged();
 }
 

@@ -125,7 +125,8 @@ TEST_F(CellsTest, AnAmountRunsItsChainInOrder) {
                 ElementsAre("gridGrain 1,1=10", "gridGrain 1,3=36", "gridGrain 2,3=36", "gridGrain 1,5=4",
                             "gridGrain 2,5=4", "gridGrain 2,1=10 lbs.", "txtOG=1.036",
                             "EnableChangeStrength on", "txtBG=1.030", "EnableChangeBitterness off",
-                            "txtColor=4 SRM (4 HCU)", "swatch", "EnableSave on", "DocumentRenamed A"));
+                            "txtColor=4 SRM (4 HCU)", "swatch", "EnableUndo on", "EnableRedo off",
+                            "EnableSave on", "DocumentRenamed A"));
     R().SetObserver(nullptr);
 }
 
@@ -154,7 +155,8 @@ TEST_F(CellsTest, AnUnknownNameStaysAndChangesNothingElse) {
     host.log.clear();
     ASSERT_TRUE(Put(R().gridGrain, 1, GrainCol::Name, "Syrup"));  // an extract
     // No chain runs: no figure's command is set anew.
-    EXPECT_THAT(host.log, ElementsAre("EnableSave on", "DocumentRenamed A"));
+    EXPECT_THAT(host.log,
+                ElementsAre("EnableUndo on", "EnableRedo off", "EnableSave on", "DocumentRenamed A"));
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Name), "Syrup");
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Ppg), "36.5");
     Put(R().gridHops, 1, HopCol::Variety, "Zeus");

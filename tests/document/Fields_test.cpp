@@ -175,7 +175,8 @@ TEST_F(FieldsTest, DilutionsChangeNothingButTheDocument) {
     ChangeRecorder recorder(host.log);
     R().SetObserver(&recorder);
     ASSERT_TRUE(Set(R().txtDilutions, "1"));
-    EXPECT_THAT(host.log, ElementsAre("txtDilutions=1", "EnableSave on", "DocumentRenamed Untitled 3"));
+    EXPECT_THAT(host.log, ElementsAre("EnableUndo on", "EnableRedo off", "txtDilutions=1", "EnableSave on",
+                                      "DocumentRenamed Untitled 3"));
     EXPECT_TRUE(document->Changed());
     R().SetObserver(nullptr);
 }

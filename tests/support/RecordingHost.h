@@ -74,8 +74,26 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
         log.push_back(command + (on ? " on" : " off"));
         commands[command] = on;
     }
+    void NotifyRecipeMoved(const std::string& name, std::int64_t folderId) override {
+        for (RecipeDocument* document : documents) document->NotifyRecipeMoved(name, folderId);
+    }
+    void NotifyRecipeNewStyle(const std::string& name, std::int64_t styleId) override {
+        for (RecipeDocument* document : documents) document->NotifyRecipeNewStyle(name, styleId);
+    }
+    void NotifyRecipeRenamed(const std::string& oldName, const std::string& newName) override {
+        for (RecipeDocument* document : documents) document->NotifyRecipeRenamed(oldName, newName);
+    }
+    void NotifyStyleRenamed(std::int64_t styleId, const std::string& newName) override {
+        for (RecipeDocument* document : documents) document->NotifyStyleRenamed(styleId, newName);
+    }
     void NotifyRecipeDeleted(const std::string& name) override {
         for (RecipeDocument* document : documents) document->NotifyRecipeDeleted(name);
+    }
+    void NotifyRecipeFolderDeleted(std::int64_t folderId) override {
+        for (RecipeDocument* document : documents) document->NotifyRecipeFolderDeleted(folderId);
+    }
+    void NotifyStyleDeleted(std::int64_t styleId) override {
+        for (RecipeDocument* document : documents) document->NotifyStyleDeleted(styleId);
     }
 
     DB_IO io_;

@@ -21,6 +21,7 @@ class MessageRecorder : public MessagePort {
   public:
     void ShowMessage(std::string_view title, std::string_view text) override {
         log.push_back(Box(title, text));
+        if (whileShowing) whileShowing();
     }
 
     Answer Ask(std::string_view title, std::string_view text, Question kind) override {
@@ -39,9 +40,10 @@ class MessageRecorder : public MessagePort {
     // The log, emptied.
     std::vector<std::string> TakeLog() { return std::exchange(log, {}); }
 
-    std::vector<std::string> log;       // "[title] text", "[title] text -> Yes", "beep"
-    std::deque<Answer> answers;         // for the questions to come
-    std::function<void()> whileAsking;  // runs while a question is open
+    std::vector<std::string> log;        // "[title] text", "[title] text -> Yes", "beep"
+    std::deque<Answer> answers;          // for the questions to come
+    std::function<void()> whileAsking;   // runs while a question is open
+    std::function<void()> whileShowing;  // runs while a message is open
 
   private:
     static std::string Box(std::string_view title, std::string_view text) {
@@ -69,7 +71,8 @@ class ScriptedDialogs : public DialogPort {
   public:
     void ShowModal(DialogModel& dialog) override {
         shown.push_back(dialog.FormName());
-        if (!scripts.empty()) {
+        dialog.FirstShown();
+        if (dialog.IsOpen() && !scripts.empty()) {
             const auto script = std::move(scripts.front());
             scripts.pop_front();
             script(dialog);

@@ -1,0 +1,66 @@
+#include "document/EditRecorder.h"
+
+namespace tw {
+
+void EditRecorder::Clear() {
+    stack_.Clear();
+    compoundHead_ = compoundTail_ = nullptr;
+    changed_();
+}
+
+EditTracker* EditRecorder::Store(EditTracker edit) {
+    if (compoundHead_) {
+        edit.SetTabNumber(-1);
+        compoundTail_ = compoundTail_->AddNext(std::move(edit));
+        return compoundTail_;
+    }
+    edit.SetTabNumber(tab_);
+    EditTracker* const stored = stack_.AddToStack(std::move(edit));
+    changed_();
+    return stored;
+}
+
+EditTracker* EditRecorder::RecordEdit(const std::string& controlName, EditValue oldValue, EditValue newValue,
+                                      const Edit& edit) {
+    if (!trackEdits_ || oldValue.SameAs(newValue)) return nullptr;
+    EditTracker record;
+    record.SetControlID(controlName, -1);
+    record.SetControlType(edit.controlType);
+    record.SetChangeType(edit.changeType);
+    record.SetSelection(edit.selection);
+    record.SetLocation(edit.row, edit.col);
+    record.SetValues(std::move(oldValue), std::move(newValue));
+    return Store(std::move(record));
+}
+
+bool EditRecorder::BeginCompoundEdit(ChangeType type) {
+    if (!trackEdits_) return false;
+    EditTracker head;
+    head.SetChangeType(type);
+    if (compoundHead_) {
+        // A head within a compound applies nothing and only hangs in the chain.
+        Store(std::move(head));
+        return false;
+    }
+    return BeginCompoundBehind(Store(std::move(head)));
+}
+
+bool EditRecorder::BeginCompoundBehind(EditTracker* head) {
+    if (!head || compoundHead_) return false;
+    compoundHead_ = compoundTail_ = head;
+    return true;
+}
+
+void EditRecorder::EndCompoundEdit() {
+    compoundHead_ = compoundTail_ = nullptr;
+}
+
+EditTracker* EditRecorder::RecordGridCell(const Grid& grid, int row, int col, EditValue oldValue,
+                                          EditValue newValue) {
+    const GridRange selection = grid.Selection();
+    Edit edit{ControlType::Grid, ChangeType::Typing, {}, row, col};
+    edit.selection = {selection.row1, selection.col1, selection.Rows(), selection.Cols()};
+    return RecordEdit(grid.Name(), std::move(oldValue), std::move(newValue), edit);
+}
+
+}  // namespace tw

@@ -1,0 +1,201 @@
+// Undo and redo of one recipe: recording what a change of a row or a box was, and applying it backward and
+// forward.
+#include <algorithm>
+#include <vector>
+
+#include "document/RecipeDocument.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+EditValue ValueOf(const Cell& cell) {
+    return cell.check == CheckState::None ? EditValue::OfText(cell.text)
+                                          : EditValue::OfBoolean(cell.check == CheckState::Checked);
+}
+
+}  // namespace
+
+void RecipeDocument::RefreshUndoCommands() {
+    if (!IsActive()) return;
+    const UndoStack& stack = recorder_.Stack();
+    host_.Commands().EnableUndo(stack.CanUndo(), stack.UndoType());
+    host_.Commands().EnableRedo(stack.CanRedo(), stack.RedoType());
+}
+
+void RecipeDocument::RecordText(TextBox& box, std::string_view newText, ChangeType type) {
+    EditRecorder::Edit edit{ControlType::TextBox, type};
+    edit.selection.newStart = static_cast<std::int32_t>(CodePointCount(newText));
+    edit.selection.oldStart = static_cast<std::int32_t>(CodePointCount(box.Text()));
+    recorder_.RecordEdit(box.Name(), EditValue::OfText(box.Text()), EditValue::OfText(newText), edit);
+}
+
+// The cell in which the change began is the head; every other cell that changed with it hangs behind.
+void RecipeDocument::RecordRowChange(Grid& grid, int row, int col, const std::vector<Cell>& before) {
+    if (!recorder_.Tracking()) return;
+    const auto old = [&](int c) -> const Cell& { return before[static_cast<std::size_t>(c)]; };
+    EditTracker* const head =
+        recorder_.RecordGridCell(grid, row, col, ValueOf(old(col)), ValueOf(grid.At(row, col)));
+    const CompoundEdit compound(recorder_, head);
+    for (int c = 0; c < grid.Cols(); ++c) {
+        if (c == col) continue;
+        if (!grid.ColumnAt(c).readOnly) {
+            recorder_.RecordGridCell(grid, row, c, ValueOf(old(c)), ValueOf(grid.At(row, c)));
+        } else if (&grid == &record_.gridTreatment && old(c).value != grid.At(row, c).value) {
+            // The salt's factors stand behind its ion cells and have no text of their own.
+            recorder_.RecordGridCell(grid, row, c, EditValue::OfNumber(old(c).value.number),
+                                     EditValue::OfNumber(grid.Number(row, c)));
+        }
+    }
+    if (!gravityChange_) return;
+    // The gravity that a yeast gives is finer than its text, so its number is put back on either way.
+    const TextBox& fg = record_.txtFG;
+    const EditRecorder::Edit typing{ControlType::TextBox, ChangeType::Typing};
+    const auto number = [&] {
+        recorder_.RecordEdit(fg.Name(), EditValue::OfNumber(gravityChange_->oldValue),
+                             EditValue::OfNumber(fg.Value()), typing);
+    };
+    number();
+    recorder_.RecordEdit(fg.Name(), EditValue::OfText(gravityChange_->oldText), EditValue::OfText(fg.Text()),
+                         typing);
+    number();
+    gravityChange_.reset();
+}
+
+bool RecipeDocument::Undo() {
+    FlushEdits();
+    return ApplyStep(recorder_.Stack().StepBack(), true);
+}
+
+bool RecipeDocument::Redo() {
+    FlushEdits();
+    return ApplyStep(recorder_.Stack().StepForward(), false);
+}
+
+bool RecipeDocument::ApplyStep(const EditTracker* head, bool undo) {
+    if (!head) return false;
+    std::vector<const EditTracker*> chain;
+    for (const EditTracker* edit = head; edit; edit = edit->GetNext()) chain.push_back(edit);
+    // A compound is undone in the exact reverse order of its making, the head last.
+    if (undo) std::reverse(chain.begin(), chain.end());
+    recorder_.SetTracking(false);
+    const auto finish = [this] {
+        recorder_.SetTracking(true);
+        RefreshUndoCommands();
+    };
+    try {
+        if (head->TabNumber() >= 0 && head->TabNumber() != static_cast<int>(tab_)) {
+            SetTab(static_cast<Tab>(head->TabNumber()));
+            if (view_) view_->TabWanted(tab_);
+        }
+        for (const EditTracker* edit : chain) ApplyEdit(*edit, undo);
+    } catch (...) {
+        finish();
+        throw;
+    }
+    finish();
+    MarkChanged();
+    return true;
+}
+
+void RecipeDocument::ApplyEdit(const EditTracker& edit, bool undo) {
+    const EditValue& value = undo ? edit.OldValue() : edit.NewValue();
+    const std::string name = edit.GetControlID();
+    switch (edit.ControlType()) {
+        case ControlType::TextBox:
+            if (TextBox* const box = record_.FindTextBox(name)) ApplyToTextBox(*box, value);
+            break;
+        case ControlType::ComboBox:
+            // The water that came with the style has records of its own.
+            SetStyleID(static_cast<std::int64_t>(value.AsNumber()));
+            break;
+        case ControlType::OptionGroup:
+            ChooseOption(value.AsText());
+            break;
+        case ControlType::Grid:
+            if (Grid* const grid = record_.FindGrid(name)) ApplyToGrid(*grid, edit, undo);
+            break;
+        case ControlType::CheckBox:
+        case ControlType::None:
+            break;
+    }
+}
+
+void RecipeDocument::ApplyToTextBox(TextBox& box, const EditValue& value) {
+    if (value.IsNumber()) {
+        box.SetValue(value.AsNumber());
+        RunFieldChain(box);
+        return;
+    }
+    SetText(box, value.AsText());
+    // A text that was refused when it was typed comes back as it was: shown, not committed.
+    Quietly([&] { return CommitField(box, true); });
+}
+
+void RecipeDocument::ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo) {
+    const EditValue& value = undo ? edit.OldValue() : edit.NewValue();
+    switch (edit.ChangeType()) {
+        case ChangeType::InsertRow:
+            ApplyRowInsert(grid, edit, value.AsBoolean());
+            break;
+        case ChangeType::DeleteRow:
+            ApplyRowDelete(grid, edit.Row(), value.AsBoolean());
+            break;
+        case ChangeType::Sort:
+            OrderGrid(grid, value.AsOrder(), edit.Col());
+            break;
+        default: {
+            ApplyToCell(grid, edit.Row(), edit.Col(), value);
+            const EditSelection& s = edit.GetSelection();
+            grid.Select({s.newStart, s.oldStart, s.newStart + s.newLength - 1, s.oldStart + s.oldLength - 1});
+            break;
+        }
+    }
+}
+
+void RecipeDocument::ApplyToCell(Grid& grid, int row, int col, const EditValue& value) {
+    if (!grid.HasCell(row, col)) return;
+    if (grid.IsCheckBox(row, col)) {
+        grid.SetChecked(row, col, value.AsBoolean());
+        if (&grid == &record_.gridHops && col == HopCol::DryHopped && !value.AsBoolean())
+            ReadTimeAgain(grid, row);
+    } else if (value.IsNumber()) {
+        grid.SetValue(row, col, CellValue::Of(value.AsNumber()));
+    } else {
+        CellValue read;
+        Quietly([&] { return ValidateCell(grid, row, col, value.AsText(), true, read); });
+        grid.SetText(row, col, value.AsText());
+        grid.SetValue(row, col, read);
+    }
+    // Without look-ups: what they filled in has records of its own.
+    RecalculateGrid(grid, row);
+}
+
+void RecipeDocument::ApplyRowInsert(Grid& grid, const EditTracker& edit, bool insert) {
+    const bool appended = edit.Col() != 0;
+    if (insert) {
+        const int row =
+            appended ? grid.EndOfData() : std::clamp(edit.Row(), Grid::FixedRows(), grid.EndOfData());
+        AddBlankRow(grid, row);
+        grid.SetCurrent(row, grid.CurrentCol());
+        RefreshRowCommands();
+        return;
+    }
+    const int last = grid.EndOfData() - 1;
+    const int row = appended ? last : std::min(edit.Row(), last);
+    if (grid.IsDataRow(row)) RemoveRow(grid, row);
+}
+
+void RecipeDocument::ApplyRowDelete(Grid& grid, int row, bool remove) {
+    if (remove) {
+        if (grid.IsDataRow(row)) RemoveRow(grid, row);
+        return;
+    }
+    // An empty row without any default; the records behind fill it as it was.
+    const int at = std::clamp(row, Grid::FixedRows(), grid.EndOfData());
+    grid.InsertRow(at);
+    grid.SetCurrent(at, grid.CurrentCol());
+    RefreshRowCommands();
+}
+
+}  // namespace tw

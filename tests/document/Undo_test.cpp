@@ -1,0 +1,138 @@
+// Undo and redo: every step leads back to exactly the state before it, and forth again.
+#include "DocumentTest.h"
+#include "document/RecipeSnapshot.h"
+
+namespace tw::test {
+namespace {
+
+class UndoTest : public DocumentTest {
+  protected:
+    // What the brewer sees of the recipe: every text, check and number.
+    std::string State() const {
+        std::string state;
+        const RecipeRecord& r = document->Record();
+        for (const TextBox* box : r.TextBoxes()) state += box->Name() + "=" + box->Text() + "\n";
+        state += r.cmbStyle.Text() + r.grpIBUMethod.Value() + r.grpPkgMethod.Value() + "\n";
+        for (const Grid* grid : r.Grids())
+            for (int row = 1; row < grid->Rows(); ++row) {
+                for (int col = 0; col < grid->Cols(); ++col)
+                    state += grid->Text(row, col) + "|" + grid->At(row, col).value.Text() +
+                             (grid->Checked(row, col) ? "x" : "") + "\t";
+                state += "\n";
+            }
+        return state;
+    }
+
+    // Undoes and redoes the step and compares the states around it.
+    void ExpectOneStep(const std::string& before) {
+        const std::string after = State();
+        ASSERT_NE(before, after);
+        ASSERT_TRUE(document->Undo());
+        EXPECT_EQ(State(), before);
+        ASSERT_TRUE(document->Redo());
+        EXPECT_EQ(State(), after);
+    }
+};
+
+TEST_F(UndoTest, TypingInOneBoxFormsOneRecord) {
+    New();
+    document->SetText(R().txtName, "A");
+    document->SetText(R().txtName, "Ab");
+    EXPECT_EQ(document->History().StackTop(), 1U);
+    EXPECT_EQ(document->History().UndoType(), "Typing");
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().txtName.Text(), "");
+    ASSERT_TRUE(document->Redo());
+    EXPECT_EQ(R().txtName.Text(), "Ab");
+}
+
+TEST_F(UndoTest, TypingBackToTheBeginningLeavesNoRecord) {
+    New();
+    document->SetText(R().txtName, "abc");
+    document->SetText(R().txtName, "");
+    EXPECT_EQ(document->History().StackTop(), 0U);
+    EXPECT_FALSE(document->Undo());
+}
+
+TEST_F(UndoTest, AVolumeTakesItsFiguresBackAndForth) {
+    New();
+    Set(R().txtTotalVol, "5 gal");
+    Put(R().gridGrain, 1, GrainCol::Amount, "10");
+    Put(R().gridGrain, 1, GrainCol::Ppg, "36");
+    const std::string before = State();
+    Set(R().txtTotalVol, "6 gal");
+    ExpectOneStep(before);
+}
+
+TEST_F(UndoTest, ANewEditDropsWhatCouldBeRedone) {
+    New();
+    Put(R().gridGrain, 1, GrainCol::Amount, "10");
+    ASSERT_TRUE(document->Undo());
+    EXPECT_TRUE(document->History().CanRedo());
+    Put(R().gridGrain, 1, GrainCol::Amount, "8");
+    EXPECT_FALSE(document->History().CanRedo());
+}
+
+TEST_F(UndoTest, ADeletedRowComesBackInItsPlace) {
+    New();
+    Put(R().gridHops, 1, HopCol::Variety, "Home grown");
+    Put(R().gridHops, 1, HopCol::Form, "Leaf");
+    Put(R().gridHops, 1, HopCol::Amount, "5 AAU");
+    document->SetChecked(R().gridHops, 1, HopCol::Sock, false);
+    document->SetChecked(R().gridHops, 1, HopCol::DryHopped, true);
+    Put(R().gridHops, 1, HopCol::Time, "5 days");
+    document->SetCurrentCell(R().gridHops, 1, 0);
+    document->InsertRowForGrid(R().gridHops);
+    document->SetCurrentCell(R().gridHops, 2, 0);
+    const std::string before = State();
+    document->DeleteRowForGrid(R().gridHops);
+    EXPECT_EQ(document->History().UndoType(), "Delete Row");
+    ExpectOneStep(before);
+}
+
+TEST_F(UndoTest, AnInsertedRowGoesAndComesBack) {
+    New();
+    Put(R().gridGrain, 1, GrainCol::Amount, "10");
+    const std::string before = State();
+    document->InsertRowForGrid(R().gridGrain);
+    EXPECT_EQ(document->History().UndoType(), "Insert Row");
+    ExpectOneStep(before);
+}
+
+TEST_F(UndoTest, ASortThatMovesNothingRecordsNothing) {
+    New();
+    Put(R().gridGrain, 1, GrainCol::Name, "A");
+    document->InsertRowForGrid(R().gridGrain);
+    const std::size_t records = document->History().StackTop();
+    // The blank row that was inserted before "A" comes first already.
+    document->ClickHeader(R().gridGrain, GrainCol::Name);
+    EXPECT_EQ(document->History().StackTop(), records);
+    const std::string before = State();
+    document->ClickHeader(R().gridGrain, GrainCol::Name);
+    EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Name), "A");
+    ExpectOneStep(before);
+}
+
+TEST_F(UndoTest, AnOptionGoesBack) {
+    New();
+    const std::string before = State();
+    document->ChooseOption("optRager");
+    ExpectOneStep(before);
+}
+
+TEST_F(UndoTest, AfterASaveNothingCanBeUndone) {
+    New();
+    Put(R().gridGrain, 1, GrainCol::Amount, "10");
+    SaveAs("A");
+    EXPECT_FALSE(document->History().CanUndo());
+    EXPECT_FALSE(document->Undo());
+}
+
+TEST_F(UndoTest, AFaultRecordsNothing) {
+    New();
+    EXPECT_THROW(Put(R().gridGrain, 1, GrainCol::Amount, "1/0"), Error);
+    EXPECT_FALSE(document->History().CanUndo());
+}
+
+}  // namespace
+}  // namespace tw::test
