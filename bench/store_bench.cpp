@@ -33,7 +33,13 @@ class FixedClock : public ClockPort {
 
 class NoListener : public ObjectListener {
   public:
+    void NotifyRecipeMoved(const std::string&, std::int64_t) override {}
+    void NotifyRecipeNewStyle(const std::string&, std::int64_t) override {}
+    void NotifyRecipeRenamed(const std::string&, const std::string&) override {}
+    void NotifyStyleRenamed(std::int64_t, const std::string&) override {}
     void NotifyRecipeDeleted(const std::string&) override {}
+    void NotifyRecipeFolderDeleted(std::int64_t) override {}
+    void NotifyStyleDeleted(std::int64_t) override {}
 };
 
 std::string NameOf(int number) {

@@ -3,12 +3,15 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QTabWidget>
 
+#include "app/PrintedMessages.h"
 #include "document/DetailWindows.h"
 #include "document/ui/frmDocument.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtDialogs.h"
 #include "shell/AboutModel.h"
+#include "shell/OptionsModel.h"
 #include "shell/Shell.h"
 #include "shell/ui/MainGeometry.h"
 #include "shell/ui/frmMain.h"
@@ -31,9 +34,25 @@ bool SaveDialog(QtDialogs& dialogs, DialogModel& model, QWidget& parent, const Q
     return SaveWidget(*dialog, file);
 }
 
+// Every tab of the options.
+bool SaveOptions(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
+    PrintedMessages messages;
+    OptionsModel model(shell, messages);
+    const std::unique_ptr<QDialog> dialog = dialogs.Make(model, &parent);
+    dialog->show();
+    auto& tabs = *dialog->findChild<QTabWidget*>();
+    bool ok = true;
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+        tabs.setCurrentIndex(tab);
+        ok &= SaveWidget(*dialog, QStringLiteral("%1options-%2.png").arg(prefix).arg(tab));
+    }
+    return ok;
+}
+
 bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
     AboutModel about;
     bool ok = SaveDialog(dialogs, about, window, prefix + QStringLiteral("about.png"));
+    ok &= SaveOptions(dialogs, shell, window, prefix);
     if (RecipeDocument* document = shell.ActiveDocument()) {
         DetailsModel strength = StrengthDetailsOf(*document), volume = FinalVolDetailsOf(*document),
                      hops = HopDetailsOf(*document);

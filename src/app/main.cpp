@@ -1,5 +1,6 @@
 // The program with windows.
 #include <QDir>
+#include <QStandardPaths>
 #include <algorithm>
 #include <cstdio>
 #include <string_view>
@@ -12,6 +13,7 @@
 #include "document/ui/RangeBar.h"
 #include "document/ui/frmDocument.h"
 #include "platform/SystemClock.h"
+#include "platform/qt/ColorChooser.h"
 #include "platform/qt/DesktopColors.h"
 #include "platform/qt/ProgramStyle.h"
 #include "platform/qt/QtClipboard.h"
@@ -23,16 +25,22 @@
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/Icons.h"
 #include "shell/ui/OpenSaveDialog.h"
+#include "shell/ui/RecoveryDialog.h"
+#include "shell/ui/frmAutoSave.h"
 #include "shell/ui/frmMain.h"
+#include "shell/ui/frmOptions.h"
 
 namespace tw {
 namespace {
 
-void RegisterForms(QtDialogs& dialogs) {
+void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     for (const char* form : {"frmStrengthDetails", "frmFinalVolDetails", "frmHopDetails"})
         dialogs.Register(form, &DetailsDialog::Make);
     dialogs.Register("frmAbout", &AboutDialog::Make);
+    dialogs.Register("frmAutoSave", &frmAutoSave::Make);
     dialogs.Register("frmOpenSave", &OpenSaveDialog::Make);
+    dialogs.Register("frmRecovery", &RecoveryDialog::Make);
+    dialogs.Register("frmOptions", frmOptions::Factory(colors));
 }
 
 std::string DatabaseOf(const ProgramOptions& options) {
@@ -90,15 +98,19 @@ int Run(int argc, char** argv) {
     PrintedMessages printed;
     MessagePort& messages = photographing ? static_cast<MessagePort&>(printed) : boxes;
     application.SetMessages(messages);
-    QtDialogs dialogs;
-    RegisterForms(dialogs);
     InstallRangeBarAccessibility();
     const std::unique_ptr<QtSettings> settings =
         options.settings.isEmpty() ? QtSettings::OfUser() : QtSettings::OfFile(FromQt(options.settings));
+    QtDialogs dialogs(*settings);
+    QtColorChooser colorChooser;
+    RegisterForms(dialogs, colorChooser);
     SystemClock clock;
     QtClipboard clipboard;
     Platform platform{messages, dialogs, *settings, clock, clipboard};
     Shell shell(platform);
+    if (!photographing)
+        shell.SetRecoveryFolder(FromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
+                                       QStringLiteral("/unsaved")));
     frmMain window(shell, platform);
     DesktopColors colors;
     window.show();

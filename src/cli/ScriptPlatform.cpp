@@ -60,6 +60,7 @@ void ScriptMessages::Beep() {
 }
 
 void ScriptDialogs::ShowModal(DialogModel& dialog) {
+    dialog.FirstShown();
     while (dialog.IsOpen()) {
         if (show_) Print(dialog);
         TakeAnswer(dialog);

@@ -94,6 +94,13 @@ void Restart(Session& session, Arguments& arguments) {
     if (!session.Restart()) session.Out().Line("refused");
 }
 
+void Tick(Session& session, Arguments& arguments) {
+    const std::string timer = arguments.Word("the timer");
+    arguments.End();
+    if (timer != "autosave") throw ScriptError("there is no timer '" + timer + "'");
+    session.Program().TickAutoSave();
+}
+
 constexpr Command kCommands[] = {
     {"answer", "TEXT", "queues the answer to the next question or dialog", QueueAnswer},
     {"menu", "NAME", "runs a menu item", Menu},
@@ -102,6 +109,7 @@ constexpr Command kCommands[] = {
     {"mru", "", "the recent list", Mru},
     {"setting", "SECTION KEY [TEXT]", "reads or stores a setting", Setting},
     {"sql", "TEXT", "runs a statement on the database", Sql},
+    {"tick", "autosave", "one tick of that timer", Tick},
     {"restart", "", "ends the program and starts it again", Restart},
     {"dialogs", "on|off", "whether dialogs print their controls", ShowDialogs},
 };

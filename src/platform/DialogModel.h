@@ -28,6 +28,9 @@ class DialogModel {
     virtual bool Press(std::string_view button) = 0;
     // The window's close box.
     virtual void CloseBox() = 0;
+    // Runs once, when the window first comes to the front. A window that works by itself does its work here
+    // and is closed afterwards; it takes no entry then.
+    virtual void FirstShown() {}
     // False once the dialog is done.
     virtual bool IsOpen() const = 0;
 };

@@ -157,7 +157,6 @@ constexpr std::array kNotBuilt = std::to_array<std::string_view>({
     "mnuToolsHydrometer",
     "mnuToolsColorScale",
     "mnuToolsHopUtil",
-    "mnuToolsOptions",
     "mnuHelpContents",
     "mnuHelpAuto",
 });

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,8 +14,10 @@
 #include "document/DocumentHost.h"
 #include "document/RecipeDocument.h"
 #include "platform/Ports.h"
+#include "shell/AutoSave.h"
 #include "shell/CommandBar.h"
 #include "shell/RecentList.h"
+#include "shell/Recovery.h"
 #include "shell/Settings.h"
 #include "store/DB_IO.h"
 #include "store/Database.h"
@@ -36,6 +39,15 @@ class ShellView {
     // Caption or changed state.
     virtual void DocumentRenamed(const RecipeDocument&) {}
     virtual void ArrangeDocuments(Arrangement) {}
+    // The icon set and the button style of the settings are others.
+    virtual void ToolbarIconsChanged() {}
+    virtual void ToolbarButtonStyleChanged() {}
+    // The grid colours of the settings are others: that document's grids repaint.
+    virtual void GridColorsChanged(const RecipeDocument&) {}
+    // The autosave timer is to run or to stand still.
+    virtual void AutoSaveSwitched(bool /*on*/) {}
+    // A recipe has edits that are kept nowhere: KeepUnsavedWork is due within a few seconds.
+    virtual void UnsavedWorkWaits() {}
     // Ends the program (the close request has been granted, or the database could not be opened).
     virtual void CloseMainWindow() {}
 };
@@ -54,6 +66,20 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool PerformSplashScreenInit(const std::string& databasePath);
     // Tunwright.mdb in the program's folder.
     static std::string DatabasePath(std::string_view programFolder);
+
+    // Keeps unsaved work in files below this folder from now on, apart for each database; nothing is kept
+    // before, or for a database in memory. Call it before the start.
+    void SetRecoveryFolder(std::string folder) { recoveryRoot_ = std::move(folder); }
+    // Offers what the last run left unsaved; shows nothing when that is nothing. Call it after the start.
+    void OfferRecovery();
+    // Writes the recipes that were edited since the last call into their files. Failures are silent and tried
+    // again after the next edit.
+    void KeepUnsavedWork();
+    // A new changed document from the lost recipe, which takes its file over. False when it does not fit this
+    // program: the file has been put aside and reported.
+    bool RestoreLostRecipe(const LostRecipe& lost);
+    // For good.
+    void DiscardLostRecipe(const LostRecipe& lost);
 
     // Shut-down. RequestExit asks every document and is false when the brewer called it off: the documents
     // that have not been asked stay open. Unload writes the settings and the recent list and closes the
@@ -98,11 +124,24 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // SaveRecipeAs with the answer of the dialog given. silent asks nothing.
     bool SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId, bool silent);
 
+    // Autosave. Switching it on counts the minutes from 0.
+    bool DoAutoSave() const { return settings_.doAutoSave; }
+    void SetDoAutoSave(bool on);
+    // A minute has gone: saves all documents when it is time. Nothing while autosave is off, or while it
+    // saves.
+    void TickAutoSave();
+    // Saves all documents silently behind the progress window.
+    void ShowAutoSave();
+
     // Runs a menu item's action by its name. False when it is disabled or hidden, or unknown: nothing happens
     // then. An error that rises from the action is shown as Guard does.
     bool RunMenu(std::string_view name);
     // A toolbar button, by its key; likewise.
     bool PressButton(std::string_view key);
+    // Show the icon set and the button style of the settings, and the grid colours in all documents.
+    void ChangeToolbarIcons();
+    void ChangeToolbarButtonStyle();
+    void UpdateDocsOfColorChange();
     // Cut and paste state again: the clipboard may have changed.
     void ReapplyPasteState();
 
@@ -119,6 +158,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void DeleteRecipe(std::string_view name) override;
     void RecipeStored(std::string_view name) override;
     void AddToMRU(std::string_view name) override;
+    void DocumentEdited(const RecipeDocument& document) override;
     void DocumentRenamed(const RecipeDocument& document) override;
 
     // DocumentCommands
@@ -137,8 +177,15 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void EnableClose(bool enabled);
     void EnableWindowMenu(bool enabled);
 
-    // ObjectListener
+    // ObjectListener: each notice goes to every open document, in the order of their opening. The recent list
+    // follows a new name and a deleted recipe first.
+    void NotifyRecipeMoved(const std::string& name, std::int64_t folderId) override;
+    void NotifyRecipeNewStyle(const std::string& name, std::int64_t styleId) override;
+    void NotifyRecipeRenamed(const std::string& oldName, const std::string& newName) override;
+    void NotifyStyleRenamed(std::int64_t styleId, const std::string& newName) override;
     void NotifyRecipeDeleted(const std::string& name) override;
+    void NotifyRecipeFolderDeleted(std::int64_t folderId) override;
+    void NotifyStyleDeleted(std::int64_t styleId) override;
 
   private:
     using Action = std::function<void(Shell&)>;
@@ -157,6 +204,11 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void EnablePairWithTwin(std::string_view item, std::string_view button, bool enabled);
     void ShowOpenDialog();
     void SaveAllDocuments();
+    void SwitchAutoSave(bool wasOn);
+    void ForgetUnsavedWork(const RecipeDocument& document);
+    void ReportPutAside(const std::string& file);
+    template <class Notice>
+    void ForEachDocument(Notice notice);
 
     Platform& platform_;
     SettingsStore store_;
@@ -173,6 +225,11 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     int windowCounter_ = 0;
     int nextDocKey_ = 0;
     bool lastPasteEnable_ = false;
+    AutoSaveMinutes autoSaveMinutes_;
+    bool autoSaving_ = false;
+    std::string recoveryRoot_;
+    std::unique_ptr<Recovery> recovery_;  // nullptr while nothing is kept
+    std::set<std::string> editedKeys_;    // documents with edits that are not in their files
 };
 
 }  // namespace tw

@@ -4,6 +4,7 @@
 
 #include "shell/AboutModel.h"
 #include "shell/OpenSaveModel.h"
+#include "shell/OptionsModel.h"
 #include "shell/Shell.h"
 
 namespace tw {
@@ -45,6 +46,11 @@ Shell::Action Shell::FindAction(std::string_view name) {
         {"mnuEditInsert", [](Shell& s) { s.active_->InsertRow(); }},
         {"mnuEditDelete", [](Shell& s) { s.active_->DeleteRow(); }},
         {"mnuEditAppendFlag", [](Shell& s) { s.SetAppendRows(!s.AppendRows()); }},
+        {"mnuToolsOptions",
+         [](Shell& s) {
+             OptionsModel options(s, s.platform_.messages);
+             s.platform_.dialogs.ShowModal(options);
+         }},
         {"mnuWindowCascade",
          [](Shell& s) {
              if (s.view_) s.view_->ArrangeDocuments(Arrangement::Cascade);
@@ -179,6 +185,14 @@ void Shell::EnableClose(bool enabled) {
     bar_.SetEnabled("mnuFileCloseAll", enabled);
     bar_.SetEnabled("mnuFileSaveAs", enabled);
     EnablePairWithTwin("mnuFilePrint", "Print", enabled);
+}
+
+void Shell::ChangeToolbarIcons() {
+    if (view_) view_->ToolbarIconsChanged();
+}
+
+void Shell::ChangeToolbarButtonStyle() {
+    if (view_) view_->ToolbarButtonStyleChanged();
 }
 
 void Shell::EnableWindowMenu(bool enabled) {

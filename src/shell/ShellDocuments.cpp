@@ -82,6 +82,7 @@ bool Shell::CloseDocument(RecipeDocument& document) {
 void Shell::DeleteWindow(RecipeDocument& document) {
     if (view_) view_->DocumentClosing(document);
     std::erase(useOrder_, &document);
+    ForgetUnsavedWork(document);
     const bool wasActive = active_ == &document;
     if (wasActive) active_ = nullptr;
     std::erase_if(documents_, [&](const auto& open) { return open.get() == &document; });
@@ -124,11 +125,40 @@ bool Shell::TrySave(const std::function<void(bool& ok)>& save) {
 bool Shell::SaveRecipe(RecipeDocument& document, bool silent) {
     if (IsBlank(document.BeerName()) || document.FolderID() < 0) return !silent && SaveRecipeAs(document);
     return TrySave([&](bool& ok) {
-        document.FlushEdits();
+        silent ? document.FlushEditsQuietly() : document.FlushEdits();
         const bool renamed = !SameName(document.BeerName(), document.OrigName());
         if (silent && renamed && RecipeExists(*database_, document.BeerName())) return;
         document.Save(false, silent, ok);
     });
+}
+
+void Shell::SetDoAutoSave(bool on) {
+    const bool wasOn = settings_.doAutoSave;
+    settings_.doAutoSave = on;
+    SwitchAutoSave(wasOn);
+}
+
+void Shell::SwitchAutoSave(bool wasOn) {
+    const bool on = settings_.doAutoSave;
+    if (on == wasOn) return;
+    if (on) autoSaveMinutes_.Reset();
+    if (view_) view_->AutoSaveSwitched(on);
+}
+
+void Shell::TickAutoSave() {
+    // The time that saving takes is not counted.
+    if (!settings_.doAutoSave || autoSaving_) return;
+    if (!autoSaveMinutes_.Tick(!documents_.empty(), settings_.doAutoSaveEvery)) return;
+    ShowAutoSave();
+    autoSaveMinutes_.Reset();
+}
+
+void Shell::ShowAutoSave() {
+    if (documents_.empty() || autoSaving_) return;
+    autoSaving_ = true;
+    AutoSaveModel progress(*this);
+    Guard([&] { platform_.dialogs.ShowModal(progress); });
+    autoSaving_ = false;
 }
 
 bool Shell::SaveRecipeAs(RecipeDocument& document) {
@@ -168,12 +198,50 @@ void Shell::AddToMRU(std::string_view name) {
 
 void Shell::DocumentRenamed(const RecipeDocument& document) {
     CheckEnableSaveAll();
+    if (!document.Changed()) ForgetUnsavedWork(document);
     if (view_) view_->DocumentRenamed(document);
+}
+
+void Shell::UpdateDocsOfColorChange() {
+    if (!view_) return;
+    for (const auto& document : documents_) view_->GridColorsChanged(*document);
+}
+
+// A notice may end in a document that opens or closes others, so that the collection is looked at anew each
+// time.
+template <class Notice>
+void Shell::ForEachDocument(Notice notice) {
+    for (std::size_t i = 0; i < documents_.size(); ++i) notice(*documents_[i]);
+}
+
+void Shell::NotifyRecipeMoved(const std::string& name, std::int64_t folderId) {
+    ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeMoved(name, folderId); });
+}
+
+void Shell::NotifyRecipeNewStyle(const std::string& name, std::int64_t styleId) {
+    ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeNewStyle(name, styleId); });
+}
+
+void Shell::NotifyRecipeRenamed(const std::string& oldName, const std::string& newName) {
+    recent_.Rename(oldName, newName);
+    ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeRenamed(oldName, newName); });
+}
+
+void Shell::NotifyStyleRenamed(std::int64_t styleId, const std::string& newName) {
+    ForEachDocument([&](RecipeDocument& document) { document.NotifyStyleRenamed(styleId, newName); });
 }
 
 void Shell::NotifyRecipeDeleted(const std::string& name) {
     recent_.Remove(name);
-    for (const auto& document : documents_) document->NotifyRecipeDeleted(name);
+    ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeDeleted(name); });
+}
+
+void Shell::NotifyRecipeFolderDeleted(std::int64_t folderId) {
+    ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeFolderDeleted(folderId); });
+}
+
+void Shell::NotifyStyleDeleted(std::int64_t styleId) {
+    ForEachDocument([&](RecipeDocument& document) { document.NotifyStyleDeleted(styleId); });
 }
 
 }  // namespace tw

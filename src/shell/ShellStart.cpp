@@ -34,6 +34,7 @@ void Shell::LoadWindowSettings() {
 bool Shell::PerformSplashScreenInit(const std::string& databasePath) {
     settings_.LoadProgramKeys(store_);
     SetAppendRows(settings_.appendRows);
+    SwitchAutoSave(false);
     recent_.Load(store_);
     bar_.SetVisible("mnuFileBar7", !recent_.Captions().empty());
     if (!OpenDatabase(databasePath)) return false;
@@ -52,6 +53,8 @@ bool Shell::OpenDatabase(const std::string& path) {
         return false;
     }
     objects_ = std::make_unique<DB_IO>(*database_, platform_.clock, *this);
+    if (!recoveryRoot_.empty() && path != kInMemory)
+        recovery_ = std::make_unique<Recovery>(Recovery::FolderOf(recoveryRoot_, path));
     return true;
 }
 
@@ -79,14 +82,20 @@ void Shell::Unload(bool storeGeometry) {
     settings_.Store(store_);
     recent_.Store(store_);
     while (!documents_.empty()) DeleteWindow(*documents_.back());
+    recovery_.reset();
     objects_.reset();
     database_.reset();
 }
 
 void Shell::StoreSetting(std::string_view section, std::string_view key, std::string_view text) {
     store_.SaveSetting(section, key, text, false);
+    const bool wasSaving = DoAutoSave();
     if (section != kSettingsSection || !settings_.Take(key, text)) return;
     if (key == "AppendRows") SetAppendRows(settings_.appendRows);
+    if (key == "DoAutoSave") SwitchAutoSave(wasSaving);
+    if (key == "IconStyle") ChangeToolbarIcons();
+    if (key == "ButtonStyle") ChangeToolbarButtonStyle();
+    if (key.starts_with("Grid")) UpdateDocsOfColorChange();
 }
 
 RecipeDefaults Shell::Defaults() const {

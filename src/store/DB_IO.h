@@ -11,11 +11,19 @@
 
 namespace tw {
 
-// Follows the operations of DB_IO: the shell forwards each notice to every open document.
+// Follows the operations of DB_IO: the shell forwards each notice to every open document. Each notice comes
+// after the change in the database; names are as they stand there.
 class ObjectListener {
   public:
     virtual ~ObjectListener() = default;
+    virtual void NotifyRecipeMoved(const std::string& name, std::int64_t folderId) = 0;
+    virtual void NotifyRecipeNewStyle(const std::string& name, std::int64_t styleId) = 0;
+    virtual void NotifyRecipeRenamed(const std::string& oldName, const std::string& newName) = 0;
+    virtual void NotifyStyleRenamed(std::int64_t styleId, const std::string& newName) = 0;
     virtual void NotifyRecipeDeleted(const std::string& name) = 0;
+    // Once for each folder of a deleted subtree, after its recipes.
+    virtual void NotifyRecipeFolderDeleted(std::int64_t folderId) = 0;
+    virtual void NotifyStyleDeleted(std::int64_t styleId) = 0;
 };
 
 class DB_IO {

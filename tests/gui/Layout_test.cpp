@@ -11,6 +11,7 @@
 #include "shell/AboutModel.h"
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
+#include "shell/ui/frmOptions.h"
 
 namespace tw::test {
 namespace {
@@ -46,6 +47,16 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             dialog->show();
             QApplication::processEvents();
             visit(*dialog);
+        }
+        OptionsModel options(shell, outside.messages);
+        QtColorChooser colors;
+        frmOptions optionsWindow(options, colors, nullptr);
+        optionsWindow.show();
+        auto* optionTabs = optionsWindow.findChild<QTabWidget*>();
+        for (int tab = 0; tab < optionTabs->count(); ++tab) {
+            optionTabs->setCurrentIndex(tab);
+            QApplication::processEvents();
+            visit(optionsWindow);
         }
     }
 };

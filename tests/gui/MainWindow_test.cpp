@@ -46,8 +46,11 @@ TEST_F(MainWindow, EveryVisibleCommandHasASentenceForTheStatusBar) {
 
 TEST_F(MainWindow, EveryToolbarButtonHasAPictureAndItsKeyInTheTip) {
     for (const ToolButton& button : shell.Bar().Buttons()) {
-        ASSERT_FALSE(ToolIcon(button.image).isNull()) << button.image;
-        EXPECT_TRUE(HasInk(ToolIcon(button.image).pixmap(QSize(48, 48)).toImage())) << button.image;
+        for (int style = 0; style < 3; ++style) {
+            const QIcon icon = ToolIcon(button.image, style);
+            ASSERT_FALSE(icon.isNull()) << style << " " << button.image;
+            EXPECT_TRUE(HasInk(icon.pixmap(QSize(48, 48)).toImage())) << style << " " << button.image;
+        }
     }
     EXPECT_EQ(Action("tbToolBar(New)").toolTip(), QStringLiteral("New (Ctrl+N)"));
     EXPECT_EQ(Action("tbToolBar(Insert)").toolTip(), QStringLiteral("Insert Row"));

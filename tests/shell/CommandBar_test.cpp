@@ -178,8 +178,8 @@ TEST(CommandBar, AButtonStartsOffExactlyWhenItsMenuItemDoes) {
 
 TEST(CommandBar, ACommandWithoutItsFeatureStaysDark) {
     CommandBar bar;
-    EXPECT_FALSE(bar.FindItem("mnuToolsOptions")->enabled);
-    EXPECT_TRUE(bar.Wanted("mnuToolsOptions"));
+    EXPECT_FALSE(bar.FindItem("mnuHelpContents")->enabled);
+    EXPECT_TRUE(bar.Wanted("mnuHelpContents"));
     bar.SetEnabled("mnuEditCopy", true);
     bar.SetButtonWithTwin("Copy", true);
     EXPECT_TRUE(bar.Wanted("mnuEditCopy"));

@@ -22,6 +22,13 @@ class RecordingView : public ShellView {
     void ArrangeDocuments(Arrangement arrangement) override {
         log.push_back("arrange " + std::to_string(static_cast<int>(arrangement)));
     }
+    void ToolbarIconsChanged() override { log.emplace_back("icons"); }
+    void ToolbarButtonStyleChanged() override { log.emplace_back("button style"); }
+    void GridColorsChanged(const RecipeDocument& document) override {
+        log.push_back("colors of " + document.Key());
+    }
+    void UnsavedWorkWaits() override { log.emplace_back("unsaved work"); }
+    void AutoSaveSwitched(bool on) override { log.emplace_back(on ? "autosave on" : "autosave off"); }
     void CloseMainWindow() override { log.emplace_back("close main window"); }
 
     std::vector<std::string> log;

@@ -14,7 +14,13 @@ class FixedClock : public ClockPort {
 
 class Recorder : public ObjectListener {
   public:
+    void NotifyRecipeMoved(const std::string&, std::int64_t) override {}
+    void NotifyRecipeNewStyle(const std::string&, std::int64_t) override {}
+    void NotifyRecipeRenamed(const std::string&, const std::string&) override {}
+    void NotifyStyleRenamed(std::int64_t, const std::string&) override {}
     void NotifyRecipeDeleted(const std::string& name) override { deleted.push_back(name); }
+    void NotifyRecipeFolderDeleted(std::int64_t) override {}
+    void NotifyStyleDeleted(std::int64_t) override {}
     std::vector<std::string> deleted;
 };
 

@@ -1,5 +1,6 @@
 #include "document/ui/DocumentBinding.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QWidget>
 
@@ -68,6 +69,18 @@ bool DocumentBinding::HandleKey(const QKeyEvent& key, bool inGrid) {
 
 bool DocumentBinding::Run(const std::function<void(RecipeDocument&)>& operation) {
     return document_ && RunShowingErrors(platform_.messages, [&] { operation(*document_); });
+}
+
+bool DocumentBinding::IsLeaving(const QFocusEvent& event, const QWidget& control) {
+    switch (event.reason()) {
+        case Qt::PopupFocusReason:
+        case Qt::MenuBarFocusReason:
+            return false;
+        case Qt::ActiveWindowFocusReason:
+            return control.isActiveWindow();
+        default:
+            return true;
+    }
 }
 
 void DocumentBinding::SetActiveField(QWidget* field, std::function<bool()> commit) {

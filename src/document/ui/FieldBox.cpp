@@ -1,5 +1,6 @@
 #include "document/ui/FieldBox.h"
 
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QStyleOptionFrame>
@@ -75,10 +76,7 @@ void FieldBox::focusInEvent(QFocusEvent* event) {
 
 void FieldBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    // A menu, or another program in front, is not leaving the box.
-    const bool left = event->reason() != Qt::PopupFocusReason && event->reason() != Qt::MenuBarFocusReason &&
-                      event->reason() != Qt::ActiveWindowFocusReason;
-    if (!left || computed_ || binding_.IsRefusing() || !binding_.Document()) return;
+    if (!DocumentBinding::IsLeaving(*event, *this) || computed_ || binding_.IsRefusing() || !binding_.Document()) return;
     if (Commit()) return;
     binding_.Refuse(this, [this] {
         setFocus();
@@ -100,6 +98,11 @@ void FieldBox::keyPressEvent(QKeyEvent* event) {
         default:
             QLineEdit::keyPressEvent(event);
     }
+}
+
+void FieldBox::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    binding_.Frame().ShowEditMenu(byKey ? mapToGlobal(rect().bottomLeft()) : event->globalPos());
 }
 
 }  // namespace tw

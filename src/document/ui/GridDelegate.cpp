@@ -44,7 +44,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& plain,
     QStyleOptionViewItem option = plain;
     initStyleOption(&option, index);
     const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
-    const bool current = view && view->currentIndex() == index;
+    const bool current = view && body_.IsCurrentCell(index);
     painter->save();
     const QVariant ground = index.data(Qt::BackgroundRole);
     painter->fillRect(option.rect,
@@ -197,12 +197,9 @@ bool GridDelegate::eventFilter(QObject* object, QEvent* event) {
             event->accept();
             return true;
         case QEvent::FocusOut: {
-            const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
             const QWidget* now = QApplication::focusWidget();
-            const bool left = reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason &&
-                              reason != Qt::ActiveWindowFocusReason && now != editor &&
-                              !(now && editor->isAncestorOf(now));
-            if (left) Close(*editor, NoHint);
+            const bool stays = now == editor || (now && editor->isAncestorOf(now));
+            if (!stays && DocumentBinding::IsLeaving(*static_cast<QFocusEvent*>(event), *editor)) Close(*editor, NoHint);
             return false;
         }
         default:

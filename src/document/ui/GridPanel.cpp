@@ -65,14 +65,17 @@ void GridPanel::MakeTotals(DocumentBinding& binding, Grid& grid) {
     totals_->setWordWrap(false);
     totals_->setShowGrid(false);
     connect(totals_->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this](const QModelIndex& cell) {
-                if (!cell.isValid() || !view_->TheGrid()) return;
-                const int row = static_cast<GridModel*>(totals_->model())->GridRow(cell.row());
-                view_->Binding().Run([&](RecipeDocument& document) {
-                    document.SetCurrentCell(*view_->TheGrid(), row, cell.column());
-                });
-            });
+            &GridPanel::TotalChosen);
+    // The same cell again, after one of the rows above.
+    connect(totals_, &QTableView::clicked, this, &GridPanel::TotalChosen);
     view_->SetTotals(totals_);
+}
+
+void GridPanel::TotalChosen(const QModelIndex& cell) {
+    if (!cell.isValid() || !view_->TheGrid()) return;
+    const int row = static_cast<GridModel*>(totals_->model())->GridRow(cell.row());
+    view_->Binding().Run(
+        [&](RecipeDocument& document) { document.SetCurrentCell(*view_->TheGrid(), row, cell.column()); });
 }
 
 int GridPanel::TotalsHeight() const {

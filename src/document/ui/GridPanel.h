@@ -30,6 +30,8 @@ class GridPanel final : public QFrame {
 
   private:
     void MakeTotals(DocumentBinding& binding, Grid& grid);
+    // Makes a cell of the totals the current one.
+    void TotalChosen(const QModelIndex& cell);
     int TotalsHeight() const;
     // Places the rows, the totals under the last row, or at the bottom when there is no room for all rows.
     void Arrange();

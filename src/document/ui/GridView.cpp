@@ -96,12 +96,19 @@ bool GridView::WantsMoreRoom(int row, int col) const {
 }
 
 void GridView::ShowRowInserted(int row) {
-    model_->RowInserted(row);
-    emit ContentChanged();
+    FollowRows([&] { model_->RowInserted(row); });
 }
 
 void GridView::ShowRowRemoved(int row) {
-    model_->RowRemoved(row);
+    FollowRows([&] { model_->RowRemoved(row); });
+}
+
+// Qt moves its current cell along with the rows; the record's stays where the record says.
+void GridView::FollowRows(const std::function<void()>& change) {
+    following_ = true;
+    change();
+    following_ = false;
+    ShowCurrentCell();
     emit ContentChanged();
 }
 
@@ -232,10 +239,21 @@ void GridView::KeepEditor() {
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
+    if (!following_) TellCurrentCell();
+}
+
+void GridView::TellCurrentCell() {
+    const QModelIndex current = currentIndex();
     if (!grid_ || !current.isValid()) return;
     const int row = model_->GridRow(current.row()), col = current.column();
     if (row == grid_->CurrentRow() && col == grid_->CurrentCol()) return;
     binding_.Run([&](RecipeDocument& document) { document.SetCurrentCell(*grid_, row, col); });
+}
+
+bool GridView::IsCurrentCell(const QModelIndex& cell) const {
+    const auto* model = qobject_cast<const GridModel*>(cell.model());
+    return grid_ && model && model->GridRow(cell.row()) == grid_->CurrentRow() &&
+           cell.column() == grid_->CurrentCol();
 }
 
 void GridView::Toggle(const QModelIndex& cell) {
@@ -301,8 +319,12 @@ bool GridView::focusNextPrevChild(bool next) {
 
 void GridView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
+    // The current cell may have been one of the totals.
+    if (grid_ && !grid_->IsDataRow(grid_->CurrentRow())) TellCurrentCell();
     ShowCurrentCell();
     if (!currentIndex().isValid() && model_->rowCount() > 0) setCurrentIndex(model_->index(0, 0));
+    // Whoever comes by key wants to type.
+    if (event->reason() == Qt::TabFocusReason && !model_->CanEdit(currentIndex())) Step(1);
 }
 
 void GridView::focusOutEvent(QFocusEvent* event) {

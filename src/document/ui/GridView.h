@@ -5,6 +5,7 @@
 #include <QPersistentModelIndex>
 #include <QPointer>
 #include <QTableView>
+#include <functional>
 #include <vector>
 
 #include "document/ui/DocumentBinding.h"
@@ -39,6 +40,8 @@ class GridView final : public QTableView {
     void ShowRowInserted(int row);
     void ShowRowRemoved(int row);
     void ShowCurrentCell();
+    // Whether a cell of this view or of its totals is the record's current one.
+    bool IsCurrentCell(const QModelIndex& cell) const;
     // Repaints with the present colours.
     void ShowColors();
     void Detach();
@@ -87,6 +90,9 @@ class GridView final : public QTableView {
     bool Step(int direction);
     // To the cell below.
     void StepDown();
+    void FollowRows(const std::function<void()>& change);
+    // Makes this view's current cell the record's.
+    void TellCurrentCell();
     void KeepEditor();
     // A text has come that the column is too narrow for.
     bool WantsMoreRoom(int row, int col) const;
@@ -99,6 +105,7 @@ class GridView final : public QTableView {
     QPersistentModelIndex editedCell_;
     bool committing_ = false;    // the entry is being validated
     bool refused_ = false;       // the last commit was refused; the editor stays
+    bool following_ = false;     // the rows change; Qt's current cell moves with them
     bool fitting_ = false;       // the column widths are ours, not the brewer's
     bool widthsChosen_ = false;  // the brewer has dragged a column
     bool hasDates_ = false;

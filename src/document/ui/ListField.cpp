@@ -60,9 +60,24 @@ void ListField::Choose(int index) {
     ShowList();
 }
 
+// The entry that the typed text is or, when just one holds it, stands for; -1 for none.
+int ListField::TypedEntry() const {
+    const QString typed = currentText().trimmed();
+    const int whole = findText(typed, Qt::MatchFixedString);
+    if (whole >= 0 || typed.isEmpty()) return whole;
+    const auto holds = [&](int i) { return itemText(i).contains(typed, Qt::CaseInsensitive); };
+    int only = -1;
+    for (int i = 0; i < count(); ++i) {
+        if (!holds(i)) continue;
+        if (only >= 0) return -1;
+        only = i;
+    }
+    return only;
+}
+
 void ListField::Settle() {
     if (!binding_.Document()) return;
-    const int typed = findText(currentText().trimmed(), Qt::MatchFixedString);
+    const int typed = TypedEntry();
     if (typed >= 0) Choose(typed);
     ShowList();
     if (hasFocus()) lineEdit()->selectAll();
@@ -70,7 +85,16 @@ void ListField::Settle() {
 
 void ListField::focusInEvent(QFocusEvent* event) {
     QComboBox::focusInEvent(event);
+    binding_.SetActiveField(this, [this] {
+        Settle();
+        return true;
+    });
     if (event->reason() != Qt::PopupFocusReason) lineEdit()->selectAll();
+}
+
+void ListField::focusOutEvent(QFocusEvent* event) {
+    QComboBox::focusOutEvent(event);
+    if (DocumentBinding::IsLeaving(*event, *this)) Settle();
 }
 
 // The wheel changes the list only after it was chosen; before, it scrolls the page.

@@ -18,12 +18,14 @@ class ListField final : public QComboBox {
 
   protected:
     void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void ShowList();
     void Choose(int index);
+    int TypedEntry() const;
     // What was typed becomes the choice, or the present entry comes back.
     void Settle();
 

@@ -1,5 +1,6 @@
 #include "document/ui/NotesBox.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
 
 #include "platform/qt/QtText.h"
@@ -56,6 +57,12 @@ void NotesBox::focusOutEvent(QFocusEvent* event) {
 void NotesBox::keyPressEvent(QKeyEvent* event) {
     if (binding_.HandleKey(*event, false)) return;
     QPlainTextEdit::keyPressEvent(event);
+}
+
+void NotesBox::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    binding_.Frame().ShowEditMenu(byKey ? viewport()->mapToGlobal(cursorRect().bottomLeft())
+                                        : event->globalPos());
 }
 
 }  // namespace tw

@@ -94,6 +94,15 @@ bool frmDocument::IsEditing(const QWidget& control) const {
     return page && page->isAncestorOf(&control);
 }
 
+void frmDocument::FocusRow() {
+    RecipeDocument* document = binding_.Document();
+    Grid* grid = document ? document->GridOfTab(static_cast<Tab>(shown_)) : nullptr;
+    GridView* view = grid ? binding_.ViewOf(*grid) : nullptr;
+    if (!view || !view->isVisible()) return;
+    view->setFocus();
+    binding_.Run([grid](RecipeDocument& d) { d.SetCurrentCell(*grid, grid->CurrentRow(), 0); });
+}
+
 void frmDocument::GridColorsChanged() {
     binding_.ForEachGrid([](GridView& view) { view.ShowColors(); });
 }

@@ -31,6 +31,8 @@ class frmDocument final : public QWidget, private DocumentView {
     QWidget* FirstField() const;
     // True for a control on the present tab.
     bool IsEditing(const QWidget& control) const;
+    // Puts the focus into the first cell of the current row of the tab's grid; nothing on a tab without rows.
+    void FocusRow();
     // Commits what is being edited. False when an entry was refused; its box has been shown.
     bool Flush() { return binding_.Flush(); }
     // The colours of the settings are others.

@@ -2,10 +2,19 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QScreen>
 
+#include "platform/qt/Appearance.h"
 #include "platform/qt/GenericDialog.h"
+#include "platform/qt/QtText.h"
 
 namespace tw {
+namespace {
+
+// A size is stored as "WIDTHxHEIGHT" in twips under the name of its form.
+constexpr std::string_view kSection = "Windows";
+
+}  // namespace
 
 void QtDialogs::Register(std::string formName, Factory factory) {
     factories_[std::move(formName)] = std::move(factory);
@@ -17,9 +26,29 @@ std::unique_ptr<QDialog> QtDialogs::Make(DialogModel& dialog, QWidget* parent) c
     return found->second(dialog, parent);
 }
 
+void QtDialogs::RestoreSize(QDialog& window) const {
+    const auto stored = sizes_.Read(SettingsPort::Layer::User, kSection, FromQt(window.objectName()));
+    const QStringList sides = ToQt(stored.value_or(std::string())).split(QLatin1Char('x'));
+    if (sides.size() != 2) return;
+    const double dots = window.screen()->logicalDotsPerInch();
+    const QSize size(PixelsOfTwips(sides[0].toInt(), dots), PixelsOfTwips(sides[1].toInt(), dots));
+    if (!size.isEmpty())
+        window.resize(
+            size.expandedTo(window.minimumSizeHint()).boundedTo(window.screen()->availableSize()));
+}
+
+void QtDialogs::KeepSize(const QDialog& window) const {
+    const double dots = window.screen()->logicalDotsPerInch();
+    const QString size = QStringLiteral("%1x%2").arg(TwipsOfPixels(window.width(), dots));
+    sizes_.Write(SettingsPort::Layer::User, kSection, FromQt(window.objectName()),
+                 FromQt(size.arg(TwipsOfPixels(window.height(), dots))));
+}
+
 void QtDialogs::ShowModal(DialogModel& dialog) {
     const std::unique_ptr<QDialog> window = Make(dialog, QApplication::activeWindow());
+    RestoreSize(*window);
     window->exec();
+    KeepSize(*window);
     if (dialog.IsOpen()) dialog.CloseBox();
 }
 

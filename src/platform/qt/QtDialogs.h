@@ -1,5 +1,5 @@
 // Shows modal dialogs: each form by its name in a window of its own; a form without one in a plain list of
-// its controls.
+// its controls. Every window comes up in the size that it was left in.
 #pragma once
 
 #include <functional>
@@ -17,6 +17,9 @@ namespace tw {
 
 class QtDialogs final : public DialogPort {
   public:
+    // sizes: keeps the windows' sizes, from one run to the next; must outlive the object.
+    explicit QtDialogs(SettingsPort& sizes) : sizes_(sizes) {}
+
     using Factory = std::function<std::unique_ptr<QDialog>(DialogModel& model, QWidget* parent)>;
 
     // Makes the windows of that form by factory from now on.
@@ -27,6 +30,10 @@ class QtDialogs final : public DialogPort {
     std::unique_ptr<QDialog> Make(DialogModel& dialog, QWidget* parent) const;
 
   private:
+    void RestoreSize(QDialog& window) const;
+    void KeepSize(const QDialog& window) const;
+
+    SettingsPort& sizes_;
     std::map<std::string, Factory> factories_;
 };
 

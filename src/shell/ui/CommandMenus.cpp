@@ -80,7 +80,7 @@ void CommandMenus::AddButton(const ToolButton& button, int& group) {
     if (button.group != group) toolBar_->addSeparator();
     group = button.group;
     const QString key = ToQt(button.key);
-    QAction* action = toolBar_->addAction(ToolIcon(button.image), ToQt(button.toolTip));
+    QAction* action = toolBar_->addAction(ToQt(button.toolTip));
     action->setObjectName(QStringLiteral("tbToolBar(%1)").arg(key));
     const MenuItem* item = bar_.FindItem(button.menuItem);
     const QString shortcut =
@@ -96,6 +96,11 @@ void CommandMenus::AddButton(const ToolButton& button, int& group) {
     connect(action, &QAction::triggered, this, [this, key] { press_(key); });
     buttons_.insert(key, action);
     Show(*action, button);
+}
+
+void CommandMenus::SetIconStyle(int iconStyle) {
+    for (const ToolButton& button : bar_.Buttons())
+        if (!button.tag.empty()) buttons_.value(ToQt(button.key))->setIcon(ToolIcon(button.tag, iconStyle));
 }
 
 void CommandMenus::SetFlat(bool flat) {

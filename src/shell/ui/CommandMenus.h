@@ -27,6 +27,8 @@ class CommandMenus final : public QObject, public CommandObserver {
     // "mnuFile", "mnuEdit", "mnuTools", "mnuWindow", "mnuHelp".
     QMenu* Menu(const QString& name) const { return menus_.value(name); }
     QToolBar* ToolBar() const { return toolBar_; }
+    // Shows the buttons in the icon set of that style.
+    void SetIconStyle(int iconStyle);
     // Classic buttons have a frame each, flat ones only under the mouse.
     void SetFlat(bool flat);
 

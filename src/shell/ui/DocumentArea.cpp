@@ -12,6 +12,11 @@ namespace {
 
 constexpr int kPictureUnits = 14;
 
+// How windows lie over each other.
+constexpr int kSteps = 6;
+constexpr int kStepUnits = 4;
+constexpr double kRoomyFactor = 1.4;
+
 }  // namespace
 
 DocumentArea::DocumentArea(QWidget* parent) : QMdiArea(parent) {
@@ -59,10 +64,31 @@ void DocumentArea::TileVertically() {
     Tile(Qt::Horizontal);
 }
 
-void DocumentArea::Tile(Qt::Orientation stacked) {
-    QList<QMdiSubWindow*> windows = subWindowList(QMdiArea::CreationOrder);
+QList<QMdiSubWindow*> DocumentArea::Shown(WindowOrder order) const {
+    QList<QMdiSubWindow*> windows = subWindowList(order);
     windows.removeIf(
         [](const QMdiSubWindow* window) { return window->isMinimized() || !window->isVisible(); });
+    return windows;
+}
+
+void DocumentArea::PlaceAt(QMdiSubWindow& window, int place) {
+    const int step = place % kSteps * kStepUnits * Unit(*this);
+    const QSize room = viewport()->size() - QSize(step, step);
+    window.move(step, step);
+    window.resize((window.sizeHint() * kRoomyFactor).boundedTo(room));
+}
+
+void DocumentArea::Cascade() {
+    int place = 0;
+    // The one in front lies uppermost and furthest in.
+    for (QMdiSubWindow* window : Shown(StackingOrder)) {
+        window->showNormal();
+        PlaceAt(*window, place++);
+    }
+}
+
+void DocumentArea::Tile(Qt::Orientation stacked) {
+    const QList<QMdiSubWindow*> windows = Shown(CreationOrder);
     const int count = static_cast<int>(windows.size());
     const QRect all = viewport()->rect();
     for (int i = 0; i < count; ++i) {

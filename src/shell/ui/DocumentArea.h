@@ -14,6 +14,10 @@ class DocumentArea final : public QMdiArea {
     explicit DocumentArea(QWidget* parent);
     // Shown in the middle while no recipe is open.
     void SetWelcome(const QString& line);
+    // Over each other, each a step further in than the one below it.
+    void Cascade();
+    // Gives a window its usual size, place steps away from the corner, with its whole frame in sight.
+    void PlaceAt(QMdiSubWindow& window, int place);
     // Below each other, across the whole width; tileSubWindows would make columns.
     void TileHorizontally();
     // Beside each other, over the whole height.
@@ -24,6 +28,8 @@ class DocumentArea final : public QMdiArea {
     void changeEvent(QEvent* event) override;
 
   private:
+    // The windows that are not minimised.
+    QList<QMdiSubWindow*> Shown(WindowOrder order) const;
     void Tile(Qt::Orientation stacked);
     QString welcome_;
 };

@@ -22,6 +22,8 @@ namespace {
 
 constexpr double kDisabledOpacity = 0.38;
 
+constexpr const char* kSets[] = {"simple", "high", "xp"};
+
 // The sixteen classic colours that vanish or glare on a dark ground, and what stands there for them.
 constexpr std::pair<const char*, const char*> kOnDark[] = {
     {"#ffffff", "#4a4642"}, {"#000080", "#8fc1ff"}, {"#008000", "#6fd36f"}, {"#800000", "#ff9a8f"},
@@ -33,21 +35,38 @@ QByteArray ReadSvg(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// Whether a drawing is in the classic colours, or in colours that hold on light and dark ground alike.
+enum class Ink { Classic, AsDrawn };
+
 // The drawing in the colours of a palette: outlines take the text's colour.
-QByteArray Recolored(QByteArray svg, const QPalette& palette) {
+QByteArray Recolored(QByteArray svg, const QPalette& palette, Ink ink) {
     const QColor outline = palette.color(QPalette::Active, QPalette::ButtonText);
-    if (IsDark(palette))
+    if (ink == Ink::Classic && IsDark(palette))
         for (const auto& [light, dark] : kOnDark) svg.replace(light, dark);
     return svg.replace("currentColor", outline.name().toLatin1());
 }
 
 class SvgIconEngine final : public QIconEngine {
   public:
-    explicit SvgIconEngine(QString path) : path_(std::move(path)) {}
+    SvgIconEngine(QString path, Ink ink) : path_(std::move(path)), ink_(ink) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        if (mode == QIcon::Disabled) painter->setOpacity(painter->opacity() * kDisabledOpacity);
-        QSvgRenderer(Recolored(ReadSvg(path_), QApplication::palette())).render(painter, rect);
+        if (mode != QIcon::Disabled) {
+            Render(*painter, rect);
+            return;
+        }
+        // Greyed as a whole, so that no part shines through another.
+        const double scale = painter->device()->devicePixelRatioF();
+        QImage picture(rect.size() * scale, QImage::Format_ARGB32_Premultiplied);
+        picture.setDevicePixelRatio(scale);
+        picture.fill(Qt::transparent);
+        QPainter whole(&picture);
+        Render(whole, QRect(QPoint(), rect.size()));
+        whole.end();
+        const double opacity = painter->opacity();
+        painter->setOpacity(opacity * kDisabledOpacity);
+        painter->drawImage(rect, picture);
+        painter->setOpacity(opacity);
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
@@ -71,24 +90,31 @@ class SvgIconEngine final : public QIconEngine {
     QIconEngine* clone() const override { return new SvgIconEngine(*this); }
 
   private:
+    void Render(QPainter& painter, const QRect& rect) const {
+        QSvgRenderer(Recolored(ReadSvg(path_), QApplication::palette(), ink_)).render(&painter, rect);
+    }
+
     QString path_;
+    Ink ink_;
 };
 
-QIcon IconOf(const QString& path) {
+QIcon IconOf(const QString& path, Ink ink) {
     RegisterIcons();
-    return QFile::exists(path) ? QIcon(new SvgIconEngine(path)) : QIcon();
+    return QFile::exists(path) ? QIcon(new SvgIconEngine(path, ink)) : QIcon();
 }
 
 }  // namespace
 
-QIcon ToolIcon(std::string_view image) {
+QIcon ToolIcon(std::string_view image, int iconStyle) {
     constexpr std::string_view kTwin = "Transparent";
     if (image.ends_with(kTwin)) image.remove_suffix(kTwin.size());
-    return IconOf(QStringLiteral(":/icons/simple/%1.svg").arg(ToQt(image)));
+    const int set = iconStyle == 0 || iconStyle == 1 ? iconStyle : 2;
+    return IconOf(QStringLiteral(":/icons/%1/%2.svg").arg(QLatin1String(kSets[set]), ToQt(image)),
+                  set == 0 ? Ink::Classic : Ink::AsDrawn);
 }
 
 QIcon ProgramIcon() {
-    return IconOf(QStringLiteral(":/icons/tunwright.svg"));
+    return IconOf(QStringLiteral(":/icons/tunwright.svg"), Ink::Classic);
 }
 
 }  // namespace tw

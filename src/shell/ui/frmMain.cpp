@@ -6,8 +6,6 @@
 #include <QMenu>
 #include <QStatusBar>
 #include <QToolBar>
-#include <algorithm>
-#include <array>
 
 #include "document/ui/frmDocument.h"
 #include "platform/qt/Appearance.h"
@@ -16,6 +14,7 @@
 #include "shell/ui/DocumentArea.h"
 #include "shell/ui/Icons.h"
 #include "shell/ui/MainGeometry.h"
+#include "shell/ui/StoredColor.h"
 #include "shell/ui/frmSplash.h"
 
 namespace tw {
@@ -23,39 +22,26 @@ namespace {
 
 constexpr QSize kLeastUnits(84, 60);
 constexpr int kStateMaximized = 2;
-// How windows of recipes are laid when they open.
-constexpr int kSteps = 6;
-constexpr int kStepUnits = 4;
-constexpr double kRoomyFactor = 1.4;
 constexpr int kStateNormal = 0;
+// How long an edit may be kept nowhere but in the window.
+constexpr int kKeepMilliseconds = 3000;
 
-// Commands that look at what is being typed: it is committed first, and a refused entry calls them off.
-constexpr std::array<std::string_view, 14> kFlushing{"mnuFileSave",
-                                                     "mnuFileSaveAs",
-                                                     "mnuFileSaveAll",
-                                                     "mnuFileClose",
-                                                     "mnuFileCloseAll",
-                                                     "mnuFileExport",
-                                                     "mnuFilePrint",
-                                                     "mnuFileExit",
-                                                     "mnuEditInsert",
-                                                     "mnuEditDelete",
-                                                     "mnuToolsResizeRecipe",
-                                                     "mnuToolsChangeStrength",
-                                                     "mnuToolsChangeBitterness",
-                                                     "mnuToolsChangeCO2"};
-
-// A colour of the settings: blue, green and red from the highest byte down.
-QColor ColorOf(int stored) {
-    const auto value = static_cast<unsigned>(stored);
-    return {static_cast<int>(value & 0xFF), static_cast<int>(value >> 8 & 0xFF),
-            static_cast<int>(value >> 16 & 0xFF)};
+// Commands that look at what is being typed, or leave it: it is committed first, and a refused entry calls
+// them off.
+bool IsFlushing(std::string_view command) {
+    for (const std::string_view group : {"mnuFile", "mnuTools", "mnuWindow"})
+        if (command.starts_with(group)) return true;
+    return command == "mnuEditInsert" || command == "mnuEditDelete";
 }
 
 }  // namespace
 
 frmMain::frmMain(Shell& shell, Platform& platform)
-    : shell_(shell), platform_(platform), area_(new DocumentArea(this)) {
+    : shell_(shell),
+      platform_(platform),
+      area_(new DocumentArea(this)),
+      autoSaveTimer_(new QTimer(this)),
+      keepTimer_(new QTimer(this)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Tunwright"));
     setWindowIcon(ProgramIcon());
@@ -66,9 +52,18 @@ frmMain::frmMain(Shell& shell, Platform& platform)
     setCentralWidget(area_);
     statusBar()->setObjectName(QStringLiteral("sbStatusBar"));
     statusBar()->setAccessibleName(tr("Status"));
+    autoSaveTimer_->setObjectName(QStringLiteral("tmrAutoSave"));
+    autoSaveTimer_->setInterval(kAutoSaveTickMilliseconds);
+    connect(autoSaveTimer_, &QTimer::timeout, this,
+            [this] { shell_.Guard([this] { shell_.TickAutoSave(); }); });
+    keepTimer_->setObjectName(QStringLiteral("tmrKeepUnsaved"));
+    keepTimer_->setInterval(kKeepMilliseconds);
+    keepTimer_->setSingleShot(true);
+    connect(keepTimer_, &QTimer::timeout, this, [this] { shell_.KeepUnsavedWork(); });
     shell_.SetView(this);
     shell_.LoadWindowSettings();
-    menus_->SetFlat(shell_.CurrentSettings().buttonStyle != 0);
+    shell_.ChangeToolbarIcons();
+    shell_.ChangeToolbarButtonStyle();
     setMinimumSize(kLeastUnits * Unit(*this));
     ApplyGeometry(*this, shell_.CurrentSettings(), shell_.Store());
 
@@ -99,6 +94,7 @@ bool frmMain::StartUp(const std::string& databasePath) {
     if (!opened) return false;
     ShowWelcome();
     shell_.ReapplyPasteState();
+    shell_.Guard([this] { shell_.OfferRecovery(); });
     return true;
 }
 
@@ -149,11 +145,7 @@ void frmMain::PlaceSubWindow(DocumentSubWindow& window) {
         window.showMaximized();
     } else {
         // Each a step further in, with its whole frame in sight.
-        const int step =
-            (static_cast<int>(area_->subWindowList().size()) - 1) % kSteps * kStepUnits * Unit(*this);
-        const QSize room = area_->viewport()->size() - QSize(step, step);
-        window.move(step, step);
-        window.resize((window.sizeHint() * kRoomyFactor).boundedTo(room));
+        area_->PlaceAt(window, static_cast<int>(area_->subWindowList().size()) - 1);
         window.show();
     }
     changing_ = false;
@@ -191,6 +183,15 @@ void frmMain::DocumentRenamed(const RecipeDocument& document) {
     if (DocumentSubWindow* window = WindowOf(document)) window->setWindowTitle(ToQt(document.Caption()));
 }
 
+void frmMain::AutoSaveSwitched(bool on) {
+    on ? autoSaveTimer_->start() : autoSaveTimer_->stop();
+}
+
+// Not started anew by each key, so that steady typing is kept too.
+void frmMain::UnsavedWorkWaits() {
+    if (!keepTimer_->isActive()) keepTimer_->start();
+}
+
 void frmMain::CloseMainWindow() {
     exitGranted_ = true;
     close();
@@ -198,16 +199,28 @@ void frmMain::CloseMainWindow() {
 
 void frmMain::ArrangeDocuments(Arrangement arrangement) {
     if (arrangement == Arrangement::Cascade)
-        area_->cascadeSubWindows();
+        area_->Cascade();
     else if (arrangement == Arrangement::TileHorizontal)
         area_->TileHorizontally();
     else
         area_->TileVertically();
 }
 
+void frmMain::ToolbarIconsChanged() {
+    menus_->SetIconStyle(shell_.CurrentSettings().iconStyle);
+}
+
+void frmMain::ToolbarButtonStyleChanged() {
+    menus_->SetFlat(shell_.CurrentSettings().buttonStyle != 0);
+}
+
+void frmMain::GridColorsChanged(const RecipeDocument& document) {
+    if (DocumentSubWindow* window = WindowOf(document)) window->Document().GridColorsChanged();
+}
+
 bool frmMain::FlushBefore(std::string_view name) {
     frmDocument* window = ActiveWindow();
-    if (!window || std::find(kFlushing.begin(), kFlushing.end(), name) == kFlushing.end()) return true;
+    if (!window || !IsFlushing(name)) return true;
     return window->Flush();
 }
 
@@ -220,13 +233,22 @@ bool frmMain::RunCommand(std::string_view name) {
     const std::string command(name);
     bool ran = false;
     shell_.Guard([&] { ran = shell_.RunMenu(command); });
+    FocusAfter(command);
     return ran;
 }
 
 void frmMain::PressButton(const QString& key) {
     const ToolButton* button = shell_.Bar().FindButton(FromQt(key));
     if (!button || !button->enabled || !FlushBefore(button->menuItem)) return;
+    const std::string command = button->menuItem;
     shell_.Guard([&] { shell_.PressButton(FromQt(key)); });
+    FocusAfter(command);
+}
+
+// A new row is there to be typed into.
+void frmMain::FocusAfter(std::string_view command) {
+    frmDocument* window = ActiveWindow();
+    if (window && command == "mnuEditInsert") window->FocusRow();
 }
 
 bool frmMain::CanRun(std::string_view name) const {

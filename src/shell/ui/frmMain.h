@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include "document/ui/DocumentFrame.h"
 #include "shell/Shell.h"
@@ -43,14 +44,21 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     void DocumentClosing(RecipeDocument& document) override;
     void DocumentActivated(RecipeDocument* document) override;
     void DocumentRenamed(const RecipeDocument& document) override;
+    void AutoSaveSwitched(bool on) override;
+    void UnsavedWorkWaits() override;
     void CloseMainWindow() override;
     void ArrangeDocuments(Arrangement arrangement) override;
+    void ToolbarIconsChanged() override;
+    void ToolbarButtonStyleChanged() override;
+    void GridColorsChanged(const RecipeDocument& document) override;
 
     void ShowWelcome();
     void PlaceSubWindow(DocumentSubWindow& window);
     void PressButton(const QString& key);
     // Commits what is being edited before a command that needs it. False when an entry was refused.
     bool FlushBefore(std::string_view name);
+    // The focus that a command asks for once it has run.
+    void FocusAfter(std::string_view command);
     void FillWindowMenu();
     DocumentSubWindow* WindowOf(const RecipeDocument& document) const;
 
@@ -58,6 +66,8 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     Platform& platform_;
     CommandMenus* menus_;
     DocumentArea* area_;
+    QTimer* autoSaveTimer_;  // tmrAutoSave; it runs behind dialogs too
+    QTimer* keepTimer_;
     bool exitGranted_ = false;
     bool changing_ = false;  // the shell is changing the windows; their signals are its echo
 };

@@ -1,0 +1,25 @@
+// The dialog in which a colour is chosen.
+#pragma once
+
+#include <QColor>
+#include <optional>
+
+class QString;
+class QWidget;
+
+namespace tw {
+
+class ColorChooser {
+  public:
+    virtual ~ColorChooser() = default;
+    // Starts on current. The colour chosen, or nothing when the dialog was cancelled.
+    virtual std::optional<QColor> Choose(const QColor& current, const QString& title, QWidget* parent) = 0;
+};
+
+// The colour dialog of the desktop.
+class QtColorChooser final : public ColorChooser {
+  public:
+    std::optional<QColor> Choose(const QColor& current, const QString& title, QWidget* parent) override;
+};
+
+}  // namespace tw

@@ -1,0 +1,64 @@
+#include "shell/AutoSave.h"
+
+#include <algorithm>
+
+#include "shell/Shell.h"
+
+namespace tw {
+
+bool AutoSaveMinutes::Tick(bool anyDocument, int every) {
+    if (!anyDocument) {
+        Reset();
+        return false;
+    }
+    ++minutes_;
+    return minutes_ >= every;
+}
+
+std::vector<DialogControl> AutoSaveModel::Controls() const {
+    return {{"lblRecipe", recipeName_}, {"ProgressBar1", std::to_string(done_)}};
+}
+
+bool AutoSaveModel::SetControl(std::string_view, std::string_view) {
+    return false;
+}
+
+bool AutoSaveModel::Press(std::string_view) {
+    return false;
+}
+
+void AutoSaveModel::CloseBox() {
+    if (!running_) open_ = false;
+}
+
+void AutoSaveModel::FirstShown() {
+    if (!open_ || running_) return;
+    running_ = true;
+    // Events that run in between may close a document, so they are kept by key.
+    std::vector<std::string> keys;
+    for (const auto& document : shell_.Documents()) keys.push_back(document->Key());
+    total_ = static_cast<int>(keys.size());
+    for (const std::string& key : keys) SaveOne(key);
+    running_ = false;
+    open_ = false;
+}
+
+void AutoSaveModel::SaveOne(const std::string& key) {
+    const auto& documents = shell_.Documents();
+    const auto named = [&](const auto& document) { return document->Key() == key; };
+    auto found = std::ranges::find_if(documents, named);
+    if (found != documents.end()) {
+        recipeName_ = (*found)->BeerName();
+        Show();
+        found = std::ranges::find_if(documents, named);
+        if (found != documents.end()) shell_.Guard([&] { shell_.SaveRecipe(**found, true); });
+    }
+    ++done_;
+    Show();
+}
+
+void AutoSaveModel::Show() const {
+    if (observer_) observer_();
+}
+
+}  // namespace tw

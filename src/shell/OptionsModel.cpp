@@ -1,0 +1,363 @@
+#include "shell/OptionsModel.h"
+
+#include <algorithm>
+#include <cassert>
+#include <charconv>
+#include <cmath>
+
+#include "platform/Error.h"
+#include "shell/Shell.h"
+#include "values/ParserValidater.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+constexpr int kLeastMinutes = 1;
+constexpr int kMostMinutes = 60;
+constexpr int kHighestColor = 0xFFFFFF;
+constexpr int kBlackKept = 1;
+
+struct ColorRow {
+    std::string_view picture;
+    int Settings::*field;
+};
+constexpr ColorRow kColors[] = {{"picCalcBackground", &Settings::gridReadOnlyBg},
+                                {"picCalcForeground", &Settings::gridReadOnlyFg},
+                                {"picSumBackground", &Settings::gridTotalBg},
+                                {"picSumForeground", &Settings::gridTotalFg}};
+
+constexpr std::string_view kIconOptions[] = {"optIcons(0)", "optIcons(1)", "optIcons(2)"};
+constexpr std::string_view kButtonOptions[] = {"optButtons(0)", "optButtons(1)"};
+constexpr int kLastIconStyle = 2;
+
+std::string YesNo(bool yes) {
+    return yes ? "yes" : "no";
+}
+
+// "optIcons" of "optIcons(2)".
+std::string_view GroupOf(std::string_view option) {
+    return option.substr(0, option.find('('));
+}
+
+// Digits beyond every number are a whole number all the same; its value does not matter then.
+bool IsWhole(std::string_view text, double& value) {
+    try {
+        return ParseWholeNumber(text, value);
+    } catch (const Error&) {
+        value = HUGE_VAL;
+        return true;
+    }
+}
+
+}  // namespace
+
+OptionsModel::OptionsModel(Shell& shell, MessagePort& messages) : shell_(shell), messages_(messages) {
+    FillDefaultsTab();
+    FillSettingsTab();
+    FillAppearanceTab();
+}
+
+void OptionsModel::FillDefaultsTab() {
+    const Settings& s = shell_.CurrentSettings();
+    AddList("cmbHopForm", {"Pellet", "Plug", "Leaf"}, s.hopForm);
+    AddCheck("chkHopSocks", s.hopSocks);
+    AddList("cmbIBUMethod", {"Tinseth", "Rager", "Garetz"}, s.ibuMethod);
+    AddText("txtExtract", s.grainExtraction);
+    AddText("txtHopExtraction", s.hopExtraction);
+    AddText("txtBoilVol", s.boilVol);
+    AddText("txtTotalVol", s.totalVol);
+    AddList("cmbWaterProfile", {""}, 0);
+    PopulateWaterProfiles();
+    AddList("cmbPackaging", {"Bottling", "Kegging"}, s.packaging);
+}
+
+void OptionsModel::FillSettingsTab() {
+    const Settings& s = shell_.CurrentSettings();
+    AddList("cmbReportType", {"Text", "HTML", "RichText"}, s.reportType);
+    AddCheck("chkCopyHeaders", s.copyHeaders);
+    AddCheck("chkPasteBlockSize", s.pasteMismatchSize);
+    AddCheck("chkAutoSave", s.doAutoSave);
+    AddText("txtSaveInc", std::to_string(s.doAutoSaveEvery));
+    AddCheck("chkAskNonUndoableChange", s.askBeforeNonUndoableChange);
+    AddCheck("chkQuickPrint", s.quickPrintFromToolbar);
+}
+
+void OptionsModel::FillAppearanceTab() {
+    const Settings& s = shell_.CurrentSettings();
+    const int icons = s.iconStyle >= 0 && s.iconStyle < kLastIconStyle ? s.iconStyle : kLastIconStyle;
+    const int buttons = s.buttonStyle == 0 ? 0 : 1;
+    int index = 0;
+    for (const std::string_view name : kIconOptions)
+        controls_.push_back({Kind::Option, std::string(name), YesNo(index++ == icons)});
+    index = 0;
+    for (const std::string_view name : kButtonOptions)
+        controls_.push_back({Kind::Option, std::string(name), YesNo(index++ == buttons)});
+    for (const ColorRow& row : kColors)
+        controls_.push_back({Kind::Color, std::string(row.picture), std::to_string(s.*row.field)});
+}
+
+void OptionsModel::AddList(std::string_view name, std::vector<std::string> entries, int index) {
+    // A stored number that names no entry counts as the first.
+    const bool known = index >= 0 && index < static_cast<int>(entries.size());
+    std::string text = entries[known ? static_cast<std::size_t>(index) : 0];
+    controls_.push_back({Kind::List, std::string(name), std::move(text), std::move(entries)});
+}
+
+void OptionsModel::AddCheck(std::string_view name, bool checked) {
+    controls_.push_back({Kind::Check, std::string(name), YesNo(checked)});
+}
+
+void OptionsModel::AddText(std::string_view name, std::string_view text) {
+    controls_.push_back({Kind::Text, std::string(name), std::string(text)});
+}
+
+void OptionsModel::PopulateWaterProfiles() {
+    Control& list = Find("cmbWaterProfile");
+    const std::string& stored = shell_.CurrentSettings().waterProfile;
+    list.entries = {""};
+    list.text.clear();
+    for (Recordset rows = shell_.DB()->OpenRecordset("SELECT NAME FROM WATER_PROFILES ORDER BY NAME");
+         !rows.AtEnd(); rows.MoveNext()) {
+        list.entries.push_back(rows.Fields(0).Text());
+        if (SameName(list.entries.back(), stored)) list.text = list.entries.back();
+    }
+}
+
+const OptionsModel::Control* OptionsModel::TryFind(std::string_view name) const {
+    const auto found = std::ranges::find(controls_, name, &Control::name);
+    return found == controls_.end() ? nullptr : &*found;
+}
+
+const OptionsModel::Control& OptionsModel::Find(std::string_view name) const {
+    const Control* control = TryFind(name);
+    assert(control);
+    return *control;
+}
+
+OptionsModel::Control& OptionsModel::Find(std::string_view name) {
+    const auto found = std::ranges::find(controls_, name, &Control::name);
+    assert(found != controls_.end());
+    return *found;
+}
+
+int OptionsModel::IndexOf(std::string_view list) const {
+    const Control& control = Find(list);
+    return static_cast<int>(std::ranges::find(control.entries, control.text) - control.entries.begin());
+}
+
+int OptionsModel::Color(std::string_view picture) const {
+    const std::string& text = Text(picture);
+    int color = 0;
+    std::from_chars(text.data(), text.data() + text.size(), color);
+    return color;
+}
+
+bool OptionsModel::SaveIncEnabled() const {
+    return Checked("chkAutoSave");
+}
+
+bool OptionsModel::UpDownEnabled() const {
+    double value = 0;
+    const std::string& text = Text("txtSaveInc");
+    return SaveIncEnabled() && (IsWhole(text, value) || ParseReal(text, value));
+}
+
+void OptionsModel::EnterField(std::string_view name) {
+    focused_ = name;
+    remembered_ = Text(name);
+}
+
+bool OptionsModel::CheckField() {
+    if (focused_.empty()) return true;
+    Control& field = Find(focused_);
+    bool accepted = false;
+    try {
+        accepted = AcceptsText(field);
+    } catch (const Error& error) {
+        messages_.ShowMessage("Error", error.WithNumber());
+    }
+    if (!accepted) field.text = remembered_;
+    return accepted;
+}
+
+bool OptionsModel::LeaveField() {
+    if (!CheckField()) return false;
+    focused_.clear();
+    return true;
+}
+
+bool OptionsModel::AcceptsText(const Control& field) {
+    double ignored = 0;
+    if (field.name == "txtHopExtraction") return AcceptsHopExtraction(field.text);
+    if (field.name == "txtSaveInc") return AcceptsSaveInc(field.text);
+    if (field.name == "txtExtract") return ValidatePercent(field.text, ignored, &messages_);
+    return ValidateVolume(field.text, ignored, &messages_);
+}
+
+bool OptionsModel::AcceptsHopExtraction(std::string_view text) {
+    double value = 0;
+    if (!IsBlank(text) && !ParseReal(text, value)) return Refuse("Please enter a valid decimal number");
+    return value >= 0 || Refuse("Please enter a positive decimal number");
+}
+
+bool OptionsModel::AcceptsSaveInc(std::string_view text) {
+    double value = 0;
+    if (!IsWhole(text, value)) return Refuse("Please enter a valid integer");
+    return (value >= kLeastMinutes && value <= kMostMinutes) ||
+           Refuse("Please enter an integer between 1 and 60");
+}
+
+bool OptionsModel::Refuse(std::string_view text) {
+    messages_.ShowMessage(kInvalidEntry, text);
+    return false;
+}
+
+void OptionsModel::StepSaveInc(int by) {
+    if (!UpDownEnabled()) return;
+    Control& field = Find("txtSaveInc");
+    double value = 0;
+    if (!IsWhole(field.text, value)) ParseReal(field.text, value);
+    if (by > 0 ? value >= kMostMinutes : value <= kLeastMinutes) {
+        messages_.Beep();
+        return;
+    }
+    value = std::clamp<double>(std::trunc(value) + by, kLeastMinutes, kMostMinutes);
+    field.text = std::to_string(static_cast<int>(value));
+}
+
+std::vector<DialogControl> OptionsModel::Controls() const {
+    std::vector<DialogControl> controls;
+    controls.reserve(controls_.size());
+    for (const Control& control : controls_) controls.push_back({control.name, control.text});
+    return controls;
+}
+
+bool OptionsModel::SetControl(std::string_view name, std::string_view text) {
+    if (name == "UpDown1") {
+        if (text != "up" && text != "down") return false;
+        StepSaveInc(text == "up" ? 1 : -1);
+        return true;
+    }
+    if (!TryFind(name)) return false;
+    if (focused_ != name) {
+        // A refused field has its old text again and can be left.
+        LeaveField();
+        focused_.clear();
+    }
+    return Enter(Find(name), text);
+}
+
+bool OptionsModel::Enter(Control& control, std::string_view text) {
+    switch (control.kind) {
+        case Kind::Text:
+            if (focused_.empty()) EnterField(control.name);
+            control.text = text;
+            return true;
+        case Kind::Check:
+            if (text != "yes" && text != "no") return false;
+            control.text = text;
+            return true;
+        case Kind::Option:
+            if (text != "yes") return false;
+            ChooseOption(control);
+            return true;
+        case Kind::List: {
+            const auto entry =
+                std::ranges::find_if(control.entries, [&](const auto& e) { return SameName(e, text); });
+            if (entry == control.entries.end()) return false;
+            control.text = *entry;
+            return true;
+        }
+        case Kind::Color:
+            break;
+    }
+    int color = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), color);
+    if (error != std::errc() || end != text.data() + text.size()) return false;
+    if (color < 0 || color > kHighestColor) return false;
+    control.text = std::to_string(color == 0 ? kBlackKept : color);
+    return true;
+}
+
+void OptionsModel::ChooseOption(Control& option) {
+    for (Control& other : controls_)
+        if (other.kind == Kind::Option && GroupOf(other.name) == GroupOf(option.name)) other.text = "no";
+    option.text = "yes";
+}
+
+bool OptionsModel::Press(std::string_view button) {
+    if (button == "cmdCancel")
+        CloseBox();
+    else if (button == "mnuResetColors")
+        ResetColors();
+    else if (button == "cmdOK")
+        Ok();
+    else
+        return false;
+    return true;
+}
+
+void OptionsModel::ResetColors() {
+    const Settings defaults;
+    for (const ColorRow& row : kColors) Find(row.picture).text = std::to_string(defaults.*row.field);
+}
+
+void OptionsModel::Ok() {
+    if (!focused_.empty()) {
+        // What tells a refusal is that the text has changed. A bad text that was stored is put back as it
+        // was, so its box is all that comes of it: intended.
+        const Control& field = Find(focused_);
+        const std::string typed = field.text;
+        LeaveField();
+        if (field.text != typed) return;
+    }
+    ApplyDefaults();
+    ApplySettings();
+    ApplyAppearance();
+    open_ = false;
+}
+
+void OptionsModel::ApplyDefaults() {
+    Settings& s = shell_.CurrentSettings();
+    s.hopForm = IndexOf("cmbHopForm");
+    s.hopSocks = Checked("chkHopSocks");
+    s.reportType = IndexOf("cmbReportType");
+    s.grainExtraction = Text("txtExtract");
+    s.hopExtraction = Text("txtHopExtraction");
+    s.boilVol = Text("txtBoilVol");
+    s.totalVol = Text("txtTotalVol");
+    s.ibuMethod = IndexOf("cmbIBUMethod");
+    s.waterProfile = Text("cmbWaterProfile");
+    s.packaging = IndexOf("cmbPackaging");
+}
+
+void OptionsModel::ApplySettings() {
+    Settings& s = shell_.CurrentSettings();
+    s.copyHeaders = Checked("chkCopyHeaders");
+    s.pasteMismatchSize = Checked("chkPasteBlockSize");
+    shell_.SetDoAutoSave(Checked("chkAutoSave"));
+    double minutes = 0;
+    if (IsWhole(Text("txtSaveInc"), minutes)) s.doAutoSaveEvery = static_cast<int>(minutes);
+    s.askBeforeNonUndoableChange = Checked("chkAskNonUndoableChange");
+    s.quickPrintFromToolbar = Checked("chkQuickPrint");
+}
+
+void OptionsModel::ApplyAppearance() {
+    Settings& s = shell_.CurrentSettings();
+    int icons = 0;
+    while (!Checked(kIconOptions[icons])) ++icons;
+    if (s.iconStyle != icons) {
+        s.iconStyle = icons;
+        shell_.ChangeToolbarIcons();
+    }
+    const int buttons = Checked(kButtonOptions[0]) ? 0 : 1;
+    if (s.buttonStyle != buttons) {
+        s.buttonStyle = buttons;
+        shell_.ChangeToolbarButtonStyle();
+    }
+    for (const ColorRow& row : kColors) s.*row.field = Color(row.picture);
+    shell_.UpdateDocsOfColorChange();
+}
+
+}  // namespace tw

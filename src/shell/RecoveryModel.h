@@ -1,0 +1,54 @@
+// The window that offers unsaved recipes of an earlier run (frmRecovery): a list, from which each one is
+// restored or thrown away. It closes when the list is empty; what is left in it is offered again at the next
+// start.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/DialogModel.h"
+#include "platform/Ports.h"
+#include "shell/Recovery.h"
+
+namespace tw {
+
+class Shell;
+
+class RecoveryModel final : public DialogModel {
+  public:
+    // shell and messages must outlive the object. It is open while lost is not empty.
+    RecoveryModel(Shell& shell, MessagePort& messages, std::vector<LostRecipe> lost);
+
+    // "{name}, {M/D/YYYY} {HH:MM}" for each recipe, "Untitled" for one without a name.
+    std::vector<std::string> Entries() const;
+    int Selected() const { return selected_; }
+    // Nothing happens for an index without an entry.
+    void Select(int index);
+
+    std::string FormName() const override { return "frmRecovery"; }
+    // lstRecipes: the selected entry.
+    std::vector<DialogControl> Controls() const override;
+    // lstRecipes selects the entry of that text. False for another control and for a text that is none.
+    bool SetControl(std::string_view name, std::string_view text) override;
+    // cmdRestore and cmdDiscard act on the selected recipe, cmdRestoreAll and cmdDiscardAll on all of them;
+    // throwing away asks first. cmdClose leaves the rest for later.
+    bool Press(std::string_view button) override;
+    void CloseBox() override { open_ = false; }
+    bool IsOpen() const override { return open_; }
+
+  private:
+    void RestoreSelected();
+    void RestoreAll();
+    void DiscardSelected();
+    void DiscardAll();
+    void Drop(int index);
+
+    Shell& shell_;
+    MessagePort& messages_;
+    std::vector<LostRecipe> lost_;
+    int selected_ = 0;
+    bool open_ = true;
+};
+
+}  // namespace tw

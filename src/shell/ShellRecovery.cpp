@@ -1,0 +1,60 @@
+// Unsaved work outside the database: kept while the program runs, offered at the next start.
+#include "document/RecipeSnapshot.h"
+#include "shell/RecoveryModel.h"
+#include "shell/Shell.h"
+
+namespace tw {
+
+void Shell::DocumentEdited(const RecipeDocument& document) {
+    if (!recovery_) return;
+    editedKeys_.insert(document.Key());
+    if (view_) view_->UnsavedWorkWaits();
+}
+
+void Shell::KeepUnsavedWork() {
+    if (!recovery_) return;
+    for (const auto& document : documents_)
+        if (editedKeys_.contains(document->Key()) && document->Changed())
+            recovery_->Keep(document->Key(), document->TakeSnapshot());
+    editedKeys_.clear();
+}
+
+void Shell::ForgetUnsavedWork(const RecipeDocument& document) {
+    if (!recovery_) return;
+    editedKeys_.erase(document.Key());
+    recovery_->Forget(document.Key());
+}
+
+void Shell::ReportPutAside(const std::string& file) {
+    platform_.messages.ShowMessage(
+        "Unsaved Changes",
+        "Unsaved changes of an earlier run cannot be read. They are left in the file\r\n  " + file);
+}
+
+void Shell::OfferRecovery() {
+    if (!recovery_) return;
+    FoundRecipes found = recovery_->Find();
+    for (const std::string& file : found.putAside) ReportPutAside(file);
+    if (found.lost.empty()) return;
+    RecoveryModel dialog(*this, platform_.messages, std::move(found.lost));
+    platform_.dialogs.ShowModal(dialog);
+}
+
+bool Shell::RestoreLostRecipe(const LostRecipe& lost) {
+    RecipeDocument& document = CreateDocumentWindow("");
+    try {
+        document.Restore(lost.snapshot);
+    } catch (const Error&) {
+        DeleteWindow(document);
+        ReportPutAside(recovery_->PutAside(lost.file));
+        return false;
+    }
+    recovery_->Adopt(document.Key(), lost.file);
+    return true;
+}
+
+void Shell::DiscardLostRecipe(const LostRecipe& lost) {
+    recovery_->Discard(lost.file);
+}
+
+}  // namespace tw

@@ -1,0 +1,25 @@
+// Two arrows that step the number in the box beside them.
+#pragma once
+
+#include <QWidget>
+
+namespace tw {
+
+class UpDown final : public QWidget {
+    Q_OBJECT
+  public:
+    // upName and downName: what the arrows are called for assistive programs.
+    UpDown(const QString& upName, const QString& downName, QWidget* parent);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  signals:
+    // by: 1 or -1. An arrow held down repeats.
+    void Stepped(int by);
+
+  private:
+    void AddArrow(Qt::ArrowType arrow, const QString& name, int by);
+};
+
+}  // namespace tw

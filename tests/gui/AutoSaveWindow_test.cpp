@@ -1,0 +1,176 @@
+// Autosave and the keeping of unsaved work in the real windows: their timers, their windows, and what is
+// being typed meanwhile.
+#include <QSignalSpy>
+
+#include "GuiTest.h"
+#include "platform/qt/QtDialogs.h"
+#include "shell/RecoveryModel.h"
+#include "shell/ui/RecoveryDialog.h"
+#include "shell/ui/frmAutoSave.h"
+
+namespace tw::test {
+namespace {
+
+class AutoSaveWindow : public GuiTest {
+  protected:
+    QTimer& Timer(const char* name) {
+        auto* timer = window.findChild<QTimer*>(QLatin1String(name));
+        EXPECT_NE(timer, nullptr) << name;
+        return *timer;
+    }
+    // A recipe in front that is stored.
+    RecipeDocument& Stored(const char* name) {
+        NewRecipe();
+        RecipeDocument& document = *shell.ActiveDocument();
+        EXPECT_TRUE(shell.SaveRecipeUnder(document, name, 0, true));
+        return document;
+    }
+    std::string StoredNotes() {
+        return shell.DB()->OpenRecordset("SELECT NOTES FROM RECIPES").Fields(0).Text();
+    }
+    // Shows the real window of autosave in place of the recorder's.
+    void RunAutoSave() {
+        AutoSaveModel model(shell);
+        frmAutoSave progress(model, &window);
+        progress.exec();
+        EXPECT_FALSE(model.IsOpen());
+    }
+};
+
+TEST_F(AutoSaveWindow, TheTimerFollowsTheSwitch) {
+    QTimer& timer = Timer("tmrAutoSave");
+    EXPECT_EQ(timer.interval(), 60000);
+    EXPECT_FALSE(timer.isActive());
+    shell.SetDoAutoSave(true);
+    EXPECT_TRUE(timer.isActive());
+    shell.StoreSetting("Settings", "DoAutoSave", "0");
+    EXPECT_FALSE(timer.isActive());
+}
+
+TEST_F(AutoSaveWindow, TheTimerTicksBehindAnotherWindow) {
+    RecipeDocument& document = Stored("Stout");
+    document.SetText(document.Record().txtNotes, "kept");
+    shell.CurrentSettings().doAutoSaveEvery = 1;
+    shell.SetDoAutoSave(true);
+    Timer("tmrAutoSave").start(0);
+    QDialog other(&window);
+    QObject::connect(&Timer("tmrAutoSave"), &QTimer::timeout, &other, &QDialog::accept);
+    other.exec();
+    EXPECT_EQ(StoredNotes(), "kept");
+    EXPECT_FALSE(document.Changed());
+}
+
+TEST_F(AutoSaveWindow, TheWindowSavesAndGoesByItself) {
+    RecipeDocument& document = Stored("Stout");
+    document.SetText(document.Record().txtNotes, "kept");
+    RunAutoSave();
+    EXPECT_EQ(StoredNotes(), "kept");
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_TRUE(outside.messages.log.empty());
+}
+
+TEST_F(AutoSaveWindow, ShowsTheRecipeAndHowFarItIs) {
+    Stored("Stout");
+    Stored("Porter");
+    AutoSaveModel model(shell);
+    frmAutoSave progress(model, &window);
+    EXPECT_EQ(progress.findChild<QLabel*>(QStringLiteral("lblRecipe"))->text(), QString());
+    progress.exec();
+    auto* bar = progress.findChild<QProgressBar*>(QStringLiteral("ProgressBar1"));
+    EXPECT_EQ(bar->minimum(), 0);
+    EXPECT_EQ(bar->maximum(), 2);
+    EXPECT_EQ(bar->value(), 2);
+    EXPECT_EQ(progress.findChild<QLabel*>(QStringLiteral("lblRecipe"))->text(), QStringLiteral("Porter"));
+}
+
+TEST_F(AutoSaveWindow, AnOpenCellEditorGoesOnBeingTypedInto) {
+    Stored("Stout");
+    GridView& grid = GridAt(Tab::Grains, "gridGrain", 1, 1);
+    Type("12");
+    QPointer<QWidget> editor = QApplication::focusWidget();
+    ASSERT_NE(editor.data(), static_cast<QWidget*>(&grid));
+    RunAutoSave();
+    ASSERT_EQ(QApplication::focusWidget(), editor.data());
+    Type(".5");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(shell.ActiveDocument()->Record().gridGrain.Text(1, 1), "12.5");
+    EXPECT_TRUE(shell.ActiveDocument()->Changed());
+    EXPECT_TRUE(outside.messages.log.empty());
+}
+
+TEST_F(AutoSaveWindow, ABadEntryInABoxBringsNoMessage) {
+    Stored("Stout");
+    auto& box = Find<QLineEdit>("txtTotalVol");
+    box.setFocus();
+    Type("fiv");
+    RunAutoSave();
+    EXPECT_TRUE(outside.messages.log.empty());
+    EXPECT_EQ(box.text(), QStringLiteral("fiv"));
+    EXPECT_EQ(QApplication::focusWidget(), &box);
+}
+
+TEST_F(AutoSaveWindow, EditsAreKeptSomeSecondsLater) {
+    QTemporaryDir folder;
+    const QString database = folder.filePath(QStringLiteral("beer.mdb"));
+    shell.DB()->ExecuteNative("VACUUM INTO " + SqlText(FromQt(database)));
+    Shell second(outside.platform);
+    second.SetRecoveryFolder(FromQt(folder.filePath(QStringLiteral("unsaved"))));
+    frmMain other(second, outside.platform);
+    ASSERT_TRUE(other.StartUp(FromQt(database)));
+    EXPECT_TRUE(outside.dialogs.shown.empty());
+    auto* timer = other.findChild<QTimer*>(QStringLiteral("tmrKeepUnsaved"));
+    RecipeDocument& document = second.CreateDocumentWindow("");
+    EXPECT_FALSE(timer->isActive());
+    document.SetText(document.Record().txtNotes, "typed");
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_LE(timer->interval(), 5000);
+    QSignalSpy ticks(timer, &QTimer::timeout);
+    timer->start(0);
+    ASSERT_TRUE(ticks.wait());
+    Recovery files(Recovery::FolderOf(FromQt(folder.filePath(QStringLiteral("unsaved"))), FromQt(database)));
+    ASSERT_EQ(files.Find().lost.size(), 1u);
+    EXPECT_FALSE(timer->isActive());
+}
+
+TEST_F(AutoSaveWindow, TheRecoveryWindowRestoresWhatIsChosen) {
+    QTemporaryDir folder;
+    const QString database = folder.filePath(QStringLiteral("beer.mdb"));
+    const std::string root = FromQt(folder.filePath(QStringLiteral("unsaved")));
+    shell.DB()->ExecuteNative("VACUUM INTO " + SqlText(FromQt(database)));
+    {
+        Shell lost(outside.platform);
+        lost.SetRecoveryFolder(root);
+        ASSERT_TRUE(lost.PerformSplashScreenInit(FromQt(database)));
+        for (const char* name : {"Stout", "Porter"}) {
+            RecipeDocument& document = lost.CreateDocumentWindow("");
+            document.SetText(document.Record().txtName, name);
+        }
+        lost.KeepUnsavedWork();
+    }
+    Shell next(outside.platform);
+    next.SetRecoveryFolder(root);
+    frmMain other(next, outside.platform);
+    outside.dialogs.scripts.push_back([&](DialogModel& model) {
+        RecoveryDialog dialog(dynamic_cast<RecoveryModel&>(model), &other);
+        dialog.show();
+        auto* list = dialog.findChild<QListWidget*>(QStringLiteral("lstRecipes"));
+        ASSERT_EQ(list->count(), 2);
+        EXPECT_TRUE(list->item(1)->text().startsWith(QStringLiteral("Porter, ")));
+        list->setCurrentRow(1);
+        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("cmdRestore")), Qt::LeftButton);
+        ASSERT_EQ(list->count(), 1);
+        EXPECT_TRUE(dialog.isVisible());
+        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("cmdRestoreAll")), Qt::LeftButton);
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_FALSE(model.IsOpen());
+    });
+    ASSERT_TRUE(other.StartUp(FromQt(database)));
+    ASSERT_EQ(next.Documents().size(), 2u);
+    EXPECT_EQ(next.Documents()[0]->Caption(), "Porter");
+    EXPECT_EQ(FromQt(other.ActiveWindow()->findChild<QLineEdit*>(QStringLiteral("txtName"))->text()),
+              "Stout");
+    EXPECT_TRUE(next.Documents()[0]->Changed());
+}
+
+}  // namespace
+}  // namespace tw::test

@@ -1,0 +1,137 @@
+// What happens to recipes and styles in the database reaches every open document, the recent list first.
+#include "shell/ShellTest.h"
+
+namespace tw::test {
+namespace {
+
+class Notices : public ShellTest {
+  protected:
+    void SetUp() override {
+        ShellTest::SetUp();
+        shell.DB()->Execute("INSERT INTO STYLES (ID, NAME, FOLDER_ID, OG_LO) VALUES (7, 'Stout', 0, 1.035)");
+    }
+    std::string Mru(std::size_t slot) { return shell.Recent().Captions().at(slot); }
+    // Two windows on the same recipe: names in another case open a second one.
+    void OpenTwice(const std::string& name, const std::string& other) {
+        NewSaved(name);
+        shell.LoadDoc(other);
+        ASSERT_EQ(shell.Documents().size(), 2u);
+    }
+};
+
+TEST_F(Notices, AMovedRecipeTakesItsFolderInEveryWindow) {
+    OpenTwice("Mild", "MILD");
+    RecipeDocument& other = NewSaved("Porter");
+    shell.NotifyRecipeMoved("mild ", 4);
+    EXPECT_EQ(shell.Documents()[0]->FolderID(), 4);
+    EXPECT_EQ(shell.Documents()[1]->FolderID(), 4);
+    EXPECT_EQ(other.FolderID(), 0);
+    EXPECT_FALSE(shell.Documents()[0]->Changed());
+}
+
+TEST_F(Notices, ANewStyleShowsInEveryWindowOfTheRecipe) {
+    OpenTwice("Mild", "MILD");
+    RecipeDocument& other = NewSaved("Porter");
+    shell.NotifyRecipeNewStyle("MILD", 7);
+    for (int i : {0, 1}) {
+        EXPECT_EQ(shell.Documents()[static_cast<std::size_t>(i)]->StyleID(), 7);
+        EXPECT_EQ(shell.Documents()[static_cast<std::size_t>(i)]->BeerStyle(), "Stout");
+        EXPECT_FALSE(shell.Documents()[static_cast<std::size_t>(i)]->Changed());
+    }
+    EXPECT_EQ(other.StyleID(), 0);
+}
+
+TEST_F(Notices, ARenamedRecipeIsRenamedInTheRecentListFirst) {
+    RecipeDocument& mild = NewSaved("Mild");
+    NewSaved("Porter");
+    std::string seen;
+    class Watcher : public RecordObserver {
+      public:
+        explicit Watcher(std::function<void()> look) : look_(std::move(look)) {}
+        void TextBoxChanged(const TextBox&) override { look_(); }
+
+      private:
+        std::function<void()> look_;
+    } watcher([&] { seen = Mru(1); });
+    mild.Record().SetObserver(&watcher);
+    shell.NotifyRecipeRenamed("MILD", " Dark Mild ");
+    mild.Record().SetObserver(nullptr);
+    EXPECT_EQ(seen, "&2 Dark Mild");
+    EXPECT_EQ(mild.OrigName(), "Dark Mild");
+    EXPECT_EQ(mild.BeerName(), "Dark Mild");
+    EXPECT_EQ(mild.Caption(), "Dark Mild");
+    EXPECT_FALSE(mild.Changed());
+    EXPECT_EQ(Mru(0), "&1 Porter");
+}
+
+TEST_F(Notices, ANameThatTheBrewerHasEditedStaysAndIsSavedOverTheRenamedRecipe) {
+    RecipeDocument& mild = NewSaved("Mild");
+    mild.SetText(mild.Record().txtName, "Best Mild");
+    shell.DB()->Execute("UPDATE RECIPES SET NAME = 'Dark Mild'");
+    shell.NotifyRecipeRenamed("Mild", "Dark Mild");
+    EXPECT_EQ(mild.BeerName(), "Best Mild");
+    EXPECT_TRUE(shell.SaveRecipe(mild, false));
+    EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Best Mild"});
+    EXPECT_EQ(outside.messages.log, Strings{});
+}
+
+TEST_F(Notices, ARenamedStyleIsShownWithItsNewName) {
+    RecipeDocument& mild = NewSaved("Mild");
+    RecipeDocument& none = NewSaved("Porter");
+    mild.SetStyleID(7);
+    shell.DB()->Execute("UPDATE STYLES SET NAME = 'Dry Stout' WHERE ID = 7");
+    shell.NotifyStyleRenamed(7, "Dry Stout");
+    EXPECT_EQ(mild.BeerStyle(), "Dry Stout");
+    EXPECT_EQ(mild.StyleID(), 7);
+    EXPECT_EQ(none.BeerStyle(), "(None)");
+    EXPECT_FALSE(mild.Changed());
+}
+
+TEST_F(Notices, ADeletedStyleLeavesNoneAndNoRanges) {
+    RecipeDocument& mild = NewSaved("Mild");
+    mild.SetStyleID(7);
+    EXPECT_NE(mild.Record().lblOGStyle.Text(), "");
+    shell.DB()->Execute("DELETE FROM STYLES WHERE ID = 7");
+    shell.NotifyStyleDeleted(7);
+    EXPECT_EQ(mild.StyleID(), 0);
+    EXPECT_EQ(mild.BeerStyle(), "(None)");
+    EXPECT_EQ(mild.Record().lblOGStyle.Text(), "");
+    EXPECT_FALSE(mild.Changed());
+}
+
+TEST_F(Notices, ADeletedRecipeIsDetachedInEveryWindow) {
+    OpenTwice("Mild", "MILD");
+    shell.NotifyRecipeDeleted("mild");
+    for (const auto& document : shell.Documents()) {
+        EXPECT_EQ(document->FolderID(), -1);
+        EXPECT_EQ(document->OrigName(), "");
+        EXPECT_TRUE(document->Changed());
+    }
+    EXPECT_EQ(shell.Recent().Captions(), Strings{});
+}
+
+TEST_F(Notices, DeletingTheFolderDetachesAndClosingAsks) {
+    RecipeDocument& mild = NewSaved("Mild");
+    RecipeDocument& porter = NewSaved("Porter");
+    shell.NotifyRecipeMoved("Mild", 4);
+    shell.NotifyRecipeFolderDeleted(4);
+    EXPECT_TRUE(mild.Changed());
+    EXPECT_EQ(mild.FolderID(), -1);
+    EXPECT_FALSE(porter.Changed());
+    EXPECT_FALSE(shell.CloseDocument(mild));
+    EXPECT_EQ(
+        outside.messages.log,
+        Strings{"[Unsaved Changes] Recipe 'Mild' has changed. Do you wish to save your changes? -> Cancel"});
+    EXPECT_TRUE(shell.CloseDocument(porter));
+}
+
+TEST_F(Notices, WithoutADocumentTheyReachTheRecentListAlone) {
+    shell.Recent().Add("Mild");
+    shell.NotifyRecipeRenamed("Mild", "Bitter");
+    EXPECT_EQ(shell.Recent().Captions(), Strings{"&1 Bitter"});
+    shell.NotifyRecipeDeleted("BITTER ");
+    EXPECT_EQ(shell.Recent().Captions(), Strings{});
+}
+
+}  // namespace
+}  // namespace tw::test

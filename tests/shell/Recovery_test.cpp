@@ -1,0 +1,391 @@
+// Unsaved work outside the database: when its files come and go, what the next start offers, and what becomes
+// of files that cannot be read.
+#include "shell/Recovery.h"
+
+#include <csignal>
+#include <fstream>
+#include <sstream>
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include "shell/RecoveryModel.h"
+#include "shell/ShellTest.h"
+#include "store/Schema.h"
+
+namespace tw::test {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+void CreateDatabaseFile(const std::string& path) {
+    CreateSchema(*Database::CreateDatabase(path, ""));
+}
+
+// One run of the program on a database in a file. Going without Unload is a crash.
+struct ProgramRun {
+    ProgramRun(const std::string& root, const std::string& database) {
+        shell.SetView(&view);
+        shell.SetRecoveryFolder(root);
+        EXPECT_TRUE(shell.PerformSplashScreenInit(database));
+    }
+    RecipeDocument& New(std::string_view name, std::string_view notes) {
+        RecipeDocument& document = shell.CreateDocumentWindow("");
+        document.SetText(document.Record().txtName, name);
+        document.SetText(document.Record().txtNotes, notes);
+        return document;
+    }
+    // What OfferRecovery shows; the dialog is left with "Later" after press.
+    Strings Offer(const std::vector<std::string>& press = {}) {
+        Strings entries;
+        outside.dialogs.scripts.push_back([&entries, press](DialogModel& dialog) {
+            for (const std::string& entry : dynamic_cast<RecoveryModel&>(dialog).Entries())
+                entries.push_back(entry.substr(0, entry.find(',')));
+            for (const std::string& button : press) EXPECT_TRUE(dialog.Press(button)) << button;
+        });
+        shell.OfferRecovery();
+        outside.dialogs.scripts.clear();
+        return entries;
+    }
+
+    RecordingPlatform outside;
+    RecordingView view;
+    Shell shell{outside.platform};
+};
+
+class RecoveryTest : public testing::Test {
+  protected:
+    RecoveryTest() { CreateDatabaseFile(scratch.File("beer.mdb")); }
+    std::unique_ptr<ProgramRun> Start() {
+        return std::make_unique<ProgramRun>(scratch.File("unsaved"), scratch.File("beer.mdb"));
+    }
+    Strings Files() const {
+        Strings names;
+        if (!fs::exists(scratch.File("unsaved"))) return names;
+        for (const auto& entry : fs::recursive_directory_iterator(scratch.File("unsaved")))
+            if (!entry.is_directory() || entry.path().has_extension())
+                names.push_back(entry.path().filename().string());
+        std::ranges::sort(names);
+        return names;
+    }
+    std::string Folder() const {
+        return Recovery::FolderOf(scratch.File("unsaved"), scratch.File("beer.mdb"));
+    }
+    void PutFile(const std::string& name, std::string_view text) {
+        fs::create_directories(Folder());
+        std::ofstream(Folder() + "/" + name, std::ios::binary) << text;
+    }
+    static std::string Contents(const std::string& path) {
+        std::ostringstream text;
+        text << std::ifstream(path, std::ios::binary).rdbuf();
+        return text.str();
+    }
+
+    ScratchFolder scratch;
+};
+
+TEST_F(RecoveryTest, AFileComesSomeTimeAfterAnEditAndGoesWithTheSave) {
+    auto run = Start();
+    RecipeDocument& stout = run->New("Stout", "one");
+    EXPECT_EQ(std::ranges::count(run->view.log, "unsaved work"), 2);
+    EXPECT_THAT(Files(), IsEmpty());
+    run->shell.KeepUnsavedWork();
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
+    EXPECT_TRUE(run->shell.SaveRecipeUnder(stout, "Stout", 0, true));
+    EXPECT_THAT(Files(), IsEmpty());
+    run->shell.KeepUnsavedWork();
+    EXPECT_THAT(Files(), IsEmpty());
+    stout.SetText(stout.Record().txtNotes, "two");
+    run->shell.KeepUnsavedWork();
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
+    run->outside.messages.answers = {Answer::No};
+    EXPECT_TRUE(run->shell.CloseDocument(stout));
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(RecoveryTest, EachChangedDocumentHasAFileAndAnUnchangedOneNone) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->shell.CreateDocumentWindow("");
+    run->New("Porter", "two");
+    run->shell.KeepUnsavedWork();
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved", "2.unsaved"));
+    run->shell.Unload(true);
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(RecoveryTest, TheNextStartRestoresAllOfIt) {
+    auto run = Start();
+    RecipeDocument& stored = run->New("Stout", "stored");
+    ASSERT_TRUE(run->shell.SaveRecipeUnder(stored, "Stout", 0, true));
+    stored.EditCell(stored.Record().gridGrain, 1, 0, "Pale Malt");
+    run->New("", "never saved");
+    run->shell.KeepUnsavedWork();
+    run.reset();
+    run = Start();
+    EXPECT_THAT(run->Offer({"cmdRestoreAll"}), ElementsAre("Stout", "Untitled"));
+    ASSERT_EQ(run->shell.Documents().size(), 2u);
+    const RecipeDocument& stout = *run->shell.Documents()[0];
+    EXPECT_EQ(stout.Record().gridGrain.Text(1, 0), "Pale Malt");
+    EXPECT_EQ(stout.OrigName(), "Stout");
+    EXPECT_EQ(stout.FolderID(), 0);
+    EXPECT_TRUE(stout.Changed());
+    EXPECT_EQ(run->shell.Documents()[1]->Caption(), "Untitled 2");
+    EXPECT_EQ(run->shell.Documents()[1]->Record().txtNotes.Text(), "never saved");
+    EXPECT_TRUE(run->shell.Bar().FindItem("mnuFileSave")->enabled);
+    EXPECT_EQ(run->shell.ActiveDocument(), run->shell.Documents()[1].get());
+    // The stored recipe is as it was.
+    EXPECT_TRUE(
+        run->shell.DB()->OpenRecordset("SELECT * FROM RECIPE_GRAINS WHERE NAME = 'Pale Malt'").AtEnd());
+    EXPECT_THAT(run->outside.messages.log, IsEmpty());
+}
+
+TEST_F(RecoveryTest, ARestoredRecipeSurvivesTheNextCrashTooAndGoesWithItsSave) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    run = nullptr;
+    run = Start();
+    run->Offer({"cmdRestore"});
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
+    run = nullptr;
+    run = Start();
+    EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));
+    EXPECT_TRUE(run->shell.SaveRecipeUnder(*run->shell.ActiveDocument(), "Stout", 0, true));
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(RecoveryTest, NothingIsShownWhenNothingWasLost) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    run->shell.Unload(true);
+    run = nullptr;
+    run = Start();
+    run->shell.OfferRecovery();
+    EXPECT_THAT(run->outside.dialogs.shown, IsEmpty());
+    EXPECT_THAT(run->outside.messages.log, IsEmpty());
+}
+
+TEST_F(RecoveryTest, LaterOffersTheRestAgainAtTheNextStart) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->New("Porter", "two");
+    run->shell.KeepUnsavedWork();
+    run = nullptr;
+    run = Start();
+    EXPECT_THAT(run->Offer({"cmdRestore", "cmdClose"}), ElementsAre("Stout", "Porter"));
+    // What is open has its file from now on, and a new document takes another one.
+    run->New("Mild", "three");
+    run->shell.KeepUnsavedWork();
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved", "2.unsaved", "3.unsaved"));
+    run->shell.Unload(true);
+    run = nullptr;
+    run = Start();
+    EXPECT_THAT(run->Offer(), ElementsAre("Porter"));
+}
+
+TEST_F(RecoveryTest, ThrowingAwayAsksFirst) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->New("Porter", "two");
+    run->New("Mild", "three");
+    run->shell.KeepUnsavedWork();
+    run = nullptr;
+    run = Start();
+    run->outside.messages.answers = {Answer::No, Answer::Yes, Answer::No};
+    run->Offer({"cmdDiscard", "cmdDiscard", "cmdDiscardAll"});
+    EXPECT_THAT(run->outside.messages.TakeLog(),
+                ElementsAre("[Unsaved Changes] Throw away the unsaved changes of recipe 'Stout'? -> No",
+                            "[Unsaved Changes] Throw away the unsaved changes of recipe 'Stout'? -> Yes",
+                            "[Unsaved Changes] Throw away the unsaved changes of all 2 recipes? -> No"));
+    run->outside.messages.answers = {Answer::Yes};
+    EXPECT_THAT(run->Offer({"cmdDiscardAll"}), ElementsAre("Porter", "Mild"));
+    EXPECT_THAT(Files(), IsEmpty());
+    EXPECT_TRUE(run->shell.Documents().empty());
+}
+
+TEST_F(RecoveryTest, TheListIsChosenFromByItsEntries) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->New("Porter", "two");
+    run->shell.KeepUnsavedWork();
+    run = nullptr;
+    run = Start();
+    run->outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+        const std::string first = dialog.Controls()[0].text;
+        const std::string second = dynamic_cast<RecoveryModel&>(dialog).Entries()[1];
+        EXPECT_FALSE(dialog.SetControl("lstRecipes", "Mild"));
+        EXPECT_FALSE(dialog.SetControl("txtName", first));
+        EXPECT_TRUE(dialog.SetControl("lstRecipes", second));
+        EXPECT_TRUE(dialog.Press("cmdRestore"));
+        EXPECT_EQ(dialog.Controls()[0].text, first);
+        EXPECT_FALSE(dialog.Press("cmdOK"));
+        EXPECT_TRUE(dialog.IsOpen());
+    });
+    run->shell.OfferRecovery();
+    EXPECT_EQ(run->shell.ActiveDocument()->BeerName(), "Porter");
+}
+
+TEST_F(RecoveryTest, ADamagedFileIsReportedOnceAndKeptAside) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    run = nullptr;
+    const std::string good = Contents(Folder() + "/1.unsaved");
+    PutFile("2.unsaved", good.substr(0, good.size() / 2));
+    PutFile("3.unsaved", "");
+    PutFile("4.unsaved", std::string("\0\xff\xfe binary", 10));
+    std::string turned = good;
+    turned[turned.size() / 2] ^= 1;
+    PutFile("5.unsaved", turned);
+    fs::create_directories(Folder() + "/6.unsaved");
+    run = Start();
+    EXPECT_THAT(run->Offer(), ElementsAre("Stout"));
+    Strings boxes;
+    for (int file = 2; file <= 6; ++file)
+        boxes.push_back(
+            "[Unsaved Changes] Unsaved changes of an earlier run cannot be read. They are left in the "
+            "file\r\n  " +
+            Folder() + "/" + std::to_string(file) + ".unsaved.damaged");
+    EXPECT_EQ(run->outside.messages.log, boxes);
+    EXPECT_EQ(Contents(Folder() + "/5.unsaved.damaged"), turned);
+    run = nullptr;
+    run = Start();
+    EXPECT_THAT(run->Offer(), ElementsAre("Stout"));
+    EXPECT_THAT(run->outside.messages.log, IsEmpty());
+}
+
+TEST_F(RecoveryTest, ASecondDamagedFileOfTheSameNameDoesNotReplaceTheFirst) {
+    PutFile("1.unsaved.damaged", "first");
+    PutFile("1.unsaved", "second");
+    Start()->Offer();
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved.damaged", "1.unsaved.damaged2"));
+    EXPECT_EQ(Contents(Folder() + "/1.unsaved.damaged"), "first");
+}
+
+TEST_F(RecoveryTest, ARecipeThatFitsNoGridIsPutAsideWhenItIsRestored) {
+    const std::string body =
+        "Tunwright unsaved recipe 1\nfield txtName \"Odd\" \"\" 0\ngrid gridGrain\nrow\n";
+    PutFile("1.unsaved", body + "end " + HashText(body) + "\n");
+    auto run = Start();
+    EXPECT_THAT(run->Offer({"cmdRestoreAll"}), ElementsAre("Odd"));
+    EXPECT_TRUE(run->shell.Documents().empty());
+    EXPECT_EQ(run->outside.messages.log.size(), 1u);
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved.damaged"));
+}
+
+TEST_F(RecoveryTest, AWritingThatWasCutShortLeavesTheOlderFile) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    run = nullptr;
+    PutFile("1.unsaved.new", "Tunwright unsa");
+    PutFile("7.unsaved.new", "");
+    run = Start();
+    EXPECT_THAT(run->Offer(), ElementsAre("Stout"));
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
+    EXPECT_THAT(run->outside.messages.log, IsEmpty());
+}
+
+TEST_F(RecoveryTest, OtherFilesAreLeftAlone) {
+    PutFile("notes.txt", "mine");
+    auto run = Start();
+    run->shell.OfferRecovery();
+    EXPECT_THAT(run->outside.dialogs.shown, IsEmpty());
+    EXPECT_THAT(Files(), ElementsAre("notes.txt"));
+}
+
+TEST_F(RecoveryTest, AFolderThatCannotBeWrittenCostsNothingButTheFile) {
+    std::ofstream(scratch.File("unsaved")) << "a file where the folder belongs";
+    auto run = Start();
+    run->shell.OfferRecovery();
+    RecipeDocument& stout = run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    EXPECT_TRUE(stout.Changed());
+    EXPECT_THAT(run->outside.messages.log, IsEmpty());
+    fs::remove(scratch.File("unsaved"));
+    stout.SetText(stout.Record().txtNotes, "two");
+    run->shell.KeepUnsavedWork();
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
+}
+
+TEST_F(RecoveryTest, TheFilesAreForTheUsersEyesAlone) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    struct stat status {};
+    ASSERT_EQ(stat((Folder() + "/1.unsaved").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+}
+
+TEST_F(RecoveryTest, EachDatabaseHasItsOwnFiles) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    run = nullptr;
+    CreateDatabaseFile(scratch.File("wine.mdb"));
+    ProgramRun other(scratch.File("unsaved"), scratch.File("wine.mdb"));
+    other.shell.OfferRecovery();
+    EXPECT_THAT(other.outside.dialogs.shown, IsEmpty());
+    fs::create_symlink(scratch.File("beer.mdb"), scratch.File("link.mdb"));
+    EXPECT_EQ(Recovery::FolderOf("x", scratch.File("link.mdb")),
+              Recovery::FolderOf("x", scratch.File("beer.mdb")));
+}
+
+TEST_F(RecoveryTest, AnotherRunningProgramsFilesAreNotTouched) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    // The second program is refused the database and with it the files.
+    RecordingPlatform outside;
+    Shell second(outside.platform);
+    second.SetRecoveryFolder(scratch.File("unsaved"));
+    EXPECT_FALSE(second.PerformSplashScreenInit(scratch.File("beer.mdb")));
+    second.OfferRecovery();
+    second.Unload(true);
+    EXPECT_THAT(outside.dialogs.shown, IsEmpty());
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
+}
+
+TEST_F(RecoveryTest, ADatabaseInMemoryKeepsNothing) {
+    ProgramRun run(scratch.File("unsaved"), ":memory:");
+    run.New("Stout", "one");
+    run.shell.KeepUnsavedWork();
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(RecoveryTest, AFailedSaveLeavesTheFile) {
+    auto run = Start();
+    RecipeDocument& stout = run->New("Stout", "stored");
+    ASSERT_TRUE(run->shell.SaveRecipeUnder(stout, "Stout", 0, true));
+    stout.SetText(stout.Record().txtNotes, "edited");
+    run->shell.KeepUnsavedWork();
+    run->shell.DB()->ExecuteNative(
+        "CREATE TRIGGER refuse BEFORE INSERT ON RECIPES BEGIN SELECT RAISE(ABORT, 'no'); END");
+    EXPECT_FALSE(run->shell.SaveRecipe(stout, false));
+    run = nullptr;
+    run = Start();
+    EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));
+    EXPECT_EQ(run->shell.ActiveDocument()->Record().txtNotes.Text(), "edited");
+}
+
+TEST_F(RecoveryTest, AProgramThatIsKilledLosesNothingThatWasKept) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            auto run = Start();
+            run->New("Stout", "killed");
+            run->shell.KeepUnsavedWork();
+            raise(SIGKILL);
+        },
+        testing::KilledBySignal(SIGKILL), "");
+    // The killed process made the folder of this test anew, as the first line of the test did here.
+    auto run = Start();
+    EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));
+    EXPECT_EQ(run->shell.ActiveDocument()->Record().txtNotes.Text(), "killed");
+}
+
+}  // namespace
+}  // namespace tw::test
