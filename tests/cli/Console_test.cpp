@@ -120,9 +120,10 @@ TEST(Console, SurvivesHugeLinesAndNumbers) {
     const std::string huge(3'000'000, 'x');
     EXPECT_EQ(RunText("new\nset txtName " + huge + "\nget txtName\n").out, huge + "\n");
     const std::string digits(1000, '9');
-    for (const std::string& line : std::vector<std::string>{"get gridGrain " + digits + " 0", "row gridGrain 2147483647", "delete gridGrain 2147483647",
-          "insert gridGrain 2147483647", "tab " + digits, "cell gridGrain -1 0 x",
-          "number gridGrain 0 " + digits, "quantity " + digits + " 1"}) {
+    for (const std::string& line : std::vector<std::string>{
+             "get gridGrain " + digits + " 0", "row gridGrain 2147483647", "delete gridGrain 2147483647",
+             "insert gridGrain 2147483647", "tab " + digits, "cell gridGrain -1 0 x",
+             "number gridGrain 0 " + digits, "quantity " + digits + " 1"}) {
         EXPECT_EQ(RunText("new\n" + line + "\n").status, ExitStatus::BadLine) << line.substr(0, 40);
     }
 }

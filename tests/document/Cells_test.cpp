@@ -121,12 +121,12 @@ TEST_F(CellsTest, AnAmountRunsItsChainInOrder) {
     host.log.clear();
     // 10 * 36 * 0.5 / 5 = 36 points; 10 * 2 / 5 = 4; BG 1 + 0.036 * 5 / 6 = 1.03
     ASSERT_TRUE(Put(R().gridGrain, 1, GrainCol::Amount, "10"));
-    EXPECT_THAT(host.log,
-                ElementsAre("gridGrain 1,1=10", "gridGrain 1,3=36", "gridGrain 2,3=36", "gridGrain 1,5=4",
-                            "gridGrain 2,5=4", "gridGrain 2,1=10 lbs.", "txtOG=1.036",
-                            "EnableChangeStrength on", "txtBG=1.030", "EnableChangeBitterness off",
-                            "txtColor=4 SRM (4 HCU)", "swatch", "EnableUndo on", "EnableRedo off",
-                            "EnableSave on", "DocumentRenamed A"));
+    EXPECT_THAT(
+        host.log,
+        ElementsAre("gridGrain 1,1=10", "gridGrain 1,3=36", "gridGrain 2,3=36", "gridGrain 1,5=4",
+                    "gridGrain 2,5=4", "gridGrain 2,1=10 lbs.", "txtOG=1.036", "EnableChangeStrength on",
+                    "txtBG=1.030", "EnableChangeBitterness off", "txtColor=4 SRM (4 HCU)", "swatch",
+                    "EnableUndo on", "EnableRedo off", "EnableSave on", "DocumentRenamed A"));
     R().SetObserver(nullptr);
 }
 

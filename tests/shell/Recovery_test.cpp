@@ -4,8 +4,8 @@
 
 #include <csignal>
 #include <fstream>
-#include <sstream>
 #include <gmock/gmock.h>
+#include <sstream>
 #include <sys/stat.h>
 
 #include "shell/RecoveryModel.h"

@@ -51,8 +51,8 @@ class DocumentBinding final : public RecordObserver {
     // Runs an operation on the document; an error that rises is shown. False then, and after Detach.
     bool Run(const std::function<void(RecipeDocument&)>& operation);
 
-    // Whether the focus goes for good: neither a menu or list opens over the control nor another program comes
-    // in front. Another recipe's window in front is leaving.
+    // Whether the focus goes for good: neither a menu or list opens over the control nor another program
+    // comes in front. Another recipe's window in front is leaving.
     static bool IsLeaving(const QFocusEvent& event, const QWidget& control);
     // The text box that may hold an uncommitted text; commit gives false for a bad entry.
     void SetActiveField(QWidget* field, std::function<bool()> commit);

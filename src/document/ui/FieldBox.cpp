@@ -76,7 +76,9 @@ void FieldBox::focusInEvent(QFocusEvent* event) {
 
 void FieldBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    if (!DocumentBinding::IsLeaving(*event, *this) || computed_ || binding_.IsRefusing() || !binding_.Document()) return;
+    if (!DocumentBinding::IsLeaving(*event, *this) || computed_ || binding_.IsRefusing() ||
+        !binding_.Document())
+        return;
     if (Commit()) return;
     binding_.Refuse(this, [this] {
         setFocus();

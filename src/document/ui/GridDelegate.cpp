@@ -199,7 +199,8 @@ bool GridDelegate::eventFilter(QObject* object, QEvent* event) {
         case QEvent::FocusOut: {
             const QWidget* now = QApplication::focusWidget();
             const bool stays = now == editor || (now && editor->isAncestorOf(now));
-            if (!stays && DocumentBinding::IsLeaving(*static_cast<QFocusEvent*>(event), *editor)) Close(*editor, NoHint);
+            if (!stays && DocumentBinding::IsLeaving(*static_cast<QFocusEvent*>(event), *editor))
+                Close(*editor, NoHint);
             return false;
         }
         default:

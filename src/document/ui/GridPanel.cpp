@@ -64,8 +64,7 @@ void GridPanel::MakeTotals(DocumentBinding& binding, Grid& grid) {
     totals_->setFocusPolicy(Qt::ClickFocus);
     totals_->setWordWrap(false);
     totals_->setShowGrid(false);
-    connect(totals_->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            &GridPanel::TotalChosen);
+    connect(totals_->selectionModel(), &QItemSelectionModel::currentChanged, this, &GridPanel::TotalChosen);
     // The same cell again, after one of the rows above.
     connect(totals_, &QTableView::clicked, this, &GridPanel::TotalChosen);
     view_->SetTotals(totals_);

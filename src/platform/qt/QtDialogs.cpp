@@ -33,8 +33,7 @@ void QtDialogs::RestoreSize(QDialog& window) const {
     const double dots = window.screen()->logicalDotsPerInch();
     const QSize size(PixelsOfTwips(sides[0].toInt(), dots), PixelsOfTwips(sides[1].toInt(), dots));
     if (!size.isEmpty())
-        window.resize(
-            size.expandedTo(window.minimumSizeHint()).boundedTo(window.screen()->availableSize()));
+        window.resize(size.expandedTo(window.minimumSizeHint()).boundedTo(window.screen()->availableSize()));
 }
 
 void QtDialogs::KeepSize(const QDialog& window) const {
