@@ -88,6 +88,31 @@ TEST_F(DocumentWindow, StaysOnTheTabOfARefusedBox) {
     EXPECT_EQ(Focus(), "txtBoilVol");
 }
 
+TEST_F(DocumentWindow, CommitsWhenAnotherRecipeComesToTheFront) {
+    NewRecipe();
+    RecipeDocument& first = *shell.ActiveDocument();
+    Find<QLineEdit>("txtBoilVol").setFocus();
+    Type("6 gal");
+    NewRecipe();
+    EXPECT_DOUBLE_EQ(first.Record().txtBoilVol.Value(), 6);
+    // A refused entry calls the new recipe off.
+    Find<QLineEdit>("txtBoilVol").setFocus();
+    Type("much");
+    EXPECT_TRUE(window.RunCommand("mnuFileNew"));
+    EXPECT_EQ(shell.Documents().size(), 2U);
+    EXPECT_EQ(Focus(), "txtBoilVol");
+}
+
+TEST_F(DocumentWindow, ARightClickInABoxOpensTheEditMenu) {
+    NewRecipe();
+    auto& box = Find<QLineEdit>("txtBoilVol");
+    QContextMenuEvent click(QContextMenuEvent::Mouse, QPoint(3, 3), box.mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(&box, &click);
+    auto* menu = window.findChild<QMenu*>(QStringLiteral("mnuEdit"));
+    EXPECT_TRUE(menu->isVisible());
+    menu->hide();
+}
+
 TEST_F(DocumentWindow, RefusesToSaveOrCloseOverABadEntry) {
     NewRecipe();
     Type("Bad");
@@ -139,6 +164,17 @@ TEST_F(DocumentWindow, ChoosesAStyleByAnyPartOfItsName) {
     EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), "Stout");
     EXPECT_EQ(Find<QLabel>("lblOGStyle").text(), QStringLiteral("1.020 - 1.030"));
     EXPECT_EQ(Find<QLabel>("lblIBUStyle").text(), QStringLiteral(">= 25"));
+    // A part that only one style holds stands for it.
+    styles.setFocus();
+    Type("(no");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), "(None)");
+    Type("tou");
+    // Not settled yet, and the list of matches is open: whatever leaves the box settles it.
+    EXPECT_TRUE(styles.completer()->popup()->isVisible());
+    EXPECT_TRUE(window.ActiveWindow()->Flush());
+    EXPECT_FALSE(styles.completer()->popup()->isVisible());
+    EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), "Stout");
     // What is no style gives way to the choice.
     Type("no such beer");
     Key(Qt::Key_Tab);

@@ -136,6 +136,70 @@ TEST_F(GridEditing, RowsComeAndGoByKey) {
     EXPECT_EQ(view.Model().rowCount(), 2);
 }
 
+TEST_F(GridEditing, TheNewRowIsTheCurrentOne) {
+    auto& view = GridAt(Tab::Grains, "gridGrain", 1, 1);
+    Type("8 lb");
+    Key(Qt::Key_Return);
+    Key(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(R().gridGrain.CurrentRow(), 1);
+    EXPECT_EQ(view.currentIndex(), view.Model().index(0, 0));
+    Type("Rye");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Shown(view, 1, 0), "Rye");
+    EXPECT_EQ(Shown(view, 2, 1), "8 lb");
+    // Below it the old row, which Delete takes away.
+    Key(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Shown(view, 1, 0), "Rye");
+    EXPECT_EQ(R().gridGrain.CurrentRow(), 1);
+    EXPECT_EQ(view.currentIndex().row(), 0);
+}
+
+TEST_F(GridEditing, TheFirstRowOfAnEmptyGridTakesTheKeys) {
+    auto& view = GridAt(Tab::Adjuncts, "gridAdjuncts", 1, 0);
+    Key(Qt::Key_Plus, Qt::ControlModifier);
+    Type("Irish moss");
+    Key(Qt::Key_Tab);
+    Type("1 tsp");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Shown(view, 1, 0), "Irish moss");
+    EXPECT_EQ(Shown(view, 1, 1), "1 tsp");
+}
+
+TEST_F(GridEditing, InsertingFromABoxBesidePutsTheKeysIntoTheNewRow) {
+    GridAt(Tab::Grains, "gridGrain", 1, GrainCol::Color);
+    Find<QLineEdit>("txtExtract").setFocus();
+    Key(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(Focus(), "gridGrain");
+    EXPECT_EQ(R().gridGrain.CurrentRow(), 1);
+    EXPECT_EQ(R().gridGrain.CurrentCol(), 0);
+}
+
+TEST_F(GridEditing, TotalsAndRowsShareOneCurrentCell) {
+    auto& view = GridAt(Tab::Grains, "gridGrain", 1, 1);
+    Key(Qt::Key_Plus, Qt::ControlModifier);
+    auto& totals = Find<QTableView>("gridGrainTotals");
+    const QPoint total = totals.visualRect(totals.model()->index(0, 1)).center();
+    const auto clickTotal = [&] { QTest::mouseClick(totals.viewport(), Qt::LeftButton, {}, total); };
+    clickTotal();
+    EXPECT_EQ(R().gridGrain.CurrentRow(), 3);
+    EXPECT_FALSE(shell.Bar().FindItem("mnuEditDelete")->enabled);
+    EXPECT_FALSE(view.IsCurrentCell(view.currentIndex()));
+    // Back to the cell that was current among the rows, and to the same total again.
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(view.currentIndex()).center());
+    EXPECT_EQ(R().gridGrain.CurrentRow(), 1);
+    EXPECT_TRUE(shell.Bar().FindItem("mnuEditDelete")->enabled);
+    clickTotal();
+    EXPECT_EQ(R().gridGrain.CurrentRow(), 3);
+    EXPECT_FALSE(shell.Bar().FindItem("mnuEditDelete")->enabled);
+}
+
+TEST_F(GridEditing, TheWaterTabStartsInACellThatTakesAnEntry) {
+    window.ActiveWindow()->ShowTab(Tab::Water);
+    EXPECT_EQ(Focus(), "gridWater");
+    EXPECT_EQ(R().gridWater.CurrentRow(), WaterRow::Source);
+    EXPECT_EQ(R().gridWater.CurrentCol(), WaterCol::Profile);
+}
+
 TEST_F(GridEditing, AReadOnlyCellOpensNoEditor) {
     GridAt(Tab::Grains, "gridGrain", 1, GrainCol::Points);
     Type("5");

@@ -1,5 +1,8 @@
 // The main window: its menus and toolbar, its place on the screen, its documents, its end.
 #include "GuiTest.h"
+#include "platform/qt/QtDialogs.h"
+#include "shell/AboutModel.h"
+#include "shell/ui/AboutDialog.h"
 #include "shell/ui/CommandTips.h"
 #include "shell/ui/DocumentArea.h"
 #include "shell/ui/Icons.h"
@@ -100,6 +103,38 @@ TEST_F(MainWindow, TilesAcrossAndDown) {
     for (const QMdiSubWindow* child : area->subWindowList()) EXPECT_EQ(child->width(), all.width());
     ASSERT_TRUE(window.RunCommand("mnuWindowTileVertical"));
     for (const QMdiSubWindow* child : area->subWindowList()) EXPECT_EQ(child->height(), all.height());
+}
+
+TEST_F(MainWindow, CascadesEveryFrameWithinSight) {
+    for (int i = 0; i < 8; ++i) NewRecipe();
+    auto* area = window.findChild<DocumentArea*>();
+    ASSERT_TRUE(window.RunCommand("mnuWindowCascade"));
+    for (const QMdiSubWindow* child : area->subWindowList())
+        EXPECT_TRUE(area->viewport()->rect().contains(child->geometry())) << FromQt(child->windowTitle());
+}
+
+TEST_F(MainWindow, DialogsComeUpInTheSizeTheyWereLeftIn) {
+    QtDialogs dialogs(outside.settings);
+    QSize left, found;
+    dialogs.Register("frmAbout", [&](DialogModel& model, QWidget* parent) {
+        auto dialog = AboutDialog::Make(model, parent);
+        QTimer::singleShot(0, dialog.get(), [&, dialog = dialog.get()] {
+            found = dialog->size();
+            dialog->resize(found + QSize(30, 15));
+            left = dialog->size();
+            dialog->reject();
+        });
+        return dialog;
+    });
+    for (int time = 0; time < 2; ++time) {
+        const QSize before = left;
+        AboutModel about;
+        dialogs.ShowModal(about);
+        EXPECT_FALSE(about.IsOpen());
+        if (time > 0) {
+            EXPECT_EQ(found, before);
+        }
+    }
 }
 
 TEST_F(MainWindow, RemembersWhetherRecipesAreMaximized) {

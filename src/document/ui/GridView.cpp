@@ -108,6 +108,8 @@ void GridView::FollowRows(const std::function<void()>& change) {
     following_ = true;
     change();
     following_ = false;
+    // With the last row gone, the one above it is next, not the totals.
+    if (grid_ && !grid_->IsDataRow(grid_->CurrentRow())) TellCurrentCell();
     ShowCurrentCell();
     emit ContentChanged();
 }

@@ -86,6 +86,8 @@ void ListField::Settle() {
 void ListField::focusInEvent(QFocusEvent* event) {
     QComboBox::focusInEvent(event);
     binding_.SetActiveField(this, [this] {
+        // Left open, the list of matches would go on catching the keys.
+        completer()->popup()->hide();
         Settle();
         return true;
     });
