@@ -142,6 +142,8 @@ class QuietHost : public tw::DocumentHost, public tw::DocumentCommands {
         return {"72%", "1.0", "", "6.5 gal", "5 gal", 0, 0, 0, true};
     }
     bool AppendRows() const override { return true; }
+    bool CopyHeaders() const override { return false; }
+    bool PasteMismatchSize() const override { return false; }
     void DeleteRecipe(std::string_view) override {}
     void RecipeStored(std::string_view) override {}
     void AddToMRU(std::string_view) override {}

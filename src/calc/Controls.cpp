@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "values/Text.h"
+
 namespace tw {
 namespace {
 
@@ -13,6 +15,18 @@ void TextBox::SetText(std::string_view text) {
     if (text_ == text) return;
     text_ = text;
     if (link_->observer) link_->observer->TextBoxChanged(*this);
+}
+
+TextSelection TextBox::Selection() const {
+    const int count = static_cast<int>(CodePointCount(text_));
+    const int start = std::clamp(selection_.start, 0, count);
+    return {start, std::clamp(selection_.length, 0, count - start)};
+}
+
+void TextBox::Select(TextSelection selection) {
+    if (selection_ == selection) return;
+    selection_ = selection;
+    if (link_->observer) link_->observer->TextSelectionChanged(*this);
 }
 
 void Label::SetText(std::string_view text) {

@@ -29,6 +29,7 @@ class RecordObserver {
   public:
     virtual ~RecordObserver() = default;
     virtual void TextBoxChanged(const TextBox&) {}
+    virtual void TextSelectionChanged(const TextBox&) {}
     virtual void LabelChanged(const Label&) {}
     virtual void ButtonChanged(const Button&) {}
     // The entries or the selection of a list.
@@ -48,6 +49,13 @@ class RecordObserver {
 // What the objects of one record share: the observer of the moment, or none.
 struct RecordLink {
     RecordObserver* observer = nullptr;
+};
+
+// Selected characters of a text box, counted in code points; without a length the place of the caret.
+struct TextSelection {
+    int start = 0;
+    int length = 0;
+    bool operator==(const TextSelection&) const = default;
 };
 
 // A text box: the text shown, the last committed text, and the number behind the committed text in the
@@ -73,11 +81,16 @@ class TextBox {
     double Value() const { return value_; }
     void SetValue(double value) { value_ = value; }
 
+    // The selection, clipped to the text.
+    TextSelection Selection() const;
+    void Select(TextSelection selection);
+
   private:
     RecordLink* link_;
     std::string name_;
     std::string text_;
     std::string committed_;
+    TextSelection selection_;
     double value_ = 0;
     bool computed_;
 };

@@ -27,6 +27,7 @@ Grid::Grid(RecordLink& link, Layout layout) : link_(&link), layout_(std::move(la
         row.paint = CellPaint::Total;
         rows_.push_back(std::move(row));
     }
+    SetCurrent(FixedRows(), 0);
 }
 
 Grid::Row Grid::MakeRow() const {
@@ -111,6 +112,8 @@ void Grid::RestoreCells(int row, const std::vector<Cell>& cells) {
 void Grid::InsertRow(int row) {
     rows_.insert(rows_.begin() + row, MakeRow());
     if (link_->observer) link_->observer->RowInserted(*this, row);
+    // The first row of an empty grid.
+    if (currentRow_ < FixedRows()) SetCurrent(row, currentCol_);
 }
 
 void Grid::RemoveRow(int row) {

@@ -46,7 +46,7 @@ enum class CellPaint : std::uint8_t { Plain, ReadOnly, Total };
 
 // A rectangle of cells, both corners included.
 struct GridRange {
-    int row1 = 1, col1 = 0, row2 = 1, col2 = 0;
+    int row1 = 0, col1 = 0, row2 = 0, col2 = 0;
     int Rows() const { return row2 - row1 + 1; }
     int Cols() const { return col2 - col1 + 1; }
     bool operator==(const GridRange&) const = default;
@@ -115,7 +115,7 @@ class Grid {
 
     int CurrentRow() const { return currentRow_; }
     int CurrentCol() const { return currentCol_; }
-    // Clips to the grid's cells below the header.
+    // Clips to the grid's cells below the header; to the header where there are none.
     void SetCurrent(int row, int col);
     // The selected cells; the current cell alone unless more were selected since it was made current.
     GridRange Selection() const { return selection_; }
@@ -147,7 +147,7 @@ class Grid {
     RecordLink* link_;
     Layout layout_;
     std::vector<Row> rows_;
-    int currentRow_ = 1;
+    int currentRow_ = 0;
     int currentCol_ = 0;
     GridRange selection_;
 };

@@ -3,18 +3,22 @@
 #include <algorithm>
 
 namespace tw {
+namespace {
+
+constexpr auto kTopics = {CommandsOnValues, CommandsOnRecipes, CommandsOnGrids, CommandsOfEditing,
+                          CommandsOnProgram};
+
+}  // namespace
 
 std::vector<Command> AllCommands() {
     std::vector<Command> all;
-    for (const auto commands :
-         {CommandsOnValues(), CommandsOnRecipes(), CommandsOnGrids(), CommandsOnProgram()})
-        all.insert(all.end(), commands.begin(), commands.end());
+    for (const auto topic : kTopics) all.insert(all.end(), topic().begin(), topic().end());
     return all;
 }
 
 const Command* FindCommand(std::string_view name) {
-    for (const auto commands :
-         {CommandsOnValues(), CommandsOnRecipes(), CommandsOnGrids(), CommandsOnProgram()}) {
+    for (const auto topic : kTopics) {
+        const auto commands = topic();
         const auto found =
             std::find_if(commands.begin(), commands.end(), [&](const Command& c) { return c.name == name; });
         if (found != commands.end()) return &*found;

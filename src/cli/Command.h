@@ -20,9 +20,16 @@ struct Command {
     void (*run)(Session& session, Arguments& arguments);
 };
 
+// The arguments GRID, and ROW or COL named what. Raise ScriptError for an unknown grid or a number below 0.
+Grid& TakeGrid(Session& session, Arguments& arguments);
+int TakeIndex(Arguments& arguments, std::string_view what);
+// Raises ScriptError when the grid has no such cell.
+void CheckCell(const Grid& grid, int row, int col);
+
 std::span<const Command> CommandsOnValues();
 std::span<const Command> CommandsOnRecipes();
 std::span<const Command> CommandsOnGrids();
+std::span<const Command> CommandsOfEditing();
 std::span<const Command> CommandsOnProgram();
 
 // All commands in the order of the help.

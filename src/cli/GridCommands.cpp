@@ -14,14 +14,6 @@ Grid& GridNamed(Session& session, const std::string& name) {
     return *grid;
 }
 
-Grid& TakeGrid(Session& session, Arguments& arguments) {
-    return GridNamed(session, arguments.Word("GRID"));
-}
-
-int TakeIndex(Arguments& arguments, std::string_view what) {
-    return arguments.Integer(what, 0, std::numeric_limits<int>::max());
-}
-
 struct CellPlace {
     Grid& grid;
     int row, col;
@@ -31,8 +23,7 @@ struct CellPlace {
 CellPlace TakePlace(Grid& grid, Arguments& arguments) {
     const int row = TakeIndex(arguments, "ROW");
     const int col = TakeIndex(arguments, "COL");
-    if (!grid.HasCell(row, col))
-        throw ScriptError(grid.Name() + " has no cell " + std::to_string(row) + " " + std::to_string(col));
+    CheckCell(grid, row, col);
     return {grid, row, col};
 }
 
@@ -44,6 +35,7 @@ CellPlace TakeCell(Session& session, Arguments& arguments) {
 void MakeCurrent(Session& session, Grid& grid, int row) {
     if (row < Grid::FixedRows() || row >= grid.Rows())
         throw ScriptError(grid.Name() + " has no row " + std::to_string(row));
+    session.Document().FocusOn(grid);
     session.Document().SetCurrentCell(grid, row, grid.CurrentCol());
 }
 
@@ -53,6 +45,7 @@ void EditCell(Session& session, Arguments& arguments) {
     RecipeDocument& document = session.Document();
     if (!document.CanEdit(grid, row, col) || grid.IsCheckBox(row, col))
         return session.Out().Line("read-only");
+    document.FocusOn(grid);
     document.SetCurrentCell(grid, row, col);
     document.EditCell(grid, row, col, text);
 }
@@ -65,6 +58,7 @@ void Check(Session& session, Arguments& arguments) {
         throw ScriptError("column " + std::to_string(col) + " of " + grid.Name() + " holds no check boxes");
     if (!grid.IsCheckBox(row, col)) return session.Out().Line("read-only");
     RecipeDocument& document = session.Document();
+    document.FocusOn(grid);
     document.SetCurrentCell(grid, row, col);
     document.SetChecked(grid, row, col, checked);
 }
@@ -138,6 +132,7 @@ void Insert(Session& session, Arguments& arguments) {
     const bool firstOfEmpty = grid.DataRows() == 0 && row == grid.EndOfData();
     if (rowGiven && !firstOfEmpty) MakeCurrent(session, grid, row);
     if (!document.CanInsertRow(grid)) return session.Out().Line("off");
+    document.FocusOn(grid);
     document.InsertRowForGrid(grid);
 }
 
@@ -186,6 +181,19 @@ constexpr Command kCommands[] = {
 };
 
 }  // namespace
+
+Grid& TakeGrid(Session& session, Arguments& arguments) {
+    return GridNamed(session, arguments.Word("GRID"));
+}
+
+int TakeIndex(Arguments& arguments, std::string_view what) {
+    return arguments.Integer(what, 0, std::numeric_limits<int>::max());
+}
+
+void CheckCell(const Grid& grid, int row, int col) {
+    if (!grid.HasCell(row, col))
+        throw ScriptError(grid.Name() + " has no cell " + std::to_string(row) + " " + std::to_string(col));
+}
 
 std::span<const Command> CommandsOnGrids() {
     return kCommands;

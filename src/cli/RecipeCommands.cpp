@@ -23,6 +23,7 @@ void Open(Session& session, Arguments& arguments) {
 void Save(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
+    document.FlushEdits();
     session.Program().SaveRecipe(document, false);
 }
 
@@ -30,12 +31,14 @@ void SaveAs(Session& session, Arguments& arguments) {
     const int folder = arguments.Integer("FOLDERID", 0, std::numeric_limits<int>::max());
     const std::string name = arguments.LastName("NAME");
     RecipeDocument& document = session.Document();
+    document.FlushEdits();
     session.Program().SaveRecipeUnder(document, name, folder, false);
 }
 
 void Close(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
+    document.FlushEdits();
     session.Program().CloseDocument(document);
 }
 
@@ -61,6 +64,7 @@ void Set(Session& session, Arguments& arguments) {
     TextBox* const box = document.Record().FindTextBox(name);
     if (box == nullptr) throw ScriptError("there is no text box '" + name + "'");
     if (box->Computed()) return session.Out().Line("read-only");
+    document.FocusOn(*box);
     document.SetText(*box, text);
     if (!document.CommitField(*box)) document.RestoreField(*box);
 }

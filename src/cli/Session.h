@@ -36,6 +36,7 @@ class Session : private ShellView {
 
     ScriptOutput& Out() { return out_; }
     MessagePort& Messages() { return messages_; }
+    ClipboardPort& Clipboard() { return clipboard_; }
     AnswerQueue& Answers() { return answers_; }
     ScriptDialogs& Dialogs() { return dialogs_; }
     SettingsStore& Store() { return store_; }

@@ -47,6 +47,10 @@ class DocumentHost {
     virtual RecipeDefaults Defaults() const = 0;
     // New rows go behind the last data row.
     virtual bool AppendRows() const = 0;
+    // A copy of whole columns takes their headers along.
+    virtual bool CopyHeaders() const = 0;
+    // A paste may repeat or cut a block to fill a selection of another shape.
+    virtual bool PasteMismatchSize() const = 0;
     // Deletes a stored recipe; the notices to open documents run inside.
     virtual void DeleteRecipe(std::string_view name) = 0;
     // A recipe of that name has just been written by a save.

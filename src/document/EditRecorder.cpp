@@ -8,6 +8,11 @@ void EditRecorder::Clear() {
     changed_();
 }
 
+void EditRecorder::DropRedo() {
+    stack_.DropRedo();
+    changed_();
+}
+
 EditTracker* EditRecorder::Store(EditTracker edit) {
     if (compoundHead_) {
         edit.SetTabNumber(-1);

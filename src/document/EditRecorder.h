@@ -19,6 +19,7 @@ class EditRecorder {
     UndoStack& Stack() { return stack_; }
     const UndoStack& Stack() const { return stack_; }
     void Clear();
+    void DropRedo();
 
     // Off while a document is filled and while an undo or redo runs: nothing is recorded then.
     bool Tracking() const { return trackEdits_; }

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstring>
 
+#include "values/Text.h"
+
 namespace tw {
 
 std::string_view ChangeTypeName(ChangeType type) {
@@ -106,6 +108,22 @@ void EditTracker::SetControlID(const std::string& name, int index) {
 std::string EditTracker::GetControlID() const {
     if (!controlName_) return {};
     return controlIndex_ < 0 ? *controlName_ : *controlName_ + "(" + std::to_string(controlIndex_) + ")";
+}
+
+TextSpan ChangedSpan(std::string_view oldText, std::string_view newText) {
+    const auto inCharacter = [](std::string_view text, std::size_t at) {
+        return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
+    };
+    const std::size_t common = std::min(oldText.size(), newText.size());
+    std::size_t begin = 0;
+    while (begin < common && oldText[begin] == newText[begin]) ++begin;
+    while (begin > 0 && (inCharacter(oldText, begin) || inCharacter(newText, begin))) --begin;
+    std::size_t oldEnd = oldText.size(), newEnd = newText.size();
+    while (oldEnd > begin && newEnd > begin && oldText[oldEnd - 1] == newText[newEnd - 1]) --oldEnd, --newEnd;
+    while (inCharacter(oldText, oldEnd) || inCharacter(newText, newEnd)) ++oldEnd, ++newEnd;
+    const auto count = [](std::string_view text) { return static_cast<std::int32_t>(CodePointCount(text)); };
+    return {count(newText.substr(0, begin)), count(oldText.substr(begin, oldEnd - begin)),
+            count(newText.substr(begin, newEnd - begin))};
 }
 
 void EditTracker::SetLocation(int row, int col) {

@@ -63,6 +63,12 @@ struct EditSelection {
     std::int32_t newStart = 0, oldStart = 0, newLength = 0, oldLength = 0;
 };
 
+// Where two texts differ, in code points: between their common beginning and their common end.
+struct TextSpan {
+    std::int32_t start = 0, oldLength = 0, newLength = 0;
+};
+TextSpan ChangedSpan(std::string_view oldText, std::string_view newText);
+
 class EditTracker {
   public:
     EditTracker() = default;

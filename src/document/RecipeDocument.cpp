@@ -99,9 +99,19 @@ bool RecipeDocument::ChooseOption(std::string_view option) {
     return true;
 }
 
+TextBox* RecipeDocument::FirstBoxOfTab(Tab tab) {
+    if (tab == Tab::General) return &record_.txtName;
+    if (tab == Tab::Carbonation) return &record_.txtTemp;
+    return tab == Tab::Notes ? &record_.txtNotes : nullptr;
+}
+
 void RecipeDocument::SetTab(Tab tab) {
     FlushEdits();
     tab_ = tab;
+    if (TextBox* const box = FirstBoxOfTab(tab))
+        FocusOn(*box);
+    else
+        FocusOn(tab == Tab::Water ? record_.gridWater : *GridOfTab(tab));
     recorder_.SetTab(static_cast<int>(tab));
     RefreshRowCommands();
 }
@@ -111,12 +121,15 @@ void RecipeDocument::Activate() {
     commands.EnableSave(changed_);
     calculator_.RefreshCommands();
     RefreshUndoCommands();
-    commands.EnableCopyPaste(true, true);
+    commands.EnableCopyPaste(true, !focusBox_ || !focusBox_->Computed());
     RefreshRowCommands();
 }
 
 void RecipeDocument::FlushEdits() {
-    if (view_) view_->FlushEditors();
+    if (view_)
+        view_->FlushEditors();
+    else if (focusBox_ && !CommitField(*focusBox_))
+        RestoreField(*focusBox_);
 }
 
 void RecipeDocument::ActiveCommands::EnableResizeRecipe(bool enabled) {

@@ -12,6 +12,7 @@
 
 #include "calc/RecipeCalculator.h"
 #include "calc/RecipeRecord.h"
+#include "document/ClipboardBlock.h"
 #include "document/DocumentHost.h"
 #include "document/EditRecorder.h"
 #include "platform/Ports.h"
@@ -40,6 +41,26 @@ class DocumentView {
     virtual void FlushEditors() = 0;
     // An undo or redo works on that tab.
     virtual void TabWanted(Tab) {}
+    // The control of that name should have the focus, if it can be seen.
+    virtual void ControlWanted(const std::string& /*name*/) {}
+    // Many changes come: nothing needs to be painted until they are all there. Calls nest.
+    virtual void HoldRedraw(bool /*hold*/) {}
+};
+
+// For the time of a scope the window does not paint.
+class RedrawHold {
+  public:
+    explicit RedrawHold(DocumentView* view) : view_(view) {
+        if (view_) view_->HoldRedraw(true);
+    }
+    ~RedrawHold() {
+        if (view_) view_->HoldRedraw(false);
+    }
+    RedrawHold(const RedrawHold&) = delete;
+    RedrawHold& operator=(const RedrawHold&) = delete;
+
+  private:
+    DocumentView* view_;
 };
 
 class RecipeDocument {
@@ -119,11 +140,44 @@ class RecipeDocument {
     // The grid that InsertRow and DeleteRow act on, nullptr on tabs without one.
     Grid* GridOfTab(Tab tab);
     void SetCurrentCell(Grid& grid, int row, int col);
+    // Selects a block; its first cell becomes the current one.
+    void SelectCells(Grid& grid, const GridRange& range);
     // A click on a column's header: sorts the data rows by it, the other way round on the same column again.
     // Nothing in a grid of fixed rows or one without that column.
     void ClickHeader(Grid& grid, int col);
     int SortColumn() const { return sortColumn_; }
     bool SortDescending() const { return sortDescending_; }
+
+    // Which control the brewer works in, as far as the edit commands below care. Without a window, entering
+    // another control commits the text box that is left; a refused entry goes back to its committed text.
+    void FocusOn(TextBox& box);
+    void FocusOn(Grid& grid);
+    // A control that holds no text to copy, such as a button.
+    void FocusElsewhere();
+
+    // The edit commands on the text box or grid with the focus; nothing without one, and nothing that changes
+    // a computed box. A block of cells travels as in ClipboardBlock.h.
+    void SelectAll();
+    // Text boxes: the selected text, if any. Grids: the selected block, with the header when whole columns
+    // are selected and the settings say so.
+    void Copy();
+    void Cut();
+    // Empties the selected text or cells; check boxes stay as they are.
+    void Clear();
+    // Replaces the selected text, or the selected cells from the first on, each in its turn: read-only cells
+    // use up their place of the block. A block that does not fit the selection, or an entry that a cell does
+    // not take, shows a box, and nothing has changed. An arithmetic fault raises; all is as before then.
+    void Paste();
+
+    // A name that was chosen from the catalogue, for the current row of the grid of that kind; the row is
+    // filled as if it had been typed. ChangeYeast writes into the notes of gridLog.
+    void ChangeGrain(std::string_view name);
+    void ChangeExtract(std::string_view name);
+    void ChangeHop(std::string_view name);
+    void ChangeYeast(std::string_view name);
+    void ChangeWater(std::string_view name);
+    void ChangeSalt(std::string_view name);
+    void ChangeSugar(std::string_view name);
 
     // Undo and redo of the edits since the document was opened or saved, one step each; false when there is
     // none.
@@ -185,6 +239,8 @@ class RecipeDocument {
     };
 
     bool IsActive() const { return host_.IsActive(*this); }
+    // The text box that has the focus first on that tab; nullptr where a grid has it.
+    TextBox* FirstBoxOfTab(Tab tab);
     void ApplyDefaults();
     void CommitDefault(TextBox& box, const std::string& text);
     void MarkChanged();
@@ -229,10 +285,23 @@ class RecipeDocument {
 
     void RemoveRow(Grid& grid, int row);
 
+    // The edit commands (RecipeDocumentClipboard.cpp).
+    void ReplaceSelection(TextBox& box, std::string_view with, ChangeType type);
+    void CopyCells(const Grid& grid);
+    bool CanPaste(const Grid& grid, const GridRange& target, const ClipboardBlock& block);
+    void ApplyBlock(Grid& grid, const GridRange& target, const ClipboardBlock& block, ChangeType type);
+    void ApplyBlockCell(Grid& grid, int row, int col, const std::string& text);
+    void ChooseFromCatalogue(Grid& grid, int col, std::string_view name);
+
     // Undo (RecipeDocumentUndo.cpp).
     bool ApplyStep(const EditTracker* head, bool undo);
     void ApplyEdit(const EditTracker& edit, bool undo);
-    void ApplyToTextBox(TextBox& box, const EditValue& value);
+    void WantTab(int tab);
+    void ApplyToTextBox(TextBox& box, const EditTracker& edit, bool undo);
+    // Runs changes as one step of the history, or as part of the step that is open; when one raises, the
+    // whole step is taken back and the error goes on.
+    void AsOneStep(ChangeType type, const std::function<void()>& changes);
+    void TakeBackLastStep();
     void ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo);
     void ApplyToCell(Grid& grid, int row, int col, const EditValue& value);
     void ApplyRowInsert(Grid& grid, const EditTracker& edit, bool insert);
@@ -276,6 +345,9 @@ class RecipeDocument {
     RecipeCalculator calculator_;
     EditRecorder recorder_{[this] { RefreshUndoCommands(); }};
     DocumentView* view_ = nullptr;
+    // The control with the focus: one of them or none.
+    TextBox* focusBox_ = &record_.txtName;
+    Grid* focusGrid_ = nullptr;
     int sortColumn_ = -1;
     bool sortDescending_ = false;
     // What a pitched yeast has just made of txtFG, until it is recorded with the log cell's edit.

@@ -209,7 +209,8 @@ void RecipeDocument::RecalculateGrid(Grid& grid, int row) {
 
 void RecipeDocument::PickLogDate(const DateTime& day) {
     Grid& log = record_.gridLog;
-    if (log.IsDataRow(log.CurrentRow())) EditCell(log, log.CurrentRow(), LogCol::Date, ShortDate(day));
+    if (!log.IsDataRow(log.CurrentRow())) return;
+    AsOneStep(ChangeType::Selection, [&] { EditCell(log, log.CurrentRow(), LogCol::Date, ShortDate(day)); });
 }
 
 }  // namespace tw

@@ -48,6 +48,11 @@ void RecipeDocument::SetCurrentCell(Grid& grid, int row, int col) {
     RefreshRowCommands();
 }
 
+void RecipeDocument::SelectCells(Grid& grid, const GridRange& range) {
+    grid.Select(range);
+    RefreshRowCommands();
+}
+
 void RecipeDocument::InsertRow() {
     Grid* grid = GridOfTab(tab_);
     if (!grid || !CanInsertRow(*grid)) return;

@@ -23,10 +23,13 @@ void RecipeDocument::RefreshUndoCommands() {
     host_.Commands().EnableRedo(stack.CanRedo(), stack.RedoType());
 }
 
+// The selection before is what the new text has replaced; behind the edit the caret stands after it.
 void RecipeDocument::RecordText(TextBox& box, std::string_view newText, ChangeType type) {
+    const TextSpan span = ChangedSpan(box.Text(), newText);
     EditRecorder::Edit edit{ControlType::TextBox, type};
-    edit.selection.newStart = static_cast<std::int32_t>(CodePointCount(newText));
-    edit.selection.oldStart = static_cast<std::int32_t>(CodePointCount(box.Text()));
+    edit.selection.oldStart = span.start;
+    edit.selection.oldLength = span.oldLength;
+    edit.selection.newStart = span.start + span.newLength;
     recorder_.RecordEdit(box.Name(), EditValue::OfText(box.Text()), EditValue::OfText(newText), edit);
 }
 
@@ -62,6 +65,26 @@ void RecipeDocument::RecordRowChange(Grid& grid, int row, int col, const std::ve
     gravityChange_.reset();
 }
 
+void RecipeDocument::AsOneStep(ChangeType type, const std::function<void()>& changes) {
+    const bool outermost = !recorder_.InCompound();
+    const bool changedBefore = changed_;
+    try {
+        const CompoundEdit compound(recorder_, type);
+        changes();
+    } catch (const Error&) {
+        if (outermost) {
+            TakeBackLastStep();
+            if (!changedBefore) ClearChanged();
+        }
+        throw;
+    }
+}
+
+void RecipeDocument::TakeBackLastStep() {
+    Quietly([this] { return ApplyStep(recorder_.Stack().StepBack(), true); });
+    recorder_.DropRedo();
+}
+
 bool RecipeDocument::Undo() {
     FlushEdits();
     return ApplyStep(recorder_.Stack().StepBack(), true);
@@ -84,10 +107,8 @@ bool RecipeDocument::ApplyStep(const EditTracker* head, bool undo) {
         RefreshUndoCommands();
     };
     try {
-        if (head->TabNumber() >= 0 && head->TabNumber() != static_cast<int>(tab_)) {
-            SetTab(static_cast<Tab>(head->TabNumber()));
-            if (view_) view_->TabWanted(tab_);
-        }
+        const RedrawHold hold(view_);
+        WantTab(head->TabNumber());
         for (const EditTracker* edit : chain) ApplyEdit(*edit, undo);
     } catch (...) {
         finish();
@@ -98,12 +119,19 @@ bool RecipeDocument::ApplyStep(const EditTracker* head, bool undo) {
     return true;
 }
 
+void RecipeDocument::WantTab(int tab) {
+    if (tab < 0 || tab == static_cast<int>(tab_)) return;
+    SetTab(static_cast<Tab>(tab));
+    if (view_) view_->TabWanted(tab_);
+}
+
 void RecipeDocument::ApplyEdit(const EditTracker& edit, bool undo) {
     const EditValue& value = undo ? edit.OldValue() : edit.NewValue();
     const std::string name = edit.GetControlID();
+    if (view_ && edit.ControlType() != ControlType::None) view_->ControlWanted(name);
     switch (edit.ControlType()) {
         case ControlType::TextBox:
-            if (TextBox* const box = record_.FindTextBox(name)) ApplyToTextBox(*box, value);
+            if (TextBox* const box = record_.FindTextBox(name)) ApplyToTextBox(*box, edit, undo);
             break;
         case ControlType::ComboBox:
             // The water that came with the style has records of its own.
@@ -121,19 +149,24 @@ void RecipeDocument::ApplyEdit(const EditTracker& edit, bool undo) {
     }
 }
 
-void RecipeDocument::ApplyToTextBox(TextBox& box, const EditValue& value) {
+void RecipeDocument::ApplyToTextBox(TextBox& box, const EditTracker& edit, bool undo) {
+    const EditValue& value = undo ? edit.OldValue() : edit.NewValue();
     if (value.IsNumber()) {
         box.SetValue(value.AsNumber());
         RunFieldChain(box);
         return;
     }
+    FocusOn(box);
     SetText(box, value.AsText());
+    const EditSelection& s = edit.GetSelection();
+    box.Select(undo ? TextSelection{s.oldStart, s.oldLength} : TextSelection{s.newStart, s.newLength});
     // A text that was refused when it was typed comes back as it was: shown, not committed.
     Quietly([&] { return CommitField(box, true); });
 }
 
 void RecipeDocument::ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo) {
     const EditValue& value = undo ? edit.OldValue() : edit.NewValue();
+    FocusOn(grid);
     switch (edit.ChangeType()) {
         case ChangeType::InsertRow:
             ApplyRowInsert(grid, edit, value.AsBoolean());

@@ -23,10 +23,14 @@ EditTracker* UndoStack::AddToStack(EditTracker edit) {
         last = std::move(edit);
         return &last;
     }
-    while (records_.size() > position_) records_.pop_back();
+    DropRedo();
     records_.push_back(std::move(edit));
     position_ = records_.size();
     return &records_.back();
+}
+
+void UndoStack::DropRedo() {
+    while (records_.size() > position_) records_.pop_back();
 }
 
 void UndoStack::Clear() {

@@ -32,6 +32,8 @@ class UndoStack {
     const EditTracker* StepForward() { return CanRedo() ? &records_[position_++] : nullptr; }
 
     void Clear();
+    // Forgets what could be redone.
+    void DropRedo();
     // Edits held, and how many of them can be undone.
     std::size_t StackTop() const { return records_.size(); }
     std::size_t StackPosition() const { return position_; }

@@ -154,6 +154,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool IsActive(const RecipeDocument& document) const override { return active_ == &document; }
     RecipeDefaults Defaults() const override;
     bool AppendRows() const override;
+    bool CopyHeaders() const override { return settings_.copyHeaders; }
+    bool PasteMismatchSize() const override { return settings_.pasteMismatchSize; }
     void SetAppendRows(bool append);
     void DeleteRecipe(std::string_view name) override;
     void RecipeStored(std::string_view name) override;
@@ -189,6 +191,11 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
 
   private:
     using Action = std::function<void(Shell&)>;
+    struct ActionRow {
+        std::string_view name;
+        void (*action)(Shell&);
+    };
+    static const ActionRow kFileActions[], kEditActions[], kOtherActions[];
     bool OpenDatabase(const std::string& path);
     // Empty for a name without an action.
     static Action FindAction(std::string_view name);
@@ -203,6 +210,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void EnablePair(std::string_view item, std::string_view button, bool enabled);
     void EnablePairWithTwin(std::string_view item, std::string_view button, bool enabled);
     void ShowOpenDialog();
+    void Arrange(Arrangement arrangement);
+    void CopyShowingErrors();
     void SaveAllDocuments();
     void SwitchAutoSave(bool wasOn);
     void ForgetUnsavedWork(const RecipeDocument& document);

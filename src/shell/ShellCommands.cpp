@@ -1,6 +1,6 @@
 // The commands of the shell: what a menu item or button does, and what the documents light and darken.
 #include <algorithm>
-#include <array>
+#include <span>
 
 #include "shell/AboutModel.h"
 #include "shell/OpenSaveModel.h"
@@ -17,66 +17,89 @@ bool IsEditItem(std::string_view name) {
 
 }  // namespace
 
+const Shell::ActionRow Shell::kFileActions[] = {
+    {"mnuFileNew", [](Shell& s) { s.CreateDocumentWindow(""); }},
+    {"mnuFileOpen", [](Shell& s) { s.ShowOpenDialog(); }},
+    {"mnuFileClose",
+     [](Shell& s) {
+         if (s.active_) s.CloseDocument(*s.active_);
+     }},
+    {"mnuFileCloseAll", [](Shell& s) { s.CloseAll(); }},
+    {"mnuFileSave",
+     [](Shell& s) {
+         if (s.active_) s.SaveRecipe(*s.active_, false);
+     }},
+    {"mnuFileSaveAs",
+     [](Shell& s) {
+         if (s.active_) s.SaveRecipeAs(*s.active_);
+     }},
+    {"mnuFileSaveAll", [](Shell& s) { s.SaveAllDocuments(); }},
+    {"mnuFileExit",
+     [](Shell& s) {
+         if (s.RequestExit() && s.view_) s.view_->CloseMainWindow();
+     }},
+};
+
+// They run with an active document only.
+const Shell::ActionRow Shell::kEditActions[] = {
+    {"mnuEditUndo", [](Shell& s) { s.active_->Undo(); }},
+    {"mnuEditRedo", [](Shell& s) { s.active_->Redo(); }},
+    {"mnuEditCut",
+     [](Shell& s) {
+         s.active_->Cut();
+         s.ReapplyPasteState();
+     }},
+    {"mnuEditCopy", [](Shell& s) { s.CopyShowingErrors(); }},
+    {"mnuEditPaste", [](Shell& s) { s.active_->Paste(); }},
+    {"mnuEditClear", [](Shell& s) { s.active_->Clear(); }},
+    {"mnuEditSelectAll", [](Shell& s) { s.active_->SelectAll(); }},
+    {"mnuEditInsert", [](Shell& s) { s.active_->InsertRow(); }},
+    {"mnuEditDelete", [](Shell& s) { s.active_->DeleteRow(); }},
+    {"mnuEditAppendFlag", [](Shell& s) { s.SetAppendRows(!s.AppendRows()); }},
+};
+
+const Shell::ActionRow Shell::kOtherActions[] = {
+    {"mnuToolsOptions",
+     [](Shell& s) {
+         OptionsModel options(s, s.platform_.messages);
+         s.platform_.dialogs.ShowModal(options);
+     }},
+    {"mnuWindowCascade", [](Shell& s) { s.Arrange(Arrangement::Cascade); }},
+    {"mnuWindowTileHorizontal", [](Shell& s) { s.Arrange(Arrangement::TileHorizontal); }},
+    {"mnuWindowTileVertical", [](Shell& s) { s.Arrange(Arrangement::TileVertical); }},
+    {"mnuHelpAbout",
+     [](Shell& s) {
+         AboutModel about;
+         s.platform_.dialogs.ShowModal(about);
+     }},
+};
+
 Shell::Action Shell::FindAction(std::string_view name) {
-    struct Row {
-        std::string_view name;
-        void (*action)(Shell&);
-    };
-    static constexpr Row kActions[] = {
-        {"mnuFileNew", [](Shell& s) { s.CreateDocumentWindow(""); }},
-        {"mnuFileOpen", [](Shell& s) { s.ShowOpenDialog(); }},
-        {"mnuFileClose",
-         [](Shell& s) {
-             if (s.active_) s.CloseDocument(*s.active_);
-         }},
-        {"mnuFileCloseAll", [](Shell& s) { s.CloseAll(); }},
-        {"mnuFileSave",
-         [](Shell& s) {
-             if (s.active_) s.SaveRecipe(*s.active_, false);
-         }},
-        {"mnuFileSaveAs",
-         [](Shell& s) {
-             if (s.active_) s.SaveRecipeAs(*s.active_);
-         }},
-        {"mnuFileSaveAll", [](Shell& s) { s.SaveAllDocuments(); }},
-        {"mnuFileExit",
-         [](Shell& s) {
-             if (s.RequestExit() && s.view_) s.view_->CloseMainWindow();
-         }},
-        {"mnuEditInsert", [](Shell& s) { s.active_->InsertRow(); }},
-        {"mnuEditDelete", [](Shell& s) { s.active_->DeleteRow(); }},
-        {"mnuEditAppendFlag", [](Shell& s) { s.SetAppendRows(!s.AppendRows()); }},
-        {"mnuToolsOptions",
-         [](Shell& s) {
-             OptionsModel options(s, s.platform_.messages);
-             s.platform_.dialogs.ShowModal(options);
-         }},
-        {"mnuWindowCascade",
-         [](Shell& s) {
-             if (s.view_) s.view_->ArrangeDocuments(Arrangement::Cascade);
-         }},
-        {"mnuWindowTileHorizontal",
-         [](Shell& s) {
-             if (s.view_) s.view_->ArrangeDocuments(Arrangement::TileHorizontal);
-         }},
-        {"mnuWindowTileVertical",
-         [](Shell& s) {
-             if (s.view_) s.view_->ArrangeDocuments(Arrangement::TileVertical);
-         }},
-        {"mnuHelpAbout",
-         [](Shell& s) {
-             AboutModel about;
-             s.platform_.dialogs.ShowModal(about);
-         }},
-    };
-    const auto found = std::ranges::find(kActions, name, &Row::name);
-    if (found != std::end(kActions)) return found->action;
+    for (const std::span<const ActionRow> rows :
+         {std::span<const ActionRow>(kFileActions), std::span<const ActionRow>(kEditActions),
+          std::span<const ActionRow>(kOtherActions)}) {
+        const auto found = std::ranges::find(rows, name, &ActionRow::name);
+        if (found != rows.end()) return found->action;
+    }
     for (int slot = 0; slot < kMruCount; ++slot) {
         if (name == RecentList::ItemName(slot)) {
             return [slot](Shell& s) { s.OpenByName(s.recent_.NameOf(slot)); };
         }
     }
     return {};
+}
+
+void Shell::Arrange(Arrangement arrangement) {
+    if (view_) view_->ArrangeDocuments(arrangement);
+}
+
+void Shell::CopyShowingErrors() {
+    try {
+        active_->Copy();
+    } catch (const Error& error) {
+        platform_.messages.ShowMessage("Error", "Error during copy:\r\n" + error.WithNumber());
+    }
+    ReapplyPasteState();
 }
 
 bool Shell::RunAction(std::string_view name) {

@@ -105,6 +105,16 @@ std::size_t CodePointCount(std::string_view text) {
     return count;
 }
 
+std::size_t CodePointOffset(std::string_view text, std::size_t number) {
+    if (IsAscii(text)) return std::min(number, text.size());
+    std::size_t offset = 0;
+    for (; number > 0 && offset < text.size(); --number) {
+        utf8proc_int32_t codePoint = -1;
+        offset += FrontCodePoint(text.substr(offset), codePoint);
+    }
+    return offset;
+}
+
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to) {
     std::string out;
     out.reserve(text.size());

@@ -21,6 +21,9 @@ bool SameName(std::string_view a, std::string_view b);
 int CompareNoCase(std::string_view a, std::string_view b);
 // The number of code points; a byte that is no valid UTF-8 counts as one.
 std::size_t CodePointCount(std::string_view text);
+// The byte at which the code point of that number begins, counted from 0; the end of the text for a larger
+// number.
+std::size_t CodePointOffset(std::string_view text, std::size_t number);
 // text with every from replaced by to. REQUIRES: from is not empty.
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
 

@@ -144,8 +144,8 @@ TEST(Grid, TellsItsObserverOfRealChangesOnly) {
     log.SetCurrent(1, 2);
     log.SetCurrent(1, 2);
     log.RemoveRow(1);
-    EXPECT_EQ(recorder.log,
-              (std::vector<std::string>{"in 1", "1,0=x", "1,1=2", "1,1=", "at 1,2", "out 1", "at 0,2"}));
+    EXPECT_EQ(recorder.log, (std::vector<std::string>{"in 1", "at 1,0", "1,0=x", "1,1=2", "1,1=", "at 1,2",
+                                                      "out 1", "at 0,2"}));
 }
 
 TEST(Grid, MovesRowsWithAllTheyHold) {

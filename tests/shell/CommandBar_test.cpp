@@ -180,12 +180,12 @@ TEST(CommandBar, ACommandWithoutItsFeatureStaysDark) {
     CommandBar bar;
     EXPECT_FALSE(bar.FindItem("mnuHelpContents")->enabled);
     EXPECT_TRUE(bar.Wanted("mnuHelpContents"));
-    bar.SetEnabled("mnuEditCopy", true);
-    bar.SetButtonWithTwin("Copy", true);
-    EXPECT_TRUE(bar.Wanted("mnuEditCopy"));
-    EXPECT_FALSE(bar.FindItem("mnuEditCopy")->enabled);
-    EXPECT_FALSE(bar.FindButton("Copy")->enabled);
-    EXPECT_EQ(bar.FindButton("Copy")->image, "CopyTransparent");
+    bar.SetEnabled("mnuFilePrint", true);
+    bar.SetButtonWithTwin("Print", true);
+    EXPECT_TRUE(bar.Wanted("mnuFilePrint"));
+    EXPECT_FALSE(bar.FindItem("mnuFilePrint")->enabled);
+    EXPECT_FALSE(bar.FindButton("Print")->enabled);
+    EXPECT_EQ(bar.FindButton("Print")->image, "PrintTransparent");
 }
 
 TEST(CommandBar, AButtonWithATwinChangesItsImageAndTag) {
@@ -224,7 +224,7 @@ TEST(CommandBar, TheObserverHearsOfChangesAlone) {
     bar.SetChecked("mnuEditAppendFlag", false);
     bar.SetCaption("mnuFileNew", "&New");
     bar.SetButtonEnabled("Save", false);
-    bar.SetEnabled("mnuEditCopy", true);  // stays dark
+    bar.SetEnabled("mnuFilePrint", true);  // stays dark
     EXPECT_EQ(changes.log, Strings{});
     bar.SetEnabled("mnuFileNew", false);
     bar.SetVisible("mnuFileBar5", false);

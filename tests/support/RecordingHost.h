@@ -23,6 +23,7 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     // What a test sets.
     RecipeDefaults defaults;
     bool appendRows = false;
+    bool copyHeaders = false, pasteMismatchSize = false;
     const RecipeDocument* active = nullptr;  // the active document
     std::vector<RecipeDocument*> documents;  // those that hear the notices
 
@@ -40,6 +41,8 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     bool IsActive(const RecipeDocument& document) const override { return &document == active; }
     RecipeDefaults Defaults() const override { return defaults; }
     bool AppendRows() const override { return appendRows; }
+    bool CopyHeaders() const override { return copyHeaders; }
+    bool PasteMismatchSize() const override { return pasteMismatchSize; }
     void DeleteRecipe(std::string_view name) override {
         log.push_back("DeleteRecipe " + std::string(name));
         io_.DeleteRecipeByName(name);

@@ -1,0 +1,89 @@
+// Commands that edit as the Edit menu does: the history, the selection, the clipboard, sorting.
+#include "cli/Command.h"
+#include "cli/ScriptFormat.h"
+
+namespace tw {
+namespace {
+
+// A menu item that does nothing prints that it is off.
+template <const auto& kItem>
+void RunItem(Session& session, Arguments& arguments) {
+    arguments.End();
+    if (!session.Program().RunMenu(kItem)) session.Out().Line("off");
+}
+
+constexpr char kUndo[] = "mnuEditUndo";
+constexpr char kRedo[] = "mnuEditRedo";
+constexpr char kSelectAll[] = "mnuEditSelectAll";
+constexpr char kCopy[] = "mnuEditCopy";
+constexpr char kCut[] = "mnuEditCut";
+constexpr char kClear[] = "mnuEditClear";
+constexpr char kPaste[] = "mnuEditPaste";
+
+void UndoType(Session& session, Arguments& arguments) {
+    arguments.End();
+    session.Out().Line(session.Document().History().UndoType());
+}
+
+void RedoType(Session& session, Arguments& arguments) {
+    arguments.End();
+    session.Out().Line(session.Document().History().RedoType());
+}
+
+void Sort(Session& session, Arguments& arguments) {
+    Grid& grid = TakeGrid(session, arguments);
+    const int col = TakeIndex(arguments, "COL");
+    arguments.End();
+    CheckCell(grid, 0, col);
+    if (!grid.RowsCanChange()) return session.Out().Line("off");
+    session.Document().FocusOn(grid);
+    session.Document().ClickHeader(grid, col);
+}
+
+void Select(Session& session, Arguments& arguments) {
+    Grid& grid = TakeGrid(session, arguments);
+    GridRange range;
+    range.row1 = TakeIndex(arguments, "ROW1");
+    range.col1 = TakeIndex(arguments, "COL1");
+    range.row2 = TakeIndex(arguments, "ROW2");
+    range.col2 = TakeIndex(arguments, "COL2");
+    arguments.End();
+    CheckCell(grid, range.row1, range.col1);
+    CheckCell(grid, range.row2, range.col2);
+    session.Document().FocusOn(grid);
+    session.Document().SelectCells(grid, range);
+}
+
+void ShowClipboard(Session& session, Arguments& arguments) {
+    arguments.End();
+    session.Out().Text(session.Clipboard().Text());
+}
+
+void SetClipboard(Session& session, Arguments& arguments) {
+    session.Clipboard().SetText(arguments.Text());
+    if (session.Running()) session.Program().ReapplyPasteState();
+}
+
+constexpr Command kCommands[] = {
+    {"undo", "", "takes the last edit back", RunItem<kUndo>},
+    {"redo", "", "does again what was taken back", RunItem<kRedo>},
+    {"undotype", "", "the name of the edit that undo takes back", UndoType},
+    {"redotype", "", "the name of the edit that redo does again", RedoType},
+    {"sort", "GRID COL", "a click on the header of a column", Sort},
+    {"select", "GRID ROW1 COL1 ROW2 COL2", "selects a block of cells", Select},
+    {"selectall", "", "selects all of the present text box or grid", RunItem<kSelectAll>},
+    {"copy", "", "copies what is selected", RunItem<kCopy>},
+    {"cut", "", "copies what is selected and empties it", RunItem<kCut>},
+    {"clear", "", "empties what is selected", RunItem<kClear>},
+    {"paste", "", "puts the clipboard in place of what is selected", RunItem<kPaste>},
+    {"clipboard", "", "the clipboard's text", ShowClipboard},
+    {"setclipboard", "TEXT", "puts a text on the clipboard", SetClipboard},
+};
+
+}  // namespace
+
+std::span<const Command> CommandsOfEditing() {
+    return kCommands;
+}
+
+}  // namespace tw
