@@ -23,7 +23,6 @@ void Open(Session& session, Arguments& arguments) {
 void Save(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
-    document.FlushEdits();
     session.Program().SaveRecipe(document, false);
 }
 
@@ -31,14 +30,12 @@ void SaveAs(Session& session, Arguments& arguments) {
     const int folder = arguments.Integer("FOLDERID", 0, std::numeric_limits<int>::max());
     const std::string name = arguments.LastName("NAME");
     RecipeDocument& document = session.Document();
-    document.FlushEdits();
     session.Program().SaveRecipeUnder(document, name, folder, false);
 }
 
 void Close(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
-    document.FlushEdits();
     session.Program().CloseDocument(document);
 }
 

@@ -121,15 +121,14 @@ void RecipeDocument::Activate() {
     commands.EnableSave(changed_);
     calculator_.RefreshCommands();
     RefreshUndoCommands();
-    commands.EnableCopyPaste(true, !focusBox_ || !focusBox_->Computed());
+    RefreshEditCommands();
     RefreshRowCommands();
 }
 
-void RecipeDocument::FlushEdits() {
-    if (view_)
-        view_->FlushEditors();
-    else if (focusBox_ && !CommitField(*focusBox_))
-        RestoreField(*focusBox_);
+bool RecipeDocument::FlushEdits() {
+    if (view_) return view_->FlushEditors();
+    if (focusBox_ && !CommitField(*focusBox_)) RestoreField(*focusBox_);
+    return true;
 }
 
 void RecipeDocument::ActiveCommands::EnableResizeRecipe(bool enabled) {

@@ -37,8 +37,9 @@ struct CellList {
 class DocumentView {
   public:
     virtual ~DocumentView() = default;
-    // Commits whatever is being edited in the window: the open cell editor, the focused text box.
-    virtual void FlushEditors() = 0;
+    // Commits whatever is being edited in the window: the open cell editor, the focused text box. False when
+    // an entry was refused; it stays open and its box has been shown.
+    virtual bool FlushEditors() = 0;
     // An undo or redo works on that tab.
     virtual void TabWanted(Tab) {}
     // The control of that name should have the focus, if it can be seen.
@@ -152,7 +153,7 @@ class RecipeDocument {
     // another control commits the text box that is left; a refused entry goes back to its committed text.
     void FocusOn(TextBox& box);
     void FocusOn(Grid& grid);
-    // A control that holds no text to copy, such as a button.
+    // A control that the edit commands know nothing of, such as a button.
     void FocusElsewhere();
 
     // The edit commands on the text box or grid with the focus; nothing without one, and nothing that changes
@@ -190,7 +191,9 @@ class RecipeDocument {
     void SetTab(Tab tab);
     // The document's window became the active one.
     void Activate();
-    void FlushEdits();
+    // Commits what is being typed. False when an entry was refused and stays open in the window; without a
+    // window it goes back to its committed text instead.
+    bool FlushEdits();
     // As FlushEdits without a word, for a save that nobody asked for: commits the text boxes that can be
     // read. Those that cannot, those that have just been emptied, and an open cell editor stay as they are
     // being typed.
@@ -286,6 +289,7 @@ class RecipeDocument {
     void RemoveRow(Grid& grid, int row);
 
     // The edit commands (RecipeDocumentClipboard.cpp).
+    void RefreshEditCommands();
     void ReplaceSelection(TextBox& box, std::string_view with, ChangeType type);
     void CopyCells(const Grid& grid);
     bool CanPaste(const Grid& grid, const GridRange& target, const ClipboardBlock& block);
@@ -294,6 +298,7 @@ class RecipeDocument {
     void ChooseFromCatalogue(Grid& grid, int col, std::string_view name);
 
     // Undo (RecipeDocumentUndo.cpp).
+    bool FlushBeforeStep();
     bool ApplyStep(const EditTracker* head, bool undo);
     void ApplyEdit(const EditTracker& edit, bool undo);
     void WantTab(int tab);

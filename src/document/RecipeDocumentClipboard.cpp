@@ -87,33 +87,37 @@ void RecipeDocument::FocusOn(TextBox& box) {
     if (focusBox_ != &box && !view_) FlushEdits();
     focusBox_ = &box;
     focusGrid_ = nullptr;
-    if (IsActive()) host_.Commands().EnableCopyPaste(true, !box.Computed());
+    RefreshEditCommands();
 }
 
 void RecipeDocument::FocusOn(Grid& grid) {
     if (!view_) FlushEdits();
     focusBox_ = nullptr;
     focusGrid_ = &grid;
-    if (IsActive()) host_.Commands().EnableCopyPaste(true, true);
+    RefreshEditCommands();
 }
 
 void RecipeDocument::FocusElsewhere() {
     if (!view_) FlushEdits();
     focusBox_ = nullptr;
     focusGrid_ = nullptr;
+    RefreshEditCommands();
+}
+
+void RecipeDocument::RefreshEditCommands() {
+    const bool copies = focusBox_ || focusGrid_;
+    if (IsActive()) host_.Commands().EnableCopyPaste(copies, copies && !(focusBox_ && focusBox_->Computed()));
 }
 
 void RecipeDocument::SelectAll() {
     if (focusBox_) focusBox_->Select({0, static_cast<int>(CodePointCount(focusBox_->Text()))});
-    if (!focusGrid_) return;
-    FlushEdits();
+    if (!focusGrid_ || !FlushEdits()) return;
     SelectCells(*focusGrid_, {Grid::FixedRows(), 0, focusGrid_->Rows() - 1, focusGrid_->Cols() - 1});
 }
 
 void RecipeDocument::Copy() {
     if (focusBox_ && focusBox_->Selection().length > 0) platform_.clipboard.SetText(Selected(*focusBox_));
-    if (!HasCells(focusGrid_)) return;
-    FlushEdits();
+    if (!HasCells(focusGrid_) || !FlushEdits()) return;
     CopyCells(*focusGrid_);
 }
 
@@ -132,15 +136,14 @@ void RecipeDocument::CopyCells(const Grid& grid) {
 
 void RecipeDocument::Clear() {
     if (focusBox_) ReplaceSelection(*focusBox_, {}, ChangeType::Delete);
-    if (!HasCells(focusGrid_)) return;
-    FlushEdits();
+    if (!HasCells(focusGrid_) || !FlushEdits()) return;
     const ClipboardBlock nothing(1, std::vector<std::string>(1));
     ApplyBlock(*focusGrid_, focusGrid_->Selection(), nothing, ChangeType::Delete);
 }
 
 void RecipeDocument::Cut() {
     if (!focusBox_ && !HasCells(focusGrid_)) return;
-    if (focusGrid_) FlushEdits();
+    if (focusGrid_ && !FlushEdits()) return;
     AsOneStep(ChangeType::Cut, [this] {
         Copy();
         Clear();
@@ -154,8 +157,7 @@ void RecipeDocument::Paste() {
         const bool lines = focusBox_ == &record_.txtNotes;
         ReplaceSelection(*focusBox_, lines ? NotesLines(text) : OneLine(text), ChangeType::Paste);
     }
-    if (!HasCells(focusGrid_)) return;
-    FlushEdits();
+    if (!HasCells(focusGrid_) || !FlushEdits()) return;
     const ClipboardBlock block = SplitBlock(text);
     const GridRange target = TargetOf(*focusGrid_, block);
     if (CanPaste(*focusGrid_, target, block)) ApplyBlock(*focusGrid_, target, block, ChangeType::Paste);

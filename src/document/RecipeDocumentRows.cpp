@@ -56,15 +56,12 @@ void RecipeDocument::SelectCells(Grid& grid, const GridRange& range) {
 void RecipeDocument::InsertRow() {
     Grid* grid = GridOfTab(tab_);
     if (!grid || !CanInsertRow(*grid)) return;
-    FlushEdits();
-    InsertRowForGrid(*grid);
+    if (FlushEdits()) InsertRowForGrid(*grid);
 }
 
 void RecipeDocument::DeleteRow() {
     Grid* grid = GridOfTab(tab_);
-    if (!grid) return;
-    FlushEdits();
-    if (CanDeleteRow(*grid)) DeleteRowForGrid(*grid);
+    if (grid && FlushEdits() && CanDeleteRow(*grid)) DeleteRowForGrid(*grid);
 }
 
 // A row with the defaults of a new one: a hop row has the settings' form and sock, every other cell is empty.

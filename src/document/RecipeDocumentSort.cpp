@@ -52,8 +52,8 @@ void RecipeDocument::ClickHeader(Grid& grid, int col) {
         sortDescending_ = !sortDescending_;
     else
         sortColumn_ = col;
-    FlushEdits();
-    if (grid.DataRows() < 2) return;
+    if (!FlushEdits() || grid.DataRows() < 2) return;
+    const RedrawHold hold(view_);
     const std::vector<int> order = SortedOrder(grid, col);
     if (std::is_sorted(order.begin(), order.end())) return;
     std::vector<int> inverse(order.size());

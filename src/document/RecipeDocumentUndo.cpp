@@ -14,6 +14,11 @@ EditValue ValueOf(const Cell& cell) {
                                           : EditValue::OfBoolean(cell.check == CheckState::Checked);
 }
 
+// The number behind a cell, nothing when there is none.
+EditValue NumberOf(const Cell& cell) {
+    return cell.value.kind == CellValue::Kind::None ? EditValue() : EditValue::OfNumber(cell.value.number);
+}
+
 }  // namespace
 
 void RecipeDocument::RefreshUndoCommands() {
@@ -42,13 +47,13 @@ void RecipeDocument::RecordRowChange(Grid& grid, int row, int col, const std::ve
     const CompoundEdit compound(recorder_, head);
     for (int c = 0; c < grid.Cols(); ++c) {
         if (c == col) continue;
-        if (!grid.ColumnAt(c).readOnly) {
+        if (!grid.ColumnAt(c).readOnly)
             recorder_.RecordGridCell(grid, row, c, ValueOf(old(c)), ValueOf(grid.At(row, c)));
-        } else if (&grid == &record_.gridTreatment && old(c).value != grid.At(row, c).value) {
-            // The salt's factors stand behind its ion cells and have no text of their own.
-            recorder_.RecordGridCell(grid, row, c, EditValue::OfNumber(old(c).value.number),
-                                     EditValue::OfNumber(grid.Number(row, c)));
-        }
+        // Numbers that do not follow from their text: a salt's factors behind its ion cells, and the time of
+        // hops that counts again once they are not dry any more.
+        const bool ownNumber =
+            grid.ColumnAt(c).readOnly ? &grid == &record_.gridTreatment : old(c).text == grid.Text(row, c);
+        if (ownNumber) recorder_.RecordGridCell(grid, row, c, NumberOf(old(c)), NumberOf(grid.At(row, c)));
     }
     if (!gravityChange_) return;
     // The gravity that a yeast gives is finer than its text, so its number is put back on either way.
@@ -85,13 +90,19 @@ void RecipeDocument::TakeBackLastStep() {
     recorder_.DropRedo();
 }
 
+// What is being typed in a text box is the next step back itself: committing it first would only ask about an
+// entry that the brewer is just taking back.
+bool RecipeDocument::FlushBeforeStep() {
+    return focusBox_ || FlushEdits();
+}
+
 bool RecipeDocument::Undo() {
-    FlushEdits();
+    if (!FlushBeforeStep()) return false;
     return ApplyStep(recorder_.Stack().StepBack(), true);
 }
 
 bool RecipeDocument::Redo() {
-    FlushEdits();
+    if (!FlushBeforeStep()) return false;
     return ApplyStep(recorder_.Stack().StepForward(), false);
 }
 
@@ -128,7 +139,9 @@ void RecipeDocument::WantTab(int tab) {
 void RecipeDocument::ApplyEdit(const EditTracker& edit, bool undo) {
     const EditValue& value = undo ? edit.OldValue() : edit.NewValue();
     const std::string name = edit.GetControlID();
-    if (view_ && edit.ControlType() != ControlType::None) view_->ControlWanted(name);
+    if (view_ && edit.ControlType() != ControlType::None)
+        view_->ControlWanted(edit.ControlType() == ControlType::OptionGroup ? std::string(value.AsText())
+                                                                            : name);
     switch (edit.ControlType()) {
         case ControlType::TextBox:
             if (TextBox* const box = record_.FindTextBox(name)) ApplyToTextBox(*box, edit, undo);
@@ -158,10 +171,10 @@ void RecipeDocument::ApplyToTextBox(TextBox& box, const EditTracker& edit, bool 
     }
     FocusOn(box);
     SetText(box, value.AsText());
+    // A text that was refused when it was typed comes back as it was: shown, not committed.
+    if (!Quietly([&] { return CommitField(box, true); })) SetText(box, value.AsText());
     const EditSelection& s = edit.GetSelection();
     box.Select(undo ? TextSelection{s.oldStart, s.oldLength} : TextSelection{s.newStart, s.newLength});
-    // A text that was refused when it was typed comes back as it was: shown, not committed.
-    Quietly([&] { return CommitField(box, true); });
 }
 
 void RecipeDocument::ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo) {
@@ -192,8 +205,8 @@ void RecipeDocument::ApplyToCell(Grid& grid, int row, int col, const EditValue& 
         grid.SetChecked(row, col, value.AsBoolean());
         if (&grid == &record_.gridHops && col == HopCol::DryHopped && !value.AsBoolean())
             ReadTimeAgain(grid, row);
-    } else if (value.IsNumber()) {
-        grid.SetValue(row, col, CellValue::Of(value.AsNumber()));
+    } else if (!value.IsText()) {
+        grid.SetValue(row, col, value.IsNumber() ? CellValue::Of(value.AsNumber()) : CellValue{});
     } else {
         CellValue read;
         Quietly([&] { return ValidateCell(grid, row, col, value.AsText(), true, read); });
@@ -215,7 +228,9 @@ void RecipeDocument::ApplyRowInsert(Grid& grid, const EditTracker& edit, bool in
         return;
     }
     const int last = grid.EndOfData() - 1;
-    const int row = appended ? last : std::min(edit.Row(), last);
+    // In an empty grid the first row came without a current one.
+    const int row =
+        appended ? last : std::clamp(edit.Row(), Grid::FixedRows(), std::max(Grid::FixedRows(), last));
     if (grid.IsDataRow(row)) RemoveRow(grid, row);
 }
 

@@ -125,7 +125,10 @@ bool Shell::TrySave(const std::function<void(bool& ok)>& save) {
 bool Shell::SaveRecipe(RecipeDocument& document, bool silent) {
     if (IsBlank(document.BeerName()) || document.FolderID() < 0) return !silent && SaveRecipeAs(document);
     return TrySave([&](bool& ok) {
-        silent ? document.FlushEditsQuietly() : document.FlushEdits();
+        if (silent)
+            document.FlushEditsQuietly();
+        else
+            document.FlushEdits();
         const bool renamed = !SameName(document.BeerName(), document.OrigName());
         if (silent && renamed && RecipeExists(*database_, document.BeerName())) return;
         document.Save(false, silent, ok);

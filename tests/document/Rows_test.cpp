@@ -201,7 +201,10 @@ TEST_F(RowsTest, AKegHasNoSugarRows) {
 
 TEST_F(RowsTest, TheCommandsFlushTheOpenEditorFirst) {
     struct View : DocumentView {
-        void FlushEditors() override { ++flushes; }
+        bool FlushEditors() override {
+            ++flushes;
+            return true;
+        }
         int flushes = 0;
     } view;
     document->SetView(&view);

@@ -175,7 +175,10 @@ TEST_F(ShellTest, YesWithASaveThatLosesItsRowKeepsTheDocument) {
 class PendingEntry : public DocumentView {
   public:
     explicit PendingEntry(std::function<void()> flush) : flush_(std::move(flush)) {}
-    void FlushEditors() override { flush_(); }
+    bool FlushEditors() override {
+        flush_();
+        return true;
+    }
 
   private:
     std::function<void()> flush_;

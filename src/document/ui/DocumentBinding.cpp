@@ -2,12 +2,33 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QWidget>
 
 #include "document/ui/GridView.h"
 #include "platform/qt/ErrorBox.h"
 
 namespace tw {
+namespace {
+
+// The edit command of a key; nullptr for any other key. Delete alone clears in grids and deletes as usual in
+// texts.
+const char* EditCommandOf(const QKeyEvent& key) {
+    const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
+    if (key.key() == Qt::Key_Insert && modifiers == Qt::ControlModifier) return "mnuEditCopy";
+    if (key.key() == Qt::Key_Insert && modifiers == Qt::ShiftModifier) return "mnuEditPaste";
+    if (key.key() == Qt::Key_Delete && modifiers == Qt::ShiftModifier) return "mnuEditCut";
+    if (key.matches(QKeySequence::Redo) || (key.key() == Qt::Key_Y && modifiers == Qt::ControlModifier))
+        return "mnuEditRedo";
+    if (key.matches(QKeySequence::Undo)) return "mnuEditUndo";
+    if (key.matches(QKeySequence::Cut)) return "mnuEditCut";
+    if (key.matches(QKeySequence::Copy)) return "mnuEditCopy";
+    if (key.matches(QKeySequence::Paste)) return "mnuEditPaste";
+    if (key.matches(QKeySequence::SelectAll)) return "mnuEditSelectAll";
+    return nullptr;
+}
+
+}  // namespace
 
 DocumentBinding::DocumentBinding(RecipeDocument& document, Platform& platform, DocumentFrame& frame)
     : document_(&document), platform_(platform), frame_(frame) {
@@ -23,6 +44,7 @@ void DocumentBinding::Detach() {
     document_->Record().SetObserver(nullptr);
     document_ = nullptr;
     watchers_.clear();
+    selectionWatchers_.clear();
     commitActiveField_ = nullptr;
     for (const auto& [grid, view] : grids_) view->Detach();
     grids_.clear();
@@ -30,6 +52,15 @@ void DocumentBinding::Detach() {
 
 void DocumentBinding::Watch(const void* object, std::function<void()> show) {
     watchers_[object].push_back(std::move(show));
+}
+
+void DocumentBinding::WatchSelection(const TextBox& box, std::function<void()> show) {
+    selectionWatchers_[&box] = std::move(show);
+}
+
+void DocumentBinding::TextSelectionChanged(const TextBox& box) {
+    const auto found = selectionWatchers_.find(&box);
+    if (found != selectionWatchers_.end()) found->second();
 }
 
 GridView* DocumentBinding::ViewOf(const Grid& grid) const {
@@ -41,30 +72,42 @@ void DocumentBinding::ForEachGrid(const std::function<void(GridView&)>& visit) c
     for (const auto& [grid, view] : grids_) visit(*view);
 }
 
-bool DocumentBinding::HandleKey(const QKeyEvent& key, bool inGrid) {
-    const bool control = key.modifiers().testFlag(Qt::ControlModifier);
-    const bool shift = key.modifiers().testFlag(Qt::ShiftModifier);
-    const bool plain = !control && !shift && !key.modifiers().testFlag(Qt::AltModifier);
+bool DocumentBinding::HandleKey(const QKeyEvent& key) {
+    if (!key.modifiers().testFlag(Qt::ControlModifier)) return false;
     switch (key.key()) {
         case Qt::Key_PageDown:
         case Qt::Key_PageUp:
-            if (!control || !stepTab_) return false;
+            if (!stepTab_) return false;
             stepTab_(key.key() == Qt::Key_PageDown ? 1 : -1);
             return true;
-        case Qt::Key_Insert:
-            if (control) return frame_.RunCommand("mnuEditCopy");
-            return shift && frame_.RunCommand("mnuEditPaste");
         case Qt::Key_Plus:
         case Qt::Key_Equal:  // the plus key where plus needs Shift
-            return control && frame_.RunCommand("mnuEditInsert");
+            return frame_.RunCommand("mnuEditInsert");
         case Qt::Key_Minus:
-            return control && frame_.RunCommand("mnuEditDelete");
-        case Qt::Key_Delete:
-            if (shift) return frame_.RunCommand("mnuEditCut");
-            return plain && inGrid && frame_.RunCommand("mnuEditClear");
+            return frame_.RunCommand("mnuEditDelete");
         default:
             return false;
     }
+}
+
+bool DocumentBinding::HandleEditKey(const QKeyEvent& key) {
+    if (HandleKey(key)) return true;
+    const char* command = EditCommandOf(key);
+    if (!command) return false;
+    // Used up also while the command is off: the widget must not do it by itself.
+    frame_.RunCommand(command);
+    return true;
+}
+
+bool DocumentBinding::HandleListKey(const QKeyEvent& key) {
+    const std::string_view command = EditCommandOf(key) ? EditCommandOf(key) : "";
+    return command == "mnuEditUndo" || command == "mnuEditRedo" ? HandleEditKey(key) : HandleKey(key);
+}
+
+void DocumentBinding::HoldRedraw(bool hold) {
+    holds_ += hold ? 1 : -1;
+    if (holds_ > 0) return;
+    for (const auto& [grid, view] : grids_) view->ShowHeldChanges();
 }
 
 bool DocumentBinding::Run(const std::function<void(RecipeDocument&)>& operation) {

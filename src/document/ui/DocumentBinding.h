@@ -37,6 +37,8 @@ class DocumentBinding final : public RecordObserver {
     // show runs at every change of that object of the record (a TextBox, Label, Button, ListBox or
     // OptionGroup).
     void Watch(const void* object, std::function<void()> show);
+    // show runs when the selection of a text box is another.
+    void WatchSelection(const TextBox& box, std::function<void()> show);
     void WatchSwatch(std::function<void(Rgb)> show) { showSwatch_ = std::move(show); }
     void AddGrid(const Grid& grid, GridView& view) { grids_[&grid] = &view; }
     GridView* ViewOf(const Grid& grid) const;
@@ -45,8 +47,17 @@ class DocumentBinding final : public RecordObserver {
 
     // A step to the next (+1) or previous (-1) tab.
     void SetStepTab(std::function<void(int)> stepTab) { stepTab_ = std::move(stepTab); }
-    // The keys that grids and text boxes share. True when the key has been used up.
-    bool HandleKey(const QKeyEvent& key, bool inGrid);
+    // The keys of tabs and rows, which work in an open cell editor too. True when the key has been used up.
+    bool HandleKey(const QKeyEvent& key);
+    // Those, and the keys of the Edit menu: its commands are the recipe's, never the widget's own.
+    bool HandleEditKey(const QKeyEvent& key);
+
+    // Those but for the clipboard's, in a list whose text is no field of the recipe.
+    bool HandleListKey(const QKeyEvent& key);
+
+    // While held, grids note their changes and show them together afterwards. Calls nest.
+    void HoldRedraw(bool hold);
+    bool IsHeld() const { return holds_ > 0; }
 
     // Runs an operation on the document; an error that rises is shown. False then, and after Detach.
     bool Run(const std::function<void(RecipeDocument&)>& operation);
@@ -64,6 +75,7 @@ class DocumentBinding final : public RecordObserver {
     bool Flush();
 
     void TextBoxChanged(const TextBox& box) override { Fire(&box); }
+    void TextSelectionChanged(const TextBox& box) override;
     void LabelChanged(const Label& label) override { Fire(&label); }
     void ButtonChanged(const Button& button) override { Fire(&button); }
     void ListChanged(const ListBox& list) override { Fire(&list); }
@@ -82,7 +94,9 @@ class DocumentBinding final : public RecordObserver {
     Platform& platform_;
     DocumentFrame& frame_;
     std::unordered_map<const void*, std::vector<std::function<void()>>> watchers_;
+    std::unordered_map<const TextBox*, std::function<void()>> selectionWatchers_;
     std::unordered_map<const Grid*, GridView*> grids_;
+    int holds_ = 0;
     std::function<void(Rgb)> showSwatch_;
     std::function<void(int)> stepTab_;
     QPointer<QWidget> activeField_;

@@ -24,6 +24,9 @@ FieldBox::FieldBox(DocumentBinding& binding, TextBox& box, const QString& name, 
     }
     ShowText();
     binding_.Watch(&box_, [this] { ShowText(); });
+    binding_.WatchSelection(box_, [this] { ShowSelection(); });
+    connect(this, &QLineEdit::selectionChanged, this, &FieldBox::TellSelection);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &FieldBox::TellSelection);
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
         binding_.Run([&](RecipeDocument& document) { document.SetText(box_, FromQt(text)); });
     });
@@ -46,6 +49,29 @@ void FieldBox::ShowText() {
     if (text() == wanted) return;
     setText(wanted);
     setCursorPosition(hasFocus() ? static_cast<int>(wanted.size()) : 0);
+}
+
+void FieldBox::ShowSelection() {
+    // It has just been told from here.
+    if (showing_) return;
+    const TextSelection wanted = box_.Selection();
+    const int start = UnitPlace(text(), wanted.start);
+    const int length = UnitPlace(text(), wanted.start + wanted.length) - start;
+    showing_ = true;
+    if (length > 0)
+        setSelection(start, length);
+    else
+        setCursorPosition(start);
+    showing_ = false;
+}
+
+void FieldBox::TellSelection() {
+    if (showing_ || !binding_.Document()) return;
+    const int unit = hasSelectedText() ? selectionStart() : cursorPosition();
+    const int start = CodePointPlace(text(), unit);
+    showing_ = true;
+    box_.Select({start, CodePointPlace(text(), unit + selectionLength()) - start});
+    showing_ = false;
 }
 
 // A figure stands on the window's ground, not in a box that asks for an entry.
@@ -87,8 +113,13 @@ void FieldBox::focusOutEvent(QFocusEvent* event) {
 }
 
 void FieldBox::keyPressEvent(QKeyEvent* event) {
-    if (binding_.HandleKey(*event, false)) return;
+    if (binding_.HandleEditKey(*event)) return;
     switch (event->key()) {
+        case Qt::Key_Delete:
+            // Selected text goes as one step of the history, with or without the menu.
+            if (event->modifiers() != Qt::NoModifier || !hasSelectedText() || isReadOnly()) break;
+            binding_.Frame().RunCommand("mnuEditClear");
+            return;
         case Qt::Key_Return:
         case Qt::Key_Enter:
             if (Commit()) selectAll();
@@ -98,8 +129,9 @@ void FieldBox::keyPressEvent(QKeyEvent* event) {
             selectAll();
             return;
         default:
-            QLineEdit::keyPressEvent(event);
+            break;
     }
+    QLineEdit::keyPressEvent(event);
 }
 
 void FieldBox::contextMenuEvent(QContextMenuEvent* event) {

@@ -16,6 +16,7 @@ class FieldBox final : public QLineEdit {
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    TextBox& Box() const { return box_; }
 
   protected:
     void focusInEvent(QFocusEvent* event) override;
@@ -26,6 +27,8 @@ class FieldBox final : public QLineEdit {
 
   private:
     void ShowText();
+    void ShowSelection();
+    void TellSelection();
     void LookComputed();
     // False for a bad entry.
     bool Commit();
@@ -34,6 +37,7 @@ class FieldBox final : public QLineEdit {
     TextBox& box_;  // gone after the binding has let go of the document
     const bool computed_;
     int digits_;
+    bool showing_ = false;  // the selection comes from the document
 };
 
 }  // namespace tw

@@ -182,7 +182,7 @@ bool GridDelegate::HandleKey(QWidget& editor, const QKeyEvent& key) {
             Close(editor, RevertModelCache);
             return true;
         default:
-            return key.key() != Qt::Key_Delete && body_.Binding().HandleKey(key, true);
+            return body_.Binding().HandleKey(key);
     }
 }
 

@@ -38,6 +38,23 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section)
     painter->setPen(palette().color(QPalette::ButtonText));
     painter->drawText(place, alignment | Qt::TextSingleLine,
                       fontMetrics().elidedText(text, Qt::ElideRight, place.width()));
+    if (isSortIndicatorShown() && sortIndicatorSection() == section) PaintSortMark(*painter, rect);
+}
+
+// A small arrow at the upper edge, where it takes no room from the text.
+void GridHeader::PaintSortMark(QPainter& painter, const QRect& rect) const {
+    const double half = Unit(*this) * 0.45;
+    const double middle = rect.center().x();
+    const bool up = sortIndicatorOrder() == Qt::AscendingOrder;
+    const double tip = rect.top() + (up ? 1.5 : 1.5 + half);
+    const double base = rect.top() + (up ? 1.5 + half : 1.5);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::ButtonText));
+    painter.drawPolygon(
+        QPolygonF({QPointF(middle - half, base), QPointF(middle + half, base), QPointF(middle, tip)}));
+    painter.restore();
 }
 
 // Beyond the last column the header goes on, without text.

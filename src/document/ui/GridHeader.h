@@ -15,6 +15,9 @@ class GridHeader final : public QHeaderView {
     void paintEvent(QPaintEvent* event) override;
     QSize sectionSizeFromContents(int section) const override;
     void changeEvent(QEvent* event) override;
+
+  private:
+    void PaintSortMark(QPainter& painter, const QRect& rect) const;
 };
 
 // Distance of a cell's text from the cell's edge, in pixels.

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 #include "document/ui/GridDelegate.h"
 #include "document/ui/GridHeader.h"
@@ -61,6 +62,10 @@ void GridView::BuildHeader() {
     verticalHeader()->setDefaultSectionSize(RowHeight());
     setHorizontalHeader(new GridHeader(this));
     horizontalHeader()->setAccessibleName(tr("Columns of %1").arg(accessibleName()));
+    horizontalHeader()->setSectionsClickable(grid_->RowsCanChange());
+    if (grid_->RowsCanChange())
+        horizontalHeader()->setToolTip(
+            tr("A click sorts the rows by this column, another one the other way round (Ctrl+Shift+S)"));
 }
 
 void GridView::Connect() {
@@ -68,6 +73,8 @@ void GridView::Connect() {
         if (!fitting_) widthsChosen_ = true;
         if (totals_) totals_->setColumnWidth(col, width);
     });
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &GridView::TellSelection);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &GridView::SortBy);
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
         if (totals_) totals_->horizontalScrollBar()->setValue(value);
     });
@@ -82,9 +89,23 @@ int GridView::ContentHeight() const {
 }
 
 void GridView::ShowCell(int row, int col) {
+    // The rows are no longer known to stand in the order of the mark.
+    if (!sorting_ && horizontalHeader()->sortIndicatorSection() == col) ShowSortMark(-1);
+    if (binding_.IsHeld()) {
+        stale_ = true;
+        return;
+    }
     model_->CellChanged(row, col);
     if (totals_) static_cast<GridModel*>(totals_->model())->CellChanged(row, col);
     if (!widthsChosen_ && WantsMoreRoom(row, col)) FitGridColumns();
+    emit ContentChanged();
+}
+
+void GridView::ShowHeldChanges() {
+    if (!std::exchange(stale_, false)) return;
+    ShowColors();
+    if (!widthsChosen_) FitGridColumns();
+    ShowCurrentCell();
     emit ContentChanged();
 }
 
@@ -96,6 +117,7 @@ bool GridView::WantsMoreRoom(int row, int col) const {
 }
 
 void GridView::ShowRowInserted(int row) {
+    ShowSortMark(-1);
     FollowRows([&] { model_->RowInserted(row); });
 }
 
@@ -109,18 +131,51 @@ void GridView::FollowRows(const std::function<void()>& change) {
     change();
     following_ = false;
     // With the last row gone, the one above it is next, not the totals.
-    if (grid_ && !grid_->IsDataRow(grid_->CurrentRow())) TellCurrentCell();
+    if (grid_ && !grid_->IsDataRow(grid_->CurrentRow())) TellSelection();
     ShowCurrentCell();
     emit ContentChanged();
 }
 
 void GridView::ShowCurrentCell() {
-    if (!grid_) return;
+    if (!grid_ || following_ || binding_.IsHeld()) {
+        stale_ = stale_ || binding_.IsHeld();
+        return;
+    }
+    const GridRange range = grid_->Selection();
+    following_ = true;
     const int row = model_->ModelRow(grid_->CurrentRow());
-    const QModelIndex wanted = row < 0 ? QModelIndex() : model_->index(row, grid_->CurrentCol());
-    if (wanted.isValid() && wanted != currentIndex()) setCurrentIndex(wanted);
+    // Qt's current cell is the end of the block that moves; within the block it stays where it is.
+    if (row < 0 || SelectedRange() != range || !selectionModel()->hasSelection()) {
+        SelectIn(*this, range);
+        if (row >= 0)
+            selectionModel()->setCurrentIndex(model_->index(row, grid_->CurrentCol()),
+                                              QItemSelectionModel::NoUpdate);
+    }
+    if (totals_) SelectIn(*totals_, range);
+    following_ = false;
     viewport()->update();
     if (totals_) totals_->viewport()->update();
+}
+
+void GridView::SelectIn(QTableView& view, const GridRange& range) {
+    const auto& model = static_cast<const GridModel&>(*view.model());
+    const int first = std::max(range.row1, model.GridRow(0));
+    const int last = std::min(range.row2, model.GridRow(model.rowCount() - 1));
+    if (first > last) return view.clearSelection();
+    const QItemSelection block(model.index(model.ModelRow(first), range.col1),
+                               model.index(model.ModelRow(last), range.col2));
+    view.selectionModel()->select(block, QItemSelectionModel::ClearAndSelect);
+}
+
+std::optional<GridRange> GridView::SelectedRange() const {
+    const QModelIndex current = currentIndex();
+    if (!grid_ || !current.isValid()) return std::nullopt;
+    for (const QItemSelectionRange& block : selectionModel()->selection())
+        if (block.contains(current))
+            return GridRange{model_->GridRow(block.top()), block.left(), model_->GridRow(block.bottom()),
+                             block.right()};
+    const int row = model_->GridRow(current.row());
+    return GridRange{row, current.column(), row, current.column()};
 }
 
 void GridView::ShowColors() {
@@ -190,6 +245,14 @@ bool GridView::CommitEditor() {
 }
 
 bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    // Of a selected block, what is typed goes into the cell with the frame.
+    const bool byKey = trigger == AnyKeyPressed || trigger == EditKeyPressed;
+    if (byKey && grid_ && !IsCurrentCell(index)) {
+        const int row = model_->ModelRow(grid_->CurrentRow());
+        if (row < 0 || index == model_->index(row, grid_->CurrentCol())) return false;
+        setCurrentIndex(model_->index(row, grid_->CurrentCol()));
+        return edit(currentIndex(), trigger, event);
+    }
     if (hasDates_ && trigger == DoubleClicked && index.column() == LogCol::Date) {
         emit CalendarRequested(model_->GridRow(index.row()));
         return false;
@@ -241,15 +304,13 @@ void GridView::KeepEditor() {
 
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
-    if (!following_) TellCurrentCell();
+    if (!following_) TellSelection();
 }
 
-void GridView::TellCurrentCell() {
-    const QModelIndex current = currentIndex();
-    if (!grid_ || !current.isValid()) return;
-    const int row = model_->GridRow(current.row()), col = current.column();
-    if (row == grid_->CurrentRow() && col == grid_->CurrentCol()) return;
-    binding_.Run([&](RecipeDocument& document) { document.SetCurrentCell(*grid_, row, col); });
+void GridView::TellSelection() {
+    const std::optional<GridRange> range = SelectedRange();
+    if (following_ || !range || *range == grid_->Selection()) return;
+    binding_.Run([&](RecipeDocument& document) { document.SelectCells(*grid_, *range); });
 }
 
 bool GridView::IsCurrentCell(const QModelIndex& cell) const {
@@ -265,10 +326,20 @@ void GridView::Toggle(const QModelIndex& cell) {
         [&](RecipeDocument& document) { document.SetChecked(*grid_, row, col, !grid_->Checked(row, col)); });
 }
 
-void GridView::ClearCell(const QModelIndex& cell) {
-    if (!model_->CanEdit(cell) || model_->IsCheckBox(cell)) return;
-    const int row = model_->GridRow(cell.row()), col = cell.column();
-    binding_.Run([&](RecipeDocument& document) { document.EditCell(*grid_, row, col, {}); });
+void GridView::SortBy(int col) {
+    if (!grid_ || !grid_->RowsCanChange() || col < 0) return;
+    sorting_ = true;
+    binding_.Run([&](RecipeDocument& document) { document.ClickHeader(*grid_, col); });
+    sorting_ = false;
+    // The document has one sort column for all its grids.
+    binding_.ForEachGrid([&](GridView& view) { view.ShowSortMark(&view == this ? col : -1); });
+}
+
+void GridView::ShowSortMark(int col) {
+    const RecipeDocument* document = binding_.Document();
+    const bool descending = document && document->SortDescending();
+    horizontalHeader()->setSortIndicator(col, descending ? Qt::DescendingOrder : Qt::AscendingOrder);
+    horizontalHeader()->setSortIndicatorShown(col >= 0);
 }
 
 bool GridView::Step(int direction) {
@@ -289,7 +360,7 @@ void GridView::StepDown() {
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
-    if (binding_.HandleKey(*event, true)) return;
+    if (binding_.HandleEditKey(*event)) return;
     const QModelIndex cell = currentIndex();
     switch (event->key()) {
         case Qt::Key_Return:
@@ -301,7 +372,13 @@ void GridView::keyPressEvent(QKeyEvent* event) {
             Toggle(cell);
             return;
         case Qt::Key_Delete:
-            ClearCell(cell);
+            if (event->modifiers() != Qt::NoModifier) break;
+            binding_.Frame().RunCommand("mnuEditClear");
+            return;
+        case Qt::Key_S:
+            // Nothing needs the mouse: the header's click by key.
+            if (event->modifiers() != (Qt::ControlModifier | Qt::ShiftModifier)) break;
+            SortBy(grid_ ? grid_->CurrentCol() : -1);
             return;
         case Qt::Key_Down:
             if (!hasDates_ || !event->modifiers().testFlag(Qt::AltModifier) || !cell.isValid()) break;
@@ -322,7 +399,7 @@ bool GridView::focusNextPrevChild(bool next) {
 void GridView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
     // The current cell may have been one of the totals.
-    if (grid_ && !grid_->IsDataRow(grid_->CurrentRow())) TellCurrentCell();
+    if (grid_ && !grid_->IsDataRow(grid_->CurrentRow())) TellSelection();
     ShowCurrentCell();
     if (!currentIndex().isValid() && model_->rowCount() > 0) setCurrentIndex(model_->index(0, 0));
     // Whoever comes by key wants to type.

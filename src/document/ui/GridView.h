@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QTableView>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "document/ui/DocumentBinding.h"
@@ -40,6 +41,8 @@ class GridView final : public QTableView {
     void ShowRowInserted(int row);
     void ShowRowRemoved(int row);
     void ShowCurrentCell();
+    // The changes that came while redraw was held.
+    void ShowHeldChanges();
     // Whether a cell of this view or of its totals is the record's current one.
     bool IsCurrentCell(const QModelIndex& cell) const;
     // Repaints with the present colours.
@@ -85,14 +88,19 @@ class GridView final : public QTableView {
     void BuildHeader();
     void Connect();
     void Toggle(const QModelIndex& cell);
-    void ClearCell(const QModelIndex& cell);
+    void SortBy(int col);
+    void ShowSortMark(int col);
     // To the next (+1) or previous (-1) cell that takes an entry; false when there is none.
     bool Step(int direction);
     // To the cell below.
     void StepDown();
     void FollowRows(const std::function<void()>& change);
-    // Makes this view's current cell the record's.
-    void TellCurrentCell();
+    // Makes this view's selection, or its current cell, the record's.
+    void TellSelection();
+    // The selected block as cells of the record; the current cell alone when it lies outside.
+    std::optional<GridRange> SelectedRange() const;
+    // The selection of one of the two views, as far as the range reaches into it.
+    static void SelectIn(QTableView& view, const GridRange& range);
     void KeepEditor();
     // A text has come that the column is too narrow for.
     bool WantsMoreRoom(int row, int col) const;
@@ -103,9 +111,11 @@ class GridView final : public QTableView {
     QTableView* totals_ = nullptr;
     QPointer<QWidget> editor_;
     QPersistentModelIndex editedCell_;
-    bool committing_ = false;    // the entry is being validated
-    bool refused_ = false;       // the last commit was refused; the editor stays
-    bool following_ = false;     // the rows change; Qt's current cell moves with them
+    bool committing_ = false;  // the entry is being validated
+    bool refused_ = false;     // the last commit was refused; the editor stays
+    bool following_ = false;   // the rows or the selection change by the record, not by the brewer
+    bool stale_ = false;       // changes have come while redraw was held
+    bool sorting_ = false;
     bool fitting_ = false;       // the column widths are ours, not the brewer's
     bool widthsChosen_ = false;  // the brewer has dragged a column
     bool hasDates_ = false;

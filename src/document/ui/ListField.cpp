@@ -108,7 +108,9 @@ void ListField::wheelEvent(QWheelEvent* event) {
 }
 
 void ListField::keyPressEvent(QKeyEvent* event) {
-    if (binding_.HandleKey(*event, false)) return;
+    // While a name is being typed, undo is about its letters.
+    const bool typing = lineEdit()->isUndoAvailable() && event->matches(QKeySequence::Undo);
+    if (!typing && binding_.HandleListKey(*event)) return;
     if (event->key() == Qt::Key_Escape) {
         ShowList();
         lineEdit()->selectAll();

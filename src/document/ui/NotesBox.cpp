@@ -21,8 +21,13 @@ NotesBox::NotesBox(DocumentBinding& binding, TextBox& box, const QString& name, 
     setAccessibleName(name);
     setTabChangesFocus(true);
     setPlaceholderText(tr("Type what else is worth keeping: the day, the brewers, the taste."));
+    // The recipe's history is the one that counts.
+    setUndoRedoEnabled(false);
     ShowText();
     binding_.Watch(&box_, [this] { ShowText(); });
+    binding_.WatchSelection(box_, [this] { ShowSelection(); });
+    connect(this, &QPlainTextEdit::selectionChanged, this, &NotesBox::TellSelection);
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, &NotesBox::TellSelection);
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (showing_) return;
         const QString text = toPlainText().replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
@@ -35,6 +40,39 @@ void NotesBox::ShowText() {
     if (toPlainText() == wanted) return;
     showing_ = true;
     setPlainText(wanted);
+    showing_ = false;
+}
+
+int NotesBox::PlaceInRecord(int place) const {
+    const QString before = toPlainText().left(place);
+    return CodePointPlace(before, static_cast<int>(before.size())) +
+           static_cast<int>(before.count(QLatin1Char('\n')));
+}
+
+int NotesBox::PlaceInWidget(int place) const {
+    QString lines = toPlainText().replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
+    lines.truncate(UnitPlace(lines, place));
+    return static_cast<int>(lines.size() - lines.count(QLatin1Char('\r')));
+}
+
+void NotesBox::ShowSelection() {
+    // It has just been told from here.
+    if (showing_) return;
+    const TextSelection wanted = box_.Selection();
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(PlaceInWidget(wanted.start));
+    cursor.setPosition(PlaceInWidget(wanted.start + wanted.length), QTextCursor::KeepAnchor);
+    showing_ = true;
+    setTextCursor(cursor);
+    showing_ = false;
+}
+
+void NotesBox::TellSelection() {
+    if (showing_ || !binding_.Document()) return;
+    const QTextCursor cursor = textCursor();
+    const int start = PlaceInRecord(cursor.selectionStart());
+    showing_ = true;
+    box_.Select({start, PlaceInRecord(cursor.selectionEnd()) - start});
     showing_ = false;
 }
 
@@ -55,7 +93,12 @@ void NotesBox::focusOutEvent(QFocusEvent* event) {
 }
 
 void NotesBox::keyPressEvent(QKeyEvent* event) {
-    if (binding_.HandleKey(*event, false)) return;
+    if (binding_.HandleEditKey(*event)) return;
+    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier &&
+        textCursor().hasSelection()) {
+        binding_.Frame().RunCommand("mnuEditClear");
+        return;
+    }
     QPlainTextEdit::keyPressEvent(event);
 }
 

@@ -12,6 +12,8 @@ class NotesBox final : public QPlainTextEdit {
   public:
     NotesBox(DocumentBinding& binding, TextBox& box, const QString& name, QWidget* parent);
 
+    TextBox& Box() const { return box_; }
+
   protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -20,6 +22,11 @@ class NotesBox final : public QPlainTextEdit {
 
   private:
     void ShowText();
+    void ShowSelection();
+    void TellSelection();
+    // The record's place of a place in the widget, and the other way round.
+    int PlaceInRecord(int place) const;
+    int PlaceInWidget(int place) const;
     bool Commit();
 
     DocumentBinding& binding_;

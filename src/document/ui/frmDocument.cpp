@@ -1,5 +1,6 @@
 #include "document/ui/frmDocument.h"
 
+#include <QApplication>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
@@ -7,9 +8,12 @@
 #include <QVBoxLayout>
 
 #include "document/ui/DocumentPages.h"
-#include "document/ui/GridView.h"
+#include "document/ui/FieldBox.h"
+#include "document/ui/GridPanel.h"
+#include "document/ui/NotesBox.h"
 #include "document/ui/PageBuilder.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/QtText.h"
 
 namespace tw {
 
@@ -38,6 +42,7 @@ frmDocument::frmDocument(RecipeDocument& document, Platform& platform, DocumentF
     setFocusProxy(FirstField());
     document.SetView(this);
     connect(tabs_, &QTabWidget::currentChanged, this, &frmDocument::TabChosen);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { FocusMoved(now); });
     binding_.SetStepTab([this](int step) {
         const int to = tabs_->currentIndex() + step;
         if (to >= 0 && to < kTabs) ShowTab(static_cast<Tab>(to));
@@ -82,6 +87,38 @@ void frmDocument::TabChosen(int index) {
     QWidget* first = FirstField();
     setFocusProxy(first);
     if (first) first->setFocus(Qt::TabFocusReason);
+}
+
+void frmDocument::TabWanted(Tab tab) {
+    shown_ = static_cast<int>(tab);
+    BuildTab(shown_);
+    tabs_->setCurrentIndex(shown_);
+    setFocusProxy(FirstField());
+}
+
+void frmDocument::ControlWanted(const std::string& name) {
+    const QWidget* page = pages_[static_cast<std::size_t>(shown_)]->widget();
+    auto* control = page ? page->findChild<QWidget*>(ToQt(name)) : nullptr;
+    if (control && !control->hasFocus()) control->setFocus(Qt::OtherFocusReason);
+}
+
+void frmDocument::HoldRedraw(bool hold) {
+    if (hold && !binding_.IsHeld()) setUpdatesEnabled(false);
+    binding_.HoldRedraw(hold);
+    if (!binding_.IsHeld()) setUpdatesEnabled(true);
+}
+
+void frmDocument::FocusMoved(QWidget* now) {
+    RecipeDocument* document = binding_.Document();
+    // Menus and dialogs come and go; the edit commands stay with what they were about.
+    if (!document || !now || !isAncestorOf(now)) return;
+    for (QWidget* control = now; control != this; control = control->parentWidget()) {
+        const auto* panel = qobject_cast<GridPanel*>(control);
+        if (panel && panel->View().TheGrid()) return document->FocusOn(*panel->View().TheGrid());
+        if (const auto* field = qobject_cast<FieldBox*>(control)) return document->FocusOn(field->Box());
+        if (const auto* notes = qobject_cast<NotesBox*>(control)) return document->FocusOn(notes->Box());
+    }
+    document->FocusElsewhere();
 }
 
 QWidget* frmDocument::FirstField() const {

@@ -41,7 +41,12 @@ class frmDocument final : public QWidget, private DocumentView {
     QSize sizeHint() const override;
 
   private:
-    void FlushEditors() override { binding_.Flush(); }
+    bool FlushEditors() override { return binding_.Flush(); }
+    void TabWanted(Tab tab) override;
+    void ControlWanted(const std::string& name) override;
+    void HoldRedraw(bool hold) override;
+    // Tells the document which control has the focus.
+    void FocusMoved(QWidget* now);
     // The contents of a tab are made when it is first shown.
     void BuildTab(int index);
     void TabChosen(int index);

@@ -14,4 +14,16 @@ inline std::string FromQt(const QString& text) {
     return text.toStdString();
 }
 
+// Places in a text, counted in code points by the core and in UTF-16 units by Qt. Places behind the text's
+// end become its end.
+inline int CodePointPlace(const QString& text, int unit) {
+    return static_cast<int>(QStringView(text).left(unit).toUcs4().size());
+}
+inline int UnitPlace(const QString& text, int codePoint) {
+    int unit = 0;
+    for (; codePoint > 0 && unit < text.size(); --codePoint)
+        unit += text[unit].isHighSurrogate() && unit + 1 < text.size() ? 2 : 1;
+    return unit;
+}
+
 }  // namespace tw
