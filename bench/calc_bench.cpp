@@ -144,6 +144,8 @@ class QuietHost : public tw::DocumentHost, public tw::DocumentCommands {
     bool AppendRows() const override { return true; }
     bool CopyHeaders() const override { return false; }
     bool PasteMismatchSize() const override { return false; }
+    bool AskBeforeNonUndoableChange() const override { return false; }
+    void StopAskingBeforeNonUndoableChange() override {}
     void DeleteRecipe(std::string_view) override {}
     void RecipeStored(std::string_view) override {}
     void AddToMRU(std::string_view) override {}

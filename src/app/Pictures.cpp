@@ -6,6 +6,7 @@
 #include <QTabWidget>
 
 #include "app/PrintedMessages.h"
+#include "document/CannotUndo.h"
 #include "document/DetailWindows.h"
 #include "document/ui/frmDocument.h"
 #include "platform/qt/Appearance.h"
@@ -52,6 +53,8 @@ bool SaveOptions(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
 bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
     AboutModel about;
     bool ok = SaveDialog(dialogs, about, window, prefix + QStringLiteral("about.png"));
+    CannotUndoModel cannotUndo;
+    ok &= SaveDialog(dialogs, cannotUndo, window, prefix + QStringLiteral("cannot-undo.png"));
     ok &= SaveOptions(dialogs, shell, window, prefix);
     if (RecipeDocument* document = shell.ActiveDocument()) {
         DetailsModel strength = StrengthDetailsOf(*document), volume = FinalVolDetailsOf(*document),

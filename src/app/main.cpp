@@ -9,6 +9,7 @@
 #include "app/Pictures.h"
 #include "app/PrintedMessages.h"
 #include "app/ProgramOptions.h"
+#include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
 #include "document/ui/RangeBar.h"
 #include "document/ui/frmDocument.h"
@@ -37,6 +38,7 @@ void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     for (const char* form : {"frmStrengthDetails", "frmFinalVolDetails", "frmHopDetails"})
         dialogs.Register(form, &DetailsDialog::Make);
     dialogs.Register("frmAbout", &AboutDialog::Make);
+    dialogs.Register("frmCannotUndo", &CannotUndoDialog::Make);
     dialogs.Register("frmAutoSave", &frmAutoSave::Make);
     dialogs.Register("frmOpenSave", &OpenSaveDialog::Make);
     dialogs.Register("frmRecovery", &RecoveryDialog::Make);

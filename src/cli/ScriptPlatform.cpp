@@ -61,6 +61,12 @@ void ScriptMessages::Beep() {
 
 void ScriptDialogs::ShowModal(DialogModel& dialog) {
     dialog.FirstShown();
+    if (const std::optional<PlainQuestion> question = dialog.AsQuestion()) {
+        ScriptMessages box(out_, answers_);
+        const bool yes = box.Ask(question->title, question->text, Question::YesNo) == Answer::Yes;
+        dialog.Press(yes ? "cmdYes" : "cmdNo");
+        return;
+    }
     while (dialog.IsOpen()) {
         if (show_) Print(dialog);
         TakeAnswer(dialog);

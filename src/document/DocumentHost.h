@@ -51,6 +51,9 @@ class DocumentHost {
     virtual bool CopyHeaders() const = 0;
     // A paste may repeat or cut a block to fill a selection of another shape.
     virtual bool PasteMismatchSize() const = 0;
+    // Whether a change that cannot be undone is asked about; and the brewer wants that no more.
+    virtual bool AskBeforeNonUndoableChange() const = 0;
+    virtual void StopAskingBeforeNonUndoableChange() = 0;
     // Deletes a stored recipe; the notices to open documents run inside.
     virtual void DeleteRecipe(std::string_view name) = 0;
     // A recipe of that name has just been written by a save.

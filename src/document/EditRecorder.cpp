@@ -8,8 +8,8 @@ void EditRecorder::Clear() {
     changed_();
 }
 
-void EditRecorder::DropRedo() {
-    stack_.DropRedo();
+void EditRecorder::PutBackRedo(std::vector<EditTracker> edits) {
+    stack_.PutBackRedo(std::move(edits));
     changed_();
 }
 

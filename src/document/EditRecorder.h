@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "calc/Grid.h"
 #include "document/EditTracker.h"
@@ -19,7 +20,8 @@ class EditRecorder {
     UndoStack& Stack() { return stack_; }
     const UndoStack& Stack() const { return stack_; }
     void Clear();
-    void DropRedo();
+    // Puts back what could be redone; what can be redone now is forgotten.
+    void PutBackRedo(std::vector<EditTracker> edits);
 
     // Off while a document is filled and while an undo or redo runs: nothing is recorded then.
     bool Tracking() const { return trackEdits_; }

@@ -26,6 +26,12 @@ EditValue EditValue::OfText(std::string_view text) {
     return value;
 }
 
+EditValue EditValue::OfTextAndNumber(std::string_view text, CellValue number) {
+    EditValue value;
+    value.value_ = std::make_unique<TextAndNumber>(TextAndNumber{std::string(text), number});
+    return value;
+}
+
 EditValue EditValue::OfNumber(double number) {
     EditValue value;
     value.value_ = number;
@@ -45,6 +51,7 @@ EditValue EditValue::OfOrder(std::vector<int> order) {
 }
 
 std::string_view EditValue::AsText() const {
+    if (const auto* const cell = std::get_if<std::unique_ptr<TextAndNumber>>(&value_)) return (*cell)->text;
     const Text* const block = std::get_if<Text>(&value_);
     if (!block) return {};
     std::uint32_t size = 0;
@@ -55,6 +62,11 @@ std::string_view EditValue::AsText() const {
 double EditValue::AsNumber() const {
     const double* const number = std::get_if<double>(&value_);
     return number ? *number : 0;
+}
+
+const CellValue* EditValue::OwnNumber() const {
+    const auto* const cell = std::get_if<std::unique_ptr<TextAndNumber>>(&value_);
+    return cell ? &(*cell)->number : nullptr;
 }
 
 bool EditValue::AsBoolean() const {
@@ -69,7 +81,8 @@ std::vector<int> EditValue::AsOrder() const {
 
 bool EditValue::SameAs(const EditValue& other) const {
     if (value_.index() != other.value_.index()) return false;
-    if (std::holds_alternative<Text>(value_)) return AsText() == other.AsText();
+    if (OwnNumber() && *OwnNumber() != *other.OwnNumber()) return false;
+    if (IsText()) return AsText() == other.AsText();
     if (const Order* const order = std::get_if<Order>(&value_))
         return std::is_sorted((*order)->begin(), (*order)->end());
     return AsNumber() == other.AsNumber() && AsBoolean() == other.AsBoolean();

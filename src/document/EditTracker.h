@@ -10,6 +10,8 @@
 #include <variant>
 #include <vector>
 
+#include "calc/Grid.h"
+
 namespace tw {
 
 enum class ControlType : std::int8_t { None, TextBox, ComboBox, Grid, CheckBox, OptionGroup };
@@ -30,21 +32,24 @@ enum class ChangeType : std::int8_t {
 // The name that the menus show, such as "Delete Row".
 std::string_view ChangeTypeName(ChangeType type);
 
-// A value of a control: nothing, a text, a number, a boolean, or the order of a sort. Small, since a history
-// holds many.
+// A value of a control: nothing, a text, a text whose cell has another number behind it than the text reads
+// as, a number, a boolean, or the order of a sort. Small, since a history holds many.
 class EditValue {
   public:
     EditValue() = default;
     static EditValue OfText(std::string_view text);
+    static EditValue OfTextAndNumber(std::string_view text, CellValue number);
     static EditValue OfNumber(double number);
     static EditValue OfBoolean(bool boolean);
     static EditValue OfOrder(std::vector<int> order);
 
-    bool IsText() const { return std::holds_alternative<Text>(value_); }
+    bool IsText() const { return std::holds_alternative<Text>(value_) || OwnNumber(); }
     bool IsNumber() const { return std::holds_alternative<double>(value_); }
     // The value as that kind; an empty text, 0, false or no order for another kind.
     std::string_view AsText() const;
     double AsNumber() const;
+    // The number of OfTextAndNumber, nullptr where the text tells it.
+    const CellValue* OwnNumber() const;
     bool AsBoolean() const;
     std::vector<int> AsOrder() const;
     // An order equals another one when it moves nothing: its elements ascend.
@@ -54,7 +59,11 @@ class EditValue {
     // Length, then the bytes, in one block.
     using Text = std::unique_ptr<char[]>;
     using Order = std::unique_ptr<std::vector<int>>;
-    std::variant<std::monostate, Text, double, bool, Order> value_;
+    struct TextAndNumber {
+        std::string text;
+        CellValue number;
+    };
+    std::variant<std::monostate, Text, double, bool, Order, std::unique_ptr<TextAndNumber>> value_;
 };
 
 // A selection before and after an edit. In a text box starts and lengths; in a grid first row, first column,

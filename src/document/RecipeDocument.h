@@ -251,6 +251,7 @@ class RecipeDocument {
     void SetDetached();
 
     // Fields (RecipeDocumentFields.cpp).
+    bool IsFreeText(const TextBox& box) const;
     bool ValidateField(const TextBox& box, std::string_view text, bool quiet, double& value);
     bool ValidateHopExtraction(std::string_view text, bool quiet, double& value);
     bool RunFieldChain(TextBox& box);
@@ -306,9 +307,11 @@ class RecipeDocument {
     // Runs changes as one step of the history, or as part of the step that is open; when one raises, the
     // whole step is taken back and the error goes on.
     void AsOneStep(ChangeType type, const std::function<void()>& changes);
-    void TakeBackLastStep();
     void ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo);
     void ApplyToCell(Grid& grid, int row, int col, const EditValue& value);
+    EditValue ValueOf(const Grid& grid, int row, int col, const Cell& cell);
+    EditValue ValueOf(const TextBox& box, std::string_view text, double number);
+    CellValue ReadCell(const Grid& grid, int row, int col, std::string_view text);
     void ApplyRowInsert(Grid& grid, const EditTracker& edit, bool insert);
     void ApplyRowDelete(Grid& grid, int row, bool remove);
     void RefreshUndoCommands();

@@ -116,7 +116,7 @@ void RecipeDocument::LookUpSalt(int row) {
                                            SqlText(treatment.Text(row, TreatmentCol::Name)));
     for (int ion = 0; ion < kIons; ++ion)
         treatment.SetValue(row, TreatmentCol::FirstIon + ion,
-                           CellValue::Of(rs.AtEnd() ? 0 : rs.Fields(ion + 1).Number()));
+                           rs.AtEnd() ? CellValue{} : CellValue::Of(rs.Fields(ion + 1).Number()));
 }
 
 // Pitched yeast sets the final gravity from its apparent attenuation.

@@ -142,7 +142,7 @@ void RecipeDocument::Clear() {
 }
 
 void RecipeDocument::Cut() {
-    if (!focusBox_ && !HasCells(focusGrid_)) return;
+    if (focusBox_ ? focusBox_->Computed() : !HasCells(focusGrid_)) return;
     if (focusGrid_ && !FlushEdits()) return;
     AsOneStep(ChangeType::Cut, [this] {
         Copy();

@@ -18,17 +18,17 @@ FieldValidator ValidatorOf(const RecipeRecord& r, const TextBox& box) {
     return nullptr;
 }
 
-bool IsFreeText(const RecipeRecord& r, const TextBox& box) {
-    return &box == &r.txtName || &box == &r.txtNumBatches || &box == &r.txtNotes;
-}
-
 }  // namespace
+
+bool RecipeDocument::IsFreeText(const TextBox& box) const {
+    return &box == &record_.txtName || &box == &record_.txtNumBatches || &box == &record_.txtNotes;
+}
 
 void RecipeDocument::SetText(TextBox& box, std::string_view text) {
     if (box.Computed() || box.Text() == text) return;
     RecordText(box, text, ChangeType::Typing);
     box.SetText(text);
-    if (!IsFreeText(record_, box)) return;
+    if (!IsFreeText(box)) return;
     MarkChanged();
     if (&box == &record_.txtName) host_.DocumentRenamed(*this);
 }
@@ -37,14 +37,14 @@ void RecipeDocument::RestoreField(TextBox& box) {
     if (box.Computed() || box.Text() == box.Committed()) return;
     const std::string committed = box.Committed();
     // Free text has no refusals; what was typed since it was left is typed back.
-    RecordText(box, committed, IsFreeText(record_, box) ? ChangeType::Typing : ChangeType::Abort);
+    RecordText(box, committed, IsFreeText(box) ? ChangeType::Typing : ChangeType::Abort);
     box.SetText(committed);
     if (&box == &record_.txtName) host_.DocumentRenamed(*this);
 }
 
 bool RecipeDocument::CommitField(TextBox& box, bool quiet) {
     if (box.Computed() || box.Text() == box.Committed()) return true;
-    if (IsFreeText(record_, box)) {
+    if (IsFreeText(box)) {
         box.SetCommitted(box.Text());
         return true;
     }

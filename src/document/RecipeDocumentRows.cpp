@@ -92,11 +92,12 @@ void RecipeDocument::InsertRowForGrid(Grid& grid) {
 void RecipeDocument::DeleteRowForGrid(Grid& grid) {
     const int row = grid.CurrentRow();
     if (!grid.RowsCanChange() || !grid.IsDataRow(row) || grid.DataRows() <= grid.LeastDataRows()) return;
-    const CompoundEdit compound(recorder_, ChangeType::DeleteRow);
-    ClearRowCells(grid, row);
-    const EditRecorder::Edit edit{ControlType::Grid, ChangeType::DeleteRow, {}, row, 0};
-    recorder_.RecordEdit(grid.Name(), EditValue::OfBoolean(false), EditValue::OfBoolean(true), edit);
-    RemoveRow(grid, row);
+    AsOneStep(ChangeType::DeleteRow, [&] {
+        ClearRowCells(grid, row);
+        const EditRecorder::Edit edit{ControlType::Grid, ChangeType::DeleteRow, {}, row, 0};
+        recorder_.RecordEdit(grid.Name(), EditValue::OfBoolean(false), EditValue::OfBoolean(true), edit);
+        RemoveRow(grid, row);
+    });
 }
 
 void RecipeDocument::RemoveRow(Grid& grid, int row) {

@@ -9,11 +9,6 @@
 namespace tw {
 namespace {
 
-EditValue ValueOf(const Cell& cell) {
-    return cell.check == CheckState::None ? EditValue::OfText(cell.text)
-                                          : EditValue::OfBoolean(cell.check == CheckState::Checked);
-}
-
 // The number behind a cell, nothing when there is none.
 EditValue NumberOf(const Cell& cell) {
     return cell.value.kind == CellValue::Kind::None ? EditValue() : EditValue::OfNumber(cell.value.number);
@@ -35,59 +30,75 @@ void RecipeDocument::RecordText(TextBox& box, std::string_view newText, ChangeTy
     edit.selection.oldStart = span.start;
     edit.selection.oldLength = span.oldLength;
     edit.selection.newStart = span.start + span.newLength;
-    recorder_.RecordEdit(box.Name(), EditValue::OfText(box.Text()), EditValue::OfText(newText), edit);
+    EditValue old =
+        box.Text() == box.Committed() ? ValueOf(box, box.Text(), box.Value()) : EditValue::OfText(box.Text());
+    recorder_.RecordEdit(box.Name(), std::move(old), EditValue::OfText(newText), edit);
+}
+
+// What a box holds with its text committed. A number that the text does not tell goes along: the gravity that
+// a yeast gives, or that of a recipe stored elsewhere.
+EditValue RecipeDocument::ValueOf(const TextBox& box, std::string_view text, double number) {
+    double told = number;
+    if (!IsFreeText(box)) Quietly([&] { return ValidateField(box, text, true, told); });
+    return told == number ? EditValue::OfText(text) : EditValue::OfTextAndNumber(text, CellValue::Of(number));
+}
+
+// What a cell holds. A number that its text does not tell goes along: that of a recipe stored elsewhere, or
+// of a time typed before its hops were dry.
+EditValue RecipeDocument::ValueOf(const Grid& grid, int row, int col, const Cell& cell) {
+    if (cell.check != CheckState::None) return EditValue::OfBoolean(cell.check == CheckState::Checked);
+    const bool tells = ReadCell(grid, row, col, cell.text) == cell.value;
+    return tells ? EditValue::OfText(cell.text) : EditValue::OfTextAndNumber(cell.text, cell.value);
+}
+
+// The number that a cell's text tells; nothing for a text that is not valid there.
+CellValue RecipeDocument::ReadCell(const Grid& grid, int row, int col, std::string_view text) {
+    CellValue value;
+    Quietly([&] { return ValidateCell(grid, row, col, text, true, value); });
+    return value;
 }
 
 // The cell in which the change began is the head; every other cell that changed with it hangs behind.
 void RecipeDocument::RecordRowChange(Grid& grid, int row, int col, const std::vector<Cell>& before) {
     if (!recorder_.Tracking()) return;
     const auto old = [&](int c) -> const Cell& { return before[static_cast<std::size_t>(c)]; };
-    EditTracker* const head =
-        recorder_.RecordGridCell(grid, row, col, ValueOf(old(col)), ValueOf(grid.At(row, col)));
+    const auto record = [&](int c) {
+        return recorder_.RecordGridCell(grid, row, c, ValueOf(grid, row, c, old(c)),
+                                        ValueOf(grid, row, c, grid.At(row, c)));
+    };
+    EditTracker* const head = record(col);
     const CompoundEdit compound(recorder_, head);
     for (int c = 0; c < grid.Cols(); ++c) {
         if (c == col) continue;
-        if (!grid.ColumnAt(c).readOnly)
-            recorder_.RecordGridCell(grid, row, c, ValueOf(old(c)), ValueOf(grid.At(row, c)));
-        // Numbers that do not follow from their text: a salt's factors behind its ion cells, and the time of
-        // hops that counts again once they are not dry any more.
-        const bool ownNumber =
-            grid.ColumnAt(c).readOnly ? &grid == &record_.gridTreatment : old(c).text == grid.Text(row, c);
-        if (ownNumber) recorder_.RecordGridCell(grid, row, c, NumberOf(old(c)), NumberOf(grid.At(row, c)));
+        if (!grid.ColumnAt(c).readOnly) record(c);
+        // The salt's factors stand behind its ion cells, whose texts are computed.
+        else if (&grid == &record_.gridTreatment)
+            recorder_.RecordGridCell(grid, row, c, NumberOf(old(c)), NumberOf(grid.At(row, c)));
     }
     if (!gravityChange_) return;
-    // The gravity that a yeast gives is finer than its text, so its number is put back on either way.
     const TextBox& fg = record_.txtFG;
-    const EditRecorder::Edit typing{ControlType::TextBox, ChangeType::Typing};
-    const auto number = [&] {
-        recorder_.RecordEdit(fg.Name(), EditValue::OfNumber(gravityChange_->oldValue),
-                             EditValue::OfNumber(fg.Value()), typing);
-    };
-    number();
-    recorder_.RecordEdit(fg.Name(), EditValue::OfText(gravityChange_->oldText), EditValue::OfText(fg.Text()),
-                         typing);
-    number();
+    recorder_.RecordEdit(fg.Name(), ValueOf(fg, gravityChange_->oldText, gravityChange_->oldValue),
+                         ValueOf(fg, fg.Text(), fg.Value()), {ControlType::TextBox, ChangeType::Typing});
     gravityChange_.reset();
 }
 
 void RecipeDocument::AsOneStep(ChangeType type, const std::function<void()>& changes) {
-    const bool outermost = !recorder_.InCompound();
+    if (recorder_.InCompound()) {
+        const CompoundEdit compound(recorder_, type);
+        changes();
+        return;
+    }
     const bool changedBefore = changed_;
+    std::vector<EditTracker> redo = recorder_.Stack().TakeRedo();
     try {
         const CompoundEdit compound(recorder_, type);
         changes();
     } catch (const Error&) {
-        if (outermost) {
-            TakeBackLastStep();
-            if (!changedBefore) ClearChanged();
-        }
+        Quietly([this] { return ApplyStep(recorder_.Stack().StepBack(), true); });
+        recorder_.PutBackRedo(std::move(redo));
+        if (!changedBefore) ClearChanged();
         throw;
     }
-}
-
-void RecipeDocument::TakeBackLastStep() {
-    Quietly([this] { return ApplyStep(recorder_.Stack().StepBack(), true); });
-    recorder_.DropRedo();
 }
 
 // What is being typed in a text box is the next step back itself: committing it first would only ask about an
@@ -164,15 +175,16 @@ void RecipeDocument::ApplyEdit(const EditTracker& edit, bool undo) {
 
 void RecipeDocument::ApplyToTextBox(TextBox& box, const EditTracker& edit, bool undo) {
     const EditValue& value = undo ? edit.OldValue() : edit.NewValue();
-    if (value.IsNumber()) {
-        box.SetValue(value.AsNumber());
-        RunFieldChain(box);
-        return;
-    }
     FocusOn(box);
     SetText(box, value.AsText());
-    // A text that was refused when it was typed comes back as it was: shown, not committed.
-    if (!Quietly([&] { return CommitField(box, true); })) SetText(box, value.AsText());
+    if (const CellValue* const number = value.OwnNumber()) {
+        box.SetCommitted(box.Text());
+        box.SetValue(number->number);
+        Quietly([&] { return RunFieldChain(box); });
+    } else if (!Quietly([&] { return CommitField(box, true); })) {
+        // A text that was refused when it was typed comes back as it was: shown, not committed.
+        SetText(box, value.AsText());
+    }
     const EditSelection& s = edit.GetSelection();
     box.Select(undo ? TextSelection{s.oldStart, s.oldLength} : TextSelection{s.newStart, s.newLength});
 }
@@ -193,7 +205,8 @@ void RecipeDocument::ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo)
         default: {
             ApplyToCell(grid, edit.Row(), edit.Col(), value);
             const EditSelection& s = edit.GetSelection();
-            grid.Select({s.newStart, s.oldStart, s.newStart + s.newLength - 1, s.oldStart + s.oldLength - 1});
+            SelectCells(grid,
+                        {s.newStart, s.oldStart, s.newStart + s.newLength - 1, s.oldStart + s.oldLength - 1});
             break;
         }
     }
@@ -208,10 +221,9 @@ void RecipeDocument::ApplyToCell(Grid& grid, int row, int col, const EditValue& 
     } else if (!value.IsText()) {
         grid.SetValue(row, col, value.IsNumber() ? CellValue::Of(value.AsNumber()) : CellValue{});
     } else {
-        CellValue read;
-        Quietly([&] { return ValidateCell(grid, row, col, value.AsText(), true, read); });
+        const CellValue* const number = value.OwnNumber();
+        grid.SetValue(row, col, number ? *number : ReadCell(grid, row, col, value.AsText()));
         grid.SetText(row, col, value.AsText());
-        grid.SetValue(row, col, read);
     }
     // Without look-ups: what they filled in has records of its own.
     RecalculateGrid(grid, row);

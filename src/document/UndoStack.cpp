@@ -1,5 +1,8 @@
 #include "document/UndoStack.h"
 
+#include <iterator>
+#include <utility>
+
 namespace tw {
 
 bool UndoStack::JoinsLast(const EditTracker& edit) const {
@@ -14,7 +17,7 @@ bool UndoStack::JoinsLast(const EditTracker& edit) const {
 EditTracker* UndoStack::AddToStack(EditTracker edit) {
     if (JoinsLast(edit)) {
         EditTracker& last = records_.back();
-        if (last.OldValue().SameAs(edit.NewValue())) {
+        if (last.OldValue().AsText() == edit.NewValue().AsText()) {
             records_.pop_back();
             --position_;
             return nullptr;
@@ -31,6 +34,18 @@ EditTracker* UndoStack::AddToStack(EditTracker edit) {
 
 void UndoStack::DropRedo() {
     while (records_.size() > position_) records_.pop_back();
+}
+
+std::vector<EditTracker> UndoStack::TakeRedo() {
+    const auto begin = records_.begin() + static_cast<std::ptrdiff_t>(position_);
+    std::vector<EditTracker> edits(std::make_move_iterator(begin), std::make_move_iterator(records_.end()));
+    DropRedo();
+    return edits;
+}
+
+void UndoStack::PutBackRedo(std::vector<EditTracker> edits) {
+    DropRedo();
+    for (EditTracker& edit : edits) records_.push_back(std::move(edit));
 }
 
 void UndoStack::Clear() {

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <deque>
 #include <string_view>
+#include <vector>
 
 #include "document/EditTracker.h"
 
@@ -34,6 +35,9 @@ class UndoStack {
     void Clear();
     // Forgets what could be redone.
     void DropRedo();
+    // Takes out what could be redone, the next one first, and the same put back behind the present position.
+    std::vector<EditTracker> TakeRedo();
+    void PutBackRedo(std::vector<EditTracker> edits);
     // Edits held, and how many of them can be undone.
     std::size_t StackTop() const { return records_.size(); }
     std::size_t StackPosition() const { return position_; }

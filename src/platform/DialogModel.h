@@ -2,6 +2,7 @@
 // to a particular model, the console drives any model by the names of its controls.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,11 @@ namespace tw {
 struct DialogControl {
     std::string name;
     std::string text;  // what the control shows; "yes" or "no" for a check box
+};
+
+// A dialog that only asks, as a box would show it; its buttons are cmdYes and cmdNo.
+struct PlainQuestion {
+    std::string title, text;
 };
 
 class DialogModel {
@@ -31,6 +37,8 @@ class DialogModel {
     // Runs once, when the window first comes to the front. A window that works by itself does its work here
     // and is closed afterwards; it takes no entry then.
     virtual void FirstShown() {}
+    // For a dialog that a box could ask as well.
+    virtual std::optional<PlainQuestion> AsQuestion() const { return std::nullopt; }
     // False once the dialog is done.
     virtual bool IsOpen() const = 0;
 };

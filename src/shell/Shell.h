@@ -156,6 +156,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool AppendRows() const override;
     bool CopyHeaders() const override { return settings_.copyHeaders; }
     bool PasteMismatchSize() const override { return settings_.pasteMismatchSize; }
+    bool AskBeforeNonUndoableChange() const override { return settings_.askBeforeNonUndoableChange; }
+    void StopAskingBeforeNonUndoableChange() override { settings_.askBeforeNonUndoableChange = false; }
     void SetAppendRows(bool append);
     void DeleteRecipe(std::string_view name) override;
     void RecipeStored(std::string_view name) override;

@@ -5,6 +5,8 @@
 #include <set>
 
 #include "GuiTest.h"
+#include "document/CannotUndo.h"
+#include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
 #include "document/ui/FancyLabel.h"
 #include "platform/qt/Appearance.h"
@@ -37,13 +39,16 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         DetailsModel strength = StrengthDetails(1.05, 1.01), hops = HopDetails(1.05, 30);
         DetailsModel volume = FinalVolDetails({5, 0, 5, 1.05, 1.01});
         OpenSaveModel openSave(OpenSaveModel::Style::Open, *shell.DB(), outside.messages);
+        CannotUndoModel cannotUndo;
         AboutDialog aboutWindow(about, nullptr);
+        CannotUndoDialog cannotUndoWindow(cannotUndo, nullptr);
         DetailsDialog strengthWindow(strength, nullptr), hopsWindow(hops, nullptr),
             volumeWindow(volume, nullptr);
         OpenSaveDialog openSaveWindow(openSave, nullptr);
-        for (QDialog* dialog : {static_cast<QDialog*>(&aboutWindow), static_cast<QDialog*>(&strengthWindow),
-                                static_cast<QDialog*>(&hopsWindow), static_cast<QDialog*>(&volumeWindow),
-                                static_cast<QDialog*>(&openSaveWindow)}) {
+        for (QDialog* dialog :
+             {static_cast<QDialog*>(&aboutWindow), static_cast<QDialog*>(&strengthWindow),
+              static_cast<QDialog*>(&hopsWindow), static_cast<QDialog*>(&volumeWindow),
+              static_cast<QDialog*>(&openSaveWindow), static_cast<QDialog*>(&cannotUndoWindow)}) {
             dialog->show();
             QApplication::processEvents();
             visit(*dialog);

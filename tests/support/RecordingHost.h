@@ -23,7 +23,7 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     // What a test sets.
     RecipeDefaults defaults;
     bool appendRows = false;
-    bool copyHeaders = false, pasteMismatchSize = false;
+    bool copyHeaders = false, pasteMismatchSize = false, askBefore = true;
     const RecipeDocument* active = nullptr;  // the active document
     std::vector<RecipeDocument*> documents;  // those that hear the notices
 
@@ -31,6 +31,7 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     // command.
     std::vector<std::string> log;
     std::map<std::string, bool, std::less<>> commands;
+    std::string undoName, redoName;  // what stands in the menu behind Undo and Redo
     std::vector<std::string> TakeLog() { return std::exchange(log, {}); }
     bool IsOn(std::string_view command) const {
         const auto found = commands.find(command);
@@ -43,6 +44,8 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     bool AppendRows() const override { return appendRows; }
     bool CopyHeaders() const override { return copyHeaders; }
     bool PasteMismatchSize() const override { return pasteMismatchSize; }
+    bool AskBeforeNonUndoableChange() const override { return askBefore; }
+    void StopAskingBeforeNonUndoableChange() override { askBefore = false; }
     void DeleteRecipe(std::string_view name) override {
         log.push_back("DeleteRecipe " + std::string(name));
         io_.DeleteRecipeByName(name);
@@ -67,8 +70,14 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
         Set("EnableCopy", copy);
         Set("EnableCutPaste", cutPaste);
     }
-    void EnableUndo(bool on, std::string_view) override { Set("EnableUndo", on); }
-    void EnableRedo(bool on, std::string_view) override { Set("EnableRedo", on); }
+    void EnableUndo(bool on, std::string_view description) override {
+        Set("EnableUndo", on);
+        undoName = description;
+    }
+    void EnableRedo(bool on, std::string_view description) override {
+        Set("EnableRedo", on);
+        redoName = description;
+    }
     void CheckEnableSaveAll() override { log.push_back("CheckEnableSaveAll"); }
     void CheckEnableDelete() override { log.push_back("CheckEnableDelete"); }
 

@@ -1,0 +1,26 @@
+// The window of the question before a change that no undo takes back.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "platform/DialogModel.h"
+
+namespace tw {
+
+class CannotUndoDialog final : public QDialog {
+    Q_OBJECT
+  public:
+    CannotUndoDialog(DialogModel& model, QWidget* parent);
+    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
+
+  protected:
+    void reject() override;
+
+  private:
+    void Press(const char* button);
+
+    DialogModel& model_;
+};
+
+}  // namespace tw
