@@ -1,14 +1,14 @@
 // The tree of 1,000, 10,000 and 100,000 recipes in 100 styles and 220 folders: building it, beside the reads
 // that it stands for run by SQLite alone in the same run, their rows thrown away; what it takes in memory;
 // and renaming or moving one recipe, beside building it. The counter "x_limit" is the ratio of the medians,
-// "x_init" the part of a whole InitFromDatabase. The file is made in the present folder.
+// "x_init" the part of a whole InitFromDatabase, "x_init_first" that of the first change after it. The file
+// is made in the present folder.
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <malloc.h>
-#include <map>
 #include <memory>
 #include <random>
 #include <sqlite3.h>

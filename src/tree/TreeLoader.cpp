@@ -1,0 +1,191 @@
+#include "tree/TreeLoader.h"
+
+#include <cmath>
+#include <deque>
+#include <optional>
+#include <vector>
+
+#include "tree/TWNodes.h"
+
+namespace tw {
+namespace {
+
+// The four copies of a recipe.
+constexpr int kInAll = 0;
+constexpr int kInStyle = 1;
+constexpr int kInStyleOfFolder = 2;
+constexpr int kInFolder = 3;
+
+// The first fields of every read.
+constexpr int kNameField = 0;
+constexpr int kIdField = 1;
+
+// The number that links a row to another. Nothing for NULL and for what is no whole number: that names no
+// row.
+std::optional<std::int64_t> LinkOf(const Recordset& rows, int index) {
+    constexpr double kExact = 9007199254740992.0;  // 2^53, beyond which a double skips whole numbers
+    try {
+        const Value value = rows.Fields(index).Value();
+        const double* const number = std::get_if<double>(&value);
+        if (number == nullptr || std::abs(*number) > kExact || *number != std::trunc(*number))
+            return std::nullopt;
+        return static_cast<std::int64_t>(*number);
+    } catch (const Error&) {
+        return std::nullopt;  // infinite: only a foreign program stores that
+    }
+}
+
+TWNode* FindIn(const std::unordered_map<std::int64_t, TWNode*>& nodes, std::optional<std::int64_t> id) {
+    if (!id) return nullptr;
+    const auto found = nodes.find(*id);
+    return found == nodes.end() ? nullptr : found->second;
+}
+
+struct ObjectRow {
+    SharedText name;
+    std::int64_t id = 0;
+
+    ObjectRow() = default;
+    explicit ObjectRow(const Recordset& rows)
+        : name(rows.Fields(kNameField).Text()), id(rows.Fields(kIdField).Integer()) {}
+
+    // The name stands in the key of what has no id.
+    NodeKey Key(char kind) const {
+        if (id >= 0) return {kind, id};
+        return NodeKey(std::string(1, kind).append(":").append(name.View()));
+    }
+    NodeKey Key(char kind, int copy) const {
+        if (id >= 0) return {kind, id, copy};
+        return NodeKey(Key(kind).Text() + ":" + std::to_string(copy));
+    }
+    NodeContent Recipe(int copy) const {
+        return {name, Key('R', copy), NodeIcon::Document, NodeIcon::Document, true, false};
+    }
+    NodeContent Style(int copy) const {
+        return {name, Key('S', copy), NodeIcon::StyleOpen, NodeIcon::StyleClosed, false, true};
+    }
+    NodeContent Folder(char kind) const {
+        return {name, Key(kind), NodeIcon::FolderOpen, NodeIcon::FolderClosed, false, false};
+    }
+};
+
+}  // namespace
+
+TreeLoader::TreeLoader(TWTree& tree, Database& database)
+    : tree_(tree), database_(database), wasSorted_(tree.Sorted()) {
+    tree_.SetSorted(false);
+}
+
+TreeLoader::~TreeLoader() {
+    tree_.SetSorted(wasSorted_);
+}
+
+TWNode* TreeLoader::Add(TWNode* parent, const NodeContent& content) {
+    if (parent == nullptr || tree_.index_.Find(content.key) != nullptr) return nullptr;
+    return &parent->Children().AddNode(std::make_unique<TWNode>(content));
+}
+
+TWNode* TreeLoader::AddSystemFolder(TWNode* parent, std::string_view name, std::string_view key) {
+    return Add(parent,
+               {SharedText(name), NodeKey(key), NodeIcon::SystemFolderOpen, NodeIcon::SystemFolderClosed});
+}
+
+TWNode* TreeLoader::AddNoStyle(TWNode* parent, std::string_view key) {
+    return Add(parent,
+               {SharedText("(None)"), NodeKey(key), NodeIcon::StyleOpen, NodeIcon::StyleClosed, false, true});
+}
+
+void TreeLoader::AddRoots() {
+    TWNode* const root = &tree_.AddNode(std::make_unique<TWNode>(NodeContent{
+        SharedText("Recipe Database"), NodeKey(kDatabaseKey), NodeIcon::Database, NodeIcon::Database}));
+    allRecipes_ = AddSystemFolder(root, "All Recipes", kAllRecipesKey);
+    byStyle_ = AddSystemFolder(root, "By Style", kByStyleKey);
+}
+
+void TreeLoader::LoadMainDatabase() {
+    AddRoots();
+    allStyles_ = AddSystemFolder(byStyle_, "All Styles", kAllStylesKey);
+    styles_[0] = AddNoStyle(allStyles_, kNoStyleKey);
+    TWNode* const styleRoot = AddSystemFolder(byStyle_, "My Style Folders", kStyleFoldersKey);
+    const NodesById styleFolders = AddFolders(FolderKind::Styles, styleRoot);
+    stylesInFolders_[0] = AddNoStyle(styleRoot, kNoStyleFolderKey);
+    AddStyles(styleFolders);
+    TWNode* const recipeRoot = AddSystemFolder(tree_.Root(), "My Recipe Folders", kRecipeFoldersKey);
+    AddRecipes(AddFolders(FolderKind::Recipes, recipeRoot));
+}
+
+// Folder by folder from the root: what cannot be reached, such as folders that lie in each other in a ring,
+// does not come in.
+TreeLoader::NodesById TreeLoader::AddFolders(FolderKind kind, TWNode* root) {
+    const bool forStyles = kind == FolderKind::Styles;
+    std::unordered_map<std::int64_t, std::vector<ObjectRow>> rowsByParent;
+    for (Recordset rows = database_.OpenRecordset(
+             forStyles ? "SELECT NAME, ID, PARENT_ID FROM FOLDERS WHERE STYLE ORDER BY NAME"
+                       : "SELECT NAME, ID, PARENT_ID FROM FOLDERS WHERE NOT STYLE ORDER BY NAME");
+         !rows.AtEnd(); rows.MoveNext())
+        if (const auto parent = LinkOf(rows, 2)) rowsByParent[*parent].emplace_back(rows);
+
+    NodesById nodes = {{0, root}};
+    std::deque<std::int64_t> open = {0};
+    for (; !open.empty(); open.pop_front()) {
+        TWNode* const parent = nodes[open.front()];
+        for (const ObjectRow& row : rowsByParent[open.front()]) {
+            TWNode* const node = Add(parent, row.Folder(forStyles ? 'G' : 'F'));
+            if (node != nullptr && nodes.try_emplace(row.id, node).second) open.push_back(row.id);
+        }
+    }
+    return nodes;
+}
+
+void TreeLoader::AddStyles(const NodesById& folders) {
+    for (Recordset rows = database_.OpenRecordset("SELECT NAME, ID, FOLDER_ID FROM STYLES ORDER BY NAME");
+         !rows.AtEnd(); rows.MoveNext()) {
+        const ObjectRow row(rows);
+        if (TWNode* const node = Add(allStyles_, row.Style(0))) styles_.try_emplace(row.id, node);
+        if (TWNode* const node = Add(FindIn(folders, LinkOf(rows, 2)), row.Style(1)))
+            stylesInFolders_.try_emplace(row.id, node);
+    }
+}
+
+void TreeLoader::AddRecipes(const NodesById& folders) {
+    constexpr std::size_t kCopies = 4;
+    const auto count =
+        static_cast<std::size_t>(database_.OpenRecordset("SELECT COUNT(*) FROM RECIPES").Fields(0).Integer());
+    tree_.index_.Reserve(tree_.Count() + kCopies * count);
+    allRecipes_->Children().Reserve(count);
+    for (Recordset rows =
+             database_.OpenRecordset("SELECT NAME, ID, STYLE_ID, FOLDER_ID FROM RECIPES ORDER BY NAME");
+         !rows.AtEnd(); rows.MoveNext()) {
+        const ObjectRow row(rows);
+        const auto style = LinkOf(rows, 2);
+        Add(allRecipes_, row.Recipe(kInAll));
+        Add(FindIn(styles_, style), row.Recipe(kInStyle));
+        Add(FindIn(stylesInFolders_, style), row.Recipe(kInStyleOfFolder));
+        Add(FindIn(folders, LinkOf(rows, 3)), row.Recipe(kInFolder));
+    }
+}
+
+void TreeLoader::LoadExchangeFile() {
+    AddRoots();
+    FillRecipes(allRecipes_, "SELECT NAME, ID FROM RECIPES ORDER BY NAME", kInAll);
+    FillRecipes(AddNoStyle(byStyle_, kNoStyleKey),
+                "SELECT NAME, ID FROM RECIPES WHERE STYLE_NAME = '' OR STYLE_NAME IS NULL ORDER BY NAME",
+                kInStyle);
+    for (Recordset rows =
+             database_.OpenRecordset("SELECT DISTINCT STYLE_NAME AS NAME, -1 AS ID FROM RECIPES "
+                                     "WHERE STYLE_NAME <> '' AND NOT STYLE_NAME IS NULL ORDER BY STYLE_NAME");
+         !rows.AtEnd(); rows.MoveNext()) {
+        const ObjectRow row(rows);
+        FillRecipes(
+            Add(byStyle_, row.Style(1)),
+            "SELECT NAME, ID FROM RECIPES WHERE STYLE_NAME = " + SqlText(row.name.View()) + " ORDER BY NAME",
+            kInStyleOfFolder);
+    }
+}
+
+void TreeLoader::FillRecipes(TWNode* parent, const std::string& sql, int copy) {
+    for (Recordset rows = database_.OpenRecordset(sql); !rows.AtEnd(); rows.MoveNext())
+        Add(parent, ObjectRow(rows).Recipe(copy));
+}
+
+}  // namespace tw
