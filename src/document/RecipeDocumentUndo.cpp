@@ -30,9 +30,11 @@ void RecipeDocument::RecordText(TextBox& box, std::string_view newText, ChangeTy
     edit.selection.oldStart = span.start;
     edit.selection.oldLength = span.oldLength;
     edit.selection.newStart = span.start + span.newLength;
-    EditValue old =
-        box.Text() == box.Committed() ? ValueOf(box, box.Text(), box.Value()) : EditValue::OfText(box.Text());
-    recorder_.RecordEdit(box.Name(), std::move(old), EditValue::OfText(newText), edit);
+    // Only a text that is committed, or goes back to it, has a number.
+    const auto valueOf = [&](std::string_view text) {
+        return text == box.Committed() ? ValueOf(box, text, box.Value()) : EditValue::OfText(text);
+    };
+    recorder_.RecordEdit(box.Name(), valueOf(box.Text()), valueOf(newText), edit);
 }
 
 // What a box holds with its text committed. A number that the text does not tell goes along: the gravity that

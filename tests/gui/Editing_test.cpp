@@ -202,6 +202,7 @@ TEST_F(Editing, AHeaderClickSortsAndMarksTheColumn) {
     GridView& view = TwoGrains();
     ClickHeader(view, 1);
     EXPECT_EQ(Shown(view, 1, 1), "2 lb");
+    EXPECT_EQ(R().gridGrain.Selection(), (GridRange{1, 1, 1, 1}));
     EXPECT_TRUE(view.horizontalHeader()->isSortIndicatorShown());
     EXPECT_EQ(view.horizontalHeader()->sortIndicatorSection(), 1);
     EXPECT_EQ(view.horizontalHeader()->sortIndicatorOrder(), Qt::AscendingOrder);

@@ -43,7 +43,7 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section)
 
 // A small arrow at the upper edge, where it takes no room from the text.
 void GridHeader::PaintSortMark(QPainter& painter, const QRect& rect) const {
-    const double half = Unit(*this) * 0.45;
+    const double half = Unit(*this) * 0.6;
     const double middle = rect.center().x();
     const bool up = sortIndicatorOrder() == Qt::AscendingOrder;
     const double tip = rect.top() + (up ? 1.5 : 1.5 + half);

@@ -63,6 +63,9 @@ void GridView::BuildHeader() {
     setHorizontalHeader(new GridHeader(this));
     horizontalHeader()->setAccessibleName(tr("Columns of %1").arg(accessibleName()));
     horizontalHeader()->setSectionsClickable(grid_->RowsCanChange());
+    // A click sorts; Qt would select the column as well.
+    disconnect(horizontalHeader(), &QHeaderView::sectionPressed, this, nullptr);
+    disconnect(horizontalHeader(), &QHeaderView::sectionEntered, this, nullptr);
     if (grid_->RowsCanChange())
         horizontalHeader()->setToolTip(
             tr("A click sorts the rows by this column, another one the other way round (Ctrl+Shift+S)"));
