@@ -5,8 +5,8 @@
 namespace tw {
 namespace {
 
-constexpr auto kTopics = {CommandsOnValues, CommandsOnRecipes, CommandsOnGrids, CommandsOfEditing,
-                          CommandsOnProgram};
+constexpr auto kTopics = {CommandsOnValues, CommandsOnWater,   CommandsOnRecipes,
+                          CommandsOnGrids,  CommandsOfEditing, CommandsOnProgram};
 
 }  // namespace
 

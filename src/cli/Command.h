@@ -27,6 +27,7 @@ int TakeIndex(Arguments& arguments, std::string_view what);
 void CheckCell(const Grid& grid, int row, int col);
 
 std::span<const Command> CommandsOnValues();
+std::span<const Command> CommandsOnWater();
 std::span<const Command> CommandsOnRecipes();
 std::span<const Command> CommandsOnGrids();
 std::span<const Command> CommandsOfEditing();

@@ -1,0 +1,48 @@
+// A matrix column by column, of each only the places that are not zero.
+#pragma once
+
+#include <span>
+#include <vector>
+
+namespace tw {
+
+class ColumnMatrix {
+  public:
+    struct Entry {
+        int row;
+        double value;
+    };
+    struct Place {
+        int row;
+        int col;
+        double value;
+    };
+
+    ColumnMatrix() = default;
+    // The columns 0 to columns - 1 out of places that are given row by row from the top, each place once.
+    // REQUIRES: the places lie in these columns.
+    ColumnMatrix(int columns, std::span<const Place> places);
+
+    // Adds a column behind the others; the rows of its entries ascend.
+    void Append(std::span<const Entry> entries) {
+        entries_.insert(entries_.end(), entries.begin(), entries.end());
+        starts_.push_back(static_cast<int>(entries_.size()));
+    }
+    // Makes room for that many columns more of one entry each.
+    void Reserve(int columns) {
+        starts_.reserve(starts_.size() + columns);
+        entries_.reserve(entries_.size() + columns);
+    }
+
+    int Columns() const { return static_cast<int>(starts_.size()) - 1; }
+    // The entries of a column, their rows in ascending order. REQUIRES: 0 <= col < Columns().
+    std::span<const Entry> Column(int col) const {
+        return {entries_.data() + starts_[col], entries_.data() + starts_[col + 1]};
+    }
+
+  private:
+    std::vector<int> starts_{0};  // of each column, and the end of the last
+    std::vector<Entry> entries_;
+};
+
+}  // namespace tw

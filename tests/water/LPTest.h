@@ -1,0 +1,41 @@
+// Linear programs as the tests write them.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "water/LPsimplex.h"
+
+namespace tw {
+
+struct LinearProgram {
+    int vars = 0;
+    std::vector<double> objective = {};
+    bool minimise = true;
+    struct Row {
+        std::vector<double> coefficients;
+        LPRow type;
+        double rightSide;
+    };
+    std::vector<Row> rows = {};
+};
+
+struct Solved {
+    LPStatus status;
+    std::vector<double> x;
+    std::int64_t iterations;
+    double objective;
+};
+
+inline Solved SolveProgram(const LinearProgram& program, int maxIterations) {
+    LPsimplex simplex;
+    simplex.Initialize(program.vars, static_cast<int>(program.rows.size()));
+    simplex.SpecifyObjective(program.objective, program.minimise);
+    for (const LinearProgram::Row& row : program.rows)
+        simplex.AddConstraint(row.coefficients, row.rightSide, row.type);
+    std::vector<double> x;
+    const LPStatus status = simplex.Solve(x, maxIterations);
+    return {status, x, simplex.Iterations(), simplex.Objective()};
+}
+
+}  // namespace tw
