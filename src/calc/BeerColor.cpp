@@ -8,6 +8,9 @@
 namespace tw {
 namespace {
 
+constexpr double kMoreyFactor = 1.4922;
+constexpr double kMoreyPower = 0.6859;
+
 constexpr int kLastKey = 294;
 constexpr ColorTable::Entry kBelowTable{40, 240};
 constexpr ColorTable::Entry kAboveTable{0, 0};
@@ -23,7 +26,11 @@ std::uint8_t ToByte(double channel) {
 }  // namespace
 
 double HCUToSRM(double hcu) {
-    return Finite(1.4922 * std::pow(hcu, 0.6859));
+    return Finite(kMoreyFactor * std::pow(hcu, kMoreyPower));
+}
+
+double SRMToHCU(double srm) {
+    return Finite(std::pow(srm / kMoreyFactor, 1 / kMoreyPower));
 }
 
 ColorTable::ColorTable()

@@ -11,6 +11,8 @@ namespace tw {
 // SRM of homebrew colour units (degrees Lovibond times pounds per gallon): 1.4922 * HCU^0.6859, the Morey
 // equation.
 double HCUToSRM(double hcu);
+// The way back. REQUIRES: srm >= 0.
+double SRMToHCU(double srm);
 
 // Hue and lightness on the 0 to 240 scale of a colour dialog, keyed by whole HCU. Built once at start.
 class ColorTable {

@@ -64,4 +64,8 @@ double PrimingVolumes(double ounces, double fermentablePercent, double gallons) 
     return Divide(ounces * (fermentablePercent / 100) * 0.27027, gallons * 0.133);
 }
 
+double PrimingOunces(double volumes, double fermentablePercent, double gallons) {
+    return Divide(volumes / 0.27027 * 0.133 * gallons * 100, fermentablePercent);
+}
+
 }  // namespace tw

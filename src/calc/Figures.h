@@ -34,5 +34,8 @@ double KegPressure(double fahrenheit, double volumes);
 bool KegVolumes(double fahrenheit, double psi, double& volumes);
 // Volumes of CO2 from that many ounces of a sugar in that many gallons of beer.
 double PrimingVolumes(double ounces, double fermentablePercent, double gallons);
+// Ounces of a sugar that give that many volumes of CO2 to that many gallons of beer: PrimingVolumes solved
+// for the ounces.
+double PrimingOunces(double volumes, double fermentablePercent, double gallons);
 
 }  // namespace tw

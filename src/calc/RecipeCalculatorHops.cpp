@@ -82,7 +82,7 @@ void RecipeCalculator::ShowGridTotal(Grid& grid) {
     }
     sum = Finite(sum);
     grid.SetText(grid.TotalsRow(), GrainCol::Amount, counted ? FormatQuantity(sum, 0) + " lbs." : "");
-    grid.SetValue(grid.TotalsRow(), GrainCol::Amount, CellValue::Of(counted ? sum : 0));
+    grid.SetValue(grid.TotalsRow(), GrainCol::Amount, counted ? CellValue::Of(sum) : CellValue{});
 }
 
 void RecipeCalculator::ShowHopTotal() {

@@ -25,6 +25,17 @@ constexpr GridPlace kGrids[] = {
 constexpr const char* kFieldEntries[] = {"1.01", "1.02", "1.2"};
 constexpr const char* kEntries[] = {"8 lb", "2", "60", "Pale Malt", "Foo", "1 oz", "12%", "30 IBU", "x"};
 
+// The rows of a grid as text: each cell with the number behind it.
+std::string Lines(const RecipeSnapshot::Rows& grid) {
+    std::string lines;
+    for (const auto& row : grid.rows) {
+        for (const Cell& cell : row)
+            lines += cell.text + "|" + cell.value.Text() + (cell.check == CheckState::Checked ? "x\t" : "\t");
+        lines += "\n";
+    }
+    return lines;
+}
+
 class UndoWindows : public GuiTest, public testing::WithParamInterface<unsigned> {
   protected:
     void SetUp() override {
@@ -147,6 +158,8 @@ class UndoWindows : public GuiTest, public testing::WithParamInterface<unsigned>
         if (Position() == from && Document().History().StackTop() == top && Document().History().CanRedo())
             return;
         points_.resize(std::min(points_.size(), from + 1));
+        // Typing may have joined the last edit before a cut made the next one.
+        if (kind == 8) points_[from].reset();
         Remember();
     }
 
@@ -176,7 +189,7 @@ void UndoWindows::Compare() {
         EXPECT_DOUBLE_EQ(now.fields[i].value, then.fields[i].value) << then.fields[i].name;
     }
     for (std::size_t i = 0; i < then.grids.size(); ++i)
-        EXPECT_EQ(now.grids[i].rows, then.grids[i].rows) << then.grids[i].grid;
+        EXPECT_EQ(Lines(now.grids[i]), Lines(then.grids[i])) << then.grids[i].grid;
     for (const Grid* grid : Document().Record().Grids()) {
         const auto* view = window.ActiveWindow()->findChild<GridView*>(ToQt(grid->Name()));
         if (!view) continue;
