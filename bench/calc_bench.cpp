@@ -13,35 +13,17 @@
 #include <string>
 #include <vector>
 
-#include "document/RecipeDocument.h"
-#include "platform/DialogModel.h"
+#include "BenchRecipe.h"
 
 namespace {
 
-constexpr int kGrains = 14;
-constexpr int kExtracts = 4;
-constexpr int kHops = 10;
-constexpr int kSugars = 2;
-
-// A small generator of its own, so that every run and every machine sees the same recipe.
-class Dice {
-  public:
-    double Next() {
-        state_ = state_ * 6364136223846793005u + 1442695040888963407u;
-        return static_cast<double>(state_ >> 11) / 9007199254740992.0;
-    }
-
-  private:
-    std::uint64_t state_ = 7;
-};
-
-// A number of two decimals, as a brewer types it.
-std::string Typed(double value) {
-    std::array<char, 32> buffer;
-    const auto result =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 2);
-    return {buffer.data(), result.ptr};
-}
+using tw::bench::Dice;
+using tw::bench::kExtracts;
+using tw::bench::kGrains;
+using tw::bench::kHops;
+using tw::bench::kSugars;
+using tw::bench::Recipe;
+using tw::bench::Typed;
 
 // The floor. One recalculation writes and reads at least this much:
 //   written, shortest text: points and colour units of 18 rows, 10 IBUs, 2 priming volumes, 6 totals (54
@@ -111,102 +93,6 @@ class Floor {
     std::vector<double> typed_;
     std::vector<std::string> full_;
     std::size_t base_ = 0;
-};
-
-// A platform and a program around the document that do nothing.
-class Nothing : public tw::MessagePort,
-                public tw::DialogPort,
-                public tw::SettingsPort,
-                public tw::ClockPort,
-                public tw::ClipboardPort {
-  public:
-    void ShowMessage(std::string_view, std::string_view) override {}
-    tw::Answer Ask(std::string_view, std::string_view, tw::Question) override { return tw::Answer::No; }
-    void Beep() override {}
-    void ShowModal(tw::DialogModel& dialog) override { dialog.CloseBox(); }
-    std::optional<std::string> Read(Layer, std::string_view, std::string_view) override {
-        return std::nullopt;
-    }
-    bool Write(Layer, std::string_view, std::string_view, std::string_view) override { return false; }
-    tw::DateTime Now() override { return {}; }
-    bool HasText() override { return false; }
-    std::string Text() override { return {}; }
-    void SetText(std::string_view) override {}
-};
-
-class QuietHost : public tw::DocumentHost, public tw::DocumentCommands {
-  public:
-    tw::DocumentCommands& Commands() override { return *this; }
-    bool IsActive(const tw::RecipeDocument&) const override { return true; }
-    tw::RecipeDefaults Defaults() const override {
-        return {"72%", "1.0", "", "6.5 gal", "5 gal", 0, 0, 0, true};
-    }
-    bool AppendRows() const override { return true; }
-    bool CopyHeaders() const override { return false; }
-    bool PasteMismatchSize() const override { return false; }
-    bool AskBeforeNonUndoableChange() const override { return false; }
-    void StopAskingBeforeNonUndoableChange() override {}
-    void DeleteRecipe(std::string_view) override {}
-    void RecipeStored(std::string_view) override {}
-    void AddToMRU(std::string_view) override {}
-    void DocumentRenamed(const tw::RecipeDocument&) override {}
-    void EnableResizeRecipe(bool) override {}
-    void EnableChangeStrength(bool) override {}
-    void EnableChangeBitterness(bool) override {}
-    void EnableChangeCarbonation(bool) override {}
-    void EnableSave(bool) override {}
-    void EnableInsert(bool) override {}
-    void EnableDelete(bool) override {}
-    void EnableCopyPaste(bool, bool) override {}
-    void EnableUndo(bool, std::string_view) override {}
-    void EnableRedo(bool, std::string_view) override {}
-    void CheckEnableSaveAll() override {}
-    void CheckEnableDelete() override {}
-};
-
-class Recipe {
-  public:
-    Recipe() {
-        Dice dice;
-        tw::RecipeRecord& r = document_.Record();
-        Lines(r.gridGrain, kGrains, dice, {{1, 10}, {2, 36}, {4, 20}});
-        Lines(r.gridExtract, kExtracts, dice, {{1, 3}, {2, 40}, {4, 8}});
-        Lines(r.gridHops, kHops, dice, {{1, 15}, {4, 2}, {6, 80}});
-        Lines(r.gridPriming, kSugars, dice, {{1, 100}, {2, 4}});
-        Commit(r.txtTemp, "68");
-        Commit(r.txtFG, "1.012");
-        for (const tw::TextBox* figure : {&r.txtOG, &r.txtBG, &r.txtABV, &r.txtColor, &r.txtIBU, &r.txtCO2})
-            if (figure->Empty()) throw tw::Error("Recipe", "A figure is missing", 1);
-    }
-
-    void Commit(tw::TextBox& box, std::string_view text) {
-        document_.SetText(box, text);
-        if (!document_.CommitField(box)) throw tw::Error("Recipe", "The entry was refused", 1);
-    }
-    void CommitTotalVolume(std::string_view text) { Commit(document_.Record().txtTotalVol, text); }
-    void CommitGrain(int row, std::string_view text) {
-        if (!document_.EditCell(document_.Record().gridGrain, row, tw::GrainCol::Amount, text))
-            throw tw::Error("Recipe", "The entry was refused", 1);
-    }
-
-  private:
-    struct Entry {
-        int col;
-        double most;
-    };
-    void Lines(tw::Grid& grid, int lines, Dice& dice, const std::vector<Entry>& entries) {
-        while (grid.DataRows() < lines) document_.InsertRowForGrid(grid);
-        for (int row = 1; row <= lines; ++row)
-            for (const Entry& entry : entries)
-                document_.EditCell(grid, row, entry.col, Typed((0.1 + 0.9 * dice.Next()) * entry.most));
-    }
-
-    Nothing nothing_;
-    tw::Platform platform_{nothing_, nothing_, nothing_, nothing_, nothing_};
-    QuietHost host_;
-    std::unique_ptr<tw::Database> database_ = tw::Database::CreateInMemory();
-    tw::ColorTable colors_;
-    tw::RecipeDocument document_{host_, platform_, *database_, colors_, 1};
 };
 
 // Runs edit(n) for n = 0, 1, ... and the floor in turn, in rounds of a few; the median of the rounds' ratios

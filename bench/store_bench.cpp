@@ -31,6 +31,13 @@ class FixedClock : public ClockPort {
     DateTime Now() override { return {2024, 2, 28, 18, 30, 0}; }
 };
 
+class NoMessages : public MessagePort {
+  public:
+    void ShowMessage(std::string_view, std::string_view) override {}
+    Answer Ask(std::string_view, std::string_view, Question) override { return Answer::No; }
+    void Beep() override {}
+};
+
 class NoListener : public ObjectListener {
   public:
     void NotifyRecipeMoved(const std::string&, std::int64_t) override {}
@@ -93,8 +100,10 @@ void Fill(Database& database) {
 void Save(Database& database, const StoredRecipe& recipe) {
     FixedClock clock;
     NoListener listener;
+    ObjectTree tree;
+    NoMessages messages;
     UnitOfWork unit(database);
-    DB_IO(database, clock, listener).DeleteRecipeByName(recipe.name);
+    DB_IO(database, tree, messages, clock, listener).DeleteRecipeByName(recipe.name);
     InsertRecipe(database, recipe);
     unit.Commit();
 }

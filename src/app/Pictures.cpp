@@ -8,6 +8,7 @@
 #include "app/PrintedMessages.h"
 #include "document/CannotUndo.h"
 #include "document/DetailWindows.h"
+#include "document/ScalingModel.h"
 #include "document/ui/frmDocument.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtDialogs.h"
@@ -16,6 +17,14 @@
 #include "shell/Shell.h"
 #include "shell/ui/MainGeometry.h"
 #include "shell/ui/frmMain.h"
+#include "tools/ColorScaleModel.h"
+#include "tools/ConvertUnitsModel.h"
+#include "tools/HopUtilModel.h"
+#include "tools/HydrometerModel.h"
+#include "tree/ChooseFolderModel.h"
+#include "tree/LvShowModel.h"
+#include "tree/RecipeChooser.h"
+#include "tree/ui/RecipeChooserView.h"
 
 namespace tw {
 namespace {
@@ -35,6 +44,19 @@ bool SaveDialog(QtDialogs& dialogs, DialogModel& model, QWidget& parent, const Q
     return SaveWidget(*dialog, file);
 }
 
+// The four dialogs that scale a recipe.
+bool SaveScalings(QtDialogs& dialogs, const RecipeDocument& document, QWidget& parent,
+                  const QString& prefix) {
+    PrintedMessages messages;
+    bool ok = true;
+    for (const Scaling what : {Scaling::Size, Scaling::Strength, Scaling::Bitterness, Scaling::Carbonation}) {
+        ScalingModel model(what, CurrentFigure(document, what).value_or(""), messages);
+        const QString file = prefix + QString::fromStdString(model.FormName()) + QStringLiteral(".png");
+        ok &= SaveDialog(dialogs, model, parent, file);
+    }
+    return ok;
+}
+
 // Every tab of the options.
 bool SaveOptions(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     PrintedMessages messages;
@@ -50,18 +72,66 @@ bool SaveOptions(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
     return ok;
 }
 
+bool SaveTools(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
+    PrintedMessages messages;
+    ConvertUnitsModel converter(messages);
+    converter.SetKind(QuantityKind::Volume);
+    converter.Enter(0, "5");
+    bool ok = SaveDialog(dialogs, converter, parent, prefix + QStringLiteral("units.png"));
+    HydrometerModel hydrometer(messages);
+    hydrometer.TypeInto("txtActRead", "1.050");
+    hydrometer.TypeInto("txtActTemp", "80 F");
+    hydrometer.UpdateCorrection();
+    ok &= SaveDialog(dialogs, hydrometer, parent, prefix + QStringLiteral("hydrometer.png"));
+    HopUtilModel explorer("1.050");
+    ok &= SaveDialog(dialogs, explorer, parent, prefix + QStringLiteral("hop-utilization.png"));
+    for (int scale = 0; scale < kColorScales; ++scale) {
+        ColorScaleModel scales;
+        scales.Choose(static_cast<ColorScale>(scale));
+        scales.MovePointer(ColorScaleModel::kPointerEnd / 3);
+        ok &= SaveDialog(dialogs, scales, parent, QStringLiteral("%1colors-%2.png").arg(prefix).arg(scale));
+    }
+    return ok;
+}
+
+// The pickers and choosers.
+bool SaveChoosers(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
+    bool ok = true;
+    for (const PickList list : {PickList::Style, PickList::Grain, PickList::Yeast, PickList::Water}) {
+        LvShowModel picker(list, *shell.DB(), shell.Tree(), "");
+        ok &= SaveDialog(dialogs, picker, parent,
+                         QStringLiteral("%1pick-%2.png").arg(prefix).arg(static_cast<int>(list)));
+    }
+    ChooseFolderModel folders(shell.Tree(), shell.Objects());
+    folders.SetStyleFolders(true);
+    ok &= SaveDialog(dialogs, folders, parent, prefix + QStringLiteral("choose-folder.png"));
+    RecipeChooser recipes;
+    recipes.SetTree(&shell.Tree());
+    recipes.SetAction("Export");
+    recipes.Initialize();
+    recipes.Add(kAllRecipesKey);
+    RecipeChooserView chooser(recipes, nullptr);
+    chooser.setContentsMargins(Unit(chooser), Unit(chooser), Unit(chooser), Unit(chooser));
+    chooser.resize(chooser.sizeHint().expandedTo({Unit(chooser) * 100, Unit(chooser) * 50}));
+    chooser.show();
+    return ok && SaveWidget(chooser, prefix + QStringLiteral("choose-recipes.png"));
+}
+
 bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
     AboutModel about;
     bool ok = SaveDialog(dialogs, about, window, prefix + QStringLiteral("about.png"));
     CannotUndoModel cannotUndo;
     ok &= SaveDialog(dialogs, cannotUndo, window, prefix + QStringLiteral("cannot-undo.png"));
     ok &= SaveOptions(dialogs, shell, window, prefix);
+    ok &= SaveTools(dialogs, window, prefix);
+    ok &= SaveChoosers(dialogs, shell, window, prefix);
     if (RecipeDocument* document = shell.ActiveDocument()) {
         DetailsModel strength = StrengthDetailsOf(*document), volume = FinalVolDetailsOf(*document),
                      hops = HopDetailsOf(*document);
         ok &= SaveDialog(dialogs, strength, window, prefix + QStringLiteral("strength.png"));
         ok &= SaveDialog(dialogs, volume, window, prefix + QStringLiteral("volume.png"));
         ok &= SaveDialog(dialogs, hops, window, prefix + QStringLiteral("bitterness.png"));
+        ok &= SaveScalings(dialogs, *document, window, prefix);
     }
     return ok;
 }

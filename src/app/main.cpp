@@ -12,6 +12,7 @@
 #include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
 #include "document/ui/RangeBar.h"
+#include "document/ui/ScalingDialog.h"
 #include "document/ui/frmDocument.h"
 #include "platform/SystemClock.h"
 #include "platform/qt/ColorChooser.h"
@@ -30,6 +31,13 @@
 #include "shell/ui/frmAutoSave.h"
 #include "shell/ui/frmMain.h"
 #include "shell/ui/frmOptions.h"
+#include "tools/ui/ToolAccessibility.h"
+#include "tools/ui/frmColor.h"
+#include "tools/ui/frmConvertUnits.h"
+#include "tools/ui/frmHopUtil.h"
+#include "tools/ui/frmHydrometer.h"
+#include "tree/ui/frmChooseFolder.h"
+#include "tree/ui/frmLvShow.h"
 
 namespace tw {
 namespace {
@@ -37,12 +45,20 @@ namespace {
 void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     for (const char* form : {"frmStrengthDetails", "frmFinalVolDetails", "frmHopDetails"})
         dialogs.Register(form, &DetailsDialog::Make);
+    for (const char* form : {"frmResizeRecipe", "frmChangeOG", "frmChangeIBU", "frmChangeCO2"})
+        dialogs.Register(form, &ScalingDialog::Make);
     dialogs.Register("frmAbout", &AboutDialog::Make);
     dialogs.Register("frmCannotUndo", &CannotUndoDialog::Make);
     dialogs.Register("frmAutoSave", &frmAutoSave::Make);
     dialogs.Register("frmOpenSave", &OpenSaveDialog::Make);
     dialogs.Register("frmRecovery", &RecoveryDialog::Make);
     dialogs.Register("frmOptions", frmOptions::Factory(colors));
+    dialogs.Register("frmConvertUnits", &frmConvertUnits::Make);
+    dialogs.Register("frmHydrometer", &frmHydrometer::Make);
+    dialogs.Register("frmHopUtil", &frmHopUtil::Make);
+    dialogs.Register("frmColor", &frmColor::Make);
+    dialogs.Register("frmLvShow", &frmLvShow::Make);
+    dialogs.Register("frmChooseFolder", &frmChooseFolder::Make);
 }
 
 std::string DatabaseOf(const ProgramOptions& options) {
@@ -101,6 +117,7 @@ int Run(int argc, char** argv) {
     MessagePort& messages = photographing ? static_cast<MessagePort&>(printed) : boxes;
     application.SetMessages(messages);
     InstallRangeBarAccessibility();
+    InstallToolAccessibility();
     const std::unique_ptr<QtSettings> settings =
         options.settings.isEmpty() ? QtSettings::OfUser() : QtSettings::OfFile(FromQt(options.settings));
     QtDialogs dialogs(*settings);

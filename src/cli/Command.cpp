@@ -5,8 +5,9 @@
 namespace tw {
 namespace {
 
-constexpr auto kTopics = {CommandsOnValues, CommandsOnWater,   CommandsOnRecipes,
-                          CommandsOnGrids,  CommandsOfEditing, CommandsOnProgram};
+constexpr auto kTopics = {CommandsOnValues, CommandsOfTools,   CommandsOnWater,   CommandsOnRecipes,
+                          CommandsOnGrids,  CommandsOfEditing, CommandsOfScaling, CommandsOnTree,
+                          CommandsOnLists,  CommandsOnProgram};
 
 }  // namespace
 

@@ -26,11 +26,19 @@ int TakeIndex(Arguments& arguments, std::string_view what);
 // Raises ScriptError when the grid has no such cell.
 void CheckCell(const Grid& grid, int row, int col);
 
+// Prints the rows of a SELECT, or runs another statement and prints the number of rows changed. Raises the
+// store's error.
+void RunSql(Session& session, Database& database, const std::string& text);
+
 std::span<const Command> CommandsOnValues();
+std::span<const Command> CommandsOfTools();
 std::span<const Command> CommandsOnWater();
 std::span<const Command> CommandsOnRecipes();
 std::span<const Command> CommandsOnGrids();
 std::span<const Command> CommandsOfEditing();
+std::span<const Command> CommandsOfScaling();
+std::span<const Command> CommandsOnTree();
+std::span<const Command> CommandsOnLists();
 std::span<const Command> CommandsOnProgram();
 
 // All commands in the order of the help.

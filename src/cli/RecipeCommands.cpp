@@ -72,6 +72,7 @@ void Pick(Session& session, Arguments& arguments) {
     RecipeDocument& document = session.Document();
     const ListBox& list = document.Record().cmbStyle;
     if (name != list.Name()) throw ScriptError("there is no list '" + name + "'");
+    document.FocusElsewhere();
     for (std::size_t i = 0; i < list.Entries().size(); ++i)
         if (SameName(list.Entries()[i].text, text)) return document.SelectStyle(static_cast<int>(i));
     throw ScriptError(name + " has no entry '" + text + "'");
@@ -80,7 +81,9 @@ void Pick(Session& session, Arguments& arguments) {
 void Choose(Session& session, Arguments& arguments) {
     const std::string option = arguments.Word("OPTION");
     arguments.End();
-    if (!session.Document().ChooseOption(option)) throw ScriptError("there is no option '" + option + "'");
+    RecipeDocument& document = session.Document();
+    document.FocusElsewhere();
+    if (!document.ChooseOption(option)) throw ScriptError("there is no option '" + option + "'");
 }
 
 void Changed(Session& session, Arguments& arguments) {

@@ -1,6 +1,7 @@
 #include "cli/ScriptPlatform.h"
 
 #include <ostream>
+#include <utility>
 
 #include "cli/ScriptReader.h"
 
@@ -13,11 +14,11 @@ std::string BoxLine(std::string_view title, std::string_view text) {
 
 // What a word answers; nothing for a word that is no button of the box.
 std::optional<Answer> AnswerOf(std::string_view word, Question kind) {
-    const bool canCancel = kind == Question::YesNoCancel;
-    if (word == "Yes") return Answer::Yes;
-    if (word == "No") return Answer::No;
-    if (word == "Cancel" && canCancel) return Answer::Cancel;
-    if (word == "Close") return canCancel ? Answer::Cancel : Answer::No;
+    if (word == "Close") return kind == Question::YesNo ? Answer::No : Answer::Cancel;
+    if (word == "Cancel" && kind != Question::YesNo) return Answer::Cancel;
+    if (word == "OK" && kind == Question::OkCancel) return Answer::Ok;
+    if (word == "Yes" && kind != Question::OkCancel) return Answer::Yes;
+    if (word == "No" && kind != Question::OkCancel) return Answer::No;
     return std::nullopt;
 }
 
@@ -65,6 +66,12 @@ void ScriptDialogs::ShowModal(DialogModel& dialog) {
         ScriptMessages box(out_, answers_);
         const bool yes = box.Ask(question->title, question->text, Question::YesNo) == Answer::Yes;
         dialog.Press(yes ? "cmdYes" : "cmdNo");
+        return;
+    }
+    if (const auto work = std::exchange(workNext_, {})) {
+        if (show_) Print(dialog);
+        work(dialog);
+        if (dialog.IsOpen()) dialog.CloseBox();
         return;
     }
     while (dialog.IsOpen()) {

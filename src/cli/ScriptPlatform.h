@@ -3,6 +3,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <iosfwd>
 #include <map>
 #include <string>
@@ -61,6 +62,9 @@ class ScriptDialogs : public DialogPort {
     ScriptDialogs(ScriptOutput& out, AnswerQueue& answers) : out_(out), answers_(answers) {}
     // While on, a dialog prints "{FORM} control=text; ..." before each answer.
     void SetShow(bool show) { show_ = show; }
+    // The next dialog is worked by that instead of answers, once, and closed if it is still open afterwards;
+    // an empty one takes that back.
+    void AnswerNextWith(std::function<void(DialogModel&)> work) { workNext_ = std::move(work); }
     void ShowModal(DialogModel& dialog) override;
 
   private:
@@ -69,6 +73,7 @@ class ScriptDialogs : public DialogPort {
 
     ScriptOutput& out_;
     AnswerQueue& answers_;
+    std::function<void(DialogModel&)> workNext_;
     bool show_ = false;
 };
 

@@ -111,6 +111,13 @@ std::string Arguments::Word(std::string_view what) {
     return word;
 }
 
+bool Arguments::TakeWord(std::string_view word) {
+    if (rest_.substr(0, rest_.find(' ')) != word) return false;
+    rest_.remove_prefix(word.size());
+    SkipBlanks();
+    return true;
+}
+
 std::string Arguments::LastName(std::string_view what) {
     if (AtEnd()) throw ScriptError(std::string(what) + " is missing");
     return Text();

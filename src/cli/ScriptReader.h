@@ -35,6 +35,8 @@ class Arguments {
     bool AtEnd() const { return rest_.empty(); }
     // The next word, quoted or bare.
     std::string Word(std::string_view what);
+    // Takes the next word off the line if it is that one, unquoted.
+    bool TakeWord(std::string_view word);
     // The rest of the line as a name, which may hold blanks, or the text that it quotes. Raises ScriptError
     // for none.
     std::string LastName(std::string_view what);

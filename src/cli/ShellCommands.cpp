@@ -76,11 +76,7 @@ void PrintRows(Session& session, Recordset rows) {
 
 void Sql(Session& session, Arguments& arguments) {
     const std::string text = arguments.Text();
-    Database& database = *session.Program().DB();
-    if (TranslateSql(text).kind == StatementKind::Select)
-        return PrintRows(session, database.OpenRecordset(text));
-    database.Execute(text);
-    session.Out().Line(std::to_string(database.RecordsAffected()));
+    RunSql(session, *session.Program().DB(), text);
 }
 
 void ShowDialogs(Session& session, Arguments& arguments) {
@@ -115,6 +111,13 @@ constexpr Command kCommands[] = {
 };
 
 }  // namespace
+
+void RunSql(Session& session, Database& database, const std::string& text) {
+    if (TranslateSql(text).kind == StatementKind::Select)
+        return PrintRows(session, database.OpenRecordset(text));
+    database.Execute(text);
+    session.Out().Line(std::to_string(database.RecordsAffected()));
+}
 
 std::span<const Command> CommandsOnProgram() {
     return kCommands;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "calc/RecipeCalculator.h"
+#include "tree/PickList.h"
 
 namespace tw {
 
@@ -51,6 +52,8 @@ class DocumentHost {
     virtual bool CopyHeaders() const = 0;
     // A paste may repeat or cut a block to fill a selection of another shape.
     virtual bool PasteMismatchSize() const = 0;
+    // The limit of iterations for the treatment calculation.
+    virtual int LPMaxIter() const = 0;
     // Whether a change that cannot be undone is asked about; and the brewer wants that no more.
     virtual bool AskBeforeNonUndoableChange() const = 0;
     virtual void StopAskingBeforeNonUndoableChange() = 0;
@@ -59,6 +62,9 @@ class DocumentHost {
     // A recipe of that name has just been written by a save.
     virtual void RecipeStored(std::string_view name) = 0;
     virtual void AddToMRU(std::string_view name) = 0;
+    // The brewer wants to choose from a catalogue, starting on name: what is chosen goes to the document's
+    // TakeChoice.
+    virtual void PickFromCatalogue(RecipeDocument&, PickList, const std::string& /*name*/) {}
     // An edit of the recipe; it is changed.
     virtual void DocumentEdited(const RecipeDocument&) {}
     // The document's caption or changed state is another one.

@@ -18,6 +18,7 @@
 #include "platform/Ports.h"
 #include "store/Database.h"
 #include "store/RecipeRows.h"
+#include "tree/PickList.h"
 
 namespace tw {
 
@@ -179,6 +180,39 @@ class RecipeDocument {
     void ChangeWater(std::string_view name);
     void ChangeSalt(std::string_view name);
     void ChangeSugar(std::string_view name);
+    // One of these and ChangeStyle, by the list that the name was chosen from.
+    void TakeChoice(PickList list, std::string_view name);
+
+    // The catalogue that a cell's name stands in; nothing for a cell that holds no such name, and for one
+    // that cannot be edited. Of gridLog it is that of the yeasts, for the notes of a row that pitches one.
+    std::optional<PickList> PickListOf(const Grid& grid, int row, int col) const;
+    // Let the brewer choose from a catalogue, which opens on the present name; the choice goes into the
+    // style, into the current cell. BrowseCell is false, and asks nothing, for a cell without a catalogue and
+    // while more cells are selected.
+    void BrowseStyles();
+    bool BrowseCell(Grid& grid);
+
+    // The button below gridWater, nothing while it is off: replaces all rows of gridTreatment by the salts
+    // that bring the source water nearest to the target water, as one step of the history. A box, and nothing
+    // has changed, when the catalogue has no salts or no program has a solution. Raises for an arithmetic
+    // fault; all is as before then.
+    void CalcTreatment();
+
+    // Changes that no undo takes back: each asks first, and does nothing when the brewer does not want it.
+    // Behind one that went through the history is empty. They raise for an arithmetic fault; all is as before
+    // then.
+    //
+    // Another total volume in gallons, shown as sizeText; the amounts follow, and the carbonation is held,
+    // about which it asks again. The boil volume follows only if asked to, and the hops keep the bitterness
+    // only if asked to. Nothing while the total volume is 0.
+    void ScaleRecipe(double newSize, std::string_view sizeText, bool scaleBoilVol, bool preserveIBU);
+    // Another original gravity by other amounts of grain and extract. Nothing while the gravity is 1.
+    void ScaleOG(double newOG, bool preserveIBU);
+    // Another bitterness by other amounts of hops. Nothing while the bitterness is 0.
+    void ScaleIBU(double newIBU);
+    // Another carbonation, in volumes, by the keg's pressure or the amounts of the sugars. One that cannot be
+    // reached shows a box, unless quiet, and changes nothing.
+    void ScaleCO2(double newVolumes, bool quiet);
 
     // Undo and redo of the edits since the document was opened or saved, one step each; false when there is
     // none.
@@ -284,6 +318,7 @@ class RecipeDocument {
     // Rows (RecipeDocumentRows.cpp).
     void AddBlankRow(Grid& grid, int row);
     void ClearRowCells(Grid& grid, int row);
+    void ClearFactors(int row);
     void RecalculateAfterDelete(Grid& grid);
     void RefreshRowCommands();
 
@@ -311,11 +346,20 @@ class RecipeDocument {
     void ApplyToCell(Grid& grid, int row, int col, const EditValue& value);
     EditValue ValueOf(const Grid& grid, int row, int col, const Cell& cell);
     EditValue ValueOf(const TextBox& box, std::string_view text, double number);
+    double ReadField(const TextBox& box, std::string_view text, double otherwise);
     CellValue ReadCell(const Grid& grid, int row, int col, std::string_view text);
     void ApplyRowInsert(Grid& grid, const EditTracker& edit, bool insert);
     void ApplyRowDelete(Grid& grid, int row, bool remove);
     void RefreshUndoCommands();
     void RecordText(TextBox& box, std::string_view newText, ChangeType type);
+
+    // The treatment (RecipeDocumentTreatment.cpp).
+    void ClearTreatment();
+    // Scaling (RecipeDocumentScaling.cpp).
+    bool MayChangeForGood();
+    void ChangeForGood(const std::function<bool()>& change);
+    bool Resize(double newSize, std::string_view sizeText, bool scaleBoilVol, double volumes);
+    bool KeepBitterness(double ibu);
 
     // Sorting (RecipeDocumentSort.cpp).
     std::vector<int> SortedOrder(const Grid& grid, int col) const;

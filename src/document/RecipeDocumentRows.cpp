@@ -109,6 +109,7 @@ void RecipeDocument::RemoveRow(Grid& grid, int row) {
 
 // Empties each cell with a record of its own, so that an undo brings the whole row back.
 void RecipeDocument::ClearRowCells(Grid& grid, int row) {
+    if (&grid == &record_.gridTreatment) ClearFactors(row);
     for (int col = 0; col < grid.Cols(); ++col) {
         if (!CanEdit(grid, row, col)) continue;
         if (grid.IsCheckBox(row, col))

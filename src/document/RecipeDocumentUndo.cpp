@@ -40,9 +40,15 @@ void RecipeDocument::RecordText(TextBox& box, std::string_view newText, ChangeTy
 // What a box holds with its text committed. A number that the text does not tell goes along: the gravity that
 // a yeast gives, or that of a recipe stored elsewhere.
 EditValue RecipeDocument::ValueOf(const TextBox& box, std::string_view text, double number) {
-    double told = number;
+    return ReadField(box, text, number) == number ? EditValue::OfText(text)
+                                                  : EditValue::OfTextAndNumber(text, CellValue::Of(number));
+}
+
+// The number that a box's text tells; the other one for a text that tells none.
+double RecipeDocument::ReadField(const TextBox& box, std::string_view text, double otherwise) {
+    double told = otherwise;
     if (!IsFreeText(box)) Quietly([&] { return ValidateField(box, text, true, told); });
-    return told == number ? EditValue::OfText(text) : EditValue::OfTextAndNumber(text, CellValue::Of(number));
+    return told;
 }
 
 // What a cell holds. A number that its text does not tell goes along: that of a recipe stored elsewhere, or
@@ -82,6 +88,16 @@ void RecipeDocument::RecordRowChange(Grid& grid, int row, int col, const std::ve
     recorder_.RecordEdit(fg.Name(), ValueOf(fg, gravityChange_->oldText, gravityChange_->oldValue),
                          ValueOf(fg, fg.Text(), fg.Value()), {ControlType::TextBox, ChangeType::Typing});
     gravityChange_.reset();
+}
+
+// A stored recipe may have factors without the name of a salt, so that clearing the name does not bring them
+// along.
+void RecipeDocument::ClearFactors(int row) {
+    Grid& treatment = record_.gridTreatment;
+    for (int col = TreatmentCol::FirstIon; col < treatment.Cols(); ++col) {
+        recorder_.RecordGridCell(treatment, row, col, NumberOf(treatment.At(row, col)), EditValue());
+        treatment.SetValue(row, col, {});
+    }
 }
 
 void RecipeDocument::AsOneStep(ChangeType type, const std::function<void()>& changes) {
@@ -179,10 +195,15 @@ void RecipeDocument::ApplyToTextBox(TextBox& box, const EditTracker& edit, bool 
     const EditValue& value = undo ? edit.OldValue() : edit.NewValue();
     FocusOn(box);
     SetText(box, value.AsText());
-    if (const CellValue* const number = value.OwnNumber()) {
+    const bool committed = box.Text() == box.Committed();
+    const CellValue* const own = value.OwnNumber();
+    if (own || committed) {
+        // There is nothing to commit, but another number may have stood behind the same text.
+        const double number = own ? own->number : ReadField(box, box.Text(), box.Value());
+        const bool differs = !committed || number != box.Value();
         box.SetCommitted(box.Text());
-        box.SetValue(number->number);
-        Quietly([&] { return RunFieldChain(box); });
+        box.SetValue(number);
+        if (differs) Quietly([&] { return RunFieldChain(box); });
     } else if (!Quietly([&] { return CommitField(box, true); })) {
         // A text that was refused when it was typed comes back as it was: shown, not committed.
         SetText(box, value.AsText());

@@ -13,7 +13,7 @@ namespace tw {
 class DialogModel;
 
 enum class Answer { Ok, Yes, No, Cancel };
-enum class Question { YesNo, YesNoCancel };
+enum class Question { YesNo, YesNoCancel, OkCancel };
 
 // Message boxes. Each call returns when the user has closed the box.
 class MessagePort {
@@ -21,7 +21,7 @@ class MessagePort {
     virtual ~MessagePort() = default;
     // A box with one OK button. Line breaks in text are "\r\n".
     virtual void ShowMessage(std::string_view title, std::string_view text) = 0;
-    // A box with a choice. Closing it by any other way answers No (YesNo) or Cancel (YesNoCancel).
+    // A box with a choice. Closing it by any other way answers No (YesNo) or Cancel (the others).
     virtual Answer Ask(std::string_view title, std::string_view text, Question kind) = 0;
     // The system's beep.
     virtual void Beep() = 0;

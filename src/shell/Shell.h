@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -13,6 +14,7 @@
 #include "calc/BeerColor.h"
 #include "document/DocumentHost.h"
 #include "document/RecipeDocument.h"
+#include "document/ScalingModel.h"
 #include "platform/Ports.h"
 #include "shell/AutoSave.h"
 #include "shell/CommandBar.h"
@@ -21,8 +23,11 @@
 #include "shell/Settings.h"
 #include "store/DB_IO.h"
 #include "store/Database.h"
+#include "tree/TWTree.h"
+#include "tree/TreeObjects.h"
 
 namespace tw {
+
 
 // The arrangements of the document windows.
 enum class Arrangement : int { Cascade, TileHorizontal, TileVertical };
@@ -96,6 +101,10 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     const ColorTable& Colors() const { return colors_; }
     // nullptr before the database is open.
     Database* DB() { return database_.get(); }
+    // Folders, styles and recipes of the database, and the operations on them, which keep the tree in step
+    // and tell the open documents. REQUIRES: the database is open.
+    const TWTree& Tree() const { return *tree_; }
+    DB_IO& Objects() { return *objects_; }
 
     // Documents, in the order of their opening.
     const std::vector<std::unique_ptr<RecipeDocument>>& Documents() const { return documents_; }
@@ -123,6 +132,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool SaveRecipeAs(RecipeDocument& document);
     // SaveRecipeAs with the answer of the dialog given. silent asks nothing.
     bool SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId, bool silent);
+
 
     // Autosave. Switching it on counts the minutes from 0.
     bool DoAutoSave() const { return settings_.doAutoSave; }
@@ -156,12 +166,14 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool AppendRows() const override;
     bool CopyHeaders() const override { return settings_.copyHeaders; }
     bool PasteMismatchSize() const override { return settings_.pasteMismatchSize; }
+    int LPMaxIter() const override { return settings_.lpMaxIter; }
     bool AskBeforeNonUndoableChange() const override { return settings_.askBeforeNonUndoableChange; }
     void StopAskingBeforeNonUndoableChange() override { settings_.askBeforeNonUndoableChange = false; }
     void SetAppendRows(bool append);
     void DeleteRecipe(std::string_view name) override;
     void RecipeStored(std::string_view name) override;
     void AddToMRU(std::string_view name) override;
+    void PickFromCatalogue(RecipeDocument& document, PickList list, const std::string& name) override;
     void DocumentEdited(const RecipeDocument& document) override;
     void DocumentRenamed(const RecipeDocument& document) override;
 
@@ -190,6 +202,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void NotifyRecipeDeleted(const std::string& name) override;
     void NotifyRecipeFolderDeleted(std::int64_t folderId) override;
     void NotifyStyleDeleted(std::int64_t styleId) override;
+    void DeletionEnded() override;
 
   private:
     using Action = std::function<void(Shell&)>;
@@ -206,12 +219,16 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void DarkenDocumentCommands();
     // Runs a save; an error in it is shown and counts as not saved.
     bool TrySave(const std::function<void(bool& ok)>& save);
+    // Shows what a save has left in the database when it could not write all of it.
+    void FollowUnfinishedSave(const RecipeDocument& document, bool ok);
     void EnableCopy(bool enabled);
     void EnablePaste(bool enabled);
     // A menu item and its button.
     void EnablePair(std::string_view item, std::string_view button, bool enabled);
     void EnablePairWithTwin(std::string_view item, std::string_view button, bool enabled);
     void ShowOpenDialog();
+    // Asks for another figure of the active recipe and scales it to that; nothing while it has none.
+    void ShowScaling(Scaling what);
     void Arrange(Arrangement arrangement);
     void CopyShowingErrors();
     void SaveAllDocuments();
@@ -228,6 +245,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     RecentList recent_;
     ColorTable colors_;
     std::unique_ptr<Database> database_;
+    std::unique_ptr<TWTree> tree_;
+    std::unique_ptr<TreeObjects> treeObjects_;  // changes tree_
     std::unique_ptr<DB_IO> objects_;
     std::vector<std::unique_ptr<RecipeDocument>> documents_;
     std::vector<RecipeDocument*> useOrder_;  // least recently active first

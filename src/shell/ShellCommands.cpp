@@ -1,11 +1,17 @@
 // The commands of the shell: what a menu item or button does, and what the documents light and darken.
 #include <algorithm>
+#include <optional>
 #include <span>
 
 #include "shell/AboutModel.h"
 #include "shell/OpenSaveModel.h"
 #include "shell/OptionsModel.h"
 #include "shell/Shell.h"
+#include "tools/ColorScaleModel.h"
+#include "tools/ConvertUnitsModel.h"
+#include "tools/HopUtilModel.h"
+#include "tools/HydrometerModel.h"
+#include "tree/LvShowModel.h"
 
 namespace tw {
 
@@ -59,6 +65,32 @@ const Shell::ActionRow Shell::kEditActions[] = {
 };
 
 const Shell::ActionRow Shell::kOtherActions[] = {
+    {"mnuToolsUnits",
+     [](Shell& s) {
+         ConvertUnitsModel converter(s.platform_.messages);
+         s.platform_.dialogs.ShowModal(converter);
+     }},
+    {"mnuToolsHydrometer",
+     [](Shell& s) {
+         HydrometerModel hydrometer(s.platform_.messages);
+         s.platform_.dialogs.ShowModal(hydrometer);
+     }},
+    {"mnuToolsColorScale",
+     [](Shell& s) {
+         ColorScaleModel scales;
+         s.platform_.dialogs.ShowModal(scales);
+     }},
+    {"mnuToolsHopUtil",
+     [](Shell& s) {
+         std::optional<std::string> boilGravity;
+         if (s.active_) boilGravity = s.active_->Record().txtBG.Text();
+         HopUtilModel explorer(boilGravity);
+         s.platform_.dialogs.ShowModal(explorer);
+     }},
+    {"mnuToolsResizeRecipe", [](Shell& s) { s.ShowScaling(Scaling::Size); }},
+    {"mnuToolsChangeStrength", [](Shell& s) { s.ShowScaling(Scaling::Strength); }},
+    {"mnuToolsChangeBitterness", [](Shell& s) { s.ShowScaling(Scaling::Bitterness); }},
+    {"mnuToolsChangeCO2", [](Shell& s) { s.ShowScaling(Scaling::Carbonation); }},
     {"mnuToolsOptions",
      [](Shell& s) {
          OptionsModel options(s, s.platform_.messages);
@@ -126,6 +158,22 @@ void Shell::ShowOpenDialog() {
     OpenSaveModel dialog(OpenSaveModel::Style::Open, *database_, platform_.messages);
     platform_.dialogs.ShowModal(dialog);
     if (!dialog.Cancelled()) LoadDoc(dialog.BeerName());
+}
+
+void Shell::PickFromCatalogue(RecipeDocument& document, PickList list, const std::string& name) {
+    LvShowModel picker(list, *database_, *tree_, name);
+    platform_.dialogs.ShowModal(picker);
+    if (!picker.Cancelled()) document.TakeChoice(list, picker.Answer());
+}
+
+void Shell::ShowScaling(Scaling what) {
+    if (!active_ || !active_->FlushEdits()) return;
+    RecipeDocument& document = *active_;
+    const std::optional<std::string> current = CurrentFigure(document, what);
+    if (!current) return;
+    ScalingModel dialog(what, *current, platform_.messages);
+    platform_.dialogs.ShowModal(dialog);
+    if (!dialog.Cancelled()) Scale(document, dialog);
 }
 
 void Shell::SaveAllDocuments() {

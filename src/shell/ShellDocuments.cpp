@@ -116,6 +116,7 @@ bool Shell::TrySave(const std::function<void(bool& ok)>& save) {
     try {
         save(ok);
     } catch (const Error& error) {
+        treeObjects_->Reload();
         platform_.messages.ShowMessage("Error", "Error during save:\r\n" + error.WithNumber());
         return false;
     }
@@ -132,6 +133,7 @@ bool Shell::SaveRecipe(RecipeDocument& document, bool silent) {
         const bool renamed = !SameName(document.BeerName(), document.OrigName());
         if (silent && renamed && RecipeExists(*database_, document.BeerName())) return;
         document.Save(false, silent, ok);
+        FollowUnfinishedSave(document, ok);
     });
 }
 
@@ -149,7 +151,8 @@ void Shell::SwitchAutoSave(bool wasOn) {
 }
 
 void Shell::TickAutoSave() {
-    // The time that saving takes is not counted.
+    // The time that saving takes is not counted. A save within the one unit of an import would be lost with
+    // it.
     if (!settings_.doAutoSave || autoSaving_) return;
     if (!autoSaveMinutes_.Tick(!documents_.empty(), settings_.doAutoSaveEvery)) return;
     ShowAutoSave();
@@ -182,12 +185,16 @@ bool Shell::SaveRecipeUnder(RecipeDocument& document, std::string_view name, std
     return TrySave([&](bool& ok) {
         document.FlushEdits();
         document.SaveRecipeAs(name, folderId, silent, ok);
+        FollowUnfinishedSave(document, ok);
     });
+}
+
+void Shell::FollowUnfinishedSave(const RecipeDocument& document, bool ok) {
+    if (ok && document.Changed()) treeObjects_->Reload();
 }
 
 void Shell::DeleteRecipe(std::string_view name) {
     objects_->DeleteRecipeByName(Trim(name));
-    CheckEnableDelete();
 }
 
 void Shell::RecipeStored(std::string_view name) {
@@ -245,6 +252,10 @@ void Shell::NotifyRecipeFolderDeleted(std::int64_t folderId) {
 
 void Shell::NotifyStyleDeleted(std::int64_t styleId) {
     ForEachDocument([&](RecipeDocument& document) { document.NotifyStyleDeleted(styleId); });
+}
+
+void Shell::DeletionEnded() {
+    CheckEnableDelete();
 }
 
 }  // namespace tw

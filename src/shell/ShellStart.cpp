@@ -40,6 +40,8 @@ bool Shell::PerformSplashScreenInit(const std::string& databasePath) {
     if (!OpenDatabase(databasePath)) return false;
     CheckEnableDelete();
     nextDocKey_ = 0;
+    // A database that is damaged in parts still opens what can be read.
+    Guard([&] { tree_->InitFromDatabase(); });
     return true;
 }
 
@@ -52,7 +54,9 @@ bool Shell::OpenDatabase(const std::string& path) {
         if (view_) view_->CloseMainWindow();
         return false;
     }
-    objects_ = std::make_unique<DB_IO>(*database_, platform_.clock, *this);
+    tree_ = std::make_unique<TWTree>(database_.get());
+    treeObjects_ = std::make_unique<TreeObjects>(*tree_);
+    objects_ = std::make_unique<DB_IO>(*database_, *treeObjects_, platform_.messages, platform_.clock, *this);
     if (!recoveryRoot_.empty() && path != kInMemory)
         recovery_ = std::make_unique<Recovery>(Recovery::FolderOf(recoveryRoot_, path));
     return true;
@@ -84,6 +88,8 @@ void Shell::Unload(bool storeGeometry) {
     while (!documents_.empty()) DeleteWindow(*documents_.back());
     recovery_.reset();
     objects_.reset();
+    treeObjects_.reset();
+    tree_.reset();
     database_.reset();
 }
 

@@ -1,13 +1,37 @@
+// Keys, look-ups, the tree's entries, and what the operations share.
 #include "store/DB_IO.h"
 
+#include <algorithm>
+#include <charconv>
+
+#include "store/ObjectKeys.h"
 #include "values/Text.h"
 
 namespace tw {
 namespace {
 
+constexpr std::string_view kSystemFolders[] = {kAllRecipesFolder, "F:0", kAllStylesFolder, "G:0"};
+
+bool IsFolderKey(std::string_view key) {
+    return key.starts_with('F') || key.starts_with('G');
+}
+
+bool IsSystemFolder(std::string_view key) {
+    return std::ranges::find(kSystemFolders, key) != std::end(kSystemFolders);
+}
+
+bool IsNoStyle(std::string_view key) {
+    return key.starts_with("S:0:");
+}
+
 std::string ByName(std::string_view columns, std::string_view table, std::string_view name) {
     return "SELECT " + std::string(columns) + " FROM " + std::string(table) +
            " WHERE NAME = " + SqlText(Trim(name));
+}
+
+// The id that a row refers to; -1, which is nobody's, for NULL.
+std::int64_t LinkOf(const Field& field) {
+    return field.IsNull() ? -1 : field.Integer();
 }
 
 std::string NameQuery(std::int64_t id, std::string_view table) {
@@ -15,6 +39,107 @@ std::string NameQuery(std::int64_t id, std::string_view table) {
 }
 
 }  // namespace
+
+std::int64_t IdOfKey(std::string_view key) {
+    const std::size_t start = std::min(key.find(':'), key.size() - 1) + 1;
+    const std::string_view field = key.substr(start, key.find(':', start) - start);
+    std::int64_t id = -1;
+    const auto [end, failure] = std::from_chars(field.data(), field.data() + field.size(), id);
+    return failure == std::errc() && end == field.data() + field.size() ? id : -1;
+}
+
+bool CanDeleteNode(std::string_view key) {
+    if (IsFolderKey(key)) return !IsSystemFolder(key);
+    return key.starts_with('R') || (key.starts_with('S') && !IsNoStyle(key));
+}
+
+bool CanRenameNode(std::string_view key) {
+    return CanDeleteNode(key);
+}
+
+bool CanHoldFolders(std::string_view key) {
+    return IsFolderKey(key) && key != kAllRecipesFolder && key != kAllStylesFolder;
+}
+
+bool CanDropOn(std::string_view sourceKey, std::string_view destKey) {
+    if (sourceKey.empty() || IsSystemFolder(sourceKey) || IsNoStyle(sourceKey) || sourceKey == destKey)
+        return false;
+    const bool ontoRecipeFolder = destKey.starts_with('F') && destKey != kAllRecipesFolder;
+    const bool ontoStyleFolder = destKey.starts_with('G') && destKey != kAllStylesFolder;
+    switch (sourceKey.front()) {
+        case 'F':
+            return ontoRecipeFolder;
+        case 'R':
+            return ontoRecipeFolder || destKey.starts_with('S');
+        case 'G':
+        case 'S':
+            return ontoStyleFolder;
+        default:
+            return false;
+    }
+}
+
+bool DB_IO::IsSubFolder(std::string_view sourceKey, std::string_view destKey) const {
+    return sourceKey == destKey || tree_.IsBelow(std::string(destKey), std::string(sourceKey));
+}
+
+bool DB_IO::MoveObject(std::string_view sourceKey, std::string_view destKey, bool silent) {
+    if (IsSubFolder(sourceKey, destKey)) return RefuseSubFolder(silent);
+    if (!CanDropOn(sourceKey, destKey)) return Refuse("Could not move object", "Invalid Destination", silent);
+    const std::int64_t source = IdOfKey(sourceKey);
+    const std::int64_t dest = IdOfKey(destKey);
+    switch (sourceKey.front()) {
+        case 'F':
+            return MoveRecipeFolder(source, dest, silent);
+        case 'G':
+            return MoveStyleFolder(source, dest, silent);
+        case 'S':
+            return MoveStyleToFolder(source, dest, silent);
+        default:
+            return destKey.starts_with('S') ? MoveRecipeToStyle(source, dest, silent)
+                                            : MoveRecipeToFolder(source, dest, silent);
+    }
+}
+
+bool DB_IO::RenameObject(std::string_view key, std::string_view newName, bool silent) {
+    if (!CanRenameNode(key)) return Refuse("Could not rename object", "Invalid Object", silent);
+    const std::int64_t id = IdOfKey(key);
+    switch (key.front()) {
+        case 'F':
+            return RenameRecipeFolder(id, newName, silent);
+        case 'G':
+            return RenameStyleFolder(id, newName, silent);
+        case 'S':
+            return RenameStyle(id, newName, silent);
+        default:
+            return RenameRecipe(id, newName, silent);
+    }
+}
+
+void DB_IO::DeleteObject(std::string_view key) {
+    if (!CanDeleteNode(key)) return;
+    const std::int64_t id = IdOfKey(key);
+    switch (key.front()) {
+        case 'F':
+            return DeleteRecipeFolder(id);
+        case 'G':
+            return DeleteStyleFolder(id);
+        case 'S':
+            return DeleteStyleById(id);
+        default:
+            return DeleteRecipeById(id);
+    }
+}
+
+std::string DB_IO::CreateFolderObject(std::string_view parentKey, std::string_view name, bool silent) {
+    if (!CanHoldFolders(parentKey)) {
+        Refuse("Could not create new folder", "Invalid Parent Object", silent);
+        return {};
+    }
+    const FolderKind kind = parentKey.starts_with('F') ? FolderKind::Recipes : FolderKind::Styles;
+    const std::int64_t id = CreateFolder(kind, IdOfKey(parentKey), name, silent);
+    return id < 0 ? std::string() : FolderKey(kind, id);
+}
 
 std::int64_t DB_IO::IdByName(std::string_view name, std::string_view table) {
     const Recordset rows = database_.OpenRecordset(ByName("ID", table, name));
@@ -26,37 +151,162 @@ std::string DB_IO::NameById(std::int64_t id, std::string_view table) {
     return rows.AtEnd() ? std::string() : rows.Fields(0).Text();
 }
 
-void DB_IO::DeleteRecipeById(std::int64_t id) {
-    Recordset rows = database_.OpenRecordset(NameQuery(id, "RECIPES"));
-    if (rows.AtEnd()) return;
-    const std::string name = rows.Fields(0).Text();
-    rows.Close();
-    const std::string idText = std::to_string(id);
-    UnitOfWork unit(database_);
-    database_.Execute("DELETE FROM RECIPES WHERE ID = " + idText);
-    database_.Execute("DELETE FROM RECIPE_GRAINS WHERE RECIPE_ID = " + idText);
-    database_.Execute("DELETE FROM RECIPE_HOPS WHERE RECIPE_ID = " + idText);
-    database_.Execute("DELETE FROM RECIPE_ADJUNCTS WHERE RECIPE_ID = " + idText);
-    database_.Execute("DELETE FROM RECIPE_LOG WHERE RECIPE_ID = " + idText);
-    unit.Commit();
-    listener_.NotifyRecipeDeleted(name);
+bool DB_IO::RecipeNameExists(std::string_view name) {
+    return Exists(ByName("*", "RECIPES", name));
 }
 
-void DB_IO::DeleteRecipeByName(std::string_view name) {
-    DeleteRecipeById(IdByName(name, "RECIPES"));
+bool DB_IO::StyleNameExists(std::string_view name) {
+    return Exists(ByName("*", "STYLES", name));
 }
 
-void DB_IO::AddRecipeNodesByName(std::string_view name) {
-    Recordset rows = database_.OpenRecordset(ByName("ID, FOLDER_ID", "RECIPES", name));
-    if (rows.AtEnd()) return;
-    const std::int64_t folderId = rows.Fields(1).Integer();
-    rows.Close();
+bool DB_IO::RecipeFolderNameExists(std::int64_t parentId, std::string_view name) {
+    return FolderNameExists(FolderKind::Recipes, parentId, name);
+}
+
+bool DB_IO::StyleFolderNameExists(std::int64_t parentId, std::string_view name) {
+    return FolderNameExists(FolderKind::Styles, parentId, name);
+}
+
+bool DB_IO::FolderNameExists(FolderKind kind, std::int64_t parentId, std::string_view name) {
+    return Exists("SELECT * FROM FOLDERS WHERE " + Condition(kind) +
+                  " AND PARENT_ID = " + std::to_string(parentId) + " AND NAME = " + SqlText(Trim(name)));
+}
+
+bool DB_IO::Exists(const std::string& sql) {
+    return !database_.OpenRecordset(sql).AtEnd();
+}
+
+std::vector<std::int64_t> DB_IO::Ids(const std::string& sql) {
+    std::vector<std::int64_t> ids;
+    for (Recordset rows = database_.OpenRecordset(sql); !rows.AtEnd(); rows.MoveNext())
+        ids.push_back(rows.Fields(0).Integer());
+    return ids;
+}
+
+std::vector<std::int64_t> DB_IO::RecipesOfStyle(std::int64_t styleId) {
+    return Ids("SELECT ID FROM RECIPES WHERE STYLE_ID = " + std::to_string(styleId));
+}
+
+std::string DB_IO::FolderKey(FolderKind kind, std::int64_t id) {
+    return std::string(1, static_cast<char>(kind)) + ":" + std::to_string(id);
+}
+
+std::optional<std::string> DB_IO::ObjectName(const std::string& key, std::string_view table,
+                                             std::int64_t id) {
+    if (id <= 0) return std::nullopt;
+    if (auto name = tree_.NameOf(key)) return name;
+    const Recordset rows = database_.OpenRecordset(NameQuery(id, table));
+    if (rows.AtEnd()) return std::nullopt;
+    return rows.Fields(0).Text();
+}
+
+std::optional<std::string> DB_IO::RecipeName(std::int64_t id) {
+    return ObjectName(RecipeKey(id, 0), "RECIPES", id);
+}
+
+std::optional<std::string> DB_IO::StyleName(std::int64_t id) {
+    return ObjectName(StyleKey(id, 0), "STYLES", id);
+}
+
+bool DB_IO::IsFolder(FolderKind kind, std::int64_t id) const {
+    return id >= 0 && tree_.NameOf(FolderKey(kind, id)).has_value();
+}
+
+void DB_IO::AddRecipeNodes(std::int64_t id, std::string_view name, std::int64_t folderId,
+                           std::int64_t styleId) {
+    const std::string text(name);
+    tree_.Place(RecipeKey(id, 0), std::string(kAllRecipesFolder), text);
+    for (int copy = 0; copy < kStyleCopies; ++copy)
+        tree_.Place(RecipeKey(id, copy + 1), StyleKey(styleId, copy), text);
+    if (IsFolder(FolderKind::Recipes, folderId))
+        tree_.Place(RecipeKey(id, kCopyInFolder), FolderKey(FolderKind::Recipes, folderId), text);
     TouchRecipeFolder(folderId);
 }
 
+void DB_IO::AddRecipeNodesByName(std::string_view name) {
+    struct Row {
+        std::int64_t id, folderId, styleId;
+        std::string name;
+    };
+    std::vector<Row> found;
+    // The name is one recipe's, unless another program has written the file.
+    for (Recordset rows = database_.OpenRecordset(ByName("ID, FOLDER_ID, STYLE_ID, NAME", "RECIPES", name));
+         !rows.AtEnd(); rows.MoveNext())
+        found.push_back({rows.Fields(0).Integer(), LinkOf(rows.Fields(1)), LinkOf(rows.Fields(2)),
+                         rows.Fields(3).Text()});
+    for (const Row& row : found)
+        if (!tree_.NameOf(RecipeKey(row.id, 0))) AddRecipeNodes(row.id, row.name, row.folderId, row.styleId);
+}
+
+void DB_IO::AddStyleNodes(std::int64_t id, std::string_view name, std::int64_t folderId) {
+    const std::string text(name);
+    tree_.Place(StyleKey(id, 0), std::string(kAllStylesFolder), text);
+    if (IsFolder(FolderKind::Styles, folderId))
+        tree_.Place(StyleKey(id, kStyleInFolder), FolderKey(FolderKind::Styles, folderId), text);
+    TouchStyleFolder(folderId);
+}
+
+void DB_IO::AddStyleNodesByName(std::string_view name) {
+    Recordset rows = database_.OpenRecordset(ByName("ID, FOLDER_ID", "STYLES", name));
+    if (rows.AtEnd()) return;
+    const std::int64_t id = rows.Fields(0).Integer();
+    const std::int64_t folderId = LinkOf(rows.Fields(1));
+    rows.Close();
+    AddStyleNodes(id, Trim(name), folderId);
+}
+
+void DB_IO::RenameStyleNodes(std::int64_t id, std::string_view newName) {
+    // 0 is "(None)".
+    if (id <= 0) return;
+    const std::string text(newName);
+    for (int copy = 0; copy < kStyleCopies; ++copy) tree_.Rename(StyleKey(id, copy), text);
+    listener_.NotifyStyleRenamed(id, text);
+}
+
+void DB_IO::RenameStyleNodesByName(std::string_view oldName, std::string_view newName) {
+    RenameStyleNodes(StyleIdByName(oldName), newName);
+}
+
 void DB_IO::TouchRecipeFolder(std::int64_t folderId) {
-    database_.Execute("UPDATE FOLDERS SET MODIFIED_WHEN = '" + DateText(clock_.Now()) +
-                      "' WHERE NOT STYLE AND ID = " + std::to_string(folderId));
+    Touch(FolderKind::Recipes, folderId);
+}
+
+void DB_IO::TouchStyleFolder(std::int64_t folderId) {
+    Touch(FolderKind::Styles, folderId);
+}
+
+void DB_IO::Touch(FolderKind kind, std::int64_t id) {
+    database_.Execute("UPDATE FOLDERS SET MODIFIED_WHEN = '" + DateText(clock_.Now()) + "' WHERE " +
+                      Condition(kind) + " AND ID = " + std::to_string(id));
+}
+
+void DB_IO::TouchFolderOf(FolderKind kind, const std::string& key) {
+    const std::string parentKey = tree_.ParentOf(key);
+    if (!parentKey.empty()) Touch(kind, IdOfKey(parentKey));
+}
+
+bool DB_IO::Refuse(std::string_view title, std::string_view text, bool silent) {
+    if (!silent) messages_.ShowMessage(title, text);
+    return false;
+}
+
+bool DB_IO::RefuseSubFolder(bool silent) {
+    return Refuse("Could not move folder", "The destination folder is a sub-folder of the source folder",
+                  silent);
+}
+
+bool DB_IO::RefuseMissing(std::string_view title, std::string_view object, bool silent) {
+    const Error error("DB_IO", "There is no such " + std::string(object) + ".", kMissingNumber);
+    return Refuse(title, error.WithSource(), silent);
+}
+
+bool DB_IO::Trap(const std::string& title, bool silent, const Operation& operation) {
+    try {
+        return operation();
+    } catch (const Error& error) {
+        tree_.Reload();
+        return Refuse(title, error.WithSource(), silent);
+    }
 }
 
 }  // namespace tw

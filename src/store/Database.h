@@ -20,8 +20,27 @@ struct sqlite3_stmt;
 
 namespace tw {
 
-// The declared type of a field, by its data-access number.
-enum class FieldType { Boolean = 1, Long = 4, Double = 7, Date = 8, Text = 10, Memo = 12 };
+// The declared type of a field, by its data-access number. The tables of the program use Boolean, Long,
+// Double, Date, Text and Memo; the others come in files of other makers.
+enum class FieldType : int {
+    Boolean = 1,
+    Byte = 2,
+    Integer = 3,
+    Long = 4,
+    Currency = 5,
+    Single = 6,
+    Double = 7,
+    Date = 8,
+    Text = 10,
+    Binary = 11,
+    Memo = 12,
+    Numeric = 19,
+    Float = 21,
+};
+
+// The type that the declaration of a column names, such as "TEXT(50)", without regard to case; Binary for an
+// unknown one.
+FieldType FieldTypeOf(std::string_view declared);
 
 struct Null {
     bool operator==(const Null&) const = default;

@@ -22,16 +22,20 @@ bool IsNumeric(int storage) {
     return storage == SQLITE_INTEGER || storage == SQLITE_FLOAT;
 }
 
-// The type that a column of a table was declared with (see Schema).
-FieldType DeclaredType(std::string_view declared) {
-    if (declared == "TEXT") return FieldType::Text;
-    if (declared == "DOUBLE") return FieldType::Double;
-    if (declared == "INTEGER") return FieldType::Long;
-    if (declared == "BOOLEAN") return FieldType::Boolean;
-    if (declared == "DATETIME") return FieldType::Date;
-    if (declared == "LONGTEXT") return FieldType::Memo;
-    return FieldType::Text;
-}
+struct TypeName {
+    std::string_view name;
+    FieldType type;
+};
+
+// The first six are those of the program's own tables (see Schema), and are looked at first.
+constexpr TypeName kTypeNames[] = {
+    {"TEXT", FieldType::Text},       {"DOUBLE", FieldType::Double},     {"INTEGER", FieldType::Long},
+    {"BOOLEAN", FieldType::Boolean}, {"DATETIME", FieldType::Date},     {"LONGTEXT", FieldType::Memo},
+    {"VARCHAR", FieldType::Text},    {"CHAR", FieldType::Text},         {"MEMO", FieldType::Memo},
+    {"BYTE", FieldType::Byte},       {"SMALLINT", FieldType::Integer},  {"LONG", FieldType::Long},
+    {"INT", FieldType::Long},        {"CURRENCY", FieldType::Currency}, {"SINGLE", FieldType::Single},
+    {"REAL", FieldType::Double},     {"NUMERIC", FieldType::Numeric},   {"FLOAT", FieldType::Float},
+};
 
 // The type of an expression is that of its value.
 FieldType ValueType(int storage) {
@@ -58,6 +62,15 @@ std::uint32_t NameHash(std::string_view name) {
 }
 
 }  // namespace
+
+FieldType FieldTypeOf(std::string_view declared) {
+    for (const TypeName& known : kTypeNames)
+        if (declared == known.name) return known.type;
+    const std::string_view word = Trim(declared.substr(0, declared.find('(')));
+    for (const TypeName& known : kTypeNames)
+        if (CompareNoCase(word, known.name) == 0) return known.type;
+    return FieldType::Binary;
+}
 
 const std::string& Field::Name() const {
     return *name_;
@@ -253,7 +266,7 @@ const std::string& Recordset::FieldName(int index) const {
 FieldType Recordset::TypeOf(int index) const {
     if (index < 0 || index >= FieldCount()) Raise("Item not found in this collection.", SQLITE_RANGE);
     const char* const declared = sqlite3_column_decltype(impl_->statement, index);
-    if (declared != nullptr) return DeclaredType(declared);
+    if (declared != nullptr) return FieldTypeOf(declared);
     return ValueType(sqlite3_column_type(impl_->statement, index));
 }
 

@@ -203,26 +203,19 @@ std::string_view TypeOf(const ColumnDef& column) {
         case Double:
             return "DOUBLE";
         case Date:
-            return "DATETIME COLLATE TWDATE";
+            return "DATETIME";
         case Memo:
-            return "LONGTEXT COLLATE TWTEXT";
-        case Text:
-            break;
+            return "LONGTEXT";
+        default:
+            return "TEXT";
     }
-    return "TEXT COLLATE TWTEXT";
 }
 
 std::string Declaration(const ColumnDef& column) {
     // Quoted, since one column is named as a keyword.
-    std::string name = "\"";
-    name.append(column.name).append("\"");
-    std::string declaration = name;
-    declaration.append(" ").append(TypeOf(column));
-    if (column.type == Date)
-        declaration.append(" CHECK (")
-            .append(name)
-            .append(" GLOB '[01][0-9]/[0-3][0-9]/[0-9][0-9][0-9][0-9] [0-2][0-9]:[0-5][0-9]:[0-5][0-9]')");
-    return declaration;
+    std::string declaration = "\"";
+    declaration.append(column.name).append("\" ").append(TypeOf(column));
+    return declaration + ColumnRules(column.name, column.type);
 }
 
 std::string CreateTable(const TableSchema& table) {
@@ -263,6 +256,14 @@ std::set<std::string> NamesIn(Database& database) {
 }
 
 }  // namespace
+
+std::string ColumnRules(std::string_view name, FieldType type) {
+    if (type == Text || type == Memo) return " COLLATE TWTEXT";
+    if (type != Date) return {};
+    std::string rules = " COLLATE TWDATE CHECK (\"";
+    return rules.append(name).append(
+        "\" GLOB '[01][0-9]/[0-3][0-9]/[0-9][0-9][0-9][0-9] [0-2][0-9]:[0-5][0-9]:[0-5][0-9]')");
+}
 
 std::span<const TableSchema> MainSchema() {
     return kTables;

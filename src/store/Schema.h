@@ -21,6 +21,9 @@ struct TableSchema {
     std::span<const ColumnDef> columns;
 };
 
+// What stands behind the type in the declaration of a column of that name: its order of texts, and for a date
+// the check of its form.
+std::string ColumnRules(std::string_view name, FieldType type);
 // All tables of the main database, in the order in which they are made.
 std::span<const TableSchema> MainSchema();
 // Makes every table and index of the main database. REQUIRES: the database holds none of them.

@@ -45,7 +45,8 @@ TWNode& TWNodes::AddItem(std::string_view name, std::string_view key, std::strin
 }
 
 std::unique_ptr<TWNode> TWNodes::RemoveNode(const TWNode& node, bool keep) {
-    const std::size_t index = IndexOf(node);
+    std::size_t index = PlaceOf(node);
+    if (index == items_.size()) index = IndexOf(node);
     if (index == items_.size())
         throw Error("TWNodes.RemoveNode", "Node to be removed does not exist in collection.",
                     kTreeMisuseNumber);
@@ -86,6 +87,16 @@ std::size_t TWNodes::IndexOf(const TWNode& node) const {
     const auto found = std::find_if(items_.begin(), items_.end(),
                                     [&](const std::unique_ptr<TWNode>& item) { return item.get() == &node; });
     return static_cast<std::size_t>(found - items_.begin());
+}
+
+std::size_t TWNodes::PlaceOf(const TWNode& node) const {
+    if (ordered_ < items_.size()) return items_.size();
+    auto item = std::partition_point(items_.begin(), items_.end(), [&](const std::unique_ptr<TWNode>& other) {
+        return other->Compare(node) < 0;
+    });
+    while (item != items_.end() && item->get() != &node && (*item)->Compare(node) == 0) ++item;
+    const bool found = item != items_.end() && item->get() == &node;
+    return found ? static_cast<std::size_t>(item - items_.begin()) : items_.size();
 }
 
 bool TWNodes::InOrder() {

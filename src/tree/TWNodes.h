@@ -60,6 +60,8 @@ class TWNodes {
 
     // Count when the node is not in it.
     std::size_t IndexOf(const TWNode& node) const;
+    // The same by the order, without a look at every node; Count also when the order is not known.
+    std::size_t PlaceOf(const TWNode& node) const;
     // True when every node stands in its place. Looks only at what it has not looked at before.
     bool InOrder();
     std::size_t PlaceFor(const TWNode& node);

@@ -1,9 +1,13 @@
 #include "values/Converter.h"
 
+#include <cmath>
+
 namespace tw {
 
+// The powers are taken first, as the formula is written: 1.050 gives 12.3743425, which lies on an edge of
+// rounding, and the other order of the factors would fall below it.
 double SGToPlato(double sg) {
-    return 1262.45 * sg - 668.96 - 776.43 * sg * sg + 182.94 * sg * sg * sg;
+    return 1262.45 * sg - 668.96 - 776.43 * std::pow(sg, 2) + 182.94 * std::pow(sg, 3);
 }
 
 double PlatoToSG(double plato) {

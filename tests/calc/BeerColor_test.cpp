@@ -26,6 +26,12 @@ Hsl HslOf(double hcu) {
     return hsl;
 }
 
+TEST(HCUToSRM, HasAWayBack) {
+    EXPECT_EQ(SRMToHCU(0), 0);
+    EXPECT_NEAR(SRMToHCU(1.4922), 1, 1e-12);
+    for (const double hcu : {0.5, 10.0, 60.0, 300.0}) EXPECT_NEAR(SRMToHCU(HCUToSRM(hcu)), hcu, 1e-9);
+}
+
 TEST(ColorTable, HoldsItsEntries) {
     const ColorTable table;
     for (const Point& point : kPoints) {

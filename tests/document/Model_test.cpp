@@ -4,6 +4,7 @@
 #include <random>
 
 #include "DocumentTest.h"
+#include "PlainComparison.h"
 
 namespace tw::test {
 namespace {
@@ -87,7 +88,6 @@ class ModelTest : public DocumentTest, public testing::WithParamInterface<unsign
     void EditRows();
     void SaveAndOpen();
     void Compare(const std::string& what);
-    void CompareGrid(const Grid& grid, const PlainRows& rows, const std::string& what);
 
     PlainCatalogue catalogue_ = MakePlainCatalogue();
     PlainRecipe plain_{catalogue_, 0, true};
@@ -220,54 +220,8 @@ void ModelTest::SaveAndOpen() {
     plain_.Reopen();
 }
 
-void ModelTest::CompareGrid(const Grid& grid, const PlainRows& rows, const std::string& what) {
-    const int lines = grid.RowsCanChange() ? grid.DataRows() : static_cast<int>(rows.size());
-    ASSERT_EQ(lines, static_cast<int>(rows.size())) << what << grid.Name();
-    for (int row = 0; row < lines; ++row)
-        for (int col = &grid == &R().gridWater ? 1 : 0; col < grid.Cols(); ++col) {
-            const PlainCell& wanted = rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(col)];
-            const Cell& cell = grid.At(row + 1, col);
-            const std::string where =
-                what + " " + grid.Name() + " " + std::to_string(row + 1) + "," + std::to_string(col);
-            ASSERT_EQ(cell.text, wanted.text) << where;
-            ASSERT_EQ(cell.value.number, wanted.number) << where;
-            ASSERT_EQ(cell.check == CheckState::Checked, wanted.checked) << where;
-            ASSERT_EQ(cell.bold, wanted.bold) << where;
-        }
-}
-
 void ModelTest::Compare(const std::string& what) {
-    const RecipeRecord& r = R();
-    for (const auto& [name, box] : plain_.boxes) {
-        const TextBox& shown = *R().FindTextBox(name);
-        ASSERT_EQ(shown.Text(), box.text) << what << " " << name;
-        if (!shown.Computed()) {
-            ASSERT_EQ(shown.Committed(), box.text) << what << " " << name;
-        }
-        if (!box.text.empty()) {
-            ASSERT_EQ(shown.Value(), box.number) << what << " " << name;
-        }
-    }
-    for (const auto& [name, rows] : plain_.rows) {
-        CompareGrid(*R().FindGrid(name), rows, what);
-        if (HasFatalFailure()) return;
-    }
-    for (const auto& [name, row] : plain_.totals) {
-        const Grid& grid = *R().FindGrid(name);
-        for (int col = 1; col < grid.Cols(); ++col)
-            ASSERT_EQ(grid.Text(grid.TotalsRow(), col), row[static_cast<std::size_t>(col)].text)
-                << what << " totals of " << name << " " << col;
-    }
-    ASSERT_EQ(r.gridPriming.Text(r.gridPriming.TotalsRow() - 1, PrimingCol::Volumes), plain_.residual.text)
-        << what;
-    ASSERT_EQ(r.grpIBUMethod.Selected(), plain_.method) << what;
-    ASSERT_EQ(r.grpPkgMethod.Selected(), plain_.packaging) << what;
-    ASSERT_EQ(document->StyleID(), plain_.style) << what;
-    ASSERT_EQ(document->Changed(), plain_.changed) << what;
-    ASSERT_EQ(host.IsOn("EnableSave"), plain_.changed) << what;
-    for (const auto& [name, on] : plain_.buttons)
-        ASSERT_EQ(R().FindButton(name)->Enabled(), on) << what << " " << name;
-    for (const auto& [name, on] : plain_.commands) ASSERT_EQ(host.IsOn(name), on) << what << " " << name;
+    ASSERT_EQ(FirstDifference(*document, host, plain_), "") << what;
 }
 
 TEST_P(ModelTest, AgreesWithThePlainCalculationAfterEveryEdit) {

@@ -54,6 +54,12 @@ class PlainRecipe {
     // row counts from 0 among the data rows.
     void InsertRow(const std::string& grid, int row);
     Outcome DeleteRow(const std::string& grid, int row);
+    // Scaling (PlainScaling.cpp); Refused is a stop on the way, which may have changed something. carbonate
+    // is the answer to the question about the carbonation.
+    Outcome Resize(double size, const std::string& text, bool boil, bool keepIbu, bool carbonate);
+    Outcome ChangeOG(double og, bool keepIbu);
+    Outcome ChangeIBU(double ibu);
+    Outcome ChangeCO2(double volumes);
     // What saving and opening does to what is seen.
     void Reopen();
 
@@ -99,6 +105,14 @@ class PlainRecipe {
     void Needed();
     void MarkTotal(int col);
     void Yeast(int row);
+
+    template <class Change>
+    Outcome TryForGood(Change change);
+    static void Amount(PlainCell& cell, double number, int decimals, const std::string& unit);
+    void Amounts(const std::string& grid, double factor);
+    void AllFermentables();
+    bool KeepIbu(double old);
+    bool CarbonateNow(double volumes);
 
     const PlainCatalogue& catalogue_;
     int hopForm_;

@@ -1,7 +1,7 @@
 // The edit commands in the windows: undo and redo, the clipboard, selections, sorting.
 #include "GuiTest.h"
-#include "document/ui/GridHeader.h"
 #include "document/ui/GridPanel.h"
+#include "platform/qt/GridHeader.h"
 
 namespace tw::test {
 namespace {

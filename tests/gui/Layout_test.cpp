@@ -9,11 +9,19 @@
 #include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
 #include "document/ui/FancyLabel.h"
+#include "document/ui/ScalingDialog.h"
 #include "platform/qt/Appearance.h"
 #include "shell/AboutModel.h"
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
 #include "shell/ui/frmOptions.h"
+#include "tools/ui/frmColor.h"
+#include "tools/ui/frmConvertUnits.h"
+#include "tools/ui/frmHopUtil.h"
+#include "tools/ui/frmHydrometer.h"
+#include "tree/ui/RecipeChooserView.h"
+#include "tree/ui/frmChooseFolder.h"
+#include "tree/ui/frmLvShow.h"
 
 namespace tw::test {
 namespace {
@@ -53,6 +61,16 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             QApplication::processEvents();
             visit(*dialog);
         }
+        ForEachTool(visit);
+        ForEachChooser(visit);
+        for (const Scaling what :
+             {Scaling::Size, Scaling::Strength, Scaling::Bitterness, Scaling::Carbonation}) {
+            ScalingModel scaling(what, "12.75 gal.", outside.messages);
+            ScalingDialog scalingWindow(scaling, nullptr);
+            scalingWindow.show();
+            QApplication::processEvents();
+            visit(scalingWindow);
+        }
         OptionsModel options(shell, outside.messages);
         QtColorChooser colors;
         frmOptions optionsWindow(options, colors, nullptr);
@@ -62,6 +80,54 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             optionTabs->setCurrentIndex(tab);
             QApplication::processEvents();
             visit(optionsWindow);
+        }
+    }
+
+    // The pickers, and what recipes and folders are chosen with.
+    void ForEachChooser(const std::function<void(QWidget&)>& visit) {
+        for (const PickList list : {PickList::Style, PickList::Grain, PickList::Hop, PickList::Yeast}) {
+            LvShowModel picker(list, *shell.DB(), shell.Tree(), "");
+            frmLvShow pickerWindow(picker, nullptr);
+            pickerWindow.show();
+            QApplication::processEvents();
+            visit(pickerWindow);
+        }
+        ChooseFolderModel folders(shell.Tree(), shell.Objects());
+        frmChooseFolder folderWindow(folders, nullptr);
+        RecipeChooser recipes;
+        recipes.SetTree(&shell.Tree());
+        recipes.SetAction("Export");
+        recipes.Initialize();
+        RecipeChooserView chooser(recipes, nullptr);
+        for (QWidget* widget : {static_cast<QWidget*>(&folderWindow), static_cast<QWidget*>(&chooser)}) {
+            widget->show();
+            QApplication::processEvents();
+            visit(*widget);
+        }
+    }
+
+    // The unit converter with each of its kinds.
+    void ForEachTool(const std::function<void(QWidget&)>& visit) {
+        HydrometerModel hydrometer(outside.messages);
+        HopUtilModel explorer(std::nullopt);
+        ColorScaleModel scales;
+        ConvertUnitsModel converter(outside.messages);
+        frmHydrometer hydrometerWindow(hydrometer, nullptr);
+        frmHopUtil explorerWindow(explorer, nullptr);
+        frmColor scalesWindow(scales, nullptr);
+        frmConvertUnits converterWindow(converter, nullptr);
+        for (QDialog* dialog :
+             {static_cast<QDialog*>(&hydrometerWindow), static_cast<QDialog*>(&explorerWindow),
+              static_cast<QDialog*>(&scalesWindow), static_cast<QDialog*>(&converterWindow)}) {
+            dialog->show();
+            QApplication::processEvents();
+            visit(*dialog);
+        }
+        auto& types = *converterWindow.findChild<QComboBox*>();
+        for (int kind = 0; kind < types.count(); ++kind) {
+            types.setCurrentIndex(kind);
+            QApplication::processEvents();
+            visit(converterWindow);
         }
     }
 };

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "StoreSupport.h"
+#include "support/NoMessages.h"
 
 namespace tw::test {
 namespace {
@@ -30,7 +31,9 @@ class DbIo : public testing::Test {
     std::unique_ptr<Database> db = Database::CreateInMemory();
     FixedClock clock;
     Recorder listener;
-    DB_IO io{*db, clock, listener};
+    ObjectTree tree;  // shows nothing
+    NoMessages messages;
+    DB_IO io{*db, tree, messages, clock, listener};
 };
 
 TEST_F(DbIo, LooksNamesAndIdsUp) {

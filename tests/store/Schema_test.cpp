@@ -59,8 +59,9 @@ const char* Letter(FieldType type) {
             return ":t";
         case FieldType::Memo:
             return ":m";
+        default:
+            return "?";
     }
-    return "?";
 }
 
 TEST(Schema, ListsEveryTableColumnByColumn) {

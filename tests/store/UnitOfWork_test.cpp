@@ -7,6 +7,7 @@
 #include "StoreSupport.h"
 #include "store/DB_IO.h"
 #include "store/Schema.h"
+#include "support/NoMessages.h"
 
 namespace tw::test {
 namespace {
@@ -31,8 +32,10 @@ class NoListener : public ObjectListener {
 void Save(Database& database, const StoredRecipe& recipe) {
     FixedClock clock;
     NoListener listener;
+    ObjectTree tree;
+    NoMessages messages;
     UnitOfWork unit(database);
-    DB_IO(database, clock, listener).DeleteRecipeByName(recipe.name);
+    DB_IO(database, tree, messages, clock, listener).DeleteRecipeByName(recipe.name);
     InsertRecipe(database, recipe);
     unit.Commit();
 }

@@ -13,17 +13,19 @@
 #include "document/DocumentHost.h"
 #include "document/RecipeDocument.h"
 #include "store/DB_IO.h"
+#include "support/NoMessages.h"
 
 namespace tw::test {
 
 class RecordingHost : public DocumentHost, public DocumentCommands, private ObjectListener {
   public:
-    RecordingHost(Database& database, ClockPort& clock) : io_(database, clock, *this) {}
+    RecordingHost(Database& database, ClockPort& clock) : io_(database, tree_, messages_, clock, *this) {}
 
     // What a test sets.
     RecipeDefaults defaults;
     bool appendRows = false;
     bool copyHeaders = false, pasteMismatchSize = false, askBefore = true;
+    int lpMaxIter = 1000;
     const RecipeDocument* active = nullptr;  // the active document
     std::vector<RecipeDocument*> documents;  // those that hear the notices
 
@@ -44,6 +46,7 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     bool AppendRows() const override { return appendRows; }
     bool CopyHeaders() const override { return copyHeaders; }
     bool PasteMismatchSize() const override { return pasteMismatchSize; }
+    int LPMaxIter() const override { return lpMaxIter; }
     bool AskBeforeNonUndoableChange() const override { return askBefore; }
     void StopAskingBeforeNonUndoableChange() override { askBefore = false; }
     void DeleteRecipe(std::string_view name) override {
@@ -108,6 +111,8 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
         for (RecipeDocument* document : documents) document->NotifyStyleDeleted(styleId);
     }
 
+    ObjectTree tree_;  // shows nothing
+    NoMessages messages_;
     DB_IO io_;
 };
 

@@ -24,6 +24,13 @@ TEST(SGToPlato, FollowsItsCubic) {
     EXPECT_NEAR(SGToPlato(2), 1262.45 * 2 - 668.96 - 776.43 * 4 + 182.94 * 8, 1e-9);
 }
 
+// 1325.5725 - 668.96 - 856.014075 + 211.7759175 is 12.3743425 exactly: not below it, so that six decimals
+// are rounded up.
+TEST(SGToPlato, DoesNotFallBelowAnEdgeOfRounding) {
+    EXPECT_GE(SGToPlato(1.05), 12.3743425);
+    EXPECT_NEAR(SGToPlato(1.05), 12.3743425, 1e-12);
+}
+
 // Intended: the two fits are not corrected to be inverses.
 TEST(SGToPlato, IsNotTheExactInverseOfPlatoToSG) {
     EXPECT_NE(PlatoToSG(SGToPlato(1.048)), 1.048);

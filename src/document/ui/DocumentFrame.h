@@ -16,11 +16,9 @@ struct GridColors {
 class DocumentFrame {
   public:
     virtual ~DocumentFrame() = default;
-    // Runs the action of a menu item, or of a button that opens a window (cmdBrowseStyles), by its control
-    // name. False when it is off: the key may then do what it does elsewhere.
+    // Runs the action of a menu item by its control name. False when it is off: the key may then do what it
+    // does elsewhere.
     virtual bool RunCommand(std::string_view menuItem) = 0;
-    // Whether the program has an action of that name at all.
-    virtual bool CanRun(std::string_view name) const = 0;
     // Opens the edit menu as a popup.
     virtual void ShowEditMenu(const QPoint& globalPosition) = 0;
     virtual GridColors Colors() const = 0;

@@ -92,11 +92,9 @@ void BuildWater(PageBuilder& b) {
     RecipeRecord& r = b.Record();
     QVBoxLayout* column = ColumnOf(b);
     column->addWidget(b.GridOf(r.gridWater, Tr("Water profile"), {}), 1);
-    auto* treat = b.CommandButton(
-        r.cmdCalcTreatment, Tr("Calculate Treat&ment"),
-        Tr("Works out the salts that turn the source water into the target water"),
-        [&b = b.Binding()](RecipeDocument&) { b.Frame().RunCommand("cmdCalcTreatment"); },
-        b.Binding().Frame().CanRun("cmdCalcTreatment"));
+    auto* treat = b.CommandButton(r.cmdCalcTreatment, Tr("Calculate Treat&ment"),
+                                  Tr("Works out the salts that turn the source water into the target water"),
+                                  [](RecipeDocument& document) { document.CalcTreatment(); });
     treat->setAccessibleName(Tr("Calculate Treatment"));
     column->addLayout(RowOf(b, {treat}));
     column->addWidget(b.GridOf(r.gridTreatment, Tr("Treatment"),

@@ -61,9 +61,9 @@ QGridLayout* MakeSizes(PageBuilder& b) {
     browse->setToolTip(Tr("Choose the style from its folders"));
     browse->setAutoDefault(false);
     DocumentBinding& binding = b.Binding();
-    QObject::connect(browse, &QPushButton::clicked, browse,
-                     [&binding] { binding.Frame().RunCommand("cmdBrowseStyles"); });
-    browse->setEnabled(binding.Frame().CanRun("cmdBrowseStyles"));
+    QObject::connect(browse, &QPushButton::clicked, browse, [&binding] {
+        if (binding.Flush()) binding.Run([](RecipeDocument& document) { document.BrowseStyles(); });
+    });
     grid->addWidget(browse, row, 2);
     add(batches, b.Field(r.txtNumBatches, batches, kVolumeDigits));
     AddRule(b, *grid, 3, 2, Tr("Batch Size"));

@@ -8,10 +8,10 @@
 #include <QLineEdit>
 #include <QPainter>
 
-#include "document/ui/GridHeader.h"
 #include "document/ui/GridModel.h"
 #include "document/ui/GridView.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/GridHeader.h"
 #include "platform/qt/ProgramStyle.h"
 #include "platform/qt/QtText.h"
 

@@ -63,6 +63,12 @@ Qt::Alignment GridModel::AlignmentOf(const Grid& grid, int col) {
     return Qt::AlignVCenter | (HoldsText(grid, col) ? Qt::AlignLeft : Qt::AlignRight);
 }
 
+bool GridModel::HasCatalogue(const QModelIndex& index) const {
+    const RecipeDocument* document = binding_.Document();
+    return grid_ && document && index.isValid() && part_ == Part::Data &&
+           document->PickListOf(*grid_, GridRow(index.row()), index.column());
+}
+
 QVariant GridModel::Colored(int row, int col, bool background) const {
     const GridColors colors = binding_.Frame().Colors();
     switch (grid_->Paint(row, col)) {
@@ -114,6 +120,9 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
             return grid_->Checked(row, col) ? Qt::Checked : Qt::Unchecked;
         case Qt::AccessibleTextRole:
             return Spoken(row, col);
+        case Qt::ToolTipRole:
+            if (!HasCatalogue(index)) return {};
+            return tr("A double click or Ctrl+Enter opens the catalogue to choose from");
         default:
             return {};
     }

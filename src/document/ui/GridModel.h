@@ -26,6 +26,8 @@ class GridModel final : public QAbstractTableModel {
     int ModelRow(int gridRow) const;
     bool IsCheckBox(const QModelIndex& index) const;
     bool CanEdit(const QModelIndex& index) const;
+    // Whether the cell's name can be chosen from a catalogue.
+    bool HasCatalogue(const QModelIndex& index) const;
     // Numbers stand at the right, texts at the left.
     static Qt::Alignment AlignmentOf(const Grid& grid, int col);
 

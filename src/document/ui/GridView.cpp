@@ -10,8 +10,8 @@
 #include <utility>
 
 #include "document/ui/GridDelegate.h"
-#include "document/ui/GridHeader.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/GridHeader.h"
 #include "platform/qt/QtText.h"
 
 namespace tw {
@@ -260,6 +260,11 @@ bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event
         emit CalendarRequested(model_->GridRow(index.row()));
         return false;
     }
+    if (trigger == DoubleClicked && model_->HasCatalogue(index)) {
+        // The window of the catalogue comes up when the click is over.
+        QMetaObject::invokeMethod(this, &GridView::BrowseCatalogue, Qt::QueuedConnection);
+        return false;
+    }
     return QTableView::edit(index, trigger, event);
 }
 
@@ -329,6 +334,11 @@ void GridView::Toggle(const QModelIndex& cell) {
         [&](RecipeDocument& document) { document.SetChecked(*grid_, row, col, !grid_->Checked(row, col)); });
 }
 
+void GridView::BrowseCatalogue() {
+    if (!grid_ || !binding_.Flush()) return;
+    binding_.Run([this](RecipeDocument& document) { document.BrowseCell(*grid_); });
+}
+
 void GridView::SortBy(int col) {
     if (!grid_ || !grid_->RowsCanChange() || col < 0) return;
     sorting_ = true;
@@ -368,7 +378,10 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            StepDown();
+            if (event->modifiers().testFlag(Qt::ControlModifier))
+                BrowseCatalogue();
+            else
+                StepDown();
             return;
         case Qt::Key_Space:
             if (!model_->IsCheckBox(cell)) break;

@@ -88,6 +88,8 @@ class GridView final : public QTableView {
     void BuildHeader();
     void Connect();
     void Toggle(const QModelIndex& cell);
+    // Lets the brewer choose the current cell's name from its catalogue, if it has one.
+    void BrowseCatalogue();
     void SortBy(int col);
     void ShowSortMark(int col);
     // To the next (+1) or previous (-1) cell that takes an entry; false when there is none.

@@ -54,13 +54,13 @@ RangeBar* PageBuilder::Bar(const TextBox& figure, const Label& range, const QStr
 }
 
 QPushButton* PageBuilder::CommandButton(const Button& button, const QString& caption, const QString& name,
-                                        std::function<void(RecipeDocument&)> action, bool available) {
+                                        std::function<void(RecipeDocument&)> action) {
     auto* widget = new QPushButton(caption, &page_);
     widget->setObjectName(ToQt(button.Name()));
     widget->setAccessibleName(name);
     widget->setToolTip(name);
     widget->setAutoDefault(false);
-    const auto show = [widget, &button, available] { widget->setEnabled(available && button.Enabled()); };
+    const auto show = [widget, &button] { widget->setEnabled(button.Enabled()); };
     binding_.Watch(&button, show);
     show();
     DocumentBinding& binding = binding_;

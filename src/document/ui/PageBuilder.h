@@ -38,9 +38,8 @@ class PageBuilder {
     QLabel* RecordLabel(const Label& label, const QString& name);
     // The bar that belongs to a figure and its range.
     RangeBar* Bar(const TextBox& figure, const Label& range, const QString& what);
-    // A button that is not available stays off.
     QPushButton* CommandButton(const Button& button, const QString& caption, const QString& name,
-                               std::function<void(RecipeDocument&)> action, bool available = true);
+                               std::function<void(RecipeDocument&)> action);
     QComboBox* StyleList(const QString& name);
     // An option button of that control name.
     QRadioButton* Option(const OptionGroup& group, const QString& option, const QString& caption);

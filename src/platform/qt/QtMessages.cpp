@@ -32,22 +32,25 @@ void QtMessages::ShowMessage(std::string_view title, std::string_view text) {
 }
 
 Answer QtMessages::Ask(std::string_view title, std::string_view text, Question kind) {
-    const bool canCancel = kind == Question::YesNoCancel;
     QMessageBox box(QApplication::activeWindow());
     Prepare(box, title, text);
     box.setIcon(QMessageBox::Question);
-    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    if (canCancel) box.addButton(QMessageBox::Cancel);
-    box.setDefaultButton(QMessageBox::Yes);
+    const bool isYesNo = kind != Question::OkCancel;
+    box.setStandardButtons(isYesNo ? QMessageBox::Yes | QMessageBox::No
+                                   : QMessageBox::Ok | QMessageBox::Cancel);
+    if (kind == Question::YesNoCancel) box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(isYesNo ? QMessageBox::Yes : QMessageBox::Ok);
     // Without this a question of two buttons could not be left by Escape.
-    box.setEscapeButton(canCancel ? QMessageBox::Cancel : QMessageBox::No);
+    box.setEscapeButton(kind == Question::YesNo ? QMessageBox::No : QMessageBox::Cancel);
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;
-        case QMessageBox::Cancel:
-            return Answer::Cancel;
-        default:
+        case QMessageBox::Ok:
+            return Answer::Ok;
+        case QMessageBox::No:
             return Answer::No;
+        default:
+            return kind == Question::YesNo ? Answer::No : Answer::Cancel;
     }
 }
 

@@ -1,107 +1,14 @@
 #include "shell/ui/Icons.h"
 
-#include <QApplication>
-#include <QFile>
-#include <QIconEngine>
-#include <QPainter>
-#include <QPalette>
-#include <QPixmapCache>
-#include <QSvgRenderer>
-#include <utility>
+#include <QString>
 
-#include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
-
-// A resource of a static library is registered by hand, outside any namespace.
-static void RegisterIcons() {
-    Q_INIT_RESOURCE(icons);
-}
+#include "platform/qt/SvgIcon.h"
 
 namespace tw {
 namespace {
 
-constexpr double kDisabledOpacity = 0.38;
-
 constexpr const char* kSets[] = {"simple", "high", "xp"};
-
-// The sixteen classic colours that vanish or glare on a dark ground, and what stands there for them.
-constexpr std::pair<const char*, const char*> kOnDark[] = {
-    {"#ffffff", "#4a4642"}, {"#000080", "#8fc1ff"}, {"#008000", "#6fd36f"}, {"#800000", "#ff9a8f"},
-    {"#008080", "#43b8b8"}, {"#808000", "#c9b35a"}, {"#c0c0c0", "#7d766f"}, {"#ffff00", "#ffe38a"},
-    {"#00ffff", "#8fe8e8"}, {"#00ff00", "#5fae5f"}, {"#ff0000", "#ff6b5e"}};
-
-QByteArray ReadSvg(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-// Whether a drawing is in the classic colours, or in colours that hold on light and dark ground alike.
-enum class Ink { Classic, AsDrawn };
-
-// The drawing in the colours of a palette: outlines take the text's colour.
-QByteArray Recolored(QByteArray svg, const QPalette& palette, Ink ink) {
-    const QColor outline = palette.color(QPalette::Active, QPalette::ButtonText);
-    if (ink == Ink::Classic && IsDark(palette))
-        for (const auto& [light, dark] : kOnDark) svg.replace(light, dark);
-    return svg.replace("currentColor", outline.name().toLatin1());
-}
-
-class SvgIconEngine final : public QIconEngine {
-  public:
-    SvgIconEngine(QString path, Ink ink) : path_(std::move(path)), ink_(ink) {}
-
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
-        if (mode != QIcon::Disabled) {
-            Render(*painter, rect);
-            return;
-        }
-        // Greyed as a whole, so that no part shines through another.
-        const double scale = painter->device()->devicePixelRatioF();
-        QImage picture(rect.size() * scale, QImage::Format_ARGB32_Premultiplied);
-        picture.setDevicePixelRatio(scale);
-        picture.fill(Qt::transparent);
-        QPainter whole(&picture);
-        Render(whole, QRect(QPoint(), rect.size()));
-        whole.end();
-        const double opacity = painter->opacity();
-        painter->setOpacity(opacity * kDisabledOpacity);
-        painter->drawImage(rect, picture);
-        painter->setOpacity(opacity);
-    }
-
-    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        const QString key = QStringLiteral("%1|%2x%3|%4|%5")
-                                .arg(path_)
-                                .arg(size.width())
-                                .arg(size.height())
-                                .arg(mode == QIcon::Disabled)
-                                .arg(QApplication::palette().color(QPalette::ButtonText).rgb());
-        QPixmap picture;
-        if (QPixmapCache::find(key, &picture)) return picture;
-        picture = QPixmap(size);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        paint(&painter, QRect(QPoint(), size), mode, state);
-        painter.end();
-        QPixmapCache::insert(key, picture);
-        return picture;
-    }
-
-    QIconEngine* clone() const override { return new SvgIconEngine(*this); }
-
-  private:
-    void Render(QPainter& painter, const QRect& rect) const {
-        QSvgRenderer(Recolored(ReadSvg(path_), QApplication::palette(), ink_)).render(&painter, rect);
-    }
-
-    QString path_;
-    Ink ink_;
-};
-
-QIcon IconOf(const QString& path, Ink ink) {
-    RegisterIcons();
-    return QFile::exists(path) ? QIcon(new SvgIconEngine(path, ink)) : QIcon();
-}
 
 }  // namespace
 
@@ -109,12 +16,12 @@ QIcon ToolIcon(std::string_view image, int iconStyle) {
     constexpr std::string_view kTwin = "Transparent";
     if (image.ends_with(kTwin)) image.remove_suffix(kTwin.size());
     const int set = iconStyle == 0 || iconStyle == 1 ? iconStyle : 2;
-    return IconOf(QStringLiteral(":/icons/%1/%2.svg").arg(QLatin1String(kSets[set]), ToQt(image)),
-                  set == 0 ? Ink::Classic : Ink::AsDrawn);
+    return SvgIcon(QStringLiteral(":/icons/%1/%2.svg").arg(QLatin1String(kSets[set]), ToQt(image)),
+                   set == 0 ? SvgInk::Classic : SvgInk::AsDrawn);
 }
 
 QIcon ProgramIcon() {
-    return IconOf(QStringLiteral(":/icons/tunwright.svg"), Ink::Classic);
+    return SvgIcon(QStringLiteral(":/icons/tunwright.svg"), SvgInk::Classic);
 }
 
 }  // namespace tw

@@ -251,10 +251,6 @@ void frmMain::FocusAfter(std::string_view command) {
     if (window && command == "mnuEditInsert") window->FocusRow();
 }
 
-bool frmMain::CanRun(std::string_view name) const {
-    return shell_.Bar().FindItem(name) != nullptr;
-}
-
 void frmMain::ShowEditMenu(const QPoint& globalPosition) {
     menus_->Menu(QStringLiteral("mnuEdit"))->popup(globalPosition);
 }

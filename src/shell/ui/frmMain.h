@@ -30,7 +30,6 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
 
     // DocumentFrame
     bool RunCommand(std::string_view name) override;
-    bool CanRun(std::string_view name) const override;
     void ShowEditMenu(const QPoint& globalPosition) override;
     GridColors Colors() const override;
 

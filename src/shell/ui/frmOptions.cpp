@@ -14,6 +14,7 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/Appearance.h"
+#include "platform/qt/FocusMoves.h"
 #include "platform/qt/QtText.h"
 #include "shell/ui/ColorButton.h"
 #include "shell/ui/StoredColor.h"
@@ -23,12 +24,6 @@ namespace tw {
 namespace {
 
 constexpr int kAppearanceTab = 2;
-
-// A menu, or another program in front, is neither entering a field nor leaving it.
-bool IsMove(const QFocusEvent& event) {
-    return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason &&
-           event.reason() != Qt::ActiveWindowFocusReason;
-}
 
 }  // namespace
 

@@ -1,4 +1,4 @@
-#include "document/ui/GridHeader.h"
+#include "platform/qt/GridHeader.h"
 
 #include <QPainter>
 #include <cmath>

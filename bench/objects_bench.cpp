@@ -1,0 +1,166 @@
+// Deleting a folder of 10,000 recipes with the tree's entries, beside the same statements run by SQLite alone
+// in one transaction in the same run, with the same locks, journal and syncs. The argument is the number of
+// recipes elsewhere. The counter "x_limit" is the ratio of the medians. The files are made in the present
+// folder: run it on the disk that is to be measured.
+#include <algorithm>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <filesystem>
+#include <memory>
+#include <sqlite3.h>
+#include <string>
+#include <vector>
+
+#include "store/DB_IO.h"
+#include "store/Schema.h"
+#include "store/SqlDialect.h"
+#include "store/SqliteHandle.h"
+#include "tree/TreeObjects.h"
+#include "values/NumberText.h"
+
+namespace {
+
+using namespace tw;
+using Clock = std::chrono::steady_clock;
+
+constexpr int kInFolder = 10000;
+constexpr int kStyles = 20;
+constexpr std::int64_t kFolder = 1;
+const std::string kMadeFile = "objects_bench.mdb";
+const std::string kStoreFile = "objects_bench_a.mdb";
+const std::string kRawFile = "objects_bench_b.mdb";
+
+class FixedClock : public ClockPort {
+  public:
+    DateTime Now() override { return {2024, 2, 28, 18, 30, 0}; }
+};
+
+class NoMessages : public MessagePort {
+  public:
+    void ShowMessage(std::string_view, std::string_view) override {}
+    Answer Ask(std::string_view, std::string_view, Question) override { return Answer::No; }
+    void Beep() override {}
+};
+
+class NoListener : public ObjectListener {
+  public:
+    void NotifyRecipeMoved(const std::string&, std::int64_t) override {}
+    void NotifyRecipeNewStyle(const std::string&, std::int64_t) override {}
+    void NotifyRecipeRenamed(const std::string&, const std::string&) override {}
+    void NotifyStyleRenamed(std::int64_t, const std::string&) override {}
+    void NotifyRecipeDeleted(const std::string&) override {}
+    void NotifyRecipeFolderDeleted(std::int64_t) override {}
+    void NotifyStyleDeleted(std::int64_t) override {}
+};
+
+template <typename Action>
+double Seconds(Action action) {
+    const auto start = Clock::now();
+    action();
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+double Median(std::vector<double> times) {
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+void Remove(const std::string& file) {
+    for (const std::string end : {"", "-journal"}) std::filesystem::remove(file + end);
+}
+
+void CopyMade(const std::string& file) {
+    Remove(file);
+    std::filesystem::copy_file(kMadeFile, file);
+}
+
+// Recipes of four lines each. Those of the folder stand between the others, by their names.
+void MakeFile(int elsewhere) {
+    Remove(kMadeFile);
+    const auto database = Database::CreateDatabase(kMadeFile, "");
+    CreateSchema(*database);
+    UnitOfWork unit(*database);
+    for (const std::string name : {"Going", "Staying"})
+        database->Execute("INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE) VALUES (0, '" + name + "', FALSE)");
+    for (int i = 0; i < kStyles; ++i)
+        database->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Style " + std::to_string(i) +
+                          "', 0)");
+    const int recipes = kInFolder + elsewhere;
+    for (int i = 0; i < recipes; ++i) {
+        const std::string number = std::to_string(i);
+        const bool goes = static_cast<std::int64_t>(i) * kInFolder % recipes < kInFolder;
+        database->Execute("INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES ('Copper Lantern " +
+                          number + "', " + std::to_string(i % (kStyles + 1)) + (goes ? ", 1)" : ", 2)"));
+        const std::string id = std::to_string(i + 1);
+        for (const std::string table : {"RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_ADJUNCTS", "RECIPE_LOG"})
+            database->Execute("INSERT INTO " + table + " (RECIPE_ID, ROW_ID) VALUES (" + id + ", 0)");
+    }
+    unit.Commit();
+}
+
+// The store's database, its tree, and what deletes in both.
+struct Bed {
+    explicit Bed(const std::string& file) : database(OpenMainDatabase(file)) { tree.InitFromDatabase(); }
+    std::unique_ptr<Database> database;
+    TWTree tree{database.get()};
+    TreeObjects treeObjects{tree};
+    NoMessages messages;
+    FixedClock clock;
+    NoListener listener;
+    DB_IO objects{*database, treeObjects, messages, clock, listener};
+};
+
+// The statements of the deletion as SQLite takes them.
+std::vector<std::string> Statements() {
+    CopyMade(kStoreFile);
+    Bed bed(kStoreFile);
+    std::vector<std::string> statements;
+    bed.database->SetStatementHook([&](std::string_view sql) {
+        DialectStatement statement = TranslateSql(sql);
+        for (const double number : statement.numbers)
+            statement.sql.replace(statement.sql.find('?'), 1, NumberText(number));
+        statements.push_back(statement.sql);
+    });
+    bed.objects.DeleteRecipeFolder(kFolder);
+    return statements;
+}
+
+void RunRaw(sqlite3* handle, const std::vector<std::string>& statements) {
+    RunNative(handle, "BEGIN IMMEDIATE");
+    for (const std::string& sql : statements) {
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(handle, sql.c_str(), static_cast<int>(sql.size() + 1), &statement, nullptr) !=
+            SQLITE_OK)
+            RaiseStoreError(handle, kDatabaseSource);
+        while (sqlite3_step(statement) == SQLITE_ROW)
+            benchmark::DoNotOptimize(sqlite3_column_int64(statement, 0));
+        if (sqlite3_finalize(statement) != SQLITE_OK) RaiseStoreError(handle, kDatabaseSource);
+    }
+    RunNative(handle, "COMMIT");
+}
+
+// The two ways in turn, so that a slow spell of the disk meets both.
+void BM_DeleteFolder(benchmark::State& state) {
+    MakeFile(static_cast<int>(state.range(0)));
+    const std::vector<std::string> statements = Statements();
+    std::vector<double> storeTimes;
+    std::vector<double> rawTimes;
+    for (auto _ : state) {
+        CopyMade(kStoreFile);
+        CopyMade(kRawFile);
+        {
+            Bed bed(kStoreFile);
+            storeTimes.push_back(Seconds([&] { bed.objects.DeleteRecipeFolder(kFolder); }));
+        }
+        const SqliteHandle raw = OpenDatabaseFile(kRawFile, true);
+        rawTimes.push_back(Seconds([&] { RunRaw(raw.get(), statements); }));
+        state.SetIterationTime(storeTimes.back());
+    }
+    state.counters["raw_ms"] = Median(rawTimes) * 1e3;
+    state.counters["store_ms"] = Median(storeTimes) * 1e3;
+    state.counters["x_limit"] = Median(storeTimes) / Median(rawTimes);
+    for (const std::string& file : {kMadeFile, kStoreFile, kRawFile}) Remove(file);
+}
+BENCHMARK(BM_DeleteFolder)->Arg(0)->Arg(90000)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace

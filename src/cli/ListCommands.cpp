@@ -1,0 +1,117 @@
+// Commands on the lists of the windows: what stands in a folder, the catalogues, and the picker.
+#include <string>
+#include <vector>
+
+#include "cli/Command.h"
+#include "cli/ScriptFormat.h"
+#include "tree/LvShowModel.h"
+#include "tree/lvFiller.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+// "COLUMN; COLUMN...": the places of those columns, of all without any. Raises ScriptError for an unknown
+// one.
+std::vector<int> TakeColumns(const ListTable& list, std::string_view titles) {
+    std::vector<int> columns;
+    if (IsBlank(titles)) {
+        for (int col = 0; col < static_cast<int>(list.Columns().size()); ++col) columns.push_back(col);
+        return columns;
+    }
+    for (bool more = true; more;) {
+        const std::size_t end = titles.find(';');
+        const std::string_view title = Trim(titles.substr(0, end));
+        const int column = list.ColumnOf(title);
+        if (column < 0) throw ScriptError("the list has no column '" + std::string(title) + "'");
+        columns.push_back(column);
+        more = end != std::string_view::npos;
+        if (more) titles.remove_prefix(end + 1);
+    }
+    return columns;
+}
+
+void PrintList(Session& session, const ListTable& list, std::string_view titles) {
+    const std::vector<int> columns = TakeColumns(list, titles);
+    std::string line;
+    const auto print = [&](auto textOf) {
+        line.clear();
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            line.append(i > 0 ? "\t" : "").append(EscapeText(textOf(static_cast<std::size_t>(columns[i]))));
+        session.Out().Line(line);
+    };
+    print([&](std::size_t col) { return std::string_view(list.Columns()[col].title); });
+    for (const ListRow& row : list.Rows())
+        print([&](std::size_t col) { return std::string_view(row.cells[col]); });
+}
+
+lvFiller FillerOf(Session& session) {
+    Shell& program = session.Program();
+    return {*program.DB(), program.Tree()};
+}
+
+void List(Session& session, Arguments& arguments) {
+    const std::string key = arguments.Word("KEY");
+    const std::string columns = arguments.Text();
+    if (!session.Program().Tree().NodeExists(key))
+        throw ScriptError("there is no entry '" + key + "' in the tree");
+    ListTable list;
+    lvFiller::SetUpExplorerColumns(list);
+    FillerOf(session).FillByKey(list, key, true);
+    PrintList(session, list, columns);
+}
+
+Catalogue TakeCatalogue(Arguments& arguments) {
+    const std::string first = arguments.Word("WORD");
+    for (int i = 0; i < kCatalogues; ++i) {
+        const auto catalogue = static_cast<Catalogue>(i);
+        const std::string_view word = WordOf(catalogue);
+        if (word == first) return catalogue;
+        const std::size_t blank = word.find(' ');
+        if (blank != std::string_view::npos && word.substr(0, blank) == first &&
+            arguments.TakeWord(word.substr(blank + 1)))
+            return catalogue;
+    }
+    throw ScriptError("'" + first + "' begins the name of no catalogue");
+}
+
+void PrintCatalogue(Session& session, Arguments& arguments) {
+    const Catalogue catalogue = TakeCatalogue(arguments);
+    const std::string columns = arguments.Text();
+    ListTable list;
+    FillerOf(session).Fill(list, catalogue);
+    PrintList(session, list, columns);
+}
+
+void PickFrom(Session& session, Arguments& arguments) {
+    const auto type = static_cast<PickList>(arguments.Integer("TYPE", 0, kPickLists - 1));
+    const std::string name = arguments.Word("NAME");
+    const std::string button = arguments.Word("BUTTON");
+    arguments.End();
+    RecipeDocument& document = session.Document();
+    session.Dialogs().AnswerNextWith([&](DialogModel& dialog) {
+        auto& picker = dynamic_cast<LvShowModel&>(dialog);
+        session.Out().Text(picker.Items().SelectedText());
+        const bool isOff =
+            (button == "cmdOK" && !picker.OkEnabled()) || (button == "cmdView" && !picker.ViewEnabled());
+        if (isOff) return session.Out().Line("off");
+        if (button == "Close") return picker.CloseBox();
+        if (!picker.Press(button)) throw ScriptError("the picker has no button '" + button + "'");
+    });
+    session.Program().PickFromCatalogue(document, type, name);
+}
+
+constexpr Command kCommands[] = {
+    {"list", "KEY [COLUMN; COLUMN...]", "what stands directly below an entry of the tree, as a list", List},
+    {"catalogue", "WORD [COLUMN; COLUMN...]", "a catalogue as a list, by its word", PrintCatalogue},
+    {"pickfrom", "TYPE \"NAME\" BUTTON", "the picker of a catalogue (0 to 7): its choice goes to the recipe",
+     PickFrom},
+};
+
+}  // namespace
+
+std::span<const Command> CommandsOnLists() {
+    return kCommands;
+}
+
+}  // namespace tw

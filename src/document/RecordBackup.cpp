@@ -1,0 +1,29 @@
+#include "document/RecordBackup.h"
+
+namespace tw {
+
+RecordBackup::RecordBackup(const RecipeRecord& record) : swatch_(record.Swatch()) {
+    for (const TextBox* box : record.TextBoxes())
+        boxes_.push_back({box->Text(), box->Committed(), box->Value()});
+    for (const Grid* grid : record.Grids())
+        for (int row = 0; row < grid->Rows(); ++row) rows_.push_back(grid->CellsOf(row));
+    for (const Button* button : record.Buttons()) buttons_.push_back(button->Enabled());
+}
+
+void RecordBackup::Restore(RecipeRecord& record) const {
+    auto box = boxes_.begin();
+    for (TextBox* const target : record.TextBoxes()) {
+        target->SetText(box->text);
+        target->SetCommitted(box->committed);
+        target->SetValue(box->value);
+        ++box;
+    }
+    auto row = rows_.begin();
+    for (Grid* const grid : record.Grids())
+        for (int i = 0; i < grid->Rows(); ++i) grid->RestoreCells(i, *row++);
+    auto enabled = buttons_.begin();
+    for (Button* const button : record.Buttons()) button->SetEnabled(*enabled++);
+    record.SetSwatch(swatch_);
+}
+
+}  // namespace tw

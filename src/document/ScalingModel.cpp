@@ -1,0 +1,175 @@
+#include "document/ScalingModel.h"
+
+#include <array>
+
+#include "document/RecipeDocument.h"
+#include "platform/Error.h"
+#include "values/ParserValidater.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+struct Form {
+    std::string_view name, label, box;
+    bool scalesBoilVol, preservesIBU;
+};
+
+constexpr std::array<Form, 4> kForms{{{"frmResizeRecipe", "lblCurSize", "txtNewSize", true, true},
+                                      {"frmChangeOG", "lblCurOG", "txtNewOG", false, true},
+                                      {"frmChangeIBU", "lblCurIBU", "txtNewIBU", false, false},
+                                      {"frmChangeCO2", "lblCurCO2", "txtNewCO2", false, false}}};
+
+const Form& FormOf(Scaling what) {
+    return kForms[static_cast<std::size_t>(what)];
+}
+
+constexpr std::string_view kScaleBoilVol = "chkScaleBV";
+constexpr std::string_view kPreserveIBU = "chkPreserveIBU";
+
+std::string YesNo(bool yes) {
+    return yes ? "yes" : "no";
+}
+
+}  // namespace
+
+ScalingModel::ScalingModel(Scaling what, std::string current, MessagePort& messages)
+    : what_(what), current_(std::move(current)), messages_(messages) {}
+
+std::string_view ScalingModel::LabelName() const {
+    return FormOf(what_).label;
+}
+
+std::string_view ScalingModel::BoxName() const {
+    return FormOf(what_).box;
+}
+
+std::string ScalingModel::FormName() const {
+    return std::string(FormOf(what_).name);
+}
+
+std::vector<DialogControl> ScalingModel::Controls() const {
+    const Form& form = FormOf(what_);
+    std::vector<DialogControl> controls{{std::string(form.label), current_}, {std::string(form.box), entry_}};
+    if (form.scalesBoilVol) controls.push_back({std::string(kScaleBoilVol), YesNo(scaleBoilVol_)});
+    if (form.preservesIBU) controls.push_back({std::string(kPreserveIBU), YesNo(preserveIBU_)});
+    return controls;
+}
+
+bool* ScalingModel::CheckNamed(std::string_view name) {
+    const Form& form = FormOf(what_);
+    if (form.scalesBoilVol && name == kScaleBoilVol) return &scaleBoilVol_;
+    if (form.preservesIBU && name == kPreserveIBU) return &preserveIBU_;
+    return nullptr;
+}
+
+bool ScalingModel::SetControl(std::string_view name, std::string_view text) {
+    if (name == BoxName()) {
+        entry_ = text;
+        return true;
+    }
+    bool* const check = CheckNamed(name);
+    if (!check || (text != "yes" && text != "no")) return false;
+    LeaveBox();
+    *check = text == "yes";
+    return true;
+}
+
+bool ScalingModel::LeaveBox() {
+    return entry_ == goodText_ || Check();
+}
+
+bool ScalingModel::Check() {
+    double value = 0;
+    bool accepted = false;
+    try {
+        accepted = Accepts(value);
+    } catch (const Error& error) {
+        messages_.ShowMessage("Error", error.WithNumber());
+    }
+    if (accepted) {
+        value_ = value;
+        goodText_ = entry_;
+    } else {
+        entry_ = goodText_;
+    }
+    return accepted;
+}
+
+bool ScalingModel::Accepts(double& value) {
+    switch (what_) {
+        case Scaling::Size:
+            return ValidateVolume(entry_, value, &messages_);
+        case Scaling::Strength:
+            return ValidateGravity(entry_, value, &messages_) &&
+                   (value >= 1 || Refuse("Gravity cannot be less than 1.0 (0 deg. Plato)"));
+        case Scaling::Bitterness: {
+            const bool understood = ParseIBU(entry_, value);
+            return AcceptsNumber(understood, value, "IBU");
+        }
+        case Scaling::Carbonation:
+            break;
+    }
+    const bool understood = ParseCO2Volumes(entry_, value);
+    return AcceptsNumber(understood, value, "carbonation");
+}
+
+bool ScalingModel::AcceptsNumber(bool understood, double value, std::string_view kind) {
+    if (!understood) return Refuse("Please enter a valid " + std::string(kind) + " value");
+    return value >= 0 || Refuse("Please enter a positive " + std::string(kind) + " value");
+}
+
+bool ScalingModel::Refuse(std::string_view message) {
+    messages_.ShowMessage(kInvalidEntry, message);
+    return false;
+}
+
+bool ScalingModel::Press(std::string_view button) {
+    if (button == "OKButton")
+        Ok();
+    else if (button == "CancelButton")
+        CloseBox();
+    else
+        return false;
+    return true;
+}
+
+void ScalingModel::Ok() {
+    // Blanks alone are no figure to scale to either.
+    if (IsBlank(entry_) || !Check()) return;
+    cancelled_ = false;
+    open_ = false;
+}
+
+std::optional<std::string> CurrentFigure(const RecipeDocument& document, Scaling what) {
+    const RecipeRecord& r = document.Record();
+    if (what == Scaling::Carbonation) {
+        if (!document.CanEnableCO2()) return std::nullopt;
+        return r.txtCO2.Empty() ? "0 volumes" : r.txtCO2.Text();
+    }
+    const TextBox& box = what == Scaling::Size       ? r.txtTotalVol
+                         : what == Scaling::Strength ? r.txtOG
+                                                     : r.txtIBU;
+    if (box.Empty()) return std::nullopt;
+    return box.Text();
+}
+
+void Scale(RecipeDocument& document, const ScalingModel& dialog) {
+    switch (dialog.What()) {
+        case Scaling::Size:
+            document.ScaleRecipe(dialog.NewValue(), dialog.NewText(), dialog.ScaleBoilVol(),
+                                 dialog.PreserveIBU());
+            break;
+        case Scaling::Strength:
+            document.ScaleOG(dialog.NewValue(), dialog.PreserveIBU());
+            break;
+        case Scaling::Bitterness:
+            document.ScaleIBU(dialog.NewValue());
+            break;
+        case Scaling::Carbonation:
+            document.ScaleCO2(dialog.NewValue(), false);
+            break;
+    }
+}
+
+}  // namespace tw

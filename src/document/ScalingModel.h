@@ -1,0 +1,79 @@
+// The dialogs of the changes that no undo takes back: frmResizeRecipe, frmChangeOG, frmChangeIBU,
+// frmChangeCO2. Each shows the present figure and takes the new one.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/DialogModel.h"
+#include "platform/Ports.h"
+
+namespace tw {
+
+class RecipeDocument;
+
+// What a recipe can be scaled to.
+enum class Scaling { Size, Strength, Bitterness, Carbonation };
+
+class ScalingModel final : public DialogModel {
+  public:
+    // current: the present figure as the recipe shows it. messages must outlive the dialog.
+    ScalingModel(Scaling what, std::string current, MessagePort& messages);
+
+    Scaling What() const { return what_; }
+    const std::string& Current() const { return current_; }
+    // The names of the label with the present figure and of the entry box, such as "lblCurSize".
+    std::string_view LabelName() const;
+    std::string_view BoxName() const;
+    // What the entry box shows.
+    const std::string& Entry() const { return entry_; }
+    // The box loses the focus. A bad entry has had its message: the last good text stands there again, and
+    // the focus goes back; false then. A text that was found good before is not looked at again.
+    bool LeaveBox();
+
+    // True until OKButton has accepted the entry. The results below stand then.
+    bool Cancelled() const { return cancelled_; }
+    // In the canonical unit of its kind: gallons, specific gravity, IBUs, volumes.
+    double NewValue() const { return value_; }
+    const std::string& NewText() const { return goodText_; }
+    bool ScaleBoilVol() const { return scaleBoilVol_; }
+    bool PreserveIBU() const { return preserveIBU_; }
+
+    std::string FormName() const override;
+    // Label, entry box, check boxes.
+    std::vector<DialogControl> Controls() const override;
+    // Entering a check box leaves the entry box.
+    bool SetControl(std::string_view name, std::string_view text) override;
+    // OKButton stays open while the box is empty and for a bad entry; CancelButton.
+    bool Press(std::string_view button) override;
+    void CloseBox() override { open_ = false; }
+    bool IsOpen() const override { return open_; }
+
+  private:
+    bool* CheckNamed(std::string_view name);
+    bool Check();
+    bool Accepts(double& value);
+    bool AcceptsNumber(bool understood, double value, std::string_view kind);
+    bool Refuse(std::string_view message);
+    void Ok();
+
+    Scaling what_;
+    std::string current_;
+    MessagePort& messages_;
+    std::string entry_;
+    std::string goodText_;
+    double value_ = 0;
+    bool scaleBoilVol_ = false;
+    bool preserveIBU_ = false;
+    bool cancelled_ = true;
+    bool open_ = true;
+};
+
+// The figure that a scaling starts from, as text; nothing while the recipe has none.
+std::optional<std::string> CurrentFigure(const RecipeDocument& document, Scaling what);
+// Scales as the dialog says. REQUIRES: it was not cancelled.
+void Scale(RecipeDocument& document, const ScalingModel& dialog);
+
+}  // namespace tw

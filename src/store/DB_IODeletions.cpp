@@ -1,0 +1,107 @@
+// Deleting objects with all that hangs on them.
+#include <unordered_set>
+
+#include "store/DB_IO.h"
+#include "store/ObjectKeys.h"
+#include "values/Text.h"
+
+namespace tw {
+
+void DB_IO::RunDeletion(const std::function<void()>& deletion) {
+    try {
+        UnitOfWork unit(database_);
+        deletion();
+        unit.Commit();
+    } catch (const Error&) {
+        tree_.Reload();
+        listener_.DeletionEnded();
+        throw;
+    }
+    listener_.DeletionEnded();
+}
+
+void DB_IO::DeleteRecipeFolder(std::int64_t id) {
+    if (id > 0 && IsFolder(FolderKind::Recipes, id))
+        RunDeletion([&] { DeleteFolder(FolderKind::Recipes, id); });
+}
+
+void DB_IO::DeleteStyleFolder(std::int64_t id) {
+    if (id > 0 && IsFolder(FolderKind::Styles, id))
+        RunDeletion([&] { DeleteFolder(FolderKind::Styles, id); });
+}
+
+// Depth first, with a list instead of a recursion: how deep folders lie in each other is up to the data.
+void DB_IO::DeleteFolder(FolderKind kind, std::int64_t id) {
+    struct Level {
+        std::int64_t id;
+        std::vector<std::int64_t> folders;
+        std::size_t next;
+    };
+    // Of folders that have come to lie in a ring, each goes once.
+    std::unordered_set<std::int64_t> seen = {id};
+    const auto open = [&](std::int64_t folder) -> Level {
+        return {folder,
+                Ids("SELECT ID FROM FOLDERS WHERE " + Condition(kind) +
+                    " AND PARENT_ID = " + std::to_string(folder)),
+                0};
+    };
+    std::vector<Level> levels = {open(id)};
+    while (!levels.empty()) {
+        Level& level = levels.back();
+        if (level.next == level.folders.size()) {
+            DeleteEmptied(kind, level.id);
+            levels.pop_back();
+        } else if (const std::int64_t folder = level.folders[level.next++]; seen.insert(folder).second) {
+            levels.push_back(open(folder));
+        }
+    }
+}
+
+void DB_IO::DeleteEmptied(FolderKind kind, std::int64_t id) {
+    const std::string idText = std::to_string(id);
+    const bool forStyles = kind == FolderKind::Styles;
+    for (const std::int64_t object : Ids(std::string("SELECT ID FROM ") + (forStyles ? "STYLES" : "RECIPES") +
+                                         " WHERE FOLDER_ID = " + idText)) {
+        if (forStyles)
+            DeleteStyle(object);
+        else
+            DeleteRecipe(object, RecipeName(object).value_or(""));
+    }
+    database_.Execute("DELETE FROM FOLDERS WHERE " + Condition(kind) + " AND ID = " + idText);
+    tree_.Remove(FolderKey(kind, id));
+    if (!forStyles) listener_.NotifyRecipeFolderDeleted(id);
+}
+
+void DB_IO::DeleteRecipeById(std::int64_t id) {
+    const std::optional<std::string> name = RecipeName(id);
+    if (name) RunDeletion([&] { DeleteRecipe(id, *name); });
+}
+
+void DB_IO::DeleteRecipeByName(std::string_view name) {
+    DeleteRecipeById(IdByName(Trim(name), "RECIPES"));
+}
+
+void DB_IO::DeleteRecipe(std::int64_t id, const std::string& name) {
+    const std::string idText = std::to_string(id);
+    database_.Execute("DELETE FROM RECIPES WHERE ID = " + idText);
+    database_.Execute("DELETE FROM RECIPE_GRAINS WHERE RECIPE_ID = " + idText);
+    database_.Execute("DELETE FROM RECIPE_HOPS WHERE RECIPE_ID = " + idText);
+    database_.Execute("DELETE FROM RECIPE_ADJUNCTS WHERE RECIPE_ID = " + idText);
+    database_.Execute("DELETE FROM RECIPE_LOG WHERE RECIPE_ID = " + idText);
+    for (int copy = 0; copy < kRecipeCopies; ++copy) tree_.Remove(RecipeKey(id, copy));
+    listener_.NotifyRecipeDeleted(name);
+}
+
+void DB_IO::DeleteStyleById(std::int64_t id) {
+    if (StyleName(id)) RunDeletion([&] { DeleteStyle(id); });
+}
+
+void DB_IO::DeleteStyle(std::int64_t id) {
+    for (const std::int64_t recipe : RecipesOfStyle(id))
+        ChangeStyle(recipe, RecipeName(recipe).value_or(""), 0);
+    database_.Execute("DELETE FROM STYLES WHERE ID = " + std::to_string(id));
+    for (int copy = 0; copy < kStyleCopies; ++copy) tree_.Remove(StyleKey(id, copy));
+    listener_.NotifyStyleDeleted(id);
+}
+
+}  // namespace tw

@@ -1,0 +1,73 @@
+// The colour scales (frmColor): a picture of beer colours from pale straw to black with labelled marks, to
+// read a figure as a colour.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "calc/BeerColor.h"
+#include "platform/DialogModel.h"
+
+namespace tw {
+
+// The options of optScale.
+enum class ColorScale : int { Srm, Hcu, Both };
+inline constexpr int kColorScales = 3;
+// "SRM Scale", "HCU Scale", "Both Scales".
+std::string_view ScaleName(ColorScale scale);
+
+// One label along the picture.
+struct ScaleMark {
+    double fraction;  // of the picture's length
+    int value;
+};
+// A column of labels beside the picture; its first mark is the picture's start.
+struct ScaleColumn {
+    std::string_view caption;
+    std::span<const ScaleMark> marks;
+};
+ScaleColumn LeftColumn(ColorScale scale);
+ScaleColumn RightColumn(ColorScale scale);
+
+// Homebrew colour units at a fraction of the picture, 0 to 1: what the left column's marks say there. The
+// picture has the colour of that figure, so that a mark stands beside its own colour in every scale.
+double ScaleHcu(ColorScale scale, double fraction);
+// An HCU figure as recipes show it: "12 SRM (21 HCU)", ">50 SRM (250 HCU)".
+std::string ColorReading(double hcu);
+
+class ColorScaleModel final : public DialogModel {
+  public:
+    // Steps of the pointer along the picture.
+    static constexpr int kPointerEnd = 100;
+
+    ColorScale Scale() const { return scale_; }
+    // The pointer keeps its place.
+    void Choose(ColorScale scale) { scale_ = scale; }
+
+    // The pointer that the window reads the picture with.
+    int Pointer() const { return pointer_; }
+    // Clamped to the picture's ends.
+    void MovePointer(int step);
+    // The figure under the pointer.
+    double PointerHcu() const;
+
+    std::string FormName() const override { return "frmColor"; }
+    // optScale(0) to (2), the members of lblVal that are shown, those of the left column from 0, those of
+    // the right one from 12, and Label1(0) and (1).
+    std::vector<DialogControl> Controls() const override;
+    // An option takes "yes".
+    bool SetControl(std::string_view name, std::string_view text) override;
+    // cmdClose.
+    bool Press(std::string_view button) override;
+    void CloseBox() override { open_ = false; }
+    bool IsOpen() const override { return open_; }
+
+  private:
+    ColorScale scale_ = ColorScale::Srm;
+    int pointer_ = 0;
+    bool open_ = true;
+};
+
+}  // namespace tw

@@ -1,0 +1,121 @@
+#include "tools/ConvertUnitsModel.h"
+
+#include "platform/Error.h"
+#include "tools/FlagGuard.h"
+#include "values/NumberText.h"
+#include "values/ParserValidater.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+constexpr int kDecimals = 6;
+
+std::string BoxName(int box) {
+    return "Text" + std::to_string(box + 1);
+}
+
+// A number with an optional fraction; what stands behind is not looked at.
+bool ReadQuantity(std::string_view text, double& value) {
+    std::string_view rest = Trim(text);
+    const std::string_view token = GetToken(rest);
+    return ParseMixedNumber(token, rest, value);
+}
+
+bool IsNumber(std::string_view text) {
+    double ignored = 0;
+    try {
+        return ReadQuantity(text, ignored);
+    } catch (const Error&) {
+        return true;
+    }
+}
+
+}  // namespace
+
+std::optional<QuantityKind> FindKind(std::string_view name) {
+    for (int i = 0; i < kQuantityKinds; ++i)
+        if (SameName(KindName(static_cast<QuantityKind>(i)), name)) return static_cast<QuantityKind>(i);
+    return std::nullopt;
+}
+
+void ConvertUnitsModel::SetKind(QuantityKind kind) {
+    if (kind == kind_) return;
+    kind_ = kind;
+    texts_.fill({});
+}
+
+bool ConvertUnitsModel::ConvertFromBox(int box) {
+    if (converting_) return true;
+    const FlagGuard guard(converting_);
+    const std::string& text = Text(box);
+    try {
+        double value = 0;
+        if (IsBlank(text)) {
+            EmptyOthers(box);
+        } else if (ReadQuantity(text, value)) {
+            FillOthers(box, value);
+        } else {
+            messages_.ShowMessage("Error", "Invalid numeric value!");
+            return false;
+        }
+    } catch (const Error&) {
+        // A zero denominator, or a figure beyond all bounds: the operation ends here without a word.
+    }
+    return true;
+}
+
+bool ConvertUnitsModel::Enter(int box, std::string_view text) {
+    texts_[static_cast<std::size_t>(box)] = text;
+    return ConvertFromBox(box);
+}
+
+void ConvertUnitsModel::TypeInto(int box, std::string_view text) {
+    if (!IsBlank(text) && !IsNumber(text) && IsNumber(std::string(Trim(text)) + '1'))
+        texts_[static_cast<std::size_t>(box)] = text;
+    else
+        Enter(box, text);
+}
+
+void ConvertUnitsModel::EmptyOthers(int box) {
+    for (int other = 0; other < BoxCount(); ++other)
+        if (other != box) texts_[static_cast<std::size_t>(other)].clear();
+}
+
+void ConvertUnitsModel::FillOthers(int box, double value) {
+    // All of them before the first is written, so that a failure leaves no mixture.
+    std::vector<double> values = ConvertToAllUnits(kind_, box, value);
+    for (int other = 0; other < BoxCount(); ++other) {
+        const auto at = static_cast<std::size_t>(other);
+        if (other != box) texts_[at] = FormatQuantity(values[at], kDecimals);
+    }
+}
+
+std::vector<DialogControl> ConvertUnitsModel::Controls() const {
+    std::vector<DialogControl> controls{{"cmbType", std::string(KindName(kind_))},
+                                        {"labelType", "Unit Type"}};
+    for (int box = 0; box < BoxCount(); ++box) controls.push_back({BoxName(box), Text(box)});
+    return controls;
+}
+
+bool ConvertUnitsModel::SetControl(std::string_view name, std::string_view text) {
+    if (name == "cmbType") {
+        const std::optional<QuantityKind> kind = FindKind(text);
+        if (kind) SetKind(*kind);
+        return kind.has_value();
+    }
+    for (int box = 0; box < BoxCount(); ++box) {
+        if (name != BoxName(box)) continue;
+        Enter(box, text);
+        return true;
+    }
+    return false;
+}
+
+bool ConvertUnitsModel::Press(std::string_view button) {
+    if (button != "cmdClose") return false;
+    open_ = false;
+    return true;
+}
+
+}  // namespace tw

@@ -1,0 +1,71 @@
+#include "tools/HopUtilModel.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "platform/Error.h"
+#include "values/NumberText.h"
+
+namespace tw {
+namespace {
+
+constexpr double kHeaviest = 1.25;
+
+// The number that a text is as a whole; nothing for another text.
+std::optional<double> NumberOf(std::string_view text) {
+    double value = 0;
+    try {
+        if (ReadNumber(text, value)) return value;
+    } catch (const Error&) {
+        // Digits beyond all bounds are no gravity either.
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+HopUtilModel::HopUtilModel(const std::optional<std::string>& boilGravity) {
+    const std::optional<double> gravity = boilGravity ? NumberOf(*boilGravity) : std::nullopt;
+    // A stronger boil than the slider knows leaves it where it is.
+    if (!gravity || *gravity > kHeaviest) return;
+    MoveSlider(kSliderEnd - static_cast<int>(std::lround(std::max(*gravity - 1, 0.0) * 1000)));
+}
+
+void HopUtilModel::MoveSlider(int position) {
+    position_ = std::clamp(position, 0, kSliderEnd);
+}
+
+double HopUtilModel::Gravity() const {
+    return 1 + (kSliderEnd - position_) / 1000.0;
+}
+
+std::string HopUtilModel::GraphText() const {
+    return "Hop Utilization for SG = " + FormatNumber(Gravity(), "0.000");
+}
+
+void HopUtilModel::MoveTo(int minutes) {
+    minutes_ = std::clamp(minutes, 0, kGraphMinutes);
+}
+
+std::vector<DialogControl> HopUtilModel::Controls() const {
+    return {{"Slider1", std::to_string(position_)}, {"lblGraph", GraphText()}};
+}
+
+bool HopUtilModel::SetControl(std::string_view name, std::string_view text) {
+    int position = 0;
+    const char* const textEnd = text.data() + text.size();
+    const auto [end, error] = std::from_chars(text.data(), textEnd, position);
+    if (name != "Slider1" || error != std::errc() || end != textEnd || position < 0 || position > kSliderEnd)
+        return false;
+    MoveSlider(position);
+    return true;
+}
+
+bool HopUtilModel::Press(std::string_view button) {
+    if (button != "cmdClose") return false;
+    open_ = false;
+    return true;
+}
+
+}  // namespace tw

@@ -1,0 +1,57 @@
+// The hop utilisation explorer (frmHopUtil): the utilisation of the three bitterness methods against boil
+// time, for the gravity of a slider.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/DialogModel.h"
+#include "tools/UtilisationGraph.h"
+
+namespace tw {
+
+// Positions of Slider1: the first stands for 1.250, the last for 1.000.
+inline constexpr int kSliderEnd = 250;
+
+class HopUtilModel final : public DialogModel {
+  public:
+    // boilGravity: the text of the active document's boil gravity, nothing without a document. A number from
+    // 1 to 1.25 sets the slider, one below 1 sets it to 1.000; anything else leaves it at 1.100.
+    explicit HopUtilModel(const std::optional<std::string>& boilGravity);
+
+    int Position() const { return position_; }
+    // Clamped to the slider's ends.
+    void MoveSlider(int position);
+    // 1 + (250 - position) / 1000.
+    double Gravity() const;
+    // lblGraph: "Hop Utilization for SG = 1.100".
+    std::string GraphText() const;
+    std::array<Curve, kMethods> Curves() const { return UtilisationCurves(Gravity()); }
+
+    // The boil time that the window reads figures at, whole minutes; 60 at first.
+    int Minutes() const { return minutes_; }
+    // Clamped to the graph's ends.
+    void MoveTo(int minutes);
+    // The utilisation at that time, in percent.
+    UtilisationFigures Figures() const { return UtilisationAt(Gravity(), minutes_); }
+
+    std::string FormName() const override { return "frmHopUtil"; }
+    // Slider1, its position, and lblGraph.
+    std::vector<DialogControl> Controls() const override;
+    // Slider1 takes a whole number from 0 to 250.
+    bool SetControl(std::string_view name, std::string_view text) override;
+    // cmdClose.
+    bool Press(std::string_view button) override;
+    void CloseBox() override { open_ = false; }
+    bool IsOpen() const override { return open_; }
+
+  private:
+    int position_ = 150;
+    int minutes_ = 60;
+    bool open_ = true;
+};
+
+}  // namespace tw

@@ -1,0 +1,91 @@
+#include "tools/HydrometerModel.h"
+
+#include <algorithm>
+#include <cassert>
+
+#include "platform/Error.h"
+#include "tools/FlagGuard.h"
+#include "values/Converter.h"
+#include "values/NumberText.h"
+#include "values/ParserValidater.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+constexpr std::string_view kResult = "txtCalRead";
+
+}  // namespace
+
+double WaterDensity(double t) {
+    return 1.00130346 - 0.000134722124 * t + 2.04052596e-6 * t * t - 2.32820948e-9 * t * t * t;
+}
+
+const std::vector<std::string>& HydrometerModel::CalibrationEntries() {
+    static const std::vector<std::string> entries{"60.0 F (15.6 C)", "20.0 C (68.0 F)"};
+    return entries;
+}
+
+const std::string& HydrometerModel::Text(std::string_view name) const {
+    const auto found = std::ranges::find(controls_, name, &DialogControl::name);
+    assert(found != controls_.end());
+    return found->text;
+}
+
+bool HydrometerModel::TypeInto(std::string_view name, std::string_view text) {
+    const auto found = std::ranges::find(controls_, name, &DialogControl::name);
+    if (found == controls_.end() || name == kResult) return false;
+    found->text = text;
+    return true;
+}
+
+bool HydrometerModel::Take(std::string_view name, Validator validator, double& value, std::string& refused) {
+    const std::string& text = Text(name);
+    bool accepted = false;
+    try {
+        accepted = validator(text, value, &messages_);
+    } catch (const Error& error) {
+        messages_.ShowMessage("Error", error.WithNumber());
+    }
+    if (!accepted) refused = name;
+    return accepted && !IsBlank(text);
+}
+
+std::string HydrometerModel::UpdateCorrection() {
+    std::string refused;
+    if (updating_) return refused;
+    const FlagGuard guard(updating_);
+    double sample = 0;
+    double reading = 0;
+    double calibration = 0;
+    if (!Take("txtActTemp", ValidateTemperature, sample, refused) ||
+        !Take("txtActRead", ValidateGravity, reading, refused) ||
+        !Take("cmbCalTemp", ValidateTemperature, calibration, refused))
+        return refused;
+    try {
+        const double corrected = Finite(reading * WaterDensity(sample) / WaterDensity(calibration));
+        controls_.back().text = FormatNumber(corrected, "0.##0") + " (" +
+                                FormatNumber(Finite(SGToPlato(corrected)), "0.##0") + "° Plato)";
+    } catch (const Error& error) {
+        messages_.ShowMessage("Error", error.WithNumber());
+    }
+    return refused;
+}
+
+std::vector<DialogControl> HydrometerModel::Controls() const {
+    return controls_;
+}
+
+bool HydrometerModel::SetControl(std::string_view name, std::string_view text) {
+    if (!TypeInto(name, text)) return false;
+    UpdateCorrection();
+    return true;
+}
+
+bool HydrometerModel::Press(std::string_view button) {
+    if (button != "cmdEscape") return false;
+    open_ = false;
+    return true;
+}
+
+}  // namespace tw

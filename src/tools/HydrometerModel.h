@@ -1,0 +1,62 @@
+// The hydrometer correction (frmHydrometer): the gravity behind a reading that was taken at another
+// temperature than the hydrometer was calibrated for.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/DialogModel.h"
+#include "platform/Ports.h"
+
+namespace tw {
+
+// The relative density of water at t degrees Fahrenheit, as hydrometers see it: a cubic fit for 0 to 212,
+// 1.000063 at 60.
+double WaterDensity(double t);
+
+class HydrometerModel final : public DialogModel {
+  public:
+    // messages must outlive the dialog.
+    explicit HydrometerModel(MessagePort& messages) : messages_(messages) {}
+
+    // The entries of cmbCalTemp, which takes any other text too.
+    static const std::vector<std::string>& CalibrationEntries();
+
+    // What txtActRead, txtActTemp, cmbCalTemp or txtCalRead shows. REQUIRES: the control exists.
+    const std::string& Text(std::string_view name) const;
+    // A key changes an entry's text; nothing is worked out before it is left. False for another control.
+    bool TypeInto(std::string_view name, std::string_view text);
+
+    // Runs as an entry is left, and as the list changes its choice. Checks the temperature, then the reading,
+    // then the calibration, and shows the result when all three are there; otherwise the old one stays. Gives
+    // the control that takes the focus back, whose text was refused in a box; empty for none. An arithmetic
+    // error has a box of its own. Nothing happens while the operation itself is running.
+    std::string UpdateCorrection();
+
+    std::string FormName() const override { return "frmHydrometer"; }
+    // txtActRead, txtActTemp, cmbCalTemp, txtCalRead.
+    std::vector<DialogControl> Controls() const override;
+    // The three entries take any text and are left then.
+    bool SetControl(std::string_view name, std::string_view text) override;
+    // cmdEscape closes the window.
+    bool Press(std::string_view button) override;
+    void CloseBox() override { open_ = false; }
+    bool IsOpen() const override { return open_; }
+
+  private:
+    using Validator = bool (*)(std::string_view, double&, MessagePort*);
+    // False when the correction stops here: the text is blank, or refused and then put into refused.
+    bool Take(std::string_view name, Validator validator, double& value, std::string& refused);
+
+    MessagePort& messages_;
+    // Each under its control's name, in the order of the form.
+    std::vector<DialogControl> controls_{{"txtActRead", ""},
+                                         {"txtActTemp", ""},
+                                         {"cmbCalTemp", CalibrationEntries().front()},
+                                         {"txtCalRead", ""}};
+    bool updating_ = false;
+    bool open_ = true;
+};
+
+}  // namespace tw

@@ -1,0 +1,30 @@
+// One quantity in all units of its kind: the arithmetic of the unit converter.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tw {
+
+// The kinds of quantity in the order of the converter's list.
+enum class QuantityKind : int { Weight, Volume, Gravity, Temperature, Pressure };
+inline constexpr int kQuantityKinds = 5;
+
+// "Mass/Weight", "Volume", "Gravity", "Temperature", "Pressure".
+std::string_view KindName(QuantityKind kind);
+
+// The units of a kind in the order of their boxes. A name that stands on several lines has line feeds
+// between them, such as "Degrees\nPlato".
+std::span<const std::string_view> UnitsOf(QuantityKind kind);
+// A unit's name on one line, its lines joined by a blank.
+std::string UnitName(std::string_view unit);
+
+// value in every unit of its kind, in the order of UnitsOf; the entry of its own unit is value itself. Each
+// is converted directly, by the factors of values/Converter.h, so that two ways round may differ in the last
+// digits. Raises "Overflow" for a result beyond the range of a double. REQUIRES: from is an index into
+// UnitsOf(kind).
+std::vector<double> ConvertToAllUnits(QuantityKind kind, int from, double value);
+
+}  // namespace tw

@@ -1,0 +1,23 @@
+// The line and the mark of one method's curve, beside its name.
+#pragma once
+
+#include <QWidget>
+
+#include "calc/Hops.h"
+
+namespace tw {
+
+class CurveSample final : public QWidget {
+    Q_OBJECT
+  public:
+    CurveSample(IbuMethod method, QWidget* parent);
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+
+  private:
+    IbuMethod method_;
+};
+
+}  // namespace tw

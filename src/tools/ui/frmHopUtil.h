@@ -1,0 +1,44 @@
+// The hop utilisation explorer (frmHopUtil): a slider for the gravity, the curves, and the figures at one
+// boil time.
+#pragma once
+
+#include <QDialog>
+#include <array>
+#include <memory>
+
+#include "tools/HopUtilModel.h"
+
+class QBoxLayout;
+class QLabel;
+class QSlider;
+
+namespace tw {
+
+class UtilisationGraphView;
+
+class frmHopUtil final : public QDialog {
+    Q_OBJECT
+  public:
+    // The model must outlive the dialog.
+    frmHopUtil(HopUtilModel& model, QWidget* parent);
+    // The window of a HopUtilModel. REQUIRES: model is one.
+    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
+
+  protected:
+    void reject() override;
+
+  private:
+    QLayout* SliderColumn();
+    QLayout* FigureRow();
+    void ShowGravity();
+    void ShowFigures();
+
+    HopUtilModel& model_;
+    QLabel* heading_;
+    UtilisationGraphView* graph_;
+    QSlider* slider_ = nullptr;
+    QLabel* time_ = nullptr;
+    std::array<QLabel*, kMethods> figures_{};
+};
+
+}  // namespace tw

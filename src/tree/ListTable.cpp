@@ -1,0 +1,214 @@
+#include "tree/ListTable.h"
+
+#include <algorithm>
+#include <compare>
+#include <cstdint>
+#include <numeric>
+#include <optional>
+#include <tuple>
+
+#include "platform/Error.h"
+#include "tree/ListFormats.h"
+#include "values/NumberText.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+// What a cell is sorted by. Members are compared in their order.
+struct SortKey {
+    int group = 0;
+    bool isMember = false;  // behind the heading
+    bool isObject = false;  // behind the folders
+    // The cell, which alone turns round when the order is descending.
+    struct Value {
+        int rank = 0;  // blank, number or date, text
+        double first = 0, second = 0;
+        std::string text;
+        auto operator<=>(const Value&) const = default;
+    } value;
+};
+
+enum Rank { kBlank, kFigure, kText };
+
+// The number at the beginning of text, which is taken off; nothing when it begins with none.
+std::optional<double> TakeNumber(std::string_view& text) {
+    std::size_t end = text.starts_with('-') ? 1 : 0;
+    end = std::min(text.find_first_not_of("0123456789.", end), text.size());
+    double number = 0;
+    try {
+        if (!ReadNumber(text.substr(0, end), number)) return std::nullopt;
+    } catch (const Error&) {
+        return std::nullopt;  // beyond the range of a double
+    }
+    text.remove_prefix(end);
+    return number;
+}
+
+SortKey::Value ValueOf(std::string_view cell, ListColumnKind kind) {
+    SortKey::Value value;
+    std::string_view text = Trim(cell);
+    if (text.empty()) return value;
+    value.rank = kText;
+    if (kind == ListColumnKind::Number) {
+        if (const auto low = TakeNumber(text)) {
+            value.rank = kFigure;
+            value.first = value.second = *low;
+            if (text.starts_with('-')) {
+                text.remove_prefix(1);
+                value.second = TakeNumber(text).value_or(*low);
+            }
+            return value;
+        }
+    } else if (kind == ListColumnKind::Date) {
+        if (const auto when = ReadListDate(text)) {
+            constexpr double kMonths = 12, kDays = 31, kHours = 24, kMinutes = 60;
+            value.rank = kFigure;
+            value.first =
+                ((((when->year * kMonths) + when->month) * kDays + when->day) * kHours + when->hour) *
+                    kMinutes +
+                when->minute;
+            return value;
+        }
+    }
+    value.text = Upper(text);
+    return value;
+}
+
+bool BeginsWith(std::string_view text, std::string_view upperBeginning) {
+    const std::size_t length = CodePointOffset(text, CodePointCount(upperBeginning));
+    return Upper(text.substr(0, length)) == upperBeginning;
+}
+
+}  // namespace
+
+void ListTable::TellChanged() {
+    if (observer_) observer_->ListChanged();
+}
+
+void ListTable::SetColumns(std::vector<ListColumn> columns) {
+    columns_ = std::move(columns);
+    Clear();
+}
+
+int ListTable::ColumnOf(std::string_view title) const {
+    const auto found = std::ranges::find_if(
+        columns_, [&](const ListColumn& column) { return SameName(column.title, title); });
+    return found == columns_.end() ? -1 : static_cast<int>(found - columns_.begin());
+}
+
+void ListTable::Fit(ListRow& row) const {
+    row.cells.resize(columns_.size());
+    for (std::string& cell : row.cells)
+        if (cell.empty()) cell = kNoNumber;
+}
+
+void ListTable::SetRows(std::vector<ListRow> rows) {
+    rows_ = std::move(rows);
+    for (ListRow& row : rows_) Fit(row);
+    selected_ = kNoRow;
+    sortColumn_ = -1;
+    sortDescending_ = false;
+    TellChanged();
+}
+
+void ListTable::Add(ListRow row) {
+    Fit(row);
+    rows_.push_back(std::move(row));
+    TellChanged();
+}
+
+void ListTable::Remove(int row) {
+    rows_.erase(rows_.begin() + row);
+    if (selected_ == row)
+        selected_ = kNoRow;
+    else if (selected_ > row)
+        --selected_;
+    TellChanged();
+}
+
+int ListTable::FindKey(std::string_view key) const {
+    const auto found = std::ranges::find_if(
+        rows_, [&](const ListRow& row) { return !row.isGroup && std::string_view(row.key) == key; });
+    return found == rows_.end() ? kNoRow : static_cast<int>(found - rows_.begin());
+}
+
+std::string ListTable::SelectedText() const {
+    return selected_ == kNoRow ? std::string() : Row(selected_).cells.front();
+}
+
+bool ListTable::Select(int row) {
+    if (row < 0 || row >= Count() || Row(row).isGroup) return false;
+    if (selected_ == row) return true;
+    selected_ = row;
+    if (observer_) observer_->ListSelectionChanged();
+    return true;
+}
+
+void ListTable::SelectNone() {
+    if (selected_ == kNoRow) return;
+    selected_ = kNoRow;
+    if (observer_) observer_->ListSelectionChanged();
+}
+
+int ListTable::FirstRow() const {
+    const auto found = std::ranges::find_if(rows_, [](const ListRow& row) { return !row.isGroup; });
+    return found == rows_.end() ? kNoRow : static_cast<int>(found - rows_.begin());
+}
+
+void ListTable::Sort(int column, bool descending) {
+    const auto index = static_cast<std::size_t>(column);
+    std::vector<SortKey> keys;
+    keys.reserve(rows_.size());
+    for (const ListRow& row : rows_)
+        keys.push_back(
+            {row.group, !row.isGroup, !row.isFolder, ValueOf(row.cells[index], columns_[index].kind)});
+    std::vector<std::size_t> order(rows_.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::stable_sort(order, [&](std::size_t a, std::size_t b) {
+        const SortKey &x = keys[a], &y = keys[b];
+        const auto placeX = std::tie(x.group, x.isMember, x.isObject);
+        const auto placeY = std::tie(y.group, y.isMember, y.isObject);
+        if (placeX != placeY) return placeX < placeY;
+        return descending ? y.value < x.value : x.value < y.value;
+    });
+    std::vector<ListRow> sorted;
+    sorted.reserve(rows_.size());
+    int selected = kNoRow;
+    for (const std::size_t from : order) {
+        if (static_cast<int>(from) == selected_) selected = static_cast<int>(sorted.size());
+        sorted.push_back(std::move(rows_[from]));
+    }
+    rows_ = std::move(sorted);
+    selected_ = selected;
+    sortColumn_ = column;
+    sortDescending_ = descending;
+    TellChanged();
+}
+
+int ListTable::FindNearest(std::string_view name) const {
+    const std::string wanted = Upper(Trim(name));
+    int nearest = kNoRow;
+    std::string nearestText;
+    for (int i = 0; !wanted.empty() && i < Count(); ++i) {
+        if (Row(i).isGroup) continue;
+        std::string text = Upper(Trim(Row(i).cells.front()));
+        if (text == wanted) return i;
+        if (text > wanted || (nearest != kNoRow && text <= nearestText)) continue;
+        nearest = i;
+        nearestText = std::move(text);
+    }
+    return nearest == kNoRow ? FirstRow() : nearest;
+}
+
+int ListTable::FindTyped(std::string_view beginning, int start) const {
+    if (beginning.empty()) return kNoRow;
+    const std::string wanted = Upper(beginning);
+    for (int i = 0; i < Count(); ++i) {
+        const int row = (std::max(start, 0) + i) % Count();
+        if (!Row(row).isGroup && BeginsWith(Row(row).cells.front(), wanted)) return row;
+    }
+    return kNoRow;
+}
+
+}  // namespace tw

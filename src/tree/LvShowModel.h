@@ -1,0 +1,71 @@
+// The picker of one row of a catalogue (frmLvShow).
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/DialogModel.h"
+#include "tree/ListTable.h"
+#include "tree/PickList.h"
+#include "tree/TreeItems.h"
+#include "tree/lvFiller.h"
+
+namespace tw {
+
+class LvShowModel final : public DialogModel {
+  public:
+    // Shows the chosen row of the list to be read; the list's selection may be another afterwards.
+    using Viewer = std::function<void(PickList type, ListTable& items)>;
+
+    // name: what the search starts on. REQUIRES: both live for as long as the dialog.
+    LvShowModel(PickList type, Database& database, const TWTree& tree, std::string_view name);
+
+    // What cmdView does; it stays off without one.
+    void SetViewer(Viewer viewer) { viewer_ = std::move(viewer); }
+
+    PickList Type() const { return type_; }
+    // "Select Style".
+    std::string Title() const;
+    ListTable& Items() { return items_; }
+    // treeFolders, which the style picker alone has.
+    bool HasFolders() const { return type_ == PickList::Style; }
+    TreeItems& Folders() { return folders_; }
+    // The list follows, on the row nearest to the name. False for no such folder.
+    bool ChooseFolder(std::string_view key);
+    // Both are off while the list has no chosen row.
+    bool OkEnabled() const { return items_.Selected() != ListTable::kNoRow; }
+    bool ViewEnabled() const { return viewer_ && OkEnabled(); }
+
+    // Until cmdOK has taken a row.
+    bool Cancelled() const { return cancelled_; }
+    // What the document is to be told: the row's text; of a yeast that, " - " and its description.
+    const std::string& Answer() const { return answer_; }
+
+    std::string FormName() const override { return "frmLvShow"; }
+    // lvItems shows the text of the chosen row, treeFolders the key of the folder.
+    std::vector<DialogControl> Controls() const override;
+    // lvItems takes the text of a row, treeFolders the key of a folder.
+    bool SetControl(std::string_view name, std::string_view text) override;
+    // cmdOK, cmdCancel, cmdView. One that is off does nothing.
+    bool Press(std::string_view button) override;
+    void CloseBox() override { open_ = false; }
+    bool IsOpen() const override { return open_; }
+
+  private:
+    void Fill(std::int64_t folderId);
+    void Accept();
+
+    PickList type_;
+    lvFiller filler_;
+    std::string name_;
+    ListTable items_;
+    TreeItems folders_;
+    Viewer viewer_;
+    std::string answer_;
+    bool cancelled_ = true;
+    bool open_ = true;
+};
+
+}  // namespace tw

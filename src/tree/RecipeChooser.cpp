@@ -1,0 +1,193 @@
+#include "tree/RecipeChooser.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/Error.h"
+#include "tree/TWNodes.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+constexpr int kSubscriptOutOfRange = 9;
+
+constexpr std::array<std::string_view, 8> kButtons = {
+    "cmdAdd", "cmdDel", "cmdUp", "cmdDown", "cmdTop", "cmdBottom", "mnuPopupSortAsc", "mnuPopupSortDesc"};
+
+// For SQL text between double quotes.
+std::string DoubleQuoted(std::string_view text) {
+    return "\"" + ReplaceAll(text, "\"", "\"\"") + "\"";
+}
+
+// The node's name, or those of all recipes below it, in the order of the tree.
+std::vector<std::string> RecipesOf(TWNode& top) {
+    std::vector<std::string> names;
+    std::vector<TWNode*> open = {&top};
+    while (!open.empty()) {
+        TWNode* const node = open.back();
+        open.pop_back();
+        if (node->IsDocument()) names.emplace_back(node->Name());
+        if (!node->HasChildren()) continue;
+        for (std::size_t i = node->Children().Count(); i-- > 0;) open.push_back(&node->Children().Item(i));
+    }
+    return names;
+}
+
+bool HoldsRecipe(TWNode& top) {
+    std::vector<TWNode*> open = {&top};
+    while (!open.empty()) {
+        TWNode* const node = open.back();
+        open.pop_back();
+        if (node->IsDocument()) return true;
+        if (!node->HasChildren()) continue;
+        for (const auto& child : node->Children()) open.push_back(child.get());
+    }
+    return false;
+}
+
+}  // namespace
+
+void RecipeChooser::TellChanged() {
+    if (observer_) observer_->RecipeChooserChanged();
+}
+
+void RecipeChooser::Initialize() {
+    if (tree_ == nullptr && database_ != nullptr) {
+        ownTree_ = std::make_unique<TWTree>();
+        ownTree_->InitFromDatabase(*database_);
+        tree_ = ownTree_.get();
+    }
+    items_.Fill([this](TreeView& view) {
+        if (tree_) tree_->PopulateTreeViewForRecipeTree(view);
+    });
+    SetRootName(rootName_);
+    for (const std::string_view key : {kDatabaseKey, kRecipeFoldersKey}) {
+        const int item = items_.Find(key);
+        if (item != TreeItems::kNone) items_.Expand(item);
+    }
+    TellChanged();
+}
+
+bool RecipeChooser::OpenTreeTo(std::string_view name) {
+    Database* const database = tree_ && tree_->SourceDatabase() ? tree_->SourceDatabase() : database_;
+    if (database == nullptr) return false;
+    const Recordset recipe = database->OpenRecordset("SELECT NAME, ID FROM RECIPES WHERE UCASE(NAME) = " +
+                                                     DoubleQuoted(Upper(Trim(name))));
+    if (recipe.AtEnd()) return false;
+    const std::string key = "R:" + recipe.Fields("ID").Text() + ":";
+    return items_.SelectKey(key + "3") || items_.SelectKey(key + "0");
+}
+
+void RecipeChooser::SetRootName(std::string_view name) {
+    rootName_ = std::string(name);
+    const int root = items_.Find(kDatabaseKey);
+    if (root == TreeItems::kNone) return;
+    const TWNode* const node = tree_ ? tree_->Nodes(kDatabaseKey) : nullptr;
+    items_.SetText(root, !rootName_.empty() || node == nullptr ? std::string_view(rootName_) : node->Name());
+}
+
+void RecipeChooser::SetAction(std::string_view action) {
+    action_ = action;
+    TellChanged();
+}
+
+void RecipeChooser::SetSorted(bool sorted) {
+    sorted_ = sorted;
+    if (sorted_) Sort(false);
+    TellChanged();
+}
+
+const std::string& RecipeChooser::Item(int index) const {
+    if (index < 0 || index >= SelectionCount())
+        throw Error("RecipeChooser.Item", "Subscript out of range", kSubscriptOutOfRange);
+    return names_[static_cast<std::size_t>(index)];
+}
+
+void RecipeChooser::SetCurrent(int index) {
+    if (index < kNone || index >= SelectionCount() || index == current_) return;
+    current_ = index;
+    TellChanged();
+}
+
+bool RecipeChooser::AddName(std::string_view name) {
+    if (std::ranges::any_of(names_, [&](const std::string& other) { return SameName(other, name); }))
+        return false;
+    names_.emplace_back(name);
+    return true;
+}
+
+bool RecipeChooser::Add(std::string_view key) {
+    TWNode* const node = tree_ ? tree_->Nodes(key) : nullptr;
+    if (node == nullptr) return false;
+    const int before = SelectionCount();
+    for (const std::string& name : RecipesOf(*node)) AddName(name);
+    if (SelectionCount() == before) return false;
+    current_ = SelectionCount() - 1;
+    if (sorted_) Sort(false);
+    TellChanged();
+    return true;
+}
+
+bool RecipeChooser::IsEnabled(std::string_view button) const {
+    const int last = SelectionCount() - 1;
+    const bool movable = current_ != kNone && !sorted_;
+    if (button == "cmdAdd") {
+        TWNode* const node = tree_ ? tree_->Nodes(items_.SelectedKey()) : nullptr;
+        return node != nullptr && HoldsRecipe(*node);
+    }
+    if (button == "cmdDel") return current_ != kNone;
+    if (button == "cmdUp" || button == "cmdTop") return movable && current_ > 0;
+    if (button == "cmdDown" || button == "cmdBottom") return movable && current_ < last;
+    if (button == "mnuPopupSortAsc") return last > 0;
+    return button == "mnuPopupSortDesc" && last > 0 && !sorted_;
+}
+
+bool RecipeChooser::Press(std::string_view button) {
+    if (std::ranges::find(kButtons, button) == kButtons.end()) return false;
+    if (!IsEnabled(button)) return true;
+    if (button == "cmdAdd") {
+        Add(items_.SelectedKey());
+        return true;
+    }
+    if (button == "cmdDel")
+        Delete();
+    else if (button == "cmdUp")
+        MoveTo(current_ - 1);
+    else if (button == "cmdDown")
+        MoveTo(current_ + 1);
+    else if (button == "cmdTop")
+        MoveTo(0);
+    else if (button == "cmdBottom")
+        MoveTo(SelectionCount() - 1);
+    else
+        Sort(button == "mnuPopupSortDesc");
+    TellChanged();
+    return true;
+}
+
+// The line that follows is chosen next.
+void RecipeChooser::Delete() {
+    names_.erase(names_.begin() + current_);
+    current_ = std::min(current_, SelectionCount() - 1);
+}
+
+void RecipeChooser::MoveTo(int index) {
+    const auto from = names_.begin() + current_, to = names_.begin() + index;
+    if (from < to)
+        std::rotate(from, from + 1, to + 1);
+    else
+        std::rotate(to, from, from + 1);
+    current_ = index;
+}
+
+void RecipeChooser::Sort(bool descending) {
+    const std::string chosen = current_ == kNone ? std::string() : Item(current_);
+    std::ranges::stable_sort(names_, [&](const std::string& a, const std::string& b) {
+        const int order = CompareNoCase(a, b);
+        return descending ? order > 0 : order < 0;
+    });
+    if (current_ != kNone) current_ = static_cast<int>(std::ranges::find(names_, chosen) - names_.begin());
+}
+
+}  // namespace tw

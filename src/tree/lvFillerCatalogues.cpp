@@ -1,0 +1,217 @@
+// The lists of the catalogues.
+#include <array>
+#include <optional>
+#include <utility>
+
+#include "store/ObjectKeys.h"
+#include "tree/ListFormats.h"
+#include "tree/TWNodes.h"
+#include "tree/lvFiller.h"
+
+namespace tw {
+namespace {
+
+using enum ListColumnKind;
+
+constexpr std::array<std::string_view, kCatalogues> kWords = {
+    "style", "grain", "extract", "hop variety", "yeast", "priming sugar", "water profile", "treatment salt"};
+
+// The row of the present record, under its name.
+ListRow NamedRow(const Recordset& rows, std::string_view nameField) {
+    ListRow row;
+    row.key = rows.Fields(nameField).Text();
+    row.cells = {ListText(rows.Fields(nameField))};
+    return row;
+}
+
+std::string Range(const Recordset& rows, const char* low, const char* high, std::string_view pattern = {}) {
+    return ListRange(rows.Fields(low), rows.Fields(high), pattern);
+}
+
+// A row for each record, sorted by name.
+template <class MakeCells>
+void FillTable(Database& database, ListTable& list, const std::string& table, MakeCells addCells) {
+    std::vector<ListRow> filled;
+    for (Recordset rows = database.OpenRecordset("SELECT * FROM " + table); !rows.AtEnd(); rows.MoveNext()) {
+        ListRow row = NamedRow(rows, "NAME");
+        addCells(row.cells, rows);
+        filled.push_back(std::move(row));
+    }
+    list.SetRows(std::move(filled));
+    list.Sort(0);
+}
+
+std::vector<ListRow> StyleRows(Database& database, std::int64_t folderId) {
+    // The system folder holds every style.
+    const std::string condition = folderId == -1 ? "" : " WHERE FOLDER_ID = " + std::to_string(folderId);
+    std::vector<ListRow> styles;
+    for (Recordset rows = database.OpenRecordset("SELECT * FROM STYLES" + condition); !rows.AtEnd();
+         rows.MoveNext()) {
+        ListRow row = NamedRow(rows, "NAME");
+        row.icon = NodeIcon::StyleClosed;
+        row.cells.insert(
+            row.cells.end(),
+            {ListTypeName(rows.Fields("TYPE")), Range(rows, "OG_LO", "OG_HI", kGravityPattern),
+             Range(rows, "FG_LO", "FG_HI", kGravityPattern), Range(rows, "ABV_LO", "ABV_HI", kAlcoholPattern),
+             Range(rows, "COLOR_LO", "COLOR_HI", kColorPattern),
+             Range(rows, "IBU_LO", "IBU_HI", kBitternessPattern),
+             Range(rows, "CO2_LO", "CO2_HI", kCarbonationPattern), ListText(rows.Fields("WATER_PROFILE"))});
+        styles.push_back(std::move(row));
+    }
+    return styles;
+}
+
+void SetUpStyleColumns(ListTable& list) {
+    list.SetColumns({{"Style Name", Text},
+                     {"Type", Text},
+                     {"OG", Number},
+                     {"FG", Number},
+                     {"ABV", Number},
+                     {"Color", Number},
+                     {"IBU", Number},
+                     {"CO2", Number},
+                     {"Water Profile", Text}});
+}
+
+ListRow GrainRow(const Recordset& rows, int group) {
+    ListRow row = NamedRow(rows, "GRAINS.NAME");
+    row.group = group;
+    row.cells.insert(row.cells.end(),
+                     {Range(rows, "PPG_LO", "PPG_HI"), Range(rows, "COLOR_LO", "COLOR_HI", kColorPattern)});
+    return row;
+}
+
+}  // namespace
+
+std::string_view WordOf(Catalogue catalogue) {
+    return kWords[static_cast<std::size_t>(catalogue)];
+}
+
+void lvFiller::FillStyles(ListTable& list, std::int64_t folderId) const {
+    SetUpStyleColumns(list);
+    list.SetRows(StyleRows(database_, folderId));
+    list.Sort(0);
+}
+
+void lvFiller::FillStylesAndFolders(ListTable& list, std::int64_t folderId) const {
+    SetUpStyleColumns(list);
+    std::vector<ListRow> rows;
+    TWNode* const parent = tree_.Nodes("G:" + std::to_string(folderId));
+    if (parent != nullptr && parent->HasChildren())
+        for (const auto& child : parent->Children()) {
+            if (child->IsStyle() || child->IsDocument()) continue;
+            ListRow row;
+            row.key = child->Key();
+            row.cells = {std::string(child->Name()), "Style Folder"};
+            row.icon = IconOf(child->IconClosed());
+            row.isFolder = true;
+            rows.push_back(std::move(row));
+        }
+    for (ListRow& style : StyleRows(database_, folderId)) rows.push_back(std::move(style));
+    list.SetRows(std::move(rows));
+    list.Sort(0);
+}
+
+void lvFiller::FillGrains(ListTable& list, bool grain) const {
+    list.SetColumns({{grain ? "Grain Name" : "Extract Name", Text}, {"PPG", Number}, {"Color", Number}});
+    const std::string kind = grain ? "GRAINS.GRAIN" : "NOT GRAINS.GRAIN";
+    std::vector<ListRow> filled;
+    std::optional<std::string> type;
+    int group = 0;
+    for (Recordset rows = database_.OpenRecordset("SELECT * FROM GRAINS, GRAIN_TYPES WHERE " + kind +
+                                                  " AND GRAINS.GRAIN_TYPE = GRAIN_TYPES.ID"
+                                                  " ORDER BY GRAINS.GRAIN_TYPE, GRAINS.NAME");
+         !rows.AtEnd(); rows.MoveNext()) {
+        std::string name = rows.Fields("GRAIN_TYPES.NAME").Text();
+        if (type != name) {
+            ListRow heading;
+            heading.cells = {name};
+            heading.isGroup = true;
+            heading.group = ++group;
+            filled.push_back(std::move(heading));
+            type = std::move(name);
+        }
+        filled.push_back(GrainRow(rows, group));
+    }
+    ++group;
+    for (Recordset rows = database_.OpenRecordset(
+             "SELECT * FROM GRAINS WHERE " + kind +
+             " AND (GRAIN_TYPE IS NULL OR NOT GRAIN_TYPE IN (SELECT ID FROM GRAIN_TYPES)) ORDER BY NAME");
+         !rows.AtEnd(); rows.MoveNext())
+        filled.push_back(GrainRow(rows, group));
+    list.SetRows(std::move(filled));
+}
+
+void lvFiller::FillHops(ListTable& list) const {
+    list.SetColumns({{"Hop Variety Name", Text}, {"Alpha Acids %", Number}, {"Usage", Text}});
+    FillTable(database_, list, "HOPS", [](std::vector<std::string>& cells, const Recordset& rows) {
+        cells.push_back(Range(rows, "AA_LO", "AA_HI"));
+        cells.push_back(ListText(rows.Fields("USAGE")));
+    });
+}
+
+void lvFiller::FillYeast(ListTable& list) const {
+    list.SetColumns({{"Yeast Name", Text},
+                     {"Description", Text},
+                     {"Type", Text},
+                     {"Flocculation", Text},
+                     {"Attenuation", Number},
+                     {"Temperature", Number}});
+    FillTable(database_, list, "YEAST", [](std::vector<std::string>& cells, const Recordset& rows) {
+        cells.insert(cells.end(), {ListText(rows.Fields("DESCR")), ListTypeName(rows.Fields("TYPE")),
+                                   ListText(rows.Fields("FLOC")), Range(rows, "AA_LO", "AA_HI"),
+                                   Range(rows, "TEMP_LO", "TEMP_HI")});
+    });
+}
+
+void lvFiller::FillIons(ListTable& list, const char* nameTitle, const char* table) const {
+    list.SetColumns({{nameTitle, Text},
+                     {"Calcium", Number},
+                     {"Carbonate", Number},
+                     {"Chloride", Number},
+                     {"Magnesium", Number},
+                     {"Sodium", Number},
+                     {"Sulfate", Number}});
+    FillTable(database_, list, table, [](std::vector<std::string>& cells, const Recordset& rows) {
+        for (const char* ion : {"CA", "CO3", "CL", "MG", "NA", "SO4"})
+            cells.push_back(ListNumber(rows.Fields(ion), {}));
+    });
+}
+
+void lvFiller::FillWaterProfiles(ListTable& list) const {
+    FillIons(list, "Water Profile Name", "WATER_PROFILES");
+}
+
+void lvFiller::FillSalts(ListTable& list) const {
+    FillIons(list, "Treatment Salt Name", "SALTS");
+}
+
+void lvFiller::FillSugars(ListTable& list) const {
+    list.SetColumns({{"Priming Sugar Name", Text}, {"Fermentable %", Number}});
+    FillTable(database_, list, "SUGARS", [](std::vector<std::string>& cells, const Recordset& rows) {
+        cells.push_back(Range(rows, "FERMENT_LO", "FERMENT_HI"));
+    });
+}
+
+void lvFiller::Fill(ListTable& list, Catalogue catalogue) const {
+    switch (catalogue) {
+        case Catalogue::Styles:
+            return FillStylesAndFolders(list, 0);
+        case Catalogue::Grains:
+            return FillGrains(list, true);
+        case Catalogue::Extracts:
+            return FillGrains(list, false);
+        case Catalogue::Hops:
+            return FillHops(list);
+        case Catalogue::Yeast:
+            return FillYeast(list);
+        case Catalogue::PrimingSugars:
+            return FillSugars(list);
+        case Catalogue::WaterProfiles:
+            return FillWaterProfiles(list);
+        case Catalogue::TreatmentSalts:
+            return FillSalts(list);
+    }
+}
+
+}  // namespace tw

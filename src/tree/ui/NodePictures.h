@@ -1,0 +1,13 @@
+// The pictures of folders, styles and recipes in trees and lists.
+#pragma once
+
+#include <QIcon>
+
+#include "tree/NodeIcon.h"
+
+namespace tw {
+
+// An empty icon for None and Other.
+QIcon NodePicture(NodeIcon icon);
+
+}  // namespace tw

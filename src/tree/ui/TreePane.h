@@ -1,0 +1,86 @@
+// The widget of a tree of folders, styles and recipes.
+#pragma once
+
+#include <QAbstractItemModel>
+#include <QTreeView>
+#include <functional>
+
+#include "tree/TreeItems.h"
+
+namespace tw {
+
+class TreePaneModel final : public QAbstractItemModel, private TreeItemsObserver {
+    Q_OBJECT
+  public:
+    TreePaneModel(TreeItems& items, QObject* parent);
+    ~TreePaneModel() override;
+
+    // The number of an entry, TreeItems::kNone for none; and its index.
+    static int ItemOf(const QModelIndex& index);
+    QModelIndex IndexOf(int item) const;
+    // What an entry can be renamed to in place; without it none can be edited. canRename looks whether it
+    // may, rename whether the name is taken.
+    void SetRename(std::function<bool(int item)> canRename, std::function<bool(const QString& name)> rename);
+
+    QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
+    QModelIndex parent(const QModelIndex& index) const override;
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+
+  signals:
+    void Filled();
+    void ExpandedChanged(int item);
+    void SelectedChanged();
+
+  private:
+    void TreeReset(bool done) override;
+    void TreeItemChanged(int item) override;
+    void TreeItemExpanded(int item) override { emit ExpandedChanged(item); }
+    void TreeSelectionChanged() override { emit SelectedChanged(); }
+
+    TreeItems& items_;
+    bool filling_ = false;
+    std::function<bool(int)> canRename_;
+    std::function<bool(const QString&)> rename_;
+};
+
+class TreePane final : public QTreeView {
+    Q_OBJECT
+  public:
+    // Shows the entries from now on. name: what it is called to assistive programs. REQUIRES: they live for
+    // as long.
+    TreePane(TreeItems& items, const QString& name, QWidget* parent);
+
+    TreePaneModel& Model() const { return *model_; }
+    // What runs when the brewer chooses an entry; false leaves the choice where it was. Without it the entry
+    // is chosen.
+    void SetChoose(std::function<bool(const std::string& key)> choose) { choose_ = std::move(choose); }
+    // Opens the chosen entry's text for editing.
+    void EditSelected();
+
+  signals:
+    // A double click, or Enter, on an entry.
+    void ItemActivated();
+    // The chosen entry is another.
+    void ChosenChanged();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+
+  private:
+    void ShowAll();
+    void ShowSelection();
+    void ShowExpanded(int item);
+
+    TreeItems& items_;
+    TreePaneModel* model_;
+    std::function<bool(const std::string&)> choose_;
+    bool following_ = false;  // the entries change by their object, not by the brewer
+};
+
+}  // namespace tw

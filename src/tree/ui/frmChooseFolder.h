@@ -1,0 +1,25 @@
+// The window in which a folder is chosen.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "tree/ChooseFolderModel.h"
+
+namespace tw {
+
+class frmChooseFolder final : public QDialog {
+    Q_OBJECT
+  public:
+    frmChooseFolder(ChooseFolderModel& model, QWidget* parent);
+    // The window of a ChooseFolderModel. REQUIRES: model is one.
+    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
+
+  protected:
+    void reject() override;
+
+  private:
+    ChooseFolderModel& model_;
+};
+
+}  // namespace tw

@@ -1,0 +1,103 @@
+#include "tree/ui/frmLvShow.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QSplitter>
+#include <QVBoxLayout>
+
+#include "platform/qt/Appearance.h"
+#include "platform/qt/QtText.h"
+#include "tree/ui/ListPane.h"
+#include "tree/ui/TreePane.h"
+
+namespace tw {
+namespace {
+
+constexpr int kWidthUnits = 96;
+constexpr int kHeightUnits = 60;
+constexpr int kFolderUnits = 32;
+
+// How wide the list of each type is, in units: the number of its columns tells.
+int ListUnits(const ListTable& list) {
+    constexpr int kNameUnits = 36, kColumnUnits = 9;
+    return std::min(kNameUnits + kColumnUnits * static_cast<int>(list.Columns().size()), kWidthUnits);
+}
+
+}  // namespace
+
+frmLvShow::frmLvShow(LvShowModel& model, QWidget* parent) : QDialog(parent), model_(model) {
+    setObjectName(ToQt(model.FormName()));
+    setWindowTitle(ToQt(model.Title()));
+    auto* column = new QVBoxLayout(this);
+    SetSpacing(*column, *this, true);
+    auto* splitter = new QSplitter(this);
+    splitter->setObjectName(QStringLiteral("Splitter"));
+    splitter->setAccessibleName(tr("Border between folders and styles"));
+    splitter->setChildrenCollapsible(false);
+    if (model.HasFolders()) AddFolders(*splitter);
+    items_ = new ListPane(model.Items(), ToQt(model.Items().Columns().front().title), splitter);
+    items_->setObjectName(QStringLiteral("lvItems"));
+    items_->SetHint(model.HasFolders() ? tr("There are no styles in this folder.")
+                                       : tr("There is nothing in this catalogue."));
+    splitter->addWidget(items_);
+    splitter->setStretchFactor(splitter->count() - 1, 1);
+    splitter->setSizes({Unit(*this) * kFolderUnits, Unit(*this) * kWidthUnits});
+    column->addWidget(splitter, 1);
+    column->addLayout(MakeButtons());
+    connect(items_, &ListPane::ChosenChanged, this, &frmLvShow::ShowButtons);
+    connect(items_, &ListPane::RowActivated, this, [this] { Press("cmdOK"); });
+    const int folders = model.HasFolders() ? kFolderUnits : 0;
+    resize(Unit(*this) * (ListUnits(model.Items()) + folders), Unit(*this) * kHeightUnits);
+    items_->setFocus();
+    ShowButtons();
+}
+
+std::unique_ptr<QDialog> frmLvShow::Make(DialogModel& model, QWidget* parent) {
+    return std::make_unique<frmLvShow>(dynamic_cast<LvShowModel&>(model), parent);
+}
+
+void frmLvShow::AddFolders(QSplitter& splitter) {
+    auto* folders = new TreePane(model_.Folders(), tr("Style folders"), &splitter);
+    folders->setObjectName(QStringLiteral("treeFolders"));
+    folders->SetChoose([this](const std::string& key) { return model_.ChooseFolder(key); });
+    connect(folders, &TreePane::ChosenChanged, this, &frmLvShow::ShowButtons);
+    splitter.addWidget(folders);
+}
+
+QLayout* frmLvShow::MakeButtons() {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Unit(*this) * kGapUnits);
+    const auto add = [&](const char* name, const QString& caption) {
+        auto* button = new QPushButton(caption, this);
+        button->setObjectName(QLatin1String(name));
+        button->setAutoDefault(false);
+        connect(button, &QPushButton::clicked, this, [this, name] { Press(name); });
+        row->addWidget(button);
+        return button;
+    };
+    view_ = add("cmdView", tr("&View..."));
+    view_->setToolTip(tr("Shows the chosen entry to be read"));
+    row->addStretch();
+    ok_ = add("cmdOK", tr("OK"));
+    ok_->setDefault(true);
+    add("cmdCancel", tr("Cancel"));
+    return row;
+}
+
+void frmLvShow::Press(const char* button) {
+    model_.Press(button);
+    ShowButtons();
+    if (!model_.IsOpen()) QDialog::done(model_.Cancelled() ? Rejected : Accepted);
+}
+
+void frmLvShow::ShowButtons() {
+    ok_->setEnabled(model_.OkEnabled());
+    view_->setEnabled(model_.ViewEnabled());
+}
+
+void frmLvShow::reject() {
+    model_.CloseBox();
+    QDialog::reject();
+}
+
+}  // namespace tw

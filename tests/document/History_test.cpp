@@ -1,0 +1,346 @@
+// What makes a step of the history, what joins the step before, and what a step brings back.
+#include <gmock/gmock.h>
+
+#include "DocumentState.h"
+#include "DocumentTest.h"
+
+namespace tw::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class HistoryTest : public DocumentTest {
+  protected:
+    HistoryTest() { New(); }
+
+    const UndoStack& History() const { return document->History(); }
+    std::string State() const { return StateOf(*document, host).all; }
+    // A recipe of 50.4 points: 10 lbs. of 36 points, 70% of them, in 5 gallons.
+    void Brew() {
+        Set(R().txtExtract, "70");
+        Set(R().txtTotalVol, "5");
+        Put(R().gridGrain, 1, GrainCol::Amount, "10");
+        Put(R().gridGrain, 1, GrainCol::Ppg, "36");
+    }
+    void PitchYeast() {
+        document->InsertRowForGrid(R().gridLog);
+        Put(R().gridLog, 1, LogCol::Action, "Pitched Yeast");
+        document->SetCurrentCell(R().gridLog, 1, LogCol::Notes);
+        document->ChangeYeast("Ale");
+    }
+    void ExpectUndoAndRedo(const std::string& before) {
+        const std::string after = State();
+        ASSERT_TRUE(document->Undo());
+        EXPECT_EQ(Differences(before, State()), "");
+        ASSERT_TRUE(document->Redo());
+        EXPECT_EQ(Differences(after, State()), "");
+    }
+};
+
+TEST_F(HistoryTest, TypingOnAfterLeavingIsStillTheSameStep) {
+    Set(R().txtBoilVol, "6 gal");
+    Set(R().txtBoilVol, "7 gal");
+    EXPECT_EQ(History().StackTop(), 1U);
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().txtBoilVol.Text(), "");
+}
+
+TEST_F(HistoryTest, AStepBetweenPartsTheTyping) {
+    Set(R().txtName, "A");
+    document->ChooseOption("optRager");
+    Set(R().txtName, "AB");
+    EXPECT_EQ(History().StackTop(), 3U);
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().txtName.Text(), "A");
+}
+
+TEST_F(HistoryTest, TypingInAnotherBoxIsAnotherStep) {
+    Set(R().txtName, "A");
+    Set(R().txtNotes, "B");
+    Set(R().txtName, "AB");
+    EXPECT_EQ(History().StackTop(), 3U);
+}
+
+TEST_F(HistoryTest, TypingDoesNotJoinWhatCanBeRedone) {
+    Set(R().txtName, "A");
+    document->ChooseOption("optRager");
+    ASSERT_TRUE(document->Undo());
+    // The typing before is not the last record, so that this begins a new one.
+    Set(R().txtName, "AB");
+    EXPECT_EQ(History().StackTop(), 2U);
+    EXPECT_FALSE(document->Redo());
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().txtName.Text(), "A");
+}
+
+TEST_F(HistoryTest, TypingBackTakesTheStepAway) {
+    Set(R().txtName, "A");
+    document->ChooseOption("optRager");
+    for (const char* text : {"AB", "ABC", "AB", "A"}) document->SetText(R().txtName, text);
+    EXPECT_EQ(History().StackTop(), 2U);
+    EXPECT_EQ(History().UndoType(), "Selection");
+    EXPECT_EQ(host.undoName, "Selection");
+}
+
+TEST_F(HistoryTest, ARefusedEntryIsBalancedByItsAbort) {
+    Set(R().txtBoilVol, "6");
+    document->FocusOn(R().txtBoilVol);
+    document->SetText(R().txtBoilVol, "much");
+    document->FocusOn(R().gridGrain);
+    EXPECT_EQ(R().txtBoilVol.Text(), "6");
+    EXPECT_EQ(History().StackTop(), 2U);
+    EXPECT_EQ(History().UndoType(), "Abort");
+    EXPECT_THAT(Boxes(), ElementsAre("[Invalid Entry] Please enter a valid volume"));
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().txtBoilVol.Text(), "much");
+    EXPECT_EQ(R().txtBoilVol.Value(), 6);
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().txtBoilVol.Text(), "");
+    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Redo());
+    EXPECT_EQ(R().txtBoilVol.Text(), "6");
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(HistoryTest, UndoWhileAWrongEntryStandsTakesTheEntryBack) {
+    Set(R().txtBoilVol, "6");
+    document->ChooseOption("optRager");
+    document->FocusOn(R().txtBoilVol);
+    for (const char* text : {"much", "1/0"}) {
+        document->SetText(R().txtBoilVol, text);
+        ASSERT_TRUE(document->Undo());
+        EXPECT_EQ(R().txtBoilVol.Text(), "6");
+        EXPECT_EQ(History().UndoType(), "Selection");
+        EXPECT_EQ(History().RedoType(), "Typing");
+        EXPECT_THAT(Boxes(), IsEmpty());
+        ASSERT_TRUE(document->Redo());
+        EXPECT_EQ(R().txtBoilVol.Text(), text);
+        EXPECT_EQ(R().txtBoilVol.Value(), 6);
+        ASSERT_TRUE(document->Undo());
+    }
+}
+
+TEST_F(HistoryTest, EscapeIsAnAbortInAFieldAndTypingInFreeText) {
+    Set(R().txtTemp, "68");
+    document->SetText(R().txtTemp, "6");
+    document->RestoreField(R().txtTemp);
+    EXPECT_EQ(History().UndoType(), "Abort");
+    Set(R().txtName, "A");
+    document->SetText(R().txtName, "AB");
+    document->RestoreField(R().txtName);
+    EXPECT_EQ(R().txtName.Text(), "A");
+    EXPECT_EQ(History().UndoType(), "Typing");
+}
+
+TEST_F(HistoryTest, AStepShowsItsTab) {
+    document->SetTab(Tab::Grains);
+    Put(R().gridGrain, 1, GrainCol::Amount, "8");
+    document->SetTab(Tab::Notes);
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(document->CurrentTab(), Tab::Grains);
+    document->SetTab(Tab::Log);
+    ASSERT_TRUE(document->Redo());
+    EXPECT_EQ(document->CurrentTab(), Tab::Grains);
+}
+
+TEST_F(HistoryTest, ACellStepSelectsItsCellAndItsCommands) {
+    host.appendRows = true;
+    document->SetTab(Tab::Grains);
+    document->InsertRowForGrid(R().gridGrain);
+    document->SetCurrentCell(R().gridGrain, 2, GrainCol::Color);
+    Put(R().gridGrain, 2, GrainCol::Color, "4");
+    document->SetCurrentCell(R().gridGrain, 3, 0);
+    ASSERT_FALSE(host.IsOn("EnableDelete"));
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().gridGrain.Selection(), (GridRange{2, GrainCol::Color, 2, GrainCol::Color}));
+    EXPECT_TRUE(host.IsOn("EnableDelete"));
+}
+
+TEST_F(HistoryTest, TheFirstRowOfAnEmptyGridGoes) {
+    document->InsertRowForGrid(R().gridAdjuncts);
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().gridAdjuncts.DataRows(), 0);
+    ASSERT_TRUE(document->Redo());
+    EXPECT_EQ(R().gridAdjuncts.DataRows(), 1);
+}
+
+TEST_F(HistoryTest, AnAppendedRowGoesWhateverTheSettingIsNow) {
+    host.appendRows = true;
+    document->InsertRowForGrid(R().gridGrain);
+    Put(R().gridGrain, 1, 0, "A");
+    Put(R().gridGrain, 2, 0, "B");
+    document->SetCurrentCell(R().gridGrain, 1, 0);
+    document->InsertRowForGrid(R().gridGrain);
+    host.appendRows = false;
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().gridGrain.Text(1, 0), "A");
+    EXPECT_EQ(R().gridGrain.Text(2, 0), "B");
+    ASSERT_TRUE(document->Redo());
+    EXPECT_EQ(R().gridGrain.Text(2, 0), "B");
+    EXPECT_EQ(R().gridGrain.Text(3, 0), "");
+}
+
+TEST_F(HistoryTest, TheLastRowDeletedComesBackBehindTheOthers) {
+    host.appendRows = true;
+    document->InsertRowForGrid(R().gridPriming);
+    Put(R().gridPriming, 1, 0, "A");
+    Put(R().gridPriming, 2, 0, "B");
+    const std::string before = State();
+    document->SetCurrentCell(R().gridPriming, 2, 0);
+    document->DeleteRowForGrid(R().gridPriming);
+    EXPECT_EQ(R().gridPriming.Text(2, 0), "Residual");
+    ExpectUndoAndRedo(before);
+}
+
+TEST_F(HistoryTest, AStyleGoesWithItsWater) {
+    Put(R().gridWater, WaterRow::Source, WaterCol::Profile, "Soft");
+    document->ChangeStyle("Stout");
+    document->ChangeStyle("Half Open");
+    const std::string before = State();
+    document->ChangeStyle("(None)");
+    EXPECT_EQ(R().gridWater.Text(WaterRow::Target, WaterCol::Profile), "");
+    EXPECT_EQ(History().StackTop(), 4U);
+    ExpectUndoAndRedo(before);
+    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().gridWater.Text(WaterRow::Target, WaterCol::FirstIon), "275");
+    EXPECT_EQ(R().cmbStyle.Text(), "Stout");
+}
+
+TEST_F(HistoryTest, EveryNameFromTheCatalogueIsOneSelection) {
+    struct Choice {
+        Grid& grid;
+        int col;
+        const char* name;
+        void (RecipeDocument::*choose)(std::string_view);
+    };
+    document->InsertRowForGrid(R().gridTreatment);
+    document->InsertRowForGrid(R().gridLog);
+    const Choice choices[] = {{R().gridGrain, 0, "O'Brien's", &RecipeDocument::ChangeGrain},
+                              {R().gridExtract, 0, "Syrup", &RecipeDocument::ChangeExtract},
+                              {R().gridHops, 0, "Zeus", &RecipeDocument::ChangeHop},
+                              {R().gridLog, 2, "Cook's", &RecipeDocument::ChangeYeast},
+                              {R().gridWater, 1, "Burton", &RecipeDocument::ChangeWater},
+                              {R().gridTreatment, 0, "Gypsum", &RecipeDocument::ChangeSalt},
+                              {R().gridPriming, 0, "Honey", &RecipeDocument::ChangeSugar}};
+    for (const Choice& choice : choices) {
+        document->SetCurrentCell(choice.grid, 1, 0);
+        const std::size_t steps = History().StackTop();
+        const std::string before = State();
+        (document.get()->*choice.choose)(choice.name);
+        EXPECT_EQ(choice.grid.Text(1, choice.col), choice.name);
+        EXPECT_EQ(History().StackTop(), steps + 1) << choice.name;
+        EXPECT_EQ(History().UndoType(), "Selection") << choice.name;
+        ExpectUndoAndRedo(before);
+    }
+    EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Ppg), "30");
+    EXPECT_EQ(R().gridTreatment.Number(1, TreatmentCol::FirstIon + 5), 147.4);
+}
+
+TEST_F(HistoryTest, ADayOfTheCalendarIsOneSelection) {
+    document->PickLogDate({2024, 3, 9});
+    EXPECT_FALSE(History().CanUndo());
+    document->InsertRowForGrid(R().gridLog);
+    document->PickLogDate({2024, 3, 9});
+    EXPECT_EQ(R().gridLog.Text(1, LogCol::Date), "3/9/2024");
+    EXPECT_EQ(History().UndoType(), "Selection");
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().gridLog.Text(1, LogCol::Date), "");
+}
+
+TEST_F(HistoryTest, TheGravityOfAYeastComesBackFinerThanItsText) {
+    Brew();
+    PitchYeast();
+    ASSERT_EQ(R().txtFG.Text(), "1.012");
+    const double gravity = R().txtFG.Value();
+    ASSERT_NE(gravity, 1.012);
+    const std::string before = State();
+    document->FocusOn(R().txtFG);
+    Set(R().txtFG, "1.020");
+    ExpectUndoAndRedo(before);
+    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().txtFG.Text(), "");
+    ASSERT_TRUE(document->Redo());
+    EXPECT_EQ(R().txtFG.Value(), gravity);
+}
+
+// The typed gravity reads the same as the one that the yeast gives, and yet is another number.
+TEST_F(HistoryTest, AYeastThatChangesNoTextGoesBackToTheTypedGravity) {
+    Brew();
+    Set(R().txtFG, "1.012");
+    const std::string before = State();
+    PitchYeast();
+    ASSERT_EQ(R().txtFG.Text(), "1.012");
+    ASSERT_NE(R().txtFG.Value(), 1.012);
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().txtFG.Value(), 1.012);
+    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(Differences(before, State()), "");
+}
+
+TEST_F(HistoryTest, AnEscapeKeepsTheGravityOfAYeast) {
+    Brew();
+    PitchYeast();
+    const std::string before = State();
+    document->FocusOn(R().txtFG);
+    document->SetText(R().txtFG, "1.02");
+    document->RestoreField(R().txtFG);
+    EXPECT_EQ(Differences(before, State()), "");
+    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Redo());
+    EXPECT_EQ(Differences(before, State()), "");
+}
+
+TEST_F(HistoryTest, TheTimeOfDryHopsKeepsItsNumber) {
+    Grid& hops = R().gridHops;
+    document->SetChecked(hops, 1, HopCol::DryHopped, true);
+    Put(hops, 1, HopCol::Time, "45");
+    ASSERT_EQ(hops.Number(1, HopCol::Time), 0);
+    const std::string before = State();
+    document->SetChecked(hops, 1, HopCol::DryHopped, false);
+    EXPECT_EQ(hops.Number(1, HopCol::Time), 45);
+    ExpectUndoAndRedo(before);
+}
+
+// A recipe from elsewhere may hold another number than its text tells.
+TEST_F(HistoryTest, ADeletedRowComesBackWithItsStoredNumbers) {
+    host.appendRows = true;
+    document->InsertRowForGrid(R().gridGrain);
+    document->InsertRowForGrid(R().gridTreatment);
+    Put(R().gridGrain, 1, GrainCol::Amount, "8 lb");
+    Put(R().gridGrain, 1, GrainCol::Ppg, "36");
+    Put(R().gridGrain, 1, GrainCol::Color, "2");
+    Put(R().gridTreatment, 1, TreatmentCol::Amount, "5");
+    SaveAs("Odd");
+    database->Execute("UPDATE RECIPE_GRAINS SET AMOUNT_DATA = 9 WHERE AMOUNT = '8 lb'");
+    database->Execute("UPDATE RECIPE_SALTS SET CA = 20");
+    Open("Odd");
+    ASSERT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 9);
+    const std::string before = State();
+    document->SetCurrentCell(R().gridGrain, 1, 0);
+    document->DeleteRowForGrid(R().gridGrain);
+    ExpectUndoAndRedo(before);
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 9);
+    document->SetCurrentCell(R().gridTreatment, 1, 0);
+    document->DeleteRowForGrid(R().gridTreatment);
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().gridTreatment.Number(1, TreatmentCol::FirstIon), 20);
+}
+
+TEST_F(HistoryTest, AStepMarksTheDocumentChanged) {
+    Set(R().txtName, "A");
+    document->ChooseOption("optKeg");
+    EXPECT_TRUE(document->Changed());
+    SaveAs("A");
+    EXPECT_FALSE(document->Changed());
+    EXPECT_FALSE(host.IsOn("EnableUndo"));
+    EXPECT_FALSE(document->Undo());
+    EXPECT_FALSE(document->Changed());
+}
+
+}  // namespace
+}  // namespace tw::test

@@ -1,0 +1,447 @@
+// Resizing, strength, bitterness and carbonation of a whole recipe, with figures worked out by hand.
+#include "DocumentState.h"
+#include "DocumentTest.h"
+
+namespace tw::test {
+namespace {
+
+class Scaling : public DocumentTest {
+  protected:
+    Scaling() {
+        host.askBefore = false;
+        New();
+        Set(R().txtTotalVol, "5 gal");
+        Set(R().txtBoilVol, "5 gal");
+        Set(R().txtExtract, "40%");
+        // 10 * 36 * 0.4 / 5 = 28.8 points
+        Put(R().gridGrain, 1, GrainCol::Amount, "10 lb");
+        Put(R().gridGrain, 1, GrainCol::Ppg, "36");
+    }
+    // A row of so many IBUs, which no volume or gravity moves.
+    void AddIbus(std::string_view amount) {
+        Put(R().gridHops, 1, HopCol::Amount, amount);
+        Put(R().gridHops, 1, HopCol::Time, "60");
+    }
+    // At 68 degrees the beer holds 3.0378 - 0.050062 * 68 + 0.00026555 * 68^2 = 0.8614872 volumes.
+    void Prime(std::string_view fermentable, std::string_view amount) {
+        Set(R().txtTemp, "68 F");
+        Put(R().gridPriming, 1, PrimingCol::Fermentable, fermentable);
+        Put(R().gridPriming, 1, PrimingCol::Amount, amount);
+    }
+    void AnswerQuestions(std::vector<const char*> buttons) {
+        host.askBefore = true;
+        for (const char* button : buttons)
+            platform.dialogs.scripts.push_back([button](DialogModel& dialog) { dialog.Press(button); });
+    }
+    // Changed, the history emptied, the commands refreshed.
+    void ExpectEnding() {
+        EXPECT_TRUE(document->Changed());
+        EXPECT_TRUE(host.IsOn("EnableSave"));
+        EXPECT_FALSE(host.IsOn("EnableUndo"));
+        EXPECT_FALSE(host.IsOn("EnableRedo"));
+        EXPECT_FALSE(document->Undo());
+    }
+    DocumentState State() { return StateOf(*document, host); }
+    const std::string& Grain() { return R().gridGrain.Text(1, GrainCol::Amount); }
+    const std::string& Sugar() { return R().gridPriming.Text(1, PrimingCol::Amount); }
+    const std::string& Hops(int row = 1) { return R().gridHops.Text(row, HopCol::Amount); }
+};
+
+TEST_F(Scaling, WithoutAYesNothingHappens) {
+    AddIbus("20 IBU");
+    Prime("100", "4 oz");
+    SaveAs("As It Was");
+    const DocumentState before = State();
+    AnswerQuestions({"cmdNo", "cmdNo", "cmdNo", "cmdNo"});
+    document->ScaleRecipe(10, "10 gal", true, true);
+    document->ScaleOG(1.06, false);
+    document->ScaleIBU(40);
+    document->ScaleCO2(3, false);
+    EXPECT_EQ(platform.dialogs.shown, Log(4, "frmCannotUndo"));
+    EXPECT_EQ(State(), before);
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(Scaling, AYesToAllOfThemIsAskedForOnce) {
+    host.askBefore = true;
+    platform.dialogs.scripts.push_back([](DialogModel& dialog) {
+        dialog.SetControl("chkDontShow", "yes");
+        dialog.Press("cmdYes");
+    });
+    Prime("100", "4 oz");
+    document->ScaleRecipe(10, "10", false, false);
+    document->ScaleOG(1.03, false);
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(Sugar(), "8 oz.");
+}
+
+TEST_F(Scaling, EndsTheHistoryAndMarksTheRecipe) {
+    SaveAs("Once");
+    Put(R().gridGrain, 1, GrainCol::Color, "3");
+    document->Undo();
+    EXPECT_TRUE(host.IsOn("EnableRedo"));
+    document->ScaleRecipe(10, "10 gal", false, false);
+    ExpectEnding();
+    EXPECT_EQ(Grain(), "20 lbs.");
+    SaveAs("Twice");
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(Scaling, TextsThatItWritesAreCommitted) {
+    Set(R().txtFinalVol, "4.5");
+    document->ScaleRecipe(10, "40 qt", true, false);
+    for (TextBox* box : {&R().txtTotalVol, &R().txtBoilVol, &R().txtFinalVol})
+        EXPECT_EQ(box->Committed(), box->Text());
+    EXPECT_EQ(R().txtTotalVol.Text(), "40 qt");
+    EXPECT_EQ(R().txtTotalVol.Value(), 10);
+    EXPECT_EQ(R().txtBoilVol.Text(), "10 gal.");
+    EXPECT_EQ(R().txtFinalVol.Text(), "10.5 gal.");
+}
+
+TEST_F(Scaling, LeavesPercentagesAndPpgAlone) {
+    Put(R().gridHops, 1, HopCol::AlphaAcid, "5%");
+    Prime("75%", "4 oz");
+    document->ScaleRecipe(10, "10", true, false);
+    EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Ppg), "36");
+    EXPECT_EQ(R().gridHops.Text(1, HopCol::AlphaAcid), "5%");
+    EXPECT_EQ(R().gridPriming.Text(1, PrimingCol::Fermentable), "75%");
+    EXPECT_EQ(R().txtExtract.Text(), "40%");
+}
+
+// 10 / 3 = 3.333...
+TEST_F(Scaling, WhatIsShownIsWhatIsKept) {
+    document->ScaleRecipe(5.0 / 3, "1 2/3 gal", true, false);
+    EXPECT_EQ(Grain(), "3.33 lbs.");
+    EXPECT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 3.33);
+    EXPECT_EQ(R().gridGrain.Text(2, GrainCol::Amount), "3.33 lbs.");
+    EXPECT_EQ(R().txtBoilVol.Text(), "1.67 gal.");
+    EXPECT_EQ(R().txtBoilVol.Value(), 1.67);
+}
+
+TEST_F(Scaling, AFinalVolumeOfTheOldSizeTakesTheNewText) {
+    Set(R().txtFinalVol, "20 qt");
+    document->ScaleRecipe(10, "10 gallons", false, false);
+    EXPECT_EQ(R().txtFinalVol.Text(), "10 gallons");
+    EXPECT_EQ(R().txtFinalVol.Value(), 10);
+}
+
+// Intended: what was gained between the two goes off the new size.
+TEST_F(Scaling, AFinalVolumeAboveTheOldSizeEndsBelowTheNewOne) {
+    Set(R().txtFinalVol, "6");
+    document->ScaleRecipe(10, "10", false, false);
+    EXPECT_EQ(R().txtFinalVol.Text(), "9 gal.");
+}
+
+TEST_F(Scaling, BlankRowsStayBlank) {
+    document->InsertRowForGrid(R().gridHops);
+    document->InsertRowForGrid(R().gridTreatment);
+    document->ScaleRecipe(10, "10", false, false);
+    EXPECT_EQ(Hops(1), "");
+    EXPECT_EQ(Hops(2), "");
+    EXPECT_EQ(R().gridTreatment.Text(1, TreatmentCol::Amount), "");
+    EXPECT_EQ(R().gridExtract.Text(1, GrainCol::Amount), "");
+    EXPECT_EQ(R().gridExtract.Text(2, GrainCol::Amount), "");
+}
+
+TEST_F(Scaling, WithoutAVolumeThereIsNoResize) {
+    SaveAs("Whole");
+    Set(R().txtTotalVol, "");
+    const DocumentState before = State();
+    EXPECT_TRUE(host.IsOn("EnableUndo"));
+    document->ScaleRecipe(10, "10", false, false);
+    EXPECT_EQ(State(), before);
+    EXPECT_TRUE(host.IsOn("EnableUndo"));
+}
+
+// Intended: hops that round to nothing end the operation before its ending; the change is there, but neither
+// marked nor put into the history.
+TEST_F(Scaling, StopsUnmarkedWhenNoBitternessIsLeft) {
+    AddIbus("0.01 IBU");
+    SaveAs("Faint");
+    Put(R().gridGrain, 1, GrainCol::Color, "3");
+    document->Undo();
+    SaveAs("Faint");
+    document->ScaleRecipe(1, "1 gal", false, true);
+    EXPECT_EQ(Hops(), "0 IBUs");
+    EXPECT_EQ(R().txtTotalVol.Text(), "1 gal");
+    EXPECT_EQ(Grain(), "2 lbs.");
+    EXPECT_FALSE(document->Changed());
+}
+
+// The carbonation went through by itself then, and ends as every one does.
+TEST_F(Scaling, IsMarkedByItsCarbonationWhenNoBitternessIsLeft) {
+    AddIbus("0.01 IBU");
+    Prime("100", "4 oz");
+    SaveAs("Faint");
+    document->ScaleRecipe(1, "1 gal", false, true);
+    EXPECT_EQ(Hops(), "0 IBUs");
+    EXPECT_EQ(Sugar(), "0.8 oz.");
+    ExpectEnding();
+}
+
+TEST_F(Scaling, HoldsTheCarbonationOfABottledBeer) {
+    Prime("100", "4 oz");
+    // 4 * 0.27027 / (5 * 0.133) + 0.8615
+    EXPECT_EQ(R().txtCO2.Text(), "2.49 volumes");
+    document->ScaleRecipe(10, "10 gal", false, false);
+    EXPECT_EQ(Sugar(), "8 oz.");
+    EXPECT_EQ(R().txtCO2.Text(), "2.49 volumes");
+}
+
+TEST_F(Scaling, ANoToTheSecondQuestionSkipsTheCarbonationAlone) {
+    Prime("100", "4 oz");
+    AnswerQuestions({"cmdYes", "cmdNo"});
+    document->ScaleRecipe(10, "10 gal", false, false);
+    EXPECT_EQ(platform.dialogs.shown, Log(2, "frmCannotUndo"));
+    EXPECT_EQ(Grain(), "20 lbs.");
+    EXPECT_EQ(Sugar(), "4 oz");
+    ExpectEnding();
+}
+
+// Whatever comes while a question is open, such as an autosave, meets the recipe as it was.
+TEST_F(Scaling, BothQuestionsComeBeforeAnythingChanges) {
+    Prime("100", "4 oz");
+    const DocumentState before = State();
+    host.askBefore = true;
+    for (int i = 0; i < 2; ++i)
+        platform.dialogs.scripts.push_back([&](DialogModel& dialog) {
+            EXPECT_EQ(State(), before);
+            dialog.Press("cmdYes");
+        });
+    document->ScaleRecipe(10, "10 gal", false, false);
+    EXPECT_EQ(platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(Sugar(), "8 oz.");
+}
+
+TEST_F(Scaling, WithoutACarbonationThereIsNoSecondQuestion) {
+    AnswerQuestions({"cmdYes"});
+    document->ScaleRecipe(10, "10 gal", false, false);
+    EXPECT_EQ(platform.dialogs.shown, Log(1, "frmCannotUndo"));
+    EXPECT_EQ(Grain(), "20 lbs.");
+}
+
+TEST_F(Scaling, StrengthStopsAtWater) {
+    Put(R().gridGrain, 1, GrainCol::Ppg, "0");
+    SaveAs("Water");
+    EXPECT_EQ(R().txtOG.Value(), 1);
+    const DocumentState before = State();
+    document->ScaleOG(1.05, true);
+    EXPECT_EQ(State(), before);
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(Scaling, StrengthDownToWaterEmptiesTheMash) {
+    document->ScaleOG(1, false);
+    EXPECT_EQ(Grain(), "0 lbs.");
+    EXPECT_EQ(R().txtOG.Text(), "1.000");
+    ExpectEnding();
+}
+
+TEST_F(Scaling, TheSameStrengthIsAChangeToo) {
+    SaveAs("Same");
+    Put(R().gridGrain, 1, GrainCol::Color, "3");
+    document->ScaleOG(R().txtOG.Value(), false);
+    EXPECT_EQ(Grain(), "10 lbs.");
+    ExpectEnding();
+}
+
+TEST_F(Scaling, BitternessStopsAtNone) {
+    AddIbus("0 IBU");
+    SaveAs("Gruit");
+    document->ScaleIBU(30);
+    EXPECT_EQ(Hops(), "0 IBU");
+    EXPECT_FALSE(document->Changed());
+}
+
+// A number that the text does not tell scales as the number that counts.
+TEST_F(Scaling, BitternessScalesFromTheFullFigure) {
+    AddIbus("16.4 IBU");
+    EXPECT_EQ(R().txtIBU.Text(), "16");
+    document->ScaleIBU(32.8);
+    EXPECT_EQ(Hops(), "32.8 IBUs");
+    EXPECT_EQ(R().gridHops.At(1, HopCol::Amount).value, (CellValue{CellValue::Kind::BitternessUnits, 32.8}));
+    ExpectEnding();
+}
+
+TEST_F(Scaling, TheTotalOfTheHopsFollowsTheirKind) {
+    AddIbus("2 AAU");
+    document->ScaleIBU(R().txtIBU.Value() * 3);
+    EXPECT_EQ(Hops(1), "6 AAUs");
+    EXPECT_EQ(Hops(2), "6 AAUs");
+    EXPECT_EQ(R().gridHops.At(1, HopCol::Amount).value, (CellValue{CellValue::Kind::AlphaAcidUnits, 6}));
+}
+
+// (2.5 - 0.8614872) / 1.6256842 * 4 = 4.03156...
+TEST_F(Scaling, CarbonationScalesAllSugars) {
+    Prime("100", "3 oz");
+    document->SetCurrentCell(R().gridPriming, 1, 0);
+    document->InsertRowForGrid(R().gridPriming);
+    Put(R().gridPriming, 1, PrimingCol::Fermentable, "50");
+    Put(R().gridPriming, 1, PrimingCol::Amount, "2 oz");
+    document->InsertRowForGrid(R().gridPriming);
+    Put(R().gridPriming, 1, PrimingCol::Amount, "0 oz");
+    document->ScaleCO2(2.5, false);
+    // (2.5 - 0.8614872) / (4 * 0.27027 / 0.665) = 1.00789
+    EXPECT_EQ(R().gridPriming.Text(1, PrimingCol::Amount), "0 oz");
+    EXPECT_EQ(R().gridPriming.Text(2, PrimingCol::Amount), "2.02 oz.");
+    EXPECT_EQ(R().gridPriming.Text(3, PrimingCol::Amount), "3.02 oz.");
+    EXPECT_EQ(R().gridPriming.Number(3, PrimingCol::Amount), 3.02);
+    ExpectEnding();
+}
+
+TEST_F(Scaling, CarbonationOfExactlyWhatIsLeftTakesAllSugarAway) {
+    Prime("100", "4 oz");
+    document->ScaleCO2(R().gridPriming.Number(2, PrimingCol::Volumes), false);
+    EXPECT_EQ(Sugar(), "0 oz.");
+    EXPECT_EQ(R().txtCO2.Text(), "0.86 volumes");
+}
+
+TEST_F(Scaling, CarbonationBelowWhatIsLeftIsImpossible) {
+    Prime("100", "4 oz");
+    SaveAs("Bubbles");
+    const DocumentState before = State();
+    document->ScaleCO2(0.86, false);
+    EXPECT_EQ(Boxes(), Log{"[Error] Desired carbonation impossible with the given temperature.\r\n"
+                           "Try again with a higher value."});
+    document->ScaleCO2(0.86, true);
+    EXPECT_EQ(Boxes(), Log{});
+    EXPECT_EQ(State(), before);
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(Scaling, CarbonationWithoutAFermentableSugarIsImpossible) {
+    Prime("0%", "");
+    document->ScaleCO2(2.5, false);
+    EXPECT_EQ(Boxes(), Log{"[Error] Desired carbonation impossible. Please specify Fermentable% value\r\n"
+                           "for at least one priming sugar."});
+    document->ScaleCO2(2.5, true);
+    EXPECT_EQ(Boxes(), Log{});
+    EXPECT_EQ(Sugar(), "");
+}
+
+// (2.5 - 0.8614872) / 0.27027 * 0.133 * 5 * 100 / 80 = 5.0395 in 5 gallons.
+TEST_F(Scaling, CarbonationFillsTheFirstSugarThatFerments) {
+    Prime("0%", "");
+    document->SetCurrentCell(R().gridPriming, 2, 0);
+    host.appendRows = true;
+    document->InsertRowForGrid(R().gridPriming);
+    Put(R().gridPriming, 2, PrimingCol::Fermentable, "80");
+    document->ScaleCO2(2.5, false);
+    EXPECT_EQ(R().gridPriming.Text(1, PrimingCol::Amount), "");
+    EXPECT_EQ(R().gridPriming.Text(2, PrimingCol::Amount), "5.04 oz.");
+    EXPECT_EQ(R().txtCO2.Text(), "2.50 volumes");
+}
+
+TEST_F(Scaling, CarbonationIsThatOfTheFinalVolume) {
+    Prime("80%", "");
+    Set(R().txtFinalVol, "10 gal");
+    document->ScaleCO2(2.5, false);
+    EXPECT_EQ(Sugar(), "10.08 oz.");
+}
+
+class KegScaling : public Scaling {
+  protected:
+    KegScaling() {
+        Set(R().txtTemp, "38 F");
+        document->ChooseOption("optKeg");
+    }
+    const std::string& Pressure() { return R().gridPressure.Text(1, PressureCol::Pressure); }
+};
+
+// 11.246 psi; the rounded one gives 2.5004 volumes.
+TEST_F(KegScaling, CarbonationSetsThePressure) {
+    document->ScaleCO2(2.5, false);
+    EXPECT_EQ(Pressure(), "11.25 psi");
+    EXPECT_EQ(R().gridPressure.Number(1, PressureCol::Pressure), 11.25);
+    EXPECT_NEAR(R().gridPressure.Number(1, PressureCol::Volumes), 2.500365, 1e-6);
+    EXPECT_EQ(R().txtCO2.Text(), "2.50 volumes");
+    ExpectEnding();
+}
+
+TEST_F(KegScaling, ANegativePressureIsImpossible) {
+    Put(R().gridPressure, 1, PressureCol::Pressure, "11 psi");
+    SaveAs("Keg");
+    document->ScaleCO2(1, false);
+    EXPECT_EQ(Boxes(), Log{"[Error] Desired carbonation impossible with the given temperature.\r\n"
+                           "Try again with a higher value."});
+    EXPECT_EQ(Pressure(), "11 psi");
+    EXPECT_FALSE(document->Changed());
+}
+
+// At 60 degrees the pressure rises up to 107.0108 volumes, with 770.4162 psi; the 770.42 that would be shown
+// belong to no volumes any more.
+TEST_F(KegScaling, APressureBeyondTheCurveIsRefusedAsWhenItIsTyped) {
+    Set(R().txtTemp, "60 F");
+    const DocumentState before = State();
+    document->ScaleCO2(107.0108, false);
+    EXPECT_EQ(Boxes(), Log{"[Error calculating carbonation] Please enter a more reasonable pressure."});
+    document->ScaleCO2(107.0108, true);
+    EXPECT_EQ(Boxes(), Log{});
+    EXPECT_EQ(Differences(before.all, State().all), "");
+    EXPECT_TRUE(host.IsOn("EnableUndo"));
+}
+
+TEST_F(KegScaling, ResizingHoldsThePressure) {
+    Put(R().gridPressure, 1, PressureCol::Pressure, "11.25 psi");
+    document->ScaleRecipe(10, "10 gal", false, false);
+    EXPECT_EQ(Pressure(), "11.25 psi");
+    EXPECT_EQ(R().txtCO2.Text(), "2.50 volumes");
+}
+
+class FaultyScaling : public Scaling {
+  protected:
+    void ExpectFault(int number, const std::function<void()>& scale) {
+        const DocumentState before = State();
+        EXPECT_TRUE(host.IsOn("EnableUndo"));
+        try {
+            scale();
+            FAIL() << "no fault";
+        } catch (const Error& error) {
+            EXPECT_EQ(error.Number(), number);
+        }
+        EXPECT_EQ(Differences(before.all, State().all), "");
+        EXPECT_TRUE(document->Undo());
+    }
+};
+
+TEST_F(FaultyScaling, AmountsBeyondANumberLeaveAllAsBefore) {
+    AddIbus("0.5 IBU");
+    ExpectFault(kOverflowNumber, [&] { document->ScaleRecipe(1e308, "huge", true, true); });
+    ExpectFault(kOverflowNumber, [&] { document->ScaleOG(1e308, false); });
+    ExpectFault(kOverflowNumber, [&] { document->ScaleIBU(1e308); });
+}
+
+// A boil volume that rounds to nothing leaves no boil gravity: the change is taken back halfway through.
+TEST_F(FaultyScaling, ABoilOfNothingLeavesAllAsBefore) {
+    ExpectFault(kDivisionByZeroNumber, [&] { document->ScaleRecipe(0.001, "0.001", true, false); });
+}
+
+// The second question has been answered with yes by then.
+TEST_F(FaultyScaling, AFaultBehindTheCarbonationKeepsTheHistory) {
+    Prime("100", "4 oz");
+    AnswerQuestions({"cmdYes", "cmdYes"});
+    ExpectFault(kDivisionByZeroNumber, [&] { document->ScaleRecipe(0.001, "0.001", true, false); });
+    EXPECT_EQ(platform.dialogs.shown.size(), 2u);
+}
+
+TEST_F(Scaling, HoldsTheWindowUntilItIsDone) {
+    class View : public DocumentView {
+      public:
+        bool FlushEditors() override { return true; }
+        void HoldRedraw(bool hold) override {
+            holds += hold ? 1 : -1;
+            most = std::max(most, holds);
+        }
+        int holds = 0, most = 0;
+    } view;
+    document->SetView(&view);
+    document->ScaleRecipe(10, "10 gal", false, false);
+    EXPECT_EQ(view.holds, 0);
+    EXPECT_EQ(view.most, 1);
+    EXPECT_THROW(document->ScaleRecipe(1e308, "huge", false, false), Error);
+    EXPECT_EQ(view.holds, 0);
+    document->SetView(nullptr);
+}
+
+}  // namespace
+}  // namespace tw::test

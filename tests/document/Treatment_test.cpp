@@ -1,0 +1,339 @@
+// The treatment calculation on a document: its rows, its one step of the history, its boxes. The catalogue's
+// salts are gypsum (61.5 of calcium, 147.4 of sulfate) and chalk (105.8 of calcium, 158.4 of carbonate).
+#include "water/Treatment.h"
+
+#include <random>
+
+#include "DocumentState.h"
+#include "DocumentTest.h"
+#include "values/NumberText.h"
+
+namespace tw::test {
+namespace {
+
+class TreatmentOf : public DocumentTest {
+  protected:
+    TreatmentOf() {
+        New();
+        Set(R().txtTotalVol, "5 gal");
+    }
+    void Need(const IonNumbers& ppm) {
+        for (int ion = 0; ion < kIons; ++ion)
+            Put(R().gridWater, WaterRow::Target, WaterCol::FirstIon + ion,
+                NumberText(ppm[static_cast<std::size_t>(ion)]));
+    }
+    void AddSalt(const std::string& name, const IonNumbers& ions) {
+        std::string numbers;
+        for (const double ion : ions) numbers += ", " + NumberText(ion);
+        database->Execute("INSERT INTO SALTS (NAME, CA, CO3, CL, MG, NA, SO4) VALUES (" + SqlText(name) +
+                          numbers + ")");
+    }
+    // Name and amount of each row.
+    Log Rows() {
+        Log rows;
+        const Grid& grid = R().gridTreatment;
+        for (int row = 1; row < grid.Rows(); ++row)
+            rows.push_back(grid.Text(row, TreatmentCol::Name) + " " + grid.Text(row, TreatmentCol::Amount));
+        return rows;
+    }
+    DocumentState State() { return StateOf(*document, host); }
+    void AddRow(std::string_view name, std::string_view amount) {
+        Grid& grid = R().gridTreatment;
+        document->InsertRowForGrid(grid);
+        Put(grid, grid.CurrentRow(), TreatmentCol::Name, name);
+        Put(grid, grid.CurrentRow(), TreatmentCol::Amount, amount);
+    }
+};
+
+// One gram of gypsum a gallon gives 61.5 of calcium and 147.4 of sulfate; half a gram of chalk adds 52.9
+// and 79.2.
+TEST_F(TreatmentOf, GivesEachSaltItsGramsForTheBatch) {
+    Need({114.4, 79.2, 0, 0, 0, 147.4});
+    document->CalcTreatment();
+    EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
+    EXPECT_EQ(R().gridTreatment.Number(2, TreatmentCol::Amount), 2.5);
+    EXPECT_EQ(R().gridTreatment.Number(2, TreatmentCol::FirstIon), 105.8);
+    EXPECT_EQ(R().gridTreatment.Text(2, TreatmentCol::FirstIon), "52.9");
+    EXPECT_EQ(R().gridWater.Text(WaterRow::Totals, WaterCol::FirstIon), "114.4");
+    EXPECT_TRUE(R().gridWater.At(WaterRow::Totals, WaterCol::FirstIon).bold);
+    EXPECT_TRUE(document->Changed());
+    EXPECT_EQ(Boxes(), Log{});
+}
+
+// 100 / 147.4 * 5 = 3.39213...
+TEST_F(TreatmentOf, RoundsGramsToThreePlaces) {
+    Need({61.5, 0, 0, 0, 0, 100});
+    document->CalcTreatment();
+    EXPECT_EQ(Rows(), Log{"Gypsum 3.392 grams"});
+    EXPECT_EQ(R().gridTreatment.Number(1, TreatmentCol::Amount), 3.392);
+}
+
+TEST_F(TreatmentOf, TakesTheOldRowsAwayAndBringsThemBackInOneStep) {
+    AddRow("Chalk", "9 g");
+    AddRow("Nothing known", "");
+    AddRow("Gypsum", "1 g");
+    Need({61.5, 0, 0, 0, 0, 147.4});
+    const DocumentState before = State();
+    document->CalcTreatment();
+    const DocumentState after = State();
+    EXPECT_EQ(Rows(), Log{"Gypsum 5 grams"});
+    EXPECT_EQ(host.undoName, "Calculation");
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(Differences(before.all, State().all), "");
+    EXPECT_EQ(host.redoName, "Calculation");
+    ASSERT_TRUE(document->Redo());
+    EXPECT_EQ(Differences(after.all, State().all), "");
+}
+
+TEST_F(TreatmentOf, IsOneStepAlsoWhereTheGridWasAndStaysEmpty) {
+    const auto steps = [&] {
+        int count = 0;
+        while (document->Undo()) ++count;
+        while (document->Redo()) continue;
+        return count;
+    };
+    const int before = steps();
+    document->CalcTreatment();
+    EXPECT_EQ(Rows(), Log{});
+    EXPECT_EQ(host.undoName, "Calculation");
+    EXPECT_EQ(steps(), before + 1);
+}
+
+TEST_F(TreatmentOf, NeedsATotalVolume) {
+    Need({61.5, 0, 0, 0, 0, 147.4});
+    AddRow("Chalk", "9 g");
+    Set(R().txtTotalVol, "");
+    EXPECT_FALSE(R().cmdCalcTreatment.Enabled());
+    document->CalcTreatment();
+    EXPECT_EQ(Rows(), Log{"Chalk 9 g"});
+    Set(R().txtTotalVol, "  ");
+    EXPECT_FALSE(R().cmdCalcTreatment.Enabled());
+    Set(R().txtTotalVol, "19 l");
+    EXPECT_TRUE(R().cmdCalcTreatment.Enabled());
+}
+
+TEST_F(TreatmentOf, ALoadedRecipeHasItsButtonByItsVolume) {
+    SaveAs("Five");
+    Set(R().txtTotalVol, "");
+    SaveAs("None");
+    Open("Five");
+    EXPECT_TRUE(R().cmdCalcTreatment.Enabled());
+    Open("None");
+    EXPECT_FALSE(R().cmdCalcTreatment.Enabled());
+}
+
+TEST_F(TreatmentOf, SaysThatThereAreNoSalts) {
+    AddRow("Chalk", "9 g");
+    database->Execute("DELETE FROM SALTS");
+    const DocumentState before = State();
+    const std::string undoName = host.undoName;
+    document->CalcTreatment();
+    EXPECT_EQ(Boxes(),
+              Log{"[Could not setup Linear Program] Not enough data to calculate water treatment.\r\n"
+                  "Check Salts tab of Database Setup"});
+    EXPECT_EQ(State(), before);
+    EXPECT_EQ(host.undoName, undoName);
+}
+
+// A salt of nothing has no most grams, and a trace of rounding keeps the other program from a solution.
+TEST_F(TreatmentOf, SaysThatNoProgramHasASolution) {
+    database->Execute("DELETE FROM SALTS");
+    AddSalt("Odd", {27.6, 0, 10.4, 36.4, 29.4, 2.1});
+    AddSalt("Nothing", {});
+    AddRow("Chalk", "9 g");
+    Need({0, 254.2, 0, 241.9, 0, 0});
+    const DocumentState before = State();
+    document->CalcTreatment();
+    EXPECT_EQ(Boxes(), Log{"[Could not solve Linear Program] Water Treatment Calculation failed"});
+    EXPECT_EQ(State(), before);
+    EXPECT_NE(host.undoName, "Calculation");
+}
+
+// The source holds more of everything than the target.
+TEST_F(TreatmentOf, ANegativeNeedCountsAsNone) {
+    Put(R().gridWater, WaterRow::Source, WaterCol::FirstIon, "200");
+    Need({61.5, 0, 0, 0, 0, 147.4});
+    EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, WaterCol::FirstIon), "-138.5");
+    document->CalcTreatment();
+    EXPECT_EQ(Rows(), Log{});
+}
+
+TEST_F(TreatmentOf, LeavesOutWhatIsBelowAThousandthOfAGramForTheBatch) {
+    database->Execute("DELETE FROM SALTS");
+    AddSalt("Strong", {1000, 0, 0, 0, 0, 0});
+    Need({0.18, 0, 0, 0, 0, 0});
+    // 0.00018 g a gallon: 0.0009 g in 5 gallons, 0.0018 in 10.
+    document->CalcTreatment();
+    EXPECT_EQ(Rows(), Log{});
+    Set(R().txtTotalVol, "10 gal");
+    document->CalcTreatment();
+    EXPECT_EQ(Rows(), Log{"Strong 0.002 grams"});
+}
+
+TEST_F(TreatmentOf, PutsRowsInTheOrderOfTheSaltsWhereverNewRowsGo) {
+    Need({114.4, 79.2, 0, 0, 0, 147.4});
+    host.appendRows = true;
+    document->CalcTreatment();
+    EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
+    document->Undo();
+    EXPECT_EQ(Rows(), Log{});
+    document->Redo();
+    EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
+    EXPECT_TRUE(host.appendRows);
+}
+
+TEST_F(TreatmentOf, KeepsToTheLimitOfTheSettings) {
+    Need({114.4, 79.2, 0, 0, 0, 147.4});
+    host.lpMaxIter = 0;
+    document->CalcTreatment();
+    // Both programs stop behind their first step: gypsum by 114.4 / 61.5 is more than sulfate allows, 1 is
+    // left.
+    EXPECT_EQ(Rows(), Log{"Gypsum 5 grams"});
+    host.lpMaxIter = 1000;
+    document->CalcTreatment();
+    EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
+}
+
+TEST_F(TreatmentOf, LightsDeleteOnItsTab) {
+    document->SetTab(Tab::Water);
+    Need({114.4, 79.2, 0, 0, 0, 147.4});
+    EXPECT_FALSE(host.IsOn("EnableDelete"));
+    document->CalcTreatment();
+    EXPECT_TRUE(host.IsOn("EnableDelete"));
+    Need({});
+    document->CalcTreatment();
+    EXPECT_FALSE(host.IsOn("EnableDelete"));
+}
+
+class FaultyTreatment : public TreatmentOf {
+  protected:
+    // Everything is as before, the step that could be redone included.
+    void ExpectFault(int number) {
+        AddRow("Chalk", "9 g");
+        Put(R().gridTreatment, 1, TreatmentCol::Amount, "8 g");
+        document->Undo();
+        const DocumentState before = State();
+        const std::string undoName = host.undoName;
+        try {
+            document->CalcTreatment();
+            FAIL() << "no fault";
+        } catch (const Error& error) {
+            EXPECT_EQ(error.Number(), number);
+        }
+        EXPECT_EQ(Differences(before.all, State().all), "");
+        EXPECT_EQ(host.undoName, undoName);
+        EXPECT_TRUE(document->Redo());
+        EXPECT_EQ(Rows(), Log{"Chalk 8 g"});
+    }
+};
+
+TEST_F(FaultyTreatment, OfTheSolverChangesNothing) {
+    database->Execute("DELETE FROM SALTS");
+    AddSalt("One", {1e300, 1e-300, 0, 0, 0, 0});
+    AddSalt("Two", {1e-300, 1e300, 1e300, 0, 0, 0});
+    Need({1e300, 1e300, 1, 0, 0, 0});
+    ExpectFault(kOverflowNumber);
+}
+
+// The doses are sound, but the grams for such a batch are not.
+TEST_F(FaultyTreatment, OfTheGramsChangesNothing) {
+    database->Execute("DELETE FROM SALTS");
+    AddSalt("Weak", {1e-300, 0, 0, 0, 0, 0});
+    Need({1, 0, 0, 0, 0, 0});
+    Set(R().txtTotalVol, "1" + std::string(20, '0'));
+    ExpectFault(kOverflowNumber);
+}
+
+// The grams of the second salt are sound, 1e306, but not what they add before it is divided by the volume:
+// the row of the first one goes again.
+TEST_F(FaultyTreatment, OfARowTakesTheOthersBack) {
+    database->Execute("DELETE FROM SALTS");
+    AddSalt("One", {0, 1, 0, 0, 0, 0});
+    AddSalt("Two", {1000, 0, 0, 0, 0, 0});
+    Need({1e305, 1, 0, 0, 0, 0});
+    Set(R().txtTotalVol, "10000");
+    ExpectFault(kOverflowNumber);
+}
+
+// Any salts and waters: the rows are what the programs say, and one step back and forth is exact.
+TEST_F(TreatmentOf, GoesBackAndForthOnRandomWaters) {
+    std::mt19937 random(7);
+    const auto below = [&](unsigned limit) { return static_cast<double>(random() % limit); };
+    const auto ions = [&](unsigned limit) {
+        IonNumbers numbers{};
+        for (double& number : numbers) number = random() % 3 > 0 ? below(limit * 10) / 10 : 0;
+        return numbers;
+    };
+    int rowsSeen = 0;
+    for (int round = 0; round < 300; ++round) {
+        database->Execute("DELETE FROM SALTS");
+        std::vector<IonNumbers> salts;
+        for (unsigned i = 0; i < 1 + round % 6u; ++i) {
+            salts.push_back(ions(200));
+            AddSalt("Salt " + std::to_string(i), salts.back());
+        }
+        Set(R().txtTotalVol, NumberText(1 + below(20)));
+        Need(ions(300));
+        IonNumbers needed{};
+        for (std::size_t ion = 0; ion < needed.size(); ++ion)
+            needed[ion] = R().gridWater.Number(WaterRow::Needed, WaterCol::FirstIon + static_cast<int>(ion));
+        const auto doses = FindDoses(needed, salts, host.lpMaxIter);
+        const DocumentState before = State();
+        document->CalcTreatment();
+        if (!doses) {
+            EXPECT_EQ(Boxes().size(), 1u);
+            EXPECT_EQ(State(), before);
+            continue;
+        }
+        Log wanted;
+        for (std::size_t i = 0; i < salts.size(); ++i) {
+            double grams = (*doses)[i] * R().txtTotalVol.Value();
+            if (grams < 0.001) continue;
+            const std::string text = FormatQuantity(grams, 3);
+            wanted.push_back("Salt " + std::to_string(i) + " " + text + " grams");
+            EXPECT_EQ(R().gridTreatment.Number(static_cast<int>(wanted.size()), TreatmentCol::Amount), grams);
+        }
+        ASSERT_EQ(Rows(), wanted) << round;
+        rowsSeen += static_cast<int>(wanted.size());
+        const DocumentState after = State();
+        ASSERT_TRUE(document->Undo());
+        ASSERT_EQ(Differences(before.all, State().all), "") << round;
+        ASSERT_TRUE(document->Redo());
+        ASSERT_EQ(Differences(after.all, State().all), "") << round;
+    }
+    EXPECT_GT(rowsSeen, 100);
+}
+
+class HeldView : public DocumentView {
+  public:
+    bool FlushEditors() override { return accepts; }
+    void HoldRedraw(bool hold) override {
+        if (hold && holds == 0) ++scopes;
+        holds += hold ? 1 : -1;
+    }
+    bool accepts = true;
+    int holds = 0, scopes = 0;
+};
+
+TEST_F(TreatmentOf, IsShownAtOnceWhenItIsDone) {
+    HeldView view;
+    document->SetView(&view);
+    Need({114.4, 79.2, 0, 0, 0, 147.4});
+    document->CalcTreatment();
+    EXPECT_EQ(view.scopes, 1);
+    EXPECT_EQ(view.holds, 0);
+    document->SetView(nullptr);
+}
+
+TEST_F(TreatmentOf, WaitsForAnEntryThatWasRefused) {
+    HeldView view;
+    view.accepts = false;
+    document->SetView(&view);
+    Need({114.4, 79.2, 0, 0, 0, 147.4});
+    document->CalcTreatment();
+    EXPECT_EQ(Rows(), Log{});
+    document->SetView(nullptr);
+}
+
+}  // namespace
+}  // namespace tw::test

@@ -1,0 +1,167 @@
+#include "tree/LvShowModel.h"
+
+#include "ObjectsTest.h"
+
+namespace tw::test {
+namespace {
+
+using testing::ElementsAre;
+
+class Picker : public Objects {
+  protected:
+    LvShowModel Open(PickList type, const std::string& name = "") {
+        return {type, *main.db, main.tree, name};
+    }
+    void Hops(const Lines& names) {
+        for (const std::string& name : names)
+            main.Execute("INSERT INTO HOPS (NAME) VALUES (" + SqlText(name) + ")");
+    }
+    static Lines Controls(const LvShowModel& picker) {
+        Lines lines;
+        for (const DialogControl& control : picker.Controls())
+            lines.push_back(control.name + "=" + control.text);
+        return lines;
+    }
+    static Lines Texts(LvShowModel& picker) {
+        Lines texts;
+        for (const ListRow& row : picker.Items().Rows()) texts.push_back(row.cells.front());
+        return texts;
+    }
+    // What the picker answers on cmdOK.
+    static std::string AnswerOf(LvShowModel picker) {
+        picker.Press("cmdOK");
+        return picker.Cancelled() ? "cancelled" : picker.Answer();
+    }
+};
+
+TEST_F(Picker, HasATitleAndAListForEachType) {
+    Lines titles;
+    for (int i = 0; i < kPickLists; ++i) {
+        LvShowModel picker = Open(static_cast<PickList>(i));
+        titles.push_back(picker.Title() + ": " + picker.Items().Columns().front().title);
+    }
+    EXPECT_THAT(titles, ElementsAre("Select Style: Style Name", "Select Grain: Grain Name",
+                                    "Select Extract: Extract Name", "Select Hop Variety: Hop Variety Name",
+                                    "Select Yeast: Yeast Name", "Select Water Profile: Water Profile Name",
+                                    "Select Treatment: Treatment Salt Name",
+                                    "Select Priming Sugar: Priming Sugar Name"));
+}
+
+TEST_F(Picker, StartsOnTheNameInAnyCase) {
+    Hops({"Cascade", "Fuggle", "Saaz"});
+    EXPECT_EQ(Open(PickList::Hop, " FUGGLE").Items().SelectedText(), "Fuggle");
+    EXPECT_EQ(Open(PickList::Hop, "Galena").Items().SelectedText(), "Fuggle");
+    EXPECT_EQ(Open(PickList::Hop, "").Items().SelectedText(), "Cascade");
+    EXPECT_EQ(Open(PickList::Hop, "Admiral").Items().SelectedText(), "Cascade");
+}
+
+TEST_F(Picker, StartsOnNoHeadingOfAGroup) {
+    main.Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base Malt', TRUE)");
+    main.Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Pale', TRUE, 1)");
+    EXPECT_EQ(Open(PickList::Grain).Items().SelectedText(), "Pale");
+    EXPECT_EQ(Open(PickList::Grain, "Base Malt").Items().SelectedText(), "Pale");
+}
+
+TEST_F(Picker, AnswersWithTheNameOfTheChosenRow) {
+    Hops({"Cascade", "Saaz"});
+    LvShowModel picker = Open(PickList::Hop);
+    EXPECT_TRUE(picker.SetControl("lvItems", "saaz"));
+    EXPECT_TRUE(picker.Press("cmdOK"));
+    EXPECT_FALSE(picker.IsOpen());
+    EXPECT_FALSE(picker.Cancelled());
+    EXPECT_EQ(picker.Answer(), "Saaz");
+}
+
+TEST_F(Picker, AYeastAnswersWithItsDescription) {
+    main.Execute("INSERT INTO YEAST (NAME, DESCR) VALUES ('Ale 1', 'Clean')");
+    EXPECT_EQ(AnswerOf(Open(PickList::Yeast)), "Ale 1 - Clean");
+}
+
+TEST_F(Picker, AYeastWithoutADescriptionAnswersWithItsName) {
+    main.Execute("INSERT INTO YEAST (NAME) VALUES ('Ale 1')");
+    EXPECT_EQ(AnswerOf(Open(PickList::Yeast)), "Ale 1");
+}
+
+TEST_F(Picker, AnEmptyListHasNothingToChoose) {
+    LvShowModel picker = Open(PickList::Sugar, "Corn");
+    EXPECT_FALSE(picker.OkEnabled());
+    EXPECT_TRUE(picker.Press("cmdOK"));
+    EXPECT_TRUE(picker.IsOpen());
+    EXPECT_TRUE(picker.Press("cmdCancel"));
+    EXPECT_FALSE(picker.IsOpen());
+    EXPECT_TRUE(picker.Cancelled());
+}
+
+TEST_F(Picker, CannotViewWithoutAViewer) {
+    Hops({"Saaz"});
+    LvShowModel picker = Open(PickList::Hop);
+    EXPECT_FALSE(picker.ViewEnabled());
+    EXPECT_TRUE(picker.Press("cmdView"));
+    std::string viewed;
+    picker.SetViewer([&](PickList, const ListTable& items) { viewed = items.SelectedText(); });
+    EXPECT_TRUE(picker.ViewEnabled());
+    EXPECT_TRUE(picker.Press("cmdView"));
+    EXPECT_EQ(viewed, "Saaz");
+    EXPECT_TRUE(picker.IsOpen());
+    LvShowModel empty = Open(PickList::Sugar);
+    empty.SetViewer([](PickList, const ListTable&) {});
+    EXPECT_FALSE(empty.ViewEnabled());
+}
+
+TEST_F(Picker, KnowsItsControls) {
+    Hops({"Saaz"});
+    LvShowModel picker = Open(PickList::Hop);
+    EXPECT_EQ(picker.FormName(), "frmLvShow");
+    EXPECT_THAT(Controls(picker), ElementsAre("lvItems=Saaz"));
+    EXPECT_FALSE(picker.SetControl("lvItems", "Cascade"));
+    EXPECT_FALSE(picker.SetControl("treeFolders", "G:0"));
+    EXPECT_FALSE(picker.SetControl("txtName", "x"));
+    EXPECT_FALSE(picker.Press("cmdDelete"));
+    picker.CloseBox();
+    EXPECT_TRUE(picker.Cancelled());
+}
+
+TEST_F(Picker, TheStyleListFollowsTheFolder) {
+    const std::int64_t dark = StyleFolder(0, "Dark");
+    Style("Ale");
+    Style("Stout", dark);
+    Style("Bock", dark);
+    LvShowModel picker = Open(PickList::Style, "stout");
+    EXPECT_THAT(Controls(picker), ElementsAre("lvItems=Stout", "treeFolders=G:-1"));
+    EXPECT_THAT(Texts(picker), ElementsAre("Ale", "Bock", "Stout"));
+    EXPECT_TRUE(picker.ChooseFolder("G:0"));
+    EXPECT_THAT(Controls(picker), ElementsAre("lvItems=Ale", "treeFolders=G:0"));
+    EXPECT_TRUE(picker.SetControl("treeFolders", "G:1"));
+    EXPECT_THAT(Controls(picker), ElementsAre("lvItems=Stout", "treeFolders=G:1"));
+    EXPECT_FALSE(picker.ChooseFolder("G:9"));
+    EXPECT_THAT(Texts(picker), ElementsAre("Bock", "Stout"));
+}
+
+TEST_F(Picker, TheTreeShowsTheFoldersOfStyles) {
+    StyleFolder(0, "Dark");
+    Style("Stout", 1);
+    LvShowModel picker = Open(PickList::Style);
+    Lines keys;
+    for (int item = 0; item < picker.Folders().Count(); ++item) keys.push_back(picker.Folders().Key(item));
+    EXPECT_THAT(keys, ElementsAre("G:-1", "G:0", "G:1"));
+    EXPECT_EQ(Open(PickList::Hop).Folders().Count(), 0);
+}
+
+TEST_F(Picker, AnEmptyFolderOfStylesHasNothingToChoose) {
+    StyleFolder(0, "Dark");
+    Style("Ale");
+    LvShowModel picker = Open(PickList::Style);
+    EXPECT_TRUE(picker.OkEnabled());
+    picker.ChooseFolder("G:1");
+    EXPECT_FALSE(picker.OkEnabled());
+}
+
+TEST_F(Picker, WithoutATreeAllStylesAreShown) {
+    Style("Ale");
+    const TWTree empty;
+    LvShowModel picker(PickList::Style, *main.db, empty, "");
+    EXPECT_EQ(picker.Items().SelectedText(), "Ale");
+}
+
+}  // namespace
+}  // namespace tw::test

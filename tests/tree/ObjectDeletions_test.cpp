@@ -1,0 +1,251 @@
+// Deleting objects with what hangs on them, and what an error in the middle leaves.
+#include "ObjectsTest.h"
+#include "store/Schema.h"
+
+namespace tw::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class Deletions : public Objects {
+  protected:
+    Deletions() {
+        Folder(0, "Ales");          // 1
+        Folder(1, "Stouts");        // 2
+        Folder(2, "Imperial");      // 3
+        Folder(1, "Bitters");       // 4
+        StyleFolder(0, "British");  // 5
+        StyleFolder(5, "Dark");     // 6
+        Style("Porter", 6);         // 1
+        Style("Mild", 5);           // 2
+        Recipe("Dry", 2, 1);        // 1
+        Recipe("Tsar", 3, 1);       // 2
+        Recipe("Best", 4, 2);       // 3
+        Recipe("Session", 1);       // 4
+        Recipe("Other", 0, 1);      // 5
+        Touched();
+        Notices();
+    }
+};
+
+TEST_F(Deletions, TakeARecipeOutOfAllItsPlaces) {
+    io.DeleteObject("R:1:2");
+    for (const char* key : {"R:1:0", "R:1:1", "R:1:2", "R:1:3"}) EXPECT_FALSE(main.tree.NodeExists(key));
+    EXPECT_THAT(Notices(), ElementsAre("deleted Dry", "deletion ended"));
+    EXPECT_THAT(Touched(), IsEmpty());
+    ExpectInStep();
+}
+
+TEST_F(Deletions, TakeAFolderWithAllBelowItDepthFirst) {
+    io.DeleteObject("F:1");
+    EXPECT_EQ(Tree("F:0"), Lines{"R:5:3 Other"});
+    EXPECT_EQ(Tree("F:-1"), Lines{"R:5:0 Other"});
+    // Folders in the order of their names, as the database reads them.
+    EXPECT_THAT(Notices(), ElementsAre("deleted Best", "folder deleted 4", "deleted Tsar", "folder deleted 3",
+                                       "deleted Dry", "folder deleted 2", "deleted Session",
+                                       "folder deleted 1", "deletion ended"));
+    EXPECT_THAT(Select("SELECT NAME FROM RECIPES"), ElementsAre("Other"));
+    EXPECT_THAT(Select("SELECT ID FROM FOLDERS WHERE NOT STYLE"), IsEmpty());
+    EXPECT_THAT(Touched(), IsEmpty());
+    ExpectInStep();
+}
+
+TEST_F(Deletions, OfAFolderRunTheDesignedStatements) {
+    Lines statements;
+    main.db->SetStatementHook([&](std::string_view sql) { statements.emplace_back(sql); });
+    io.DeleteObject("F:4");
+    main.db->SetStatementHook(nullptr);
+    EXPECT_THAT(statements,
+                ElementsAre("SELECT ID FROM FOLDERS WHERE NOT STYLE AND PARENT_ID = 4",
+                            "SELECT ID FROM RECIPES WHERE FOLDER_ID = 4", "DELETE FROM RECIPES WHERE ID = 3",
+                            "DELETE FROM RECIPE_GRAINS WHERE RECIPE_ID = 3",
+                            "DELETE FROM RECIPE_HOPS WHERE RECIPE_ID = 3",
+                            "DELETE FROM RECIPE_ADJUNCTS WHERE RECIPE_ID = 3",
+                            "DELETE FROM RECIPE_LOG WHERE RECIPE_ID = 3",
+                            "DELETE FROM FOLDERS WHERE NOT STYLE AND ID = 4"));
+}
+
+TEST_F(Deletions, OfAStyleLeaveItsRecipesWithoutOne) {
+    io.DeleteObject("S:1:0");
+    EXPECT_EQ(Tree("S:0:0"), (Lines{"R:1:1 Dry", "R:5:1 Other", "R:4:1 Session", "R:2:1 Tsar"}));
+    EXPECT_THAT(Select("SELECT NAME FROM RECIPES WHERE STYLE_ID = 0 ORDER BY NAME"),
+                ElementsAre("Dry", "Other", "Session", "Tsar"));
+    EXPECT_THAT(Notices(), ElementsAre("new style Dry 0", "new style Other 0", "new style Tsar 0",
+                                       "style deleted 1", "deletion ended"));
+    ExpectInStep();
+}
+
+TEST_F(Deletions, OfAStyleFolderTakeItsStyles) {
+    io.DeleteObject("G:5");
+    EXPECT_EQ(Tree("G:0"), (Lines{"S:0:1 (None)", "  R:3:2 Best", "  R:1:2 Dry", "  R:5:2 Other",
+                                  "  R:4:2 Session", "  R:2:2 Tsar"}));
+    EXPECT_THAT(Notices(),
+                ElementsAre("new style Dry 0", "new style Other 0", "new style Tsar 0", "style deleted 1",
+                            "new style Best 0", "style deleted 2", "deletion ended"));
+    EXPECT_THAT(Select("SELECT COUNT(*) FROM STYLES"), ElementsAre("0"));
+    EXPECT_THAT(Select("SELECT COUNT(*) FROM FOLDERS WHERE STYLE"), ElementsAre("0"));
+    ExpectInStep();
+}
+
+TEST_F(Deletions, LeaveWhatTheProgramMakesAndWhatIsMissing) {
+    const Lines before = All(main.tree);
+    for (const char* key : {"F:0", "F:-1", "G:0", "G:-1", "S:0:0", "S:0:1", "X:DB", "X:STYLE", "", "Q:1",
+                            "F:99", "G:1", "R:99:0", "S:99:0", "S:x:0", "F:", "R:0:0", "S:0"})
+        io.DeleteObject(key);
+    io.DeleteRecipeFolder(0);
+    io.DeleteStyleFolder(-1);
+    io.DeleteStyleById(0);
+    io.DeleteRecipeById(-1);
+    EXPECT_EQ(All(main.tree), before);
+    EXPECT_THAT(Notices(), IsEmpty());
+    ExpectInStep();
+}
+
+// Recipes that lie nowhere are not those of a folder that is gone.
+TEST_F(Deletions, OfAFolderThatIsMissingKeepTheRecipesThatNameIt) {
+    main.Execute("UPDATE RECIPES SET FOLDER_ID = 99 WHERE ID = 5");
+    main.tree.InitFromDatabase();
+    io.DeleteObject("F:99");
+    EXPECT_THAT(Select("SELECT NAME FROM RECIPES WHERE ID = 5"), ElementsAre("Other"));
+    io.DeleteObject("R:5:0");
+    ExpectInStep();
+}
+
+TEST_F(Deletions, EndInARingOfFolders) {
+    main.Execute("UPDATE FOLDERS SET PARENT_ID = 3 WHERE ID = 1");  // behind the tree's back
+    io.DeleteObject("F:1");
+    EXPECT_THAT(Select("SELECT ID FROM FOLDERS WHERE NOT STYLE"), IsEmpty());
+    ExpectInStep();
+}
+
+TEST_F(Deletions, GoDownAsDeepAsFoldersLie) {
+    constexpr int kDepth = 20000;
+    {
+        UnitOfWork unit(*main.db);
+        for (int i = 0; i < kDepth; ++i)
+            main.Execute("INSERT INTO FOLDERS (ID, PARENT_ID, NAME, STYLE) VALUES (" +
+                         std::to_string(1001 + i) + ", " + std::to_string(i == 0 ? 1 : 1000 + i) +
+                         ", 'deep', FALSE)");
+    }
+    main.tree.InitFromDatabase();
+    io.DeleteObject("F:1001");
+    EXPECT_EQ(Notices().size(), static_cast<std::size_t>(kDepth + 1));
+    ExpectInStep();
+}
+
+TEST_F(Deletions, TellTheNoticeAfterTheDatabaseAndTheTree) {
+    listener.look = [&] {
+        if (listener.log.size() > 1) return;
+        EXPECT_THAT(Select("SELECT ID FROM RECIPES WHERE ID = 1"), IsEmpty());
+        EXPECT_FALSE(main.tree.NodeExists("R:1:0"));
+    };
+    io.DeleteRecipeById(1);
+    EXPECT_EQ(Notices().size(), 2U);
+}
+
+TEST_F(Deletions, FindARecipeThatTheTreeDoesNotShow) {
+    main.Execute("INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES ('New', 0, 0)");
+    io.DeleteRecipeByName(" NEW ");
+    EXPECT_THAT(Notices(), ElementsAre("deleted New", "deletion ended"));
+    ExpectInStep();
+}
+
+// Runs the operation again and again, the first time with an error at its first statement, then at its
+// second, until it comes to its end; before each run everything is built anew.
+class Failure : public Deletions {
+  protected:
+    template <typename Operation>
+    void FailAtEveryStatement(Operation operation) {
+        std::size_t failures = 0;
+        for (bool failed = true; failed; ++failures) {
+            Rebuild();
+            std::size_t count = 0;
+            main.db->SetStatementHook([&](std::string_view) {
+                if (count++ == failures) throw Error("Test", "the disk is on fire", 7);
+            });
+            try {
+                operation();
+            } catch (const Error& error) {
+                EXPECT_EQ(error.Description(), "the disk is on fire");
+            }
+            main.db->SetStatementHook(nullptr);
+            failed = count > failures;
+            ExpectInStep();
+        }
+        EXPECT_GT(failures, 1U);
+    }
+
+  private:
+    void Rebuild() {
+        if (script_.empty()) {
+            for (const TableSchema& table : MainSchema())
+                if (table.name == "FOLDERS" || table.name == "RECIPES" || table.name == "STYLES") Keep(table);
+        }
+        main.db->ExecuteNative("DELETE FROM FOLDERS; DELETE FROM RECIPES; DELETE FROM STYLES;" + script_);
+        main.tree.InitFromDatabase();
+        outside.messages.log.clear();
+    }
+    void Keep(const TableSchema& table) {
+        const std::string name(table.name);
+        main.db->ExecuteNative("CREATE TEMP TABLE KEPT_" + name + " AS SELECT * FROM " + name);
+        script_ += "INSERT INTO main." + name + " SELECT * FROM KEPT_" + name + ";";
+    }
+    std::string script_;
+};
+
+TEST_F(Failure, OfADeletionRisesAndLeavesTheTreeAsTheDatabase) {
+    FailAtEveryStatement([&] { io.DeleteObject("F:1"); });
+    FailAtEveryStatement([&] { io.DeleteObject("G:5"); });
+    FailAtEveryStatement([&] { io.DeleteObject("S:1:1"); });
+    FailAtEveryStatement([&] { io.DeleteObject("R:1:1"); });
+}
+
+TEST_F(Failure, OfADeletionLeavesWhatWasDoneBefore) {
+    main.db->SetStatementHook([&](std::string_view sql) {
+        if (sql == "DELETE FROM RECIPES WHERE ID = 1") throw Error("Test", "the disk is on fire", 7);
+    });
+    EXPECT_THROW(io.DeleteObject("F:1"), Error);
+    main.db->SetStatementHook(nullptr);
+    EXPECT_THAT(Notices(), ElementsAre("deleted Best", "folder deleted 4", "deleted Tsar", "folder deleted 3",
+                                       "deletion ended"));
+    EXPECT_THAT(Select("SELECT NAME FROM RECIPES ORDER BY NAME"), ElementsAre("Dry", "Other", "Session"));
+    EXPECT_EQ(Tree("F:1"), (Lines{"F:2 Stouts", "  R:1:3 Dry", "R:4:3 Session"}));
+}
+
+TEST_F(Failure, OfAnyOtherOperationIsShownAndLeavesTheTreeAsTheDatabase) {
+    const std::string text = "Test\r\nthe disk is on fire (7)";
+    const auto fails = [&](const std::string& title, const std::function<bool()>& operation) {
+        FailAtEveryStatement([&] {
+            if (!operation()) {
+                EXPECT_THAT(Boxes(), ElementsAre("[" + title + "] " + text));
+            }
+        });
+    };
+    fails("Error moving recipe folder", [&] { return io.MoveObject("F:2", "F:4", false); });
+    fails("Error moving style folder", [&] { return io.MoveObject("G:6", "G:0", false); });
+    fails("Error moving recipe to folder", [&] { return io.MoveObject("R:1:0", "F:4", false); });
+    fails("Error moving recipe to style", [&] { return io.MoveObject("R:1:0", "S:2:0", false); });
+    fails("Error moving style", [&] { return io.MoveObject("S:1:0", "G:5", false); });
+    fails("Error moving style", [&] { return io.MoveStyleToFolderByName("Porter", 5, false); });
+    fails("Error renaming recipe folder", [&] { return io.RenameObject("F:2", "A", false); });
+    fails("Error renaming style folder", [&] { return io.RenameObject("G:6", "A", false); });
+    fails("Error renaming recipe", [&] { return io.RenameObject("R:1:0", "A", false); });
+    fails("Error renaming style", [&] { return io.RenameObject("S:1:0", "A", false); });
+    fails("Error creating new recipe folder",
+          [&] { return !io.CreateFolderObject("F:1", "", false).empty(); });
+    fails("Error creating new style folder", [&] { return io.CreateStyleFolder(5, "A", false) > 0; });
+}
+
+TEST_F(Failure, IsSilentWhenAskedTo) {
+    main.db->SetStatementHook([](std::string_view) { throw Error("Test", "the disk is on fire", 7); });
+    EXPECT_FALSE(io.MoveObject("F:2", "F:4", true));
+    EXPECT_FALSE(io.RenameObject("R:1:0", "A", true));
+    EXPECT_EQ(io.CreateFolderObject("F:1", "", true), "");
+    EXPECT_EQ(io.CreateRecipeFolder(1, "", true), -1);
+    EXPECT_THAT(Boxes(), IsEmpty());
+    main.db->SetStatementHook(nullptr);
+}
+
+}  // namespace
+}  // namespace tw::test

@@ -1,0 +1,122 @@
+// Each operation on objects is one unit on the disk: a crash in its middle leaves the old state.
+#include <csignal>
+#include <filesystem>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "ObjectsTest.h"
+#include "store/Schema.h"
+
+namespace tw::test {
+namespace {
+
+class Units : public testing::Test {
+  protected:
+    Units() {
+        std::string name = (std::filesystem::temp_directory_path() / "tunwright_units_XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) throw Error("Units", "no temporary folder", 0);
+        folder_ = name;
+        const auto database = Database::CreateDatabase(File("made.mdb"), "");
+        CreateSchema(*database);
+        database->Execute(
+            "INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE) VALUES (0, 'Ales', FALSE), "
+            "(1, 'Stouts', FALSE), (0, 'British', TRUE)");
+        database->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Porter', 3)");
+        database->Execute(
+            "INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES ('Dry', 1, 2), ('Mild', 1, 1), "
+            "('Best', 0, 0)");
+    }
+    ~Units() override {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder_, ignored);
+    }
+
+    std::string File(const std::string& name) const { return (folder_ / name).string(); }
+
+    // The rows of the three tables.
+    static Lines Rows(Database& database) {
+        Lines rows;
+        for (const char* sql : {"SELECT ID, PARENT_ID, NAME, MODIFIED_WHEN FROM FOLDERS",
+                                "SELECT ID, FOLDER_ID, NAME, NULL FROM STYLES",
+                                "SELECT ID, FOLDER_ID, NAME, STYLE_ID FROM RECIPES"})
+            for (Recordset set = database.OpenRecordset(sql); !set.AtEnd(); set.MoveNext()) {
+                rows.emplace_back();
+                for (int i = 0; i < set.FieldCount(); ++i) rows.back() += set.Fields(i).Text() + "|";
+            }
+        return rows;
+    }
+
+    // Runs the operation on a fresh copy in a process that dies at the statement of that number; false when
+    // it came to its end alive.
+    template <typename Operation>
+    bool DiesAt(int statement, Operation operation) {
+        std::filesystem::copy_file(File("made.mdb"), File("a.mdb"),
+                                   std::filesystem::copy_options::overwrite_existing);
+        const pid_t child = fork();
+        if (child == 0) {
+            const auto database = OpenMainDatabase(File("a.mdb"));
+            // Few pages in memory, so that half-done pages reach the file before the end.
+            database->ExecuteNative("PRAGMA cache_size=3");
+            TWTree tree(database.get());
+            tree.InitFromDatabase();
+            TreeObjects objects(tree);
+            RecordingPlatform outside;
+            NoticeRecorder listener;
+            DB_IO io(*database, objects, outside.messages, outside.clock, listener);
+            int count = 0;
+            database->SetStatementHook([&](std::string_view) {
+                if (count++ == statement) raise(SIGKILL);
+            });
+            operation(io);
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
+        return WIFSIGNALED(status);
+    }
+
+    // Kills the operation at each of its statements in turn. It has that many.
+    template <typename Operation>
+    void ExpectWhole(int statements, Operation operation) {
+        const Lines old = Rows(*OpenMainDatabase(File("made.mdb")));
+        int count = 0;
+        while (DiesAt(count, operation)) {
+            EXPECT_EQ(Rows(*OpenMainDatabase(File("a.mdb"))), old) << "killed before statement " << count;
+            ++count;
+        }
+        EXPECT_EQ(count, statements);
+        EXPECT_NE(Rows(*OpenMainDatabase(File("a.mdb"))), old);
+    }
+
+  private:
+    std::filesystem::path folder_;
+};
+
+// Two folders: two reads and a DELETE for each, five DELETEs for each of the two recipes.
+TEST_F(Units, ADeletedFolderGoesWholeOrNotAtAll) {
+    ExpectWhole(2 * 3 + 2 * 5, [](DB_IO& io) { io.DeleteObject("F:1"); });
+}
+
+// The folders, the styles, the recipes of the style, an UPDATE for each of two recipes, two DELETEs.
+TEST_F(Units, ADeletedStyleFolderGoesWholeOrNotAtAll) {
+    ExpectWhole(3 + 2 + 2, [](DB_IO& io) { io.DeleteObject("G:3"); });
+}
+
+// A check, the change, two touches.
+TEST_F(Units, AMovedFolderIsThereOrHere) {
+    ExpectWhole(1 + 1 + 2, [](DB_IO& io) { io.MoveObject("F:2", "F:0", true); });
+}
+
+// A check, the change, one touch.
+TEST_F(Units, ANewNameComesWithItsTouch) {
+    ExpectWhole(3, [](DB_IO& io) { io.RenameObject("R:1:0", "Wet", true); });
+}
+
+// A check, the row, its id.
+TEST_F(Units, ANewFolderIsThereOrNot) {
+    ExpectWhole(3, [](DB_IO& io) { io.CreateFolderObject("F:1", "", true); });
+}
+
+}  // namespace
+}  // namespace tw::test
