@@ -1,7 +1,6 @@
 #include "tree/ListFormats.h"
 
 #include <array>
-#include <cstdio>
 
 #include "platform/Error.h"
 #include "values/NumberText.h"
@@ -31,13 +30,14 @@ std::string FigureText(double figure, std::string_view pattern) {
 }  // namespace
 
 std::string ListDate(const Field& date) {
-    const std::optional<DateTime> when = ParseDateText(date.Text());
+    constexpr std::size_t kMinutes = kDateLength + 3;  // ":MM" of "MM/DD/YYYY HH:MM:SS"
+    const std::string text = date.Text();
+    const std::optional<DateTime> when = ParseDateText(text);
     if (!when) return std::string(kNoDate);
     const int hour = when->hour % kNoon == 0 ? kNoon : when->hour % kNoon;
-    std::array<char, 16> time{};
-    std::snprintf(time.data(), time.size(), "  %02d:%02d %s", hour, when->minute,
-                  when->hour < kNoon ? "AM" : "PM");
-    return DateText(*when).substr(0, kDateLength) + time.data();
+    std::string shown = text.substr(0, kDateLength) + "  ";
+    shown.append(hour < 10 ? "0" : "").append(std::to_string(hour)).append(text, kMinutes, 3);
+    return shown.append(when->hour < kNoon ? " AM" : " PM");
 }
 
 std::optional<DateTime> ReadListDate(std::string_view text) {

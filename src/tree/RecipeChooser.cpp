@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_set>
 
 #include "platform/Error.h"
 #include "tree/TWNodes.h"
@@ -110,18 +111,14 @@ void RecipeChooser::SetCurrent(int index) {
     TellChanged();
 }
 
-bool RecipeChooser::AddName(std::string_view name) {
-    if (std::ranges::any_of(names_, [&](const std::string& other) { return SameName(other, name); }))
-        return false;
-    names_.emplace_back(name);
-    return true;
-}
-
 bool RecipeChooser::Add(std::string_view key) {
     TWNode* const node = tree_ ? tree_->Nodes(key) : nullptr;
     if (node == nullptr) return false;
     const int before = SelectionCount();
-    for (const std::string& name : RecipesOf(*node)) AddName(name);
+    std::unordered_set<std::string> taken;
+    for (const std::string& name : names_) taken.insert(Upper(Trim(name)));
+    for (std::string& name : RecipesOf(*node))
+        if (taken.insert(Upper(Trim(name))).second) names_.push_back(std::move(name));
     if (SelectionCount() == before) return false;
     current_ = SelectionCount() - 1;
     if (sorted_) Sort(false);

@@ -74,7 +74,6 @@ class RecipeChooser {
     bool IsEnabled(std::string_view button) const;
 
   private:
-    bool AddName(std::string_view name);
     void Delete();
     void MoveTo(int index);
     void Sort(bool descending);

@@ -2,6 +2,7 @@
 #include "tree/lvFiller.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 
 #include "store/ObjectKeys.h"
@@ -30,14 +31,67 @@ enum Column {
     Columns
 };
 
-// What the rows show of a table, for the statements that read many rows at once.
-constexpr const char* kFolderFields = "ID, CREATED_WHEN, MODIFIED_WHEN FROM FOLDERS";
-constexpr const char* kStyleFields =
-    "ID, CREATED_WHEN, MODIFIED_WHEN, WATER_PROFILE, OG_LO, OG_HI, FG_LO, FG_HI, ABV_LO, ABV_HI, COLOR_LO, "
-    "COLOR_HI, IBU_LO, IBU_HI, CO2_LO, CO2_HI FROM STYLES";
-constexpr const char* kRecipeFields =
-    "ID, CREATED_WHEN, MODIFIED_WHEN, NUMBATCHES, FV, FV_DATA, TV, TV_DATA, OG, OG_DATA, FG, FG_DATA, ABV, "
-    "COLOR, IBU, CO2_VOLS, TRG_PROFILE_NAME FROM RECIPES";
+// The fields of a row that are shown, found by their names once for all rows of a recordset.
+template <std::size_t kCount>
+using FieldNames = std::array<std::string_view, kCount>;
+
+template <std::size_t kCount>
+class ShownFields {
+  public:
+    ShownFields(const Recordset& rows, const FieldNames<kCount>& names) : rows_(rows) {
+        for (std::size_t i = 0; i < kCount; ++i)
+            while (CompareNoCase(rows.FieldName(places_[i]), names[i]) != 0) ++places_[i];
+    }
+    Field operator[](std::size_t field) const { return rows_.Fields(places_[field]); }
+
+  private:
+    const Recordset& rows_;
+    std::array<int, kCount> places_{};
+};
+
+enum DateField { ModifiedWhen, CreatedWhen, DateFields };
+constexpr FieldNames<DateFields> kFolderNames = {"MODIFIED_WHEN", "CREATED_WHEN"};
+
+enum StyleField {
+    StyleWater = DateFields,
+    OgLow,
+    OgHigh,
+    FgLow,
+    FgHigh,
+    AbvLow,
+    AbvHigh,
+    ColorLow,
+    ColorHigh,
+    IbuLow,
+    IbuHigh,
+    Co2Low,
+    Co2High,
+    StyleFields
+};
+constexpr FieldNames<StyleFields> kStyleNames = {
+    "MODIFIED_WHEN", "CREATED_WHEN", "WATER_PROFILE", "OG_LO",  "OG_HI",  "FG_LO",  "FG_HI", "ABV_LO",
+    "ABV_HI",        "COLOR_LO",     "COLOR_HI",      "IBU_LO", "IBU_HI", "CO2_LO", "CO2_HI"};
+
+enum RecipeField {
+    NumBatches = DateFields,
+    Fv,
+    FvData,
+    Tv,
+    TvData,
+    Og,
+    OgData,
+    Fg,
+    FgData,
+    Abv,
+    RecipeColor,
+    Ibu,
+    Co2Vols,
+    TargetWater,
+    RecipeFields
+};
+constexpr FieldNames<RecipeFields> kRecipeNames = {
+    "MODIFIED_WHEN", "CREATED_WHEN", "NUMBATCHES", "FV",  "FV_DATA", "TV",  "TV_DATA",  "OG",
+    "OG_DATA",       "FG",           "FG_DATA",    "ABV", "COLOR",   "IBU", "CO2_VOLS", "TRG_PROFILE_NAME"};
 
 std::string& Cell(ListRow& row, Column column) {
     return row.cells[static_cast<std::size_t>(column)];
@@ -86,68 +140,71 @@ ListRow RecipeRow(const TWNode& node) {
     return row;
 }
 
-void ShowDates(ListRow& row, const Recordset& object) {
-    Cell(row, Modified) = ListDate(object.Fields("MODIFIED_WHEN"));
-    Cell(row, Created) = ListDate(object.Fields("CREATED_WHEN"));
+template <class Fields>
+void ShowDates(ListRow& row, const Fields& object) {
+    Cell(row, Modified) = ListDate(object[ModifiedWhen]);
+    Cell(row, Created) = ListDate(object[CreatedWhen]);
 }
 
-void ShowStyle(ListRow& row, const Recordset& style) {
-    const auto range = [&](const char* low, const char* high, std::string_view pattern) {
-        return ListRange(style.Fields(low), style.Fields(high), pattern);
-    };
+void ShowFolder(ListRow& row, const ShownFields<DateFields>& folder) {
+    ShowDates(row, folder);
+}
+
+void ShowStyle(ListRow& row, const ShownFields<StyleFields>& style) {
     ShowDates(row, style);
-    Cell(row, OriginalGravity) = range("OG_LO", "OG_HI", kGravityPattern);
-    Cell(row, FinishedGravity) = range("FG_LO", "FG_HI", kGravityPattern);
-    Cell(row, Alcohol) = range("ABV_LO", "ABV_HI", kAlcoholPattern);
-    Cell(row, Color) = range("COLOR_LO", "COLOR_HI", kColorPattern);
-    Cell(row, Bitterness) = range("IBU_LO", "IBU_HI", kBitternessPattern);
-    Cell(row, Carbonation) = range("CO2_LO", "CO2_HI", kCarbonationPattern);
-    Cell(row, WaterProfile) = ListText(style.Fields("WATER_PROFILE"));
+    Cell(row, OriginalGravity) = ListRange(style[OgLow], style[OgHigh], kGravityPattern);
+    Cell(row, FinishedGravity) = ListRange(style[FgLow], style[FgHigh], kGravityPattern);
+    Cell(row, Alcohol) = ListRange(style[AbvLow], style[AbvHigh], kAlcoholPattern);
+    Cell(row, Color) = ListRange(style[ColorLow], style[ColorHigh], kColorPattern);
+    Cell(row, Bitterness) = ListRange(style[IbuLow], style[IbuHigh], kBitternessPattern);
+    Cell(row, Carbonation) = ListRange(style[Co2Low], style[Co2High], kCarbonationPattern);
+    Cell(row, WaterProfile) = ListText(style[StyleWater]);
 }
 
 // The number behind a typed text, with a unit; without the text nothing is shown.
-std::string TypedFigure(const Field& typed, const Field& figure, std::string_view pattern,
+std::string TypedFigure(const std::string& typed, const Field& figure, std::string_view pattern,
                         std::string_view unit) {
-    if (IsBlank(typed.Text())) return std::string(kNoNumber);
+    if (IsBlank(typed)) return std::string(kNoNumber);
     const std::string text = ListNumber(figure, pattern);
     return text == kNoNumber ? text : text + std::string(unit);
 }
 
-void ShowRecipe(ListRow& row, const Recordset& recipe) {
-    const auto typed = [&](const char* text, const char* figure, std::string_view pattern,
-                           std::string_view unit) {
-        return TypedFigure(recipe.Fields(text), recipe.Fields(figure), pattern, unit);
-    };
+void ShowRecipe(ListRow& row, const ShownFields<RecipeFields>& recipe) {
     ShowDates(row, recipe);
-    Cell(row, Batches) = ListText(recipe.Fields("NUMBATCHES"));
-    Cell(row, BatchSize) = recipe.Fields("FV").Text().empty() ? typed("TV", "TV_DATA", "", " gals")
-                                                              : typed("FV", "FV_DATA", "", " gals");
-    Cell(row, OriginalGravity) = typed("OG", "OG_DATA", kGravityPattern, "");
-    Cell(row, FinishedGravity) = typed("FG", "FG_DATA", kGravityPattern, "");
-    Cell(row, Alcohol) = ListText(recipe.Fields("ABV"));
+    Cell(row, Batches) = ListText(recipe[NumBatches]);
+    const std::string finalVolume = recipe[Fv].Text();
+    Cell(row, BatchSize) = finalVolume.empty() ? TypedFigure(recipe[Tv].Text(), recipe[TvData], "", " gals")
+                                               : TypedFigure(finalVolume, recipe[FvData], "", " gals");
+    Cell(row, OriginalGravity) = TypedFigure(recipe[Og].Text(), recipe[OgData], kGravityPattern, "");
+    Cell(row, FinishedGravity) = TypedFigure(recipe[Fg].Text(), recipe[FgData], kGravityPattern, "");
+    Cell(row, Alcohol) = ListText(recipe[Abv]);
     // The blank before the "(" stays: intended.
-    std::string color = recipe.Fields("COLOR").Text();
+    std::string color = recipe[RecipeColor].Text();
     color.resize(std::min(color.find('('), color.size()));
     if (!color.empty()) Cell(row, Color) = std::move(color);
-    const std::string bitterness = recipe.Fields("IBU").Text();
+    const std::string bitterness = recipe[Ibu].Text();
     if (!bitterness.empty()) Cell(row, Bitterness) = bitterness + " IBUs";
-    Cell(row, Carbonation) = ListText(recipe.Fields("CO2_VOLS"));
-    Cell(row, WaterProfile) = ListText(recipe.Fields("TRG_PROFILE_NAME"));
+    Cell(row, Carbonation) = ListText(recipe[Co2Vols]);
+    Cell(row, WaterProfile) = ListText(recipe[TargetWater]);
 }
 
-using Show = void (*)(ListRow&, const Recordset&);
+template <std::size_t kCount>
+using Show = void (*)(ListRow&, const ShownFields<kCount>&);
 
 // What one object's row shows beyond its node; nothing when the database does not hold it.
-void ShowOne(Database& database, const std::string& sql, ListRow& row, Show show) {
+template <std::size_t kCount>
+void ShowOne(Database& database, const std::string& sql, const FieldNames<kCount>& names, ListRow& row,
+             Show<kCount> show) {
     const Recordset object = database.OpenRecordset(sql);
-    if (!object.AtEnd()) show(row, object);
+    if (!object.AtEnd()) show(row, ShownFields<kCount>(object, names));
 }
 
 // The rows of one kind of object, to be read together.
+template <std::size_t kCount>
 class Batch {
   public:
-    Batch(const char* fields, const char* condition, Show show)
-        : fields_(fields), condition_(condition), show_(show) {}
+    Batch(const char* table, const char* condition, const FieldNames<kCount>& names, Show<kCount> show)
+        : table_(table), condition_(condition), names_(names), show_(show) {}
 
     void Add(std::int64_t id, std::size_t row) { rows_[id] = row; }
 
@@ -167,17 +224,22 @@ class Batch {
 
   private:
     void ReadSome(Database& database, const std::string& ids, std::vector<ListRow>& rows) const {
-        for (Recordset objects = database.OpenRecordset(std::string("SELECT ") + fields_ + " WHERE ID IN (" +
-                                                        ids + ")" + condition_);
-             !objects.AtEnd(); objects.MoveNext()) {
+        std::string sql = "SELECT ID";
+        for (const std::string_view name : names_) sql.append(", ").append(name);
+        sql.append(" FROM ").append(table_).append(" WHERE ID IN (").append(ids).append(")");
+        Recordset objects = database.OpenRecordset(sql.append(condition_));
+        if (objects.AtEnd()) return;
+        const ShownFields<kCount> fields(objects, names_);
+        for (; !objects.AtEnd(); objects.MoveNext()) {
             const auto found = rows_.find(objects.Fields(0).Integer());
-            if (found != rows_.end()) show_(rows[found->second], objects);
+            if (found != rows_.end()) show_(rows[found->second], fields);
         }
     }
 
-    const char* fields_;
+    const char* table_;
     const char* condition_;
-    Show show_;
+    const FieldNames<kCount>& names_;
+    Show<kCount> show_;
     std::map<std::int64_t, std::size_t> rows_;
 };
 
@@ -220,9 +282,10 @@ void lvFiller::FillByKey(ListTable& list, std::string_view key, bool showStyles)
 
     std::vector<ListRow> rows;
     rows.reserve(nodes.size());
-    Batch recipeFolders(kFolderFields, " AND NOT STYLE", ShowDates);
-    Batch styleFolders(kFolderFields, " AND STYLE", ShowDates);
-    Batch styles(kStyleFields, "", ShowStyle), recipes(kRecipeFields, "", ShowRecipe);
+    Batch<DateFields> recipeFolders("FOLDERS", " AND NOT STYLE", kFolderNames, ShowFolder);
+    Batch<DateFields> styleFolders("FOLDERS", " AND STYLE", kFolderNames, ShowFolder);
+    Batch<StyleFields> styles("STYLES", "", kStyleNames, ShowStyle);
+    Batch<RecipeFields> recipes("RECIPES", "", kRecipeNames, ShowRecipe);
     for (TWNode* const node : nodes) {
         rows.push_back(node->IsDocument() ? RecipeRow(*node)
                        : node->IsStyle()  ? StyleRow(*node)
@@ -230,14 +293,18 @@ void lvFiller::FillByKey(ListTable& list, std::string_view key, bool showStyles)
         const std::string& rowKey = rows.back().key;
         const std::int64_t id = IdOfKey(rowKey);
         if (id <= 0) continue;
-        Batch& batch = node->IsDocument()         ? recipes
-                       : node->IsStyle()          ? styles
-                       : rowKey.starts_with("G:") ? styleFolders
-                                                  : recipeFolders;
-        batch.Add(id, rows.size() - 1);
+        const std::size_t place = rows.size() - 1;
+        if (node->IsDocument())
+            recipes.Add(id, place);
+        else if (node->IsStyle())
+            styles.Add(id, place);
+        else
+            (rowKey.starts_with("G:") ? styleFolders : recipeFolders).Add(id, place);
     }
-    for (const Batch* batch : {&recipeFolders, &styleFolders, &styles, &recipes})
-        batch->Read(database_, rows);
+    recipeFolders.Read(database_, rows);
+    styleFolders.Read(database_, rows);
+    styles.Read(database_, rows);
+    recipes.Read(database_, rows);
     list.SetRows(std::move(rows));
 }
 
@@ -249,21 +316,25 @@ void lvFiller::AddFolderRow(ListTable& list, TWNode& folder) const {
             database_,
             "SELECT CREATED_WHEN, MODIFIED_WHEN, NULL AS CHILDREN_MODIFIED_WHEN FROM FOLDERS WHERE ID = " +
                 std::to_string(id) + (row.key.starts_with("G:") ? " AND STYLE" : " AND NOT STYLE"),
-            row, ShowDates);
+            kFolderNames, row, ShowFolder);
     list.Add(std::move(row));
 }
 
 void lvFiller::AddStyleRow(ListTable& list, TWNode& style) const {
     ListRow row = StyleRow(style);
     const std::int64_t id = IdOfKey(row.key);
-    if (id > 0) ShowOne(database_, "SELECT * FROM STYLES WHERE ID = " + std::to_string(id), row, ShowStyle);
+    if (id > 0)
+        ShowOne(database_, "SELECT * FROM STYLES WHERE ID = " + std::to_string(id), kStyleNames, row,
+                ShowStyle);
     list.Add(std::move(row));
 }
 
 void lvFiller::AddRecipeRow(ListTable& list, TWNode& recipe) const {
     ListRow row = RecipeRow(recipe);
     const std::int64_t id = IdOfKey(row.key);
-    if (id > 0) ShowOne(database_, "SELECT * FROM RECIPES WHERE ID = " + std::to_string(id), row, ShowRecipe);
+    if (id > 0)
+        ShowOne(database_, "SELECT * FROM RECIPES WHERE ID = " + std::to_string(id), kRecipeNames, row,
+                ShowRecipe);
     list.Add(std::move(row));
 }
 

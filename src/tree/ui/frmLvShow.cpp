@@ -26,7 +26,8 @@ int ListUnits(const ListTable& list) {
 }  // namespace
 
 frmLvShow::frmLvShow(LvShowModel& model, QWidget* parent) : QDialog(parent), model_(model) {
-    setObjectName(ToQt(model.FormName()));
+    // Each list keeps a size of its own: their columns differ.
+    setObjectName(ToQt(model.FormName()) + QString::number(static_cast<int>(model.Type())));
     setWindowTitle(ToQt(model.Title()));
     auto* column = new QVBoxLayout(this);
     SetSpacing(*column, *this, true);
