@@ -74,7 +74,8 @@ void ColorScaleView::PaintColumn(QPainter& painter, const QRect& picture, const 
     const int textWidth = left ? outer - unit / 2 : width() - outer - unit / 2;
     const auto draw = [&](int y, const QString& text) {
         const QRect place(left ? 0 : outer + unit / 2, y - line / 2, textWidth, line);
-        painter.drawText(place, (left ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter, text);
+        const Qt::Alignment side = left ? Qt::AlignRight : Qt::AlignLeft;
+        painter.drawText(place, static_cast<int>(side | Qt::AlignVCenter), text);
     };
     painter.setPen(palette().color(QPalette::WindowText));
     for (const ScaleMark& mark : column.marks) {

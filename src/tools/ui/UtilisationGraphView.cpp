@@ -172,7 +172,7 @@ void UtilisationGraphView::PaintNames(QPainter& painter, const GraphArea& area) 
         IbuMethod method;
         int y;
     };
-    std::array<Name, kMethods> names;
+    std::array<Name, kMethods> names{};
     for (std::size_t i = 0; i < names.size(); ++i)
         names[i] = {kAllMethods[i], area.UtilisationToY(curves_[i].back().percent)};
     std::ranges::stable_sort(names, {}, &Name::y);
