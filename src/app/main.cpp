@@ -127,6 +127,7 @@ int Run(int argc, char** argv) {
     QtClipboard clipboard;
     Platform platform{messages, dialogs, *settings, clock, clipboard};
     Shell shell(platform);
+    shell.SetProgramFolder(FromQt(QCoreApplication::applicationDirPath()));
     if (!photographing)
         shell.SetRecoveryFolder(FromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
                                        QStringLiteral("/unsaved")));

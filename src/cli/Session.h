@@ -27,6 +27,9 @@ class Session : private ShellView {
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
+    // Where the product's own files lie (Shell::SetProgramFolder). Call it before the first start.
+    void SetProgramFolder(std::string folder) { programFolder_ = std::move(folder); }
+
     // The running program; starts it when it does not run. Raises StartFailure.
     Shell& Program();
     bool Running() const { return shell_ != nullptr; }
@@ -54,6 +57,7 @@ class Session : private ShellView {
     void KeepMemoryDatabase();
 
     std::string databasePath_;
+    std::string programFolder_;
     std::filesystem::path keptFolder_;  // holds an in-memory database between two runs of the program
     ScriptOutput& out_;
     AnswerQueue answers_;

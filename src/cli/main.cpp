@@ -32,9 +32,12 @@ tw::ExitStatus RunScript(tw::Console& console, const std::string& name) {
     return console.Run(script, name);
 }
 
-int RunScripts(const tw::CommandLine& line, const std::string& database) {
+int RunScripts(const tw::CommandLine& line, const std::string& programFolder) {
+    const std::string database =
+        line.database.empty() ? tw::Shell::DatabasePath(programFolder) : line.database;
     const std::unique_ptr<tw::SettingsPort> settings = OpenSettings(line.settings);
     tw::Console console(database, *settings, std::cout, std::cerr);
+    console.SetProgramFolder(programFolder);
     for (const std::string& script : line.scripts) {
         const tw::ExitStatus status = RunScript(console, script);
         if (status != tw::ExitStatus::Done) return static_cast<int>(status);
@@ -51,7 +54,7 @@ int Run(const std::vector<std::string>& arguments) {
     }
     if (line.scripts.empty()) line.scripts.emplace_back("-");
     const std::string folder = QCoreApplication::applicationDirPath().toStdString();
-    return RunScripts(line, line.database.empty() ? tw::Shell::DatabasePath(folder) : line.database);
+    return RunScripts(line, folder);
 }
 
 }  // namespace

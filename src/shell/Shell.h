@@ -75,6 +75,10 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // Keeps unsaved work in files below this folder from now on, apart for each database; nothing is kept
     // before, or for a database in memory. Call it before the start.
     void SetRecoveryFolder(std::string folder) { recoveryRoot_ = std::move(folder); }
+    // Where the product's own files lie. What is new or corrected in its folder "catalogue" comes into the
+    // database when it is opened (store/CatalogueUpdate.h), never into one in memory. Call it before the
+    // start.
+    void SetProgramFolder(std::string folder) { programFolder_ = std::move(folder); }
     // Offers what the last run left unsaved; shows nothing when that is nothing. Call it after the start.
     void OfferRecovery();
     // Writes the recipes that were edited since the last call into their files. Failures are silent and tried
@@ -212,6 +216,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     };
     static const ActionRow kFileActions[], kEditActions[], kOtherActions[];
     bool OpenDatabase(const std::string& path);
+    void FollowCatalogue();
     // Empty for a name without an action.
     static Action FindAction(std::string_view name);
     bool RunAction(std::string_view name);
@@ -258,6 +263,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     AutoSaveMinutes autoSaveMinutes_;
     bool autoSaving_ = false;
     std::string recoveryRoot_;
+    std::string programFolder_;  // empty: the product's own files are not used
     std::unique_ptr<Recovery> recovery_;  // nullptr while nothing is kept
     std::set<std::string> editedKeys_;    // documents with edits that are not in their files
 };

@@ -1,11 +1,18 @@
 // Start-up, shut-down and the settings of the shell.
 #include "calc/RecipeRecord.h"
 #include "shell/Shell.h"
+#include "store/CatalogueUpdate.h"
 #include "store/Schema.h"
 
 namespace tw {
 
 namespace {
+
+std::string InFolder(std::string_view folder, std::string_view name) {
+    std::string path(folder);
+    if (!path.empty() && path.back() != '/') path += '/';
+    return path.append(name);
+}
 
 constexpr std::string_view kInMemory = ":memory:";
 
@@ -54,6 +61,7 @@ bool Shell::OpenDatabase(const std::string& path) {
         if (view_) view_->CloseMainWindow();
         return false;
     }
+    if (!programFolder_.empty() && path != kInMemory) FollowCatalogue();
     tree_ = std::make_unique<TWTree>(database_.get());
     treeObjects_ = std::make_unique<TreeObjects>(*tree_);
     objects_ = std::make_unique<DB_IO>(*database_, *treeObjects_, platform_.messages, platform_.clock, *this);
@@ -62,10 +70,17 @@ bool Shell::OpenDatabase(const std::string& path) {
     return true;
 }
 
+void Shell::FollowCatalogue() {
+    try {
+        UpdateCatalogue(InFolder(programFolder_, "catalogue"), *database_, platform_.clock.Now());
+    } catch (const Error&) {
+        // The recipes matter more than a newer catalogue: the start goes on, and the next one tries again.
+        return;
+    }
+}
+
 std::string Shell::DatabasePath(std::string_view programFolder) {
-    std::string path(programFolder);
-    if (!path.empty() && path.back() != '/') path += '/';
-    return path + "Tunwright.mdb";
+    return InFolder(programFolder, "Tunwright.mdb");
 }
 
 bool Shell::CloseAll() {

@@ -1,0 +1,35 @@
+// Brings the rows that a newer version of the product adds or corrects into a database that is in use, and
+// leaves alone whatever its brewer has changed, renamed or removed.
+//
+// The table CATALOGUE_BASE remembers each row as the product delivered it (SHEET the table, NAME the row's
+// name, CONTENT its values), the style folders (CONTENT the ID), and in the row of SHEET "CATALOGUE" which
+// version and content of the files came last.
+#pragma once
+
+#include <string>
+
+#include "platform/DateTime.h"
+#include "store/CatalogueSheets.h"
+#include "store/Database.h"
+
+namespace tw {
+
+// Brings the catalogue of folder into database, as one unit of work:
+// - a row that the product never delivered to this database is added, unless a row of that name is there;
+// - a row that stands as it was delivered takes the new values (a style stays in the folder where it is now);
+// - everything else stays: rows that were changed, are gone, or are the brewer's own.
+// A new style goes into the folder delivered under the name that the file gives, wherever that is now and
+// whatever its name; under the root when that folder is gone.
+// A database that remembers no delivery takes its rows for the brewer's: nothing in it changes, and what the
+// product holds now counts as delivered. Nothing happens either when these very files came last, when a
+// newer version of them did, or when they are missing or faulty.
+// Gives whether a row was added or corrected. Raises the store's error when a statement fails; what was done
+// so far is remembered, and the next call goes on.
+bool UpdateCatalogue(const std::string& folder, Database& database, const DateTime& now);
+
+// Fills the empty catalogue tables of a new database from the files and remembers the delivery. REQUIRES:
+// the tables are empty and the catalogue has no problems.
+void DeliverCatalogue(const std::string& folder, const Catalogue& catalogue, Database& database,
+                      const DateTime& created);
+
+}  // namespace tw

@@ -1,0 +1,247 @@
+// What a newer version of the product brings into a database that is in use.
+#include "store/CatalogueUpdate.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+
+#include "SmallCatalogue.h"
+
+namespace tw {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr DateTime kNow{.year = 2026, .month = 11, .day = 21, .hour = 8, .minute = 0, .second = 0};
+
+// A database made by version 1 of the small catalogue; each test then edits the files into version 2.
+class CatalogueUpdateTest : public SmallCatalogue {
+  protected:
+    void SetUp() override {
+        SmallCatalogue::SetUp();
+        Append("version.txt", "1\n");
+        ASSERT_THAT(Load(), IsEmpty());
+        Replace("version.txt", "2\n");
+    }
+    bool Update() { return UpdateCatalogue(folder_.string(), *database_, kNow); }
+    void Sql(const std::string& sql) { database_->Execute(sql); }
+    void AddHop() const { Append("hops.tsv", "New Hop\tAroma\t4\t6\tLemon.\n"); }
+    void AddStyle() const {
+        Append("styles.tsv", "Kellerbier\tPale Beer\tLager\t\t1.045\t1.051\t\t\t\t\t\t\t\t\t\t\tHazy.\n");
+    }
+    void CorrectWildHop() const { Edit("hops.tsv", "Wild Hop\t\t\t\t", "Wild Hop\tAroma\t3\t5\tMild."); }
+    std::vector<std::string> WildHops() {
+        return Rows("SELECT NAME, USAGE, DESCR, AA_LO, AA_HI FROM HOPS WHERE NAME = 'Wild Hop'");
+    }
+};
+
+TEST_F(CatalogueUpdateTest, ChangesNothingWhenTheFilesAreTheSame) {
+    Replace("version.txt", "1\n");
+    int statements = 0;
+    database_->SetStatementHook(
+        [&](std::string_view sql) { statements += sql.starts_with("SELECT") ? 0 : 1; });
+    EXPECT_FALSE(Update());
+    EXPECT_EQ(statements, 0);
+}
+
+TEST_F(CatalogueUpdateTest, AddsARowThatTheProductNeverDelivered) {
+    AddHop();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT NAME, USAGE, DESCR, AA_LO, AA_HI FROM HOPS WHERE NAME = 'New Hop'"),
+                ElementsAre("New Hop|Aroma|Lemon.|4|6"));
+}
+
+TEST_F(CatalogueUpdateTest, CorrectsARowThatStandsAsDelivered) {
+    CorrectWildHop();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(WildHops(), ElementsAre("Wild Hop|Aroma|Mild.|3|5"));
+}
+
+TEST_F(CatalogueUpdateTest, CorrectsARowThatItsEditorSavedUnchanged) {
+    // The editors delete and insert, so that the row gets another ID.
+    Sql("DELETE FROM HOPS WHERE NAME = 'Wild Hop'");
+    Sql("INSERT INTO HOPS (NAME, USAGE, DESCR) VALUES ('Wild Hop', '', '')");
+    CorrectWildHop();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(WildHops(), ElementsAre("Wild Hop|Aroma|Mild.|3|5"));
+}
+
+TEST_F(CatalogueUpdateTest, LeavesAChangedRowAlone) {
+    Sql("UPDATE HOPS SET AA_LO = 9 WHERE NAME = 'Wild Hop'");
+    CorrectWildHop();
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(WildHops(), ElementsAre("Wild Hop|||9|NULL"));
+}
+
+TEST_F(CatalogueUpdateTest, LeavesAChangedRowAloneForever) {
+    Sql("UPDATE HOPS SET AA_LO = 3 WHERE NAME = 'Wild Hop'");
+    CorrectWildHop();
+    Update();
+    Edit("hops.tsv", "Mild.", "Very mild.");
+    Replace("version.txt", "3\n");
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(WildHops(), ElementsAre("Wild Hop|||3|NULL"));
+}
+
+TEST_F(CatalogueUpdateTest, DoesNotBringBackARemovedRow) {
+    Sql("DELETE FROM HOPS WHERE NAME = 'Wild Hop'");
+    CorrectWildHop();
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(WildHops(), IsEmpty());
+}
+
+TEST_F(CatalogueUpdateTest, LeavesARenamedRowAloneAndAddsNoTwin) {
+    Sql("UPDATE HOPS SET NAME = 'My Hop' WHERE NAME = 'Wild Hop'");
+    CorrectWildHop();
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(Rows("SELECT NAME FROM HOPS ORDER BY NAME"), ElementsAre("Brewer's Gold", "My Hop"));
+    EXPECT_THAT(Rows("SELECT AA_LO FROM HOPS WHERE NAME = 'My Hop'"), ElementsAre("NULL"));
+}
+
+TEST_F(CatalogueUpdateTest, AnotherSpellingOfTheNameIsTheBrewersToo) {
+    Sql("UPDATE HOPS SET NAME = 'WILD HOP' WHERE NAME = 'Wild Hop'");
+    CorrectWildHop();
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(WildHops(), ElementsAre("WILD HOP|||NULL|NULL"));
+}
+
+TEST_F(CatalogueUpdateTest, LeavesTheBrewersOwnRowOfANewNameAlone) {
+    Sql("INSERT INTO HOPS (NAME, USAGE, DESCR, AA_LO, AA_HI) VALUES ('NEW HOP', 'Mine', 'Garden', 1, 2)");
+    AddHop();
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(Rows("SELECT NAME, USAGE FROM HOPS WHERE NAME = 'New Hop'"), ElementsAre("NEW HOP|Mine"));
+}
+
+TEST_F(CatalogueUpdateTest, ARowThatTheProductDropsStays) {
+    Edit("hops.tsv", "Wild Hop\t\t\t\t\n", "");
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(WildHops(), ElementsAre("Wild Hop|||NULL|NULL"));
+}
+
+TEST_F(CatalogueUpdateTest, CorrectsARowOfEachTable) {
+    Edit("grains.tsv", "1.8\t2\tA base.", "1.8\t2.5\tA base.");
+    Edit("yeast.tsv", "72\t78", "73\t79");
+    Edit("water_profiles.tsv", "7\t15", "8\t15");
+    Edit("salts.tsv", "61.5", "61.6");
+    Edit("sugars.tsv", "97\t100", "98\t100");
+    Edit("styles.tsv", "22\t40", "22\t45");
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT COLOR_HI FROM GRAINS WHERE NAME = 'Pale Malt'"), ElementsAre("2.5"));
+    EXPECT_THAT(Rows("SELECT AA_LO, AA_HI FROM YEAST WHERE NAME = 'Kölsch Yeast'"), ElementsAre("73|79"));
+    EXPECT_THAT(Rows("SELECT CA FROM WATER_PROFILES"), ElementsAre("8"));
+    EXPECT_THAT(Rows("SELECT CA FROM SALTS"), ElementsAre("61.6"));
+    EXPECT_THAT(Rows("SELECT FERMENT_LO FROM SUGARS WHERE NAME = 'Cane'"), ElementsAre("98"));
+    EXPECT_THAT(Rows("SELECT IBU_HI, CREATED_WHEN, MODIFIED_WHEN FROM STYLES WHERE NAME = 'Pils'"),
+                ElementsAre("45|02/29/2024 13:05:07|11/21/2026 08:00:00"));
+}
+
+TEST_F(CatalogueUpdateTest, AMovedStyleIsCorrectedWhereItIs) {
+    Sql("UPDATE STYLES SET FOLDER_ID = 0 WHERE NAME = 'Pils'");
+    Edit("styles.tsv", "22\t40", "22\t45");
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT FOLDER_ID, IBU_HI FROM STYLES WHERE NAME = 'Pils'"), ElementsAre("0|45"));
+}
+
+TEST_F(CatalogueUpdateTest, ANewStyleGoesIntoTheRenamedFolder) {
+    Sql("UPDATE FOLDERS SET NAME = 'Yellow' WHERE NAME = 'Pale Beer'");
+    AddStyle();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT FOLDERS.NAME FROM STYLES, FOLDERS WHERE STYLES.FOLDER_ID = FOLDERS.ID AND "
+                     "STYLES.NAME = 'Kellerbier'"),
+                ElementsAre("Yellow"));
+    EXPECT_THAT(Rows("SELECT NAME FROM FOLDERS ORDER BY NAME"), ElementsAre("Other Beer", "Yellow"));
+}
+
+TEST_F(CatalogueUpdateTest, ANewStyleOfARemovedFolderGoesUnderTheRoot) {
+    Sql("UPDATE STYLES SET FOLDER_ID = 0");
+    Sql("DELETE FROM FOLDERS WHERE NAME = 'Pale Beer'");
+    AddStyle();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT FOLDER_ID FROM STYLES WHERE NAME = 'Kellerbier'"), ElementsAre("0"));
+    EXPECT_THAT(Rows("SELECT NAME FROM FOLDERS"), ElementsAre("Other Beer"));
+}
+
+TEST_F(CatalogueUpdateTest, ANewFolderComesWithItsStyle) {
+    Append("styles.tsv", "Gose\tSour Beer\tLactic\t\t\t\t\t\t\t\t\t\t\t\t\t\tSalt.\n");
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(
+        Rows("SELECT FOLDERS.NAME, FOLDERS.CREATED_WHEN FROM STYLES, FOLDERS WHERE STYLES.FOLDER_ID = "
+             "FOLDERS.ID AND STYLES.NAME = 'Gose'"),
+        ElementsAre("Sour Beer|11/21/2026 08:00:00"));
+}
+
+TEST_F(CatalogueUpdateTest, AGrainThatChangesItsTypeBringsTheNewAndDropsTheEmptyOne) {
+    Append("grain_types.tsv", "Honeys\textract\n");
+    Edit("grains.tsv", "Honey\textract\tSugar", "Honey\textract\tHoneys");
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT NAME FROM GRAIN_TYPES WHERE NOT GRAIN"), ElementsAre("Honeys"));
+    EXPECT_THAT(
+        Rows("SELECT GRAIN_TYPES.NAME FROM GRAINS, GRAIN_TYPES WHERE GRAINS.GRAIN_TYPE = GRAIN_TYPES.ID "
+             "AND GRAINS.NAME = 'Honey'"),
+        ElementsAre("Honeys"));
+}
+
+TEST_F(CatalogueUpdateTest, AGrainPutUnderAnotherTypeIsChanged) {
+    Sql("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Mine', TRUE)");
+    Sql("UPDATE GRAINS SET GRAIN_TYPE = 3 WHERE NAME = 'Pale Malt'");
+    Edit("grains.tsv", "1.8\t2\tA base.", "1.8\t2.5\tA base.");
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(Rows("SELECT COLOR_HI FROM GRAINS WHERE NAME = 'Pale Malt'"), ElementsAre("2"));
+}
+
+TEST_F(CatalogueUpdateTest, AnOlderVersionOfTheProductTakesNothingBack) {
+    CorrectWildHop();
+    Update();
+    Edit("hops.tsv", "Mild.", "Old.");
+    Replace("version.txt", "1\n");
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(WildHops(), ElementsAre("Wild Hop|Aroma|Mild.|3|5"));
+}
+
+TEST_F(CatalogueUpdateTest, OtherFilesOfTheSameVersionCountToo) {
+    Replace("version.txt", "1\n");
+    CorrectWildHop();
+    EXPECT_TRUE(Update());
+}
+
+TEST_F(CatalogueUpdateTest, ADatabaseWithoutAMemoryOfDeliveriesStaysAsItIs) {
+    database_->ExecuteNative("DROP TABLE CATALOGUE_BASE");
+    Sql("DELETE FROM HOPS WHERE NAME = 'Wild Hop'");
+    AddHop();
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(Rows("SELECT NAME FROM HOPS"), ElementsAre("Brewer's Gold"));
+    // From then on it follows like any other.
+    Append("hops.tsv", "Later Hop\tAroma\t4\t6\t\n");
+    Edit("hops.tsv", "Dark fruit.", "Blackcurrant.");
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT NAME, DESCR FROM HOPS ORDER BY NAME"),
+                ElementsAre("Brewer's Gold|Blackcurrant.", "Later Hop|"));
+}
+
+TEST_F(CatalogueUpdateTest, FaultyOrMissingFilesChangeNothing) {
+    AddHop();
+    Edit("hops.tsv", "New Hop\tAroma\t4", "New Hop\tAroma\t7");
+    EXPECT_FALSE(Update());
+    std::filesystem::remove(folder_ / "hops.tsv");
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(Rows("SELECT NAME FROM HOPS ORDER BY NAME"), ElementsAre("Brewer's Gold", "Wild Hop"));
+}
+
+TEST_F(CatalogueUpdateTest, GoesOnAfterAFailureInTheMiddle) {
+    CorrectWildHop();
+    AddHop();
+    int left = 1;
+    database_->SetStatementHook([&](std::string_view sql) {
+        if (!sql.starts_with("SELECT") && left-- == 0) throw Error("Disk", "Full", 1);
+    });
+    EXPECT_THROW(Update(), Error);
+    database_->SetStatementHook({});
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(WildHops(), ElementsAre("Wild Hop|Aroma|Mild.|3|5"));
+    EXPECT_THAT(Rows("SELECT NAME FROM HOPS WHERE NAME = 'New Hop'"), ElementsAre("New Hop"));
+    EXPECT_FALSE(Update());
+}
+
+}  // namespace
+}  // namespace tw
