@@ -10,6 +10,10 @@
 #include "document/DetailWindows.h"
 #include "document/ScalingModel.h"
 #include "document/ui/frmDocument.h"
+#include "help/AssistantModel.h"
+#include "help/HelpContentsModel.h"
+#include "help/SystemTextFiles.h"
+#include "help/qt/QtBrowser.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtDialogs.h"
 #include "shell/AboutModel.h"
@@ -117,6 +121,18 @@ bool SaveChoosers(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     return ok && SaveWidget(chooser, prefix + QStringLiteral("choose-recipes.png"));
 }
 
+bool SaveHelp(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
+    PrintedMessages messages;
+    QtBrowser browser;
+    SystemTextFiles files;
+    Help help(QCoreApplication::applicationDirPath().toStdString(), messages, browser, files);
+    HelpContentsModel contents(help, messages);
+    bool ok = SaveDialog(dialogs, contents, parent, prefix + QStringLiteral("help-contents.png"));
+    AssistantModel assistant(true);
+    ok &= SaveDialog(dialogs, assistant, parent, prefix + QStringLiteral("assistant.png"));
+    return ok;
+}
+
 bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
     AboutModel about;
     bool ok = SaveDialog(dialogs, about, window, prefix + QStringLiteral("about.png"));
@@ -124,6 +140,7 @@ bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QStrin
     ok &= SaveDialog(dialogs, cannotUndo, window, prefix + QStringLiteral("cannot-undo.png"));
     ok &= SaveOptions(dialogs, shell, window, prefix);
     ok &= SaveTools(dialogs, window, prefix);
+    ok &= SaveHelp(dialogs, window, prefix);
     ok &= SaveChoosers(dialogs, shell, window, prefix);
     if (RecipeDocument* document = shell.ActiveDocument()) {
         DetailsModel strength = StrengthDetailsOf(*document), volume = FinalVolDetailsOf(*document),

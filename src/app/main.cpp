@@ -1,6 +1,7 @@
 // The program with windows.
 #include <QDir>
 #include <QStandardPaths>
+#include <QTimer>
 #include <algorithm>
 #include <cstdio>
 #include <string_view>
@@ -14,6 +15,10 @@
 #include "document/ui/RangeBar.h"
 #include "document/ui/ScalingDialog.h"
 #include "document/ui/frmDocument.h"
+#include "help/SystemTextFiles.h"
+#include "help/qt/QtBrowser.h"
+#include "help/ui/frmAssistant.h"
+#include "help/ui/frmHelpContents.h"
 #include "platform/SystemClock.h"
 #include "platform/qt/ColorChooser.h"
 #include "platform/qt/DesktopColors.h"
@@ -48,6 +53,8 @@ void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     for (const char* form : {"frmResizeRecipe", "frmChangeOG", "frmChangeIBU", "frmChangeCO2"})
         dialogs.Register(form, &ScalingDialog::Make);
     dialogs.Register("frmAbout", &AboutDialog::Make);
+    dialogs.Register("frmHelpContents", &frmHelpContents::Make);
+    dialogs.Register("frmAssistant", &frmAssistant::Make);
     dialogs.Register("frmCannotUndo", &CannotUndoDialog::Make);
     dialogs.Register("frmAutoSave", &frmAutoSave::Make);
     dialogs.Register("frmOpenSave", &OpenSaveDialog::Make);
@@ -131,6 +138,13 @@ int Run(int argc, char** argv) {
     if (!photographing)
         shell.SetRecoveryFolder(FromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
                                        QStringLiteral("/unsaved")));
+    QtBrowser browser;
+    SystemTextFiles files;
+    Help help(FromQt(QCoreApplication::applicationDirPath()), messages, browser, files);
+    shell.SetHelp(&help);
+    dialogs.SetHelp([&shell](const std::string& form, int tab) {
+        shell.ShowContextHelp(form, tab > 0 ? TabContext(tab) : std::string(kWholeWindow));
+    });
     frmMain window(shell, platform);
     DesktopColors colors;
     window.show();
@@ -138,6 +152,8 @@ int Run(int argc, char** argv) {
     OpenRecipes(window, shell, options);
     if (photographing) return Photograph(window, shell, dialogs, options);
     colors.Follow();
+    // Within the event loop, which ends the program when the main window is closed behind it.
+    QTimer::singleShot(0, &window, [&shell] { shell.ShowAssistantAtStartup(); });
     return QApplication::exec();
 }
 

@@ -25,6 +25,7 @@ Session::Session(std::string databasePath, SettingsPort& settings, ScriptOutput&
       messages_(out_, answers_),
       dialogs_(out_, answers_),
       platform_{messages_, dialogs_, settings, clock_, clipboard_},
+      helpPlatform_(out_),
       store_(settings) {}
 
 Session::~Session() {
@@ -39,6 +40,7 @@ Shell& Session::Program() {
     auto shell = std::make_unique<Shell>(platform_);
     shell->SetView(this);
     shell->SetProgramFolder(programFolder_);
+    shell->SetHelp(&HelpPages());
     shell->LoadWindowSettings();
     if (!shell->PerformSplashScreenInit(databasePath_)) {
         shell->Unload(true);
@@ -46,6 +48,11 @@ Shell& Session::Program() {
     }
     shell_ = std::move(shell);
     return *shell_;
+}
+
+Help& Session::HelpPages() {
+    if (!help_) help_.emplace(programFolder_, messages_, helpPlatform_, helpPlatform_);
+    return *help_;
 }
 
 RecipeDocument& Session::Document() {

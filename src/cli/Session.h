@@ -4,11 +4,14 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "calc/RecipeRecord.h"
+#include "cli/ScriptHelp.h"
 #include "cli/ScriptPlatform.h"
 #include "document/RecipeDocument.h"
+#include "help/Help.h"
 #include "platform/SystemClock.h"
 #include "shell/SettingsStore.h"
 #include "shell/Shell.h"
@@ -27,7 +30,8 @@ class Session : private ShellView {
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    // Where the product's own files lie (Shell::SetProgramFolder). Call it before the first start.
+    // Where the product's own files lie (Shell::SetProgramFolder), the help among them. Call it before the
+    // first start and the first look at the help.
     void SetProgramFolder(std::string folder) { programFolder_ = std::move(folder); }
 
     // The running program; starts it when it does not run. Raises StartFailure.
@@ -39,6 +43,8 @@ class Session : private ShellView {
 
     ScriptOutput& Out() { return out_; }
     MessagePort& Messages() { return messages_; }
+    // Works without the program running.
+    Help& HelpPages();
     ClipboardPort& Clipboard() { return clipboard_; }
     AnswerQueue& Answers() { return answers_; }
     ScriptDialogs& Dialogs() { return dialogs_; }
@@ -66,6 +72,8 @@ class Session : private ShellView {
     MemoryClipboard clipboard_;
     SystemClock clock_;
     Platform platform_;
+    ScriptHelp helpPlatform_;
+    std::optional<Help> help_;
     SettingsStore store_;
     std::unique_ptr<Shell> shell_;
     bool exitGranted_ = false;

@@ -141,9 +141,6 @@ constexpr std::array kNotBuilt = std::to_array<std::string_view>({
     "mnuFilePrint",
     "mnuToolsDataSetup",
     "mnuToolsExplorer",
-    "mnuToolsAssistant",
-    "mnuHelpContents",
-    "mnuHelpAuto",
 });
 
 bool Built(std::string_view item) {

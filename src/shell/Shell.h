@@ -15,6 +15,7 @@
 #include "document/DocumentHost.h"
 #include "document/RecipeDocument.h"
 #include "document/ScalingModel.h"
+#include "help/Help.h"
 #include "platform/Ports.h"
 #include "shell/AutoSave.h"
 #include "shell/CommandBar.h"
@@ -27,7 +28,6 @@
 #include "tree/TreeObjects.h"
 
 namespace tw {
-
 
 // The arrangements of the document windows.
 enum class Arrangement : int { Cascade, TileHorizontal, TileVertical };
@@ -53,6 +53,8 @@ class ShellView {
     virtual void AutoSaveSwitched(bool /*on*/) {}
     // A recipe has edits that are kept nowhere: KeepUnsavedWork is due within a few seconds.
     virtual void UnsavedWorkWaits() {}
+    // Whether that document's window is minimised.
+    virtual bool IsMinimized(const RecipeDocument&) const { return false; }
     // Ends the program (the close request has been granted, or the database could not be opened).
     virtual void CloseMainWindow() {}
 };
@@ -137,7 +139,6 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // SaveRecipeAs with the answer of the dialog given. silent asks nothing.
     bool SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId, bool silent);
 
-
     // Autosave. Switching it on counts the minutes from 0.
     bool DoAutoSave() const { return settings_.doAutoSave; }
     void SetDoAutoSave(bool on);
@@ -146,6 +147,14 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void TickAutoSave();
     // Saves all documents silently behind the progress window.
     void ShowAutoSave();
+
+    // Where the pages of the help come from; must outlive the shell. Without it the help shows nothing.
+    void SetHelp(Help* help) { help_ = help; }
+    // What F1 does in a window; an error is shown.
+    void ShowContextHelp(std::string_view formName, std::string_view context);
+    // The assistant, if the settings want it; its box and then its link are carried out. The last step of the
+    // start.
+    void ShowAssistantAtStartup();
 
     // Runs a menu item's action by its name. False when it is disabled or hidden, or unknown: nothing happens
     // then. An error that rises from the action is shown as Guard does.
@@ -236,6 +245,10 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void ShowScaling(Scaling what);
     void Arrange(Arrangement arrangement);
     void CopyShowingErrors();
+    // The page of the active document's tab; the home page without one, and while it is minimised.
+    void ShowHelpOfActive();
+    void ShowHelpContents();
+    void ShowAssistant();
     void SaveAllDocuments();
     void SwitchAutoSave(bool wasOn);
     void ForgetUnsavedWork(const RecipeDocument& document);
@@ -257,6 +270,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     std::vector<RecipeDocument*> useOrder_;  // least recently active first
     RecipeDocument* active_ = nullptr;
     ShellView* view_ = nullptr;
+    Help* help_ = nullptr;
     int windowCounter_ = 0;
     int nextDocKey_ = 0;
     bool lastPasteEnable_ = false;

@@ -96,9 +96,12 @@ const Shell::ActionRow Shell::kOtherActions[] = {
          OptionsModel options(s, s.platform_.messages);
          s.platform_.dialogs.ShowModal(options);
      }},
+    {"mnuToolsAssistant", [](Shell& s) { s.ShowAssistant(); }},
     {"mnuWindowCascade", [](Shell& s) { s.Arrange(Arrangement::Cascade); }},
     {"mnuWindowTileHorizontal", [](Shell& s) { s.Arrange(Arrangement::TileHorizontal); }},
     {"mnuWindowTileVertical", [](Shell& s) { s.Arrange(Arrangement::TileVertical); }},
+    {"mnuHelpContents", [](Shell& s) { s.ShowHelpContents(); }},
+    {"mnuHelpAuto", [](Shell& s) { s.ShowHelpOfActive(); }},
     {"mnuHelpAbout",
      [](Shell& s) {
          AboutModel about;

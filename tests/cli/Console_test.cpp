@@ -27,6 +27,7 @@ Outcome RunText(const std::string& text, const std::string& database = ":memory:
     std::ostringstream out;
     std::ostringstream errors;
     Console console(database, settings, out, errors);
+    console.SetProgramFolder(PROGRAM_FOLDER);
     std::istringstream script(text);
     const ExitStatus status = console.Run(script, "s.tws");
     if (status == ExitStatus::Done) console.End();
@@ -100,9 +101,9 @@ TEST(Console, WritesTheRecentListAtItsEnd) {
 TEST(Console, RefusesWrongArgumentsOfEveryCommand) {
     // Too few for a command with a fixed first argument, too many for the others.
     const std::set<std::string_view> takesNothing = {
-        "new",  "save",    "close", "documents", "changed",   "swatch",   "slider",
-        "mru",  "restart", "undo",  "redo",      "undotype",  "redotype", "selectall",
-        "copy", "cut",     "clear", "paste",     "clipboard", "tree",     "treat"};
+        "new",     "save",  "close",     "documents", "changed",  "swatch",    "slider", "mru",
+        "restart", "undo",  "redo",      "undotype",  "redotype", "selectall", "copy",   "cut",
+        "clear",   "paste", "clipboard", "tree",      "treat",    "contents"};
     // A text may be missing, or hold anything.
     const std::set<std::string_view> takesAnyText = {"answer", "setclipboard"};
     for (const Command& command : AllCommands()) {

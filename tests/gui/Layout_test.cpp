@@ -10,11 +10,14 @@
 #include "document/ui/DetailsDialog.h"
 #include "document/ui/FancyLabel.h"
 #include "document/ui/ScalingDialog.h"
+#include "help/ui/frmAssistant.h"
+#include "help/ui/frmHelpContents.h"
 #include "platform/qt/Appearance.h"
 #include "shell/AboutModel.h"
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
 #include "shell/ui/frmOptions.h"
+#include "support/RecordingHelp.h"
 #include "tools/ui/frmColor.h"
 #include "tools/ui/frmConvertUnits.h"
 #include "tools/ui/frmHopUtil.h"
@@ -61,6 +64,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             QApplication::processEvents();
             visit(*dialog);
         }
+        ForEachHelpWindow(visit);
         ForEachTool(visit);
         ForEachChooser(visit);
         for (const Scaling what :
@@ -80,6 +84,25 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             optionTabs->setCurrentIndex(tab);
             QApplication::processEvents();
             visit(optionsWindow);
+        }
+    }
+
+    void ForEachHelpWindow(const std::function<void(QWidget&)>& visit) {
+        const TemporaryFolder folder;
+        MakeHelpDatabase(folder.Path(),
+                         "INSERT INTO HELP_CONTENTS VALUES (1, 'Salt & water', 'a.html', -1);");
+        RecordingBrowser browser;
+        MemoryFiles files;
+        Help help(folder.Path().string(), outside.messages, browser, files);
+        HelpContentsModel contents(help, outside.messages);
+        AssistantModel assistant(true);
+        frmHelpContents contentsWindow(contents, nullptr);
+        frmAssistant assistantWindow(assistant, nullptr);
+        for (QDialog* dialog :
+             {static_cast<QDialog*>(&contentsWindow), static_cast<QDialog*>(&assistantWindow)}) {
+            dialog->show();
+            QApplication::processEvents();
+            visit(*dialog);
         }
     }
 

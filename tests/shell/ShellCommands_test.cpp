@@ -24,7 +24,6 @@ TEST_F(ShellTest, WhatIsOffHiddenOrUnknownDoesNothing) {
     EXPECT_FALSE(shell.RunMenu("mnuFileClose"));      // off
     EXPECT_FALSE(shell.RunMenu("mnuFileReport"));     // hidden
     EXPECT_FALSE(shell.RunMenu("mnuEditWaterCalc"));  // hidden
-    EXPECT_FALSE(shell.RunMenu("mnuHelpContents"));   // not built
     EXPECT_FALSE(shell.RunMenu("mnuFileBar0"));
     EXPECT_FALSE(shell.RunMenu("mnuFile"));
     EXPECT_FALSE(shell.RunMenu("mnuNothing"));

@@ -46,6 +46,7 @@ void QtDialogs::KeepSize(const QDialog& window) const {
 void QtDialogs::ShowModal(DialogModel& dialog) {
     const std::unique_ptr<QDialog> window = Make(dialog, QApplication::activeWindow());
     RestoreSize(*window);
+    if (help_) InstallHelpKey(*window, dialog.FormName(), help_);
     window->exec();
     KeepSize(*window);
     if (dialog.IsOpen()) dialog.CloseBox();

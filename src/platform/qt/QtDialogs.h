@@ -9,6 +9,7 @@
 
 #include "platform/DialogModel.h"
 #include "platform/Ports.h"
+#include "platform/qt/HelpKey.h"
 
 class QDialog;
 class QWidget;
@@ -24,6 +25,8 @@ class QtDialogs final : public DialogPort {
 
     // Makes the windows of that form by factory from now on.
     void Register(std::string formName, Factory factory);
+    // What F1 does in every window from now on; nothing before.
+    void SetHelp(HelpOpener open) { help_ = std::move(open); }
     // Returns when the window has been closed; the model is closed then, too.
     void ShowModal(DialogModel& dialog) override;
     // The window of a model, not shown yet.
@@ -35,6 +38,7 @@ class QtDialogs final : public DialogPort {
 
     SettingsPort& sizes_;
     std::map<std::string, Factory> factories_;
+    HelpOpener help_;
 };
 
 }  // namespace tw

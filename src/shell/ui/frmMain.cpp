@@ -192,6 +192,11 @@ void frmMain::UnsavedWorkWaits() {
     if (!keepTimer_->isActive()) keepTimer_->start();
 }
 
+bool frmMain::IsMinimized(const RecipeDocument& document) const {
+    const DocumentSubWindow* window = WindowOf(document);
+    return window && window->isMinimized();
+}
+
 void frmMain::CloseMainWindow() {
     exitGranted_ = true;
     close();

@@ -45,6 +45,7 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     void DocumentRenamed(const RecipeDocument& document) override;
     void AutoSaveSwitched(bool on) override;
     void UnsavedWorkWaits() override;
+    bool IsMinimized(const RecipeDocument& document) const override;
     void CloseMainWindow() override;
     void ArrangeDocuments(Arrangement arrangement) override;
     void ToolbarIconsChanged() override;

@@ -1,0 +1,87 @@
+#include "help/HelpContentsModel.h"
+
+#include <algorithm>
+#include <set>
+
+#include "platform/Error.h"
+#include "store/Database.h"
+
+namespace tw {
+namespace {
+
+constexpr std::int64_t kNoParent = -1;
+
+// Adds the children of one topic behind all others.
+void AppendChildren(Database& database, int parent, std::vector<HelpTopic>& topics,
+                    std::set<std::int64_t>& seen) {
+    const std::int64_t parentId =
+        parent == HelpTopic::kTop ? kNoParent : topics[static_cast<std::size_t>(parent)].id;
+    Recordset rows = database.OpenRecordset(
+        "SELECT TOPIC_NAME, TOPIC_ID, TOPIC_HELP_URL FROM HELP_CONTENTS WHERE PARENT_TOPIC_ID = " +
+        std::to_string(parentId) + " ORDER BY TOPIC_ID");
+    for (; !rows.AtEnd(); rows.MoveNext()) {
+        const std::int64_t id = rows.Fields("TOPIC_ID").Integer();
+        // Two nodes of one key cannot stand in a tree; without this a ring of topics would have no end.
+        if (!seen.insert(id).second)
+            throw Error("HelpContents", "The topic " + std::to_string(id) + " is listed twice", 0);
+        if (parent != HelpTopic::kTop)
+            topics[static_cast<std::size_t>(parent)].children.push_back(static_cast<int>(topics.size()));
+        topics.push_back({id, "T" + std::to_string(id), rows.Fields("TOPIC_NAME").Text(),
+                          rows.Fields("TOPIC_HELP_URL").Text(), parent});
+    }
+}
+
+}  // namespace
+
+void ReadHelpTopics(const Help& help, std::vector<HelpTopic>& topics) {
+    const auto database = Database::OpenDatabase(help.DatabasePath(), false);
+    std::set<std::int64_t> seen = {kNoParent};
+    topics.clear();
+    AppendChildren(*database, HelpTopic::kTop, topics, seen);
+    for (int topic = 0; topic < static_cast<int>(topics.size()); ++topic)
+        AppendChildren(*database, topic, topics, seen);
+}
+
+HelpContentsModel::HelpContentsModel(Help& help, MessagePort& messages) : help_(help) {
+    try {
+        ReadHelpTopics(help, topics_);
+    } catch (const Error& error) {
+        messages.ShowMessage("Error Loading Help Topics", "Error: " + error.Description());
+    }
+    for (int topic = 0; topic < static_cast<int>(topics_.size()); ++topic)
+        if (topics_[static_cast<std::size_t>(topic)].parent == HelpTopic::kTop) topLevel_.push_back(topic);
+    if (!topics_.empty()) selected_ = 0;
+}
+
+std::string HelpContentsModel::SelectedText() const {
+    std::string text;
+    if (selected_ == HelpTopic::kTop) return text;
+    for (const char c : topics_[static_cast<std::size_t>(selected_)].name) text.append(c == '&' ? 2 : 1, c);
+    return text;
+}
+
+void HelpContentsModel::ShowSelected() {
+    if (selected_ != HelpTopic::kTop) help_.ShowHelpPage(topics_[static_cast<std::size_t>(selected_)].page);
+}
+
+std::vector<DialogControl> HelpContentsModel::Controls() const {
+    const std::string name =
+        selected_ == HelpTopic::kTop ? std::string() : topics_[static_cast<std::size_t>(selected_)].name;
+    return {{"TreeView1", name}, {"lblSel", SelectedText()}};
+}
+
+bool HelpContentsModel::SetControl(std::string_view name, std::string_view text) {
+    if (name != "TreeView1") return false;
+    const auto found = std::ranges::find(topics_, text, &HelpTopic::name);
+    if (found == topics_.end()) return false;
+    selected_ = static_cast<int>(found - topics_.begin());
+    return true;
+}
+
+bool HelpContentsModel::Press(std::string_view button) {
+    if (button != "TreeView1") return false;
+    ShowSelected();
+    return true;
+}
+
+}  // namespace tw

@@ -1,0 +1,41 @@
+// The window of the assistant.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+#include <vector>
+
+#include "help/AssistantModel.h"
+
+class QBoxLayout;
+
+namespace tw {
+
+class AssistantLinkButton;
+
+class frmAssistant final : public QDialog {
+    Q_OBJECT
+  public:
+    // The model must outlive the dialog.
+    frmAssistant(AssistantModel& model, QWidget* parent);
+    ~frmAssistant() override;
+    // The window of an AssistantModel. REQUIRES: model is one.
+    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
+
+  protected:
+    void reject() override;
+
+  private:
+    void AddLinks(QBoxLayout& column);
+    void AddButtons(QBoxLayout& column);
+    void Press(std::string_view button);
+    // Highlights that link alone; none without one.
+    void Highlight(const AssistantLinkButton* link);
+    // The link under the pointer, else the one with the focus, else none.
+    void HighlightWhatIsLeft();
+
+    AssistantModel& model_;
+    std::vector<AssistantLinkButton*> links_;
+};
+
+}  // namespace tw

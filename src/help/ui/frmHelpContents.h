@@ -1,0 +1,37 @@
+// The window of the help's contents: the tree of topics, and the chosen one's name below it.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "help/HelpContentsModel.h"
+
+class QLabel;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace tw {
+
+class frmHelpContents final : public QDialog {
+    Q_OBJECT
+  public:
+    // The model must outlive the dialog.
+    frmHelpContents(HelpContentsModel& model, QWidget* parent);
+    // The window of a HelpContentsModel. REQUIRES: model is one.
+    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
+
+  protected:
+    void reject() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    void Fill();
+    void Follow(const QTreeWidgetItem* item);
+    void ShowPage();
+
+    HelpContentsModel& model_;
+    QTreeWidget* tree_;
+    QLabel* selected_;
+};
+
+}  // namespace tw
