@@ -153,24 +153,22 @@ bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QStrin
     return ok;
 }
 
+}  // namespace
+
 // A picture does not depend on the screen it is taken at, or on the sizes that somebody has stored.
-void TakeUsualSize(frmMain& window) {
+void TakeSize(frmMain& window, const QSize& size) {
     window.setWindowState(Qt::WindowNoState);
-    window.resize(FirstSize(window));
+    window.resize(size.isEmpty() ? FirstSize(window) : size);
     QApplication::processEvents();
     if (frmDocument* document = window.ActiveWindow()) document->parentWidget()->showMaximized();
 }
 
-}  // namespace
-
 bool TakePicture(frmMain& window, const QString& file) {
-    TakeUsualSize(window);
     return SaveWidget(window, file);
 }
 
 bool TakeAllPictures(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& folder) {
     bool ok = QDir().mkpath(folder);
-    TakeUsualSize(window);
     for (const bool dark : {false, true}) {
         QApplication::setPalette(dark ? DarkPalette() : LightPalette());
         const QString prefix = folder + (dark ? QStringLiteral("/dark-") : QStringLiteral("/light-"));

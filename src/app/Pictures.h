@@ -1,6 +1,7 @@
 // Pictures of the windows, for looking at them and for the handbook.
 #pragma once
 
+#include <QSize>
 #include <QString>
 
 namespace tw {
@@ -8,6 +9,9 @@ namespace tw {
 class QtDialogs;
 class Shell;
 class frmMain;
+
+// Gives the main window that size for pictures, or its usual one for an empty size.
+void TakeSize(frmMain& window, const QSize& size);
 
 // Writes what the main window shows into a PNG file. False when the file cannot be written.
 bool TakePicture(frmMain& window, const QString& file);

@@ -26,7 +26,10 @@ ProgramOptions ReadOptions(const QStringList& arguments) {
     const QCommandLineOption pictures(QStringLiteral("pictures"),
                                       QStringLiteral("Writes pictures of all windows and ends."),
                                       QStringLiteral("FOLDER"));
-    parser.addOptions({database, settings, open, tab, picture, pictures});
+    const QCommandLineOption size(QStringLiteral("size"),
+                                  QStringLiteral("Takes pictures of a main window of this size, in pixels."),
+                                  QStringLiteral("WIDTHxHEIGHT"));
+    parser.addOptions({database, settings, open, tab, picture, pictures, size});
     parser.process(arguments);
     ProgramOptions options;
     options.database = parser.value(database);
@@ -35,6 +38,8 @@ ProgramOptions ReadOptions(const QStringList& arguments) {
     options.tab = parser.value(tab).toInt();
     options.picture = parser.value(picture);
     options.pictures = parser.value(pictures);
+    const QStringList sides = parser.value(size).split(QLatin1Char('x'));
+    if (sides.size() == 2) options.size = QSize(sides[0].toInt(), sides[1].toInt());
     return options;
 }
 

@@ -1,6 +1,7 @@
 // The words of the command line.
 #pragma once
 
+#include <QSize>
 #include <QStringList>
 
 namespace tw {
@@ -12,6 +13,7 @@ struct ProgramOptions {
     int tab = 0;
     QString picture;   // a file for a picture of the main window; the program ends then
     QString pictures;  // a folder for pictures of all windows; the program ends then
+    QSize size;        // of the main window in pictures; empty: the usual one
 };
 
 // Reads the words. Ends the process with a message for an unknown option, --help and --version.

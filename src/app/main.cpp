@@ -82,6 +82,7 @@ void OpenRecipes(frmMain& window, Shell& shell, const ProgramOptions& options) {
 // The exit code of a run that only takes pictures.
 int Photograph(frmMain& window, Shell& shell, QtDialogs& dialogs, const ProgramOptions& options) {
     bool ok = true;
+    TakeSize(window, options.size);
     if (!options.picture.isEmpty()) ok &= TakePicture(window, options.picture);
     if (!options.pictures.isEmpty()) ok &= TakeAllPictures(window, shell, dialogs, options.pictures);
     if (!ok) std::fputs("tunwright: a picture could not be written\n", stderr);
