@@ -1,8 +1,10 @@
 // The pages of the help as they ship: no dead link, no page out of reach, no window without a page.
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <map>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -11,6 +13,7 @@
 #include <vector>
 
 #include "store/Database.h"
+#include "values/ParserValidater.h"
 
 namespace tw::test {
 namespace {
@@ -172,6 +175,77 @@ TEST(HelpPages, TheIndexIsTheTemplateWithTheHomePage) {
     EXPECT_EQ(Matches(frame, "src=\"([^\"]*)\""), std::vector<std::string>{"$START_PAGE"});
     EXPECT_EQ(TextOf(kPages / "index.html"),
               std::regex_replace(frame, std::regex("\\$START_PAGE"), "home.html"));
+}
+
+bool IsHopAmount(std::string_view text) {
+    double value = 0;
+    return ParseOuncesAnyUnit(text, value) || ParseAAU(text, value) || ParseIBU(text, value);
+}
+
+// Every example of the table on units can be typed where the table says so.
+TEST(HelpPages, ShowUnitsThatAreAccepted) {
+    const std::map<std::string, std::function<bool(std::string_view)>> accepts = {
+        {"Volume",
+         [](std::string_view t) {
+             double v = 0;
+             return ValidateVolume(t, v, nullptr);
+         }},
+        {"Gravity",
+         [](std::string_view t) {
+             double v = 0;
+             return ValidateGravity(t, v, nullptr);
+         }},
+        {"Percentage",
+         [](std::string_view t) {
+             double v = 0;
+             return ValidatePercent(t, v, nullptr);
+         }},
+        {"Malt, extract",
+         [](std::string_view t) {
+             double v = 0;
+             return ValidatePounds(t, v, nullptr);
+         }},
+        {"Hops", IsHopAmount},
+        {"Priming sugar",
+         [](std::string_view t) {
+             double v = 0;
+             return ValidateOunces(t, v, nullptr);
+         }},
+        {"Brewing salt",
+         [](std::string_view t) {
+             double v = 0;
+             return ValidateGrams(t, v, nullptr);
+         }},
+        {"Time",
+         [](std::string_view t) {
+             double v = 0;
+             return ValidateMinutes(t, v, nullptr);
+         }},
+        {"Temperature",
+         [](std::string_view t) {
+             double v = 0;
+             return ValidateTemperature(t, v, nullptr);
+         }},
+        {"Pressure",
+         [](std::string_view t) {
+             double v = 0;
+             return ValidatePressure(t, v, nullptr);
+         }},
+        {"Carbonation", [](std::string_view t) {
+             double v = 0;
+             return ParseCO2Volumes(t, v);
+         }}};
+    const std::string page = TextOf(kPages / "units.html");
+    Strings seen;
+    for (const std::string& row : Matches(page, "<tr>(<td>[\\s\\S]*?)</tr>")) {
+        const std::string kind = Matches(row, "<td>([^<]*)</td>").front();
+        const auto accept = accepts.find(kind);
+        ASSERT_NE(accept, accepts.end()) << kind;
+        for (const std::string& example : Matches(row, "<code>([^<]*)</code>"))
+            EXPECT_TRUE(accept->second(example)) << kind << ": " << example;
+        seen.insert(kind);
+    }
+    EXPECT_EQ(seen.size(), accepts.size());
 }
 
 TEST(HelpContexts, LeadToPages) {
