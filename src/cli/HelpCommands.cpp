@@ -1,4 +1,5 @@
 // Commands on the help.
+#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,8 +24,7 @@ void PrintContents(Session& session, Arguments& arguments) {
     // What is still to be printed, the next one last; with its depth.
     std::vector<std::pair<int, std::size_t>> waiting;
     const auto add = [&](const std::vector<int>& topics, std::size_t depth) {
-        for (auto topic = topics.rbegin(); topic != topics.rend(); ++topic)
-            waiting.emplace_back(*topic, depth);
+        std::for_each(topics.rbegin(), topics.rend(), [&](int topic) { waiting.emplace_back(topic, depth); });
     };
     add(contents.TopLevel(), 0);
     while (!waiting.empty()) {

@@ -1,7 +1,10 @@
 // F1 everywhere, the contents of the help, and the assistant, by keys and by the mouse.
+#include <QDesktopServices>
 #include <QSignalSpy>
+#include <fstream>
 
 #include "GuiTest.h"
+#include "help/qt/QtBrowser.h"
 #include "help/ui/AssistantLinkButton.h"
 #include "help/ui/frmAssistant.h"
 #include "help/ui/frmHelpContents.h"
@@ -299,6 +302,22 @@ TEST_F(HelpKey, WorksInAWindowWithoutADrawingOfItsOwnAndLeavesTheEntry) {
 TEST_F(HelpKey, TheMainWindowShowsTheAssistantByItsKey) {
     QTest::keyClick(&window, Qt::Key_F3);
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmAssistant"});
+}
+
+// The desktop's browser is not started: Qt hands the address to a receiver in its place.
+TEST(QtBrowserTest, OpensPagesThatExist) {
+    const TemporaryFolder folder;
+    const std::string page = (folder.Path() / "a #1 page.html").string();
+    std::ofstream(page) << "<p>Hops</p>";
+    QTextBrowser receiver;
+    QDesktopServices::setUrlHandler(QStringLiteral("file"), &receiver, "setSource");
+    QtBrowser browser;
+    EXPECT_EQ(browser.Open(folder.Path().string() + "/none.html"), kFileNotFoundCode);
+    EXPECT_EQ(browser.Open(folder.Path().string()), kFileNotFoundCode);
+    EXPECT_EQ(receiver.source(), QUrl());
+    EXPECT_EQ(browser.Open(page), kOpenedCode);
+    EXPECT_EQ(receiver.source().toLocalFile(), ToQt(page));
+    QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
 }
 
 }  // namespace

@@ -55,7 +55,7 @@ void frmAssistant::AddLinks(QBoxLayout& column) {
         const std::string name = "lbl" + std::string(link.name);
         button->setObjectName(ToQt(name));
         connect(button, &AssistantLinkButton::clicked, this, [this, name] { Press(name); });
-        connect(button, &AssistantLinkButton::Reached, this, [this, button] { Highlight(button); });
+        connect(button, &AssistantLinkButton::Reached, this, [this, button] { Highlight(*button); });
         connect(button, &AssistantLinkButton::Left, this, &frmAssistant::HighlightWhatIsLeft);
         links_.push_back(button);
         column.addWidget(button);
@@ -86,15 +86,16 @@ void frmAssistant::Press(std::string_view button) {
     QDialog::accept();
 }
 
-void frmAssistant::Highlight(const AssistantLinkButton* link) {
-    for (AssistantLinkButton* other : links_) other->Highlight(other == link);
+void frmAssistant::Highlight(const AssistantLinkButton& link) {
+    for (AssistantLinkButton* other : links_) other->Highlight(other == &link);
 }
 
 void frmAssistant::HighlightWhatIsLeft() {
     auto found = std::ranges::find_if(links_, [](const auto* link) { return link->IsPointedAt(); });
     if (found == links_.end())
         found = std::ranges::find_if(links_, [](const auto* link) { return link->hasFocus(); });
-    Highlight(found == links_.end() ? nullptr : *found);
+    if (found != links_.end()) return Highlight(**found);
+    for (AssistantLinkButton* link : links_) link->Highlight(false);
 }
 
 void frmAssistant::reject() {

@@ -29,8 +29,8 @@ class frmAssistant final : public QDialog {
     void AddLinks(QBoxLayout& column);
     void AddButtons(QBoxLayout& column);
     void Press(std::string_view button);
-    // Highlights that link alone; none without one.
-    void Highlight(const AssistantLinkButton* link);
+    // Highlights that link alone.
+    void Highlight(const AssistantLinkButton& link);
     // The link under the pointer, else the one with the focus, else none.
     void HighlightWhatIsLeft();
 
