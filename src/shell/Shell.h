@@ -28,7 +28,6 @@
 
 namespace tw {
 
-
 // The arrangements of the document windows.
 enum class Arrangement : int { Cascade, TileHorizontal, TileVertical };
 
@@ -137,6 +136,12 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // SaveRecipeAs with the answer of the dialog given. silent asks nothing.
     bool SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId, bool silent);
 
+    // Recipe files. ImportFile asks for the recipes and the folder in dialogs; a file that is none is told.
+    void ImportFile(const std::string& path);
+    // A file by its path, as the command line, a drop or another program tells it: imports it, also by the
+    // path without the quotes around it. One that is missing is told only when its path began with a quote:
+    // intended. Errors are shown as Guard does. REQUIRES: the database is open.
+    void ImportFromPath(std::string_view path);
 
     // Autosave. Switching it on counts the minutes from 0.
     bool DoAutoSave() const { return settings_.doAutoSave; }
