@@ -34,13 +34,4 @@ void Shell::ImportFromPath(std::string_view path) {
     });
 }
 
-void Shell::ImportFile(const std::string& path) {
-    try {
-        Database::OpenDatabase(path, false);
-    } catch (const Error&) {
-        platform_.messages.ShowMessage(
-            "Error", "File not recognized.\r\n\"" + path + "\" is not valid Tunwright Recipe file");
-    }
-}
-
 }  // namespace tw
