@@ -27,11 +27,15 @@ ProgramOptions ReadOptions(const QStringList& arguments) {
                                       QStringLiteral("Writes pictures of all windows and ends."),
                                       QStringLiteral("FOLDER"));
     parser.addOptions({database, settings, open, tab, picture, pictures});
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 QStringLiteral("Imports recipes of this recipe file."),
+                                 QStringLiteral("[FILE]"));
     parser.process(arguments);
     ProgramOptions options;
     options.database = parser.value(database);
     options.settings = parser.value(settings);
     options.open = parser.values(open);
+    options.file = parser.positionalArguments().join(QLatin1Char(' ')).trimmed();
     options.tab = parser.value(tab).toInt();
     options.picture = parser.value(picture);
     options.pictures = parser.value(pictures);

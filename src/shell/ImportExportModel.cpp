@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "tree/TWNodes.h"
+
 namespace tw {
 
 ImportExportModel::ImportExportModel(const TWTree& tree, bool isImport)
@@ -10,6 +12,8 @@ ImportExportModel::ImportExportModel(const TWTree& tree, bool isImport)
     recipes_.SetAction(isImport ? "Import" : "Export");
     if (isImport) recipes_.SetRootName("Import File");
     recipes_.Initialize();
+    TreeItems& items = recipes_.treeRecipes();
+    if (!items.SelectKey(kRecipeFoldersKey)) items.SelectKey(kAllRecipesKey);
 }
 
 std::vector<DialogControl> ImportExportModel::Controls() const {

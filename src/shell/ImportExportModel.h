@@ -13,7 +13,8 @@ namespace tw {
 class ImportExportModel final : public DialogModel {
   public:
     // Picks from the recipes of that tree: of the main database for an export, of a recipe file for an
-    // import. REQUIRES: the tree lives for as long.
+    // import. Its folders, or all recipes of the file, are chosen in it. REQUIRES: the tree lives for as
+    // long.
     ImportExportModel(const TWTree& tree, bool isImport);
 
     bool IsImport() const { return isImport_; }

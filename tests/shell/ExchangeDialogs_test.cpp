@@ -28,6 +28,7 @@ TEST_F(ImportExportModelTest, TheTextsSayWhichWayTheRecipesGo) {
     EXPECT_EQ(in.Caption(), "Import Recipes");
     EXPECT_EQ(in.Recipes().ListCaption(), "Recipes to Import:");
     EXPECT_EQ(in.Recipes().RootName(), "Import File");
+    EXPECT_EQ(in.Recipes().treeRecipes().SelectedKey(), "F:0");
     EXPECT_FALSE(in.Append());
     const ImportExportModel out(shell.Tree(), false);
     EXPECT_EQ(out.Caption(), "Export Recipes");

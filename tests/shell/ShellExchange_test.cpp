@@ -130,6 +130,7 @@ TEST_F(ShellExchangeTest, ThePickerOfAnImportShowsTheTreeOfTheFile) {
         TreeItems& items = model.Recipes().treeRecipes();
         EXPECT_EQ(items.Text(items.Find(kDatabaseKey)), "Import File");
         EXPECT_EQ(items.Find("F:0"), TreeItems::kNone);
+        EXPECT_EQ(items.SelectedKey(), "F:-1");
         EXPECT_NE(items.Find("S:Dry Stout:1"), TreeItems::kNone);
         EXPECT_TRUE(model.Recipes().Add(kDatabaseKey));
         EXPECT_EQ(model.Recipes().Selection(), Strings{"Mild"});
