@@ -30,22 +30,30 @@ std::string ColumnName(const std::string& name) {
     return "[" + name + "]";
 }
 
-// The field as a literal; nothing for a type that cannot be written.
-std::optional<std::string> Literal(const Field& field) {
-    const Value value = field.Value();
-    if (std::holds_alternative<Null>(value)) return "NULL";
+// Writes the field as a literal. False, and nothing, for a type that cannot be written.
+bool AppendLiteral(std::string& out, const Field& field) {
+    if (field.IsNull()) {
+        out += "NULL";
+        return true;
+    }
     switch (field.Type()) {
         case FieldType::Binary:
-            return std::nullopt;
+            return false;
         case FieldType::Boolean:
-            return field.Boolean() ? "TRUE" : "FALSE";
+            out += field.Boolean() ? "TRUE" : "FALSE";
+            return true;
         case FieldType::Text:
         case FieldType::Memo:
         case FieldType::Date:
-            return SqlText(field.Text());
+            AppendSqlText(out, field.Text());
+            return true;
         default:
             // Any column of a file may hold a text; bare it would be read as SQL.
-            return std::holds_alternative<std::string>(value) ? SqlText(field.Text()) : field.Text();
+            if (std::holds_alternative<std::string>(field.Value()))
+                AppendSqlText(out, field.Text());
+            else
+                out += field.Text();
+            return true;
     }
 }
 
@@ -70,32 +78,41 @@ class InsertText {
         columns_.reserve(kUsualSize);
         values_.reserve(kUsualSize);
     }
+    void Add(std::string_view column, std::string_view literal) {
+        AddColumn(column);
+        StartValue();
+        values_ += literal;
+    }
+    // False when the field's type cannot be written: its column stands without a value then.
+    bool Add(std::string_view column, const Field& field) {
+        AddColumn(column);
+        const std::size_t end = values_.size();
+        StartValue();
+        if (AppendLiteral(values_, field)) return true;
+        values_.resize(end);
+        return false;
+    }
+    std::string Text() const { return columns_ + ") " + values_ + ")"; }
+
+  private:
+    static constexpr std::string_view kValues = "VALUES (";
+
     void AddColumn(std::string_view name) {
         if (hasColumn_) columns_ += ", ";
         hasColumn_ = true;
         columns_ += name;
     }
-    void AddValue(std::string_view literal) {
-        if (hasValue_) values_ += ", ";
-        hasValue_ = true;
-        values_ += literal;
+    void StartValue() {
+        if (values_.size() > kValues.size()) values_ += ", ";
     }
-    void Add(std::string_view column, std::string_view literal) {
-        AddColumn(column);
-        AddValue(literal);
-    }
-    std::string Text() const { return columns_ + ") " + values_ + ")"; }
 
-  private:
     std::string columns_;
-    std::string values_ = "VALUES (";
+    std::string values_{kValues};
     bool hasColumn_ = false;
-    bool hasValue_ = false;
 };
 
 void AddField(InsertText& insert, const std::string& table, const Field& field, CopyHost& host) {
-    insert.AddColumn(ColumnName(field.Name()));
-    if (const std::optional<std::string> literal = Literal(field)) return insert.AddValue(*literal);
+    if (insert.Add(ColumnName(field.Name()), field)) return;
     host.DebugText("column " + field.Name() + " of table " + table + " is of type " +
                    std::to_string(static_cast<int>(field.Type())) + " (?)");
 }
