@@ -169,7 +169,7 @@ void RecipeNames::Read(Database& database) {
     for (Recordset rows = database.OpenRecordset("SELECT ID, NAME FROM RECIPES ORDER BY ID"); !rows.AtEnd();
          rows.MoveNext())
         if (!rows.Fields(0).IsNull() && !rows.Fields(1).IsNull())
-            Put(rows.Fields(1).Text(), rows.Fields(0).Integer());
+            ids_.try_emplace(NameKey(rows.Fields(1).Text()), rows.Fields(0).Integer());
 }
 
 std::optional<std::int64_t> RecipeNames::Find(std::string_view name) const {
@@ -221,17 +221,16 @@ RecipeCopier::Step RecipeCopier::CopyRecipe(const std::string& name) {
     std::string newName(isImport_ ? Trim(name) : std::string_view(name));
     if (!ResolveName(newName)) return Step::Stop;
     if (newName.empty()) return Step::Next;
-    const std::optional<std::int64_t> oldId = destNames_.Find(newName);
-    if (!oldId) return CopyRows(*sourceId, oldId, newName);
-    Replacement replacement(Dest());
-    const Step next = CopyRows(*sourceId, oldId, newName);
-    replacement.Keep();
-    return next;
+    return CopyRows(*sourceId, destNames_.Find(newName), newName);
 }
 
 RecipeCopier::Step RecipeCopier::CopyRows(std::int64_t sourceId, std::optional<std::int64_t> oldId,
                                           const std::string& newName) {
-    if (oldId) Dest().Execute("DELETE FROM RECIPES WHERE ID = " + std::to_string(*oldId));
+    std::optional<Replacement> replacement;
+    if (oldId) {
+        replacement.emplace(Dest());
+        Dest().Execute("DELETE FROM RECIPES WHERE ID = " + std::to_string(*oldId));
+    }
     {
         const Recordset source =
             Source().OpenRecordset("SELECT * FROM RECIPES WHERE ID = " + std::to_string(sourceId));
@@ -241,6 +240,7 @@ RecipeCopier::Step RecipeCopier::CopyRows(std::int64_t sourceId, std::optional<s
     if (!newId) return host_.ContinueAfter("Unknown error inserting recipe !") ? Step::Next : Step::Stop;
     destNames_.Put(newName, *newId);
     for (const std::string& table : kLineTables) CopyLines(table, oldId, sourceId, *newId);
+    if (replacement) replacement->Keep();
     return Step::Next;
 }
 

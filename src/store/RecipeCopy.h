@@ -50,7 +50,7 @@ class RecipeNames {
   public:
     // Reads them anew. A row without a name or an ID is none. Raises the store's error.
     void Read(Database& database);
-    // ID of the recipe of that name, the newest of several; nothing for none.
+    // ID of the recipe of that name, the oldest of several; nothing for none.
     std::optional<std::int64_t> Find(std::string_view name) const;
     void Put(std::string_view name, std::int64_t id);
 

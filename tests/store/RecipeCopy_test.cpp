@@ -393,16 +393,27 @@ TEST_F(RecipeCopyTest, ARowThatTheDestinationDropsIsToldAndTheNextOneComes) {
     file->ExecuteNative("CREATE TRIGGER t BEFORE INSERT ON RECIPES BEGIN SELECT RAISE(IGNORE); END");
     Export({"Mild", "Mild"});
     EXPECT_EQ(host.errors, (Strings(2, "Unknown error inserting recipe !")));
+    EXPECT_EQ(Names(*file), Rows{});
 }
 
-TEST_F(RecipeCopyTest, OfTwoRecipesOfOneNameTheNewestIsCopiedAndOverwritten) {
+TEST_F(RecipeCopyTest, ARowThatTheDestinationDropsTakesNoOthersPlace) {
+    PutIntoMain("Mild");
+    PutIntoFile("Mild");
+    file->ExecuteNative("CREATE TRIGGER t BEFORE INSERT ON RECIPES BEGIN SELECT RAISE(IGNORE); END");
+    host.answers = {kOverwrite};
+    Export({"Mild"});
+    EXPECT_EQ(host.errors, Strings{"Unknown error inserting recipe !"});
+    EXPECT_EQ(Names(*file), Rows{{"Mild"}});
+}
+
+TEST_F(RecipeCopyTest, OfTwoRecipesOfOneNameTheOldestIsCopiedAndOverwritten) {
     for (const char* style : {"Old", "New"}) PutIntoFile("Mild", style);
     for (const char* name : {"Mild", "mild"}) PutIntoMain(name);
     host.answers = {kOverwrite};
     Import({"Mild"});
-    EXPECT_EQ(unknown, (StylesNotImported{{"Mild", "New"}}));
+    EXPECT_EQ(unknown, (StylesNotImported{{"Mild", "Old"}}));
     EXPECT_EQ(Select(*main, "SELECT ID, NAME FROM RECIPES ORDER BY ID"),
-              (Rows{{"1", "Mild"}, {"3", "Mild"}}));
+              (Rows{{"2", "mild"}, {"3", "Mild"}}));
 }
 
 TEST_F(RecipeCopyTest, ARunLooksAtTheNamesOfTheDestinationOnce) {
