@@ -1,4 +1,5 @@
-// Saving and opening a recipe of 40 lines among a thousand, beside the same statements run by SQLite alone in
+// Saving and opening a recipe of 40 lines among a thousand, and importing and exporting a thousand of them,
+// beside the same statements run by SQLite alone in
 // the same run, with the same locks, journal and syncs. The counter "x_limit" is the ratio of the medians.
 // The files are made in the present folder: run it on the disk that is to be measured.
 #include <algorithm>
@@ -11,6 +12,8 @@
 #include <vector>
 
 #include "store/DB_IO.h"
+#include "store/ExchangeFile.h"
+#include "store/RecipeCopy.h"
 #include "store/RecipeRows.h"
 #include "store/Schema.h"
 #include "store/SqlDialect.h"
@@ -25,6 +28,7 @@ using Clock = std::chrono::steady_clock;
 constexpr int kRecipes = 1000;
 const std::string kStoreFile = "store_bench_a.mdb";
 const std::string kRawFile = "store_bench_b.mdb";
+const std::string kSourceFile = "store_bench_source.mdb";
 
 class FixedClock : public ClockPort {
   public:
@@ -87,7 +91,7 @@ StoredRecipe MakeRecipe(const std::string& name) {
 }
 
 void RemoveFiles() {
-    for (const std::string& file : {kStoreFile, kRawFile})
+    for (const std::string& file : {kStoreFile, kRawFile, kSourceFile})
         for (const std::string end : {"", "-journal"}) std::filesystem::remove(file + end);
 }
 
@@ -106,6 +110,14 @@ void Save(Database& database, const StoredRecipe& recipe) {
     DB_IO(database, tree, messages, clock, listener).DeleteRecipeByName(recipe.name);
     InsertRecipe(database, recipe);
     unit.Commit();
+}
+
+// The statement as SQLite takes it, with its numbers in the text.
+std::string Native(std::string_view sql) {
+    DialectStatement statement = TranslateSql(sql);
+    for (const double number : statement.numbers)
+        statement.sql.replace(statement.sql.find('?'), 1, NumberText(number));
+    return statement.sql;
 }
 
 // The database of the store, the same file for SQLite alone, and a third one in memory that goes along and
@@ -144,13 +156,6 @@ class Bed {
     SqliteHandle raw;
 
   private:
-    // The statement as SQLite takes it, with its numbers in the text.
-    static std::string Native(std::string_view sql) {
-        DialectStatement statement = TranslateSql(sql);
-        for (const double number : statement.numbers)
-            statement.sql.replace(statement.sql.find('?'), 1, NumberText(number));
-        return statement.sql;
-    }
     std::unique_ptr<Database> shadow_ = Database::CreateInMemory();
     std::vector<std::string> statements_;
 };
@@ -233,5 +238,101 @@ void BM_OpenRecipe(benchmark::State& state) {
         });
 }
 BENCHMARK(BM_OpenRecipe)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+class NoQuestions : public CopyHost {
+  public:
+    bool Continue(const std::string&, int, int) override { return true; }
+    ConflictAnswer ResolveConflict(const std::string&) override { return {}; }
+    bool ContinueAfter(const std::string&) override { return false; }
+};
+
+// Copies all recipes between the two.
+void CopyAll(Database& main, Database& file, bool isImport) {
+    FixedClock clock;
+    NoListener listener;
+    ObjectTree tree;
+    NoMessages messages;
+    DB_IO objects(main, tree, messages, clock, listener);
+    NoQuestions host;
+    std::vector<std::string> names;
+    for (int i = 0; i < kRecipes; ++i) names.push_back(NameOf(i));
+    RecipeCopier copier(main, objects, file, host);
+    StylesNotImported unknown;
+    isImport ? copier.ImportRecipes(names, 0, unknown) : copier.ExportRecipes(names);
+}
+
+// A database with the one style that the recipes have; for a recipe file its tables alone.
+void MakeEmpty(const std::string& file, bool isExchange) {
+    for (const std::string end : {"", "-journal"}) std::filesystem::remove(file + end);
+    const auto made = Database::CreateDatabase(file, "");
+    if (isExchange) return CreateExchangeTables(*Database::CreateInMemory(), *made);
+    CreateSchema(*made);
+    made->Execute("INSERT INTO STYLES (ID, NAME) VALUES (7, 'Best Bitter')");
+}
+
+// One statement of a copy, on the database that it reads or on the one that it writes.
+struct CopyStatement {
+    bool onSource = false;
+    std::string sql;
+};
+
+// Both ways start on an empty file and read the same source, each in one transaction.
+void CompareCopy(benchmark::State& state, bool isImport) {
+    RemoveFiles();
+    MakeEmpty(kSourceFile, isImport);
+    {
+        const auto filled = Database::CreateInMemory();
+        filled->Execute("INSERT INTO STYLES (ID, NAME) VALUES (7, 'Best Bitter')");
+        Fill(*filled);
+        const auto source = Database::OpenDatabase(kSourceFile, false);
+        isImport ? CopyAll(*filled, *source, false) : Fill(*source);
+    }
+    std::vector<CopyStatement> statements;
+    {
+        MakeEmpty(kStoreFile, !isImport);
+        const auto source = Database::OpenDatabase(kSourceFile, false);
+        const auto dest = Database::OpenDatabase(kStoreFile, true);
+        source->SetStatementHook([&](std::string_view sql) { statements.push_back({true, Native(sql)}); });
+        dest->SetStatementHook([&](std::string_view sql) { statements.push_back({false, Native(sql)}); });
+        isImport ? CopyAll(*dest, *source, true) : CopyAll(*source, *dest, false);
+    }
+    std::unique_ptr<Database> source, dest;
+    std::vector<double> storeTimes, rawTimes;
+    for (auto _ : state) {
+        MakeEmpty(kStoreFile, !isImport);
+        MakeEmpty(kRawFile, !isImport);
+        source = Database::OpenDatabase(kSourceFile, false);
+        dest = Database::OpenDatabase(kStoreFile, true);
+        storeTimes.push_back(
+            Seconds([&] { isImport ? CopyAll(*dest, *source, true) : CopyAll(*source, *dest, false); }));
+        state.SetIterationTime(storeTimes.back());
+        source.reset();
+        dest.reset();
+        const SqliteHandle rawSource = OpenDatabaseFile(kSourceFile, false);
+        const SqliteHandle rawDest = OpenDatabaseFile(kRawFile, true);
+        rawTimes.push_back(Seconds([&] {
+            RunNative(rawSource.get(), "BEGIN");
+            RunNative(rawDest.get(), "BEGIN IMMEDIATE");
+            for (const CopyStatement& statement : statements)
+                RunRaw((statement.onSource ? rawSource : rawDest).get(), {statement.sql});
+            RunNative(rawDest.get(), "COMMIT");
+            RunNative(rawSource.get(), "COMMIT");
+        }));
+    }
+    state.counters["raw_ms"] = Median(rawTimes) * 1e3;
+    state.counters["store_ms"] = Median(storeTimes) * 1e3;
+    state.counters["x_limit"] = Median(storeTimes) / Median(rawTimes);
+    RemoveFiles();
+}
+
+void BM_ImportRecipes(benchmark::State& state) {
+    CompareCopy(state, true);
+}
+BENCHMARK(BM_ImportRecipes)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(9);
+
+void BM_ExportRecipes(benchmark::State& state) {
+    CompareCopy(state, false);
+}
+BENCHMARK(BM_ExportRecipes)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(9);
 
 }  // namespace

@@ -17,8 +17,12 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtDialogs.h"
 #include "shell/AboutModel.h"
+#include "shell/CopyProgressModel.h"
+#include "shell/ImportExportModel.h"
+#include "shell/NameConflictModel.h"
 #include "shell/OptionsModel.h"
 #include "shell/Shell.h"
+#include "shell/StylesNotImportedModel.h"
 #include "shell/ui/MainGeometry.h"
 #include "shell/ui/frmMain.h"
 #include "tools/ColorScaleModel.h"
@@ -133,6 +137,24 @@ bool SaveHelp(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
     return ok;
 }
 
+// The dialogs of import and export.
+bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
+    PrintedMessages messages;
+    ImportExportModel recipes(shell.Tree(), false);
+    recipes.Recipes().Add(kAllRecipesKey);
+    NameConflictModel conflict("Dry Stout", true, messages);
+    StylesNotImportedModel styles({{"Dry Stout", "Irish Stout"}, {"Copper Lantern Bitter", "Best Bitter"}});
+    CopyProgressModel progress(true, {});
+    progress.Show("Copper Lantern Bitter", 40, 100);
+    bool ok = true;
+    for (DialogModel* model : {static_cast<DialogModel*>(&recipes), static_cast<DialogModel*>(&conflict),
+                               static_cast<DialogModel*>(&styles), static_cast<DialogModel*>(&progress)}) {
+        const QString file = prefix + QString::fromStdString(model->FormName()) + QStringLiteral(".png");
+        ok &= SaveDialog(dialogs, *model, parent, file);
+    }
+    return ok;
+}
+
 bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
     AboutModel about;
     bool ok = SaveDialog(dialogs, about, window, prefix + QStringLiteral("about.png"));
@@ -142,6 +164,7 @@ bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QStrin
     ok &= SaveTools(dialogs, window, prefix);
     ok &= SaveHelp(dialogs, window, prefix);
     ok &= SaveChoosers(dialogs, shell, window, prefix);
+    ok &= SaveExchange(dialogs, shell, window, prefix);
     if (RecipeDocument* document = shell.ActiveDocument()) {
         DetailsModel strength = StrengthDetailsOf(*document), volume = FinalVolDetailsOf(*document),
                      hops = HopDetailsOf(*document);

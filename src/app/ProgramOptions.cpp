@@ -30,11 +30,15 @@ ProgramOptions ReadOptions(const QStringList& arguments) {
                                   QStringLiteral("Takes pictures of a main window of this size, in pixels."),
                                   QStringLiteral("WIDTHxHEIGHT"));
     parser.addOptions({database, settings, open, tab, picture, pictures, size});
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 QStringLiteral("Imports recipes of this recipe file."),
+                                 QStringLiteral("[FILE]"));
     parser.process(arguments);
     ProgramOptions options;
     options.database = parser.value(database);
     options.settings = parser.value(settings);
     options.open = parser.values(open);
+    options.file = parser.positionalArguments().join(QLatin1Char(' ')).trimmed();
     options.tab = parser.value(tab).toInt();
     options.picture = parser.value(picture);
     options.pictures = parser.value(pictures);

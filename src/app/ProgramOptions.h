@@ -10,6 +10,7 @@ struct ProgramOptions {
     QString database;  // empty: Tunwright.mdb in the program's folder
     QString settings;  // empty: the user's
     QStringList open;  // names of recipes
+    QString file;      // a recipe file to import: what is left of the command line, as one path
     int tab = 0;
     QString picture;   // a file for a picture of the main window; the program ends then
     QString pictures;  // a folder for pictures of all windows; the program ends then

@@ -30,6 +30,7 @@
 #include "platform/qt/QtText.h"
 #include "shell/Shell.h"
 #include "shell/ui/AboutDialog.h"
+#include "shell/ui/ExchangeForms.h"
 #include "shell/ui/Icons.h"
 #include "shell/ui/OpenSaveDialog.h"
 #include "shell/ui/RecoveryDialog.h"
@@ -66,6 +67,7 @@ void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     dialogs.Register("frmColor", &frmColor::Make);
     dialogs.Register("frmLvShow", &frmLvShow::Make);
     dialogs.Register("frmChooseFolder", &frmChooseFolder::Make);
+    RegisterExchangeForms(dialogs);
 }
 
 std::string DatabaseOf(const ProgramOptions& options) {
@@ -151,6 +153,7 @@ int Run(int argc, char** argv) {
     window.show();
     if (!window.StartUp(DatabaseOf(options))) return EXIT_FAILURE;
     OpenRecipes(window, shell, options);
+    if (!options.file.isEmpty()) shell.ImportFromPath(FromQt(options.file));
     if (photographing) return Photograph(window, shell, dialogs, options);
     colors.Follow();
     // Within the event loop, which ends the program when the main window is closed behind it.

@@ -5,9 +5,11 @@
 namespace tw {
 namespace {
 
-constexpr auto kTopics = {CommandsOnValues, CommandsOfTools,   CommandsOnWater,   CommandsOnRecipes,
-                          CommandsOnGrids,  CommandsOfEditing, CommandsOfScaling, CommandsOnTree,
-                          CommandsOnLists,  CommandsOnProgram, CommandsOfHelp};
+constexpr auto kTopics = {
+    CommandsOnValues, CommandsOfTools,    CommandsOnWater,   CommandsOnRecipes,
+    CommandsOnGrids,  CommandsOfEditing,  CommandsOfScaling, CommandsOnTree,
+    CommandsOnLists,  CommandsOfExchange, CommandsOnProgram, CommandsOfHelp,
+};
 
 }  // namespace
 

@@ -135,8 +135,6 @@ constexpr ButtonRow kButtons[] = {
 // The menu items whose feature is not part of the program: they and their buttons stay dark whatever the
 // enabling rules say. The feature that comes takes its names off this list.
 constexpr std::array kNotBuilt = std::to_array<std::string_view>({
-    "mnuFileImport",
-    "mnuFileExport",
     "mnuFileDelete",
     "mnuFilePrint",
     "mnuToolsDataSetup",

@@ -29,6 +29,8 @@
 
 namespace tw {
 
+class RecipeExchange;
+
 // The arrangements of the document windows.
 enum class Arrangement : int { Cascade, TileHorizontal, TileVertical };
 
@@ -139,11 +141,23 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // SaveRecipeAs with the answer of the dialog given. silent asks nothing.
     bool SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId, bool silent);
 
+    // Recipe files. ImportFile asks for the recipes and the folder in dialogs; the others are told them: no
+    // names stand for all of the file, append adds to a file that exists instead of replacing it. All show
+    // what goes wrong in boxes. REQUIRES: the database is open.
+    void ImportFile(const std::string& path);
+    void ImportRecipes(const std::string& path, std::int64_t folderId,
+                       const std::optional<std::vector<std::string>>& names);
+    void ExportRecipes(const std::string& path, bool append, const std::vector<std::string>& names);
+    // A file by its path, as the command line, a drop or another program tells it: imports it, also by the
+    // path without the quotes around it. One that is missing is told only when its path began with a quote:
+    // intended. Errors are shown as Guard does. REQUIRES: the database is open.
+    void ImportFromPath(std::string_view path);
+
     // Autosave. Switching it on counts the minutes from 0.
     bool DoAutoSave() const { return settings_.doAutoSave; }
     void SetDoAutoSave(bool on);
-    // A minute has gone: saves all documents when it is time. Nothing while autosave is off, or while it
-    // saves.
+    // A minute has gone: saves all documents when it is time. Nothing while autosave is off, while it saves,
+    // or while recipes are being copied.
     void TickAutoSave();
     // Saves all documents silently behind the progress window.
     void ShowAutoSave();
@@ -250,6 +264,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void ShowHelpContents();
     void ShowAssistant();
     void SaveAllDocuments();
+    // Runs one import or export; none within another one.
+    void Exchange(const std::function<void(RecipeExchange&)>& operation);
     void SwitchAutoSave(bool wasOn);
     void ForgetUnsavedWork(const RecipeDocument& document);
     void ReportPutAside(const std::string& file);
@@ -276,6 +292,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool lastPasteEnable_ = false;
     AutoSaveMinutes autoSaveMinutes_;
     bool autoSaving_ = false;
+    bool exchanging_ = false;  // recipes are being copied from or to a file
     std::string recoveryRoot_;
     std::string programFolder_;  // empty: the product's own files are not used
     std::unique_ptr<Recovery> recovery_;  // nullptr while nothing is kept

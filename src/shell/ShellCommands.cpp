@@ -6,6 +6,7 @@
 #include "shell/AboutModel.h"
 #include "shell/OpenSaveModel.h"
 #include "shell/OptionsModel.h"
+#include "shell/RecipeExchange.h"
 #include "shell/Shell.h"
 #include "tools/ColorScaleModel.h"
 #include "tools/ConvertUnitsModel.h"
@@ -40,6 +41,8 @@ const Shell::ActionRow Shell::kFileActions[] = {
          if (s.active_) s.SaveRecipeAs(*s.active_);
      }},
     {"mnuFileSaveAll", [](Shell& s) { s.SaveAllDocuments(); }},
+    {"mnuFileImport", [](Shell& s) { s.Exchange([](RecipeExchange& files) { files.Import(); }); }},
+    {"mnuFileExport", [](Shell& s) { s.Exchange([](RecipeExchange& files) { files.Export(); }); }},
     {"mnuFileExit",
      [](Shell& s) {
          if (s.RequestExit() && s.view_) s.view_->CloseMainWindow();

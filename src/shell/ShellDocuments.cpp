@@ -153,7 +153,7 @@ void Shell::SwitchAutoSave(bool wasOn) {
 void Shell::TickAutoSave() {
     // The time that saving takes is not counted. A save within the one unit of an import would be lost with
     // it.
-    if (!settings_.doAutoSave || autoSaving_) return;
+    if (!settings_.doAutoSave || autoSaving_ || exchanging_) return;
     if (!autoSaveMinutes_.Tick(!documents_.empty(), settings_.doAutoSaveEvery)) return;
     ShowAutoSave();
     autoSaveMinutes_.Reset();

@@ -182,11 +182,19 @@ std::vector<Example> ExamplesOfThePage() {
 TEST(ConsolePage, ExamplesPrintWhatThePageSays) {
     const std::vector<Example> examples = ExamplesOfThePage();
     EXPECT_GE(examples.size(), 20U);
+    // What they write goes into a folder that goes with them.
+    const std::filesystem::path before = std::filesystem::current_path();
+    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "tunwright_console_page";
     for (const Example& example : examples) {
+        std::filesystem::remove_all(folder);
+        std::filesystem::create_directories(folder);
+        std::filesystem::current_path(folder);
         const Outcome outcome = RunText(example.script);
+        std::filesystem::current_path(before);
         EXPECT_EQ(outcome.out, example.output) << "the example at line " << example.line;
         EXPECT_EQ(outcome.errors, "") << "the example at line " << example.line;
     }
+    std::filesystem::remove_all(folder);
 }
 
 // The first words of all lines of a script.

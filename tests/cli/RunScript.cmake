@@ -4,7 +4,8 @@
 #     NAME.err     its standard error (otherwise empty); scripts are named without their folder
 #     NAME.status  its exit status (otherwise 0)
 #     NAME.args    the arguments before the script (otherwise an empty database and settings in memory); a line holds
-#                  arguments separated by blanks, @WORK@ stands for a folder that starts empty
+#                  arguments separated by blanks, @WORK@ stands for the folder that the script runs in
+# The script runs in a folder of its own, which holds a copy of it and is empty otherwise.
 cmake_minimum_required(VERSION 3.25)
 cmake_path(GET SCRIPT PARENT_PATH folder)
 cmake_path(GET SCRIPT STEM name)
@@ -19,20 +20,22 @@ file(MAKE_DIRECTORY ${WORK})
 set(arguments --database :memory: --settings :memory:)
 if(EXISTS ${expected}.args)
   file(READ ${expected}.args text)
-  string(REPLACE "@WORK@" "${WORK}" text "${text}")
+  string(REPLACE "@WORK@" "${WORK}/run" text "${text}")
   separate_arguments(arguments UNIX_COMMAND "${text}")
 endif()
 set(expected_status 0)
 if(EXISTS ${expected}.status)
   file(STRINGS ${expected}.status expected_status)
 endif()
+set(run ${WORK}/run)
+file(COPY ${SCRIPT} DESTINATION ${run})
 file(TOUCH ${WORK}/empty)
 set(expected_err ${WORK}/empty)
 if(EXISTS ${expected}.err)
   set(expected_err ${expected}.err)
 endif()
 
-execute_process(COMMAND ${CONSOLE} ${arguments} ${name}.tws WORKING_DIRECTORY ${folder} TIMEOUT 60
+execute_process(COMMAND ${CONSOLE} ${arguments} ${name}.tws WORKING_DIRECTORY ${run} TIMEOUT 60
   OUTPUT_FILE ${WORK}/out ERROR_FILE ${WORK}/err RESULT_VARIABLE status)
 
 set(failed "")

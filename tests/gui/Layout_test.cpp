@@ -14,10 +14,16 @@
 #include "help/ui/frmHelpContents.h"
 #include "platform/qt/Appearance.h"
 #include "shell/AboutModel.h"
+#include "shell/ImportExportModel.h"
+#include "shell/NameConflictModel.h"
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
+#include "shell/ui/frmCopyProgress.h"
+#include "shell/ui/frmImportExport.h"
+#include "shell/ui/frmNameConflict.h"
 #include "shell/ui/frmOptions.h"
 #include "support/RecordingHelp.h"
+#include "shell/ui/frmStylesNotImported.h"
 #include "tools/ui/frmColor.h"
 #include "tools/ui/frmConvertUnits.h"
 #include "tools/ui/frmHopUtil.h"
@@ -67,6 +73,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         ForEachHelpWindow(visit);
         ForEachTool(visit);
         ForEachChooser(visit);
+        ForEachExchange(visit);
         for (const Scaling what :
              {Scaling::Size, Scaling::Strength, Scaling::Bitterness, Scaling::Carbonation}) {
             ScalingModel scaling(what, "12.75 gal.", outside.messages);
@@ -126,6 +133,27 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             widget->show();
             QApplication::processEvents();
             visit(*widget);
+        }
+    }
+
+    // The dialogs of import and export, for names that are longer than any window.
+    void ForEachExchange(const std::function<void(QWidget&)>& visit) {
+        const std::string name(1000, 'W');
+        ImportExportModel in(shell.Tree(), true), out(shell.Tree(), false);
+        NameConflictModel conflict(name, false, outside.messages);
+        StylesNotImportedModel styles({{name, "Stout"}});
+        CopyProgressModel progress(true, {});
+        progress.Show(name, 1, 100);
+        frmImportExport inWindow(in, nullptr), outWindow(out, nullptr);
+        frmNameConflict conflictWindow(conflict, nullptr);
+        frmStylesNotImported stylesWindow(styles, nullptr);
+        frmCopyProgress progressWindow(progress, nullptr);
+        for (QDialog* dialog : {static_cast<QDialog*>(&inWindow), static_cast<QDialog*>(&outWindow),
+                                static_cast<QDialog*>(&conflictWindow), static_cast<QDialog*>(&stylesWindow),
+                                static_cast<QDialog*>(&progressWindow)}) {
+            dialog->show();
+            QApplication::processEvents();
+            visit(*dialog);
         }
     }
 

@@ -12,6 +12,7 @@
 #include "platform/qt/QtText.h"
 #include "shell/ui/CommandMenus.h"
 #include "shell/ui/DocumentArea.h"
+#include "shell/ui/FileDrop.h"
 #include "shell/ui/Icons.h"
 #include "shell/ui/MainGeometry.h"
 #include "shell/ui/StoredColor.h"
@@ -60,6 +61,7 @@ frmMain::frmMain(Shell& shell, Platform& platform)
     keepTimer_->setInterval(kKeepMilliseconds);
     keepTimer_->setSingleShot(true);
     connect(keepTimer_, &QTimer::timeout, this, [this] { shell_.KeepUnsavedWork(); });
+    new FileDrop(*this, [this](const QString& file) { shell_.ImportFromPath(FromQt(file)); });
     shell_.SetView(this);
     shell_.LoadWindowSettings();
     shell_.ChangeToolbarIcons();

@@ -1,0 +1,56 @@
+// Commands on recipe files.
+#include <cstdint>
+#include <filesystem>
+#include <limits>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/Command.h"
+
+namespace tw {
+namespace {
+
+std::vector<std::string> TakeNames(Arguments& arguments) {
+    std::vector<std::string> names;
+    while (!arguments.AtEnd()) names.push_back(arguments.Word("NAME"));
+    return names;
+}
+
+void Export(Session& session, Arguments& arguments) {
+    const bool isNew = arguments.TakeWord("new");
+    const std::string file = arguments.Word("FILE");
+    const std::vector<std::string> names = TakeNames(arguments);
+    session.Program().ExportRecipes(file, !isNew, names);
+}
+
+void Import(Session& session, Arguments& arguments) {
+    const int folderId = arguments.Integer("FOLDERID", 0, std::numeric_limits<int>::max());
+    const std::string file = arguments.Word("FILE");
+    std::optional<std::vector<std::string>> names;
+    if (!arguments.AtEnd()) names = TakeNames(arguments);
+    Shell& program = session.Program();
+    std::error_code failure;
+    // A missing file is silent, as it is to every import by a path without quotes.
+    if (std::filesystem::exists(file, failure)) program.ImportRecipes(file, folderId, names);
+}
+
+void FileSql(Session& session, Arguments& arguments) {
+    const std::string file = arguments.Word("FILE");
+    const std::string text = arguments.Text();
+    RunSql(session, *Database::OpenDatabase(file, false), text);
+}
+
+constexpr Command kCommands[] = {
+    {"export", "[new] FILE NAME...", "copies recipes into a recipe file", Export},
+    {"import", "FOLDERID FILE [NAME...]", "copies recipes of a recipe file into a folder", Import},
+    {"filesql", "FILE TEXT", "runs a statement on a recipe file", FileSql},
+};
+
+}  // namespace
+
+std::span<const Command> CommandsOfExchange() {
+    return kCommands;
+}
+
+}  // namespace tw

@@ -1,0 +1,36 @@
+// Files that are dropped on a window.
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <functional>
+
+class QDragMoveEvent;
+class QMimeData;
+class QWidget;
+
+namespace tw {
+
+// While a drag without files is over the window, the pointer is the hourglass. What stands in front of the
+// window, such as a dialog, keeps drops from it.
+class FileDrop final : public QObject {
+    Q_OBJECT
+  public:
+    using Take = std::function<void(const QString& file)>;
+    // Hands each file of a drop over, in their order, once the drop has ended. REQUIRES: the window lives for
+    // as long.
+    FileDrop(QWidget& window, Take take);
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    static QStringList FilesOf(const QMimeData& data);
+    void Follow(QDragMoveEvent& event);
+    void TakeLater(const QStringList& files);
+
+    QWidget& window_;
+    Take take_;
+};
+
+}  // namespace tw

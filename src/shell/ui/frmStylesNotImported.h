@@ -1,0 +1,27 @@
+// The window that tells which recipes have come in without their style.
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "shell/StylesNotImportedModel.h"
+
+namespace tw {
+
+class frmStylesNotImported final : public QDialog {
+    Q_OBJECT
+  public:
+    frmStylesNotImported(StylesNotImportedModel& model, QWidget* parent);
+    // The window of a StylesNotImportedModel. REQUIRES: model is one.
+    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
+
+  protected:
+    void reject() override;
+
+  private:
+    QWidget* MakeGrid();
+
+    StylesNotImportedModel& model_;
+};
+
+}  // namespace tw

@@ -1,0 +1,99 @@
+#include "store/ExchangeFile.h"
+
+#include <string>
+
+#include "store/Schema.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+constexpr std::string_view kStyleId = "STYLE_ID";
+constexpr std::string_view kStyleName = "STYLE_NAME";
+
+// The name as SQLite's own SQL takes it, whatever stands in it.
+std::string Quoted(std::string_view name) {
+    return "\"" + ReplaceAll(name, "\"", "\"\"") + "\"";
+}
+
+// The one column that is another in the file.
+bool IsStyleId(std::string_view table, std::string_view column) {
+    return CompareNoCase(table, "RECIPES") == 0 && CompareNoCase(column, kStyleId) == 0;
+}
+
+// column stands on a row of pragma_table_info.
+std::string ColumnSql(std::string_view table, const Recordset& column, bool counter) {
+    const std::string name = column.Fields("name").Text();
+    // The size is told and not held to: a longer name of a style travels whole.
+    if (IsStyleId(table, name))
+        return Quoted(kStyleName) + " TEXT(50)" + ColumnRules(kStyleName, FieldType::Text) + " DEFAULT ''";
+    const std::string declared = column.Fields("type").Text();
+    std::string sql = Quoted(name) + " " + declared;
+    if (column.Fields("pk").Boolean()) sql += counter ? " PRIMARY KEY AUTOINCREMENT" : " PRIMARY KEY";
+    sql += ColumnRules(name, FieldTypeOf(declared));
+    if (column.Fields("notnull").Boolean()) sql += " NOT NULL";
+    const Field value = column.Fields("dflt_value");
+    if (!value.IsNull()) sql += " DEFAULT (" + value.Text() + ")";
+    return sql;
+}
+
+std::string TableSql(Database& main, const std::string& table, bool counter) {
+    std::string columns;
+    for (Recordset column =
+             main.OpenRecordset("SELECT * FROM pragma_table_info(" + SqlText(table) + ") ORDER BY cid");
+         !column.AtEnd(); column.MoveNext()) {
+        if (!columns.empty()) columns += ", ";
+        columns += ColumnSql(table, column, counter);
+    }
+    return "CREATE TABLE " + Quoted(table) + " (" + columns + ");\n";
+}
+
+// The columns of an index, empty when one of them is no column but an expression.
+std::string IndexedColumns(Database& main, const std::string& table, const std::string& index) {
+    std::string columns;
+    for (Recordset column = main.OpenRecordset("SELECT name, [desc] FROM pragma_index_xinfo(" +
+                                               SqlText(index) + ") WHERE [key] = 1 ORDER BY seqno");
+         !column.AtEnd(); column.MoveNext()) {
+        const std::string name = column.Fields("name").Text();
+        if (name.empty()) return {};
+        if (!columns.empty()) columns += ", ";
+        columns += Quoted(IsStyleId(table, name) ? kStyleName : name);
+        if (column.Fields("desc").Boolean()) columns += " DESC";
+    }
+    return columns;
+}
+
+// Only what CREATE INDEX has made over whole tables; the key comes with the table.
+std::string IndexesSql(Database& main, const std::string& table) {
+    std::string sql;
+    for (Recordset index =
+             main.OpenRecordset("SELECT name, [unique] FROM pragma_index_list(" + SqlText(table) +
+                                ") WHERE origin = 'c' AND NOT partial ORDER BY seq DESC");
+         !index.AtEnd(); index.MoveNext()) {
+        const std::string name = index.Fields("name").Text();
+        const std::string columns = IndexedColumns(main, table, name);
+        if (columns.empty()) continue;
+        sql += index.Fields("unique").Boolean() ? "CREATE UNIQUE INDEX " : "CREATE INDEX ";
+        sql += Quoted(name) + " ON " + Quoted(table) + " (" + columns + ");\n";
+    }
+    return sql;
+}
+
+}  // namespace
+
+void CreateExchangeTables(Database& main, Database& file) {
+    std::string sql;
+    for (Recordset table = main.OpenRecordset(
+             "SELECT name, sql LIKE '%AUTOINCREMENT%' FROM sqlite_schema WHERE type = 'table' AND "
+             "UCASE(SUBSTR(name, 1, 6)) = 'RECIPE' ORDER BY rowid");
+         !table.AtEnd(); table.MoveNext()) {
+        const std::string name = table.Fields(0).Text();
+        sql += TableSql(main, name, table.Fields(1).Boolean());
+        sql += IndexesSql(main, name);
+    }
+    UnitOfWork unit(file);
+    file.ExecuteNative(sql);
+    unit.Commit();
+}
+
+}  // namespace tw

@@ -1,0 +1,327 @@
+#include "store/RecipeCopy.h"
+
+#include <algorithm>
+#include <limits>
+#include <sqlite3.h>
+
+#include "platform/Error.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+// RECIPE_SUGARS is left out: intended.
+const std::string kLineTables[] = {"RECIPE_ADJUNCTS", "RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_LOG",
+                                   "RECIPE_SALTS"};
+
+bool Is(const std::string& field, std::string_view name) {
+    return field.size() == name.size() && CompareNoCase(field, name) == 0;
+}
+
+// The name of a column as a statement takes it. A file of another maker may hold any.
+std::string ColumnName(const std::string& name) {
+    const auto isWordChar = [](char c) {
+        return c == '_' || (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    };
+    const bool isWord = !name.empty() && (name[0] < '0' || name[0] > '9');
+    if (isWord && std::ranges::all_of(name, isWordChar)) return name;
+    if (name.empty() || name.find(']') != std::string::npos)
+        throw Error("Recordset", "The field '" + name + "' cannot be copied.", SQLITE_ERROR);
+    return "[" + name + "]";
+}
+
+// Writes the field as a literal. False, and nothing, for a type that cannot be written.
+bool AppendLiteral(std::string& out, const Field& field) {
+    if (field.IsNull()) {
+        out += "NULL";
+        return true;
+    }
+    switch (field.Type()) {
+        case FieldType::Binary:
+            return false;
+        case FieldType::Boolean:
+            out += field.Boolean() ? "TRUE" : "FALSE";
+            return true;
+        case FieldType::Text:
+        case FieldType::Memo:
+        case FieldType::Date:
+            AppendSqlText(out, field.Text());
+            return true;
+        default:
+            // Any column of a file may hold a text; bare it would be read as SQL.
+            if (std::holds_alternative<std::string>(field.Value()))
+                AppendSqlText(out, field.Text());
+            else
+                out += field.Text();
+            return true;
+    }
+}
+
+bool IsNumeric(FieldType type) {
+    switch (type) {
+        case FieldType::Boolean:
+        case FieldType::Date:
+        case FieldType::Text:
+        case FieldType::Memo:
+        case FieldType::Binary:
+            return false;
+        default:
+            return true;
+    }
+}
+
+// An INSERT as it grows. A column without a value makes a statement that the store refuses.
+class InsertText {
+  public:
+    explicit InsertText(const std::string& table) : columns_("INSERT INTO " + table + " (") {
+        constexpr std::size_t kUsualSize = 2048;
+        columns_.reserve(kUsualSize);
+        values_.reserve(kUsualSize);
+    }
+    void Add(std::string_view column, std::string_view literal) {
+        AddColumn(column);
+        StartValue();
+        values_ += literal;
+    }
+    // False when the field's type cannot be written: its column stands without a value then.
+    bool Add(std::string_view column, const Field& field) {
+        AddColumn(column);
+        const std::size_t end = values_.size();
+        StartValue();
+        if (AppendLiteral(values_, field)) return true;
+        values_.resize(end);
+        return false;
+    }
+    std::string Text() const { return columns_ + ") " + values_ + ")"; }
+
+  private:
+    static constexpr std::string_view kValues = "VALUES (";
+
+    void AddColumn(std::string_view name) {
+        if (hasColumn_) columns_ += ", ";
+        hasColumn_ = true;
+        columns_ += name;
+    }
+    void StartValue() {
+        if (values_.size() > kValues.size()) values_ += ", ";
+    }
+
+    std::string columns_;
+    std::string values_{kValues};
+    bool hasColumn_ = false;
+};
+
+void AddField(InsertText& insert, const std::string& table, const Field& field, CopyHost& host) {
+    if (insert.Add(ColumnName(field.Name()), field)) return;
+    host.DebugText("column " + field.Name() + " of table " + table + " is of type " +
+                   std::to_string(static_cast<int>(field.Type())) + " (?)");
+}
+
+// Keeps what is read from a file as it was at the start, and its lock from coming and going with each read.
+class ReadingUnit {
+  public:
+    explicit ReadingUnit(Database& database) : database_(database) { database_.ExecuteNative("BEGIN"); }
+    ~ReadingUnit() {
+        try {
+            database_.ExecuteNative("COMMIT");
+        } catch (const Error&) {
+            // Nothing was written.
+        }
+    }
+    ReadingUnit(const ReadingUnit&) = delete;
+    ReadingUnit& operator=(const ReadingUnit&) = delete;
+
+  private:
+    Database& database_;
+};
+
+// A recipe takes the place of another: wholly or, when an error ends it, not at all.
+class Replacement {
+  public:
+    explicit Replacement(Database& database) : database_(database) {
+        database_.ExecuteNative("SAVEPOINT replacement");
+    }
+    void Keep() { kept_ = true; }
+    ~Replacement() {
+        try {
+            if (!kept_) database_.ExecuteNative("ROLLBACK TO replacement");
+            database_.ExecuteNative("RELEASE replacement");
+        } catch (const Error&) {
+            // The disk has undone the whole unit already.
+        }
+    }
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+
+  private:
+    Database& database_;
+    bool kept_ = false;
+};
+
+std::string NameKey(std::string_view name) {
+    return Upper(Trim(name));
+}
+
+}  // namespace
+
+void RecipeNames::Read(Database& database) {
+    ids_.clear();
+    for (Recordset rows = database.OpenRecordset("SELECT ID, NAME FROM RECIPES ORDER BY ID"); !rows.AtEnd();
+         rows.MoveNext())
+        if (!rows.Fields(0).IsNull() && !rows.Fields(1).IsNull())
+            ids_.try_emplace(NameKey(rows.Fields(1).Text()), rows.Fields(0).Integer());
+}
+
+std::optional<std::int64_t> RecipeNames::Find(std::string_view name) const {
+    const auto found = ids_.find(NameKey(name));
+    if (found == ids_.end()) return std::nullopt;
+    return found->second;
+}
+
+void RecipeNames::Put(std::string_view name, std::int64_t id) {
+    ids_[NameKey(name)] = id;
+}
+
+void RecipeCopier::ExportRecipes(std::span<const std::string> names) {
+    isImport_ = false;
+    CopyRecipes(names);
+}
+
+void RecipeCopier::ImportRecipes(std::span<const std::string> names, std::int64_t destFolderId,
+                                 StylesNotImported& stylesNotImported) {
+    isImport_ = true;
+    destFolderId_ = destFolderId;
+    stylesNotImported_ = &stylesNotImported;
+    stylesNotImported.clear();
+    CopyRecipes(names);
+}
+
+void RecipeCopier::CopyRecipes(std::span<const std::string> names) {
+    UnitOfWork unit(Dest());
+    std::optional<ReadingUnit> reading;
+    if (isImport_) reading.emplace(file_);
+    sourceNames_.Read(Source());
+    destNames_.Read(Dest());
+    int number = 0;
+    for (const std::string& name : names) {
+        if (!host_.Continue(name, number++, static_cast<int>(names.size()))) break;
+        if (CopyRecipe(name) == Step::Stop) break;
+    }
+    unit.Commit();
+}
+
+RecipeCopier::Step RecipeCopier::CopyRecipe(const std::string& name) {
+    const std::optional<std::int64_t> sourceId = sourceNames_.Find(name);
+    if (!sourceId) {
+        const std::string title = isImport_ ? "Import File" : "Recipe Database";
+        const bool goOn = host_.ContinueAfter("Recipe '" + name + "' does not exist in " + title + " !");
+        return goOn ? Step::Next : Step::Stop;
+    }
+    // The main database holds its names trimmed; a name with blanks would never be found there again.
+    std::string newName(isImport_ ? Trim(name) : std::string_view(name));
+    if (!ResolveName(newName)) return Step::Stop;
+    if (newName.empty()) return Step::Next;
+    return CopyRows(*sourceId, destNames_.Find(newName), newName);
+}
+
+RecipeCopier::Step RecipeCopier::CopyRows(std::int64_t sourceId, std::optional<std::int64_t> oldId,
+                                          const std::string& newName) {
+    std::optional<Replacement> replacement;
+    if (oldId) {
+        replacement.emplace(Dest());
+        Dest().Execute("DELETE FROM RECIPES WHERE ID = " + std::to_string(*oldId));
+    }
+    {
+        const Recordset source =
+            Source().OpenRecordset("SELECT * FROM RECIPES WHERE ID = " + std::to_string(sourceId));
+        Dest().Execute(RecipeInsert(source, newName));
+    }
+    const std::optional<std::int64_t> newId = NewestInDest(newName);
+    if (!newId) return host_.ContinueAfter("Unknown error inserting recipe !") ? Step::Next : Step::Stop;
+    destNames_.Put(newName, *newId);
+    for (const std::string& table : kLineTables) CopyLines(table, oldId, sourceId, *newId);
+    if (replacement) replacement->Keep();
+    return Step::Next;
+}
+
+bool RecipeCopier::ResolveName(std::string& newName) {
+    while (destNames_.Find(newName)) {
+        const ConflictAnswer answer = host_.ResolveConflict(newName);
+        switch (answer.response) {
+            case ConflictResponse::Overwrite:
+                return true;
+            case ConflictResponse::Abort:
+                return false;
+            case ConflictResponse::Skip:
+                newName.clear();
+                return true;
+            case ConflictResponse::Rename:
+                newName = Trim(answer.newName);
+                break;
+        }
+    }
+    return true;
+}
+
+std::optional<std::int64_t> RecipeCopier::NewestInDest(const std::string& name) {
+    std::optional<std::int64_t> id;
+    for (Recordset rows = Dest().OpenRecordset("SELECT ID FROM RECIPES WHERE NAME = " + SqlText(name));
+         !rows.AtEnd(); rows.MoveNext())
+        if (!rows.Fields(0).IsNull())
+            id = std::max(id.value_or(std::numeric_limits<std::int64_t>::min()), rows.Fields(0).Integer());
+    return id;
+}
+
+std::string RecipeCopier::RecipeInsert(const Recordset& source, const std::string& newName) {
+    InsertText insert("RECIPES");
+    for (int i = 0; i < source.FieldCount(); ++i) {
+        const Field field = source.Fields(i);
+        if (Is(field.Name(), "ID")) continue;
+        if (isImport_ && Is(field.Name(), "STYLE_NAME"))
+            insert.Add("STYLE_ID", StyleIdOf(field.Text(), newName));
+        else if (!isImport_ && Is(field.Name(), "STYLE_ID"))
+            insert.Add("STYLE_NAME", SqlText(objects_.StyleNameById(field.Integer())));
+        else if (isImport_ && Is(field.Name(), "FOLDER_ID"))
+            insert.Add(field.Name(), std::to_string(destFolderId_));
+        else if (Is(field.Name(), "NAME"))
+            insert.Add(field.Name(), SqlText(newName));
+        else
+            AddField(insert, "RECIPES", field, host_);
+    }
+    return insert.Text();
+}
+
+std::string RecipeCopier::StyleIdOf(const std::string& style, const std::string& recipe) {
+    if (style.empty()) return "0";
+    const std::int64_t id = objects_.StyleIdByName(style);
+    if (id >= 1) return std::to_string(id);
+    const auto known = std::ranges::find(*stylesNotImported_, recipe, &StyleNotImported::recipe);
+    if (known == stylesNotImported_->end())
+        stylesNotImported_->push_back({recipe, style});
+    else
+        known->style = style;
+    return "0";
+}
+
+void RecipeCopier::CopyLines(const std::string& table, std::optional<std::int64_t> oldId,
+                             std::int64_t sourceId, std::int64_t newId) {
+    if (oldId) Dest().Execute("DELETE FROM " + table + " WHERE RECIPE_ID = " + std::to_string(*oldId));
+    for (Recordset rows = Source().OpenRecordset("SELECT * FROM " + table + " WHERE RECIPE_ID = " +
+                                                 std::to_string(sourceId) + " ORDER BY ROW_ID");
+         !rows.AtEnd(); rows.MoveNext())
+        Dest().Execute(LineInsert(table, rows, newId));
+}
+
+std::string RecipeCopier::LineInsert(const std::string& table, const Recordset& source, std::int64_t newId) {
+    InsertText insert(table);
+    for (int i = 0; i < source.FieldCount(); ++i) {
+        const Field field = source.Fields(i);
+        if (Is(field.Name(), "RECIPE_ID") && IsNumeric(field.Type()))
+            insert.Add(field.Name(), std::to_string(newId));
+        else
+            AddField(insert, table, field, host_);
+    }
+    return insert.Text();
+}
+
+}  // namespace tw

@@ -1,0 +1,342 @@
+// Import and export through the shell: the files, the dialogs in their order, what is told.
+#include <fstream>
+
+#include "shell/ImportExportModel.h"
+#include "shell/ShellTest.h"
+#include "store/Schema.h"
+#include "tree/TWNodes.h"
+
+namespace tw::test {
+namespace {
+
+class ShellExchangeTest : public ShellTest {
+  protected:
+    // The next dialog takes the entries and presses the buttons.
+    struct Step {
+        std::vector<std::pair<std::string, std::string>> entries;
+        Strings buttons;
+    };
+    void NextDialog(const Step& step) {
+        outside.dialogs.scripts.emplace_back([step](DialogModel& dialog) {
+            for (const auto& [control, text] : step.entries)
+                EXPECT_TRUE(dialog.SetControl(control, text)) << control;
+            for (const std::string& button : step.buttons) EXPECT_TRUE(dialog.Press(button)) << button;
+        });
+    }
+    // All recipes below the root of the tree, then on.
+    void PickAll(const Step& more = {}) {
+        Step step = more;
+        step.entries.emplace_back("treeRecipes", "F:-1");
+        step.buttons = {"cmdAdd", "cmdNext"};
+        NextDialog(step);
+    }
+    void GiveFile(const std::string& path) { NextDialog({{{"FileName", path}}, {"cmdOK"}}); }
+    void GiveFolder(int id) { NextDialog({{{"FolderChooser1", std::to_string(id)}}, {"cmdOK"}}); }
+    Strings TakeShown() { return std::exchange(outside.dialogs.shown, {}); }
+
+    void MakeFile(const Strings& names) {
+        for (const std::string& name : names) AddRecipeRow(*shell.DB(), name);
+        shell.ExportRecipes(file, false, names);
+        shell.DB()->Execute("DELETE FROM RECIPES");
+        TakeShown();
+    }
+    Strings NamesInFile() { return RecipeNames(*Database::OpenDatabase(file, false)); }
+    static std::string NotRecognized(const std::string& path) {
+        return "[Error] File not recognized.\r\n\"" + path + "\" is not valid Tunwright Recipe file";
+    }
+
+    const ScratchFolder folder;
+    const std::string file = folder.File("Ales.TWR");
+};
+
+TEST_F(ShellExchangeTest, TheMenuExportsThePickedRecipesIntoTheFileNamed) {
+    NewSaved("Bock");
+    NewSaved("Mild");
+    PickAll();
+    GiveFile(folder.File("Ales"));
+    EXPECT_TRUE(shell.RunMenu("mnuFileExport"));
+    EXPECT_EQ(TakeShown(), (Strings{"frmImportExport", "CommonDialog", "frmCopyProgress"}));
+    EXPECT_EQ(NamesInFile(), (Strings{"Bock", "Mild"}));
+    EXPECT_EQ(outside.messages.log, Strings{});
+}
+
+TEST_F(ShellExchangeTest, ExportAppendsOrReplacesAsTheBoxSays) {
+    MakeFile({"Old"});
+    NewSaved("Mild");
+    PickAll();
+    GiveFile(file);
+    shell.RunMenu("mnuFileExport");
+    EXPECT_EQ(NamesInFile(), (Strings{"Mild", "Old"}));
+    // Replacing asks first, in the file dialog.
+    PickAll({{{"chkAppend", "no"}}, {}});
+    GiveFile(file);
+    outside.messages.answers = {Answer::Yes};
+    shell.RunMenu("mnuFileExport");
+    EXPECT_EQ(NamesInFile(), Strings{"Mild"});
+    EXPECT_EQ(outside.messages.log,
+              Strings{"[Export Recipes] " + file + " already exists.\r\nDo you want to replace it? -> Yes"});
+}
+
+TEST_F(ShellExchangeTest, CancelInEitherDialogOfAnExportEndsIt) {
+    NewSaved("Bock");
+    NextDialog({{}, {"cmdCancel"}});
+    shell.RunMenu("mnuFileExport");
+    EXPECT_EQ(TakeShown(), Strings{"frmImportExport"});
+    PickAll();
+    NextDialog({{}, {"cmdCancel"}});
+    shell.RunMenu("mnuFileExport");
+    EXPECT_EQ(TakeShown(), (Strings{"frmImportExport", "CommonDialog"}));
+    EXPECT_FALSE(std::filesystem::exists(file));
+}
+
+TEST_F(ShellExchangeTest, TheMenuImportsThePickedRecipesIntoTheFolderChosen) {
+    shell.Objects().CreateRecipeFolder(0, "Ales", true);
+    MakeFile({"Mild", "Bock"});
+    GiveFile(folder.File("Ales"));
+    PickAll();
+    GiveFolder(1);
+    EXPECT_TRUE(shell.RunMenu("mnuFileImport"));
+    EXPECT_EQ(TakeShown(),
+              (Strings{"CommonDialog", "frmImportExport", "frmChooseFolder", "frmCopyProgress"}));
+    EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Bock", "Mild"}));
+    TWNode& ales = *shell.Tree().Nodes("F:1");
+    ASSERT_EQ(ales.Children().Count(), 2u);
+    EXPECT_EQ(ales.Children().Item(0).Name(), "Bock");
+}
+
+TEST_F(ShellExchangeTest, CancelInAnyDialogOfAnImportEndsIt) {
+    MakeFile({"Mild"});
+    NextDialog({{}, {"cmdCancel"}});
+    shell.RunMenu("mnuFileImport");
+    EXPECT_EQ(TakeShown(), Strings{"CommonDialog"});
+    NextDialog({{}, {"cmdCancel"}});
+    shell.ImportFile(file);
+    EXPECT_EQ(TakeShown(), Strings{"frmImportExport"});
+    PickAll();
+    NextDialog({{}, {"cmdCancel"}});
+    shell.ImportFile(file);
+    EXPECT_EQ(TakeShown(), (Strings{"frmImportExport", "frmChooseFolder"}));
+    EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
+}
+
+TEST_F(ShellExchangeTest, ThePickerOfAnImportShowsTheTreeOfTheFile) {
+    shell.DB()->Execute("INSERT INTO STYLES (ID, NAME) VALUES (1, 'Dry Stout')");
+    AddRecipeRow(*shell.DB(), "Mild");
+    shell.DB()->Execute("UPDATE RECIPES SET STYLE_ID = 1");
+    shell.ExportRecipes(file, false, {"Mild"});
+    AddRecipeRow(*shell.DB(), "Only Here");
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
+        auto& model = dynamic_cast<ImportExportModel&>(dialog);
+        TreeItems& items = model.Recipes().treeRecipes();
+        EXPECT_EQ(items.Text(items.Find(kDatabaseKey)), "Import File");
+        EXPECT_EQ(items.Find("F:0"), TreeItems::kNone);
+        EXPECT_EQ(items.SelectedKey(), "F:-1");
+        EXPECT_NE(items.Find("S:Dry Stout:1"), TreeItems::kNone);
+        EXPECT_TRUE(model.Recipes().Add(kDatabaseKey));
+        EXPECT_EQ(model.Recipes().Selection(), Strings{"Mild"});
+    });
+    shell.ImportFile(file);
+}
+
+TEST_F(ShellExchangeTest, TheFirstImportLightsTheCommandsOfRecipes) {
+    MakeFile({"Mild"});
+    EXPECT_FALSE(Lit("mnuFileOpen"));
+    EXPECT_FALSE(Lit("mnuFileExport"));
+    view.log.clear();
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_TRUE(Lit("mnuFileOpen"));
+    EXPECT_TRUE(Lit("mnuFileExport"));
+    // The empty main window says what can be done now.
+    EXPECT_EQ(view.log, Strings{"activated none"});
+}
+
+TEST_F(ShellExchangeTest, WithoutNamesAllRecipesOfTheFileComeIn) {
+    MakeFile({"Mild", "Bock", "Dry's \"Stout\""});
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Bock", "Dry's \"Stout\"", "Mild"}));
+    EXPECT_EQ(outside.messages.log, Strings{});
+}
+
+TEST_F(ShellExchangeTest, ATakenNameIsAskedAboutWithTheWordOfTheWay) {
+    NewSaved("Mild");
+    shell.ExportRecipes(file, true, {"Mild"});
+    TakeShown();
+    Strings words;
+    for (int i = 0; i < 2; ++i)
+        outside.dialogs.scripts.emplace_back([&](DialogModel& dialog) {
+            words.push_back(dialog.Controls().at(3).text);
+            dialog.Press("cmdSkip");
+        });
+    shell.ExportRecipes(file, true, {"Mild"});
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_EQ(words, (Strings{"Do not export this recipe", "Do not import this recipe"}));
+    EXPECT_EQ(TakeShown(),
+              (Strings{"frmCopyProgress", "frmNameConflict", "frmCopyProgress", "frmNameConflict"}));
+}
+
+TEST_F(ShellExchangeTest, ClosingTheQuestionAboutANameStopsTheRun) {
+    MakeFile({"Bock", "Mild"});
+    AddRecipeRow(*shell.DB(), "Bock");
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Bock"});
+}
+
+TEST_F(ShellExchangeTest, AnUnknownStyleIsTold) {
+    shell.DB()->Execute("INSERT INTO STYLES (ID, NAME) VALUES (1, 'Dry Stout')");
+    AddRecipeRow(*shell.DB(), "Mild");
+    shell.DB()->Execute("UPDATE RECIPES SET STYLE_ID = 1");
+    shell.ExportRecipes(file, false, {"Mild"});
+    shell.DB()->Execute("DELETE FROM STYLES");
+    shell.DB()->Execute("DELETE FROM RECIPES");
+    TakeShown();
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
+        EXPECT_EQ(dialog.Controls().at(0).text, "Effected Recipe\tUnrecognized Style\nMild\tDry Stout\n");
+        EXPECT_TRUE(dialog.Press("cmdOK"));
+    });
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_EQ(TakeShown(), (Strings{"frmCopyProgress", "frmStylesNotImported"}));
+}
+
+TEST_F(ShellExchangeTest, AnOpenRecipeThatIsOverwrittenStaysAsItWas) {
+    RecipeDocument& document = NewSaved("Mild");
+    shell.ExportRecipes(file, false, {"Mild"});
+    document.SetText(document.Record().txtName, "Mild");
+    document.SetText(document.Record().txtNotes, "typed since");
+    NextDialog({{}, {"cmdOverwrite"}});
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_EQ(document.Record().txtNotes.Text(), "typed since");
+    EXPECT_EQ(Captions(), Strings{"Mild"});
+    EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Mild"});
+}
+
+TEST_F(ShellExchangeTest, AMissingRecipeAsksWhetherToGoOn) {
+    MakeFile({"Mild"});
+    outside.messages.answers = {Answer::Ok};
+    shell.ImportRecipes(file, 0, Strings{"Nothing", "Mild"});
+    EXPECT_EQ(outside.messages.log,
+              Strings{"[Error] Recipe 'Nothing' does not exist in Import File ! -> OK"});
+    EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Mild"});
+}
+
+TEST_F(ShellExchangeTest, AFileThatIsNoneIsToldAndLeftAlone) {
+    NewSaved("Mild");
+    std::ofstream(file) << "a text";
+    shell.ImportRecipes(file, 0, std::nullopt);
+    shell.ExportRecipes(file, true, {"Mild"});
+    EXPECT_EQ(outside.messages.TakeLog(), (Strings{NotRecognized(file), NotRecognized(file)}));
+    std::string text;
+    std::getline(std::ifstream(file), text);
+    EXPECT_EQ(text, "a text");
+    // Replacing it is what was asked for then.
+    shell.ExportRecipes(file, false, {"Mild"});
+    EXPECT_EQ(NamesInFile(), Strings{"Mild"});
+}
+
+TEST_F(ShellExchangeTest, AFileThatIsCutShortIsNotRecognized) {
+    MakeFile({"Mild"});
+    std::filesystem::resize_file(file, std::filesystem::file_size(file) / 2);
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_EQ(outside.messages.log, Strings{NotRecognized(file)});
+}
+
+TEST_F(ShellExchangeTest, ADatabaseWithoutTheTablesGivesTheStoresError) {
+    Database::CreateDatabase(file, "");
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] no such table: RECIPES"});
+    NewSaved("Mild");
+    shell.ExportRecipes(file, true, {"Mild"});
+    EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] no such table: RECIPES"});
+}
+
+TEST_F(ShellExchangeTest, AnErrorInTheMiddleKeepsWhatCameBeforeAndShowsIt) {
+    MakeFile({"Bock", "Mild"});
+    Database::OpenDatabase(file, false)->ExecuteNative("DROP TABLE RECIPE_LOG");
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_EQ(outside.messages.log, Strings{"[Error] no such table: RECIPE_LOG"});
+    ASSERT_EQ(RecipeNames(*shell.DB()), Strings{"Bock"});
+    const std::string id = shell.DB()->OpenRecordset("SELECT ID FROM RECIPES").Fields(0).Text();
+    EXPECT_TRUE(shell.Tree().NodeExists("R:" + id + ":3"));
+    EXPECT_TRUE(Lit("mnuFileOpen"));
+}
+
+TEST_F(ShellExchangeTest, ARecoveryOfTheReplacedFileDoesNotReachTheNewOne) {
+    NewSaved("Mild");
+    MakeFile({"Old"});
+    NewSaved("Mild");
+    std::ofstream(file + "-journal") << "what an interrupted run has left";
+    shell.ExportRecipes(file, false, {"Mild"});
+    EXPECT_EQ(NamesInFile(), Strings{"Mild"});
+    EXPECT_EQ(outside.messages.log, Strings{});
+}
+
+TEST_F(ShellExchangeTest, AFileThatCannotBeWrittenIsTold) {
+    NewSaved("Mild");
+    shell.ExportRecipes(folder.File("none/Ales.TWR"), true, {"Mild"});
+    EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + folder.File("none/Ales.TWR") +
+                                                  "' cannot be opened: unable to open database file."});
+    shell.ExportRecipes(folder.File(""), false, {"Mild"});
+    EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + folder.File("") + "' exists already."});
+    MakeFile({"Old"});
+    NewSaved("Mild");
+    std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+    shell.ExportRecipes(file, true, {"Mild"});
+    EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + file + "' is write-protected."});
+    EXPECT_EQ(NamesInFile(), Strings{"Old"});
+}
+
+TEST_F(ShellExchangeTest, AWriteProtectedFileCanBeImported) {
+    MakeFile({"Mild"});
+    std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Mild"});
+}
+
+TEST_F(ShellExchangeTest, AutosaveWaitsWhileRecipesAreCopied) {
+    RecipeDocument& document = NewSaved("Mild");
+    shell.SetDoAutoSave(true);
+    shell.CurrentSettings().doAutoSaveEvery = 1;
+    shell.ExportRecipes(file, false, {"Mild"});
+    document.SetText(document.Record().txtNotes, "typed since");
+    outside.dialogs.scripts.emplace_back([&](DialogModel&) { shell.TickAutoSave(); });
+    shell.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_TRUE(document.Changed());
+    shell.TickAutoSave();
+    EXPECT_FALSE(document.Changed());
+}
+
+TEST_F(ShellExchangeTest, OneImportDoesNotStartWithinAnother) {
+    MakeFile({"Mild"});
+    outside.dialogs.scripts.emplace_back([&](DialogModel& dialog) {
+        shell.ImportFromPath(file);
+        dialog.CloseBox();
+    });
+    shell.ImportFile(file);
+    EXPECT_EQ(TakeShown(), Strings{"frmImportExport"});
+}
+
+// A database of its own in a file, which an export must not take.
+TEST(ShellExchange, TheDatabaseItselfIsNeverReplacedOrTakenForARecipeFile) {
+    const ScratchFolder folder;
+    const std::string path = folder.File("Tunwright.mdb");
+    CreateSchema(*Database::CreateDatabase(path, ""));
+    std::filesystem::create_symlink(path, folder.File("link.TWR"));
+    RecordingPlatform outside;
+    Shell shell(outside.platform);
+    ASSERT_TRUE(shell.PerformSplashScreenInit(path));
+    AddRecipeRow(*shell.DB(), "Mild");
+    for (const char* name : {"Tunwright.mdb", "link.TWR"}) {
+        const std::string target = folder.File(name);
+        shell.ExportRecipes(target, false, {"Mild"});
+        EXPECT_EQ(outside.messages.TakeLog(),
+                  Strings{"[Error] '" + target + "' is the database of the recipes themselves."});
+        shell.ExportRecipes(target, true, {"Mild"});
+        shell.ImportRecipes(target, 0, std::nullopt);
+        const std::string refused =
+            "[Error] File not recognized.\r\n\"" + target + "\" is not valid Tunwright Recipe file";
+        EXPECT_EQ(outside.messages.TakeLog(), (Strings{refused, refused}));
+        EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Mild"});
+    }
+}
+
+}  // namespace
+}  // namespace tw::test

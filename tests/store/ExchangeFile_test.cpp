@@ -1,0 +1,126 @@
+#include "store/ExchangeFile.h"
+
+#include <gtest/gtest.h>
+
+#include "StoreSupport.h"
+#include "store/Schema.h"
+
+namespace tw::test {
+namespace {
+
+class ExchangeFileTest : public testing::Test {
+  protected:
+    void Make() { CreateExchangeTables(*main, *file); }
+    // The names of the columns of a table, in their order.
+    static std::string Columns(Database& database, const std::string& table) {
+        std::string names;
+        for (const auto& row : Select(database, "SELECT name FROM pragma_table_info(" + SqlText(table) + ")"))
+            names += row[0] + " ";
+        return names;
+    }
+    // "INDEX(COLUMN COLUMN )" of a table, by name.
+    static Rows Indexes(Database& database, const std::string& table) {
+        Rows all;
+        for (const auto& row : Select(database, "SELECT name, [unique] FROM pragma_index_list(" +
+                                                    SqlText(table) + ") ORDER BY name")) {
+            std::string columns;
+            for (const auto& column :
+                 Select(database, "SELECT name, [desc] FROM pragma_index_xinfo(" + SqlText(row[0]) +
+                                      ") WHERE [key] = 1 ORDER BY seqno"))
+                columns += column[0] + (column[1] == "1" ? " DESC " : " ");
+            all.push_back({row[0], row[1], columns});
+        }
+        return all;
+    }
+
+    const TemporaryFolder folder;
+    const std::unique_ptr<Database> main = Database::CreateInMemory();
+    const std::unique_ptr<Database> file = Database::CreateDatabase(folder.File("a.TWR"), kExchangeLocale);
+};
+
+TEST_F(ExchangeFileTest, HoldsTheSevenRecipeTablesAlone) {
+    Make();
+    EXPECT_EQ(Select(*file,
+                     "SELECT name FROM sqlite_schema WHERE type = 'table' AND NOT name GLOB 'sqlite*' "
+                     "ORDER BY name"),
+              (Rows{{"RECIPES"},
+                    {"RECIPE_ADJUNCTS"},
+                    {"RECIPE_GRAINS"},
+                    {"RECIPE_HOPS"},
+                    {"RECIPE_LOG"},
+                    {"RECIPE_SALTS"},
+                    {"RECIPE_SUGARS"}}));
+}
+
+TEST_F(ExchangeFileTest, HasTheSameColumnsInTheirOrderButTheNameOfTheStyle) {
+    Make();
+    for (const char* table :
+         {"RECIPE_ADJUNCTS", "RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_LOG", "RECIPE_SALTS", "RECIPE_SUGARS"})
+        EXPECT_EQ(Columns(*file, table), Columns(*main, table));
+    std::string expected = Columns(*main, "RECIPES");
+    expected.replace(expected.find("STYLE_ID"), 8, "STYLE_NAME");
+    EXPECT_EQ(Columns(*file, "RECIPES"), expected);
+}
+
+TEST_F(ExchangeFileTest, AStyleIsATextOfFiftyThatMayBeLeftOutOrEmpty) {
+    Make();
+    EXPECT_EQ(Select(*file,
+                     "SELECT type, [notnull], dflt_value FROM pragma_table_info('RECIPES') "
+                     "WHERE name = 'STYLE_NAME'"),
+              (Rows{{"TEXT(50)", "0", "''"}}));
+    file->Execute("INSERT INTO RECIPES (NAME) VALUES ('Mild')");
+    file->Execute("INSERT INTO RECIPES (NAME, STYLE_NAME) VALUES ('Stout', '')");
+    file->Execute("INSERT INTO RECIPES (NAME, STYLE_NAME) VALUES ('Porter', NULL)");
+    EXPECT_EQ(Select(*file, "SELECT STYLE_NAME FROM RECIPES ORDER BY ID"), (Rows{{""}, {""}, {"NULL"}}));
+    EXPECT_EQ(file->OpenRecordset("SELECT STYLE_NAME FROM RECIPES").TypeOf(0), FieldType::Text);
+}
+
+TEST_F(ExchangeFileTest, HasTheSameIndexesWithTheNameOfTheStyleInPlaceOfItsId) {
+    Make();
+    EXPECT_EQ(Indexes(*file, "RECIPE_HOPS"), (Rows{{"RECIPE_HOPS_RECIPE_ID", "0", "RECIPE_ID "}}));
+    EXPECT_EQ(Indexes(*file, "RECIPES"),
+              (Rows{{"RECIPES_FOLDER_ID_NAME", "0", "FOLDER_ID NAME "},
+                    {"RECIPES_NAME_STYLE_ID_FOLDER_ID", "0", "NAME STYLE_NAME FOLDER_ID "},
+                    {"RECIPES_STYLE_ID_NAME", "0", "STYLE_NAME NAME "}}));
+}
+
+TEST_F(ExchangeFileTest, CountsIdsThatAreNeverUsedAgain) {
+    Make();
+    for (const char* sql : {"INSERT INTO RECIPES (NAME) VALUES ('Mild')", "DELETE FROM RECIPES",
+                            "INSERT INTO RECIPES (NAME) VALUES ('Stout')"})
+        file->Execute(sql);
+    EXPECT_EQ(Cell(*file, "SELECT ID FROM RECIPES"), "2");
+}
+
+TEST_F(ExchangeFileTest, ComparesNamesWithoutRegardToCase) {
+    Make();
+    file->Execute("INSERT INTO RECIPES (NAME) VALUES ('Weißbier ÄÖ')");
+    EXPECT_EQ(Cell(*file, "SELECT ID FROM RECIPES WHERE NAME = 'weißbier äö'"), "1");
+}
+
+TEST_F(ExchangeFileTest, EveryTableWhoseNameBeginsWithRecipeTravelsWithItsRules) {
+    main->ExecuteNative(
+        "CREATE TABLE \"Recipe \"\"x\" (\"a b\" INTEGER NOT NULL, \"desc\" TEXT DEFAULT 'it''s', PLACE LONG);"
+        "CREATE UNIQUE INDEX \"i x\" ON \"Recipe \"\"x\" (\"a b\" DESC, \"desc\");"
+        "CREATE INDEX partly ON \"Recipe \"\"x\" (PLACE) WHERE PLACE > 0;"
+        "CREATE INDEX computed ON \"Recipe \"\"x\" (PLACE + 1);"
+        "CREATE TABLE MY_RECIPES (a INTEGER)");
+    Make();
+    EXPECT_EQ(Columns(*file, "Recipe \"x"), "a b desc PLACE ");
+    EXPECT_EQ(Columns(*file, "MY_RECIPES"), "");
+    EXPECT_EQ(Indexes(*file, "Recipe \"x"), (Rows{{"i x", "1", "a b DESC desc "}}));
+    file->ExecuteNative("INSERT INTO \"Recipe \"\"x\" (\"a b\") VALUES (1)");
+    EXPECT_EQ(Cell(*file, "SELECT [desc] FROM [Recipe \"x]"), "it's");
+    EXPECT_EQ(ErrorOf([&] {
+                  file->ExecuteNative("INSERT INTO \"Recipe \"\"x\" (\"a b\") VALUES (NULL)");
+              }).Number(),
+              19);  // a constraint
+}
+
+TEST_F(ExchangeFileTest, AFileThatHoldsATableIsRefusedWhole) {
+    file->ExecuteNative("CREATE TABLE RECIPE_LOG (a INTEGER)");
+    EXPECT_EQ(ErrorOf([&] { Make(); }).Description(), "table \"RECIPE_LOG\" already exists");
+}
+
+}  // namespace
+}  // namespace tw::test
