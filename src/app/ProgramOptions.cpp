@@ -1,8 +1,21 @@
 #include "app/ProgramOptions.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 namespace tw {
+namespace {
+
+QString Absolute(const QString& path) {
+    return path.isEmpty() || path == QLatin1String(":memory:") ? path : QFileInfo(path).absoluteFilePath();
+}
+
+// What names no file stays as it was typed: the import of a missing file tells the path.
+QString AbsoluteIfFile(const QString& path) {
+    return QFileInfo(path).isFile() ? QFileInfo(path).absoluteFilePath() : path;
+}
+
+}  // namespace
 
 ProgramOptions ReadOptions(const QStringList& arguments) {
     QCommandLineParser parser;
@@ -26,19 +39,19 @@ ProgramOptions ReadOptions(const QStringList& arguments) {
     const QCommandLineOption pictures(QStringLiteral("pictures"),
                                       QStringLiteral("Writes pictures of all windows and ends."),
                                       QStringLiteral("FOLDER"));
-    parser.addOptions({database, settings, open, tab, picture, pictures});
-    parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 QStringLiteral("Imports recipes of this recipe file."),
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Imports the recipes of this file."),
                                  QStringLiteral("[FILE]"));
+    parser.addOptions({database, settings, open, tab, picture, pictures});
     parser.process(arguments);
     ProgramOptions options;
-    options.database = parser.value(database);
-    options.settings = parser.value(settings);
+    options.database = Absolute(parser.value(database));
+    options.settings = Absolute(parser.value(settings));
+    // All the words are one path, as they were typed.
+    options.file = AbsoluteIfFile(parser.positionalArguments().join(QLatin1Char(' ')).trimmed());
     options.open = parser.values(open);
-    options.file = parser.positionalArguments().join(QLatin1Char(' ')).trimmed();
     options.tab = parser.value(tab).toInt();
-    options.picture = parser.value(picture);
-    options.pictures = parser.value(pictures);
+    options.picture = Absolute(parser.value(picture));
+    options.pictures = Absolute(parser.value(pictures));
     return options;
 }
 

@@ -15,7 +15,8 @@ struct ProgramOptions {
     QString pictures;  // a folder for pictures of all windows; the program ends then
 };
 
-// Reads the words. Ends the process with a message for an unknown option, --help and --version.
+// Reads the words. Paths of files that exist are absolute, since the program leaves the folder that it was
+// started in. Ends the process with a message for an unknown option, --help and --version.
 ProgramOptions ReadOptions(const QStringList& arguments);
 
 }  // namespace tw

@@ -45,6 +45,7 @@ Shell& Session::Program() {
         throw StartFailure();
     }
     shell_ = std::move(shell);
+    shell_->EnableDDETimer(true);
     return *shell_;
 }
 
