@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "store/Database.h"
+#include "tree/WordIndex.h"
 
 namespace tw {
 
@@ -35,16 +36,18 @@ class RecipeFinder {
     const std::vector<FoundRecipe>& Find(std::string_view text);
 
   private:
-    struct Recipe {
-        std::int64_t id;
-        std::string name;
-        std::string text;  // all that is searched, in upper case, a line each
-    };
+    // All that is searched, gathered text by text.
+    class Reading;
     void Read();
+    FoundRecipe RecipeAt(std::size_t index) const;
 
     Database& database_;
     std::int64_t changes_ = -1;  // what the database had counted when the recipes were read
-    std::vector<Recipe> recipes_;
+    // The recipes in the order of the list, and the words of each.
+    std::vector<std::int64_t> ids_;
+    std::string names_;                   // one behind the other
+    std::vector<std::size_t> nameBegin_;  // one more than the recipes
+    WordIndex words_;
     std::vector<FoundRecipe> found_;
 };
 

@@ -1,10 +1,10 @@
 #include "tree/TreeLoader.h"
 
-#include <cmath>
 #include <deque>
 #include <optional>
 #include <vector>
 
+#include "tree/RowLink.h"
 #include "tree/TWNodes.h"
 
 namespace tw {
@@ -19,21 +19,6 @@ constexpr int kInFolder = 3;
 // The first fields of every read.
 constexpr int kNameField = 0;
 constexpr int kIdField = 1;
-
-// The number that links a row to another. Nothing for NULL and for what is no whole number: that names no
-// row.
-std::optional<std::int64_t> LinkOf(const Recordset& rows, int index) {
-    constexpr double kExact = 9007199254740992.0;  // 2^53, beyond which a double skips whole numbers
-    try {
-        const Value value = rows.Fields(index).Value();
-        const double* const number = std::get_if<double>(&value);
-        if (number == nullptr || std::abs(*number) > kExact || *number != std::trunc(*number))
-            return std::nullopt;
-        return static_cast<std::int64_t>(*number);
-    } catch (const Error&) {
-        return std::nullopt;  // infinite: only a foreign program stores that
-    }
-}
 
 TWNode* FindIn(const std::unordered_map<std::int64_t, TWNode*>& nodes, std::optional<std::int64_t> id) {
     if (!id) return nullptr;
