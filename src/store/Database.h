@@ -62,6 +62,9 @@ class Field {
     // The value as a number; a text that is no number and NULL give 0.
     double Number() const;
     std::int64_t Integer() const;
+    // The value when it is a whole number, which can be another row's id; nothing for NULL, a text, a
+    // fraction, and a number that a double does not hold exactly.
+    std::optional<std::int64_t> WholeNumber() const;
     bool Boolean() const;
 
   private:

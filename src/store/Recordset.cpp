@@ -118,6 +118,15 @@ std::int64_t Field::Integer() const {
     return static_cast<std::int64_t>(number);
 }
 
+std::optional<std::int64_t> Field::WholeNumber() const {
+    const int storage = sqlite3_column_type(statement_, column_);
+    if (storage == SQLITE_INTEGER) return sqlite3_column_int64(statement_, column_);
+    constexpr double kExact = 9007199254740992.0;  // 2^53, beyond which a double skips whole numbers
+    const double number = storage == SQLITE_FLOAT ? sqlite3_column_double(statement_, column_) : 0.5;
+    if (!(std::abs(number) <= kExact) || number != std::trunc(number)) return std::nullopt;
+    return static_cast<std::int64_t>(number);
+}
+
 bool Field::Boolean() const {
     return Number() != 0;
 }

@@ -5,8 +5,6 @@
 #include <unordered_map>
 #include <utility>
 
-#include "tree/RowLink.h"
-
 namespace tw {
 namespace {
 
@@ -37,7 +35,7 @@ class RecipeFinder::Reading {
         ReadRecipes();
         for (const char* const sql : kRowReads)
             for (Recordset rows = database_.OpenRecordset(sql); !rows.AtEnd(); rows.MoveNext()) {
-                const auto id = LinkOf(rows, 0);
+                const auto id = rows.Fields(0).WholeNumber();
                 const auto recipe = id ? byId_.find(*id) : byId_.end();
                 if (recipe != byId_.end()) AddText(rows.Fields(1).Text(), recipe->second);
             }
@@ -61,7 +59,7 @@ class RecipeFinder::Reading {
             finder_.names_ += name;
             byId_.emplace(finder_.ids_.back(), recipe);
             words_.Add(words_.NumbersOf(name), recipe);
-            const auto style = LinkOf(rows, 2);
+            const auto style = rows.Fields(2).WholeNumber();
             const auto found = style ? styles.find(*style) : styles.end();
             if (found != styles.end()) words_.Add(found->second, recipe);
         }

@@ -149,6 +149,15 @@ TEST_F(DatabaseTest, GivesZeroForATextThatIsNoNumber) {
     EXPECT_EQ(rows.Fields(1).Number(), 0);
 }
 
+TEST_F(DatabaseTest, TellsWholeNumbersFromAllElse) {
+    Recordset rows =
+        db->OpenRecordset("SELECT -7, 9007199254740993, 4.0, 4.5, 1e300, 1e999, '4', NULL, -0.5");
+    EXPECT_EQ(rows.Fields(0).WholeNumber(), -7);
+    EXPECT_EQ(rows.Fields(1).WholeNumber(), 9007199254740993);
+    EXPECT_EQ(rows.Fields(2).WholeNumber(), 4);
+    for (int i = 3; i < rows.FieldCount(); ++i) EXPECT_EQ(rows.Fields(i).WholeNumber(), std::nullopt) << i;
+}
+
 TEST_F(DatabaseTest, NeverGivesInfinity) {
     Recordset rows = db->OpenRecordset("SELECT 1e999, 1e300");
     EXPECT_EQ(ErrorOf([&] { rows.Fields(0).Number(); }).Description(), "Overflow");
