@@ -1,8 +1,21 @@
 #include "app/ProgramOptions.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 
 namespace tw {
+namespace {
+
+QString Absolute(const QString& path) {
+    return path.isEmpty() || path == QLatin1String(":memory:") ? path : QFileInfo(path).absoluteFilePath();
+}
+
+// What names no file stays as it was typed: the import of a missing file tells the path.
+QString AbsoluteIfFile(const QString& path) {
+    return QFileInfo(path).isFile() ? QFileInfo(path).absoluteFilePath() : path;
+}
+
+}  // namespace
 
 ProgramOptions ReadOptions(const QStringList& arguments) {
     QCommandLineParser parser;
@@ -30,20 +43,20 @@ ProgramOptions ReadOptions(const QStringList& arguments) {
                                   QStringLiteral("Takes pictures of a main window of this size, in pixels."),
                                   QStringLiteral("WIDTHxHEIGHT"));
     parser.addOptions({database, settings, open, tab, picture, pictures, size});
-    parser.addPositionalArgument(QStringLiteral("FILE"),
-                                 QStringLiteral("Imports recipes of this recipe file."),
+    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Imports the recipes of this file."),
                                  QStringLiteral("[FILE]"));
     parser.process(arguments);
     ProgramOptions options;
-    options.database = parser.value(database);
-    options.settings = parser.value(settings);
+    options.database = Absolute(parser.value(database));
+    options.settings = Absolute(parser.value(settings));
+    // All the words are one path, as they were typed.
+    options.file = AbsoluteIfFile(parser.positionalArguments().join(QLatin1Char(' ')).trimmed());
     options.open = parser.values(open);
-    options.file = parser.positionalArguments().join(QLatin1Char(' ')).trimmed();
     options.tab = parser.value(tab).toInt();
-    options.picture = parser.value(picture);
-    options.pictures = parser.value(pictures);
     const QStringList sides = parser.value(size).split(QLatin1Char('x'));
     if (sides.size() == 2) options.size = QSize(sides[0].toInt(), sides[1].toInt());
+    options.picture = Absolute(parser.value(picture));
+    options.pictures = Absolute(parser.value(pictures));
     return options;
 }
 

@@ -17,7 +17,8 @@ struct ProgramOptions {
     QSize size;        // of the main window in pictures; empty: the usual one
 };
 
-// Reads the words. Ends the process with a message for an unknown option, --help and --version.
+// Reads the words. Paths of files that exist are absolute, since the program leaves the folder that it was
+// started in. Ends the process with a message for an unknown option, --help and --version.
 ProgramOptions ReadOptions(const QStringList& arguments);
 
 }  // namespace tw

@@ -22,6 +22,7 @@
 #include "platform/SystemClock.h"
 #include "platform/qt/ColorChooser.h"
 #include "platform/qt/DesktopColors.h"
+#include "platform/qt/LocalChannel.h"
 #include "platform/qt/ProgramStyle.h"
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtDialogs.h"
@@ -103,6 +104,12 @@ void AnswerWithoutDisplay(int argc, char** argv) {
     ReadOptions(QCoreApplication::arguments());
 }
 
+// A box on a screen that nobody sees would wait for ever.
+bool HasScreen() {
+    const QString platform = QGuiApplication::platformName();
+    return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
+}
+
 bool HasDisplay() {
     for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         if (!qEnvironmentVariableIsEmpty(name)) return true;
@@ -124,7 +131,7 @@ int Run(int argc, char** argv) {
     const bool photographing = !options.picture.isEmpty() || !options.pictures.isEmpty();
     QtMessages boxes;
     PrintedMessages printed;
-    MessagePort& messages = photographing ? static_cast<MessagePort&>(printed) : boxes;
+    MessagePort& messages = photographing || !HasScreen() ? static_cast<MessagePort&>(printed) : boxes;
     application.SetMessages(messages);
     InstallRangeBarAccessibility();
     InstallToolAccessibility();
@@ -136,11 +143,15 @@ int Run(int argc, char** argv) {
     SystemClock clock;
     QtClipboard clipboard;
     Platform platform{messages, dialogs, *settings, clock, clipboard};
+    // It goes after the shell: the next program waits until this one has closed its files.
+    LocalChannel channel(DesktopName());
     Shell shell(platform);
     shell.SetProgramFolder(FromQt(QCoreApplication::applicationDirPath()));
-    if (!photographing)
+    if (!photographing) {
         shell.SetRecoveryFolder(FromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
                                        QStringLiteral("/unsaved")));
+        shell.DDE().SetChannel(&channel);
+    }
     QtBrowser browser;
     SystemTextFiles files;
     Help help(FromQt(QCoreApplication::applicationDirPath()), messages, browser, files);
@@ -151,9 +162,9 @@ int Run(int argc, char** argv) {
     frmMain window(shell, platform);
     DesktopColors colors;
     window.show();
-    if (!window.StartUp(DatabaseOf(options))) return EXIT_FAILURE;
+    if (!window.StartUp(DatabaseOf(options), FromQt(options.file)))
+        return shell.DDE().HandedOver() ? EXIT_SUCCESS : EXIT_FAILURE;
     OpenRecipes(window, shell, options);
-    if (!options.file.isEmpty()) shell.ImportFromPath(FromQt(options.file));
     if (photographing) return Photograph(window, shell, dialogs, options);
     colors.Follow();
     // Within the event loop, which ends the program when the main window is closed behind it.

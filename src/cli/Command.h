@@ -40,6 +40,7 @@ std::span<const Command> CommandsOfScaling();
 std::span<const Command> CommandsOnTree();
 std::span<const Command> CommandsOnLists();
 std::span<const Command> CommandsOfExchange();
+std::span<const Command> CommandsFromOutside();
 std::span<const Command> CommandsOnProgram();
 std::span<const Command> CommandsOfHelp();
 

@@ -47,6 +47,7 @@ Shell& Session::Program() {
         throw StartFailure();
     }
     shell_ = std::move(shell);
+    shell_->EnableDDETimer(true);
     return *shell_;
 }
 

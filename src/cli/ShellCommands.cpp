@@ -93,8 +93,9 @@ void Restart(Session& session, Arguments& arguments) {
 void Tick(Session& session, Arguments& arguments) {
     const std::string timer = arguments.Word("the timer");
     arguments.End();
-    if (timer != "autosave") throw ScriptError("there is no timer '" + timer + "'");
-    session.Program().TickAutoSave();
+    if (timer == "autosave") return session.Program().TickAutoSave();
+    if (timer != "dde") throw ScriptError("there is no timer '" + timer + "'");
+    session.Program().DDE().TickDDE();
 }
 
 constexpr Command kCommands[] = {
@@ -105,7 +106,7 @@ constexpr Command kCommands[] = {
     {"mru", "", "the recent list", Mru},
     {"setting", "SECTION KEY [TEXT]", "reads or stores a setting", Setting},
     {"sql", "TEXT", "runs a statement on the database", Sql},
-    {"tick", "autosave", "one tick of that timer", Tick},
+    {"tick", "autosave|dde", "one tick of that timer", Tick},
     {"restart", "", "ends the program and starts it again", Restart},
     {"dialogs", "on|off", "whether dialogs print their controls", ShowDialogs},
 };

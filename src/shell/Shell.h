@@ -19,6 +19,7 @@
 #include "platform/Ports.h"
 #include "shell/AutoSave.h"
 #include "shell/CommandBar.h"
+#include "shell/DDEService.h"
 #include "shell/RecentList.h"
 #include "shell/Recovery.h"
 #include "shell/Settings.h"
@@ -57,11 +58,17 @@ class ShellView {
     virtual void UnsavedWorkWaits() {}
     // Whether that document's window is minimised.
     virtual bool IsMinimized(const RecipeDocument&) const { return false; }
+    // A window other than the main window and the recipes' windows is open.
+    virtual bool IsDialogOpen() const { return false; }
+    // The main window is to stand before all others, with the dialog that is open in it.
+    virtual void BringToFront() {}
+    // Commands from outside are queued: DDE().TickDDE is due every kDDETickMilliseconds until none is left.
+    virtual void OutsideCommandsWait() {}
     // Ends the program (the close request has been granted, or the database could not be opened).
     virtual void CloseMainWindow() {}
 };
 
-class Shell final : public DocumentHost, public DocumentCommands, public ObjectListener {
+class Shell final : public DocumentHost, public DocumentCommands, public ObjectListener, private DDEHost {
   public:
     explicit Shell(Platform& platform);
     ~Shell() override;
@@ -151,7 +158,12 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // A file by its path, as the command line, a drop or another program tells it: imports it, also by the
     // path without the quotes around it. One that is missing is told only when its path began with a quote:
     // intended. Errors are shown as Guard does. REQUIRES: the database is open.
-    void ImportFromPath(std::string_view path);
+    void ImportFromPath(std::string_view path) override;
+
+    // The one program on a desktop, and the commands that reach it from outside. They wait while the timer is
+    // off: until the start is over, and while a print job runs.
+    DDEService& DDE() { return dde_; }
+    void EnableDDETimer(bool on) { dde_.SetTicking(on); }
 
     // Autosave. Switching it on counts the minutes from 0.
     bool DoAutoSave() const { return settings_.doAutoSave; }
@@ -232,6 +244,11 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void DeletionEnded() override;
 
   private:
+    // DDEHost
+    bool IsDialogOpen() const override { return view_ != nullptr && view_->IsDialogOpen(); }
+    void BringToFront() override;
+    void CommandsWait() override;
+
     using Action = std::function<void(Shell&)>;
     struct ActionRow {
         std::string_view name;
@@ -273,6 +290,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void ForEachDocument(Notice notice);
 
     Platform& platform_;
+    DDEService dde_;
     SettingsStore store_;
     Settings settings_;
     CommandBar bar_;

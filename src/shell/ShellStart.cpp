@@ -30,7 +30,8 @@ constexpr int kPackagings = 2;
 
 }  // namespace
 
-Shell::Shell(Platform& platform) : platform_(platform), store_(platform.settings), recent_(bar_) {}
+Shell::Shell(Platform& platform)
+    : platform_(platform), dde_(*this, platform.messages), store_(platform.settings), recent_(bar_) {}
 
 Shell::~Shell() = default;
 
@@ -101,6 +102,7 @@ void Shell::Unload(bool storeGeometry) {
     settings_.Store(store_);
     recent_.Store(store_);
     while (!documents_.empty()) DeleteWindow(*documents_.back());
+    dde_.ShutdownDDE();
     recovery_.reset();
     objects_.reset();
     treeObjects_.reset();

@@ -62,6 +62,9 @@ class Field {
     // The value as a number; a text that is no number and NULL give 0.
     double Number() const;
     std::int64_t Integer() const;
+    // The value when it is a whole number, which can be another row's id; nothing for NULL, a text, a
+    // fraction, and a number that a double does not hold exactly.
+    std::optional<std::int64_t> WholeNumber() const;
     bool Boolean() const;
 
   private:
@@ -130,6 +133,9 @@ class Database {
     int RecordsAffected() const { return recordsAffected_; }
     // Runs one SELECT; the recordset stands on its first row or at EOF.
     Recordset OpenRecordset(std::string_view sql);
+    // A number that grows with every row that this connection writes: equal to an earlier one as long as
+    // nothing was written since.
+    std::int64_t ChangeCount() const;
     const std::string& Path() const { return path_; }
 
     // Called with the text of each statement before it runs. Tests count statements with it, end the process

@@ -1,4 +1,5 @@
 #include <cmath>
+#include <optional>
 #include <sqlite3.h>
 #include <vector>
 
@@ -117,6 +118,15 @@ std::int64_t Field::Integer() const {
     return static_cast<std::int64_t>(number);
 }
 
+std::optional<std::int64_t> Field::WholeNumber() const {
+    const int storage = sqlite3_column_type(statement_, column_);
+    if (storage == SQLITE_INTEGER) return sqlite3_column_int64(statement_, column_);
+    constexpr double kExact = 9007199254740992.0;  // 2^53, beyond which a double skips whole numbers
+    const double number = storage == SQLITE_FLOAT ? sqlite3_column_double(statement_, column_) : 0.5;
+    if (!(std::abs(number) <= kExact) || number != std::trunc(number)) return std::nullopt;
+    return static_cast<std::int64_t>(number);
+}
+
 bool Field::Boolean() const {
     return Number() != 0;
 }
@@ -132,6 +142,8 @@ struct Recordset::Impl {
     const std::vector<std::string>& Names();
     // Position of the field of that name, -1 when there is none.
     int Find(std::string_view name);
+    // REQUIRES: there is such a column.
+    FieldType TypeOf(int column);
 
   private:
     bool Same(int column, std::string_view name, std::uint32_t hash) const;
@@ -146,6 +158,8 @@ struct Recordset::Impl {
   private:
     std::vector<std::string> names_;
     std::vector<std::uint32_t> hashes_;
+    std::vector<std::optional<FieldType>>
+        declared_;  // of each column, none for an expression; empty at first
 };
 
 void Recordset::Impl::Step() {
@@ -215,6 +229,17 @@ int Recordset::Impl::Find(std::string_view name) {
     return -1;
 }
 
+FieldType Recordset::Impl::TypeOf(int column) {
+    if (declared_.empty()) {
+        for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+            const char* const declared = sqlite3_column_decltype(statement, i);
+            declared_.push_back(declared == nullptr ? std::nullopt : std::optional(FieldTypeOf(declared)));
+        }
+    }
+    const std::optional<FieldType> type = declared_[static_cast<std::size_t>(column)];
+    return type ? *type : ValueType(sqlite3_column_type(statement, column));
+}
+
 Recordset::Recordset(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {
     impl_->Step();
 }
@@ -248,7 +273,7 @@ int Recordset::FieldCount() const {
 Field Recordset::Fields(int index) const {
     if (AtEnd()) Raise("No current record.", SQLITE_MISUSE);
     const std::string& name = FieldName(index);
-    return {impl_->statement, index, &name, TypeOf(index)};
+    return {impl_->statement, index, &name, impl_->TypeOf(index)};
 }
 
 Field Recordset::Fields(std::string_view name) const {
@@ -265,9 +290,7 @@ const std::string& Recordset::FieldName(int index) const {
 
 FieldType Recordset::TypeOf(int index) const {
     if (index < 0 || index >= FieldCount()) Raise("Item not found in this collection.", SQLITE_RANGE);
-    const char* const declared = sqlite3_column_decltype(impl_->statement, index);
-    if (declared != nullptr) return FieldTypeOf(declared);
-    return ValueType(sqlite3_column_type(impl_->statement, index));
+    return impl_->TypeOf(index);
 }
 
 Recordset Database::OpenRecordset(std::string_view sql) {

@@ -156,10 +156,11 @@ void TWNode::DestroyChildren() noexcept {
             continue;
         }
         TWNodes::Items& items = at->family_->nodes.items_;
-        if (items.back()->HasChildren())
-            at = items.back().get();
+        const std::size_t last = items.Count() - 1;
+        if (items[last]->HasChildren())
+            at = items[last].get();
         else
-            items.pop_back();
+            items.TakeOut(last);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <vector>
 
 #include "platform/Error.h"
 
@@ -20,16 +21,16 @@ bool Before(const std::unique_ptr<TWNode>& a, const std::unique_ptr<TWNode>& b) 
 }  // namespace
 
 TWNode& TWNodes::Item(std::size_t index) const {
-    if (index >= items_.size()) RaiseOutOfRange("TWNodes.Item");
+    if (index >= Count()) RaiseOutOfRange("TWNodes.Item");
     return *items_[index];
 }
 
 TWNode& TWNodes::AddNode(std::unique_ptr<TWNode>&& node) {
     // The room first: behind the owner's event nothing may fail.
-    if (items_.size() == items_.capacity()) items_.reserve(items_.size() + items_.size() / 2 + 3);
+    items_.ReserveOne();
     owner_.AddingNode(*node);
     const std::size_t place = PlaceFor(*node);
-    return **items_.insert(items_.begin() + static_cast<Items::difference_type>(place), std::move(node));
+    return *items_.Insert(place, std::move(node));
 }
 
 TWNode& TWNodes::AddItem(std::string_view name, std::string_view key, std::string_view iconOpen,
@@ -46,17 +47,16 @@ TWNode& TWNodes::AddItem(std::string_view name, std::string_view key, std::strin
 
 std::unique_ptr<TWNode> TWNodes::RemoveNode(const TWNode& node, bool keep) {
     std::size_t index = PlaceOf(node);
-    if (index == items_.size()) index = IndexOf(node);
-    if (index == items_.size())
+    if (index == Count()) index = IndexOf(node);
+    if (index == Count())
         throw Error("TWNodes.RemoveNode", "Node to be removed does not exist in collection.",
                     kTreeMisuseNumber);
     return Remove(index, keep);
 }
 
 std::unique_ptr<TWNode> TWNodes::Remove(std::size_t index, bool keep) {
-    if (index >= items_.size()) RaiseOutOfRange("TWNodes.Remove");
-    std::unique_ptr<TWNode> node = std::move(items_[index]);
-    items_.erase(items_.begin() + static_cast<Items::difference_type>(index));
+    if (index >= Count()) RaiseOutOfRange("TWNodes.Remove");
+    std::unique_ptr<TWNode> node = items_.TakeOut(index);
     if (index < ordered_) --ordered_;
     if (!keep) node->Clear();
     owner_.NodeRemoved(*node);
@@ -68,9 +68,9 @@ void TWNodes::RemoveAll() {
     std::vector<TWNodes*> open = {this};
     while (!open.empty()) {
         TWNodes& nodes = *open.back();
-        if (nodes.items_.empty())
+        if (nodes.items_.IsEmpty())
             open.pop_back();
-        else if (TWNode& last = *nodes.items_.back(); last.HasChildren())
+        else if (TWNode& last = nodes.Item(nodes.Count() - 1); last.HasChildren())
             open.push_back(&last.Children());
         else
             nodes.Remove(nodes.Count() - 1, true);
@@ -79,8 +79,9 @@ void TWNodes::RemoveAll() {
 
 void TWNodes::Sort() {
     if (InOrder()) return;
-    std::stable_sort(items_.begin(), items_.end(), Before);
-    ordered_ = items_.size();
+    const auto items = items_.InOneRow();
+    std::stable_sort(items.begin(), items.end(), Before);
+    ordered_ = items.size();
 }
 
 std::size_t TWNodes::IndexOf(const TWNode& node) const {
@@ -90,20 +91,19 @@ std::size_t TWNodes::IndexOf(const TWNode& node) const {
 }
 
 std::size_t TWNodes::PlaceOf(const TWNode& node) const {
-    if (ordered_ < items_.size()) return items_.size();
+    if (ordered_ < Count()) return Count();
     auto item = std::partition_point(items_.begin(), items_.end(), [&](const std::unique_ptr<TWNode>& other) {
         return other->Compare(node) < 0;
     });
     while (item != items_.end() && item->get() != &node && (*item)->Compare(node) == 0) ++item;
     const bool found = item != items_.end() && item->get() == &node;
-    return found ? static_cast<std::size_t>(item - items_.begin()) : items_.size();
+    return found ? static_cast<std::size_t>(item - items_.begin()) : Count();
 }
 
 bool TWNodes::InOrder() {
-    while (ordered_ < items_.size() &&
-           (ordered_ == 0 || items_[ordered_ - 1]->Compare(*items_[ordered_]) <= 0))
+    while (ordered_ < Count() && (ordered_ == 0 || items_[ordered_ - 1]->Compare(*items_[ordered_]) <= 0))
         ++ordered_;
-    return ordered_ == items_.size();
+    return ordered_ == Count();
 }
 
 // A walk from the front to the first node that sorts behind the new one. Nodes that are in order need no
@@ -112,8 +112,8 @@ std::size_t TWNodes::PlaceFor(const TWNode& node) {
     if (!owner_.Sorted()) {
         // Looked at now, while the name before it is still near: a hundred thousand are slow to look at
         // later.
-        if (ordered_ == items_.size() && (items_.empty() || items_.back()->Compare(node) <= 0)) ++ordered_;
-        return items_.size();
+        if (ordered_ == Count() && (items_.IsEmpty() || items_[Count() - 1]->Compare(node) <= 0)) ++ordered_;
+        return Count();
     }
     const auto sortsBehind = [&](const std::unique_ptr<TWNode>& item) { return item->Compare(node) > 0; };
     const bool inOrder = InOrder();
@@ -125,11 +125,13 @@ std::size_t TWNodes::PlaceFor(const TWNode& node) {
 }
 
 void TWNodes::Reposition(const TWNode& node) {
-    const auto at = items_.begin() + static_cast<Items::difference_type>(IndexOf(node));
-    if (at == items_.end()) return;
+    const std::size_t index = IndexOf(node);
+    if (index == Count()) return;
+    const auto items = items_.InOneRow();
+    const auto at = items.begin() + static_cast<std::ptrdiff_t>(index);
     // Of equal nodes, those that stood before it stay before it, and those behind it behind.
-    const auto left = std::upper_bound(items_.begin(), at, *at, Before);
-    const auto right = std::lower_bound(at + 1, items_.end(), *at, Before);
+    const auto left = std::upper_bound(items.begin(), at, *at, Before);
+    const auto right = std::lower_bound(at + 1, items.end(), *at, Before);
     if (left != at)
         std::rotate(left, at, at + 1);
     else

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <memory>
 #include <string_view>
-#include <vector>
 
+#include "tree/GapVector.h"
 #include "tree/TWNode.h"
 
 namespace tw {
@@ -30,7 +30,7 @@ class TWNodes {
     TWNodes(const TWNodes&) = delete;
     TWNodes& operator=(const TWNodes&) = delete;
 
-    std::size_t Count() const { return items_.size(); }
+    std::size_t Count() const { return items_.Count(); }
     TWNode& Item(std::size_t index) const;
     // For range loops over std::unique_ptr<TWNode>. Valid until the collection changes.
     auto begin() const { return items_.begin(); }
@@ -52,11 +52,11 @@ class TWNodes {
     // Puts the nodes in the order of Compare; equal ones stay in the order in which they are.
     void Sort();
     // Makes room for count nodes in all.
-    void Reserve(std::size_t count) { items_.reserve(count); }
+    void Reserve(std::size_t count) { items_.Reserve(count); }
 
   private:
     friend class TWNode;
-    using Items = std::vector<std::unique_ptr<TWNode>>;
+    using Items = GapVector<std::unique_ptr<TWNode>>;
 
     // Count when the node is not in it.
     std::size_t IndexOf(const TWNode& node) const;

@@ -1,6 +1,5 @@
 #include "tree/TreeLoader.h"
 
-#include <cmath>
 #include <deque>
 #include <optional>
 #include <vector>
@@ -19,21 +18,6 @@ constexpr int kInFolder = 3;
 // The first fields of every read.
 constexpr int kNameField = 0;
 constexpr int kIdField = 1;
-
-// The number that links a row to another. Nothing for NULL and for what is no whole number: that names no
-// row.
-std::optional<std::int64_t> LinkOf(const Recordset& rows, int index) {
-    constexpr double kExact = 9007199254740992.0;  // 2^53, beyond which a double skips whole numbers
-    try {
-        const Value value = rows.Fields(index).Value();
-        const double* const number = std::get_if<double>(&value);
-        if (number == nullptr || std::abs(*number) > kExact || *number != std::trunc(*number))
-            return std::nullopt;
-        return static_cast<std::int64_t>(*number);
-    } catch (const Error&) {
-        return std::nullopt;  // infinite: only a foreign program stores that
-    }
-}
 
 TWNode* FindIn(const std::unordered_map<std::int64_t, TWNode*>& nodes, std::optional<std::int64_t> id) {
     if (!id) return nullptr;
@@ -123,7 +107,7 @@ TreeLoader::NodesById TreeLoader::AddFolders(FolderKind kind, TWNode* root) {
              forStyles ? "SELECT NAME, ID, PARENT_ID FROM FOLDERS WHERE STYLE ORDER BY NAME"
                        : "SELECT NAME, ID, PARENT_ID FROM FOLDERS WHERE NOT STYLE ORDER BY NAME");
          !rows.AtEnd(); rows.MoveNext())
-        if (const auto parent = LinkOf(rows, 2)) rowsByParent[*parent].emplace_back(rows);
+        if (const auto parent = rows.Fields(2).WholeNumber()) rowsByParent[*parent].emplace_back(rows);
 
     NodesById nodes = {{0, root}};
     std::deque<std::int64_t> open = {0};
@@ -142,7 +126,7 @@ void TreeLoader::AddStyles(const NodesById& folders) {
          !rows.AtEnd(); rows.MoveNext()) {
         const ObjectRow row(rows);
         if (TWNode* const node = Add(allStyles_, row.Style(0))) styles_.try_emplace(row.id, node);
-        if (TWNode* const node = Add(FindIn(folders, LinkOf(rows, 2)), row.Style(1)))
+        if (TWNode* const node = Add(FindIn(folders, rows.Fields(2).WholeNumber()), row.Style(1)))
             stylesInFolders_.try_emplace(row.id, node);
     }
 }
@@ -157,11 +141,11 @@ void TreeLoader::AddRecipes(const NodesById& folders) {
              database_.OpenRecordset("SELECT NAME, ID, STYLE_ID, FOLDER_ID FROM RECIPES ORDER BY NAME");
          !rows.AtEnd(); rows.MoveNext()) {
         const ObjectRow row(rows);
-        const auto style = LinkOf(rows, 2);
+        const auto style = rows.Fields(2).WholeNumber();
         Add(allRecipes_, row.Recipe(kInAll));
         Add(FindIn(styles_, style), row.Recipe(kInStyle));
         Add(FindIn(stylesInFolders_, style), row.Recipe(kInStyleOfFolder));
-        Add(FindIn(folders, LinkOf(rows, 3)), row.Recipe(kInFolder));
+        Add(FindIn(folders, rows.Fields(3).WholeNumber()), row.Recipe(kInFolder));
     }
 }
 

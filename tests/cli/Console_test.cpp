@@ -105,7 +105,7 @@ TEST(Console, RefusesWrongArgumentsOfEveryCommand) {
         "restart", "undo",  "redo",      "undotype",  "redotype", "selectall", "copy",   "cut",
         "clear",   "paste", "clipboard", "tree",      "treat",    "contents"};
     // A text may be missing, or hold anything.
-    const std::set<std::string_view> takesAnyText = {"answer", "setclipboard"};
+    const std::set<std::string_view> takesAnyText = {"answer", "setclipboard", "dde"};
     for (const Command& command : AllCommands()) {
         if (takesAnyText.contains(command.name)) continue;
         const std::string extra = takesNothing.contains(command.name) ? " extra" : "";

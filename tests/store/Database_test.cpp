@@ -32,6 +32,18 @@ TEST_F(DatabaseTest, CountsNothingAfterAFailure) {
     EXPECT_EQ(db->RecordsAffected(), 0);
 }
 
+TEST_F(DatabaseTest, CountsWrittenRowsAndNothingElse) {
+    const std::int64_t start = db->ChangeCount();
+    Run("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
+    Run("INSERT INTO HOPS (NAME) VALUES ('Fuggle')");
+    EXPECT_EQ(db->ChangeCount(), start + 2);
+    Run("DELETE FROM HOPS");
+    EXPECT_EQ(db->ChangeCount(), start + 4);
+    db->OpenRecordset("SELECT NAME FROM HOPS");
+    Run("DELETE FROM HOPS");
+    EXPECT_EQ(db->ChangeCount(), start + 4);
+}
+
 TEST_F(DatabaseTest, RaisesTheStoresDescriptionAndNumber) {
     const Error error = ErrorOf([&] { Run("DELETE FROM NOWHERE"); });
     EXPECT_EQ(error.WithSource(), "Database\r\nno such table: NOWHERE (1)");
@@ -135,6 +147,15 @@ TEST_F(DatabaseTest, GivesZeroForATextThatIsNoNumber) {
     EXPECT_EQ(rows.Fields(0).Number(), 0);
     EXPECT_EQ(rows.Fields(0).Integer(), 0);
     EXPECT_EQ(rows.Fields(1).Number(), 0);
+}
+
+TEST_F(DatabaseTest, TellsWholeNumbersFromAllElse) {
+    Recordset rows =
+        db->OpenRecordset("SELECT -7, 9007199254740993, 4.0, 4.5, 1e300, 1e999, '4', NULL, -0.5");
+    EXPECT_EQ(rows.Fields(0).WholeNumber(), -7);
+    EXPECT_EQ(rows.Fields(1).WholeNumber(), 9007199254740993);
+    EXPECT_EQ(rows.Fields(2).WholeNumber(), 4);
+    for (int i = 3; i < rows.FieldCount(); ++i) EXPECT_EQ(rows.Fields(i).WholeNumber(), std::nullopt) << i;
 }
 
 TEST_F(DatabaseTest, NeverGivesInfinity) {

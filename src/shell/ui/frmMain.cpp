@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
+#include <QDir>
 #include <QMenu>
 #include <QStatusBar>
 #include <QToolBar>
@@ -17,6 +18,7 @@
 #include "shell/ui/MainGeometry.h"
 #include "shell/ui/StoredColor.h"
 #include "shell/ui/frmSplash.h"
+#include "values/Text.h"
 
 namespace tw {
 namespace {
@@ -42,7 +44,8 @@ frmMain::frmMain(Shell& shell, Platform& platform)
       platform_(platform),
       area_(new DocumentArea(this)),
       autoSaveTimer_(new QTimer(this)),
-      keepTimer_(new QTimer(this)) {
+      keepTimer_(new QTimer(this)),
+      ddeTimer_(new QTimer(this)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Tunwright"));
     setWindowIcon(ProgramIcon());
@@ -62,6 +65,9 @@ frmMain::frmMain(Shell& shell, Platform& platform)
     keepTimer_->setSingleShot(true);
     connect(keepTimer_, &QTimer::timeout, this, [this] { shell_.KeepUnsavedWork(); });
     new FileDrop(*this, [this](const QString& file) { shell_.ImportFromPath(FromQt(file)); });
+    ddeTimer_->setObjectName(QStringLiteral("tmrProcessDDE"));
+    ddeTimer_->setInterval(kDDETickMilliseconds);
+    connect(ddeTimer_, &QTimer::timeout, this, &frmMain::TickDDE);
     shell_.SetView(this);
     shell_.LoadWindowSettings();
     shell_.ChangeToolbarIcons();
@@ -87,16 +93,24 @@ frmMain::~frmMain() {
     delete menus_;
 }
 
-bool frmMain::StartUp(const std::string& databasePath) {
+bool frmMain::StartUp(const std::string& databasePath, const std::string& file) {
     frmSplash splash(this);
     splash.show();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (shell_.DDE().InitDDE(file) != StartTest::OnlyInstance) {
+        hide();
+        return false;
+    }
+    // No folder of the brewer's stays in use by the program that was started in it.
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
     const bool opened = shell_.PerformSplashScreenInit(databasePath);
     splash.hide();
     if (!opened) return false;
     ShowWelcome();
     shell_.ReapplyPasteState();
     shell_.Guard([this] { shell_.OfferRecovery(); });
+    if (!IsBlank(file)) shell_.ImportFromPath(Trim(file));
+    shell_.EnableDDETimer(true);
     return true;
 }
 
@@ -197,6 +211,33 @@ void frmMain::UnsavedWorkWaits() {
 bool frmMain::IsMinimized(const RecipeDocument& document) const {
     const DocumentSubWindow* window = WindowOf(document);
     return window && window->isMinimized();
+}
+
+bool frmMain::IsDialogOpen() const {
+    const QWidget* const active = QApplication::activeWindow();
+    return QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr ||
+           (active != nullptr && active != this);
+}
+
+void frmMain::BringToFront() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    QWidget* const dialog = QApplication::activeModalWidget();
+    QWidget* const front = dialog != nullptr ? dialog : this;
+    front->raise();
+    front->activateWindow();
+    // A desktop that lets no program take the focus shows its button as waiting.
+    QApplication::alert(front);
+}
+
+void frmMain::OutsideCommandsWait() {
+    if (!ddeTimer_->isActive()) ddeTimer_->start();
+}
+
+void frmMain::TickDDE() {
+    shell_.Guard([this] { shell_.DDE().TickDDE(); });
+    if (shell_.DDE().DDECommandCount() == 0) ddeTimer_->stop();
 }
 
 void frmMain::CloseMainWindow() {

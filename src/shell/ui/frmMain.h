@@ -21,9 +21,11 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     frmMain(Shell& shell, Platform& platform);
     ~frmMain() override;
 
-    // What happens when the window first comes up: the splash, the settings, the database. False when the
-    // database could not be opened; the box has been shown and the window is closed then.
-    bool StartUp(const std::string& databasePath);
+    // What happens when the window first comes up: the splash, the test for another program on this desktop,
+    // the settings, the database, and the import of file unless it is blank. False when the program is to end
+    // at once: another one runs (the shell's DDE tells), or the database could not be opened; the box has
+    // been shown and the window is closed then.
+    bool StartUp(const std::string& databasePath, const std::string& file = {});
 
     // The window of the recipe in front, nullptr without one.
     frmDocument* ActiveWindow() const;
@@ -46,6 +48,9 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     void AutoSaveSwitched(bool on) override;
     void UnsavedWorkWaits() override;
     bool IsMinimized(const RecipeDocument& document) const override;
+    bool IsDialogOpen() const override;
+    void BringToFront() override;
+    void OutsideCommandsWait() override;
     void CloseMainWindow() override;
     void ArrangeDocuments(Arrangement arrangement) override;
     void ToolbarIconsChanged() override;
@@ -60,6 +65,7 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     // The focus that a command asks for once it has run.
     void FocusAfter(std::string_view command);
     void FillWindowMenu();
+    void TickDDE();
     DocumentSubWindow* WindowOf(const RecipeDocument& document) const;
 
     Shell& shell_;
@@ -68,6 +74,7 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     DocumentArea* area_;
     QTimer* autoSaveTimer_;  // tmrAutoSave; it runs behind dialogs too
     QTimer* keepTimer_;
+    QTimer* ddeTimer_;  // tmrProcessDDE; it runs only while commands wait
     bool exitGranted_ = false;
     bool changing_ = false;  // the shell is changing the windows; their signals are its echo
 };

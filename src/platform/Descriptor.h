@@ -1,0 +1,33 @@
+// An open file or socket of the system.
+#pragma once
+
+#include <unistd.h>
+#include <utility>
+
+namespace tw {
+
+// Closes the descriptor when it goes. One below 0 is none.
+class Descriptor {
+  public:
+    explicit Descriptor(int number = -1) : number_(number) {}
+    ~Descriptor() { Close(); }
+    Descriptor(Descriptor&& other) noexcept : number_(other.Release()) {}
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        Close();
+        number_ = other.Release();
+        return *this;
+    }
+
+    bool IsOpen() const { return number_ >= 0; }
+    int Number() const { return number_; }
+    // Gives the descriptor away; the caller closes it.
+    int Release() { return std::exchange(number_, -1); }
+    void Close() {
+        if (IsOpen()) close(Release());
+    }
+
+  private:
+    int number_;
+};
+
+}  // namespace tw

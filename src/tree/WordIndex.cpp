@@ -1,0 +1,166 @@
+#include "tree/WordIndex.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+#include <numeric>
+#include <utility>
+
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+constexpr std::string_view kBlanks = " \t\r\n";
+constexpr std::uint32_t kBits = 64;
+
+std::size_t SetSize(std::uint32_t texts) {
+    return (std::size_t{texts} + kBits - 1) / kBits;
+}
+
+// Calls action with each word of text as it is written.
+template <typename Action>
+void ForEachWord(std::string_view text, Action action) {
+    for (;;) {
+        const std::size_t begin = text.find_first_not_of(kBlanks);
+        if (begin == std::string_view::npos) return;
+        text.remove_prefix(begin);
+        const std::size_t size = std::min(text.find_first_of(kBlanks), text.size());
+        action(text.substr(0, size));
+        text.remove_prefix(size);
+    }
+}
+
+void AppendPacked(std::vector<unsigned char>& packed, std::uint32_t number) {
+    constexpr std::uint32_t kMore = 0x80;
+    for (; number >= kMore; number >>= 7) packed.push_back(static_cast<unsigned char>(number | kMore));
+    packed.push_back(static_cast<unsigned char>(number));
+}
+
+}  // namespace
+
+std::vector<std::string> WordsOf(std::string_view text) {
+    std::vector<std::string> words;
+    ForEachWord(text, [&](std::string_view word) { words.push_back(Upper(word)); });
+    return words;
+}
+
+std::vector<std::uint32_t> WordIndex::Builder::NumbersOf(std::string_view text) {
+    std::vector<std::uint32_t> numbers;
+    const std::string upper = Upper(text);
+    ForEachWord(upper, [&](std::string_view word) {
+        auto found = numbers_.find(word);
+        if (found == numbers_.end()) {
+            found = numbers_.emplace(word, static_cast<std::uint32_t>(texts_.size())).first;
+            texts_.emplace_back();
+        }
+        numbers.push_back(found->second);
+    });
+    return numbers;
+}
+
+void WordIndex::Builder::Add(const std::vector<std::uint32_t>& words, std::uint32_t text) {
+    for (const std::uint32_t word : words)
+        if (texts_[word].empty() || texts_[word].back() != text) texts_[word].push_back(text);
+}
+
+WordIndex WordIndex::Builder::Build(std::uint32_t texts) {
+    std::vector<const std::string*> words(texts_.size());
+    for (const auto& [word, number] : numbers_) words[number] = &word;
+    for (std::vector<std::uint32_t>& numbers : texts_) {
+        std::sort(numbers.begin(), numbers.end());
+        numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+    }
+    std::vector<std::uint32_t> order(texts_.size());
+    std::iota(order.begin(), order.end(), 0U);
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::uint32_t a, std::uint32_t b) { return texts_[a].size() > texts_[b].size(); });
+    WordIndex index;
+    index.texts_ = texts;
+    index.entries_.reserve(order.size() + 1);
+    for (const std::uint32_t number : order) {
+        if (texts_[number].empty()) break;
+        index.AppendWord(*words[number], texts_[number]);
+    }
+    index.entries_.push_back({index.words_.size(), index.packed_.size()});
+    index.words_.shrink_to_fit();
+    index.packed_.shrink_to_fit();
+    *this = Builder();
+    return index;
+}
+
+// A set takes less than the packed numbers, of a byte each at the least, and is faster to put together.
+bool WordIndex::IsFrequent(std::size_t count) const {
+    constexpr std::size_t kBitsOfByte = 8;
+    return count * kBitsOfByte >= texts_;
+}
+
+void WordIndex::AppendWord(std::string_view word, std::vector<std::uint32_t>& texts) {
+    entries_.push_back({words_.size(), packed_.size()});
+    words_.append(word).push_back('\n');
+    if (IsFrequent(texts.size())) {
+        ++frequentWords_;
+        const std::size_t begin = frequent_.size();
+        frequent_.resize(begin + SetSize(texts_));
+        for (const std::uint32_t text : texts)
+            frequent_[begin + text / kBits] |= std::uint64_t{1} << (text % kBits);
+    } else {
+        std::uint32_t last = 0;
+        for (const std::uint32_t text : texts) AppendPacked(packed_, text - std::exchange(last, text));
+    }
+    texts = {};
+}
+
+std::size_t WordIndex::EntryAt(std::size_t place, std::size_t from) const {
+    // Words that are found lie close together, or are few.
+    std::size_t step = 1;
+    while (from + step < entries_.size() && entries_[from + step].word <= place) {
+        from += step;
+        step *= 2;
+    }
+    const auto begin = entries_.begin() + static_cast<std::ptrdiff_t>(from);
+    const auto end = entries_.begin() + static_cast<std::ptrdiff_t>(std::min(from + step, entries_.size()));
+    const auto behind = std::upper_bound(begin, end, place,
+                                         [](std::size_t at, const Entry& entry) { return at < entry.word; });
+    return static_cast<std::size_t>(behind - entries_.begin()) - 1;
+}
+
+std::uint32_t WordIndex::Collect(std::size_t entry, BitSet& found) const {
+    std::uint32_t added = 0;
+    if (entry < frequentWords_) {
+        const std::uint64_t* const set = frequent_.data() + entry * found.size();
+        for (std::size_t i = 0; i < found.size(); ++i) {
+            added += static_cast<std::uint32_t>(std::popcount(set[i] & ~found[i]));
+            found[i] |= set[i];
+        }
+        return added;
+    }
+    const unsigned char* at = packed_.data() + entries_[entry].numbers;
+    const unsigned char* const end = packed_.data() + entries_[entry + 1].numbers;
+    for (std::uint32_t text = 0; at < end;) {
+        std::uint32_t distance = *at & 0x7FU;
+        for (unsigned shift = 7; (*at++ & 0x80U) != 0; shift += 7) distance |= (*at & 0x7FU) << shift;
+        text += distance;
+        const std::uint64_t bit = std::uint64_t{1} << (text % kBits);
+        added += (found[text / kBits] & bit) == 0 ? 1 : 0;
+        found[text / kBits] |= bit;
+    }
+    return added;
+}
+
+BitSet WordIndex::Find(std::string_view part) const {
+    BitSet found(SetSize(texts_));
+    std::uint32_t missing = texts_;
+    std::size_t entry = 0;
+    for (std::size_t place = 0; missing > 0 && place < words_.size();) {
+        const void* const hit =
+            memmem(words_.data() + place, words_.size() - place, part.data(), part.size());
+        if (hit == nullptr) break;
+        entry = EntryAt(static_cast<std::size_t>(static_cast<const char*>(hit) - words_.data()), entry);
+        missing -= Collect(entry, found);
+        place = entries_[entry + 1].word;
+    }
+    return found;
+}
+
+}  // namespace tw

@@ -1,0 +1,96 @@
+#include "tree/WordIndex.h"
+
+#include <gtest/gtest.h>
+#include <random>
+#include <set>
+
+#include "values/Text.h"
+
+namespace tw::test {
+namespace {
+
+using Texts = std::vector<std::string>;
+using Numbers = std::set<std::uint32_t>;
+
+WordIndex IndexOf(const Texts& texts) {
+    WordIndex::Builder builder;
+    for (std::uint32_t i = 0; i < texts.size(); ++i) builder.Add(builder.NumbersOf(texts[i]), i);
+    return builder.Build(static_cast<std::uint32_t>(texts.size()));
+}
+
+Numbers Find(const WordIndex& index, std::string_view part) {
+    const BitSet bits = index.Find(part);
+    Numbers numbers;
+    for (std::uint32_t i = 0; i < bits.size() * 64; ++i)
+        if ((bits[i / 64] >> (i % 64) & 1) != 0) numbers.insert(i);
+    return numbers;
+}
+
+TEST(WordsOf, AreUpperCaseBetweenBlanksTabsAndLineBreaks) {
+    EXPECT_EQ(WordsOf(" pale\tÄle\r\npale  x "), (Texts{"PALE", "ÄLE", "PALE", "X"}));
+    EXPECT_EQ(WordsOf(""), Texts{});
+    EXPECT_EQ(WordsOf(" \n"), Texts{});
+}
+
+TEST(WordIndex, OfNoTextsFindsNothing) {
+    EXPECT_EQ(Find(WordIndex(), "A"), Numbers{});
+    WordIndex::Builder builder;
+    builder.NumbersOf("unused");
+    EXPECT_EQ(Find(builder.Build(0), "USED"), Numbers{});
+}
+
+TEST(WordIndex, FindsPartsOfWordsButNotAcrossThem) {
+    const WordIndex index = IndexOf({"pale ale", "", "amber", "Ale ember"});
+    EXPECT_EQ(Find(index, "ALE"), (Numbers{0, 3}));
+    EXPECT_EQ(Find(index, "MBER"), (Numbers{2, 3}));
+    EXPECT_EQ(Find(index, "PALEALE"), Numbers{});
+    EXPECT_EQ(Find(index, "ALEE"), Numbers{});
+    EXPECT_EQ(index.TextCount(), 4U);
+}
+
+TEST(WordIndex, TakesTheWordsOfATextInSeveralParts) {
+    WordIndex::Builder builder;
+    builder.Add(builder.NumbersOf("a b"), 0);
+    builder.Add(builder.NumbersOf("c"), 1);
+    builder.Add(builder.NumbersOf("a"), 1);
+    builder.Add(builder.NumbersOf("a c"), 0);
+    const WordIndex index = builder.Build(2);
+    EXPECT_EQ(Find(index, "A"), (Numbers{0, 1}));
+    EXPECT_EQ(Find(index, "B"), Numbers{0});
+    EXPECT_EQ(Find(index, "C"), (Numbers{0, 1}));
+}
+
+TEST(WordIndex, KeepsEveryByteOfAWord) {
+    const std::string odd("\xFF\x01\0z", 4);
+    const WordIndex index = IndexOf({"x", odd, std::string(100000, 'y')});
+    EXPECT_EQ(Find(index, Upper(odd)), Numbers{1});
+    EXPECT_EQ(Find(index, std::string(99999, 'Y')), Numbers{2});
+}
+
+// Rare, frequent and universal words of 1,000 texts, beside a plain search of each text.
+TEST(WordIndex, FindsWhatAPlainSearchFinds) {
+    std::mt19937 random(5);
+    Texts texts;
+    for (int i = 0; i < 1000; ++i) {
+        std::string text;
+        for (unsigned words = random() % 6; words > 0; --words) {
+            for (unsigned size = 1 + random() % 4; size > 0; --size) text.push_back("AAAABC"[random() % 6]);
+            text.push_back(' ');
+        }
+        texts.push_back(text);
+    }
+    const WordIndex index = IndexOf(texts);
+    int found = 0;
+    for (const char* const part :
+         {"A", "B", "C", "AA", "AB", "CB", "CC", "AAA", "BCA", "CCC", "AAAA", "CBCB", "CCCC", "AAAAA", "D"}) {
+        Numbers plain;
+        for (std::uint32_t i = 0; i < texts.size(); ++i)
+            if (texts[i].find(part) != std::string::npos) plain.insert(i);
+        EXPECT_EQ(Find(index, part), plain) << part;
+        found += plain.empty() ? 0 : 1;
+    }
+    EXPECT_GT(found, 10);
+}
+
+}  // namespace
+}  // namespace tw::test
