@@ -104,7 +104,7 @@ void AnswerWithoutDisplay(int argc, char** argv) {
     ReadOptions(QCoreApplication::arguments());
 }
 
-// A box on a screen that nobody sees would wait for ever.
+// A box or dialog on a screen that nobody sees would wait for ever.
 bool HasScreen() {
     const QString platform = QGuiApplication::platformName();
     return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
@@ -168,7 +168,7 @@ int Run(int argc, char** argv) {
     if (photographing) return Photograph(window, shell, dialogs, options);
     colors.Follow();
     // Within the event loop, which ends the program when the main window is closed behind it.
-    QTimer::singleShot(0, &window, [&shell] { shell.ShowAssistantAtStartup(); });
+    if (HasScreen()) QTimer::singleShot(0, &window, [&shell] { shell.ShowAssistantAtStartup(); });
     return QApplication::exec();
 }
 
