@@ -5,9 +5,9 @@
 namespace tw {
 namespace {
 
-constexpr auto kTopics = {CommandsOnValues, CommandsOfTools,   CommandsOnWater,   CommandsOnRecipes,
-                          CommandsOnGrids,  CommandsOfEditing, CommandsOfScaling, CommandsOnTree,
-                          CommandsOnLists,  CommandsOnProgram};
+constexpr auto kTopics = {CommandsOnValues, CommandsOfTools,     CommandsOnWater,   CommandsOnRecipes,
+                          CommandsOnGrids,  CommandsOfEditing,   CommandsOfScaling, CommandsOnTree,
+                          CommandsOnLists,  CommandsOnCatalogue, CommandsOnProgram};
 
 }  // namespace
 

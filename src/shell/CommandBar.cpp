@@ -139,7 +139,6 @@ constexpr std::array kNotBuilt = std::to_array<std::string_view>({
     "mnuFileExport",
     "mnuFileDelete",
     "mnuFilePrint",
-    "mnuToolsDataSetup",
     "mnuToolsExplorer",
     "mnuToolsAssistant",
     "mnuHelpContents",

@@ -1,8 +1,10 @@
 // The lists of the catalogues.
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
 
+#include "calc/BeerColor.h"
 #include "store/ObjectKeys.h"
 #include "tree/ListFormats.h"
 #include "tree/TWNodes.h"
@@ -49,6 +51,8 @@ std::vector<ListRow> StyleRows(Database& database, std::int64_t folderId) {
          rows.MoveNext()) {
         ListRow row = NamedRow(rows, "NAME");
         row.icon = NodeIcon::StyleClosed;
+        if (const auto srm = MiddleOf(rows.Fields("COLOR_LO"), rows.Fields("COLOR_HI")))
+            row.hcu = SRMToHCU(std::max(*srm, 0.0));
         row.cells.insert(
             row.cells.end(),
             {ListTypeName(rows.Fields("TYPE")), Range(rows, "OG_LO", "OG_HI", kGravityPattern),
@@ -67,7 +71,7 @@ void SetUpStyleColumns(ListTable& list) {
                      {"OG", Number},
                      {"FG", Number},
                      {"ABV", Number},
-                     {"Color", Number},
+                     {"Color", Number, true},
                      {"IBU", Number},
                      {"CO2", Number},
                      {"Water Profile", Text}});
@@ -76,6 +80,9 @@ void SetUpStyleColumns(ListTable& list) {
 ListRow GrainRow(const Recordset& rows, int group) {
     ListRow row = NamedRow(rows, "GRAINS.NAME");
     row.group = group;
+    // As the wort of a pound in a gallon, whose colour units are the malt's degrees Lovibond.
+    if (const auto lovibond = MiddleOf(rows.Fields("COLOR_LO"), rows.Fields("COLOR_HI")))
+        row.hcu = std::max(*lovibond, 0.0);
     row.cells.insert(row.cells.end(),
                      {Range(rows, "PPG_LO", "PPG_HI"), Range(rows, "COLOR_LO", "COLOR_HI", kColorPattern)});
     return row;
@@ -113,7 +120,8 @@ void lvFiller::FillStylesAndFolders(ListTable& list, std::int64_t folderId) cons
 }
 
 void lvFiller::FillGrains(ListTable& list, bool grain) const {
-    list.SetColumns({{grain ? "Grain Name" : "Extract Name", Text}, {"PPG", Number}, {"Color", Number}});
+    list.SetColumns(
+        {{grain ? "Grain Name" : "Extract Name", Text}, {"PPG", Number}, {"Color", Number, true}});
     const std::string kind = grain ? "GRAINS.GRAIN" : "NOT GRAINS.GRAIN";
     std::vector<ListRow> filled;
     std::optional<std::string> type;
