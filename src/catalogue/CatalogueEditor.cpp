@@ -15,16 +15,16 @@ namespace {
 constexpr std::string_view kNoType = "?";
 constexpr std::string_view kFlocculations[] = {"Low", "Medium", "High", "Very High"};
 
-std::string CellName(int row, int col) {
-    return "gridInfo(" + std::to_string(row) + "," + std::to_string(col) + ")";
-}
-
 }  // namespace
 
 CatalogueEditor::CatalogueEditor(Catalogue catalogue, const CatalogueContext& context)
     : form_(&FormOf(catalogue)), context_(context) {
     cells_.resize(form_->rows.size() * static_cast<std::size_t>(Cols()));
     SetUpLists();
+}
+
+std::string CatalogueEditor::CellName(int row, int col) {
+    return "gridInfo(" + std::to_string(row) + "," + std::to_string(col) + ")";
 }
 
 void CatalogueEditor::SetUpLists() {

@@ -84,6 +84,9 @@ class CatalogueEditor : public DialogModel {
     // The folder has been changed in its chooser.
     void FolderChanged() { MarkChanged(); }
 
+    // The control that the last cmdOK or cmdApply stumbled on; empty when it saved.
+    const std::string& RefusedControl() const { return refusedControl_; }
+
     // Runs after each save, with the name.
     void OnSaved(std::function<void(const std::string&)> told) { onSaved_ = std::move(told); }
 
@@ -151,6 +154,7 @@ class CatalogueEditor : public DialogModel {
     void Read(const Recordset& row);
     void ReadColumn(const FormColumn& column, const Recordset& row);
     void SetCell(int row, int col, const Field& number);
+    static std::string CellName(int row, int col);
     // The cell that "gridInfo(ROW,COL)" names.
     std::optional<std::pair<int, int>> CellNamed(std::string_view name) const;
     bool EnterCell(int row, int col, std::string_view text);
@@ -168,7 +172,7 @@ class CatalogueEditor : public DialogModel {
     std::string name_, text2_, description_;
     EditorList list1_, list2_;
     std::vector<CellState> cells_;
-    std::string loadedName_, selection_;
+    std::string loadedName_, selection_, refusedControl_;
     std::function<void(const std::string&)> onSaved_;
     bool readOnly_ = false;
     bool applyEnabled_ = false;

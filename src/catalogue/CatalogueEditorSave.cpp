@@ -41,8 +41,11 @@ bool CatalogueEditor::CheckName(const std::string& name) {
 
 bool CatalogueEditor::Save() {
     for (int row = 0; row < Rows(); ++row)
-        for (int col = 0; col < Cols(); ++col)
+        for (int col = 0; col < Cols(); ++col) {
+            refusedControl_ = CellName(row, col);
             if (!LeaveCell(row, col)) return false;
+        }
+    refusedControl_ = "Text1";
     const std::string name(Trim(name_));
     try {
         if (!CheckName(name) || !Write(name)) return false;
@@ -50,6 +53,7 @@ bool CatalogueEditor::Save() {
         ShowError(error.Description());
         return false;
     }
+    refusedControl_.clear();
     name_ = loadedName_ = selection_ = name;
     applyEnabled_ = false;
     if (onSaved_) onSaved_(selection_);

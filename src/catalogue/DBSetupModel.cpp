@@ -46,7 +46,9 @@ void DBSetupModel::Refill() {
     const std::string titleBefore = items_.Columns().empty() ? "" : items_.Columns().front().title;
     const int sortColumn = items_.SortColumn();
     const bool descending = items_.SortDescending();
-    if (catalogue_ == Catalogue::Styles) {
+    if (catalogue_ == Catalogue::Styles && !items_.Filter().empty()) {
+        filler_.FillStyles(items_, -1);
+    } else if (catalogue_ == Catalogue::Styles) {
         filler_.FillStylesAndFolders(items_, folderId_);
         if (folderId_ != 0) AddRowUp();
     } else {
@@ -54,6 +56,20 @@ void DBSetupModel::Refill() {
     }
     // The same catalogue stays in the order that the brewer has given it.
     if (items_.Columns().front().title == titleBefore && sortColumn >= 0) items_.Sort(sortColumn, descending);
+}
+
+void DBSetupModel::SetFilter(std::string_view text) {
+    const bool wasFiltered = !items_.Filter().empty();
+    const std::string chosen = EditEnabled() ? SelectedName() : std::string();
+    items_.SetFilter(text);
+    if (catalogue_ != Catalogue::Styles || wasFiltered == !items_.Filter().empty()) return;
+    Refill();
+    const int row = items_.FindKey(chosen);
+    // Without a filter the chosen style is shown in its folder.
+    if (row != ListTable::kNoRow)
+        items_.Select(row);
+    else if (!wasFiltered || chosen.empty() || !ShowName(chosen))
+        items_.Select(items_.FirstRow());
 }
 
 void DBSetupModel::AddRowUp() {
@@ -121,6 +137,10 @@ bool DBSetupModel::SetControl(std::string_view name, std::string_view text) {
             std::ranges::find_if(Entries(), [&](const std::string& e) { return SameName(e, text); });
         if (entry == Entries().end()) return false;
         Choose(static_cast<Catalogue>(entry - Entries().begin()));
+        return true;
+    }
+    if (name == "txtFilter") {
+        SetFilter(text);
         return true;
     }
     if (name != "lvItems") return false;
@@ -201,13 +221,15 @@ void DBSetupModel::DeleteRow(const std::string& name) {
 void DBSetupModel::TakeOutSelectedRow() {
     const int row = items_.Selected();
     items_.Remove(row);
-    const auto isMember = [&](int at) { return at < items_.Count() && !items_.Row(at).isGroup; };
     int next = row;
+    // What a filter hides may still stand below the heading.
+    if (!items_.Filter().empty()) Refill();
     // A heading goes with the last row below it.
-    if (row > 0 && items_.Row(row - 1).isGroup && !isMember(row)) items_.Remove(--next);
+    const bool below = row < items_.Count() && !items_.Row(row).isGroup && row > 0 &&
+                       items_.Row(row).group == items_.Row(row - 1).group;
+    if (items_.Filter().empty() && row > 0 && items_.Row(row - 1).isGroup && !below) items_.Remove(--next);
     while (next < items_.Count() && items_.Row(next).isGroup) ++next;
-    if (next >= items_.Count()) next = items_.Count() - 1;
-    if (next >= 0) items_.Select(next);
+    if (!items_.Select(next)) items_.Select(items_.Count() - 1);
 }
 
 }  // namespace tw

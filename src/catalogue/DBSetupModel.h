@@ -23,6 +23,8 @@ class DBSetupModel final : public DialogModel {
     // Shows another catalogue, on its first row; the styles from their root.
     void Choose(Catalogue catalogue);
     ListTable& Items() { return items_; }
+    // Shows only the rows that hold these words; of the styles those of all folders, until the text is blank.
+    void SetFilter(std::string_view text);
     // Selects the row of that name; of a style in its folder, wherever that is. False without such a row.
     bool ShowName(std::string_view name);
 
@@ -33,7 +35,7 @@ class DBSetupModel final : public DialogModel {
     std::string FormName() const override { return "frmDBSetup"; }
     // Combo1; lvItems with the text of the selected row.
     std::vector<DialogControl> Controls() const override;
-    // Combo1 takes one of its entries, lvItems the text of a row.
+    // Combo1 takes one of its entries, lvItems the text of a row, txtFilter the words to filter by.
     bool SetControl(std::string_view name, std::string_view text) override;
     // cmdNew, cmdEdit, cmdDelete, cmdClose; lvItems is a double click on the selected row: it enters a folder
     // and edits anything else. One that is off does nothing. Errors of the store rise.

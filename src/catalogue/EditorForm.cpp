@@ -18,13 +18,13 @@ constexpr RangeRow kStyleRows[] = {
     {"Carbonation (Volumes of CO2)", Carbonation, "CO2 value", "CO2_LO", "CO2_HI"},
 };
 constexpr RangeRow kGrainRows[] = {
-    {"Per Pound Gravity", Number, "PPG value", "PPG_LO", "PPG_HI"},
+    {"Per Pound Gravity", Number, "PPG value", "PPG_LO", "PPG_HI", Color::None, "points"},
     {"Color (Lovibond)", Number, "Color value", "COLOR_LO", "COLOR_HI", Color::Lovibond},
 };
 constexpr RangeRow kHopRows[] = {{"Alpha Acids %", Percent, "", "AA_LO", "AA_HI"}};
 constexpr RangeRow kYeastRows[] = {
-    {"Apparent Attenuation", Percent, "", "AA_LO", "AA_HI"},
-    {"Optimal Temperature", Temperature, "", "TEMP_LO", "TEMP_HI"},
+    {"Apparent Attenuation", Percent, "", "AA_LO", "AA_HI", Color::None, "%"},
+    {"Optimal Temperature", Temperature, "", "TEMP_LO", "TEMP_HI", Color::None, "°F"},
 };
 constexpr RangeRow kSugarRows[] = {{"Fermentable %", Percent, "", "FERMENT_LO", "FERMENT_HI"}};
 constexpr RangeRow kProfileRows[] = {

@@ -29,6 +29,8 @@ struct RangeRow {
     std::string_view low, high;
     // Whether the row is a colour, and in what.
     enum class Color { None, Lovibond, Srm } color = Color::None;
+    // Of what is stored, where the caption does not say it.
+    std::string_view unit = {};
 };
 
 // What a column of the table is written from.

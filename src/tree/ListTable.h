@@ -22,6 +22,7 @@ struct ListColumn {
     std::string title;
     ListColumnKind kind = ListColumnKind::Text;
     bool showsColor = false;  // the colour of the row stands in it
+    std::string note = {};    // what the title leaves out, such as the unit
 };
 
 struct ListRow {
