@@ -5,6 +5,7 @@
 
 #include "calc/BeerColor.h"
 #include "catalogue/CellReader.h"
+#include "platform/Error.h"
 #include "tree/ListFormats.h"
 #include "values/NumberText.h"
 #include "values/Text.h"
@@ -63,9 +64,14 @@ void CatalogueEditor::SetName(std::string_view name) {
     const Recordset row = Store().OpenRecordset("SELECT * FROM " + std::string(form_->table) +
                                                 " WHERE NAME = " + SqlText(Trim(name)));
     if (row.AtEnd())
-        context_.messages.ShowMessage("Error", "No data available for " + std::string(name));
-    else
+        return context_.messages.ShowMessage("Error", "No data available for " + std::string(name));
+    try {
         Read(row);
+    } catch (const Error&) {
+        // Storing what was read of a bad row would lose the rest.
+        Clear();
+        throw;
+    }
 }
 
 void CatalogueEditor::Read(const Recordset& row) {

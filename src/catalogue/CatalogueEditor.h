@@ -145,7 +145,10 @@ class CatalogueEditor : public DialogModel {
 
     CellState& Cell(int row, int col) { return cells_[Index(row, col)]; }
     const CellState& Cell(int row, int col) const { return cells_[Index(row, col)]; }
-    std::size_t Index(int row, int col) const { return static_cast<std::size_t>(row * Cols() + col); }
+    std::size_t Index(int row, int col) const {
+        const int index = row * Cols() + col;
+        return static_cast<std::size_t>(index);
+    }
     // nullptr for a control that the form does not have.
     std::string CatalogueEditor::*TextNamed(std::string_view control) const;
     EditorList CatalogueEditor::*ListNamed(std::string_view control) const;

@@ -181,6 +181,12 @@ void DBSetupModel::OpenEditor(const std::string& name) {
     // Also after Apply, so that the next step of the navigator finds the row under its new name.
     editor->OnSaved([this](const std::string& saved) { ShowSaved(saved); });
     context_.dialogs.ShowModal(*editor);
+    if (editor->Folders() == nullptr || !editor->Selection().empty()) return;
+    // Folders may have been made all the same.
+    const std::string selected = SelectedName();
+    Refill();
+    const int row = items_.FindKey(selected);
+    items_.Select(row == ListTable::kNoRow ? items_.FirstRow() : row);
 }
 
 void DBSetupModel::ShowSaved(const std::string& name) {

@@ -20,7 +20,7 @@ CatalogueContext Shell::Catalogues() {
 }
 
 void Shell::CatalogueChanged() {
-    for (std::size_t i = 0; i < documents_.size(); ++i) documents_[i]->DBChanged();
+    for (const auto& document : documents_) document->DBChanged();
 }
 
 void Shell::ShowDatabaseSetup() {

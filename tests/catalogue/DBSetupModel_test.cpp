@@ -1,6 +1,7 @@
 #include "catalogue/DBSetupModel.h"
 
 #include "EditorTest.h"
+#include "tree/FolderChooser.h"
 
 namespace tw::test {
 namespace {
@@ -211,6 +212,15 @@ TEST_F(Setup, ANewStyleStandsInTheFolderThatIsShown) {
     setup.Press("cmdEdit");
     EXPECT_THAT(Names(), ElementsAre("Dark", "Stout"));
     EXPECT_EQ(setup.Items().SelectedText(), "Stout");
+}
+
+TEST_F(Setup, AFolderThatWasMadeInACancelledEditorIsShown) {
+    Style("Bock", 0);
+    DBSetupModel& setup = Show(Catalogue::Styles);
+    Next([](DialogModel& editor) { dynamic_cast<CatalogueEditor&>(editor).Folders()->CreateFolder(); });
+    setup.Press("cmdEdit");
+    EXPECT_THAT(Names(), ElementsAre("New Folder", "Bock"));
+    EXPECT_EQ(setup.Items().SelectedText(), "Bock");
 }
 
 TEST_F(Setup, AFilterFindsTheStylesOfAllFolders) {

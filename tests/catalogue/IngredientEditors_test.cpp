@@ -174,6 +174,16 @@ TEST_F(Ingredients, ANameThatIsNotThereGivesABlankForm) {
                 ElementsAre("Text1=", "Text2=", "txtDesc=", "gridInfo(0,0)=", "gridInfo(0,1)="));
 }
 
+TEST_F(Ingredients, ARowThatCannotBeReadGivesABlankForm) {
+    db->Execute("INSERT INTO HOPS (NAME, USAGE, AA_LO) VALUES ('Hot', 'Aroma', 1)");
+    db->ExecuteNative("UPDATE HOPS SET AA_LO = 9e999");
+    const auto editor = MakeEditor(Catalogue::Hops, context);
+    EXPECT_THROW(editor->SetName("Hot"), Error);
+    EXPECT_THAT(Shown(*editor),
+                ElementsAre("Text1=", "Text2=", "txtDesc=", "gridInfo(0,0)=", "gridInfo(0,1)="));
+    EXPECT_EQ(editor->LoadedName(), "");
+}
+
 TEST_F(Ingredients, NullInEveryColumnLeavesTheFormBlank) {
     db->Execute("INSERT INTO WATER_PROFILES (NAME) VALUES ('Empty')");
     const auto editor = Open(Catalogue::WaterProfiles, "Empty");

@@ -63,6 +63,22 @@ TEST_F(ShellSetup, TheDocumentsFollowWhenDatabaseSetupCloses) {
     EXPECT_TRUE(Offers("Stout"));
 }
 
+TEST_F(ShellSetup, TheRangesBesideTheFiguresFollowTheStyleWithoutAChange) {
+    shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID, IBU_LO) VALUES ('Stout', 0, 20)");
+    RecipeDocument& document = shell.CreateDocumentWindow("");
+    ASSERT_TRUE(document.ChangeStyle("Stout"));
+    bool saved = false;
+    document.SaveRecipeAs("Mine", 0, true, saved);
+    ASSERT_TRUE(saved);
+    Next([](DialogModel& editor) {
+        editor.SetControl("gridInfo(4,1)", "40");
+        editor.Press("cmdOK");
+    });
+    shell.EditStyle("Stout", 0);
+    EXPECT_EQ(document.Record().lblIBUStyle.Text(), "20 - 40");
+    EXPECT_FALSE(document.Changed());
+}
+
 TEST_F(ShellSetup, AnErrorInDatabaseSetupIsShownAndTheDocumentsFollow) {
     shell.CreateDocumentWindow("");
     Next([&](DialogModel&) {

@@ -75,6 +75,7 @@ EditorDialog::EditorDialog(CatalogueEditor& model, QWidget* parent) : QDialog(pa
     AddDescription(*column);
     AddButtons(*column);
     ShowModel();
+    LookReadOnly();
     auto* name = findChild<QLineEdit*>(QStringLiteral("Text1"));
     name->setFocus();
     name->selectAll();
@@ -176,7 +177,8 @@ QLineEdit* EditorDialog::CellBox(int row, int col) {
 }
 
 QLineEdit* EditorDialog::CellAt(int row, int col) const {
-    return cells_[static_cast<std::size_t>(row * model_.Cols() + col)];
+    const int index = row * model_.Cols() + col;
+    return cells_[static_cast<std::size_t>(index)];
 }
 
 void EditorDialog::AddRanges(QBoxLayout& column) {
@@ -281,6 +283,23 @@ void EditorDialog::AddButtons(QBoxLayout& column) {
     apply_->setVisible(!model_.ReadOnly());
     (model_.ReadOnly() ? cancel : ok)->setDefault(true);
     column.addLayout(row);
+}
+
+void EditorDialog::LookReadOnly() {
+    if (!model_.ReadOnly()) return;
+    const QColor ground = palette().color(QPalette::Window);
+    const auto look = [&](QWidget& box) {
+        QPalette colors = box.palette();
+        colors.setColor(QPalette::Base, ground);
+        box.setPalette(colors);
+    };
+    for (QLineEdit* const box : findChildren<QLineEdit*>()) look(*box);
+    look(*description_);
+}
+
+void EditorDialog::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && description_ != nullptr) LookReadOnly();
 }
 
 void EditorDialog::ShowModel() {

@@ -32,6 +32,7 @@ class EditorDialog final : public QDialog {
   protected:
     bool eventFilter(QObject* object, QEvent* event) override;
     void reject() override;
+    void changeEvent(QEvent* event) override;
 
   private:
     void AddHead(QBoxLayout& column);
@@ -47,6 +48,8 @@ class EditorDialog final : public QDialog {
     QLineEdit* CellBox(int row, int col);
     QLineEdit* CellAt(int row, int col) const;
 
+    // Boxes that are only read have the ground of the window.
+    void LookReadOnly();
     void ShowModel();
     void ShowList(QComboBox& box, const EditorList& list);
     // What follows from the entries: buttons, colour, hint.

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
@@ -14,7 +15,7 @@
 namespace tw {
 namespace {
 
-constexpr int kWidthUnits = 116;
+constexpr int kWidthUnits = 150;
 constexpr int kHeightUnits = 66;
 
 }  // namespace
@@ -37,7 +38,7 @@ frmDBSetup::frmDBSetup(DBSetupModel& model, QWidget* parent)
     connect(items_, &ListPane::ChosenChanged, this, &frmDBSetup::ShowState);
     connect(items_, &ListPane::RowsChanged, this, &frmDBSetup::ShowState);
     connect(items_, &ListPane::RowActivated, this, [this] { Press("lvItems"); });
-    resize(Unit(*this) * kWidthUnits, Unit(*this) * kHeightUnits);
+    resize(QSize(Unit(*this) * kWidthUnits, Unit(*this) * kHeightUnits).boundedTo(screen()->availableSize()));
     items_->setFocus();
     ShowState();
 }
