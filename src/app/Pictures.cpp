@@ -6,6 +6,8 @@
 #include <QTabWidget>
 
 #include "app/PrintedMessages.h"
+#include "catalogue/CatalogueEditor.h"
+#include "catalogue/DBSetupModel.h"
 #include "document/CannotUndo.h"
 #include "document/DetailWindows.h"
 #include "document/ScalingModel.h"
@@ -155,6 +157,30 @@ bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     return ok;
 }
 
+// Database setup on two catalogues, and the editors of their first rows.
+bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
+    const CatalogueContext context = shell.Catalogues();
+    bool ok = true;
+    for (int i = 0; i < kCatalogues; ++i) {
+        const auto catalogue = static_cast<Catalogue>(i);
+        DBSetupModel setup(context);
+        setup.Choose(catalogue);
+        ok &= SaveDialog(dialogs, setup, parent, QStringLiteral("%1setup-%2.png").arg(prefix).arg(i));
+        ObjectNavigator navigator(setup.Items());
+        const auto editor = MakeEditor(catalogue, context);
+        if (catalogue != Catalogue::Styles) editor->SetNavigator(navigator);
+        Recordset names =
+            shell.DB()->OpenRecordset("SELECT NAME FROM " + std::string(editor->Form().table) +
+                                      (catalogue == Catalogue::Extracts ? " WHERE NOT GRAIN" : ""));
+        editor->SetName(names.AtEnd() ? "" : names.Fields(0).Text());
+        names.Close();
+        ok &= SaveDialog(dialogs, *editor, parent, QStringLiteral("%1edit-%2.png").arg(prefix).arg(i));
+        editor->SetReadOnly();
+        ok &= SaveDialog(dialogs, *editor, parent, QStringLiteral("%1view-%2.png").arg(prefix).arg(i));
+    }
+    return ok;
+}
+
 bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
     AboutModel about;
     bool ok = SaveDialog(dialogs, about, window, prefix + QStringLiteral("about.png"));
@@ -165,6 +191,7 @@ bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QStrin
     ok &= SaveHelp(dialogs, window, prefix);
     ok &= SaveChoosers(dialogs, shell, window, prefix);
     ok &= SaveExchange(dialogs, shell, window, prefix);
+    ok &= SaveCatalogue(dialogs, shell, window, prefix);
     if (RecipeDocument* document = shell.ActiveDocument()) {
         DetailsModel strength = StrengthDetailsOf(*document), volume = FinalVolDetailsOf(*document),
                      hops = HopDetailsOf(*document);

@@ -10,6 +10,8 @@
 #include "app/Pictures.h"
 #include "app/PrintedMessages.h"
 #include "app/ProgramOptions.h"
+#include "catalogue/ui/EditorDialog.h"
+#include "catalogue/ui/frmDBSetup.h"
 #include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
 #include "document/ui/RangeBar.h"
@@ -66,6 +68,9 @@ void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     dialogs.Register("frmHydrometer", &frmHydrometer::Make);
     dialogs.Register("frmHopUtil", &frmHopUtil::Make);
     dialogs.Register("frmColor", &frmColor::Make);
+    for (const char* form : {"frmStyle", "frmGrain", "frmHop", "frmYeast", "frmPrimingSugar", "frmWater"})
+        dialogs.Register(form, &EditorDialog::Make);
+    dialogs.Register("frmDBSetup", &frmDBSetup::Make);
     dialogs.Register("frmLvShow", &frmLvShow::Make);
     dialogs.Register("frmChooseFolder", &frmChooseFolder::Make);
     RegisterExchangeForms(dialogs);

@@ -6,9 +6,9 @@ namespace tw {
 namespace {
 
 constexpr auto kTopics = {
-    CommandsOnValues,    CommandsOfTools,   CommandsOnWater, CommandsOnRecipes, CommandsOnGrids,
-    CommandsOfEditing,   CommandsOfScaling, CommandsOnTree,  CommandsOnLists,   CommandsOfExchange,
-    CommandsFromOutside, CommandsOnProgram, CommandsOfHelp,
+    CommandsOnValues,    CommandsOfTools,     CommandsOnWater,   CommandsOnRecipes, CommandsOnGrids,
+    CommandsOfEditing,   CommandsOfScaling,   CommandsOnTree,    CommandsOnLists,   CommandsOfExchange,
+    CommandsFromOutside, CommandsOnCatalogue, CommandsOnProgram, CommandsOfHelp,
 };
 
 }  // namespace

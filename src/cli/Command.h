@@ -8,6 +8,7 @@
 
 #include "cli/ScriptReader.h"
 #include "cli/Session.h"
+#include "tree/lvFiller.h"
 
 namespace tw {
 
@@ -26,6 +27,9 @@ int TakeIndex(Arguments& arguments, std::string_view what);
 // Raises ScriptError when the grid has no such cell.
 void CheckCell(const Grid& grid, int row, int col);
 
+// The argument WORD that names a catalogue; those of two words stand without quotes. Raises ScriptError.
+Catalogue TakeCatalogue(Arguments& arguments);
+
 // Prints the rows of a SELECT, or runs another statement and prints the number of rows changed. Raises the
 // store's error.
 void RunSql(Session& session, Database& database, const std::string& text);
@@ -41,6 +45,7 @@ std::span<const Command> CommandsOnTree();
 std::span<const Command> CommandsOnLists();
 std::span<const Command> CommandsOfExchange();
 std::span<const Command> CommandsFromOutside();
+std::span<const Command> CommandsOnCatalogue();
 std::span<const Command> CommandsOnProgram();
 std::span<const Command> CommandsOfHelp();
 

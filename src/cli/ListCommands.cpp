@@ -61,20 +61,6 @@ void List(Session& session, Arguments& arguments) {
     PrintList(session, list, columns);
 }
 
-Catalogue TakeCatalogue(Arguments& arguments) {
-    const std::string first = arguments.Word("WORD");
-    for (int i = 0; i < kCatalogues; ++i) {
-        const auto catalogue = static_cast<Catalogue>(i);
-        const std::string_view word = WordOf(catalogue);
-        if (word == first) return catalogue;
-        const std::size_t blank = word.find(' ');
-        if (blank != std::string_view::npos && word.substr(0, blank) == first &&
-            arguments.TakeWord(word.substr(blank + 1)))
-            return catalogue;
-    }
-    throw ScriptError("'" + first + "' begins the name of no catalogue");
-}
-
 void PrintCatalogue(Session& session, Arguments& arguments) {
     const Catalogue catalogue = TakeCatalogue(arguments);
     const std::string columns = arguments.Text();
@@ -109,6 +95,20 @@ constexpr Command kCommands[] = {
 };
 
 }  // namespace
+
+Catalogue TakeCatalogue(Arguments& arguments) {
+    const std::string first = arguments.Word("WORD");
+    for (int i = 0; i < kCatalogues; ++i) {
+        const auto catalogue = static_cast<Catalogue>(i);
+        const std::string_view word = WordOf(catalogue);
+        if (word == first) return catalogue;
+        const std::size_t blank = word.find(' ');
+        if (blank != std::string_view::npos && word.substr(0, blank) == first &&
+            arguments.TakeWord(word.substr(blank + 1)))
+            return catalogue;
+    }
+    throw ScriptError("'" + first + "' begins the name of no catalogue");
+}
 
 std::span<const Command> CommandsOnLists() {
     return kCommands;

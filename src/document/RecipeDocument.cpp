@@ -192,6 +192,8 @@ void RecipeDocument::SetDetached() {
 
 void RecipeDocument::DBChanged() {
     ReloadStyles();
+    // The ranges beside the figures may be others, too.
+    if (styleId_ != 0) ShowStyleRanges(styleId_);
 }
 
 }  // namespace tw

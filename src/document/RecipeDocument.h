@@ -256,7 +256,7 @@ class RecipeDocument {
     void NotifyRecipeDeleted(std::string_view name);
     void NotifyStyleDeleted(std::int64_t styleId);
     void NotifyRecipeFolderDeleted(std::int64_t folderId);
-    // The catalogue has changed.
+    // The catalogue has changed: the style list and the style's ranges are read again.
     void DBChanged();
 
     bool CanEnableCO2() const { return calculator_.CanEnableCO2(); }

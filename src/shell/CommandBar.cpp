@@ -137,7 +137,6 @@ constexpr ButtonRow kButtons[] = {
 constexpr std::array kNotBuilt = std::to_array<std::string_view>({
     "mnuFileDelete",
     "mnuFilePrint",
-    "mnuToolsDataSetup",
     "mnuToolsExplorer",
 });
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "calc/BeerColor.h"
+#include "catalogue/CatalogueContext.h"
 #include "document/DocumentHost.h"
 #include "document/RecipeDocument.h"
 #include "document/ScalingModel.h"
@@ -25,6 +26,7 @@
 #include "shell/Settings.h"
 #include "store/DB_IO.h"
 #include "store/Database.h"
+#include "tree/ListTable.h"
 #include "tree/TWTree.h"
 #include "tree/TreeObjects.h"
 
@@ -165,6 +167,14 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     DDEService& DDE() { return dde_; }
     void EnableDDETimer(bool on) { dde_.SetTicking(on); }
 
+    // The catalogue. What its windows stand on; REQUIRES: the database is open.
+    CatalogueContext Catalogues();
+    // Styles or ingredients are others: the open documents read their lists again.
+    void CatalogueChanged();
+    // Shows the editor of the style of that name, or for a blank name that of a new style in the folder. The
+    // name under which it was saved, nothing when it was not. REQUIRES: the database is open.
+    std::optional<std::string> EditStyle(std::string_view name, std::int64_t folderId);
+
     // Autosave. Switching it on counts the minutes from 0.
     bool DoAutoSave() const { return settings_.doAutoSave; }
     void SetDoAutoSave(bool on);
@@ -272,6 +282,9 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void EnablePair(std::string_view item, std::string_view button, bool enabled);
     void EnablePairWithTwin(std::string_view item, std::string_view button, bool enabled);
     void ShowOpenDialog();
+    void ShowDatabaseSetup();
+    // Shows the selected row of a picker's list, and those around it, to be read.
+    void ViewCatalogueRow(PickList type, ListTable& items);
     // Asks for another figure of the active recipe and scales it to that; nothing while it has none.
     void ShowScaling(Scaling what);
     void Arrange(Arrangement arrangement);

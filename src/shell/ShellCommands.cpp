@@ -94,6 +94,7 @@ const Shell::ActionRow Shell::kOtherActions[] = {
     {"mnuToolsChangeStrength", [](Shell& s) { s.ShowScaling(Scaling::Strength); }},
     {"mnuToolsChangeBitterness", [](Shell& s) { s.ShowScaling(Scaling::Bitterness); }},
     {"mnuToolsChangeCO2", [](Shell& s) { s.ShowScaling(Scaling::Carbonation); }},
+    {"mnuToolsDataSetup", [](Shell& s) { s.ShowDatabaseSetup(); }},
     {"mnuToolsOptions",
      [](Shell& s) {
          OptionsModel options(s, s.platform_.messages);
@@ -168,6 +169,7 @@ void Shell::ShowOpenDialog() {
 
 void Shell::PickFromCatalogue(RecipeDocument& document, PickList list, const std::string& name) {
     LvShowModel picker(list, *database_, *tree_, name);
+    picker.SetViewer([this](PickList type, ListTable& items) { ViewCatalogueRow(type, items); });
     platform_.dialogs.ShowModal(picker);
     if (!picker.Cancelled()) document.TakeChoice(list, picker.Answer());
 }

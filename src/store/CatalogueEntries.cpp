@@ -146,7 +146,7 @@ const std::string& CatalogueEntry::Literal(std::string_view column) const {
     return found->second;
 }
 
-std::vector<CatalogueEntry> EntriesOf(const Catalogue& catalogue) {
+std::vector<CatalogueEntry> EntriesOf(const CatalogueSheets& catalogue) {
     std::vector<CatalogueEntry> entries;
     const auto add = [&](const CatalogueSheet& sheet, auto entryOf) {
         for (const CatalogueRow& row : sheet.rows) entries.push_back(entryOf(row));

@@ -24,7 +24,7 @@ struct CatalogueEntry {
 };
 
 // All rows of the catalogue but its grain types, in the order of writing.
-std::vector<CatalogueEntry> EntriesOf(const Catalogue& catalogue);
+std::vector<CatalogueEntry> EntriesOf(const CatalogueSheets& catalogue);
 
 // The literal of a column of the row that records stands on, written as in an entry.
 std::string LiteralOf(Database& database, const Recordset& records, std::string_view column);

@@ -6,7 +6,7 @@ namespace tw {
 
 CatalogueProblems LoadCatalogue(const std::string& folder, Database& database, const DateTime& created) {
     CatalogueProblems problems;
-    const Catalogue catalogue = ReadCatalogue(folder, problems);
+    const CatalogueSheets catalogue = ReadCatalogue(folder, problems);
     if (problems.empty()) DeliverCatalogue(folder, catalogue, database, created);
     return problems;
 }

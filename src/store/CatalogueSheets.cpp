@@ -69,7 +69,7 @@ constexpr std::array kStyleColumns = {
     Number("ibu_lo", 0, 200),  Number("ibu_hi", 0, 200),   Number("co2_lo", 0, 10),
     Number("co2_hi", 0, 10),   Text("description")};
 
-void CheckGrainTypes(const Catalogue& catalogue, CatalogueProblems& problems) {
+void CheckGrainTypes(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
     if (!catalogue.grainTypes.readable) return;
     std::map<std::string, std::string> kindOfType;
     for (const CatalogueRow& row : catalogue.grainTypes.rows) kindOfType[row.Text("name")] = row.Text("kind");
@@ -89,7 +89,7 @@ void CheckGrainTypes(const Catalogue& catalogue, CatalogueProblems& problems) {
     }
 }
 
-void CheckWaterProfiles(const Catalogue& catalogue, CatalogueProblems& problems) {
+void CheckWaterProfiles(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
     if (!catalogue.waters.readable) return;
     std::set<std::string> names;
     for (const CatalogueRow& row : catalogue.waters.rows) names.insert(row.Text("name"));
@@ -102,7 +102,7 @@ void CheckWaterProfiles(const Catalogue& catalogue, CatalogueProblems& problems)
 }
 
 // A brew log entry holds a yeast's name with " - " and more behind it, and is cut there again.
-void CheckYeastNames(const Catalogue& catalogue, CatalogueProblems& problems) {
+void CheckYeastNames(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
     for (const CatalogueRow& row : catalogue.yeast.rows) {
         const std::string& name = row.Text("name");
         if (name.find(" - ") == std::string::npos) continue;
@@ -111,7 +111,7 @@ void CheckYeastNames(const Catalogue& catalogue, CatalogueProblems& problems) {
 }
 
 // Two spellings of a folder's name are the same folder to the program, so one of them is a slip.
-void CheckFolders(const Catalogue& catalogue, CatalogueProblems& problems) {
+void CheckFolders(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
     std::map<std::string, std::string> spelling;
     for (const CatalogueRow& row : catalogue.styles.rows) {
         const std::string& folder = row.Text("folder");
@@ -124,11 +124,11 @@ void CheckFolders(const Catalogue& catalogue, CatalogueProblems& problems) {
 
 }  // namespace
 
-Catalogue ReadCatalogue(const std::string& folder, CatalogueProblems& problems) {
+CatalogueSheets ReadCatalogue(const std::string& folder, CatalogueProblems& problems) {
     const auto read = [&](std::string_view file, std::span<const CatalogueColumn> columns) {
         return ReadCatalogueFile(folder + "/" + std::string(file), columns, problems);
     };
-    Catalogue catalogue;
+    CatalogueSheets catalogue;
     catalogue.grainTypes = read("grain_types.tsv", kGrainTypeColumns);
     catalogue.grains = read("grains.tsv", kGrainColumns);
     catalogue.hops = read("hops.tsv", kHopColumns);

@@ -15,13 +15,13 @@ inline constexpr std::array<std::string_view, 5> kYeastTypes = {"Ale", "Lager", 
                                                                 "Wine/Mead/Cider"};
 
 // The sheets of one folder.
-struct Catalogue {
+struct CatalogueSheets {
     CatalogueSheet grainTypes, grains, hops, yeast, waters, salts, sugars, styles;
 };
 
 // Reads grain_types.tsv, grains.tsv, hops.tsv, yeast.tsv, water_profiles.tsv, salts.tsv, sugars.tsv and
 // styles.tsv of folder and checks every row, also against the rows of the other files that it names.
 // Everything wrong goes to the end of problems.
-Catalogue ReadCatalogue(const std::string& folder, CatalogueProblems& problems);
+CatalogueSheets ReadCatalogue(const std::string& folder, CatalogueProblems& problems);
 
 }  // namespace tw

@@ -205,7 +205,7 @@ bool UpdateCatalogue(const std::string& folder, Database& database, const DateTi
     const bool known = HasDeliveries(database);
     if (known && !IsNews(Update(database, now).Last(), *release)) return false;
     CatalogueProblems problems;
-    const Catalogue catalogue = ReadCatalogue(folder, problems);
+    const CatalogueSheets catalogue = ReadCatalogue(folder, problems);
     if (!problems.empty()) return false;
     UnitOfWork unit(database);
     MakeDeliveries(database);
@@ -216,7 +216,7 @@ bool UpdateCatalogue(const std::string& folder, Database& database, const DateTi
     return update.Changed();
 }
 
-void DeliverCatalogue(const std::string& folder, const Catalogue& catalogue, Database& database,
+void DeliverCatalogue(const std::string& folder, const CatalogueSheets& catalogue, Database& database,
                       const DateTime& created) {
     UnitOfWork unit(database);
     MakeDeliveries(database);

@@ -29,7 +29,7 @@ bool UpdateCatalogue(const std::string& folder, Database& database, const DateTi
 
 // Fills the empty catalogue tables of a new database from the files and remembers the delivery. REQUIRES:
 // the tables are empty and the catalogue has no problems.
-void DeliverCatalogue(const std::string& folder, const Catalogue& catalogue, Database& database,
+void DeliverCatalogue(const std::string& folder, const CatalogueSheets& catalogue, Database& database,
                       const DateTime& created);
 
 }  // namespace tw

@@ -91,6 +91,13 @@ void UnitOfWork::Commit() {
     throw refusal;
 }
 
+void UnitOfWork::Abandon() {
+    if (!open_) return;
+    open_ = false;
+    if (--database_.unitDepth_ > 0) return;
+    sqlite3_exec(database_.handle_, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
 UnitOfWork::~UnitOfWork() {
     try {
         Commit();

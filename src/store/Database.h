@@ -168,6 +168,9 @@ class UnitOfWork {
     explicit UnitOfWork(Database& database);
     // Commits. Raises the store's error when the disk refuses; the old state stands then.
     void Commit();
+    // Takes back what the unit has written, for an operation that replaces a row and could not write the new
+    // one. Within another unit nothing is taken back: how that one ends decides.
+    void Abandon();
     ~UnitOfWork();
     UnitOfWork(const UnitOfWork&) = delete;
     UnitOfWork& operator=(const UnitOfWork&) = delete;

@@ -69,6 +69,16 @@ std::string ListRange(const Field& low, const Field& high, std::string_view patt
     return ListNumber(from ? low : high, pattern);
 }
 
+std::span<const std::string_view> TypeNames() {
+    return kTypeNames;
+}
+
+std::optional<double> MiddleOf(const Field& low, const Field& high) {
+    const std::optional<double> from = FigureOf(low), to = FigureOf(high);
+    if (from && to) return *from + (*to - *from) / 2;
+    return from ? from : to;
+}
+
 std::string ListTypeName(const Field& type) {
     const std::optional<double> number = FigureOf(type);
     for (std::size_t i = 0; number && i < kTypeNames.size(); ++i)

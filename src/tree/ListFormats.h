@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -34,7 +35,11 @@ std::string ListText(const Field& text);
 std::string ListNumber(const Field& number, std::string_view pattern);
 // "{low}-{high}", the one end when the other is NULL, kNoNumber without both.
 std::string ListRange(const Field& low, const Field& high, std::string_view pattern);
-// The word of STYLES.TYPE and YEAST.TYPE; kNoNumber for NULL and for a number without a word.
+// The words of STYLES.TYPE and YEAST.TYPE, the number 0 first.
+std::span<const std::string_view> TypeNames();
+// One of them; kNoNumber for NULL and for a number without a word.
 std::string ListTypeName(const Field& type);
+// The middle of a range, the one end when the other is NULL; nothing without both.
+std::optional<double> MiddleOf(const Field& low, const Field& high);
 
 }  // namespace tw

@@ -75,6 +75,33 @@ SortKey::Value ValueOf(std::string_view cell, ListColumnKind kind) {
     return value;
 }
 
+// The places of the rows in the order of a column, folders first within their group.
+std::vector<std::size_t> SortedOrder(const std::vector<ListRow>& rows, int column, ListColumnKind kind,
+                                     bool descending) {
+    std::vector<SortKey> keys;
+    keys.reserve(rows.size());
+    for (const ListRow& row : rows)
+        keys.push_back({row.group, !row.isGroup, !row.isFolder,
+                        ValueOf(row.cells[static_cast<std::size_t>(column)], kind)});
+    std::vector<std::size_t> order(rows.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::stable_sort(order, [&](std::size_t a, std::size_t b) {
+        const SortKey &x = keys[a], &y = keys[b];
+        const auto placeX = std::tie(x.group, x.isMember, x.isObject);
+        const auto placeY = std::tie(y.group, y.isMember, y.isObject);
+        if (placeX != placeY) return placeX < placeY;
+        return descending ? y.value < x.value : x.value < y.value;
+    });
+    return order;
+}
+
+std::vector<ListRow> Arranged(std::vector<ListRow> rows, const std::vector<std::size_t>& order) {
+    std::vector<ListRow> arranged;
+    arranged.reserve(rows.size());
+    for (const std::size_t from : order) arranged.push_back(std::move(rows[from]));
+    return arranged;
+}
+
 bool BeginsWith(std::string_view text, std::string_view upperBeginning) {
     const std::size_t length = CodePointOffset(text, CodePointCount(upperBeginning));
     return Upper(text.substr(0, length)) == upperBeginning;
@@ -106,6 +133,10 @@ void ListTable::Fit(ListRow& row) const {
 void ListTable::SetRows(std::vector<ListRow> rows) {
     rows_ = std::move(rows);
     for (ListRow& row : rows_) Fit(row);
+    if (!filter_.empty()) {
+        unfiltered_ = std::move(rows_);
+        rows_ = Filtered();
+    }
     selected_ = kNoRow;
     sortColumn_ = -1;
     sortDescending_ = false;
@@ -114,17 +145,71 @@ void ListTable::SetRows(std::vector<ListRow> rows) {
 
 void ListTable::Add(ListRow row) {
     Fit(row);
-    rows_.push_back(std::move(row));
+    if (!filter_.empty()) {
+        unfiltered_.push_back(std::move(row));
+        rows_ = Filtered();
+    } else {
+        rows_.push_back(std::move(row));
+    }
     TellChanged();
 }
 
 void ListTable::Remove(int row) {
+    if (!filter_.empty()) {
+        const auto same = [&](const ListRow& other) {
+            return other.key == Row(row).key && other.cells == Row(row).cells;
+        };
+        unfiltered_.erase(std::ranges::find_if(unfiltered_, same));
+    }
     rows_.erase(rows_.begin() + row);
     if (selected_ == row)
         selected_ = kNoRow;
     else if (selected_ > row)
         --selected_;
     TellChanged();
+}
+
+bool ListTable::PassesFilter(const ListRow& row, const std::vector<std::string>& words) const {
+    return std::ranges::all_of(words, [&](const std::string& word) {
+        return std::ranges::any_of(
+            row.cells, [&](const std::string& cell) { return Upper(cell).find(word) != std::string::npos; });
+    });
+}
+
+std::vector<ListRow> ListTable::Filtered() const {
+    std::vector<std::string> words;
+    for (std::string_view rest = Trim(filter_); !rest.empty(); rest = Trim(rest)) {
+        const std::string_view word = rest.substr(0, rest.find(' '));
+        words.push_back(Upper(word));
+        rest.remove_prefix(word.size());
+    }
+    std::vector<ListRow> shown;
+    for (const ListRow& row : unfiltered_) {
+        if (!row.isGroup && !PassesFilter(row, words)) continue;
+        // A heading without a row below gives way to what comes next.
+        if (row.isGroup && !shown.empty() && shown.back().isGroup) shown.pop_back();
+        if (!row.isGroup && !shown.empty() && shown.back().isGroup && shown.back().group != row.group)
+            shown.pop_back();
+        shown.push_back(row);
+    }
+    if (!shown.empty() && shown.back().isGroup) shown.pop_back();
+    return shown;
+}
+
+void ListTable::SetFilter(std::string_view text) {
+    const std::string filter(Trim(text));
+    if (filter == filter_) return;
+    const std::optional<ListRow> chosen = selected_ == kNoRow ? std::nullopt : std::optional(Row(selected_));
+    if (filter_.empty()) unfiltered_ = std::move(rows_);
+    filter_ = filter;
+    if (filter_.empty())
+        rows_ = std::move(unfiltered_);
+    else
+        rows_ = Filtered();
+    selected_ = chosen ? FindKey(chosen->key) : kNoRow;
+    if (selected_ == kNoRow) selected_ = FirstRow();
+    TellChanged();
+    if (observer_) observer_->ListSelectionChanged();
 }
 
 int ListTable::FindKey(std::string_view key) const {
@@ -157,30 +242,13 @@ int ListTable::FirstRow() const {
 }
 
 void ListTable::Sort(int column, bool descending) {
-    const auto index = static_cast<std::size_t>(column);
-    std::vector<SortKey> keys;
-    keys.reserve(rows_.size());
-    for (const ListRow& row : rows_)
-        keys.push_back(
-            {row.group, !row.isGroup, !row.isFolder, ValueOf(row.cells[index], columns_[index].kind)});
-    std::vector<std::size_t> order(rows_.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::stable_sort(order, [&](std::size_t a, std::size_t b) {
-        const SortKey &x = keys[a], &y = keys[b];
-        const auto placeX = std::tie(x.group, x.isMember, x.isObject);
-        const auto placeY = std::tie(y.group, y.isMember, y.isObject);
-        if (placeX != placeY) return placeX < placeY;
-        return descending ? y.value < x.value : x.value < y.value;
-    });
-    std::vector<ListRow> sorted;
-    sorted.reserve(rows_.size());
-    int selected = kNoRow;
-    for (const std::size_t from : order) {
-        if (static_cast<int>(from) == selected_) selected = static_cast<int>(sorted.size());
-        sorted.push_back(std::move(rows_[from]));
-    }
-    rows_ = std::move(sorted);
-    selected_ = selected;
+    const ListColumnKind kind = columns_[static_cast<std::size_t>(column)].kind;
+    std::vector<std::size_t> order = SortedOrder(rows_, column, kind, descending);
+    const auto place = std::ranges::find(order, static_cast<std::size_t>(selected_));
+    selected_ = place == order.end() ? kNoRow : static_cast<int>(place - order.begin());
+    rows_ = Arranged(std::move(rows_), order);
+    order = SortedOrder(unfiltered_, column, kind, descending);
+    unfiltered_ = Arranged(std::move(unfiltered_), order);
     sortColumn_ = column;
     sortDescending_ = descending;
     TellChanged();

@@ -2,6 +2,7 @@
 // shows it and passes on what the brewer does.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,8 @@ enum class ListColumnKind {
 struct ListColumn {
     std::string title;
     ListColumnKind kind = ListColumnKind::Text;
+    bool showsColor = false;  // the colour of the row stands in it
+    std::string note = {};    // what the title leaves out, such as the unit
 };
 
 struct ListRow {
@@ -30,6 +33,7 @@ struct ListRow {
     bool isFolder = false;  // stands before the others, however the list is sorted
     bool isGroup = false;   // a heading over rows, which nobody can choose
     int group = 0;          // rows are sorted within their group; a heading belongs to the group below it
+    std::optional<double> hcu = std::nullopt;  // the colour of the malt or beer, in homebrew colour units
 };
 
 class ListTableObserver {
@@ -66,6 +70,12 @@ class ListTable {
     // The first row of that key, letter for letter; kNoRow for none.
     int FindKey(std::string_view key) const;
 
+    // Shows only the rows in which each word of text occurs, in any cell and without regard to case, and the
+    // headings over them; all rows for a blank text. Rows that come later are filtered, too. The chosen row
+    // stays chosen while it is shown; else the first one is.
+    void SetFilter(std::string_view text);
+    const std::string& Filter() const { return filter_; }
+
     // The chosen row; kNoRow without one.
     int Selected() const { return selected_; }
     // The text of the chosen row's first column; empty without one.
@@ -94,10 +104,15 @@ class ListTable {
 
   private:
     void Fit(ListRow& row) const;
+    // The rows that the filter lets pass.
+    std::vector<ListRow> Filtered() const;
+    bool PassesFilter(const ListRow& row, const std::vector<std::string>& words) const;
     void TellChanged();
 
     std::vector<ListColumn> columns_;
     std::vector<ListRow> rows_;
+    std::string filter_;
+    std::vector<ListRow> unfiltered_;  // all rows, while there is a filter
     int selected_ = kNoRow;
     int sortColumn_ = -1;
     bool sortDescending_ = false;

@@ -66,7 +66,7 @@ class lvFiller {
     void Fill(ListTable& list, Catalogue catalogue) const;
 
   private:
-    void FillIons(ListTable& list, const char* nameTitle, const char* table) const;
+    void FillIons(ListTable& list, const char* nameTitle, const char* table, const char* unit) const;
 
     Database& database_;
     const TWTree& tree_;

@@ -1,8 +1,10 @@
 // The lists of the catalogues.
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
 
+#include "calc/BeerColor.h"
 #include "store/ObjectKeys.h"
 #include "tree/ListFormats.h"
 #include "tree/TWNodes.h"
@@ -49,6 +51,8 @@ std::vector<ListRow> StyleRows(Database& database, std::int64_t folderId) {
          rows.MoveNext()) {
         ListRow row = NamedRow(rows, "NAME");
         row.icon = NodeIcon::StyleClosed;
+        if (const auto srm = MiddleOf(rows.Fields("COLOR_LO"), rows.Fields("COLOR_HI")))
+            row.hcu = SRMToHCU(std::max(*srm, 0.0));
         row.cells.insert(
             row.cells.end(),
             {ListTypeName(rows.Fields("TYPE")), Range(rows, "OG_LO", "OG_HI", kGravityPattern),
@@ -64,18 +68,21 @@ std::vector<ListRow> StyleRows(Database& database, std::int64_t folderId) {
 void SetUpStyleColumns(ListTable& list) {
     list.SetColumns({{"Style Name", Text},
                      {"Type", Text},
-                     {"OG", Number},
-                     {"FG", Number},
-                     {"ABV", Number},
-                     {"Color", Number},
-                     {"IBU", Number},
-                     {"CO2", Number},
+                     {"OG", Number, false, "original gravity"},
+                     {"FG", Number, false, "finished gravity"},
+                     {"ABV", Number, false, "alcohol, % by volume"},
+                     {"Color", Number, true, "SRM"},
+                     {"IBU", Number, false, "bitterness"},
+                     {"CO2", Number, false, "volumes of carbon dioxide"},
                      {"Water Profile", Text}});
 }
 
 ListRow GrainRow(const Recordset& rows, int group) {
     ListRow row = NamedRow(rows, "GRAINS.NAME");
     row.group = group;
+    // As the wort of a pound in a gallon, whose colour units are the malt's degrees Lovibond.
+    if (const auto lovibond = MiddleOf(rows.Fields("COLOR_LO"), rows.Fields("COLOR_HI")))
+        row.hcu = std::max(*lovibond, 0.0);
     row.cells.insert(row.cells.end(),
                      {Range(rows, "PPG_LO", "PPG_HI"), Range(rows, "COLOR_LO", "COLOR_HI", kColorPattern)});
     return row;
@@ -113,7 +120,9 @@ void lvFiller::FillStylesAndFolders(ListTable& list, std::int64_t folderId) cons
 }
 
 void lvFiller::FillGrains(ListTable& list, bool grain) const {
-    list.SetColumns({{grain ? "Grain Name" : "Extract Name", Text}, {"PPG", Number}, {"Color", Number}});
+    list.SetColumns({{grain ? "Grain Name" : "Extract Name", Text},
+                     {"PPG", Number, false, "gravity points per pound per gallon"},
+                     {"Color", Number, true, "degrees Lovibond"}});
     const std::string kind = grain ? "GRAINS.GRAIN" : "NOT GRAINS.GRAIN";
     std::vector<ListRow> filled;
     std::optional<std::string> type;
@@ -155,8 +164,8 @@ void lvFiller::FillYeast(ListTable& list) const {
                      {"Description", Text},
                      {"Type", Text},
                      {"Flocculation", Text},
-                     {"Attenuation", Number},
-                     {"Temperature", Number}});
+                     {"Attenuation", Number, false, "apparent, in %"},
+                     {"Temperature", Number, false, "degrees Fahrenheit"}});
     FillTable(database_, list, "YEAST", [](std::vector<std::string>& cells, const Recordset& rows) {
         cells.insert(cells.end(), {ListText(rows.Fields("DESCR")), ListTypeName(rows.Fields("TYPE")),
                                    ListText(rows.Fields("FLOC")), Range(rows, "AA_LO", "AA_HI"),
@@ -164,14 +173,11 @@ void lvFiller::FillYeast(ListTable& list) const {
     });
 }
 
-void lvFiller::FillIons(ListTable& list, const char* nameTitle, const char* table) const {
-    list.SetColumns({{nameTitle, Text},
-                     {"Calcium", Number},
-                     {"Carbonate", Number},
-                     {"Chloride", Number},
-                     {"Magnesium", Number},
-                     {"Sodium", Number},
-                     {"Sulfate", Number}});
+void lvFiller::FillIons(ListTable& list, const char* nameTitle, const char* table, const char* unit) const {
+    std::vector<ListColumn> columns = {{nameTitle, Text}};
+    for (const char* ion : {"Calcium", "Carbonate", "Chloride", "Magnesium", "Sodium", "Sulfate"})
+        columns.push_back({ion, Number, false, unit});
+    list.SetColumns(std::move(columns));
     FillTable(database_, list, table, [](std::vector<std::string>& cells, const Recordset& rows) {
         for (const char* ion : {"CA", "CO3", "CL", "MG", "NA", "SO4"})
             cells.push_back(ListNumber(rows.Fields(ion), {}));
@@ -179,11 +185,11 @@ void lvFiller::FillIons(ListTable& list, const char* nameTitle, const char* tabl
 }
 
 void lvFiller::FillWaterProfiles(ListTable& list) const {
-    FillIons(list, "Water Profile Name", "WATER_PROFILES");
+    FillIons(list, "Water Profile Name", "WATER_PROFILES", "PPM");
 }
 
 void lvFiller::FillSalts(ListTable& list) const {
-    FillIons(list, "Treatment Salt Name", "SALTS");
+    FillIons(list, "Treatment Salt Name", "SALTS", "PPM per gram in a gallon");
 }
 
 void lvFiller::FillSugars(ListTable& list) const {

@@ -5,6 +5,9 @@
 #include <set>
 
 #include "GuiTest.h"
+#include "catalogue/DBSetupModel.h"
+#include "catalogue/ui/EditorDialog.h"
+#include "catalogue/ui/frmDBSetup.h"
 #include "document/CannotUndo.h"
 #include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
@@ -74,6 +77,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         ForEachTool(visit);
         ForEachChooser(visit);
         ForEachExchange(visit);
+        ForEachEditor(visit);
         for (const Scaling what :
              {Scaling::Size, Scaling::Strength, Scaling::Bitterness, Scaling::Carbonation}) {
             ScalingModel scaling(what, "12.75 gal.", outside.messages);
@@ -154,6 +158,28 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             dialog->show();
             QApplication::processEvents();
             visit(*dialog);
+        }
+    }
+
+    // Database setup, and the editor of each catalogue, to be filled and to be read.
+    void ForEachEditor(const std::function<void(QWidget&)>& visit) {
+        const CatalogueContext context = shell.Catalogues();
+        for (int i = 0; i < kCatalogues; ++i) {
+            const auto catalogue = static_cast<Catalogue>(i);
+            DBSetupModel setup(context);
+            setup.Choose(catalogue);
+            frmDBSetup setupWindow(setup, nullptr);
+            ObjectNavigator navigator(setup.Items());
+            const auto entry = MakeEditor(catalogue, context), shown = MakeEditor(catalogue, context);
+            entry->SetNavigator(navigator);
+            shown->SetReadOnly();
+            EditorDialog entryWindow(*entry, nullptr), shownWindow(*shown, nullptr);
+            for (QDialog* dialog : {static_cast<QDialog*>(&setupWindow), static_cast<QDialog*>(&entryWindow),
+                                    static_cast<QDialog*>(&shownWindow)}) {
+                dialog->show();
+                QApplication::processEvents();
+                visit(*dialog);
+            }
         }
     }
 

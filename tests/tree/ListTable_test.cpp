@@ -211,5 +211,62 @@ TEST(ListTable, TellsOfEveryChangeOnce) {
     EXPECT_EQ(observer.changes, 2);
 }
 
+TEST(ListTable, AFilterLeavesTheRowsThatHoldAllItsWords) {
+    ListTable list = ListOf({Row({"Pale Malt", "36"}), Row({"Oats", "33"}), Row({"Black Malt", "25"})});
+    list.SetFilter(" MALT ");
+    EXPECT_THAT(Names(list), ElementsAre("Pale Malt", "Black Malt"));
+    list.SetFilter("25 malt");
+    EXPECT_THAT(Names(list), ElementsAre("Black Malt"));
+    list.SetFilter("wheat");
+    EXPECT_THAT(Names(list), ElementsAre());
+    EXPECT_EQ(list.Selected(), ListTable::kNoRow);
+    list.SetFilter("");
+    EXPECT_THAT(Names(list), ElementsAre("Pale Malt", "Oats", "Black Malt"));
+}
+
+TEST(ListTable, AFilterKeepsTheHeadingsOverItsRows) {
+    ListTable list = ListOf({Heading("Base", 1), Member("Pale", 1), Heading("Roasted", 2), Member("Black", 2),
+                             Heading("Sweet", 3), Member("Pale Sugar", 3), Member("Bare pale", 4)});
+    list.SetFilter("pale");
+    EXPECT_THAT(Names(list), ElementsAre("Base", "Pale", "Sweet", "Pale Sugar", "Bare pale"));
+    list.SetFilter("bare");
+    EXPECT_THAT(Names(list), ElementsAre("Bare pale"));
+    list.SetFilter("black");
+    EXPECT_THAT(Names(list), ElementsAre("Roasted", "Black"));
+}
+
+TEST(ListTable, TheChosenRowStaysChosenWhileAFilterShowsIt) {
+    const auto named = [](const char* name) {
+        ListRow row = Row({name});
+        row.key = name;
+        return row;
+    };
+    ListTable list = ListOf({named("Fuggle"), named("Saaz"), named("Saphir")});
+    list.Select(2);
+    list.SetFilter("sa");
+    EXPECT_EQ(list.SelectedText(), "Saphir");
+    list.SetFilter("saaz");
+    EXPECT_EQ(list.SelectedText(), "Saaz");
+    list.SetFilter("");
+    EXPECT_EQ(list.Selected(), 1);
+}
+
+TEST(ListTable, SortsAddsAndRemovesUnderAFilter) {
+    ListTable list = ListOf({Row({"b1", "1"}), Row({"x", "0"}), Row({"b2", "3"})});
+    list.SetFilter("b");
+    list.Sort(1, true);
+    EXPECT_THAT(Names(list), ElementsAre("b2", "b1"));
+    list.Add(Row({"y", "9"}));
+    list.Add(Row({"b3", "9"}));
+    EXPECT_THAT(Names(list), ElementsAre("b2", "b1", "b3"));
+    list.Remove(1);
+    EXPECT_THAT(Names(list), ElementsAre("b2", "b3"));
+    list.SetFilter("");
+    EXPECT_THAT(Names(list), ElementsAre("b2", "x", "y", "b3"));
+    list.SetFilter("b");
+    list.SetRows({Row({"c"}), Row({"bb"})});
+    EXPECT_THAT(Names(list), ElementsAre("bb"));
+}
+
 }  // namespace
 }  // namespace tw::test

@@ -25,6 +25,25 @@ Qt::Alignment AlignmentOf(const ListColumn& column) {
     return Qt::AlignVCenter | (column.kind == ListColumnKind::Number ? Qt::AlignRight : Qt::AlignLeft);
 }
 
+// A spot of that colour with an edge, so that a pale one stands out from a pale ground.
+QIcon Swatch(Rgb color) {
+    const int side = QFontMetrics(QApplication::font()).ascent();
+    const qreal ratio = qApp->devicePixelRatio();
+    QPixmap picture(QSize(side, side) * ratio);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(HintColor(QApplication::palette()));
+    painter.setBrush(QColor(color.red, color.green, color.blue));
+    painter.drawEllipse(QRectF(0.5, 0.5, side - 1, side - 1));
+    painter.end();
+    QIcon spot(picture);
+    // A selected row must not tint it.
+    spot.addPixmap(picture, QIcon::Selected);
+    return spot;
+}
+
 // Rows with some air, as those of the grids.
 class RowDelegate final : public QStyledItemDelegate {
   public:
@@ -59,7 +78,7 @@ QVariant ListPaneModel::data(const QModelIndex& index, int role) const {
         case Qt::ToolTipRole:
             return ToQt(row.cells[col]).trimmed();
         case Qt::DecorationRole:
-            return col == 0 && row.icon != NodeIcon::None ? QVariant(NodePicture(row.icon)) : QVariant();
+            return DecorationOf(row, list_.Columns()[col], col == 0);
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(AlignmentOf(list_.Columns()[col]));
         case Qt::FontRole:
@@ -82,8 +101,15 @@ QVariant ListPaneModel::headerData(int section, Qt::Orientation orientation, int
     if (orientation != Qt::Horizontal || section >= columnCount()) return {};
     const ListColumn& column = list_.Columns()[static_cast<std::size_t>(section)];
     if (role == Qt::DisplayRole) return ToQt(column.title);
+    if (role == Qt::ToolTipRole && !column.note.empty())
+        return tr("%1: %2\nA click sorts the rows by it.").arg(ToQt(column.title), ToQt(column.note));
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AlignmentOf(column));
     return {};
+}
+
+QVariant ListPaneModel::DecorationOf(const ListRow& row, const ListColumn& column, bool first) const {
+    if (column.showsColor && row.hcu) return Swatch(colors_.HCUToColor(*row.hcu));
+    return first && row.icon != NodeIcon::None ? QVariant(NodePicture(row.icon)) : QVariant();
 }
 
 Qt::ItemFlags ListPaneModel::flags(const QModelIndex& index) const {
@@ -139,7 +165,11 @@ void ListPane::ListChanged() {
                                list_.SortDescending() ? Qt::DescendingOrder : Qt::AscendingOrder);
     header()->setSortIndicatorShown(list_.SortColumn() >= 0);
     ShowSelection();
+    const QString title = list_.Columns().empty() ? QString() : ToQt(list_.Columns().front().title);
+    if (title != firstTitle_) widthsChosen_ = false;
+    firstTitle_ = title;
     if (!widthsChosen_) FitColumns();
+    emit RowsChanged();
 }
 
 void ListPane::ListSelectionChanged() {
@@ -222,11 +252,13 @@ void ListPane::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ListPane::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
-    if (list_.Count() > 0 || hint_.isEmpty()) return;
+    const QString hint =
+        list_.Filter().empty() ? hint_ : tr("No row contains \"%1\".").arg(ToQt(list_.Filter()));
+    if (list_.Count() > 0 || hint.isEmpty()) return;
     QPainter painter(viewport());
     painter.setPen(HintColor(palette()));
     const int margin = Unit(*this);
-    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin), Qt::TextWordWrap, hint_);
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin), Qt::TextWordWrap, hint);
 }
 
 void ListPane::showEvent(QShowEvent* event) {

@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <QTreeView>
 
+#include "calc/BeerColor.h"
 #include "tree/ListTable.h"
 
 namespace tw {
@@ -23,7 +24,10 @@ class ListPaneModel final : public QAbstractTableModel {
     void Reset();
 
   private:
+    QVariant DecorationOf(const ListRow& row, const ListColumn& column, bool first) const;
+
     const ListTable& list_;
+    ColorTable colors_;
 };
 
 class ListPane final : public QTreeView, private ListTableObserver {
@@ -46,6 +50,8 @@ class ListPane final : public QTreeView, private ListTableObserver {
     void RowActivated();
     // Another row is chosen, or none.
     void ChosenChanged();
+    // Rows have come, gone or moved; the chosen one may be another.
+    void RowsChanged();
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -65,6 +71,7 @@ class ListPane final : public QTreeView, private ListTableObserver {
     ListTable& list_;
     ListPaneModel* model_;
     QString hint_;
+    QString firstTitle_;  // tells one catalogue's columns from another's
     QString typed_;
     QElapsedTimer sinceTyped_;
     bool following_ = false;  // the selection changes by the list, not by the brewer

@@ -7,6 +7,7 @@
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
+#include "tree/ui/ListFilterBox.h"
 #include "tree/ui/ListPane.h"
 #include "tree/ui/TreePane.h"
 
@@ -43,9 +44,11 @@ frmLvShow::frmLvShow(LvShowModel& model, QWidget* parent) : QDialog(parent), mod
     splitter->addWidget(items_);
     splitter->setStretchFactor(splitter->count() - 1, 1);
     splitter->setSizes({Unit(*this) * kFolderUnits, Unit(*this) * kWidthUnits});
+    column->addWidget(new ListFilterBox(model.Items(), *items_, this));
     column->addWidget(splitter, 1);
     column->addLayout(MakeButtons());
     connect(items_, &ListPane::ChosenChanged, this, &frmLvShow::ShowButtons);
+    connect(items_, &ListPane::RowsChanged, this, &frmLvShow::ShowButtons);
     connect(items_, &ListPane::RowActivated, this, [this] { Press("cmdOK"); });
     const int folders = model.HasFolders() ? kFolderUnits : 0;
     resize(Unit(*this) * (ListUnits(model.Items()) + folders), Unit(*this) * kHeightUnits);

@@ -1,0 +1,241 @@
+#include "catalogue/DBSetupModel.h"
+
+#include <algorithm>
+
+#include "catalogue/CatalogueEditor.h"
+#include "catalogue/GrainEditor.h"
+#include "catalogue/StyleEditor.h"
+#include "store/ObjectKeys.h"
+#include "tree/TWNodes.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+// Before all folders and styles.
+constexpr int kRowUpGroup = -1;
+constexpr std::string_view kRowUp = "..";
+
+std::string FolderKey(std::int64_t id) {
+    return "G:" + std::to_string(id);
+}
+
+}  // namespace
+
+DBSetupModel::DBSetupModel(const CatalogueContext& context)
+    : context_(context), filler_(context.database, context.tree) {
+    Choose(Catalogue::Styles);
+}
+
+const std::vector<std::string>& DBSetupModel::Entries() {
+    static const std::vector<std::string> entries{"Styles",         "Grains",         "Extracts",
+                                                  "Hop Varieties",  "Yeasts",         "Priming Sugars",
+                                                  "Water Profiles", "Treatment Salts"};
+    return entries;
+}
+
+void DBSetupModel::Choose(Catalogue catalogue) {
+    catalogue_ = catalogue;
+    folderId_ = 0;
+    items_.SetFilter("");
+    Refill();
+    items_.Select(items_.FirstRow());
+}
+
+void DBSetupModel::Refill() {
+    const std::string titleBefore = items_.Columns().empty() ? "" : items_.Columns().front().title;
+    const int sortColumn = items_.SortColumn();
+    const bool descending = items_.SortDescending();
+    if (catalogue_ == Catalogue::Styles && !items_.Filter().empty()) {
+        filler_.FillStyles(items_, -1);
+    } else if (catalogue_ == Catalogue::Styles) {
+        filler_.FillStylesAndFolders(items_, folderId_);
+        if (folderId_ != 0) AddRowUp();
+    } else {
+        filler_.Fill(items_, catalogue_);
+    }
+    // The same catalogue stays in the order that the brewer has given it.
+    if (items_.Columns().front().title == titleBefore && sortColumn >= 0) items_.Sort(sortColumn, descending);
+}
+
+void DBSetupModel::SetFilter(std::string_view text) {
+    const bool wasFiltered = !items_.Filter().empty();
+    const std::string chosen = EditEnabled() ? SelectedName() : std::string();
+    items_.SetFilter(text);
+    if (catalogue_ != Catalogue::Styles || wasFiltered == !items_.Filter().empty()) return;
+    Refill();
+    const int row = items_.FindKey(chosen);
+    // Without a filter the chosen style is shown in its folder.
+    if (row != ListTable::kNoRow)
+        items_.Select(row);
+    else if (!wasFiltered || chosen.empty() || !ShowName(chosen))
+        items_.Select(items_.FirstRow());
+}
+
+void DBSetupModel::AddRowUp() {
+    const TWNode* const folder = context_.tree.Nodes(FolderKey(folderId_));
+    const TWNode* const parent = folder != nullptr ? folder->Parent() : nullptr;
+    ListRow up;
+    up.key = parent != nullptr ? std::string(parent->Key()) : FolderKey(0);
+    up.cells = {std::string(kRowUp), "Style Folder"};
+    up.icon = NodeIcon::FolderOpen;
+    up.isFolder = true;
+    up.group = kRowUpGroup;
+    items_.Add(std::move(up));
+    items_.Sort(0);
+}
+
+std::string DBSetupModel::SelectedName() const {
+    return items_.Selected() == ListTable::kNoRow ? std::string() : items_.Row(items_.Selected()).key;
+}
+
+bool DBSetupModel::FolderSelected() const {
+    return items_.Selected() != ListTable::kNoRow && items_.Row(items_.Selected()).isFolder;
+}
+
+bool DBSetupModel::EditEnabled() const {
+    return items_.Selected() != ListTable::kNoRow && !FolderSelected();
+}
+
+bool DBSetupModel::ShowName(std::string_view name) {
+    const auto select = [&] {
+        for (int row = 0; row < items_.Count(); ++row)
+            if (!items_.Row(row).isFolder && SameName(items_.Row(row).key, name) && items_.Select(row))
+                return true;
+        return false;
+    };
+    items_.SelectNone();
+    if (select()) return true;
+    items_.SetFilter("");
+    if (catalogue_ == Catalogue::Styles) {
+        const Recordset style = context_.database.OpenRecordset("SELECT FOLDER_ID FROM STYLES WHERE NAME = " +
+                                                                SqlText(Trim(name)));
+        if (style.AtEnd()) return false;
+        folderId_ = style.Fields(0).Integer();
+        Refill();
+    }
+    return select();
+}
+
+void DBSetupModel::EnterFolder() {
+    const std::int64_t left = folderId_;
+    folderId_ = IdOfKey(SelectedName());
+    items_.SetFilter("");
+    Refill();
+    // On the way up the folder that was left is the one to go on from.
+    const int row = items_.FindKey(FolderKey(left));
+    items_.Select(row == ListTable::kNoRow ? items_.FirstRow() : row);
+}
+
+std::vector<DialogControl> DBSetupModel::Controls() const {
+    return {{"Combo1", Entries()[static_cast<std::size_t>(catalogue_)]}, {"lvItems", items_.SelectedText()}};
+}
+
+bool DBSetupModel::SetControl(std::string_view name, std::string_view text) {
+    if (name == "Combo1") {
+        const auto entry =
+            std::ranges::find_if(Entries(), [&](const std::string& e) { return SameName(e, text); });
+        if (entry == Entries().end()) return false;
+        Choose(static_cast<Catalogue>(entry - Entries().begin()));
+        return true;
+    }
+    if (name == "txtFilter") {
+        SetFilter(text);
+        return true;
+    }
+    if (name != "lvItems") return false;
+    for (int row = 0; row < items_.Count(); ++row)
+        if (SameName(items_.Row(row).cells.front(), text) && items_.Select(row)) return true;
+    return false;
+}
+
+bool DBSetupModel::Press(std::string_view button) {
+    if (button == "cmdNew") {
+        OpenEditor("");
+    } else if (button == "cmdEdit") {
+        if (EditEnabled()) OpenEditor(SelectedName());
+    } else if (button == "cmdDelete") {
+        if (DeleteEnabled()) Delete();
+    } else if (button == "lvItems") {
+        if (FolderSelected())
+            EnterFolder();
+        else if (EditEnabled())
+            OpenEditor(SelectedName());
+    } else if (button == "cmdClose") {
+        CloseBox();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void DBSetupModel::OpenEditor(const std::string& name) {
+    const std::unique_ptr<CatalogueEditor> editor = MakeEditor(catalogue_, context_);
+    ObjectNavigator navigator(items_);
+    if (name.empty()) {
+        if (auto* const style = dynamic_cast<StyleEditor*>(editor.get())) style->StartInFolder(folderId_);
+    } else {
+        if (editor->Folders() == nullptr) editor->SetNavigator(navigator);
+        editor->SetName(name);
+    }
+    // Also after Apply, so that the next step of the navigator finds the row under its new name.
+    editor->OnSaved([this](const std::string& saved) { ShowSaved(saved); });
+    context_.dialogs.ShowModal(*editor);
+    if (editor->Folders() == nullptr || !editor->Selection().empty()) return;
+    // Folders may have been made all the same.
+    const std::string selected = SelectedName();
+    Refill();
+    const int row = items_.FindKey(selected);
+    items_.Select(row == ListTable::kNoRow ? items_.FirstRow() : row);
+}
+
+void DBSetupModel::ShowSaved(const std::string& name) {
+    Refill();
+    if (!ShowName(name)) items_.Select(items_.FirstRow());
+}
+
+void DBSetupModel::Delete() {
+    const std::string name = SelectedName();
+    const std::string word(WordOf(catalogue_));
+    const Answer answer = context_.messages.Ask(
+        "Delete " + word + "?", "Are you sure you want to delete the " + word + " '" + name + "'?",
+        Question::YesNo);
+    if (answer != Answer::Yes) return;
+    DeleteRow(name);
+    TakeOutSelectedRow();
+}
+
+void DBSetupModel::DeleteRow(const std::string& name) {
+    const std::string condition = " WHERE NAME = " + SqlText(name);
+    if (catalogue_ == Catalogue::Styles) {
+        const Recordset style = context_.database.OpenRecordset("SELECT ID FROM STYLES" + condition);
+        const std::int64_t id = style.AtEnd() ? 0 : style.Fields(0).Integer();
+        return context_.objects.DeleteStyleById(id);
+    }
+    const bool fermentable = catalogue_ == Catalogue::Grains || catalogue_ == Catalogue::Extracts;
+    UnitOfWork unit(context_.database);
+    std::int64_t type = 0;
+    if (fermentable) {
+        const Recordset row = context_.database.OpenRecordset("SELECT GRAIN_TYPE FROM GRAINS" + condition);
+        if (!row.AtEnd()) type = row.Fields(0).Integer();
+    }
+    context_.database.Execute("DELETE FROM " + std::string(FormOf(catalogue_).table) + condition);
+    RemoveUnusedType(context_.database, type);
+    unit.Commit();
+}
+
+void DBSetupModel::TakeOutSelectedRow() {
+    const int row = items_.Selected();
+    items_.Remove(row);
+    int next = row;
+    // What a filter hides may still stand below the heading.
+    if (!items_.Filter().empty()) Refill();
+    // A heading goes with the last row below it.
+    const bool below = row < items_.Count() && !items_.Row(row).isGroup && row > 0 &&
+                       items_.Row(row).group == items_.Row(row - 1).group;
+    if (items_.Filter().empty() && row > 0 && items_.Row(row - 1).isGroup && !below) items_.Remove(--next);
+    while (next < items_.Count() && items_.Row(next).isGroup) ++next;
+    if (!items_.Select(next)) items_.Select(items_.Count() - 1);
+}
+
+}  // namespace tw

@@ -1,0 +1,83 @@
+#include "catalogue/StyleEditor.h"
+
+#include "values/NumberText.h"
+#include "values/Text.h"
+
+namespace tw {
+
+StyleEditor::StyleEditor(const CatalogueContext& context)
+    : CatalogueEditor(Catalogue::Styles, context), folders_(context.tree, context.objects) {
+    folders_.SetStyles(true);
+}
+
+void StyleEditor::SetReadOnly() {
+    CatalogueEditor::SetReadOnly();
+    folders_.SetLocked(true);
+}
+
+void StyleEditor::ClearOwn() {
+    folders_.SetFolderID(0);
+    loadedFolder_ = 0;
+}
+
+void StyleEditor::ReadOwn(const Recordset& row) {
+    // A folder that is missing counts as another one than the root, which is chosen in its place: saving
+    // brings the style back into sight.
+    const Field folder = row.Fields("FOLDER_ID");
+    loadedFolder_ = folder.IsNull() ? -1 : folder.Integer();
+    folders_.SetFolderID(loadedFolder_);
+}
+
+std::optional<std::string> StyleEditor::FolderText() const {
+    return std::to_string(folders_.FolderID());
+}
+
+bool StyleEditor::EnterFolder(std::string_view text) {
+    const std::string key = "G:" + std::string(Trim(text));
+    return folders_.Choose(key);
+}
+
+bool StyleEditor::Write(const std::string& name) {
+    const std::string now = SqlText(DateText(Context().clock.Now()));
+    if (LoadedName().empty())
+        InsertStyle(name, now);
+    else if (!UpdateStyle(name, now))
+        return false;
+    loadedFolder_ = folders_.FolderID();
+    id_ = Context().objects.StyleIdByName(name);
+    return true;
+}
+
+void StyleEditor::InsertStyle(const std::string& name, const std::string& now) {
+    ColumnValues values = {{"NAME", SqlText(name)},
+                           {"FOLDER_ID", std::to_string(folders_.FolderID())},
+                           {"CREATED_WHEN", now},
+                           {"MODIFIED_WHEN", now}};
+    for (auto& value : Values(name)) values.push_back(std::move(value));
+    Insert(values);
+    Context().objects.AddStyleNodesByName(name);
+}
+
+bool StyleEditor::UpdateStyle(const std::string& name, const std::string& now) {
+    // Before the name is another one: the rows are found by it.
+    const std::int64_t id = Context().objects.StyleIdByName(LoadedName());
+    const std::int64_t folder = folders_.FolderID();
+    ColumnValues values = {{"NAME", SqlText(name)}, {"FOLDER_ID", std::to_string(folder)}};
+    for (auto& value : Values(name)) values.push_back(std::move(value));
+    values.emplace_back("MODIFIED_WHEN", now);
+    std::string assignments;
+    for (const auto& [column, literal] : values)
+        assignments.append(assignments.empty() ? "" : ", ").append(column).append(" = ").append(literal);
+    Store().Execute("UPDATE STYLES SET " + assignments + " WHERE NAME = " + SqlText(LoadedName()));
+    if (Store().RecordsAffected() == 0) {
+        ShowError("The style '" + LoadedName() +
+                  "' is no longer in the database. OK stores it as a new style.");
+        ForgetLoadedName();
+        return false;
+    }
+    if (folder != loadedFolder_) Context().objects.MoveStyleToFolder(id, folder, false);
+    if (name != LoadedName()) Context().objects.RenameStyleNodes(id, name);
+    return true;
+}
+
+}  // namespace tw

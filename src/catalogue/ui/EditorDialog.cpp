@@ -1,0 +1,403 @@
+#include "catalogue/ui/EditorDialog.h"
+
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "catalogue/ui/ObjectNavigatorView.h"
+#include "document/ui/ColorSwatch.h"
+#include "document/ui/FancyLabel.h"
+#include "document/ui/PageBuilder.h"
+#include "platform/qt/Appearance.h"
+#include "platform/qt/FocusMoves.h"
+#include "platform/qt/QtText.h"
+#include "tree/ui/FolderChooserView.h"
+#include "tree/ui/TreePane.h"
+
+namespace tw {
+namespace {
+
+constexpr int kNameDigits = 34;
+constexpr int kListDigits = 20;
+constexpr int kCellDigits = 9;
+constexpr int kDescriptionLines = 6;
+constexpr int kFolderUnits = 30;
+
+// What a cell takes, for its tool tip.
+const char* HintOf(CellCheck check) {
+    switch (check) {
+        case CellCheck::Gravity:
+            return QT_TRANSLATE_NOOP("EditorDialog", "A gravity such as 1.050 or 12 P");
+        case CellCheck::Share:
+        case CellCheck::Percent:
+            return QT_TRANSLATE_NOOP("EditorDialog", "A percentage such as 5.5");
+        case CellCheck::Temperature:
+            return QT_TRANSLATE_NOOP("EditorDialog",
+                                     "A temperature such as 68 or 20 C; it is kept in degrees Fahrenheit");
+        case CellCheck::Bitterness:
+            return QT_TRANSLATE_NOOP("EditorDialog", "A bitterness in IBU, such as 30");
+        case CellCheck::Carbonation:
+            return QT_TRANSLATE_NOOP("EditorDialog", "Volumes of CO2, such as 2.5");
+        case CellCheck::Number:
+            break;
+    }
+    return QT_TRANSLATE_NOOP("EditorDialog", "A plain number");
+}
+
+// The store ends a line with "\r\n" where the text came with it; the widget knows "\n" alone.
+QString Lines(std::string_view text) {
+    return ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+}
+
+}  // namespace
+
+EditorDialog::EditorDialog(CatalogueEditor& model, QWidget* parent) : QDialog(parent), model_(model) {
+    setObjectName(ToQt(model.FormName()));
+    setWindowTitle(ToQt(model.Form().title));
+    // The letters of the buttons, and of the part with the folders.
+    taken_ = model.Folders() != nullptr ? QStringLiteral("ASNR") : QStringLiteral("A");
+    auto* column = new QVBoxLayout(this);
+    SetSpacing(*column, *this, true);
+    AddHead(*column);
+    auto* middle = new QHBoxLayout;
+    middle->setSpacing(Unit(*this) * kGroupUnits);
+    auto* ranges = new QVBoxLayout;
+    ranges->setSpacing(Unit(*this) * kGapUnits);
+    AddRanges(*ranges);
+    middle->addLayout(ranges, model.Folders() != nullptr ? 0 : 1);
+    if (model.Folders() != nullptr) AddFolders(*middle);
+    column->addSpacing(Unit(*this));
+    column->addLayout(middle);
+    AddDescription(*column);
+    AddButtons(*column);
+    ShowModel();
+    LookReadOnly();
+    auto* name = findChild<QLineEdit*>(QStringLiteral("Text1"));
+    name->setFocus();
+    name->selectAll();
+}
+
+std::unique_ptr<QDialog> EditorDialog::Make(DialogModel& model, QWidget* parent) {
+    return std::make_unique<EditorDialog>(dynamic_cast<CatalogueEditor&>(model), parent);
+}
+
+QString EditorDialog::Caption(std::string_view text) {
+    QString caption = ToQt(text) + QLatin1Char(':');
+    // The beginnings of words first, then any letter.
+    for (const bool anywhere : {false, true})
+        for (qsizetype i = 0; i < caption.size(); ++i) {
+            const QChar letter = caption[i].toUpper();
+            const bool begins = i == 0 || caption[i - 1] == QLatin1Char(' ');
+            if (!letter.isLetter() || taken_.contains(letter) || (!anywhere && !begins)) continue;
+            taken_.append(letter);
+            return caption.insert(i, QLatin1Char('&'));
+        }
+    return caption;
+}
+
+void EditorDialog::AddRow(QGridLayout& rows, std::string_view caption, QWidget* control) {
+    control->setAccessibleName(ToQt(caption));
+    if (auto* list = qobject_cast<QComboBox*>(control); list != nullptr && list->isEditable())
+        list->lineEdit()->setAccessibleName(ToQt(caption));
+    auto* label = new QLabel(Caption(caption), this);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    label->setBuddy(control);
+    const int row = rows.rowCount();
+    rows.addWidget(label, row, 0);
+    rows.addWidget(control, row, 1);
+}
+
+QLineEdit* EditorDialog::Box(const char* name, int digits) {
+    auto* box = new QLineEdit(this);
+    box->setObjectName(QLatin1String(name));
+    box->setMinimumWidth(DigitsWidth(*box, digits));
+    box->setReadOnly(model_.ReadOnly());
+    connect(box, &QLineEdit::textEdited, this, [this, name](const QString& text) { Enter(name, text); });
+    return box;
+}
+
+QComboBox* EditorDialog::ListBox(const char* name) {
+    auto* box = new QComboBox(this);
+    box->setObjectName(QLatin1String(name));
+    const EditorList& list = model_.List(name);
+    box->setMinimumWidth(DigitsWidth(*box, kListDigits));
+    box->setMaxVisibleItems(20);
+    if (list.freeText) {
+        box->setEditable(true);
+        box->setInsertPolicy(QComboBox::NoInsert);
+        // What is typed stays as it is typed: it may be a new entry that begins as an old one.
+        box->setCompleter(nullptr);
+        connect(box, &QComboBox::editTextChanged, this,
+                [this, name](const QString& text) { Enter(name, text); });
+    } else {
+        connect(box, &QComboBox::activated, this, [this, box, name] { Enter(name, box->currentText()); });
+    }
+    return box;
+}
+
+void EditorDialog::AddHead(QBoxLayout& column) {
+    const EditorForm& form = model_.Form();
+    auto* rows = new QGridLayout;
+    rows->setSpacing(Unit(*this) * kGapUnits);
+    rows->setHorizontalSpacing(Unit(*this) * 2 * kGapUnits);
+    rows->setColumnStretch(1, 1);
+    AddRow(*rows, form.name, Box("Text1", kNameDigits));
+    if (!form.text2.empty()) AddRow(*rows, form.text2, Box("Text2", kNameDigits));
+    // A list that is only read is a text, as plain as the others.
+    const auto list = [this](const char* name) {
+        return model_.ReadOnly() ? static_cast<QWidget*>(Box(name, kListDigits)) : ListBox(name);
+    };
+    if (!form.combo1.empty()) AddRow(*rows, form.combo1, list("Combo1"));
+    if (!form.combo2.empty()) AddRow(*rows, form.combo2, list("Combo2"));
+    column.addLayout(rows);
+}
+
+QLineEdit* EditorDialog::CellBox(int row, int col) {
+    const RangeRow& range = model_.Form().rows[static_cast<std::size_t>(row)];
+    auto* cell = new QLineEdit(this);
+    cell->setObjectName(QStringLiteral("gridInfo(%1,%2)").arg(row).arg(col));
+    QString name = ToQt(range.caption);
+    if (model_.Cols() > 1) name += col == 0 ? tr(", low") : tr(", high");
+    cell->setAccessibleName(name);
+    cell->setToolTip(tr(HintOf(range.check)));
+    cell->setAlignment(Qt::AlignRight);
+    cell->setFixedWidth(DigitsWidth(*cell, kCellDigits) + 2 * Unit(*cell));
+    cell->setReadOnly(model_.ReadOnly());
+    cell->installEventFilter(this);
+    connect(cell, &QLineEdit::textEdited, this, [this, row, col](const QString& text) {
+        model_.TypeCell(row, col, FromQt(text));
+        ShowState();
+    });
+    cells_.push_back(cell);
+    return cell;
+}
+
+QLineEdit* EditorDialog::CellAt(int row, int col) const {
+    const int index = row * model_.Cols() + col;
+    return cells_[static_cast<std::size_t>(index)];
+}
+
+void EditorDialog::AddRanges(QBoxLayout& column) {
+    const EditorForm& form = model_.Form();
+    column.addWidget(new FancyLabel(ToQt(form.ranges), this));
+    auto* grid = new QGridLayout;
+    grid->setSpacing(Unit(*this) * kGapUnits);
+    for (int col = 0; model_.Cols() > 1 && col < model_.Cols(); ++col) {
+        auto* heading = new QLabel(col == 0 ? tr("Low") : tr("High"), this);
+        heading->setFont(BoldFont(font()));
+        heading->setAlignment(Qt::AlignRight);
+        grid->addWidget(heading, 0, col + 1);
+    }
+    for (int row = 0; row < model_.Rows(); ++row) {
+        const RangeRow& range = form.rows[static_cast<std::size_t>(row)];
+        auto* label = new QLabel(Caption(range.caption), this);
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        grid->addWidget(label, row + 1, 0);
+        for (int col = 0; col < model_.Cols(); ++col) grid->addWidget(CellBox(row, col), row + 1, col + 1);
+        label->setBuddy(CellAt(row, 0));
+        if (!range.unit.empty()) {
+            auto* unit = new QLabel(ToQt(range.unit), this);
+            unit->setForegroundRole(QPalette::PlaceholderText);
+            grid->addWidget(unit, row + 1, model_.Cols() + 1);
+        }
+        if (range.color == RangeRow::Color::None) continue;
+        swatch_ = new ColorSwatch(this);
+        swatch_->setAccessibleName(tr("The middle of the color range"));
+        swatch_->setToolTip(swatch_->accessibleName());
+        QSizePolicy policy = swatch_->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        swatch_->setSizePolicy(policy);
+        grid->addWidget(swatch_, row + 1, model_.Cols() + 1);
+    }
+    grid->setColumnStretch(model_.Cols() + 2, 1);
+    column.addLayout(grid);
+    hint_ = new QLabel(this);
+    hint_->setObjectName(QStringLiteral("lblHint"));
+    hint_->setWordWrap(true);
+    // The place is kept, so that nothing moves when the hint comes.
+    hint_->setMinimumHeight(hint_->fontMetrics().lineSpacing());
+    column.addWidget(hint_);
+    column.addStretch(1);
+}
+
+void EditorDialog::AddFolders(QBoxLayout& row) {
+    folders_ = new FolderChooserView(*model_.Folders(), this);
+    folders_->setObjectName(QStringLiteral("FolderChooser1"));
+    folders_->setMinimumWidth(Unit(*this) * kFolderUnits);
+    auto* tree = folders_->findChild<TreePane*>();
+    tree->setMinimumHeight(Unit(*this) * 12);
+    connect(tree, &TreePane::ChosenChanged, this, [this, shown = model_.Folders()->FolderID()]() mutable {
+        // A folder that only got another name or another place is the same one.
+        if (shown == model_.Folders()->FolderID()) return;
+        shown = model_.Folders()->FolderID();
+        model_.FolderChanged();
+        ShowState();
+    });
+    row.addWidget(folders_, 1);
+}
+
+void EditorDialog::AddDescription(QBoxLayout& column) {
+    const QString caption = Caption(model_.Form().description);
+    auto* label = new QLabel(caption, this);
+    description_ = new QPlainTextEdit(this);
+    description_->setObjectName(QStringLiteral("txtDesc"));
+    description_->setAccessibleName(PlainCaption(caption));
+    description_->setTabChangesFocus(true);
+    description_->setReadOnly(model_.ReadOnly());
+    description_->setMinimumHeight(description_->fontMetrics().lineSpacing() * kDescriptionLines);
+    label->setBuddy(description_);
+    connect(description_, &QPlainTextEdit::textChanged, this, [this] {
+        Enter("txtDesc", description_->toPlainText().replace(QLatin1Char('\n'), QStringLiteral("\r\n")));
+    });
+    column.addWidget(label);
+    column.addWidget(description_, 1);
+}
+
+void EditorDialog::AddButtons(QBoxLayout& column) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(Unit(*this) * kGapUnits);
+    steps_ = new ObjectNavigatorView(model_.Navigator(), this);
+    steps_->setVisible(model_.Navigator() != nullptr);
+    connect(steps_, &ObjectNavigatorView::StepPressed, this, &EditorDialog::Press);
+    row->addWidget(steps_);
+    row->addStretch();
+    const auto add = [&](const char* name, const QString& caption) {
+        auto* button = new QPushButton(caption, this);
+        button->setObjectName(QLatin1String(name));
+        button->setAutoDefault(false);
+        // A click leaves the focus in its cell, so that Cancel checks nothing.
+        button->setFocusPolicy(Qt::TabFocus);
+        connect(button, &QPushButton::clicked, this, [this, name] { Press(name); });
+        row->addWidget(button);
+        return button;
+    };
+    QPushButton* ok = add("cmdOK", tr("OK"));
+    QPushButton* cancel = add("cmdCancel", model_.ReadOnly() ? tr("Close") : tr("Cancel"));
+    apply_ = add("cmdApply", tr("&Apply"));
+    apply_->setToolTip(tr("Stores the entry and stays"));
+    ok->setVisible(!model_.ReadOnly());
+    apply_->setVisible(!model_.ReadOnly());
+    (model_.ReadOnly() ? cancel : ok)->setDefault(true);
+    column.addLayout(row);
+}
+
+void EditorDialog::LookReadOnly() {
+    if (!model_.ReadOnly()) return;
+    const QColor ground = palette().color(QPalette::Window);
+    const auto look = [&](QWidget& box) {
+        QPalette colors = box.palette();
+        colors.setColor(QPalette::Base, ground);
+        box.setPalette(colors);
+    };
+    for (QLineEdit* const box : findChildren<QLineEdit*>()) look(*box);
+    look(*description_);
+}
+
+void EditorDialog::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && description_ != nullptr) LookReadOnly();
+}
+
+void EditorDialog::ShowModel() {
+    showing_ = true;
+    setWindowTitle(ToQt(model_.Form().title));
+    for (const char* name : {"Text1", "Text2"})
+        if (auto* box = findChild<QLineEdit*>(QLatin1String(name))) box->setText(ToQt(model_.Text(name)));
+    for (const char* name : {"Combo1", "Combo2"}) {
+        if (auto* box = findChild<QComboBox*>(QLatin1String(name))) ShowList(*box, model_.List(name));
+        if (auto* box = findChild<QLineEdit*>(QLatin1String(name)))
+            box->setText(ToQt(model_.List(name).text));
+    }
+    for (int row = 0; row < model_.Rows(); ++row)
+        for (int col = 0; col < model_.Cols(); ++col)
+            CellAt(row, col)->setText(ToQt(model_.CellText(row, col)));
+    if (description_->toPlainText() != Lines(model_.Text("txtDesc")))
+        description_->setPlainText(Lines(model_.Text("txtDesc")));
+    if (folders_ != nullptr) folders_->ShowState();
+    showing_ = false;
+    ShowState();
+}
+
+void EditorDialog::ShowList(QComboBox& box, const EditorList& list) {
+    box.clear();
+    for (const std::string& entry : list.entries) box.addItem(ToQt(entry));
+    const QString text = ToQt(list.text);
+    if (list.freeText) {
+        box.setCurrentIndex(-1);
+        box.setEditText(text);
+        return;
+    }
+    // What the row came with is shown also when the list does not hold it.
+    if (!list.text.empty() && box.findText(text) < 0) box.addItem(text);
+    box.setCurrentIndex(box.findText(text));
+}
+
+void EditorDialog::ShowState() {
+    apply_->setEnabled(model_.ApplyEnabled());
+    steps_->ShowState();
+    hint_->setText(ToQt(model_.RangeHint()));
+    if (swatch_ == nullptr) return;
+    const std::optional<double> hcu = model_.ColorHcu();
+    swatch_->setVisible(hcu.has_value());
+    if (hcu) swatch_->SetColor(colors_.HCUToColor(*hcu));
+}
+
+void EditorDialog::Enter(const char* control, const QString& text) {
+    if (showing_) return;
+    model_.SetControl(control, FromQt(text));
+    ShowState();
+}
+
+void EditorDialog::Press(const char* button) {
+    refusing_ = true;
+    model_.Press(button);
+    refusing_ = false;
+    if (!model_.IsOpen()) {
+        QDialog::done(model_.Cancelled() ? Rejected : Accepted);
+        return;
+    }
+    ShowModel();
+    if (auto* box = findChild<QLineEdit*>(ToQt(model_.RefusedControl()))) GoBackTo(*box);
+}
+
+void EditorDialog::GoBackTo(QLineEdit& cell) {
+    refusing_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this, &cell] {
+            cell.setFocus();
+            cell.selectAll();
+            refusing_ = false;
+        },
+        Qt::QueuedConnection);
+}
+
+bool EditorDialog::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() != QEvent::FocusOut || refusing_ || !model_.IsOpen() ||
+        !IsMove(*static_cast<QFocusEvent*>(event)))
+        return QDialog::eventFilter(object, event);
+    for (int row = 0; row < model_.Rows(); ++row)
+        for (int col = 0; col < model_.Cols(); ++col) {
+            QLineEdit* const cell = CellAt(row, col);
+            if (cell != object) continue;
+            // The box of a refusal takes the focus too; that is no move.
+            refusing_ = true;
+            const bool accepted = model_.LeaveCell(row, col);
+            refusing_ = false;
+            cell->setText(ToQt(model_.CellText(row, col)));
+            ShowState();
+            if (!accepted) GoBackTo(*cell);
+        }
+    return QDialog::eventFilter(object, event);
+}
+
+void EditorDialog::reject() {
+    model_.CloseBox();
+    QDialog::reject();
+}
+
+}  // namespace tw

@@ -1,0 +1,302 @@
+// Database setup and the editors of the catalogue by the keyboard.
+#include <gmock/gmock.h>
+
+#include "GuiTest.h"
+#include "catalogue/DBSetupModel.h"
+#include "catalogue/ui/EditorDialog.h"
+#include "catalogue/ui/ObjectNavigatorView.h"
+#include "catalogue/ui/frmDBSetup.h"
+#include "tree/LvShowModel.h"
+#include "tree/ui/ListFilterBox.h"
+#include "tree/ui/TreePane.h"
+#include "tree/ui/frmLvShow.h"
+
+namespace tw::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class CatalogueWindows : public GuiTest {
+  protected:
+    void SetUp() override {
+        GuiTest::SetUp();
+        for (const char* name : {"Cascade", "Fuggle", "Saaz"})
+            shell.DB()->Execute(std::string("INSERT INTO HOPS (NAME, AA_LO, AA_HI) VALUES ('") + name +
+                                "', 4, 6)");
+        context.emplace(shell.Catalogues());
+    }
+    // Shows a window and makes it the active one.
+    template <class Window>
+    void Up(Window& shown) {
+        shown.show();
+        QApplication::setActiveWindow(&shown);
+        QApplication::processEvents();
+    }
+    template <class Widget>
+    static Widget& In(QWidget& top, const char* name) {
+        auto* widget = top.findChild<Widget*>(QLatin1String(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return *widget;
+    }
+    std::string Stored(const std::string& sql) {
+        const Recordset rows = shell.DB()->OpenRecordset(sql);
+        return rows.AtEnd() ? "nothing" : rows.Fields(0).IsNull() ? "NULL" : rows.Fields(0).Text();
+    }
+    // Types over all that the focused box holds.
+    void Fill(const char* text) {
+        auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_NE(box, nullptr);
+        box->selectAll();
+        Key(Qt::Key_Delete);
+        Type(text);
+    }
+
+    std::optional<CatalogueContext> context;
+};
+
+TEST_F(CatalogueWindows, AHopIsEnteredByTheKeyboardAlone) {
+    const auto model = MakeEditor(Catalogue::Hops, *context);
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    EXPECT_EQ(Focus(), "Text1");
+    EXPECT_FALSE(In<QPushButton>(editor, "cmdApply").isEnabled());
+    EXPECT_FALSE(In<ObjectNavigatorView>(editor, "objNavView").isVisible());
+    Type("Zeus");
+    EXPECT_TRUE(In<QPushButton>(editor, "cmdApply").isEnabled());
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Focus(), "Text2");
+    Type("Bittering");
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Focus(), "gridInfo(0,0)");
+    Type("14 %");
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(Focus(), "gridInfo(0,1)");
+    Key(Qt::Key_Return);
+    EXPECT_FALSE(editor.isVisible());
+    EXPECT_EQ(Stored("SELECT AA_HI FROM HOPS WHERE NAME = 'Zeus'"), "14");
+}
+
+TEST_F(CatalogueWindows, ARefusedCellTakesTheFocusBack) {
+    const auto model = MakeEditor(Catalogue::Hops, *context);
+    model->SetName("Saaz");
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    auto& low = In<QLineEdit>(editor, "gridInfo(0,0)");
+    low.setFocus();
+    Fill("strong");
+    Key(Qt::Key_Tab);
+    QApplication::processEvents();
+    EXPECT_THAT(outside.messages.TakeLog(), ElementsAre("[Invalid Entry] Please enter a valid percentage"));
+    EXPECT_EQ(Focus(), "gridInfo(0,0)");
+    EXPECT_EQ(FromQt(low.text()), "4");
+    EXPECT_EQ(FromQt(low.selectedText()), "4");
+}
+
+TEST_F(CatalogueWindows, EscapeAndCancelCheckNothing) {
+    const auto model = MakeEditor(Catalogue::Hops, *context);
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    In<QLineEdit>(editor, "gridInfo(0,0)").setFocus();
+    Type("strong");
+    Key(Qt::Key_Escape);
+    EXPECT_FALSE(editor.isVisible());
+    EXPECT_TRUE(model->Cancelled());
+    EXPECT_THAT(outside.messages.log, IsEmpty());
+}
+
+TEST_F(CatalogueWindows, ABlankNameIsToldAndTakesTheFocus) {
+    const auto model = MakeEditor(Catalogue::Grains, *context);
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    In<QLineEdit>(editor, "gridInfo(0,0)").setFocus();
+    Type("36");
+    Key(Qt::Key_Return);
+    QApplication::processEvents();
+    EXPECT_THAT(outside.messages.TakeLog(), ElementsAre("[Invalid Name] Grain name cannot be blank."));
+    EXPECT_TRUE(editor.isVisible());
+    EXPECT_EQ(Focus(), "Text1");
+}
+
+TEST_F(CatalogueWindows, StepsShowOtherRowsAndDropWhatIsTyped) {
+    DBSetupModel setup(*context);
+    setup.Choose(Catalogue::Hops);
+    ObjectNavigator navigator(setup.Items());
+    const auto model = MakeEditor(Catalogue::Hops, *context);
+    model->SetNavigator(navigator);
+    model->SetName("Cascade");
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    EXPECT_FALSE(In<QToolButton>(editor, "cmdPrevious").isEnabled());
+    In<QLineEdit>(editor, "gridInfo(0,0)").setFocus();
+    Fill("bad");
+    QTest::mouseClick(&In<QToolButton>(editor, "cmdNext"), Qt::LeftButton);
+    EXPECT_EQ(FromQt(In<QLineEdit>(editor, "Text1").text()), "Fuggle");
+    EXPECT_EQ(FromQt(In<QLineEdit>(editor, "gridInfo(0,0)").text()), "4");
+    EXPECT_TRUE(In<QToolButton>(editor, "cmdPrevious").isEnabled());
+    QTest::mouseClick(&In<QToolButton>(editor, "cmdLast"), Qt::LeftButton);
+    EXPECT_EQ(FromQt(In<QLineEdit>(editor, "Text1").text()), "Saaz");
+    EXPECT_FALSE(In<QToolButton>(editor, "cmdNext").isEnabled());
+    EXPECT_EQ(setup.Items().SelectedText(), "Saaz");
+    EXPECT_THAT(outside.messages.log, IsEmpty());
+}
+
+TEST_F(CatalogueWindows, AStyleHasItsListsItsFolderAndItsColour) {
+    shell.Objects().CreateStyleFolder(0, "Dark", true);
+    shell.DB()->Execute("INSERT INTO WATER_PROFILES (NAME) VALUES ('Dublin')");
+    const auto model = MakeEditor(Catalogue::Styles, *context);
+    model->SetName("Stout");
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    EXPECT_EQ(FromQt(In<QComboBox>(editor, "Combo1").currentText()), "?");
+    EXPECT_FALSE(In<QWidget>(editor, "swatch").isVisible());
+    In<QLineEdit>(editor, "gridInfo(3,0)").setFocus();
+    Type("40");
+    Key(Qt::Key_Tab);
+    EXPECT_TRUE(In<QWidget>(editor, "swatch").isVisible());
+    Type("30");
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(FromQt(In<QLabel>(editor, "lblHint").text()),
+              "Color (SRM): the low value is above the high one.");
+    auto& type = In<QComboBox>(editor, "Combo1");
+    type.setFocus();
+    Key(Qt::Key_Down);
+    EXPECT_EQ(FromQt(type.currentText()), "Ale");
+    auto& folders = In<TreePane>(editor, "treeFolders");
+    folders.setFocus();
+    Key(Qt::Key_Down);
+    QTest::mouseClick(&In<QPushButton>(editor, "cmdOK"), Qt::LeftButton);
+    EXPECT_EQ(Stored("SELECT FOLDER_ID FROM STYLES WHERE NAME = 'Stout'"), "1");
+    EXPECT_EQ(Stored("SELECT TYPE FROM STYLES WHERE NAME = 'Stout'"), "0");
+    EXPECT_EQ(Stored("SELECT COLOR_HI FROM STYLES WHERE NAME = 'Stout'"), "30");
+}
+
+TEST_F(CatalogueWindows, ANewTypeCanBeTyped) {
+    const auto model = MakeEditor(Catalogue::Grains, *context);
+    model->SetName("Pale Malt");
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    In<QComboBox>(editor, "Combo1").setFocus();
+    Type("Base");
+    QTest::mouseClick(&In<QPushButton>(editor, "cmdApply"), Qt::LeftButton);
+    EXPECT_TRUE(editor.isVisible());
+    EXPECT_FALSE(In<QPushButton>(editor, "cmdApply").isEnabled());
+    EXPECT_EQ(Stored("SELECT NAME FROM GRAIN_TYPES"), "Base");
+    EXPECT_EQ(FromQt(In<QComboBox>(editor, "Combo1").currentText()), "Base");
+}
+
+TEST_F(CatalogueWindows, AFormToBeReadHasOneButton) {
+    const auto model = MakeEditor(Catalogue::Styles, *context);
+    model->SetName("Stout");
+    model->SetReadOnly();
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    EXPECT_FALSE(In<QPushButton>(editor, "cmdOK").isVisible());
+    EXPECT_FALSE(In<QPushButton>(editor, "cmdApply").isVisible());
+    EXPECT_EQ(FromQt(In<QPushButton>(editor, "cmdCancel").text()), "Close");
+    EXPECT_EQ(editor.findChild<QComboBox*>(), nullptr);
+    Type("x");
+    EXPECT_EQ(FromQt(In<QLineEdit>(editor, "Text1").text()), "Stout");
+    Key(Qt::Key_Return);
+    EXPECT_FALSE(editor.isVisible());
+}
+
+TEST_F(CatalogueWindows, SetupDeletesAndAddsByItsKeys) {
+    DBSetupModel model(*context);
+    frmDBSetup setup(model, nullptr);
+    Up(setup);
+    EXPECT_EQ(Focus(), "lvItems");
+    In<QComboBox>(setup, "Combo1").setCurrentText(QStringLiteral("Hop Varieties"));
+    EXPECT_EQ(model.Items().SelectedText(), "Cascade");
+    outside.messages.answers = {Answer::Yes};
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(model.Items().SelectedText(), "Fuggle");
+    outside.dialogs.scripts.push_back([](DialogModel& editor) {
+        editor.SetControl("Text1", "Zeus");
+        editor.Press("cmdOK");
+    });
+    Key(Qt::Key_Insert);
+    EXPECT_EQ(model.Items().SelectedText(), "Zeus");
+    Key(Qt::Key_Return);
+    EXPECT_THAT(outside.dialogs.shown, ElementsAre("frmHop", "frmHop"));
+    Key(Qt::Key_Escape);
+    EXPECT_FALSE(setup.isVisible());
+    EXPECT_FALSE(model.IsOpen());
+}
+
+TEST_F(CatalogueWindows, SetupIsOffOnAFolderAndEntersIt) {
+    shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0");
+    shell.Objects().CreateStyleFolder(0, "Dark", true);
+    DBSetupModel model(*context);
+    frmDBSetup setup(model, nullptr);
+    Up(setup);
+    EXPECT_FALSE(In<QPushButton>(setup, "cmdEdit").isEnabled());
+    EXPECT_FALSE(In<QPushButton>(setup, "cmdDelete").isEnabled());
+    Key(Qt::Key_Return);
+    EXPECT_EQ(model.Items().SelectedText(), "..");
+    Key(Qt::Key_Return);
+    EXPECT_EQ(model.Items().SelectedText(), "Dark");
+    Key(Qt::Key_Down);
+    EXPECT_TRUE(In<QPushButton>(setup, "cmdEdit").isEnabled());
+}
+
+TEST_F(CatalogueWindows, TheFilterLeavesWhatHoldsItsWords) {
+    DBSetupModel model(*context);
+    model.Choose(Catalogue::Hops);
+    frmDBSetup setup(model, nullptr);
+    Up(setup);
+    Key(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_EQ(Focus(), "txtFilter");
+    Type("sa");
+    EXPECT_EQ(model.Items().Count(), 1);
+    EXPECT_EQ(model.Items().SelectedText(), "Saaz");
+    Type("x");
+    EXPECT_EQ(model.Items().Count(), 0);
+    EXPECT_FALSE(In<QPushButton>(setup, "cmdEdit").isEnabled());
+    // The first Escape empties the box.
+    Key(Qt::Key_Escape);
+    EXPECT_TRUE(setup.isVisible());
+    EXPECT_EQ(model.Items().Count(), 3);
+    Type("f");
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Focus(), "lvItems");
+    // Another catalogue starts with all its rows.
+    In<QComboBox>(setup, "Combo1").setCurrentText(QStringLiteral("Grains"));
+    EXPECT_EQ(FromQt(In<QLineEdit>(setup, "txtFilter").text()), "");
+    EXPECT_EQ(model.Items().SelectedText(), "Pale Malt");
+}
+
+TEST_F(CatalogueWindows, TheMenuOpensSetupAndTheRecipesFollow) {
+    NewRecipe();
+    outside.dialogs.scripts.push_back([&](DialogModel& setup) {
+        outside.dialogs.scripts.push_back([](DialogModel& editor) {
+            editor.SetControl("Text1", "Altbier");
+            editor.Press("cmdOK");
+        });
+        setup.Press("cmdNew");
+        setup.Press("cmdClose");
+    });
+    EXPECT_TRUE(window.RunCommand("mnuToolsDataSetup"));
+    EXPECT_THAT(outside.dialogs.shown, ElementsAre("frmDBSetup", "frmStyle"));
+    EXPECT_GE(Find<QComboBox>("cmbStyle").findText(QStringLiteral("Altbier")), 0);
+}
+
+TEST_F(CatalogueWindows, APickerShowsItsRowToBeRead) {
+    NewRecipe();
+    outside.dialogs.scripts.push_back([&](DialogModel& picker) {
+        outside.dialogs.scripts.push_back([](DialogModel& editor) {
+            EXPECT_EQ(editor.Controls().front().text, "Fuggle");
+            EXPECT_FALSE(editor.SetControl("Text1", "x"));
+            editor.Press("cmdNext");
+            editor.Press("cmdCancel");
+        });
+        picker.Press("cmdView");
+        picker.Press("cmdOK");
+    });
+    shell.PickFromCatalogue(*shell.ActiveDocument(), PickList::Hop, "Fuggle");
+    EXPECT_THAT(outside.dialogs.shown, ElementsAre("frmLvShow", "frmHop"));
+    EXPECT_EQ(shell.ActiveDocument()->Record().gridHops.Text(1, 0), "Saaz");
+}
+
+}  // namespace
+}  // namespace tw::test

@@ -1,0 +1,94 @@
+// The windows of the catalogue as the shell shows them.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "shell/Shell.h"
+#include "support/RecordingPlatform.h"
+
+namespace tw::test {
+namespace {
+
+class ShellSetup : public testing::Test {
+  protected:
+    void SetUp() override { ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:")); }
+    void Next(std::function<void(DialogModel&)> work) { outside.dialogs.scripts.push_back(std::move(work)); }
+    // Whether the active document's list of styles holds the name.
+    bool Offers(const std::string& name) {
+        for (const auto& entry : shell.ActiveDocument()->Record().cmbStyle.Entries())
+            if (entry.text == name) return true;
+        return false;
+    }
+
+    RecordingPlatform outside;
+    Shell shell{outside.platform};
+};
+
+TEST_F(ShellSetup, AStyleIsMadeInAFolderForOthers) {
+    shell.CreateDocumentWindow("");
+    const std::int64_t dark = shell.Objects().CreateStyleFolder(0, "Dark", true);
+    Next([](DialogModel& editor) {
+        EXPECT_EQ(editor.FormName(), "frmStyle");
+        editor.SetControl("Text1", " Stout ");
+        editor.Press("cmdOK");
+    });
+    EXPECT_EQ(shell.EditStyle("", dark), "Stout");
+    EXPECT_TRUE(shell.Tree().NodeExists("S:1:1"));
+    EXPECT_TRUE(Offers("Stout"));
+}
+
+TEST_F(ShellSetup, AnEditedStyleGivesItsNameAndACancelledOneNothing) {
+    shell.CreateDocumentWindow("");
+    shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
+    shell.Objects().AddStyleNodesByName("Stout");
+    Next([](DialogModel& editor) {
+        EXPECT_EQ(editor.Controls().front().text, "Stout");
+        editor.SetControl("Text1", "Dry Stout");
+        editor.Press("cmdOK");
+    });
+    EXPECT_EQ(shell.EditStyle("stout", 0), "Dry Stout");
+    EXPECT_TRUE(Offers("Dry Stout"));
+    EXPECT_FALSE(Offers("Stout"));
+    Next([](DialogModel& editor) { editor.Press("cmdCancel"); });
+    EXPECT_EQ(shell.EditStyle("Dry Stout", 0), std::nullopt);
+}
+
+TEST_F(ShellSetup, TheDocumentsFollowWhenDatabaseSetupCloses) {
+    shell.CreateDocumentWindow("");
+    Next([&](DialogModel& setup) {
+        shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
+        EXPECT_FALSE(Offers("Stout"));
+        setup.Press("cmdClose");
+    });
+    EXPECT_TRUE(shell.RunMenu("mnuToolsDataSetup"));
+    EXPECT_TRUE(Offers("Stout"));
+}
+
+TEST_F(ShellSetup, TheRangesBesideTheFiguresFollowTheStyleWithoutAChange) {
+    shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID, IBU_LO) VALUES ('Stout', 0, 20)");
+    RecipeDocument& document = shell.CreateDocumentWindow("");
+    ASSERT_TRUE(document.ChangeStyle("Stout"));
+    bool saved = false;
+    document.SaveRecipeAs("Mine", 0, true, saved);
+    ASSERT_TRUE(saved);
+    Next([](DialogModel& editor) {
+        editor.SetControl("gridInfo(4,1)", "40");
+        editor.Press("cmdOK");
+    });
+    shell.EditStyle("Stout", 0);
+    EXPECT_EQ(document.Record().lblIBUStyle.Text(), "20 - 40");
+    EXPECT_FALSE(document.Changed());
+}
+
+TEST_F(ShellSetup, AnErrorInDatabaseSetupIsShownAndTheDocumentsFollow) {
+    shell.CreateDocumentWindow("");
+    Next([&](DialogModel&) {
+        shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
+        throw Error("Database", "The disk is full.", 13);
+    });
+    EXPECT_TRUE(shell.PressButton("Setup"));
+    EXPECT_THAT(outside.messages.log, testing::ElementsAre("[Error] The disk is full. (13)"));
+    EXPECT_TRUE(Offers("Stout"));
+}
+
+}  // namespace
+}  // namespace tw::test
