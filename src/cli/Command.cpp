@@ -7,7 +7,7 @@ namespace {
 
 constexpr auto kTopics = {CommandsOnValues, CommandsOfTools,   CommandsOnWater,   CommandsOnRecipes,
                           CommandsOnGrids,  CommandsOfEditing, CommandsOfScaling, CommandsOnTree,
-                          CommandsOnLists,  CommandsOnProgram};
+                          CommandsOnLists,  CommandsOfReports, CommandsOnProgram};
 
 }  // namespace
 

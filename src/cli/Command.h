@@ -39,6 +39,7 @@ std::span<const Command> CommandsOfEditing();
 std::span<const Command> CommandsOfScaling();
 std::span<const Command> CommandsOnTree();
 std::span<const Command> CommandsOnLists();
+std::span<const Command> CommandsOfReports();
 std::span<const Command> CommandsOnProgram();
 
 // All commands in the order of the help.

@@ -9,8 +9,9 @@
 #include "calc/RecipeRecord.h"
 #include "cli/ScriptPlatform.h"
 #include "document/RecipeDocument.h"
+#include "platform/SettingsStore.h"
 #include "platform/SystemClock.h"
-#include "shell/SettingsStore.h"
+#include "reports/ReportUnits.h"
 #include "shell/Shell.h"
 
 namespace tw {
@@ -40,6 +41,8 @@ class Session : private ShellView {
     AnswerQueue& Answers() { return answers_; }
     ScriptDialogs& Dialogs() { return dialogs_; }
     SettingsStore& Store() { return store_; }
+    // The options of the report wizard, kept from one report to the next.
+    ReportUnits& Units() { return units_; }
 
     // Ends the program as its Exit command does and starts it again. False when a question called it off.
     bool Restart();
@@ -63,6 +66,7 @@ class Session : private ShellView {
     SystemClock clock_;
     Platform platform_;
     SettingsStore store_;
+    ReportUnits units_;
     std::unique_ptr<Shell> shell_;
     bool exitGranted_ = false;
 };

@@ -100,9 +100,9 @@ TEST(Console, WritesTheRecentListAtItsEnd) {
 TEST(Console, RefusesWrongArgumentsOfEveryCommand) {
     // Too few for a command with a fixed first argument, too many for the others.
     const std::set<std::string_view> takesNothing = {
-        "new",  "save",    "close", "documents", "changed",   "swatch",   "slider",
-        "mru",  "restart", "undo",  "redo",      "undotype",  "redotype", "selectall",
-        "copy", "cut",     "clear", "paste",     "clipboard", "tree",     "treat"};
+        "new",     "save",  "close",     "documents", "changed",  "swatch",    "slider", "mru",
+        "restart", "undo",  "redo",      "undotype",  "redotype", "selectall", "copy",   "cut",
+        "clear",   "paste", "clipboard", "tree",      "treat",    "print"};
     // A text may be missing, or hold anything.
     const std::set<std::string_view> takesAnyText = {"answer", "setclipboard"};
     for (const Command& command : AllCommands()) {

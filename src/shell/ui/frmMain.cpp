@@ -10,11 +10,11 @@
 #include "document/ui/frmDocument.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/StoredColor.h"
 #include "shell/ui/CommandMenus.h"
 #include "shell/ui/DocumentArea.h"
 #include "shell/ui/Icons.h"
 #include "shell/ui/MainGeometry.h"
-#include "shell/ui/StoredColor.h"
 #include "shell/ui/frmSplash.h"
 
 namespace tw {
