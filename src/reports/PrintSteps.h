@@ -45,7 +45,7 @@ class FixedMeasure final : public TextMeasure {
 };
 
 // A device that writes down what is drawn on it, empty texts left out. Never fails.
-class StepRecorder final : public PrinterDevice {
+class StepRecorder : public PrinterDevice {
   public:
     // Both must outlive the device. steps is begun anew when a document starts.
     StepRecorder(PrintSize page, const TextMeasure& measure, PrintSteps& steps);

@@ -138,7 +138,6 @@ constexpr std::array kNotBuilt = std::to_array<std::string_view>({
     "mnuFileImport",
     "mnuFileExport",
     "mnuFileDelete",
-    "mnuFilePrint",
     "mnuToolsDataSetup",
     "mnuToolsExplorer",
     "mnuToolsAssistant",

@@ -16,6 +16,8 @@
 #include "document/RecipeDocument.h"
 #include "document/ScalingModel.h"
 #include "platform/Ports.h"
+#include "platform/SaveFilePort.h"
+#include "reports/PrinterPort.h"
 #include "shell/AutoSave.h"
 #include "shell/CommandBar.h"
 #include "shell/RecentList.h"
@@ -27,7 +29,6 @@
 #include "tree/TreeObjects.h"
 
 namespace tw {
-
 
 // The arrangements of the document windows.
 enum class Arrangement : int { Cascade, TileHorizontal, TileVertical };
@@ -51,6 +52,8 @@ class ShellView {
     virtual void GridColorsChanged(const RecipeDocument&) {}
     // The autosave timer is to run or to stand still.
     virtual void AutoSaveSwitched(bool /*on*/) {}
+    // Commands that other programs have sent are to be worked off (tmrProcessDDE), or to wait.
+    virtual void ProcessDDESwitched(bool /*on*/) {}
     // A recipe has edits that are kept nowhere: KeepUnsavedWork is due within a few seconds.
     virtual void UnsavedWorkWaits() {}
     // Ends the program (the close request has been granted, or the database could not be opened).
@@ -133,7 +136,6 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // SaveRecipeAs with the answer of the dialog given. silent asks nothing.
     bool SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId, bool silent);
 
-
     // Autosave. Switching it on counts the minutes from 0.
     bool DoAutoSave() const { return settings_.doAutoSave; }
     void SetDoAutoSave(bool on);
@@ -142,6 +144,17 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void TickAutoSave();
     // Saves all documents silently behind the progress window.
     void ShowAutoSave();
+
+    // Paper (ShellPrint.cpp). Without a port the commands below do nothing; both must outlive the shell.
+    void SetPrinter(PrinterPort* printer) { printer_ = printer; }
+    void SetSaveFiles(SaveFilePort* files) { saveFiles_ = files; }
+    // Prints the active document, nothing without one; quick takes the default printer without a dialog.
+    // Every failure is shown. Where there is no printer it offers a PDF file.
+    void PrintActiveDocument(bool quick);
+    // Shows the pages of the active document; nothing without one.
+    void PreviewActiveDocument();
+    // The wizard that makes report files. Its menu item is hidden: intended.
+    void ShowReportWizard();
 
     // Runs a menu item's action by its name. False when it is disabled or hidden, or unknown: nothing happens
     // then. An error that rises from the action is shown as Guard does.
@@ -227,6 +240,11 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void EnablePair(std::string_view item, std::string_view button, bool enabled);
     void EnablePairWithTwin(std::string_view item, std::string_view button, bool enabled);
     void ShowOpenDialog();
+    void SwitchProcessDDE(bool on);
+    PrinterAnswer::Result PrintThroughDialog(bool quick);
+    void PrintOn(std::unique_ptr<PrinterDevice> device);
+    void OfferPdf();
+    void SaveAsPdf(const PrintSteps& steps, Paper paper);
     // Asks for another figure of the active recipe and scales it to that; nothing while it has none.
     void ShowScaling(Scaling what);
     void Arrange(Arrangement arrangement);
@@ -257,6 +275,9 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool lastPasteEnable_ = false;
     AutoSaveMinutes autoSaveMinutes_;
     bool autoSaving_ = false;
+    PrinterPort* printer_ = nullptr;
+    SaveFilePort* saveFiles_ = nullptr;
+    bool printerConfigured_ = false;  // the printer dialog has been answered once
     std::string recoveryRoot_;
     std::unique_ptr<Recovery> recovery_;  // nullptr while nothing is kept
     std::set<std::string> editedKeys_;    // documents with edits that are not in their files

@@ -29,6 +29,7 @@ class RecordingView : public ShellView {
     }
     void UnsavedWorkWaits() override { log.emplace_back("unsaved work"); }
     void AutoSaveSwitched(bool on) override { log.emplace_back(on ? "autosave on" : "autosave off"); }
+    void ProcessDDESwitched(bool on) override { log.emplace_back(on ? "dde on" : "dde off"); }
     void CloseMainWindow() override { log.emplace_back("close main window"); }
 
     std::vector<std::string> log;
