@@ -1,56 +1,17 @@
 // Commands on what leaves the program on paper and in report files.
-#include <cmath>
-
 #include "cli/Command.h"
-#include "cli/ScriptFormat.h"
 #include "reports/PrintedRecipe.h"
 #include "reports/ReportFile.h"
-#include "values/NumberText.h"
-#include "values/Text.h"
 
 namespace tw {
 namespace {
 
 constexpr std::string_view kTypeWords[] = {"text", "html", "rtf"};
 
-// At most four decimals.
-std::string Inches(double value) {
-    constexpr double kScale = 1e4;
-    return NumberText(std::round(value * kScale) / kScale);
-}
-
-std::string Places(const PrintStep& step) {
-    return Inches(step.x1) + " " + Inches(step.y1) + " " + Inches(step.x2) + " " + Inches(step.y2);
-}
-
-std::string TextStep(const PrintStep& step) {
-    const PrintFont& font = step.font;
-    std::string style = font.bold ? "bold" : font.italic ? "" : "plain";
-    if (font.italic) style += "italic";
-    const bool quoted = font.family.find(' ') != std::string::npos;
-    const std::string family = quoted ? "\"" + font.family + "\"" : font.family;
-    return "text " + Inches(step.x1) + " " + Inches(step.y1) + " " + std::to_string(font.points) + " " +
-           style + " " + family + " " + EscapeText(step.text);
-}
-
-std::string StepLine(const PrintStep& step) {
-    switch (step.kind) {
-        case PrintStep::Kind::Text:
-            return TextStep(step);
-        case PrintStep::Kind::Line:
-            return "line " + Places(step);
-        case PrintStep::Kind::Box:
-            return "box " + Places(step) + " " + ColorText(step.color);
-        case PrintStep::Kind::Page:
-            break;
-    }
-    return "page";
-}
-
 void Print(Session& session, Arguments& arguments) {
     arguments.End();
-    const PrintSteps steps = LayOutRecipe(session.Record(), kLetterPaper, FixedMeasure());
-    for (const PrintStep& step : steps.steps) session.Out().Line(StepLine(step));
+    const RecipeRecord& recipe = session.Record();
+    PrintRecipe(recipe, session.Printer().MakeDevice());
 }
 
 ReportType TakeReportType(Arguments& arguments) {

@@ -38,6 +38,7 @@ Shell& Session::Program() {
     if (shell_) return *shell_;
     auto shell = std::make_unique<Shell>(platform_);
     shell->SetView(this);
+    shell->SetPrinter(&printer_);
     shell->LoadWindowSettings();
     if (!shell->PerformSplashScreenInit(databasePath_)) {
         shell->Unload(true);

@@ -8,6 +8,7 @@
 
 #include "calc/RecipeRecord.h"
 #include "cli/ScriptPlatform.h"
+#include "cli/ScriptPrinter.h"
 #include "document/RecipeDocument.h"
 #include "platform/SettingsStore.h"
 #include "platform/SystemClock.h"
@@ -43,6 +44,7 @@ class Session : private ShellView {
     SettingsStore& Store() { return store_; }
     // The options of the report wizard, kept from one report to the next.
     ReportUnits& Units() { return units_; }
+    ScriptPrinter& Printer() { return printer_; }
 
     // Ends the program as its Exit command does and starts it again. False when a question called it off.
     bool Restart();
@@ -67,6 +69,7 @@ class Session : private ShellView {
     Platform platform_;
     SettingsStore store_;
     ReportUnits units_;
+    ScriptPrinter printer_{out_};
     std::unique_ptr<Shell> shell_;
     bool exitGranted_ = false;
 };

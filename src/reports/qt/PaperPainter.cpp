@@ -12,10 +12,23 @@ namespace {
 // Thin, and still seen on paper of any resolution.
 constexpr double kPenPoints = 0.5;
 
+// Faces of the same widths, for systems that lack the two of a printed recipe.
+QStringList Families(const std::string& family) {
+    QStringList families{ToQt(family)};
+    if (family == "Arial")
+        families << QStringLiteral("Liberation Sans") << QStringLiteral("Arimo")
+                 << QStringLiteral("Nimbus Sans") << QStringLiteral("Helvetica");
+    if (family == "Times New Roman")
+        families << QStringLiteral("Liberation Serif") << QStringLiteral("Tinos")
+                 << QStringLiteral("Nimbus Roman") << QStringLiteral("Times");
+    return families;
+}
+
 }  // namespace
 
 QFont PaperFont(const PrintFont& font, double dpi) {
-    QFont face(ToQt(font.family));
+    QFont face;
+    face.setFamilies(Families(font.family));
     face.setStyleHint(font.family.find("Times") == std::string::npos ? QFont::SansSerif : QFont::Serif);
     face.setPixelSize(std::max(1, static_cast<int>(std::lround(dpi / kPointsPerInch * font.points))));
     face.setBold(font.bold);

@@ -67,6 +67,7 @@ frmPrintFmtOptions::frmPrintFmtOptions(PrintFmtOptionsModel& model, ColorChooser
     connect(buttons, &QDialogButtonBox::rejected, this, [this] { Press("cmdCancel"); });
     column->addWidget(buttons);
     ShowModel();
+    if (auto* width = findChild<QLineEdit*>(QStringLiteral("txtCols"))) width->selectAll();
 }
 
 std::function<std::unique_ptr<QDialog>(DialogModel&, QWidget*)> frmPrintFmtOptions::Factory(

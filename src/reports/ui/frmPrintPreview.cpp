@@ -46,6 +46,11 @@ frmPrintPreview::frmPrintPreview(PrintPreviewModel& model, QWidget* parent) : QD
     ShowModel();
 }
 
+// A window that goes takes the focus from its box, which would tell of an entry.
+frmPrintPreview::~frmPrintPreview() {
+    pageNumber_->disconnect(this);
+}
+
 std::unique_ptr<QDialog> frmPrintPreview::Make(DialogModel& model, QWidget* parent) {
     return std::make_unique<frmPrintPreview>(dynamic_cast<PrintPreviewModel&>(model), parent);
 }

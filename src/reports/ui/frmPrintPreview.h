@@ -23,6 +23,7 @@ class frmPrintPreview final : public QDialog {
   public:
     // The model must outlive the dialog.
     frmPrintPreview(PrintPreviewModel& model, QWidget* parent);
+    ~frmPrintPreview() override;
     // Makes the windows of PrintPreviewModels.
     static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
