@@ -18,6 +18,12 @@
 #include "help/qt/QtBrowser.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtDialogs.h"
+#include "reports/ChooseFontModel.h"
+#include "reports/PrintFmtOptionsModel.h"
+#include "reports/PrintPreviewModel.h"
+#include "reports/PrintWizardModel.h"
+#include "reports/PrintedRecipe.h"
+#include "reports/qt/PaperPainter.h"
 #include "shell/AboutModel.h"
 #include "shell/CopyProgressModel.h"
 #include "shell/ImportExportModel.h"
@@ -181,6 +187,33 @@ bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStr
     return ok;
 }
 
+// The preview, the report wizard page by page, and its options.
+bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
+    bool ok = true;
+    if (const RecipeDocument* document = shell.ActiveDocument()) {
+        const PaperMeasure measure;
+        PrintPreviewModel preview(
+            {[&](PrintSize area) { return LayOutRecipe(document->Record(), area, measure); }, [] {},
+             [](const PrintSteps&, Paper) {}},
+            Paper::A4);
+        ok &= SaveDialog(dialogs, preview, parent, prefix + QStringLiteral("print-preview.png"));
+    }
+    PrintedMessages messages;
+    PrintWizardModel wizard({*shell.DB(), shell.Tree(), shell.Store(), messages, dialogs, nullptr}, 0);
+    wizard.Chooser().Add(kAllRecipesKey);
+    for (int page = 0; page < PrintWizardModel::kPages; ++page) {
+        ok &= SaveDialog(dialogs, wizard, parent, QStringLiteral("%1report-%2.png").arg(prefix).arg(page));
+        wizard.Press("cmdNext");
+    }
+    for (const ReportType type : {ReportType::Text, ReportType::Html, ReportType::RichText}) {
+        PrintFmtOptionsModel options(type, shell.Store(), dialogs);
+        ok &= SaveDialog(dialogs, options, parent,
+                         QStringLiteral("%1report-options-%2.png").arg(prefix).arg(static_cast<int>(type)));
+    }
+    ChooseFontModel font(ReportOptions().title, kWhite, true);
+    return ok && SaveDialog(dialogs, font, parent, prefix + QStringLiteral("choose-font.png"));
+}
+
 bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
     AboutModel about;
     bool ok = SaveDialog(dialogs, about, window, prefix + QStringLiteral("about.png"));
@@ -192,6 +225,7 @@ bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QStrin
     ok &= SaveChoosers(dialogs, shell, window, prefix);
     ok &= SaveExchange(dialogs, shell, window, prefix);
     ok &= SaveCatalogue(dialogs, shell, window, prefix);
+    ok &= SaveReports(dialogs, shell, window, prefix);
     if (RecipeDocument* document = shell.ActiveDocument()) {
         DetailsModel strength = StrengthDetailsOf(*document), volume = FinalVolDetailsOf(*document),
                      hops = HopDetailsOf(*document);

@@ -29,8 +29,14 @@
 #include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtMessages.h"
+#include "platform/qt/QtSaveFile.h"
 #include "platform/qt/QtSettings.h"
 #include "platform/qt/QtText.h"
+#include "reports/qt/QtPrinters.h"
+#include "reports/ui/frmChooseFont.h"
+#include "reports/ui/frmPrintFmtOptions.h"
+#include "reports/ui/frmPrintPreview.h"
+#include "reports/ui/frmPrintWizard.h"
 #include "shell/Shell.h"
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/ExchangeForms.h"
@@ -64,6 +70,10 @@ void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     dialogs.Register("frmOpenSave", &OpenSaveDialog::Make);
     dialogs.Register("frmRecovery", &RecoveryDialog::Make);
     dialogs.Register("frmOptions", frmOptions::Factory(colors));
+    dialogs.Register("frmPrintPreview", &frmPrintPreview::Make);
+    dialogs.Register("frmPrintWizard", &frmPrintWizard::Make);
+    dialogs.Register("frmPrintFmtOptions", frmPrintFmtOptions::Factory(colors));
+    dialogs.Register("frmChooseFont", frmChooseFont::Factory(colors));
     dialogs.Register("frmConvertUnits", &frmConvertUnits::Make);
     dialogs.Register("frmHydrometer", &frmHydrometer::Make);
     dialogs.Register("frmHopUtil", &frmHopUtil::Make);
@@ -164,6 +174,10 @@ int Run(int argc, char** argv) {
     dialogs.SetHelp([&shell](const std::string& form, int tab) {
         shell.ShowContextHelp(form, tab > 0 ? TabContext(tab) : std::string(kWholeWindow));
     });
+    QtPrinters printers;
+    shell.SetPrinter(&printers);
+    QtSaveFile saveFiles;
+    shell.SetSaveFiles(&saveFiles);
     frmMain window(shell, platform);
     DesktopColors colors;
     window.show();

@@ -8,7 +8,7 @@ namespace {
 constexpr auto kTopics = {
     CommandsOnValues,    CommandsOfTools,     CommandsOnWater,   CommandsOnRecipes, CommandsOnGrids,
     CommandsOfEditing,   CommandsOfScaling,   CommandsOnTree,    CommandsOnLists,   CommandsOfExchange,
-    CommandsFromOutside, CommandsOnCatalogue, CommandsOnProgram, CommandsOfHelp,
+    CommandsFromOutside, CommandsOnCatalogue, CommandsOfReports, CommandsOnProgram, CommandsOfHelp,
 };
 
 }  // namespace

@@ -46,6 +46,7 @@ std::span<const Command> CommandsOnLists();
 std::span<const Command> CommandsOfExchange();
 std::span<const Command> CommandsFromOutside();
 std::span<const Command> CommandsOnCatalogue();
+std::span<const Command> CommandsOfReports();
 std::span<const Command> CommandsOnProgram();
 std::span<const Command> CommandsOfHelp();
 

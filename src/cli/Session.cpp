@@ -41,6 +41,7 @@ Shell& Session::Program() {
     shell->SetView(this);
     shell->SetProgramFolder(programFolder_);
     shell->SetHelp(&HelpPages());
+    shell->SetPrinter(&printer_);
     shell->LoadWindowSettings();
     if (!shell->PerformSplashScreenInit(databasePath_)) {
         shell->Unload(true);

@@ -10,10 +10,12 @@
 #include "calc/RecipeRecord.h"
 #include "cli/ScriptHelp.h"
 #include "cli/ScriptPlatform.h"
+#include "cli/ScriptPrinter.h"
 #include "document/RecipeDocument.h"
 #include "help/Help.h"
+#include "platform/SettingsStore.h"
 #include "platform/SystemClock.h"
-#include "shell/SettingsStore.h"
+#include "reports/ReportUnits.h"
 #include "shell/Shell.h"
 
 namespace tw {
@@ -49,6 +51,9 @@ class Session : private ShellView {
     AnswerQueue& Answers() { return answers_; }
     ScriptDialogs& Dialogs() { return dialogs_; }
     SettingsStore& Store() { return store_; }
+    // The options of the report wizard, kept from one report to the next.
+    ReportUnits& Units() { return units_; }
+    ScriptPrinter& Printer() { return printer_; }
 
     // Ends the program as its Exit command does and starts it again. False when a question called it off.
     bool Restart();
@@ -75,6 +80,8 @@ class Session : private ShellView {
     ScriptHelp helpPlatform_;
     std::optional<Help> help_;
     SettingsStore store_;
+    ReportUnits units_;
+    ScriptPrinter printer_{out_};
     std::unique_ptr<Shell> shell_;
     bool exitGranted_ = false;
 };

@@ -136,7 +136,6 @@ constexpr ButtonRow kButtons[] = {
 // enabling rules say. The feature that comes takes its names off this list.
 constexpr std::array kNotBuilt = std::to_array<std::string_view>({
     "mnuFileDelete",
-    "mnuFilePrint",
     "mnuToolsExplorer",
 });
 

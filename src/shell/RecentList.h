@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/SettingsStore.h"
 #include "shell/CommandBar.h"
-#include "shell/SettingsStore.h"
 
 namespace tw {
 

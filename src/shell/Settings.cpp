@@ -2,15 +2,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <limits>
 #include <span>
 #include <variant>
 
-#include "platform/Error.h"
+#include "reports/ReportOptions.h"
 #include "shell/RecentList.h"
 #include "values/NumberText.h"
-#include "values/Text.h"
+#include "values/SettingText.h"
 
 namespace tw {
 namespace {
@@ -97,33 +96,11 @@ struct Reader {
     Settings& settings;
     std::string_view text;
 
-    bool operator()(const Real& real) const {
-        double value = 0;
-        if (!ReadNumber(Trim(text), value)) return false;
-        settings.*real.field = value;
-        return true;
-    }
+    bool operator()(const Real& real) const { return ReadReal(text, settings.*real.field); }
     bool operator()(const Integer& integer) const {
-        double value = 0;
-        if (!ReadNumber(Trim(text), value)) return false;
-        value = std::round(value);
-        if (value < integer.least || value > integer.most) return false;
-        settings.*integer.field = static_cast<int>(value);
-        return true;
+        return ReadWhole(text, integer.least, integer.most, settings.*integer.field);
     }
-    bool operator()(const Flag& flag) const {
-        double value = 0;
-        if (SameName(text, "True")) {
-            settings.*flag.field = true;
-        } else if (SameName(text, "False")) {
-            settings.*flag.field = false;
-        } else if (ReadNumber(Trim(text), value)) {
-            settings.*flag.field = value != 0;
-        } else {
-            return false;
-        }
-        return true;
-    }
+    bool operator()(const Flag& flag) const { return ReadFlag(text, settings.*flag.field); }
     bool operator()(const TextValue& value) const {
         settings.*value.field = text;
         return true;
@@ -143,13 +120,7 @@ struct Writer {
 
 // A text of the wrong form, put there from outside, counts as not present.
 void TakeText(Settings& settings, const KeyRow& row, std::string_view text) {
-    bool read = false;
-    try {
-        read = std::visit(Reader{settings, text}, row.field);
-    } catch (const Error&) {
-        // More digits than a number can hold.
-    }
-    if (!read) std::visit(Reader{settings, row.fallback}, row.field);
+    if (!std::visit(Reader{settings, text}, row.field)) std::visit(Reader{settings, row.fallback}, row.field);
 }
 
 void LoadKeys(Settings& settings, const SettingsStore& store, KeyRows rows) {
@@ -162,47 +133,6 @@ void StoreKeys(const Settings& settings, const SettingsStore& store, KeyRows row
     for (const KeyRow& row : rows) {
         store.SaveSetting(kSettingsSection, row.key, std::visit(Writer{settings}, row.field), false);
     }
-}
-
-struct DefaultRow {
-    std::string_view key;
-    std::string_view fallback;
-};
-
-constexpr DefaultRow kTextOptions[] = {{"NumColumns", "75"}, {"PageBreak", "1"}, {"Append", "0"}};
-constexpr DefaultRow kHtmlOptions[] = {{"BGColor", "16777215"}, {"HorzRuler", "1"}};
-constexpr DefaultRow kRtfOptions[] = {
-    {"TitleBColor", "16777215"}, {"LabelBColor", "16777215"}, {"TextBColor", "16777215"}, {"PageBreak", "1"}};
-constexpr DefaultRow kFontOptions[] = {
-    {"TitleFont", "MS Sans Serif"},
-    {"TitleSize", "12"},
-    {"TitleBold", "1"},
-    {"TitleItalic", "0"},
-    {"TitleUnderline", "0"},
-    {"TitleStrikethru", "0"},
-    {"TitleColor", "0"},
-    {"LabelFont", "MS Sans Serif"},
-    {"LabelSize", "10"},
-    {"LabelBold", "1"},
-    {"LabelItalic", "0"},
-    {"LabelUnderline", "0"},
-    {"LabelStrikethru", "0"},
-    {"LabelColor", "0"},
-    {"TextFont", "MS Sans Serif"},
-    {"TextSize", "10"},
-    {"TextBold", "0"},
-    {"TextItalic", "0"},
-    {"TextUnderline", "0"},
-    {"TextStrikethru", "0"},
-    {"TextColor", "0"},
-};
-
-template <typename Rows>
-std::optional<std::string> FindDefault(const Rows& rows, std::string_view key) {
-    for (const auto& row : rows) {
-        if (row.key == key) return std::string(row.fallback);
-    }
-    return std::nullopt;
 }
 
 std::optional<std::string> RecentDefault(std::string_view key) {
@@ -240,13 +170,11 @@ bool Settings::Take(std::string_view key, std::string_view text) {
 }
 
 std::optional<std::string> Settings::DefaultOf(std::string_view section, std::string_view key) {
-    if (section == kSettingsSection) return FindDefault(kKeys, key);
     if (section == kMruSection) return RecentDefault(key);
-    if (section == "TextOptions") return FindDefault(kTextOptions, key);
-    const bool html = section == "HTMLOptions";
-    if (!html && section != "RTFOptions") return std::nullopt;
-    if (auto font = FindDefault(kFontOptions, key)) return font;
-    return html ? FindDefault(kHtmlOptions, key) : FindDefault(kRtfOptions, key);
+    if (section != kSettingsSection) return ReportOptionDefault(section, key);
+    const auto row = std::ranges::find(kKeys, key, &KeyRow::key);
+    if (row == kKeys.end()) return std::nullopt;
+    return std::string(row->fallback);
 }
 
 }  // namespace tw

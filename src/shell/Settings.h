@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/SettingsStore.h"
+#include "platform/SettingsStore.h"
 
 namespace tw {
 

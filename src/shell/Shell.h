@@ -18,6 +18,8 @@
 #include "document/ScalingModel.h"
 #include "help/Help.h"
 #include "platform/Ports.h"
+#include "platform/SaveFilePort.h"
+#include "reports/PrinterPort.h"
 #include "shell/AutoSave.h"
 #include "shell/CommandBar.h"
 #include "shell/DDEService.h"
@@ -191,6 +193,16 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // The assistant, if the settings want it; its box and then its link are carried out. The last step of the
     // start.
     void ShowAssistantAtStartup();
+    // Paper (ShellPrint.cpp). Without a port the commands below do nothing; both must outlive the shell.
+    void SetPrinter(PrinterPort* printer) { printer_ = printer; }
+    void SetSaveFiles(SaveFilePort* files) { saveFiles_ = files; }
+    // Prints the active document, nothing without one; quick takes the default printer without a dialog.
+    // Every failure is shown. Where there is no printer it offers a PDF file.
+    void PrintActiveDocument(bool quick);
+    // Shows the pages of the active document; nothing without one.
+    void PreviewActiveDocument();
+    // The wizard that makes report files. Its menu item is hidden: intended.
+    void ShowReportWizard();
 
     // Runs a menu item's action by its name. False when it is disabled or hidden, or unknown: nothing happens
     // then. An error that rises from the action is shown as Guard does.
@@ -285,6 +297,10 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void ShowDatabaseSetup();
     // Shows the selected row of a picker's list, and those around it, to be read.
     void ViewCatalogueRow(PickList type, ListTable& items);
+    PrinterAnswer::Result PrintThroughDialog(bool quick);
+    void PrintOn(std::unique_ptr<PrinterDevice> device);
+    void OfferPdf();
+    void SaveAsPdf(const PrintSteps& steps, Paper paper);
     // Asks for another figure of the active recipe and scales it to that; nothing while it has none.
     void ShowScaling(Scaling what);
     void Arrange(Arrangement arrangement);
@@ -324,8 +340,11 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     AutoSaveMinutes autoSaveMinutes_;
     bool autoSaving_ = false;
     bool exchanging_ = false;  // recipes are being copied from or to a file
+    PrinterPort* printer_ = nullptr;
+    SaveFilePort* saveFiles_ = nullptr;
+    bool printerConfigured_ = false;  // the printer dialog has been answered once
     std::string recoveryRoot_;
-    std::string programFolder_;  // empty: the product's own files are not used
+    std::string programFolder_;           // empty: the product's own files are not used
     std::unique_ptr<Recovery> recovery_;  // nullptr while nothing is kept
     std::set<std::string> editedKeys_;    // documents with edits that are not in their files
 };

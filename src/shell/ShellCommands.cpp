@@ -43,6 +43,10 @@ const Shell::ActionRow Shell::kFileActions[] = {
     {"mnuFileSaveAll", [](Shell& s) { s.SaveAllDocuments(); }},
     {"mnuFileImport", [](Shell& s) { s.Exchange([](RecipeExchange& files) { files.Import(); }); }},
     {"mnuFileExport", [](Shell& s) { s.Exchange([](RecipeExchange& files) { files.Export(); }); }},
+    {"mnuFilePrint", [](Shell& s) { s.PrintActiveDocument(false); }},
+    // The toolbar's button, by its key.
+    {"Print", [](Shell& s) { s.PrintActiveDocument(s.settings_.quickPrintFromToolbar); }},
+    {"mnuFileReport", [](Shell& s) { s.ShowReportWizard(); }},
     {"mnuFileExit",
      [](Shell& s) {
          if (s.RequestExit() && s.view_) s.view_->CloseMainWindow();
@@ -158,7 +162,9 @@ bool Shell::RunMenu(std::string_view name) {
 
 bool Shell::PressButton(std::string_view key) {
     const ToolButton* button = bar_.FindButton(key);
-    return button && button->enabled && RunAction(button->menuItem);
+    if (!button || !button->enabled) return false;
+    // A button whose action differs from its menu item's has one of its own.
+    return RunAction(FindAction(key) ? key : std::string_view(button->menuItem));
 }
 
 void Shell::ShowOpenDialog() {

@@ -103,7 +103,7 @@ TEST(Console, RefusesWrongArgumentsOfEveryCommand) {
     const std::set<std::string_view> takesNothing = {
         "new",     "save",  "close",     "documents", "changed",  "swatch",    "slider", "mru",
         "restart", "undo",  "redo",      "undotype",  "redotype", "selectall", "copy",   "cut",
-        "clear",   "paste", "clipboard", "tree",      "treat",    "contents"};
+        "clear",   "paste", "clipboard", "tree",      "treat",    "contents",  "print"};
     // A text may be missing, or hold anything.
     const std::set<std::string_view> takesAnyText = {"answer", "setclipboard", "dde"};
     for (const Command& command : AllCommands()) {

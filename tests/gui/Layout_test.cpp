@@ -16,6 +16,10 @@
 #include "help/ui/frmAssistant.h"
 #include "help/ui/frmHelpContents.h"
 #include "platform/qt/Appearance.h"
+#include "reports/ui/frmChooseFont.h"
+#include "reports/ui/frmPrintFmtOptions.h"
+#include "reports/ui/frmPrintPreview.h"
+#include "reports/ui/frmPrintWizard.h"
 #include "shell/AboutModel.h"
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
@@ -25,8 +29,8 @@
 #include "shell/ui/frmImportExport.h"
 #include "shell/ui/frmNameConflict.h"
 #include "shell/ui/frmOptions.h"
-#include "support/RecordingHelp.h"
 #include "shell/ui/frmStylesNotImported.h"
+#include "support/RecordingHelp.h"
 #include "tools/ui/frmColor.h"
 #include "tools/ui/frmConvertUnits.h"
 #include "tools/ui/frmHopUtil.h"
@@ -78,6 +82,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         ForEachChooser(visit);
         ForEachExchange(visit);
         ForEachEditor(visit);
+        ForEachReport(visit);
         for (const Scaling what :
              {Scaling::Size, Scaling::Strength, Scaling::Bitterness, Scaling::Carbonation}) {
             ScalingModel scaling(what, "12.75 gal.", outside.messages);
@@ -181,6 +186,40 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
                 visit(*dialog);
             }
         }
+    }
+
+    // The preview, every page of the report wizard, and the options of reports.
+    void ForEachReport(const std::function<void(QWidget&)>& visit) {
+        const auto show = [&](QDialog& dialog) {
+            dialog.show();
+            QApplication::processEvents();
+            visit(dialog);
+        };
+        QtColorChooser colors;
+        PrintPreviewModel preview({[](PrintSize) {
+                                       return PrintSteps{"Porter", kLetterPaper, std::vector<PrintStep>(12)};
+                                   },
+                                   [] {}, [](const PrintSteps&, Paper) {}},
+                                  Paper::A4);
+        preview.SetControl("txtPage", "11");
+        frmPrintPreview previewWindow(preview, nullptr);
+        show(previewWindow);
+        PrintWizardModel wizard(
+            {*shell.DB(), shell.Tree(), shell.Store(), outside.messages, outside.dialogs, nullptr}, 0);
+        wizard.Chooser().Add("F:-1");
+        for (int page = 0; page < PrintWizardModel::kPages; ++page) {
+            frmPrintWizard wizardWindow(wizard, nullptr);
+            show(wizardWindow);
+            wizard.Press("cmdNext");
+        }
+        for (const ReportType type : {ReportType::Text, ReportType::Html, ReportType::RichText}) {
+            PrintFmtOptionsModel options(type, shell.Store(), outside.dialogs);
+            frmPrintFmtOptions optionsWindow(options, colors, nullptr);
+            show(optionsWindow);
+        }
+        ChooseFontModel font(ReportFont{}, kWhite, true);
+        frmChooseFont fontWindow(font, colors, nullptr);
+        show(fontWindow);
     }
 
     // The unit converter with each of its kinds.

@@ -2,7 +2,7 @@
 #include <QtTest/QSignalSpy>
 
 #include "GuiTest.h"
-#include "shell/ui/ColorButton.h"
+#include "platform/qt/ColorButton.h"
 #include "shell/ui/Icons.h"
 #include "shell/ui/UpDown.h"
 #include "shell/ui/frmOptions.h"

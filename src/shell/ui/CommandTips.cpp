@@ -21,7 +21,7 @@ constexpr Tip kTips[] = {
     {"mnuFileImport", "Reads recipes from an exchange file into the database."},
     {"mnuFileExport", "Writes recipes of the database to an exchange file."},
     {"mnuFileDelete", "Deletes a recipe from the database."},
-    {"mnuFilePrint", "Prints the recipe in front."},
+    {"mnuFilePrint", "Prints the recipe in front; Ctrl+Shift+P shows its pages first."},
     {"mnuFileReport", "Writes recipes to a report file."},
     {"mnuFileExit", "Closes all recipes and ends Tunwright."},
     {"mnuEditUndo", "Takes the last change back."},

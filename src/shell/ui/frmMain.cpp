@@ -5,18 +5,19 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QMenu>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 
 #include "document/ui/frmDocument.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/StoredColor.h"
 #include "shell/ui/CommandMenus.h"
 #include "shell/ui/DocumentArea.h"
 #include "shell/ui/FileDrop.h"
 #include "shell/ui/Icons.h"
 #include "shell/ui/MainGeometry.h"
-#include "shell/ui/StoredColor.h"
 #include "shell/ui/frmSplash.h"
 #include "values/Text.h"
 
@@ -82,6 +83,10 @@ frmMain::frmMain(Shell& shell, Platform& platform)
         if (shell_.ActiveDocument() != &document) shell_.Guard([&] { shell_.Activate(document); });
     });
     connect(menus_->Menu(QStringLiteral("mnuWindow")), &QMenu::aboutToShow, this, &frmMain::FillWindowMenu);
+    auto* preview = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P), this);
+    connect(preview, &QShortcut::activated, this, [this] {
+        if (FlushBefore("mnuFilePrint")) shell_.Guard([this] { shell_.PreviewActiveDocument(); });
+    });
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
             [this] { shell_.ReapplyPasteState(); });
 }

@@ -14,10 +14,10 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/Appearance.h"
+#include "platform/qt/ColorButton.h"
 #include "platform/qt/FocusMoves.h"
 #include "platform/qt/QtText.h"
-#include "shell/ui/ColorButton.h"
-#include "shell/ui/StoredColor.h"
+#include "platform/qt/StoredColor.h"
 #include "shell/ui/UpDown.h"
 
 namespace tw {

@@ -38,7 +38,7 @@ RecipeChooserView::RecipeChooserView(RecipeChooser& chooser, QWidget* parent)
     AddButton(*moves, "cmdTop", tr("&Top"), tr("Moves the chosen recipe to the top"));
     AddButton(*moves, "cmdUp", tr("&Up"), tr("Moves the chosen recipe one line up"));
     AddButton(*moves, "cmdDown", tr("&Down"), tr("Moves the chosen recipe one line down"));
-    AddButton(*moves, "cmdBottom", tr("&Bottom"), tr("Moves the chosen recipe to the bottom"));
+    AddButton(*moves, "cmdBottom", tr("B&ottom"), tr("Moves the chosen recipe to the bottom"));
     moves->addStretch();
     row->addLayout(moves);
     chooser_.SetObserver(this);

@@ -1,4 +1,4 @@
-#include "shell/ui/ColorButton.h"
+#include "platform/qt/ColorButton.h"
 
 #include <QPainter>
 

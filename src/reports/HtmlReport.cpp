@@ -1,0 +1,62 @@
+#include "reports/HtmlReport.h"
+
+#include <algorithm>
+#include <string>
+
+#include "reports/ReportText.h"
+
+namespace tw {
+namespace {
+
+// The sizes of HTML, which begin far below those in points and have no upper end here.
+int SizeOf(const ReportFont& font) {
+    constexpr double kHighest = 1000;
+    return static_cast<int>(std::clamp((font.points - 6) / 2, 0.0, kHighest));
+}
+
+}  // namespace
+
+void HtmlReport::Line(std::string line) {
+    stream_.Write(line.append("\r\n"));
+}
+
+void HtmlReport::BeginReport() {
+    Line("<HTML>");
+    Line("<HEAD>");
+    Line("<TITLE>Tunwright Recipes</TITLE>");
+    Line("</HEAD>");
+    Line("<BODY BGCOLOR=" + HtmlColor(options_.bgColor) + " TEXT=" + HtmlColor(options_.text.color) + ">");
+}
+
+void HtmlReport::EndReport() {
+    Line("</BODY>");
+    Line("</HTML>");
+}
+
+void HtmlReport::ReportSeparator() {
+    Line(options_.horizontalRulers ? "<BR><HR><BR>" : "<P>&nbsp;</P>");
+}
+
+void HtmlReport::ReportNewLine() {
+    Line("<BR>");
+}
+
+void HtmlReport::Write(const ReportFont& font, std::string_view text, bool centred) {
+    std::string line = centred ? "<CENTER>" : "";
+    line += "<FONT FACE=\"" + HtmlText(font.face) + "\" COLOR=" + HtmlColor(font.color) +
+            " SIZE=" + std::to_string(SizeOf(font)) + ">";
+    if (font.bold) line += "<B>";
+    if (font.italic) line += "<I>";
+    if (font.underline) line += "<U>";
+    if (font.strikethru) line += "<STRIKE>";
+    line += HtmlText(text);
+    if (font.strikethru) line += "</STRIKE>";
+    if (font.underline) line += "</U>";
+    if (font.italic) line += "</I>";
+    if (font.bold) line += "</B>";
+    line += "</FONT>";
+    if (centred) line += "</CENTER>";
+    Line(std::move(line));
+}
+
+}  // namespace tw

@@ -1,0 +1,86 @@
+#include "reports/ReportUnits.h"
+
+#include "values/Converter.h"
+#include "values/NumberText.h"
+#include "values/SettingText.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+constexpr double kAlcoholDensity = 0.794;
+
+using Option = ReportUnitGroup::Option;
+constexpr Option kVolumes[] = {
+    {"optVolAsIs", "As Is"}, {"optVolGallons", "Gallons"}, {"optVolLiters", "Liters"}};
+constexpr Option kGrainWeights[] = {
+    {"optGrAsIs", "As Is"}, {"optGrPounds", "Pounds"}, {"optGrKGs", "Kilograms"}};
+constexpr Option kHopWeights[] = {
+    {"optHopAsIs", "As Is"}, {"optHopOunces", "Ounces"}, {"optHopGrams", "Grams"}};
+constexpr Option kGravities[] = {{"optSGSG", "Specific Gravity"}, {"optSGPlato", "Degrees Plato"}};
+constexpr Option kAlcohols[] = {{"optAlcBV", "By Volume"}, {"optAlcBW", "By Weight"}};
+
+constexpr ReportUnitGroup kGroups[] = {{"Volume", kVolumes},
+                                       {"Grain/Extract Weight", kGrainWeights},
+                                       {"Hop Weight", kHopWeights},
+                                       {"Gravity", kGravities},
+                                       {"Alcohol", kAlcohols}};
+
+// Group and place of the option of that name; false for an unknown one.
+bool Find(std::string_view option, std::size_t& group, std::size_t& place) {
+    for (group = 0; group < std::size(kGroups); ++group)
+        for (place = 0; place < kGroups[group].options.size(); ++place)
+            if (kGroups[group].options[place].name == option) return true;
+    return false;
+}
+
+}  // namespace
+
+std::span<const ReportUnitGroup> ReportUnitGroups() {
+    return kGroups;
+}
+
+ReportUnits::ReportUnits() : chosen_(std::size(kGroups), 0) {}
+
+bool ReportUnits::Knows(std::string_view option) const {
+    std::size_t group = 0, place = 0;
+    return Find(option, group, place);
+}
+
+bool ReportUnits::Choose(std::string_view option) {
+    std::size_t group = 0, place = 0;
+    if (!Find(option, group, place)) return false;
+    chosen_[group] = place;
+    return true;
+}
+
+bool ReportUnits::IsChosen(std::string_view option) const {
+    std::size_t group = 0, place = 0;
+    return Find(option, group, place) && chosen_[group] == place;
+}
+
+std::string ReportUnits::Gravity(std::optional<double> gravity) const {
+    if (!gravity) return {};
+    if (IsChosen("optSGSG")) return FormatNumber(*gravity, "0.000");
+    return FormatNumber(SGToPlato(*gravity), "0.000") + "° Plato";
+}
+
+std::string ReportUnits::Alcohol(const std::optional<std::string>& abv,
+                                 std::optional<double> finalGravity) const {
+    if (!abv) return {};
+    if (IsChosen("optAlcBV")) return std::string(Trim(*abv));
+    if (!finalGravity) return {};
+    double percent = 0;
+    if (!ReadReal(std::string_view(*abv).substr(0, abv->find('%')), percent) || *finalGravity == 0)
+        return "?";
+    return FormatNumber(percent * kAlcoholDensity / *finalGravity, "0.0") + "% abw";
+}
+
+std::string ReportUnits::Volume(const std::optional<std::string>& text, std::optional<double> gallons) const {
+    if (IsChosen("optVolAsIs")) return text.value_or(std::string());
+    if (!gallons) return {};
+    if (IsChosen("optVolGallons")) return FormatNumber(*gallons, "0.00") + " Gallons";
+    return FormatNumber(*gallons * kLitersPerGallon, "0.00") + " Liters";
+}
+
+}  // namespace tw

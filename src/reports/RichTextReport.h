@@ -1,0 +1,28 @@
+// A report as rich text (RTF).
+#pragma once
+
+#include "reports/ReportWriter.h"
+
+namespace tw {
+
+class RichTextReport final : public ReportWriter {
+  public:
+    RichTextReport(const ReportOptions& options, ReportStream& stream) : options_(options), stream_(stream) {}
+
+    void BeginReport() override;
+    void EndReport() override;
+    void ReportSeparator() override;
+    void ReportNewLine() override;
+    void WriteTitle(std::string_view text, bool centred) override;
+    void WriteLabel(std::string_view text, bool centred) override;
+    void WriteText(std::string_view text, bool centred) override;
+
+  private:
+    void Write(const ReportFont& font, std::string_view colors, std::string_view text, bool centred);
+    void Line(std::string line);
+
+    ReportOptions options_;
+    ReportStream& stream_;
+};
+
+}  // namespace tw

@@ -1,0 +1,39 @@
+// The options of how a report of one type looks (frmPrintFmtOptions).
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <memory>
+
+#include "platform/qt/ColorChooser.h"
+#include "reports/PrintFmtOptionsModel.h"
+
+class QGridLayout;
+
+namespace tw {
+
+class frmPrintFmtOptions final : public QDialog {
+    Q_OBJECT
+  public:
+    // Both must outlive the dialog.
+    frmPrintFmtOptions(PrintFmtOptionsModel& model, ColorChooser& colors, QWidget* parent);
+    // Makes the windows of PrintFmtOptionsModels.
+    static std::function<std::unique_ptr<QDialog>(DialogModel&, QWidget*)> Factory(ColorChooser& colors);
+
+  protected:
+    void reject() override;
+
+  private:
+    void AddWidth(QGridLayout& grid);
+    void AddGround(QGridLayout& grid);
+    void AddFont(QGridLayout& grid, const char* box, const char* button, const QString& caption);
+    void AddSwitch(QGridLayout& grid, const char* name, const QString& caption);
+    void Press(const char* button);
+    void Enter(const char* control, const QString& text);
+    void ShowModel();
+
+    PrintFmtOptionsModel& model_;
+    ColorChooser& colors_;
+};
+
+}  // namespace tw

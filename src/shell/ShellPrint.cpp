@@ -1,0 +1,115 @@
+// Printing, its preview, and the report wizard.
+#include <string>
+#include <utility>
+
+#include "reports/PrintPreviewModel.h"
+#include "reports/PrintWizardModel.h"
+#include "reports/PrintedRecipe.h"
+#include "shell/Shell.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+// For the time of a scope.
+class Hourglass {
+  public:
+    explicit Hourglass(PrinterPort& printer) : printer_(printer) { printer_.ShowHourglass(true); }
+    ~Hourglass() { printer_.ShowHourglass(false); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+
+  private:
+    PrinterPort& printer_;
+};
+
+// A recipe's name as that of a file.
+std::string PdfName(std::string_view recipe) {
+    std::string name(Trim(recipe));
+    for (char& c : name)
+        if (static_cast<unsigned char>(c) < ' ' ||
+            std::string_view("/\\:*?\"<>|").find(c) != std::string::npos)
+            c = '-';
+    return (name.empty() ? "Recipe" : name) + ".pdf";
+}
+
+}  // namespace
+
+void Shell::PrintActiveDocument(bool quick) {
+    if (!active_ || !printer_) return;
+    // No command that another program has sent runs in the middle of a job.
+    EnableDDETimer(false);
+    const PrinterAnswer::Result result = PrintThroughDialog(quick);
+    EnableDDETimer(true);
+    if (result == PrinterAnswer::Result::Preview) PreviewActiveDocument();
+    if (result == PrinterAnswer::Result::NoPrinter) OfferPdf();
+}
+
+PrinterAnswer::Result Shell::PrintThroughDialog(bool quick) {
+    PrinterAnswer answer;
+    try {
+        answer = printer_->ShowPrinterDialog(printerConfigured_, quick);
+        if (answer.result == PrinterAnswer::Result::Failed)
+            throw Error("Show Printer Dialog", "Unknown Error", answer.error);
+        if (answer.result == PrinterAnswer::Result::Chosen) {
+            printerConfigured_ = true;
+            PrintOn(std::move(answer.device));
+        }
+    } catch (const Error& error) {
+        platform_.messages.ShowMessage("Print Error",
+                                       "An error occurred while gathering printer configuration! (" +
+                                           std::to_string(error.Number()) + ")");
+    }
+    return answer.result;
+}
+
+void Shell::PrintOn(std::unique_ptr<PrinterDevice> device) {
+    try {
+        const Hourglass hourglass(*printer_);
+        PrintRecipe(active_->Record(), std::move(device));
+    } catch (const Error& error) {
+        platform_.messages.ShowMessage("Error During Print Job", "Error:\r\n" + error.WithNumber());
+    }
+}
+
+void Shell::PreviewActiveDocument() {
+    if (!active_ || !printer_) return;
+    const RecipeRecord& recipe = active_->Record();
+    PrintPreviewModel preview(
+        {[&](PrintSize area) { return LayOutRecipe(recipe, area, printer_->Measure()); },
+         [this] { PrintActiveDocument(false); },
+         [this](const PrintSteps& steps, Paper paper) { SaveAsPdf(steps, paper); }},
+        printer_->UsualPaper());
+    platform_.dialogs.ShowModal(preview);
+}
+
+void Shell::OfferPdf() {
+    const Answer answer = platform_.messages.Ask(
+        "Print",
+        "There is no printer on this computer.\r\nDo you want to save the recipe as a PDF file instead?",
+        Question::YesNo);
+    if (answer != Answer::Yes) return;
+    const Paper paper = printer_->UsualPaper();
+    SaveAsPdf(LayOutRecipe(active_->Record(), PrintableArea(paper), printer_->Measure()), paper);
+}
+
+void Shell::SaveAsPdf(const PrintSteps& steps, Paper paper) {
+    if (!saveFiles_) return;
+    const auto path = saveFiles_->AskSaveFile(
+        {"Save as PDF", "pdf", "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*||", PdfName(steps.title)});
+    if (!path) return;
+    try {
+        const Hourglass hourglass(*printer_);
+        PlaySteps(steps, printer_->MakePdf(*path, paper));
+    } catch (const Error&) {
+        platform_.messages.ShowMessage("Error", "Could not create PDF file \"" + *path + "\"");
+    }
+}
+
+void Shell::ShowReportWizard() {
+    PrintWizardModel wizard({*database_, *tree_, store_, platform_.messages, platform_.dialogs, saveFiles_},
+                            settings_.reportType);
+    platform_.dialogs.ShowModal(wizard);
+}
+
+}  // namespace tw
