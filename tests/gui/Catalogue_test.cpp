@@ -171,6 +171,23 @@ TEST_F(CatalogueWindows, AStyleHasItsListsItsFolderAndItsColour) {
     EXPECT_EQ(Stored("SELECT COLOR_HI FROM STYLES WHERE NAME = 'Stout'"), "30");
 }
 
+TEST_F(CatalogueWindows, AGravityShowsItsDecimalsButNoFewerThanItHas) {
+    shell.DB()->Execute("UPDATE STYLES SET OG_LO = 1.05, OG_HI = 1.0512, FG_LO = 1");
+    const auto model = MakeEditor(Catalogue::Styles, *context);
+    model->SetName("Stout");
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    EXPECT_EQ(FromQt(In<QLineEdit>(editor, "gridInfo(0,0)").text()), "1.050");
+    EXPECT_EQ(FromQt(In<QLineEdit>(editor, "gridInfo(0,1)").text()), "1.0512");
+    EXPECT_EQ(FromQt(In<QLineEdit>(editor, "gridInfo(1,0)").text()), "1.000");
+    In<QLineEdit>(editor, "gridInfo(1,1)").setFocus();
+    Type("3 P");
+    Key(Qt::Key_Tab);
+    EXPECT_EQ(FromQt(In<QLineEdit>(editor, "gridInfo(1,1)").text()), "3 P");
+    QTest::mouseClick(&In<QPushButton>(editor, "cmdOK"), Qt::LeftButton);
+    EXPECT_EQ(Stored("SELECT OG_LO FROM STYLES WHERE NAME = 'Stout'"), "1.05");
+}
+
 TEST_F(CatalogueWindows, ANewTypeCanBeTyped) {
     const auto model = MakeEditor(Catalogue::Grains, *context);
     model->SetName("Pale Malt");

@@ -201,6 +201,38 @@ TEST(UnitOfWork, IsOneUnitWithThoseInside) {
     EXPECT_EQ(Cell(*OpenMainDatabase(path), "SELECT COUNT(*) FROM HOPS"), "0");
 }
 
+TEST(UnitOfWork, AbandonedTakesBackWhatItHasWritten) {
+    const auto db = Database::CreateInMemory();
+    const std::string old = Dump(*db);
+    {
+        UnitOfWork unit(*db);
+        db->Execute("INSERT INTO HOPS (NAME) VALUES ('Saaz')");
+        unit.Abandon();
+        // Over: what comes now stands alone.
+        unit.Commit();
+        unit.Abandon();
+    }
+    EXPECT_EQ(Dump(*db), old);
+    UnitOfWork next(*db);
+    db->Execute("INSERT INTO HOPS (NAME) VALUES ('Saaz')");
+    next.Commit();
+    EXPECT_NE(Dump(*db), old);
+}
+
+TEST(UnitOfWork, AbandonedWithinAnotherLeavesTheMatterToThatOne) {
+    const auto db = Database::CreateInMemory();
+    const std::string old = Dump(*db);
+    UnitOfWork outer(*db);
+    {
+        UnitOfWork inner(*db);
+        db->Execute("INSERT INTO HOPS (NAME) VALUES ('Saaz')");
+        inner.Abandon();
+    }
+    EXPECT_NE(Dump(*db), old);
+    outer.Abandon();
+    EXPECT_EQ(Dump(*db), old);
+}
+
 TEST(UnitOfWork, RunsNothingMoreOnceTheDiskHasUndoneIt) {
     const auto db = Database::CreateInMemory();
     UnitOfWork unit(*db);

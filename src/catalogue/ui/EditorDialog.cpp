@@ -15,8 +15,10 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/FocusMoves.h"
 #include "platform/qt/QtText.h"
+#include "tree/ListFormats.h"
 #include "tree/ui/FolderChooserView.h"
 #include "tree/ui/TreePane.h"
+#include "values/NumberText.h"
 
 namespace tw {
 namespace {
@@ -181,6 +183,17 @@ QLineEdit* EditorDialog::CellAt(int row, int col) const {
     return cells_[static_cast<std::size_t>(index)];
 }
 
+QString EditorDialog::ShownIn(int row, int col) const {
+    const std::string& text = model_.CellText(row, col);
+    const std::optional<double> value = model_.CellValue(row, col);
+    if (model_.Form().rows[static_cast<std::size_t>(row)].check != CellCheck::Gravity || !value ||
+        text != NumberText(*value))
+        return ToQt(text);
+    std::string shown = FormatNumber(*value, kGravityPattern);
+    double read = 0;
+    return ToQt(ReadNumber(shown, read) && read == *value ? shown : text);
+}
+
 void EditorDialog::AddRanges(QBoxLayout& column) {
     const EditorForm& form = model_.Form();
     column.addWidget(new FancyLabel(ToQt(form.ranges), this));
@@ -313,8 +326,7 @@ void EditorDialog::ShowModel() {
             box->setText(ToQt(model_.List(name).text));
     }
     for (int row = 0; row < model_.Rows(); ++row)
-        for (int col = 0; col < model_.Cols(); ++col)
-            CellAt(row, col)->setText(ToQt(model_.CellText(row, col)));
+        for (int col = 0; col < model_.Cols(); ++col) CellAt(row, col)->setText(ShownIn(row, col));
     if (description_->toPlainText() != Lines(model_.Text("txtDesc")))
         description_->setPlainText(Lines(model_.Text("txtDesc")));
     if (folders_ != nullptr) folders_->ShowState();
@@ -388,7 +400,7 @@ bool EditorDialog::eventFilter(QObject* object, QEvent* event) {
             refusing_ = true;
             const bool accepted = model_.LeaveCell(row, col);
             refusing_ = false;
-            cell->setText(ToQt(model_.CellText(row, col)));
+            cell->setText(ShownIn(row, col));
             ShowState();
             if (!accepted) GoBackTo(*cell);
         }

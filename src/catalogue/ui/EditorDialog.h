@@ -47,6 +47,8 @@ class EditorDialog final : public QDialog {
     QComboBox* ListBox(const char* name);
     QLineEdit* CellBox(int row, int col);
     QLineEdit* CellAt(int row, int col) const;
+    // A stored gravity shows three decimals where those are all of it.
+    QString ShownIn(int row, int col) const;
 
     // Boxes that are only read have the ground of the window.
     void LookReadOnly();

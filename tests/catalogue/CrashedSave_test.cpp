@@ -1,0 +1,110 @@
+// A crash in the middle of storing an ingredient leaves the old row, and its type.
+#include <csignal>
+#include <filesystem>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "EditorTest.h"
+#include "catalogue/DBSetupModel.h"
+#include "store/Schema.h"
+
+namespace tw::test {
+namespace {
+
+class CrashedSave : public testing::Test {
+  protected:
+    CrashedSave() {
+        std::string name = (std::filesystem::temp_directory_path() / "tunwright_crash_XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) throw Error("CrashedSave", "no temporary folder", 0);
+        folder_ = name;
+    }
+    ~CrashedSave() override {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder_, ignored);
+    }
+
+    std::string File() const { return (folder_ / "made.mdb").string(); }
+    void Make() const {
+        std::filesystem::remove(File());
+        const auto database = Database::CreateDatabase(File(), "");
+        CreateSchema(*database);
+        database->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
+        database->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Pale', TRUE, 1)");
+    }
+    // Grains and types.
+    Lines Rows() const {
+        const auto database = OpenMainDatabase(File());
+        Lines rows;
+        for (const char* sql : {"SELECT NAME FROM GRAINS", "SELECT NAME FROM GRAIN_TYPES"})
+            for (Recordset set = database->OpenRecordset(sql); !set.AtEnd(); set.MoveNext())
+                rows.push_back(set.Fields(0).Text());
+        return rows;
+    }
+    // Runs work in a process that dies at its statement of that number; false when it ended alive.
+    template <typename Work>
+    bool DiesAt(int statement, Work work) const {
+        Make();
+        const pid_t child = fork();
+        if (child == 0) {
+            const auto database = OpenMainDatabase(File());
+            TWTree tree(database.get());
+            tree.InitFromDatabase();
+            TreeObjects objects(tree);
+            RecordingPlatform outside;
+            outside.messages.answers = {Answer::Yes};
+            StyleNotices notices;
+            DB_IO io(*database, objects, outside.messages, outside.clock, notices);
+            int count = 0;
+            const auto arm = [&] {
+                database->SetStatementHook([&](std::string_view) {
+                    if (count++ == statement) raise(SIGKILL);
+                });
+            };
+            work(CatalogueContext{*database, tree, io, outside.messages, outside.dialogs, outside.clock},
+                 arm);
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
+        return WIFSIGNALED(status);
+    }
+    // Kills the work at each of its statements in turn. It has that many.
+    template <typename Work>
+    void ExpectWhole(int statements, Work work) const {
+        int count = 0;
+        for (; DiesAt(count, work); ++count)
+            EXPECT_THAT(Rows(), testing::ElementsAre("Pale", "Base")) << "killed before statement " << count;
+        EXPECT_EQ(count, statements);
+    }
+
+  private:
+    std::filesystem::path folder_;
+};
+
+TEST_F(CrashedSave, OfARenamedGrainLeavesTheOldRow) {
+    // The name, the type twice and its insert, the grain's delete and insert, the old type's count and
+    // delete.
+    ExpectWhole(8, [](const CatalogueContext& context, const auto& arm) {
+        const auto editor = MakeEditor(Catalogue::Grains, context);
+        editor->SetName("Pale");
+        editor->SetControl("Text1", "Pale Ale");
+        editor->SetControl("Combo1", "Malt");
+        arm();
+        editor->Press("cmdOK");
+    });
+    EXPECT_THAT(Rows(), testing::ElementsAre("Pale Ale", "Malt"));
+}
+
+TEST_F(CrashedSave, OfADeletedGrainLeavesIt) {
+    ExpectWhole(4, [](const CatalogueContext& context, const auto& arm) {
+        DBSetupModel setup(context);
+        setup.Choose(Catalogue::Grains);
+        arm();
+        setup.Press("cmdDelete");
+    });
+    EXPECT_THAT(Rows(), testing::IsEmpty());
+}
+
+}  // namespace
+}  // namespace tw::test
