@@ -232,6 +232,9 @@ TEST_F(PaperTest, ThePrinterDialogHasAWayToThePreview) {
     auto* row = new QDialogButtonBox(QDialogButtonBox::Ok, &dialog);
     ASSERT_TRUE(AddPreviewButton(dialog));
     EXPECT_EQ(row->buttons().size(), 2);
+    QPrinter printer;
+    QPrintDialog ofTheDesktop(&printer);
+    EXPECT_TRUE(AddPreviewButton(ofTheDesktop));
     QTimer::singleShot(0, &dialog, [&] { Click(dialog, "cmdPreview"); });
     EXPECT_EQ(dialog.exec(), kPreviewResult);
 }
