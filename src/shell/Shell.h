@@ -296,7 +296,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool autoSaving_ = false;
     bool exchanging_ = false;  // recipes are being copied from or to a file
     std::string recoveryRoot_;
-    std::string programFolder_;  // empty: the product's own files are not used
+    std::string programFolder_;           // empty: the product's own files are not used
     std::unique_ptr<Recovery> recovery_;  // nullptr while nothing is kept
     std::set<std::string> editedKeys_;    // documents with edits that are not in their files
 };
