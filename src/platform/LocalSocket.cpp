@@ -28,7 +28,7 @@ bool IsOwn(const Descriptor& folder, struct stat& info) {
 std::string PrivateFolderIn(const std::string& parent) {
     struct stat info {};
     if (!parent.starts_with('/') || !IsOwn(OpenFolder(parent), info)) return {};
-    const std::string path = parent + "/tunwright";
+    std::string path = parent + "/tunwright";
     mkdir(path.c_str(), 0700);
     const Descriptor folder(open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     if (!IsOwn(folder, info)) return {};
@@ -87,7 +87,7 @@ Descriptor ConnectTo(const Descriptor& folder, std::string_view name, int timeou
     Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
     // A time of 0 would wait for ever.
     const int milliseconds = timeoutMilliseconds > 0 ? timeoutMilliseconds : 1;
-    const timeval limit{milliseconds / 1000, (milliseconds % 1000) * 1000};
+    const timeval limit{milliseconds / 1000, milliseconds % 1000 * 1000L};
     setsockopt(socket.Number(), SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
     if (connect(socket.Number(), AsAddress(address), sizeof address) != 0) socket.Close();
     return socket;

@@ -11,8 +11,11 @@
 namespace tw {
 namespace {
 
-constexpr std::string_view kBlanks = " \t\r\n";
 constexpr std::uint32_t kBits = 64;
+
+bool Separates(char c) {
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 
 std::size_t SetSize(std::uint32_t texts) {
     return (std::size_t{texts} + kBits - 1) / kBits;
@@ -21,13 +24,14 @@ std::size_t SetSize(std::uint32_t texts) {
 // Calls action with each word of text as it is written.
 template <typename Action>
 void ForEachWord(std::string_view text, Action action) {
+    const char* at = text.data();
+    const char* const end = at + text.size();
     for (;;) {
-        const std::size_t begin = text.find_first_not_of(kBlanks);
-        if (begin == std::string_view::npos) return;
-        text.remove_prefix(begin);
-        const std::size_t size = std::min(text.find_first_of(kBlanks), text.size());
-        action(text.substr(0, size));
-        text.remove_prefix(size);
+        at = std::find_if_not(at, end, Separates);
+        if (at == end) return;
+        const char* const begin = at;
+        at = std::find_if(at, end, Separates);
+        action(std::string_view(begin, static_cast<std::size_t>(at - begin)));
     }
 }
 
@@ -35,6 +39,24 @@ void AppendPacked(std::vector<unsigned char>& packed, std::uint32_t number) {
     constexpr std::uint32_t kMore = 0x80;
     for (; number >= kMore; number >>= 7) packed.push_back(static_cast<unsigned char>(number | kMore));
     packed.push_back(static_cast<unsigned char>(number));
+}
+
+// Puts the numbers in order, each once. scratch holds a bit for each number there is, all clear before and
+// after: many numbers are put in order by it, at the price of a look at all its bits.
+void Order(std::vector<std::uint32_t>& numbers, BitSet& scratch) {
+    constexpr std::size_t kFew = 256;
+    if (numbers.size() < kFew || numbers.size() < scratch.size() / 4) {
+        std::sort(numbers.begin(), numbers.end());
+        numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
+        return;
+    }
+    for (const std::uint32_t number : numbers)
+        scratch[number / kBits] |= std::uint64_t{1} << (number % kBits);
+    numbers.clear();
+    for (std::size_t i = 0; i < scratch.size(); ++i)
+        for (std::uint64_t rest = std::exchange(scratch[i], 0); rest != 0; rest &= rest - 1)
+            numbers.push_back(static_cast<std::uint32_t>(i * kBits) +
+                              static_cast<std::uint32_t>(std::countr_zero(rest)));
 }
 
 }  // namespace
@@ -67,10 +89,8 @@ void WordIndex::Builder::Add(const std::vector<std::uint32_t>& words, std::uint3
 WordIndex WordIndex::Builder::Build(std::uint32_t texts) {
     std::vector<const std::string*> words(texts_.size());
     for (const auto& [word, number] : numbers_) words[number] = &word;
-    for (std::vector<std::uint32_t>& numbers : texts_) {
-        std::sort(numbers.begin(), numbers.end());
-        numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
-    }
+    BitSet scratch(SetSize(texts));
+    for (std::vector<std::uint32_t>& numbers : texts_) Order(numbers, scratch);
     std::vector<std::uint32_t> order(texts_.size());
     std::iota(order.begin(), order.end(), 0U);
     std::stable_sort(order.begin(), order.end(),

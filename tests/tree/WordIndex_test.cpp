@@ -60,6 +60,18 @@ TEST(WordIndex, TakesTheWordsOfATextInSeveralParts) {
     EXPECT_EQ(Find(index, "C"), (Numbers{0, 1}));
 }
 
+TEST(WordIndex, PutsManyTextsInOrderThatComeInNone) {
+    WordIndex::Builder builder;
+    Numbers even;
+    for (std::uint32_t i = 0; i < 3000; ++i) {
+        const std::uint32_t text = (i * 7 + 5) % 3000;
+        if (text % 2 == 0) even.insert(text);
+        builder.Add(builder.NumbersOf(text % 2 == 0 ? "even" : "odd"), text);
+        builder.Add(builder.NumbersOf("even"), 0);
+    }
+    EXPECT_EQ(Find(builder.Build(3000), "EVEN"), even);
+}
+
 TEST(WordIndex, KeepsEveryByteOfAWord) {
     const std::string odd("\xFF\x01\0z", 4);
     const WordIndex index = IndexOf({"x", odd, std::string(100000, 'y')});
