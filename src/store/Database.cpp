@@ -65,6 +65,10 @@ void Database::Execute(std::string_view sql) {
     recordsAffected_ = sqlite3_changes(handle_);
 }
 
+std::int64_t Database::ChangeCount() const {
+    return sqlite3_total_changes64(handle_);
+}
+
 void Database::ExecuteNative(const std::string& sql) {
     RunNative(handle_, sql);
 }

@@ -130,6 +130,9 @@ class Database {
     int RecordsAffected() const { return recordsAffected_; }
     // Runs one SELECT; the recordset stands on its first row or at EOF.
     Recordset OpenRecordset(std::string_view sql);
+    // A number that grows with every row that this connection writes: equal to an earlier one as long as
+    // nothing was written since.
+    std::int64_t ChangeCount() const;
     const std::string& Path() const { return path_; }
 
     // Called with the text of each statement before it runs. Tests count statements with it, end the process

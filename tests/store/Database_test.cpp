@@ -32,6 +32,18 @@ TEST_F(DatabaseTest, CountsNothingAfterAFailure) {
     EXPECT_EQ(db->RecordsAffected(), 0);
 }
 
+TEST_F(DatabaseTest, CountsWrittenRowsAndNothingElse) {
+    const std::int64_t start = db->ChangeCount();
+    Run("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
+    Run("INSERT INTO HOPS (NAME) VALUES ('Fuggle')");
+    EXPECT_EQ(db->ChangeCount(), start + 2);
+    Run("DELETE FROM HOPS");
+    EXPECT_EQ(db->ChangeCount(), start + 4);
+    db->OpenRecordset("SELECT NAME FROM HOPS");
+    Run("DELETE FROM HOPS");
+    EXPECT_EQ(db->ChangeCount(), start + 4);
+}
+
 TEST_F(DatabaseTest, RaisesTheStoresDescriptionAndNumber) {
     const Error error = ErrorOf([&] { Run("DELETE FROM NOWHERE"); });
     EXPECT_EQ(error.WithSource(), "Database\r\nno such table: NOWHERE (1)");
