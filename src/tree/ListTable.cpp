@@ -107,6 +107,7 @@ void ListTable::SetRows(std::vector<ListRow> rows) {
     rows_ = std::move(rows);
     for (ListRow& row : rows_) Fit(row);
     selected_ = kNoRow;
+    chosen_.clear();
     sortColumn_ = -1;
     sortDescending_ = false;
     TellChanged();
@@ -120,11 +121,20 @@ void ListTable::Add(ListRow row) {
 
 void ListTable::Remove(int row) {
     rows_.erase(rows_.begin() + row);
+    std::erase(chosen_, row);
+    for (int& chosen : chosen_) chosen -= chosen > row ? 1 : 0;
     if (selected_ == row)
-        selected_ = kNoRow;
+        selected_ = chosen_.empty() ? kNoRow : chosen_.front();
     else if (selected_ > row)
         --selected_;
     TellChanged();
+}
+
+void ListTable::SetCell(int row, int column, std::string_view text) {
+    ListRow& changed = rows_[static_cast<std::size_t>(row)];
+    changed.cells[static_cast<std::size_t>(column)] = text;
+    Fit(changed);
+    if (observer_) observer_->ListRowChanged(row);
 }
 
 int ListTable::FindKey(std::string_view key) const {
@@ -139,16 +149,27 @@ std::string ListTable::SelectedText() const {
 
 bool ListTable::Select(int row) {
     if (row < 0 || row >= Count() || Row(row).isGroup) return false;
-    if (selected_ == row) return true;
-    selected_ = row;
-    if (observer_) observer_->ListSelectionChanged();
+    Choose({row}, row);
     return true;
 }
 
-void ListTable::SelectNone() {
-    if (selected_ == kNoRow) return;
-    selected_ = kNoRow;
+void ListTable::Choose(std::vector<int> rows, int selected) {
+    std::erase_if(rows, [&](int row) { return row < 0 || row >= Count() || Row(row).isGroup; });
+    std::ranges::sort(rows);
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    if (!std::ranges::binary_search(rows, selected)) selected = rows.empty() ? kNoRow : rows.front();
+    if (rows == chosen_ && selected == selected_) return;
+    chosen_ = std::move(rows);
+    selected_ = selected;
     if (observer_) observer_->ListSelectionChanged();
+}
+
+bool ListTable::IsChosen(int row) const {
+    return std::ranges::binary_search(chosen_, row);
+}
+
+void ListTable::SelectNone() {
+    Choose({}, kNoRow);
 }
 
 int ListTable::FirstRow() const {
@@ -175,12 +196,15 @@ void ListTable::Sort(int column, bool descending) {
     std::vector<ListRow> sorted;
     sorted.reserve(rows_.size());
     int selected = kNoRow;
+    std::vector<int> chosen;
     for (const std::size_t from : order) {
         if (static_cast<int>(from) == selected_) selected = static_cast<int>(sorted.size());
+        if (IsChosen(static_cast<int>(from))) chosen.push_back(static_cast<int>(sorted.size()));
         sorted.push_back(std::move(rows_[from]));
     }
     rows_ = std::move(sorted);
     selected_ = selected;
+    chosen_ = std::move(chosen);
     sortColumn_ = column;
     sortDescending_ = descending;
     TellChanged();

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/qt/QtText.h"
+#include "store/DB_IO.h"
 #include "tree/ui/NodePictures.h"
 
 namespace tw {
@@ -76,7 +77,31 @@ bool TreePaneModel::setData(const QModelIndex& index, const QVariant& value, int
 Qt::ItemFlags TreePaneModel::flags(const QModelIndex& index) const {
     Qt::ItemFlags flags = QAbstractItemModel::flags(index) | Qt::ItemIsDragEnabled;
     if (index.isValid() && canRename_ && canRename_(ItemOf(index))) flags |= Qt::ItemIsEditable;
+    if (index.isValid() && drag_) {
+        flags |= Qt::ItemIsDropEnabled;
+        flags.setFlag(Qt::ItemIsDragEnabled, CanRenameNode(items_.Key(ItemOf(index))));
+    }
     return flags;
+}
+
+QStringList TreePaneModel::mimeTypes() const {
+    return drag_ ? KeyMimeTypes() : QAbstractItemModel::mimeTypes();
+}
+
+Qt::DropActions TreePaneModel::supportedDropActions() const {
+    return drag_ ? Qt::MoveAction : QAbstractItemModel::supportedDropActions();
+}
+
+bool TreePaneModel::canDropMimeData(const QMimeData* data, Qt::DropAction, int row, int,
+                                    const QModelIndex& parent) const {
+    return drag_ && row < 0 && parent.isValid() && drag_.canDrop(KeysOf(data), items_.Key(ItemOf(parent)));
+}
+
+bool TreePaneModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                                 const QModelIndex& parent) {
+    if (!canDropMimeData(data, action, row, column, parent)) return false;
+    DropLater(*this, drag_, data, items_.Key(ItemOf(parent)));
+    return true;
 }
 
 void TreePaneModel::TreeReset(bool done) {
@@ -165,6 +190,11 @@ void TreePane::keyPressEvent(QKeyEvent* event) {
         return;
     }
     QTreeView::keyPressEvent(event);
+}
+
+void TreePane::startDrag(Qt::DropActions actions) {
+    if (!model_->HasDrag()) return QTreeView::startDrag(actions);
+    StartKeyDrag(*this, {items_.SelectedKey()});
 }
 
 void TreePane::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -1,0 +1,105 @@
+#include "tree/ui/ListPaneModel.h"
+
+#include <QApplication>
+#include <utility>
+
+#include "platform/qt/Appearance.h"
+#include "platform/qt/QtText.h"
+#include "store/DB_IO.h"
+#include "tree/ui/NodePictures.h"
+
+namespace tw {
+namespace {
+
+Qt::Alignment AlignmentOf(const ListColumn& column) {
+    return Qt::AlignVCenter | (column.kind == ListColumnKind::Number ? Qt::AlignRight : Qt::AlignLeft);
+}
+
+}  // namespace
+
+ListPaneModel::ListPaneModel(const ListTable& list, QObject* parent)
+    : QAbstractTableModel(parent), list_(list) {}
+
+void ListPaneModel::SetRename(std::function<bool(int)> canRename,
+                              std::function<bool(const QString&)> rename) {
+    canRename_ = std::move(canRename);
+    rename_ = std::move(rename);
+}
+
+int ListPaneModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : list_.Count();
+}
+
+int ListPaneModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(list_.Columns().size());
+}
+
+QVariant ListPaneModel::data(const QModelIndex& index, int role) const {
+    if (!index.isValid()) return {};
+    const ListRow& row = list_.Row(index.row());
+    const auto col = static_cast<std::size_t>(index.column());
+    switch (role) {
+        case Qt::DisplayRole:
+        case Qt::EditRole:
+        case Qt::ToolTipRole:
+            return ToQt(row.cells[col]).trimmed();
+        case Qt::DecorationRole:
+            return col == 0 && row.icon != NodeIcon::None ? QVariant(NodePicture(row.icon)) : QVariant();
+        case Qt::TextAlignmentRole:
+            return QVariant::fromValue(AlignmentOf(list_.Columns()[col]));
+        case Qt::FontRole:
+            return row.isGroup ? QVariant(BoldFont(QApplication::font())) : QVariant();
+        case Qt::ForegroundRole:
+            // Off, since nobody can choose it, but no less readable.
+            return row.isGroup ? QVariant(QApplication::palette().brush(QPalette::Text)) : QVariant();
+        case Qt::BackgroundRole:
+            return row.isGroup ? QVariant(QApplication::palette().brush(QPalette::AlternateBase))
+                               : QVariant();
+        case Qt::AccessibleTextRole:
+            return QStringLiteral("%1: %2").arg(ToQt(list_.Columns()[col].title),
+                                                ToQt(row.cells[col]).trimmed());
+        default:
+            return {};
+    }
+}
+
+bool ListPaneModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole || !rename_ || !index.isValid()) return false;
+    return rename_(value.toString());
+}
+
+QVariant ListPaneModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || section >= columnCount()) return {};
+    const ListColumn& column = list_.Columns()[static_cast<std::size_t>(section)];
+    if (role == Qt::DisplayRole) return ToQt(column.title);
+    if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AlignmentOf(column));
+    return {};
+}
+
+Qt::ItemFlags ListPaneModel::flags(const QModelIndex& index) const {
+    if (!index.isValid() || list_.Row(index.row()).isGroup) return Qt::ItemNeverHasChildren;
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    if (drag_) flags |= Qt::ItemIsDropEnabled;
+    if (drag_ && CanRenameNode(list_.Row(index.row()).key)) flags |= Qt::ItemIsDragEnabled;
+    if (index.column() == 0 && canRename_ && canRename_(index.row())) flags |= Qt::ItemIsEditable;
+    return flags;
+}
+
+bool ListPaneModel::canDropMimeData(const QMimeData* data, Qt::DropAction, int row, int,
+                                    const QModelIndex& parent) const {
+    return drag_ && row < 0 && parent.isValid() && drag_.canDrop(KeysOf(data), list_.Row(parent.row()).key);
+}
+
+bool ListPaneModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                                 const QModelIndex& parent) {
+    if (!canDropMimeData(data, action, row, column, parent)) return false;
+    DropLater(*this, drag_, data, list_.Row(parent.row()).key);
+    return true;
+}
+
+void ListPaneModel::Reset() {
+    beginResetModel();
+    endResetModel();
+}
+
+}  // namespace tw
