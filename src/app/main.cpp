@@ -37,7 +37,9 @@
 #include "tools/ui/frmHopUtil.h"
 #include "tools/ui/frmHydrometer.h"
 #include "tree/ui/frmChooseFolder.h"
+#include "tree/ui/frmExplorer.h"
 #include "tree/ui/frmLvShow.h"
+#include "tree/ui/frmProgress.h"
 
 namespace tw {
 namespace {
@@ -59,6 +61,8 @@ void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     dialogs.Register("frmColor", &frmColor::Make);
     dialogs.Register("frmLvShow", &frmLvShow::Make);
     dialogs.Register("frmChooseFolder", &frmChooseFolder::Make);
+    dialogs.Register("frmExplorer", &frmExplorer::Make);
+    dialogs.Register("frmProgress", &frmProgress::Make);
 }
 
 std::string DatabaseOf(const ProgramOptions& options) {

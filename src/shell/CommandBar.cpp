@@ -137,10 +137,8 @@ constexpr ButtonRow kButtons[] = {
 constexpr std::array kNotBuilt = std::to_array<std::string_view>({
     "mnuFileImport",
     "mnuFileExport",
-    "mnuFileDelete",
     "mnuFilePrint",
     "mnuToolsDataSetup",
-    "mnuToolsExplorer",
     "mnuToolsAssistant",
     "mnuHelpContents",
     "mnuHelpAuto",

@@ -18,16 +18,17 @@
 #include "platform/Ports.h"
 #include "shell/AutoSave.h"
 #include "shell/CommandBar.h"
+#include "shell/OpenSaveModel.h"
 #include "shell/RecentList.h"
 #include "shell/Recovery.h"
 #include "shell/Settings.h"
 #include "store/DB_IO.h"
 #include "store/Database.h"
+#include "tree/ExplorerModel.h"
 #include "tree/TWTree.h"
 #include "tree/TreeObjects.h"
 
 namespace tw {
-
 
 // The arrangements of the document windows.
 enum class Arrangement : int { Cascade, TileHorizontal, TileVertical };
@@ -109,6 +110,12 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // and tell the open documents. REQUIRES: the database is open.
     const TWTree& Tree() const { return *tree_; }
     DB_IO& Objects() { return *objects_; }
+    // What the windows on folders, recipes and styles work on. REQUIRES: the database is open.
+    ObjectAccess Access() { return {*database_, *tree_, *objects_, platform_}; }
+    // What the explorer opens styles with; without it its commands on them are dark.
+    void SetStyleEditor(StyleEditor editor) { styleEditor_ = std::move(editor); }
+    // What the open and save dialog and the explorer showed last.
+    const OpenSaveFields& BrowseFields() const { return browse_; }
 
     // Documents, in the order of their opening.
     const std::vector<std::unique_ptr<RecipeDocument>>& Documents() const { return documents_; }
@@ -136,7 +143,6 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool SaveRecipeAs(RecipeDocument& document);
     // SaveRecipeAs with the answer of the dialog given. silent asks nothing.
     bool SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId, bool silent);
-
 
     // Autosave. Switching it on counts the minutes from 0.
     bool DoAutoSave() const { return settings_.doAutoSave; }
@@ -232,6 +238,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void EnablePair(std::string_view item, std::string_view button, bool enabled);
     void EnablePairWithTwin(std::string_view item, std::string_view button, bool enabled);
     void ShowOpenDialog();
+    void ShowDeleteDialog();
+    void ShowExplorer();
     // Asks for another figure of the active recipe and scales it to that; nothing while it has none.
     void ShowScaling(Scaling what);
     void Arrange(Arrangement arrangement);
@@ -246,6 +254,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     Platform& platform_;
     SettingsStore store_;
     Settings settings_;
+    OpenSaveFields browse_;
+    StyleEditor styleEditor_;
     CommandBar bar_;
     RecentList recent_;
     ColorTable colors_;

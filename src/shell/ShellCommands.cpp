@@ -4,7 +4,6 @@
 #include <span>
 
 #include "shell/AboutModel.h"
-#include "shell/OpenSaveModel.h"
 #include "shell/OptionsModel.h"
 #include "shell/Shell.h"
 #include "tools/ColorScaleModel.h"
@@ -40,6 +39,7 @@ const Shell::ActionRow Shell::kFileActions[] = {
          if (s.active_) s.SaveRecipeAs(*s.active_);
      }},
     {"mnuFileSaveAll", [](Shell& s) { s.SaveAllDocuments(); }},
+    {"mnuFileDelete", [](Shell& s) { s.ShowDeleteDialog(); }},
     {"mnuFileExit",
      [](Shell& s) {
          if (s.RequestExit() && s.view_) s.view_->CloseMainWindow();
@@ -65,6 +65,7 @@ const Shell::ActionRow Shell::kEditActions[] = {
 };
 
 const Shell::ActionRow Shell::kOtherActions[] = {
+    {"mnuToolsExplorer", [](Shell& s) { s.ShowExplorer(); }},
     {"mnuToolsUnits",
      [](Shell& s) {
          ConvertUnitsModel converter(s.platform_.messages);
@@ -152,12 +153,6 @@ bool Shell::RunMenu(std::string_view name) {
 bool Shell::PressButton(std::string_view key) {
     const ToolButton* button = bar_.FindButton(key);
     return button && button->enabled && RunAction(button->menuItem);
-}
-
-void Shell::ShowOpenDialog() {
-    OpenSaveModel dialog(OpenSaveModel::Style::Open, *database_, platform_.messages);
-    platform_.dialogs.ShowModal(dialog);
-    if (!dialog.Cancelled()) LoadDoc(dialog.BeerName());
 }
 
 void Shell::PickFromCatalogue(RecipeDocument& document, PickList list, const std::string& name) {

@@ -1,0 +1,31 @@
+// The windows of the shell in which recipes are looked for: the open and delete dialogs and the explorer.
+#include "shell/Shell.h"
+
+namespace tw {
+
+void Shell::ShowOpenDialog() {
+    OpenSaveModel dialog(OpenSaveModel::Style::Open, Access(), browse_);
+    platform_.dialogs.ShowModal(dialog);
+    if (dialog.Cancelled()) return;
+    browse_ = dialog.Fields();
+    LoadDoc(dialog.BeerName());
+}
+
+void Shell::ShowDeleteDialog() {
+    OpenSaveModel dialog(OpenSaveModel::Style::Delete, Access(), browse_);
+    platform_.dialogs.ShowModal(dialog);
+    if (dialog.Cancelled()) return;
+    browse_ = dialog.Fields();
+    DeleteRecipe(dialog.BeerName());
+    CheckEnableDelete();
+}
+
+void Shell::ShowExplorer() {
+    ExplorerModel explorer(Access(), {[this](const std::string& name) { LoadDoc(name); }, styleEditor_});
+    explorer.SetLook(browse_.look);
+    platform_.dialogs.ShowModal(explorer);
+    browse_.look = explorer.Look();
+    CheckEnableDelete();
+}
+
+}  // namespace tw
