@@ -55,8 +55,6 @@ void IconPane::SetKind(ListViewType kind) {
     const bool large = kind == ListViewType::LargeIcons;
     static_cast<IconDelegate*>(itemDelegate())->SetLarge(large);
     setFlow(kind == ListViewType::List ? TopToBottom : LeftToRight);
-    // Qt takes the dragging over when the flow changes.
-    setMovement(Static);
     setWordWrap(large);
     FitGrid();
     ShowSelection();

@@ -128,10 +128,10 @@ class RowView : public View, protected ListTableObserver {
 
     void keyPressEvent(QKeyEvent* event) override {
         const int key = event->key();
-        if ((key == Qt::Key_Return || key == Qt::Key_Enter) && list_.Selected() != ListTable::kNoRow) {
-            TellActivated();
-            return;
-        }
+        const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+        // What ends the editing of a name neither opens the row nor presses the window's button.
+        if (enter && this->state() == View::EditingState) return event->accept();
+        if (enter && list_.Selected() != ListTable::kNoRow) return TellActivated();
         View::keyPressEvent(event);
     }
 

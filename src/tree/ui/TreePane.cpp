@@ -182,10 +182,12 @@ void TreePane::EditSelected() {
 }
 
 void TreePane::keyPressEvent(QKeyEvent* event) {
-    const int key = event->key();
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // That ends the editing of a name.
+    if (enter && state() == EditingState) return event->accept();
     // Where nobody waits for it, Enter is the dialog's.
     const bool awaited = isSignalConnected(QMetaMethod::fromSignal(&TreePane::ItemActivated));
-    if (awaited && (key == Qt::Key_Return || key == Qt::Key_Enter) && currentIndex().isValid()) {
+    if (awaited && enter && currentIndex().isValid()) {
         emit ItemActivated();
         return;
     }

@@ -235,11 +235,14 @@ void frmExplorer::DeleteOrRename(const std::string& listCommand, const std::stri
 }
 
 void frmExplorer::EndEdit() {
-    if (showing_) return;
+    model_.CancelEdit();
+    // The view still works on its editor; and another may have been opened by then.
     QMetaObject::invokeMethod(
         this,
         [this] {
-            model_.CancelEdit();
+            const bool editing = model_.EditedNode() != TreeItems::kNone ||
+                                 model_.List(model_.Shown()).EditedRow() != ListTable::kNoRow;
+            if (editing) return;
             model_.Settle();
             ShowState();
         },
