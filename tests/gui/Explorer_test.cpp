@@ -203,6 +203,14 @@ TEST_F(ExplorerWindow, ObjectsAreDraggedOnFoldersOfTheList) {
     }
 }
 
+TEST_F(ExplorerWindow, AFolderDroppedOnItsOwnChildIsToldOf) {
+    Tree().expandAll();
+    EXPECT_TRUE(Drop(Tree(), Node("F:2"), {"F:1"}));
+    EXPECT_EQ(Boxes(), Strings{"[Could not move folder] The destination folder is a sub-folder of the source "
+                               "folder"});
+    EXPECT_EQ(shell.Tree().Nodes("F:1")->Parent()->Key(), "F:0");
+}
+
 TEST_F(ExplorerWindow, AStrangerIsNotTaken) {
     QMimeData text;
     text.setText(QStringLiteral("R:1:3"));
@@ -331,6 +339,8 @@ TEST_F(ExplorerWindow, TheFindBoxFiltersAndEscapeFirstClearsIt) {
     FindBox().setFocus();
     QTest::keyClicks(&FindBox(), QStringLiteral("por"));
     EXPECT_EQ(Rows(List()), Strings{"Porter"});
+    EXPECT_EQ(FromQt(RowOf(List(), "Porter").data(Qt::ToolTipRole).toString()),
+              "Porter\nMy Recipe Folders / Winter");
     auto& pane = dynamic_cast<ListPane&>(List());
     EXPECT_EQ(FromQt(pane.model()->headerData(pane.header()->logicalIndex(1), Qt::Horizontal).toString()),
               "Folder");

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QDrag>
 #include <QIcon>
+#include <QStyle>
 #include <utility>
 
 #include "platform/qt/QtText.h"
@@ -47,7 +48,9 @@ void StartKeyDrag(QAbstractItemView& view, const KeyDrag::Keys& keys) {
     auto* drag = new QDrag(&view);
     drag->setMimeData(MimeOfKeys(keys));
     const auto icon = view.currentIndex().siblingAtColumn(0).data(Qt::DecorationRole).value<QIcon>();
-    if (!icon.isNull()) drag->setPixmap(icon.pixmap(view.iconSize()));
+    const int small = view.style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, &view);
+    const QSize size = view.iconSize().isValid() ? view.iconSize() : QSize(small, small);
+    if (!icon.isNull()) drag->setPixmap(icon.pixmap(size));
     drag->exec(Qt::MoveAction);
 }
 

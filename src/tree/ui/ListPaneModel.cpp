@@ -6,6 +6,7 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
 #include "store/DB_IO.h"
+#include "tree/NodeList.h"
 #include "tree/ui/NodePictures.h"
 
 namespace tw {
@@ -34,6 +35,14 @@ int ListPaneModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(list_.Columns().size());
 }
 
+// Where icons stand for the rows, the name alone tells where a found recipe lies.
+QString ListPaneModel::TipOf(const ListRow& row, std::size_t col) const {
+    QString tip = ToQt(row.cells[col]).trimmed();
+    if (col == 0 && list_.Columns().back().title == kFolderColumn)
+        tip += QLatin1Char('\n') + ToQt(row.cells.back()).trimmed();
+    return tip;
+}
+
 QVariant ListPaneModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};
     const ListRow& row = list_.Row(index.row());
@@ -41,8 +50,9 @@ QVariant ListPaneModel::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole:
         case Qt::EditRole:
-        case Qt::ToolTipRole:
             return ToQt(row.cells[col]).trimmed();
+        case Qt::ToolTipRole:
+            return TipOf(row, col);
         case Qt::DecorationRole:
             return col == 0 && row.icon != NodeIcon::None ? QVariant(NodePicture(row.icon)) : QVariant();
         case Qt::TextAlignmentRole:

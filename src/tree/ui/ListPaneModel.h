@@ -36,6 +36,8 @@ class ListPaneModel final : public QAbstractTableModel {
     void TellRow(int row) { emit dataChanged(index(row, 0), index(row, columnCount() - 1)); }
 
   private:
+    QString TipOf(const ListRow& row, std::size_t col) const;
+
     const ListTable& list_;
     std::function<bool(int)> canRename_;
     std::function<bool(const QString&)> rename_;

@@ -1,5 +1,6 @@
 #include "tree/ui/TreePane.h"
 
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
@@ -197,6 +198,23 @@ void TreePane::keyPressEvent(QKeyEvent* event) {
 void TreePane::startDrag(Qt::DropActions actions) {
     if (!model_->HasDrag()) return QTreeView::startDrag(actions);
     StartKeyDrag(*this, {items_.SelectedKey()});
+}
+
+// Qt refuses what stands below the dragged entry; here the operation itself tells why that cannot be.
+void TreePane::dragMoveEvent(QDragMoveEvent* event) {
+    QTreeView::dragMoveEvent(event);
+    if (event->isAccepted() || !model_->HasDrag()) return;
+    const QModelIndex target = indexAt(event->position().toPoint());
+    if (model_->canDropMimeData(event->mimeData(), Qt::MoveAction, -1, -1, target))
+        event->acceptProposedAction();
+}
+
+void TreePane::dropEvent(QDropEvent* event) {
+    QTreeView::dropEvent(event);
+    if (event->isAccepted() || !model_->HasDrag()) return;
+    const QModelIndex target = indexAt(event->position().toPoint());
+    if (model_->dropMimeData(event->mimeData(), Qt::MoveAction, -1, -1, target))
+        event->acceptProposedAction();
 }
 
 void TreePane::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -82,6 +82,8 @@ class TreePane final : public QTreeView {
   protected:
     void keyPressEvent(QKeyEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
