@@ -78,6 +78,7 @@ QLayout* OpenSaveDialog::MakeFolderRow() {
     folders_->setObjectName(QStringLiteral("icmbFolder"));
     folders_->setAccessibleName(tr("Folder"));
     folders_->setItemDelegate(new IndentingDelegate(folders_));
+    folders_->view()->setIconSize(folders_->iconSize());
     row->addWidget(label);
     row->addWidget(folders_, 1);
     AddButton(*row, "cmdBack", "back", tr("Back to the folder shown before (Alt+Left)"));
