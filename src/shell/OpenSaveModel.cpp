@@ -215,6 +215,7 @@ bool OpenSaveModel::SetControl(std::string_view name, std::string_view text) {
 }
 
 bool OpenSaveModel::Run(std::string_view command) {
+    list_.FollowSaves();
     if (command == "cmdBack")
         GoBack();
     else if (command == "cmdUp")

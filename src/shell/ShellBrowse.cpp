@@ -15,9 +15,11 @@ void Shell::ShowDeleteDialog() {
     OpenSaveModel dialog(OpenSaveModel::Style::Delete, Access(), browse_);
     platform_.dialogs.ShowModal(dialog);
     if (dialog.Cancelled()) return;
-    browse_ = dialog.Fields();
     DeleteRecipe(dialog.BeerName());
     CheckEnableDelete();
+    // What the empty window offers may be another.
+    if (!active_ && view_) view_->DocumentActivated(nullptr);
+    browse_ = dialog.Fields();
 }
 
 void Shell::ShowExplorer() {
@@ -26,6 +28,7 @@ void Shell::ShowExplorer() {
     platform_.dialogs.ShowModal(explorer);
     browse_.look = explorer.Look();
     CheckEnableDelete();
+    if (!active_ && view_) view_->DocumentActivated(nullptr);
 }
 
 }  // namespace tw

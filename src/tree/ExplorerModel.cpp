@@ -307,6 +307,7 @@ bool ExplorerModel::SetControl(std::string_view name, std::string_view text) {
 
 bool ExplorerModel::Run(std::string_view command) {
     PageState& page = At(shown_);
+    page.list.FollowSaves();
     if (command == "mnuOpen")
         Open();
     else if (command == "mnuDelete")

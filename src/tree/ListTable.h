@@ -65,6 +65,8 @@ class ListTable {
     void Add(ListRow row);
     // REQUIRES: there is such a row. The selection goes with its row.
     void Remove(int row);
+    // REQUIRES: there is such a row.
+    void SetKey(int row, std::string key) { rows_[static_cast<std::size_t>(row)].key = std::move(key); }
     // REQUIRES: there is such a row and such a column. The row stays where it is, however the list is sorted.
     void SetCell(int row, int column, std::string_view text);
     // The first row of that key, letter for letter; kNoRow for none.

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "store/ObjectKeys.h"
+#include "tree/lvFiller.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -34,10 +35,12 @@ NodeList::NodeList(const ObjectAccess& access, const ListLook& look, bool showSt
     : access_(access),
       look_(look),
       showStyles_(showStyles),
-      filler_(access.database, access.tree),
+      filler_(std::make_unique<lvFiller>(access.database, access.tree)),
       finder_(access.database) {
     lvFiller::SetUpExplorerColumns(rows_);
 }
+
+NodeList::~NodeList() = default;
 
 void NodeList::Show(std::string_view key, bool force) {
     if (key == key_ && !force && !IsFinding()) return;
@@ -45,7 +48,7 @@ void NodeList::Show(std::string_view key, bool force) {
     if (IsFinding()) lvFiller::SetUpExplorerColumns(rows_);
     findText_.clear();
     CancelEdit();
-    filler_.FillByKey(rows_, key_, showStyles_);
+    filler_->FillByKey(rows_, key_, showStyles_);
     Sort();
 }
 
@@ -69,7 +72,7 @@ void NodeList::FillFound() {
         if (TWNode* const node = access_.tree.Nodes(RecipeKey(found.id, 0))) nodes.push_back(node);
     ListTable found;
     lvFiller::SetUpExplorerColumns(found);
-    filler_.FillNodes(found, nodes);
+    filler_->FillNodes(found, nodes);
     std::vector<ListRow> rows = found.Rows();
     for (std::size_t i = 0; i < rows.size(); ++i) rows[i].cells.push_back(FolderOf(*nodes[i]));
     rows_.SetRows(std::move(rows));
@@ -87,6 +90,7 @@ std::string NodeList::FolderOf(const TWNode& recipe) const {
 }
 
 void NodeList::Refill() {
+    FollowSaves();
     const std::vector<std::string> chosen = ChosenKeys();
     const std::string selected = SelectedKey();
     if (IsFinding())
@@ -101,6 +105,18 @@ void NodeList::Refill() {
 void NodeList::Sort() {
     const int columns = static_cast<int>(rows_.Columns().size());
     if (look_.arrangeKey >= 0 && look_.arrangeKey < columns) rows_.Sort(look_.arrangeKey, look_.descending);
+}
+
+void NodeList::FollowSaves() {
+    for (int row = 0; row < rows_.Count(); ++row) {
+        const std::string key = rows_.Row(row).key;
+        if (!key.starts_with("R:") || access_.tree.NodeExists(key)) continue;
+        const std::int64_t id = access_.objects.IdByName(rows_.Row(row).cells.front(), "RECIPES");
+        if (id == 0) continue;
+        std::string now = RecipeKey(id, key.back() - '0');
+        if (editedKey_ == key) editedKey_ = now;
+        rows_.SetKey(row, std::move(now));
+    }
 }
 
 std::vector<std::string> NodeList::ChosenKeys() const {
@@ -133,7 +149,7 @@ bool NodeList::ChooseByText(std::string_view lines) {
 void NodeList::AddFolder(std::string_view key) {
     if (IsFinding()) Show(std::string(key_), true);
     if (rows_.FindKey(key) == ListTable::kNoRow)
-        if (TWNode* const node = access_.tree.Nodes(key)) filler_.AddFolderRow(rows_, *node);
+        if (TWNode* const node = access_.tree.Nodes(key)) filler_->AddFolderRow(rows_, *node);
     const int row = rows_.FindKey(key);
     rows_.Select(row);
     BeginEdit(row);
@@ -159,6 +175,7 @@ int NodeList::EditedRow() const {
 }
 
 bool NodeList::EndEdit(std::string_view newName) {
+    FollowSaves();
     const int row = EditedRow();
     const std::string key = editedKey_;
     CancelEdit();

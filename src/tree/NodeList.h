@@ -13,9 +13,10 @@
 #include "tree/ListTable.h"
 #include "tree/RecipeFinder.h"
 #include "tree/TWTree.h"
-#include "tree/lvFiller.h"
 
 namespace tw {
+
+class lvFiller;
 
 // What the windows on folders, recipes and styles work on. REQUIRES: objects changes that tree, which was
 // made from database.
@@ -43,6 +44,7 @@ class NodeList {
   public:
     // Empty. Without showStyles the branch of the styles is left out. REQUIRES: all live for as long.
     NodeList(const ObjectAccess& access, const ListLook& look, bool showStyles);
+    ~NodeList();
     NodeList(const NodeList&) = delete;
     NodeList& operator=(const NodeList&) = delete;
 
@@ -63,6 +65,9 @@ class NodeList {
     void Refill();
     // Sorts as the look says.
     void Sort();
+    // A save gives a recipe a new key, also an autosave while the list is shown: the rows take the keys that
+    // their recipes have now.
+    void FollowSaves();
 
     // The keys of the chosen rows, from the top; and of the one chosen last, empty without one.
     std::vector<std::string> ChosenKeys() const;
@@ -96,7 +101,7 @@ class NodeList {
     ObjectAccess access_;
     const ListLook& look_;
     bool showStyles_;
-    lvFiller filler_;
+    std::unique_ptr<lvFiller> filler_;
     RecipeFinder finder_;
     ListTable rows_;
     std::string key_;

@@ -129,6 +129,23 @@ TEST_F(Browsing, WhatTheExplorerDeletesDarkensTheCommands) {
     EXPECT_TRUE(Lit("mnuToolsExplorer"));
 }
 
+TEST_F(Browsing, AnAutosaveMeanwhileGivesTheRowsTheirNewKeys) {
+    RecipeDocument& ale = NewSaved("Ale");
+    outside.dialogs.scripts.push_back([&](DialogModel& dialog) {
+        dialog.SetControl("lvNames", "Ale");
+        EXPECT_TRUE(shell.SaveRecipe(ale, true));  // R:2:3 from now on
+        dialog.Press("mnuRename");
+        EXPECT_TRUE(dialog.SetControl("txtLabel", "Bitter"));
+        EXPECT_TRUE(shell.SaveRecipe(ale, true));
+        EXPECT_EQ(dialog.Controls()[3].text, "Bitter");
+        dialog.Press("mnuDelete");
+    });
+    outside.messages.answers = {Answer::Yes};
+    EXPECT_TRUE(shell.RunMenu("mnuToolsExplorer"));
+    EXPECT_EQ(Boxes(), Strings{"[Confirm Delete] Are you sure you want to delete 'Bitter'? -> Yes"});
+    EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
+}
+
 TEST_F(Browsing, TheStyleEditorIsTheOneThatWasSet) {
     Strings edited;
     AnswerWith({{"optStyles", "yes"}}, "mnuNewStyle");
