@@ -224,7 +224,13 @@ void frmExplorer::ShowPage(Page page) {
 }
 
 void frmExplorer::Press(const std::string& command) {
-    model_.Press(command);
+    try {
+        model_.Press(command);
+    } catch (...) {
+        // A deletion that failed half way has changed what is shown; its error goes on to the program.
+        ShowState();
+        throw;
+    }
     ShowState();
 }
 
