@@ -319,6 +319,10 @@ TEST_F(ExplorerWindow, TheButtonsAreAboutTheRowsOrTheEntry) {
     EXPECT_EQ(Boxes(), Strings{"[Confirm Delete] Are you sure you want to delete 'Porter'? -> No"});
     Button("cmdOpen").click();
     EXPECT_EQ(opened, Strings{"Porter"});
+    FindBox().setText(QStringLiteral("por"));
+    EXPECT_FALSE(Button("cmdDelete").isEnabled());  // the tree's entry is not what the eye is on
+    Click(List(), RowOf(List(), "Porter"));
+    EXPECT_TRUE(Button("cmdDelete").isEnabled());
 }
 
 TEST_F(ExplorerWindow, TheBorderMovesAndBothPanesStay) {

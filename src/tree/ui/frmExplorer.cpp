@@ -234,10 +234,15 @@ void frmExplorer::Press(const std::string& command) {
     ShowState();
 }
 
-// The buttons are about the rows when some are chosen, otherwise about the tree's entry.
+// The buttons are about the rows when some are chosen, otherwise about the tree's entry; never about that
+// while a search has taken the eye from it.
+bool frmExplorer::AboutRows() {
+    const NodeList& list = model_.List(model_.Shown());
+    return list.IsFinding() || !list.Rows().Chosen().empty();
+}
+
 void frmExplorer::DeleteOrRename(const std::string& listCommand, const std::string& treeCommand) {
-    const bool rows = !model_.List(model_.Shown()).Rows().Chosen().empty();
-    Press(rows ? listCommand : treeCommand);
+    Press(AboutRows() ? listCommand : treeCommand);
 }
 
 void frmExplorer::EndEdit() {
@@ -266,8 +271,7 @@ void frmExplorer::ShowState() {
     if (showing_) return;
     showing_ = true;
     const Page page = model_.Shown();
-    const NodeList& list = model_.List(page);
-    const bool rows = !list.Rows().Chosen().empty();
+    const bool rows = AboutRows();
     recipes_->setChecked(page == Page::Recipes);
     styles_->setChecked(page == Page::Styles);
     stack_->setCurrentIndex(static_cast<int>(page));

@@ -54,6 +54,7 @@ class frmExplorer final : public QDialog {
 
     void ShowPage(Page page);
     void Press(const std::string& command);
+    bool AboutRows();
     void DeleteOrRename(const std::string& listCommand, const std::string& treeCommand);
     // When the editor of a name has closed.
     void EndEdit();
