@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QLineEdit>
 #include <QTabWidget>
 
 #include "app/PrintedMessages.h"
@@ -214,6 +215,36 @@ bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
     return ok && SaveDialog(dialogs, font, parent, prefix + QStringLiteral("choose-font.png"));
 }
 
+// The explorer's pages in their views, a search in it, and the open and save dialog.
+bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
+    bool ok = true;
+    for (int view = 0; view <= static_cast<int>(ListViewType::Details); ++view) {
+        ExplorerModel explorer(shell.Access(), {});
+        explorer.SetLook({static_cast<ListViewType>(view), 0, false});
+        explorer.SetControl("lvNames", explorer.List(explorer.Shown()).Rows().Count() > 0
+                                           ? explorer.List(explorer.Shown()).Rows().Row(0).key
+                                           : "");
+        ok &=
+            SaveDialog(dialogs, explorer, parent, QStringLiteral("%1explorer-%2.png").arg(prefix).arg(view));
+    }
+    ExplorerModel styles(shell.Access(), {}), search(shell.Access(), {});
+    styles.Show(ExplorerModel::Page::Styles);
+    styles.SetLook({ListViewType::Details, 0, false});
+    ok &= SaveDialog(dialogs, styles, parent, prefix + QStringLiteral("explorer-styles.png"));
+    search.SetLook({ListViewType::Details, 0, false});
+    const std::unique_ptr<QDialog> searching = dialogs.Make(search, &parent);
+    searching->show();
+    if (auto* find = searching->findChild<QLineEdit*>(QStringLiteral("txtFind")))
+        find->setText(QStringLiteral("ale"));
+    ok &= SaveWidget(*searching, prefix + QStringLiteral("explorer-find.png"));
+    OpenSaveModel open(OpenSaveModel::Style::Open, shell.Access(), {});
+    ok &= SaveDialog(dialogs, open, parent, prefix + QStringLiteral("open.png"));
+    OpenSaveModel save(OpenSaveModel::Style::Save, shell.Access(),
+                       {"F:0", {ListViewType::Details, 0, false}});
+    save.SetRecipe("Harvest Ale", 0);
+    return SaveDialog(dialogs, save, parent, prefix + QStringLiteral("save-as.png")) && ok;
+}
+
 bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
     AboutModel about;
     bool ok = SaveDialog(dialogs, about, window, prefix + QStringLiteral("about.png"));
@@ -226,6 +257,7 @@ bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QStrin
     ok &= SaveExchange(dialogs, shell, window, prefix);
     ok &= SaveCatalogue(dialogs, shell, window, prefix);
     ok &= SaveReports(dialogs, shell, window, prefix);
+    ok &= SaveBrowsing(dialogs, shell, window, prefix);
     if (RecipeDocument* document = shell.ActiveDocument()) {
         DetailsModel strength = StrengthDetailsOf(*document), volume = FinalVolDetailsOf(*document),
                      hops = HopDetailsOf(*document);

@@ -52,7 +52,9 @@
 #include "tools/ui/frmHopUtil.h"
 #include "tools/ui/frmHydrometer.h"
 #include "tree/ui/frmChooseFolder.h"
+#include "tree/ui/frmExplorer.h"
 #include "tree/ui/frmLvShow.h"
+#include "tree/ui/frmProgress.h"
 
 namespace tw {
 namespace {
@@ -84,6 +86,8 @@ void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     dialogs.Register("frmLvShow", &frmLvShow::Make);
     dialogs.Register("frmChooseFolder", &frmChooseFolder::Make);
     RegisterExchangeForms(dialogs);
+    dialogs.Register("frmExplorer", &frmExplorer::Make);
+    dialogs.Register("frmProgress", &frmProgress::Make);
 }
 
 std::string DatabaseOf(const ProgramOptions& options) {

@@ -132,17 +132,6 @@ constexpr ButtonRow kButtons[] = {
     {"Setup", "Database Setup", "Setup", "mnuToolsDataSetup", 6},
 };
 
-// The menu items whose feature is not part of the program: they and their buttons stay dark whatever the
-// enabling rules say. The feature that comes takes its names off this list.
-constexpr std::array kNotBuilt = std::to_array<std::string_view>({
-    "mnuFileDelete",
-    "mnuToolsExplorer",
-});
-
-bool Built(std::string_view item) {
-    return std::ranges::find(kNotBuilt, item) == kNotBuilt.end();
-}
-
 template <std::size_t N>
 void AppendMenu(std::vector<MenuItem>& items, std::string_view menu, const MenuRow (&rows)[N]) {
     for (const MenuRow& row : rows) {
@@ -151,8 +140,7 @@ void AppendMenu(std::vector<MenuItem>& items, std::string_view menu, const MenuR
         item.caption = row.caption;
         item.shortcut = row.shortcut;
         item.menu = menu;
-        item.wanted = row.start != kOff;
-        item.enabled = item.wanted && Built(row.name);
+        item.enabled = row.start != kOff;
         item.visible = row.start != kHidden;
         items.push_back(std::move(item));
     }
@@ -170,8 +158,7 @@ CommandBar::CommandBar() {
     for (const ButtonRow& row : kButtons) {
         const MenuItem& item = Item(row.menuItem);
         buttons_.push_back({std::string(row.key), std::string(row.toolTip), std::string(row.image),
-                            std::string(row.image), std::string(row.menuItem), row.group, item.enabled,
-                            item.wanted});
+                            std::string(row.image), std::string(row.menuItem), row.group, item.enabled});
     }
 }
 
@@ -200,12 +187,6 @@ ToolButton& CommandBar::Button(std::string_view key) {
     return *found;
 }
 
-bool CommandBar::Wanted(std::string_view name) const {
-    const MenuItem* item = FindItem(name);
-    assert(item);
-    return item->wanted;
-}
-
 void CommandBar::SetCaption(std::string_view name, std::string_view caption) {
     MenuItem& item = Item(name);
     if (item.caption == caption) return;
@@ -215,10 +196,8 @@ void CommandBar::SetCaption(std::string_view name, std::string_view caption) {
 
 void CommandBar::SetEnabled(std::string_view name, bool enabled) {
     MenuItem& item = Item(name);
-    item.wanted = enabled;
-    const bool lit = enabled && Built(name);
-    if (item.enabled == lit) return;
-    item.enabled = lit;
+    if (item.enabled == enabled) return;
+    item.enabled = enabled;
     if (observer_) observer_->MenuItemChanged(item);
 }
 
@@ -245,12 +224,10 @@ void CommandBar::SetButtonWithTwin(std::string_view key, bool enabled) {
 }
 
 void CommandBar::SetButton(ToolButton& button, bool enabled, bool twin) {
-    button.wanted = enabled;
-    const bool lit = enabled && Built(button.menuItem);
-    if (button.enabled == lit) return;
-    button.enabled = lit;
+    if (button.enabled == enabled) return;
+    button.enabled = enabled;
     if (twin) {
-        button.image = lit ? button.key : button.key + "Transparent";
+        button.image = enabled ? button.key : button.key + "Transparent";
         button.tag = button.image;
     }
     if (observer_) observer_->ToolButtonChanged(button);

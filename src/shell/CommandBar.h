@@ -14,10 +14,9 @@ struct MenuItem {
     std::string shortcut;  // "Ctrl+N", empty for none
     std::string
         menu;  // the top-level menu it stands in: "mnuFile", "mnuEdit", "mnuTools", "mnuWindow", "mnuHelp"
-    bool enabled = true;  // lit: wanted, and its feature is part of the program
+    bool enabled = true;
     bool visible = true;
     bool checked = false;
-    bool wanted = true;  // what the enabling rules say; they compare with this state
     bool IsSeparator() const { return caption == "-"; }
 };
 
@@ -28,8 +27,7 @@ struct ToolButton {
     std::string tag;    // keeps the name of the present image, so that a change of icon set keeps the state
     std::string menuItem;  // the menu item whose action a click runs
     int group = 0;         // buttons of one group stand together
-    bool enabled = true;   // lit: wanted, and its feature is part of the program
-    bool wanted = true;    // what the enabling rules say
+    bool enabled = true;
 };
 
 class CommandObserver {
@@ -54,11 +52,7 @@ class CommandBar {
     const MenuItem* FindItem(std::string_view name) const;
     const ToolButton* FindButton(std::string_view key) const;
 
-    // The state that the enabling rules have given to an item. REQUIRES: the name exists.
-    bool Wanted(std::string_view name) const;
-
-    // Each touches nothing if there is no change. A command whose feature is not part of the program takes
-    // the wanted state but stays dark. REQUIRES: the name or key exists.
+    // Each touches nothing if there is no change. REQUIRES: the name or key exists.
     void SetCaption(std::string_view name, std::string_view caption);
     void SetEnabled(std::string_view name, bool enabled);
     void SetVisible(std::string_view name, bool visible);

@@ -1,51 +1,233 @@
 #include "shell/OpenSaveModel.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
 
+#include "store/ObjectKeys.h"
 #include "store/RecipeRows.h"
+#include "tree/TWNodes.h"
 #include "values/Text.h"
 
 namespace tw {
+namespace {
 
-OpenSaveModel::OpenSaveModel(Style style, Database& database, MessagePort& messages)
-    : style_(style), database_(database), messages_(messages) {
-    for (Recordset rows = database_.OpenRecordset("SELECT NAME FROM RECIPES ORDER BY NAME"); !rows.AtEnd();
-         rows.MoveNext()) {
-        names_.push_back(rows.Fields(0).Text());
-    }
+constexpr std::array<std::string_view, 3> kOkCaptions = {"&Open", "&Save", "&Delete"};
+
+bool IsFolderKey(std::string_view key) {
+    return key.starts_with("F:");
+}
+
+}  // namespace
+
+OpenSaveModel::OpenSaveModel(Style style, const ObjectAccess& access, OpenSaveFields fields)
+    : style_(style), access_(access), look_(fields.look), list_(access, look_, false) {
+    const std::string_view first = style == Style::Save ? kRecipeFoldersKey : kAllRecipesKey;
+    GoTo(style == Style::Open && HasFolder(fields.nodeKey) ? std::string_view(fields.nodeKey) : first);
 }
 
 void OpenSaveModel::SetRecipe(std::string_view name, std::int64_t folderId) {
     text_ = name;
     recipe_ = Trim(name);
-    folderId_ = folderId < 0 ? 0 : folderId;
+    const std::string key = "F:" + std::to_string(folderId);
+    GoTo(folderId >= 0 && HasFolder(key) ? std::string_view(key) : kRecipeFoldersKey);
 }
 
 std::string OpenSaveModel::Caption() const {
     if (style_ == Style::Open) return "Open Recipe";
+    if (style_ == Style::Delete) return "Delete Recipe";
     return recipe_.empty() ? "Save Recipe" : "Save '" + recipe_ + "' As...";
 }
 
 std::string OpenSaveModel::OkCaption() const {
-    return style_ == Style::Open ? "&Open" : "&Save";
+    return std::string(kOkCaptions[static_cast<std::size_t>(style_)]);
+}
+
+std::int64_t OpenSaveModel::FolderID() const {
+    return IsFolderKey(NodeKey()) ? IdOfKey(NodeKey()) : -1;
+}
+
+bool OpenSaveModel::HasFolder(std::string_view key) const {
+    return (IsFolderKey(key) || key == kDatabaseKey) && access_.tree.NodeExists(key);
+}
+
+void OpenSaveModel::GoTo(std::string_view key) {
+    list_.Show(std::string(key), false);
+}
+
+bool OpenSaveModel::EnterFolder(std::string_view key) {
+    if (!HasFolder(key)) return false;
+    if (key != NodeKey()) history_.push_back(NodeKey());
+    GoTo(key);
+    return true;
+}
+
+void OpenSaveModel::GoBack() {
+    while (!history_.empty()) {
+        const std::string key = history_.back();
+        history_.pop_back();
+        // It may have gone meanwhile.
+        if (HasFolder(key)) return GoTo(key);
+    }
+}
+
+void OpenSaveModel::GoUp() {
+    const TWNode* const node = access_.tree.Nodes(NodeKey());
+    if (node && node->Parent()) EnterFolder(node->Parent()->Key());
+}
+
+std::vector<OpenSaveModel::FolderEntry> OpenSaveModel::Folders() const {
+    std::vector<FolderEntry> folders;
+    for (const TWNode* node = access_.tree.Nodes(NodeKey()); node; node = node->Parent()) {
+        const std::string_view icon = folders.empty() ? node->IconOpen() : node->IconClosed();
+        folders.push_back({node->Key(), std::string(node->Name()), IconOf(icon)});
+    }
+    std::ranges::reverse(folders);
+    return folders;
+}
+
+bool OpenSaveModel::IsEnabled(std::string_view command) const {
+    if (command == "cmdBack") return !history_.empty();
+    if (command == "cmdUp") {
+        const TWNode* const node = access_.tree.Nodes(NodeKey());
+        return node && node->Parent();
+    }
+    if (command == "cmdNewFolder" || command == "mnuNewFolder") return CanHoldFolders(NodeKey());
+    if (command == "mnuRename") return list_.CanRename(list_.Rows().Selected());
+    if (command == "mnuLineUp")
+        return look_.viewType == ListViewType::LargeIcons || look_.viewType == ListViewType::SmallIcons;
+    return true;
+}
+
+void OpenSaveModel::RowChosen() {
+    nameTouched_ = false;
+    if (list_.SelectedKey().starts_with("R:")) text_ = list_.Rows().SelectedText();
+}
+
+void OpenSaveModel::OpenRow() {
+    const std::string key = list_.SelectedKey();
+    if (key.empty() || EnterFolder(key)) return;
+    RowChosen();
+    AcceptName();
+}
+
+void OpenSaveModel::NewFolder() {
+    const std::string key = access_.objects.CreateFolderObject(NodeKey(), "", false);
+    if (key.empty()) return;
+    list_.AddFolder(key);
+    RowChosen();
+}
+
+bool OpenSaveModel::RenameRow(std::string_view newName) {
+    const bool renamed = list_.EndEdit(newName);
+    if (renamed && !nameTouched_) RowChosen();
+    return renamed;
+}
+
+bool OpenSaveModel::CanDrop(const std::vector<std::string>& keys, std::string_view targetKey) const {
+    return IsFolderKey(targetKey) && !keys.empty() &&
+           std::ranges::all_of(keys, [&](const std::string& key) { return CanDropOn(key, targetKey); });
+}
+
+void OpenSaveModel::Drop(const std::vector<std::string>& keys, std::string_view targetKey) {
+    const std::string target(targetKey);
+    if (!CanDrop(keys, target)) return;
+    for (const std::string& key : keys) {
+        if (!access_.objects.MoveObject(key, target, false)) return;
+        list_.Remove(key);
+    }
+}
+
+void OpenSaveModel::AcceptName() {
+    const std::string name(Trim(text_));
+    if (style_ == Style::Save ? !AcceptsToSave(name) : !AcceptsToOpen(name)) return;
+    beerName_ = name;
+    cancelled_ = false;
+    open_ = false;
+}
+
+bool OpenSaveModel::AcceptsToOpen(const std::string& name) {
+    MessagePort& messages = access_.platform.messages;
+    if (!RecipeExists(access_.database, name)) {
+        messages.ShowMessage("Recipe not found", "No recipe named '" + name + "' exists.");
+        return false;
+    }
+    // The wording is intended.
+    return style_ == Style::Open ||
+           messages.Ask("Confirm Delete", "Are you sure want to delete the recipe '" + name + "'?",
+                        Question::YesNo) == Answer::Yes;
+}
+
+bool OpenSaveModel::AcceptsToSave(const std::string& name) {
+    MessagePort& messages = access_.platform.messages;
+    if (FolderID() < 0) {
+        messages.ShowMessage("Select Recipe Folder", "Please select a folder for this recipe.");
+        return false;
+    }
+    if (name.empty()) {
+        messages.Beep();
+        return false;
+    }
+    return !RecipeExists(access_.database, name) ||
+           messages.Ask("Overwrite existing recipe?",
+                        "A recipe named '" + name + "' already exists.\r\nOverwrite it?",
+                        Question::YesNo) == Answer::Yes;
 }
 
 std::vector<DialogControl> OpenSaveModel::Controls() const {
-    std::vector<DialogControl> controls{{"txtName", text_}};
-    if (style_ == Style::Save) controls.push_back({"FolderID", std::to_string(folderId_)});
+    const TWNode* const folder = access_.tree.Nodes(NodeKey());
+    std::vector<DialogControl> controls{{"icmbFolder", folder ? std::string(folder->Name()) : std::string()},
+                                        {"lvNames", list_.Rows().SelectedText()},
+                                        {"txtName", text_}};
+    if (style_ == Style::Save) controls.push_back({"FolderID", std::to_string(FolderID())});
     return controls;
 }
 
 bool OpenSaveModel::SetControl(std::string_view name, std::string_view text) {
     if (name == "txtName") {
         text_ = text;
+        nameTouched_ = true;
         return true;
     }
-    if (name != "FolderID" || style_ != Style::Save) return false;
-    std::int64_t id = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
-    if (error != std::errc() || end != text.data() + text.size() || id < 0) return false;
-    folderId_ = id;
+    if (name == "lvNames") {
+        if (!list_.ChooseByText(text)) return false;
+        RowChosen();
+        return true;
+    }
+    if (name == "icmbFolder") {
+        for (const FolderEntry& folder : Folders())
+            if (SameName(folder.name, text)) return EnterFolder(folder.key);
+        return EnterFolder(text);
+    }
+    if (name == "FolderID") {
+        std::int64_t id = 0;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
+        const bool isNumber = error == std::errc() && end == text.data() + text.size();
+        return isNumber && EnterFolder("F:" + std::to_string(id));
+    }
+    if (name == "txtFind") {
+        Find(text);
+        return true;
+    }
+    if (name != "txtLabel" || list_.EditedRow() == ListTable::kNoRow) return false;
+    RenameRow(text);
+    return true;
+}
+
+bool OpenSaveModel::Run(std::string_view command) {
+    list_.FollowSaves();
+    if (command == "cmdBack")
+        GoBack();
+    else if (command == "cmdUp")
+        GoUp();
+    else if (command == "cmdNewFolder" || command == "mnuNewFolder")
+        NewFolder();
+    else if (command == "mnuRename")
+        list_.BeginEdit(list_.Rows().Selected());
+    else if (command == "mnuLineUp")
+        list_.Sort();
+    else
+        return false;
     return true;
 }
 
@@ -54,30 +236,20 @@ bool OpenSaveModel::Press(std::string_view button) {
         CloseBox();
         return true;
     }
-    if (button != "cmdOK") return false;
-    if (AcceptsName(std::string(Trim(text_)))) Accept();
-    return true;
-}
-
-bool OpenSaveModel::AcceptsName(const std::string& name) {
-    const bool exists = RecipeExists(database_, name);
-    if (style_ == Style::Open) {
-        if (!exists) messages_.ShowMessage("Recipe not found", "No recipe named '" + name + "' exists.");
-        return exists;
+    if (button == "cmdOK") {
+        // A folder that was chosen without a name being typed is entered.
+        const std::string key = list_.SelectedKey();
+        if (nameTouched_ || !EnterFolder(key)) AcceptName();
+        return true;
     }
-    if (name.empty()) {
-        messages_.Beep();
-        return false;
+    if (!IsEnabled(button)) return true;
+    if (button == "cmdList") button = "mnuList";
+    if (button == "cmdDetails") button = "mnuDetails";
+    if (TakeLookCommand(look_, button)) {
+        list_.Sort();
+        return true;
     }
-    return !exists || messages_.Ask("Overwrite existing recipe?",
-                                    "A recipe named '" + name + "' already exists.\r\nOverwrite it?",
-                                    Question::YesNo) == Answer::Yes;
-}
-
-void OpenSaveModel::Accept() {
-    beerName_ = Trim(text_);
-    cancelled_ = false;
-    open_ = false;
+    return Run(button);
 }
 
 void OpenSaveModel::CloseBox() {

@@ -1,4 +1,5 @@
-// The open and save dialog (frmOpenSave): a list of the stored recipes and a name box, in two styles.
+// The open and save dialog (frmOpenSave) in its three styles: the recipe folders take the place of
+// directories.
 #pragma once
 
 #include <cstdint>
@@ -7,57 +8,108 @@
 #include <vector>
 
 #include "platform/DialogModel.h"
-#include "platform/Ports.h"
-#include "store/Database.h"
+#include "tree/NodeList.h"
 
 namespace tw {
 
+// What the shell keeps of the dialog from one use to the next.
+struct OpenSaveFields {
+    std::string nodeKey = "F:0";  // of the folder shown last
+    ListLook look;
+};
+
 class OpenSaveModel final : public DialogModel {
   public:
-    enum class Style : int { Open, Save };
+    enum class Style : int { Open, Save, Delete };
 
-    // Both references must outlive the dialog.
-    OpenSaveModel(Style style, Database& database, MessagePort& messages);
+    // An entry of icmbFolder: the folders from the root down to the current one.
+    struct FolderEntry {
+        std::string key, name;
+        NodeIcon icon = NodeIcon::None;
+    };
 
-    // What the dialog starts with when it saves: the name in the box and the folder, the root folder for a
-    // negative id.
+    // Starts in the folder of the fields when it opens, in all recipes when it deletes, in the root folder
+    // when it saves; a folder that is no longer there gives way to all recipes, or to the root folder when it
+    // saves. REQUIRES: what access names lives for as long.
+    OpenSaveModel(Style style, const ObjectAccess& access, OpenSaveFields fields);
+
+    // What the dialog starts with when it saves: the name in the box and the folder; the root folder for a
+    // recipe that was never saved, which has a negative id.
     void SetRecipe(std::string_view name, std::int64_t folderId);
 
-    // "Open Recipe"; "Save '{name}' As..." for a named recipe, else "Save Recipe".
+    Style Action() const { return style_; }
+    // "Open Recipe"; "Save '{name}' As..." for a named recipe, else "Save Recipe"; "Delete Recipe".
     std::string Caption() const;
-    // "&Open" or "&Save".
+    // "&Open", "&Save" or "&Delete".
     std::string OkCaption() const;
-    // The stored recipes by name.
-    const std::vector<std::string>& Names() const { return names_; }
 
     // True until cmdOK has accepted a name.
     bool Cancelled() const { return cancelled_; }
     // The accepted name, trimmed; empty when cancelled.
     const std::string& BeerName() const { return beerName_; }
-    std::int64_t FolderID() const { return folderId_; }
+    // Of the current folder; negative for one that holds no recipe of its own.
+    std::int64_t FolderID() const;
+    const std::string& NodeKey() const { return list_.Key(); }
+    OpenSaveFields Fields() const { return {NodeKey(), look_}; }
+
+    // What the window shows.
+    NodeList& List() { return list_; }
+    const ListLook& Look() const { return look_; }
+    std::vector<FolderEntry> Folders() const;
+    const std::string& NameText() const { return text_; }
+    // Whether a button or menu item is lit.
+    bool IsEnabled(std::string_view command) const;
+
+    // What the brewer does.
+
+    // Enters a folder that the dialog shows; the way back leads here. False for any other key.
+    bool EnterFolder(std::string_view key);
+    // A row has been chosen: a recipe's name goes into the box.
+    void RowChosen();
+    // A double click on the chosen row, or Enter: enters a folder, takes a recipe and runs cmdOK.
+    void OpenRow();
+    // Narrows the list to the recipes that hold the words, a text without a word shows the folder again.
+    void Find(std::string_view text) { list_.Find(text); }
+    // The name that was typed over a row. False when it was refused, which has been told.
+    bool RenameRow(std::string_view newName);
+    // Whether these rows may be dropped on that row.
+    bool CanDrop(const std::vector<std::string>& keys, std::string_view targetKey) const;
+    // Moves them, in their order, until one is refused; those moved leave the list.
+    void Drop(const std::vector<std::string>& keys, std::string_view targetKey);
 
     std::string FormName() const override { return "frmOpenSave"; }
-    // txtName; FolderID too when the dialog saves.
+    // icmbFolder, the current folder's name; lvNames, the chosen row's; txtName; FolderID when it saves.
     std::vector<DialogControl> Controls() const override;
-    // FolderID takes a whole number that is not negative.
+    // icmbFolder takes a folder's key, or the name of one that it lists; lvNames the name of a row; FolderID
+    // the id of a recipe folder, -1 for all recipes; txtFind what to look for; txtLabel the new name of the
+    // row that is being edited, which ends the edit.
     bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdOK stays open for a name that it refuses; cmdCancel closes.
+    // The buttons and the items of the menu, mnuArrangeBy(0) and so on for its array. cmdOK stays open for
+    // what it refuses. A command that is not lit does nothing.
     bool Press(std::string_view button) override;
     void CloseBox() override;
     bool IsOpen() const override { return open_; }
 
   private:
-    bool AcceptsName(const std::string& name);
-    void Accept();
+    bool Run(std::string_view command);
+    bool HasFolder(std::string_view key) const;
+    void GoTo(std::string_view key);
+    void GoBack();
+    void GoUp();
+    void NewFolder();
+    void AcceptName();
+    bool AcceptsToOpen(const std::string& name);
+    bool AcceptsToSave(const std::string& name);
 
     Style style_;
-    Database& database_;
-    MessagePort& messages_;
-    std::vector<std::string> names_;
-    std::string text_;    // txtName
-    std::string recipe_;  // name of the recipe that is being saved
+    ObjectAccess access_;
+    ListLook look_;
+    NodeList list_;
+    std::vector<std::string> history_;  // folders left, the last one last
+    std::string text_;                  // txtName
+    std::string recipe_;                // name of the recipe that is being saved
     std::string beerName_;
-    std::int64_t folderId_ = 0;
+    bool nameTouched_ = false;  // typed in since a row was chosen
     bool cancelled_ = true;
     bool open_ = true;
 };

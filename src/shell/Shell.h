@@ -23,11 +23,13 @@
 #include "shell/AutoSave.h"
 #include "shell/CommandBar.h"
 #include "shell/DDEService.h"
+#include "shell/OpenSaveModel.h"
 #include "shell/RecentList.h"
 #include "shell/Recovery.h"
 #include "shell/Settings.h"
 #include "store/DB_IO.h"
 #include "store/Database.h"
+#include "tree/ExplorerModel.h"
 #include "tree/ListTable.h"
 #include "tree/TWTree.h"
 #include "tree/TreeObjects.h"
@@ -124,6 +126,10 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // and tell the open documents. REQUIRES: the database is open.
     const TWTree& Tree() const { return *tree_; }
     DB_IO& Objects() { return *objects_; }
+    // What the windows on folders, recipes and styles work on. REQUIRES: the database is open.
+    ObjectAccess Access() { return {*database_, *tree_, *objects_, platform_}; }
+    // What the open and save dialog and the explorer showed last.
+    const OpenSaveFields& BrowseFields() const { return browse_; }
 
     // Documents, in the order of their opening.
     const std::vector<std::unique_ptr<RecipeDocument>>& Documents() const { return documents_; }
@@ -301,6 +307,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void PrintOn(std::unique_ptr<PrinterDevice> device);
     void OfferPdf();
     void SaveAsPdf(const PrintSteps& steps, Paper paper);
+    void ShowDeleteDialog();
+    void ShowExplorer();
     // Asks for another figure of the active recipe and scales it to that; nothing while it has none.
     void ShowScaling(Scaling what);
     void Arrange(Arrangement arrangement);
@@ -322,6 +330,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     DDEService dde_;
     SettingsStore store_;
     Settings settings_;
+    OpenSaveFields browse_;
     CommandBar bar_;
     RecentList recent_;
     ColorTable colors_;

@@ -4,7 +4,6 @@
 #include <span>
 
 #include "shell/AboutModel.h"
-#include "shell/OpenSaveModel.h"
 #include "shell/OptionsModel.h"
 #include "shell/RecipeExchange.h"
 #include "shell/Shell.h"
@@ -47,6 +46,7 @@ const Shell::ActionRow Shell::kFileActions[] = {
     // The toolbar's button, by its key.
     {"Print", [](Shell& s) { s.PrintActiveDocument(s.settings_.quickPrintFromToolbar); }},
     {"mnuFileReport", [](Shell& s) { s.ShowReportWizard(); }},
+    {"mnuFileDelete", [](Shell& s) { s.ShowDeleteDialog(); }},
     {"mnuFileExit",
      [](Shell& s) {
          if (s.RequestExit() && s.view_) s.view_->CloseMainWindow();
@@ -72,6 +72,7 @@ const Shell::ActionRow Shell::kEditActions[] = {
 };
 
 const Shell::ActionRow Shell::kOtherActions[] = {
+    {"mnuToolsExplorer", [](Shell& s) { s.ShowExplorer(); }},
     {"mnuToolsUnits",
      [](Shell& s) {
          ConvertUnitsModel converter(s.platform_.messages);
@@ -165,12 +166,6 @@ bool Shell::PressButton(std::string_view key) {
     if (!button || !button->enabled) return false;
     // A button whose action differs from its menu item's has one of its own.
     return RunAction(FindAction(key) ? key : std::string_view(button->menuItem));
-}
-
-void Shell::ShowOpenDialog() {
-    OpenSaveModel dialog(OpenSaveModel::Style::Open, *database_, platform_.messages);
-    platform_.dialogs.ShowModal(dialog);
-    if (!dialog.Cancelled()) LoadDoc(dialog.BeerName());
 }
 
 void Shell::PickFromCatalogue(RecipeDocument& document, PickList list, const std::string& name) {
@@ -296,7 +291,7 @@ void Shell::CheckEnableDelete() {
     const bool anyRecipe = !database_->OpenRecordset("SELECT * FROM RECIPES").AtEnd();
     // Compared with mnuFileDelete alone, on purpose: at a start with recipes mnuFilePrint stays off, and with
     // the first recipe it goes on, also without an open document.
-    if (bar_.Wanted("mnuFileDelete") == anyRecipe) return;
+    if (bar_.FindItem("mnuFileDelete")->enabled == anyRecipe) return;
     bar_.SetEnabled("mnuFileDelete", anyRecipe);
     bar_.SetEnabled("mnuFilePrint", anyRecipe);
     bar_.SetEnabled("mnuFileOpen", anyRecipe);

@@ -1,7 +1,6 @@
 // The open documents of the shell: how they come, go, are saved, and hear of what happens in the database.
 #include <algorithm>
 
-#include "shell/OpenSaveModel.h"
 #include "shell/Shell.h"
 #include "store/RecipeRows.h"
 #include "values/Text.h"
@@ -171,12 +170,13 @@ bool Shell::SaveRecipeAs(RecipeDocument& document) {
     std::unique_ptr<OpenSaveModel> dialog;
     const bool shown = TrySave([&](bool& ok) {
         document.FlushEdits();
-        dialog = std::make_unique<OpenSaveModel>(OpenSaveModel::Style::Save, *database_, platform_.messages);
+        dialog = std::make_unique<OpenSaveModel>(OpenSaveModel::Style::Save, Access(), browse_);
         dialog->SetRecipe(document.Caption(), document.FolderID());
         platform_.dialogs.ShowModal(*dialog);
         ok = true;
     });
     if (!shown || dialog->Cancelled()) return false;
+    browse_ = dialog->Fields();
     return SaveRecipeUnder(document, dialog->BeerName(), dialog->FolderID(), true);
 }
 
@@ -247,6 +247,7 @@ void Shell::NotifyRecipeDeleted(const std::string& name) {
 }
 
 void Shell::NotifyRecipeFolderDeleted(std::int64_t folderId) {
+    if (browse_.nodeKey == "F:" + std::to_string(folderId)) browse_.nodeKey = kRecipeFoldersKey;
     ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeFolderDeleted(folderId); });
 }
 

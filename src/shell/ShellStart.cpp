@@ -43,6 +43,7 @@ bool Shell::PerformSplashScreenInit(const std::string& databasePath) {
     settings_.LoadProgramKeys(store_);
     SetAppendRows(settings_.appendRows);
     SwitchAutoSave(false);
+    browse_ = {};
     recent_.Load(store_);
     bar_.SetVisible("mnuFileBar7", !recent_.Captions().empty());
     if (!OpenDatabase(databasePath)) return false;

@@ -138,6 +138,7 @@ void ListTable::SetRows(std::vector<ListRow> rows) {
         rows_ = Filtered();
     }
     selected_ = kNoRow;
+    chosen_.clear();
     sortColumn_ = -1;
     sortDescending_ = false;
     TellChanged();
@@ -162,8 +163,10 @@ void ListTable::Remove(int row) {
         unfiltered_.erase(std::ranges::find_if(unfiltered_, same));
     }
     rows_.erase(rows_.begin() + row);
+    std::erase(chosen_, row);
+    for (int& chosen : chosen_) chosen -= chosen > row ? 1 : 0;
     if (selected_ == row)
-        selected_ = kNoRow;
+        selected_ = chosen_.empty() ? kNoRow : chosen_.front();
     else if (selected_ > row)
         --selected_;
     TellChanged();
@@ -208,8 +211,17 @@ void ListTable::SetFilter(std::string_view text) {
         rows_ = Filtered();
     selected_ = chosen ? FindKey(chosen->key) : kNoRow;
     if (selected_ == kNoRow) selected_ = FirstRow();
+    chosen_.clear();
+    if (selected_ != kNoRow) chosen_.push_back(selected_);
     TellChanged();
     if (observer_) observer_->ListSelectionChanged();
+}
+
+void ListTable::SetCell(int row, int column, std::string_view text) {
+    ListRow& changed = rows_[static_cast<std::size_t>(row)];
+    changed.cells[static_cast<std::size_t>(column)] = text;
+    Fit(changed);
+    if (observer_) observer_->ListRowChanged(row);
 }
 
 int ListTable::FindKey(std::string_view key) const {
@@ -224,16 +236,27 @@ std::string ListTable::SelectedText() const {
 
 bool ListTable::Select(int row) {
     if (row < 0 || row >= Count() || Row(row).isGroup) return false;
-    if (selected_ == row) return true;
-    selected_ = row;
-    if (observer_) observer_->ListSelectionChanged();
+    Choose({row}, row);
     return true;
 }
 
-void ListTable::SelectNone() {
-    if (selected_ == kNoRow) return;
-    selected_ = kNoRow;
+void ListTable::Choose(std::vector<int> rows, int selected) {
+    std::erase_if(rows, [&](int row) { return row < 0 || row >= Count() || Row(row).isGroup; });
+    std::ranges::sort(rows);
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    if (!std::ranges::binary_search(rows, selected)) selected = rows.empty() ? kNoRow : rows.front();
+    if (rows == chosen_ && selected == selected_) return;
+    chosen_ = std::move(rows);
+    selected_ = selected;
     if (observer_) observer_->ListSelectionChanged();
+}
+
+bool ListTable::IsChosen(int row) const {
+    return std::ranges::binary_search(chosen_, row);
+}
+
+void ListTable::SelectNone() {
+    Choose({}, kNoRow);
 }
 
 int ListTable::FirstRow() const {
@@ -241,11 +264,22 @@ int ListTable::FirstRow() const {
     return found == rows_.end() ? kNoRow : static_cast<int>(found - rows_.begin());
 }
 
+void ListTable::FollowOrder(const std::vector<std::size_t>& order) {
+    int selected = kNoRow;
+    std::vector<int> chosen;
+    for (std::size_t to = 0; to < order.size(); ++to) {
+        const int from = static_cast<int>(order[to]);
+        if (from == selected_) selected = static_cast<int>(to);
+        if (IsChosen(from)) chosen.push_back(static_cast<int>(to));
+    }
+    selected_ = selected;
+    chosen_ = std::move(chosen);
+}
+
 void ListTable::Sort(int column, bool descending) {
     const ListColumnKind kind = columns_[static_cast<std::size_t>(column)].kind;
     std::vector<std::size_t> order = SortedOrder(rows_, column, kind, descending);
-    const auto place = std::ranges::find(order, static_cast<std::size_t>(selected_));
-    selected_ = place == order.end() ? kNoRow : static_cast<int>(place - order.begin());
+    FollowOrder(order);
     rows_ = Arranged(std::move(rows_), order);
     order = SortedOrder(unfiltered_, column, kind, descending);
     unfiltered_ = Arranged(std::move(unfiltered_), order);

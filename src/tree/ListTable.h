@@ -42,6 +42,8 @@ class ListTableObserver {
     // Columns or rows are others.
     virtual void ListChanged() = 0;
     virtual void ListSelectionChanged() = 0;
+    // A cell of that row alone is another.
+    virtual void ListRowChanged(int /*row*/) { ListChanged(); }
 };
 
 class ListTable {
@@ -67,6 +69,10 @@ class ListTable {
     void Add(ListRow row);
     // REQUIRES: there is such a row. The selection goes with its row.
     void Remove(int row);
+    // REQUIRES: there is such a row.
+    void SetKey(int row, std::string key) { rows_[static_cast<std::size_t>(row)].key = std::move(key); }
+    // REQUIRES: there is such a row and such a column. The row stays where it is, however the list is sorted.
+    void SetCell(int row, int column, std::string_view text);
     // The first row of that key, letter for letter; kNoRow for none.
     int FindKey(std::string_view key) const;
 
@@ -76,19 +82,25 @@ class ListTable {
     void SetFilter(std::string_view text);
     const std::string& Filter() const { return filter_; }
 
-    // The chosen row; kNoRow without one.
+    // The chosen row, of several the one that was chosen last; kNoRow without one.
     int Selected() const { return selected_; }
+    // All chosen rows, from the top.
+    const std::vector<int>& Chosen() const { return chosen_; }
+    bool IsChosen(int row) const;
     // The text of the chosen row's first column; empty without one.
     std::string SelectedText() const;
-    // False, and nothing changes, for a group row and for none.
+    // Chooses that row alone. False, and nothing changes, for a group row and for none.
     bool Select(int row);
+    // Chooses those rows and no other; group rows and what is no row are passed over. selected becomes the
+    // one chosen last when it is among them, otherwise the first of them does.
+    void Choose(std::vector<int> rows, int selected);
     void SelectNone();
     // The first row that can be chosen; kNoRow in a list without one.
     int FirstRow() const;
 
     // Sorts the rows within their groups, folders first, texts without regard to case, numbers and dates by
     // what they mean and blanks before all others; equal rows keep their order, also when descending. The
-    // chosen row stays chosen. REQUIRES: there is such a column.
+    // chosen rows stay chosen. REQUIRES: there is such a column.
     void Sort(int column, bool descending = false);
     // What the list was last sorted by; -1 for rows as they were filled.
     int SortColumn() const { return sortColumn_; }
@@ -104,6 +116,8 @@ class ListTable {
 
   private:
     void Fit(ListRow& row) const;
+    // Keeps the chosen rows chosen where order puts them.
+    void FollowOrder(const std::vector<std::size_t>& order);
     // The rows that the filter lets pass.
     std::vector<ListRow> Filtered() const;
     bool PassesFilter(const ListRow& row, const std::vector<std::string>& words) const;
@@ -113,7 +127,8 @@ class ListTable {
     std::vector<ListRow> rows_;
     std::string filter_;
     std::vector<ListRow> unfiltered_;  // all rows, while there is a filter
-    int selected_ = kNoRow;
+    int selected_ = kNoRow;            // one of chosen_
+    std::vector<int> chosen_;          // in ascending order
     int sortColumn_ = -1;
     bool sortDescending_ = false;
     ListTableObserver* observer_ = nullptr;

@@ -279,7 +279,10 @@ void lvFiller::FillByKey(ListTable& list, std::string_view key, bool showStyles)
     for (const auto& child : parent->Children())
         if (showStyles || !BelongsToStyles(*child)) nodes.push_back(child.get());
     if (!std::ranges::is_sorted(nodes, IsBefore)) std::ranges::stable_sort(nodes, IsBefore);
+    FillNodes(list, nodes);
+}
 
+void lvFiller::FillNodes(ListTable& list, const std::vector<TWNode*>& nodes) const {
     std::vector<ListRow> rows;
     rows.reserve(nodes.size());
     Batch<DateFields> recipeFolders("FOLDERS", " AND NOT STYLE", kFolderNames, ShowFolder);

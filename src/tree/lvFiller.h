@@ -39,8 +39,10 @@ class lvFiller {
 
     // A row for each child of the node of that key, in the order of TWNode::Compare; the rows' keys are those
     // of the nodes. Without showStyles what belongs to the styles is left out. An unknown key leaves the list
-    // empty. REQUIRES, as for the three below: the list has the columns of the explorer.
+    // empty. REQUIRES, as for those below: the list has the columns of the explorer.
     void FillByKey(ListTable& list, std::string_view key, bool showStyles) const;
+    // A row for each of those nodes, in their order.
+    void FillNodes(ListTable& list, const std::vector<TWNode*>& nodes) const;
 
     // The rows of single nodes, behind all others. FillByKey gives the same rows from fewer statements.
     void AddFolderRow(ListTable& list, TWNode& folder) const;

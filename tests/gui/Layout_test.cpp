@@ -37,7 +37,9 @@
 #include "tools/ui/frmHydrometer.h"
 #include "tree/ui/RecipeChooserView.h"
 #include "tree/ui/frmChooseFolder.h"
+#include "tree/ui/frmExplorer.h"
 #include "tree/ui/frmLvShow.h"
+#include "tree/ui/frmProgress.h"
 
 namespace tw::test {
 namespace {
@@ -62,22 +64,31 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         AboutModel about;
         DetailsModel strength = StrengthDetails(1.05, 1.01), hops = HopDetails(1.05, 30);
         DetailsModel volume = FinalVolDetails({5, 0, 5, 1.05, 1.01});
-        OpenSaveModel openSave(OpenSaveModel::Style::Open, *shell.DB(), outside.messages);
+        OpenSaveModel openSave(OpenSaveModel::Style::Open, shell.Access(), {});
+        ExplorerModel recipes(shell.Access(), {}), styles(shell.Access(), {});
+        styles.Show(ExplorerModel::Page::Styles);
+        ProgressModel progress("Deleting", {"Mild", "Stout"}, [](std::size_t) { return true; });
         CannotUndoModel cannotUndo;
         AboutDialog aboutWindow(about, nullptr);
         CannotUndoDialog cannotUndoWindow(cannotUndo, nullptr);
         DetailsDialog strengthWindow(strength, nullptr), hopsWindow(hops, nullptr),
             volumeWindow(volume, nullptr);
         OpenSaveDialog openSaveWindow(openSave, nullptr);
+        frmExplorer recipesWindow(recipes, nullptr), stylesWindow(styles, nullptr);
+        frmProgress progressWindow(progress, nullptr);
         for (QDialog* dialog :
              {static_cast<QDialog*>(&aboutWindow), static_cast<QDialog*>(&strengthWindow),
               static_cast<QDialog*>(&hopsWindow), static_cast<QDialog*>(&volumeWindow),
-              static_cast<QDialog*>(&openSaveWindow), static_cast<QDialog*>(&cannotUndoWindow)}) {
+              static_cast<QDialog*>(&openSaveWindow), static_cast<QDialog*>(&cannotUndoWindow),
+              static_cast<QDialog*>(&recipesWindow), static_cast<QDialog*>(&stylesWindow)}) {
             dialog->show();
             QApplication::processEvents();
             visit(*dialog);
         }
         ForEachHelpWindow(visit);
+        // It goes as soon as events run.
+        progressWindow.show();
+        visit(progressWindow);
         ForEachTool(visit);
         ForEachChooser(visit);
         ForEachExchange(visit);

@@ -16,9 +16,9 @@ std::vector<ItemRow> ItemsOf(const CommandBar& bar, std::string_view menu) {
     for (const MenuItem& item : bar.Items()) {
         if (item.menu != menu || item.IsSeparator()) continue;
         rows.emplace_back(item.name, item.caption, item.shortcut,
-                          !item.visible  ? "hidden"
-                          : !item.wanted ? "off"
-                                         : "");
+                          !item.visible   ? "hidden"
+                          : !item.enabled ? "off"
+                                          : "");
     }
     return rows;
 }
@@ -170,17 +170,9 @@ TEST(CommandBar, AButtonStartsOffExactlyWhenItsMenuItemDoes) {
         const MenuItem* item = bar.FindItem(button.menuItem);
         ASSERT_TRUE(item) << button.key;
         EXPECT_EQ(button.enabled, item->enabled) << button.key;
-        EXPECT_EQ(button.wanted, item->wanted) << button.key;
     }
     EXPECT_TRUE(bar.FindButton("New")->enabled);
     EXPECT_FALSE(bar.FindButton("Save")->enabled);
-}
-
-TEST(CommandBar, ACommandWithoutItsFeatureStaysDark) {
-    CommandBar bar;
-    bar.SetEnabled("mnuFileDelete", true);
-    EXPECT_TRUE(bar.Wanted("mnuFileDelete"));
-    EXPECT_FALSE(bar.FindItem("mnuFileDelete")->enabled);
 }
 
 TEST(CommandBar, AButtonWithATwinChangesItsImageAndTag) {

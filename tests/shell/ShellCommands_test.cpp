@@ -58,8 +58,8 @@ TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem
     for (const std::string_view item : commands) EXPECT_FALSE(Lit(item)) << item;
     RecipeDocument& document = shell.CreateDocumentWindow("");
     for (const std::string_view item : commands) EXPECT_TRUE(Lit(item)) << item;
-    EXPECT_TRUE(bar().Wanted("mnuFilePrint"));
-    EXPECT_TRUE(bar().FindButton("Print")->wanted);
+    EXPECT_TRUE(bar().FindItem("mnuFilePrint")->enabled);
+    EXPECT_TRUE(bar().FindButton("Print")->enabled);
     document.SetTab(Tab::Adjuncts);
     document.SetText(document.Record().txtNotes, "x");
     EXPECT_TRUE(Lit("mnuFileSave"));
@@ -73,7 +73,7 @@ TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem
                              "mnuEditDelete", "mnuEditCopy", "mnuEditSelectAll", "mnuEditCut", "mnuEditClear",
                              "mnuEditPaste", "mnuEditUndo", "mnuEditRedo", "mnuToolsResizeRecipe",
                              "mnuToolsChangeStrength", "mnuToolsChangeBitterness", "mnuToolsChangeCO2"}) {
-        EXPECT_FALSE(bar().Wanted(item)) << item;
+        EXPECT_FALSE(bar().FindItem(item)->enabled) << item;
     }
     for (const char* key : {"Save", "Insert", "Delete"}) EXPECT_FALSE(Button(key).enabled) << key;
     EXPECT_EQ(Button("Save").image, "SaveTransparent");
@@ -86,21 +86,21 @@ TEST_F(ShellTest, OpenAndExportFollowTheStoredRecipesNotTheDocuments) {
     EXPECT_TRUE(shell.CloseDocument(document));
     EXPECT_TRUE(Lit("mnuFileOpen"));
     EXPECT_TRUE(Button("Open").enabled);
-    EXPECT_TRUE(bar().Wanted("mnuFileExport"));
-    EXPECT_TRUE(bar().Wanted("mnuFileDelete"));
-    EXPECT_FALSE(bar().Wanted("mnuFilePrint"));
+    EXPECT_TRUE(bar().FindItem("mnuFileExport")->enabled);
+    EXPECT_TRUE(bar().FindItem("mnuFileDelete")->enabled);
+    EXPECT_FALSE(bar().FindItem("mnuFilePrint")->enabled);
     shell.DeleteRecipe("Pale Ale");
     EXPECT_FALSE(Lit("mnuFileOpen"));
     EXPECT_FALSE(Button("Open").enabled);
-    EXPECT_FALSE(bar().Wanted("mnuFileExport"));
+    EXPECT_FALSE(bar().FindItem("mnuFileExport")->enabled);
 }
 
 // Intended: the first recipe turns Print on even while no document is open.
 TEST_F(ShellTest, TheFirstRecipeTurnsPrintOnWithoutADocument) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
     shell.CheckEnableDelete();
-    EXPECT_TRUE(bar().Wanted("mnuFilePrint"));
-    EXPECT_FALSE(bar().FindButton("Print")->wanted);
+    EXPECT_TRUE(bar().FindItem("mnuFilePrint")->enabled);
+    EXPECT_FALSE(bar().FindButton("Print")->enabled);
 }
 
 // Intended: the comparison is made with mnuFileDelete alone.
@@ -110,15 +110,15 @@ TEST_F(ShellTest, NothingIsTouchedWhileDeleteIsAsItShouldBe) {
     shell.Bar().SetEnabled("mnuFilePrint", false);
     shell.Bar().SetEnabled("mnuFileOpen", false);
     shell.CheckEnableDelete();
-    EXPECT_FALSE(bar().Wanted("mnuFilePrint"));
-    EXPECT_FALSE(bar().Wanted("mnuFileOpen"));
+    EXPECT_FALSE(bar().FindItem("mnuFilePrint")->enabled);
+    EXPECT_FALSE(bar().FindItem("mnuFileOpen")->enabled);
 }
 
 TEST_F(ShellTest, TheFirstSaveLightsTheRecipeCommands) {
     EXPECT_FALSE(Lit("mnuFileOpen"));
     NewSaved("Pale Ale");
     EXPECT_TRUE(Lit("mnuFileOpen"));
-    EXPECT_TRUE(bar().Wanted("mnuFileDelete"));
+    EXPECT_TRUE(bar().FindItem("mnuFileDelete")->enabled);
 }
 
 TEST_F(ShellTest, SaveAllIsOnExactlyWhileSomeDocumentIsChanged) {
@@ -154,8 +154,8 @@ TEST_F(ShellTest, EachOperationLightsItsItemAndItsButton) {
     for (const Pair& pair : pairs) {
         for (const bool on : {true, false}) {
             (shell.*pair.enable)(on);
-            EXPECT_EQ(bar().Wanted(pair.item), on) << pair.item;
-            EXPECT_EQ(Button(pair.button).wanted, on) << pair.button;
+            EXPECT_EQ(bar().FindItem(pair.item)->enabled, on) << pair.item;
+            EXPECT_EQ(Button(pair.button).enabled, on) << pair.button;
         }
     }
 }
@@ -165,48 +165,48 @@ TEST_F(ShellTest, UndoAndRedoShowTheirDescriptionAlways) {
     shell.EnableRedo(true, "Insert Row");
     EXPECT_EQ(bar().FindItem("mnuEditUndo")->caption, "&Undo Typing");
     EXPECT_EQ(bar().FindItem("mnuEditRedo")->caption, "&Redo Insert Row");
-    EXPECT_FALSE(bar().Wanted("mnuEditUndo"));
-    EXPECT_TRUE(bar().Wanted("mnuEditRedo"));
-    EXPECT_TRUE(Button("Redo").wanted);
+    EXPECT_FALSE(bar().FindItem("mnuEditUndo")->enabled);
+    EXPECT_TRUE(bar().FindItem("mnuEditRedo")->enabled);
+    EXPECT_TRUE(Button("Redo").enabled);
 }
 
 TEST_F(ShellTest, CopyAndPasteLightTheirCommands) {
     outside.clipboard.text = "x";
     shell.EnableCopyPaste(true, false);
-    EXPECT_TRUE(bar().Wanted("mnuEditCopy"));
-    EXPECT_TRUE(bar().Wanted("mnuEditSelectAll"));
-    EXPECT_TRUE(Button("Copy").wanted);
-    EXPECT_FALSE(bar().Wanted("mnuEditCut"));
-    EXPECT_FALSE(bar().Wanted("mnuEditPaste"));
+    EXPECT_TRUE(bar().FindItem("mnuEditCopy")->enabled);
+    EXPECT_TRUE(bar().FindItem("mnuEditSelectAll")->enabled);
+    EXPECT_TRUE(Button("Copy").enabled);
+    EXPECT_FALSE(bar().FindItem("mnuEditCut")->enabled);
+    EXPECT_FALSE(bar().FindItem("mnuEditPaste")->enabled);
     shell.EnableCopyPaste(false, true);
-    EXPECT_FALSE(bar().Wanted("mnuEditCopy"));
+    EXPECT_FALSE(bar().FindItem("mnuEditCopy")->enabled);
     for (const char* item : {"mnuEditCut", "mnuEditClear", "mnuEditPaste"})
-        EXPECT_TRUE(bar().Wanted(item)) << item;
-    EXPECT_TRUE(Button("Cut").wanted);
-    EXPECT_TRUE(Button("Paste").wanted);
+        EXPECT_TRUE(bar().FindItem(item)->enabled) << item;
+    EXPECT_TRUE(Button("Cut").enabled);
+    EXPECT_TRUE(Button("Paste").enabled);
 }
 
 TEST_F(ShellTest, PasteStaysOffWhileTheClipboardHoldsNoText) {
     shell.EnableCopyPaste(true, true);
-    EXPECT_TRUE(bar().Wanted("mnuEditCut"));
-    EXPECT_FALSE(bar().Wanted("mnuEditPaste"));
-    EXPECT_FALSE(Button("Paste").wanted);
+    EXPECT_TRUE(bar().FindItem("mnuEditCut")->enabled);
+    EXPECT_FALSE(bar().FindItem("mnuEditPaste")->enabled);
+    EXPECT_FALSE(Button("Paste").enabled);
     outside.clipboard.text = "from elsewhere";
     shell.ReapplyPasteState();
-    EXPECT_TRUE(bar().Wanted("mnuEditPaste"));
-    EXPECT_TRUE(Button("Paste").wanted);
+    EXPECT_TRUE(bar().FindItem("mnuEditPaste")->enabled);
+    EXPECT_TRUE(Button("Paste").enabled);
     outside.clipboard.text.reset();
     shell.ReapplyPasteState();
-    EXPECT_FALSE(bar().Wanted("mnuEditPaste"));
-    EXPECT_TRUE(bar().Wanted("mnuEditCut"));
+    EXPECT_FALSE(bar().FindItem("mnuEditPaste")->enabled);
+    EXPECT_TRUE(bar().FindItem("mnuEditCut")->enabled);
 }
 
 TEST_F(ShellTest, ReapplyingKeepsWhatTheDocumentRefused) {
     outside.clipboard.text = "x";
     shell.EnableCopyPaste(true, false);
     shell.ReapplyPasteState();
-    EXPECT_FALSE(bar().Wanted("mnuEditPaste"));
-    EXPECT_FALSE(bar().Wanted("mnuEditCut"));
+    EXPECT_FALSE(bar().FindItem("mnuEditPaste")->enabled);
+    EXPECT_FALSE(bar().FindItem("mnuEditCut")->enabled);
 }
 
 // Intended: every edit item is about the active document, the append flag too.

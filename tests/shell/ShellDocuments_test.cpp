@@ -241,7 +241,7 @@ TEST_F(ShellTest, AfterAClosingTheDocumentUsedBeforeIsActive) {
 TEST_F(ShellTest, SavingANewRecipeGoesThroughTheNameDialog) {
     RecipeDocument& document = NewNamed("Pale Ale");
     outside.dialogs.scripts.push_back([](DialogModel& dialog) {
-        EXPECT_EQ(dialog.Controls()[0].text, "Pale Ale");
+        EXPECT_EQ(dialog.Controls()[2].text, "Pale Ale");
         dialog.SetControl("txtName", " Amber ");
         dialog.Press("cmdOK");
     });
@@ -256,7 +256,7 @@ TEST_F(ShellTest, SavingANewRecipeGoesThroughTheNameDialog) {
 TEST_F(ShellTest, TheNameDialogOffersTheCaptionOfAnUntitledDocument) {
     RecipeDocument& document = shell.CreateDocumentWindow("");
     outside.dialogs.scripts.push_back(
-        [](DialogModel& dialog) { EXPECT_EQ(dialog.Controls()[0].text, "Untitled 1"); });
+        [](DialogModel& dialog) { EXPECT_EQ(dialog.Controls()[2].text, "Untitled 1"); });
     EXPECT_FALSE(shell.SaveRecipeAs(document));
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmOpenSave"});
 }

@@ -98,7 +98,7 @@ TEST_F(ShellStartTest, AnEmptyDatabaseKeepsTheRecipeCommandsOff) {
     Shell shell(outside.platform);
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
     for (const char* item : {"mnuFileOpen", "mnuFileDelete", "mnuFilePrint", "mnuFileExport"}) {
-        EXPECT_FALSE(shell.Bar().Wanted(item)) << item;
+        EXPECT_FALSE(shell.Bar().FindItem(item)->enabled) << item;
         EXPECT_FALSE(Lit(shell, item)) << item;
     }
     EXPECT_FALSE(shell.Bar().FindButton("Open")->enabled);
@@ -111,9 +111,9 @@ TEST_F(ShellStartTest, WithRecipesPrintStaysOffAtTheStart) {
     Shell shell(outside.platform);
     ASSERT_TRUE(shell.PerformSplashScreenInit(folder.File("Tunwright.mdb")));
     EXPECT_TRUE(Lit(shell, "mnuFileOpen"));
-    EXPECT_TRUE(shell.Bar().Wanted("mnuFileDelete"));
-    EXPECT_TRUE(shell.Bar().Wanted("mnuFileExport"));
-    EXPECT_FALSE(shell.Bar().Wanted("mnuFilePrint"));
+    EXPECT_TRUE(shell.Bar().FindItem("mnuFileDelete")->enabled);
+    EXPECT_TRUE(shell.Bar().FindItem("mnuFileExport")->enabled);
+    EXPECT_FALSE(shell.Bar().FindItem("mnuFilePrint")->enabled);
 }
 
 TEST_F(ShellStartTest, TheWindowsSettingsComeFirst) {

@@ -155,6 +155,46 @@ TEST(ListTable, ARemovedRowTakesItsSelectionAlong) {
     EXPECT_EQ(list.Selected(), ListTable::kNoRow);
 }
 
+TEST(ListTable, SeveralRowsAreChosenWithoutHeadings) {
+    ListTable list = ListOf({Heading("Aroma", 1), Member("Saaz", 1), Row({"b"}), Row({"c"})});
+    list.Choose({3, 0, 1, 3, 7, -1}, 3);
+    EXPECT_EQ(list.Chosen(), (std::vector<int>{1, 3}));
+    EXPECT_EQ(list.Selected(), 3);
+    EXPECT_TRUE(list.IsChosen(1));
+    EXPECT_FALSE(list.IsChosen(2));
+    list.Choose({2, 1}, 0);
+    EXPECT_EQ(list.Selected(), 1);
+    EXPECT_TRUE(list.Select(1));
+    EXPECT_EQ(list.Chosen(), std::vector<int>{1});
+    list.Choose({0}, 0);
+    EXPECT_EQ(list.Selected(), ListTable::kNoRow);
+    EXPECT_TRUE(list.Chosen().empty());
+}
+
+TEST(ListTable, ChosenRowsStayChosenThroughSortingAndRemoving) {
+    ListTable list = ListOf({Row({"b"}), Row({"d"}), Row({"a"}), Row({"c"})});
+    list.Choose({1, 2}, 1);
+    list.Sort(0);
+    EXPECT_EQ(list.Chosen(), (std::vector<int>{0, 3}));
+    EXPECT_EQ(list.SelectedText(), "d");
+    list.Remove(1);
+    EXPECT_EQ(list.Chosen(), (std::vector<int>{0, 2}));
+    list.Remove(2);
+    EXPECT_EQ(list.Chosen(), std::vector<int>{0});
+    EXPECT_EQ(list.SelectedText(), "a");
+    list.SetRows({Row({"x"})});
+    EXPECT_TRUE(list.Chosen().empty());
+}
+
+TEST(ListTable, ACellChangesWithoutSorting) {
+    ListTable list = ListOf({Row({"b"}), Row({"a"})});
+    list.Sort(0);
+    list.SetCell(0, 0, "z");
+    EXPECT_EQ(list.Row(0).cells.front(), "z");
+    list.SetCell(1, 0, "");
+    EXPECT_EQ(list.Row(1).cells.front(), "  ");
+}
+
 TEST(ListTable, FindsRowsByTheirKeyLetterForLetter) {
     const ListTable list = ListOf({Heading("", 1), Row({"Mild"}), Row({"mild"})});
     EXPECT_EQ(list.FindKey("mild"), 2);

@@ -1,15 +1,21 @@
-// The open and save dialog (frmOpenSave) as one list of the stored recipes with a name box.
+// The window of the open and save dialog (frmOpenSave).
 #pragma once
 
 #include <QDialog>
+#include <map>
 #include <memory>
+#include <string>
 
 #include "shell/OpenSaveModel.h"
 
+class QBoxLayout;
+class QComboBox;
 class QLineEdit;
-class QListWidget;
+class QToolButton;
 
 namespace tw {
+
+class NodeListPane;
 
 class OpenSaveDialog final : public QDialog {
     Q_OBJECT
@@ -20,16 +26,31 @@ class OpenSaveDialog final : public QDialog {
 
   protected:
     void reject() override;
+    void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
+    QLayout* MakeFolderRow();
     void MakeList();
-    void NameTyped(const QString& text);
-    void Accept();
+    QLayout* MakeNameRows();
+    void AddButton(QBoxLayout& row, const char* name, const char* icon, const QString& tip);
+    void AddKey(QWidget& widget, const QKeySequence& key, const std::string& command);
+    void Press(const std::string& command);
+    void OpenRow();
+    // The window as the model is now; closes when it is done.
+    void ShowState();
+    void ShowFolders();
+    void ShowPopup(const QPoint& place);
+    void SearchFor(const QString& text);
+    void MoveChoice(int step);
 
     OpenSaveModel& model_;
+    QComboBox* folders_;
+    NodeListPane* list_;
     QLineEdit* name_;
-    QListWidget* list_;
+    QLineEdit* find_;
+    std::map<std::string, QToolButton*> buttons_;
+    bool showing_ = false;
 };
 
 }  // namespace tw

@@ -1,11 +1,13 @@
 #include "tree/ui/TreePane.h"
 
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMouseEvent>
 #include <utility>
 
 #include "platform/qt/QtText.h"
+#include "store/DB_IO.h"
 #include "tree/ui/NodePictures.h"
 
 namespace tw {
@@ -76,7 +78,31 @@ bool TreePaneModel::setData(const QModelIndex& index, const QVariant& value, int
 Qt::ItemFlags TreePaneModel::flags(const QModelIndex& index) const {
     Qt::ItemFlags flags = QAbstractItemModel::flags(index) | Qt::ItemIsDragEnabled;
     if (index.isValid() && canRename_ && canRename_(ItemOf(index))) flags |= Qt::ItemIsEditable;
+    if (index.isValid() && drag_) {
+        flags |= Qt::ItemIsDropEnabled;
+        flags.setFlag(Qt::ItemIsDragEnabled, CanRenameNode(items_.Key(ItemOf(index))));
+    }
     return flags;
+}
+
+QStringList TreePaneModel::mimeTypes() const {
+    return drag_ ? KeyMimeTypes() : QAbstractItemModel::mimeTypes();
+}
+
+Qt::DropActions TreePaneModel::supportedDropActions() const {
+    return drag_ ? Qt::MoveAction : QAbstractItemModel::supportedDropActions();
+}
+
+bool TreePaneModel::canDropMimeData(const QMimeData* data, Qt::DropAction, int row, int,
+                                    const QModelIndex& parent) const {
+    return drag_ && row < 0 && parent.isValid() && drag_.canDrop(KeysOf(data), items_.Key(ItemOf(parent)));
+}
+
+bool TreePaneModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                                 const QModelIndex& parent) {
+    if (!canDropMimeData(data, action, row, column, parent)) return false;
+    DropLater(*this, drag_, data, items_.Key(ItemOf(parent)));
+    return true;
 }
 
 void TreePaneModel::TreeReset(bool done) {
@@ -157,14 +183,38 @@ void TreePane::EditSelected() {
 }
 
 void TreePane::keyPressEvent(QKeyEvent* event) {
-    const int key = event->key();
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // That ends the editing of a name.
+    if (enter && state() == EditingState) return event->accept();
     // Where nobody waits for it, Enter is the dialog's.
     const bool awaited = isSignalConnected(QMetaMethod::fromSignal(&TreePane::ItemActivated));
-    if (awaited && (key == Qt::Key_Return || key == Qt::Key_Enter) && currentIndex().isValid()) {
+    if (awaited && enter && currentIndex().isValid()) {
         emit ItemActivated();
         return;
     }
     QTreeView::keyPressEvent(event);
+}
+
+void TreePane::startDrag(Qt::DropActions actions) {
+    if (!model_->HasDrag()) return QTreeView::startDrag(actions);
+    StartKeyDrag(*this, {items_.SelectedKey()});
+}
+
+// Qt refuses what stands below the dragged entry; here the operation itself tells why that cannot be.
+void TreePane::dragMoveEvent(QDragMoveEvent* event) {
+    QTreeView::dragMoveEvent(event);
+    if (event->isAccepted() || !model_->HasDrag()) return;
+    const QModelIndex target = indexAt(event->position().toPoint());
+    if (model_->canDropMimeData(event->mimeData(), Qt::MoveAction, -1, -1, target))
+        event->acceptProposedAction();
+}
+
+void TreePane::dropEvent(QDropEvent* event) {
+    QTreeView::dropEvent(event);
+    if (event->isAccepted() || !model_->HasDrag()) return;
+    const QModelIndex target = indexAt(event->position().toPoint());
+    if (model_->dropMimeData(event->mimeData(), Qt::MoveAction, -1, -1, target))
+        event->acceptProposedAction();
 }
 
 void TreePane::mouseDoubleClickEvent(QMouseEvent* event) {

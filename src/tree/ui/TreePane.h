@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "tree/TreeItems.h"
+#include "tree/ui/KeyDrag.h"
 
 namespace tw {
 
@@ -22,6 +23,10 @@ class TreePaneModel final : public QAbstractItemModel, private TreeItemsObserver
     // may, rename whether the name is taken.
     void SetRename(std::function<bool(int item)> canRename, std::function<bool(const QString& name)> rename);
 
+    // Lets entries be dragged by their keys, and others be dropped on them.
+    void SetDrag(KeyDrag drag) { drag_ = std::move(drag); }
+    bool HasDrag() const { return static_cast<bool>(drag_); }
+
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -29,6 +34,12 @@ class TreePaneModel final : public QAbstractItemModel, private TreeItemsObserver
     QVariant data(const QModelIndex& index, int role) const override;
     bool setData(const QModelIndex& index, const QVariant& value, int role) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QStringList mimeTypes() const override;
+    Qt::DropActions supportedDropActions() const override;
+    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                         const QModelIndex& parent) const override;
+    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                      const QModelIndex& parent) override;
 
   signals:
     void Filled();
@@ -45,6 +56,7 @@ class TreePaneModel final : public QAbstractItemModel, private TreeItemsObserver
     bool filling_ = false;
     std::function<bool(int)> canRename_;
     std::function<bool(const QString&)> rename_;
+    KeyDrag drag_;
 };
 
 class TreePane final : public QTreeView {
@@ -69,6 +81,9 @@ class TreePane final : public QTreeView {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void startDrag(Qt::DropActions actions) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 

@@ -1,0 +1,343 @@
+#include "tree/ExplorerModel.h"
+
+#include <algorithm>
+
+#include "store/ObjectKeys.h"
+#include "tree/ProgressModel.h"
+#include "tree/TWNodes.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+// Shows the branch of the styles alone.
+class StyleBranch final : public TreeView {
+  public:
+    explicit StyleBranch(TreeView& view) : view_(view) {}
+
+    void Clear() override { view_.Clear(); }
+    TreeViewItem Add(TreeViewItem parent, const std::string& key, std::string_view text,
+                     std::string_view image, std::string_view selectedImage) override {
+        const bool above = parent == TreeViewItem::Top || parent == kLeftOut;
+        if (above && key != kByStyleKey) return kLeftOut;
+        return view_.Add(above ? TreeViewItem::Top : parent, key, text, image, selectedImage);
+    }
+
+  private:
+    static constexpr TreeViewItem kLeftOut = static_cast<TreeViewItem>(UINTPTR_MAX);
+    TreeView& view_;
+};
+
+std::string_view RootOf(bool styles) {
+    return styles ? kStyleFoldersKey : kRecipeFoldersKey;
+}
+
+bool IsFolder(std::string_view key) {
+    return key.starts_with("F:") || key.starts_with("G:") || key.starts_with("X:");
+}
+
+std::string Counted(std::size_t count) {
+    return std::to_string(count) + (count == 1 ? " object" : " objects");
+}
+
+}  // namespace
+
+ExplorerModel::ExplorerModel(const ObjectAccess& access, Hooks hooks)
+    : access_(access),
+      hooks_(std::move(hooks)),
+      pages_{PageState(access, look_, false), PageState(access, look_, true)} {
+    for (PageState& page : pages_) {
+        FillTree(page, RootOf(page.styles));
+        for (const int top : page.tree.Children(TreeItems::kNone)) page.tree.Expand(top);
+        const int root = page.tree.Find(RootOf(page.styles));
+        if (root != TreeItems::kNone) page.tree.Expand(root);
+        FillList(page);
+    }
+}
+
+void ExplorerModel::SetLook(const ListLook& look) {
+    look_ = look;
+    for (PageState& page : pages_) page.list.Sort();
+}
+
+void ExplorerModel::FillTree(PageState& page, std::string_view keyToSelect) {
+    page.tree.Fill([&](TreeView& view) {
+        StyleBranch styles(view);
+        if (page.styles)
+            access_.tree.PopulateTreeViewForRecipeExplorer(styles);
+        else
+            access_.tree.PopulateTreeView(view, TreePart::WithoutStyles, true, false, false);
+    });
+    if (page.tree.SelectKey(keyToSelect) || page.tree.Selected() != TreeItems::kNone) return;
+    page.tree.SelectKey(RootOf(page.styles));
+}
+
+void ExplorerModel::FillList(PageState& page) {
+    const std::string key = page.tree.SelectedKey();
+    if (key == page.list.Key() || page.list.IsFinding())
+        page.list.Refill();
+    else
+        page.list.Show(key, true);
+}
+
+void ExplorerModel::Settle() {
+    for (PageState& page : pages_) {
+        FillTree(page, {});
+        FillList(page);
+    }
+}
+
+void ExplorerModel::Change(const std::function<void()>& work) {
+    opened_.clear();
+    try {
+        work();
+    } catch (...) {
+        Settle();
+        throw;
+    }
+    Settle();
+}
+
+bool ExplorerModel::ChooseNode(std::string_view key) {
+    PageState& page = At(shown_);
+    if (!page.tree.SelectKey(key)) return false;
+    opened_.clear();
+    page.list.Show(page.tree.SelectedKey(), false);
+    return true;
+}
+
+void ExplorerModel::Find(std::string_view text) {
+    opened_.clear();
+    PageState& page = At(Page::Recipes);
+    // The folder may be another than before the search.
+    if (IsBlank(text)) return page.list.Show(page.tree.SelectedKey(), false);
+    page.list.Find(text);
+}
+
+std::string ExplorerModel::NameOf(const std::string& key) const {
+    const TWNode* const node = access_.tree.Nodes(key);
+    return node ? std::string(node->Name()) : std::string();
+}
+
+std::vector<std::string> ExplorerModel::NamesOf(const std::vector<std::string>& keys) const {
+    std::vector<std::string> names;
+    names.reserve(keys.size());
+    for (const std::string& key : keys) names.push_back(NameOf(key));
+    return names;
+}
+
+std::string ExplorerModel::Status() const {
+    if (!opened_.empty()) return "'" + opened_ + "' is open in the main window.";
+    const ListTable& rows = At(shown_).list.Rows();
+    const std::string all = Counted(rows.Rows().size());
+    return rows.Chosen().size() < 2 ? all : std::to_string(rows.Chosen().size()) + " of " + all + " chosen";
+}
+
+bool ExplorerModel::CanOpen(std::string_view key) const {
+    // "(None)" is no style that could be edited.
+    if (key.starts_with("S:")) return hooks_.editStyle && CanRenameNode(key);
+    return !key.empty();
+}
+
+bool ExplorerModel::IsEnabled(std::string_view command) const {
+    const NodeList& list = At(shown_).list;
+    const std::string node = NodeKey();
+    if (command == "mnuOpen") return CanOpen(list.SelectedKey());
+    if (command == "mnuDelete") return std::ranges::any_of(list.ChosenKeys(), CanDeleteNode);
+    if (command == "mnuRename")
+        return list.Rows().Chosen().size() == 1 && list.CanRename(list.Rows().Selected());
+    if (command == "mnuNewFolder") return CanHoldFolders(node);
+    if (command == "mnuNewStyle") return hooks_.editStyle && node.starts_with("G") && node != kAllStylesKey;
+    if (command == "mnuRenameFolder" || command == "mnuDeleteFolder") return CanDeleteNode(node);
+    if (command == "mnuLineUp")
+        return look_.viewType == ListViewType::LargeIcons || look_.viewType == ListViewType::SmallIcons;
+    return true;
+}
+
+void ExplorerModel::Open() {
+    const std::string key = At(shown_).list.SelectedKey();
+    if (!CanOpen(key)) return;
+    if (IsFolder(key)) {
+        ChooseNode(key);
+    } else if (key.starts_with("S:")) {
+        OpenStyle(key);
+    } else {
+        // The stored name: the tree shows a new one as it was typed.
+        const std::string name = access_.objects.RecipeNameById(IdOfKey(key));
+        if (name.empty()) return Settle();
+        hooks_.openRecipe(name);
+        opened_ = name;
+    }
+}
+
+void ExplorerModel::OpenStyle(const std::string& key) {
+    const std::string name = access_.objects.StyleNameById(IdOfKey(key));
+    Change([&] { hooks_.editStyle(name, 0); });
+}
+
+void ExplorerModel::NewStyle() {
+    const std::int64_t folder = IdOfKey(NodeKey());
+    std::optional<std::string> saved;
+    Change([&] { saved = hooks_.editStyle("", folder); });
+    if (saved)
+        At(Page::Styles).list.ChooseKey(StyleKey(access_.objects.StyleIdByName(*saved), kStyleInFolder));
+}
+
+void ExplorerModel::NewFolder() {
+    const std::string key = access_.objects.CreateFolderObject(NodeKey(), "", false);
+    if (key.empty()) return;
+    Settle();
+    if (ChooseNode(key)) At(shown_).editedKey = key;
+}
+
+bool ExplorerModel::Confirm(const std::string& text) {
+    return access_.platform.messages.Ask("Confirm Delete", text, Question::YesNo) == Answer::Yes;
+}
+
+void ExplorerModel::Delete() {
+    const NodeList& list = At(shown_).list;
+    std::vector<std::string> keys = list.ChosenKeys();
+    const std::string text =
+        keys.size() == 1
+            ? "Are you sure you want to delete '" + list.Rows().SelectedText() + "'?"
+            : "Are you sure you want to delete the selected " + std::to_string(keys.size()) + " items?";
+    if (!Confirm(text)) return;
+    std::erase_if(keys, [](const std::string& key) { return !CanDeleteNode(key); });
+    Change([&] {
+        RunSteps(access_.platform.dialogs, "Deleting", NamesOf(keys), [&](std::size_t i) {
+            access_.objects.DeleteObject(keys[i]);
+            return true;
+        });
+    });
+}
+
+void ExplorerModel::DeleteNode() {
+    const std::string key = NodeKey();
+    if (!Confirm("Are you sure you want to delete '" + NameOf(key) + "'?")) return;
+    const TWNode* const node = access_.tree.Nodes(key);
+    const std::string above = node && node->Parent() ? node->Parent()->Key() : std::string();
+    Change([&] {
+        access_.objects.DeleteObject(key);
+        ChooseNode(above);
+    });
+}
+
+bool ExplorerModel::CanDrop(const std::vector<std::string>& keys, std::string_view targetKey) const {
+    return !keys.empty() &&
+           std::ranges::all_of(keys, [&](const std::string& key) { return CanDropOn(key, targetKey); });
+}
+
+void ExplorerModel::Drop(const std::vector<std::string>& keys, std::string_view targetKey) {
+    if (!CanDrop(keys, targetKey)) return;
+    const std::string target(targetKey);
+    Change([&] {
+        RunSteps(access_.platform.dialogs, "Moving", NamesOf(keys),
+                 [&](std::size_t i) { return access_.objects.MoveObject(keys[i], target, false); });
+    });
+    TreeItems& tree = At(shown_).tree;
+    const int item = tree.Find(target);
+    if (item != TreeItems::kNone) tree.Expand(item);
+}
+
+int ExplorerModel::EditedNode() const {
+    const PageState& page = At(shown_);
+    return page.editedKey.empty() ? TreeItems::kNone : page.tree.Find(page.editedKey);
+}
+
+void ExplorerModel::CancelEdit() {
+    for (PageState& page : pages_) {
+        page.editedKey.clear();
+        page.list.CancelEdit();
+    }
+}
+
+bool ExplorerModel::RenameNode(std::string_view newName) {
+    TreeItems& tree = At(shown_).tree;
+    const int item = EditedNode();
+    CancelEdit();
+    if (item == TreeItems::kNone) return false;
+    if (newName == tree.Text(item)) return true;
+    const std::string key = tree.Key(item);
+    if (!access_.objects.RenameObject(key, newName, false)) return false;
+    const int place = tree.Find(key);
+    if (place != TreeItems::kNone) tree.SetText(place, newName);
+    return true;
+}
+
+std::vector<DialogControl> ExplorerModel::Controls() const {
+    const PageState& page = At(shown_);
+    std::string names;
+    for (const int row : page.list.Rows().Chosen()) {
+        if (!names.empty()) names += '\n';
+        names += page.list.Rows().Row(row).cells.front();
+    }
+    return {{"optRecipes", page.styles ? "no" : "yes"},
+            {"optStyles", page.styles ? "yes" : "no"},
+            {"treeFolders", page.tree.SelectedKey()},
+            {"lvNames", names}};
+}
+
+bool ExplorerModel::SetControl(std::string_view name, std::string_view text) {
+    if (name == "optRecipes" || name == "optStyles") {
+        if (text != "yes") return false;
+        Show(name == "optStyles" ? Page::Styles : Page::Recipes);
+        return true;
+    }
+    if (name == "treeFolders") return ChooseNode(text);
+    if (name == "lvNames") {
+        if (!At(shown_).list.ChooseByText(text)) return false;
+        RowChosen();
+        return true;
+    }
+    if (name == "txtFind") {
+        Show(Page::Recipes);
+        Find(text);
+        return true;
+    }
+    if (name != "txtLabel") return false;
+    if (EditedNode() != TreeItems::kNone)
+        RenameNode(text);
+    else if (At(shown_).list.EditedRow() != ListTable::kNoRow)
+        RenameRow(text);
+    else
+        return false;
+    Settle();
+    return true;
+}
+
+bool ExplorerModel::Run(std::string_view command) {
+    PageState& page = At(shown_);
+    page.list.FollowSaves();
+    if (command == "mnuOpen")
+        Open();
+    else if (command == "mnuDelete")
+        Delete();
+    else if (command == "mnuRename")
+        page.list.BeginEdit(page.list.Rows().Selected());
+    else if (command == "mnuNewFolder")
+        NewFolder();
+    else if (command == "mnuNewStyle")
+        NewStyle();
+    else if (command == "mnuRenameFolder")
+        page.editedKey = page.tree.SelectedKey();
+    else if (command == "mnuDeleteFolder")
+        DeleteNode();
+    else if (command == "mnuLineUp")
+        page.list.Sort();
+    else
+        return false;
+    return true;
+}
+
+bool ExplorerModel::Press(std::string_view button) {
+    if (button == "cmdClose") {
+        CloseBox();
+        return true;
+    }
+    if (!IsEnabled(button)) return true;
+    if (!TakeLookCommand(look_, button)) return Run(button);
+    for (PageState& page : pages_) page.list.Sort();
+    return true;
+}
+
+}  // namespace tw

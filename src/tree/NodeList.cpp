@@ -1,0 +1,222 @@
+#include "tree/NodeList.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "store/ObjectKeys.h"
+#include "tree/lvFiller.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+int ExplorerColumns() {
+    static const int count = [] {
+        ListTable list;
+        lvFiller::SetUpExplorerColumns(list);
+        return static_cast<int>(list.Columns().size());
+    }();
+    return count;
+}
+
+std::vector<std::string_view> LinesOf(std::string_view text) {
+    std::vector<std::string_view> lines;
+    while (true) {
+        const std::size_t end = text.find('\n');
+        lines.push_back(Trim(text.substr(0, end)));
+        if (end == std::string_view::npos) return lines;
+        text.remove_prefix(end + 1);
+    }
+}
+
+}  // namespace
+
+NodeList::NodeList(const ObjectAccess& access, const ListLook& look, bool showStyles)
+    : access_(access),
+      look_(look),
+      showStyles_(showStyles),
+      filler_(std::make_unique<lvFiller>(access.database, access.tree)),
+      finder_(access.database) {
+    lvFiller::SetUpExplorerColumns(rows_);
+}
+
+NodeList::~NodeList() = default;
+
+void NodeList::Show(std::string_view key, bool force) {
+    if (key == key_ && !force && !IsFinding()) return;
+    key_ = key;
+    if (IsFinding()) lvFiller::SetUpExplorerColumns(rows_);
+    findText_.clear();
+    CancelEdit();
+    filler_->FillByKey(rows_, key_, showStyles_);
+    Sort();
+}
+
+void NodeList::Find(std::string_view text) {
+    const std::string wanted(Trim(text));
+    if (wanted == findText_) return;
+    if (wanted.empty()) return Show(key_, true);
+    findText_ = wanted;
+    CancelEdit();
+    FillFound();
+}
+
+void NodeList::FillFound() {
+    if (static_cast<int>(rows_.Columns().size()) == ExplorerColumns()) {
+        std::vector<ListColumn> columns = rows_.Columns();
+        columns.push_back({std::string(kFolderColumn)});
+        rows_.SetColumns(std::move(columns));
+    }
+    std::vector<TWNode*> nodes;
+    for (const FoundRecipe& found : finder_.Find(findText_))
+        if (TWNode* const node = access_.tree.Nodes(RecipeKey(found.id, 0))) nodes.push_back(node);
+    ListTable found;
+    lvFiller::SetUpExplorerColumns(found);
+    filler_->FillNodes(found, nodes);
+    std::vector<ListRow> rows = found.Rows();
+    for (std::size_t i = 0; i < rows.size(); ++i) rows[i].cells.push_back(FolderOf(*nodes[i]));
+    rows_.SetRows(std::move(rows));
+    Sort();
+}
+
+std::string NodeList::FolderOf(const TWNode& recipe) const {
+    const TWNode* const copy = access_.tree.Nodes(RecipeKey(IdOfKey(recipe.Key()), kCopyInFolder));
+    std::string path;
+    // The database above the root folder says nothing.
+    for (const TWNode* above = copy ? copy->Parent() : nullptr; above && above->Parent();
+         above = above->Parent())
+        path = path.empty() ? std::string(above->Name()) : std::string(above->Name()) + " / " + path;
+    return path;
+}
+
+void NodeList::Refill() {
+    FollowSaves();
+    const std::vector<std::string> chosen = ChosenKeys();
+    const std::string selected = SelectedKey();
+    if (IsFinding())
+        FillFound();
+    else
+        Show(std::string(key_), true);
+    std::vector<int> rows;
+    for (const std::string& key : chosen) rows.push_back(rows_.FindKey(key));
+    rows_.Choose(std::move(rows), rows_.FindKey(selected));
+}
+
+void NodeList::Sort() {
+    const int columns = static_cast<int>(rows_.Columns().size());
+    if (look_.arrangeKey >= 0 && look_.arrangeKey < columns) rows_.Sort(look_.arrangeKey, look_.descending);
+}
+
+void NodeList::FollowSaves() {
+    for (int row = 0; row < rows_.Count(); ++row) {
+        const std::string key = rows_.Row(row).key;
+        if (!key.starts_with("R:") || access_.tree.NodeExists(key)) continue;
+        const std::int64_t id = access_.objects.IdByName(rows_.Row(row).cells.front(), "RECIPES");
+        if (id == 0) continue;
+        std::string now = RecipeKey(id, key.back() - '0');
+        if (editedKey_ == key) editedKey_ = now;
+        rows_.SetKey(row, std::move(now));
+    }
+}
+
+std::vector<std::string> NodeList::ChosenKeys() const {
+    std::vector<std::string> keys;
+    for (const int row : rows_.Chosen()) keys.push_back(rows_.Row(row).key);
+    return keys;
+}
+
+std::string NodeList::SelectedKey() const {
+    return rows_.Selected() == ListTable::kNoRow ? std::string() : rows_.Row(rows_.Selected()).key;
+}
+
+bool NodeList::ChooseKey(std::string_view key) {
+    return rows_.Select(rows_.FindKey(key));
+}
+
+bool NodeList::ChooseByText(std::string_view lines) {
+    std::vector<int> rows;
+    for (const std::string_view line : LinesOf(lines)) {
+        const auto found = std::ranges::find_if(rows_.Rows(), [&](const ListRow& row) {
+            return row.key == line || SameName(row.cells.front(), line);
+        });
+        if (found == rows_.Rows().end()) return false;
+        rows.push_back(static_cast<int>(found - rows_.Rows().begin()));
+    }
+    rows_.Choose(rows, rows.back());
+    return true;
+}
+
+void NodeList::AddFolder(std::string_view key) {
+    if (IsFinding()) Show(std::string(key_), true);
+    if (rows_.FindKey(key) == ListTable::kNoRow)
+        if (TWNode* const node = access_.tree.Nodes(key)) filler_->AddFolderRow(rows_, *node);
+    const int row = rows_.FindKey(key);
+    rows_.Select(row);
+    BeginEdit(row);
+}
+
+void NodeList::Remove(std::string_view key) {
+    const int row = rows_.FindKey(key);
+    if (row != ListTable::kNoRow) rows_.Remove(row);
+}
+
+bool NodeList::CanRename(int row) const {
+    return row >= 0 && row < rows_.Count() && CanRenameNode(rows_.Row(row).key);
+}
+
+bool NodeList::BeginEdit(int row) {
+    if (!CanRename(row)) return false;
+    editedKey_ = rows_.Row(row).key;
+    return true;
+}
+
+int NodeList::EditedRow() const {
+    return editedKey_.empty() ? ListTable::kNoRow : rows_.FindKey(editedKey_);
+}
+
+bool NodeList::EndEdit(std::string_view newName) {
+    FollowSaves();
+    const int row = EditedRow();
+    const std::string key = editedKey_;
+    CancelEdit();
+    if (row == ListTable::kNoRow) return false;
+    if (newName == rows_.Row(row).cells.front()) return true;
+    if (!access_.objects.RenameObject(key, newName, false)) return false;
+    // A failure in the store may have read the tree anew meanwhile, a box may have let others work.
+    const int place = rows_.FindKey(key);
+    if (place != ListTable::kNoRow) rows_.SetCell(place, 0, newName);
+    return true;
+}
+
+std::string NodeList::Hint() const {
+    if (rows_.Count() > 0) return {};
+    if (IsFinding()) return "No recipe holds \"" + findText_ + "\".";
+    const TWNode* const all = access_.tree.Nodes(kAllRecipesKey);
+    const bool anyRecipe = all && all->HasChildren();
+    if (!showStyles_ && !anyRecipe)
+        return "There is no recipe yet. Ctrl+N in the main window starts your first one; once it is saved, "
+               "it "
+               "stands here.";
+    return "This folder is empty.";
+}
+
+std::string ArrangeCommand(int column) {
+    return "mnuArrangeBy(" + std::to_string(column) + ")";
+}
+
+bool TakeLookCommand(ListLook& look, std::string_view command) {
+    const auto view = std::ranges::find(kViewCommands, command);
+    if (view != std::end(kViewCommands)) {
+        look.viewType = static_cast<ListViewType>(view - std::begin(kViewCommands));
+        return true;
+    }
+    for (int column = 0; column <= ExplorerColumns(); ++column) {
+        if (command != ArrangeCommand(column)) continue;
+        look.descending = look.arrangeKey == column && !look.descending;
+        look.arrangeKey = column;
+        return true;
+    }
+    return false;
+}
+
+}  // namespace tw

@@ -1,0 +1,50 @@
+// The rows of a list for Qt's views.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <functional>
+
+#include "calc/BeerColor.h"
+#include "tree/ListTable.h"
+#include "tree/ui/KeyDrag.h"
+
+namespace tw {
+
+class ListPaneModel final : public QAbstractTableModel {
+    Q_OBJECT
+  public:
+    ListPaneModel(const ListTable& list, QObject* parent);
+
+    // Lets names be edited in place: canRename looks whether a row's may be, rename whether a name is taken.
+    void SetRename(std::function<bool(int row)> canRename, std::function<bool(const QString& name)> rename);
+    // Lets rows be dragged, and others be dropped on them.
+    void SetDrag(KeyDrag drag) { drag_ = std::move(drag); }
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    QStringList mimeTypes() const override { return KeyMimeTypes(); }
+    Qt::DropActions supportedDropActions() const override { return Qt::MoveAction; }
+    bool canDropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                         const QModelIndex& parent) const override;
+    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                      const QModelIndex& parent) override;
+    // All rows, or one, are others.
+    void Reset();
+    void TellRow(int row) { emit dataChanged(index(row, 0), index(row, columnCount() - 1)); }
+
+  private:
+    QVariant DecorationOf(const ListRow& row, const ListColumn& column, bool first) const;
+    QString TipOf(const ListRow& row, std::size_t col) const;
+
+    const ListTable& list_;
+    ColorTable colors_;
+    std::function<bool(int)> canRename_;
+    std::function<bool(const QString&)> rename_;
+    KeyDrag drag_;
+};
+
+}  // namespace tw

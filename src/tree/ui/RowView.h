@@ -1,0 +1,175 @@
+// What the views of a list share, whether they show columns or icons: rows and choice in step with the list,
+// rows found by typing their beginning, and a hint in place of no rows.
+#pragma once
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <utility>
+
+#include "platform/qt/Appearance.h"
+#include "platform/qt/QtText.h"
+#include "tree/ListTable.h"
+#include "tree/ui/ListPaneModel.h"
+
+namespace tw {
+
+template <class View>
+class RowView : public View, protected ListTableObserver {
+  public:
+    // name: what it is called to assistive programs. REQUIRES: the list lives for as long; nobody else
+    // observes it.
+    RowView(ListTable& list, const QString& name, QWidget* parent)
+        : View(parent), list_(list), model_(new ListPaneModel(list, this)) {
+        this->setAccessibleName(name);
+        this->setEditTriggers(View::NoEditTriggers);
+        this->setTextElideMode(Qt::ElideRight);
+        list_.SetObserver(this);
+    }
+    ~RowView() override { list_.SetObserver(nullptr); }
+
+    ListPaneModel& Model() const { return *model_; }
+    // What stands over a list without rows.
+    void SetHint(const QString& hint) {
+        hint_ = hint;
+        this->viewport()->update();
+    }
+    // Whether several rows can be chosen.
+    void SetMulti(bool multi) {
+        multi_ = multi;
+        this->setSelectionMode(multi ? View::ExtendedSelection : View::SingleSelection);
+    }
+    // Opens the name of a row for editing, if it may be.
+    void EditRow(int row) {
+        const QModelIndex index = model_->index(row, 0);
+        if (!index.isValid() || !model_->flags(index).testFlag(Qt::ItemIsEditable)) return;
+        this->setFocus();
+        this->edit(index);
+    }
+
+    // Letters typed in quick succession are one beginning.
+    void keyboardSearch(const QString& search) override {
+        const bool goesOn =
+            sinceTyped_.isValid() && sinceTyped_.elapsed() <= QApplication::keyboardInputInterval();
+        sinceTyped_.start();
+        typed_ = goesOn ? typed_ + search : search;
+        // One letter again goes on to the next row; a longer beginning may still fit the present one.
+        const bool repeated = typed_.count(search) == typed_.size() && search.size() == 1;
+        const QString wanted = repeated ? search : typed_;
+        const int row = list_.FindTyped(FromQt(wanted), list_.Selected() + (wanted.size() == 1 ? 1 : 0));
+        if (row != ListTable::kNoRow) list_.Select(row);
+    }
+
+  protected:
+    // A double click, or Enter, on a row that can be chosen.
+    virtual void TellActivated() = 0;
+    // Other rows are chosen, or none.
+    virtual void TellChosen() = 0;
+    // The rows are others; their choice is shown afterwards.
+    virtual void ShowRows() {}
+
+    void ListChanged() override {
+        following_ = true;
+        model_->Reset();
+        following_ = false;
+        ShowRows();
+        ShowSelection();
+    }
+    void ListRowChanged(int row) override { model_->TellRow(row); }
+    void ListSelectionChanged() override {
+        if (!choosing_) ShowSelection();
+        TellChosen();
+    }
+
+    void ShowSelection() {
+        const bool was = std::exchange(following_, true);
+        const QModelIndex row = model_->index(list_.Selected(), 0);
+        QItemSelection rows;
+        for (const int chosen : list_.Chosen())
+            rows.select(model_->index(chosen, 0), model_->index(chosen, model_->columnCount() - 1));
+        if (row.isValid())
+            this->selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
+        else
+            this->selectionModel()->clearCurrentIndex();
+        this->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
+        if (row.isValid()) {
+            // A first row comes into view with the heading above it.
+            if (row.row() > 0 && list_.Row(row.row() - 1).isGroup)
+                this->scrollTo(model_->index(row.row() - 1, 0));
+            this->scrollTo(row);
+        }
+        following_ = was;
+    }
+
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+        View::currentChanged(current, previous);
+        if (following_ || !current.isValid()) return;
+        const bool was = std::exchange(choosing_, multi_);
+        if (!multi_)
+            list_.Select(current.row());
+        else if (list_.IsChosen(current.row()))
+            list_.Choose(list_.Chosen(), current.row());
+        choosing_ = was;
+    }
+
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override {
+        View::selectionChanged(selected, deselected);
+        if (following_ || !multi_) return;
+        std::vector<int> rows;
+        for (const QModelIndex& index : this->selectionModel()->selectedIndexes())
+            if (index.column() == 0) rows.push_back(index.row());
+        const bool was = std::exchange(choosing_, true);
+        list_.Choose(std::move(rows), this->currentIndex().row());
+        choosing_ = was;
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        const int key = event->key();
+        const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+        // What ends the editing of a name neither opens the row nor presses the window's button.
+        if (enter && this->state() == View::EditingState) return event->accept();
+        if (enter && list_.Selected() != ListTable::kNoRow) return TellActivated();
+        View::keyPressEvent(event);
+    }
+
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        const QModelIndex row = this->indexAt(event->pos());
+        View::mouseDoubleClickEvent(event);
+        if (event->button() == Qt::LeftButton && row.isValid() && row.row() == list_.Selected())
+            TellActivated();
+    }
+
+    void startDrag(Qt::DropActions) override {
+        KeyDrag::Keys keys;
+        for (const int row : list_.Chosen()) keys.push_back(list_.Row(row).key);
+        StartKeyDrag(*this, keys);
+    }
+
+    void paintEvent(QPaintEvent* event) override {
+        View::paintEvent(event);
+        const QString hint =
+            list_.Filter().empty() ? hint_ : QObject::tr("No row contains \"%1\".").arg(ToQt(list_.Filter()));
+        if (list_.Count() > 0 || hint.isEmpty()) return;
+        QPainter painter(this->viewport());
+        painter.setPen(HintColor(this->palette()));
+        const int margin = Unit(*this);
+        painter.drawText(this->viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                         Qt::TextWordWrap, hint);
+    }
+
+    ListTable& list_;
+    ListPaneModel* model_;
+
+  private:
+    QString hint_;
+    QString typed_;
+    QElapsedTimer sinceTyped_;
+    bool multi_ = false;
+    bool following_ = false;  // the selection changes by the list, not by the brewer
+    bool choosing_ = false;   // the list takes over what the view has chosen
+};
+
+}  // namespace tw

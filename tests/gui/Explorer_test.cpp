@@ -1,0 +1,411 @@
+// The explorer by keyboard and mouse.
+#include "BrowseTest.h"
+#include "tree/ui/frmExplorer.h"
+#include "tree/ui/frmProgress.h"
+
+namespace tw::test {
+namespace {
+
+using Page = ExplorerModel::Page;
+
+class ExplorerWindow : public BrowseTest {
+  protected:
+    void SetUp() override {
+        BrowseTest::SetUp();
+        model = std::make_unique<ExplorerModel>(
+            shell.Access(), ExplorerModel::Hooks{[this](const std::string& name) { opened.push_back(name); },
+                                                 [this](const std::string& name, std::int64_t) {
+                                                     edited.push_back(name);
+                                                     return std::optional<std::string>();
+                                                 }});
+        dialog = std::make_unique<frmExplorer>(*model, nullptr);
+        Front(*dialog);
+    }
+    TreePane& Tree() { return Shown<TreePane>("treeFolders"); }
+    QAbstractItemView& List() { return Shown<NodeListPane>(nullptr).View(); }
+    template <class Widget>
+    Widget& Shown(const char* name) {
+        for (auto* widget : dialog->findChildren<Widget*>())
+            if (widget->isVisible() && (!name || widget->objectName() == QLatin1String(name))) return *widget;
+        throw std::runtime_error("no such widget");
+    }
+    QLineEdit& FindBox() { return *dialog->findChild<QLineEdit*>(QStringLiteral("txtFind")); }
+    QAbstractButton& Button(const char* name) {
+        return *dialog->findChild<QAbstractButton*>(QLatin1String(name));
+    }
+    // As from the menus.
+    void Press(const char* command) {
+        QMenu* menu = MenuAt(*dialog, List(), List().model()->index(0, 0), "mnuPopupList");
+        Item(*menu, command)->trigger();
+        Close(menu);
+    }
+    QModelIndex Node(const char* key) {
+        return Tree().Model().IndexOf(model->Tree(model->Shown()).Find(key));
+    }
+
+    Strings opened, edited;
+    std::unique_ptr<ExplorerModel> model;
+    std::unique_ptr<frmExplorer> dialog;
+};
+
+TEST_F(ExplorerWindow, StartsInTheTreeOnTheRecipes) {
+    EXPECT_TRUE(Tree().hasFocus());
+    EXPECT_EQ(FromQt(Tree().currentIndex().data().toString()), "My Recipe Folders");
+    EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "mild"}));
+    EXPECT_TRUE(Button("optRecipes").isChecked());
+    EXPECT_FALSE(Button("cmdNewStyle").isVisible());
+}
+
+TEST_F(ExplorerWindow, TheKeysWalkThroughTheFolders) {
+    QTest::keyClick(&Tree(), Qt::Key_Down);
+    EXPECT_EQ(Rows(List()), (Strings{"Dark", "Porter"}));
+    QTest::keyClick(&Tree(), Qt::Key_Right);
+    QTest::keyClick(&Tree(), Qt::Key_Down);
+    EXPECT_EQ(model->NodeKey(), "F:2");
+    EXPECT_EQ(Rows(List()), Strings{});
+}
+
+TEST_F(ExplorerWindow, EnterAndADoubleClickOpen) {
+    Click(List(), RowOf(List(), "mild"));
+    QTest::keyClick(&List(), Qt::Key_Return);
+    EXPECT_EQ(opened, Strings{"mild"});
+    DoubleClick(List(), RowOf(List(), "Winter"));
+    EXPECT_EQ(model->NodeKey(), "F:1");
+    EXPECT_EQ(Rows(List()), (Strings{"Dark", "Porter"}));
+    EXPECT_TRUE(dialog->isVisible());
+}
+
+TEST_F(ExplorerWindow, TypingFindsARow) {
+    List().setFocus();
+    QTest::keyClicks(&List(), QStringLiteral("mi"));
+    EXPECT_EQ(model->List(Page::Recipes).Rows().SelectedText(), "mild");
+}
+
+TEST_F(ExplorerWindow, F2EditsANameInTheList) {
+    for (const char* view : {"mnuList", "mnuDetails"}) {
+        Press(view);
+        Click(List(), RowOf(List(), "mild"));
+        List().setFocus();
+        QTest::keyClick(&List(), Qt::Key_F2);
+        TypeName(List(), "Brown");
+        EXPECT_EQ(shell.Tree().Nodes("R:2:3")->Name(), "Brown");
+        EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "Brown"}));
+        EXPECT_TRUE(List().hasFocus());
+        EXPECT_TRUE(dialog->isVisible());
+        shell.Objects().RenameObject("R:2:3", "mild", true);
+        model->Settle();
+    }
+    EXPECT_EQ(Boxes(), Strings{});
+    EXPECT_EQ(opened, Strings{});
+}
+
+TEST_F(ExplorerWindow, ARefusedNameIsTakenBackAfterOneBox) {
+    Click(List(), RowOf(List(), "mild"));
+    QTest::keyClick(&List(), Qt::Key_F2);
+    TypeName(List(), "ale");
+    EXPECT_EQ(Boxes(), Strings{"[Could not rename recipe] A recipe with that name already exists"});
+    EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "mild"}));
+    EXPECT_EQ(Editor(List()), nullptr);
+}
+
+TEST_F(ExplorerWindow, EscapeGivesAnEditUpAndLeavesTheWindow) {
+    Click(List(), RowOf(List(), "mild"));
+    QTest::keyClick(&List(), Qt::Key_F2);
+    ASSERT_NE(Editor(List()), nullptr);
+    QTest::keyClicks(Editor(List()), QStringLiteral("x"));
+    QTest::keyClick(Editor(List()), Qt::Key_Escape);
+    QApplication::processEvents();
+    EXPECT_EQ(Editor(List()), nullptr);
+    EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "mild"}));
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(model->List(Page::Recipes).EditedRow(), ListTable::kNoRow);
+}
+
+TEST_F(ExplorerWindow, AFolderIsMadeAndNamedInTheTree) {
+    QTest::keyClick(&Tree(), Qt::Key_Insert);
+    TypeName(Tree(), "Autumn");
+    EXPECT_EQ(model->NodeKey(), "F:4");
+    EXPECT_EQ(shell.Tree().Nodes("F:4")->Name(), "Autumn");
+    EXPECT_EQ(FromQt(Tree().currentIndex().data().toString()), "Autumn");
+    EXPECT_EQ(Tree().currentIndex().row(), 0);  // at its place in the order
+    QTest::keyClick(&Tree(), Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+    TypeName(Tree(), "Late");
+    EXPECT_EQ(shell.Tree().Nodes("F:5")->Parent()->Key(), "F:4");
+    QTest::keyClick(&Tree(), Qt::Key_F2);
+    TypeName(Tree(), "Later");
+    EXPECT_EQ(shell.Tree().Nodes("F:5")->Name(), "Later");
+}
+
+TEST_F(ExplorerWindow, KeysThatEditANameMakeNoFolder) {
+    Click(List(), RowOf(List(), "mild"));
+    QTest::keyClick(&List(), Qt::Key_F2);
+    ASSERT_NE(Editor(List()), nullptr);
+    QTest::keyClick(Editor(List()), Qt::Key_Insert);
+    QTest::keyClick(Editor(List()), Qt::Key_Delete);
+    EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "mild"}));
+    EXPECT_EQ(Boxes(), Strings{});
+    EXPECT_NE(Editor(List()), nullptr);
+}
+
+TEST_F(ExplorerWindow, SeveralRowsAreChosenAndDeletedByKey) {
+    Click(List(), RowOf(List(), "Ale"));
+    Click(List(), RowOf(List(), "mild"), Qt::ControlModifier);
+    EXPECT_EQ(model->List(Page::Recipes).ChosenKeys(), (Strings{"R:1:3", "R:2:3"}));
+    outside.messages.answers = {Answer::Yes};
+    QTest::keyClick(&List(), Qt::Key_Delete);
+    EXPECT_EQ(Boxes(),
+              Strings{"[Confirm Delete] Are you sure you want to delete the selected 2 items? -> Yes"});
+    EXPECT_EQ(Rows(List()), Strings{"Winter"});
+    QTest::keyClick(&List(), Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(model->List(Page::Recipes).ChosenKeys(), Strings{"F:1"});
+}
+
+TEST_F(ExplorerWindow, ShiftChoosesARangeInEveryView) {
+    for (const char* view : {"mnuLargeIcons", "mnuSmallIcons", "mnuList", "mnuDetails"}) {
+        Press(view);
+        Click(List(), RowOf(List(), "Winter"));
+        Click(List(), RowOf(List(), "mild"), Qt::ShiftModifier);
+        EXPECT_EQ(model->List(Page::Recipes).ChosenKeys(), (Strings{"F:1", "R:1:3", "R:2:3"})) << view;
+        EXPECT_EQ(FromQt(dialog->findChild<QLabel*>(QStringLiteral("lblStatus"))->text()),
+                  "3 of 3 objects chosen");
+    }
+}
+
+TEST_F(ExplorerWindow, AFolderOfTheTreeIsDeletedByKey) {
+    QTest::keyClick(&Tree(), Qt::Key_Down);
+    outside.messages.answers = {Answer::Yes};
+    QTest::keyClick(&Tree(), Qt::Key_Delete);
+    EXPECT_EQ(Boxes(), Strings{"[Confirm Delete] Are you sure you want to delete 'Winter'? -> Yes"});
+    EXPECT_EQ(model->NodeKey(), "F:0");
+    EXPECT_EQ(Rows(List()), (Strings{"Ale", "mild"}));
+    QTest::keyClick(&Tree(), Qt::Key_Delete);  // a system folder stays
+    EXPECT_EQ(Boxes(), Strings{});
+}
+
+TEST_F(ExplorerWindow, ObjectsAreDraggedFromListToTree) {
+    EXPECT_TRUE(Drop(Tree(), Node("F:1"), {"R:1:3", "R:2:3"}));
+    EXPECT_EQ(Rows(List()), Strings{"Winter"});
+    EXPECT_TRUE(Tree().isExpanded(Node("F:1")));
+    EXPECT_FALSE(Drop(Tree(), Node("F:-1"), {"R:1:3"}));
+    EXPECT_FALSE(Drop(Tree(), Node("X:DB"), {"F:1"}));
+    EXPECT_FALSE(Drop(Tree(), Node("F:1"), {"F:1"}));
+    EXPECT_EQ(shell.Tree().Nodes("R:1:3")->Parent()->Key(), "F:1");
+}
+
+TEST_F(ExplorerWindow, ObjectsAreDraggedOnFoldersOfTheList) {
+    for (const char* view : {"mnuDetails", "mnuLargeIcons", "mnuList"}) {
+        Press(view);
+        EXPECT_TRUE(Drop(List(), RowOf(List(), "Winter"), {"R:1:3"})) << view;
+        EXPECT_EQ(shell.Tree().Nodes("R:1:3")->Parent()->Key(), "F:1");
+        EXPECT_FALSE(Drop(List(), RowOf(List(), "mild"), {"F:2"}));
+        shell.Objects().MoveObject("R:1:3", "F:0", true);
+        model->Settle();
+    }
+}
+
+TEST_F(ExplorerWindow, AFolderDroppedOnItsOwnChildIsToldOf) {
+    Tree().expandAll();
+    EXPECT_TRUE(Drop(Tree(), Node("F:2"), {"F:1"}));
+    EXPECT_EQ(Boxes(), Strings{"[Could not move folder] The destination folder is a sub-folder of the source "
+                               "folder"});
+    EXPECT_EQ(shell.Tree().Nodes("F:1")->Parent()->Key(), "F:0");
+}
+
+TEST_F(ExplorerWindow, AStrangerIsNotTaken) {
+    QMimeData text;
+    text.setText(QStringLiteral("R:1:3"));
+    const QPoint place = Tree().visualRect(Node("F:1")).center();
+    QDragEnterEvent enter(place, Qt::MoveAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(Tree().viewport(), &enter);
+    EXPECT_FALSE(enter.isAccepted());
+    EXPECT_TRUE(KeysOf(&text).empty());
+    EXPECT_TRUE(KeysOf(nullptr).empty());
+}
+
+TEST_F(ExplorerWindow, OnlyWhatCanBeMovedIsDragged) {
+    EXPECT_TRUE(RowOf(List(), "Ale").flags().testFlag(Qt::ItemIsDragEnabled));
+    EXPECT_FALSE(Node("F:0").flags().testFlag(Qt::ItemIsDragEnabled));
+    EXPECT_TRUE(Node("F:1").flags().testFlag(Qt::ItemIsDragEnabled));
+    Button("optStyles").click();
+    EXPECT_FALSE(RowOf(List(), "(None)").flags().testFlag(Qt::ItemIsDragEnabled));
+}
+
+TEST_F(ExplorerWindow, TheMenuOfARowIsLitByItsKey) {
+    QMenu* menu = MenuAt(*dialog, List(), RowOf(List(), "Ale"), "mnuPopupList");
+    EXPECT_EQ(model->List(Page::Recipes).SelectedKey(), "R:1:3");
+    EXPECT_EQ(LitItems(*menu),
+              (Strings{"mnuOpen", "mnuDelete", "mnuRename", "mnuNewFolder", "mnuView", "mnuArrange"}));
+    EXPECT_TRUE(Item(*menu, "mnuList")->isChecked());
+    Item(*menu, "mnuDetails")->trigger();
+    EXPECT_EQ(model->Look().viewType, ListViewType::Details);
+    EXPECT_NE(qobject_cast<ListPane*>(&List()), nullptr);
+    Close(menu);
+    menu = MenuAt(*dialog, List(), RowOf(List(), "Ale"), "mnuPopupList");
+    Item(*menu, "mnuRename")->trigger();
+    Close(menu);
+    TypeName(List(), "Bitter");
+    EXPECT_EQ(shell.Tree().Nodes("R:1:3")->Name(), "Bitter");
+}
+
+TEST_F(ExplorerWindow, TheMenuOfAnEntryOfTheTreeIsLitByItsKey) {
+    QMenu* menu = MenuAt(*dialog, Tree(), Node("F:1"), "mnuPopupTree");
+    EXPECT_EQ(model->NodeKey(), "F:1");
+    EXPECT_EQ(LitItems(*menu), (Strings{"mnuRenameFolder", "mnuDeleteFolder", "mnuNewFolder"}));
+    Close(menu);
+    menu = MenuAt(*dialog, Tree(), Node("F:-1"), "mnuPopupTree");
+    EXPECT_EQ(LitItems(*menu), Strings{});
+    Close(menu);
+}
+
+TEST_F(ExplorerWindow, NoneIsLeftAloneOnThePageOfStyles) {
+    Button("optStyles").click();
+    EXPECT_EQ(Rows(List()), (Strings{"British", "(None)", "Stout"}));
+    EXPECT_TRUE(Button("cmdNewStyle").isVisible());
+    QMenu* menu = MenuAt(*dialog, List(), RowOf(List(), "(None)"), "mnuPopupList");
+    EXPECT_EQ(LitItems(*menu), (Strings{"mnuNewFolder", "mnuNewStyle", "mnuView", "mnuArrange"}));
+    Close(menu);
+    QTest::keyClick(&List(), Qt::Key_F2);
+    EXPECT_EQ(Editor(List()), nullptr);
+    QTest::keyClick(&List(), Qt::Key_Delete);
+    QTest::keyClick(&List(), Qt::Key_Return);
+    EXPECT_EQ(Boxes(), Strings{});
+    EXPECT_EQ(edited, Strings{});
+    DoubleClick(List(), RowOf(List(), "Stout"));
+    Button("cmdNewStyle").click();
+    EXPECT_EQ(edited, (Strings{"Stout", ""}));
+}
+
+TEST_F(ExplorerWindow, ARecipeIsDraggedToAnotherStyle) {
+    Button("optStyles").click();
+    Click(Tree(), Node("S:0:1"));
+    EXPECT_EQ(Rows(List()), (Strings{"Ale", "mild", "Porter"}));
+    EXPECT_TRUE(Drop(Tree(), Node("S:1:1"), {"R:3:2"}));
+    EXPECT_EQ(Rows(List()), (Strings{"Ale", "mild"}));
+    EXPECT_EQ(shell.Tree().Nodes("R:3:3")->Parent()->Key(), "F:1");
+    EXPECT_EQ(shell.Tree().Nodes("R:3:1")->Parent()->Key(), "S:1:0");
+}
+
+TEST_F(ExplorerWindow, EachPageKeepsItsPlace) {
+    Click(Tree(), Node("F:1"));
+    Button("optStyles").click();
+    EXPECT_EQ(model->NodeKey(), "G:0");
+    EXPECT_FALSE(FindBox().isEnabled());
+    Button("optRecipes").click();
+    EXPECT_EQ(Rows(List()), (Strings{"Dark", "Porter"}));
+    EXPECT_TRUE(FindBox().isEnabled());
+}
+
+TEST_F(ExplorerWindow, AClickOnAHeaderSortsBothLists) {
+    Press("mnuDetails");
+    auto& pane = dynamic_cast<ListPane&>(List());
+    QHeaderView* header = pane.header();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionSize(0) / 2, 4));
+    EXPECT_EQ(Rows(List()), (Strings{"Winter", "mild", "Ale"}));
+    EXPECT_TRUE(model->Look().descending);
+    EXPECT_EQ(header->sortIndicatorOrder(), Qt::DescendingOrder);
+    Button("optStyles").click();
+    EXPECT_EQ(Rows(List()), (Strings{"British", "Stout", "(None)"}));
+}
+
+TEST_F(ExplorerWindow, TheButtonsAreAboutTheRowsOrTheEntry) {
+    EXPECT_FALSE(Button("cmdDelete").isEnabled());
+    Click(Tree(), Node("F:1"));
+    EXPECT_TRUE(Button("cmdDelete").isEnabled());
+    Button("cmdRename").click();
+    TypeName(Tree(), "Cold");
+    EXPECT_EQ(shell.Tree().Nodes("F:1")->Name(), "Cold");
+    Click(List(), RowOf(List(), "Porter"));
+    Button("cmdDelete").click();
+    EXPECT_EQ(Boxes(), Strings{"[Confirm Delete] Are you sure you want to delete 'Porter'? -> No"});
+    Button("cmdOpen").click();
+    EXPECT_EQ(opened, Strings{"Porter"});
+    FindBox().setText(QStringLiteral("por"));
+    EXPECT_FALSE(Button("cmdDelete").isEnabled());  // the tree's entry is not what the eye is on
+    Click(List(), RowOf(List(), "Porter"));
+    EXPECT_TRUE(Button("cmdDelete").isEnabled());
+}
+
+TEST_F(ExplorerWindow, TheBorderMovesAndBothPanesStay) {
+    auto& splitter = Shown<QSplitter>("Splitter");
+    const int before = Tree().width();
+    splitter.setSizes({splitter.sizes()[0] + 60, splitter.sizes()[1] - 60});
+    EXPECT_EQ(Tree().width(), before + 60);
+    splitter.setSizes({0, 10000});
+    EXPECT_GT(Tree().width(), 0);
+    const int list = List().width();
+    dialog->resize(dialog->width() + 100, dialog->height());
+    QApplication::processEvents();
+    EXPECT_EQ(List().width(), list + 100);
+}
+
+TEST_F(ExplorerWindow, TheFindBoxFiltersAndEscapeFirstClearsIt) {
+    Press("mnuDetails");
+    FindBox().setFocus();
+    QTest::keyClicks(&FindBox(), QStringLiteral("por"));
+    EXPECT_EQ(Rows(List()), Strings{"Porter"});
+    EXPECT_EQ(FromQt(RowOf(List(), "Porter").data(Qt::ToolTipRole).toString()),
+              "Porter\nMy Recipe Folders / Winter");
+    auto& pane = dynamic_cast<ListPane&>(List());
+    EXPECT_EQ(FromQt(pane.model()->headerData(pane.header()->logicalIndex(1), Qt::Horizontal).toString()),
+              "Folder");
+    EXPECT_EQ(FromQt(pane.model()->index(0, pane.header()->logicalIndex(1)).data().toString()),
+              "My Recipe Folders / Winter");
+    QTest::keyClick(&FindBox(), Qt::Key_Down);
+    EXPECT_TRUE(List().hasFocus());
+    QTest::keyClick(&List(), Qt::Key_Return);
+    EXPECT_EQ(opened, Strings{"Porter"});
+    QTest::keyClick(&List(), Qt::Key_Escape);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "mild"}));
+    EXPECT_EQ(FromQt(FindBox().text()), "");
+    EXPECT_EQ(pane.header()->logicalIndex(1), 1);
+    QTest::keyClick(&List(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_FALSE(model->IsOpen());
+}
+
+TEST_F(ExplorerWindow, ChoosingAFolderEndsTheSearch) {
+    FindBox().setText(QStringLiteral("ale"));
+    Click(Tree(), Node("F:1"));
+    EXPECT_EQ(FromQt(FindBox().text()), "");
+    EXPECT_EQ(Rows(List()), (Strings{"Dark", "Porter"}));
+    FindBox().setText(QStringLiteral("ale"));
+    Button("optStyles").click();
+    Button("optRecipes").click();
+    EXPECT_EQ(Rows(List()), (Strings{"Dark", "Porter"}));
+}
+
+TEST_F(ExplorerWindow, ARecipeOpensBehindItInTheMainWindow) {
+    outside.dialogs.scripts.push_back([](DialogModel& explorer) {
+        frmExplorer explorerWindow(dynamic_cast<ExplorerModel&>(explorer), nullptr);
+        explorerWindow.show();
+        explorer.SetControl("lvNames", "Ale");
+        explorerWindow.findChild<QPushButton*>(QStringLiteral("cmdOpen"))->click();
+        EXPECT_TRUE(explorerWindow.isVisible());
+        explorerWindow.findChild<QPushButton*>(QStringLiteral("cmdClose"))->click();
+        EXPECT_FALSE(explorerWindow.isVisible());
+    });
+    EXPECT_TRUE(window.RunCommand("mnuToolsExplorer"));
+    ASSERT_NE(window.ActiveWindow(), nullptr);
+    EXPECT_EQ(Text("txtName"), "Ale");
+}
+
+TEST(ProgressWindow, ShowsHowFarItIsAndStopsOnCancel) {
+    std::size_t steps = 0;
+    ProgressModel progress("Deleting", {"one", "two", "three"}, [&](std::size_t) { return ++steps > 0; });
+    frmProgress window(progress, nullptr);
+    EXPECT_EQ(FromQt(window.windowTitle()), "Deleting");
+    auto* bar = window.findChild<QProgressBar*>(QStringLiteral("ProgressBar1"));
+    EXPECT_EQ(bar->maximum(), 3);
+    window.show();
+    // The click waits in line for the run to let it in.
+    QMetaObject::invokeMethod(window.findChild<QPushButton*>(QStringLiteral("cmdCancel")), "click",
+                              Qt::QueuedConnection);
+    QApplication::processEvents();
+    EXPECT_LT(steps, 3u);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(progress.IsOpen());
+}
+
+}  // namespace
+}  // namespace tw::test

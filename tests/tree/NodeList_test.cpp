@@ -1,0 +1,200 @@
+// The list of a folder's contents: how it is shown, searched and renamed in.
+#include "tree/NodeList.h"
+
+#include "ObjectsTest.h"
+
+namespace tw::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class NodeLists : public Objects {
+  protected:
+    NodeLists() {
+        Folder(0, "Winter");
+        Folder(1, "Dark");
+        Recipe("Stout", 2);
+        Recipe("Ale");
+        Recipe("mild");
+        main.Execute("UPDATE RECIPES SET NOTES = 'roasted' WHERE NAME = 'Stout'");
+    }
+    Lines Shown(const char* column = "Name") {
+        Lines lines;
+        const auto place = static_cast<std::size_t>(list.Rows().ColumnOf(column));
+        for (const ListRow& row : list.Rows().Rows()) lines.push_back(row.cells[place]);
+        return lines;
+    }
+
+    const ObjectAccess access{*main.db, main.tree, io, outside.platform};
+    ListLook look;
+    NodeList list{access, look, false};
+};
+
+TEST_F(NodeLists, ShowsWhatAnEntryHoldsWithoutTheStyles) {
+    EXPECT_THAT(Shown(), IsEmpty());
+    list.Show("X:DB", false);
+    EXPECT_THAT(Shown(), ElementsAre("All Recipes", "My Recipe Folders"));
+    list.Show("F:0", false);
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
+    list.Show("F:99", false);
+    EXPECT_THAT(Shown(), IsEmpty());
+    NodeList styles(access, look, true);
+    styles.Show("X:DB", false);
+    EXPECT_EQ(styles.Rows().Count(), 3);
+}
+
+TEST_F(NodeLists, IsFilledAgainOnlyWhenItMust) {
+    list.Show("F:0", false);
+    list.Rows().Clear();
+    list.Show("F:0", false);
+    EXPECT_THAT(Shown(), IsEmpty());
+    list.Show("F:0", true);
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
+}
+
+TEST_F(NodeLists, SortsAsTheLookSaysWithFoldersFirst) {
+    look.descending = true;
+    list.Show("F:0", false);
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "mild", "Ale"));
+    look.arrangeKey = 99;  // no column: as they stand in the tree
+    list.Show("F:0", true);
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
+}
+
+TEST_F(NodeLists, TheRowsStayChosenWhenItIsFilledAgain) {
+    list.Show("F:0", false);
+    EXPECT_TRUE(list.ChooseByText("ALE\nR:3:3"));
+    look.descending = true;
+    list.Refill();
+    EXPECT_THAT(list.ChosenKeys(), ElementsAre("R:3:3", "R:2:3"));
+    EXPECT_EQ(list.SelectedKey(), "R:3:3");
+    io.DeleteObject("R:3:3");
+    list.Refill();
+    EXPECT_THAT(list.ChosenKeys(), ElementsAre("R:2:3"));
+}
+
+TEST_F(NodeLists, AMissingNameChoosesNothing) {
+    list.Show("F:0", false);
+    list.ChooseKey("F:1");
+    EXPECT_FALSE(list.ChooseByText("Ale\nPorter"));
+    EXPECT_FALSE(list.ChooseKey("R:9:3"));
+    EXPECT_THAT(list.ChosenKeys(), ElementsAre("F:1"));
+}
+
+TEST_F(NodeLists, FindsRecipesOfAllFoldersAndTellsWhereTheyLie) {
+    Recipe("Lost", 77);
+    main.Execute("UPDATE RECIPES SET NOTES = 'roasted' WHERE NAME = 'Lost'");
+    list.Show("F:0", false);
+    list.Find(" ROAST ");
+    EXPECT_TRUE(list.IsFinding());
+    EXPECT_THAT(Shown(), ElementsAre("Lost", "Stout"));
+    EXPECT_THAT(Shown("Folder"), ElementsAre("  ", "My Recipe Folders / Winter / Dark"));
+    EXPECT_EQ(list.Rows().Row(1).key, "R:1:0");
+    list.Find("roast porter");
+    EXPECT_THAT(Shown(), IsEmpty());
+    EXPECT_EQ(list.Hint(), "No recipe holds \"roast porter\".");
+    list.Find(" ");
+    EXPECT_FALSE(list.IsFinding());
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
+    EXPECT_EQ(list.Rows().ColumnOf("Folder"), -1);
+}
+
+TEST_F(NodeLists, ShowingAFolderEndsTheSearch) {
+    list.Show("F:0", false);
+    list.Find("stout");
+    list.Show("F:0", false);
+    EXPECT_EQ(list.FindText(), "");
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
+}
+
+TEST_F(NodeLists, ASearchFollowsTheDatabase) {
+    list.Find("stout");
+    io.MoveObject("R:1:0", "F:1", false);
+    list.Refill();
+    EXPECT_THAT(Shown("Folder"), ElementsAre("My Recipe Folders / Winter"));
+    io.DeleteObject("R:1:0");
+    list.Refill();
+    EXPECT_THAT(Shown(), IsEmpty());
+}
+
+TEST_F(NodeLists, ANameIsEditedInItsPlace) {
+    list.Show("F:0", false);
+    EXPECT_FALSE(list.BeginEdit(ListTable::kNoRow));
+    ASSERT_TRUE(list.BeginEdit(1));
+    EXPECT_EQ(list.EditedRow(), 1);
+    EXPECT_TRUE(list.EndEdit("Zwickel"));
+    EXPECT_EQ(list.EditedRow(), ListTable::kNoRow);
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "Zwickel", "mild"));
+    EXPECT_EQ(main.tree.Nodes("R:2:0")->Name(), "Zwickel");
+    EXPECT_THAT(Notices(), ElementsAre("renamed Ale to Zwickel"));
+}
+
+TEST_F(NodeLists, ARefusedNameLeavesTheOldOne) {
+    list.Show("F:0", false);
+    list.BeginEdit(1);
+    EXPECT_FALSE(list.EndEdit("MILD"));
+    EXPECT_THAT(Boxes(), ElementsAre("[Could not rename recipe] A recipe with that name already exists"));
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
+    EXPECT_FALSE(list.EndEdit("Other"));  // no edit is going on
+    list.BeginEdit(1);
+    list.CancelEdit();
+    EXPECT_FALSE(list.EndEdit("Other"));
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(NodeLists, ANameLeftAsItWasIsNoRename) {
+    list.Show("F:0", false);
+    list.BeginEdit(1);
+    EXPECT_TRUE(list.EndEdit("Ale"));
+    EXPECT_THAT(Notices(), IsEmpty());
+}
+
+TEST_F(NodeLists, SystemFoldersCannotBeRenamed) {
+    list.Show("X:DB", false);
+    EXPECT_FALSE(list.BeginEdit(0));
+    EXPECT_FALSE(list.BeginEdit(1));
+}
+
+TEST_F(NodeLists, ANewFolderStandsBehindTheOthersWithItsNameToEdit) {
+    list.Show("F:0", false);
+    list.AddFolder(io.CreateFolderObject("F:0", "", false));
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild", "New Folder"));
+    EXPECT_THAT(Shown("Size"), ElementsAre("1", "  ", "  ", "0"));
+    EXPECT_EQ(Shown("Type").back(), "Recipe Folder");
+    EXPECT_EQ(Shown("Created When").back(), "03/09/2024  02:05 PM");
+    EXPECT_EQ(Shown("Modified When").back(), "03/09/2024  02:05 PM");
+    EXPECT_EQ(list.EditedRow(), 3);
+    EXPECT_EQ(list.SelectedKey(), "F:3");
+}
+
+TEST_F(NodeLists, AnEmptyListTellsWhatToDo) {
+    list.Show("F:0", false);
+    EXPECT_EQ(list.Hint(), "");
+    list.AddFolder(io.CreateFolderObject("F:0", "Empty", false));
+    list.Show("F:3", false);
+    EXPECT_EQ(list.Hint(), "This folder is empty.");
+    for (const char* key : {"R:1:0", "R:2:0", "R:3:0"}) io.DeleteObject(key);
+    EXPECT_EQ(list.Hint().substr(0, 25), "There is no recipe yet. C");
+}
+
+TEST(ListLook, TakesTheCommandsOfViewAndArrange) {
+    ListLook look;
+    EXPECT_EQ(look.viewType, ListViewType::List);
+    EXPECT_TRUE(TakeLookCommand(look, "mnuDetails"));
+    EXPECT_EQ(look.viewType, ListViewType::Details);
+    EXPECT_TRUE(TakeLookCommand(look, "mnuLargeIcons"));
+    EXPECT_EQ(look.viewType, ListViewType::LargeIcons);
+    EXPECT_TRUE(TakeLookCommand(look, "mnuArrangeBy(2)"));
+    EXPECT_EQ(look.arrangeKey, 2);
+    EXPECT_FALSE(look.descending);
+    EXPECT_TRUE(TakeLookCommand(look, "mnuArrangeBy(2)"));
+    EXPECT_TRUE(look.descending);
+    EXPECT_TRUE(TakeLookCommand(look, "mnuArrangeBy(3)"));
+    EXPECT_FALSE(look.descending);
+    for (const char* command : {"mnuView", "mnuArrangeBy", "mnuArrangeBy(-1)", "mnuArrangeBy(15)", ""})
+        EXPECT_FALSE(TakeLookCommand(look, command)) << command;
+}
+
+}  // namespace
+}  // namespace tw::test
