@@ -20,7 +20,7 @@ bool IsFolderKey(std::string_view key) {
 
 }  // namespace
 
-OpenSaveModel::OpenSaveModel(Style style, const ObjectAccess& access, OpenSaveFields fields)
+OpenSaveModel::OpenSaveModel(Style style, const ObjectAccess& access, const OpenSaveFields& fields)
     : style_(style), access_(access), look_(fields.look), list_(access, look_, false) {
     const std::string_view first = style == Style::Save ? kRecipeFoldersKey : kAllRecipesKey;
     GoTo(style == Style::Open && HasFolder(fields.nodeKey) ? std::string_view(fields.nodeKey) : first);

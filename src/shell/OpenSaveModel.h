@@ -31,7 +31,7 @@ class OpenSaveModel final : public DialogModel {
     // Starts in the folder of the fields when it opens, in all recipes when it deletes, in the root folder
     // when it saves; a folder that is no longer there gives way to all recipes, or to the root folder when it
     // saves. REQUIRES: what access names lives for as long.
-    OpenSaveModel(Style style, const ObjectAccess& access, OpenSaveFields fields);
+    OpenSaveModel(Style style, const ObjectAccess& access, const OpenSaveFields& fields);
 
     // What the dialog starts with when it saves: the name in the box and the folder; the root folder for a
     // recipe that was never saved, which has a negative id.

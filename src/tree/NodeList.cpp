@@ -85,7 +85,7 @@ std::string NodeList::FolderOf(const TWNode& recipe) const {
     // The database above the root folder says nothing.
     for (const TWNode* above = copy ? copy->Parent() : nullptr; above && above->Parent();
          above = above->Parent())
-        path = path.empty() ? std::string(above->Name()) : std::string(above->Name()) + " / " + path;
+        path.insert(0, std::string(above->Name()).append(path.empty() ? "" : " / "));
     return path;
 }
 
@@ -98,6 +98,7 @@ void NodeList::Refill() {
     else
         Show(std::string(key_), true);
     std::vector<int> rows;
+    rows.reserve(chosen.size());
     for (const std::string& key : chosen) rows.push_back(rows_.FindKey(key));
     rows_.Choose(std::move(rows), rows_.FindKey(selected));
 }
