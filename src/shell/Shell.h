@@ -303,6 +303,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void ShowDatabaseSetup();
     // Shows the selected row of a picker's list, and those around it, to be read.
     void ViewCatalogueRow(PickList type, ListTable& items);
+    // What the dialog has come to; a printer that was chosen has the job by then.
     PrinterAnswer::Result PrintThroughDialog(bool quick);
     void PrintOn(std::unique_ptr<PrinterDevice> device);
     void OfferPdf();
@@ -351,7 +352,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool exchanging_ = false;  // recipes are being copied from or to a file
     PrinterPort* printer_ = nullptr;
     SaveFilePort* saveFiles_ = nullptr;
-    bool printerConfigured_ = false;  // the printer dialog has been answered once
+    bool printerConfigured_ = false;
     std::string recoveryRoot_;
     std::string programFolder_;           // empty: the product's own files are not used
     std::unique_ptr<Recovery> recovery_;  // nullptr while nothing is kept

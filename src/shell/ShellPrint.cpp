@@ -23,6 +23,19 @@ class Hourglass {
     PrinterPort& printer_;
 };
 
+// For the time of a scope tmrProcessDDE is off: no command that another program has sent runs in the middle
+// of a job.
+class CommandsWait {
+  public:
+    explicit CommandsWait(DDEService& commands) : commands_(commands) { commands_.SetTicking(false); }
+    ~CommandsWait() { commands_.SetTicking(true); }
+    CommandsWait(const CommandsWait&) = delete;
+    CommandsWait& operator=(const CommandsWait&) = delete;
+
+  private:
+    DDEService& commands_;
+};
+
 // A recipe's name as that of a file.
 std::string PdfName(std::string_view recipe) {
     std::string name(Trim(recipe));
@@ -37,15 +50,13 @@ std::string PdfName(std::string_view recipe) {
 
 void Shell::PrintActiveDocument(bool quick) {
     if (!active_ || !printer_) return;
-    // No command that another program has sent runs in the middle of a job.
-    EnableDDETimer(false);
     const PrinterAnswer::Result result = PrintThroughDialog(quick);
-    EnableDDETimer(true);
     if (result == PrinterAnswer::Result::Preview) PreviewActiveDocument();
     if (result == PrinterAnswer::Result::NoPrinter) OfferPdf();
 }
 
 PrinterAnswer::Result Shell::PrintThroughDialog(bool quick) {
+    const CommandsWait wait(dde_);
     PrinterAnswer answer;
     try {
         answer = printer_->ShowPrinterDialog(printerConfigured_, quick);
@@ -77,7 +88,10 @@ void Shell::PreviewActiveDocument() {
     const RecipeRecord& recipe = active_->Record();
     PrintPreviewModel preview(
         {[&](PrintSize area) { return LayOutRecipe(recipe, area, printer_->Measure()); },
-         [this] { PrintActiveDocument(false); },
+         // The dialog's own way to the preview leads back to this one.
+         [this] {
+             if (PrintThroughDialog(false) == PrinterAnswer::Result::NoPrinter) OfferPdf();
+         },
          [this](const PrintSteps& steps, Paper paper) { SaveAsPdf(steps, paper); }},
         printer_->UsualPaper());
     platform_.dialogs.ShowModal(preview);

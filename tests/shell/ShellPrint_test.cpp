@@ -169,6 +169,18 @@ TEST_F(ShellPrintTest, ThePrinterDialogLeadsToThePreview) {
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintPreview"}));
 }
 
+TEST_F(ShellPrintTest, FromThePreviewThePrinterDialogLeadsBackToIt) {
+    NewNamed("Porter");
+    printer.result = Result::Preview;
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
+        EXPECT_TRUE(dialog.Press("cmdPrint"));
+        EXPECT_TRUE(dialog.IsOpen());
+    });
+    shell.PreviewActiveDocument();
+    EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintPreview"}));
+    EXPECT_EQ(printer.log, (Strings{"new"}));
+}
+
 TEST_F(ShellPrintTest, WithoutAPortNothingIsPrinted) {
     NewNamed("Porter");
     shell.SetPrinter(nullptr);
