@@ -25,12 +25,12 @@ class Hourglass {
 
 // For the time of a scope tmrProcessDDE is off: no command that another program has sent runs in the middle
 // of a job.
-class CommandsWait {
+class OutsideCommandsPaused {
   public:
-    explicit CommandsWait(DDEService& commands) : commands_(commands) { commands_.SetTicking(false); }
-    ~CommandsWait() { commands_.SetTicking(true); }
-    CommandsWait(const CommandsWait&) = delete;
-    CommandsWait& operator=(const CommandsWait&) = delete;
+    explicit OutsideCommandsPaused(DDEService& commands) : commands_(commands) { commands_.SetTicking(false); }
+    ~OutsideCommandsPaused() { commands_.SetTicking(true); }
+    OutsideCommandsPaused(const OutsideCommandsPaused&) = delete;
+    OutsideCommandsPaused& operator=(const OutsideCommandsPaused&) = delete;
 
   private:
     DDEService& commands_;
@@ -56,7 +56,7 @@ void Shell::PrintActiveDocument(bool quick) {
 }
 
 PrinterAnswer::Result Shell::PrintThroughDialog(bool quick) {
-    const CommandsWait wait(dde_);
+    const OutsideCommandsPaused pause(dde_);
     PrinterAnswer answer;
     try {
         answer = printer_->ShowPrinterDialog(printerConfigured_, quick);
