@@ -3,9 +3,7 @@
 // system's own memmem, in turn in one run. The counter "x_limit" is the ratio of the medians. Reading the
 // recipes, at the first keystroke and the first one after a change, is measured beside InitFromDatabase, and
 // the memory it leaves in use beside the recipes' number. The file is made in the present folder.
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <malloc.h>
@@ -14,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "Timing.h"
 #include "store/Schema.h"
 #include "tree/RecipeFinder.h"
 #include "tree/TWTree.h"
@@ -22,23 +21,10 @@
 namespace {
 
 using namespace tw;
-using Clock = std::chrono::steady_clock;
 
 constexpr int kRecipes = 100000;
 constexpr int kStyles = 100;
 const std::string kFile = "find_bench.mdb";
-
-template <typename Action>
-double Seconds(Action action) {
-    const auto start = Clock::now();
-    action();
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-double Median(std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 // Words as brewers use them: a name's own, the ingredients', and 2,000 that notes are made of, the first ones
 // far more often than the last.

@@ -2,15 +2,15 @@
 // in one transaction in the same run, with the same locks, journal and syncs. The argument is the number of
 // recipes elsewhere. The counter "x_limit" is the ratio of the medians. The files are made in the present
 // folder: run it on the disk that is to be measured.
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <sqlite3.h>
 #include <string>
 #include <vector>
 
+#include "SilentStore.h"
+#include "Timing.h"
 #include "store/DB_IO.h"
 #include "store/Schema.h"
 #include "store/SqlDialect.h"
@@ -21,7 +21,6 @@
 namespace {
 
 using namespace tw;
-using Clock = std::chrono::steady_clock;
 
 constexpr int kInFolder = 10000;
 constexpr int kStyles = 20;
@@ -29,41 +28,6 @@ constexpr std::int64_t kFolder = 1;
 const std::string kMadeFile = "objects_bench.mdb";
 const std::string kStoreFile = "objects_bench_a.mdb";
 const std::string kRawFile = "objects_bench_b.mdb";
-
-class FixedClock : public ClockPort {
-  public:
-    DateTime Now() override { return {2024, 2, 28, 18, 30, 0}; }
-};
-
-class NoMessages : public MessagePort {
-  public:
-    void ShowMessage(std::string_view, std::string_view) override {}
-    Answer Ask(std::string_view, std::string_view, Question) override { return Answer::No; }
-    void Beep() override {}
-};
-
-class NoListener : public ObjectListener {
-  public:
-    void NotifyRecipeMoved(const std::string&, std::int64_t) override {}
-    void NotifyRecipeNewStyle(const std::string&, std::int64_t) override {}
-    void NotifyRecipeRenamed(const std::string&, const std::string&) override {}
-    void NotifyStyleRenamed(std::int64_t, const std::string&) override {}
-    void NotifyRecipeDeleted(const std::string&) override {}
-    void NotifyRecipeFolderDeleted(std::int64_t) override {}
-    void NotifyStyleDeleted(std::int64_t) override {}
-};
-
-template <typename Action>
-double Seconds(Action action) {
-    const auto start = Clock::now();
-    action();
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-double Median(std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 void Remove(const std::string& file) {
     for (const std::string end : {"", "-journal"}) std::filesystem::remove(file + end);

@@ -2,15 +2,15 @@
 // beside the same statements run by SQLite alone in
 // the same run, with the same locks, journal and syncs. The counter "x_limit" is the ratio of the medians.
 // The files are made in the present folder: run it on the disk that is to be measured.
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <sqlite3.h>
 #include <string>
 #include <vector>
 
+#include "SilentStore.h"
+#include "Timing.h"
 #include "store/DB_IO.h"
 #include "store/ExchangeFile.h"
 #include "store/RecipeCopy.h"
@@ -23,35 +23,11 @@
 namespace {
 
 using namespace tw;
-using Clock = std::chrono::steady_clock;
 
 constexpr int kRecipes = 1000;
 const std::string kStoreFile = "store_bench_a.mdb";
 const std::string kRawFile = "store_bench_b.mdb";
 const std::string kSourceFile = "store_bench_source.mdb";
-
-class FixedClock : public ClockPort {
-  public:
-    DateTime Now() override { return {2024, 2, 28, 18, 30, 0}; }
-};
-
-class NoMessages : public MessagePort {
-  public:
-    void ShowMessage(std::string_view, std::string_view) override {}
-    Answer Ask(std::string_view, std::string_view, Question) override { return Answer::No; }
-    void Beep() override {}
-};
-
-class NoListener : public ObjectListener {
-  public:
-    void NotifyRecipeMoved(const std::string&, std::int64_t) override {}
-    void NotifyRecipeNewStyle(const std::string&, std::int64_t) override {}
-    void NotifyRecipeRenamed(const std::string&, const std::string&) override {}
-    void NotifyStyleRenamed(std::int64_t, const std::string&) override {}
-    void NotifyRecipeDeleted(const std::string&) override {}
-    void NotifyRecipeFolderDeleted(std::int64_t) override {}
-    void NotifyStyleDeleted(std::int64_t) override {}
-};
 
 std::string NameOf(int number) {
     return "Copper Lantern Bitter " + std::to_string(number);
@@ -176,18 +152,6 @@ void RunRaw(sqlite3* handle, const std::vector<std::string>& statements) {
             }
         if (sqlite3_finalize(statement) != SQLITE_OK) RaiseStoreError(handle, kDatabaseSource);
     }
-}
-
-template <typename Action>
-double Seconds(Action action) {
-    const auto start = Clock::now();
-    action();
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-double Median(std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
 }
 
 // The two ways in turn, so that a slow spell of the disk meets both.

@@ -3,9 +3,7 @@
 // and renaming or moving one recipe, beside building it. The counter "x_limit" is the ratio of the medians,
 // "x_init" the part of a whole InitFromDatabase, "x_init_first" that of the first change after it. The file
 // is made in the present folder.
-#include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <malloc.h>
@@ -15,6 +13,7 @@
 #include <string>
 #include <vector>
 
+#include "Timing.h"
 #include "store/Schema.h"
 #include "store/SqliteHandle.h"
 #include "tree/TWNodes.h"
@@ -23,25 +22,12 @@
 namespace {
 
 using namespace tw;
-using Clock = std::chrono::steady_clock;
 
 constexpr int kStyles = 100;
 constexpr int kRecipeFolders = 200;
 constexpr int kTopFolders = 20;
 constexpr int kStyleFolders = 20;
 const std::string kFile = "tree_bench.mdb";
-
-template <typename Action>
-double Seconds(Action action) {
-    const auto start = Clock::now();
-    action();
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-double Median(std::vector<double> times) {
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
-}
 
 // Names in no order, as a brewer gives them, and all different.
 class Names {
