@@ -26,7 +26,6 @@
 #include "reports/PrintedRecipe.h"
 #include "reports/qt/PaperPainter.h"
 #include "shell/AboutModel.h"
-#include "shell/CopyProgressModel.h"
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
 #include "shell/OptionsModel.h"
@@ -40,6 +39,7 @@
 #include "tools/HydrometerModel.h"
 #include "tree/ChooseFolderModel.h"
 #include "tree/LvShowModel.h"
+#include "tree/ProgressModel.h"
 #include "tree/RecipeChooser.h"
 #include "tree/ui/RecipeChooserView.h"
 
@@ -153,7 +153,7 @@ bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     recipes.Recipes().Add(kAllRecipesKey);
     NameConflictModel conflict("Dry Stout", true, messages);
     StylesNotImportedModel styles({{"Dry Stout", "Irish Stout"}, {"Copper Lantern Bitter", "Best Bitter"}});
-    CopyProgressModel progress(true, {});
+    ProgressModel progress("Importing Recipes", {});
     progress.Show("Copper Lantern Bitter", 40, 100);
     bool ok = true;
     for (DialogModel* model : {static_cast<DialogModel*>(&recipes), static_cast<DialogModel*>(&conflict),

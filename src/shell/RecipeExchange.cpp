@@ -5,7 +5,6 @@
 #include <sqlite3.h>
 
 #include "platform/FileDialogModel.h"
-#include "shell/CopyProgressModel.h"
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
 #include "shell/StylesNotImportedModel.h"
@@ -13,6 +12,7 @@
 #include "store/RecipeCopy.h"
 #include "tree/ChooseFolderModel.h"
 #include "tree/NodeKey.h"
+#include "tree/ProgressModel.h"
 #include "tree/TWNodes.h"
 
 namespace tw {
@@ -58,7 +58,7 @@ std::vector<std::string> AllRecipesOf(const TWTree& tree) {
 // Asks by the dialogs, behind which the progress stands still.
 class RecipeExchange::Host final : public CopyHost {
   public:
-    Host(Platform& platform, CopyProgressModel& progress, bool isImport)
+    Host(Platform& platform, ProgressModel& progress, bool isImport)
         : platform_(platform), progress_(progress), isImport_(isImport) {}
 
     bool Continue(const std::string& name, int number, int total) override {
@@ -84,7 +84,7 @@ class RecipeExchange::Host final : public CopyHost {
 
   private:
     Platform& platform_;
-    CopyProgressModel& progress_;
+    ProgressModel& progress_;
     bool isImport_;
 };
 
@@ -155,7 +155,7 @@ void RecipeExchange::ExportTo(const std::string& path, bool append, std::span<co
     std::unique_ptr<Database> file;
     const bool isNew = !append || !FileExists(path);
     if (!isNew && !(file = Open(path))) return;
-    CopyProgressModel progress(false, [&](CopyProgressModel& shown) {
+    ProgressModel progress("Exporting Recipes", [&](ProgressModel& shown) {
         Trap([&] {
             if (isNew)
                 file = CreateNew(path);
@@ -188,11 +188,11 @@ void RecipeExchange::ImportChosen(const std::string& path, const Chooser& choose
         choice = choose(tree);
     });
     if (!choice) return;
-    CopyProgressModel progress(true, [&](CopyProgressModel& shown) { CopyIn(*file, *choice, shown); });
+    ProgressModel progress("Importing Recipes", [&](ProgressModel& shown) { CopyIn(*file, *choice, shown); });
     platform_.dialogs.ShowModal(progress);
 }
 
-void RecipeExchange::CopyIn(Database& file, const Choice& choice, CopyProgressModel& progress) {
+void RecipeExchange::CopyIn(Database& file, const Choice& choice, ProgressModel& progress) {
     StylesNotImported unknown;
     const bool copied = Trap([&] {
         Host host(platform_, progress, true);

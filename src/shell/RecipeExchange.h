@@ -16,7 +16,7 @@
 
 namespace tw {
 
-class CopyProgressModel;
+class ProgressModel;
 
 // A store's error is shown in a box titled "Error"; what was copied before it stays. A file that is no
 // database is told as such. Nothing of that rises.
@@ -58,7 +58,7 @@ class RecipeExchange {
     std::unique_ptr<Database> CreateNew(const std::string& path);
     void ImportChosen(const std::string& path, const Chooser& choose);
     std::optional<Choice> AskWhatToImport(const TWTree& tree);
-    void CopyIn(Database& file, const Choice& choice, CopyProgressModel& progress);
+    void CopyIn(Database& file, const Choice& choice, ProgressModel& progress);
     // Runs it; an error is shown and gives false.
     bool Trap(const std::function<void()>& operation);
 

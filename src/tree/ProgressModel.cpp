@@ -1,23 +1,23 @@
 #include "tree/ProgressModel.h"
 
 namespace tw {
-namespace {
 
-// So many are done before a window would have come up.
-constexpr std::size_t kWithoutWindow = 10;
+bool ProgressModel::Show(const std::string& name, int done, int total) {
+    name_ = name;
+    done_ = done;
+    total_ = total;
+    Tell();
+    return !cancelled_;
+}
 
-}  // namespace
-
-void ProgressModel::Rethrow() const {
-    if (error_) std::rethrow_exception(error_);
+void ProgressModel::SetBusy(bool busy) {
+    if (busy_ == busy) return;
+    busy_ = busy;
+    Tell();
 }
 
 std::vector<DialogControl> ProgressModel::Controls() const {
-    return {{"lblObject", Name()}, {"ProgressBar1", std::to_string(done_)}};
-}
-
-bool ProgressModel::SetControl(std::string_view, std::string_view) {
-    return false;
+    return {{"lblObject", name_}, {"ProgressBar1", std::to_string(done_)}};
 }
 
 bool ProgressModel::Press(std::string_view button) {
@@ -27,34 +27,43 @@ bool ProgressModel::Press(std::string_view button) {
 }
 
 void ProgressModel::CloseBox() {
-    stopped_ = true;
+    cancelled_ = true;
     if (!running_) open_ = false;
 }
 
 void ProgressModel::FirstShown() {
     if (!open_ || running_) return;
     running_ = true;
-    try {
-        for (; done_ < Total(); ++done_) {
-            if (observer_) observer_();
-            if (stopped_ || !step_(done_)) break;
+    struct End {
+        ProgressModel& model;
+        ~End() {
+            model.running_ = false;
+            model.open_ = false;
+            model.busy_ = false;
         }
-    } catch (...) {
-        error_ = std::current_exception();
-    }
-    running_ = false;
-    open_ = false;
+    };
+    const End end{*this};
+    SetBusy(true);
+    work_(*this);
+    SetBusy(false);
 }
 
-void RunSteps(DialogPort& dialogs, const std::string& title, std::vector<std::string> names,
-              const ProgressModel::Step& step) {
-    if (names.size() <= kWithoutWindow) {
+void ProgressModel::Tell() const {
+    if (observer_) observer_();
+}
+
+void RunSteps(DialogPort& dialogs, const std::string& title, const std::vector<std::string>& names,
+              const std::function<bool(std::size_t index)>& step) {
+    const int total = static_cast<int>(names.size());
+    if (total <= ProgressModel::kWithoutWindow) {
         for (std::size_t i = 0; i < names.size() && step(i);) ++i;
         return;
     }
-    ProgressModel progress(title, std::move(names), step);
+    ProgressModel progress(title, [&](ProgressModel& shown) {
+        for (std::size_t i = 0; i < names.size(); ++i)
+            if (!shown.Show(names[i], static_cast<int>(i), total) || !step(i)) return;
+    });
     dialogs.ShowModal(progress);
-    progress.Rethrow();
 }
 
 }  // namespace tw

@@ -1,9 +1,8 @@
 // The window that shows how far an operation on many objects has come (frmProgress), and lets it be stopped
-// between two of them.
+// between two of them. It works as soon as it is shown, and goes.
 #pragma once
 
 #include <cstddef>
-#include <exception>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -16,51 +15,58 @@ namespace tw {
 
 class ProgressModel final : public DialogModel {
   public:
-    // Works on the object of that number; false ends the run.
-    using Step = std::function<bool(std::size_t index)>;
+    using Work = std::function<void(ProgressModel&)>;
+    // So many objects are done before a window would be read.
+    static constexpr int kWithoutWindow = 10;
 
-    // title: what is being done, such as "Deleting"; names: the objects, in the order of the work.
-    ProgressModel(std::string title, std::vector<std::string> names, Step step)
-        : title_(std::move(title)), names_(std::move(names)), step_(std::move(step)) {}
+    // title: what is being done, such as "Deleting". work tells its progress here.
+    ProgressModel(std::string title, Work work) : title_(std::move(title)), work_(std::move(work)) {}
 
-    // Called before each step: the window paints, and lets its button be pressed.
+    // Called after each change of what the window shows: it paints, and lets waiting events run.
     void SetObserver(std::function<void()> observer) { observer_ = std::move(observer); }
 
     const std::string& Title() const { return title_; }
     // The object that is being worked on.
-    std::string Name() const { return done_ < Total() ? names_[done_] : std::string(); }
-    std::size_t Done() const { return done_; }
-    std::size_t Total() const { return names_.size(); }
-    // Raises again what ended the run, if that was an error.
-    void Rethrow() const;
+    const std::string& Name() const { return name_; }
+    int Done() const { return done_; }
+    int Total() const { return total_; }
+    // The hourglass is wanted: it works and asks nothing.
+    bool IsBusy() const { return busy_; }
+
+    // For the work. False once the brewer has called it off.
+    bool Show(const std::string& name, int done, int total);
+    void SetBusy(bool busy);
 
     std::string FormName() const override { return "frmProgress"; }
     // lblObject, the name of the object being worked on, and ProgressBar1, the number of those done.
     std::vector<DialogControl> Controls() const override;
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdCancel stops the run before the next object; what is done stays done.
+    bool SetControl(std::string_view, std::string_view) override { return false; }
+    // cmdCancel.
     bool Press(std::string_view button) override;
-    // As cmdCancel.
+    // Calls the work off behind the present object; before the work it closes the window.
     void CloseBox() override;
     bool IsOpen() const override { return open_; }
-    // Does the work.
+    // Works and closes, also when an error rises from the work.
     void FirstShown() override;
 
   private:
+    void Tell() const;
+
     std::string title_;
-    std::vector<std::string> names_;
-    Step step_;
+    Work work_;
     std::function<void()> observer_;
-    std::size_t done_ = 0;
+    std::string name_;
+    int done_ = 0;
+    int total_ = 0;
     bool open_ = true;
     bool running_ = false;
-    bool stopped_ = false;
-    std::exception_ptr error_;
+    bool busy_ = false;
+    bool cancelled_ = false;
 };
 
-// Runs step for each of the objects until one is false; for more than a few of them behind the progress
-// window. Raises what a step raises; the objects before it are done then.
-void RunSteps(DialogPort& dialogs, const std::string& title, std::vector<std::string> names,
-              const ProgressModel::Step& step);
+// Runs step for each of the objects, in their order, until one is false; for more than a few of them behind
+// the progress window. Raises what a step raises; the objects before it are done then.
+void RunSteps(DialogPort& dialogs, const std::string& title, const std::vector<std::string>& names,
+              const std::function<bool(std::size_t index)>& step);
 
 }  // namespace tw

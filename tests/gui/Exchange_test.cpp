@@ -9,7 +9,6 @@
 #include "platform/qt/FileDialog.h"
 #include "platform/qt/QtDialogs.h"
 #include "shell/ui/ExchangeForms.h"
-#include "shell/ui/frmCopyProgress.h"
 #include "shell/ui/frmImportExport.h"
 #include "shell/ui/frmNameConflict.h"
 #include "shell/ui/frmStylesNotImported.h"
@@ -149,65 +148,16 @@ TEST_F(Exchange, UnknownStylesAreListedAndEnterClosesTheList) {
     EXPECT_FALSE(model.IsOpen());
 }
 
-TEST_F(Exchange, AShortCopyShowsTheHourglassAlone) {
-    CopyProgressModel model(true, [](CopyProgressModel& progress) {
-        EXPECT_TRUE(progress.Show("Mild", 0, frmCopyProgress::kWithoutWindow));
-        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-        ASSERT_NE(QApplication::overrideCursor(), nullptr);
-        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-        // A question stands in front of it.
-        progress.SetBusy(false);
-        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-        progress.SetBusy(true);
-    });
-    frmCopyProgress dialog(model, &window);
-    dialog.exec();
-    EXPECT_FALSE(model.IsOpen());
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
-TEST_F(Exchange, ALongCopyShowsItsRecipeAndIsCalledOffByCancel) {
-    int copied = 0;
-    CopyProgressModel model(true, [&](CopyProgressModel& progress) {
-        const int total = frmCopyProgress::kWithoutWindow + 1;
-        ASSERT_TRUE(progress.Show("Mild", 0, total));
-        QWidget* shown = QApplication::activeModalWidget();
-        ASSERT_NE(shown, nullptr);
-        EXPECT_EQ(FromQt(shown->windowTitle()), "Importing Recipes");
-        EXPECT_EQ(FromQt(shown->findChild<QLabel*>(QStringLiteral("lblRecipe"))->text()), "Mild");
-        EXPECT_EQ(shown->findChild<QProgressBar*>()->maximum(), total);
-        shown->findChild<QPushButton*>(QStringLiteral("cmdCancel"))->click();
-        EXPECT_TRUE(shown->isVisible());
-        if (progress.Show("Ale", 1, total)) ++copied;
-    });
-    frmCopyProgress dialog(model, &window);
-    dialog.exec();
-    EXPECT_EQ(copied, 0);
-    EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
-TEST_F(Exchange, AnErrorInTheCopyGivesThePointerBack) {
-    {
-        CopyProgressModel model(true, [](CopyProgressModel&) { throw Error("Copy", "It is broken", 7); });
-        frmCopyProgress dialog(model, &window);
-        EXPECT_THROW(dialog.exec(), Error);
-    }
-    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
-}
-
 TEST_F(Exchange, EveryDialogHasAWindowOfItsOwn) {
     QtDialogs dialogs(outside.settings);
     RegisterExchangeForms(dialogs);
     ImportExportModel recipes(shell.Tree(), true);
     NameConflictModel conflict("Mild", true, outside.messages);
     StylesNotImportedModel styles({});
-    CopyProgressModel progress(true, {});
     FileDialogModel file({}, outside.messages);
     EXPECT_NE(dynamic_cast<frmImportExport*>(dialogs.Make(recipes, nullptr).get()), nullptr);
     EXPECT_NE(dynamic_cast<frmNameConflict*>(dialogs.Make(conflict, nullptr).get()), nullptr);
     EXPECT_NE(dynamic_cast<frmStylesNotImported*>(dialogs.Make(styles, nullptr).get()), nullptr);
-    EXPECT_NE(dynamic_cast<frmCopyProgress*>(dialogs.Make(progress, nullptr).get()), nullptr);
     EXPECT_NE(dynamic_cast<FileDialog*>(dialogs.Make(file, nullptr).get()), nullptr);
 }
 

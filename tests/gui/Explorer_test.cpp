@@ -1,7 +1,6 @@
 // The explorer by keyboard and mouse.
 #include "BrowseTest.h"
 #include "tree/ui/frmExplorer.h"
-#include "tree/ui/frmProgress.h"
 
 namespace tw::test {
 namespace {
@@ -388,23 +387,6 @@ TEST_F(ExplorerWindow, ARecipeOpensBehindItInTheMainWindow) {
     EXPECT_TRUE(window.RunCommand("mnuToolsExplorer"));
     ASSERT_NE(window.ActiveWindow(), nullptr);
     EXPECT_EQ(Text("txtName"), "Ale");
-}
-
-TEST(ProgressWindow, ShowsHowFarItIsAndStopsOnCancel) {
-    std::size_t steps = 0;
-    ProgressModel progress("Deleting", {"one", "two", "three"}, [&](std::size_t) { return ++steps > 0; });
-    frmProgress window(progress, nullptr);
-    EXPECT_EQ(FromQt(window.windowTitle()), "Deleting");
-    auto* bar = window.findChild<QProgressBar*>(QStringLiteral("ProgressBar1"));
-    EXPECT_EQ(bar->maximum(), 3);
-    window.show();
-    // The click waits in line for the run to let it in.
-    QMetaObject::invokeMethod(window.findChild<QPushButton*>(QStringLiteral("cmdCancel")), "click",
-                              Qt::QueuedConnection);
-    QApplication::processEvents();
-    EXPECT_LT(steps, 3u);
-    EXPECT_FALSE(window.isVisible());
-    EXPECT_FALSE(progress.IsOpen());
 }
 
 }  // namespace

@@ -25,7 +25,6 @@
 #include "shell/NameConflictModel.h"
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
-#include "shell/ui/frmCopyProgress.h"
 #include "shell/ui/frmImportExport.h"
 #include "shell/ui/frmNameConflict.h"
 #include "shell/ui/frmOptions.h"
@@ -67,7 +66,6 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         OpenSaveModel openSave(OpenSaveModel::Style::Open, shell.Access(), {});
         ExplorerModel recipes(shell.Access(), {}), styles(shell.Access(), {});
         styles.Show(ExplorerModel::Page::Styles);
-        ProgressModel progress("Deleting", {"Mild", "Stout"}, [](std::size_t) { return true; });
         CannotUndoModel cannotUndo;
         AboutDialog aboutWindow(about, nullptr);
         CannotUndoDialog cannotUndoWindow(cannotUndo, nullptr);
@@ -75,7 +73,6 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             volumeWindow(volume, nullptr);
         OpenSaveDialog openSaveWindow(openSave, nullptr);
         frmExplorer recipesWindow(recipes, nullptr), stylesWindow(styles, nullptr);
-        frmProgress progressWindow(progress, nullptr);
         for (QDialog* dialog :
              {static_cast<QDialog*>(&aboutWindow), static_cast<QDialog*>(&strengthWindow),
               static_cast<QDialog*>(&hopsWindow), static_cast<QDialog*>(&volumeWindow),
@@ -86,9 +83,6 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             visit(*dialog);
         }
         ForEachHelpWindow(visit);
-        // It goes as soon as events run.
-        progressWindow.show();
-        visit(progressWindow);
         ForEachTool(visit);
         ForEachChooser(visit);
         ForEachExchange(visit);
@@ -162,12 +156,12 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         ImportExportModel in(shell.Tree(), true), out(shell.Tree(), false);
         NameConflictModel conflict(name, false, outside.messages);
         StylesNotImportedModel styles({{name, "Stout"}});
-        CopyProgressModel progress(true, {});
+        ProgressModel progress("Importing Recipes", {});
         progress.Show(name, 1, 100);
         frmImportExport inWindow(in, nullptr), outWindow(out, nullptr);
         frmNameConflict conflictWindow(conflict, nullptr);
         frmStylesNotImported stylesWindow(styles, nullptr);
-        frmCopyProgress progressWindow(progress, nullptr);
+        frmProgress progressWindow(progress, nullptr);
         for (QDialog* dialog : {static_cast<QDialog*>(&inWindow), static_cast<QDialog*>(&outWindow),
                                 static_cast<QDialog*>(&conflictWindow), static_cast<QDialog*>(&stylesWindow),
                                 static_cast<QDialog*>(&progressWindow)}) {

@@ -1,5 +1,4 @@
 // The dialogs of an import or export.
-#include "shell/CopyProgressModel.h"
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
 #include "shell/ShellTest.h"
@@ -141,51 +140,6 @@ TEST(StylesNotImportedModel, ListsARecipeALineBehindTheHeaders) {
     EXPECT_FALSE(dialog.Press("cmdCancel"));
     EXPECT_TRUE(dialog.Press("cmdOK"));
     EXPECT_FALSE(dialog.IsOpen());
-}
-
-TEST(CopyProgressModel, WorksAsSoonAsItIsShownAndGoes) {
-    Strings shown;
-    CopyProgressModel progress(true, [&](CopyProgressModel& model) {
-        EXPECT_TRUE(model.IsBusy());
-        EXPECT_TRUE(model.Show("Mild", 0, 2));
-        EXPECT_TRUE(model.Show("Bock", 1, 2));
-    });
-    progress.SetObserver([&] {
-        shown.push_back(ControlOf(progress, "lblRecipe") + " " + ControlOf(progress, "ProgressBar1") + "/" +
-                        std::to_string(progress.Total()) + (progress.IsBusy() ? " busy" : ""));
-    });
-    EXPECT_EQ(progress.Caption(), "Importing Recipes");
-    EXPECT_EQ(CopyProgressModel(false, {}).Caption(), "Exporting Recipes");
-    progress.FirstShown();
-    EXPECT_EQ(shown, (Strings{" 0/0 busy", "Mild 0/2 busy", "Bock 1/2 busy", "Bock 1/2"}));
-    EXPECT_FALSE(progress.IsOpen());
-}
-
-TEST(CopyProgressModel, CancelCallsTheWorkOffBehindTheRecipeInHand) {
-    CopyProgressModel progress(false, [](CopyProgressModel& model) {
-        EXPECT_TRUE(model.Show("Mild", 0, 2));
-        EXPECT_TRUE(model.Press("cmdCancel"));
-        EXPECT_TRUE(model.IsOpen());
-        EXPECT_FALSE(model.Show("Bock", 1, 2));
-    });
-    EXPECT_FALSE(progress.Press("cmdOK"));
-    progress.FirstShown();
-    EXPECT_FALSE(progress.IsOpen());
-}
-
-TEST(CopyProgressModel, ClosedBeforeTheWorkItDoesNone) {
-    bool worked = false;
-    CopyProgressModel progress(true, [&](CopyProgressModel&) { worked = true; });
-    progress.CloseBox();
-    progress.FirstShown();
-    EXPECT_FALSE(worked);
-}
-
-TEST(CopyProgressModel, GoesAlsoWhenAnErrorRises) {
-    CopyProgressModel progress(true, [](CopyProgressModel&) { throw Error("Copy", "It is broken", 7); });
-    EXPECT_THROW(progress.FirstShown(), Error);
-    EXPECT_FALSE(progress.IsOpen());
-    EXPECT_FALSE(progress.IsBusy());
 }
 
 }  // namespace

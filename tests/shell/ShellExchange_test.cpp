@@ -55,7 +55,7 @@ TEST_F(ShellExchangeTest, TheMenuExportsThePickedRecipesIntoTheFileNamed) {
     PickAll();
     GiveFile(folder.File("Ales"));
     EXPECT_TRUE(shell.RunMenu("mnuFileExport"));
-    EXPECT_EQ(TakeShown(), (Strings{"frmImportExport", "CommonDialog", "frmCopyProgress"}));
+    EXPECT_EQ(TakeShown(), (Strings{"frmImportExport", "CommonDialog", "frmProgress"}));
     EXPECT_EQ(NamesInFile(), (Strings{"Bock", "Mild"}));
     EXPECT_EQ(outside.messages.log, Strings{});
 }
@@ -97,7 +97,7 @@ TEST_F(ShellExchangeTest, TheMenuImportsThePickedRecipesIntoTheFolderChosen) {
     GiveFolder(1);
     EXPECT_TRUE(shell.RunMenu("mnuFileImport"));
     EXPECT_EQ(TakeShown(),
-              (Strings{"CommonDialog", "frmImportExport", "frmChooseFolder", "frmCopyProgress"}));
+              (Strings{"CommonDialog", "frmImportExport", "frmChooseFolder", "frmProgress"}));
     EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Bock", "Mild"}));
     TWNode& ales = *shell.Tree().Nodes("F:1");
     ASSERT_EQ(ales.Children().Count(), 2u);
@@ -171,7 +171,7 @@ TEST_F(ShellExchangeTest, ATakenNameIsAskedAboutWithTheWordOfTheWay) {
     shell.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(words, (Strings{"Do not export this recipe", "Do not import this recipe"}));
     EXPECT_EQ(TakeShown(),
-              (Strings{"frmCopyProgress", "frmNameConflict", "frmCopyProgress", "frmNameConflict"}));
+              (Strings{"frmProgress", "frmNameConflict", "frmProgress", "frmNameConflict"}));
 }
 
 TEST_F(ShellExchangeTest, ClosingTheQuestionAboutANameStopsTheRun) {
@@ -194,7 +194,7 @@ TEST_F(ShellExchangeTest, AnUnknownStyleIsTold) {
         EXPECT_TRUE(dialog.Press("cmdOK"));
     });
     shell.ImportRecipes(file, 0, std::nullopt);
-    EXPECT_EQ(TakeShown(), (Strings{"frmCopyProgress", "frmStylesNotImported"}));
+    EXPECT_EQ(TakeShown(), (Strings{"frmProgress", "frmStylesNotImported"}));
 }
 
 TEST_F(ShellExchangeTest, AnOpenRecipeThatIsOverwrittenStaysAsItWas) {

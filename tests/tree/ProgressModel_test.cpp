@@ -16,54 +16,60 @@ std::vector<std::string> Names(std::size_t count) {
     return names;
 }
 
-TEST(ProgressModel, WorksThroughAllAndClosesItself) {
+TEST(ProgressModel, WorksAsSoonAsItIsShownAndGoes) {
     Strings shown;
-    std::size_t steps = 0;
-    ProgressModel progress("Moving", Names(3), [&](std::size_t i) { return i == steps++; });
-    progress.SetObserver([&] { shown.push_back(progress.Name() + " " + std::to_string(progress.Done())); });
-    EXPECT_EQ(progress.Controls()[0].text, "object 0");
+    ProgressModel progress("Importing Recipes", [&](ProgressModel& model) {
+        EXPECT_TRUE(model.IsBusy());
+        EXPECT_TRUE(model.Show("Mild", 0, 2));
+        EXPECT_TRUE(model.Show("Bock", 1, 2));
+    });
+    progress.SetObserver([&] {
+        shown.push_back(progress.Controls()[0].text + " " + progress.Controls()[1].text + "/" +
+                        std::to_string(progress.Total()) + (progress.IsBusy() ? " busy" : ""));
+    });
+    EXPECT_EQ(progress.Title(), "Importing Recipes");
     progress.FirstShown();
-    EXPECT_EQ(shown, (Strings{"object 0 0", "object 1 1", "object 2 2"}));
-    EXPECT_EQ(steps, 3u);
+    EXPECT_EQ(shown, (Strings{" 0/0 busy", "Mild 0/2 busy", "Bock 1/2 busy", "Bock 1/2"}));
     EXPECT_FALSE(progress.IsOpen());
-    EXPECT_EQ(progress.Controls()[1].text, "3");
-    EXPECT_EQ(progress.Name(), "");
-    EXPECT_NO_THROW(progress.Rethrow());
 }
 
-TEST(ProgressModel, CancelStopsBeforeTheNextObject) {
-    std::size_t steps = 0;
-    ProgressModel progress("Moving", Names(5), [&](std::size_t) { return ++steps > 0; });
-    progress.SetObserver([&] {
-        if (progress.Done() == 2) {
-            EXPECT_TRUE(progress.Press("cmdCancel"));
-        }
-        EXPECT_TRUE(progress.IsOpen());
+TEST(ProgressModel, CancelCallsTheWorkOffBehindTheObjectInHand) {
+    ProgressModel progress("Exporting Recipes", [](ProgressModel& model) {
+        EXPECT_TRUE(model.Show("Mild", 0, 2));
+        EXPECT_TRUE(model.Press("cmdCancel"));
+        EXPECT_TRUE(model.IsOpen());
+        EXPECT_FALSE(model.Show("Bock", 1, 2));
     });
     EXPECT_FALSE(progress.Press("cmdOK"));
     EXPECT_FALSE(progress.SetControl("lblObject", "x"));
     progress.FirstShown();
-    EXPECT_EQ(steps, 2u);
     EXPECT_FALSE(progress.IsOpen());
 }
 
-TEST(ProgressModel, TheCloseBoxBeforeTheStartDoesNothing) {
-    std::size_t steps = 0;
-    ProgressModel progress("Moving", Names(5), [&](std::size_t) { return ++steps > 0; });
+TEST(ProgressModel, ClosedBeforeTheWorkItDoesNone) {
+    bool worked = false;
+    ProgressModel progress("Importing Recipes", [&](ProgressModel&) { worked = true; });
     progress.CloseBox();
-    EXPECT_FALSE(progress.IsOpen());
     progress.FirstShown();
-    EXPECT_EQ(steps, 0u);
+    EXPECT_FALSE(worked);
+}
+
+TEST(ProgressModel, GoesAlsoWhenAnErrorRises) {
+    ProgressModel progress("Importing Recipes",
+                           [](ProgressModel&) { throw Error("Copy", "It is broken", 7); });
+    EXPECT_THROW(progress.FirstShown(), Error);
+    EXPECT_FALSE(progress.IsOpen());
+    EXPECT_FALSE(progress.IsBusy());
 }
 
 TEST(RunSteps, ShowsAWindowForManyObjectsOnly) {
     RecordingPlatform outside;
     std::size_t steps = 0;
     const auto step = [&](std::size_t) { return ++steps > 0; };
-    RunSteps(outside.dialogs, "Moving", Names(10), step);
+    RunSteps(outside.dialogs, "Moving", Names(ProgressModel::kWithoutWindow), step);
     EXPECT_EQ(outside.dialogs.shown, Strings{});
     EXPECT_EQ(steps, 10u);
-    RunSteps(outside.dialogs, "Moving", Names(11), step);
+    RunSteps(outside.dialogs, "Moving", Names(ProgressModel::kWithoutWindow + 1), step);
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmProgress"});
     EXPECT_EQ(steps, 21u);
 }

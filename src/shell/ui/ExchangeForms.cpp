@@ -2,7 +2,6 @@
 
 #include "platform/qt/FileDialog.h"
 #include "platform/qt/QtDialogs.h"
-#include "shell/ui/frmCopyProgress.h"
 #include "shell/ui/frmImportExport.h"
 #include "shell/ui/frmNameConflict.h"
 #include "shell/ui/frmStylesNotImported.h"
@@ -11,7 +10,6 @@ namespace tw {
 
 void RegisterExchangeForms(QtDialogs& dialogs) {
     dialogs.Register("CommonDialog", &FileDialog::Make);
-    dialogs.Register("frmCopyProgress", &frmCopyProgress::Make);
     dialogs.Register("frmImportExport", &frmImportExport::Make);
     dialogs.Register("frmNameConflict", &frmNameConflict::Make);
     dialogs.Register("frmStylesNotImported", &frmStylesNotImported::Make);

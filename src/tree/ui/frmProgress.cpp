@@ -1,44 +1,52 @@
 #include "tree/ui/frmProgress.h"
 
 #include <QApplication>
-#include <QDialogButtonBox>
-#include <QLabel>
+#include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "platform/qt/Appearance.h"
+#include "platform/qt/ElidedLabel.h"
 #include "platform/qt/QtText.h"
 
 namespace tw {
+namespace {
+
+// Painting each object would take longer than the work on it.
+constexpr int kMillisecondsBetween = 40;
+constexpr int kWidthUnits = 56;
+
+}  // namespace
 
 frmProgress::frmProgress(ProgressModel& model, QWidget* parent)
-    : QDialog(parent), model_(model), object_(new QLabel(this)), progress_(new QProgressBar(this)) {
+    : QDialog(parent), model_(model), object_(new ElidedLabel(this)), progress_(new QProgressBar(this)) {
     setObjectName(ToQt(model.FormName()));
     setWindowTitle(ToQt(model.Title()));
     setModal(true);
     auto* column = new QVBoxLayout(this);
     SetSpacing(*column, *this, true);
     object_->setObjectName(QStringLiteral("lblObject"));
-    object_->setTextFormat(Qt::PlainText);
-    object_->setAccessibleName(tr("Object"));
+    column->addWidget(object_);
     progress_->setObjectName(QStringLiteral("ProgressBar1"));
     progress_->setAccessibleName(tr("Progress"));
     progress_->setTextVisible(false);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdCancel"));
-    connect(buttons, &QDialogButtonBox::rejected, this, &frmProgress::reject);
-    column->addWidget(object_);
     column->addWidget(progress_);
     column->addStretch();
-    column->addWidget(buttons);
-    setMinimumWidth(Unit(*this) * 40);
+    auto* row = new QHBoxLayout;
+    row->addStretch();
+    auto* cancel = new QPushButton(tr("Cancel"), this);
+    cancel->setObjectName(QStringLiteral("cmdCancel"));
+    connect(cancel, &QPushButton::clicked, this, &frmProgress::reject);
+    row->addWidget(cancel);
+    column->addLayout(row);
+    setMinimumWidth(Unit(*this) * kWidthUnits);
+    resize(sizeHint());
     model_.SetObserver([this] { ShowProgress(); });
-    progress_->setRange(0, static_cast<int>(model_.Total()));
-    object_->setText(ToQt(model_.Name()));
 }
 
 frmProgress::~frmProgress() {
+    ShowHourglass(false);
     model_.SetObserver({});
 }
 
@@ -46,25 +54,39 @@ std::unique_ptr<QDialog> frmProgress::Make(DialogModel& model, QWidget* parent) 
     return std::make_unique<frmProgress>(dynamic_cast<ProgressModel&>(model), parent);
 }
 
-void frmProgress::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    if (!event->spontaneous()) QMetaObject::invokeMethod(this, &frmProgress::Run, Qt::QueuedConnection);
-}
-
-void frmProgress::Run() {
+int frmProgress::exec() {
     model_.FirstShown();
     QDialog::accept();
+    return result();
 }
 
 void frmProgress::ShowProgress() {
-    // A long name must not push the window about.
-    object_->setText(
-        object_->fontMetrics().elidedText(ToQt(model_.Name()), Qt::ElideMiddle, progress_->width()));
-    progress_->setValue(static_cast<int>(model_.Done()));
+    ShowHourglass(model_.IsBusy());
+    if (!isVisible() && model_.Total() <= ProgressModel::kWithoutWindow) return;
+    if (isVisible() && sinceShown_.isValid() && sinceShown_.elapsed() < kMillisecondsBetween) return;
+    if (!isVisible()) show();
+    Fill();
     QApplication::processEvents();
+    sinceShown_.start();
 }
 
-// The window goes when the step that is being done has ended.
+void frmProgress::Fill() {
+    object_->SetFullText(ToQt(model_.Name()));
+    progress_->setRange(0, model_.Total());
+    progress_->setValue(model_.Done());
+}
+
+void frmProgress::showEvent(QShowEvent* event) {
+    Fill();
+    QDialog::showEvent(event);
+}
+
+void frmProgress::ShowHourglass(bool busy) {
+    if (busy == hourglass_) return;
+    hourglass_ = busy;
+    busy ? QApplication::setOverrideCursor(Qt::WaitCursor) : QApplication::restoreOverrideCursor();
+}
+
 void frmProgress::reject() {
     model_.CloseBox();
     if (!model_.IsOpen()) QDialog::reject();

@@ -1,15 +1,17 @@
-// The window that shows how far an operation on many objects has come.
+// The progress of an operation on many objects. A short one shows no window, only the hourglass.
 #pragma once
 
 #include <QDialog>
+#include <QElapsedTimer>
 #include <memory>
 
 #include "tree/ProgressModel.h"
 
-class QLabel;
 class QProgressBar;
 
 namespace tw {
+
+class ElidedLabel;
 
 class frmProgress final : public QDialog {
     Q_OBJECT
@@ -19,17 +21,24 @@ class frmProgress final : public QDialog {
     // The window of a ProgressModel. REQUIRES: model is one.
     static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
+    // Works, and returns when the work is done or called off. An error that rises from the work goes through.
+    int exec() override;
+
   protected:
-    void showEvent(QShowEvent* event) override;
+    // Calls the work off; the window stays until it has ended.
     void reject() override;
+    void showEvent(QShowEvent* event) override;
 
   private:
-    void Run();
+    void Fill();
     void ShowProgress();
+    void ShowHourglass(bool busy);
 
     ProgressModel& model_;
-    QLabel* object_;
+    ElidedLabel* object_;
     QProgressBar* progress_;
+    QElapsedTimer sinceShown_;
+    bool hourglass_ = false;
 };
 
 }  // namespace tw
