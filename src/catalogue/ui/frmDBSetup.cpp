@@ -90,16 +90,24 @@ QBoxLayout* frmDBSetup::MakeButtons() {
 }
 
 bool frmDBSetup::eventFilter(QObject* object, QEvent* event) {
-    if (object != items_ || event->type() != QEvent::KeyPress) return QDialog::eventFilter(object, event);
-    const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (key.modifiers() != Qt::NoModifier && key.modifiers() != Qt::KeypadModifier)
-        return QDialog::eventFilter(object, event);
+    // The list takes them first, for its search.
+    if (object == items_ && event->type() == QEvent::KeyPress && TakeKey(static_cast<QKeyEvent&>(*event)))
+        return true;
+    return QDialog::eventFilter(object, event);
+}
+
+void frmDBSetup::keyPressEvent(QKeyEvent* event) {
+    if (!TakeKey(*event)) QDialog::keyPressEvent(event);
+}
+
+bool frmDBSetup::TakeKey(const QKeyEvent& key) {
+    if (key.modifiers() != Qt::NoModifier && key.modifiers() != Qt::KeypadModifier) return false;
     if (key.key() == Qt::Key_Insert)
         Press("cmdNew");
     else if (key.key() == Qt::Key_Delete)
         Press("cmdDelete");
     else
-        return QDialog::eventFilter(object, event);
+        return false;
     return true;
 }
 
