@@ -243,6 +243,18 @@ TEST_F(CatalogueWindows, SetupDeletesAndAddsByItsKeys) {
     EXPECT_FALSE(model.IsOpen());
 }
 
+TEST_F(CatalogueWindows, SetupIsWalkedThroughInReadingOrder) {
+    DBSetupModel model(*context);
+    model.Choose(Catalogue::Hops);
+    frmDBSetup setup(model, nullptr);
+    Up(setup);
+    In<QComboBox>(setup, "Combo1").setFocus();
+    for (const char* next : {"txtFilter", "lvItems", "cmdNew", "cmdEdit", "cmdDelete", "cmdClose"}) {
+        Key(Qt::Key_Tab);
+        EXPECT_EQ(Focus(), next);
+    }
+}
+
 TEST_F(CatalogueWindows, SetupTakesItsKeysAlsoBesideTheList) {
     DBSetupModel model(*context);
     frmDBSetup setup(model, nullptr);
@@ -253,7 +265,8 @@ TEST_F(CatalogueWindows, SetupTakesItsKeysAlsoBesideTheList) {
     Key(Qt::Key_Insert);
     EXPECT_THAT(outside.dialogs.shown, ElementsAre("frmHop"));
     outside.messages.answers = {Answer::Yes};
-    Key(Qt::Key_Delete);
+    // With the character that a keyboard sends along.
+    QTest::sendKeyEvent(QTest::Click, &catalogues, Qt::Key_Delete, QStringLiteral("\x7f"), Qt::NoModifier);
     EXPECT_EQ(model.Items().SelectedText(), "Fuggle");
     outside.messages.TakeLog();
     // In the filter the key is the text's.

@@ -35,6 +35,7 @@ frmDBSetup::frmDBSetup(DBSetupModel& model, QWidget* parent)
     row->addWidget(items_, 1);
     row->addLayout(MakeButtons());
     column->addLayout(row, 1);
+    setTabOrder(findChild<ListFilterBox*>(), items_);
     connect(items_, &ListPane::ChosenChanged, this, &frmDBSetup::ShowState);
     connect(items_, &ListPane::RowsChanged, this, &frmDBSetup::ShowState);
     connect(items_, &ListPane::RowActivated, this, [this] { Press("lvItems"); });
@@ -55,6 +56,7 @@ void frmDBSetup::AddHead(QBoxLayout& column) {
     catalogues_->setAccessibleName(tr("Catalogue"));
     for (const std::string& entry : DBSetupModel::Entries()) catalogues_->addItem(ToQt(entry));
     catalogues_->setMaxVisibleItems(kCatalogues);
+    catalogues_->installEventFilter(this);
     connect(catalogues_, &QComboBox::currentTextChanged, this,
             [this](const QString& entry) { model_.SetControl("Combo1", FromQt(entry)); });
     auto* label = new QLabel(tr("&Catalogue:"), this);
@@ -90,8 +92,9 @@ QBoxLayout* frmDBSetup::MakeButtons() {
 }
 
 bool frmDBSetup::eventFilter(QObject* object, QEvent* event) {
-    // The list takes them first, for its search.
-    if (object == items_ && event->type() == QEvent::KeyPress && TakeKey(static_cast<QKeyEvent&>(*event)))
+    // The two lists would take them for their search.
+    if ((object == items_ || object == catalogues_) && event->type() == QEvent::KeyPress &&
+        TakeKey(static_cast<QKeyEvent&>(*event)))
         return true;
     return QDialog::eventFilter(object, event);
 }
