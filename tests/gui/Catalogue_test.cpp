@@ -1,4 +1,5 @@
 // Database setup and the editors of the catalogue by the keyboard.
+#include <QHeaderView>
 #include <gmock/gmock.h>
 
 #include "GuiTest.h"
@@ -8,6 +9,7 @@
 #include "catalogue/ui/frmDBSetup.h"
 #include "tree/LvShowModel.h"
 #include "tree/ui/ListFilterBox.h"
+#include "tree/ui/ListPane.h"
 #include "tree/ui/TreePane.h"
 #include "tree/ui/frmLvShow.h"
 
@@ -241,6 +243,44 @@ TEST_F(CatalogueWindows, SetupDeletesAndAddsByItsKeys) {
     EXPECT_FALSE(model.IsOpen());
 }
 
+TEST_F(CatalogueWindows, SetupIsWalkedThroughInReadingOrder) {
+    DBSetupModel model(*context);
+    model.Choose(Catalogue::Hops);
+    frmDBSetup setup(model, nullptr);
+    Up(setup);
+    In<QComboBox>(setup, "Combo1").setFocus();
+    for (const char* next : {"txtFilter", "lvItems", "cmdNew", "cmdEdit", "cmdDelete", "cmdClose"}) {
+        Key(Qt::Key_Tab);
+        EXPECT_EQ(Focus(), next);
+    }
+}
+
+TEST_F(CatalogueWindows, SetupTakesItsKeysAlsoBesideTheList) {
+    DBSetupModel model(*context);
+    frmDBSetup setup(model, nullptr);
+    Up(setup);
+    auto& catalogues = In<QComboBox>(setup, "Combo1");
+    catalogues.setCurrentText(QStringLiteral("Hop Varieties"));
+    catalogues.setFocus();
+    Key(Qt::Key_Insert);
+    EXPECT_THAT(outside.dialogs.shown, ElementsAre("frmHop"));
+    outside.messages.answers = {Answer::Yes};
+    // With the character that a keyboard sends along.
+    QTest::sendKeyEvent(QTest::Click, &catalogues, Qt::Key_Delete, QStringLiteral("\x7f"), Qt::NoModifier);
+    EXPECT_EQ(model.Items().SelectedText(), "Fuggle");
+    outside.messages.TakeLog();
+    // In the filter the key is the text's.
+    auto& filter = In<QLineEdit>(setup, "txtFilter");
+    filter.setFocus();
+    Type("s");
+    Key(Qt::Key_Home);
+    Key(Qt::Key_Delete);
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(FromQt(filter.text()), "");
+    EXPECT_EQ(model.Items().Count(), 2);
+    EXPECT_THAT(outside.messages.log, IsEmpty());
+}
+
 TEST_F(CatalogueWindows, SetupIsOffOnAFolderAndEntersIt) {
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0");
     shell.Objects().CreateStyleFolder(0, "Dark", true);
@@ -255,6 +295,40 @@ TEST_F(CatalogueWindows, SetupIsOffOnAFolderAndEntersIt) {
     EXPECT_EQ(model.Items().SelectedText(), "Dark");
     Key(Qt::Key_Down);
     EXPECT_TRUE(In<QPushButton>(setup, "cmdEdit").isEnabled());
+}
+
+TEST_F(CatalogueWindows, AFolderOfStylesShowsItsColumnsInFull) {
+    shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0, TYPE = 0");
+    // So many that a scroll bar stands beside them, and goes within the folder.
+    for (int i = 0; i < 60; ++i) shell.Objects().CreateStyleFolder(0, "Folder " + std::to_string(i), true);
+    shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1");
+    DBSetupModel model(*context);
+    frmDBSetup setup(model, nullptr);
+    Up(setup);
+    auto& list = In<ListPane>(setup, "lvItems");
+    EXPECT_EQ(list.header()->length(), list.viewport()->width());
+    Key(Qt::Key_Return);
+    QApplication::processEvents();
+    ASSERT_EQ(model.Items().SelectedText(), "..");
+    EXPECT_GE(list.columnWidth(1), list.fontMetrics().horizontalAdvance(QStringLiteral("Style Folder")));
+    EXPECT_EQ(list.header()->length(), list.viewport()->width());
+}
+
+TEST_F(CatalogueWindows, AStepLeavesTheFocusWhereItIs) {
+    shell.DB()->Execute("INSERT INTO GRAINS (NAME, GRAIN) VALUES ('Wheat', TRUE)");
+    DBSetupModel setup(*context);
+    setup.Choose(Catalogue::Grains);
+    ObjectNavigator navigator(setup.Items());
+    const auto model = MakeEditor(Catalogue::Grains, *context);
+    model->SetNavigator(navigator);
+    model->SetName("Pale Malt");
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    In<QLineEdit>(editor, "gridInfo(1,0)").setFocus();
+    QTest::mouseClick(&In<QToolButton>(editor, "cmdNext"), Qt::LeftButton);
+    QApplication::processEvents();
+    EXPECT_EQ(FromQt(In<QLineEdit>(editor, "Text1").text()), "Wheat");
+    EXPECT_EQ(Focus(), "gridInfo(1,0)");
 }
 
 TEST_F(CatalogueWindows, TheFilterLeavesWhatHoldsItsWords) {

@@ -27,7 +27,7 @@ constexpr int kNameDigits = 34;
 constexpr int kListDigits = 20;
 constexpr int kCellDigits = 9;
 constexpr int kDescriptionLines = 6;
-constexpr int kFolderUnits = 30;
+constexpr int kFolderUnits = 40;
 
 // What a cell takes, for its tool tip.
 const char* HintOf(CellCheck check) {
@@ -373,6 +373,8 @@ void EditorDialog::Press(const char* button) {
         return;
     }
     ShowModel();
+    // The box within an editable list has no name either.
+    if (model_.RefusedControl().empty()) return;
     if (auto* box = findChild<QLineEdit*>(ToQt(model_.RefusedControl()))) GoBackTo(*box);
 }
 

@@ -35,6 +35,7 @@ frmDBSetup::frmDBSetup(DBSetupModel& model, QWidget* parent)
     row->addWidget(items_, 1);
     row->addLayout(MakeButtons());
     column->addLayout(row, 1);
+    setTabOrder(findChild<ListFilterBox*>(), items_);
     connect(items_, &ListPane::ChosenChanged, this, &frmDBSetup::ShowState);
     connect(items_, &ListPane::RowsChanged, this, &frmDBSetup::ShowState);
     connect(items_, &ListPane::RowActivated, this, [this] { Press("lvItems"); });
@@ -55,6 +56,7 @@ void frmDBSetup::AddHead(QBoxLayout& column) {
     catalogues_->setAccessibleName(tr("Catalogue"));
     for (const std::string& entry : DBSetupModel::Entries()) catalogues_->addItem(ToQt(entry));
     catalogues_->setMaxVisibleItems(kCatalogues);
+    catalogues_->installEventFilter(this);
     connect(catalogues_, &QComboBox::currentTextChanged, this,
             [this](const QString& entry) { model_.SetControl("Combo1", FromQt(entry)); });
     auto* label = new QLabel(tr("&Catalogue:"), this);
@@ -90,16 +92,25 @@ QBoxLayout* frmDBSetup::MakeButtons() {
 }
 
 bool frmDBSetup::eventFilter(QObject* object, QEvent* event) {
-    if (object != items_ || event->type() != QEvent::KeyPress) return QDialog::eventFilter(object, event);
-    const auto& key = static_cast<const QKeyEvent&>(*event);
-    if (key.modifiers() != Qt::NoModifier && key.modifiers() != Qt::KeypadModifier)
-        return QDialog::eventFilter(object, event);
+    // The two lists would take them for their search.
+    if ((object == items_ || object == catalogues_) && event->type() == QEvent::KeyPress &&
+        TakeKey(static_cast<QKeyEvent&>(*event)))
+        return true;
+    return QDialog::eventFilter(object, event);
+}
+
+void frmDBSetup::keyPressEvent(QKeyEvent* event) {
+    if (!TakeKey(*event)) QDialog::keyPressEvent(event);
+}
+
+bool frmDBSetup::TakeKey(const QKeyEvent& key) {
+    if (key.modifiers() != Qt::NoModifier && key.modifiers() != Qt::KeypadModifier) return false;
     if (key.key() == Qt::Key_Insert)
         Press("cmdNew");
     else if (key.key() == Qt::Key_Delete)
         Press("cmdDelete");
     else
-        return QDialog::eventFilter(object, event);
+        return false;
     return true;
 }
 

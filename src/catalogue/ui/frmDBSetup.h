@@ -22,13 +22,16 @@ class frmDBSetup final : public QDialog {
     static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
-    // Insert and Delete in the list.
+    // Insert and Delete, wherever the focus is; a box of text keeps its Delete.
     bool eventFilter(QObject* object, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void reject() override;
 
   private:
     void AddHead(QBoxLayout& column);
     QBoxLayout* MakeButtons();
+    // False for a key of no meaning here.
+    bool TakeKey(const QKeyEvent& key);
     void Press(const char* button);
     void ShowState();
 

@@ -16,7 +16,7 @@ constexpr double kLinesPerRow = 1.5;
 // What a column asks for at most: a description must not push the figures out of sight.
 constexpr int kWidestInDigits = 40;
 
-// Rows with some air, as those of the grids.
+// Rows with some air, as those of the grids, and their texts in line with the header's.
 class RowDelegate final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -24,7 +24,25 @@ class RowDelegate final : public QStyledItemDelegate {
         QSize size = QStyledItemDelegate::sizeHint(option, index);
         size.setHeight(std::max(
             size.height(), static_cast<int>(std::lround(kLinesPerRow * option.fontMetrics.lineSpacing()))));
+        size.rwidth() += 2 * Inset(option);
         return size;
+    }
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem cell = option;
+        initStyleOption(&cell, index);
+        option.widget->style()->drawPrimitive(QStyle::PE_PanelItemViewItem, &cell, painter, option.widget);
+        cell = option;
+        cell.rect.adjust(Inset(option), 0, -Inset(option), 0);
+        QStyledItemDelegate::paint(painter, cell, index);
+    }
+
+  private:
+    // What the style leaves beside a text short of the padding of the header, so that both are in line.
+    static int Inset(const QStyleOptionViewItem& option) {
+        const QWidget& view = *option.widget;
+        const int left = view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, &view) + 1;
+        return std::max(0, CellPadding(view) - left);
     }
 };
 
@@ -80,10 +98,18 @@ void ListPane::SortBy(int column) {
 }
 
 void ListPane::FitColumns() {
-    if (!isVisible() || model_->columnCount() == 0) return;
+    // Within it a scroll bar comes or goes, and the resized view asks again.
+    if (fitting_ || !isVisible() || model_->columnCount() == 0) return;
     fitting_ = true;
+    for (int tries = 0, width = -1; tries < 2 && width != viewport()->width(); ++tries) {
+        width = viewport()->width();
+        FitColumnsInto(width);
+    }
+    fitting_ = false;
+}
+
+void ListPane::FitColumnsInto(int rest) {
     const int widest = DigitsWidth(*this, kWidestInDigits);
-    int rest = viewport()->width();
     for (int col = model_->columnCount() - 1; col > 0; --col) {
         const int width = std::max(sizeHintForColumn(col) + Unit(*this), header()->sectionSizeHint(col));
         setColumnWidth(col, std::min(width, std::max(widest, header()->sectionSizeHint(col))));
@@ -91,7 +117,6 @@ void ListPane::FitColumns() {
     }
     const int name = std::max(sizeHintForColumn(0) + Unit(*this), header()->sectionSizeHint(0));
     setColumnWidth(0, std::max(std::min(name, widest), rest));
-    fitting_ = false;
 }
 
 void ListPane::keyPressEvent(QKeyEvent* event) {

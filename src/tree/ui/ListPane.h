@@ -38,6 +38,8 @@ class ListPane final : public RowView<QTreeView> {
     void changeEvent(QEvent* event) override;
 
   private:
+    // One pass, for a viewport that is rest wide.
+    void FitColumnsInto(int rest);
     void TellActivated() override { emit RowActivated(); }
     void TellChosen() override { emit ChosenChanged(); }
     void ShowRows() override;

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
 
@@ -14,14 +15,17 @@
 namespace tw {
 namespace {
 
-constexpr int kWidthUnits = 96;
+constexpr int kWidthUnits = 128;
 constexpr int kHeightUnits = 60;
 constexpr int kFolderUnits = 32;
 
-// How wide the list of each type is, in units: the number of its columns tells.
+// How wide the list of each type is, in units: its columns tell.
 int ListUnits(const ListTable& list) {
-    constexpr int kNameUnits = 36, kColumnUnits = 9;
-    return std::min(kNameUnits + kColumnUnits * static_cast<int>(list.Columns().size()), kWidthUnits);
+    constexpr int kNameUnits = 34, kTextUnits = 16, kNumberUnits = 10;
+    int units = kNameUnits;
+    for (const ListColumn& column : list.Columns())
+        units += column.kind == ListColumnKind::Text ? kTextUnits : kNumberUnits;
+    return std::min(units, kWidthUnits);
 }
 
 }  // namespace
@@ -51,7 +55,8 @@ frmLvShow::frmLvShow(LvShowModel& model, QWidget* parent) : QDialog(parent), mod
     connect(items_, &ListPane::RowsChanged, this, &frmLvShow::ShowButtons);
     connect(items_, &ListPane::RowActivated, this, [this] { Press("cmdOK"); });
     const int folders = model.HasFolders() ? kFolderUnits : 0;
-    resize(Unit(*this) * (ListUnits(model.Items()) + folders), Unit(*this) * kHeightUnits);
+    const QSize size(Unit(*this) * (ListUnits(model.Items()) + folders), Unit(*this) * kHeightUnits);
+    resize(size.boundedTo(screen()->availableSize()));
     items_->setFocus();
     ShowButtons();
 }
