@@ -171,10 +171,10 @@ void PrintLayout::PrintWrappedLine(std::string_view line) {
     while (!IsBlank(line)) {
         const std::size_t fitting = FittingPiece(line, limit);
         if (fitting == line.size()) return PrintLine(line);
-        // The last blank before which the text fits; the blank itself is dropped. Blanks at the front are the
-        // paragraph's indent, not a place to break.
+        // The last blank before which the text fits; the blank itself is dropped. Every blank counts, on
+        // purpose, also one of an indent before a word that is too long for the line.
         const std::size_t blank = line.rfind(' ', fitting);
-        const bool atBlank = blank != std::string_view::npos && !IsBlank(line.substr(0, blank));
+        const bool atBlank = blank != std::string_view::npos;
         PrintLine(line.substr(0, atBlank ? blank : fitting));
         line.remove_prefix(atBlank ? blank + 1 : fitting);
     }

@@ -212,8 +212,15 @@ TEST_F(PrintLayoutTest, OneBlankGoesAtTheBreakAndAnIndentStays) {
     layout.PrintWrapped("  " + std::string(80, 'a') + "  " + std::string(80, 'b'));
     // The second blank of the two is the break; the first one stays where it is.
     EXPECT_EQ(Texts(), (Strings{"  " + std::string(80, 'a') + " ", std::string(80, 'b')}));
+}
+
+TEST_F(PrintLayoutTest, AnIndentBeforeAWordThatIsTooLongIsAPlaceToBreak) {
     layout.PrintWrapped("  " + std::string(100, 'c'));
-    EXPECT_EQ(Texts().at(2), "  " + std::string(88, 'c'));
+    EXPECT_EQ(Texts(), (Strings{" ", std::string(90, 'c'), std::string(10, 'c')}));
+    layout.PrintWrapped(" " + std::string(100, 'd'));
+    // The empty text before the blank is a line of its own.
+    EXPECT_EQ(Texts().at(3), std::string(90, 'd'));
+    EXPECT_NEAR(Last().y1, 0.5 + 5 * 0.175, 1e-9);
 }
 
 TEST_F(PrintLayoutTest, EmptyLinesStay) {
