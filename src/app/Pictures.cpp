@@ -29,6 +29,7 @@
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
 #include "shell/OptionsModel.h"
+#include "shell/RecoveryModel.h"
 #include "shell/Shell.h"
 #include "shell/StylesNotImportedModel.h"
 #include "shell/ui/MainGeometry.h"
@@ -245,6 +246,17 @@ bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     return SaveDialog(dialogs, save, parent, prefix + QStringLiteral("save-as.png")) && ok;
 }
 
+// Two recipes of a run that ended too soon.
+bool SaveRecovery(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
+    std::vector<LostRecipe> lost(2);
+    lost[0].keptWhen = {2026, 5, 2, 19, 40, 0};
+    lost[0].snapshot.fields = {{"txtName", "First Pale Ale", "First Pale Ale"}};
+    lost[1].keptWhen = {2026, 5, 2, 19, 55, 0};
+    PrintedMessages messages;
+    RecoveryModel recovery(shell, messages, std::move(lost));
+    return SaveDialog(dialogs, recovery, parent, prefix + QStringLiteral("recovery.png"));
+}
+
 bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
     AboutModel about;
     bool ok = SaveDialog(dialogs, about, window, prefix + QStringLiteral("about.png"));
@@ -258,6 +270,7 @@ bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QStrin
     ok &= SaveCatalogue(dialogs, shell, window, prefix);
     ok &= SaveReports(dialogs, shell, window, prefix);
     ok &= SaveBrowsing(dialogs, shell, window, prefix);
+    ok &= SaveRecovery(dialogs, shell, window, prefix);
     if (RecipeDocument* document = shell.ActiveDocument()) {
         DetailsModel strength = StrengthDetailsOf(*document), volume = FinalVolDetailsOf(*document),
                      hops = HopDetailsOf(*document);

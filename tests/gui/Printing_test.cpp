@@ -139,6 +139,14 @@ TEST_F(PreviewTest, PrintsAndSavesByButtonAndKey) {
     EXPECT_EQ(pdfs, (std::vector<Paper>{Paper::Letter, Paper::Letter}));
 }
 
+TEST_F(PreviewTest, IsTitledByTheRecipeAsFarAsThatHasAName) {
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Print Preview - Sixty Hops"));
+    recipe.record.txtName.SetText(" ");
+    PrintPreviewModel unnamed{
+        {[this](PrintSize area) { return LayOutRecipe(recipe.record, area, measure); }, {}, {}}, Paper::A4};
+    EXPECT_EQ(frmPrintPreview(unnamed, nullptr).windowTitle(), QStringLiteral("Print Preview"));
+}
+
 TEST_F(PreviewTest, EscapeCloses) {
     Key(Qt::Key_Escape);
     EXPECT_FALSE(model.IsOpen());

@@ -23,7 +23,8 @@ constexpr int kPageDigits = 4;
 
 frmPrintPreview::frmPrintPreview(PrintPreviewModel& model, QWidget* parent) : QDialog(parent), model_(model) {
     setObjectName(ToQt(model.FormName()));
-    setWindowTitle(tr("Print Preview - %1").arg(ToQt(model.Steps().title)));
+    const QString recipe = ToQt(model.Steps().title);
+    setWindowTitle(recipe.trimmed().isEmpty() ? tr("Print Preview") : tr("Print Preview - %1").arg(recipe));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     auto* column = new QVBoxLayout(this);
     SetSpacing(*column, *this, true);
