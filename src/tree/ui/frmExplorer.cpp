@@ -22,8 +22,8 @@
 namespace tw {
 namespace {
 
-constexpr int kWidthUnits = 110;
-constexpr int kHeightUnits = 70;
+constexpr int kWidthUnits = 140;
+constexpr int kHeightUnits = 80;
 constexpr int kTreeUnits = 34;
 constexpr int kFindUnits = 34;
 
