@@ -32,6 +32,26 @@ TEST_F(DocumentWindow, ShowsTheGravityOfATypedMash) {
     EXPECT_EQ(Text("txtOG"), "1.023");
 }
 
+// 8 lb of 125 degrees Lovibond in 5 gallons: 200 HCU, beyond what has a number in SRM.
+TEST_F(DocumentWindow, ShowsTheWholeColorOfADarkBeer) {
+    NewRecipe();
+    Find<QLineEdit>("txtTotalVol").setFocus();
+    Type("5 gal");
+    GridAt(Tab::Grains, "gridGrain", 1, 0);
+    Type("Home-roasted");
+    Key(Qt::Key_Tab);
+    Type("8 lb");
+    GridAt(Tab::Grains, "gridGrain", 1, 4);
+    Type("125");
+    Key(Qt::Key_Return);
+    window.ActiveWindow()->ShowTab(Tab::General);
+    QApplication::processEvents();
+    const auto& color = Find<QLineEdit>("txtColor");
+    ASSERT_EQ(FromQt(color.text()), ">50 SRM (200 HCU)");
+    constexpr int kEdges = 4;  // two pixels of air on either side of a line's text
+    EXPECT_LE(color.fontMetrics().horizontalAdvance(color.text()) + kEdges, color.contentsRect().width());
+}
+
 TEST_F(DocumentWindow, KeepsARecipeThroughSavingClosingAndOpening) {
     NewRecipe();
     Type("Night Shift");

@@ -20,6 +20,8 @@ namespace {
 
 constexpr int kVolumeDigits = 10;
 constexpr int kFigureDigits = 13;
+// ">50 SRM (200 HCU)", of a dark beer.
+constexpr int kColorDigits = 15;
 constexpr int kGravityDigits = 7;
 
 // Columns of the figures.
@@ -121,7 +123,7 @@ QGridLayout* MakeFigures(PageBuilder& b) {
     auto* swatch = new ColorSwatch(&b.Page());
     swatch->SetColor(r.Swatch());
     b.Binding().WatchSwatch([swatch](Rgb color) { swatch->SetColor(color); });
-    AddFigure(b, *grid, {r.txtColor, r.lblColorStyle, Tr("Color:"), kFigureDigits}, swatch);
+    AddFigure(b, *grid, {r.txtColor, r.lblColorStyle, Tr("Color:"), kColorDigits}, swatch);
     AddRule(b, *grid, FigureColumns, 5, Tr("Bitterness"));
     AddFigure(b, *grid, {r.txtIBU, r.lblIBUStyle, Tr("IBUs:"), kGravityDigits},
               MoreInfo(b, r.cmdIBUDetails, Tr("More &Info"), Tr("More about the bitterness"), HopDetailsOf));
