@@ -39,7 +39,10 @@ Answer QtMessages::Ask(std::string_view title, std::string_view text, Question k
     box.setStandardButtons(isYesNo ? QMessageBox::Yes | QMessageBox::No
                                    : QMessageBox::Ok | QMessageBox::Cancel);
     if (kind == Question::YesNoCancel) box.addButton(QMessageBox::Cancel);
-    box.setDefaultButton(isYesNo ? QMessageBox::Yes : QMessageBox::Ok);
+    // What only asks for leave deletes, overwrites or discards: Enter alone does none of it.
+    box.setDefaultButton(kind == Question::YesNo         ? QMessageBox::No
+                         : kind == Question::YesNoCancel ? QMessageBox::Yes
+                                                         : QMessageBox::Ok);
     // Without this a question of two buttons could not be left by Escape.
     box.setEscapeButton(kind == Question::YesNo ? QMessageBox::No : QMessageBox::Cancel);
     switch (box.exec()) {
