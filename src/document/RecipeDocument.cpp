@@ -149,16 +149,21 @@ void RecipeDocument::ActiveCommands::EnableChangeCarbonation(bool enabled) {
 
 // Notices from the database.
 
+// A document that was never saved is none of the recipes, not the one without a name either.
+bool RecipeDocument::IsStoredAs(std::string_view name) const {
+    return !origName_.empty() && SameName(name, origName_);
+}
+
 void RecipeDocument::NotifyRecipeMoved(std::string_view name, std::int64_t folderId) {
-    if (SameName(name, origName_)) folderId_ = folderId;
+    if (IsStoredAs(name)) folderId_ = folderId;
 }
 
 void RecipeDocument::NotifyRecipeNewStyle(std::string_view name, std::int64_t styleId) {
-    if (SameName(name, origName_)) SetStyleID(styleId);
+    if (IsStoredAs(name)) SetStyleID(styleId);
 }
 
 void RecipeDocument::NotifyRecipeRenamed(std::string_view oldName, std::string_view newName) {
-    if (!SameName(oldName, origName_)) return;
+    if (!IsStoredAs(oldName)) return;
     origName_ = Trim(newName);
     // A name that the brewer has edited meanwhile stays.
     if (!SameName(BeerName(), oldName)) return;
@@ -172,7 +177,7 @@ void RecipeDocument::NotifyStyleRenamed(std::int64_t styleId, std::string_view) 
 }
 
 void RecipeDocument::NotifyRecipeDeleted(std::string_view name) {
-    if (SameName(name, origName_)) SetDetached();
+    if (IsStoredAs(name)) SetDetached();
 }
 
 void RecipeDocument::NotifyRecipeFolderDeleted(std::int64_t folderId) {

@@ -282,6 +282,7 @@ class RecipeDocument {
     void CommitDefault(TextBox& box, const std::string& text);
     void MarkChanged();
     void ClearChanged();
+    bool IsStoredAs(std::string_view name) const;
     void SetDetached();
 
     // Fields (RecipeDocumentFields.cpp).

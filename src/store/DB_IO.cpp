@@ -29,9 +29,9 @@ std::string ByName(std::string_view columns, std::string_view table, std::string
            " WHERE NAME = " + SqlText(Trim(name));
 }
 
-// The id that a row refers to; -1, which is nobody's, for NULL.
+// The id that a row refers to; nobody's for NULL.
 std::int64_t LinkOf(const Field& field) {
-    return field.IsNull() ? -1 : field.Integer();
+    return field.IsNull() ? kNoId : field.Integer();
 }
 
 std::string NameQuery(std::int64_t id, std::string_view table) {
@@ -43,9 +43,9 @@ std::string NameQuery(std::int64_t id, std::string_view table) {
 std::int64_t IdOfKey(std::string_view key) {
     const std::size_t start = std::min(key.find(':'), key.size() - 1) + 1;
     const std::string_view field = key.substr(start, key.find(':', start) - start);
-    std::int64_t id = -1;
+    std::int64_t id = kNoId;
     const auto [end, failure] = std::from_chars(field.data(), field.data() + field.size(), id);
-    return failure == std::errc() && end == field.data() + field.size() ? id : -1;
+    return failure == std::errc() && end == field.data() + field.size() ? id : kNoId;
 }
 
 bool CanDeleteNode(std::string_view key) {
@@ -193,7 +193,6 @@ std::string DB_IO::FolderKey(FolderKind kind, std::int64_t id) {
 
 std::optional<std::string> DB_IO::ObjectName(const std::string& key, std::string_view table,
                                              std::int64_t id) {
-    if (id <= 0) return std::nullopt;
     if (auto name = tree_.NameOf(key)) return name;
     const Recordset rows = database_.OpenRecordset(NameQuery(id, table));
     if (rows.AtEnd()) return std::nullopt;
@@ -205,11 +204,12 @@ std::optional<std::string> DB_IO::RecipeName(std::int64_t id) {
 }
 
 std::optional<std::string> DB_IO::StyleName(std::int64_t id) {
-    return ObjectName(StyleKey(id, 0), "STYLES", id);
+    // 0 is "(None)".
+    return id == 0 ? std::nullopt : ObjectName(StyleKey(id, 0), "STYLES", id);
 }
 
 bool DB_IO::IsFolder(FolderKind kind, std::int64_t id) const {
-    return id >= 0 && tree_.NameOf(FolderKey(kind, id)).has_value();
+    return id != kAllObjects && tree_.NameOf(FolderKey(kind, id)).has_value();
 }
 
 void DB_IO::AddRecipeNodes(std::int64_t id, std::string_view name, std::int64_t folderId,
@@ -257,7 +257,7 @@ void DB_IO::AddStyleNodesByName(std::string_view name) {
 
 void DB_IO::RenameStyleNodes(std::int64_t id, std::string_view newName) {
     // 0 is "(None)".
-    if (id <= 0) return;
+    if (id == 0) return;
     const std::string text(newName);
     for (int copy = 0; copy < kStyleCopies; ++copy) tree_.Rename(StyleKey(id, copy), text);
     listener_.NotifyStyleRenamed(id, text);

@@ -21,12 +21,12 @@ void DB_IO::RunDeletion(const std::function<void()>& deletion) {
 }
 
 void DB_IO::DeleteRecipeFolder(std::int64_t id) {
-    if (id > 0 && IsFolder(FolderKind::Recipes, id))
+    if (id != 0 && IsFolder(FolderKind::Recipes, id))
         RunDeletion([&] { DeleteFolder(FolderKind::Recipes, id); });
 }
 
 void DB_IO::DeleteStyleFolder(std::int64_t id) {
-    if (id > 0 && IsFolder(FolderKind::Styles, id))
+    if (id != 0 && IsFolder(FolderKind::Styles, id))
         RunDeletion([&] { DeleteFolder(FolderKind::Styles, id); });
 }
 
@@ -37,8 +37,9 @@ void DB_IO::DeleteFolder(FolderKind kind, std::int64_t id) {
         std::vector<std::int64_t> folders;
         std::size_t next;
     };
-    // Of folders that have come to lie in a ring, each goes once.
-    std::unordered_set<std::int64_t> seen = {id};
+    // Of folders that have come to lie in a ring, each goes once. A row with the id of a system folder would
+    // take all that lies in that one along.
+    std::unordered_set<std::int64_t> seen = {id, 0, kAllObjects};
     const auto open = [&](std::int64_t folder) -> Level {
         return {folder,
                 Ids("SELECT ID FROM FOLDERS WHERE " + Condition(kind) +
@@ -78,7 +79,7 @@ void DB_IO::DeleteRecipeById(std::int64_t id) {
 }
 
 void DB_IO::DeleteRecipeByName(std::string_view name) {
-    DeleteRecipeById(IdByName(Trim(name), "RECIPES"));
+    if (RecipeNameExists(name)) DeleteRecipeById(IdByName(name, "RECIPES"));
 }
 
 void DB_IO::DeleteRecipe(std::int64_t id, const std::string& name) {

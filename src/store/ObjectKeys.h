@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -30,7 +31,13 @@ inline std::string StyleKey(std::int64_t id, int copy) {
 // The number of the errors that tell of a missing object.
 inline constexpr int kMissingNumber = 5;
 
-// The second field of a key; -1 when it is no whole number.
+// The id in the keys of "All Recipes" and "All Styles", which hold no row of their own.
+inline constexpr std::int64_t kAllObjects = -1;
+
+// Nobody's id: a row may have any other, also a negative one.
+inline constexpr std::int64_t kNoId = std::numeric_limits<std::int64_t>::min();
+
+// The second field of a key; kNoId when it is no whole number.
 std::int64_t IdOfKey(std::string_view key);
 
 }  // namespace tw

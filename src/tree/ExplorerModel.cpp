@@ -203,9 +203,10 @@ void ExplorerModel::Delete() {
             : "Are you sure you want to delete the selected " + std::to_string(keys.size()) + " items?";
     if (!Confirm(text)) return;
     std::erase_if(keys, [](const std::string& key) { return !CanDeleteNode(key); });
+    const std::vector<std::string> names = NamesOf(keys);
     Change([&] {
-        RunSteps(access_.platform.dialogs, "Deleting", NamesOf(keys), [&](std::size_t i) {
-            access_.objects.DeleteObject(keys[i]);
+        RunSteps(access_.platform.dialogs, "Deleting", names, [&](std::size_t i) {
+            access_.objects.DeleteObject(KeyNow(access_, keys[i], names[i]));
             return true;
         });
     });
@@ -230,9 +231,11 @@ bool ExplorerModel::CanDrop(const std::vector<std::string>& keys, std::string_vi
 void ExplorerModel::Drop(const std::vector<std::string>& keys, std::string_view targetKey) {
     if (!CanDrop(keys, targetKey)) return;
     const std::string target(targetKey);
+    const std::vector<std::string> names = NamesOf(keys);
     Change([&] {
-        RunSteps(access_.platform.dialogs, "Moving", NamesOf(keys),
-                 [&](std::size_t i) { return access_.objects.MoveObject(keys[i], target, false); });
+        RunSteps(access_.platform.dialogs, "Moving", names, [&](std::size_t i) {
+            return access_.objects.MoveObject(KeyNow(access_, keys[i], names[i]), target, false);
+        });
     });
     TreeItems& tree = At(shown_).tree;
     const int item = tree.Find(target);

@@ -31,6 +31,12 @@ std::vector<std::string_view> LinesOf(std::string_view text) {
 
 }  // namespace
 
+std::string KeyNow(const ObjectAccess& access, const std::string& key, std::string_view name) {
+    if (!key.starts_with("R:") || access.tree.NodeExists(key)) return key;
+    const std::int64_t id = access.objects.IdByName(name, "RECIPES");
+    return id == 0 ? key : RecipeKey(id, key.back() - '0');
+}
+
 NodeList::NodeList(const ObjectAccess& access, const ListLook& look, bool showStyles)
     : access_(access),
       look_(look),
@@ -111,10 +117,8 @@ void NodeList::Sort() {
 void NodeList::FollowSaves() {
     for (int row = 0; row < rows_.Count(); ++row) {
         const std::string key = rows_.Row(row).key;
-        if (!key.starts_with("R:") || access_.tree.NodeExists(key)) continue;
-        const std::int64_t id = access_.objects.IdByName(rows_.Row(row).cells.front(), "RECIPES");
-        if (id == 0) continue;
-        std::string now = RecipeKey(id, key.back() - '0');
+        std::string now = KeyNow(access_, key, rows_.Row(row).cells.front());
+        if (now == key) continue;
         if (editedKey_ == key) editedKey_ = now;
         rows_.SetKey(row, std::move(now));
     }

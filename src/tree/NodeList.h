@@ -37,6 +37,10 @@ struct ListLook {
     bool operator==(const ListLook&) const = default;
 };
 
+// The key that a recipe has now. A save gives it a new one, also an autosave in the middle of an operation;
+// the key itself when the tree has it still, or has no recipe of that name.
+std::string KeyNow(const ObjectAccess& access, const std::string& key, std::string_view name);
+
 // The column that shows where a found recipe lies, behind those of the explorer.
 inline constexpr std::string_view kFolderColumn = "Folder";
 

@@ -29,17 +29,24 @@ struct ObjectRow {
     SharedText name;
     std::int64_t id = 0;
 
+    bool goesByName = false;  // in its key
+
     ObjectRow() = default;
     explicit ObjectRow(const Recordset& rows)
         : name(rows.Fields(kNameField).Text()), id(rows.Fields(kIdField).Integer()) {}
+    // What has no id, but a negative number in its place, goes by its name.
+    static ObjectRow OfFile(const Recordset& rows) {
+        ObjectRow row(rows);
+        row.goesByName = row.id < 0;
+        return row;
+    }
 
-    // The name stands in the key of what has no id.
     NodeKey Key(char kind) const {
-        if (id >= 0) return {kind, id};
+        if (!goesByName) return {kind, id};
         return NodeKey(std::string(1, kind).append(":").append(name.View()));
     }
     NodeKey Key(char kind, int copy) const {
-        if (id >= 0) return {kind, id, copy};
+        if (!goesByName) return {kind, id, copy};
         return NodeKey(Key(kind).Text() + ":" + std::to_string(copy));
     }
     NodeContent Recipe(int copy) const {
@@ -159,7 +166,7 @@ void TreeLoader::LoadExchangeFile() {
              database_.OpenRecordset("SELECT DISTINCT STYLE_NAME AS NAME, -1 AS ID FROM RECIPES "
                                      "WHERE STYLE_NAME <> '' AND NOT STYLE_NAME IS NULL ORDER BY STYLE_NAME");
          !rows.AtEnd(); rows.MoveNext()) {
-        const ObjectRow row(rows);
+        const ObjectRow row = ObjectRow::OfFile(rows);
         FillRecipes(
             Add(byStyle_, row.Style(1)),
             "SELECT NAME, ID FROM RECIPES WHERE STYLE_NAME = " + SqlText(row.name.View()) + " ORDER BY NAME",
@@ -169,7 +176,7 @@ void TreeLoader::LoadExchangeFile() {
 
 void TreeLoader::FillRecipes(TWNode* parent, const std::string& sql, int copy) {
     for (Recordset rows = database_.OpenRecordset(sql); !rows.AtEnd(); rows.MoveNext())
-        Add(parent, ObjectRow(rows).Recipe(copy));
+        Add(parent, ObjectRow::OfFile(rows).Recipe(copy));
 }
 
 }  // namespace tw

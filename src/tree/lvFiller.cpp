@@ -243,6 +243,12 @@ class Batch {
     std::map<std::int64_t, std::size_t> rows_;
 };
 
+// Whether there is an object of that id behind the node: not for system folders and "(None)".
+bool HasRow(const TWNode& node, std::int64_t id) {
+    if (node.IsDocument()) return id != kNoId;
+    return node.IsStyle() ? id != 0 && id != kNoId : id > 0;
+}
+
 bool IsBefore(const TWNode* a, const TWNode* b) {
     return a->Compare(*b) < 0;
 }
@@ -295,7 +301,7 @@ void lvFiller::FillNodes(ListTable& list, const std::vector<TWNode*>& nodes) con
                                           : FolderRow(*node));
         const std::string& rowKey = rows.back().key;
         const std::int64_t id = IdOfKey(rowKey);
-        if (id <= 0) continue;
+        if (!HasRow(*node, id)) continue;
         const std::size_t place = rows.size() - 1;
         if (node->IsDocument())
             recipes.Add(id, place);
@@ -314,7 +320,7 @@ void lvFiller::FillNodes(ListTable& list, const std::vector<TWNode*>& nodes) con
 void lvFiller::AddFolderRow(ListTable& list, TWNode& folder) const {
     ListRow row = FolderRow(folder);
     const std::int64_t id = IdOfKey(row.key);
-    if (id > 0)
+    if (HasRow(folder, id))
         ShowOne(
             database_,
             "SELECT CREATED_WHEN, MODIFIED_WHEN, NULL AS CHILDREN_MODIFIED_WHEN FROM FOLDERS WHERE ID = " +
@@ -326,7 +332,7 @@ void lvFiller::AddFolderRow(ListTable& list, TWNode& folder) const {
 void lvFiller::AddStyleRow(ListTable& list, TWNode& style) const {
     ListRow row = StyleRow(style);
     const std::int64_t id = IdOfKey(row.key);
-    if (id > 0)
+    if (HasRow(style, id))
         ShowOne(database_, "SELECT * FROM STYLES WHERE ID = " + std::to_string(id), kStyleNames, row,
                 ShowStyle);
     list.Add(std::move(row));
@@ -335,7 +341,7 @@ void lvFiller::AddStyleRow(ListTable& list, TWNode& style) const {
 void lvFiller::AddRecipeRow(ListTable& list, TWNode& recipe) const {
     ListRow row = RecipeRow(recipe);
     const std::int64_t id = IdOfKey(row.key);
-    if (id > 0)
+    if (HasRow(recipe, id))
         ShowOne(database_, "SELECT * FROM RECIPES WHERE ID = " + std::to_string(id), kRecipeNames, row,
                 ShowRecipe);
     list.Add(std::move(row));

@@ -177,6 +177,16 @@ TEST_F(NoticesTest, ADeletedRecipeIsDetached) {
     EXPECT_TRUE(host.IsOn("EnableSave"));
 }
 
+// A recipe can come without a name from another program; a document that is none is not that one.
+TEST_F(NoticesTest, ARecipeWithoutANameIsNoUnsavedDocument) {
+    document->NotifyRecipeDeleted("Old Ale");
+    ASSERT_EQ(document->OrigName(), "");
+    document->NotifyRecipeMoved("", 12);
+    EXPECT_EQ(document->FolderID(), -1);
+    document->NotifyRecipeRenamed("", "Stray");
+    EXPECT_EQ(document->OrigName(), "");
+}
+
 TEST_F(NoticesTest, ADeletedFolderDetachesItsRecipes) {
     document->NotifyRecipeFolderDeleted(8);
     EXPECT_FALSE(document->Changed());

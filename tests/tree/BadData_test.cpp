@@ -113,21 +113,23 @@ TEST(BadData, RowsWithTheIdsOfSystemNodesArePassedOver) {
     ExpectConsistent(main.tree);
 }
 
-TEST(BadData, RowsOfNegativeIdsGoByTheirNames) {
+// Under its name a recipe could be taken for the one whose id that is.
+TEST(BadData, RowsOfNegativeIdsAreToldFromThoseOfTheirNames) {
     MainTree main;
-    AddFolder(main, -1, "0", "minus one");
+    AddFolder(main, -1, "0", "the id of a system folder");
     AddFolder(main, -2, "0", "minus two");
-    AddFolder(main, 5, "-1", "below");
-    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (-7, 'Mild', 0, -1)");
+    AddFolder(main, 5, "-2", "below");
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (-7, '12', 0, -2)");
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (12, 'Mild', 0, -2)");
     main.Load();
     EXPECT_EQ(Below(*main.tree.Nodes("F:0")), (Lines{
                                                   "F:0 My Recipe Folders",
-                                                  "  F:minus one minus one",
+                                                  "  F:-2 minus two",
                                                   "    F:5 below",
-                                                  "    R:Mild:3 Mild",
-                                                  "  F:minus two minus two",
+                                                  "    R:-7:3 12",
+                                                  "    R:12:3 Mild",
                                               }));
-    EXPECT_TRUE(main.tree.NodeExists("R:Mild:0"));
+    EXPECT_EQ(Names(main.tree.Nodes("F:-1")->Children()), (Lines{"12", "Mild"}));
     ExpectConsistent(main.tree);
 }
 

@@ -343,6 +343,20 @@ TEST_F(Explorer, RowsAreDroppedOnAFolder) {
     EXPECT_EQ(model->NodeKey(), "F:0");
 }
 
+// Autosave runs while several are moved or deleted, and gives a recipe a new key.
+TEST_F(Explorer, ARecipeThatIsSavedInTheMiddleOfARunIsNotPassedOver) {
+    const auto save = [this] {
+        if (listener.log.back() != "moved Ale 1") return;
+        io.DeleteRecipeByName("mild");
+        Recipe("mild");
+    };
+    listener.look = save;
+    model->Drop({"R:2:3", "R:3:3"}, "F:1");
+    listener.look = nullptr;
+    EXPECT_THAT(Tree("F:1"), ElementsAre("F:2 Dark", "  R:1:3 Badger", "R:2:3 Ale", "R:4:3 mild"));
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
 TEST_F(Explorer, ADropStopsAtAClashOfNamesWithTheEarlierRowsMoved) {
     Folder(0, "Dark");    // F:4 clashes with F:2 in Winter
     Folder(0, "Amber");   // F:5

@@ -153,6 +153,71 @@ TEST_F(Deletions, FindARecipeThatTheTreeDoesNotShow) {
 
 // Runs the operation again and again, the first time with an error at its first statement, then at its
 // second, until it comes to its end; before each run everything is built anew.
+TEST_F(Objects, OfIdsThatTheProgramNeverGivesCanBeMovedRenamedAndDeleted) {
+    main.Execute("INSERT INTO FOLDERS (ID, PARENT_ID, NAME, STYLE) VALUES (-4, 0, 'Cellar', FALSE)");
+    main.Execute("INSERT INTO STYLES (ID, NAME, FOLDER_ID) VALUES (-3, 'Gose', 0)");
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (-5, '12', -3, -4)");
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (0, 'Nought', 0, 0)");
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (12, 'Mild', 0, 0)");
+    main.tree.InitFromDatabase();
+    EXPECT_TRUE(io.RenameObject("F:-4", "Barn", false));
+    EXPECT_TRUE(io.MoveObject("R:12:0", "F:-4", false));
+    EXPECT_TRUE(io.MoveObject("R:12:0", "S:-3:0", false));
+    EXPECT_TRUE(io.RenameObject("R:0:0", "Zero", false));
+    const std::string folder = io.CreateFolderObject("F:-4", "Shelf", false);
+    EXPECT_TRUE(main.tree.NodeExists(folder));
+    ExpectInStep();
+    io.DeleteObject("R:-5:0");
+    io.DeleteObject("R:0:3");
+    EXPECT_THAT(Select("SELECT ID FROM RECIPES"), ElementsAre("12"));
+    io.DeleteObject("S:-3:1");
+    EXPECT_THAT(Select("SELECT STYLE_ID FROM RECIPES"), ElementsAre("0"));
+    io.DeleteObject("F:-4");
+    EXPECT_THAT(Select("SELECT ID FROM RECIPES"), IsEmpty());
+    EXPECT_THAT(Select("SELECT ID FROM FOLDERS"), IsEmpty());
+    EXPECT_THAT(Boxes(), IsEmpty());
+    ExpectInStep();
+}
+
+TEST_F(Objects, WithoutANameCanBeDeleted) {
+    main.Execute("INSERT INTO FOLDERS (ID, PARENT_ID, NAME, STYLE) VALUES (1, 0, NULL, FALSE)");
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (1, NULL, 0, 1)");
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (2, NULL, 0, 0)");
+    main.tree.InitFromDatabase();
+    io.DeleteObject("R:2:3");
+    EXPECT_THAT(Select("SELECT ID FROM RECIPES"), ElementsAre("1"));
+    io.DeleteObject("F:1");
+    EXPECT_THAT(Select("SELECT ID FROM RECIPES"), IsEmpty());
+    ExpectInStep();
+}
+
+// A key that names no object is not taken for the row of id -1, nor an unknown name for the row of id 0.
+TEST_F(Objects, AreNotDeletedForAnUnknownKeyOrName) {
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (-1, 'Mild', 0, 0)");
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (0, 'Bock', 0, 0)");
+    main.tree.InitFromDatabase();
+    io.DeleteObject("R:x:0");
+    io.DeleteObject("R");
+    io.DeleteRecipeByName("unknown");
+    EXPECT_THAT(Select("SELECT ID FROM RECIPES ORDER BY ID"), ElementsAre("-1", "0"));
+    io.DeleteRecipeByName(" BOCK ");
+    EXPECT_THAT(Select("SELECT ID FROM RECIPES"), ElementsAre("-1"));
+}
+
+// A row that bears the id of "My Recipe Folders" or "All Recipes" lies in the folder that goes.
+TEST_F(Objects, OfASystemFolderStayWhenAFolderIsDeleted) {
+    main.Execute("INSERT INTO FOLDERS (ID, PARENT_ID, NAME, STYLE) VALUES (5, 0, 'Ales', FALSE)");
+    main.Execute("INSERT INTO FOLDERS (ID, PARENT_ID, NAME, STYLE) VALUES (0, 5, 'Nought', FALSE)");
+    main.Execute("INSERT INTO FOLDERS (ID, PARENT_ID, NAME, STYLE) VALUES (-1, 5, 'Minus one', FALSE)");
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (1, 'Mild', 0, 0)");
+    main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (2, 'Bock', 0, 5)");
+    main.tree.InitFromDatabase();
+    io.DeleteObject("F:5");
+    EXPECT_THAT(Select("SELECT NAME FROM RECIPES"), ElementsAre("Mild"));
+    EXPECT_EQ(Tree("F:0"), Lines{"R:1:3 Mild"});
+    ExpectInStep();
+}
+
 class Failure : public Deletions {
   protected:
     template <typename Operation>

@@ -69,7 +69,7 @@ TEST(IdOfKey, IsTheSecondField) {
     EXPECT_EQ(IdOfKey("F:-1"), -1);
     for (const char* key :
          {"", "F", "F:", "R::3", "F:x", "F:1x", "S:Ale:1", "F: 1", "F:99999999999999999999"})
-        EXPECT_EQ(IdOfKey(key), -1) << key;
+        EXPECT_EQ(IdOfKey(key), kNoId) << key;
 }
 
 TEST_F(Objects, ASubFolderStandsBelowAndEachBelowItself) {

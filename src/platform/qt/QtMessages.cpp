@@ -11,7 +11,9 @@ namespace {
 
 // The core ends a line of a message with "\r\n".
 QString Lines(std::string_view text) {
-    return ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    // A name may be longer than a screen holds; the buttons below must be seen.
+    constexpr qsizetype kLongest = 600;
+    return CutLines(ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")), kLongest);
 }
 
 void Prepare(QMessageBox& box, std::string_view title, std::string_view text) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,15 @@ inline QString ToQt(std::string_view text) {
 }
 inline std::string FromQt(const QString& text) {
     return text.toStdString();
+}
+
+// The text with "..." in the middle of each line that is longer than that.
+inline QString CutLines(const QString& text, qsizetype longest) {
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString& line : lines)
+        if (line.size() > longest)
+            line = line.left(longest / 2) + QStringLiteral(" \u2026 ") + line.right(longest / 2);
+    return lines.join(QLatin1Char('\n'));
 }
 
 // Places in a text, counted in code points by the core and in UTF-16 units by Qt. Places behind the text's

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QTextDocument>
 #include <utility>
 
 #include "platform/qt/Appearance.h"
@@ -60,7 +61,10 @@ QString ListPaneModel::TipOf(const ListRow& row, std::size_t col) const {
     QString tip = ToQt(row.cells[col]).trimmed();
     if (col == 0 && list_.Columns().back().title == kFolderColumn)
         tip += QLatin1Char('\n') + ToQt(row.cells.back()).trimmed();
-    return tip;
+    constexpr qsizetype kLongest = 200;
+    tip = CutLines(tip, kLongest);
+    // A name may look like markup.
+    return Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip;
 }
 
 QVariant ListPaneModel::data(const QModelIndex& index, int role) const {
