@@ -79,7 +79,9 @@ void DB_IO::DeleteRecipeById(std::int64_t id) {
 }
 
 void DB_IO::DeleteRecipeByName(std::string_view name) {
-    if (RecipeNameExists(name)) DeleteRecipeById(IdByName(name, "RECIPES"));
+    // 0 stands for no such recipe, but may be the id of one.
+    const std::int64_t id = IdByName(name, "RECIPES");
+    if (id != 0 || RecipeNameExists(name)) DeleteRecipeById(id);
 }
 
 void DB_IO::DeleteRecipe(std::int64_t id, const std::string& name) {
