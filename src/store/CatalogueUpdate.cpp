@@ -60,12 +60,18 @@ std::optional<Release> ReleaseOf(const std::string& folder) {
 }
 
 bool HasDeliveries(Database& database) {
-    try {
-        database.OpenRecordset("SELECT NAME FROM " + std::string(kBaseTable) + " WHERE SHEET = ''");
-        return true;
-    } catch (const Error&) {
-        return false;
-    }
+    return !database
+                .OpenRecordset("SELECT name FROM sqlite_schema WHERE type = 'table' AND name = " +
+                               SqlText(kBaseTable))
+                .AtEnd();
+}
+
+// The release that came last; nothing when none is remembered.
+std::optional<Release> LastRelease(Database& database) {
+    const Recordset row = database.OpenRecordset("SELECT CONTENT FROM " + std::string(kBaseTable) +
+                                                 " WHERE SHEET = " + SqlText(kRelease));
+    if (row.AtEnd()) return std::nullopt;
+    return Release::FromText(row.Fields(0).Text());
 }
 
 void MakeDeliveries(Database& database) {
@@ -152,11 +158,6 @@ class Update {
         deliveries_.Remember(kFolders, entry.folder, FoundFolder(entry.folder).value_or("0"));
     }
     void Remember(const Release& release) { deliveries_.Remember(kRelease, "", release.Text()); }
-    std::optional<Release> Last() const {
-        const std::string* text = deliveries_.Find(kRelease, "");
-        if (!text) return std::nullopt;
-        return Release::FromText(*text);
-    }
     bool Changed() const { return changed_; }
 
   private:
@@ -203,7 +204,7 @@ bool UpdateCatalogue(const std::string& folder, Database& database, const DateTi
     const std::optional<Release> release = ReleaseOf(folder);
     if (!release) return false;
     const bool known = HasDeliveries(database);
-    if (known && !IsNews(Update(database, now).Last(), *release)) return false;
+    if (known && !IsNews(LastRelease(database), *release)) return false;
     CatalogueProblems problems;
     const CatalogueSheets catalogue = ReadCatalogue(folder, problems);
     if (!problems.empty()) return false;

@@ -9,6 +9,7 @@
 
 #include "platform/Error.h"
 #include "tree/ListFormats.h"
+#include "tree/WordIndex.h"
 #include "values/NumberText.h"
 #include "values/Text.h"
 
@@ -180,12 +181,7 @@ bool ListTable::PassesFilter(const ListRow& row, const std::vector<std::string>&
 }
 
 std::vector<ListRow> ListTable::Filtered() const {
-    std::vector<std::string> words;
-    for (std::string_view rest = Trim(filter_); !rest.empty(); rest = Trim(rest)) {
-        const std::string_view word = rest.substr(0, rest.find(' '));
-        words.push_back(Upper(word));
-        rest.remove_prefix(word.size());
-    }
+    const std::vector<std::string> words = WordsOf(filter_);
     std::vector<ListRow> shown;
     for (const ListRow& row : unfiltered_) {
         if (!row.isGroup && !PassesFilter(row, words)) continue;

@@ -1,12 +1,11 @@
 // A crash in the middle of storing an ingredient leaves the old row, and its type.
-#include <csignal>
 #include <filesystem>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "EditorTest.h"
 #include "catalogue/DBSetupModel.h"
 #include "store/Schema.h"
+#include "support/DiesIn.h"
 
 namespace tw::test {
 namespace {
@@ -44,8 +43,7 @@ class CrashedSave : public testing::Test {
     template <typename Work>
     bool DiesAt(int statement, Work work) const {
         Make();
-        const pid_t child = fork();
-        if (child == 0) {
+        return DiesIn([&] {
             const auto database = OpenMainDatabase(File());
             TWTree tree(database.get());
             tree.InitFromDatabase();
@@ -54,20 +52,10 @@ class CrashedSave : public testing::Test {
             outside.messages.answers = {Answer::Yes};
             StyleNotices notices;
             DB_IO io(*database, objects, outside.messages, outside.clock, notices);
-            int count = 0;
-            const auto arm = [&] {
-                database->SetStatementHook([&](std::string_view) {
-                    if (count++ == statement) raise(SIGKILL);
-                });
-            };
+            const auto arm = [&] { DieAt(*database, statement); };
             work(CatalogueContext{*database, tree, io, outside.messages, outside.dialogs, outside.clock},
                  arm);
-            _exit(0);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
-        return WIFSIGNALED(status);
+        });
     }
     // Kills the work at each of its statements in turn. It has that many.
     template <typename Work>

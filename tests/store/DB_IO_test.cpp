@@ -4,14 +4,10 @@
 
 #include "StoreSupport.h"
 #include "support/NoMessages.h"
+#include "support/SilentStore.h"
 
 namespace tw::test {
 namespace {
-
-class FixedClock : public ClockPort {
-  public:
-    DateTime Now() override { return {2024, 5, 6, 7, 8, 9}; }
-};
 
 class Recorder : public ObjectListener {
   public:
@@ -29,7 +25,7 @@ class DbIo : public testing::Test {
   protected:
     std::string Count(const std::string& table) { return Cell(*db, "SELECT COUNT(*) FROM " + table); }
     std::unique_ptr<Database> db = Database::CreateInMemory();
-    FixedClock clock;
+    StoreClock clock;
     Recorder listener;
     ObjectTree tree;  // shows nothing
     NoMessages messages;

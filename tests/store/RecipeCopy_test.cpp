@@ -3,34 +3,19 @@
 #include <csignal>
 #include <deque>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "StoreSupport.h"
 #include "store/ExchangeFile.h"
 #include "store/Schema.h"
+#include "support/DiesIn.h"
 #include "support/NoMessages.h"
+#include "support/SilentStore.h"
 
 namespace tw::test {
 namespace {
 
 using Strings = std::vector<std::string>;
-
-class NoListener : public ObjectListener {
-  public:
-    void NotifyRecipeMoved(const std::string&, std::int64_t) override {}
-    void NotifyRecipeNewStyle(const std::string&, std::int64_t) override {}
-    void NotifyRecipeRenamed(const std::string&, const std::string&) override {}
-    void NotifyStyleRenamed(std::int64_t, const std::string&) override {}
-    void NotifyRecipeDeleted(const std::string&) override {}
-    void NotifyRecipeFolderDeleted(std::int64_t) override {}
-    void NotifyStyleDeleted(std::int64_t) override {}
-};
-
-class FixedClock : public ClockPort {
-  public:
-    DateTime Now() override { return {2024, 5, 6, 7, 8, 9}; }
-};
 
 // Answers what the test has queued, aborting without an answer, and writes down what it was asked.
 class Host : public CopyHost {
@@ -94,7 +79,7 @@ class RecipeCopyTest : public testing::Test {
     const std::unique_ptr<Database> main = Database::CreateInMemory();
     const std::unique_ptr<Database> file = Database::CreateDatabase(folder.File("a.TWR"), kExchangeLocale);
     NoMessages messages;
-    FixedClock clock;
+    StoreClock clock;
     NoListener listener;
     ObjectTree tree;
     DB_IO objects{*main, tree, messages, clock, listener};
@@ -425,24 +410,6 @@ TEST_F(RecipeCopyTest, ARunLooksAtTheNamesOfTheDestinationOnce) {
     EXPECT_EQ(statements, 1 + 2 * 2);
 }
 
-// Runs action in a child process that the action itself kills; false when it came to its end alive.
-template <typename Action>
-bool DiesIn(Action action) {
-    const pid_t child = fork();
-    if (child == 0) {
-        try {
-            action();
-        } catch (const Error&) {
-            _exit(2);
-        }
-        _exit(0);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
-    return WIFSIGNALED(status);
-}
-
 TEST_F(RecipeCopyTest, ACrashInAnImportLeavesTheOldDatabaseWhole) {
     const std::string path = folder.File("Tunwright.mdb");
     MakeMainDatabase(path);
@@ -458,10 +425,7 @@ TEST_F(RecipeCopyTest, ACrashInAnImportLeavesTheOldDatabaseWhole) {
         died = DiesIn([&] {
             const auto db = OpenMainDatabase(path);
             db->ExecuteNative("PRAGMA cache_size=3");
-            int count = 0;
-            db->SetStatementHook([&](std::string_view) {
-                if (count++ == statement) raise(SIGKILL);
-            });
+            DieAt(*db, statement);
             const auto source = Database::OpenDatabase(folder.File("a.TWR"), false);
             DB_IO names(*db, tree, messages, clock, listener);
             host.answers = {kOverwrite};

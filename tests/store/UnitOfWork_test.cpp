@@ -1,36 +1,21 @@
 // Units of work: whole after a crash, and with what was done so far after a failure.
 #include <csignal>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "StoreSupport.h"
 #include "store/DB_IO.h"
 #include "store/Schema.h"
+#include "support/DiesIn.h"
 #include "support/NoMessages.h"
+#include "support/SilentStore.h"
 
 namespace tw::test {
 namespace {
 
-class FixedClock : public ClockPort {
-  public:
-    DateTime Now() override { return {2024, 5, 6, 7, 8, 9}; }
-};
-
-class NoListener : public ObjectListener {
-  public:
-    void NotifyRecipeMoved(const std::string&, std::int64_t) override {}
-    void NotifyRecipeNewStyle(const std::string&, std::int64_t) override {}
-    void NotifyRecipeRenamed(const std::string&, const std::string&) override {}
-    void NotifyStyleRenamed(std::int64_t, const std::string&) override {}
-    void NotifyRecipeDeleted(const std::string&) override {}
-    void NotifyRecipeFolderDeleted(std::int64_t) override {}
-    void NotifyStyleDeleted(std::int64_t) override {}
-};
-
 // A save: the old recipe goes, the new one takes its place.
 void Save(Database& database, const StoredRecipe& recipe) {
-    FixedClock clock;
+    StoreClock clock;
     NoListener listener;
     ObjectTree tree;
     NoMessages messages;
@@ -44,24 +29,6 @@ StoredRecipe NewRecipe() {
     StoredRecipe recipe = FullRecipe("Mild", 3);
     recipe.notes = std::string(20000, 'n');  // more pages than the old one
     return recipe;
-}
-
-// Runs action in a child process that the action itself kills; false when it came to its end alive.
-template <typename Action>
-bool DiesIn(Action action) {
-    const pid_t child = fork();
-    if (child == 0) {
-        try {
-            action();
-        } catch (const Error&) {
-            _exit(2);
-        }
-        _exit(0);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
-    return WIFSIGNALED(status);
 }
 
 class Crash : public testing::Test {
@@ -87,10 +54,7 @@ TEST_F(Crash, LeavesTheOldRecipeWholeAtEveryStatement) {
             const auto db = OpenMainDatabase(path_);
             // Few pages in memory, so that half-done pages reach the file before the end.
             db->ExecuteNative("PRAGMA cache_size=3");
-            int count = 0;
-            db->SetStatementHook([&](std::string_view) {
-                if (count++ == statement) raise(SIGKILL);
-            });
+            DieAt(*db, statement);
             Save(*db, NewRecipe());
         });
         const auto db = OpenMainDatabase(path_);

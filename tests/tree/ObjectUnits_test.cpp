@@ -1,11 +1,10 @@
 // Each operation on objects is one unit on the disk: a crash in its middle leaves the old state.
-#include <csignal>
 #include <filesystem>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "ObjectsTest.h"
 #include "store/Schema.h"
+#include "support/DiesIn.h"
 
 namespace tw::test {
 namespace {
@@ -52,8 +51,7 @@ class Units : public testing::Test {
     bool DiesAt(int statement, Operation operation) {
         std::filesystem::copy_file(File("made.mdb"), File("a.mdb"),
                                    std::filesystem::copy_options::overwrite_existing);
-        const pid_t child = fork();
-        if (child == 0) {
+        return DiesIn([&] {
             const auto database = OpenMainDatabase(File("a.mdb"));
             // Few pages in memory, so that half-done pages reach the file before the end.
             database->ExecuteNative("PRAGMA cache_size=3");
@@ -63,17 +61,9 @@ class Units : public testing::Test {
             RecordingPlatform outside;
             NoticeRecorder listener;
             DB_IO io(*database, objects, outside.messages, outside.clock, listener);
-            int count = 0;
-            database->SetStatementHook([&](std::string_view) {
-                if (count++ == statement) raise(SIGKILL);
-            });
+            DieAt(*database, statement);
             operation(io);
-            _exit(0);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
-        return WIFSIGNALED(status);
+        });
     }
 
     // Kills the operation at each of its statements in turn. It has that many.

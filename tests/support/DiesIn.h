@@ -1,0 +1,39 @@
+// A process that is killed in the middle of its work, as by a loss of power.
+#pragma once
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "store/Database.h"
+
+namespace tw::test {
+
+// Runs action in a child process that the action itself kills; false when it came to its end alive, be it by
+// an error.
+template <typename Action>
+bool DiesIn(Action action) {
+    const pid_t child = fork();
+    if (child == 0) {
+        try {
+            action();
+        } catch (const Error&) {
+            _exit(2);
+        }
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
+    return WIFSIGNALED(status);
+}
+
+// Kills this process before the statement of that number, counted from 0 from now on.
+inline void DieAt(Database& database, int statement) {
+    database.SetStatementHook([count = 0, statement](std::string_view) mutable {
+        if (count++ == statement) raise(SIGKILL);
+    });
+}
+
+}  // namespace tw::test
