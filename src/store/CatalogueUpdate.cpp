@@ -66,8 +66,9 @@ bool HasDeliveries(Database& database) {
                 .AtEnd();
 }
 
-// The release that came last; nothing when none is remembered.
+// The release that came last; nothing when none is remembered, as after a first look that was broken off.
 std::optional<Release> LastRelease(Database& database) {
+    if (!HasDeliveries(database)) return std::nullopt;
     const Recordset row = database.OpenRecordset("SELECT CONTENT FROM " + std::string(kBaseTable) +
                                                  " WHERE SHEET = " + SqlText(kRelease));
     if (row.AtEnd()) return std::nullopt;
@@ -192,10 +193,9 @@ class Update {
 };
 
 // Whether the files of that release have anything to bring.
-bool IsNews(const std::optional<Release>& last, const Release& release) {
-    if (!last) return true;
-    return release.version > last->version ||
-           (release.version == last->version && release.digest != last->digest);
+bool IsNews(const Release& last, const Release& release) {
+    return release.version > last.version ||
+           (release.version == last.version && release.digest != last.digest);
 }
 
 }  // namespace
@@ -203,15 +203,15 @@ bool IsNews(const std::optional<Release>& last, const Release& release) {
 bool UpdateCatalogue(const std::string& folder, Database& database, const DateTime& now) {
     const std::optional<Release> release = ReleaseOf(folder);
     if (!release) return false;
-    const bool known = HasDeliveries(database);
-    if (known && !IsNews(LastRelease(database), *release)) return false;
+    const std::optional<Release> last = LastRelease(database);
+    if (last && !IsNews(*last, *release)) return false;
     CatalogueProblems problems;
     const CatalogueSheets catalogue = ReadCatalogue(folder, problems);
     if (!problems.empty()) return false;
     UnitOfWork unit(database);
     MakeDeliveries(database);
     Update update(database, now);
-    for (const CatalogueEntry& entry : EntriesOf(catalogue)) known ? update.Take(entry) : update.Adopt(entry);
+    for (const CatalogueEntry& entry : EntriesOf(catalogue)) last ? update.Take(entry) : update.Adopt(entry);
     update.Remember(*release);
     unit.Commit();
     return update.Changed();

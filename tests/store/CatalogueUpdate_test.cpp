@@ -219,6 +219,19 @@ TEST_F(CatalogueUpdateTest, ADatabaseWithoutAMemoryOfDeliveriesStaysAsItIs) {
                 ElementsAre("Brewer's Gold|Blackcurrant.", "Later Hop|"));
 }
 
+TEST_F(CatalogueUpdateTest, AFirstLookThatIsBrokenOffBringsNothingBackLater) {
+    database_->ExecuteNative("DROP TABLE CATALOGUE_BASE");
+    Sql("DELETE FROM HOPS WHERE NAME = 'Wild Hop'");
+    int left = 1;
+    database_->SetStatementHook([&](std::string_view sql) {
+        if (!sql.starts_with("SELECT") && left-- == 0) throw Error("Disk", "Full", 1);
+    });
+    EXPECT_THROW(Update(), Error);
+    database_->SetStatementHook({});
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(WildHops(), IsEmpty());
+}
+
 TEST_F(CatalogueUpdateTest, FaultyOrMissingFilesChangeNothing) {
     AddHop();
     Edit("hops.tsv", "New Hop\tAroma\t4", "New Hop\tAroma\t7");
