@@ -261,7 +261,7 @@ bool CatalogueEditor::Press(std::string_view button) {
             open_ = false;
         }
     } else if (button == "cmdApply") {
-        if (ApplyEnabled()) Save();
+        if (ApplyEnabled() && Save()) Applied();
     } else if (button == "cmdCancel") {
         CloseBox();
     } else if (button == "cmdFirst" || button == "cmdPrevious" || button == "cmdNext" ||

@@ -117,6 +117,8 @@ class CatalogueEditor : public DialogModel {
     // Run within that unit, before and after the two statements.
     virtual void BeforeWrite() {}
     virtual void AfterWrite() {}
+    // cmdApply has saved: the form goes on showing the row as it is stored now.
+    virtual void Applied() {}
     // The choice of the folder; nothing without folders.
     virtual std::optional<std::string> FolderText() const { return std::nullopt; }
     virtual bool EnterFolder(std::string_view) { return false; }

@@ -11,7 +11,7 @@ GrainEditor::GrainEditor(Catalogue catalogue, const CatalogueContext& context)
 
 void GrainEditor::FillTypes() {
     EditorList& types = TypeList();
-    types = {};
+    types.entries.clear();
     types.freeText = true;
     for (Recordset rows = Store().OpenRecordset(std::string("SELECT * FROM GRAIN_TYPES WHERE ") +
                                                 (Grain() ? "GRAIN" : "NOT GRAIN") + " ORDER BY ID");
@@ -31,6 +31,13 @@ void GrainEditor::ReadOwn(const Recordset& row) {
     const Recordset type =
         Store().OpenRecordset("SELECT NAME FROM GRAIN_TYPES WHERE ID = " + std::to_string(storedType_));
     if (!type.AtEnd()) TypeList().text = type.Fields(0).Text();
+}
+
+bool GrainEditor::Write(const std::string& name) {
+    if (!CatalogueEditor::Write(name)) return false;
+    // Another type may be given to the row before the form closes.
+    storedType_ = newType_;
+    return true;
 }
 
 std::string GrainEditor::OwnValue(ColumnSource source) const {

@@ -17,9 +17,12 @@ class GrainEditor final : public CatalogueEditor {
   private:
     void ClearOwn() override;
     void ReadOwn(const Recordset& row) override;
+    bool Write(const std::string& name) override;
+    void Applied() override { FillTypes(); }
     std::string OwnValue(ColumnSource source) const override;
     void BeforeWrite() override;
     void AfterWrite() override;
+    // Lists the types that there are; what stands in the box stays.
     void FillTypes();
     std::string Truth() const { return Grain() ? "TRUE" : "FALSE"; }
 

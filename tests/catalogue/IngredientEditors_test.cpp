@@ -347,6 +347,56 @@ TEST_F(Grains, ATypeThatOthersHaveStays) {
     EXPECT_THAT(Select("SELECT NAME, GRAIN_TYPE FROM GRAINS ORDER BY NAME"), ElementsAre("Mild|1", "Pale|0"));
 }
 
+TEST_F(Grains, ATypeGoesWithTheApplyThatLeavesItWithoutGrains) {
+    db->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
+    db->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Pale', TRUE, 1)");
+    const auto editor = Open(Catalogue::Grains, "Pale");
+    const auto apply = [&](const char* type) {
+        editor->SetControl("Combo1", type);
+        editor->Press("cmdApply");
+        EXPECT_EQ(editor->List("Combo1").text, type);
+    };
+    // Each is the only type of the only grain until the next one takes its place.
+    for (const char* type : {"Roasted", "Smoked", "Kilned"}) {
+        apply(type);
+        EXPECT_THAT(Select("SELECT NAME FROM GRAIN_TYPES"), ElementsAre(type));
+        EXPECT_THAT(editor->List("Combo1").entries, ElementsAre(type));
+    }
+    apply("");
+    EXPECT_THAT(Select("SELECT NAME FROM GRAIN_TYPES"), IsEmpty());
+    EXPECT_THAT(editor->List("Combo1").entries, IsEmpty());
+    // What Cancel leaves is what was applied.
+    editor->SetControl("Combo1", "Base");
+    editor->Press("cmdCancel");
+    EXPECT_THAT(Select("SELECT NAME, GRAIN_TYPE FROM GRAINS"), ElementsAre("Pale|0"));
+}
+
+TEST_F(Grains, ANewGrainLeavesItsFirstTypeByTheNextApply) {
+    const auto editor = Open(Catalogue::Grains);
+    editor->SetControl("Text1", "Pale");
+    for (const char* type : {"Base", "Kilned"}) {
+        editor->SetControl("Combo1", type);
+        editor->Press("cmdApply");
+    }
+    EXPECT_THAT(Select("SELECT NAME FROM GRAIN_TYPES"), ElementsAre("Kilned"));
+    EXPECT_THAT(Select("SELECT NAME FROM GRAINS"), ElementsAre("Pale"));
+}
+
+TEST_F(Grains, AnApplyThatFailsLeavesTheTypeAsItIsStored) {
+    db->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
+    db->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Pale', TRUE, 1)");
+    const auto editor = Open(Catalogue::Grains, "Pale");
+    editor->SetControl("Combo1", "Kilned");
+    FailAt("INSERT INTO GRAINS");
+    editor->Press("cmdApply");
+    Work();
+    EXPECT_THAT(Boxes(), ElementsAre("[Error!] The disk is full."));
+    EXPECT_THAT(Select("SELECT NAME FROM GRAIN_TYPES"), ElementsAre("Base"));
+    EXPECT_TRUE(editor->ApplyEnabled());
+    editor->Press("cmdApply");
+    EXPECT_THAT(Select("SELECT NAME FROM GRAIN_TYPES"), ElementsAre("Kilned"));
+}
+
 TEST_F(Grains, ExtractsHaveTypesAndWordsOfTheirOwn) {
     db->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Syrup', TRUE)");
     const auto editor = Open(Catalogue::Extracts);

@@ -102,6 +102,31 @@ TEST_F(Styles, AnotherFolderMovesTheStyleAndTouchesBoth) {
                 ElementsAre("Dark", "Pale"));
 }
 
+TEST_F(Styles, ApplyStoresAndTheNextOneGoesOnFromThere) {
+    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", true);
+    StyleEditor& style = OpenStyle();
+    EXPECT_FALSE(style.ApplyEnabled());
+    style.SetControl("Text1", "Stout");
+    EXPECT_TRUE(style.ApplyEnabled());
+    style.Press("cmdApply");
+    EXPECT_TRUE(style.IsOpen());
+    EXPECT_FALSE(style.ApplyEnabled());
+    EXPECT_EQ(style.ID(), 1);
+    EXPECT_THAT(Below("G:0"), ElementsAre("Dark", "(None)", "Stout"));
+    // The same row under another name and in another folder, not a second one.
+    style.SetControl("Text1", "Dry Stout");
+    style.SetControl("FolderID", std::to_string(dark));
+    style.Press("cmdApply");
+    EXPECT_THAT(Select("SELECT ID, NAME, FOLDER_ID FROM STYLES"), ElementsAre("1|Dry Stout|1"));
+    EXPECT_THAT(Below("G:0"), ElementsAre("Dark", "(None)"));
+    EXPECT_THAT(Below("G:1"), ElementsAre("Dry Stout"));
+    EXPECT_THAT(notices.log, ElementsAre("style renamed 1 to Dry Stout"));
+    style.SetControl("Text1", "Never");
+    style.Press("cmdCancel");
+    EXPECT_EQ(style.Selection(), "Dry Stout");
+    EXPECT_THAT(Select("SELECT NAME FROM STYLES"), ElementsAre("Dry Stout"));
+}
+
 TEST_F(Styles, AStyleOfAMissingFolderComesBackIntoSightWhenItIsStored) {
     db->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Lost', 77)");
     io.AddStyleNodesByName("Lost");
