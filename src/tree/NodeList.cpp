@@ -200,9 +200,9 @@ std::string NodeList::Hint() const {
     const bool anyRecipe = all && all->HasChildren();
     if (!showStyles_ && !anyRecipe)
         return "There is no recipe yet. Ctrl+N in the main window starts your first one; once it is saved, "
-               "it "
-               "stands here.";
-    return "This folder is empty.";
+               "it stands here.";
+    if (!key_.starts_with("S:")) return "This folder is empty.";
+    return IdOfKey(key_) == 0 ? "There is no recipe without a style." : "No recipe has this style yet.";
 }
 
 std::string ArrangeCommand(int column) {

@@ -178,6 +178,18 @@ TEST_F(NodeLists, AnEmptyListTellsWhatToDo) {
     EXPECT_EQ(list.Hint().substr(0, 25), "There is no recipe yet. C");
 }
 
+TEST_F(NodeLists, AStyleWithoutRecipesIsNoFolder) {
+    Style("Stout");
+    NodeList styles(access, look, true);
+    for (const char* key : {"S:1:0", "S:1:1"}) {
+        styles.Show(key, false);
+        EXPECT_EQ(styles.Hint(), "No recipe has this style yet.");
+    }
+    for (const char* key : {"R:1:0", "R:2:0", "R:3:0"}) io.DeleteObject(key);
+    styles.Show("S:0:1", false);
+    EXPECT_EQ(styles.Hint(), "There is no recipe without a style.");
+}
+
 TEST(ListLook, TakesTheCommandsOfViewAndArrange) {
     ListLook look;
     EXPECT_EQ(look.viewType, ListViewType::List);
