@@ -107,6 +107,52 @@ TEST_F(ExplorerWindow, ARefusedNameIsTakenBackAfterOneBox) {
     EXPECT_EQ(Editor(List()), nullptr);
 }
 
+// On a desktop a box takes the activation of the window below, which has it again a while after the box.
+TEST_F(ExplorerWindow, ARefusedNameLeavesTheFocusWhereItWas) {
+    outside.messages.whileShowing = [] { QApplication::setActiveWindow(nullptr); };
+    const auto refuse = [&](QAbstractItemView& view, const char* name) {
+        QTest::keyClick(&view, Qt::Key_F2);
+        TypeName(view, name);
+        EXPECT_EQ(Boxes().size(), 1U);
+        QApplication::setActiveWindow(dialog.get());
+        QApplication::processEvents();
+        EXPECT_TRUE(view.hasFocus());
+    };
+    for (const char* look : {"mnuDetails", "mnuLargeIcons", "mnuList"}) {
+        Press(look);
+        Click(List(), RowOf(List(), "mild"));
+        refuse(List(), "ale");
+        // The next keys are the list's.
+        refuse(List(), " ");
+        EXPECT_EQ(model->List(Page::Recipes).SelectedKey(), "R:2:3");
+        Key(Qt::Key_Delete);
+        EXPECT_EQ(Boxes(), Strings{"[Confirm Delete] Are you sure you want to delete 'mild'? -> No"});
+        Key(Qt::Key_Home);
+        EXPECT_EQ(model->List(Page::Recipes).SelectedKey(), "F:1") << look;
+    }
+    shell.Objects().CreateRecipeFolder(0, "Zwickl", true);
+    model->Settle();
+    Click(Tree(), Node("F:1"));
+    refuse(Tree(), "zwickl");
+    refuse(Tree(), " ");
+    EXPECT_EQ(model->NodeKey(), "F:1");
+    Key(Qt::Key_Delete);
+    EXPECT_EQ(Boxes(), Strings{"[Confirm Delete] Are you sure you want to delete 'Winter'? -> No"});
+    Key(Qt::Key_Up);
+    EXPECT_EQ(model->NodeKey(), "F:0");
+}
+
+TEST_F(ExplorerWindow, ANameRefusedByAClickElsewhereLeavesTheFocusThere) {
+    Click(List(), RowOf(List(), "mild"));
+    QTest::keyClick(&List(), Qt::Key_F2);
+    ASSERT_NE(Editor(List()), nullptr);
+    Editor(List())->setText(QStringLiteral("ale"));
+    FindBox().setFocus(Qt::MouseFocusReason);
+    QApplication::processEvents();
+    EXPECT_EQ(Boxes().size(), 1U);
+    EXPECT_TRUE(FindBox().hasFocus());
+}
+
 TEST_F(ExplorerWindow, EscapeGivesAnEditUpAndLeavesTheWindow) {
     Click(List(), RowOf(List(), "mild"));
     QTest::keyClick(&List(), Qt::Key_F2);

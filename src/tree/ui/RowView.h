@@ -13,6 +13,7 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
 #include "tree/ListTable.h"
+#include "tree/ui/InPlaceEditor.h"
 #include "tree/ui/ListPaneModel.h"
 
 namespace tw {
@@ -140,6 +141,12 @@ class RowView : public View, protected ListTableObserver {
         View::mouseDoubleClickEvent(event);
         if (event->button() == Qt::LeftButton && row.isValid() && row.row() == list_.Selected())
             TellActivated();
+    }
+
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override {
+        const bool typedIn = IsTypedIn(*editor);
+        View::closeEditor(editor, hint);
+        if (typedIn) this->setFocus();
     }
 
     void startDrag(Qt::DropActions) override {

@@ -8,6 +8,7 @@
 
 #include "platform/qt/QtText.h"
 #include "store/DB_IO.h"
+#include "tree/ui/InPlaceEditor.h"
 #include "tree/ui/NodePictures.h"
 
 namespace tw {
@@ -180,6 +181,12 @@ void TreePane::EditSelected() {
     if (!index.isValid() || !model_->flags(index).testFlag(Qt::ItemIsEditable)) return;
     setFocus();
     edit(index);
+}
+
+void TreePane::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    const bool typedIn = IsTypedIn(*editor);
+    QTreeView::closeEditor(editor, hint);
+    if (typedIn) setFocus();
 }
 
 void TreePane::keyPressEvent(QKeyEvent* event) {

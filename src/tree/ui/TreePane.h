@@ -80,6 +80,7 @@ class TreePane final : public QTreeView {
     void ChosenChanged();
 
   protected:
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
