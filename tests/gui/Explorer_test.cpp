@@ -1,5 +1,6 @@
 // The explorer by keyboard and mouse.
 #include "BrowseTest.h"
+#include "tree/ui/NodePictures.h"
 #include "tree/ui/frmExplorer.h"
 
 namespace tw::test {
@@ -248,6 +249,25 @@ TEST_F(ExplorerWindow, ObjectsAreDraggedOnFoldersOfTheList) {
     }
 }
 
+// As pictures, for an icon has no name.
+TEST_F(ExplorerWindow, OnlyTheChosenFolderIsShownOpen) {
+    const auto shown = [&](const char* key) {
+        return Node(key).data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
+    };
+    const QImage open = NodePicture(NodeIcon::FolderOpen).pixmap(16).toImage();
+    const QImage closed = NodePicture(NodeIcon::FolderClosed).pixmap(16).toImage();
+    ASSERT_NE(open, closed);
+    EXPECT_TRUE(Drop(Tree(), Node("F:1"), {"R:1:3"}));
+    EXPECT_TRUE(Drop(Tree(), Node("F:2"), {"R:1:3"}));
+    EXPECT_EQ(shown("F:1"), closed);
+    EXPECT_EQ(shown("F:2"), closed);
+    Click(Tree(), Node("F:2"));
+    EXPECT_EQ(shown("F:1"), closed);
+    EXPECT_EQ(shown("F:2"), open);
+    Click(Tree(), Node("F:0"));
+    EXPECT_EQ(shown("F:2"), closed);
+}
+
 TEST_F(ExplorerWindow, AFolderDroppedOnItsOwnChildIsToldOf) {
     Tree().expandAll();
     EXPECT_TRUE(Drop(Tree(), Node("F:2"), {"F:1"}));
@@ -338,6 +358,23 @@ TEST_F(ExplorerWindow, EachPageKeepsItsPlace) {
     Button("optRecipes").click();
     EXPECT_EQ(Rows(List()), (Strings{"Dark", "Porter"}));
     EXPECT_TRUE(FindBox().isEnabled());
+}
+
+TEST_F(ExplorerWindow, TheStylesOpenWithTheirFirstRowsInSight) {
+    for (int i = 0; i < 60; ++i) shell.Objects().CreateStyleFolder(0, "Folder " + std::to_string(i), true);
+    model->Settle();
+    Button("optStyles").click();
+    QApplication::processEvents();
+    EXPECT_EQ(model->NodeKey(), "G:0");
+    EXPECT_EQ(Tree().verticalScrollBar()->value(), 0);
+    EXPECT_EQ(Tree().visualRect(Node("X:STYLE")).top(), 0);
+    // What the brewer has scrolled to stays.
+    const int end = Tree().verticalScrollBar()->maximum();
+    ASSERT_GT(end, 0);
+    Tree().verticalScrollBar()->setValue(end);
+    Button("optRecipes").click();
+    Button("optStyles").click();
+    EXPECT_EQ(Tree().verticalScrollBar()->value(), end);
 }
 
 TEST_F(ExplorerWindow, AClickOnAHeaderSortsBothLists) {

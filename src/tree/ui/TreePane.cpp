@@ -63,7 +63,7 @@ QVariant TreePaneModel::data(const QModelIndex& index, int role) const {
         case Qt::EditRole:
             return ToQt(items_.Text(item));
         case Qt::DecorationRole:
-            return NodePicture(items_.Icon(item, items_.Selected() == item || items_.IsExpanded(item)));
+            return NodePicture(items_.Icon(item, items_.Selected() == item));
         default:
             return {};
     }
@@ -181,6 +181,15 @@ void TreePane::EditSelected() {
     if (!index.isValid() || !model_->flags(index).testFlag(Qt::ItemIsEditable)) return;
     setFocus();
     edit(index);
+}
+
+// The chosen entry was brought into view before the view had its size: its first rows are seen with it where
+// there is room for both.
+void TreePane::showEvent(QShowEvent* event) {
+    QTreeView::showEvent(event);
+    if (std::exchange(shown_, true)) return;
+    scrollToTop();
+    ShowSelection();
 }
 
 void TreePane::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {

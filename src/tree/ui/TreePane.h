@@ -80,6 +80,7 @@ class TreePane final : public QTreeView {
     void ChosenChanged();
 
   protected:
+    void showEvent(QShowEvent* event) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
     void keyPressEvent(QKeyEvent* event) override;
     void startDrag(Qt::DropActions actions) override;
@@ -97,6 +98,7 @@ class TreePane final : public QTreeView {
     TreePaneModel* model_;
     std::function<bool(const std::string&)> choose_;
     bool following_ = false;  // the entries change by their object, not by the brewer
+    bool shown_ = false;      // has been on the screen
 };
 
 }  // namespace tw
