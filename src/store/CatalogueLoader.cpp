@@ -4,7 +4,8 @@
 
 namespace tw {
 
-CatalogueProblems LoadCatalogue(const std::string& folder, Database& database, const DateTime& created) {
+CatalogueProblems LoadCatalogue(const std::string& folder, Database& database,
+                                const std::optional<DateTime>& created) {
     CatalogueProblems problems;
     const CatalogueSheets catalogue = ReadCatalogue(folder, problems);
     if (problems.empty()) DeliverCatalogue(folder, catalogue, database, created);

@@ -134,8 +134,8 @@ bool StandsAs(Database& database, const Recordset& row, std::string_view content
 // One run over the catalogue.
 class Update {
   public:
-    Update(Database& database, const DateTime& now)
-        : database_(database), deliveries_(database), when_(SqlText(DateText(now))) {}
+    Update(Database& database, const std::optional<DateTime>& now)
+        : database_(database), deliveries_(database), when_(now ? SqlText(DateText(*now)) : "NULL") {}
 
     void Take(const CatalogueEntry& entry) {
         const std::string content = ContentOf(entry);
@@ -192,6 +192,17 @@ class Update {
     bool changed_ = false;
 };
 
+// The first databases came with this date on every style and style folder, which the explorer showed as a
+// day on which something had happened.
+void ForgetMadeUpDates(Database& database) {
+    const std::string madeUp = SqlText("01/01/2024 00:00:00");
+    for (const std::string column : {"CREATED_WHEN", "MODIFIED_WHEN"}) {
+        database.Execute("UPDATE FOLDERS SET " + column + " = NULL WHERE STYLE AND " + column + " = " +
+                         madeUp);
+        database.Execute("UPDATE STYLES SET " + column + " = NULL WHERE " + column + " = " + madeUp);
+    }
+}
+
 // Whether the files of that release have anything to bring.
 bool IsNews(const Release& last, const Release& release) {
     return release.version > last.version ||
@@ -210,6 +221,7 @@ bool UpdateCatalogue(const std::string& folder, Database& database, const DateTi
     if (!problems.empty()) return false;
     UnitOfWork unit(database);
     MakeDeliveries(database);
+    ForgetMadeUpDates(database);
     Update update(database, now);
     for (const CatalogueEntry& entry : EntriesOf(catalogue)) last ? update.Take(entry) : update.Adopt(entry);
     update.Remember(*release);
@@ -218,7 +230,7 @@ bool UpdateCatalogue(const std::string& folder, Database& database, const DateTi
 }
 
 void DeliverCatalogue(const std::string& folder, const CatalogueSheets& catalogue, Database& database,
-                      const DateTime& created) {
+                      const std::optional<DateTime>& created) {
     UnitOfWork unit(database);
     MakeDeliveries(database);
     // The types come first, so that the lists show them in the order of their file.

@@ -6,6 +6,7 @@
 // version and content of the files came last.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "platform/DateTime.h"
@@ -21,15 +22,16 @@ namespace tw {
 // A new style goes into the folder delivered under the name that the file gives, wherever that is now and
 // whatever its name; under the root when that folder is gone.
 // A database that remembers no delivery takes its rows for the brewer's: nothing in it changes, and what the
-// product holds now counts as delivered. Nothing happens either when these very files came last, when a
-// newer version of them did, or when they are missing or faulty.
-// Gives whether a row was added or corrected. Raises the store's error when a statement fails; what was done
-// so far is remembered, and the next call goes on.
+// product holds now counts as delivered. In any database the dates go that the product once made up for its
+// styles and their folders. Nothing happens when these very files came last, when a newer version of them
+// did, or when they are missing or faulty. Gives whether a row was added or corrected. Raises the store's
+// error when a statement fails; what was done so far is remembered, and the next call goes on.
 bool UpdateCatalogue(const std::string& folder, Database& database, const DateTime& now);
 
 // Fills the empty catalogue tables of a new database from the files and remembers the delivery. REQUIRES:
-// the tables are empty and the catalogue has no problems.
+// the tables are empty and the catalogue has no problems. Styles and folders get created as both their
+// dates, or none.
 void DeliverCatalogue(const std::string& folder, const CatalogueSheets& catalogue, Database& database,
-                      const DateTime& created);
+                      const std::optional<DateTime>& created);
 
 }  // namespace tw

@@ -31,8 +31,7 @@ class CatalogueData : public testing::Test {
   protected:
     static void SetUpTestSuite() {
         database_ = Database::CreateInMemory();
-        for (const CatalogueProblem& problem :
-             LoadCatalogue(CATALOGUE_FOLDER, *database_, {.year = 2024, .month = 1, .day = 1})) {
+        for (const CatalogueProblem& problem : LoadCatalogue(CATALOGUE_FOLDER, *database_, std::nullopt)) {
             problems_.push_back(problem.Text());
         }
     }

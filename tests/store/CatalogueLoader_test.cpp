@@ -82,6 +82,12 @@ TEST_F(CatalogueLoaderTest, StylesAndFoldersCarryTheGivenDate) {
                 ElementsAre("02/29/2024 13:05:07|02/29/2024 13:05:07"));
 }
 
+TEST_F(CatalogueLoaderTest, WithoutADateStylesAndFoldersCarryNone) {
+    ASSERT_THAT(LoadCatalogue(folder_.string(), *database_, std::nullopt), IsEmpty());
+    EXPECT_THAT(Rows("SELECT DISTINCT CREATED_WHEN, MODIFIED_WHEN FROM STYLES"), ElementsAre("NULL|NULL"));
+    EXPECT_THAT(Rows("SELECT DISTINCT CREATED_WHEN, MODIFIED_WHEN FROM FOLDERS"), ElementsAre("NULL|NULL"));
+}
+
 TEST_F(CatalogueLoaderTest, AFileMayEndWithoutALineFeed) {
     Append("hops.tsv", "Saaz\tAroma\t2.5\t4.5\tNoble.");
     EXPECT_THAT(Load(), IsEmpty());

@@ -136,6 +136,22 @@ TEST_F(CatalogueUpdateTest, CorrectsARowOfEachTable) {
                 ElementsAre("45|02/29/2024 13:05:07|11/21/2026 08:00:00"));
 }
 
+TEST_F(CatalogueUpdateTest, DatesThatTheProductMadeUpGo) {
+    Sql("UPDATE FOLDERS SET CREATED_WHEN = '01/01/2024 00:00:00', MODIFIED_WHEN = '01/01/2024 00:00:00'");
+    Sql("UPDATE FOLDERS SET MODIFIED_WHEN = '03/01/2024 09:00:00' WHERE NAME = 'Other Beer'");
+    Sql("UPDATE STYLES SET CREATED_WHEN = '01/01/2024 00:00:00' WHERE NAME = 'Helles'");
+    // The brewer's own folder of recipes, made at that very second.
+    Sql("INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE, CREATED_WHEN) VALUES "
+        "(0, 'Winter', FALSE, '01/01/2024 00:00:00')");
+    AddHop();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT NAME, CREATED_WHEN, MODIFIED_WHEN FROM FOLDERS ORDER BY NAME"),
+                ElementsAre("Other Beer|NULL|03/01/2024 09:00:00", "Pale Beer|NULL|NULL",
+                            "Winter|01/01/2024 00:00:00|NULL"));
+    EXPECT_THAT(Rows("SELECT CREATED_WHEN, MODIFIED_WHEN FROM STYLES WHERE NAME = 'Helles'"),
+                ElementsAre("NULL|02/29/2024 13:05:07"));
+}
+
 TEST_F(CatalogueUpdateTest, AMovedStyleIsCorrectedWhereItIs) {
     Sql("UPDATE STYLES SET FOLDER_ID = 0 WHERE NAME = 'Pils'");
     Edit("styles.tsv", "22\t40", "22\t45");

@@ -3,6 +3,7 @@
 // 1 not made (the reasons are on standard error), 2 wrong arguments.
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
 
 #include "platform/Error.h"
@@ -13,9 +14,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-// A fixed date, so that every build gives the same styles and folders.
-constexpr tw::DateTime kCatalogueDate{.year = 2024, .month = 1, .day = 1};
 
 // The database under way, beside its target. Goes, with the files that the store keeps beside it, unless it
 // was put in its place.
@@ -48,7 +46,8 @@ int MakeDatabase(const std::string& folder, const fs::path& target) {
     {
         const auto database = tw::Database::CreateDatabase(part.Path(), "");
         tw::CreateSchema(*database);
-        problems = tw::LoadCatalogue(folder, *database, kCatalogueDate);
+        // No brewer has made them at any time; and every build gives the same database.
+        problems = tw::LoadCatalogue(folder, *database, std::nullopt);
     }
     for (const tw::CatalogueProblem& problem : problems) std::cerr << problem.Text() << '\n';
     if (!problems.empty()) return 1;
