@@ -1,6 +1,7 @@
 // Lists, trees, the picker and the choosers as widgets.
 #include "GuiTest.h"
 #include "document/ui/ListField.h"
+#include "platform/qt/Appearance.h"
 #include "tree/ui/FolderChooserView.h"
 #include "tree/ui/ListPane.h"
 #include "tree/ui/NodePictures.h"
@@ -117,6 +118,30 @@ TEST_F(ListWidget, EnterAndADoubleClickActivateARow) {
 
 TEST_F(ListWidget, TheColumnsFillItsWidth) {
     EXPECT_EQ(pane.columnWidth(0) + pane.columnWidth(1), pane.viewport()->width());
+}
+
+// Three texts as wide as they come, and a figure behind them.
+TEST_F(ListWidget, LongTextsGiveWayToTheFigures) {
+    const int digits = DigitsWidth(pane, 40), least = DigitsWidth(pane, 16);
+    list.SetColumns({{"Name"}, {"One"}, {"Two"}, {"Size", ListColumnKind::Number}});
+    ListRow row;
+    row.cells = {"Short", std::string(90, 'x'), std::string(90, 'x'), "1.050-1.060"};
+    list.SetRows({row});
+    const int name = pane.columnWidth(0), figure = pane.columnWidth(3);
+    // Wide enough: a long text ends at its limit, the name takes the rest.
+    pane.resize(pane.WantedWidth() + 50, 300);
+    EXPECT_EQ(pane.columnWidth(1), digits);
+    EXPECT_EQ(pane.header()->length(), pane.viewport()->width());
+    // Narrower: both give up as much, the figure nothing.
+    pane.resize(name + figure + digits + least, 300);
+    EXPECT_EQ(pane.header()->length(), pane.viewport()->width());
+    EXPECT_NEAR(pane.columnWidth(1), pane.columnWidth(2), 1);
+    EXPECT_LT(pane.columnWidth(1), digits);
+    EXPECT_EQ(pane.columnWidth(3), figure);
+    // Too narrow for all of them: there is a scroll bar anyway.
+    pane.resize(figure + least, 300);
+    EXPECT_EQ(pane.columnWidth(1), digits);
+    EXPECT_EQ(pane.columnWidth(3), figure);
 }
 
 TEST(NodePictures, EveryEntryHasOneThatHoldsOnBothGrounds) {
@@ -239,6 +264,31 @@ TEST_F(Choosers, AnEmptyPickerOffersNothing) {
     EXPECT_FALSE(picker.isVisible());
     EXPECT_FALSE(model.IsOpen());
     EXPECT_TRUE(model.Cancelled());
+}
+
+TEST_F(Choosers, AYeastShowsItsFiguresFromTheFirst) {
+    shell.DB()->Execute(
+        "INSERT INTO YEAST (NAME, DESCR, TYPE, FLOC, AA_LO, AA_HI, TEMP_LO, TEMP_HI) VALUES ('The Laboratory "
+        "of "
+        "the Long Street WLP099 Super High Gravity Ale Yeast', 'Ferments a strong wort dry and leaves it "
+        "clean "
+        "of nearly everything', 4, 'Very High', 65, 100.5, 61.5, 68.5)");
+    LvShowModel model(PickList::Yeast, *shell.DB(), shell.Tree(), "");
+    frmLvShow picker(model, nullptr);
+    picker.show();
+    QApplication::processEvents();
+    auto& list = *picker.findChild<ListPane*>();
+    const auto expectAll = [&](const char* size) {
+        EXPECT_EQ(list.header()->length(), list.viewport()->width()) << size;
+        for (const int col : {4, 5})
+            EXPECT_GE(list.columnWidth(col),
+                      list.fontMetrics().horizontalAdvance(list.model()->index(1, col).data().toString()))
+                << size;
+    };
+    expectAll("first");
+    picker.resize(picker.width() * 3 / 4, picker.height());
+    QApplication::processEvents();
+    expectAll("narrower");
 }
 
 TEST_F(Choosers, TheStyleListFollowsTheFolderByKey) {

@@ -1,9 +1,11 @@
 #include "tree/ui/ListPane.h"
 
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/GridHeader.h"
@@ -15,6 +17,8 @@ namespace {
 constexpr double kLinesPerRow = 1.5;
 // What a column asks for at most: a description must not push the figures out of sight.
 constexpr int kWidestInDigits = 40;
+// What a text keeps where it gives way to the figures behind it.
+constexpr int kLeastInDigits = 16;
 
 // Rows with some air, as those of the grids, and their texts in line with the header's.
 class RowDelegate final : public QStyledItemDelegate {
@@ -108,15 +112,45 @@ void ListPane::FitColumns() {
     fitting_ = false;
 }
 
-void ListPane::FitColumnsInto(int rest) {
+std::vector<int> ListPane::WantedWidths() const {
     const int widest = DigitsWidth(*this, kWidestInDigits);
-    for (int col = model_->columnCount() - 1; col > 0; --col) {
-        const int width = std::max(sizeHintForColumn(col) + Unit(*this), header()->sectionSizeHint(col));
-        setColumnWidth(col, std::min(width, std::max(widest, header()->sectionSizeHint(col))));
-        rest -= columnWidth(col);
+    std::vector<int> widths;
+    for (int col = 0; col < model_->columnCount(); ++col) {
+        const int title = header()->sectionSizeHint(col);
+        const int wanted = std::max(sizeHintForColumn(col) + Unit(*this), title);
+        widths.push_back(std::min(wanted, std::max(widest, title)));
     }
-    const int name = std::max(sizeHintForColumn(0) + Unit(*this), header()->sectionSizeHint(0));
-    setColumnWidth(0, std::max(std::min(name, widest), rest));
+    return widths;
+}
+
+int ListPane::WantedWidth() const {
+    const std::vector<int> widths = WantedWidths();
+    return std::accumulate(widths.begin(), widths.end(), 0) + 2 * frameWidth() +
+           verticalScrollBar()->sizeHint().width();
+}
+
+void ListPane::NarrowTexts(std::vector<int>& widths, int room) const {
+    std::vector<int> least = widths;
+    for (std::size_t col = 0; col < widths.size(); ++col)
+        if (list_.Columns()[col].kind == ListColumnKind::Text)
+            least[col] = std::min(widths[col], std::max(DigitsWidth(*this, kLeastInDigits),
+                                                        header()->sectionSizeHint(static_cast<int>(col))));
+    // What has to be scrolled anyway is not cut.
+    if (std::accumulate(least.begin(), least.end(), 0) > room) return;
+    for (int over = std::accumulate(widths.begin(), widths.end(), 0) - room; over > 0; --over) {
+        std::size_t widest = widths.size();
+        for (std::size_t col = 0; col < widths.size(); ++col)
+            if (widths[col] > least[col] && (widest == widths.size() || widths[col] > widths[widest]))
+                widest = col;
+        --widths[widest];
+    }
+}
+
+void ListPane::FitColumnsInto(int room) {
+    std::vector<int> widths = WantedWidths();
+    NarrowTexts(widths, room);
+    widths[0] = std::max(widths[0], room - std::accumulate(widths.begin() + 1, widths.end(), 0));
+    for (std::size_t col = 0; col < widths.size(); ++col) setColumnWidth(static_cast<int>(col), widths[col]);
 }
 
 void ListPane::keyPressEvent(QKeyEvent* event) {

@@ -4,6 +4,7 @@
 
 #include <QTreeView>
 #include <functional>
+#include <vector>
 
 #include "tree/NodeList.h"
 #include "tree/ui/RowView.h"
@@ -20,8 +21,12 @@ class ListPane final : public RowView<QTreeView> {
     // What a click on a column's header does; without it the list is sorted by the column, then the other way
     // round.
     void SetSort(std::function<void(int column)> sort) { sort_ = std::move(sort); }
-    // Makes the columns as wide as what they hold; the first takes what is left.
+    // Makes the columns as wide as what they hold, the first takes what is left. Where that is too much, the
+    // widest texts are cut for the figures, unless not even that brings all columns into sight.
     void FitColumns();
+    // How wide the list is in which all columns are as wide as what they hold, a long text no wider than a
+    // limit.
+    int WantedWidth() const;
 
   signals:
     // A double click, or Enter, on a row that can be chosen.
@@ -38,8 +43,11 @@ class ListPane final : public RowView<QTreeView> {
     void changeEvent(QEvent* event) override;
 
   private:
-    // One pass, for a viewport that is rest wide.
-    void FitColumnsInto(int rest);
+    // One pass, for a viewport that is room wide.
+    void FitColumnsInto(int room);
+    std::vector<int> WantedWidths() const;
+    // Takes from the widest texts what all columns are wider than room.
+    void NarrowTexts(std::vector<int>& widths, int room) const;
     void TellActivated() override { emit RowActivated(); }
     void TellChosen() override { emit ChosenChanged(); }
     void ShowRows() override;

@@ -2,9 +2,9 @@
 
 #include <QHBoxLayout>
 #include <QPushButton>
-#include <QScreen>
 #include <QSplitter>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
@@ -15,18 +15,10 @@
 namespace tw {
 namespace {
 
-constexpr int kWidthUnits = 128;
+constexpr int kLeastWidthUnits = 60;
+constexpr int kWidestUnits = 150;
 constexpr int kHeightUnits = 60;
 constexpr int kFolderUnits = 32;
-
-// How wide the list of each type is, in units: its columns tell.
-int ListUnits(const ListTable& list) {
-    constexpr int kNameUnits = 34, kTextUnits = 16, kNumberUnits = 10;
-    int units = kNameUnits;
-    for (const ListColumn& column : list.Columns())
-        units += column.kind == ListColumnKind::Text ? kTextUnits : kNumberUnits;
-    return std::min(units, kWidthUnits);
-}
 
 }  // namespace
 
@@ -47,22 +39,27 @@ frmLvShow::frmLvShow(LvShowModel& model, QWidget* parent) : QDialog(parent), mod
                                        : tr("There is nothing in this catalogue."));
     splitter->addWidget(items_);
     splitter->setStretchFactor(splitter->count() - 1, 1);
-    splitter->setSizes({Unit(*this) * kFolderUnits, Unit(*this) * kWidthUnits});
+    splitter->setSizes({Unit(*this) * kFolderUnits, Unit(*this) * kWidestUnits});
     column->addWidget(new ListFilterBox(model.Items(), *items_, this));
     column->addWidget(splitter, 1);
     column->addLayout(MakeButtons());
     connect(items_, &ListPane::ChosenChanged, this, &frmLvShow::ShowButtons);
     connect(items_, &ListPane::RowsChanged, this, &frmLvShow::ShowButtons);
     connect(items_, &ListPane::RowActivated, this, [this] { Press("cmdOK"); });
-    const int folders = model.HasFolders() ? kFolderUnits : 0;
-    const QSize size(Unit(*this) * (ListUnits(model.Items()) + folders), Unit(*this) * kHeightUnits);
-    resize(size.boundedTo(screen()->availableSize()));
+    resize(FirstWidth(), Unit(*this) * kHeightUnits);
     items_->setFocus();
     ShowButtons();
 }
 
 std::unique_ptr<QDialog> frmLvShow::Make(DialogModel& model, QWidget* parent) {
     return std::make_unique<frmLvShow>(dynamic_cast<LvShowModel&>(model), parent);
+}
+
+// All columns are in sight from the first.
+int frmLvShow::FirstWidth() const {
+    const int list = std::clamp(items_->WantedWidth() + Unit(*this) * 2 * kMarginUnits,
+                                Unit(*this) * kLeastWidthUnits, Unit(*this) * kWidestUnits);
+    return list + (model_.HasFolders() ? Unit(*this) * kFolderUnits : 0);
 }
 
 void frmLvShow::AddFolders(QSplitter& splitter) {

@@ -24,6 +24,7 @@ class frmLvShow final : public QDialog {
     void reject() override;
 
   private:
+    int FirstWidth() const;
     void AddFolders(QSplitter& splitter);
     QLayout* MakeButtons();
     void Press(const char* button);
