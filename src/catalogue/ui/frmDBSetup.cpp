@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
@@ -39,7 +38,7 @@ frmDBSetup::frmDBSetup(DBSetupModel& model, QWidget* parent)
     connect(items_, &ListPane::ChosenChanged, this, &frmDBSetup::ShowState);
     connect(items_, &ListPane::RowsChanged, this, &frmDBSetup::ShowState);
     connect(items_, &ListPane::RowActivated, this, [this] { Press("lvItems"); });
-    resize(QSize(Unit(*this) * kWidthUnits, Unit(*this) * kHeightUnits).boundedTo(screen()->availableSize()));
+    resize(Unit(*this) * kWidthUnits, Unit(*this) * kHeightUnits);
     items_->setFocus();
     ShowState();
 }

@@ -7,6 +7,7 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/GenericDialog.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/ScreenRoom.h"
 
 namespace tw {
 namespace {
@@ -26,14 +27,22 @@ std::unique_ptr<QDialog> QtDialogs::Make(DialogModel& dialog, QWidget* parent) c
     return found->second(dialog, parent);
 }
 
-void QtDialogs::RestoreSize(QDialog& window) const {
+QSize QtDialogs::KeptSize(const QDialog& window) const {
     const auto stored = sizes_.Read(SettingsPort::Layer::User, kSection, FromQt(window.objectName()));
     const QStringList sides = ToQt(stored.value_or(std::string())).split(QLatin1Char('x'));
-    if (sides.size() != 2) return;
+    if (sides.size() != 2) return {};
     const double dots = window.screen()->logicalDotsPerInch();
-    const QSize size(PixelsOfTwips(sides[0].toInt(), dots), PixelsOfTwips(sides[1].toInt(), dots));
-    if (!size.isEmpty())
-        window.resize(size.expandedTo(window.minimumSizeHint()).boundedTo(window.screen()->availableSize()));
+    return {PixelsOfTwips(sides[0].toInt(), dots), PixelsOfTwips(sides[1].toInt(), dots)};
+}
+
+void QtDialogs::SetSize(QDialog& window) const {
+    QSize wanted = KeptSize(window);
+    if (wanted.isEmpty() && !window.testAttribute(Qt::WA_Resized)) {
+        // Qt stops at two thirds of the screen, which on a small one is less than the contents ask for.
+        window.adjustSize();
+        wanted = window.size().expandedTo(window.sizeHint());
+    }
+    ResizeIntoRoom(window, wanted.isEmpty() ? window.size() : wanted);
 }
 
 void QtDialogs::KeepSize(const QDialog& window) const {
@@ -45,10 +54,12 @@ void QtDialogs::KeepSize(const QDialog& window) const {
 
 void QtDialogs::ShowModal(DialogModel& dialog) {
     const std::unique_ptr<QDialog> window = Make(dialog, QApplication::activeWindow());
-    RestoreSize(*window);
+    SetSize(*window);
+    const QSize opened = window->size();
     if (help_) InstallHelpKey(*window, dialog.FormName(), help_);
     window->exec();
-    KeepSize(*window);
+    // A size that nobody chose follows the screen and the font at the next time, too.
+    if (window->size() != opened) KeepSize(*window);
     if (dialog.IsOpen()) dialog.CloseBox();
 }
 

@@ -1,5 +1,5 @@
 // Shows modal dialogs: each form by its name in a window of its own; a form without one in a plain list of
-// its controls. Every window comes up in the size that it was left in.
+// its controls. Every window comes up in the size that it was left in, as far as the screen has room for it.
 #pragma once
 
 #include <functional>
@@ -12,6 +12,7 @@
 #include "platform/qt/HelpKey.h"
 
 class QDialog;
+class QSize;
 class QWidget;
 
 namespace tw {
@@ -33,7 +34,10 @@ class QtDialogs final : public DialogPort {
     std::unique_ptr<QDialog> Make(DialogModel& dialog, QWidget* parent) const;
 
   private:
-    void RestoreSize(QDialog& window) const;
+    // Empty when none was kept.
+    QSize KeptSize(const QDialog& window) const;
+    // The size in which the window was left, or its first one, within the screen.
+    void SetSize(QDialog& window) const;
     void KeepSize(const QDialog& window) const;
 
     SettingsPort& sizes_;

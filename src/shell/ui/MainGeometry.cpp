@@ -2,9 +2,9 @@
 
 #include <QMainWindow>
 #include <QScreen>
-#include <algorithm>
 
 #include "platform/qt/Appearance.h"
+#include "platform/qt/ScreenRoom.h"
 
 namespace tw {
 namespace {
@@ -29,20 +29,16 @@ QSize FirstSize(const QWidget& window) {
     return kFirstUnits * Unit(window);
 }
 
-QRect GeometryOf(const Settings& settings, double dotsPerInch, const QSize& least, const QRect& screen) {
+QRect GeometryOf(const Settings& settings, double dotsPerInch, const QSize& least, const QRect& room) {
     const auto pixels = [&](double twips) { return PixelsOfTwips(twips, dotsPerInch); };
     const QSize wanted = QSize(pixels(settings.mainWidth), pixels(settings.mainHeight)).expandedTo(least);
-    const QSize size = wanted.boundedTo(screen.size());
-    const int left = std::clamp(pixels(settings.mainLeft), screen.left(), screen.right() + 1 - size.width());
-    const int top = std::clamp(pixels(settings.mainTop), screen.top(), screen.bottom() + 1 - size.height());
-    return {QPoint(left, top), size};
+    return FittedInto({QPoint(pixels(settings.mainLeft), pixels(settings.mainTop)), wanted}, room);
 }
 
 void ApplyGeometry(QMainWindow& window, const Settings& settings, const SettingsStore& store) {
     const QScreen& screen = *window.screen();
     const QSize least = IsFirstStart(store) ? FirstSize(window) : window.minimumSize();
-    const QRect geometry =
-        GeometryOf(settings, screen.logicalDotsPerInch(), least, screen.availableGeometry());
+    const QRect geometry = GeometryOf(settings, screen.logicalDotsPerInch(), least, RoomOf(window));
     window.setMinimumSize(window.minimumSize().boundedTo(geometry.size()));
     window.resize(geometry.size());
     window.move(geometry.topLeft());

@@ -1,0 +1,124 @@
+// Windows come up within the screen, in their first size and in one that was kept.
+#include <QScreen>
+
+#include "GuiTest.h"
+#include "platform/qt/QtDialogs.h"
+#include "platform/qt/ScreenRoom.h"
+#include "shell/AboutModel.h"
+#include "shell/ui/MainGeometry.h"
+
+namespace tw::test {
+namespace {
+
+// Asks for that size and can do with less.
+class Contents : public QWidget {
+  public:
+    Contents(const QSize& wanted, QWidget* parent) : QWidget(parent), wanted_(wanted) {}
+    QSize sizeHint() const override { return wanted_; }
+
+  private:
+    QSize wanted_;
+};
+
+class WindowSizes : public GuiTest {
+  protected:
+    // The size in which the dialog comes up that prepare has made ready; it is left in the size left, if any.
+    QSize Opened(const std::function<void(QDialog&)>& prepare, const QSize& left = {}) {
+        QtDialogs dialogs(outside.settings);
+        QSize opened;
+        dialogs.Register("frmAbout", [&](DialogModel&, QWidget* parent) {
+            auto dialog = std::make_unique<QDialog>(parent);
+            dialog->setObjectName(QStringLiteral("frmAbout"));
+            prepare(*dialog);
+            QTimer::singleShot(0, dialog.get(), [&, shown = dialog.get()] {
+                opened = shown->size();
+                if (!left.isEmpty()) shown->resize(left);
+                shown->reject();
+            });
+            return dialog;
+        });
+        AboutModel about;
+        dialogs.ShowModal(about);
+        return opened;
+    }
+    QSize Opened(const QSize& first, const QSize& left = {}) {
+        return Opened([&](QDialog& dialog) { dialog.resize(first); }, left);
+    }
+    std::optional<std::string> Kept() {
+        return outside.settings.Read(SettingsPort::Layer::User, "Windows", "frmAbout");
+    }
+};
+
+TEST_F(WindowSizes, TheFrameOfAWindowNeedsRoomToo) {
+    const QRect free = window.screen()->availableGeometry();
+    const QMargins frame = window.windowHandle()->frameMargins();
+    ASSERT_FALSE(frame.isNull());
+    EXPECT_EQ(RoomOf(window), QRect(free.topLeft(), free.size() - QSize(frame.left() + frame.right(),
+                                                                        frame.top() + frame.bottom())));
+    // Before there is a window, one of the usual size.
+    window.hide();
+    EXPECT_EQ(RoomOf(window), QRect(free.topLeft(), free.size() - QSize(10, 40)));
+}
+
+TEST_F(WindowSizes, AFirstSizeIsNoLargerThanTheScreen) {
+    EXPECT_EQ(Opened(QSize(300, 200)), QSize(300, 200));
+    EXPECT_EQ(Opened(QSize(5000, 200)), QSize(RoomOf(window).width(), 200));
+    EXPECT_EQ(Opened(QSize(5000, 4000)), RoomOf(window).size());
+}
+
+// Two thirds of the screen, where Qt stops, is less than they ask for.
+TEST_F(WindowSizes, ADialogIsAsLargeAsItsContentsAsk) {
+    const auto fill = [](QDialog& dialog) {
+        auto* column = new QVBoxLayout(&dialog);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->addWidget(new Contents({650, 600}, &dialog));
+    };
+    ASSERT_GT(650, window.screen()->availableSize().width() * 2 / 3);
+    EXPECT_EQ(Opened(fill), QSize(650, 600));
+}
+
+TEST_F(WindowSizes, AKeptSizeIsNoLargerThanTheScreen) {
+    outside.settings.Write(SettingsPort::Layer::User, "Windows", "frmAbout", "90000x90000");
+    EXPECT_EQ(Opened(QSize(300, 200)), RoomOf(window).size());
+    // It is still the one to take on a larger screen.
+    EXPECT_EQ(Kept(), "90000x90000");
+    outside.settings.Write(SettingsPort::Layer::User, "Windows", "frmAbout", "wide");
+    EXPECT_EQ(Opened(QSize(300, 200)), QSize(300, 200));
+}
+
+// 15 twips are a pixel at 96 dots per inch.
+TEST_F(WindowSizes, OnlyASizeThatTheBrewerChoseIsKept) {
+    Opened(QSize(300, 200));
+    EXPECT_EQ(Kept(), std::nullopt);
+    Opened(QSize(300, 200), QSize(400, 250));
+    EXPECT_EQ(Kept(), "6000x3750");
+    EXPECT_EQ(Opened(QSize(300, 200)), QSize(400, 250));
+}
+
+TEST_F(WindowSizes, TheMainWindowFitsAtTheFirstStartAndLater) {
+    const QRect room = RoomOf(window);
+    const auto place = [&](const Settings& settings) {
+        QMainWindow main;
+        ApplyGeometry(main, settings, shell.Store());
+        return QRect(main.pos(), main.size());
+    };
+    ASSERT_TRUE(room.width() < FirstSize(window).width());
+    const QRect first = place(Settings());
+    EXPECT_EQ(first.left(), room.left());
+    EXPECT_EQ(first.size(), FirstSize(window).boundedTo(room.size()));
+    EXPECT_TRUE(room.contains(first));
+    Settings larger;
+    larger.mainLeft = larger.mainTop = larger.mainWidth = larger.mainHeight = 60000;
+    outside.settings.Write(SettingsPort::Layer::User, "Settings", "MainWidth", "60000");
+    EXPECT_EQ(place(larger), room);
+}
+
+TEST(ScreenRoom, MovesBeforeItShrinks) {
+    const QRect room(10, 20, 1000, 700);
+    EXPECT_EQ(FittedInto({100, 100, 500, 400}, room), QRect(100, 100, 500, 400));
+    EXPECT_EQ(FittedInto({900, 600, 500, 400}, room), QRect(510, 320, 500, 400));
+    EXPECT_EQ(FittedInto({-50, 0, 500, 900}, room), QRect(10, 20, 500, 700));
+}
+
+}  // namespace
+}  // namespace tw::test
