@@ -127,7 +127,14 @@ TEST_F(ConverterWindow, ATextThatIsNoNumberHasItsBoxWithTheKeyAndAsItIsLeft) {
 }
 
 TEST_F(ConverterWindow, ABeginningOfANumberHasItsBoxOnlyAsItIsLeft) {
-    Type("-");
+    for (const char* beginning : {".", "~", "~-", "-."}) {
+        Retype("5");
+        Retype(beginning);
+        EXPECT_EQ(messages.log, Strings{}) << beginning;
+        // As it was for the figure before, 5 pounds.
+        EXPECT_EQ(FromQt(In<QLineEdit>("Text2").text()), "80") << beginning;
+    }
+    Retype("-");
     EXPECT_EQ(messages.log, Strings{});
     Key(Qt::Key_Return);
     EXPECT_EQ(messages.TakeLog(), Strings{kNoNumber});
