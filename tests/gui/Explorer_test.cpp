@@ -1,4 +1,6 @@
 // The explorer by keyboard and mouse.
+#include <gmock/gmock.h>
+
 #include "BrowseTest.h"
 #include "tree/ui/NodePictures.h"
 #include "tree/ui/frmExplorer.h"
@@ -375,6 +377,13 @@ TEST_F(ExplorerWindow, TheStylesOpenWithTheirFirstRowsInSight) {
     Button("optRecipes").click();
     Button("optStyles").click();
     EXPECT_EQ(Tree().verticalScrollBar()->value(), end);
+}
+
+TEST_F(ExplorerWindow, TheTreeTellsInATipWhatItCuts) {
+    EXPECT_EQ(FromQt(Node("F:1").data(Qt::ToolTipRole).toString()), "Winter");
+    shell.Objects().RenameObject("F:1", "<b>Winter</b>", true);
+    model->Settle();
+    EXPECT_THAT(FromQt(Node("F:1").data(Qt::ToolTipRole).toString()), testing::HasSubstr("&lt;b&gt;"));
 }
 
 TEST_F(ExplorerWindow, AClickOnAHeaderSortsBothLists) {

@@ -17,8 +17,9 @@ namespace {
 constexpr double kLinesPerRow = 1.5;
 // What a column asks for at most: a description must not push the figures out of sight.
 constexpr int kWidestInDigits = 40;
-// What a text keeps where it gives way to the figures behind it.
-constexpr int kLeastInDigits = 16;
+// What the name, and any other text, keeps where it gives way to the figures behind it.
+constexpr int kLeastNameInDigits = 26;
+constexpr int kLeastTextInDigits = 16;
 
 // Rows with some air, as those of the grids, and their texts in line with the header's.
 class RowDelegate final : public QStyledItemDelegate {
@@ -131,10 +132,11 @@ int ListPane::WantedWidth() const {
 
 void ListPane::NarrowTexts(std::vector<int>& widths, int room) const {
     std::vector<int> least = widths;
-    for (std::size_t col = 0; col < widths.size(); ++col)
-        if (list_.Columns()[col].kind == ListColumnKind::Text)
-            least[col] = std::min(widths[col], std::max(DigitsWidth(*this, kLeastInDigits),
-                                                        header()->sectionSizeHint(static_cast<int>(col))));
+    for (std::size_t col = 0; col < widths.size(); ++col) {
+        if (list_.Columns()[col].kind != ListColumnKind::Text) continue;
+        const int text = DigitsWidth(*this, col == 0 ? kLeastNameInDigits : kLeastTextInDigits);
+        least[col] = std::min(widths[col], std::max(text, header()->sectionSizeHint(static_cast<int>(col))));
+    }
     // What has to be scrolled anyway is not cut.
     if (std::accumulate(least.begin(), least.end(), 0) > room) return;
     for (int over = std::accumulate(widths.begin(), widths.end(), 0) - room; over > 0; --over) {

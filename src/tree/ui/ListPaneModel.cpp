@@ -9,6 +9,7 @@
 #include "platform/qt/QtText.h"
 #include "store/DB_IO.h"
 #include "tree/NodeList.h"
+#include "tree/ui/NameTip.h"
 #include "tree/ui/NodePictures.h"
 
 namespace tw {
@@ -61,10 +62,7 @@ QString ListPaneModel::TipOf(const ListRow& row, std::size_t col) const {
     QString tip = ToQt(row.cells[col]).trimmed();
     if (col == 0 && list_.Columns().back().title == kFolderColumn)
         tip += QLatin1Char('\n') + ToQt(row.cells.back()).trimmed();
-    constexpr qsizetype kLongest = 200;
-    tip = CutLines(tip, kLongest);
-    // A name may look like markup.
-    return Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip;
+    return NameTip(tip);
 }
 
 QVariant ListPaneModel::data(const QModelIndex& index, int role) const {

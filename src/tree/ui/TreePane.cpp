@@ -9,6 +9,7 @@
 #include "platform/qt/QtText.h"
 #include "store/DB_IO.h"
 #include "tree/ui/InPlaceEditor.h"
+#include "tree/ui/NameTip.h"
 #include "tree/ui/NodePictures.h"
 
 namespace tw {
@@ -62,6 +63,8 @@ QVariant TreePaneModel::data(const QModelIndex& index, int role) const {
         case Qt::DisplayRole:
         case Qt::EditRole:
             return ToQt(items_.Text(item));
+        case Qt::ToolTipRole:
+            return NameTip(ToQt(items_.Text(item)));
         case Qt::DecorationRole:
             return NodePicture(items_.Icon(item, items_.Selected() == item));
         default:

@@ -24,7 +24,7 @@ namespace {
 
 constexpr int kWidthUnits = 140;
 constexpr int kHeightUnits = 80;
-constexpr int kTreeUnits = 34;
+constexpr int kTreeUnits = 42;
 constexpr int kFindUnits = 34;
 
 }  // namespace
