@@ -16,6 +16,8 @@ constexpr double kSectionGap = 0.25;
 constexpr double kRulePlace = 0.8;
 constexpr double kColumnGap = 0.25;
 constexpr double kWrapMargin = 0.5;
+// Where a text that is too wide for one line goes on.
+constexpr double kFurtherIndent = 0.15;
 constexpr int kDefaultPoints = 10;
 constexpr int kSmallPoints = 8;
 // Small enough that the lowered text still ends above the foot of its line.
@@ -25,8 +27,6 @@ constexpr std::string_view kFamily = "Arial";
 constexpr std::string_view kTitleFamily = "Times New Roman";
 // Stands for an empty line when its height is measured.
 constexpr std::string_view kProbe = "ABCMfgpy|`'\"_";
-// The first step of the search for the piece of a line that fits: about a line of small letters.
-constexpr std::size_t kFirstGuess = 128;
 
 }  // namespace
 
@@ -42,6 +42,7 @@ void PrintLayout::BeginPrint(std::unique_ptr<PrinterDevice> device, const std::s
 }
 
 void PrintLayout::EndPrint() {
+    DrawLine();
     PageFooter();
     printer_.FinishDoc();
 }
@@ -58,40 +59,117 @@ void PrintLayout::DefaultFont() {
 }
 
 void PrintLayout::HomeCursor() {
-    cursorX_ = kMargin;
+    BeginLine(kMargin);
     cursorY_ = kMargin;
 }
 
+PrintSize PrintLayout::SizeOf(const PrintFont& font, std::string_view text) {
+    SetFont(font);
+    return printer_.GetTextSize(text);
+}
+
+std::vector<PrintRuns> PrintLayout::LinesOf(const PrintRuns& runs, double first, double further) {
+    return BreakLines(runs, first, further, [this](const PrintFont& font, std::string_view text) {
+        return SizeOf(font, text).width;
+    });
+}
+
+double PrintLayout::Width(const PrintRuns& runs) {
+    double width = 0;
+    for (const PrintRun& run : runs) width += SizeOf(run.font, run.text).width;
+    return width;
+}
+
+// It ends at the right margin and touches the foot of the page. A long one takes the lines above that too;
+// the page ends with its number, so that lines before that are left out when there is no room for all.
 void PrintLayout::PageFooter() {
-    SetFont({std::string(kFamily), kSmallPoints, false, true});
-    const std::string text = pageTitle_ + " - Page " + NumberText(pageNumber_);
-    const PrintSize size = printer_.GetTextSize(text);
-    printer_.TextOut(text, printableRight_ - size.width, pageHeight_ - size.height);
+    const PrintFont font{std::string(kFamily), kSmallPoints, false, true};
+    const double room = printableRight_ - kMargin;
+    std::vector<PrintRuns> lines =
+        LinesOf({{font, pageTitle_ + " - Page " + NumberText(pageNumber_)}}, room, room);
+    const double height = SizeOf(font, kProbe).height;
+    const auto fitting = std::max(1, static_cast<int>((pageHeight_ - printableBottom_) / height));
+    const auto surplus = static_cast<std::ptrdiff_t>(lines.size()) - fitting;
+    if (surplus > 0) lines.erase(lines.end() - 1 - surplus, lines.end() - 1);
+    double y = pageHeight_ - height * static_cast<double>(lines.size());
+    for (const PrintRuns& line : lines) {
+        const double x = printableRight_ - Width(line);
+        for (const PrintRun& run : line) printer_.TextOut(run.text, x, y);
+        y += height;
+    }
     DefaultFont();
 }
 
 void PrintLayout::NextPage() {
     PageFooter();
     printer_.NewPage();
-    HomeCursor();
+    cursorY_ = kMargin;
     pageNumber_ += 1;
 }
 
+void PrintLayout::BeginLine(double left) {
+    line_ = {{left, printableRight_}};
+}
+
+void PrintLayout::Add(std::string_view text, double drop, std::optional<Rgb> swatch) {
+    line_.back().runs.push_back({printer_.Font(), std::string(text), drop, swatch});
+}
+
 void PrintLayout::PrintText(std::string_view text) {
-    const PrintSize size = printer_.GetTextSize(text);
-    if (cursorY_ + size.height > printableBottom_) {
-        const PrintFont font = printer_.Font();
-        NextPage();
-        SetFont(font);
+    Add(text);
+}
+
+// The lines of all columns go down the page together, so that a page breaks between two of them.
+void PrintLayout::DrawLine() {
+    const std::vector<Cell> cells = std::exchange(line_, {});
+    BeginLine(kMargin);
+    const PrintFont font = printer_.Font();
+    std::vector<std::vector<PrintRuns>> columns;
+    std::size_t count = 0;
+    for (const Cell& cell : cells) {
+        const double room = cell.right - cell.left;
+        columns.push_back(LinesOf(cell.runs, room, room - kFurtherIndent));
+        count = std::max(count, columns.back().size());
     }
-    printer_.TextOut(text, cursorX_, cursorY_);
-    cursorX_ += size.width;
+    for (std::size_t line = 0; line < count; ++line) {
+        std::vector<const PrintRuns*> pieces;
+        for (const auto& column : columns) pieces.push_back(line < column.size() ? &column[line] : nullptr);
+        const double height = LineHeight(pieces);
+        if (height > 0 && cursorY_ + height > printableBottom_) NextPage();
+        for (std::size_t i = 0; i < cells.size(); ++i)
+            if (pieces[i]) DrawPiece(*pieces[i], cells[i].left + (line == 0 ? 0 : kFurtherIndent));
+        if (line + 1 < count) cursorY_ += height * kLineSpacing;
+    }
+    SetFont(font);
+}
+
+void PrintLayout::DrawPiece(const PrintRuns& runs, double left) {
+    for (const PrintRun& run : runs) {
+        const PrintSize size = SizeOf(run.font, run.text);
+        const double y = cursorY_ + run.drop;
+        if (run.swatch) {
+            printer_.Box(left, y, left + size.width, y + size.height, *run.swatch);
+            continue;
+        }
+        printer_.TextOut(run.text, left, y);
+        left += size.width;
+    }
+}
+
+// 0 for a line without anything on it, which breaks no page.
+double PrintLayout::LineHeight(const std::vector<const PrintRuns*>& pieces) {
+    double height = 0;
+    for (const PrintRuns* runs : pieces) {
+        if (!runs) continue;
+        for (const PrintRun& run : *runs)
+            height = std::max(height, run.drop + SizeOf(run.font, run.text).height);
+    }
+    return height;
 }
 
 void PrintLayout::NewLine(std::string_view text) {
-    const PrintSize size = printer_.GetTextSize(text.empty() ? kProbe : text);
-    cursorX_ = kMargin;
-    cursorY_ += size.height * kLineSpacing;
+    DrawLine();
+    cursorY_ += printer_.GetTextSize(text.empty() ? kProbe : text).height * kLineSpacing;
 }
 
 void PrintLayout::PrintLine(std::string_view text) {
@@ -108,11 +186,9 @@ void PrintLayout::PrintLabel(std::string_view text) {
 void PrintLayout::PrintSubscript(std::string_view text) {
     printer_.FontBold(true);
     const double drop = printer_.GetTextSize("CO").height * kSubscriptDrop;
-    cursorY_ += drop;
     printer_.FontSize(kSubscriptPoints);
-    PrintText(text);
+    Add(text, drop);
     DefaultFont();
-    cursorY_ -= drop;
 }
 
 void PrintLayout::PrintSection(std::string_view text) {
@@ -125,10 +201,14 @@ void PrintLayout::PrintSection(std::string_view text) {
 }
 
 void PrintLayout::PrintTitle(std::string_view text, int points) {
-    SetFont({std::string(kTitleFamily), points, true, false});
-    const double width = printer_.GetTextSize(text).width;
-    cursorX_ = (printableRight_ - kMargin - width) / 2 + kMargin;
-    PrintLine(text);
+    const double room = printableRight_ - kMargin;
+    PrintFont font{std::string(kTitleFamily), points, true, false};
+    while (font.points > kSmallPoints && SizeOf(font, text).width > room) --font.points;
+    for (const PrintRuns& line : LinesOf({{font, std::string(text)}}, room, room)) {
+        BeginLine((room - Width(line)) / 2 + kMargin);
+        SetFont(font);
+        PrintLine(line.empty() ? std::string_view() : line.front().text);
+    }
     DefaultFont();
 }
 
@@ -139,13 +219,21 @@ void PrintLayout::PrintRule() {
     NewLine("A");
 }
 
+double PrintLayout::ColumnMiddle() const {
+    return (printableRight_ - kMargin) / 2 + kMargin;
+}
+
+void PrintLayout::EndLeftColumn() {
+    line_.back().right = ColumnMiddle();
+}
+
 void PrintLayout::SecondColumn() {
-    cursorX_ = (printableRight_ - kMargin) / 2 + kMargin + kColumnGap;
+    EndLeftColumn();
+    line_.push_back({ColumnMiddle() + kColumnGap, printableRight_});
 }
 
 void PrintLayout::PrintSwatch(Rgb color) {
-    const PrintSize size = printer_.GetTextSize("ABC");
-    printer_.Box(cursorX_, cursorY_, cursorX_ + size.width, cursorY_ + size.height, color);
+    Add("ABC", 0, color);
 }
 
 void PrintLayout::PrintSmallNote(std::string_view text) {
@@ -168,47 +256,15 @@ void PrintLayout::PrintWrapped(std::string_view text) {
 void PrintLayout::PrintWrappedLine(std::string_view line) {
     if (IsBlank(line)) return NewLine();
     const double limit = printableRight_ - kWrapMargin;
-    while (!IsBlank(line)) {
-        const std::size_t fitting = FittingPiece(line, limit);
-        if (fitting == line.size()) return PrintLine(line);
-        // The last blank before which the text fits; the blank itself is dropped. Every blank counts, on
-        // purpose, also one of an indent before a word that is too long for the line.
-        const std::size_t blank = line.rfind(' ', fitting);
-        const bool atBlank = blank != std::string_view::npos;
-        PrintLine(line.substr(0, atBlank ? blank : fitting));
-        line.remove_prefix(atBlank ? blank + 1 : fitting);
-    }
-}
-
-bool PrintLayout::Fits(std::string_view text, double limit) {
-    return printer_.GetTextSize(text).width <= limit;
-}
-
-// The bytes of the longest piece at the front of line that fits, whole characters, at least one. A piece is
-// found in a few measurements whatever the length of the line, so that no note takes long to print.
-std::size_t PrintLayout::FittingPiece(std::string_view line, double limit) {
-    std::size_t good = 1;  // characters that fit, or the one that goes in any case
-    std::size_t bad = kFirstGuess;
-    while (CodePointOffset(line, bad) < line.size() &&
-           Fits(line.substr(0, CodePointOffset(line, bad)), limit)) {
-        good = bad;
-        bad *= 2;
-    }
-    if (CodePointOffset(line, bad) == line.size()) {
-        if (Fits(line, limit)) return line.size();
-        bad = CodePointCount(line);
-    }
-    while (bad - good > 1) {
-        const std::size_t middle = good + (bad - good) / 2;
-        (Fits(line.substr(0, CodePointOffset(line, middle)), limit) ? good : bad) = middle;
-    }
-    return CodePointOffset(line, good);
+    for (const PrintRuns& piece : LinesOf({{printer_.Font(), std::string(line)}}, limit, limit))
+        PrintLine(piece.empty() ? std::string_view() : piece.front().text);
 }
 
 void PrintLayout::PrintTwoColumns(const std::vector<std::string>& texts) {
     const std::size_t left = (texts.size() + 1) / 2;
     for (std::size_t row = 0; row < left; ++row) {
         PrintText(texts[row]);
+        EndLeftColumn();
         if (left + row < texts.size()) {
             SecondColumn();
             PrintText(texts[left + row]);

@@ -29,6 +29,12 @@ class PrintLayoutTest : public testing::Test {
         return texts;
     }
     const PrintStep& Last() const { return steps.steps.back(); }
+    // The texts of a line that is ended now, in their order.
+    std::vector<PrintStep> EndLine() {
+        const std::size_t before = steps.steps.size();
+        layout.NewLine();
+        return {steps.steps.begin() + static_cast<std::ptrdiff_t>(before), steps.steps.end()};
+    }
     void Lines(int count) {
         for (int i = 0; i < count; ++i) layout.PrintLine("line " + std::to_string(i));
     }
@@ -41,45 +47,51 @@ class PrintLayoutTest : public testing::Test {
 
 TEST_F(PrintLayoutTest, TextBeginsHalfAnInchFromTheCornerAndGoesOnBehindItself) {
     layout.PrintText("abc");
-    EXPECT_NEAR(Last().x1, 0.5, 1e-9);
-    EXPECT_NEAR(Last().y1, 0.5, 1e-9);
-    EXPECT_EQ(Last().font, (PrintFont{"Arial", 10, false, false}));
     layout.PrintText("d");
-    EXPECT_NEAR(Last().x1, 0.75, 1e-9);
-    EXPECT_NEAR(Last().y1, 0.5, 1e-9);
+    const std::vector<PrintStep> line = EndLine();
+    ASSERT_EQ(line.size(), 2U);
+    EXPECT_NEAR(line[0].x1, 0.5, 1e-9);
+    EXPECT_NEAR(line[0].y1, 0.5, 1e-9);
+    EXPECT_EQ(line[0].font, (PrintFont{"Arial", 10, false, false}));
+    EXPECT_NEAR(line[1].x1, 0.75, 1e-9);
+    EXPECT_NEAR(line[1].y1, 0.5, 1e-9);
 }
 
 TEST_F(PrintLayoutTest, ALineIsFiveHundredthsHigherThanItsText) {
     layout.PrintLine("abc");
     layout.PrintLine("");
-    layout.PrintText("d");
+    layout.PrintLine("d");
     EXPECT_NEAR(Last().x1, 0.5, 1e-9);
     EXPECT_NEAR(Last().y1, 0.5 + 2 * 0.175, 1e-9);
 }
 
 TEST_F(PrintLayoutTest, LabelsAreBoldAndTheTextBehindThemIsNot) {
     layout.PrintLabel("OG: ");
-    EXPECT_TRUE(Last().font.bold);
     layout.PrintText("1.050");
-    EXPECT_FALSE(Last().font.bold);
-    EXPECT_NEAR(Last().x1, 0.5 + 4 * 0.0833333, 1e-6);
+    const std::vector<PrintStep> line = EndLine();
+    ASSERT_EQ(line.size(), 2U);
+    EXPECT_TRUE(line[0].font.bold);
+    EXPECT_FALSE(line[1].font.bold);
+    EXPECT_NEAR(line[1].x1, 0.5 + 4 * 0.0833333, 1e-6);
 }
 
 TEST_F(PrintLayoutTest, ASubscriptIsSmallerAndLowerAndTheLineGoesOn) {
     layout.PrintLabel("CO");
     layout.PrintSubscript("2");
-    EXPECT_TRUE(Last().font.bold);
-    EXPECT_LT(Last().font.points, 10);
-    EXPECT_NEAR(Last().y1, 0.5 + 0.3 / 6, 1e-9);
     layout.PrintText("x");
-    EXPECT_NEAR(Last().y1, 0.5, 1e-9);
-    EXPECT_EQ(Last().font, (PrintFont{"Arial", 10, false, false}));
+    const std::vector<PrintStep> line = EndLine();
+    ASSERT_EQ(line.size(), 3U);
+    EXPECT_TRUE(line[1].font.bold);
+    EXPECT_LT(line[1].font.points, 10);
+    EXPECT_NEAR(line[1].y1, 0.5 + 0.3 / 6, 1e-9);
+    EXPECT_NEAR(line[2].y1, 0.5, 1e-9);
+    EXPECT_EQ(line[2].font, (PrintFont{"Arial", 10, false, false}));
 }
 
 TEST_F(PrintLayoutTest, ASectionHasAGapBelowIt) {
     layout.PrintSection("Hops");
     EXPECT_EQ(Last().font, (PrintFont{"Arial", 12, true, true}));
-    layout.PrintText("x");
+    layout.PrintLine("x");
     // 12 points are 0.2 inches high: 1.05 times that, and a quarter of it.
     EXPECT_NEAR(Last().y1, 0.5 + 0.21 + 0.05, 1e-9);
 }
@@ -102,12 +114,14 @@ TEST_F(PrintLayoutTest, ARuleRunsAcrossThePage) {
 
 TEST_F(PrintLayoutTest, TheSwatchIsThreeLettersLargeAndInItsColor) {
     layout.PrintSwatch({10, 20, 30});
-    EXPECT_EQ(Last().kind, Kind::Box);
-    EXPECT_EQ(Last().color, (Rgb{10, 20, 30}));
-    EXPECT_NEAR(Last().x2 - Last().x1, 0.25, 1e-9);
-    EXPECT_NEAR(Last().y2 - Last().y1, 1.0 / 6, 1e-9);
     layout.PrintText("x");
-    EXPECT_NEAR(Last().x1, 0.5, 1e-9);
+    const std::vector<PrintStep> line = EndLine();
+    ASSERT_EQ(line.size(), 2U);
+    EXPECT_EQ(line[0].kind, Kind::Box);
+    EXPECT_EQ(line[0].color, (Rgb{10, 20, 30}));
+    EXPECT_NEAR(line[0].x2 - line[0].x1, 0.25, 1e-9);
+    EXPECT_NEAR(line[0].y2 - line[0].y1, 1.0 / 6, 1e-9);
+    EXPECT_NEAR(line[1].x1, 0.5, 1e-9);
 }
 
 TEST_F(PrintLayoutTest, SmallNotesAreItalic) {
@@ -130,13 +144,14 @@ TEST_F(PrintLayoutTest, OnlyATextBreaksThePage) {
     Lines(57);
     for (int i = 0; i < 20; ++i) layout.NewLine();
     layout.PrintRule();
-    layout.PrintSwatch({1, 1, 1});
+    layout.NewLine();
     EXPECT_EQ(steps.Pages(), 1);
 }
 
 TEST_F(PrintLayoutTest, AfterAPageBreakTheTextHasItsOwnFont) {
     Lines(57);
     layout.PrintLabel("Bold: ");
+    layout.NewLine();
     ASSERT_EQ(steps.Pages(), 2);
     EXPECT_EQ(Last().font, (PrintFont{"Arial", 10, true, false}));
     const PrintStep& footer = *(steps.steps.end() - 3);
@@ -232,7 +247,7 @@ TEST_F(PrintLayoutTest, EmptyLinesStay) {
 TEST_F(PrintLayoutTest, ABlankTextPrintsNothing) {
     layout.PrintWrapped("   ");
     layout.PrintWrapped("");
-    layout.PrintText("x");
+    layout.PrintLine("x");
     EXPECT_NEAR(Last().y1, 0.5, 1e-9);
 }
 
