@@ -20,6 +20,7 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtDialogs.h"
 #include "reports/ChooseFontModel.h"
+#include "reports/NoPrinterModel.h"
 #include "reports/PrintFmtOptionsModel.h"
 #include "reports/PrintPreviewModel.h"
 #include "reports/PrintWizardModel.h"
@@ -200,6 +201,8 @@ bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
             Paper::A4);
         ok &= SaveDialog(dialogs, preview, parent, prefix + QStringLiteral("print-preview.png"));
     }
+    NoPrinterModel noPrinter;
+    ok &= SaveDialog(dialogs, noPrinter, parent, prefix + QStringLiteral("no-printer.png"));
     PrintedMessages messages;
     PrintWizardModel wizard({*shell.DB(), shell.Tree(), shell.Store(), messages, dialogs, nullptr}, 0);
     wizard.Chooser().Add(kAllRecipesKey);

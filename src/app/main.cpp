@@ -33,6 +33,7 @@
 #include "platform/qt/QtSettings.h"
 #include "platform/qt/QtText.h"
 #include "reports/qt/QtPrinters.h"
+#include "reports/ui/NoPrinterBox.h"
 #include "reports/ui/frmChooseFont.h"
 #include "reports/ui/frmPrintFmtOptions.h"
 #include "reports/ui/frmPrintPreview.h"
@@ -72,6 +73,7 @@ void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     dialogs.Register("frmOpenSave", &OpenSaveDialog::Make);
     dialogs.Register("frmRecovery", &RecoveryDialog::Make);
     dialogs.Register("frmOptions", frmOptions::Factory(colors));
+    dialogs.Register("frmNoPrinter", &NoPrinterBox::Make);
     dialogs.Register("frmPrintPreview", &frmPrintPreview::Make);
     dialogs.Register("frmPrintWizard", &frmPrintWizard::Make);
     dialogs.Register("frmPrintFmtOptions", frmPrintFmtOptions::Factory(colors));

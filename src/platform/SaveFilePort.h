@@ -11,7 +11,8 @@ struct SaveFileRequest {
     std::string extension;  // for a name typed without one, without the dot
     // Kinds of files and their patterns in turn: "Text Files (*.TXT)|*.TXT|All Files (*.*)|*.*||".
     std::string filter;
-    std::string name;  // the file to start on; may be empty
+    std::string name;         // the file to start on; may be empty
+    std::string folder = {};  // the folder to start in; the user's documents when it is empty or gone
 };
 
 class SaveFilePort {

@@ -40,6 +40,7 @@ constexpr MenuRow kFileItems[] = {
     {"mnuFileDelete", "&Delete...", "Ctrl+D"},
     {"mnuFileBar4", kBar},
     {"mnuFilePrint", "&Print...", "Ctrl+P", kOff},
+    {"mnuFilePreview", "Print Pre&view...", "Ctrl+Shift+P", kOff},
     {"mnuFileBar5", kBar},
     {"mnuFileReport", "Create Report...", "", kHidden},
     {"mnuFileBar6", kBar, "", kHidden},

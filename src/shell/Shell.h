@@ -203,7 +203,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void SetPrinter(PrinterPort* printer) { printer_ = printer; }
     void SetSaveFiles(SaveFilePort* files) { saveFiles_ = files; }
     // Prints the active document, nothing without one; quick takes the default printer without a dialog.
-    // Every failure is shown. Where there is no printer it offers a PDF file.
+    // Every failure is shown. Where there is no printer it offers the preview and a PDF file.
     void PrintActiveDocument(bool quick);
     // Shows the pages of the active document; nothing without one.
     void PreviewActiveDocument();
@@ -306,7 +306,10 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // What the dialog has come to; a printer that was chosen has the job by then.
     PrinterAnswer::Result PrintThroughDialog(bool quick);
     void PrintOn(std::unique_ptr<PrinterDevice> device);
+    // Where there is no printer: from the preview, and from elsewhere.
     void OfferPdf();
+    void OfferOtherPaper();
+    void SaveActiveAsPdf();
     void SaveAsPdf(const PrintSteps& steps, Paper paper);
     void ShowDeleteDialog();
     void ShowExplorer();

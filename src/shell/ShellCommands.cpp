@@ -43,6 +43,7 @@ const Shell::ActionRow Shell::kFileActions[] = {
     {"mnuFileImport", [](Shell& s) { s.Exchange([](RecipeExchange& files) { files.Import(); }); }},
     {"mnuFileExport", [](Shell& s) { s.Exchange([](RecipeExchange& files) { files.Export(); }); }},
     {"mnuFilePrint", [](Shell& s) { s.PrintActiveDocument(false); }},
+    {"mnuFilePreview", [](Shell& s) { s.PreviewActiveDocument(); }},
     // The toolbar's button, by its key.
     {"Print", [](Shell& s) { s.PrintActiveDocument(s.settings_.quickPrintFromToolbar); }},
     {"mnuFileReport", [](Shell& s) { s.ShowReportWizard(); }},
@@ -265,6 +266,7 @@ void Shell::EnableClose(bool enabled) {
     bar_.SetEnabled("mnuFileCloseAll", enabled);
     bar_.SetEnabled("mnuFileSaveAs", enabled);
     EnablePairWithTwin("mnuFilePrint", "Print", enabled);
+    bar_.SetEnabled("mnuFilePreview", enabled);
 }
 
 void Shell::ChangeToolbarIcons() {

@@ -1,7 +1,9 @@
 // Printing, its preview, and the report wizard.
+#include <filesystem>
 #include <string>
 #include <utility>
 
+#include "reports/NoPrinterModel.h"
 #include "reports/PrintPreviewModel.h"
 #include "reports/PrintWizardModel.h"
 #include "reports/PrintedRecipe.h"
@@ -27,7 +29,9 @@ class Hourglass {
 // of a job.
 class OutsideCommandsPaused {
   public:
-    explicit OutsideCommandsPaused(DDEService& commands) : commands_(commands) { commands_.SetTicking(false); }
+    explicit OutsideCommandsPaused(DDEService& commands) : commands_(commands) {
+        commands_.SetTicking(false);
+    }
     ~OutsideCommandsPaused() { commands_.SetTicking(true); }
     OutsideCommandsPaused(const OutsideCommandsPaused&) = delete;
     OutsideCommandsPaused& operator=(const OutsideCommandsPaused&) = delete;
@@ -35,6 +39,9 @@ class OutsideCommandsPaused {
   private:
     DDEService& commands_;
 };
+
+// Where PDF files were saved last; nothing is stored before the first one.
+constexpr std::string_view kPrintSection = "Print", kPdfFolderKey = "PDFFolder";
 
 // A recipe's name as that of a file.
 std::string PdfName(std::string_view recipe) {
@@ -52,7 +59,7 @@ void Shell::PrintActiveDocument(bool quick) {
     if (!active_ || !printer_) return;
     const PrinterAnswer::Result result = PrintThroughDialog(quick);
     if (result == PrinterAnswer::Result::Preview) PreviewActiveDocument();
-    if (result == PrinterAnswer::Result::NoPrinter) OfferPdf();
+    if (result == PrinterAnswer::Result::NoPrinter) OfferOtherPaper();
 }
 
 PrinterAnswer::Result Shell::PrintThroughDialog(bool quick) {
@@ -102,19 +109,32 @@ void Shell::OfferPdf() {
         "Print",
         "There is no printer on this computer.\r\nDo you want to save the recipe as a PDF file instead?",
         Question::YesNo);
-    if (answer != Answer::Yes) return;
+    if (answer == Answer::Yes) SaveActiveAsPdf();
+}
+
+void Shell::OfferOtherPaper() {
+    NoPrinterModel offer;
+    platform_.dialogs.ShowModal(offer);
+    if (offer.Chosen() == NoPrinterModel::Choice::Preview) PreviewActiveDocument();
+    if (offer.Chosen() == NoPrinterModel::Choice::Pdf) SaveActiveAsPdf();
+}
+
+void Shell::SaveActiveAsPdf() {
     const Paper paper = printer_->UsualPaper();
     SaveAsPdf(LayOutRecipe(active_->Record(), PrintableArea(paper), printer_->Measure()), paper);
 }
 
 void Shell::SaveAsPdf(const PrintSteps& steps, Paper paper) {
     if (!saveFiles_) return;
-    const auto path = saveFiles_->AskSaveFile(
-        {"Save as PDF", "pdf", "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*||", PdfName(steps.title)});
+    const auto path =
+        saveFiles_->AskSaveFile({"Save as PDF", "pdf", "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*||",
+                                 PdfName(steps.title), store_.GetSetting(kPrintSection, kPdfFolderKey, "")});
     if (!path) return;
     try {
         const Hourglass hourglass(*printer_);
         PlaySteps(steps, printer_->MakePdf(*path, paper));
+        store_.SaveSetting(kPrintSection, kPdfFolderKey, std::filesystem::path(*path).parent_path().string(),
+                           false);
     } catch (const Error&) {
         platform_.messages.ShowMessage("Error", "Could not create PDF file \"" + *path + "\"");
     }

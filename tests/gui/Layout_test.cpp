@@ -16,6 +16,8 @@
 #include "help/ui/frmAssistant.h"
 #include "help/ui/frmHelpContents.h"
 #include "platform/qt/Appearance.h"
+#include "reports/NoPrinterModel.h"
+#include "reports/ui/NoPrinterBox.h"
 #include "reports/ui/frmChooseFont.h"
 #include "reports/ui/frmPrintFmtOptions.h"
 #include "reports/ui/frmPrintPreview.h"
@@ -209,6 +211,9 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         preview.SetControl("txtPage", "11");
         frmPrintPreview previewWindow(preview, nullptr);
         show(previewWindow);
+        NoPrinterModel noPrinter;
+        NoPrinterBox noPrinterWindow(noPrinter, nullptr);
+        show(noPrinterWindow);
         PrintWizardModel wizard(
             {*shell.DB(), shell.Tree(), shell.Store(), outside.messages, outside.dialogs, nullptr}, 0);
         wizard.Chooser().Add("F:-1");

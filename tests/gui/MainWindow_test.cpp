@@ -59,6 +59,15 @@ TEST_F(MainWindow, EveryToolbarButtonHasAPictureAndItsKeyInTheTip) {
     EXPECT_EQ(Action("tbToolBar(Insert)").toolTip(), QStringLiteral("Insert Row"));
 }
 
+// It does not ask for the printer, as Ctrl+P does.
+TEST_F(MainWindow, ThePrintButtonSaysWhatItDoesAndNotTheKeyOfTheMenu) {
+    EXPECT_EQ(Action("tbToolBar(Print)").toolTip(), QStringLiteral("Print"));
+    EXPECT_EQ(FromQt(Action("tbToolBar(Print)").statusTip()),
+              "Prints the recipe in front on the default printer, or asks first, as the options say.");
+    EXPECT_EQ(FromQt(Action("mnuFilePrint").statusTip()),
+              "Prints the recipe in front on a printer that you choose.");
+}
+
 TEST_F(MainWindow, FollowsTheStatesOfTheCommands) {
     EXPECT_FALSE(Action("mnuFileSave").isEnabled());
     NewRecipe();

@@ -1,21 +1,26 @@
 // The print preview, the report windows and PDF files, with real windows.
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QPrintDialog>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include "gui/GuiTest.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/ColorButton.h"
 #include "platform/qt/QtSaveFile.h"
+#include "reports/NoPrinterModel.h"
 #include "reports/PrintedRecipe.h"
 #include "reports/qt/PaperPainter.h"
 #include "reports/qt/QtPrinterDevice.h"
 #include "reports/qt/QtPrinters.h"
+#include "reports/ui/NoPrinterBox.h"
 #include "reports/ui/PreviewPage.h"
 #include "reports/ui/frmChooseFont.h"
 #include "reports/ui/frmPrintFmtOptions.h"
 #include "reports/ui/frmPrintPreview.h"
 #include "reports/ui/frmPrintWizard.h"
+#include "support/LongRecipe.h"
 #include "support/RecordingPrinter.h"
 
 namespace tw::test {
@@ -230,6 +235,20 @@ TEST_F(PaperTest, AFailedOrKilledPdfLeavesTheOlderFile) {
     EXPECT_NE(nowhere.LastError(), 0);
 }
 
+TEST_F(PaperTest, NothingLeavesItsColumnOrTheSheetInRealType) {
+    const PaperMeasure measure;
+    for (unsigned seed = 1; seed <= 3; ++seed) {
+        LongTexts texts(seed);
+        RecipeRecord wide;
+        FillWithLongTexts(wide, texts);
+        for (const Paper paper : {Paper::Letter, Paper::A4}) {
+            const PrintSteps steps = LayOutRecipe(wide, PrintableArea(paper), measure);
+            EXPECT_GT(steps.Pages(), 1);
+            EXPECT_EQ(OutOfBounds(steps, measure), Strings{}) << "seed " << seed;
+        }
+    }
+}
+
 TEST_F(PaperTest, ControlCharactersLeaveABlank) {
     EXPECT_EQ(PaperText("a\tb\x01"), QStringLiteral("a b "));
 }
@@ -245,6 +264,37 @@ TEST_F(PaperTest, ThePrinterDialogHasAWayToThePreview) {
     EXPECT_TRUE(AddPreviewButton(ofTheDesktop));
     QTimer::singleShot(0, &dialog, [&] { Click(dialog, "cmdPreview"); });
     EXPECT_EQ(dialog.exec(), kPreviewResult);
+}
+
+TEST_F(PaperTest, TheBoxWithoutAPrinterGoesByTheKeyboard) {
+    using Choice = NoPrinterModel::Choice;
+    const auto chosenBy = [](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        NoPrinterModel model;
+        NoPrinterBox box(model, nullptr);
+        QTimer::singleShot(0, &box, [&] { QTest::keyClick(&box, key, modifiers); });
+        box.exec();
+        EXPECT_FALSE(model.IsOpen());
+        return model.Chosen();
+    };
+    EXPECT_EQ(chosenBy(Qt::Key_Return), Choice::Preview);
+    EXPECT_EQ(chosenBy(Qt::Key_Escape), Choice::Cancel);
+    EXPECT_EQ(chosenBy(Qt::Key_S, Qt::AltModifier), Choice::Pdf);
+}
+
+TEST_F(PaperTest, TheSaveDialogStartsInItsFolderOrInTheDocuments) {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QString fallback = QDir(documents).exists() ? documents : QDir::homePath();
+    EXPECT_EQ(StartFolder(FromQt(folder.path())), folder.path());
+    EXPECT_EQ(StartFolder(""), fallback);
+    EXPECT_EQ(StartFolder(FromQt(File("gone"))), fallback);
+    QString shown;
+    QTimer::singleShot(0, qApp, [&] {
+        auto& dialog = dynamic_cast<QFileDialog&>(*QApplication::activeModalWidget());
+        shown = dialog.directory().absolutePath();
+        dialog.reject();
+    });
+    EXPECT_FALSE(QtSaveFile().AskSaveFile({"Save as PDF", "pdf", "", "Porter.pdf", FromQt(folder.path())}));
+    EXPECT_EQ(shown, folder.path());
 }
 
 TEST(SaveFile, FiltersMatchWhateverTheCase) {

@@ -33,27 +33,29 @@ TEST(CommandBar, TheTopLevelMenus) {
 }
 
 TEST(CommandBar, TheFileMenu) {
-    EXPECT_EQ(ItemsOf(CommandBar(), "mnuFile"), (std::vector<ItemRow>{
-                                                    {"mnuFileNew", "&New", "Ctrl+N", ""},
-                                                    {"mnuFileOpen", "&Open...", "Ctrl+O", ""},
-                                                    {"mnuFileClose", "&Close", "", "off"},
-                                                    {"mnuFileCloseAll", "Clos&e All", "", "off"},
-                                                    {"mnuFileSave", "&Save", "Ctrl+S", "off"},
-                                                    {"mnuFileSaveAs", "Save &As...", "", "off"},
-                                                    {"mnuFileSaveAll", "Save A&ll", "", "off"},
-                                                    {"mnuFileImport", "&Import...", "", ""},
-                                                    {"mnuFileExport", "Expo&rt...", "", ""},
-                                                    {"mnuFileDelete", "&Delete...", "Ctrl+D", ""},
-                                                    {"mnuFilePrint", "&Print...", "Ctrl+P", "off"},
-                                                    {"mnuFileReport", "Create Report...", "", "hidden"},
-                                                    {"mnuFileMRU(0)", "", "", "hidden"},
-                                                    {"mnuFileMRU(1)", "", "", "hidden"},
-                                                    {"mnuFileMRU(2)", "", "", "hidden"},
-                                                    {"mnuFileMRU(3)", "", "", "hidden"},
-                                                    {"mnuFileMRU(4)", "", "", "hidden"},
-                                                    {"mnuFileMRU(5)", "", "", "hidden"},
-                                                    {"mnuFileExit", "E&xit", "", ""},
-                                                }));
+    EXPECT_EQ(ItemsOf(CommandBar(), "mnuFile"),
+              (std::vector<ItemRow>{
+                  {"mnuFileNew", "&New", "Ctrl+N", ""},
+                  {"mnuFileOpen", "&Open...", "Ctrl+O", ""},
+                  {"mnuFileClose", "&Close", "", "off"},
+                  {"mnuFileCloseAll", "Clos&e All", "", "off"},
+                  {"mnuFileSave", "&Save", "Ctrl+S", "off"},
+                  {"mnuFileSaveAs", "Save &As...", "", "off"},
+                  {"mnuFileSaveAll", "Save A&ll", "", "off"},
+                  {"mnuFileImport", "&Import...", "", ""},
+                  {"mnuFileExport", "Expo&rt...", "", ""},
+                  {"mnuFileDelete", "&Delete...", "Ctrl+D", ""},
+                  {"mnuFilePrint", "&Print...", "Ctrl+P", "off"},
+                  {"mnuFilePreview", "Print Pre&view...", "Ctrl+Shift+P", "off"},
+                  {"mnuFileReport", "Create Report...", "", "hidden"},
+                  {"mnuFileMRU(0)", "", "", "hidden"},
+                  {"mnuFileMRU(1)", "", "", "hidden"},
+                  {"mnuFileMRU(2)", "", "", "hidden"},
+                  {"mnuFileMRU(3)", "", "", "hidden"},
+                  {"mnuFileMRU(4)", "", "", "hidden"},
+                  {"mnuFileMRU(5)", "", "", "hidden"},
+                  {"mnuFileExit", "E&xit", "", ""},
+              }));
 }
 
 TEST(CommandBar, TheEditMenu) {

@@ -53,7 +53,7 @@ TEST_F(ShellTest, GuardShowsAnyErrorAndTellsOfIt) {
 
 TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem) {
     constexpr std::string_view commands[] = {
-        "mnuFileClose",     "mnuFileCloseAll",         "mnuFileSaveAs",
+        "mnuFileClose",     "mnuFileCloseAll",         "mnuFileSaveAs",        "mnuFilePreview",
         "mnuWindowCascade", "mnuWindowTileHorizontal", "mnuWindowTileVertical"};
     for (const std::string_view item : commands) EXPECT_FALSE(Lit(item)) << item;
     RecipeDocument& document = shell.CreateDocumentWindow("");
@@ -101,6 +101,16 @@ TEST_F(ShellTest, TheFirstRecipeTurnsPrintOnWithoutADocument) {
     shell.CheckEnableDelete();
     EXPECT_TRUE(bar().FindItem("mnuFilePrint")->enabled);
     EXPECT_FALSE(bar().FindButton("Print")->enabled);
+    EXPECT_FALSE(bar().FindItem("mnuFilePreview")->enabled);
+}
+
+// Intended: the last recipe's deletion turns Print off under an open document; its preview stays.
+TEST_F(ShellTest, ThePreviewFollowsTheDocumentsAlone) {
+    NewSaved("Pale Ale");
+    EXPECT_TRUE(bar().FindItem("mnuFilePreview")->enabled);
+    shell.DeleteRecipe("Pale Ale");
+    EXPECT_FALSE(bar().FindItem("mnuFilePrint")->enabled);
+    EXPECT_TRUE(bar().FindItem("mnuFilePreview")->enabled);
 }
 
 // Intended: the comparison is made with mnuFileDelete alone.

@@ -1,3 +1,4 @@
+#include "reports/NoPrinterModel.h"
 #include "reports/PrintPreviewModel.h"
 #include "reports/PrintWizardModel.h"
 #include "shell/ShellTest.h"
@@ -27,6 +28,16 @@ class ShellPrintTest : public ShellTest {
         EXPECT_EQ(waiting, 1);
         outsideCommands.TickDDE();
         EXPECT_EQ(outsideCommands.DDECommandCount(), 0);
+    }
+
+    // Answers the box that comes up where there is no printer.
+    void OnTheBoxPress(const std::string& button) {
+        printer.result = Result::NoPrinter;
+        outside.dialogs.scripts.emplace_back([button](DialogModel& dialog) {
+            EXPECT_EQ(dialog.FormName(), "frmNoPrinter");
+            EXPECT_TRUE(dialog.Press(button));
+            EXPECT_FALSE(dialog.IsOpen());
+        });
     }
 
     RecordingPrinter printer;
@@ -110,35 +121,76 @@ TEST_F(ShellPrintTest, WithoutADocumentThereIsNothingToPrint) {
     EXPECT_TRUE(outside.dialogs.shown.empty());
 }
 
-TEST_F(ShellPrintTest, WithoutAPrinterAPdfFileIsOffered) {
+TEST_F(ShellPrintTest, WithoutAPrinterThePreviewAndAPdfFileAreOffered) {
     NewNamed("Porter");
-    printer.result = Result::NoPrinter;
-    shell.RunMenu("mnuFilePrint");
-    EXPECT_EQ(
-        outside.messages.TakeLog(),
-        (Strings{"[Print] There is no printer on this computer.\r\nDo you want to save the recipe as a PDF "
-                 "file instead? -> No"}));
+    OnTheBoxPress("cmdCancel");
+    EXPECT_TRUE(shell.RunMenu("mnuFilePrint"));
+    EXPECT_EQ(outside.dialogs.shown, (Strings{"frmNoPrinter"}));
     EXPECT_TRUE(files.requests.empty());
-    outside.messages.answers = {Answer::Yes};
+    OnTheBoxPress("cmdPreview");
+    EXPECT_TRUE(shell.RunMenu("mnuFilePrint"));
+    EXPECT_EQ(outside.dialogs.shown, (Strings{"frmNoPrinter", "frmNoPrinter", "frmPrintPreview"}));
+    OnTheBoxPress("cmdPDF");
     files.answer = "/tmp/Porter.pdf";
     printer.log.clear();
-    shell.RunMenu("mnuFilePrint");
-    EXPECT_EQ(printer.log, (Strings{"new", "hourglass", "pdf /tmp/Porter.pdf A4", "pointer"}));
+    EXPECT_TRUE(shell.PressButton("Print"));
+    EXPECT_EQ(printer.log, (Strings{"new quick", "hourglass", "pdf /tmp/Porter.pdf A4", "pointer"}));
     EXPECT_EQ(printer.printed.title, "Porter");
+    EXPECT_TRUE(outside.messages.log.empty());
+}
+
+TEST(NoPrinterModel, ClosingItAndUnknownButtonsChooseNothing) {
+    NoPrinterModel box;
+    EXPECT_FALSE(box.Press("cmdPrint"));
+    EXPECT_TRUE(box.IsOpen());
+    box.CloseBox();
+    EXPECT_FALSE(box.IsOpen());
+    EXPECT_EQ(box.Chosen(), NoPrinterModel::Choice::Cancel);
+}
+
+// Whoever is in the preview needs no other way to it.
+TEST_F(ShellPrintTest, WithoutAPrinterThePreviewOffersAPdfFileAlone) {
+    NewNamed("Porter");
+    printer.result = Result::NoPrinter;
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) { EXPECT_TRUE(dialog.Press("cmdPrint")); });
+    EXPECT_TRUE(shell.RunMenu("mnuFilePreview"));
+    EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintPreview"}));
+    EXPECT_EQ(
+        outside.messages.log,
+        (Strings{"[Print] There is no printer on this computer.\r\nDo you want to save the recipe as a PDF "
+                 "file instead? -> No"}));
 }
 
 TEST_F(ShellPrintTest, TheNameOfAPdfFileIsTheRecipesWithoutWhatAFileCannotHave) {
     NewNamed(" Half/Half: \"50\" ");
-    outside.messages.answers = {Answer::Yes};
-    printer.result = Result::NoPrinter;
+    OnTheBoxPress("cmdPDF");
     shell.RunMenu("mnuFilePrint");
     ASSERT_EQ(files.requests.size(), 1u);
     EXPECT_EQ(files.requests[0].name, "Half-Half- -50-.pdf");
     EXPECT_EQ(files.requests[0].extension, "pdf");
     NewNamed("");
-    outside.messages.answers = {Answer::Yes};
+    OnTheBoxPress("cmdPDF");
     shell.RunMenu("mnuFilePrint");
     EXPECT_EQ(files.requests[1].name, "Recipe.pdf");
+}
+
+TEST_F(ShellPrintTest, APdfFileGoesToTheDocumentsAtFirstAndThenWhereTheLastOneWent) {
+    NewNamed("Porter");
+    const auto save = [&](const std::optional<std::string>& path) {
+        files.answer = path;
+        OnTheBoxPress("cmdPDF");
+        shell.RunMenu("mnuFilePrint");
+        return files.requests.back().folder;
+    };
+    // An empty folder stands for the documents.
+    EXPECT_EQ(save(std::nullopt), "");
+    EXPECT_EQ(save("/home/ann/Brewing Log/Porter.pdf"), "");
+    EXPECT_EQ(save(std::nullopt), "/home/ann/Brewing Log");
+    EXPECT_EQ(shell.Store().GetSetting("Print", "PDFFolder", "none"), "/home/ann/Brewing Log");
+    // What could not be written is no folder to come back to.
+    printer.fails = true;
+    EXPECT_EQ(save("/full/Porter.pdf"), "/home/ann/Brewing Log");
+    EXPECT_EQ(save(std::nullopt), "/home/ann/Brewing Log");
 }
 
 TEST_F(ShellPrintTest, ThePreviewShowsSavesAndPrints) {

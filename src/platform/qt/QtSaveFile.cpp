@@ -1,7 +1,9 @@
 #include "platform/qt/QtSaveFile.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QStandardPaths>
 #include <QStringList>
 
 #include "platform/qt/QtText.h"
@@ -27,12 +29,20 @@ QString QtFilter(const std::string& filter) {
     return filters.join(QStringLiteral(";;"));
 }
 
+QString StartFolder(const std::string& folder) {
+    for (const QString& start :
+         {ToQt(folder), QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)})
+        if (!start.isEmpty() && QDir(start).exists()) return start;
+    return QDir::homePath();
+}
+
 std::optional<std::string> QtSaveFile::AskSaveFile(const SaveFileRequest& request) {
     QFileDialog dialog(QApplication::activeWindow(), ToQt(request.title));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilter(QtFilter(request.filter));
     dialog.setDefaultSuffix(ToQt(request.extension));
+    dialog.setDirectory(StartFolder(request.folder));
     if (!request.name.empty()) dialog.selectFile(ToQt(request.name));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return FromQt(dialog.selectedFiles().constFirst());

@@ -82,12 +82,14 @@ void CommandMenus::AddButton(const ToolButton& button, int& group) {
     const QString key = ToQt(button.key);
     QAction* action = toolBar_->addAction(ToQt(button.toolTip));
     action->setObjectName(QStringLiteral("tbToolBar(%1)").arg(key));
-    const MenuItem* item = bar_.FindItem(button.menuItem);
+    // A button that does not do quite what its menu item does has a sentence of its own, and not its key.
+    const QString ownTip = CommandTip(button.key);
+    const MenuItem* item = ownTip.isEmpty() ? bar_.FindItem(button.menuItem) : nullptr;
     const QString shortcut =
         item ? QKeySequence(ToQt(item->shortcut)).toString(QKeySequence::NativeText) : QString();
     const QString tip = ToQt(button.toolTip);
     action->setToolTip(shortcut.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, shortcut));
-    action->setStatusTip(CommandTip(button.menuItem));
+    action->setStatusTip(ownTip.isEmpty() ? CommandTip(button.menuItem) : ownTip);
     if (QWidget* widget = toolBar_->widgetForAction(action)) {
         widget->setObjectName(action->objectName());
         widget->setAccessibleName(tip);

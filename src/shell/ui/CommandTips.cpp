@@ -21,7 +21,9 @@ constexpr Tip kTips[] = {
     {"mnuFileImport", "Reads recipes from an exchange file into the database."},
     {"mnuFileExport", "Writes recipes of the database to an exchange file."},
     {"mnuFileDelete", "Deletes a recipe from the database."},
-    {"mnuFilePrint", "Prints the recipe in front; Ctrl+Shift+P shows its pages first."},
+    {"mnuFilePrint", "Prints the recipe in front on a printer that you choose."},
+    {"mnuFilePreview", "Shows the pages of the recipe in front as they will be printed."},
+    {"Print", "Prints the recipe in front on the default printer, or asks first, as the options say."},
     {"mnuFileReport", "Writes recipes to a report file."},
     {"mnuFileExit", "Closes all recipes and ends Tunwright."},
     {"mnuEditUndo", "Takes the last change back."},
@@ -56,9 +58,9 @@ constexpr Tip kTips[] = {
 
 }  // namespace
 
-QString CommandTip(std::string_view menuItem) {
+QString CommandTip(std::string_view command) {
     for (const Tip& tip : kTips)
-        if (tip.name == menuItem) return QCoreApplication::translate("CommandTips", tip.sentence);
+        if (tip.name == command) return QCoreApplication::translate("CommandTips", tip.sentence);
     return {};
 }
 

@@ -5,7 +5,6 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QMenu>
-#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -83,10 +82,6 @@ frmMain::frmMain(Shell& shell, Platform& platform)
         if (shell_.ActiveDocument() != &document) shell_.Guard([&] { shell_.Activate(document); });
     });
     connect(menus_->Menu(QStringLiteral("mnuWindow")), &QMenu::aboutToShow, this, &frmMain::FillWindowMenu);
-    auto* preview = new QShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P), this);
-    connect(preview, &QShortcut::activated, this, [this] {
-        if (FlushBefore("mnuFilePrint")) shell_.Guard([this] { shell_.PreviewActiveDocument(); });
-    });
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
             [this] { shell_.ReapplyPasteState(); });
 }
