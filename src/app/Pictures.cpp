@@ -1,8 +1,10 @@
 #include "app/Pictures.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDialog>
 #include <QDir>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QTabWidget>
 
@@ -17,8 +19,10 @@
 #include "help/HelpContentsModel.h"
 #include "help/SystemTextFiles.h"
 #include "help/qt/QtBrowser.h"
+#include "platform/TargetFile.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtDialogs.h"
+#include "platform/qt/QtText.h"
 #include "reports/ChooseFontModel.h"
 #include "reports/NoPrinterModel.h"
 #include "reports/PrintFmtOptionsModel.h"
@@ -51,10 +55,29 @@ namespace {
 constexpr const char* kTabFiles[kTabs] = {"general",     "grains",   "extracts", "hops", "water",
                                           "carbonation", "adjuncts", "log",      "notes"};
 
+bool IsOwn(const OwnFiles& own, const QString& file) {
+    try {
+        own.Check(FromQt(file));
+        return false;
+    } catch (const OwnFileError&) {
+        return true;
+    }
+}
+
+// False when the file cannot be written. REQUIRES: it is none of the program's own.
 bool SaveWidget(QWidget& widget, const QString& file) {
     // Layouts and late events settle first.
     for (int i = 0; i < 3; ++i) QApplication::processEvents();
-    return widget.grab().save(file, "PNG");
+    QBuffer picture;
+    picture.open(QIODevice::WriteOnly);
+    if (!widget.grab().save(&picture, "PNG")) return false;
+    const QByteArray& bytes = picture.buffer();
+    try {
+        TargetFile(FromQt(file), {}).Replace({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+        return true;
+    } catch (const Error&) {
+        return false;
+    }
 }
 
 bool SaveDialog(QtDialogs& dialogs, DialogModel& model, QWidget& parent, const QString& file) {
@@ -139,7 +162,8 @@ bool SaveChoosers(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
 bool SaveHelp(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
     PrintedMessages messages;
     QtBrowser browser;
-    SystemTextFiles files;
+    const OwnFiles none;  // a picture opens no page and writes no file
+    SystemTextFiles files(none);
     Help help(QCoreApplication::applicationDirPath().toStdString(), messages, browser, files);
     HelpContentsModel contents(help, messages);
     bool ok = SaveDialog(dialogs, contents, parent, prefix + QStringLiteral("help-contents.png"));
@@ -204,7 +228,8 @@ bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
     NoPrinterModel noPrinter;
     ok &= SaveDialog(dialogs, noPrinter, parent, prefix + QStringLiteral("no-printer.png"));
     PrintedMessages messages;
-    PrintWizardModel wizard({*shell.DB(), shell.Tree(), shell.Store(), messages, dialogs, nullptr}, 0);
+    PrintWizardModel wizard(
+        {*shell.DB(), shell.Tree(), shell.Store(), messages, dialogs, nullptr, shell.Own()}, 0);
     wizard.Chooser().Add(kAllRecipesKey);
     for (int page = 0; page < PrintWizardModel::kPages; ++page) {
         ok &= SaveDialog(dialogs, wizard, parent, QStringLiteral("%1report-%2.png").arg(prefix).arg(page));
@@ -295,12 +320,16 @@ void TakeSize(frmMain& window, const QSize& size) {
     if (frmDocument* document = window.ActiveWindow()) document->parentWidget()->showMaximized();
 }
 
-bool TakePicture(frmMain& window, const QString& file) {
-    return SaveWidget(window, file);
+bool TakePicture(frmMain& window, Shell& shell, const QString& file) {
+    return !IsOwn(shell.Own(), file) && SaveWidget(window, file);
 }
 
 bool TakeAllPictures(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& folder) {
     bool ok = QDir().mkpath(folder);
+    // A folder of links to the recipes is odd, and must not cost them.
+    for (const QFileInfo& there : QDir(folder).entryInfoList({QStringLiteral("*.png")}, QDir::Files))
+        if (IsOwn(shell.Own(), there.filePath())) return false;
+    if (IsOwn(shell.Own(), folder)) return false;
     for (const bool dark : {false, true}) {
         QApplication::setPalette(dark ? DarkPalette() : LightPalette());
         const QString prefix = folder + (dark ? QStringLiteral("/dark-") : QStringLiteral("/light-"));

@@ -21,6 +21,7 @@
 #include "help/qt/QtBrowser.h"
 #include "help/ui/frmAssistant.h"
 #include "help/ui/frmHelpContents.h"
+#include "platform/SettingsFile.h"
 #include "platform/SystemClock.h"
 #include "platform/qt/ColorChooser.h"
 #include "platform/qt/DesktopColors.h"
@@ -97,6 +98,18 @@ std::string DatabaseOf(const ProgramOptions& options) {
     return Shell::DatabasePath(FromQt(QCoreApplication::applicationDirPath()));
 }
 
+// False, behind its box, when the file named for the settings cannot hold them.
+bool SettingsFileIsFine(const ProgramOptions& options, MessagePort& messages) {
+    if (options.settings.isEmpty()) return true;
+    try {
+        CheckSettingsFile(FromQt(options.settings), DatabaseOf(options));
+        return true;
+    } catch (const Error& error) {
+        messages.ShowMessage("Fatal Error", error.Description());
+        return false;
+    }
+}
+
 void OpenRecipes(frmMain& window, Shell& shell, const ProgramOptions& options) {
     for (const QString& name : options.open) shell.Guard([&] { shell.OpenByName(FromQt(name)); });
     frmDocument* document = window.ActiveWindow();
@@ -107,7 +120,7 @@ void OpenRecipes(frmMain& window, Shell& shell, const ProgramOptions& options) {
 int Photograph(frmMain& window, Shell& shell, QtDialogs& dialogs, const ProgramOptions& options) {
     bool ok = true;
     TakeSize(window, options.size);
-    if (!options.picture.isEmpty()) ok &= TakePicture(window, options.picture);
+    if (!options.picture.isEmpty()) ok &= TakePicture(window, shell, options.picture);
     if (!options.pictures.isEmpty()) ok &= TakeAllPictures(window, shell, dialogs, options.pictures);
     if (!ok) std::fputs("tunwright: a picture could not be written\n", stderr);
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
@@ -156,6 +169,7 @@ int Run(int argc, char** argv) {
     application.SetMessages(messages);
     InstallRangeBarAccessibility();
     InstallToolAccessibility();
+    if (!SettingsFileIsFine(options, messages)) return EXIT_FAILURE;
     const std::unique_ptr<QtSettings> settings =
         options.settings.isEmpty() ? QtSettings::OfUser() : QtSettings::OfFile(FromQt(options.settings));
     QtDialogs dialogs(*settings);
@@ -174,13 +188,13 @@ int Run(int argc, char** argv) {
         shell.DDE().SetChannel(&channel);
     }
     QtBrowser browser;
-    SystemTextFiles files;
+    SystemTextFiles files(shell.Own());
     Help help(FromQt(QCoreApplication::applicationDirPath()), messages, browser, files);
     shell.SetHelp(&help);
     dialogs.SetHelp([&shell](const std::string& form, int tab) {
         shell.ShowContextHelp(form, tab > 0 ? TabContext(tab) : std::string(kWholeWindow));
     });
-    QtPrinters printers;
+    QtPrinters printers(shell.Own());
     shell.SetPrinter(&printers);
     QtSaveFile saveFiles;
     shell.SetSaveFiles(&saveFiles);

@@ -29,7 +29,8 @@ void Report(Session& session, Arguments& arguments) {
         request.names.push_back(arguments.Word("NAME"));
     } while (!arguments.AtEnd());
     request.units = session.Units();
-    CreateReportFile(*session.Program().DB(), session.Store(), request, session.Messages());
+    Shell& program = session.Program();
+    CreateReportFile(*program.DB(), session.Store(), request, program.Own(), session.Messages());
 }
 
 void Wizard(Session& session, Arguments& arguments) {

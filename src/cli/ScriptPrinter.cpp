@@ -64,7 +64,7 @@ PrinterAnswer ScriptPrinter::ShowPrinterDialog(bool, bool) {
     return {PrinterAnswer::Result::Chosen, 0, MakeDevice()};
 }
 
-std::unique_ptr<PrinterDevice> ScriptPrinter::MakePdf(const std::string&, Paper) {
+std::unique_ptr<PrinterDevice> ScriptPrinter::MakePdf(const TargetFile&, Paper) {
     return MakeDevice();
 }
 

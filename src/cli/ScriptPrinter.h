@@ -15,7 +15,7 @@ class ScriptPrinter final : public PrinterPort {
     // Takes this printer without a word.
     PrinterAnswer ShowPrinterDialog(bool configured, bool quick) override;
     // A PDF file is printed like everything else.
-    std::unique_ptr<PrinterDevice> MakePdf(const std::string& path, Paper paper) override;
+    std::unique_ptr<PrinterDevice> MakePdf(const TargetFile& target, Paper paper) override;
     const TextMeasure& Measure() const override { return measure_; }
     Paper UsualPaper() const override { return Paper::Letter; }
     // Prints its steps, a line each, when its document ends.

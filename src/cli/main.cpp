@@ -7,15 +7,18 @@
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
 #include "cli/ScriptReader.h"
+#include "platform/SettingsFile.h"
 #include "platform/qt/QtSettings.h"
 
 namespace {
 
 constexpr int kBadLine = static_cast<int>(tw::ExitStatus::BadLine);
 
-std::unique_ptr<tw::SettingsPort> OpenSettings(const std::string& file) {
+// Raises the error of a file that cannot hold the settings.
+std::unique_ptr<tw::SettingsPort> OpenSettings(const std::string& file, const std::string& database) {
     if (file == ":memory:") return std::make_unique<tw::MemorySettings>();
     if (file.empty()) return tw::QtSettings::OfUser();
+    tw::CheckSettingsFile(file, database);
     return tw::QtSettings::OfFile(file);
 }
 
@@ -35,7 +38,7 @@ tw::ExitStatus RunScript(tw::Console& console, const std::string& name) {
 int RunScripts(const tw::CommandLine& line, const std::string& programFolder) {
     const std::string database =
         line.database.empty() ? tw::Shell::DatabasePath(programFolder) : line.database;
-    const std::unique_ptr<tw::SettingsPort> settings = OpenSettings(line.settings);
+    const std::unique_ptr<tw::SettingsPort> settings = OpenSettings(line.settings, database);
     tw::Console console(database, *settings, std::cout, std::cerr);
     console.SetProgramFolder(programFolder);
     for (const std::string& script : line.scripts) {

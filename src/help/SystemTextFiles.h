@@ -2,13 +2,19 @@
 #pragma once
 
 #include "help/HelpPorts.h"
+#include "platform/OwnFiles.h"
 
 namespace tw {
 
 class SystemTextFiles final : public TextFilePort {
   public:
+    // own is what is not to be written; it must outlive the port.
+    explicit SystemTextFiles(const OwnFiles& own) : own_(own) {}
     std::string Read(const std::string& file) override;
     void Write(const std::string& file, std::string_view text) override;
+
+  private:
+    const OwnFiles& own_;
 };
 
 }  // namespace tw

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/DateTime.h"
 
@@ -21,6 +22,12 @@ class MessagePort {
     virtual ~MessagePort() = default;
     // A box with one OK button. Line breaks in text are "\r\n".
     virtual void ShowMessage(std::string_view title, std::string_view text) = 0;
+    // The same box with one more line, which says why or what to do. Only windows show that line: the console
+    // prints what it always has.
+    virtual void ShowMessageWithAdvice(std::string_view title, std::string_view text,
+                                       std::string_view /*advice*/) {
+        ShowMessage(title, text);
+    }
     // A box with a choice. Closing it by any other way answers No (YesNo) or Cancel (the others).
     virtual Answer Ask(std::string_view title, std::string_view text, Question kind) = 0;
     // The system's beep.
@@ -45,6 +52,8 @@ class SettingsPort {
     // False when the layer cannot be written; nothing has changed then.
     virtual bool Write(Layer layer, std::string_view section, std::string_view key,
                        std::string_view value) = 0;
+    // The paths of the files that hold the layers, there or not; none for settings in memory.
+    virtual std::vector<std::string> Files() const { return {}; }
 };
 
 class ClockPort {

@@ -92,7 +92,7 @@ void PrintWizardModel::Next() {
 
 void PrintWizardModel::Finish() {
     request_.names = recipes_.Selection();
-    open_ = !CreateReportFile(context_.database, context_.store, request_, context_.messages);
+    open_ = !CreateReportFile(context_.database, context_.store, request_, context_.own, context_.messages);
 }
 
 void PrintWizardModel::Configure() {

@@ -31,6 +31,7 @@ class PrintWizardModel final : public DialogModel {
         MessagePort& messages;
         DialogPort& dialogs;
         SaveFilePort* files;  // nullptr where no file can be browsed for
+        const OwnFiles& own;
     };
     // reportType: the setting of that name, which the type starts on.
     PrintWizardModel(const Context& context, int reportType);

@@ -38,6 +38,7 @@ class PrinterDevice {
     virtual bool StartDoc(const std::string& name) = 0;
     virtual bool StartPage() = 0;
     virtual bool EndPage() = 0;
+    // Raises the Error of a file that could not be written.
     virtual bool EndDoc() = 0;
     // Drops the job: nothing of it is to come out, as far as that can be helped.
     virtual bool AbortDoc() = 0;

@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "platform/TargetFile.h"
 #include "reports/Paper.h"
 #include "reports/PrintSteps.h"
 #include "reports/PrinterDevice.h"
@@ -29,7 +30,7 @@ class PrinterPort {
     virtual void ShowHourglass(bool /*on*/) {}
 
     // A device whose document becomes that PDF file when it ends; an older file stays until then.
-    virtual std::unique_ptr<PrinterDevice> MakePdf(const std::string& path, Paper paper) = 0;
+    virtual std::unique_ptr<PrinterDevice> MakePdf(const TargetFile& target, Paper paper) = 0;
     // How large texts are on paper.
     virtual const TextMeasure& Measure() const = 0;
     // The paper that is usual where the brewer lives.

@@ -17,6 +17,7 @@
 #include "document/RecipeDocument.h"
 #include "document/ScalingModel.h"
 #include "help/Help.h"
+#include "platform/OwnFiles.h"
 #include "platform/Ports.h"
 #include "platform/SaveFilePort.h"
 #include "reports/PrinterPort.h"
@@ -91,7 +92,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
 
     // Keeps unsaved work in files below this folder from now on, apart for each database; nothing is kept
     // before, or for a database in memory. Call it before the start.
-    void SetRecoveryFolder(std::string folder) { recoveryRoot_ = std::move(folder); }
+    void SetRecoveryFolder(std::string folder);
     // Where the product's own files lie. What is new or corrected in its folder "catalogue" comes into the
     // database when it is opened (store/CatalogueUpdate.h), never into one in memory. Call it before the
     // start.
@@ -115,6 +116,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
 
     Settings& CurrentSettings() { return settings_; }
     SettingsStore& Store() { return store_; }
+    // What the program itself lives on; nothing else is to be written there.
+    OwnFiles& Own() { return own_; }
     CommandBar& Bar() { return bar_; }
     RecentList& Recent() { return recent_; }
     // Stores a setting for the user; one of the section "Settings" acts in the running program at once.
@@ -335,6 +338,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     SettingsStore store_;
     Settings settings_;
     OpenSaveFields browse_;
+    OwnFiles own_;
     CommandBar bar_;
     RecentList recent_;
     ColorTable colors_;

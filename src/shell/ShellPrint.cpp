@@ -74,9 +74,13 @@ PrinterAnswer::Result Shell::PrintThroughDialog(bool quick) {
             PrintOn(std::move(answer.device));
         }
     } catch (const Error& error) {
-        platform_.messages.ShowMessage("Print Error",
-                                       "An error occurred while gathering printer configuration! (" +
-                                           std::to_string(error.Number()) + ")");
+        // A printer without an answer gives no reason; a file that was chosen as the printer does.
+        const bool isFile = answer.result != PrinterAnswer::Result::Failed;
+        platform_.messages.ShowMessageWithAdvice(
+            "Print Error",
+            "An error occurred while gathering printer configuration! (" + std::to_string(error.Number()) +
+                ")",
+            isFile ? FileAdvice(error) : std::string());
     }
     return answer.result;
 }
@@ -132,17 +136,19 @@ void Shell::SaveAsPdf(const PrintSteps& steps, Paper paper) {
     if (!path) return;
     try {
         const Hourglass hourglass(*printer_);
-        PlaySteps(steps, printer_->MakePdf(*path, paper));
+        PlaySteps(steps, printer_->MakePdf(TargetFile(*path, own_), paper));
         store_.SaveSetting(kPrintSection, kPdfFolderKey, std::filesystem::path(*path).parent_path().string(),
                            false);
-    } catch (const Error&) {
-        platform_.messages.ShowMessage("Error", "Could not create PDF file \"" + *path + "\"");
+    } catch (const Error& error) {
+        platform_.messages.ShowMessageWithAdvice("Error", "Could not create PDF file \"" + *path + "\"",
+                                                 FileAdvice(error));
     }
 }
 
 void Shell::ShowReportWizard() {
-    PrintWizardModel wizard({*database_, *tree_, store_, platform_.messages, platform_.dialogs, saveFiles_},
-                            settings_.reportType);
+    PrintWizardModel wizard(
+        {*database_, *tree_, store_, platform_.messages, platform_.dialogs, saveFiles_, own_},
+        settings_.reportType);
     platform_.dialogs.ShowModal(wizard);
 }
 

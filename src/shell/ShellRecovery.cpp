@@ -1,9 +1,16 @@
 // Unsaved work outside the database: kept while the program runs, offered at the next start.
+#include <utility>
+
 #include "document/RecipeSnapshot.h"
 #include "shell/RecoveryModel.h"
 #include "shell/Shell.h"
 
 namespace tw {
+
+void Shell::SetRecoveryFolder(std::string folder) {
+    recoveryRoot_ = std::move(folder);
+    own_.AddFolder(recoveryRoot_, "is kept for unsaved recipes");
+}
 
 void Shell::DocumentEdited(const RecipeDocument& document) {
     if (!recovery_) return;

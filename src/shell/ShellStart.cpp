@@ -31,7 +31,10 @@ constexpr int kPackagings = 2;
 }  // namespace
 
 Shell::Shell(Platform& platform)
-    : platform_(platform), dde_(*this, platform.messages), store_(platform.settings), recent_(bar_) {}
+    : platform_(platform), dde_(*this, platform.messages), store_(platform.settings), recent_(bar_) {
+    for (const std::string& file : platform.settings.Files())
+        own_.AddFile(file, "is the file of the settings");
+}
 
 Shell::~Shell() = default;
 
@@ -63,6 +66,7 @@ bool Shell::OpenDatabase(const std::string& path) {
         if (view_) view_->CloseMainWindow();
         return false;
     }
+    if (path != kInMemory) own_.AddDatabase(path);
     if (!programFolder_.empty() && path != kInMemory) FollowCatalogue();
     tree_ = std::make_unique<TWTree>(database_.get());
     treeObjects_ = std::make_unique<TreeObjects>(*tree_);

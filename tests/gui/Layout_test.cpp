@@ -214,8 +214,9 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         NoPrinterModel noPrinter;
         NoPrinterBox noPrinterWindow(noPrinter, nullptr);
         show(noPrinterWindow);
-        PrintWizardModel wizard(
-            {*shell.DB(), shell.Tree(), shell.Store(), outside.messages, outside.dialogs, nullptr}, 0);
+        PrintWizardModel wizard({*shell.DB(), shell.Tree(), shell.Store(), outside.messages, outside.dialogs,
+                                 nullptr, shell.Own()},
+                                0);
         wizard.Chooser().Add("F:-1");
         for (int page = 0; page < PrintWizardModel::kPages; ++page) {
             frmPrintWizard wizardWindow(wizard, nullptr);

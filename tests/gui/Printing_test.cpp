@@ -179,16 +179,18 @@ TEST_F(PreviewTest, PaperIsWhiteAndTextBlackOnADarkDesktopToo) {
 class PaperTest : public testing::Test {
   protected:
     QString File(const char* name) const { return folder.filePath(QLatin1String(name)); }
+    TargetFile Target(const char* name) const { return {FromQt(File(name)), own}; }
     QTemporaryDir folder;
+    OwnFiles own;
     RecipeRecord recipe;
 };
 
 TEST_F(PaperTest, APdfFileHasThePagesOfItsSteps) {
     FillHops(recipe, 60);
-    QtPrinters printers;
+    QtPrinters printers(own);
     const PrintSteps steps = LayOutRecipe(recipe, PrintableArea(Paper::Letter), printers.Measure());
     EXPECT_EQ(steps.Pages(), 2);
-    PlaySteps(steps, printers.MakePdf(FromQt(File("a.pdf")), Paper::Letter));
+    PlaySteps(steps, printers.MakePdf(Target("a.pdf"), Paper::Letter));
     QFile file(File("a.pdf"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray content = file.readAll();
@@ -198,7 +200,7 @@ TEST_F(PaperTest, APdfFileHasThePagesOfItsSteps) {
 }
 
 TEST_F(PaperTest, TheDeviceMeasuresAsThePreviewDoes) {
-    QtPrinterDevice device(File("a.pdf"), PdfPage(Paper::A4));
+    QtPrinterDevice device(Target("a.pdf"), PdfPage(Paper::A4));
     ASSERT_TRUE(device.StartDoc("Porter"));
     ASSERT_TRUE(device.StartPage());
     const PrintSize page = device.PageSize(), expected = PrintableArea(Paper::A4);
@@ -223,16 +225,17 @@ TEST_F(PaperTest, AFailedOrKilledPdfLeavesTheOlderFile) {
     old.write("old");
     old.close();
     {
-        QtPrinterDevice device(File("a.pdf"), PdfPage(Paper::A4));
+        QtPrinterDevice device(Target("a.pdf"), PdfPage(Paper::A4));
         ASSERT_TRUE(device.StartDoc("Porter"));
         ASSERT_TRUE(device.StartPage());
         ASSERT_TRUE(device.TextOut("x", 1, 1));
         ASSERT_TRUE(device.AbortDoc());
     }
     EXPECT_EQ(QFileInfo(File("a.pdf")).size(), 3);
-    QtPrinterDevice nowhere(File("missing/a.pdf"), PdfPage(Paper::A4));
-    EXPECT_FALSE(nowhere.StartDoc("Porter"));
-    EXPECT_NE(nowhere.LastError(), 0);
+    QtPrinterDevice nowhere(Target("missing/a.pdf"), PdfPage(Paper::A4));
+    ASSERT_TRUE(nowhere.StartDoc("Porter"));
+    ASSERT_TRUE(nowhere.StartPage());
+    EXPECT_THROW(nowhere.EndDoc(), Error);
 }
 
 TEST_F(PaperTest, NothingLeavesItsColumnOrTheSheetInRealType) {
@@ -324,7 +327,8 @@ TEST_F(GuiTest, TheReportWizardGoesByTheKeyboard) {
     TWTree tree(shell.DB());
     tree.InitFromDatabase();
     RecordingSaveFile files;
-    PrintWizardModel model({*shell.DB(), tree, shell.Store(), outside.messages, outside.dialogs, &files}, 1);
+    PrintWizardModel model(
+        {*shell.DB(), tree, shell.Store(), outside.messages, outside.dialogs, &files, shell.Own()}, 1);
     frmPrintWizard wizard(model, nullptr);
     wizard.show();
     QApplication::setActiveWindow(&wizard);
@@ -346,10 +350,13 @@ TEST_F(GuiTest, TheReportWizardGoesByTheKeyboard) {
     Key(Qt::Key_Return);
     EXPECT_EQ(outside.messages.log, (Strings{"[Error] Could not create report file \"/dev/full\""}));
     EXPECT_EQ(Focus(), "txtFileName");
-    files.answer = "/dev/null";
+    const QTemporaryDir folder;
+    const std::string file = FromQt(folder.filePath(QStringLiteral("Porter.htm")));
+    files.answer = file;
     Click(wizard, "cmdBrowse");
-    EXPECT_EQ(FromQt(wizard.findChild<QLineEdit*>(QStringLiteral("txtFileName"))->text()), "/dev/null");
+    EXPECT_EQ(FromQt(wizard.findChild<QLineEdit*>(QStringLiteral("txtFileName"))->text()), file);
     Click(wizard, "cmdNext");
+    EXPECT_TRUE(QFile::exists(ToQt(file)));
     EXPECT_FALSE(model.IsOpen());
     EXPECT_FALSE(wizard.isVisible());
 }

@@ -164,7 +164,8 @@ TEST_F(HelpTest, ASeparatorAtTheFoldersEndIsNotDoubled) {
 TEST(SystemTextFilesTest, GiveBackWhatWasWrittenByteForByte) {
     const TemporaryFolder folder;
     const std::string file = (folder.Path() / "a.txt").string();
-    SystemTextFiles files;
+    const OwnFiles own;
+    SystemTextFiles files(own);
     const std::string text("a\r\nb\0\xff\n", 7);
     files.Write(file, "much longer than what comes");
     files.Write(file, text);
@@ -175,7 +176,8 @@ TEST(SystemTextFilesTest, GiveBackWhatWasWrittenByteForByte) {
 
 TEST(SystemTextFilesTest, NameTheFileThatCannotBeUsed) {
     const TemporaryFolder folder;
-    SystemTextFiles files;
+    const OwnFiles own;
+    SystemTextFiles files(own);
     const auto description = [](const auto& operation) {
         try {
             operation();

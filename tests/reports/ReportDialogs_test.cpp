@@ -35,7 +35,7 @@ class PrintWizardTest : public testing::Test {
         tree.InitFromDatabase();
     }
     PrintWizardModel Make(int reportType = 0) {
-        return {{*database, tree, store, outside.messages, outside.dialogs, &files}, reportType};
+        return {{*database, tree, store, outside.messages, outside.dialogs, &files, own}, reportType};
     }
     // The recipe picked into the list.
     static void Add(PrintWizardModel& wizard, const char* key) {
@@ -52,6 +52,7 @@ class PrintWizardTest : public testing::Test {
 
     RecordingPlatform outside;
     RecordingSaveFile files;
+    OwnFiles own;
     SettingsStore store{outside.settings};
     std::unique_ptr<Database> database = Database::CreateInMemory();
     TWTree tree{database.get()};

@@ -4,6 +4,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <sys/stat.h>
 
 #include "platform/Error.h"
 #include "support/RecordingPlatform.h"
@@ -33,7 +34,7 @@ class ReportFileTest : public testing::Test {
 
     bool Create(std::vector<std::string> names) {
         request.names = std::move(names);
-        return CreateReportFile(*database, store, request, outside.messages);
+        return CreateReportFile(*database, store, request, own, outside.messages);
     }
     std::string Content() const {
         std::ifstream file(request.path, std::ios::binary);
@@ -57,6 +58,7 @@ class ReportFileTest : public testing::Test {
     RecordingPlatform outside;
     SettingsStore store{outside.settings};
     std::unique_ptr<Database> database = Database::CreateInMemory();
+    OwnFiles own;
     ReportRequest request;
 };
 
@@ -155,12 +157,32 @@ TEST_F(ReportFileTest, AFileThatCannotBeMadeIsTold) {
     ExpectRefused();
 }
 
-TEST_F(ReportFileTest, AFullDiskIsTold) {
+TEST_F(ReportFileTest, ADeviceIsRefused) {
     request.path = "/dev/full";
     ExpectRefused();
     outside.settings.Put("TextOptions", "Append", "1");
     ExpectRefused();
-    EXPECT_TRUE(fs::exists("/dev/full"));
+    EXPECT_TRUE(fs::is_character_file("/dev/full"));
+}
+
+TEST_F(ReportFileTest, APipeIsRefusedAndNotWaitedFor) {
+    ASSERT_EQ(mkfifo(request.path.c_str(), 0600), 0);
+    ExpectRefused();
+    outside.settings.Put("TextOptions", "Append", "1");
+    ExpectRefused();
+    EXPECT_TRUE(fs::is_fifo(request.path));
+}
+
+TEST_F(ReportFileTest, AFileOfTheProgramsOwnIsRefusedWithTheReason) {
+    Put("the recipes");
+    own.AddDatabase(request.path);
+    ExpectRefused();
+    EXPECT_EQ(outside.messages.advice, "'" + request.path +
+                                           "' is the database of the recipes themselves. "
+                                           "Please choose another name.");
+    outside.settings.Put("TextOptions", "Append", "1");
+    ExpectRefused();
+    EXPECT_EQ(Content(), "the recipes");
 }
 
 TEST_F(ReportFileTest, AFailureInTheMiddleLeavesTheOlderFile) {
@@ -171,16 +193,16 @@ TEST_F(ReportFileTest, AFailureInTheMiddleLeavesTheOlderFile) {
     EXPECT_EQ(Files(), 1);
 }
 
-TEST_F(ReportFileTest, AFailureInTheMiddleTakesBackWhatWasAppended) {
+TEST_F(ReportFileTest, AFailureInTheMiddleAppendsNothing) {
     outside.settings.Put("TextOptions", "Append", "1");
     Put("old");
     {
-        ReportFile file(request.path, true);
+        ReportFile file(request.path, true, own);
         file.Write(std::string(100'000, 'x'));
     }
     EXPECT_EQ(Content(), "old");
     fs::remove(request.path);
-    { ReportFile(request.path, true).Write("x"); }
+    { ReportFile(request.path, true, own).Write("x"); }
     EXPECT_EQ(Files(), 0);
 }
 

@@ -1,7 +1,11 @@
+#include <algorithm>
+#include <filesystem>
+
 #include "reports/NoPrinterModel.h"
 #include "reports/PrintPreviewModel.h"
 #include "reports/PrintWizardModel.h"
 #include "shell/ShellTest.h"
+#include "store/Schema.h"
 #include "support/RecordingPrinter.h"
 
 namespace tw::test {
@@ -159,6 +163,32 @@ TEST_F(ShellPrintTest, WithoutAPrinterThePreviewOffersAPdfFileAlone) {
         outside.messages.log,
         (Strings{"[Print] There is no printer on this computer.\r\nDo you want to save the recipe as a PDF "
                  "file instead? -> No"}));
+}
+
+// A database of its own in a file, which paper must not take.
+TEST(ShellPrint, ThePdfFileNeverTakesThePlaceOfTheDatabase) {
+    const ScratchFolder folder;
+    const std::string path = folder.File("Tunwright.mdb");
+    CreateSchema(*Database::CreateDatabase(path, ""));
+    std::filesystem::create_symlink(path, folder.File("link.pdf"));
+    RecordingPlatform outside;
+    RecordingPrinter printer;
+    RecordingSaveFile files;
+    Shell shell(outside.platform);
+    shell.SetPrinter(&printer);
+    shell.SetSaveFiles(&files);
+    ASSERT_TRUE(shell.PerformSplashScreenInit(path));
+    shell.CreateDocumentWindow("");
+    printer.result = Result::NoPrinter;
+    for (const char* name : {"Tunwright.mdb", "Tunwright.mdb-journal", "link.pdf"}) {
+        files.answer = folder.File(name);
+        outside.dialogs.scripts = {[](DialogModel& dialog) { EXPECT_TRUE(dialog.Press("cmdPDF")); }};
+        shell.PrintActiveDocument(false);
+        EXPECT_EQ(outside.messages.TakeLog(),
+                  Strings{"[Error] Could not create PDF file \"" + folder.File(name) + "\""});
+        EXPECT_TRUE(outside.messages.advice.ends_with(" Please choose another name."));
+    }
+    EXPECT_TRUE(std::ranges::none_of(printer.log, [](const auto& line) { return line.starts_with("pdf"); }));
 }
 
 TEST_F(ShellPrintTest, TheNameOfAPdfFileIsTheRecipesWithoutWhatAFileCannotHave) {

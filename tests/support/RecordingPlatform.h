@@ -24,6 +24,13 @@ class MessageRecorder : public MessagePort {
         if (whileShowing) whileShowing();
     }
 
+    // The text alone goes into the log, as the console prints it.
+    void ShowMessageWithAdvice(std::string_view title, std::string_view text,
+                               std::string_view shownBelow) override {
+        advice = shownBelow;
+        ShowMessage(title, text);
+    }
+
     Answer Ask(std::string_view title, std::string_view text, Question kind) override {
         Answer answer = kind == Question::YesNo ? Answer::No : Answer::Cancel;
         if (!answers.empty()) {
@@ -41,6 +48,7 @@ class MessageRecorder : public MessagePort {
     std::vector<std::string> TakeLog() { return std::exchange(log, {}); }
 
     std::vector<std::string> log;        // "[title] text", "[title] text -> Yes", "beep"
+    std::string advice;                  // of the last message that had one
     std::deque<Answer> answers;          // for the questions to come
     std::function<void()> whileAsking;   // runs while a question is open
     std::function<void()> whileShowing;  // runs while a message is open

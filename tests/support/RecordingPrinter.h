@@ -20,8 +20,9 @@ class RecordingPrinter : public PrinterPort {
         return answer;
     }
     void ShowHourglass(bool on) override { log.emplace_back(on ? "hourglass" : "pointer"); }
-    std::unique_ptr<PrinterDevice> MakePdf(const std::string& path, Paper paper) override {
-        log.push_back("pdf " + path + " " + std::string(kPaperNames[static_cast<std::size_t>(paper)]));
+    std::unique_ptr<PrinterDevice> MakePdf(const TargetFile& target, Paper paper) override {
+        log.push_back("pdf " + target.Name() + " " +
+                      std::string(kPaperNames[static_cast<std::size_t>(paper)]));
         return MakeDevice();
     }
     const TextMeasure& Measure() const override { return measure; }

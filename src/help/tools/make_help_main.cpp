@@ -22,6 +22,12 @@ namespace fs = std::filesystem;
 
 using Row = std::vector<std::string>;
 
+// No brewer's file is near.
+tw::SystemTextFiles TextFiles() {
+    static const tw::OwnFiles kNone;
+    return tw::SystemTextFiles(kNone);
+}
+
 class Problems {
   public:
     void Add(const std::string& text) {
@@ -36,7 +42,7 @@ class Problems {
 
 // The lines of a table below its header, their cells between tabs.
 std::vector<Row> ReadTable(const fs::path& file, std::size_t columns, Problems& problems) {
-    std::istringstream text(tw::SystemTextFiles().Read(file.string()));
+    std::istringstream text(TextFiles().Read(file.string()));
     std::vector<Row> rows;
     std::string line;
     for (int number = 1; std::getline(text, line); ++number) {
@@ -133,7 +139,7 @@ int MakeHelp(const fs::path& folder, const fs::path& target) {
     for (const Row& topic : sources.topics) children[std::stoi(topic[3])].push_back(topic);
     std::string list;
     AppendList(children, -1, list);
-    tw::SystemTextFiles files;
+    tw::SystemTextFiles files = TextFiles();
     const std::string frame = tw::ReplaceAll(files.Read((folder / "frame.html").string()), "$CONTENTS", list);
 
     fs::remove_all(target / "OnlineHelp");

@@ -26,8 +26,14 @@ void Prepare(QMessageBox& box, std::string_view title, std::string_view text) {
 }  // namespace
 
 void QtMessages::ShowMessage(std::string_view title, std::string_view text) {
+    ShowMessageWithAdvice(title, text, {});
+}
+
+void QtMessages::ShowMessageWithAdvice(std::string_view title, std::string_view text,
+                                       std::string_view advice) {
     QMessageBox box(QApplication::activeWindow());
     Prepare(box, title, text);
+    if (!advice.empty()) box.setInformativeText(Lines(advice));
     box.setIcon(title.find("Error") == title.npos ? QMessageBox::Information : QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();

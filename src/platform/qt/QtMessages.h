@@ -8,6 +8,8 @@ namespace tw {
 class QtMessages final : public MessagePort {
   public:
     void ShowMessage(std::string_view title, std::string_view text) override;
+    void ShowMessageWithAdvice(std::string_view title, std::string_view text,
+                               std::string_view advice) override;
     Answer Ask(std::string_view title, std::string_view text, Question kind) override;
     void Beep() override;
 };

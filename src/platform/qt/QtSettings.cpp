@@ -53,6 +53,10 @@ std::optional<std::string> QtSettings::Read(Layer layer, std::string_view sectio
     return TextOf(value).toStdString();
 }
 
+std::vector<std::string> QtSettings::Files() const {
+    return {user_->fileName().toStdString(), machine_->fileName().toStdString()};
+}
+
 bool QtSettings::Write(Layer layer, std::string_view section, std::string_view key, std::string_view value) {
     QSettings& settings = Of(layer);
     if (!settings.isWritable()) return false;

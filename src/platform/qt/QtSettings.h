@@ -21,6 +21,8 @@ class QtSettings : public SettingsPort {
     // The file is brought up to date when the program returns to its event loop, and when this object goes.
     bool Write(Layer layer, std::string_view section, std::string_view key, std::string_view value) override;
 
+    std::vector<std::string> Files() const override;
+
   private:
     explicit QtSettings(std::unique_ptr<QSettings> user);
     QSettings& Of(Layer layer) { return layer == Layer::User ? *user_ : *machine_; }

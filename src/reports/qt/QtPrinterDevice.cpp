@@ -2,6 +2,7 @@
 
 #include <QPageLayout>
 #include <QPdfWriter>
+#include <utility>
 
 #include "platform/qt/QtText.h"
 #include "reports/qt/PaperPainter.h"
@@ -16,31 +17,24 @@ QPageLayout PdfPage(Paper paper) {
 QtPrinterDevice::QtPrinterDevice(std::shared_ptr<QPrinter> printer)
     : printer_(std::move(printer)), paper_(printer_) {}
 
-QtPrinterDevice::QtPrinterDevice(const QString& path, const QPageLayout& page)
-    : file_(std::make_unique<QSaveFile>(path)), filePage_(std::make_unique<QPageLayout>(page)) {
-    // A folder may take no other file while the file itself can be written.
-    file_->setDirectWriteFallback(true);
-}
+QtPrinterDevice::QtPrinterDevice(TargetFile target, const QPageLayout& page)
+    : target_(std::move(target)), filePage_(std::make_unique<QPageLayout>(page)) {}
 
 QtPrinterDevice::~QtPrinterDevice() {
     Close();
 }
 
-bool QtPrinterDevice::OpenFile() {
-    if (!file_->open(QIODevice::WriteOnly)) {
-        error_ = static_cast<int>(file_->error());
-        return false;
-    }
-    auto writer = std::make_shared<QPdfWriter>(file_.get());
+void QtPrinterDevice::MakePaper() {
+    content_.open(QIODevice::WriteOnly);
+    auto writer = std::make_shared<QPdfWriter>(&content_);
     writer->setPageLayout(*filePage_);
     writer->setResolution(kPaperDpi);
     writer->setCreator(QStringLiteral("Tunwright"));
     paper_ = writer;
-    return true;
 }
 
 bool QtPrinterDevice::StartDoc(const std::string& name) {
-    if (file_ && !OpenFile()) return false;
+    if (target_) MakePaper();
     if (printer_)
         printer_->setDocName(ToQt(name));
     else
@@ -58,13 +52,12 @@ bool QtPrinterDevice::StartPage() {
 bool QtPrinterDevice::EndDoc() {
     if (!painter_.end()) return false;
     if (printer_) return printer_->printerState() != QPrinter::Error;
-    if (file_->commit()) return true;
-    error_ = static_cast<int>(file_->error());
-    return false;
+    const QByteArray& content = content_.buffer();
+    target_->Replace({content.constData(), static_cast<std::size_t>(content.size())});
+    return true;
 }
 
 bool QtPrinterDevice::AbortDoc() {
-    if (file_) file_->cancelWriting();
     if (printer_ && painter_.isActive()) printer_->abort();
     return true;
 }

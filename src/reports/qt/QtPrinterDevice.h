@@ -1,12 +1,14 @@
 // A print job on a printer, or into a PDF file, by Qt.
 #pragma once
 
+#include <QBuffer>
 #include <QPainter>
 #include <QPrinter>
-#include <QSaveFile>
 #include <memory>
+#include <optional>
 #include <string>
 
+#include "platform/TargetFile.h"
 #include "reports/Paper.h"
 #include "reports/PrinterDevice.h"
 
@@ -20,7 +22,7 @@ class QtPrinterDevice final : public PrinterDevice {
     // A job on that printer, with its page and its resolution.
     explicit QtPrinterDevice(std::shared_ptr<QPrinter> printer);
     // A PDF file. What was there before stays until the document has ended well.
-    QtPrinterDevice(const QString& path, const QPageLayout& page);
+    QtPrinterDevice(TargetFile target, const QPageLayout& page);
     ~QtPrinterDevice() override;
 
     bool StartDoc(const std::string& name) override;
@@ -29,8 +31,7 @@ class QtPrinterDevice final : public PrinterDevice {
     bool EndDoc() override;
     bool AbortDoc() override;
     bool Close() override;
-    // Of a file the number of its device's error, 0 where nothing is known.
-    int LastError() const override { return error_; }
+    int LastError() const override { return 0; }
     PrintSize PageSize() const override;
     bool SetTextColor(Rgb color) override;
     bool MakeFont(const PrintFont& font) override;
@@ -44,17 +45,17 @@ class QtPrinterDevice final : public PrinterDevice {
     bool Rectangle(double x1, double y1, double x2, double y2) override;
 
   private:
-    bool OpenFile();
+    void MakePaper();
     double Dpi() const;
 
     std::shared_ptr<QPrinter> printer_;  // nullptr for a file
-    std::unique_ptr<QSaveFile> file_;    // nullptr for a printer; outlives the paper
+    std::optional<TargetFile> target_;   // none for a printer
+    QBuffer content_;                    // of the file; outlives the paper
     std::unique_ptr<QPageLayout> filePage_;
     std::shared_ptr<QPagedPaintDevice> paper_;
     QPainter painter_;
     double x_ = 0, y_ = 0;
     int pages_ = 0;
-    int error_ = 0;
 };
 
 // The page of a PDF file on that paper.

@@ -29,13 +29,6 @@ Result RunDialog(QPrinter& printer) {
     return answer == QDialog::Accepted ? Result::Chosen : Result::Cancelled;
 }
 
-// A PDF file that was chosen as the printer is written as every other one, so that a failure is noticed.
-std::unique_ptr<PrinterDevice> DeviceOf(const std::shared_ptr<QPrinter>& printer) {
-    if (printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty())
-        return std::make_unique<QtPrinterDevice>(printer->outputFileName(), printer->pageLayout());
-    return std::make_unique<QtPrinterDevice>(printer);
-}
-
 }  // namespace
 
 bool AddPreviewButton(QDialog& dialog) {
@@ -46,6 +39,14 @@ bool AddPreviewButton(QDialog& dialog) {
     preview->setToolTip(QPrintDialog::tr("Shows the pages instead of printing them (Ctrl+Shift+P)"));
     QObject::connect(preview, &QPushButton::clicked, &dialog, [&dialog] { dialog.done(kPreviewResult); });
     return true;
+}
+
+// A PDF file that was chosen as the printer is written as every other one, so that a failure is noticed.
+std::unique_ptr<PrinterDevice> QtPrinters::DeviceOf(const std::shared_ptr<QPrinter>& printer) const {
+    if (printer->outputFormat() != QPrinter::PdfFormat || printer->outputFileName().isEmpty())
+        return std::make_unique<QtPrinterDevice>(printer);
+    return std::make_unique<QtPrinterDevice>(TargetFile(FromQt(printer->outputFileName()), own_),
+                                             printer->pageLayout());
 }
 
 PrinterAnswer QtPrinters::ShowPrinterDialog(bool configured, bool quick) {
@@ -67,8 +68,8 @@ void QtPrinters::ShowHourglass(bool on) {
         QApplication::restoreOverrideCursor();
 }
 
-std::unique_ptr<PrinterDevice> QtPrinters::MakePdf(const std::string& path, Paper paper) {
-    return std::make_unique<QtPrinterDevice>(ToQt(path), PdfPage(paper));
+std::unique_ptr<PrinterDevice> QtPrinters::MakePdf(const TargetFile& target, Paper paper) {
+    return std::make_unique<QtPrinterDevice>(target, PdfPage(paper));
 }
 
 Paper QtPrinters::UsualPaper() const {

@@ -1,0 +1,197 @@
+#include "platform/TargetFile.h"
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <functional>
+#include <optional>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+#include "platform/Descriptor.h"
+
+namespace tw {
+namespace {
+
+constexpr mode_t kPermissions = 0777, kWriteBits = 0222, kUsual = 0666, kOwnerAlone = 0600;
+constexpr std::size_t kLongestName = 255;  // in bytes, of most file systems
+
+[[noreturn]] void Refuse(const std::string& name, const std::string& what, int number) {
+    throw Error("TargetFile", "'" + name + "' " + what, number);
+}
+
+// What the system says of a file; nothing when it is missing. Other failures leave errno behind 0.
+std::optional<struct stat> StatusOf(const std::string& path) {
+    struct stat status {};
+    errno = 0;
+    if (stat(path.c_str(), &status) == 0) return status;
+    if (errno == ENOENT) errno = 0;
+    return std::nullopt;
+}
+
+bool IsFileAt(int file, const std::string& path) {
+    struct stat open {
+    }, there{};
+    return fstat(file, &open) == 0 && lstat(path.c_str(), &there) == 0 && open.st_dev == there.st_dev &&
+           open.st_ino == there.st_ino;
+}
+
+std::string FolderOf(const std::string& path) {
+    const std::size_t slash = path.rfind('/');
+    return slash == std::string::npos ? "." : path.substr(0, slash + 1);
+}
+
+// A fixed name, so that the next write of the same file finds what a killed one has left.
+std::string BesideName(const std::string& path) {
+    const std::string folder = FolderOf(path);
+    std::string name = "." + path.substr(folder == "." ? 0 : folder.size()) + std::string(kUnderWay);
+    if (name.size() > kLongestName)
+        name = "." + std::to_string(std::hash<std::string>()(name)) + std::string(kUnderWay);
+    return folder + (folder == "." ? "/" : "") + name;
+}
+
+// The new file while it grows. It goes when it was not put in place. Every operation gives false when it
+// fails and leaves the reason in errno.
+class BesideFile {
+  public:
+    explicit BesideFile(const std::string& target) : path_(BesideName(target)) {}
+    ~BesideFile() {
+        if (file_.IsOpen()) unlink(path_.c_str());
+    }
+    BesideFile(const BesideFile&) = delete;
+    BesideFile& operator=(const BesideFile&) = delete;
+
+    // Locks the file, so that a second writer of the same file knows a living one from what a killed one
+    // left.
+    bool Make(mode_t mode) {
+        for (int tries = 0; tries < kTries; ++tries) {
+            Descriptor file(open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+            if (!file.IsOpen()) {
+                if (errno != EEXIST || !RemoveLeftover()) return false;
+                continue;
+            }
+            // A file system without locks gives none to the others either.
+            const bool taken = flock(file.Number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+            if (taken || !IsFileAt(file.Number(), path_)) continue;
+            file_ = std::move(file);
+            return true;
+        }
+        errno = EBUSY;
+        return false;
+    }
+
+    // The owner and the mode of the file that it replaces, as far as this user may give them.
+    void TakeAfter(const struct stat& old) {
+        if (fchown(file_.Number(), old.st_uid, old.st_gid) != 0 &&
+            fchown(file_.Number(), static_cast<uid_t>(-1), old.st_gid) != 0)
+            errno = 0;  // the file is this user's then
+        if (fchmod(file_.Number(), old.st_mode & kPermissions) != 0) errno = 0;  // a disk without modes
+    }
+
+    bool Write(std::string_view text) {
+        while (!text.empty()) {
+            const ssize_t written = write(file_.Number(), text.data(), text.size());
+            if (written < 0 && errno == EINTR) continue;
+            if (written == 0) errno = ENOSPC;
+            if (written <= 0) return false;
+            text.remove_prefix(static_cast<std::size_t>(written));
+        }
+        return true;
+    }
+
+    // All of the file at path.
+    bool Copy(const std::string& path) {
+        const Descriptor from(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+        if (!from.IsOpen()) return false;
+        std::array<char, 1 << 16> buffer;
+        for (;;) {
+            const ssize_t got = read(from.Number(), buffer.data(), buffer.size());
+            if (got < 0 && errno == EINTR) continue;
+            if (got <= 0) return got == 0;
+            if (!Write({buffer.data(), static_cast<std::size_t>(got)})) return false;
+        }
+    }
+
+    bool PutInPlace(const std::string& target) {
+        // Without the first sync a loss of power could leave the name with an empty file behind it, without
+        // the second one the old file under it.
+        if (!Sync(file_) || rename(path_.c_str(), target.c_str()) != 0) return false;
+        file_.Close();
+        const Descriptor folder(open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        return !folder.IsOpen() || Sync(folder);
+    }
+
+  private:
+    static constexpr int kTries = 10;
+
+    // A disk that knows no sync is as safe as it gets.
+    static bool Sync(const Descriptor& file) {
+        return fsync(file.Number()) == 0 || errno == EINVAL || errno == ENOTSUP;
+    }
+
+    // False, with a reason, for what is not a leftover of this user, and while its writer lives.
+    bool RemoveLeftover() {
+        const Descriptor old(open(path_.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        if (!old.IsOpen()) return errno == ENOENT;
+        struct stat status {};
+        if (fstat(old.Number(), &status) != 0) return false;
+        if (!S_ISREG(status.st_mode) || status.st_uid != geteuid()) {
+            errno = EEXIST;
+            return false;
+        }
+        if (flock(old.Number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+            errno = EBUSY;
+            return false;
+        }
+        // Its writer may have put it in place, and another one begun, since it was opened.
+        return !IsFileAt(old.Number(), path_) || unlink(path_.c_str()) == 0;
+    }
+
+    std::string path_;
+    Descriptor file_;
+};
+
+}  // namespace
+
+TargetFile::TargetFile(const std::string& path, const OwnFiles& own, Readers readers)
+    : name_(path), readers_(readers) {
+    if (path.empty() || path.find('\0') != std::string::npos) Refuse(path, "is no file name.", ENOENT);
+    own.Check(path);
+    path_ = FollowLinks(path);
+    const std::optional<struct stat> old = StatusOf(path_);
+    if (!old && errno != 0)
+        Refuse(path, std::string("cannot be written: ") + std::strerror(errno) + ".", errno);
+    if (path.back() == '/' || (old && S_ISDIR(old->st_mode))) Refuse(path, "is a folder.", EISDIR);
+    if (!old) return;
+    // Never opened to find out: that would wait for the other end of a pipe.
+    if (!S_ISREG(old->st_mode)) Refuse(path, "is not a file.", EINVAL);
+    // An administrator's process may write a file that its owner has locked against changes.
+    if ((old->st_mode & kWriteBits) == 0 || faccessat(AT_FDCWD, path_.c_str(), W_OK, AT_EACCESS) != 0)
+        Refuse(path, "is write-protected.", EACCES);
+}
+
+void TargetFile::Replace(std::string_view content) const {
+    Write(false, content);
+}
+
+void TargetFile::Append(std::string_view content) const {
+    Write(true, content);
+}
+
+void TargetFile::Write(bool append, std::string_view content) const {
+    const std::optional<struct stat> old = StatusOf(path_);
+    // Nobody reads what is to replace a private file before it has the mode of that.
+    const mode_t mode = old || readers_ == Readers::OwnerAlone ? kOwnerAlone : kUsual;
+    BesideFile file(path_);
+    bool written = file.Make(mode);
+    if (written && old) file.TakeAfter(*old);
+    if (written && old && append) written = file.Copy(path_);
+    if (written && file.Write(content) && file.PutInPlace(path_)) return;
+    const int number = errno;
+    Refuse(name_, std::string("cannot be written: ") + std::strerror(number) + ".", number);
+}
+
+}  // namespace tw
