@@ -118,7 +118,7 @@ class Reader {
         } else {
             CheckCells(row);
         }
-        CheckName(row.cells.front());
+        CheckName(row);
         sheet_.rows.push_back(std::move(row));
     }
 
@@ -180,11 +180,15 @@ class Reader {
         }
     }
 
-    void CheckName(const std::string& name) {
+    void CheckName(const CatalogueRow& row) {
+        const std::string& name = row.cells.front();
         if (IsBlank(name)) return;
         // Some statements of the program put a name between double quotes.
         if (name.find('"') != std::string::npos) Report("name " + Quoted(name) + " holds a double quote");
-        const auto [known, isNew] = lineOfName_.emplace(Upper(Trim(name)), line_);
+        std::string key = Upper(Trim(name));
+        for (std::size_t at = 0; at < columns_.size(); ++at)
+            if (columns_[at].partsNames) key += '\t' + row.cells[at];
+        const auto [known, isNew] = lineOfName_.emplace(std::move(key), line_);
         if (!isNew) {
             Report("name " + Quoted(name) + " stands in line " + std::to_string(known->second) + " already");
         }

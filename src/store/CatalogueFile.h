@@ -34,6 +34,7 @@ struct CatalogueColumn {
     std::span<const std::string_view> words = {};  // all that a cell of a Word column may say
     double least = 0;                              // the bounds of a Number column, themselves allowed
     double most = 0;
+    bool partsNames = false;  // a name may occur once for each different cell of this column
 };
 
 // A line below the header row.

@@ -15,6 +15,12 @@ using Words = std::span<const std::string_view>;
 
 constexpr std::array<std::string_view, 2> kKinds = {"grain", "extract"};
 constexpr std::array<std::string_view, 4> kFlocculations = {"Low", "Medium", "High", "Very High"};
+constexpr std::array<std::string_view, 3> kGuides = {"Beer 2021", "Mead 2015", "Cider 2025"};
+constexpr std::array<std::string_view, 3> kHopForms = {"Pellet or leaf", "Cryo", "LUPOMAX"};
+constexpr std::array<std::string_view, 2> kYeastForms = {"Dry", "Liquid"};
+// Whether a row rests on published figures or on another collection's data alone.
+constexpr std::array<std::string_view, 2> kBases = {"published", "secondary"};
+constexpr std::array<std::string_view, 2> kFates = {kGone, kMoved};
 
 constexpr CatalogueColumn Text(std::string_view header) {
     return {.header = header};
@@ -24,6 +30,12 @@ constexpr CatalogueColumn Required(std::string_view header) {
 }
 constexpr CatalogueColumn Word(std::string_view header, Words words, bool required) {
     return {.header = header, .kind = CatalogueColumn::Kind::Word, .required = required, .words = words};
+}
+// A name may stand once for each of the words.
+constexpr CatalogueColumn PartingWord(std::string_view header, Words words) {
+    CatalogueColumn column = Word(header, words, true);
+    column.partsNames = true;
+    return column;
 }
 constexpr CatalogueColumn Number(std::string_view header, double least, double most, bool required = false) {
     return {.header = header,
@@ -49,25 +61,53 @@ constexpr std::array kGrainColumns = {Required("name"),
                                       Number("ppg_hi", 0, 50),
                                       Number("color_lo", 0, 1000),
                                       Number("color_hi", 0, 1000),
-                                      Text("description")};
-constexpr std::array kHopColumns = {Required("name"), Text("usage"), Percent("alpha_lo"), Percent("alpha_hi"),
-                                    Text("description")};
-constexpr std::array kYeastColumns = {
-    Required("name"),           Word("type", kYeastTypes, false), Word("flocculation", kFlocculations, false),
-    Percent("attenuation_lo"),  Percent("attenuation_hi"),        Number("temp_lo", 32, 212),
-    Number("temp_hi", 32, 212), Text("short_description"),        Text("description")};
+                                      Text("description"),
+                                      Word("basis", kBases, false)};
+constexpr std::array kHopColumns = {
+    Required("name"),    Text("usage"),       Text("origin"),      Word("form", kHopForms, false),
+    Percent("alpha_lo"), Percent("alpha_hi"), Text("description"), Word("basis", kBases, false)};
+// Strains for low alcohol ferment little: 10 percent are plausible, less is not.
+constexpr double kLeastAttenuation = 10;
+constexpr std::array kYeastColumns = {Required("name"),
+                                      Text("laboratory"),
+                                      Text("product_code"),
+                                      Word("form", kYeastForms, false),
+                                      Word("type", kYeastTypes, false),
+                                      Word("flocculation", kFlocculations, false),
+                                      Number("attenuation_lo", kLeastAttenuation, 100),
+                                      Number("attenuation_hi", kLeastAttenuation, 100),
+                                      Number("temp_lo", 32, 212),
+                                      Number("temp_hi", 32, 212),
+                                      Text("short_description"),
+                                      Text("description"),
+                                      Word("basis", kBases, false)};
 // Water profiles and salts alike.
 constexpr std::array kIonColumns = {Required("name"), Ion("ca"), Ion("co3"), Ion("cl"),
                                     Ion("mg"),        Ion("na"), Ion("so4"), Text("description")};
 constexpr std::array kSugarColumns = {Required("name"), Percent("fermentable_lo"), Percent("fermentable_hi"),
                                       Text("description")};
-constexpr std::array kStyleColumns = {
-    Required("name"),          Required("folder"),         Word("type", kYeastTypes, false),
-    Text("water_profile"),     Number("og_lo", 0.9, 1.3),  Number("og_hi", 0.9, 1.3),
-    Number("fg_lo", 0.9, 1.3), Number("fg_hi", 0.9, 1.3),  Percent("abv_lo"),
-    Percent("abv_hi"),         Number("color_lo", 0, 100), Number("color_hi", 0, 100),
-    Number("ibu_lo", 0, 200),  Number("ibu_hi", 0, 200),   Number("co2_lo", 0, 10),
-    Number("co2_hi", 0, 10),   Text("description")};
+constexpr std::array kStyleColumns = {Required("name"),
+                                      Text("code"),
+                                      Word("guide", kGuides, false),
+                                      Required("folder"),
+                                      Word("type", kYeastTypes, false),
+                                      Text("water_profile"),
+                                      Number("og_lo", 0.9, 1.3),
+                                      Number("og_hi", 0.9, 1.3),
+                                      Number("fg_lo", 0.9, 1.3),
+                                      Number("fg_hi", 0.9, 1.3),
+                                      Percent("abv_lo"),
+                                      Percent("abv_hi"),
+                                      Number("color_lo", 0, 100),
+                                      Number("color_hi", 0, 100),
+                                      Number("ibu_lo", 0, 200),
+                                      Number("ibu_hi", 0, 200),
+                                      Number("co2_lo", 0, 10),
+                                      Number("co2_hi", 0, 10),
+                                      Text("description")};
+constexpr std::array kAliasColumns = {Required("alias"), PartingWord("kind", kNameKinds), Required("name")};
+constexpr std::array kFormerColumns = {Required("name"), PartingWord("kind", kNameKinds),
+                                       Word("fate", kFates, true), Text("folder")};
 
 void CheckGrainTypes(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
     if (!catalogue.grainTypes.readable) return;
@@ -122,25 +162,89 @@ void CheckFolders(const CatalogueSheets& catalogue, CatalogueProblems& problems)
     }
 }
 
+const CatalogueSheet& SheetOf(const CatalogueSheets& catalogue, std::string_view table) {
+    if (table == "GRAINS") return catalogue.grains;
+    if (table == "HOPS") return catalogue.hops;
+    if (table == "YEAST") return catalogue.yeast;
+    if (table == "STYLES") return catalogue.styles;
+    if (table == "SALTS") return catalogue.salts;
+    return table == "SUGARS" ? catalogue.sugars : catalogue.waters;
+}
+
+using NamesOfTables = std::map<std::string_view, std::set<std::string>>;
+
+// An alias that is a row's own name would never be looked at.
+void CheckAliases(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
+    NamesOfTables exact, upper;
+    for (const std::string_view table : kNameTables) {
+        for (const CatalogueRow& row : SheetOf(catalogue, table).rows) {
+            exact[table].insert(row.Text("name"));
+            upper[table].insert(Upper(row.Text("name")));
+        }
+    }
+    for (const CatalogueRow& row : catalogue.aliases.rows) {
+        const std::string_view table = TableOfNameKind(row.Text("kind"));
+        if (table.empty() || !SheetOf(catalogue, table).readable) continue;
+        const std::string& file = catalogue.aliases.file;
+        if (upper[table].contains(Upper(row.Text("alias"))))
+            problems.push_back({file, row.line, "alias \"" + row.Text("alias") + "\" is the name of a row"});
+        if (!exact[table].contains(row.Text("name")))
+            problems.push_back(
+                {file, row.line,
+                 "name \"" + row.Text("name") + "\" is no " + row.Text("kind") + " of the catalogue"});
+    }
+}
+
+void CheckFormer(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
+    for (const CatalogueRow& row : catalogue.former.rows) {
+        const std::string_view table = TableOfNameKind(row.Text("kind"));
+        if (table.empty() || !SheetOf(catalogue, table).readable) continue;
+        const std::string& name = row.Text("name");
+        const bool present =
+            std::ranges::any_of(SheetOf(catalogue, table).rows,
+                                [&](const CatalogueRow& other) { return other.Text("name") == name; });
+        const bool moved = row.Text("fate") == kMoved;
+        std::string fault;
+        if (present != moved)
+            fault = "is " + std::string(present ? "" : "not ") + "in the catalogue";
+        else if (moved && (table != "STYLES" || row.Text("folder").empty()))
+            fault = "must be a style and have the folder where it was";
+        if (!fault.empty())
+            problems.push_back(
+                {catalogue.former.file, row.line, row.Text("fate") + " \"" + name + "\" " + fault});
+    }
+}
+
 }  // namespace
 
+std::string_view TableOfNameKind(std::string_view word) {
+    const auto found = std::ranges::find(kNameKinds, word);
+    return found == kNameKinds.end() ? std::string_view()
+                                     : kNameTables[static_cast<std::size_t>(found - kNameKinds.begin())];
+}
+
 CatalogueSheets ReadCatalogue(const std::string& folder, CatalogueProblems& problems) {
-    const auto read = [&](std::string_view file, std::span<const CatalogueColumn> columns) {
-        return ReadCatalogueFile(folder + "/" + std::string(file), columns, problems);
+    auto file = kCatalogueFiles.begin();
+    const auto read = [&](std::span<const CatalogueColumn> columns) {
+        return ReadCatalogueFile(folder + "/" + *file++, columns, problems);
     };
     CatalogueSheets catalogue;
-    catalogue.grainTypes = read("grain_types.tsv", kGrainTypeColumns);
-    catalogue.grains = read("grains.tsv", kGrainColumns);
-    catalogue.hops = read("hops.tsv", kHopColumns);
-    catalogue.yeast = read("yeast.tsv", kYeastColumns);
-    catalogue.waters = read("water_profiles.tsv", kIonColumns);
-    catalogue.salts = read("salts.tsv", kIonColumns);
-    catalogue.sugars = read("sugars.tsv", kSugarColumns);
-    catalogue.styles = read("styles.tsv", kStyleColumns);
+    catalogue.grainTypes = read(kGrainTypeColumns);
+    catalogue.grains = read(kGrainColumns);
+    catalogue.hops = read(kHopColumns);
+    catalogue.yeast = read(kYeastColumns);
+    catalogue.waters = read(kIonColumns);
+    catalogue.salts = read(kIonColumns);
+    catalogue.sugars = read(kSugarColumns);
+    catalogue.styles = read(kStyleColumns);
+    catalogue.aliases = read(kAliasColumns);
+    catalogue.former = read(kFormerColumns);
     CheckGrainTypes(catalogue, problems);
     CheckYeastNames(catalogue, problems);
     CheckWaterProfiles(catalogue, problems);
     CheckFolders(catalogue, problems);
+    CheckAliases(catalogue, problems);
+    CheckFormer(catalogue, problems);
     return catalogue;
 }
 

@@ -1,4 +1,4 @@
-// The product's catalogue as its files hold it: one folder of eight sheets, read and checked as a whole.
+// The product's catalogue as its files hold it: one folder of ten sheets, read and checked as a whole.
 #pragma once
 
 #include <array>
@@ -14,13 +14,32 @@ namespace tw {
 inline constexpr std::array<std::string_view, 5> kYeastTypes = {"Ale", "Lager", "Wheat", "Lactic",
                                                                 "Wine/Mead/Cider"};
 
+// The words of the columns called "kind" of aliases and of former rows. The table at the place of a word
+// holds the rows that it means.
+inline constexpr std::array<std::string_view, 7> kNameKinds = {"fermentable", "hop",   "yeast", "style",
+                                                               "salt",        "sugar", "water"};
+inline constexpr std::array<std::string_view, 7> kNameTables = {"GRAINS", "HOPS",   "YEAST",         "STYLES",
+                                                                "SALTS",  "SUGARS", "WATER_PROFILES"};
+// Empty for any other word.
+std::string_view TableOfNameKind(std::string_view word);
+
+// The words of the column "fate" of former rows: what became of a row that an earlier release delivered.
+inline constexpr std::string_view kGone = "gone";
+inline constexpr std::string_view kMoved = "moved";  // a style, into another folder
+
 // The sheets of one folder.
 struct CatalogueSheets {
     CatalogueSheet grainTypes, grains, hops, yeast, waters, salts, sugars, styles;
+    CatalogueSheet aliases;  // other names of rows
+    CatalogueSheet former;   // rows that earlier releases delivered otherwise
 };
 
-// Reads grain_types.tsv, grains.tsv, hops.tsv, yeast.tsv, water_profiles.tsv, salts.tsv, sugars.tsv and
-// styles.tsv of folder and checks every row, also against the rows of the other files that it names.
+// The files of one folder: those of the sheets in the order in which they are read.
+inline constexpr std::array<const char*, 10> kCatalogueFiles = {
+    "grain_types.tsv", "grains.tsv", "hops.tsv",   "yeast.tsv",   "water_profiles.tsv",
+    "salts.tsv",       "sugars.tsv", "styles.tsv", "aliases.tsv", "former.tsv"};
+
+// Reads those files of folder and checks every row, also against the rows of the other files that it names.
 // Everything wrong goes to the end of problems.
 CatalogueSheets ReadCatalogue(const std::string& folder, CatalogueProblems& problems);
 

@@ -3,22 +3,21 @@
 #include <charconv>
 #include <cstdint>
 #include <fstream>
-#include <map>
 #include <optional>
+#include <set>
 #include <sstream>
 
+#include "store/CatalogueDeliveries.h"
 #include "store/CatalogueEntries.h"
+#include "store/CatalogueNames.h"
 #include "values/Text.h"
 
 namespace tw {
 
 namespace {
 
-constexpr std::string_view kBaseTable = "CATALOGUE_BASE";
-constexpr std::string_view kFolders = "FOLDERS";
 constexpr std::string_view kRelease = "CATALOGUE";
-constexpr const char* kFiles[] = {"grain_types.tsv",    "grains.tsv", "hops.tsv",   "yeast.tsv",
-                                  "water_profiles.tsv", "salts.tsv",  "sugars.tsv", "styles.tsv"};
+constexpr std::string_view kStyles = "STYLES";
 
 // Which state of the files came into a database.
 struct Release {
@@ -46,7 +45,7 @@ std::optional<std::string> ReadFile(const std::string& path) {
 // The 64-bit FNV-1a hash of all bytes of the files tells one state of them from another.
 std::optional<Release> ReleaseOf(const std::string& folder) {
     std::uint64_t hash = 0xcbf29ce484222325U;
-    for (const char* name : kFiles) {
+    for (const char* name : kCatalogueFiles) {
         const auto bytes = ReadFile(folder + "/" + name);
         if (!bytes) return std::nullopt;
         for (const char byte : *bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3U;
@@ -59,109 +58,112 @@ std::optional<Release> ReleaseOf(const std::string& folder) {
     return release;
 }
 
-bool HasDeliveries(Database& database) {
-    return !database
-                .OpenRecordset("SELECT name FROM sqlite_schema WHERE type = 'table' AND name = " +
-                               SqlText(kBaseTable))
-                .AtEnd();
-}
-
 // The release that came last; nothing when none is remembered, as after a first look that was broken off.
 std::optional<Release> LastRelease(Database& database) {
-    if (!HasDeliveries(database)) return std::nullopt;
-    const Recordset row = database.OpenRecordset("SELECT CONTENT FROM " + std::string(kBaseTable) +
+    if (!Deliveries::AreIn(database)) return std::nullopt;
+    const Recordset row = database.OpenRecordset("SELECT CONTENT FROM " + std::string(kDeliveryTable) +
                                                  " WHERE SHEET = " + SqlText(kRelease));
     if (row.AtEnd()) return std::nullopt;
     return Release::FromText(row.Fields(0).Text());
 }
 
-void MakeDeliveries(Database& database) {
-    database.ExecuteNative("CREATE TABLE IF NOT EXISTS " + std::string(kBaseTable) +
-                           " (SHEET TEXT NOT NULL, NAME TEXT NOT NULL, CONTENT TEXT,"
-                           " PRIMARY KEY (SHEET, NAME)) WITHOUT ROWID");
-}
-
-// What was delivered, held in memory beside the table.
-class Deliveries {
-  public:
-    explicit Deliveries(Database& database) : database_(database) {
-        Recordset rows =
-            database.OpenRecordset("SELECT SHEET, NAME, CONTENT FROM " + std::string(kBaseTable));
-        for (; !rows.AtEnd(); rows.MoveNext())
-            contents_[{rows.Fields(0).Text(), rows.Fields(1).Text()}] = rows.Fields(2).Text();
-    }
-    // Nothing for what was never delivered.
-    const std::string* Find(std::string_view sheet, const std::string& name) const {
-        const auto found = contents_.find({std::string(sheet), name});
-        return found == contents_.end() ? nullptr : &found->second;
-    }
-    void Remember(std::string_view sheet, const std::string& name, const std::string& content) {
-        const std::string* known = Find(sheet, name);
-        if (known && *known == content) return;
-        database_.Execute(known ? "UPDATE " + std::string(kBaseTable) + " SET CONTENT = " + SqlText(content) +
-                                      " WHERE SHEET = " + SqlText(sheet) + " AND NAME = " + SqlText(name)
-                                : "INSERT INTO " + std::string(kBaseTable) +
-                                      " (SHEET, NAME, CONTENT) VALUES (" + SqlText(sheet) + ", " +
-                                      SqlText(name) + ", " + SqlText(content) + ")");
-        contents_[{std::string(sheet), name}] = content;
-    }
-
-  private:
-    Database& database_;
-    std::map<std::pair<std::string, std::string>, std::string> contents_;
-};
-
-// A line "COLUMN=literal" for each value.
-std::string ContentOf(const CatalogueEntry& entry) {
-    std::string content;
-    for (const auto& [column, literal] : entry.values) content += column + "=" + literal + "\n";
-    return content;
-}
-
-// Whether the row holds what content says, column by column; a column that content does not know counts as
-// unchanged.
-bool StandsAs(Database& database, const Recordset& row, std::string_view content) {
-    while (!content.empty()) {
-        const std::size_t end = content.find('\n');
-        const std::string_view line = content.substr(0, end);
-        const std::size_t equals = line.find('=');
-        if (LiteralOf(database, row, line.substr(0, equals)) != line.substr(equals + 1)) return false;
-        content.remove_prefix(end + 1);
-    }
-    return true;
-}
-
 // One run over the catalogue.
 class Update {
   public:
-    Update(Database& database, const std::optional<DateTime>& now)
-        : database_(database), deliveries_(database), when_(now ? SqlText(DateText(*now)) : "NULL") {}
+    // REQUIRES: catalogue lives for as long.
+    Update(Database& database, const CatalogueSheets& catalogue, const std::optional<DateTime>& now)
+        : database_(database),
+          deliveries_(database),
+          former_(catalogue.former),
+          when_(now ? SqlText(DateText(*now)) : "NULL") {}
 
     void Take(const CatalogueEntry& entry) {
         const std::string content = ContentOf(entry);
         const std::string* delivered = deliveries_.Find(entry.table, entry.name);
         if (delivered && *delivered == content) return;
-        const Recordset row = database_.OpenRecordset("SELECT * FROM " + std::string(entry.table) +
-                                                      " WHERE NAME = " + SqlText(entry.name));
+        const Recordset row = RowOf(entry.table, entry.name);
         if (!delivered && row.AtEnd()) {
             InsertEntry(database_, entry, entry.folder.empty() ? "" : FolderId(entry.folder), when_);
             changed_ = true;
         } else if (delivered && !row.AtEnd() && StandsAs(database_, row, *delivered)) {
-            UpdateEntry(database_, entry, row.Fields("ID").Text(), when_);
-            changed_ = true;
+            Correct(entry, row, *delivered, content);
         }
         deliveries_.Remember(entry.table, entry.name, content);
+    }
+    // Takes the row of that name out of the table, when it stands as it was delivered and no recipe has it.
+    void Withdraw(std::string_view table, const std::string& name) {
+        const std::string* delivered = deliveries_.Find(table, name);
+        if (!delivered) return;
+        const Recordset row = RowOf(table, name);
+        if (row.AtEnd() || !StandsAs(database_, row, *delivered)) return;
+        const std::string id = row.Fields("ID").Text();
+        if (table == kStyles && FirstId("SELECT ID FROM RECIPES WHERE STYLE_ID = " + id)) return;
+        database_.Execute("DELETE FROM " + std::string(table) + " WHERE ID = " + id);
+        deliveries_.Forget(table, name);
+        changed_ = true;
+    }
+    // Takes out the delivered folders that folders, those of this release, no longer names and that stand
+    // empty as they were delivered.
+    void WithdrawFolders(const std::set<std::string>& folders) {
+        for (const std::string& name : deliveries_.NamesOf(kDeliveredFolders)) {
+            const std::optional<std::string> id =
+                folders.contains(name) ? std::nullopt : StandingFolder(name);
+            if (!id || FirstId("SELECT ID FROM STYLES WHERE FOLDER_ID = " + *id) ||
+                FirstId("SELECT ID FROM FOLDERS WHERE PARENT_ID = " + *id))
+                continue;
+            database_.Execute("DELETE FROM FOLDERS WHERE ID = " + *id);
+            deliveries_.Forget(kDeliveredFolders, name);
+            changed_ = true;
+        }
     }
     // Counts the entry as delivered, whatever the database holds.
     void Adopt(const CatalogueEntry& entry) {
         deliveries_.Remember(entry.table, entry.name, ContentOf(entry));
-        if (entry.folder.empty() || deliveries_.Find(kFolders, entry.folder)) return;
-        deliveries_.Remember(kFolders, entry.folder, FoundFolder(entry.folder).value_or("0"));
+        if (entry.folder.empty() || deliveries_.Find(kDeliveredFolders, entry.folder)) return;
+        deliveries_.Remember(kDeliveredFolders, entry.folder, FoundFolder(entry.folder).value_or("0"));
     }
     void Remember(const Release& release) { deliveries_.Remember(kRelease, "", release.Text()); }
     bool Changed() const { return changed_; }
 
   private:
+    Recordset RowOf(std::string_view table, const std::string& name) {
+        return database_.OpenRecordset("SELECT * FROM " + std::string(table) +
+                                       " WHERE NAME = " + SqlText(name));
+    }
+    // Gives a row that stands as delivered the new values. A style that also stands in the folder delivered
+    // goes into the new one.
+    void Correct(const CatalogueEntry& entry, const Recordset& row, const std::string& delivered,
+                 const std::string& content) {
+        const std::string id = row.Fields("ID").Text();
+        std::string folder = FolderOf(delivered);
+        if (folder.empty()) folder = FormerFolder(entry);
+        const std::optional<std::string> from =
+            folder.empty() || folder == entry.folder ? std::nullopt : StandingFolder(folder);
+        if (from && row.Fields("FOLDER_ID").Text() == *from) {
+            database_.Execute("UPDATE STYLES SET FOLDER_ID = " + FolderId(entry.folder) +
+                              ", MODIFIED_WHEN = " + when_ + " WHERE ID = " + id);
+            changed_ = true;
+        }
+        if (ValuesOf(delivered) == ValuesOf(content)) return;
+        UpdateEntry(database_, entry, id, when_);
+        changed_ = true;
+    }
+    // Where the first release, which did not remember it, delivered a style that has moved since.
+    std::string FormerFolder(const CatalogueEntry& entry) const {
+        if (entry.table != kStyles) return {};
+        for (const CatalogueRow& row : former_.rows)
+            if (row.Text("name") == entry.name && TableOfNameKind(row.Text("kind")) == kStyles)
+                return row.Text("folder");
+        return {};
+    }
+    // The ID of the folder delivered under that name, when it still has the name and its place under the
+    // root.
+    std::optional<std::string> StandingFolder(const std::string& name) {
+        const std::string* id = deliveries_.Find(kDeliveredFolders, name);
+        if (!id) return std::nullopt;
+        return FirstId("SELECT ID FROM FOLDERS WHERE STYLE AND PARENT_ID = 0 AND ID = " + *id +
+                       " AND NAME = " + SqlText(name));
+    }
     std::optional<std::string> FirstId(const std::string& sql) {
         const Recordset found = database_.OpenRecordset(sql);
         if (found.AtEnd()) return std::nullopt;
@@ -173,7 +175,7 @@ class Update {
     // The folder delivered under that name; a new one is made for a name that never was, and one that its
     // brewer removed does not come back.
     std::string FolderId(const std::string& name) {
-        if (const std::string* id = deliveries_.Find(kFolders, name))
+        if (const std::string* id = deliveries_.Find(kDeliveredFolders, name))
             return FirstId("SELECT ID FROM FOLDERS WHERE STYLE AND ID = " + *id).value_or("0");
         std::optional<std::string> id = FoundFolder(name);
         if (!id) {
@@ -182,12 +184,13 @@ class Update {
                 SqlText(name) + ", TRUE, " + when_ + ", " + when_ + ")");
             id = FoundFolder(name);
         }
-        deliveries_.Remember(kFolders, name, id.value_or("0"));
+        deliveries_.Remember(kDeliveredFolders, name, id.value_or("0"));
         return id.value_or("0");
     }
 
     Database& database_;
     Deliveries deliveries_;
+    const CatalogueSheet& former_;
     std::string when_;
     bool changed_ = false;
 };
@@ -220,10 +223,21 @@ bool UpdateCatalogue(const std::string& folder, Database& database, const DateTi
     const CatalogueSheets catalogue = ReadCatalogue(folder, problems);
     if (!problems.empty()) return false;
     UnitOfWork unit(database);
-    MakeDeliveries(database);
+    Deliveries::MakeTable(database);
     ForgetMadeUpDates(database);
-    Update update(database, now);
-    for (const CatalogueEntry& entry : EntriesOf(catalogue)) last ? update.Take(entry) : update.Adopt(entry);
+    Update update(database, catalogue, now);
+    std::set<std::string> folders;
+    for (const CatalogueEntry& entry : EntriesOf(catalogue)) {
+        last ? update.Take(entry) : update.Adopt(entry);
+        folders.insert(entry.folder);
+    }
+    if (last) {
+        for (const CatalogueRow& row : catalogue.former.rows)
+            if (row.Text("fate") == kGone)
+                update.Withdraw(TableOfNameKind(row.Text("kind")), row.Text("name"));
+        update.WithdrawFolders(folders);
+    }
+    WriteCatalogueNames(catalogue, database);
     update.Remember(*release);
     unit.Commit();
     return update.Changed();
@@ -232,13 +246,14 @@ bool UpdateCatalogue(const std::string& folder, Database& database, const DateTi
 void DeliverCatalogue(const std::string& folder, const CatalogueSheets& catalogue, Database& database,
                       const std::optional<DateTime>& created) {
     UnitOfWork unit(database);
-    MakeDeliveries(database);
+    Deliveries::MakeTable(database);
     // The types come first, so that the lists show them in the order of their file.
     for (const CatalogueRow& row : catalogue.grainTypes.rows) {
         GrainTypeId(database, SqlText(row.Text("name")), row.Text("kind") == "grain" ? "TRUE" : "FALSE");
     }
-    Update update(database, created);
+    Update update(database, catalogue, created);
     for (const CatalogueEntry& entry : EntriesOf(catalogue)) update.Take(entry);
+    WriteCatalogueNames(catalogue, database);
     if (const auto release = ReleaseOf(folder)) update.Remember(*release);
     unit.Commit();
 }

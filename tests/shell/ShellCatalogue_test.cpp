@@ -14,7 +14,7 @@ class ShellCatalogue : public SmallCatalogue {
         const auto database = Database::CreateDatabase(Path(), "");
         CreateSchema(*database);
         ASSERT_TRUE(LoadCatalogue(folder_.string(), *database, kCreated).empty());
-        Append("styles.tsv", "Gose\tSour Beer\tLactic\t\t\t\t\t\t\t\t\t\t\t\t\t\tSalt.\n");
+        Append("styles.tsv", "Gose\t\t\tSour Beer\tLactic\t\t\t\t\t\t\t\t\t\t\t\t\t\tSalt.\n");
         Replace("version.txt", "2\n");
         std::filesystem::copy(folder_, program_.File("catalogue"));
     }

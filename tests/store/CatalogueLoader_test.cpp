@@ -74,6 +74,19 @@ TEST_F(CatalogueLoaderTest, WritesStyleRangesWithNullForBlankCells) {
                 ElementsAre("|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL|NULL"));
 }
 
+TEST_F(CatalogueLoaderTest, WritesCodesSourcesFormsAndOtherNamesBesideTheTables) {
+    ASSERT_THAT(Load(), IsEmpty());
+    EXPECT_THAT(
+        Rows("SELECT SHEET, NAME, CODE, SOURCE, FORM FROM CATALOGUE_FACTS WHERE CODE <> '' OR FORM <> ''"
+             " ORDER BY SHEET, NAME"),
+        ElementsAre("HOPS|Brewer's Gold||England|Cryo", "STYLES|Fruit Beer|29A|Beer 2021|",
+                    "STYLES|Helles|5D|Beer 2021|", "STYLES|Pils|5D|Beer 2021|",
+                    "YEAST|Cider Yeast||Dom Labs|Liquid", "YEAST|Kölsch Yeast|D-1|Dom Labs|Dry"));
+    EXPECT_THAT(Rows("SELECT SHEET, ALIAS_KEY, ALIAS, NAME FROM CATALOGUE_ALIASES ORDER BY SHEET, ALIAS_KEY"),
+                ElementsAre("GRAINS|MIEL|Miel|Honey", "GRAINS|SUGAR|Sugar|Honey", "HOPS|BG|BG|Brewer's Gold",
+                            "STYLES|PILSNER|Pilsner|Pils", "SUGARS|SUGAR|Sugar|Cane"));
+}
+
 TEST_F(CatalogueLoaderTest, StylesAndFoldersCarryTheGivenDate) {
     ASSERT_THAT(Load(), IsEmpty());
     EXPECT_THAT(Rows("SELECT DISTINCT CREATED_WHEN, MODIFIED_WHEN FROM STYLES"),
@@ -89,7 +102,7 @@ TEST_F(CatalogueLoaderTest, WithoutADateStylesAndFoldersCarryNone) {
 }
 
 TEST_F(CatalogueLoaderTest, AFileMayEndWithoutALineFeed) {
-    Append("hops.tsv", "Saaz\tAroma\t2.5\t4.5\tNoble.");
+    Append("hops.tsv", "Saaz\tAroma\t\t\t2.5\t4.5\tNoble.\tpublished");
     EXPECT_THAT(Load(), IsEmpty());
     EXPECT_THAT(Rows("SELECT DESCR FROM HOPS WHERE NAME = 'Saaz'"), ElementsAre("Noble."));
 }
@@ -114,19 +127,19 @@ TEST_F(CatalogueLoaderTest, ReportsAnotherHeaderRow) {
     EXPECT_THAT(
         Load(),
         ElementsAre(
-            "hops.tsv:1: the header row must name, between tabs: name, usage, alpha_lo, alpha_hi, "
-            "description",
+            "hops.tsv:1: the header row must name, between tabs: name, usage, origin, form, alpha_lo, "
+            "alpha_hi, description, basis",
             "sugars.tsv:1: the header row must name, between tabs: name, fermentable_lo, fermentable_hi, "
             "description"));
     ExpectNothingWritten();
 }
 
 TEST_F(CatalogueLoaderTest, ReportsEveryProblemOfEveryFileAndWritesNothing) {
-    Append("hops.tsv", "\tAroma\tx\t101\t\nSaaz\tAroma\n");
+    Append("hops.tsv", "\tAroma\t\t\tx\t101\t\t\nSaaz\tAroma\n");
     Append("sugars.tsv", "cane\t5\t4\t\n");
     EXPECT_THAT(Load(), ElementsAre("hops.tsv:4: name is blank", "hops.tsv:4: alpha_lo \"x\" is not a number",
                                     "hops.tsv:4: alpha_hi \"101\" is not between 0 and 100",
-                                    "hops.tsv:5: the row has 2 cells, not 5",
+                                    "hops.tsv:5: the row has 2 cells, not 8",
                                     "sugars.tsv:4: fermentable_lo \"5\" is above fermentable_hi \"4\"",
                                     "sugars.tsv:4: name \"cane\" stands in line 2 already"));
     ExpectNothingWritten();
@@ -151,77 +164,104 @@ TEST_P(BadRowTest, IsReportedByFileAndLineAndNothingIsWritten) {
 std::vector<BadRow> BadRows() {
     const std::string control = std::string("\x01");
     return {
-        {"EmptyLine", "hops.tsv", "", "hops.tsv:4: the row has 1 cells, not 5"},
-        {"TooManyCells", "hops.tsv", "Saaz\tAroma\t3\t4\t\t", "hops.tsv:4: the row has 6 cells, not 5"},
-        {"BlankName", "hops.tsv", "\tAroma\t3\t4\t", "hops.tsv:4: name is blank"},
-        {"LeadingBlank", "hops.tsv", " Saaz\tAroma\t3\t4\t",
+        {"EmptyLine", "hops.tsv", "", "hops.tsv:4: the row has 1 cells, not 8"},
+        {"TooManyCells", "hops.tsv", "Saaz\tAroma\t\t\t3\t4\t\t\t", "hops.tsv:4: the row has 9 cells, not 8"},
+        {"BlankName", "hops.tsv", "\tAroma\t\t\t3\t4\t\t", "hops.tsv:4: name is blank"},
+        {"LeadingBlank", "hops.tsv", " Saaz\tAroma\t\t\t3\t4\t\t",
          "hops.tsv:4: name \" Saaz\" holds a stray blank"},
-        {"TrailingBlank", "hops.tsv", "Saaz\tAroma\t3\t4\tNoble. ",
+        {"TrailingBlank", "hops.tsv", "Saaz\tAroma\t\t\t3\t4\tNoble. \t",
          "hops.tsv:4: description \"Noble. \" holds a stray blank"},
-        {"DoubledBlank", "hops.tsv", "Saaz  US\tAroma\t3\t4\t",
+        {"DoubledBlank", "hops.tsv", "Saaz  US\tAroma\t\t\t3\t4\t\t",
          "hops.tsv:4: name \"Saaz  US\" holds a stray blank"},
-        {"OnlyBlanks", "hops.tsv", "Saaz\t \t3\t4\t", "hops.tsv:4: usage \" \" holds a stray blank"},
-        {"CarriageReturn", "hops.tsv", "Saaz\tAroma\t3\t4\t\r",
+        {"OnlyBlanks", "hops.tsv", "Saaz\t \t\t\t3\t4\t\t", "hops.tsv:4: usage \" \" holds a stray blank"},
+        {"CarriageReturn", "hops.tsv", "Saaz\tAroma\t\t\t3\t4\t\r\t",
          "hops.tsv:4: the line holds the invisible character U+000D"},
-        {"ControlCharacter", "hops.tsv", "Sa" + control + "az\tAroma\t3\t4\t",
+        {"ControlCharacter", "hops.tsv", "Sa" + control + "az\tAroma\t\t\t3\t4\t\t",
          "hops.tsv:4: the line holds the invisible character U+0001"},
-        {"NoBreakBlank", "hops.tsv", "Saaz\u00A0US\tAroma\t3\t4\t",
+        {"NoBreakBlank", "hops.tsv", "Saaz\u00A0US\tAroma\t\t\t3\t4\t\t",
          "hops.tsv:4: the line holds the invisible character U+00A0"},
-        {"NotUtf8", "hops.tsv", "Hallertauer Mittelfr\xFCh\tAroma\t3\t4\t",
+        {"NotUtf8", "hops.tsv", "Hallertauer Mittelfr\xFCh\tAroma\t\t\t3\t4\t\t",
          "hops.tsv:4: the line is not valid UTF-8"},
-        {"CutShortUtf8", "hops.tsv", "Saaz\tAroma\t3\t4\tM\xC3", "hops.tsv:4: the line is not valid UTF-8"},
-        {"DoubleQuoteInName", "hops.tsv", "\"Saaz\"\tAroma\t3\t4\t",
+        {"CutShortUtf8", "hops.tsv", "Saaz\tAroma\t\t\t3\t4\tM\xC3\t",
+         "hops.tsv:4: the line is not valid UTF-8"},
+        {"DoubleQuoteInName", "hops.tsv", "\"Saaz\"\tAroma\t\t\t3\t4\t\t",
          "hops.tsv:4: name \"\"Saaz\"\" holds a double quote"},
-        {"NameTwice", "hops.tsv", "BREWER'S GOLD\tAroma\t3\t4\t",
+        {"NameTwice", "hops.tsv", "BREWER'S GOLD\tAroma\t\t\t3\t4\t\t",
          "hops.tsv:4: name \"BREWER'S GOLD\" stands in line 2 already"},
-        {"NameTwiceBeyondAscii", "yeast.tsv", "KÖLSCH YEAST\tAle\tLow\t\t\t\t\t\t",
+        {"NameTwiceBeyondAscii", "yeast.tsv", "KÖLSCH YEAST\t\t\t\tAle\tLow\t\t\t\t\t\t\t",
          "yeast.tsv:5: name \"KÖLSCH YEAST\" stands in line 2 already"},
-        {"NameOfGrainAndExtract", "grains.tsv", "Pale malt\textract\tSugar\t\t\t\t\t",
+        {"NameOfGrainAndExtract", "grains.tsv", "Pale malt\textract\tSugar\t\t\t\t\t\t",
          "grains.tsv:4: name \"Pale malt\" stands in line 2 already"},
-        {"Exponent", "hops.tsv", "Saaz\tAroma\t3\t1e1\t", "hops.tsv:4: alpha_hi \"1e1\" is not a number"},
-        {"DecimalComma", "hops.tsv", "Saaz\tAroma\t3,5\t4\t", "hops.tsv:4: alpha_lo \"3,5\" is not a number"},
-        {"NumberTooLarge", "hops.tsv", "Saaz\tAroma\t3\t1" + std::string(400, '0') + "\t",
+        {"Exponent", "hops.tsv", "Saaz\tAroma\t\t\t3\t1e1\t\t",
+         "hops.tsv:4: alpha_hi \"1e1\" is not a number"},
+        {"DecimalComma", "hops.tsv", "Saaz\tAroma\t\t\t3,5\t4\t\t",
+         "hops.tsv:4: alpha_lo \"3,5\" is not a number"},
+        {"NumberTooLarge", "hops.tsv", "Saaz\tAroma\t\t\t3\t1" + std::string(400, '0') + "\t\t",
          "hops.tsv:4: alpha_hi \"1" + std::string(400, '0') + "\" is not a number: Overflow"},
-        {"NegativeNumber", "hops.tsv", "Saaz\tAroma\t-3\t4\t",
+        {"NegativeNumber", "hops.tsv", "Saaz\tAroma\t\t\t-3\t4\t\t",
          "hops.tsv:4: alpha_lo \"-3\" is not between 0 and 100"},
         {"PercentAboveHundred", "sugars.tsv", "Rice\t90\t100.1\t",
          "sugars.tsv:4: fermentable_hi \"100.1\" is not between 0 and 100"},
-        {"LowAboveHigh", "hops.tsv", "Saaz\tAroma\t4.5\t4.4\t",
+        {"LowAboveHigh", "hops.tsv", "Saaz\tAroma\t\t\t4.5\t4.4\t\t",
          "hops.tsv:4: alpha_lo \"4.5\" is above alpha_hi \"4.4\""},
-        {"HighMissing", "hops.tsv", "Saaz\tAroma\t4.5\t\t",
+        {"HighMissing", "hops.tsv", "Saaz\tAroma\t\t\t4.5\t\t\t",
          "hops.tsv:4: a range needs both ends or none: alpha_lo \"4.5\", alpha_hi \"\""},
-        {"LowMissing", "grains.tsv", "Oats\tgrain\tBase Malt\t\t33\t1\t2\t",
+        {"LowMissing", "grains.tsv", "Oats\tgrain\tBase Malt\t\t33\t1\t2\t\t",
          "grains.tsv:4: a range needs both ends or none: ppg_lo \"\", ppg_hi \"33\""},
-        {"PointsOutOfBounds", "grains.tsv", "Oats\tgrain\tBase Malt\t33\t330\t1\t2\t",
+        {"PointsOutOfBounds", "grains.tsv", "Oats\tgrain\tBase Malt\t33\t330\t1\t2\t\t",
          "grains.tsv:4: ppg_hi \"330\" is not between 0 and 50"},
         {"UnknownKind", "grain_types.tsv", "Adjunct\tcereal",
          "grain_types.tsv:4: kind \"cereal\" is none of: grain, extract"},
         {"BlankKind", "grain_types.tsv", "Adjunct\t", "grain_types.tsv:4: kind is blank"},
-        {"UnknownGrainType", "grains.tsv", "Oats\tgrain\tAdjunct\t\t\t\t\t",
+        {"UnknownGrainType", "grains.tsv", "Oats\tgrain\tAdjunct\t\t\t\t\t\t",
          "grains.tsv:4: type \"Adjunct\" is not in grain_types.tsv"},
-        {"BlankGrainType", "grains.tsv", "Oats\tgrain\t\t\t\t\t\t", "grains.tsv:4: type is blank"},
-        {"GrainTypeOfTheOtherKind", "grains.tsv", "Oats\tgrain\tSugar\t\t\t\t\t",
+        {"BlankGrainType", "grains.tsv", "Oats\tgrain\t\t\t\t\t\t\t", "grains.tsv:4: type is blank"},
+        {"GrainTypeOfTheOtherKind", "grains.tsv", "Oats\tgrain\tSugar\t\t\t\t\t\t",
          "grains.tsv:4: type \"Sugar\" is of kind \"extract\", not \"grain\""},
-        {"UnknownYeastType", "yeast.tsv", "Baker\tBread\tLow\t\t\t\t\t\t",
+        {"UnknownYeastType", "yeast.tsv", "Baker\t\t\t\tBread\tLow\t\t\t\t\t\t\t",
          "yeast.tsv:5: type \"Bread\" is none of: Ale, Lager, Wheat, Lactic, Wine/Mead/Cider"},
-        {"UnknownFlocculation", "yeast.tsv", "Baker\tAle\tMedium to High\t\t\t\t\t\t",
+        {"UnknownFlocculation", "yeast.tsv", "Baker\t\t\t\tAle\tMedium to High\t\t\t\t\t\t\t",
          "yeast.tsv:5: flocculation \"Medium to High\" is none of: Low, Medium, High, Very High"},
-        {"TemperatureInCelsius", "yeast.tsv", "Baker\tAle\tLow\t\t\t18\t40\t\t",
+        {"TemperatureInCelsius", "yeast.tsv", "Baker\t\t\t\tAle\tLow\t\t\t18\t40\t\t\t",
          "yeast.tsv:5: temp_lo \"18\" is not between 32 and 212"},
-        {"YeastNameWithADash", "yeast.tsv", "Baker - dry\tAle\tLow\t\t\t\t\t\t",
+        {"YeastNameWithADash", "yeast.tsv", "Baker - dry\t\t\t\tAle\tLow\t\t\t\t\t\t\t",
          "yeast.tsv:5: name \"Baker - dry\" holds \" - \""},
         {"BlankIon", "water_profiles.tsv", "Rain\t0\t\t0\t0\t0\t0\t", "water_profiles.tsv:3: co3 is blank"},
         {"NegativeIon", "salts.tsv", "Lime\t-1\t0\t0\t0\t0\t0\t",
          "salts.tsv:3: ca \"-1\" is not between 0 and 10000"},
-        {"UnknownWaterProfile", "styles.tsv", "Ale\tPale Beer\tAle\tBurton\t\t\t\t\t\t\t\t\t\t\t\t\t",
+        {"UnknownWaterProfile", "styles.tsv", "Ale\t\t\tPale Beer\tAle\tBurton\t\t\t\t\t\t\t\t\t\t\t\t\t",
          "styles.tsv:5: water_profile \"Burton\" is not in water_profiles.tsv"},
-        {"UnknownStyleType", "styles.tsv", "Ale\tPale Beer\t0\t\t\t\t\t\t\t\t\t\t\t\t\t\t",
+        {"UnknownStyleType", "styles.tsv", "Ale\t\t\tPale Beer\t0\t\t\t\t\t\t\t\t\t\t\t\t\t\t",
          "styles.tsv:5: type \"0\" is none of: Ale, Lager, Wheat, Lactic, Wine/Mead/Cider"},
-        {"BlankFolder", "styles.tsv", "Ale\t\tAle\t\t\t\t\t\t\t\t\t\t\t\t\t\t",
+        {"BlankFolder", "styles.tsv", "Ale\t\t\t\tAle\t\t\t\t\t\t\t\t\t\t\t\t\t\t",
          "styles.tsv:5: folder is blank"},
-        {"FolderSpeltInTwoWays", "styles.tsv", "Ale\tPale beer\tAle\t\t\t\t\t\t\t\t\t\t\t\t\t\t",
+        {"FolderSpeltInTwoWays", "styles.tsv", "Ale\t\t\tPale beer\tAle\t\t\t\t\t\t\t\t\t\t\t\t\t\t",
          "styles.tsv:5: folder \"Pale beer\" is written \"Pale Beer\" further up"},
-        {"GravityOutOfBounds", "styles.tsv", "Ale\tPale Beer\tAle\t\t0.044\t1.050\t\t\t\t\t\t\t\t\t\t\t",
+        {"UnknownGuide", "styles.tsv", "Ale\t1A\tBeer 1999\tPale Beer\tAle\t\t\t\t\t\t\t\t\t\t\t\t\t\t",
+         "styles.tsv:5: guide \"Beer 1999\" is none of: Beer 2021, Mead 2015, Cider 2025"},
+        {"AttenuationTooLow", "yeast.tsv", "Baker\t\t\t\tAle\tLow\t9.9\t12\t\t\t\t\t",
+         "yeast.tsv:5: attenuation_lo \"9.9\" is not between 10 and 100"},
+        {"UnknownHopForm", "hops.tsv", "Saaz\tAroma\t\tPowder\t\t\t\t",
+         "hops.tsv:4: form \"Powder\" is none of: Pellet or leaf, Cryo, LUPOMAX"},
+        {"UnknownBasis", "hops.tsv", "Saaz\tAroma\t\t\t\t\t\thearsay",
+         "hops.tsv:4: basis \"hearsay\" is none of: published, secondary"},
+        {"AliasOfNothing", "aliases.tsv", "Bit\thop\tBitter Gold",
+         "aliases.tsv:7: name \"Bitter Gold\" is no hop of the catalogue"},
+        {"AliasOfAnotherKind", "aliases.tsv", "Bit\tyeast\tBrewer's Gold",
+         "aliases.tsv:7: name \"Brewer's Gold\" is no yeast of the catalogue"},
+        {"AliasThatIsAName", "aliases.tsv", "wild hop\thop\tBrewer's Gold",
+         "aliases.tsv:7: alias \"wild hop\" is the name of a row"},
+        {"AliasTwice", "aliases.tsv", "bg\thop\tWild Hop",
+         "aliases.tsv:7: name \"bg\" stands in line 3 already"},
+        {"AliasOfAnUnknownKind", "aliases.tsv", "Bit\tbeer\tPils",
+         "aliases.tsv:7: kind \"beer\" is none of: fermentable, hop, yeast, style, salt, sugar, water"},
+        {"GoneButPresent", "former.tsv", "Pils\tstyle\tgone\t",
+         "former.tsv:2: gone \"Pils\" is in the catalogue"},
+        {"MovedButAbsent", "former.tsv", "Bock\tstyle\tmoved\tPale Beer",
+         "former.tsv:2: moved \"Bock\" is not in the catalogue"},
+        {"MovedFromNowhere", "former.tsv", "Pils\tstyle\tmoved\t",
+         "former.tsv:2: moved \"Pils\" must be a style and have the folder where it was"},
+        {"GravityOutOfBounds", "styles.tsv", "Ale\t\t\tPale Beer\tAle\t\t0.044\t1.050\t\t\t\t\t\t\t\t\t\t\t",
          "styles.tsv:5: og_lo \"0.044\" is not between 0.9 and 1.3"},
     };
 }

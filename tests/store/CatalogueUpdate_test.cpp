@@ -6,6 +6,8 @@
 #include <string>
 
 #include "SmallCatalogue.h"
+#include "store/Schema.h"
+#include "support/DiesIn.h"
 
 namespace tw {
 namespace {
@@ -26,11 +28,34 @@ class CatalogueUpdateTest : public SmallCatalogue {
     }
     bool Update() { return UpdateCatalogue(folder_.string(), *database_, kNow); }
     void Sql(const std::string& sql) { database_->Execute(sql); }
-    void AddHop() const { Append("hops.tsv", "New Hop\tAroma\t4\t6\tLemon.\n"); }
+    void AddHop() const { Append("hops.tsv", "New Hop\tAroma\t\t\t4\t6\tLemon.\t\n"); }
     void AddStyle() const {
-        Append("styles.tsv", "Kellerbier\tPale Beer\tLager\t\t1.045\t1.051\t\t\t\t\t\t\t\t\t\t\tHazy.\n");
+        Append("styles.tsv", "Kellerbier\t\t\tPale Beer\tLager\t\t1.045\t1.051\t\t\t\t\t\t\t\t\t\t\tHazy.\n");
     }
-    void CorrectWildHop() const { Edit("hops.tsv", "Wild Hop\t\t\t\t", "Wild Hop\tAroma\t3\t5\tMild."); }
+    void CorrectWildHop() const {
+        Edit("hops.tsv", "Wild Hop\t\t\t\t\t\t\t", "Wild Hop\tAroma\t\t\t3\t5\tMild.\t");
+    }
+    // The first release remembered no folders, codes and other names.
+    void AgeTheDatabase() {
+        database_->ExecuteNative(
+            "UPDATE CATALOGUE_BASE SET CONTENT = substr(CONTENT, 1, instr(CONTENT, 'FOLDER=') - 1)"
+            " WHERE SHEET = 'STYLES';"
+            "DROP TABLE CATALOGUE_FACTS; DROP TABLE CATALOGUE_ALIASES;");
+    }
+    // The guide drops one style and puts another one elsewhere, as the only ones of their folders.
+    void ChangeTheGuide() const {
+        Edit("styles.tsv", "Fruit Beer\t29A\tBeer 2021\tOther Beer\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\n", "");
+        Edit("styles.tsv", "Pils\t5D\tBeer 2021\tPale Beer", "Pils\t5D\tBeer 2021\tBitter Beer");
+        Edit("styles.tsv", "Helles\t5D\tBeer 2021\tPale Beer", "Helles\t4A\tBeer 2021\tMild Beer");
+        Append("former.tsv",
+               "Fruit Beer\tstyle\tgone\t\nPils\tstyle\tmoved\tPale Beer\nHelles\tstyle\tmoved\tPale "
+               "Beer\n");
+    }
+    std::vector<std::string> StylesInFolders() {
+        return Rows(
+            "SELECT STYLES.NAME, FOLDERS.NAME FROM STYLES, FOLDERS WHERE STYLES.FOLDER_ID = FOLDERS.ID ORDER "
+            "BY STYLES.NAME");
+    }
     std::vector<std::string> WildHops() {
         return Rows("SELECT NAME, USAGE, DESCR, AA_LO, AA_HI FROM HOPS WHERE NAME = 'Wild Hop'");
     }
@@ -114,7 +139,7 @@ TEST_F(CatalogueUpdateTest, LeavesTheBrewersOwnRowOfANewNameAlone) {
 }
 
 TEST_F(CatalogueUpdateTest, ARowThatTheProductDropsStays) {
-    Edit("hops.tsv", "Wild Hop\t\t\t\t\n", "");
+    Edit("hops.tsv", "Wild Hop\t\t\t\t\t\t\t\n", "");
     EXPECT_FALSE(Update());
     EXPECT_THAT(WildHops(), ElementsAre("Wild Hop|||NULL|NULL"));
 }
@@ -152,6 +177,114 @@ TEST_F(CatalogueUpdateTest, DatesThatTheProductMadeUpGo) {
                 ElementsAre("NULL|02/29/2024 13:05:07"));
 }
 
+TEST_F(CatalogueUpdateTest, AnUntouchedStyleFollowsTheGuideIntoAnotherFolder) {
+    AgeTheDatabase();
+    ChangeTheGuide();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(StylesInFolders(), ElementsAre("Helles|Mild Beer", "Pils|Bitter Beer"));
+    EXPECT_THAT(Rows("SELECT CREATED_WHEN, MODIFIED_WHEN FROM STYLES WHERE NAME = 'Pils'"),
+                ElementsAre("02/29/2024 13:05:07|11/21/2026 08:00:00"));
+    // The folders that the guide no longer has are empty, and go too.
+    EXPECT_THAT(Rows("SELECT NAME FROM FOLDERS ORDER BY NAME"), ElementsAre("Bitter Beer", "Mild Beer"));
+}
+
+TEST_F(CatalogueUpdateTest, LaterReleasesKnowByThemselvesWhereAStyleWas) {
+    Edit("styles.tsv", "Pils\t5D\tBeer 2021\tPale Beer", "Pils\t5D\tBeer 2021\tBitter Beer");
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(StylesInFolders(),
+                ElementsAre("Fruit Beer|Other Beer", "Helles|Pale Beer", "Pils|Bitter Beer"));
+}
+
+TEST_F(CatalogueUpdateTest, StylesAndFoldersThatTheBrewerTouchedStayWhereTheyAre) {
+    AgeTheDatabase();
+    Sql("INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE) VALUES (0, 'Mine', TRUE)");
+    Sql("UPDATE STYLES SET FOLDER_ID = 3 WHERE NAME = 'Pils'");
+    Sql("UPDATE STYLES SET IBU_HI = 33 WHERE NAME = 'Helles'");
+    Sql("UPDATE STYLES SET NAME = 'Berry Beer' WHERE NAME = 'Fruit Beer'");
+    ChangeTheGuide();
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(StylesInFolders(), ElementsAre("Berry Beer|Other Beer", "Helles|Pale Beer", "Pils|Mine"));
+    EXPECT_THAT(Rows("SELECT NAME FROM FOLDERS ORDER BY NAME"),
+                ElementsAre("Mine", "Other Beer", "Pale Beer"));
+}
+
+TEST_F(CatalogueUpdateTest, StylesStayInAFolderThatTheBrewerRenamed) {
+    AgeTheDatabase();
+    Sql("UPDATE FOLDERS SET NAME = 'Yellow' WHERE NAME = 'Pale Beer'");
+    Sql("UPDATE FOLDERS SET NAME = 'Rest' WHERE NAME = 'Other Beer'");
+    ChangeTheGuide();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(StylesInFolders(), ElementsAre("Helles|Yellow", "Pils|Yellow"));
+    EXPECT_THAT(Rows("SELECT NAME FROM FOLDERS ORDER BY NAME"), ElementsAre("Rest", "Yellow"));
+}
+
+TEST_F(CatalogueUpdateTest, AFolderThatHoldsTheBrewersOwnStays) {
+    AgeTheDatabase();
+    Sql("INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE) VALUES (1, 'Mine', TRUE)");
+    Sql("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('My Cherry', 2)");
+    ChangeTheGuide();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT NAME FROM FOLDERS ORDER BY NAME"),
+                ElementsAre("Bitter Beer", "Mild Beer", "Mine", "Other Beer", "Pale Beer"));
+}
+
+TEST_F(CatalogueUpdateTest, AStyleOfARecipeStaysAlthoughTheGuideDropsIt) {
+    AgeTheDatabase();
+    Sql("INSERT INTO RECIPES (NAME, STYLE_ID) SELECT 'Cherry', ID FROM STYLES WHERE NAME = 'Fruit Beer'");
+    ChangeTheGuide();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT RECIPES.NAME, STYLES.NAME FROM RECIPES, STYLES WHERE STYLE_ID = STYLES.ID"),
+                ElementsAre("Cherry|Fruit Beer"));
+    EXPECT_THAT(StylesInFolders(),
+                ElementsAre("Fruit Beer|Other Beer", "Helles|Mild Beer", "Pils|Bitter Beer"));
+    // A later release takes it out once no recipe has it any more.
+    Sql("DELETE FROM RECIPES");
+    Replace("version.txt", "3\n");
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(StylesInFolders(), ElementsAre("Helles|Mild Beer", "Pils|Bitter Beer"));
+}
+
+TEST_F(CatalogueUpdateTest, ADroppedIngredientGoesWhenItStandsAsDelivered) {
+    Edit("hops.tsv", "Wild Hop\t\t\t\t\t\t\t\n", "");
+    Append("former.tsv", "Wild Hop\thop\tgone\t\n");
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(WildHops(), IsEmpty());
+    // It was forgotten: a release that has it again delivers it again.
+    Replace("former.tsv", "name\tkind\tfate\tfolder\n");
+    Append("hops.tsv", "Wild Hop\tAroma\t\t\t3\t5\tMild.\t\n");
+    Replace("version.txt", "3\n");
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(WildHops(), ElementsAre("Wild Hop|Aroma|Mild.|3|5"));
+}
+
+TEST_F(CatalogueUpdateTest, ASecondStartChangesNothingMore) {
+    AgeTheDatabase();
+    ChangeTheGuide();
+    EXPECT_TRUE(Update());
+    const std::int64_t changes = database_->ChangeCount();
+    EXPECT_FALSE(Update());
+    EXPECT_EQ(database_->ChangeCount(), changes);
+}
+
+TEST_F(CatalogueUpdateTest, RowsWhoseFiguresStayKeepTheirDates) {
+    AgeTheDatabase();
+    AddHop();
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT DISTINCT MODIFIED_WHEN FROM STYLES"), ElementsAre("02/29/2024 13:05:07"));
+}
+
+TEST_F(CatalogueUpdateTest, BringsCodesAndOtherNamesAndReplacesThemAsAWhole) {
+    AgeTheDatabase();
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(Rows("SELECT CODE FROM CATALOGUE_FACTS WHERE NAME = 'Pils'"), ElementsAre("5D"));
+    EXPECT_THAT(Rows("SELECT NAME FROM CATALOGUE_ALIASES WHERE ALIAS = 'BG'"), ElementsAre("Brewer's Gold"));
+    Edit("aliases.tsv", "BG\thop\tBrewer's Gold", "Wilding\thop\tWild Hop");
+    Replace("version.txt", "3\n");
+    EXPECT_FALSE(Update());
+    EXPECT_THAT(Rows("SELECT ALIAS, NAME FROM CATALOGUE_ALIASES WHERE SHEET = 'HOPS'"),
+                ElementsAre("Wilding|Wild Hop"));
+}
+
 TEST_F(CatalogueUpdateTest, AMovedStyleIsCorrectedWhereItIs) {
     Sql("UPDATE STYLES SET FOLDER_ID = 0 WHERE NAME = 'Pils'");
     Edit("styles.tsv", "22\t40", "22\t45");
@@ -179,7 +312,7 @@ TEST_F(CatalogueUpdateTest, ANewStyleOfARemovedFolderGoesUnderTheRoot) {
 }
 
 TEST_F(CatalogueUpdateTest, ANewFolderComesWithItsStyle) {
-    Append("styles.tsv", "Gose\tSour Beer\tLactic\t\t\t\t\t\t\t\t\t\t\t\t\t\tSalt.\n");
+    Append("styles.tsv", "Gose\t\t\tSour Beer\tLactic\t\t\t\t\t\t\t\t\t\t\t\t\t\tSalt.\n");
     EXPECT_TRUE(Update());
     EXPECT_THAT(
         Rows("SELECT FOLDERS.NAME, FOLDERS.CREATED_WHEN FROM STYLES, FOLDERS WHERE STYLES.FOLDER_ID = "
@@ -227,8 +360,9 @@ TEST_F(CatalogueUpdateTest, ADatabaseWithoutAMemoryOfDeliveriesStaysAsItIs) {
     AddHop();
     EXPECT_FALSE(Update());
     EXPECT_THAT(Rows("SELECT NAME FROM HOPS"), ElementsAre("Brewer's Gold"));
+    EXPECT_THAT(Rows("SELECT ALIAS FROM CATALOGUE_ALIASES WHERE SHEET = 'HOPS'"), ElementsAre("BG"));
     // From then on it follows like any other.
-    Append("hops.tsv", "Later Hop\tAroma\t4\t6\t\n");
+    Append("hops.tsv", "Later Hop\tAroma\t\t\t4\t6\t\t\n");
     Edit("hops.tsv", "Dark fruit.", "Blackcurrant.");
     EXPECT_TRUE(Update());
     EXPECT_THAT(Rows("SELECT NAME, DESCR FROM HOPS ORDER BY NAME"),
@@ -248,9 +382,103 @@ TEST_F(CatalogueUpdateTest, AFirstLookThatIsBrokenOffBringsNothingBackLater) {
     EXPECT_THAT(WildHops(), IsEmpty());
 }
 
+// All the changes at once, in a file that the first release made.
+class WholeUpdateTest : public CatalogueUpdateTest {
+  protected:
+    void SetUp() override {
+        SmallCatalogue::SetUp();
+        Append("version.txt", "1\n");
+        database_ = Database::CreateDatabase(First(), "");
+        CreateSchema(*database_);
+        ASSERT_THAT(Load(), IsEmpty());
+        AgeTheDatabase();
+        database_.reset();
+        Replace("version.txt", "2\n");
+        ChangeTheGuide();
+        CorrectWildHop();
+        AddHop();
+        StartOver();
+    }
+    std::string First() const { return (folder_ / "first.mdb").string(); }
+    std::string Path() const { return (folder_ / "Tunwright.mdb").string(); }
+    void StartOver() {
+        database_.reset();
+        std::filesystem::copy_file(First(), Path(), std::filesystem::copy_options::overwrite_existing);
+        Open();
+    }
+    void Open() {
+        database_.reset();
+        database_ = Database::OpenDatabase(Path(), true);
+    }
+    bool HasOtherNames() {
+        return !Rows("SELECT name FROM sqlite_schema WHERE name = 'CATALOGUE_ALIASES'").empty();
+    }
+    // What a brewer sees, and what is remembered of the deliveries.
+    std::vector<std::string> Whole() {
+        std::vector<std::string> rows = Shown();
+        for (std::string& row : Rows("SELECT SHEET, NAME, CONTENT FROM CATALOGUE_BASE ORDER BY SHEET, NAME"))
+            rows.push_back(std::move(row));
+        return rows;
+    }
+    std::vector<std::string> Shown() {
+        std::vector<std::string> rows = StylesInFolders();
+        std::vector<std::string> selects = {"SELECT NAME FROM FOLDERS ORDER BY NAME",
+                                            "SELECT NAME, AA_LO, DESCR FROM HOPS ORDER BY NAME"};
+        if (HasOtherNames()) selects.emplace_back("SELECT SHEET, ALIAS_KEY, NAME FROM CATALOGUE_ALIASES");
+        for (const std::string& select : selects)
+            for (std::string& row : Rows(select)) rows.push_back(std::move(row));
+        return rows;
+    }
+};
+
+TEST_F(WholeUpdateTest, ACrashInItsMiddleLeavesTheOldDatabaseWhole) {
+    const std::vector<std::string> before = Whole();
+    database_.reset();
+    int statement = 0;
+    for (bool died = true; died; ++statement) {
+        StartOver();
+        database_.reset();
+        died = test::DiesIn([&] {
+            Open();
+            database_->ExecuteNative("PRAGMA cache_size=3");
+            test::DieAt(*database_, statement);
+            Update();
+        });
+        Open();
+        if (died) {
+            ASSERT_EQ(Whole(), before) << "killed before statement " << statement;
+        }
+    }
+    EXPECT_GT(statement, 30);
+    EXPECT_THAT(StylesInFolders(), ElementsAre("Helles|Mild Beer", "Pils|Bitter Beer"));
+    EXPECT_TRUE(HasOtherNames());
+}
+
+TEST_F(WholeUpdateTest, GoesOnAfterAFailureWhereverThatIs) {
+    Update();
+    const std::vector<std::string> whole = Shown();
+    bool failed = true;
+    for (int statement = 0; failed; ++statement) {
+        StartOver();
+        int left = statement;
+        database_->SetStatementHook([&](std::string_view) {
+            if (left-- == 0) throw Error("Disk", "Full", 1);
+        });
+        failed = false;
+        try {
+            Update();
+        } catch (const Error&) {
+            failed = true;
+        }
+        database_->SetStatementHook({});
+        Update();
+        ASSERT_EQ(Shown(), whole) << "failed at statement " << statement;
+    }
+}
+
 TEST_F(CatalogueUpdateTest, FaultyOrMissingFilesChangeNothing) {
     AddHop();
-    Edit("hops.tsv", "New Hop\tAroma\t4", "New Hop\tAroma\t7");
+    Edit("hops.tsv", "New Hop\tAroma\t\t\t4", "New Hop\tAroma\t\t\t7");
     EXPECT_FALSE(Update());
     std::filesystem::remove(folder_ / "hops.tsv");
     EXPECT_FALSE(Update());

@@ -28,20 +28,20 @@ class SmallCatalogue : public testing::Test {
         std::filesystem::create_directories(folder_);
         Append("grain_types.tsv", "name\tkind\nBase Malt\tgrain\nSugar\textract\n");
         Append("grains.tsv",
-               "name\tkind\ttype\tppg_lo\tppg_hi\tcolor_lo\tcolor_hi\tdescription\n"
-               "Pale Malt\tgrain\tBase Malt\t36\t37.5\t1.8\t2\tA base.\n"
-               "Honey\textract\tSugar\t\t\t\t\t\n");
+               "name\tkind\ttype\tppg_lo\tppg_hi\tcolor_lo\tcolor_hi\tdescription\tbasis\n"
+               "Pale Malt\tgrain\tBase Malt\t36\t37.5\t1.8\t2\tA base.\tpublished\n"
+               "Honey\textract\tSugar\t\t\t\t\t\tsecondary\n");
         Append("hops.tsv",
-               "name\tusage\talpha_lo\talpha_hi\tdescription\n"
-               "Brewer's Gold\tBittering\t8\t10\tDark fruit.\n"
-               "Wild Hop\t\t\t\t\n");
-        Append(
-            "yeast.tsv",
-            "name\ttype\tflocculation\tattenuation_lo\tattenuation_hi\ttemp_lo\ttemp_hi\tshort_description\t"
-            "description\n"
-            "Kölsch Yeast\tAle\tVery High\t72\t78\t65\t69\tClean\tCrisp and clean.\n"
-            "Cider Yeast\tWine/Mead/Cider\tLow\t75\t80\t54\t82\t\t\n"
-            "House Yeast\t\t\t\t\t\t\t\t\n");
+               "name\tusage\torigin\tform\talpha_lo\talpha_hi\tdescription\tbasis\n"
+               "Brewer's Gold\tBittering\tEngland\tCryo\t8\t10\tDark fruit.\tpublished\n"
+               "Wild Hop\t\t\t\t\t\t\t\n");
+        Append("yeast.tsv",
+               "name\tlaboratory\tproduct_code\tform\ttype\tflocculation\tattenuation_lo\tattenuation_hi\t"
+               "temp_lo\ttemp_hi\tshort_description\tdescription\tbasis\n"
+               "Kölsch Yeast\tDom Labs\tD-1\tDry\tAle\tVery High\t72\t78\t65\t69\tClean\tCrisp and "
+               "clean.\tpublished\n"
+               "Cider Yeast\tDom Labs\t\tLiquid\tWine/Mead/Cider\tLow\t75\t80\t54\t82\t\t\t\n"
+               "House Yeast\t\t\t\t\t\t\t\t\t\t\t\t\n");
         Append("water_profiles.tsv",
                "name\tca\tco3\tcl\tmg\tna\tso4\tdescription\n"
                "Pilsen\t7\t15\t5\t2\t2\t5.5\tSoft.\n");
@@ -49,14 +49,24 @@ class SmallCatalogue : public testing::Test {
                "name\tca\tco3\tcl\tmg\tna\tso4\tdescription\nGypsum\t61.5\t0\t0\t0\t0\t147.4\t\n");
         Append("sugars.tsv",
                "name\tfermentable_lo\tfermentable_hi\tdescription\nCane\t97\t100\tWhite.\nPanela\t\t\t\n");
-        Append("styles.tsv",
-               "name\tfolder\ttype\twater_profile\tog_lo\tog_hi\tfg_lo\tfg_hi\tabv_lo\tabv_hi\tcolor_"
-               "lo\tcolor_hi\t"
-               "ibu_lo\tibu_hi\tco2_lo\tco2_hi\tdescription\n"
-               "Pils\tPale "
-               "Beer\tLager\tPilsen\t1.044\t1.050\t1.008\t1.013\t4.4\t5.2\t2\t4\t22\t40\t2.4\t2.7\tDry.\n"
-               "Fruit Beer\tOther Beer\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\n"
-               "Helles\tPale Beer\tLager\t\t1.044\t1.048\t1.006\t1.012\t\t\t\t\t\t\t\t\tMild.\n");
+        Append(
+            "styles.tsv",
+            "name\tcode\tguide\tfolder\ttype\twater_profile\tog_lo\tog_hi\tfg_lo\tfg_hi\tabv_lo\tabv_"
+            "hi\tcolor_"
+            "lo\tcolor_hi\t"
+            "ibu_lo\tibu_hi\tco2_lo\tco2_hi\tdescription\n"
+            "Pils\t5D\tBeer 2021\tPale "
+            "Beer\tLager\tPilsen\t1.044\t1.050\t1.008\t1.013\t4.4\t5.2\t2\t4\t22\t40\t2.4\t2.7\tDry.\n"
+            "Fruit Beer\t29A\tBeer 2021\tOther Beer\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\n"
+            "Helles\t5D\tBeer 2021\tPale Beer\tLager\t\t1.044\t1.048\t1.006\t1.012\t\t\t\t\t\t\t\t\tMild.\n");
+        Append("aliases.tsv",
+               "alias\tkind\tname\n"
+               "Pilsner\tstyle\tPils\n"
+               "BG\thop\tBrewer's Gold\n"
+               "Sugar\tsugar\tCane\n"
+               "Sugar\tfermentable\tHoney\n"
+               "Miel\tfermentable\tHoney\n");
+        Append("former.tsv", "name\tkind\tfate\tfolder\n");
     }
     void TearDown() override { std::filesystem::remove_all(folder_); }
 

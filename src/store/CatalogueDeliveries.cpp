@@ -1,0 +1,99 @@
+#include "store/CatalogueDeliveries.h"
+
+namespace tw {
+
+namespace {
+
+// No column has this name: FOLDER_ID tells where a style stands.
+constexpr std::string_view kFolderLine = "FOLDER=";
+
+std::string KeyCondition(std::string_view sheet, const std::string& name) {
+    return " WHERE SHEET = " + SqlText(sheet) + " AND NAME = " + SqlText(name);
+}
+
+}  // namespace
+
+bool Deliveries::AreIn(Database& database) {
+    return !database
+                .OpenRecordset("SELECT name FROM sqlite_schema WHERE type = 'table' AND name = " +
+                               SqlText(kDeliveryTable))
+                .AtEnd();
+}
+
+void Deliveries::MakeTable(Database& database) {
+    database.ExecuteNative("CREATE TABLE IF NOT EXISTS " + std::string(kDeliveryTable) +
+                           " (SHEET TEXT NOT NULL, NAME TEXT NOT NULL, CONTENT TEXT,"
+                           " PRIMARY KEY (SHEET, NAME)) WITHOUT ROWID");
+}
+
+Deliveries::Deliveries(Database& database) : database_(database) {
+    Recordset rows =
+        database.OpenRecordset("SELECT SHEET, NAME, CONTENT FROM " + std::string(kDeliveryTable));
+    for (; !rows.AtEnd(); rows.MoveNext())
+        contents_[{rows.Fields(0).Text(), rows.Fields(1).Text()}] = rows.Fields(2).Text();
+}
+
+const std::string* Deliveries::Find(std::string_view sheet, const std::string& name) const {
+    const auto found = contents_.find({std::string(sheet), name});
+    return found == contents_.end() ? nullptr : &found->second;
+}
+
+void Deliveries::Remember(std::string_view sheet, const std::string& name, const std::string& content) {
+    const std::string table(kDeliveryTable);
+    const std::string* known = Find(sheet, name);
+    if (known && *known == content) return;
+    database_.Execute(known ? "UPDATE " + table + " SET CONTENT = " + SqlText(content) +
+                                  KeyCondition(sheet, name)
+                            : "INSERT INTO " + table + " (SHEET, NAME, CONTENT) VALUES (" + SqlText(sheet) +
+                                  ", " + SqlText(name) + ", " + SqlText(content) + ")");
+    contents_[{std::string(sheet), name}] = content;
+}
+
+void Deliveries::Forget(std::string_view sheet, const std::string& name) {
+    database_.Execute("DELETE FROM " + std::string(kDeliveryTable) + KeyCondition(sheet, name));
+    contents_.erase({std::string(sheet), name});
+}
+
+std::vector<std::string> Deliveries::NamesOf(std::string_view sheet) const {
+    std::vector<std::string> names;
+    for (const auto& [key, content] : contents_)
+        if (key.first == sheet) names.push_back(key.second);
+    return names;
+}
+
+std::string ContentOf(const CatalogueEntry& entry) {
+    std::string content;
+    for (const auto& [column, literal] : entry.values) content.append(column + "=" + literal + "\n");
+    if (!entry.folder.empty()) content.append(kFolderLine).append(entry.folder).append("\n");
+    return content;
+}
+
+std::string_view ValuesOf(std::string_view content) {
+    // A value may hold any text, so that only the last line can be the folder's.
+    const std::size_t end =
+        content.empty() ? std::string_view::npos : content.rfind('\n', content.size() - 2);
+    const std::size_t last = end == std::string_view::npos ? 0 : end + 1;
+    return content.substr(last).starts_with(kFolderLine) ? content.substr(0, last) : content;
+}
+
+std::string FolderOf(std::string_view content) {
+    std::string_view line = content.substr(ValuesOf(content).size());
+    if (line.empty()) return {};
+    line.remove_prefix(kFolderLine.size());
+    line.remove_suffix(1);
+    return std::string(line);
+}
+
+bool StandsAs(Database& database, const Recordset& row, std::string_view content) {
+    content = ValuesOf(content);
+    while (!content.empty()) {
+        const std::size_t end = content.find('\n');
+        const std::string_view line = content.substr(0, end);
+        const std::size_t equals = line.find('=');
+        if (LiteralOf(database, row, line.substr(0, equals)) != line.substr(equals + 1)) return false;
+        content.remove_prefix(end + 1);
+    }
+    return true;
+}
+
+}  // namespace tw
