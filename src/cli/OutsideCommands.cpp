@@ -5,7 +5,8 @@ namespace tw {
 namespace {
 
 void ReceiveCommands(Session& session, Arguments& arguments) {
-    session.Program().DDE().Receive(ChannelMessage::Commands, arguments.Text());
+    if (!session.Program().DDE().Receive(ChannelMessage::Commands, arguments.Text()))
+        session.Out().Line("refused");
 }
 
 constexpr Command kCommands[] = {

@@ -22,12 +22,15 @@ class ChannelReceiver {
     virtual ~ChannelReceiver() = default;
     // False refuses a conversation on that topic.
     virtual bool AcceptsTopic(std::string_view topic) = 0;
-    virtual void Receive(ChannelMessage kind, std::string_view text) = 0;
+    // False refuses the text: too much waits already. Nothing of it is taken then.
+    virtual bool Receive(ChannelMessage kind, std::string_view text) = 0;
 };
 
 class ChannelPort {
   public:
     enum class Name { Held, HeldByOther, Failed };
+    // What has become of a text: NoAnswer also where it may still be taken later.
+    enum class Sent { Taken, Refused, NoAnswer };
 
     virtual ~ChannelPort() = default;
     // Finds the place that all programs of this user share. False when there is none.
@@ -44,9 +47,8 @@ class ChannelPort {
     // Listens no more; a program that does not hold the name ends its conversation. The name itself is held
     // until the object goes, so that the next program waits until this one has closed its files.
     virtual void Unregister() = 0;
-    // Sends to the other program. True when it has taken the text; false when it has not said so in time,
-    // though it may still do so later.
-    virtual bool Send(ChannelMessage kind, std::string_view text, int timeoutMilliseconds) = 0;
+    // Sends to the other program and waits for its word on it. A text that is too long is refused.
+    virtual Sent Send(ChannelMessage kind, std::string_view text, int timeoutMilliseconds) = 0;
 };
 
 }  // namespace tw

@@ -1,5 +1,6 @@
 #include "shell/DDEService.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "shell/ImportPath.h"
@@ -13,6 +14,14 @@ constexpr std::string_view kImport = "IMPORT";
 constexpr std::string_view kFatalInitError = "Fatal Init Error";
 constexpr std::string_view kFatalError = "Fatal Error!";
 constexpr std::string_view kAlreadyRunning = "Already Running";
+
+std::size_t BytesOf(const DDECommand& command) {
+    // Each parameter is kept twice, as it was sent and in upper case.
+    std::size_t bytes = command.Verb().size();
+    for (int i = 0; i < command.ParameterCount(); ++i)
+        bytes += command.ParameterAsSent(i).size() + command.Parameters(i).size();
+    return bytes;
+}
 
 // Switches the ticks off for as long as it lives.
 class NoTicks {
@@ -56,21 +65,27 @@ StartTest DDEService::Fail(std::string_view title, std::string_view text) {
 }
 
 bool DDEService::HandOver(std::string_view path) {
-    bool taken = false;
+    ChannelPort::Sent sent = ChannelPort::Sent::NoAnswer;
     if (IsBlank(path)) {
         messages_.ShowMessage(
             kAlreadyRunning,
             "Another instance of Tunwright is already running.\r\nOnly one instance can run at a time.");
-        taken = channel_->Send(ChannelMessage::Commands, "Activate", kSendMilliseconds);
+        sent = channel_->Send(ChannelMessage::Commands, "Activate", kSendMilliseconds);
     } else {
-        taken = channel_->Send(ChannelMessage::File, Trim(path), kSendMilliseconds);
+        sent = channel_->Send(ChannelMessage::File, Trim(path), kSendMilliseconds);
     }
-    if (!taken) messages_.ShowMessage(kAlreadyRunning, "The running instance of Tunwright does not answer.");
-    return taken;
+    if (sent == ChannelPort::Sent::NoAnswer)
+        messages_.ShowMessage(kAlreadyRunning, "The running instance of Tunwright does not answer.");
+    if (sent == ChannelPort::Sent::Refused)
+        messages_.ShowMessage(kAlreadyRunning,
+                              "The running instance of Tunwright takes no more files for now.\r\n"
+                              "Close the box that is open there, then try again.");
+    return sent == ChannelPort::Sent::Taken;
 }
 
 void DDEService::ShutdownDDE() {
     commands_.clear();
+    waiting_ = waitingBytes_ = 0;
     if (!ddeActive_) return;
     channel_->Unregister();
     ddeActive_ = false;
@@ -80,31 +95,54 @@ bool DDEService::AcceptsTopic(std::string_view topic) {
     return Upper(topic) == Upper(kChannelTopic);
 }
 
-void DDEService::Receive(ChannelMessage kind, std::string_view text) {
+bool DDEService::Receive(ChannelMessage kind, std::string_view text) {
     text = text.substr(0, text.find('\0'));
-    if (text.empty()) return;
+    if (text.empty()) return true;
     if (kind == ChannelMessage::Commands) return ParseDDECommand(text);
     DDECommand command;
     command.SetVerb(kImport);
     command.AddPath(text);
-    AddDDECommand(std::move(command));
+    const bool taken = AddDDECommand(std::move(command));
     host_.BringToFront();
+    return taken;
 }
 
-void DDEService::ParseDDECommand(std::string_view text) {
-    for (DDECommand& command : ReadDDECommands(text))
-        if (command.Verb() != kActivate) AddDDECommand(std::move(command));
+bool DDEService::ParseDDECommand(std::string_view text) {
+    std::vector<DDECommand> commands = ReadDDECommands(text);
+    std::erase_if(commands, [](const DDECommand& command) { return command.Verb() == kActivate; });
+    const bool taken = Queue(std::move(commands));
+    // Also when they are refused: the box that they wait for is there to be closed.
     host_.BringToFront();
+    return taken;
 }
 
-void DDEService::AddDDECommand(DDECommand command) {
-    commands_.push_back(std::move(command));
-    host_.CommandsWait();
+bool DDEService::AddDDECommand(DDECommand command) {
+    std::vector<DDECommand> commands;
+    commands.push_back(std::move(command));
+    return Queue(std::move(commands));
+}
+
+bool DDEService::Queue(std::vector<DDECommand> commands) {
+    std::size_t count = waiting_;
+    std::size_t bytes = waitingBytes_;
+    for (const DDECommand& command : commands) {
+        count += std::max<std::size_t>(1, static_cast<std::size_t>(command.ParameterCount()));
+        bytes += BytesOf(command);
+    }
+    if (count > kMostWaiting || bytes > kMostWaitingBytes) return false;
+    waiting_ = count;
+    waitingBytes_ = bytes;
+    for (DDECommand& command : commands) {
+        commands_.push_back(std::move(command));
+        host_.CommandsWait();
+    }
+    return true;
 }
 
 void DDEService::TickDDE() {
     if (!ticking_ || commands_.empty() || host_.IsDialogOpen()) return;
     const NoTicks off(ticking_);
+    waiting_ = waitingBytes_ = 0;
     for (const DDECommand& command : std::exchange(commands_, {})) Carry(command);
 }
 

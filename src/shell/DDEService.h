@@ -2,6 +2,7 @@
 // and the timer that works it off.
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
@@ -14,6 +15,10 @@ namespace tw {
 inline constexpr int kDDETickMilliseconds = 250;
 // How long a start waits for the answer of the program that runs.
 inline constexpr int kSendMilliseconds = 5000;
+// So much may wait, while a box is open or a start is not over: commands, their parameters counted too, and
+// the bytes of their texts.
+inline constexpr std::size_t kMostWaiting = 10000;
+inline constexpr std::size_t kMostWaitingBytes = 16 << 20;
 
 // What the commands act on.
 class DDEHost {
@@ -54,12 +59,12 @@ class DDEService final : public ChannelReceiver {
 
     // ChannelReceiver: commands are taken at once, an empty text does nothing at all.
     bool AcceptsTopic(std::string_view topic) override;
-    void Receive(ChannelMessage kind, std::string_view text) override;
+    bool Receive(ChannelMessage kind, std::string_view text) override;
 
     // Queues the commands of a text and brings the main window to the front, whatever they are; ACTIVATE is
-    // that alone and never waits.
-    void ParseDDECommand(std::string_view text);
-    void AddDDECommand(DDECommand command);
+    // that alone and never waits. False, and none of them is queued, when too much would wait then.
+    bool ParseDDECommand(std::string_view text);
+    bool AddDDECommand(DDECommand command);
     int DDECommandCount() const { return static_cast<int>(commands_.size()); }
 
     // Switches the ticks (tmrProcessDDE), which are off at first. Commands that come meanwhile wait.
@@ -71,6 +76,8 @@ class DDEService final : public ChannelReceiver {
   private:
     StartTest Fail(std::string_view title, std::string_view text);
     bool HandOver(std::string_view path);
+    // All of the commands or none, as ParseDDECommand.
+    bool Queue(std::vector<DDECommand> commands);
     void Carry(const DDECommand& command);
 
     DDEHost& host_;
@@ -80,6 +87,8 @@ class DDEService final : public ChannelReceiver {
     bool handedOver_ = false;
     bool ticking_ = false;
     std::vector<DDECommand> commands_;
+    std::size_t waiting_ = 0;  // of kMostWaiting
+    std::size_t waitingBytes_ = 0;
 };
 
 }  // namespace tw

@@ -15,15 +15,19 @@ namespace tw::test {
 namespace {
 
 using Name = ChannelPort::Name;
+using Sent = ChannelPort::Sent;
 using Strings = std::vector<std::string>;
 
 class RecordingReceiver : public ChannelReceiver {
   public:
     bool AcceptsTopic(std::string_view topic) override { return topic == kChannelTopic; }
-    void Receive(ChannelMessage kind, std::string_view text) override {
+    bool Receive(ChannelMessage kind, std::string_view text) override {
+        if (log.size() == most) return false;
         log.push_back(static_cast<char>(kind) + std::string(text));
+        return true;
     }
     Strings log;
+    std::size_t most = 1000;  // texts that it takes
 };
 
 class LocalChannelTest : public AppTest {
@@ -64,7 +68,7 @@ TEST_F(LocalChannelTest, TheFirstHoldsTheNameAndTheNextOneReachesIt) {
     RecordingReceiver none;
     ASSERT_EQ(Start(second, none), Name::HeldByOther);
     // Nobody answers before the first one's events run.
-    EXPECT_FALSE(second.Send(ChannelMessage::File, "/a b,[c].twr", 1));
+    EXPECT_EQ(second.Send(ChannelMessage::File, "/a b,[c].twr", 1), Sent::NoAnswer);
     EXPECT_TRUE(RunUntil([&] { return !receiver.log.empty(); }));
     EXPECT_EQ(receiver.log, Strings{"F/a b,[c].twr"});
     EXPECT_EQ(none.log, Strings{});
@@ -147,7 +151,7 @@ TEST_F(LocalChannelTest, AHolderThatEndsIsWaitedForAndOneThatHangsIsNot) {
     first.Unregister();
     LocalChannel second;
     EXPECT_EQ(Start(second, receiver), Name::HeldByOther);
-    EXPECT_FALSE(second.Send(ChannelMessage::Commands, "Activate", 1));
+    EXPECT_EQ(second.Send(ChannelMessage::Commands, "Activate", 1), Sent::NoAnswer);
 }
 
 TEST_F(LocalChannelTest, LongPathsOfTheFolderDoNotMatter) {
@@ -181,6 +185,13 @@ TEST_F(LocalChannelTest, SeveralTextsOfOneConversationComeInOrder) {
     ASSERT_EQ(Start(first, receiver), Name::Held);
     EXPECT_EQ(Talk(kHello + MakeFrame('X', "[A]") + MakeFrame('F', "b") + MakeFrame('X', ""), 4), "++++");
     EXPECT_EQ(receiver.log, (Strings{"X[A]", "Fb", "X"}));
+}
+
+TEST_F(LocalChannelTest, ARefusedTextIsAnsweredSoAndEndsTheConversation) {
+    ASSERT_EQ(Start(first, receiver), Name::Held);
+    receiver.most = 1;
+    EXPECT_EQ(Talk(kHello + MakeFrame('F', "a") + MakeFrame('F', "b") + MakeFrame('F', "c"), 4), "++-");
+    EXPECT_EQ(receiver.log, Strings{"Fa"});
 }
 
 TEST_F(LocalChannelTest, TheLongestTextArrivesAndALongerOneEndsTheConversation) {
@@ -299,7 +310,7 @@ TEST_F(LocalChannelTest, AnotherUsersSocketIsNotTalkedTo) {
     ASSERT_EQ(answer, 'y');
     LocalChannel second;
     EXPECT_EQ(Start(second, receiver), Name::HeldByOther);
-    EXPECT_FALSE(second.Send(ChannelMessage::Commands, "[SECRET]", 1000));
+    EXPECT_NE(second.Send(ChannelMessage::Commands, "[SECRET]", 1000), Sent::Taken);
     for (const int end : {stop[0], stop[1], ready[0], ready[1]}) close(end);
     int status = 0;
     waitpid(impostor, &status, 0);

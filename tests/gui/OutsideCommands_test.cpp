@@ -113,7 +113,7 @@ class BusyChannel : public ChannelPort {
     void ReleaseLock() override {}
     Name Register(ChannelReceiver&) override { return Name::HeldByOther; }
     void Unregister() override {}
-    bool Send(ChannelMessage, std::string_view, int) override { return true; }
+    Sent Send(ChannelMessage, std::string_view, int) override { return Sent::Taken; }
 };
 
 TEST(SecondStart, EndsBeforeItTouchesAnything) {

@@ -45,13 +45,15 @@ class RecordingChannel : public ChannelPort {
         return name;
     }
     void Unregister() override { Log("unregister", true); }
-    bool Send(ChannelMessage kind, std::string_view text, int timeout) override {
-        return Log("send " + std::string(1, static_cast<char>(kind)) + " " + std::string(text) + " " +
-                       std::to_string(timeout),
-                   answers);
+    Sent Send(ChannelMessage kind, std::string_view text, int timeout) override {
+        Log("send " + std::string(1, static_cast<char>(kind)) + " " + std::string(text) + " " +
+                std::to_string(timeout),
+            true);
+        return sent;
     }
 
-    bool initializes = true, createsLock = true, takesLock = true, answers = true;
+    bool initializes = true, createsLock = true, takesLock = true;
+    Sent sent = Sent::Taken;
     Name name = Name::Held;
     Strings& log;
 
@@ -112,11 +114,22 @@ TEST_F(DDEServiceTest, ASecondStartWithAFileHandsItOverWithoutABox) {
 
 TEST_F(DDEServiceTest, AnInstanceThatDoesNotAnswerIsReported) {
     channel.name = Name::HeldByOther;
-    channel.answers = false;
+    channel.sent = ChannelPort::Sent::NoAnswer;
     EXPECT_EQ(service.InitDDE("a"), StartTest::Failed);
     EXPECT_EQ(messages.log, (Strings{"initialize", "create lock", "take lock", "register", "send F a 5000",
                                      "[Already Running] The running instance of Tunwright does not answer.",
                                      "unregister", "release lock"}));
+}
+
+TEST_F(DDEServiceTest, AnInstanceThatTakesNoMoreSaysSo) {
+    channel.name = Name::HeldByOther;
+    channel.sent = ChannelPort::Sent::Refused;
+    EXPECT_EQ(service.InitDDE("a"), StartTest::Failed);
+    EXPECT_EQ(messages.log,
+              (Strings{"initialize", "create lock", "take lock", "register", "send F a 5000",
+                       "[Already Running] The running instance of Tunwright takes no more files "
+                       "for now.\r\nClose the box that is open there, then try again.",
+                       "unregister", "release lock"}));
 }
 
 TEST_F(DDEServiceTest, EachFailureOfTheTestIsFatalWithItsBox) {
@@ -221,6 +234,38 @@ TEST_F(DDEServiceTest, TheQueueWaitsForADialogToClose) {
     host.dialogOpen = false;
     service.TickDDE();
     EXPECT_EQ(host.log, (Strings{"front", "import A"}));
+}
+
+TEST_F(DDEServiceTest, TenThousandCommandsMayWaitAndNoMore) {
+    host.dialogOpen = true;
+    for (int i = 0; i < 9999; ++i) ASSERT_TRUE(service.Receive(ChannelMessage::File, "/a"));
+    // Two would be one too many: neither is taken, and the box that they wait for comes to the front.
+    host.log.clear();
+    EXPECT_FALSE(service.Receive(ChannelMessage::Commands, "[IMPORT(a)][ACTIVATE][IMPORT(b)]"));
+    EXPECT_FALSE(service.Receive(ChannelMessage::Commands, "[IMPORT(a,b)]"));
+    EXPECT_EQ(host.log, (Strings{"front", "front"}));
+    EXPECT_EQ(service.DDECommandCount(), 9999);
+    EXPECT_TRUE(service.Receive(ChannelMessage::Commands, "[IMPORT(a)]"));
+    EXPECT_FALSE(service.Receive(ChannelMessage::File, "/a"));
+    EXPECT_FALSE(service.ParseDDECommand("[PRINT]"));
+    // What never waits is never refused.
+    EXPECT_TRUE(service.Receive(ChannelMessage::Commands, "Activate"));
+    EXPECT_TRUE(service.Receive(ChannelMessage::Commands, ""));
+    EXPECT_EQ(service.DDECommandCount(), 10000);
+    host.dialogOpen = false;
+    service.TickDDE();
+    EXPECT_EQ(std::ranges::count(host.log, "import /a"), 9999);
+    EXPECT_TRUE(service.Receive(ChannelMessage::File, "/a"));
+}
+
+TEST_F(DDEServiceTest, TheBytesThatMayWaitAreLimitedToo) {
+    // A path is kept twice.
+    const std::string half(kMostWaitingBytes / 4, 'x');
+    EXPECT_TRUE(service.Receive(ChannelMessage::File, half));
+    EXPECT_FALSE(service.Receive(ChannelMessage::File, half));
+    EXPECT_EQ(service.DDECommandCount(), 1);
+    service.ShutdownDDE();
+    EXPECT_TRUE(service.Receive(ChannelMessage::File, half));
 }
 
 TEST_F(DDEServiceTest, TheQueueWaitsWhileTheTicksAreOff) {

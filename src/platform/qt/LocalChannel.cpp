@@ -45,8 +45,7 @@ class Conversation {
         const auto message = static_cast<ChannelMessage>(kind);
         if (!agreed_ || (message != ChannelMessage::Commands && message != ChannelMessage::File))
             return false;
-        receiver_.Receive(message, text);
-        return true;
+        return receiver_.Receive(message, text);
     }
 
     void Answer(bool taken) {
@@ -154,12 +153,12 @@ void LocalChannel::Unregister() {
     for (QLocalSocket* socket : server_.findChildren<QLocalSocket*>()) delete socket;
 }
 
-bool LocalChannel::Send(ChannelMessage kind, std::string_view text, int timeoutMilliseconds) {
-    if (text.size() > kMostFrameBytes) return false;
+ChannelPort::Sent LocalChannel::Send(ChannelMessage kind, std::string_view text, int timeoutMilliseconds) {
+    if (text.size() > kMostFrameBytes) return Sent::Refused;
     QDeadlineTimer deadline(timeoutMilliseconds);
     // Anew: the other program serves nobody for long, and the brewer may have looked at a box meanwhile.
     other_.abort();
-    if (!Connect(timeoutMilliseconds)) return false;
+    if (!Connect(timeoutMilliseconds)) return Sent::NoAnswer;
     const QByteArray frames[] = {MakeFrame(kFrameOfTopic, kChannelTopic),
                                  MakeFrame(static_cast<char>(kind), text)};
     for (const QByteArray& frame : frames) other_.write(frame);
@@ -167,11 +166,11 @@ bool LocalChannel::Send(ChannelMessage kind, std::string_view text, int timeoutM
     while (answers.size() < 2) {
         // Waiting also sends what has not been sent.
         if (!other_.bytesAvailable() && !other_.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
-            return false;
+            return Sent::NoAnswer;
         answers += other_.readAll();
-        if (answers.contains(kFrameRefused)) return false;
+        if (answers.contains(kFrameRefused)) return Sent::Refused;
     }
-    return true;
+    return Sent::Taken;
 }
 
 }  // namespace tw

@@ -39,7 +39,7 @@ class LocalChannel final : public ChannelPort {
     void ReleaseLock() override { startLock_.Release(); }
     Name Register(ChannelReceiver& receiver) override;
     void Unregister() override;
-    bool Send(ChannelMessage kind, std::string_view text, int timeoutMilliseconds) override;
+    Sent Send(ChannelMessage kind, std::string_view text, int timeoutMilliseconds) override;
 
   private:
     bool Listen(ChannelReceiver& receiver);
