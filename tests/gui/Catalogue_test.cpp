@@ -204,6 +204,28 @@ TEST_F(CatalogueWindows, ANewTypeCanBeTyped) {
     EXPECT_EQ(FromQt(In<QComboBox>(editor, "Combo1").currentText()), "Base");
 }
 
+TEST_F(CatalogueWindows, AnApplyBringsTheListOfTypesUpToDate) {
+    shell.DB()->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
+    shell.DB()->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Roasted', TRUE)");
+    shell.DB()->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Black', TRUE, 2)");
+    const auto model = MakeEditor(Catalogue::Grains, *context);
+    model->SetName("Pale Malt");
+    EditorDialog editor(*model, nullptr);
+    Up(editor);
+    auto& types = In<QComboBox>(editor, "Combo1");
+    types.setFocus();
+    for (const char* type : {"Kilned", "Smoked"}) {
+        types.lineEdit()->selectAll();
+        Type(type);
+        In<QPushButton>(editor, "cmdApply").click();
+    }
+    Strings entries;
+    for (int i = 0; i < types.count(); ++i) entries.push_back(FromQt(types.itemText(i)));
+    EXPECT_THAT(entries, ElementsAre("Base", "Roasted", "Smoked"));
+    EXPECT_EQ(FromQt(types.currentText()), "Smoked");
+    EXPECT_EQ(types.currentIndex(), 2);
+}
+
 TEST_F(CatalogueWindows, AFormToBeReadHasOneButton) {
     const auto model = MakeEditor(Catalogue::Styles, *context);
     model->SetName("Stout");

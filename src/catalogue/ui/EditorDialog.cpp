@@ -339,7 +339,8 @@ void EditorDialog::ShowList(QComboBox& box, const EditorList& list) {
     for (const std::string& entry : list.entries) box.addItem(ToQt(entry));
     const QString text = ToQt(list.text);
     if (list.freeText) {
-        box.setCurrentIndex(-1);
+        // The list drops down on the entry that the text is.
+        box.setCurrentIndex(box.findText(text));
         box.setEditText(text);
         return;
     }
