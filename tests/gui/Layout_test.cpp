@@ -284,6 +284,16 @@ TEST_P(Layout, NoTextIsWiderThanItsWidget) {
     });
 }
 
+// 1024 by 600, with a frame of the usual size around the window.
+TEST_P(Layout, EveryWindowCanBeMadeToFitASmallScreen) {
+    if (!qEnvironmentVariableIsEmpty("TUNWRIGHT_TEST_FONT_SCALE")) GTEST_SKIP() << "for the usual font";
+    ForEachWindow([](QWidget& top) {
+        const QSize least = top.minimumSizeHint().expandedTo(top.minimumSize());
+        EXPECT_LE(least.width(), 1014) << NameOf(top, top.windowTitle());
+        EXPECT_LE(least.height(), 560) << NameOf(top, top.windowTitle());
+    });
+}
+
 TEST_P(Layout, NoHeadingOfAGridIsCut) {
     ForEachWindow([](QWidget& top) {
         for (const auto* view : top.findChildren<GridView*>()) {
