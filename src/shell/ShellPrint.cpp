@@ -43,6 +43,9 @@ class OutsideCommandsPaused {
 // Where PDF files were saved last; nothing is stored before the first one.
 constexpr std::string_view kPrintSection = "Print", kPdfFolderKey = "PDFFolder";
 
+// What fits the name of a file on every usual disk, its ending and the letters of a temporary one included.
+constexpr std::size_t kLongestFileName = 200;
+
 // A recipe's name as that of a file.
 std::string PdfName(std::string_view recipe) {
     std::string name(Trim(recipe));
@@ -50,6 +53,9 @@ std::string PdfName(std::string_view recipe) {
         if (static_cast<unsigned char>(c) < ' ' ||
             std::string_view("/\\:*?\"<>|").find(c) != std::string::npos)
             c = '-';
+    std::size_t letters = CodePointCount(name);
+    while (CodePointOffset(name, letters) > kLongestFileName) --letters;
+    name.resize(CodePointOffset(name, letters));
     return (name.empty() ? "Recipe" : name) + ".pdf";
 }
 

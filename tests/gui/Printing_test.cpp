@@ -271,19 +271,19 @@ TEST_F(PaperTest, ThePrinterDialogHasAWayToThePreview) {
 
 TEST_F(PaperTest, TheBoxWithoutAPrinterGoesByTheKeyboard) {
     using Choice = NoPrinterModel::Choice;
-    const auto chosenBy = [](Qt::Key key) {
+    const auto chosenBy = [](const std::vector<Qt::Key>& keys) {
         NoPrinterModel model;
         NoPrinterBox box(model, nullptr);
         box.show();
         QApplication::setActiveWindow(&box);
-        QTest::keyClick(QApplication::focusWidget(), key);
+        for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
         EXPECT_FALSE(model.IsOpen());
         EXPECT_FALSE(box.isVisible());
         return model.Chosen();
     };
-    EXPECT_EQ(chosenBy(Qt::Key_Return), Choice::Preview);
-    EXPECT_EQ(chosenBy(Qt::Key_Escape), Choice::Cancel);
-    EXPECT_EQ(chosenBy(Qt::Key_S), Choice::Pdf);
+    EXPECT_EQ(chosenBy({Qt::Key_Return}), Choice::Preview);
+    EXPECT_EQ(chosenBy({Qt::Key_Tab, Qt::Key_Space}), Choice::Pdf);
+    EXPECT_EQ(chosenBy({Qt::Key_Escape}), Choice::Cancel);
 }
 
 TEST_F(PaperTest, TheSaveDialogStartsInItsFolderOrInTheDocuments) {

@@ -7,6 +7,7 @@
 #include "shell/ShellTest.h"
 #include "store/Schema.h"
 #include "support/RecordingPrinter.h"
+#include "values/Text.h"
 
 namespace tw::test {
 namespace {
@@ -202,6 +203,11 @@ TEST_F(ShellPrintTest, TheNameOfAPdfFileIsTheRecipesWithoutWhatAFileCannotHave) 
     OnTheBoxPress("cmdPDF");
     shell.RunMenu("mnuFilePrint");
     EXPECT_EQ(files.requests[1].name, "Recipe.pdf");
+    // Files have at most 255 bytes; a letter is not cut in two.
+    NewNamed("x" + ReplaceAll(std::string(150, 'o'), "o", "\u00f6"));
+    OnTheBoxPress("cmdPDF");
+    shell.RunMenu("mnuFilePrint");
+    EXPECT_EQ(files.requests[2].name, "x" + ReplaceAll(std::string(99, 'o'), "o", "\u00f6") + ".pdf");
 }
 
 TEST_F(ShellPrintTest, APdfFileGoesToTheDocumentsAtFirstAndThenWhereTheLastOneWent) {
