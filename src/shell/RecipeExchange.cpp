@@ -29,17 +29,6 @@ bool FileExists(const std::string& path) {
     throw Error("Database", "'" + path + "' " + what, number);
 }
 
-// Looked at by its bits: an administrator's process may write a file that its owner has locked against
-// changes.
-void CheckWritable(const std::string& path) {
-    constexpr fs::perms kWriteBits =
-        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    std::error_code failure;
-    const fs::file_status status = fs::status(path, failure);
-    if (!failure && (status.permissions() & kWriteBits) == fs::perms::none)
-        Refuse(path, "is write-protected.", SQLITE_READONLY);
-}
-
 FileDialogModel::Options FileDialog(FileDialogModel::Kind kind, std::string title, bool askToReplace) {
     return {kind, std::move(title), "TWR", "Tunwright Recipes (*.TWR)", "*.TWR", askToReplace};
 }
@@ -108,16 +97,12 @@ std::unique_ptr<Database> RecipeExchange::Open(const std::string& path) {
     }
 }
 
-std::unique_ptr<Database> RecipeExchange::CreateNew(const std::string& path) {
+TargetFile RecipeExchange::Target(const std::string& path) const {
+    const TargetFile target(path, own_);
     std::error_code failure;
-    // An open file can be deleted here; the brewer's recipes must not go that way.
-    if (fs::equivalent(path, main_.Path(), failure))
-        Refuse(path, "is the database of the recipes themselves.", SQLITE_BUSY);
-    if (!fs::is_directory(path, failure) && !fs::remove(path, failure) && failure)
-        Refuse(path, "cannot be replaced: " + failure.message() + ".", SQLITE_CANTOPEN);
-    // What an interrupted run has left of the old file would be rolled back into the new one.
-    fs::remove(path + "-journal", failure);
-    return Database::CreateDatabase(path, kExchangeLocale);
+    if (!fs::is_directory(fs::path(target.Path()).parent_path(), failure))
+        Refuse(path, "cannot be opened: unable to open database file.", SQLITE_CANTOPEN);
+    return target;
 }
 
 void RecipeExchange::Export() {
@@ -152,23 +137,39 @@ std::optional<RecipeExchange::Choice> RecipeExchange::AskWhatToImport(const TWTr
 }
 
 void RecipeExchange::ExportTo(const std::string& path, bool append, std::span<const std::string> names) {
-    std::unique_ptr<Database> file;
-    const bool isNew = !append || !FileExists(path);
-    if (!isNew && !(file = Open(path))) return;
+    std::unique_ptr<Database> old;
+    if (append && FileExists(path) && !(old = Open(path))) return;
     ProgressModel progress("Exporting Recipes", [&](ProgressModel& shown) {
-        Trap([&] {
-            if (isNew)
-                file = CreateNew(path);
-            else
-                CheckWritable(path);
-            UnitOfWork unit(*file);
-            if (isNew) CreateExchangeTables(main_, *file);
-            Host host(platform_, shown, false);
-            RecipeCopier(main_, objects_, *file, host).ExportRecipes(names);
-            unit.Commit();
-        });
+        Trap([&] { CopyOut(path, std::move(old), names, shown); });
     });
     platform_.dialogs.ShowModal(progress);
+}
+
+void RecipeExchange::CopyOut(const std::string& path, std::unique_ptr<Database> old,
+                             std::span<const std::string> names, ProgressModel& progress) {
+    const TargetFile target = Target(path);
+    const bool isNew = old == nullptr;
+    ExchangeCopy file = isNew ? ExchangeCopy(main_) : ExchangeCopy(std::move(old));
+    UnitOfWork unit(file.Contents());
+    Host host(platform_, progress, false);
+    try {
+        RecipeCopier(main_, objects_, file.Contents(), host).ExportRecipes(names);
+    } catch (const Error&) {
+        // A new file comes whole or not at all; an older one keeps what was added before the error.
+        if (!isNew) SaveWhatCame(unit, file, target);
+        throw;
+    }
+    unit.Commit();
+    file.Save(target);
+}
+
+void RecipeExchange::SaveWhatCame(UnitOfWork& unit, const ExchangeCopy& file, const TargetFile& target) {
+    try {
+        unit.Commit();
+        file.Save(target);
+    } catch (const Error&) {
+        // The first error is the one to tell.
+    }
 }
 
 void RecipeExchange::ImportFrom(const std::string& path, std::int64_t folderId,
@@ -181,6 +182,7 @@ void RecipeExchange::ImportFrom(const std::string& path, std::int64_t folderId,
 void RecipeExchange::ImportChosen(const std::string& path, const Chooser& choose) {
     const std::unique_ptr<Database> file = Open(path);
     if (!file) return;
+    const FileInUse reading(own_, path, "is being imported");
     std::optional<Choice> choice;
     Trap([&] {
         TWTree tree(&main_);

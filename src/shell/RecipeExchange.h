@@ -9,13 +9,16 @@
 #include <string>
 #include <vector>
 
+#include "platform/OwnFiles.h"
 #include "platform/Ports.h"
+#include "platform/TargetFile.h"
 #include "store/DB_IO.h"
 #include "store/Database.h"
 #include "tree/TWTree.h"
 
 namespace tw {
 
+class ExchangeCopy;
 class ProgressModel;
 
 // A store's error is shown in a box titled "Error"; what was copied before it stays. A file that is no
@@ -23,12 +26,13 @@ class ProgressModel;
 class RecipeExchange {
   public:
     // rebuildTree brings the global tree in line with the database. REQUIRES: all of them live for as long.
-    RecipeExchange(Platform& platform, Database& main, DB_IO& objects, const TWTree& tree,
+    RecipeExchange(Platform& platform, Database& main, DB_IO& objects, const TWTree& tree, OwnFiles& own,
                    std::function<void()> rebuildTree)
         : platform_(platform),
           main_(main),
           objects_(objects),
           tree_(tree),
+          own_(own),
           rebuildTree_(std::move(rebuildTree)) {}
 
     // With all dialogs. One that is cancelled ends it silently.
@@ -55,7 +59,12 @@ class RecipeExchange {
 
     // nullptr when it has been told that the file is none.
     std::unique_ptr<Database> Open(const std::string& path);
-    std::unique_ptr<Database> CreateNew(const std::string& path);
+    // What an export may write. Raises the error of a file that it may not.
+    TargetFile Target(const std::string& path) const;
+    // old is the file that is added to, nullptr for a new one.
+    void CopyOut(const std::string& path, std::unique_ptr<Database> old, std::span<const std::string> names,
+                 ProgressModel& progress);
+    static void SaveWhatCame(UnitOfWork& unit, const ExchangeCopy& file, const TargetFile& target);
     void ImportChosen(const std::string& path, const Chooser& choose);
     std::optional<Choice> AskWhatToImport(const TWTree& tree);
     void CopyIn(Database& file, const Choice& choice, ProgressModel& progress);
@@ -66,6 +75,7 @@ class RecipeExchange {
     Database& main_;
     DB_IO& objects_;
     const TWTree& tree_;
+    OwnFiles& own_;
     std::function<void()> rebuildTree_;
 };
 

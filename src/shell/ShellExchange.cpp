@@ -14,7 +14,7 @@ void Shell::Exchange(const std::function<void(RecipeExchange&)>& operation) {
         // The empty main window tells what can be done next.
         if (view_ && !active_) view_->DocumentActivated(nullptr);
     };
-    RecipeExchange files(platform_, *database_, *objects_, *tree_, rebuildTree);
+    RecipeExchange files(platform_, *database_, *objects_, *tree_, own_, rebuildTree);
     struct End {
         bool& exchanging;
         ~End() { exchanging = false; }

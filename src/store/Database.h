@@ -122,6 +122,11 @@ class Database {
     static std::unique_ptr<Database> CreateDatabase(const std::string& path, std::string_view locale);
     // A database of the full schema, without catalogue rows, that lives in memory alone.
     static std::unique_ptr<Database> CreateInMemory();
+    // A database in memory alone that holds what those bytes of a file do; an empty one for none. Raises an
+    // error when the memory is short. REQUIRES: the file is not in the journal mode WAL.
+    static std::unique_ptr<Database> FromImage(std::string_view image);
+    // The bytes of the file that this database is or would be. Raises an error when the memory is short.
+    std::string Image() const;
 
     ~Database();
     Database(const Database&) = delete;

@@ -1,12 +1,19 @@
 #include "store/ExchangeFile.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <sqlite3.h>
 #include <string>
+#include <utility>
 
+#include "platform/Error.h"
 #include "store/Schema.h"
 #include "values/Text.h"
 
 namespace tw {
 namespace {
+
+namespace fs = std::filesystem;
 
 constexpr std::string_view kStyleId = "STYLE_ID";
 constexpr std::string_view kStyleName = "STYLE_NAME";
@@ -79,6 +86,36 @@ std::string IndexesSql(Database& main, const std::string& table) {
     return sql;
 }
 
+// What the store keeps beside a file while it writes it. A crash leaves them, and then they belong to what
+// the file of that name holds; the next file under it would be changed by them.
+constexpr const char* kBesides[] = {"-journal", "-wal", "-shm"};
+
+bool HasBesides(const std::string& path) {
+    std::error_code failure;
+    return std::ranges::any_of(kBesides,
+                               [&](const char* suffix) { return fs::exists(path + suffix, failure); });
+}
+
+// Completes the old file, which may be needed if the new one cannot take its place.
+void CompleteOld(const std::string& path) {
+    try {
+        Database::OpenDatabase(path, false)->ExecuteNative("PRAGMA journal_mode=DELETE");
+    } catch (const Error& error) {
+        if (error.Number() == SQLITE_BUSY || error.Number() == SQLITE_LOCKED) throw;
+        // No database, or none that can be read: there is nothing to complete.
+    }
+}
+
+void RemoveBesides(const TargetFile& target) {
+    if (!HasBesides(target.Path())) return;
+    std::error_code failure;
+    if (fs::exists(target.Path(), failure)) CompleteOld(target.Path());
+    for (const char* suffix : kBesides)
+        if (!fs::remove(target.Path() + suffix, failure) && failure)
+            throw Error("Database", "'" + target.Name() + "' cannot be replaced: " + failure.message() + ".",
+                        SQLITE_CANTOPEN);
+}
+
 }  // namespace
 
 void CreateExchangeTables(Database& main, Database& file) {
@@ -94,6 +131,23 @@ void CreateExchangeTables(Database& main, Database& file) {
     UnitOfWork unit(file);
     file.ExecuteNative(sql);
     unit.Commit();
+}
+
+ExchangeCopy::ExchangeCopy(Database& main) : contents_(Database::FromImage({})) {
+    contents_->ExecuteNative("PRAGMA user_version=1");
+    CreateExchangeTables(main, *contents_);
+}
+
+ExchangeCopy::ExchangeCopy(std::unique_ptr<Database> old) : old_(std::move(old)) {
+    // All of it is in the one file then, and stays as it is until that is replaced.
+    old_->ExecuteNative("PRAGMA journal_mode=DELETE; BEGIN IMMEDIATE");
+    contents_ = Database::FromImage(old_->Image());
+}
+
+void ExchangeCopy::Save(const TargetFile& target) const {
+    // An old file that is held here has nothing beside it that is of use.
+    if (!old_) RemoveBesides(target);
+    target.Replace(contents_->Image());
 }
 
 }  // namespace tw

@@ -96,8 +96,7 @@ TEST_F(ShellExchangeTest, TheMenuImportsThePickedRecipesIntoTheFolderChosen) {
     PickAll();
     GiveFolder(1);
     EXPECT_TRUE(shell.RunMenu("mnuFileImport"));
-    EXPECT_EQ(TakeShown(),
-              (Strings{"CommonDialog", "frmImportExport", "frmChooseFolder", "frmProgress"}));
+    EXPECT_EQ(TakeShown(), (Strings{"CommonDialog", "frmImportExport", "frmChooseFolder", "frmProgress"}));
     EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Bock", "Mild"}));
     TWNode& ales = *shell.Tree().Nodes("F:1");
     ASSERT_EQ(ales.Children().Count(), 2u);
@@ -170,8 +169,7 @@ TEST_F(ShellExchangeTest, ATakenNameIsAskedAboutWithTheWordOfTheWay) {
     shell.ExportRecipes(file, true, {"Mild"});
     shell.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(words, (Strings{"Do not export this recipe", "Do not import this recipe"}));
-    EXPECT_EQ(TakeShown(),
-              (Strings{"frmProgress", "frmNameConflict", "frmProgress", "frmNameConflict"}));
+    EXPECT_EQ(TakeShown(), (Strings{"frmProgress", "frmNameConflict", "frmProgress", "frmNameConflict"}));
 }
 
 TEST_F(ShellExchangeTest, ClosingTheQuestionAboutANameStopsTheRun) {
@@ -275,13 +273,75 @@ TEST_F(ShellExchangeTest, AFileThatCannotBeWrittenIsTold) {
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + folder.File("none/Ales.TWR") +
                                                   "' cannot be opened: unable to open database file."});
     shell.ExportRecipes(folder.File(""), false, {"Mild"});
-    EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + folder.File("") + "' exists already."});
+    EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + folder.File("") + "' is a folder."});
     MakeFile({"Old"});
     NewSaved("Mild");
     std::filesystem::permissions(file, std::filesystem::perms::owner_read);
     shell.ExportRecipes(file, true, {"Mild"});
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + file + "' is write-protected."});
     EXPECT_EQ(NamesInFile(), Strings{"Old"});
+}
+
+TEST_F(ShellExchangeTest, ANewFileThatFailsLeavesTheOlderOneAndNothingBeside) {
+    MakeFile({"Old"});
+    NewSaved("Bock");
+    NewSaved("Mild");
+    shell.DB()->ExecuteNative("DROP TABLE RECIPE_LOG");
+    shell.ExportRecipes(file, false, {"Bock", "Mild"});
+    EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] no such table: RECIPE_LOG"});
+    EXPECT_EQ(NamesInFile(), Strings{"Old"});
+    const std::string other = folder.File("Other.TWR");
+    shell.ExportRecipes(other, false, {"Bock"});
+    EXPECT_FALSE(std::filesystem::exists(other));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.File("")), {}), 1);
+}
+
+TEST_F(ShellExchangeTest, WhatWasAddedBeforeAnErrorStaysInTheOlderFile) {
+    MakeFile({"Old"});
+    Database::OpenDatabase(file, false)->ExecuteNative("DROP TABLE RECIPE_LOG");
+    for (const char* name : {"Bock", "Mild", "Porter"}) NewSaved(name);
+    shell.DB()->ExecuteNative(
+        "INSERT INTO RECIPE_LOG (RECIPE_ID, ROW_ID) SELECT ID, 0 FROM RECIPES WHERE NAME = 'Mild'");
+    shell.ExportRecipes(file, true, {"Bock", "Mild", "Porter"});
+    EXPECT_EQ(outside.messages.log, Strings{"[Error] no such table: RECIPE_LOG"});
+    // Also the part of the one in hand.
+    EXPECT_EQ(NamesInFile(), (Strings{"Bock", "Mild", "Old"}));
+}
+
+TEST_F(ShellExchangeTest, AFileThatAnotherProgramWritesIsNotReplacedUnderIt) {
+    MakeFile({"Old"});
+    NewSaved("Mild");
+    const auto other = Database::OpenDatabase(file, false);
+    other->ExecuteNative("PRAGMA journal_mode=DELETE; BEGIN EXCLUSIVE; DELETE FROM RECIPES");
+    shell.ExportRecipes(file, false, {"Mild"});
+    EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + file + "' is in use by another program."});
+    other->ExecuteNative("ROLLBACK");
+    EXPECT_EQ(RecipeNames(*other), Strings{"Old"});
+}
+
+TEST_F(ShellExchangeTest, AnExportKeepsTheModeOfTheFileAndALinkToIt) {
+    MakeFile({"Old"});
+    NewSaved("Mild");
+    std::filesystem::permissions(file, static_cast<std::filesystem::perms>(0640));
+    const std::string link = folder.File("Link.TWR");
+    std::filesystem::create_symlink(file, link);
+    for (const bool append : {true, false}) {
+        shell.ExportRecipes(link, append, {"Mild"});
+        EXPECT_EQ(outside.messages.log, Strings{});
+        EXPECT_TRUE(std::filesystem::is_symlink(link));
+        EXPECT_EQ(std::filesystem::status(file).permissions(), static_cast<std::filesystem::perms>(0640));
+        EXPECT_EQ(NamesInFile(), append ? (Strings{"Mild", "Old"}) : Strings{"Mild"});
+    }
+}
+
+TEST_F(ShellExchangeTest, AFileWithALogOfItsOwnIsAddedToWhole) {
+    MakeFile({"Old"});
+    // Another program keeps the file open, and what it has written in a log beside it.
+    Database::OpenDatabase(file, false)->ExecuteNative("PRAGMA journal_mode=WAL");
+    NewSaved("Mild");
+    shell.ExportRecipes(file, true, {"Mild"});
+    EXPECT_EQ(outside.messages.log, Strings{});
+    EXPECT_EQ(NamesInFile(), (Strings{"Mild", "Old"}));
 }
 
 TEST_F(ShellExchangeTest, AWriteProtectedFileCanBeImported) {
@@ -320,11 +380,12 @@ TEST(ShellExchange, TheDatabaseItselfIsNeverReplacedOrTakenForARecipeFile) {
     const std::string path = folder.File("Tunwright.mdb");
     CreateSchema(*Database::CreateDatabase(path, ""));
     std::filesystem::create_symlink(path, folder.File("link.TWR"));
+    std::filesystem::create_hard_link(path, folder.File("hard.TWR"));
     RecordingPlatform outside;
     Shell shell(outside.platform);
     ASSERT_TRUE(shell.PerformSplashScreenInit(path));
     AddRecipeRow(*shell.DB(), "Mild");
-    for (const char* name : {"Tunwright.mdb", "link.TWR"}) {
+    for (const char* name : {"Tunwright.mdb", "link.TWR", "hard.TWR"}) {
         const std::string target = folder.File(name);
         shell.ExportRecipes(target, false, {"Mild"});
         EXPECT_EQ(outside.messages.TakeLog(),

@@ -1,9 +1,13 @@
 #include "store/ExchangeFile.h"
 
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 #include "StoreSupport.h"
 #include "store/Schema.h"
+#include "support/DiesIn.h"
 
 namespace tw::test {
 namespace {
@@ -50,6 +54,89 @@ TEST_F(ExchangeFileTest, HoldsTheSevenRecipeTablesAlone) {
                     {"RECIPE_LOG"},
                     {"RECIPE_SALTS"},
                     {"RECIPE_SUGARS"}}));
+}
+
+class ExchangeCopyTest : public testing::Test {
+  protected:
+    TargetFile Target(std::string_view name) const { return {folder.File(name), own}; }
+    // A file of that name with one recipe of that name.
+    void MakeFile(const std::string& name, const std::string& recipe) {
+        ExchangeCopy copy(*main);
+        copy.Contents().Execute("INSERT INTO RECIPES (NAME) VALUES (" + SqlText(recipe) + ")");
+        copy.Save(Target(name));
+    }
+    Rows Names(const std::string& name) const {
+        return Select(*Database::OpenDatabase(folder.File(name), false),
+                      "SELECT NAME FROM RECIPES ORDER BY NAME");
+    }
+    std::vector<std::string> Files() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.File("")))
+            names.push_back(entry.path().filename().string());
+        std::ranges::sort(names);
+        return names;
+    }
+
+    const TemporaryFolder folder;
+    const OwnFiles own;
+    const std::unique_ptr<Database> main = Database::CreateInMemory();
+};
+
+TEST_F(ExchangeCopyTest, TheFileComesWithSaveAndNothingBesideIt) {
+    ExchangeCopy copy(*main);
+    copy.Contents().Execute("INSERT INTO RECIPES (NAME) VALUES ('Mild')");
+    EXPECT_TRUE(Files().empty());
+    copy.Save(Target("a.TWR"));
+    EXPECT_EQ(Files(), std::vector<std::string>{"a.TWR"});
+    EXPECT_EQ(Names("a.TWR"), Rows{{"Mild"}});
+    // It is a file like any other, also to be opened exclusively and written.
+    const auto file = Database::OpenDatabase(folder.File("a.TWR"), true);
+    file->Execute("INSERT INTO RECIPES (NAME) VALUES ('Bock')");
+    EXPECT_EQ(Cell(*file, "SELECT integrity_check FROM pragma_integrity_check"), "ok");
+}
+
+TEST_F(ExchangeCopyTest, AnOlderFileIsAddedToAndKeptFromOthersMeanwhile) {
+    MakeFile("a.TWR", "Mild");
+    {
+        ExchangeCopy copy(Database::OpenDatabase(folder.File("a.TWR"), false));
+        copy.Contents().Execute("INSERT INTO RECIPES (NAME) VALUES ('Bock')");
+        const auto other = Database::OpenDatabase(folder.File("a.TWR"), false);
+        EXPECT_EQ(ErrorOf([&] { other->Execute("DELETE FROM RECIPES"); }).Description(),
+                  "database is locked");
+        copy.Save(Target("a.TWR"));
+    }
+    EXPECT_EQ(Names("a.TWR"), (Rows{{"Bock"}, {"Mild"}}));
+    EXPECT_EQ(Files(), std::vector<std::string>{"a.TWR"});
+}
+
+TEST_F(ExchangeCopyTest, WhatACrashHasLeftBesideTheOldFileDoesNotReachTheNewOne) {
+    MakeFile("a.TWR", "Mild");
+    EXPECT_TRUE(DiesIn([&] {
+        const auto file = Database::OpenDatabase(folder.File("a.TWR"), false);
+        file->ExecuteNative("PRAGMA cache_size=1; PRAGMA cache_spill=1; BEGIN");
+        for (int i = 0; i < 1000; ++i) file->Execute("INSERT INTO RECIPES (NAME) VALUES ('half done')");
+        raise(SIGKILL);
+    }));
+    ASSERT_EQ(Files(), (std::vector<std::string>{"a.TWR", "a.TWR-journal"}));
+    MakeFile("a.TWR", "Bock");
+    EXPECT_EQ(Names("a.TWR"), Rows{{"Bock"}});
+    EXPECT_EQ(Files(), std::vector<std::string>{"a.TWR"});
+}
+
+TEST_F(ExchangeCopyTest, AFileWithALogBesideItIsTakenInWhole) {
+    MakeFile("a.TWR", "Mild");
+    EXPECT_TRUE(DiesIn([&] {
+        const auto file = Database::OpenDatabase(folder.File("a.TWR"), false);
+        file->ExecuteNative("PRAGMA journal_mode=WAL");
+        file->Execute("INSERT INTO RECIPES (NAME) VALUES ('Bock')");
+        raise(SIGKILL);
+    }));
+    ASSERT_EQ(Files(), (std::vector<std::string>{"a.TWR", "a.TWR-shm", "a.TWR-wal"}));
+    ExchangeCopy copy(Database::OpenDatabase(folder.File("a.TWR"), false));
+    copy.Contents().Execute("INSERT INTO RECIPES (NAME) VALUES ('Porter')");
+    copy.Save(Target("a.TWR"));
+    EXPECT_EQ(Names("a.TWR"), (Rows{{"Bock"}, {"Mild"}, {"Porter"}}));
+    EXPECT_EQ(Files(), std::vector<std::string>{"a.TWR"});
 }
 
 TEST_F(ExchangeFileTest, HasTheSameColumnsInTheirOrderButTheNameOfTheStyle) {
