@@ -1,13 +1,14 @@
 #include "shell/Recovery.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <ctime>
-#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <optional>
 #include <sys/stat.h>
-#include <unistd.h>
+
+#include "platform/TargetFile.h"
 
 namespace tw {
 namespace {
@@ -15,7 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kExtension = ".unsaved";
-constexpr std::string_view kBeside = ".new";
+constexpr std::string_view kUnderWayOnce = ".unsaved.new";  // in earlier releases
 constexpr std::string_view kAside = ".damaged";
 // No recipe is as large; a larger file is none of ours.
 constexpr std::uintmax_t kMostBytes = 64 << 20;
@@ -31,18 +32,14 @@ std::optional<std::string> ReadFile(const std::string& path) {
     return text;
 }
 
-// Writes a file for the user's eyes alone, and waits until it is on the disk.
-bool WriteFile(const std::string& path, std::string_view text) {
-    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, S_IRUSR | S_IWUSR);
-    if (file < 0) return false;
-    bool ok = true;
-    while (ok && !text.empty()) {
-        const ssize_t written = write(file, text.data(), text.size());
-        ok = written > 0;
-        if (ok) text.remove_prefix(static_cast<std::size_t>(written));
-    }
-    ok = ok && fdatasync(file) == 0;
-    return close(file) == 0 && ok;
+// Makes the folder, and those above it that are missing, for this user alone.
+bool MakePrivateFolder(const fs::path& folder) {
+    std::error_code error;
+    if (fs::is_directory(folder, error)) return true;
+    if (folder.has_parent_path() && folder != folder.parent_path() &&
+        !MakePrivateFolder(folder.parent_path()))
+        return false;
+    return mkdir(folder.c_str(), S_IRWXU) == 0 || errno == EEXIST;
 }
 
 DateTime LocalTimeOf(const std::string& path) {
@@ -68,8 +65,8 @@ FoundRecipes Recovery::Find() {
         paths.push_back(at->path().string());
     std::ranges::sort(paths);
     for (const std::string& path : paths) {
-        // A crash has ended the writing; the file beside it is whole.
-        if (path.ends_with(kBeside)) Discard(path);
+        // A crash has ended the writing; the file that it was to replace is whole.
+        if (path.ends_with(kUnderWay) || path.ends_with(kUnderWayOnce)) Discard(path);
         const auto own = [&](const auto& entry) { return entry.second == path; };
         if (!path.ends_with(kExtension) || std::ranges::any_of(files_, own)) continue;
         const std::optional<std::string> text = ReadFile(path);
@@ -98,18 +95,17 @@ void Recovery::Discard(const std::string& file) const {
 }
 
 bool Recovery::Keep(const std::string& key, const RecipeSnapshot& snapshot) {
+    if (!MakePrivateFolder(folder_)) return false;
     std::error_code error;
-    fs::create_directories(folder_, error);
-    if (error) return false;
+    // An earlier release has made it for everybody to look into.
+    fs::permissions(folder_, fs::perms::owner_all, error);
     const auto known = files_.find(key);
     const std::string file = known == files_.end() ? NewFile() : known->second;
-    const std::string beside = file + std::string(kBeside);
-    if (!WriteFile(beside, SnapshotText(snapshot))) {
-        Discard(beside);
+    try {
+        TargetFile(file, {}, TargetFile::Readers::OwnerAlone).Replace(SnapshotText(snapshot));
+    } catch (const Error&) {
         return false;
     }
-    fs::rename(beside, file, error);
-    if (error) return false;
     files_[key] = file;
     return true;
 }

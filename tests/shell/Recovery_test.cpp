@@ -8,6 +8,7 @@
 #include <sstream>
 #include <sys/stat.h>
 
+#include "platform/TargetFile.h"
 #include "shell/RecoveryModel.h"
 #include "shell/ShellTest.h"
 #include "store/Schema.h"
@@ -282,6 +283,8 @@ TEST_F(RecoveryTest, AWritingThatWasCutShortLeavesTheOlderFile) {
     run->shell.KeepUnsavedWork();
     run = nullptr;
     PutFile("1.unsaved.new", "Tunwright unsa");
+    PutFile(".1.unsaved" + std::string(kUnderWay), "Tunwright unsa");
+    // By the name that earlier releases gave it.
     PutFile("7.unsaved.new", "");
     run = Start();
     EXPECT_THAT(run->Offer(), ElementsAre("Stout"));
@@ -318,6 +321,24 @@ TEST_F(RecoveryTest, TheFilesAreForTheUsersEyesAlone) {
     struct stat status {};
     ASSERT_EQ(stat((Folder() + "/1.unsaved").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777U, 0600U);
+    for (const std::string& folder : {Folder(), scratch.File("unsaved")}) {
+        ASSERT_EQ(stat(folder.c_str(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0777U, 0700U) << folder;
+    }
+}
+
+TEST_F(RecoveryTest, AFolderOfAnEarlierReleaseIsClosedToOthers) {
+    fs::create_directories(Folder());
+    fs::permissions(Folder(), static_cast<fs::perms>(0755));
+    auto run = Start();
+    run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    EXPECT_EQ(fs::status(Folder()).permissions(), fs::perms::owner_all);
+}
+
+TEST_F(RecoveryTest, NothingElseIsWrittenIntoTheFolder) {
+    auto run = Start();
+    EXPECT_THROW(run->shell.Own().Check(Folder() + "/1.unsaved"), OwnFileError);
 }
 
 TEST_F(RecoveryTest, EachDatabaseHasItsOwnFiles) {
