@@ -10,6 +10,7 @@
 
 #include "cli/Command.h"
 #include "cli/CommandLine.h"
+#include "store/Schema.h"
 
 namespace tw {
 namespace {
@@ -60,6 +61,25 @@ TEST(Console, StopsAtTheFirstLineThatCannotBeCarriedOut) {
 
 TEST(Console, ShowsAReasonOnOneLine) {
     EXPECT_EQ(RunText("\"a\\nb\"\n").errors, "s.tws:1: unknown command 'a\\nb'\n");
+}
+
+TEST(Console, WritesNoReportOverTheDatabase) {
+    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "tunwright_console_own";
+    std::filesystem::remove_all(folder);
+    std::filesystem::create_directories(folder);
+    const std::string path = (folder / "beer.mdb").string(), link = (folder / "beer.txt").string();
+    CreateSchema(*Database::CreateDatabase(path, ""));
+    std::filesystem::create_symlink("beer.mdb", link);
+    const Outcome outcome =
+        RunText("new\nsaveas 0 Mild\nreport html " + path + " Mild\nreport rtf " + link +
+                    " Mild\nsetting TextOptions Append 1\nreport text " + link + " Mild\n",
+                path);
+    EXPECT_EQ(outcome.status, ExitStatus::Done);
+    EXPECT_EQ(outcome.out, "[Error] Could not create report file \"" + path +
+                               "\"\n[Error] Could not create report file \"" + link +
+                               "\"\n[Error] Could not create report file \"" + link + "\"\n");
+    EXPECT_EQ(RunText("sql SELECT NAME FROM RECIPES\n", path).out, "Mild\n");
+    std::filesystem::remove_all(folder);
 }
 
 TEST(Console, LooksForTheDatabaseWhenItIsNeeded) {

@@ -33,6 +33,17 @@ file(WRITE ${WORK}/text.mdb "a text")
 expect("a text file is no database" 1 "\\[Fatal Error\\] .*Could not open Tunwright database!\n" "" --database text.mdb
   --settings :memory: first.tws)
 
+# Nothing turns recipes into a file of settings.
+file(WRITE ${WORK}/input "new\nsaveas 0 Mild\nexport new ales.TWR Mild\n")
+expect("a recipe file" 0 "" "" ${memory})
+foreach(database ales.TWR :memory:)
+  expect("a database is no file of settings" 2 "" "tunwright-cli: 'ales.TWR' is .*database.*Please choose another file .*\n"
+    --database ${database} --settings ales.TWR)
+endforeach()
+expect("a folder is no file of settings" 2 "" "tunwright-cli: '\\.' is a folder.*\n" --database :memory: --settings .)
+file(WRITE ${WORK}/input "filesql ales.TWR SELECT NAME FROM RECIPES\n")
+expect("the recipe file is as before" 0 "Mild\n" "" ${memory})
+
 # The recent list and a setting are there for the next start.
 file(WRITE ${WORK}/input "setting Settings BoilVol 007\nnew\nsaveas 0 \"A, B\"\n")
 expect("settings in a file" 0 "" "" --database :memory: --settings kept.ini)

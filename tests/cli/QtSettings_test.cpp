@@ -46,6 +46,22 @@ TEST_F(QtSettingsTest, BringsAnyTextBack) {
     EXPECT_EQ(RoundTrip(withZero), withZero);
 }
 
+TEST_F(QtSettingsTest, ALinkStaysALinkAndAFileKeepsItsMode) {
+    Write("[Settings]\nKey=old\n");
+    std::filesystem::permissions(File(), static_cast<std::filesystem::perms>(0640));
+    const std::string link = (folder_ / "link.ini").string();
+    std::filesystem::create_symlink(File(), link);
+    EXPECT_TRUE(QtSettings::OfFile(link)->Write(Layer::User, "Settings", "Key", "new"));
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_EQ(std::filesystem::status(File()).permissions(), static_cast<std::filesystem::perms>(0640));
+    EXPECT_EQ(QtSettings::OfFile(File())->Read(Layer::User, "Settings", "Key"), "new");
+}
+
+TEST_F(QtSettingsTest, NamesItsFiles) {
+    EXPECT_EQ(QtSettings::OfFile(File())->Files().at(0), File());
+    EXPECT_FALSE(QtSettings::OfUser()->Files().at(0).empty());
+}
+
 TEST_F(QtSettingsTest, KeepsSectionsAndKeysApart) {
     const auto store = QtSettings::OfFile(File());
     store->Write(Layer::User, "A/B", "C", "1");
