@@ -50,7 +50,10 @@ class RecipeExchange::Host final : public CopyHost {
     Host(Platform& platform, ProgressModel& progress, bool isImport)
         : platform_(platform), progress_(progress), isImport_(isImport) {}
 
+    bool HasBegun() const { return begun_; }
+
     bool Continue(const std::string& name, int number, int total) override {
+        begun_ = true;
         return progress_.Show(name, number, total);
     }
 
@@ -75,6 +78,7 @@ class RecipeExchange::Host final : public CopyHost {
     Platform& platform_;
     ProgressModel& progress_;
     bool isImport_;
+    bool begun_ = false;  // the first recipe
 };
 
 bool RecipeExchange::Trap(const std::function<void()>& operation) {
@@ -89,7 +93,7 @@ bool RecipeExchange::Trap(const std::function<void()>& operation) {
 
 std::unique_ptr<Database> RecipeExchange::Open(const std::string& path) {
     try {
-        return Database::OpenDatabase(path, false);
+        return Database::OpenForeign(path);
     } catch (const Error&) {
         platform_.messages.ShowMessage(
             "Error", "File not recognized.\r\n\"" + path + "\" is not valid Tunwright Recipe file");
@@ -194,12 +198,30 @@ void RecipeExchange::ImportChosen(const std::string& path, const Chooser& choose
     platform_.dialogs.ShowModal(progress);
 }
 
+// The progress goes on while the file is being read. Calling it off ends a long look for the recipes at once,
+// and later waits for the recipe in hand, so that none comes in by halves.
+void RecipeExchange::CopyWatched(Database& file, const Choice& choice, ProgressModel& progress,
+                                 StylesNotImported& stylesNotImported) {
+    Host host(platform_, progress, true);
+    struct Watch {
+        Database& file;
+        ~Watch() { file.SetWatch({}); }
+    };
+    const Watch end{file};
+    const int total = static_cast<int>(choice.names.size());
+    file.SetWatch([&] { return progress.Show(progress.Name(), progress.Done(), total) || host.HasBegun(); });
+    try {
+        RecipeCopier(main_, objects_, file, host)
+            .ImportRecipes(choice.names, choice.folderId, stylesNotImported);
+    } catch (const Error& error) {
+        const bool calledOff = error.Number() == Database::kInterruptedNumber && progress.IsCancelled();
+        if (!calledOff) throw;
+    }
+}
+
 void RecipeExchange::CopyIn(Database& file, const Choice& choice, ProgressModel& progress) {
     StylesNotImported unknown;
-    const bool copied = Trap([&] {
-        Host host(platform_, progress, true);
-        RecipeCopier(main_, objects_, file, host).ImportRecipes(choice.names, choice.folderId, unknown);
-    });
+    const bool copied = Trap([&] { CopyWatched(file, choice, progress, unknown); });
     if (copied && !unknown.empty()) {
         StylesNotImportedModel dialog(std::move(unknown));
         progress.SetBusy(false);

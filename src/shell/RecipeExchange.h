@@ -14,6 +14,7 @@
 #include "platform/TargetFile.h"
 #include "store/DB_IO.h"
 #include "store/Database.h"
+#include "store/RecipeCopy.h"
 #include "tree/TWTree.h"
 
 namespace tw {
@@ -68,6 +69,8 @@ class RecipeExchange {
     void ImportChosen(const std::string& path, const Chooser& choose);
     std::optional<Choice> AskWhatToImport(const TWTree& tree);
     void CopyIn(Database& file, const Choice& choice, ProgressModel& progress);
+    void CopyWatched(Database& file, const Choice& choice, ProgressModel& progress,
+                     StylesNotImported& stylesNotImported);
     // Runs it; an error is shown and gives false.
     bool Trap(const std::function<void()>& operation);
 

@@ -18,6 +18,8 @@ namespace fs = std::filesystem;
 constexpr std::string_view kExtension = ".unsaved";
 constexpr std::string_view kUnderWayOnce = ".unsaved.new";  // in earlier releases
 constexpr std::string_view kAside = ".damaged";
+// The file that says whose a folder is: the database's id, a line break, and its path.
+constexpr std::string_view kOwnerFile = "database";
 // No recipe is as large; a larger file is none of ours.
 constexpr std::uintmax_t kMostBytes = 64 << 20;
 
@@ -42,6 +44,37 @@ bool MakePrivateFolder(const fs::path& folder) {
     return mkdir(folder.c_str(), S_IRWXU) == 0 || errno == EEXIST;
 }
 
+// Writes a file for the user's eyes alone; false when it could not be written.
+bool WritePrivately(const std::string& path, std::string_view text) {
+    try {
+        TargetFile(path, {}, TargetFile::Readers::OwnerAlone).Replace(text);
+        return true;
+    } catch (const Error&) {
+        return false;
+    }
+}
+
+// A file whose writing a crash has ended; the one that it was to replace is whole.
+bool IsUnderWay(const std::string& path) {
+    return path.ends_with(kUnderWay) || path.ends_with(kUnderWayOnce);
+}
+
+std::string CanonicalPath(const std::string& path) {
+    std::error_code error;
+    const fs::path canonical = fs::weakly_canonical(path, error);
+    return error ? path : canonical.string();
+}
+
+// In the order of their names; none for what is no folder.
+std::vector<std::string> PathsIn(const std::string& folder) {
+    std::vector<std::string> paths;
+    std::error_code error;
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error))
+        paths.push_back(at->path().string());
+    std::ranges::sort(paths);
+    return paths;
+}
+
 DateTime LocalTimeOf(const std::string& path) {
     struct stat status {};
     std::tm local{};
@@ -51,22 +84,47 @@ DateTime LocalTimeOf(const std::string& path) {
 
 }  // namespace
 
+Recovery::Recovery(const std::string& root, const std::string& databasePath, std::string databaseId)
+    : root_(root),
+      databasePath_(CanonicalPath(databasePath)),
+      databaseId_(std::move(databaseId)),
+      folder_(FolderOf(root, databasePath)) {}
+
 std::string Recovery::FolderOf(std::string_view root, const std::string& databasePath) {
+    return (fs::path(root) / HashText(CanonicalPath(databasePath))).string();
+}
+
+bool Recovery::IsOfThis(const std::string& folder) const {
+    const std::string owner = ReadFile(folder + "/" + std::string(kOwnerFile)).value_or("");
+    const std::size_t line = owner.find('\n');
+    if (line == std::string::npos || folder == folder_ || owner.substr(0, line) != databaseId_) return false;
+    const std::string path = owner.substr(line + 1);
     std::error_code error;
-    const fs::path canonical = fs::weakly_canonical(databasePath, error);
-    return (fs::path(root) / HashText(error ? databasePath : canonical.string())).string();
+    const fs::file_status status = fs::status(path, error);
+    return status.type() == fs::file_type::not_found || fs::equivalent(path, databasePath_, error);
+}
+
+void Recovery::TakeFilesFrom(const std::string& folder) {
+    // Another start finds what cannot be taken now.
+    if (!MakePrivateFolder(folder_)) return;
+    std::error_code error;
+    for (const std::string& path : PathsIn(folder)) {
+        if (IsUnderWay(path)) Discard(path);
+        if (path.ends_with(kExtension)) fs::rename(path, NewFile(), error);
+        if (error) return;
+    }
+    Discard(folder + "/" + std::string(kOwnerFile));
+    // What else lies in it stays.
+    Discard(folder);
 }
 
 FoundRecipes Recovery::Find() {
     FoundRecipes found;
-    std::vector<std::string> paths;
-    std::error_code error;
-    for (fs::directory_iterator at(folder_, error), end; !error && at != end; at.increment(error))
-        paths.push_back(at->path().string());
-    std::ranges::sort(paths);
-    for (const std::string& path : paths) {
-        // A crash has ended the writing; the file that it was to replace is whole.
-        if (path.ends_with(kUnderWay) || path.ends_with(kUnderWayOnce)) Discard(path);
+    if (!databaseId_.empty())
+        for (const std::string& folder : PathsIn(root_))
+            if (IsOfThis(folder)) TakeFilesFrom(folder);
+    for (const std::string& path : PathsIn(folder_)) {
+        if (IsUnderWay(path)) Discard(path);
         const auto own = [&](const auto& entry) { return entry.second == path; };
         if (!path.ends_with(kExtension) || std::ranges::any_of(files_, own)) continue;
         const std::optional<std::string> text = ReadFile(path);
@@ -99,15 +157,18 @@ bool Recovery::Keep(const std::string& key, const RecipeSnapshot& snapshot) {
     std::error_code error;
     // An earlier release has made it for everybody to look into.
     fs::permissions(folder_, fs::perms::owner_all, error);
+    MarkFolder();
     const auto known = files_.find(key);
     const std::string file = known == files_.end() ? NewFile() : known->second;
-    try {
-        TargetFile(file, {}, TargetFile::Readers::OwnerAlone).Replace(SnapshotText(snapshot));
-    } catch (const Error&) {
-        return false;
-    }
+    if (!WritePrivately(file, SnapshotText(snapshot))) return false;
     files_[key] = file;
     return true;
+}
+
+void Recovery::MarkFolder() {
+    // Without the mark the files still go by the path.
+    if (!marked_ && !databaseId_.empty())
+        marked_ = WritePrivately(folder_ + "/" + std::string(kOwnerFile), databaseId_ + "\n" + databasePath_);
 }
 
 void Recovery::Forget(const std::string& key) {

@@ -25,14 +25,18 @@ struct FoundRecipes {
 
 class Recovery {
   public:
-    // The folder is made when there is something to keep.
-    explicit Recovery(std::string folder) : folder_(std::move(folder)) {}
+    // The files of that database, below root. Its folder goes by its path and is made when there is something
+    // to keep; it says the database's id, so that a database that was moved finds its files again. An empty
+    // id is none.
+    Recovery(const std::string& root, const std::string& databasePath, std::string databaseId);
     // The folder below root for the recipes of that database, the same by whatever path the database is
     // opened.
     static std::string FolderOf(std::string_view root, const std::string& databasePath);
 
-    // What an earlier run has left. A file of another or a damaged form is renamed, so that it is found just
-    // once. Files of this run's documents are not among them.
+    // What an earlier run has left, also while the database lay elsewhere: the files of the same id come
+    // along when nothing is left where it lay. A copy that is still there keeps its own. A file of another or
+    // a damaged form is renamed, so that it is found just once. Files of this run's documents are not among
+    // them.
     FoundRecipes Find();
     // Gives the file a name that Find passes over; the new path, or the old one when that failed.
     std::string PutAside(const std::string& file) const;
@@ -48,8 +52,15 @@ class Recovery {
 
   private:
     std::string NewFile() const;
+    // Says in the folder whose it is.
+    void MarkFolder();
+    // Whether the files in another folder are those of this database from the time before it was moved.
+    bool IsOfThis(const std::string& folder) const;
+    void TakeFilesFrom(const std::string& folder);
 
+    std::string root_, databasePath_, databaseId_;
     std::string folder_;
+    bool marked_ = false;                       // by this run
     std::map<std::string, std::string> files_;  // of this run's documents, by key
 };
 

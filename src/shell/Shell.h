@@ -63,6 +63,11 @@ class ShellView {
     virtual void AutoSaveSwitched(bool /*on*/) {}
     // A recipe has edits that are kept nowhere: KeepUnsavedWork is due within a few seconds.
     virtual void UnsavedWorkWaits() {}
+    // What is wrong and stays so until the next call, such as that unsaved work is not kept; empty when all
+    // is well.
+    virtual void NoticeChanged(const std::string& /*notice*/) {}
+    // Good news, to be shown for a moment.
+    virtual void SayBriefly(const std::string& /*text*/) {}
     // Whether that document's window is minimised.
     virtual bool IsMinimized(const RecipeDocument&) const { return false; }
     // A window other than the main window and the recipes' windows is open.
@@ -83,8 +88,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
 
     // Start-up. LoadWindowSettings runs while the window is made; PerformSplashScreenInit behind the splash:
     // it reads the settings, fills the recent list and opens the database exclusively. False when that
-    // failed; its box has been shown then and the main window is told to close. ":memory:" opens an empty
-    // database of the full schema.
+    // failed; its box has been shown then and the main window is told to close. A database that cannot be
+    // written is told of and can be read. ":memory:" opens an empty database of the full schema.
     void LoadWindowSettings();
     bool PerformSplashScreenInit(const std::string& databasePath);
     // Tunwright.mdb in the program's folder.
@@ -99,8 +104,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void SetProgramFolder(std::string folder) { programFolder_ = std::move(folder); }
     // Offers what the last run left unsaved; shows nothing when that is nothing. Call it after the start.
     void OfferRecovery();
-    // Writes the recipes that were edited since the last call into their files. Failures are silent and tried
-    // again after the next edit.
+    // Writes the recipes that were edited since the last call into their files. What cannot be written waits
+    // for the next call, for which the view is told to wait; the notice says so until nothing waits.
     void KeepUnsavedWork();
     // A new changed document from the lost recipe, which takes its file over. False when it does not fit this
     // program: the file has been put aside and reported.
@@ -190,7 +195,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     bool DoAutoSave() const { return settings_.doAutoSave; }
     void SetDoAutoSave(bool on);
     // A minute has gone: saves all documents when it is time. Nothing while autosave is off, while it saves,
-    // or while recipes are being copied.
+    // while recipes are being copied, or in a database that cannot be written.
     void TickAutoSave();
     // Saves all documents silently behind the progress window.
     void ShowAutoSave();
@@ -329,6 +334,11 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void Exchange(const std::function<void(RecipeExchange&)>& operation);
     void SwitchAutoSave(bool wasOn);
     void ForgetUnsavedWork(const RecipeDocument& document);
+    // The database's id for the files of unsaved work; empty when it can have none.
+    std::string IdForRecovery();
+    void TellReadOnly();
+    // Brings the notice in line with what is wrong now.
+    void UpdateNotice();
     void ReportPutAside(const std::string& file);
     template <class Notice>
     void ForEachDocument(Notice notice);
@@ -364,6 +374,8 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     std::string programFolder_;           // empty: the product's own files are not used
     std::unique_ptr<Recovery> recovery_;  // nullptr while nothing is kept
     std::set<std::string> editedKeys_;    // documents with edits that are not in their files
+    bool unsavedNotKept_ = false;         // the last try could not write all of them
+    std::string notice_;                  // what the view was told last
 };
 
 }  // namespace tw

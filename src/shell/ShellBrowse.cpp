@@ -4,6 +4,7 @@
 namespace tw {
 
 void Shell::ShowOpenDialog() {
+    treeObjects_->CatchUp();
     OpenSaveModel dialog(OpenSaveModel::Style::Open, Access(), browse_);
     platform_.dialogs.ShowModal(dialog);
     if (dialog.Cancelled()) return;
@@ -12,6 +13,7 @@ void Shell::ShowOpenDialog() {
 }
 
 void Shell::ShowDeleteDialog() {
+    treeObjects_->CatchUp();
     OpenSaveModel dialog(OpenSaveModel::Style::Delete, Access(), browse_);
     platform_.dialogs.ShowModal(dialog);
     if (dialog.Cancelled()) return;
@@ -23,6 +25,7 @@ void Shell::ShowDeleteDialog() {
 }
 
 void Shell::ShowExplorer() {
+    treeObjects_->CatchUp();
     const auto editStyle = [this](const std::string& name, std::int64_t folderId) {
         return EditStyle(name, folderId);
     };

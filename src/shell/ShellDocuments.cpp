@@ -116,9 +116,11 @@ bool Shell::TrySave(const std::function<void(bool& ok)>& save) {
         save(ok);
     } catch (const Error& error) {
         treeObjects_->Reload();
+        DeletionEnded();
         platform_.messages.ShowMessage("Error", "Error during save:\r\n" + error.WithNumber());
         return false;
     }
+    treeObjects_->CatchUp();
     return ok;
 }
 
@@ -152,7 +154,7 @@ void Shell::SwitchAutoSave(bool wasOn) {
 void Shell::TickAutoSave() {
     // The time that saving takes is not counted. A save within the one unit of an import would be lost with
     // it.
-    if (!settings_.doAutoSave || autoSaving_ || exchanging_) return;
+    if (!settings_.doAutoSave || autoSaving_ || exchanging_ || database_->ReadOnly()) return;
     if (!autoSaveMinutes_.Tick(!documents_.empty(), settings_.doAutoSaveEvery)) return;
     ShowAutoSave();
     autoSaveMinutes_.Reset();
@@ -256,7 +258,12 @@ void Shell::NotifyStyleDeleted(std::int64_t styleId) {
 }
 
 void Shell::DeletionEnded() {
-    CheckEnableDelete();
+    try {
+        CheckEnableDelete();
+    } catch (const Error&) {
+        // It comes on top of an error that is being told already; the commands stay as they are.
+        return;
+    }
 }
 
 }  // namespace tw

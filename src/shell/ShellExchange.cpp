@@ -9,7 +9,12 @@ namespace tw {
 void Shell::Exchange(const std::function<void(RecipeExchange&)>& operation) {
     if (exchanging_) return;
     const auto rebuildTree = [this] {
-        tree_->InitFromDatabase();
+        struct Notice {
+            Shell& shell;
+            ~Notice() { shell.UpdateNotice(); }
+        };
+        const Notice notice{*this};
+        tree_->Reload();
         CheckEnableDelete();
         // The empty main window tells what can be done next.
         if (view_ && !active_) view_->DocumentActivated(nullptr);

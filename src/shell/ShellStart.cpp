@@ -54,7 +54,16 @@ bool Shell::PerformSplashScreenInit(const std::string& databasePath) {
     nextDocKey_ = 0;
     // A database that is damaged in parts still opens what can be read.
     Guard([&] { tree_->InitFromDatabase(); });
+    if (database_->ReadOnly()) TellReadOnly();
+    UpdateNotice();
     return true;
+}
+
+void Shell::TellReadOnly() {
+    platform_.messages.ShowMessage(
+        "Tunwright", "The database of your recipes is write-protected:\r\n  " + database_->Path() +
+                         "\r\nRecipes can be read and printed, but not saved.\r\nAllow writing to this file "
+                         "and to its folder, then start Tunwright again.");
 }
 
 bool Shell::OpenDatabase(const std::string& path) {
@@ -67,12 +76,12 @@ bool Shell::OpenDatabase(const std::string& path) {
         return false;
     }
     if (path != kInMemory) own_.AddDatabase(path);
-    if (!programFolder_.empty() && path != kInMemory) FollowCatalogue();
+    if (!programFolder_.empty() && path != kInMemory && !database_->ReadOnly()) FollowCatalogue();
     tree_ = std::make_unique<TWTree>(database_.get());
-    treeObjects_ = std::make_unique<TreeObjects>(*tree_);
+    treeObjects_ = std::make_unique<TreeObjects>(*tree_, [this] { UpdateNotice(); });
     objects_ = std::make_unique<DB_IO>(*database_, *treeObjects_, platform_.messages, platform_.clock, *this);
     if (!recoveryRoot_.empty() && path != kInMemory)
-        recovery_ = std::make_unique<Recovery>(Recovery::FolderOf(recoveryRoot_, path));
+        recovery_ = std::make_unique<Recovery>(recoveryRoot_, path, IdForRecovery());
     return true;
 }
 

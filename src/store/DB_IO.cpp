@@ -302,11 +302,20 @@ bool DB_IO::RefuseMissing(std::string_view title, std::string_view object, bool 
 
 bool DB_IO::Trap(const std::string& title, bool silent, const Operation& operation) {
     try {
-        return operation();
+        const bool done = operation();
+        tree_.CatchUp();
+        return done;
     } catch (const Error& error) {
-        tree_.Reload();
+        ShowWhatIsLeft(false);
         return Refuse(title, error.WithSource(), silent);
     }
+}
+
+void DB_IO::ShowWhatIsLeft(bool deletion) {
+    database_.AfterUnit([&tree = tree_, &listener = listener_, deletion] {
+        tree.Reload();
+        if (deletion) listener.DeletionEnded();
+    });
 }
 
 }  // namespace tw

@@ -29,7 +29,7 @@ class ObjectListener {
     // Once for each folder of a deleted subtree, after its recipes.
     virtual void NotifyRecipeFolderDeleted(std::int64_t folderId) = 0;
     virtual void NotifyStyleDeleted(std::int64_t styleId) = 0;
-    // Once at the end of an operation that deletes, also of one that an error ends.
+    // Once at the end of an operation that deletes, also of one that an error ends; raises nothing.
     virtual void DeletionEnded() {}
 };
 
@@ -140,6 +140,8 @@ class DB_IO {
 
     // Runs the operation; an error in it is shown, unless silent, and gives false.
     bool Trap(const std::string& title, bool silent, const Operation& operation);
+    // Shows what an error has left. Within a unit of the caller's that is known behind its end.
+    void ShowWhatIsLeft(bool deletion);
     // Runs a deletion as one unit.
     void RunDeletion(const std::function<void()>& deletion);
     // Shows the message unless silent. False.

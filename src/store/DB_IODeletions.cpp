@@ -13,10 +13,10 @@ void DB_IO::RunDeletion(const std::function<void()>& deletion) {
         deletion();
         unit.Commit();
     } catch (const Error&) {
-        tree_.Reload();
-        listener_.DeletionEnded();
+        ShowWhatIsLeft(true);
         throw;
     }
+    tree_.CatchUp();
     listener_.DeletionEnded();
 }
 

@@ -1,7 +1,9 @@
 #include "store/Database.h"
 
 #include <sqlite3.h>
+#include <utility>
 
+#include "store/ForeignFile.h"
 #include "store/Schema.h"
 #include "store/SqlDialect.h"
 #include "store/SqliteHandle.h"
@@ -14,16 +16,71 @@ struct StatementFinalizer {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 };
 
+// Runs the actions, which raise nothing, when its scope ends, also by an exception.
+class RunAtEnd {
+  public:
+    explicit RunAtEnd(std::vector<std::function<void()>>& actions) : actions_(std::exchange(actions, {})) {}
+    ~RunAtEnd() {
+        for (const auto& action : actions_) action();
+    }
+    RunAtEnd(const RunAtEnd&) = delete;
+    RunAtEnd& operator=(const RunAtEnd&) = delete;
+
+  private:
+    std::vector<std::function<void()>> actions_;
+};
+
 }  // namespace
 
-Database::Database(sqlite3* handle, std::string path) : handle_(handle), path_(std::move(path)) {}
+Database::Database(sqlite3* handle, std::string path, bool readOnly)
+    : handle_(handle), path_(std::move(path)), readOnly_(readOnly) {}
 
 Database::~Database() {
+    // A recordset may outlive the database.
+    if (watch_) watch_->Detach(handle_);
     HandleCloser()(handle_);
 }
 
 std::unique_ptr<Database> Database::OpenDatabase(const std::string& path, bool exclusive) {
-    return std::unique_ptr<Database>(new Database(OpenDatabaseFile(path, exclusive).release(), path));
+    OpenedFile file = OpenDatabaseFile(path, exclusive ? FileUse::Exclusive : FileUse::Shared);
+    return std::unique_ptr<Database>(new Database(file.handle.release(), path, file.readOnly));
+}
+
+std::unique_ptr<Database> Database::OpenForeign(const std::string& path, Clock now) {
+    OpenedFile file = OpenDatabaseFile(path, FileUse::Foreign);
+    std::unique_ptr<Database> database(new Database(file.handle.release(), path));
+    database->watch_ = std::make_unique<StatementWatch>(database->handle_, std::move(now));
+    CheckForeignTables(*database);
+    return database;
+}
+
+std::chrono::milliseconds Database::SteadyNow() {
+    return std::chrono::duration_cast<std::chrono::milliseconds>(
+        std::chrono::steady_clock::now().time_since_epoch());
+}
+
+void Database::MarkProgress() {
+    if (watch_) watch_->MarkProgress();
+}
+
+void Database::SetWatch(std::function<bool()> watch) {
+    if (watch_) watch_->SetWatch(std::move(watch));
+}
+
+void Database::CheckWritable() const {
+    if (readOnly_)
+        throw Error(kDatabaseSource, "The database is write-protected: nothing can be saved in it.",
+                    SQLITE_READONLY);
+}
+
+void Database::RaiseUndone() const {
+    if (undoneBy_) throw *undoneBy_;
+    throw Error(kDatabaseSource, "The operation was undone by an earlier error.", SQLITE_ABORT);
+}
+
+void Database::AfterUnit(const std::function<void()>& action) {
+    if (unitDepth_ == 0) return action();
+    afterUnit_.push_back(action);
 }
 
 std::unique_ptr<Database> Database::CreateDatabase(const std::string& path, std::string_view) {
@@ -39,8 +96,7 @@ std::unique_ptr<Database> Database::CreateInMemory() {
 sqlite3_stmt* Database::Prepare(std::string_view sql, bool select) {
     if (hook_) hook_(sql);
     // The disk itself may undo a unit of work in its middle. What would run now would stand alone.
-    if (unitDepth_ > 0 && sqlite3_get_autocommit(handle_) != 0)
-        throw Error(kDatabaseSource, "The operation was undone by an earlier error.", SQLITE_ABORT);
+    if (unitDepth_ > 0 && sqlite3_get_autocommit(handle_) != 0) RaiseUndone();
     const DialectStatement translated = TranslateSql(sql);
     if ((translated.kind == StatementKind::Select) != select)
         throw Error(kDatabaseSource,
@@ -58,10 +114,15 @@ sqlite3_stmt* Database::Prepare(std::string_view sql, bool select) {
 
 void Database::Execute(std::string_view sql) {
     recordsAffected_ = 0;
+    CheckWritable();
     const std::unique_ptr<sqlite3_stmt, StatementFinalizer> statement(Prepare(sql, false));
     int result = SQLITE_ROW;
     while (result == SQLITE_ROW) result = sqlite3_step(statement.get());
-    if (result != SQLITE_DONE) RaiseStoreError(handle_, kDatabaseSource);
+    if (result != SQLITE_DONE) {
+        const Error error = StoreError(handle_, kDatabaseSource);
+        if (unitDepth_ > 0 && sqlite3_get_autocommit(handle_) != 0 && !undoneBy_) undoneBy_.emplace(error);
+        throw error;
+    }
     recordsAffected_ = sqlite3_changes(handle_);
 }
 
@@ -74,27 +135,33 @@ void Database::ExecuteNative(const std::string& sql) {
 }
 
 UnitOfWork::UnitOfWork(Database& database) : database_(database) {
-    if (database_.unitDepth_ == 0) RunNative(database_.handle_, "BEGIN IMMEDIATE");
+    database_.CheckWritable();
+    if (database_.unitDepth_ == 0) {
+        RunNative(database_.handle_, "BEGIN IMMEDIATE");
+        database_.undoneBy_.reset();
+    }
     ++database_.unitDepth_;
 }
 
-void UnitOfWork::Commit() {
-    if (!open_) return;
+bool UnitOfWork::End() {
     open_ = false;
-    if (--database_.unitDepth_ > 0) return;
+    return --database_.unitDepth_ == 0;
+}
+
+void UnitOfWork::Commit() {
+    if (!open_ || !End()) return;
+    const RunAtEnd after(database_.afterUnit_);
     sqlite3* const handle = database_.handle_;
-    if (sqlite3_get_autocommit(handle) != 0)
-        throw Error(kDatabaseSource, "The operation was undone by an earlier error.", SQLITE_ABORT);
+    if (sqlite3_get_autocommit(handle) != 0) database_.RaiseUndone();
     if (sqlite3_exec(handle, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK) return;
-    const Error refusal(kDatabaseSource, sqlite3_errmsg(handle), sqlite3_extended_errcode(handle) & 0xff);
+    const Error refusal = StoreError(handle, kDatabaseSource);
     sqlite3_exec(handle, "ROLLBACK", nullptr, nullptr, nullptr);
     throw refusal;
 }
 
 void UnitOfWork::Abandon() {
-    if (!open_) return;
-    open_ = false;
-    if (--database_.unitDepth_ > 0) return;
+    if (!open_ || !End()) return;
+    const RunAtEnd after(database_.afterUnit_);
     sqlite3_exec(database_.handle_, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 

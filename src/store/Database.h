@@ -3,6 +3,7 @@
 // SQL into SQLite's.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -19,6 +20,8 @@ struct sqlite3;
 struct sqlite3_stmt;
 
 namespace tw {
+
+class StatementWatch;
 
 // The declared type of a field, by its data-access number. The tables of the program use Boolean, Long,
 // Double, Date, Text and Memo; the others come in files of other makers.
@@ -112,14 +115,21 @@ class Database {
   public:
     // Opens an existing file. exclusive keeps every other process out for as long as it is open, also while
     // nothing is written. Raises an error that says what is wrong when the file is missing, is a folder, is
-    // no database, is cut short, or is in use; the file is untouched then. A write-protected file is refused
-    // when exclusive is set, and can be read otherwise. What a crash has left half-written is rolled back.
-    // Nothing waits for another program.
+    // no database, is cut short, or is in use; the file is untouched then. What a crash has left half-written
+    // is rolled back. Nothing waits for another program. For exclusive use a file with several names (hard
+    // links) is refused, and one that may have been half-written under another name: what a crash leaves lies
+    // beside the name that was used. A file that cannot be written, or whose folder cannot, is opened to be
+    // read then (ReadOnly), by several programs.
     static std::unique_ptr<Database> OpenDatabase(const std::string& path, bool exclusive);
     // Makes a new empty database file (without any table) and opens it. Raises an error when path exists or
     // cannot be written. locale is accepted for the sake of the interface and has no effect: all text is
     // UTF-8.
     static std::unique_ptr<Database> CreateDatabase(const std::string& path, std::string_view locale);
+    // A file of somebody else, for import and for adding to it: as OpenDatabase without exclusive use, and
+    // nothing in it is trusted (store/ForeignFile.h). now is a clock that never goes back, for the limit on
+    // reading.
+    using Clock = std::function<std::chrono::milliseconds()>;
+    static std::unique_ptr<Database> OpenForeign(const std::string& path, Clock now = SteadyNow);
     // A database of the full schema, without catalogue rows, that lives in memory alone.
     static std::unique_ptr<Database> CreateInMemory();
     // A database in memory alone that holds what those bytes of a file do; an empty one for none. Raises an
@@ -142,6 +152,18 @@ class Database {
     // nothing was written since.
     std::int64_t ChangeCount() const;
     const std::string& Path() const { return path_; }
+    // It was opened exclusively, but cannot be written: what would change it raises an error.
+    bool ReadOnly() const { return readOnly_; }
+    // Runs action at once or, within a unit of work, behind its end, however it ends: what the disk has
+    // undone cannot be read before. REQUIRES: action raises nothing and is still good then.
+    void AfterUnit(const std::function<void()>& action);
+
+    // For a foreign file: the limit on reading without an end starts anew, since there was progress; and
+    // watch is asked now and then while a statement runs. It must not use this database; false ends the
+    // statement with an error of that number.
+    static constexpr int kInterruptedNumber = 9;
+    void MarkProgress();
+    void SetWatch(std::function<bool()> watch);
 
     // Called with the text of each statement before it runs. Tests count statements with it, end the process
     // or raise an error in the middle of an operation.
@@ -154,15 +176,23 @@ class Database {
   private:
     friend class UnitOfWork;
     // Takes the handle over.
-    Database(sqlite3* handle, std::string path);
+    Database(sqlite3* handle, std::string path, bool readOnly = false);
+    static std::chrono::milliseconds SteadyNow();
+    void CheckWritable() const;
+    // Raises what has undone the present unit.
+    [[noreturn]] void RaiseUndone() const;
     // Calls the hook, translates and compiles. REQUIRES: select tells a SELECT from the other statements.
     sqlite3_stmt* Prepare(std::string_view sql, bool select);
 
     sqlite3* handle_;
     std::string path_;
     int recordsAffected_ = 0;
+    bool readOnly_;
     int unitDepth_ = 0;
+    std::optional<Error> undoneBy_;  // the error with which the disk undid the present unit
+    std::vector<std::function<void()>> afterUnit_;
     StatementHook hook_;
+    std::unique_ptr<StatementWatch> watch_;  // of a foreign file
 };
 
 // Makes what one user operation writes one unit on the disk: a crash or a loss of power leaves the old state
@@ -181,6 +211,9 @@ class UnitOfWork {
     UnitOfWork& operator=(const UnitOfWork&) = delete;
 
   private:
+    // True for the outermost unit.
+    bool End();
+
     Database& database_;
     bool open_ = true;
 };

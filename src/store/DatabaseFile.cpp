@@ -5,8 +5,12 @@
 #include <optional>
 #include <string_view>
 #include <system_error>
+#include <unistd.h>
+#include <utility>
 
 #include "platform/Error.h"
+#include "store/ForeignFile.h"
+#include "store/JournalFile.h"
 #include "store/SqliteHandle.h"
 
 namespace tw {
@@ -38,8 +42,17 @@ std::int64_t PageSize(const Header& header) {
     return size == 1 ? kLargest : size;
 }
 
-// The checks that need no look inside. The write bits are looked at themselves: an administrator's process
-// may write a file that its owner has locked against changes.
+// Whether the file or folder may be written. The write bits are looked at themselves too: an administrator's
+// process may write what its owner has locked against changes.
+bool IsWritable(const fs::path& path) {
+    constexpr fs::perms kWriteBits =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    std::error_code failure;
+    const fs::perms bits = fs::status(path, failure).permissions();
+    return !failure && (bits & kWriteBits) != fs::perms::none && access(path.c_str(), W_OK) == 0;
+}
+
+// The checks that need no look inside.
 void CheckFile(const std::string& path, bool exclusive) {
     if (path.find('\0') != std::string::npos) Refuse(path, "is no file name.", SQLITE_CANTOPEN);
     std::error_code failure;
@@ -49,10 +62,20 @@ void CheckFile(const std::string& path, bool exclusive) {
     if (failure) Refuse(path, "cannot be opened: " + failure.message() + ".", SQLITE_CANTOPEN);
     if (fs::is_directory(status)) Refuse(path, "is a folder.", SQLITE_CANTOPEN);
     if (!fs::is_regular_file(status)) Refuse(path, "is not a file.", SQLITE_CANTOPEN);
-    constexpr fs::perms kWriteBits =
-        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    if (exclusive && (status.permissions() & kWriteBits) == fs::perms::none)
-        Refuse(path, "is write-protected.", SQLITE_READONLY);
+    if (exclusive && fs::hard_link_count(path, failure) > 1 && !failure)
+        Refuse(path,
+               "has several names (hard links). After a crash under one of them, another would open a "
+               "damaged database. Delete the other names, or make a copy of the file and use that.",
+               SQLITE_CANTOPEN);
+}
+
+// Without leave to write, what a crash has left half-written could not be rolled back.
+void CheckWhole(const std::string& path, const fs::path& file, bool isWritable) {
+    if (isWritable || !HasUnfinishedWork(file.string() + std::string(kJournalSuffix))) return;
+    Refuse(path,
+           "was left half-written by a crash and must be put right first, but it cannot be written. Allow "
+           "writing to the file and to its folder, then start Tunwright again.",
+           SQLITE_READONLY);
 }
 
 // The open file behind a handle. It is read through this one and never opened a second time: closing another
@@ -91,6 +114,22 @@ void CheckComplete(sqlite3* handle, const std::string& path) {
         Refuse(path, "is cut short.", SQLITE_CORRUPT);
 }
 
+// What a crash leaves of a database lies beside the name that it had then.
+void CheckOtherNames(const std::string& path, const fs::path& file, const Header& header) {
+    const std::optional<fs::path> journal = JournalOfAnotherName(
+        file, {NumberAt(header, kChangeCounterAt), NumberAt(header, kPageCountAt), PageSize(header)});
+    if (!journal) return;
+    std::string otherName = journal->string();
+    otherName.resize(otherName.size() - kJournalSuffix.size());
+    Refuse(path,
+           "may have been left half-written by a crash while it was called '" + otherName + "': '" +
+               journal->string() +
+               "' is still there. Give the database that name again and start Tunwright with it. If it never "
+               "had that name, move '" +
+               journal->filename().string() + "' to another folder.",
+           SQLITE_CANTOPEN);
+}
+
 [[noreturn]] void RefuseUnreadable(sqlite3* handle, const std::string& path) {
     const int code = sqlite3_extended_errcode(handle) & 0xff;
     if (code == SQLITE_BUSY || code == SQLITE_LOCKED) Refuse(path, "is in use by another program.", code);
@@ -127,8 +166,15 @@ void RunOrRefuse(sqlite3* handle, const std::string& path, const char* sql) {
 
 }  // namespace
 
+Error StoreError(sqlite3* handle, const char* source) {
+    const int number = sqlite3_extended_errcode(handle) & 0xff;
+    // Only the watch over a foreign file interrupts.
+    if (number == SQLITE_INTERRUPT) return {source, "Reading the file took too long.", number};
+    return {source, sqlite3_errmsg(handle), number};
+}
+
 void RaiseStoreError(sqlite3* handle, const char* source) {
-    throw Error(source, sqlite3_errmsg(handle), sqlite3_extended_errcode(handle) & 0xff);
+    throw StoreError(handle, source);
 }
 
 void RunNative(sqlite3* handle, const std::string& sql) {
@@ -136,23 +182,33 @@ void RunNative(sqlite3* handle, const std::string& sql) {
         RaiseStoreError(handle, kDatabaseSource);
 }
 
-SqliteHandle OpenDatabaseFile(const std::string& path, bool exclusive) {
+OpenedFile OpenDatabaseFile(const std::string& path, FileUse use) {
+    const bool exclusive = use == FileUse::Exclusive;
     CheckFile(path, exclusive);
+    std::error_code failure;
+    // SQLite's journal lies beside the file itself, not beside a symbolic link to it.
+    const fs::path file = fs::canonical(path, failure);
+    const bool isWritable = IsWritable(file) && IsWritable(file.parent_path());
+    CheckWhole(path, file, isWritable);
     SqliteHandle handle = OpenHandle(path, SQLITE_OPEN_READWRITE);
     sqlite3* const raw = handle.get();
-    ReadHeader(raw, path);
-    if (exclusive && sqlite3_db_readonly(raw, "main") == 1)
-        Refuse(path, "is write-protected.", SQLITE_READONLY);
+    if (use == FileUse::Foreign) Distrust(raw);
+    const Header header = ReadHeader(raw, path);
+    if (exclusive) CheckOtherNames(path, file, header);
     RunOrRefuse(raw, path, "PRAGMA synchronous=FULL");
     // An exclusive lock that is taken once in this locking mode stays until the file is closed. Nothing is
     // written, so that no journal is made and no byte changes; only a journal left by a crash is rolled back
     // by the first read.
     if (exclusive) RunOrRefuse(raw, path, "PRAGMA locking_mode=EXCLUSIVE");
-    RunOrRefuse(raw, path, exclusive ? "BEGIN EXCLUSIVE" : "BEGIN");
+    // A file that cannot be written at all takes no exclusive lock.
+    const bool canLock = exclusive && sqlite3_db_readonly(raw, "main") == 0;
+    RunOrRefuse(raw, path, canLock ? "BEGIN EXCLUSIVE" : "BEGIN");
     RunOrRefuse(raw, path, "SELECT COUNT(*) FROM sqlite_schema");
     CheckComplete(raw, path);
     RunOrRefuse(raw, path, "COMMIT");
-    return handle;
+    const bool readOnly = exclusive && !(canLock && isWritable);
+    if (readOnly) RunOrRefuse(raw, path, "PRAGMA query_only=ON");
+    return {std::move(handle), readOnly};
 }
 
 SqliteHandle CreateDatabaseFile(const std::string& path) {

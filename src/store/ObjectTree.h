@@ -31,8 +31,10 @@ class ObjectTree {
     virtual void Rename(const std::string& /*key*/, const std::string& /*name*/) {}
     // With all that stands below it.
     virtual void Remove(const std::string& /*key*/) {}
-    // Shows what the database holds now. Raises nothing: what cannot be read is not shown.
+    // Shows what the database holds now. Raises nothing: when it cannot be read, all stays as it was shown.
     virtual void Reload() {}
+    // Reads again what the last time could not be read; nothing otherwise. Raises nothing.
+    virtual void CatchUp() {}
 };
 
 }  // namespace tw

@@ -205,6 +205,7 @@ void RecipeCopier::CopyRecipes(std::span<const std::string> names) {
     int number = 0;
     for (const std::string& name : names) {
         if (!host_.Continue(name, number++, static_cast<int>(names.size()))) break;
+        file_.MarkProgress();
         if (CopyRecipe(name) == Step::Stop) break;
     }
     unit.Commit();

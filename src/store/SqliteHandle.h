@@ -5,6 +5,8 @@
 #include <sqlite3.h>
 #include <string>
 
+#include "platform/Error.h"
+
 namespace tw {
 
 inline constexpr const char* kDatabaseSource = "Database";
@@ -16,7 +18,9 @@ struct HandleCloser {
 };
 using SqliteHandle = std::unique_ptr<sqlite3, HandleCloser>;
 
-// Raises the handle's present error: its description and SQLite's primary result code.
+// The handle's present error: its description and SQLite's primary result code.
+Error StoreError(sqlite3* handle, const char* source);
+// Raises it.
 [[noreturn]] void RaiseStoreError(sqlite3* handle, const char* source);
 // Runs any number of SQLite's own statements. Raises the store's error.
 void RunNative(sqlite3* handle, const std::string& sql);
@@ -25,8 +29,19 @@ void RunNative(sqlite3* handle, const std::string& sql);
 // Raises the store's error.
 void RegisterFunctions(sqlite3* handle);
 
-// Opens an existing database file and reads it. See Database::OpenDatabase.
-SqliteHandle OpenDatabaseFile(const std::string& path, bool exclusive);
+enum class FileUse {
+    Shared,
+    Exclusive,
+    Foreign,  // nothing in the file is trusted
+};
+
+struct OpenedFile {
+    SqliteHandle handle;
+    bool readOnly = false;  // exclusive use of a file that cannot be written
+};
+
+// Opens an existing database file and reads it. See Database::OpenDatabase and OpenForeign.
+OpenedFile OpenDatabaseFile(const std::string& path, FileUse use);
 // Makes an empty database file. See Database::CreateDatabase.
 SqliteHandle CreateDatabaseFile(const std::string& path);
 // Opens a fresh database in memory.

@@ -127,6 +127,7 @@ std::vector<std::string> ExplorerModel::NamesOf(const std::vector<std::string>& 
 }
 
 std::string ExplorerModel::Status() const {
+    if (!access_.tree.IsUpToDate()) return "Not up to date: the database cannot be read.";
     if (!opened_.empty()) return "'" + opened_ + "' is open in the main window.";
     const ListTable& rows = At(shown_).list.Rows();
     const std::string all = Counted(rows.Rows().size());

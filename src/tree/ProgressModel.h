@@ -30,6 +30,8 @@ class ProgressModel final : public DialogModel {
     const std::string& Name() const { return name_; }
     int Done() const { return done_; }
     int Total() const { return total_; }
+    // The brewer has called it off.
+    bool IsCancelled() const { return cancelled_; }
     // The hourglass is wanted: it works and asks nothing.
     bool IsBusy() const { return busy_; }
 

@@ -1,5 +1,6 @@
 #include "tree/TWTree.h"
 
+#include <utility>
 #include <vector>
 
 #include "platform/Error.h"
@@ -117,11 +118,25 @@ void TWTree::InitFromDatabase() {
 void TWTree::InitFromDatabase(Database& database) {
     database_ = &database;
     Clear();
+    upToDate_ = false;
     TreeLoader loader(*this, database);
     if (&database == mainDatabase_)
         loader.LoadMainDatabase();
     else
         loader.LoadExchangeFile();
+    upToDate_ = true;
+}
+
+void TWTree::Reload() {
+    upToDate_ = false;
+    TWTree fresh(mainDatabase_);
+    fresh.InitFromDatabase();
+    Clear();
+    database_ = fresh.database_;
+    std::swap(index_, fresh.index_);
+    root_ = std::move(fresh.root_);
+    for (TWNode* const node : Subtree(*root_)) node->tree_ = this;
+    upToDate_ = true;
 }
 
 }  // namespace tw

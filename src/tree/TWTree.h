@@ -66,6 +66,10 @@ class TWTree {
     // name and no folders. A row whose key is taken already is passed over with what stands below it. Raises
     // the store's errors; what was read before stays then.
     void InitFromDatabase(Database& database);
+    // Reads the main database again. Raises the store's errors; the tree is as it was then.
+    void Reload();
+    // Whether the last reading of a database came to its end.
+    bool IsUpToDate() const { return upToDate_; }
     // The database of the last InitFromDatabase, nullptr before.
     Database* SourceDatabase() const { return database_; }
 
@@ -93,6 +97,7 @@ class TWTree {
     Database* mainDatabase_;
     Database* database_ = nullptr;
     bool sorted_ = true;
+    bool upToDate_ = true;
     NodeIndex index_;
     std::unique_ptr<TWNode> root_;
 };

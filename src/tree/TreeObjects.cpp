@@ -67,10 +67,15 @@ void TreeObjects::Remove(const std::string& key) {
 
 void TreeObjects::Reload() {
     try {
-        tree_.InitFromDatabase();
+        tree_.Reload();
     } catch (const Error&) {
-        // It comes on top of an error that is being told already; what could be read is shown.
+        // It comes on top of an error that is being told already; the tree says that it is old.
     }
+    if (read_) read_();
+}
+
+void TreeObjects::CatchUp() {
+    if (!tree_.IsUpToDate()) Reload();
 }
 
 }  // namespace tw

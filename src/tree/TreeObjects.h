@@ -1,6 +1,9 @@
 // The tree as the operations on objects change it.
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "store/ObjectTree.h"
 #include "tree/TWTree.h"
 
@@ -8,8 +11,9 @@ namespace tw {
 
 class TreeObjects final : public ObjectTree {
   public:
-    // REQUIRES: tree lives for as long.
-    explicit TreeObjects(TWTree& tree) : tree_(tree) {}
+    // read is called whenever the tree was to be read anew. REQUIRES: tree lives for as long.
+    explicit TreeObjects(TWTree& tree, std::function<void()> read = {})
+        : tree_(tree), read_(std::move(read)) {}
 
     std::optional<std::string> NameOf(const std::string& key) const override;
     std::string ParentOf(const std::string& key) const override;
@@ -21,9 +25,11 @@ class TreeObjects final : public ObjectTree {
     void Remove(const std::string& key) override;
     // Reads the main database anew.
     void Reload() override;
+    void CatchUp() override;
 
   private:
     TWTree& tree_;
+    std::function<void()> read_;
 };
 
 }  // namespace tw

@@ -127,9 +127,51 @@ TEST_F(AutoSaveWindow, EditsAreKeptSomeSecondsLater) {
     QSignalSpy ticks(timer, &QTimer::timeout);
     timer->start(0);
     ASSERT_TRUE(ticks.wait());
-    Recovery files(Recovery::FolderOf(FromQt(folder.filePath(QStringLiteral("unsaved"))), FromQt(database)));
+    Recovery files(FromQt(folder.filePath(QStringLiteral("unsaved"))), FromQt(database), {});
     ASSERT_EQ(files.Find().lost.size(), 1u);
     EXPECT_FALSE(timer->isActive());
+}
+
+TEST_F(AutoSaveWindow, TheStatusBarSaysWhileWorkIsNotKept) {
+    QTemporaryDir folder;
+    const QString database = folder.filePath(QStringLiteral("beer.mdb"));
+    const QString unsaved = folder.filePath(QStringLiteral("unsaved"));
+    shell.DB()->ExecuteNative("VACUUM INTO " + SqlText(FromQt(database)));
+    QFile inTheWay(unsaved);
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    Shell second(outside.platform);
+    second.SetRecoveryFolder(FromQt(unsaved));
+    frmMain other(second, outside.platform);
+    other.resize(900, 600);
+    other.show();
+    ASSERT_TRUE(other.StartUp(FromQt(database)));
+    auto* notice = other.findChild<QLabel*>(QStringLiteral("lblNotice"));
+    auto* timer = other.findChild<QTimer*>(QStringLiteral("tmrKeepUnsaved"));
+    ASSERT_NE(notice, nullptr);
+    RecipeDocument& document = second.CreateDocumentWindow("");
+    document.SetText(document.Record().txtNotes, "typed");
+    EXPECT_EQ(notice->text(), QString());
+    const auto tick = [&] {
+        timer->stop();
+        QMetaObject::invokeMethod(timer, "timeout", Qt::DirectConnection);
+    };
+    tick();
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_TRUE(notice->isVisible());
+    const QString text = QStringLiteral("Unsaved work is not being kept: save your recipes.");
+    EXPECT_EQ(notice->text(), text);
+    EXPECT_EQ(notice->accessibleName(), text);
+    // A sentence on a command takes its place for a moment.
+    other.statusBar()->showMessage(QStringLiteral("Opens a recipe"));
+    EXPECT_FALSE(notice->isVisible());
+    other.statusBar()->clearMessage();
+    EXPECT_TRUE(notice->isVisible());
+    ASSERT_TRUE(inTheWay.remove());
+    tick();
+    EXPECT_FALSE(timer->isActive());
+    EXPECT_EQ(notice->text(), QString());
+    EXPECT_EQ(other.statusBar()->currentMessage(), QStringLiteral("Unsaved work is being kept again."));
+    outside.messages.answers = {Answer::No};
 }
 
 TEST_F(AutoSaveWindow, TheRecoveryWindowRestoresWhatIsChosen) {

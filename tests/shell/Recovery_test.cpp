@@ -65,7 +65,8 @@ class RecoveryTest : public testing::Test {
         Strings names;
         if (!fs::exists(scratch.File("unsaved"))) return names;
         for (const auto& entry : fs::recursive_directory_iterator(scratch.File("unsaved")))
-            if (!entry.is_directory() || entry.path().has_extension())
+            if (entry.path().filename() != "database" &&
+                (!entry.is_directory() || entry.path().has_extension()))
                 names.push_back(entry.path().filename().string());
         std::ranges::sort(names);
         return names;
@@ -312,6 +313,103 @@ TEST_F(RecoveryTest, AFolderThatCannotBeWrittenCostsNothingButTheFile) {
     stout.SetText(stout.Record().txtNotes, "two");
     run->shell.KeepUnsavedWork();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
+}
+
+TEST_F(RecoveryTest, WhatCannotBeKeptIsToldOnceAndTriedAgainUntilItCan) {
+    std::ofstream(scratch.File("unsaved")) << "a file where the folder belongs";
+    auto run = Start();
+    run->New("Stout", "one");
+    RecipeDocument& porter = run->New("Porter", "two");
+    run->view.log.clear();
+    const std::string notice = "notice: Unsaved work is not being kept: save your recipes.";
+    run->shell.KeepUnsavedWork();
+    EXPECT_THAT(run->view.log, ElementsAre(notice, "unsaved work"));
+    // No edit in between, and no second word.
+    run->shell.KeepUnsavedWork();
+    EXPECT_THAT(run->view.log, ElementsAre(notice, "unsaved work", "unsaved work"));
+    run->outside.messages.answers = {Answer::No};
+    EXPECT_TRUE(run->shell.CloseDocument(porter));
+    run->view.log.clear();
+    fs::remove(scratch.File("unsaved"));
+    run->shell.KeepUnsavedWork();
+    EXPECT_THAT(run->view.log, ElementsAre("notice: ", "news: Unsaved work is being kept again."));
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
+    run->view.log.clear();
+    run->shell.KeepUnsavedWork();
+    EXPECT_THAT(run->view.log, IsEmpty());
+}
+
+TEST_F(RecoveryTest, NothingIsLeftToKeepOnceItIsSaved) {
+    std::ofstream(scratch.File("unsaved")) << "a file where the folder belongs";
+    auto run = Start();
+    RecipeDocument& stout = run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    run->view.log.clear();
+    EXPECT_TRUE(run->shell.SaveRecipeUnder(stout, "Stout", 0, true));
+    EXPECT_THAT(run->view.log, testing::Contains("notice: "));
+    EXPECT_THAT(run->view.log, testing::Not(testing::Contains(testing::StartsWith("news"))));
+}
+
+TEST_F(RecoveryTest, ADatabaseThatWasMovedFindsItsFiles) {
+    fs::create_directory(scratch.File("Beer"));
+    CreateDatabaseFile(scratch.File("Beer/a.mdb"));
+    ProgramRun(scratch.File("unsaved"), scratch.File("Beer/a.mdb")).shell.Unload(true);
+    auto crashed = std::make_unique<ProgramRun>(scratch.File("unsaved"), scratch.File("Beer/a.mdb"));
+    crashed->New("Stout", "one");
+    crashed->shell.KeepUnsavedWork();
+    crashed = nullptr;
+    fs::rename(scratch.File("Beer"), scratch.File("Ale"));
+    // Another database is not offered what is not its own.
+    EXPECT_THAT(Start()->Offer(), IsEmpty());
+    ProgramRun moved(scratch.File("unsaved"), scratch.File("Ale/a.mdb"));
+    EXPECT_THAT(moved.Offer({"cmdRestore"}), ElementsAre("Stout"));
+    EXPECT_EQ(moved.shell.ActiveDocument()->Record().txtNotes.Text(), "one");
+    EXPECT_TRUE(
+        fs::exists(Recovery::FolderOf(scratch.File("unsaved"), scratch.File("Ale/a.mdb")) + "/1.unsaved"));
+    EXPECT_FALSE(fs::exists(Recovery::FolderOf(scratch.File("unsaved"), scratch.File("Beer/a.mdb"))));
+}
+
+TEST_F(RecoveryTest, OfADatabaseAndItsCopyEachKeepsItsOwn) {
+    auto run = Start();
+    run->shell.Unload(true);
+    run = Start();
+    run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    run = nullptr;
+    fs::copy_file(scratch.File("beer.mdb"), scratch.File("copy.mdb"));
+    auto copy = std::make_unique<ProgramRun>(scratch.File("unsaved"), scratch.File("copy.mdb"));
+    EXPECT_THAT(copy->Offer(), IsEmpty());
+    copy->New("Porter", "two");
+    copy->shell.KeepUnsavedWork();
+    copy = nullptr;
+    // Once the one is gone, the other has what is left of both.
+    EXPECT_THAT(Start()->Offer(), ElementsAre("Stout"));
+    fs::remove(scratch.File("copy.mdb"));
+    EXPECT_THAT(Start()->Offer(), testing::UnorderedElementsAre("Stout", "Porter"));
+    EXPECT_THAT(Files(), ElementsAre("1.unsaved", "2.unsaved"));
+}
+
+TEST_F(RecoveryTest, FilesFromBeforeTheIdAreFoundByThePath) {
+    auto run = Start();
+    run->New("Stout", "one");
+    run->shell.KeepUnsavedWork();
+    run->shell.DB()->ExecuteNative("DROP TABLE DATABASE_ID");
+    run = nullptr;
+    fs::remove(Folder() + "/database");
+    EXPECT_THAT(Start()->Offer(), ElementsAre("Stout"));
+}
+
+TEST_F(RecoveryTest, ADamagedMarkOfAFolderIsPassedOver) {
+    auto run = Start();
+    run->shell.Unload(true);
+    const std::string other = scratch.File("unsaved/other");
+    fs::create_directories(other);
+    for (const std::string_view mark : {"", "\n", "no id at all", "\xff\n/no/such"}) {
+        std::ofstream(other + "/database", std::ios::binary) << mark;
+        std::ofstream(other + "/1.unsaved") << "not ours";
+        Start()->shell.OfferRecovery();
+        EXPECT_TRUE(fs::exists(other + "/1.unsaved"));
+    }
 }
 
 TEST_F(RecoveryTest, TheFilesAreForTheUsersEyesAlone) {

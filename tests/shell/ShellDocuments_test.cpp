@@ -340,6 +340,58 @@ TEST_F(ShellTest, AnErrorDuringSaveIsShownAndReportedAsNotSaved) {
     EXPECT_TRUE(document.Changed());
 }
 
+TEST_F(ShellTest, AFullDiskDuringSaveIsToldByItsOwnError) {
+    RecipeDocument& document = NewSaved("Stout");
+    document.SetText(document.Record().txtNotes, "x");
+    bool isFull = false;
+    shell.DB()->SetStatementHook([&](std::string_view sql) {
+        if (isFull || !sql.starts_with("DELETE FROM RECIPE_GRAINS")) return;
+        isFull = true;
+        // As SQLite does by itself when the disk is full.
+        shell.DB()->ExecuteNative("ROLLBACK");
+        throw Error("Database", "database or disk is full", 13);
+    });
+    EXPECT_FALSE(shell.SaveRecipe(document, false));
+    shell.DB()->SetStatementHook(nullptr);
+    EXPECT_EQ(outside.messages.log, Strings{"[Error] Error during save:\r\ndatabase or disk is full (13)"});
+    EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Stout"});
+    EXPECT_TRUE(shell.Tree().NodeExists("R:1:0"));
+    EXPECT_TRUE(document.Changed());
+    EXPECT_TRUE(Lit("mnuFileOpen"));
+    EXPECT_TRUE(shell.SaveRecipe(document, false));
+}
+
+TEST_F(ShellTest, ADiskThatStaysDeadLeavesTheListsAndSaysThatTheyAreOld) {
+    RecipeDocument& document = NewSaved("Stout");
+    document.SetText(document.Record().txtNotes, "x");
+    ExplorerModel explorer(shell.Access(), {});
+    view.log.clear();
+    shell.DB()->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
+    EXPECT_FALSE(shell.SaveRecipe(document, false));
+    EXPECT_FALSE(shell.SaveRecipe(document, false));
+    EXPECT_EQ(outside.messages.log.size(), 2u);
+    EXPECT_TRUE(shell.Tree().NodeExists("R:1:0"));
+    const std::string old = "notice: The lists are not up to date: the database cannot be read.";
+    EXPECT_EQ(std::ranges::count(view.log, old), 1);
+    EXPECT_EQ(explorer.Status(), "Not up to date: the database cannot be read.");
+    shell.DB()->SetStatementHook(nullptr);
+    EXPECT_TRUE(shell.SaveRecipe(document, false));
+    EXPECT_EQ(std::ranges::count(view.log, "notice: "), 1);
+    EXPECT_EQ(explorer.Status(), "1 object");
+    EXPECT_TRUE(shell.Tree().IsUpToDate());
+}
+
+TEST_F(ShellTest, OldListsAreReadAgainWhenTheyAreLookedAt) {
+    NewSaved("Stout");
+    shell.DB()->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
+    EXPECT_FALSE(shell.Objects().RenameRecipe(1, "Porter", true));
+    shell.DB()->SetStatementHook(nullptr);
+    EXPECT_FALSE(shell.Tree().IsUpToDate());
+    EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));
+    EXPECT_TRUE(shell.Tree().IsUpToDate());
+    EXPECT_EQ(view.log.back(), "notice: ");
+}
+
 TEST_F(ShellTest, SaveAllSavesEveryDocumentAndGoesOnAfterAFailure) {
     RecipeDocument& first = NewSaved("One");
     RecipeDocument& second = NewSaved("Two");

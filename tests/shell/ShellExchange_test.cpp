@@ -3,7 +3,9 @@
 
 #include "shell/ImportExportModel.h"
 #include "shell/ShellTest.h"
+#include "store/ExchangeFile.h"
 #include "store/Schema.h"
+#include "tree/ProgressModel.h"
 #include "tree/TWNodes.h"
 
 namespace tw::test {
@@ -246,6 +248,19 @@ TEST_F(ShellExchangeTest, ADatabaseWithoutTheTablesGivesTheStoresError) {
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] no such table: RECIPES"});
 }
 
+// It would never end.
+TEST_F(ShellExchangeTest, AFileWithAViewInATablesPlaceIsNotRecognized) {
+    MakeFile({"Mild"});
+    Database::OpenDatabase(file, false)
+        ->ExecuteNative(
+            "DROP TABLE RECIPES; CREATE VIEW RECIPES AS WITH RECURSIVE N(I) AS (SELECT 1 UNION ALL SELECT I "
+            "+ 1 "
+            "FROM N) SELECT I AS ID, 'Ale' AS NAME, '' AS STYLE_NAME FROM N");
+    shell.ImportRecipes(file, 0, std::nullopt);
+    shell.ExportRecipes(file, true, {"Mild"});
+    EXPECT_EQ(outside.messages.log, (Strings{NotRecognized(file), NotRecognized(file)}));
+}
+
 TEST_F(ShellExchangeTest, AnErrorInTheMiddleKeepsWhatCameBeforeAndShowsIt) {
     MakeFile({"Bock", "Mild"});
     Database::OpenDatabase(file, false)->ExecuteNative("DROP TABLE RECIPE_LOG");
@@ -372,6 +387,47 @@ TEST_F(ShellExchangeTest, OneImportDoesNotStartWithinAnother) {
     });
     shell.ImportFile(file);
     EXPECT_EQ(TakeShown(), Strings{"frmImportExport"});
+}
+
+// Presses Cancel in the progress window as soon as that shows something.
+class HastyDialogs : public DialogPort {
+  public:
+    void ShowModal(DialogModel& dialog) override {
+        auto* progress = dynamic_cast<ProgressModel*>(&dialog);
+        ASSERT_NE(progress, nullptr);
+        progress->SetObserver([&] {
+            if (progress->Total() == 0) return;
+            shownFirst.push_back(progress->Name());
+            progress->Press("cmdCancel");
+        });
+        dialog.FirstShown();
+        progress->SetObserver({});
+    }
+    Strings shownFirst;
+};
+
+TEST(ShellExchange, CancelIsHeardWhileTheFileIsBeingRead) {
+    const ScratchFolder folder;
+    const std::string file = folder.File("Ales.TWR");
+    {
+        const auto other = Database::CreateDatabase(file, "");
+        CreateExchangeTables(*Database::CreateInMemory(), *other);
+        // Enough for the reading of the names to be watched.
+        other->ExecuteNative(
+            "WITH RECURSIVE N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 2000) INSERT INTO "
+            "RECIPES "
+            "(NAME) SELECT 'Ale ' || I FROM N");
+    }
+    RecordingPlatform outside;
+    HastyDialogs dialogs;
+    Platform platform{outside.messages, dialogs, outside.settings, outside.clock, outside.clipboard};
+    Shell shell(platform);
+    ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
+    shell.ImportRecipes(file, 0, Strings{"Ale 1", "Ale 2"});
+    // Before the first recipe was shown, and without an error.
+    EXPECT_EQ(dialogs.shownFirst.front(), "");
+    EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
+    EXPECT_EQ(outside.messages.log, Strings{});
 }
 
 // A database of its own in a file, which an export must not take.

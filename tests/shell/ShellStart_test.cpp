@@ -60,6 +60,41 @@ TEST_F(ShellStartTest, ATextFileIsFatal) {
     EXPECT_EQ(outside.messages.log.size(), 1u);
 }
 
+TEST_F(ShellStartTest, AWriteProtectedDatabaseIsToldOnceAndCanBeRead) {
+    const ScratchFolder folder;
+    const std::string path = folder.File("Tunwright.mdb");
+    CreateSchema(*Database::CreateDatabase(path, ""));
+    AddRecipeRow(*Database::OpenDatabase(path, false), "Stout");
+    std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+    Shell shell(outside.platform);
+    shell.SetView(&view);
+    shell.SetRecoveryFolder(folder.File("unsaved"));
+    ASSERT_TRUE(shell.PerformSplashScreenInit(path));
+    EXPECT_EQ(
+        outside.messages.TakeLog(),
+        Strings{"[Tunwright] The database of your recipes is write-protected:\r\n  " + path +
+                "\r\nRecipes can be read and printed, but not saved.\r\nAllow writing to this file and to "
+                "its folder, then start Tunwright again."});
+    EXPECT_EQ(view.log.back(), "notice: Write-protected: recipes cannot be saved.");
+    shell.OpenByName("Stout");
+    ASSERT_NE(shell.ActiveDocument(), nullptr);
+    RecipeDocument& stout = *shell.ActiveDocument();
+    stout.SetText(stout.Record().txtNotes, "kept all the same");
+    shell.KeepUnsavedWork();
+    EXPECT_FALSE(shell.SaveRecipe(stout, false));
+    EXPECT_EQ(
+        outside.messages.TakeLog(),
+        Strings{"[Error] Error during save:\r\nThe database is write-protected: nothing can be saved in "
+                "it. (8)"});
+    EXPECT_TRUE(shell.Tree().NodeExists("R:1:0"));
+    // Autosave does not say so every few minutes.
+    shell.CurrentSettings().doAutoSaveEvery = 1;
+    shell.SetDoAutoSave(true);
+    shell.TickAutoSave();
+    EXPECT_EQ(outside.messages.log, Strings{});
+    EXPECT_EQ(outside.dialogs.shown, Strings{});
+}
+
 TEST_F(ShellStartTest, ADatabaseWithoutTheTablesIsFatal) {
     const ScratchFolder folder;
     { const auto empty = Database::CreateDatabase(folder.File("Tunwright.mdb"), ""); }

@@ -29,6 +29,8 @@ class RecordingView : public ShellView {
     }
     void UnsavedWorkWaits() override { log.emplace_back("unsaved work"); }
     void AutoSaveSwitched(bool on) override { log.emplace_back(on ? "autosave on" : "autosave off"); }
+    void NoticeChanged(const std::string& notice) override { log.push_back("notice: " + notice); }
+    void SayBriefly(const std::string& text) override { log.push_back("news: " + text); }
     void CloseMainWindow() override { log.emplace_back("close main window"); }
 
     std::vector<std::string> log;

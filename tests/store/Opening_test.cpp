@@ -10,6 +10,7 @@
 #include "StoreSupport.h"
 #include "store/Schema.h"
 #include "store/SqliteHandle.h"
+#include "support/DiesIn.h"
 
 namespace tw::test {
 namespace {
@@ -133,12 +134,161 @@ TEST_F(Opening, RefusesAnEmptyFile) {
     EXPECT_EQ(Refusal(), "is empty.");
 }
 
-TEST_F(Opening, RefusesAWriteProtectedFile) {
+// Takes the write permission from a file or folder for as long as it lives. It binds the program also where
+// it runs for the administrator, who may write all the same.
+class Protected {
+  public:
+    explicit Protected(fs::path path) : path_(std::move(path)), before_(fs::status(path_).permissions()) {
+        fs::permissions(path_, fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
+                        fs::perm_options::remove);
+    }
+    ~Protected() { fs::permissions(path_, before_); }
+    Protected(const Protected&) = delete;
+    Protected& operator=(const Protected&) = delete;
+
+  private:
+    fs::path path_;
+    fs::perms before_;
+};
+
+// Reads, and changes nothing whatever is tried.
+void ExpectReadOnly(const std::string& path) {
+    const std::string before = ReadFile(path);
+    {
+        const auto db = OpenMainDatabase(path);
+        EXPECT_TRUE(db->ReadOnly());
+        EXPECT_EQ(Cell(*db, "SELECT COUNT(*) FROM HOPS"), "0");
+        const Error refusal = ErrorOf([&] { db->Execute("INSERT INTO HOPS (NAME) VALUES ('Saaz')"); });
+        EXPECT_EQ(refusal.WithNumber(), "The database is write-protected: nothing can be saved in it. (8)");
+        EXPECT_EQ(ErrorOf([&] { UnitOfWork unit(*db); }).Number(), 8);
+        EXPECT_EQ(ErrorOf([&] { db->ExecuteNative("DELETE FROM HOPS"); }).Number(), 8);
+    }
+    EXPECT_EQ(ReadFile(path), before);
+}
+
+TEST_F(Opening, OpensAWriteProtectedFileToBeRead) {
     MakeMainDatabase(path_);
-    fs::permissions(path_, fs::perms::owner_read | fs::perms::group_read);
-    EXPECT_EQ(Refusal(), "is write-protected.");
+    const Protected file(path_);
+    ExpectReadOnly(path_);
     // A file that is only read may be protected: an exchange file on a disc.
+    EXPECT_FALSE(Database::OpenDatabase(path_, false)->ReadOnly());
+}
+
+TEST_F(Opening, OpensAFileInAWriteProtectedFolderToBeRead) {
+    MakeMainDatabase(path_);
+    const fs::path link = folder_.File("elsewhere");
+    fs::create_directory(link);
+    fs::create_symlink(path_, link / "Link.mdb");
+    {
+        const Protected folder(fs::path(path_).parent_path());
+        ExpectReadOnly(path_);
+        // The folder of the file itself counts, not that of a link to it.
+        ExpectReadOnly(link / "Link.mdb");
+    }
+    EXPECT_FALSE(OpenMainDatabase(path_)->ReadOnly());
+}
+
+// The system's own word on it, which the administrator does not hear.
+TEST_F(Opening, OpensTheFileOfAnotherUserToBeRead) {
+    if (geteuid() != 0) GTEST_SKIP() << "only the administrator can become another user";
+    MakeMainDatabase(path_);
+    fs::permissions(fs::path(path_).parent_path(), fs::perms(0755));
+    fs::permissions(path_, fs::perms(0644));
+    const pid_t child = fork();
+    if (child == 0) {
+        constexpr uid_t kNobody = 65534;
+        bool readOnly = false;
+        try {
+            readOnly = setuid(kNobody) == 0 && OpenMainDatabase(path_)->ReadOnly();
+        } catch (const Error&) {
+            readOnly = false;
+        }
+        _exit(readOnly ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status));
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+// Leaves the database half-written, with the journal that leads back; with the page of the header in it, if
+// that is wanted.
+void CrashIn(const std::string& path, bool inHeader = false) {
+    ASSERT_TRUE(DiesIn([&] {
+        const auto db = OpenMainDatabase(path);
+        db->ExecuteNative("PRAGMA cache_size=3");
+        const UnitOfWork unit(*db);
+        if (inHeader) db->ExecuteNative("PRAGMA user_version=9");
+        for (int i = 0; i < 50; ++i)
+            db->Execute("INSERT INTO HOPS (NAME, DESCR) VALUES ('Saaz', '" + std::string(3000, 'x') + "')");
+        raise(SIGKILL);
+    }));
+    ASSERT_TRUE(fs::exists(path + "-journal"));
+}
+
+TEST_F(Opening, SaysWhatAHalfWrittenFileNeedsThatCannotBeWritten) {
+    MakeMainDatabase(path_);
+    CrashIn(path_);
+    for (const bool exclusive : {true, false}) {
+        const Protected folder(fs::path(path_).parent_path());
+        EXPECT_EQ(ErrorOf([&] { Database::OpenDatabase(path_, exclusive); }).Description(),
+                  "'" + path_ +
+                      "' was left half-written by a crash and must be put right first, but it cannot be "
+                      "written. Allow writing to the file and to its folder, then start Tunwright again.");
+    }
+    EXPECT_EQ(Cell(*OpenMainDatabase(path_), "SELECT COUNT(*) FROM HOPS"), "0");
+}
+
+TEST_F(Opening, RefusesAFileWithSeveralNames) {
+    MakeMainDatabase(path_);
+    const std::string other = folder_.File("Other.mdb");
+    fs::create_hard_link(path_, other);
+    EXPECT_EQ(Refusal(),
+              "has several names (hard links). After a crash under one of them, another would open a damaged "
+              "database. Delete the other names, or make a copy of the file and use that.");
+    // An exchange file may have as many as it likes.
     EXPECT_NO_THROW(Database::OpenDatabase(path_, false));
+    fs::remove(other);
+    EXPECT_NO_THROW(OpenMainDatabase(path_));
+}
+
+class OtherName : public Opening, public testing::WithParamInterface<bool> {};
+INSTANTIATE_TEST_SUITE_P(Crash, OtherName, testing::Bool());
+
+TEST_P(OtherName, IsToldWhenACrashHasLeftItHalfWritten) {
+    const std::string other = folder_.File("Before.mdb");
+    MakeMainDatabase(other);
+    CrashIn(other, GetParam());
+    fs::rename(other, path_);
+    const Error error = ErrorOf([&] { OpenMainDatabase(path_); });
+    EXPECT_EQ(error.Description(),
+              "'" + path_ + "' may have been left half-written by a crash while it was called '" + other +
+                  "': '" + other +
+                  "-journal' is still there. Give the database that name again and start Tunwright with it. "
+                  "If it never had that name, move 'Before.mdb-journal' to another folder.");
+    // As it says.
+    fs::rename(path_, other);
+    EXPECT_EQ(Cell(*OpenMainDatabase(other), "SELECT COUNT(*) FROM HOPS"), "0");
+}
+
+TEST_P(OtherName, IsNotTakenFromTheJournalsOfOthers) {
+    MakeMainDatabase(path_);
+    const std::string other = folder_.File("Other.mdb");
+    MakeMainDatabase(other);
+    // The other database is larger than this one, so that no journal of it leads back to this.
+    OpenMainDatabase(other)->Execute("INSERT INTO HOPS (DESCR) VALUES ('" + std::string(9000, 'x') + "')");
+    CrashIn(other, GetParam());
+    EXPECT_NO_THROW(OpenMainDatabase(path_)) << "its own database is there";
+    fs::rename(other, folder_.File("Moved.mdb"));
+    EXPECT_NO_THROW(OpenMainDatabase(path_)) << "another state";
+    const std::string journal = ReadFile(other + "-journal");
+    EXPECT_EQ(ErrorOf([&] { OpenMainDatabase(folder_.File("Moved.mdb")); }).Number(), SQLITE_CANTOPEN);
+    WriteFile(other + "-journal", "no journal");
+    EXPECT_NO_THROW(OpenMainDatabase(path_)) << "no journal at all";
+    WriteFile(other + "-journal", std::string(journal.size(), '\0') + journal);
+    EXPECT_NO_THROW(OpenMainDatabase(path_)) << "a journal that was put out of use";
+    WriteFile(other + "-journal", journal.substr(0, 28));
+    EXPECT_NO_THROW(OpenMainDatabase(path_)) << "a journal without a page";
 }
 
 TEST_F(Opening, RefusesATruncatedFile) {

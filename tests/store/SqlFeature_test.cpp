@@ -246,7 +246,7 @@ std::string Plan(sqlite3* handle, const std::string& sql) {
 TEST(SqlPlan, ReadsTheTreeByIndexesAlone) {
     const TemporaryFolder folder;
     MakeMainDatabase(folder.File("a.mdb"));
-    const SqliteHandle handle = OpenDatabaseFile(folder.File("a.mdb"), false);
+    const SqliteHandle handle = OpenDatabaseFile(folder.File("a.mdb"), FileUse::Shared).handle;
     for (const std::string sql :
          {"SELECT NAME, ID FROM RECIPES ORDER BY NAME",
           "SELECT NAME, ID FROM RECIPES WHERE STYLE_ID = 0 ORDER BY NAME",

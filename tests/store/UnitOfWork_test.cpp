@@ -208,6 +208,65 @@ TEST(UnitOfWork, RunsNothingMoreOnceTheDiskHasUndoneIt) {
     EXPECT_EQ(Cell(*db, "SELECT COUNT(*) FROM HOPS"), "0");
 }
 
+TEST(UnitOfWork, TellsTheErrorThatUndidItWhateverIsTriedThen) {
+    const TemporaryFolder folder;
+    MakeMainDatabase(folder.File("a.mdb"));
+    const auto db = OpenMainDatabase(folder.File("a.mdb"));
+    // A disk that is full.
+    db->ExecuteNative("PRAGMA max_page_count=1");
+    const std::string full = "Database\r\ndatabase or disk is full (13)";
+    {
+        UnitOfWork unit(*db);
+        const std::string insert =
+            "INSERT INTO HOPS (NAME, DESCR) VALUES ('Saaz', '" + std::string(9000, 'x') + "')";
+        EXPECT_EQ(ErrorOf([&] { db->Execute(insert); }).WithSource(), full);
+        EXPECT_EQ(ErrorOf([&] { db->OpenRecordset("SELECT * FROM HOPS"); }).WithSource(), full);
+        EXPECT_EQ(ErrorOf([&] { unit.Commit(); }).WithSource(), full);
+    }
+    // It is forgotten with its unit.
+    UnitOfWork next(*db);
+    db->ExecuteNative("ROLLBACK");
+    EXPECT_EQ(ErrorOf([&] { next.Commit(); }).Description(), "The operation was undone by an earlier error.");
+}
+
+TEST(UnitOfWork, RunsWhatWaitsForItsEndHoweverItEnds) {
+    const auto db = Database::CreateInMemory();
+    std::string log;
+    const auto wait = [&](const char* word) {
+        db->AfterUnit([&log, &db, word] {
+            log += word;
+            log += Cell(*db, "SELECT COUNT(*) FROM HOPS");
+        });
+    };
+    const std::string insert = "INSERT INTO HOPS (NAME) VALUES ('Saaz')";
+    wait("none");
+    EXPECT_EQ(log, "none0");
+    {
+        UnitOfWork outer(*db);
+        {
+            const UnitOfWork inner(*db);
+            db->Execute(insert);
+            wait(" commit");
+        }
+        EXPECT_EQ(log, "none0");
+        outer.Commit();
+    }
+    EXPECT_EQ(log, "none0 commit1");
+    {
+        UnitOfWork unit(*db);
+        db->Execute(insert);
+        wait(" abandon");
+        unit.Abandon();
+    }
+    {
+        const UnitOfWork unit(*db);
+        db->Execute(insert);
+        wait(" undone");
+        db->ExecuteNative("ROLLBACK");
+    }
+    EXPECT_EQ(log, "none0 commit1 abandon1 undone1");
+}
+
 TEST(UnitOfWork, LeavesTheOldStateWhenTheDiskRefuses) {
     const TemporaryFolder folder;
     const std::string path = folder.File("a.mdb");

@@ -123,6 +123,34 @@ TEST(InitFromDatabase, KeepsWhatItReadBeforeAStoreError) {
     EXPECT_NE(ErrorOf([&] { main.tree.InitFromDatabase(); }), "no error");
     EXPECT_TRUE(main.tree.NodeExists("S:1:0"));
     EXPECT_TRUE(main.tree.Sorted());
+    EXPECT_FALSE(main.tree.IsUpToDate());
+    ExpectConsistent(main.tree);
+}
+
+TEST(Reload, ShowsTheDatabaseAnewAndGoesOnInOrder) {
+    MainTree main;
+    main.Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Ale', 0)");
+    main.Load();
+    main.Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Bock', 0)");
+    main.tree.Reload();
+    EXPECT_TRUE(main.tree.IsUpToDate());
+    TWNodes& styles = main.tree.Nodes("G:-1")->Children();
+    EXPECT_EQ(Names(styles), (Lines{"(None)", "Ale", "Bock"}));
+    EXPECT_EQ(main.tree.SourceDatabase(), main.db.get());
+    main.tree.Nodes("S:1:0")->SetName("Cider");
+    EXPECT_EQ(Names(styles), (Lines{"(None)", "Bock", "Cider"}));
+    ExpectConsistent(main.tree);
+}
+
+TEST(Reload, LeavesTheTreeAsItWasWhenTheDatabaseCannotBeRead) {
+    MainTree main;
+    main.Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Ale', 0)");
+    main.Load();
+    const Lines before = All(main.tree);
+    main.db->ExecuteNative("DROP TABLE RECIPES");
+    EXPECT_NE(ErrorOf([&] { main.tree.Reload(); }), "no error");
+    EXPECT_EQ(All(main.tree), before);
+    EXPECT_FALSE(main.tree.IsUpToDate());
     ExpectConsistent(main.tree);
 }
 

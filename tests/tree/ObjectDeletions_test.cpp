@@ -302,6 +302,48 @@ TEST_F(Failure, OfAnyOtherOperationIsShownAndLeavesTheTreeAsTheDatabase) {
     fails("Error creating new style folder", [&] { return io.CreateStyleFolder(5, "A", false) > 0; });
 }
 
+TEST_F(Failure, OfADiskThatStaysDeadLeavesTheTreeUntilTheDiskIsBack) {
+    const Lines before = Tree("X:DB");
+    main.db->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
+    EXPECT_FALSE(io.RenameRecipe(1, "Other", false));
+    EXPECT_EQ(Boxes(), Lines{"[Error renaming recipe] Database\r\ndisk I/O error (10)"});
+    EXPECT_EQ(Tree("X:DB"), before);
+    EXPECT_FALSE(main.tree.IsUpToDate());
+    EXPECT_THROW(io.DeleteRecipeById(1), Error);
+    EXPECT_EQ(Tree("X:DB"), before);
+    main.db->SetStatementHook(nullptr);
+    // Behind the tree's back, as what an operation had done before its error.
+    main.Execute("UPDATE RECIPES SET NAME = 'Changed' WHERE ID = 2");
+    EXPECT_GE(io.CreateRecipeFolder(0, "New", false), 0);
+    EXPECT_TRUE(main.tree.IsUpToDate());
+    EXPECT_EQ(main.tree.Nodes("R:2:0")->Name(), "Changed");
+    ExpectInStep();
+}
+
+TEST_F(Failure, WithinAUnitOfTheCallersIsShownBehindIt) {
+    int readings = 0;
+    TreeObjects counted(main.tree, [&] { ++readings; });
+    DB_IO within(*main.db, counted, outside.messages, outside.clock, listener);
+    {
+        const UnitOfWork unit(*main.db);
+        bool isFull = false;
+        main.db->SetStatementHook([&](std::string_view sql) {
+            if (isFull || !sql.starts_with("DELETE FROM RECIPE_HOPS")) return;
+            isFull = true;
+            // As SQLite does by itself when the disk is full.
+            main.db->ExecuteNative("ROLLBACK");
+            throw Error("Database", "database or disk is full", 13);
+        });
+        EXPECT_EQ(ErrorOf([&] { within.DeleteRecipeById(1); }), "Database: database or disk is full");
+        main.db->SetStatementHook(nullptr);
+        EXPECT_EQ(readings, 0);
+        EXPECT_EQ(Notices(), Lines{});
+    }
+    EXPECT_EQ(readings, 1);
+    EXPECT_EQ(Notices(), Lines{"deletion ended"});
+    ExpectInStep();
+}
+
 TEST_F(Failure, IsSilentWhenAskedTo) {
     main.db->SetStatementHook([](std::string_view) { throw Error("Test", "the disk is on fire", 7); });
     EXPECT_FALSE(io.MoveObject("F:2", "F:4", true));

@@ -1,5 +1,6 @@
 #include "shell/ui/frmMain.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
@@ -10,6 +11,7 @@
 
 #include "document/ui/frmDocument.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/ElidedLabel.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/StoredColor.h"
 #include "shell/ui/CommandMenus.h"
@@ -28,6 +30,7 @@ constexpr int kStateMaximized = 2;
 constexpr int kStateNormal = 0;
 // How long an edit may be kept nowhere but in the window.
 constexpr int kKeepMilliseconds = 3000;
+constexpr int kNewsMilliseconds = 10000;
 
 // Commands that look at what is being typed, or leave it: it is committed first, and a refused entry calls
 // them off.
@@ -45,7 +48,8 @@ frmMain::frmMain(Shell& shell, Platform& platform)
       area_(new DocumentArea(this)),
       autoSaveTimer_(new QTimer(this)),
       keepTimer_(new QTimer(this)),
-      ddeTimer_(new QTimer(this)) {
+      ddeTimer_(new QTimer(this)),
+      notice_(new ElidedLabel(this)) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(QStringLiteral("Tunwright"));
     setWindowIcon(ProgramIcon());
@@ -56,6 +60,9 @@ frmMain::frmMain(Shell& shell, Platform& platform)
     setCentralWidget(area_);
     statusBar()->setObjectName(QStringLiteral("sbStatusBar"));
     statusBar()->setAccessibleName(tr("Status"));
+    notice_->setObjectName(QStringLiteral("lblNotice"));
+    // A sentence on a command stands before it for as long as it is shown.
+    statusBar()->addWidget(notice_, 1);
     autoSaveTimer_->setObjectName(QStringLiteral("tmrAutoSave"));
     autoSaveTimer_->setInterval(kAutoSaveTickMilliseconds);
     connect(autoSaveTimer_, &QTimer::timeout, this,
@@ -206,6 +213,16 @@ void frmMain::AutoSaveSwitched(bool on) {
 // Not started anew by each key, so that steady typing is kept too.
 void frmMain::UnsavedWorkWaits() {
     if (!keepTimer_->isActive()) keepTimer_->start();
+}
+
+void frmMain::NoticeChanged(const std::string& notice) {
+    notice_->SetFullText(ToQt(notice));
+    QAccessibleEvent told(notice_, QAccessible::Alert);
+    if (!notice.empty()) QAccessible::updateAccessibility(&told);
+}
+
+void frmMain::SayBriefly(const std::string& text) {
+    statusBar()->showMessage(ToQt(text), kNewsMilliseconds);
 }
 
 bool frmMain::IsMinimized(const RecipeDocument& document) const {

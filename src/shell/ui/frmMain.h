@@ -12,6 +12,7 @@ namespace tw {
 class CommandMenus;
 class DocumentArea;
 class DocumentSubWindow;
+class ElidedLabel;
 class frmDocument;
 
 class frmMain final : public QMainWindow, private ShellView, private DocumentFrame {
@@ -47,6 +48,8 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     void DocumentRenamed(const RecipeDocument& document) override;
     void AutoSaveSwitched(bool on) override;
     void UnsavedWorkWaits() override;
+    void NoticeChanged(const std::string& notice) override;
+    void SayBriefly(const std::string& text) override;
     bool IsMinimized(const RecipeDocument& document) const override;
     bool IsDialogOpen() const override;
     void BringToFront() override;
@@ -75,6 +78,7 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     QTimer* autoSaveTimer_;  // tmrAutoSave; it runs behind dialogs too
     QTimer* keepTimer_;
     QTimer* ddeTimer_;  // tmrProcessDDE; it runs only while commands wait
+    ElidedLabel* notice_;
     bool exitGranted_ = false;
     bool changing_ = false;  // the shell is changing the windows; their signals are its echo
 };

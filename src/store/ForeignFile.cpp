@@ -1,0 +1,101 @@
+#include "store/ForeignFile.h"
+
+#include <algorithm>
+#include <sqlite3.h>
+#include <string_view>
+
+#include "platform/Error.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+struct Limit {
+    int what, most;
+};
+
+// Far above what a recipe needs.
+constexpr int kMostBytes = 64 << 20;
+constexpr Limit kLimits[] = {
+    {SQLITE_LIMIT_LENGTH, kMostBytes},
+    {SQLITE_LIMIT_SQL_LENGTH, kMostBytes},
+    {SQLITE_LIMIT_COLUMN, 500},
+    {SQLITE_LIMIT_EXPR_DEPTH, 100},
+    {SQLITE_LIMIT_COMPOUND_SELECT, 5},
+    {SQLITE_LIMIT_VDBE_OP, 25000},
+    {SQLITE_LIMIT_FUNCTION_ARG, 8},
+    {SQLITE_LIMIT_ATTACHED, 0},
+    {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, 200},
+    {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
+    {SQLITE_LIMIT_WORKER_THREADS, 0},
+};
+
+// What the program's own statements call, and GLOB for the rule of a date.
+constexpr std::string_view kFunctions[] = {"COUNT", "GLOB", "LCASE", "LIKE", "SUBSTR", "TRIM", "UCASE"};
+
+// The program reads tables and adds to them; what else a statement would do was put into the file.
+int Authorize(void*, int action, const char* first, const char* function, const char*, const char*) noexcept {
+    switch (action) {
+        case SQLITE_SELECT:
+        case SQLITE_READ:
+        case SQLITE_INSERT:
+        case SQLITE_UPDATE:
+        case SQLITE_DELETE:
+        case SQLITE_TRANSACTION:
+        case SQLITE_SAVEPOINT:
+            return SQLITE_OK;
+        case SQLITE_FUNCTION: {
+            const auto same = [&](std::string_view known) { return CompareNoCase(known, function) == 0; };
+            return std::ranges::any_of(kFunctions, same) ? SQLITE_OK : SQLITE_DENY;
+        }
+        case SQLITE_PRAGMA:
+            return CompareNoCase(first, "synchronous") == 0 ? SQLITE_OK : SQLITE_DENY;
+        default:
+            return SQLITE_DENY;
+    }
+}
+
+}  // namespace
+
+void Distrust(sqlite3* handle) {
+    for (const Limit& limit : kLimits) sqlite3_limit(handle, limit.what, limit.most);
+    for (const int freedom : {SQLITE_DBCONFIG_TRUSTED_SCHEMA, SQLITE_DBCONFIG_ENABLE_VIEW,
+                              SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION})
+        sqlite3_db_config(handle, freedom, 0, nullptr);
+    sqlite3_set_authorizer(handle, Authorize, nullptr);
+}
+
+void CheckForeignTables(Database& database) {
+    // A virtual table has no page of its own.
+    const Recordset other = database.OpenRecordset(
+        "SELECT name FROM sqlite_schema WHERE UCASE(SUBSTR(name, 1, 6)) = 'RECIPE' AND "
+        "(type = 'view' OR (type = 'table' AND rootpage = 0))");
+    if (other.AtEnd()) return;
+    throw Error(kDatabaseSource,
+                "'" + database.Path() + "' is no recipe file: '" + other.Fields(0).Text() + "' is no table.",
+                SQLITE_SCHEMA);
+}
+
+StatementWatch::StatementWatch(sqlite3* handle, Database::Clock now) : now_(std::move(now)), last_(now_()) {
+    const auto look = [](void* watch) noexcept {
+        try {
+            return static_cast<StatementWatch*>(watch)->Look() ? 0 : 1;
+        } catch (...) {
+            return 1;  // no exception may cross SQLite
+        }
+    };
+    sqlite3_progress_handler(handle, kSteps, look, this);
+}
+
+void StatementWatch::Detach(sqlite3* handle) {
+    sqlite3_progress_handler(handle, 0, nullptr, nullptr);
+}
+
+bool StatementWatch::Look() {
+    const std::chrono::milliseconds now = now_();
+    spent_ += std::min(now - last_, kMostBetween);
+    last_ = now;
+    return spent_ <= kLimit && (!watch_ || watch_());
+}
+
+}  // namespace tw
