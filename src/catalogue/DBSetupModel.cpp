@@ -6,6 +6,7 @@
 #include "catalogue/GrainEditor.h"
 #include "catalogue/StyleEditor.h"
 #include "store/ObjectKeys.h"
+#include "tree/RowFacts.h"
 #include "tree/TWNodes.h"
 #include "values/Text.h"
 
@@ -91,6 +92,10 @@ std::string DBSetupModel::SelectedName() const {
 
 bool DBSetupModel::FolderSelected() const {
     return items_.Selected() != ListTable::kNoRow && items_.Row(items_.Selected()).isFolder;
+}
+
+std::string DBSetupModel::Guides() const {
+    return catalogue_ == Catalogue::Styles ? StyleGuides(context_.database) : std::string();
 }
 
 bool DBSetupModel::EditEnabled() const {

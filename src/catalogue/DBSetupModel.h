@@ -28,6 +28,9 @@ class DBSetupModel final : public DialogModel {
     // Selects the row of that name; of a style in its folder, wherever that is. False without such a row.
     bool ShowName(std::string_view name);
 
+    // The guides that the codes of the styles are from; empty without codes and for other catalogues.
+    std::string Guides() const;
+
     // Both are on while a row is selected that is no folder.
     bool EditEnabled() const;
     bool DeleteEnabled() const { return EditEnabled(); }

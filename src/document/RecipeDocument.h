@@ -106,7 +106,10 @@ class RecipeDocument {
 
     // The style list.
     void SelectStyle(int index);
-    // Selects the style of that name (trimmed, case ignored). False when there is none.
+    // The entry of the style of that name (trimmed, case ignored), else of the one that it is another name or
+    // the code of; -1 when there is none.
+    int StyleEntryOf(std::string_view name) const;
+    // Selects that style of the stored ones. False when there is none.
     bool ChangeStyle(std::string_view name);
     void ReloadStyles();
 

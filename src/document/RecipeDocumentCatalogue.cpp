@@ -2,6 +2,7 @@
 // chosen.
 #include "calc/Figures.h"
 #include "document/RecipeDocument.h"
+#include "store/CatalogueNames.h"
 #include "values/NumberText.h"
 #include "values/Text.h"
 
@@ -39,6 +40,12 @@ const char* ListQuery(const RecipeRecord& r, const Grid& grid, int col) {
     return nullptr;
 }
 
+// The name of the row that a typed text stands for, as a literal; the text itself when there is none. The
+// text stays as it was typed.
+std::string RowLiteral(Database& database, CatalogueKind kind, std::string_view typed) {
+    return SqlText(CatalogueNames(database).RowOf(kind, typed).value_or(std::string(typed)));
+}
+
 }  // namespace
 
 CellList RecipeDocument::ListOf(const Grid& grid, int row, int col) const {
@@ -69,10 +76,12 @@ void RecipeDocument::FillFromCatalogue(Grid& grid, int row, int col, const Field
 }
 
 bool RecipeDocument::LookUpFermentable(Grid& grid, int row) {
+    const bool isGrain = &grid == &record_.gridGrain;
     Recordset rs = database_.OpenRecordset(
         "SELECT NAME, (PPG_LO+PPG_HI)/2, (COLOR_LO+COLOR_HI)/2 FROM GRAINS WHERE NAME = " +
-        SqlText(grid.Text(row, GrainCol::Name)) +
-        (&grid == &record_.gridGrain ? " AND GRAIN" : " AND NOT GRAIN"));
+        RowLiteral(database_, isGrain ? CatalogueKind::Grain : CatalogueKind::Extract,
+                   grid.Text(row, GrainCol::Name)) +
+        (isGrain ? " AND GRAIN" : " AND NOT GRAIN"));
     if (rs.AtEnd()) return false;
     FillFromCatalogue(grid, row, GrainCol::Ppg, rs.Fields(1));
     FillFromCatalogue(grid, row, GrainCol::Color, rs.Fields(2));
@@ -81,16 +90,17 @@ bool RecipeDocument::LookUpFermentable(Grid& grid, int row) {
 
 void RecipeDocument::LookUpHop(int row) {
     Grid& hops = record_.gridHops;
-    Recordset rs = database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM HOPS WHERE NAME = " +
-                                           SqlText(hops.Text(row, HopCol::Variety)));
+    Recordset rs =
+        database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM HOPS WHERE NAME = " +
+                                RowLiteral(database_, CatalogueKind::Hop, hops.Text(row, HopCol::Variety)));
     if (!rs.AtEnd()) FillFromCatalogue(hops, row, HopCol::AlphaAcid, rs.Fields(1));
 }
 
 bool RecipeDocument::LookUpSugar(int row) {
     Grid& priming = record_.gridPriming;
-    Recordset rs =
-        database_.OpenRecordset("SELECT NAME, (FERMENT_LO+FERMENT_HI)/2 FROM SUGARS WHERE NAME = " +
-                                SqlText(priming.Text(row, PrimingCol::Sugar)));
+    Recordset rs = database_.OpenRecordset(
+        "SELECT NAME, (FERMENT_LO+FERMENT_HI)/2 FROM SUGARS WHERE NAME = " +
+        RowLiteral(database_, CatalogueKind::Sugar, priming.Text(row, PrimingCol::Sugar)));
     if (rs.AtEnd()) return false;
     FillFromCatalogue(priming, row, PrimingCol::Fermentable, rs.Fields(1));
     return true;
@@ -98,9 +108,9 @@ bool RecipeDocument::LookUpSugar(int row) {
 
 void RecipeDocument::LookUpWater(int row) {
     Grid& water = record_.gridWater;
-    Recordset rs =
-        database_.OpenRecordset("SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM WATER_PROFILES WHERE NAME = " +
-                                SqlText(water.Text(row, WaterCol::Profile)));
+    Recordset rs = database_.OpenRecordset(
+        "SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM WATER_PROFILES WHERE NAME = " +
+        RowLiteral(database_, CatalogueKind::Water, water.Text(row, WaterCol::Profile)));
     if (rs.AtEnd()) return;
     for (int ion = 0; ion < kIons; ++ion) {
         const double ppm = rs.Fields(ion + 1).Number();
@@ -112,8 +122,9 @@ void RecipeDocument::LookUpWater(int row) {
 // The numbers behind the ion cells of a treatment row are what one gram of the salt adds to one gallon.
 void RecipeDocument::LookUpSalt(int row) {
     Grid& treatment = record_.gridTreatment;
-    Recordset rs = database_.OpenRecordset("SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM SALTS WHERE NAME = " +
-                                           SqlText(treatment.Text(row, TreatmentCol::Name)));
+    Recordset rs = database_.OpenRecordset(
+        "SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM SALTS WHERE NAME = " +
+        RowLiteral(database_, CatalogueKind::Salt, treatment.Text(row, TreatmentCol::Name)));
     for (int ion = 0; ion < kIons; ++ion)
         treatment.SetValue(row, TreatmentCol::FirstIon + ion,
                            rs.AtEnd() ? CellValue{} : CellValue::Of(rs.Fields(ion + 1).Number()));
@@ -125,8 +136,8 @@ void RecipeDocument::LookUpYeast(int row) {
     if (!SameName(log.Text(row, LogCol::Action), "PITCHED YEAST")) return;
     std::string_view name = Trim(log.Text(row, LogCol::Notes));
     name = name.substr(0, name.find(" - "));
-    Recordset rs =
-        database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM YEAST WHERE NAME = " + SqlText(name));
+    Recordset rs = database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM YEAST WHERE NAME = " +
+                                           RowLiteral(database_, CatalogueKind::Yeast, name));
     if (rs.AtEnd() || rs.Fields(1).IsNull() || record_.txtOG.Empty()) return;
     TextBox& fg = record_.txtFG;
     const double gravity = AttenuatedGravity(record_.txtOG.Value(), rs.Fields(1).Number());

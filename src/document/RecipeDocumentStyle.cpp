@@ -1,5 +1,8 @@
 // The style of a recipe: the list, the choice, the ranges shown beside the figures.
+#include <algorithm>
+
 #include "document/RecipeDocument.h"
+#include "store/CatalogueNames.h"
 #include "values/NumberText.h"
 #include "values/Text.h"
 
@@ -67,15 +70,24 @@ void RecipeDocument::SelectStyle(int index) {
     ChooseStyle(id);
 }
 
+int RecipeDocument::StyleEntryOf(std::string_view name) const {
+    const auto& entries = record_.cmbStyle.Entries();
+    const auto entryNamed = [&](std::string_view wanted) {
+        const auto found = std::ranges::find_if(
+            entries, [&](const ListBox::Entry& entry) { return SameName(entry.text, wanted); });
+        return found == entries.end() ? -1 : static_cast<int>(found - entries.begin());
+    };
+    const int entry = entryNamed(name);
+    if (entry >= 0) return entry;
+    const std::optional<std::string> row = CatalogueNames(database_).RowOf(CatalogueKind::Style, name);
+    return row ? entryNamed(*row) : -1;
+}
+
 bool RecipeDocument::ChangeStyle(std::string_view name) {
     ReloadStyles();
-    const auto& entries = record_.cmbStyle.Entries();
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        if (!SameName(entries[i].text, name)) continue;
-        SelectStyle(static_cast<int>(i));
-        return true;
-    }
-    return false;
+    const int entry = StyleEntryOf(name);
+    if (entry >= 0) SelectStyle(entry);
+    return entry >= 0;
 }
 
 void RecipeDocument::ChooseStyle(std::int64_t id) {

@@ -61,10 +61,9 @@ std::optional<std::string> CatalogueNames::NamedRow(CatalogueKind kind, std::str
 }
 
 std::optional<std::string> CatalogueNames::RowOf(CatalogueKind kind, std::string_view typed) const {
+    if (auto row = NamedRow(kind, typed)) return row;
     const std::string_view name = Trim(typed);
-    if (name.empty()) return std::nullopt;
-    if (auto row = NamedRow(kind, name)) return row;
-    if (!HasTables()) return std::nullopt;
+    if (name.empty() || !HasTables()) return std::nullopt;
     const std::string sheet = " WHERE SHEET = " + SqlText(TableOf(kind));
     const std::string key = SqlText(Upper(name));
     const Recordset alias =
@@ -95,6 +94,17 @@ std::map<std::string, CatalogueFacts> CatalogueNames::FactsOf(CatalogueKind kind
          !rows.AtEnd(); rows.MoveNext())
         facts[Upper(rows.Fields(0).Text())].aliases.push_back(rows.Fields(1).Text());
     return facts;
+}
+
+std::vector<std::string> CatalogueNames::SourcesOf(CatalogueKind kind) const {
+    std::vector<std::string> sources;
+    if (!HasTables()) return sources;
+    for (Recordset rows = database_.OpenRecordset(
+             "SELECT DISTINCT SOURCE FROM CATALOGUE_FACTS WHERE SHEET = " + SqlText(TableOf(kind)) +
+             " AND SOURCE <> '' ORDER BY 1");
+         !rows.AtEnd(); rows.MoveNext())
+        sources.push_back(rows.Fields(0).Text());
+    return sources;
 }
 
 void WriteCatalogueNames(const CatalogueSheets& catalogue, Database& database) {

@@ -36,14 +36,17 @@ class CatalogueNames {
     // REQUIRES: database lives for as long. Nothing is kept: each call sees the database as it is.
     explicit CatalogueNames(Database& database) : database_(database) {}
 
-    // The stored name of the row that typed stands for, without regard to case and blanks at its ends: the
-    // row of that name, else the one that it is an alias of, else the only one of that code. Nothing when
-    // there is no such row. A few look-ups by index.
+    // The stored name of the row that typed stands for, without regard to case: the row of that name, else,
+    // also without regard to blanks at the ends, the one that it is an alias of, else the only one of that
+    // code. Nothing when there is no such row. A few look-ups by index.
     std::optional<std::string> RowOf(CatalogueKind kind, std::string_view typed) const;
 
     // The facts on all rows of the table of kind by Upper of their names; rows without any have no entry.
     // Grains and extracts come together. For lists and for matching that needs all names at once.
     std::map<std::string, CatalogueFacts> FactsOf(CatalogueKind kind) const;
+
+    // The different sources of those facts, in alphabetical order.
+    std::vector<std::string> SourcesOf(CatalogueKind kind) const;
 
   private:
     std::optional<std::string> NamedRow(CatalogueKind kind, std::string_view name) const;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "store/CatalogueNames.h"
 #include "store/ObjectKeys.h"
 #include "tree/ProgressModel.h"
 #include "tree/TWNodes.h"
@@ -68,8 +69,19 @@ void ExplorerModel::FillTree(PageState& page, std::string_view keyToSelect) {
         else
             access_.tree.PopulateTreeView(view, TreePart::WithoutStyles, true, false, false);
     });
+    if (page.styles) ShowCodes(page.tree);
     if (page.tree.SelectKey(keyToSelect) || page.tree.Selected() != TreeItems::kNone) return;
     page.tree.SelectKey(RootOf(page.styles));
+}
+
+void ExplorerModel::ShowCodes(TreeItems& tree) const {
+    const auto facts = CatalogueNames(access_.database).FactsOf(CatalogueKind::Style);
+    for (int item = 0; item < tree.Count(); ++item) {
+        const TWNode* const node = access_.tree.Nodes(tree.Key(item));
+        if (!node || !node->IsStyle()) continue;
+        const auto found = facts.find(Upper(tree.Text(item)));
+        if (found != facts.end()) tree.SetCode(item, found->second.code);
+    }
 }
 
 void ExplorerModel::FillList(PageState& page) {

@@ -99,6 +99,7 @@ class ExplorerModel final : public DialogModel {
     // Fills the page's tree; keyToSelect, if it is there, is chosen then, otherwise the entry as before, or
     // the page's root folder.
     void FillTree(PageState& page, std::string_view keyToSelect);
+    void ShowCodes(TreeItems& tree) const;
     void FillList(PageState& page);
     // Runs work, then shows everything anew, also when work raises.
     void Change(const std::function<void()>& work);

@@ -73,6 +73,10 @@ std::span<const std::string_view> TypeNames() {
     return kTypeNames;
 }
 
+std::string CodedName(std::string_view code, std::string_view name) {
+    return std::string(code).append(code.empty() ? "" : "  ").append(name);
+}
+
 std::optional<double> MiddleOf(const Field& low, const Field& high) {
     const std::optional<double> from = FigureOf(low), to = FigureOf(high);
     if (from && to) return *from + (*to - *from) / 2;

@@ -39,6 +39,8 @@ std::string ListRange(const Field& low, const Field& high, std::string_view patt
 std::span<const std::string_view> TypeNames();
 // One of them; kNoNumber for NULL and for a number without a word.
 std::string ListTypeName(const Field& type);
+// What a window shows of a row with a code: "{code}  {name}", the name alone without one.
+std::string CodedName(std::string_view code, std::string_view name);
 // The middle of a range, the one end when the other is NULL; nothing without both.
 std::optional<double> MiddleOf(const Field& low, const Field& high);
 

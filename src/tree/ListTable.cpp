@@ -103,6 +103,16 @@ std::vector<ListRow> Arranged(std::vector<ListRow> rows, const std::vector<std::
     return arranged;
 }
 
+// Inside a code the same letters mean another one: 5A is not in 15A. And what is not seen in a row should not
+// bring it up for two letters in its middle.
+bool BeginsAWord(std::string_view text, std::string_view upperBeginning) {
+    const std::string upper = Upper(text);
+    for (std::size_t at = upper.find(upperBeginning); at != std::string::npos;
+         at = upper.find(upperBeginning, at + 1))
+        if (at == 0 || upper[at - 1] == ' ') return true;
+    return false;
+}
+
 bool BeginsWith(std::string_view text, std::string_view upperBeginning) {
     const std::size_t length = CodePointOffset(text, CodePointCount(upperBeginning));
     return Upper(text.substr(0, length)) == upperBeginning;
@@ -175,8 +185,12 @@ void ListTable::Remove(int row) {
 
 bool ListTable::PassesFilter(const ListRow& row, const std::vector<std::string>& words) const {
     return std::ranges::all_of(words, [&](const std::string& word) {
-        return std::ranges::any_of(
-            row.cells, [&](const std::string& cell) { return Upper(cell).find(word) != std::string::npos; });
+        const auto holds = [&](const std::string& cell) {
+            return Upper(cell).find(word) != std::string::npos;
+        };
+        const auto begins = [&](const std::string& text) { return BeginsAWord(text, word); };
+        return std::ranges::any_of(row.cells, holds) || begins(row.code) ||
+               std::ranges::any_of(row.otherNames, begins);
     });
 }
 
@@ -302,11 +316,18 @@ int ListTable::FindNearest(std::string_view name) const {
 int ListTable::FindTyped(std::string_view beginning, int start) const {
     if (beginning.empty()) return kNoRow;
     const std::string wanted = Upper(beginning);
-    for (int i = 0; i < Count(); ++i) {
-        const int row = (std::max(start, 0) + i) % Count();
-        if (!Row(row).isGroup && BeginsWith(Row(row).cells.front(), wanted)) return row;
-    }
-    return kNoRow;
+    const auto begins = [&](const std::string& text) { return BeginsWith(text, wanted); };
+    const auto firstOf = [&](const auto& isFound) {
+        for (int i = 0; i < Count(); ++i) {
+            const int row = (std::max(start, 0) + i) % Count();
+            if (!Row(row).isGroup && isFound(Row(row))) return row;
+        }
+        return kNoRow;
+    };
+    const int named = firstOf([&](const ListRow& row) { return begins(row.cells.front()); });
+    if (named != kNoRow) return named;
+    return firstOf(
+        [&](const ListRow& row) { return begins(row.code) || std::ranges::any_of(row.otherNames, begins); });
 }
 
 }  // namespace tw

@@ -34,6 +34,10 @@ struct ListRow {
     bool isGroup = false;   // a heading over rows, which nobody can choose
     int group = 0;          // rows are sorted within their group; a heading belongs to the group below it
     std::optional<double> hcu = std::nullopt;  // the colour of the malt or beer, in homebrew colour units
+    // What a window shows and the filter searches besides the cells. No cell holds it.
+    std::string code = {};                     // stands before the name
+    std::string origin = {};                   // where the row comes from: "Beer style guide of 2021"
+    std::vector<std::string> otherNames = {};  // what the row is called, too, and what else it is found by
 };
 
 class ListTableObserver {
@@ -76,9 +80,10 @@ class ListTable {
     // The first row of that key, letter for letter; kNoRow for none.
     int FindKey(std::string_view key) const;
 
-    // Shows only the rows in which each word of text occurs, in any cell and without regard to case, and the
-    // headings over them; all rows for a blank text. Rows that come later are filtered, too. The chosen row
-    // stays chosen while it is shown; else the first one is.
+    // Shows only the rows in which each word of text occurs, in any cell or at the beginning of a word of the
+    // code or of another name, without regard to case, and the headings over them; all rows for a blank text.
+    // Rows that come later are filtered, too. The chosen row stays chosen while it is shown; else the first
+    // one is.
     void SetFilter(std::string_view text);
     const std::string& Filter() const { return filter_; }
 
@@ -111,7 +116,7 @@ class ListTable {
     // empty name. kNoRow in a list without rows to choose.
     int FindNearest(std::string_view name) const;
     // What typing finds: the first row from start on, and then from the top, whose text begins so, without
-    // regard to case. kNoRow for none.
+    // regard to case; without one the first whose code or other name does. kNoRow for none.
     int FindTyped(std::string_view beginning, int start) const;
 
   private:

@@ -2,8 +2,10 @@
 
 #include <array>
 
+#include "store/CatalogueNames.h"
 #include "store/ObjectKeys.h"
 #include "tree/ListFormats.h"
+#include "tree/RowFacts.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -16,7 +18,10 @@ constexpr std::array<std::string_view, kPickLists> kTitles = {
 }  // namespace
 
 LvShowModel::LvShowModel(PickList type, Database& database, const TWTree& tree, std::string_view name)
-    : type_(type), filler_(database, tree), name_(name) {
+    : type_(type),
+      filler_(database, tree),
+      name_(CatalogueNames(database).RowOf(KindOf(type), Trim(name)).value_or(std::string(name))),
+      guides_(type == PickList::Style ? StyleGuides(database) : std::string()) {
     folders_.Fill([&](TreeView& view) {
         if (HasFolders()) tree.PopulateTreeViewForStyleList(view);
     });

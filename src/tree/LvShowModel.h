@@ -19,7 +19,8 @@ class LvShowModel final : public DialogModel {
     // Shows the chosen row of the list to be read; the list's selection may be another afterwards.
     using Viewer = std::function<void(PickList type, ListTable& items)>;
 
-    // name: what the search starts on. REQUIRES: both live for as long as the dialog.
+    // name: what the search starts on; another name of a row stands for that row. REQUIRES: both live for as
+    // long as the dialog.
     LvShowModel(PickList type, Database& database, const TWTree& tree, std::string_view name);
 
     // What cmdView does; it stays off without one.
@@ -29,6 +30,8 @@ class LvShowModel final : public DialogModel {
     // "Select Style".
     std::string Title() const;
     ListTable& Items() { return items_; }
+    // The guides that the codes of the styles are from; empty without codes and for other lists.
+    const std::string& Guides() const { return guides_; }
     // treeFolders, which the style picker alone has.
     bool HasFolders() const { return type_ == PickList::Style; }
     TreeItems& Folders() { return folders_; }
@@ -60,6 +63,7 @@ class LvShowModel final : public DialogModel {
     PickList type_;
     lvFiller filler_;
     std::string name_;
+    std::string guides_;
     ListTable items_;
     TreeItems folders_;
     Viewer viewer_;

@@ -1,6 +1,7 @@
 #include "tree/TreeItems.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tw {
 
@@ -50,6 +51,12 @@ const std::vector<int>& TreeItems::Children(int item) const {
 
 void TreeItems::SetText(int item, std::string_view text) {
     At(item).text = SharedText(text);
+    if (observer_) observer_->TreeItemChanged(item);
+}
+
+void TreeItems::SetCode(int item, std::string code) {
+    if (At(item).code == code) return;
+    At(item).code = std::move(code);
     if (observer_) observer_->TreeItemChanged(item);
 }
 

@@ -49,6 +49,9 @@ class TreeItems final : private TreeView {
     // Valid until the text is set again.
     std::string_view Text(int item) const { return At(item).text.View(); }
     void SetText(int item, std::string_view text);
+    // The code of a style, which windows show before the text; empty at first and after each filling.
+    const std::string& Code(int item) const { return At(item).code; }
+    void SetCode(int item, std::string code);
     NodeIcon Icon(int item, bool open) const { return open ? At(item).openIcon : At(item).icon; }
 
     bool IsExpanded(int item) const { return At(item).expanded; }
@@ -72,6 +75,7 @@ class TreeItems final : private TreeView {
         int parent = kNone;
         int row = 0;
         std::vector<int> children = {};
+        std::string code = {};
     };
 
     void Clear() override;

@@ -4,9 +4,11 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <optional>
 
 #include "store/ObjectKeys.h"
 #include "tree/ListFormats.h"
+#include "tree/RowFacts.h"
 #include "tree/TWNodes.h"
 #include "values/Text.h"
 
@@ -295,10 +297,15 @@ void lvFiller::FillNodes(ListTable& list, const std::vector<TWNode*>& nodes) con
     Batch<DateFields> styleFolders("FOLDERS", " AND STYLE", kFolderNames, ShowFolder);
     Batch<StyleFields> styles("STYLES", "", kStyleNames, ShowStyle);
     Batch<RecipeFields> recipes("RECIPES", "", kRecipeNames, ShowRecipe);
+    std::optional<RowFacts> styleFacts;
     for (TWNode* const node : nodes) {
         rows.push_back(node->IsDocument() ? RecipeRow(*node)
                        : node->IsStyle()  ? StyleRow(*node)
                                           : FolderRow(*node));
+        if (node->IsStyle()) {
+            if (!styleFacts) styleFacts.emplace(database_, CatalogueKind::Style);
+            styleFacts->AddTo(rows.back());
+        }
         const std::string& rowKey = rows.back().key;
         const std::int64_t id = IdOfKey(rowKey);
         if (!HasRow(*node, id)) continue;
@@ -331,6 +338,7 @@ void lvFiller::AddFolderRow(ListTable& list, TWNode& folder) const {
 
 void lvFiller::AddStyleRow(ListTable& list, TWNode& style) const {
     ListRow row = StyleRow(style);
+    RowFacts(database_, CatalogueKind::Style).AddTo(row);
     const std::int64_t id = IdOfKey(row.key);
     if (HasRow(style, id))
         ShowOne(database_, "SELECT * FROM STYLES WHERE ID = " + std::to_string(id), kStyleNames, row,

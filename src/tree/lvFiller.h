@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "store/CatalogueKind.h"
 #include "store/Database.h"
 #include "tree/ListTable.h"
 #include "tree/TWTree.h"
@@ -50,7 +51,8 @@ class lvFiller {
     void AddStyleRow(ListTable& list, TWNode& style) const;
     void AddRecipeRow(ListTable& list, TWNode& recipe) const;
 
-    // The rows of a catalogue under its own columns, sorted by name; their keys are their names. Grains and
+    // The rows of a catalogue under its own columns, sorted by name; their keys are their names. They carry
+    // their codes and other names, as the styles among the nodes do. Grains and
     // extracts stand in groups: a group row with the name of each type that has some, in the order of the
     // types, and behind the groups those without a type, under no group row.
     //
@@ -68,7 +70,7 @@ class lvFiller {
     void Fill(ListTable& list, Catalogue catalogue) const;
 
   private:
-    void FillIons(ListTable& list, const char* nameTitle, const char* table, const char* unit) const;
+    void FillIons(ListTable& list, const char* nameTitle, CatalogueKind kind, const char* unit) const;
 
     Database& database_;
     const TWTree& tree_;

@@ -7,6 +7,7 @@
 #include "calc/BeerColor.h"
 #include "store/ObjectKeys.h"
 #include "tree/ListFormats.h"
+#include "tree/RowFacts.h"
 #include "tree/TWNodes.h"
 #include "tree/lvFiller.h"
 
@@ -32,11 +33,14 @@ std::string Range(const Recordset& rows, const char* low, const char* high, std:
 
 // A row for each record, sorted by name.
 template <class MakeCells>
-void FillTable(Database& database, ListTable& list, const std::string& table, MakeCells addCells) {
+void FillTable(Database& database, ListTable& list, CatalogueKind kind, MakeCells addCells) {
+    const RowFacts facts(database, kind);
     std::vector<ListRow> filled;
-    for (Recordset rows = database.OpenRecordset("SELECT * FROM " + table); !rows.AtEnd(); rows.MoveNext()) {
+    for (Recordset rows = database.OpenRecordset("SELECT * FROM " + std::string(TableOf(kind)));
+         !rows.AtEnd(); rows.MoveNext()) {
         ListRow row = NamedRow(rows, "NAME");
         addCells(row.cells, rows);
+        facts.AddTo(row);
         filled.push_back(std::move(row));
     }
     list.SetRows(std::move(filled));
@@ -46,6 +50,7 @@ void FillTable(Database& database, ListTable& list, const std::string& table, Ma
 std::vector<ListRow> StyleRows(Database& database, std::int64_t folderId) {
     // The system folder holds every style.
     const std::string condition = folderId == -1 ? "" : " WHERE FOLDER_ID = " + std::to_string(folderId);
+    const RowFacts facts(database, CatalogueKind::Style);
     std::vector<ListRow> styles;
     for (Recordset rows = database.OpenRecordset("SELECT * FROM STYLES" + condition); !rows.AtEnd();
          rows.MoveNext()) {
@@ -60,6 +65,7 @@ std::vector<ListRow> StyleRows(Database& database, std::int64_t folderId) {
              Range(rows, "COLOR_LO", "COLOR_HI", kColorPattern),
              Range(rows, "IBU_LO", "IBU_HI", kBitternessPattern),
              Range(rows, "CO2_LO", "CO2_HI", kCarbonationPattern), ListText(rows.Fields("WATER_PROFILE"))});
+        facts.AddTo(row);
         styles.push_back(std::move(row));
     }
     return styles;
@@ -77,7 +83,7 @@ void SetUpStyleColumns(ListTable& list) {
                      {"Water Profile", Text}});
 }
 
-ListRow GrainRow(const Recordset& rows, int group) {
+ListRow GrainRow(const Recordset& rows, int group, const RowFacts& facts) {
     ListRow row = NamedRow(rows, "GRAINS.NAME");
     row.group = group;
     // As the wort of a pound in a gallon, whose colour units are the malt's degrees Lovibond.
@@ -85,6 +91,7 @@ ListRow GrainRow(const Recordset& rows, int group) {
         row.hcu = std::max(*lovibond, 0.0);
     row.cells.insert(row.cells.end(),
                      {Range(rows, "PPG_LO", "PPG_HI"), Range(rows, "COLOR_LO", "COLOR_HI", kColorPattern)});
+    facts.AddTo(row);
     return row;
 }
 
@@ -124,6 +131,7 @@ void lvFiller::FillGrains(ListTable& list, bool grain) const {
                      {"PPG", Number, false, "gravity points per pound per gallon"},
                      {"Color", Number, true, "degrees Lovibond"}});
     const std::string kind = grain ? "GRAINS.GRAIN" : "NOT GRAINS.GRAIN";
+    const RowFacts facts(database_, CatalogueKind::Grain);
     std::vector<ListRow> filled;
     std::optional<std::string> type;
     int group = 0;
@@ -140,23 +148,24 @@ void lvFiller::FillGrains(ListTable& list, bool grain) const {
             filled.push_back(std::move(heading));
             type = std::move(name);
         }
-        filled.push_back(GrainRow(rows, group));
+        filled.push_back(GrainRow(rows, group, facts));
     }
     ++group;
     for (Recordset rows = database_.OpenRecordset(
              "SELECT * FROM GRAINS WHERE " + kind +
              " AND (GRAIN_TYPE IS NULL OR NOT GRAIN_TYPE IN (SELECT ID FROM GRAIN_TYPES)) ORDER BY NAME");
          !rows.AtEnd(); rows.MoveNext())
-        filled.push_back(GrainRow(rows, group));
+        filled.push_back(GrainRow(rows, group, facts));
     list.SetRows(std::move(filled));
 }
 
 void lvFiller::FillHops(ListTable& list) const {
     list.SetColumns({{"Hop Variety Name", Text}, {"Alpha Acids %", Number}, {"Usage", Text}});
-    FillTable(database_, list, "HOPS", [](std::vector<std::string>& cells, const Recordset& rows) {
-        cells.push_back(Range(rows, "AA_LO", "AA_HI"));
-        cells.push_back(ListText(rows.Fields("USAGE")));
-    });
+    FillTable(database_, list, CatalogueKind::Hop,
+              [](std::vector<std::string>& cells, const Recordset& rows) {
+                  cells.push_back(Range(rows, "AA_LO", "AA_HI"));
+                  cells.push_back(ListText(rows.Fields("USAGE")));
+              });
 }
 
 void lvFiller::FillYeast(ListTable& list) const {
@@ -166,37 +175,39 @@ void lvFiller::FillYeast(ListTable& list) const {
                      {"Flocculation", Text},
                      {"Attenuation", Number, false, "apparent, in %"},
                      {"Temperature", Number, false, "degrees Fahrenheit"}});
-    FillTable(database_, list, "YEAST", [](std::vector<std::string>& cells, const Recordset& rows) {
-        cells.insert(cells.end(), {ListText(rows.Fields("DESCR")), ListTypeName(rows.Fields("TYPE")),
-                                   ListText(rows.Fields("FLOC")), Range(rows, "AA_LO", "AA_HI"),
-                                   Range(rows, "TEMP_LO", "TEMP_HI")});
-    });
+    FillTable(
+        database_, list, CatalogueKind::Yeast, [](std::vector<std::string>& cells, const Recordset& rows) {
+            cells.insert(cells.end(), {ListText(rows.Fields("DESCR")), ListTypeName(rows.Fields("TYPE")),
+                                       ListText(rows.Fields("FLOC")), Range(rows, "AA_LO", "AA_HI"),
+                                       Range(rows, "TEMP_LO", "TEMP_HI")});
+        });
 }
 
-void lvFiller::FillIons(ListTable& list, const char* nameTitle, const char* table, const char* unit) const {
+void lvFiller::FillIons(ListTable& list, const char* nameTitle, CatalogueKind kind, const char* unit) const {
     std::vector<ListColumn> columns = {{nameTitle, Text}};
     for (const char* ion : {"Calcium", "Carbonate", "Chloride", "Magnesium", "Sodium", "Sulfate"})
         columns.push_back({ion, Number, false, unit});
     list.SetColumns(std::move(columns));
-    FillTable(database_, list, table, [](std::vector<std::string>& cells, const Recordset& rows) {
+    FillTable(database_, list, kind, [](std::vector<std::string>& cells, const Recordset& rows) {
         for (const char* ion : {"CA", "CO3", "CL", "MG", "NA", "SO4"})
             cells.push_back(ListNumber(rows.Fields(ion), {}));
     });
 }
 
 void lvFiller::FillWaterProfiles(ListTable& list) const {
-    FillIons(list, "Water Profile Name", "WATER_PROFILES", "PPM");
+    FillIons(list, "Water Profile Name", CatalogueKind::Water, "PPM");
 }
 
 void lvFiller::FillSalts(ListTable& list) const {
-    FillIons(list, "Treatment Salt Name", "SALTS", "PPM per gram in a gallon");
+    FillIons(list, "Treatment Salt Name", CatalogueKind::Salt, "PPM per gram in a gallon");
 }
 
 void lvFiller::FillSugars(ListTable& list) const {
     list.SetColumns({{"Priming Sugar Name", Text}, {"Fermentable %", Number}});
-    FillTable(database_, list, "SUGARS", [](std::vector<std::string>& cells, const Recordset& rows) {
-        cells.push_back(Range(rows, "FERMENT_LO", "FERMENT_HI"));
-    });
+    FillTable(database_, list, CatalogueKind::Sugar,
+              [](std::vector<std::string>& cells, const Recordset& rows) {
+                  cells.push_back(Range(rows, "FERMENT_LO", "FERMENT_HI"));
+              });
 }
 
 void lvFiller::Fill(ListTable& list, Catalogue catalogue) const {

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "DocumentTest.h"
+#include "support/OtherNames.h"
 
 namespace tw::test {
 namespace {
@@ -166,6 +167,57 @@ TEST_F(CellsTest, AnUnknownNameStaysAndChangesNothingElse) {
     ASSERT_TRUE(Put(R().gridWater, 1, WaterCol::Profile, "Soft"));
     ASSERT_TRUE(Put(R().gridWater, 1, WaterCol::Profile, "Tap"));
     EXPECT_EQ(R().gridWater.Text(1, 2), "7");
+}
+
+TEST_F(CellsTest, AnotherNameBringsTheFiguresOfItsRowAndStaysAsTyped) {
+    AddOtherNames(*database);
+    AddAlias(*database, CatalogueKind::Hop, "Žatec", "Saaz");
+    ASSERT_TRUE(Put(R().gridHops, 1, HopCol::Variety, "žatec"));
+    EXPECT_EQ(R().gridHops.Text(1, HopCol::Variety), "žatec");
+    EXPECT_EQ(R().gridHops.Text(1, HopCol::AlphaAcid), "3.5");
+    // The brewer's own row of that name wins.
+    database->Execute("INSERT INTO HOPS (NAME, AA_LO, AA_HI) VALUES ('Žatec', 8, 8)");
+    ASSERT_TRUE(Put(R().gridHops, 1, HopCol::Variety, "Žatec"));
+    EXPECT_EQ(R().gridHops.Text(1, HopCol::AlphaAcid), "8");
+}
+
+TEST_F(CellsTest, EveryGridKnowsOtherNames) {
+    AddOtherNames(*database);
+    for (const char* insert :
+         {"GRAINS (NAME, GRAIN, PPG_LO, PPG_HI, COLOR_LO, COLOR_HI) VALUES ('Malt', TRUE, 30, 30, 3, 3)",
+          "GRAINS (NAME, GRAIN, PPG_LO, PPG_HI, COLOR_LO, COLOR_HI) VALUES ('Sweet Syrup', FALSE, 36, 36, 5, "
+          "5)",
+          "SUGARS (NAME, FERMENT_LO, FERMENT_HI) VALUES ('Honeydew', 70, 70)",
+          "WATER_PROFILES (NAME, CA, CO3, CL, MG, NA, SO4) VALUES ('Spring', 11, 0, 0, 0, 0, 0)",
+          "SALTS (NAME, CA, CO3, CL, MG, NA, SO4) VALUES ('Lime', 143, 0, 0, 0, 0, 0)",
+          "YEAST (NAME, AA_LO, AA_HI) VALUES ('Acme A1', 80, 80)"})
+        database->Execute(std::string("INSERT INTO ") + insert);
+    AddAlias(*database, CatalogueKind::Grain, "Other Malt", "Malt");
+    AddAlias(*database, CatalogueKind::Extract, "Other Syrup", "Sweet Syrup");
+    AddAlias(*database, CatalogueKind::Sugar, "Other Sugar", "Honeydew");
+    AddAlias(*database, CatalogueKind::Water, "Other Water", "Spring");
+    AddAlias(*database, CatalogueKind::Salt, "Other Salt", "Lime");
+    AddFacts(*database, CatalogueKind::Yeast, "Acme A1", "A1", "Acme");
+    ASSERT_TRUE(Put(R().gridGrain, 1, GrainCol::Name, "other malt"));
+    EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Ppg), "30");
+    ASSERT_TRUE(Put(R().gridExtract, 1, GrainCol::Name, "other syrup"));
+    EXPECT_EQ(R().gridExtract.Text(1, GrainCol::Ppg), "36");
+    // A grain's other name is none of an extract.
+    ASSERT_TRUE(Put(R().gridExtract, 1, GrainCol::Name, "other malt"));
+    EXPECT_EQ(R().gridExtract.Text(1, GrainCol::Ppg), "36");
+    ASSERT_TRUE(Put(R().gridPriming, 1, PrimingCol::Sugar, "other sugar"));
+    EXPECT_EQ(R().gridPriming.Text(1, PrimingCol::Fermentable), "70");
+    ASSERT_TRUE(Put(R().gridWater, WaterRow::Target, WaterCol::Profile, "other water"));
+    EXPECT_EQ(R().gridWater.Text(WaterRow::Target, WaterCol::FirstIon), "11");
+    document->InsertRowForGrid(R().gridTreatment);
+    ASSERT_TRUE(Put(R().gridTreatment, 1, TreatmentCol::Name, "other salt"));
+    EXPECT_EQ(R().gridTreatment.Number(1, TreatmentCol::FirstIon), 143);
+    Put(R().gridGrain, 1, GrainCol::Amount, "10 lb");
+    R().txtOG.SetValue(1.050);
+    document->InsertRowForGrid(R().gridLog);
+    ASSERT_TRUE(Put(R().gridLog, 1, LogCol::Action, "Pitched Yeast"));
+    ASSERT_TRUE(Put(R().gridLog, 1, LogCol::Notes, "a1 - a clean one"));
+    EXPECT_EQ(R().txtFG.Text(), "1.010");
 }
 
 TEST_F(CellsTest, CatalogueNullsAreZeroInWatersAndSalts) {

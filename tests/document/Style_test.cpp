@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "DocumentTest.h"
+#include "support/OtherNames.h"
 
 namespace tw::test {
 namespace {
@@ -29,6 +30,19 @@ TEST_F(StyleTest, ListsTheStylesByNameBehindNone) {
     EXPECT_EQ(R().cmbStyle.Selected(), 0);
     EXPECT_EQ(R().cmbStyle.Entries()[0].itemData, 0);
     EXPECT_EQ(R().cmbStyle.Entries()[4].itemData, kStout);
+}
+
+TEST_F(StyleTest, IsFoundByAnotherNameAndByItsCode) {
+    EXPECT_FALSE(document->ChangeStyle("Dry Stout"));
+    AddOtherNames(*database);
+    AddAlias(*database, CatalogueKind::Style, "Dry Stout", "Stout");
+    AddFacts(*database, CatalogueKind::Style, "Lager", "1B", "Beer 2021");
+    EXPECT_TRUE(document->ChangeStyle("dry stout"));
+    EXPECT_EQ(R().cmbStyle.Text(), "Stout");
+    EXPECT_TRUE(document->ChangeStyle("1b"));
+    EXPECT_EQ(R().cmbStyle.Text(), "Lager");
+    EXPECT_FALSE(document->ChangeStyle("9Z"));
+    EXPECT_EQ(R().cmbStyle.Text(), "Lager");
 }
 
 TEST_F(StyleTest, ShowsItsRanges) {

@@ -28,10 +28,12 @@ class CatalogueNamesTest : public SmallCatalogue {
 };
 
 TEST_F(CatalogueNamesTest, ARowIsFoundByItsName) {
-    EXPECT_THAT(RowOf(CatalogueKind::Hop, " WILD hop "), Optional(std::string("Wild Hop")));
+    EXPECT_THAT(RowOf(CatalogueKind::Hop, "WILD hop"), Optional(std::string("Wild Hop")));
     EXPECT_THAT(RowOf(CatalogueKind::Yeast, "kölsch YEAST"), Optional(std::string("Kölsch Yeast")));
     EXPECT_EQ(RowOf(CatalogueKind::Hop, "Saaz"), std::nullopt);
     EXPECT_EQ(RowOf(CatalogueKind::Hop, " "), std::nullopt);
+    // Blanks are part of a name; another name goes without them.
+    EXPECT_EQ(RowOf(CatalogueKind::Hop, " Wild Hop"), std::nullopt);
 }
 
 TEST_F(CatalogueNamesTest, ARowIsFoundByItsOtherNameWithoutRegardToCase) {

@@ -1,6 +1,7 @@
 #include "tree/ExplorerModel.h"
 
 #include "ObjectsTest.h"
+#include "support/OtherNames.h"
 
 namespace tw::test {
 namespace {
@@ -70,6 +71,21 @@ class Explorer : public Objects {
         }
     }
 };
+
+TEST_F(Explorer, TheTreeOfStylesKnowsTheirCodes) {
+    AddOtherNames(*main.db);
+    AddFacts(*main.db, CatalogueKind::Style, "Stout", "15B", "Beer 2021");
+    model->Settle();
+    model->Show(Page::Styles);
+    TreeItems& tree = model->Tree(Page::Styles);
+    EXPECT_EQ(tree.Text(tree.Find("S:1")), "Stout");
+    EXPECT_EQ(tree.Code(tree.Find("S:1")), "15B");
+    EXPECT_EQ(tree.Code(tree.Find("S:2")), "");
+    // A renamed style is the brewer's own.
+    ASSERT_TRUE(io.RenameObject("S:1", "My Stout", false));
+    model->Settle();
+    EXPECT_EQ(tree.Code(tree.Find("S:1")), "");
+}
 
 TEST_F(Explorer, StartsOnTheRootsOfBothPagesWithTheRecipes) {
     EXPECT_EQ(model->Shown(), Page::Recipes);

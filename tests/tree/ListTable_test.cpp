@@ -231,6 +231,25 @@ TEST(ListTable, TypingFindsTheNextRowThatBeginsSo) {
     EXPECT_EQ(ListOf({}).FindTyped("c", 0), ListTable::kNoRow);
 }
 
+// Two styles with codes and a third without.
+std::vector<ListRow> CodedRows() {
+    ListRow pale = Row({"American Pale Ale"}), ipa = Row({"American IPA"}), mine = Row({"Cellar Ale"});
+    pale.code = "18B";
+    pale.otherNames = {"APA", "Specialty Pale"};
+    ipa.code = "21A";
+    return {pale, ipa, mine};
+}
+
+TEST(ListTable, TypingFindsACodeOrAnotherNameWhereNoTextBeginsSo) {
+    const ListTable list = ListOf(CodedRows());
+    EXPECT_EQ(list.FindTyped("21a", 0), 1);
+    EXPECT_EQ(list.FindTyped("apa", 2), 0);
+    EXPECT_EQ(list.FindTyped("2", 0), 1);
+    // A text comes before another name.
+    EXPECT_EQ(list.FindTyped("a", 1), 1);
+    EXPECT_EQ(list.FindTyped("pale", 0), ListTable::kNoRow);
+}
+
 class CountingObserver : public ListTableObserver {
   public:
     void ListChanged() override { ++changes; }
@@ -262,6 +281,22 @@ TEST(ListTable, AFilterLeavesTheRowsThatHoldAllItsWords) {
     EXPECT_EQ(list.Selected(), ListTable::kNoRow);
     list.SetFilter("");
     EXPECT_THAT(Names(list), ElementsAre("Pale Malt", "Oats", "Black Malt"));
+}
+
+TEST(ListTable, AFilterFindsCodesAndOtherNamesByTheirBeginnings) {
+    ListTable list = ListOf(CodedRows());
+    list.SetFilter("18b");
+    EXPECT_THAT(Names(list), ElementsAre("American Pale Ale"));
+    list.SetFilter("apa");
+    EXPECT_THAT(Names(list), ElementsAre("American Pale Ale"));
+    list.SetFilter("spec ale");
+    EXPECT_THAT(Names(list), ElementsAre("American Pale Ale"));
+    list.SetFilter("8B");
+    EXPECT_THAT(Names(list), ElementsAre());
+    list.SetFilter("pecial");
+    EXPECT_THAT(Names(list), ElementsAre());
+    list.SetFilter("2");
+    EXPECT_THAT(Names(list), ElementsAre("American IPA"));
 }
 
 TEST(ListTable, AFilterKeepsTheHeadingsOverItsRows) {

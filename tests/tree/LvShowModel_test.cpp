@@ -1,6 +1,7 @@
 #include "tree/LvShowModel.h"
 
 #include "ObjectsTest.h"
+#include "support/OtherNames.h"
 
 namespace tw::test {
 namespace {
@@ -53,6 +54,27 @@ TEST_F(Picker, StartsOnTheNameInAnyCase) {
     EXPECT_EQ(Open(PickList::Hop, "Galena").Items().SelectedText(), "Fuggle");
     EXPECT_EQ(Open(PickList::Hop, "").Items().SelectedText(), "Cascade");
     EXPECT_EQ(Open(PickList::Hop, "Admiral").Items().SelectedText(), "Cascade");
+}
+
+TEST_F(Picker, StartsOnTheRowThatAnotherNameStandsFor) {
+    Hops({"Cascade", "East Kent Goldings", "Saaz"});
+    AddOtherNames(*main.db);
+    AddAlias(*main.db, CatalogueKind::Hop, "EKG", "East Kent Goldings");
+    EXPECT_EQ(Open(PickList::Hop, " ekg ").Items().SelectedText(), "East Kent Goldings");
+    // Without such a row the alphabet decides.
+    main.Execute("DELETE FROM HOPS WHERE NAME = 'East Kent Goldings'");
+    EXPECT_EQ(Open(PickList::Hop, "EKG").Items().SelectedText(), "Cascade");
+}
+
+TEST_F(Picker, OfStylesNamesTheGuidesOfItsCodes) {
+    EXPECT_EQ(Open(PickList::Style).Guides(), "");
+    AddOtherNames(*main.db);
+    EXPECT_EQ(Open(PickList::Style).Guides(), "");
+    AddFacts(*main.db, CatalogueKind::Style, "Stout", "15B", "Beer 2021");
+    AddFacts(*main.db, CatalogueKind::Style, "Perry", "C4A", "Cider 2025");
+    AddFacts(*main.db, CatalogueKind::Style, "Porter", "13C", "Beer 2021");
+    EXPECT_EQ(Open(PickList::Style).Guides(), "Beer style guide of 2021, Cider style guide of 2025");
+    EXPECT_EQ(Open(PickList::Hop).Guides(), "");
 }
 
 TEST_F(Picker, StartsOnNoHeadingOfAGroup) {

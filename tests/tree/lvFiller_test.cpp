@@ -1,6 +1,7 @@
 #include "tree/lvFiller.h"
 
 #include "ObjectsTest.h"
+#include "support/OtherNames.h"
 
 namespace tw::test {
 namespace {
@@ -285,6 +286,43 @@ TEST_F(Lists, AllStylesIncludesThoseOfNoFolder) {
     filler.FillStyles(list, -1);
     EXPECT_THAT(Lines({list.Row(0).key, list.Row(1).key, list.Row(2).key}),
                 ElementsAre("Bock", "Mild", "stout"));
+}
+
+TEST_F(Lists, StylesCarryTheirCodesBesideTheirCells) {
+    Style("Stout");
+    Style("Mine");
+    AddOtherNames(*main.db);
+    AddFacts(*main.db, CatalogueKind::Style, "STOUT", "15B", "Beer 2021");
+    AddAlias(*main.db, CatalogueKind::Style, "Dry Stout", "Stout");
+    main.tree.InitFromDatabase();
+    filler.FillStyles(list, -1);
+    EXPECT_EQ(list.Row(1).cells.front(), "Stout");
+    EXPECT_EQ(list.Row(1).code, "15B");
+    EXPECT_EQ(list.Row(1).origin, "Beer style guide of 2021");
+    EXPECT_THAT(list.Row(1).otherNames, ElementsAre("Dry Stout"));
+    EXPECT_EQ(list.Row(0).code, "");
+    // In the explorer too; "(None)" stands first there.
+    Fill("G:-1");
+    EXPECT_EQ(list.Row(2).cells.front(), "Stout");
+    EXPECT_EQ(list.Row(2).code, "15B");
+    EXPECT_EQ(list.Row(1).code, "");
+}
+
+TEST_F(Lists, IngredientsCarryOriginLaboratoryFormAndOtherNames) {
+    main.Execute("INSERT INTO HOPS (NAME) VALUES ('Celeia')");
+    main.Execute("INSERT INTO YEAST (NAME) VALUES ('Acme A1 Ale')");
+    AddOtherNames(*main.db);
+    AddFacts(*main.db, CatalogueKind::Hop, "Celeia", "", "Slovenia", "Pellet or leaf");
+    AddFacts(*main.db, CatalogueKind::Yeast, "Acme A1 Ale", "A1", "Acme", "Dry");
+    AddAlias(*main.db, CatalogueKind::Hop, "Styrian Celeia", "Celeia");
+    filler.FillHops(list);
+    EXPECT_EQ(list.Row(0).code, "");
+    EXPECT_EQ(list.Row(0).origin, "Slovenia, Pellet or leaf");
+    EXPECT_THAT(list.Row(0).otherNames, ElementsAre("Styrian Celeia", "Slovenia"));
+    filler.FillYeast(list);
+    EXPECT_EQ(list.Row(0).code, "");
+    EXPECT_EQ(list.Row(0).origin, "Acme, Dry");
+    EXPECT_THAT(list.Row(0).otherNames, ElementsAre("Acme", "Dry", "A1"));
 }
 
 TEST_F(Lists, TypesHaveTheirWords) {

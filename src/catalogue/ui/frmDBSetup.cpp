@@ -8,6 +8,7 @@
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
+#include "tree/ui/GuidesLabel.h"
 #include "tree/ui/ListFilterBox.h"
 #include "tree/ui/ListPane.h"
 
@@ -34,6 +35,8 @@ frmDBSetup::frmDBSetup(DBSetupModel& model, QWidget* parent)
     row->addWidget(items_, 1);
     row->addLayout(MakeButtons());
     column->addLayout(row, 1);
+    guides_ = new GuidesLabel(this);
+    column->addWidget(guides_);
     setTabOrder(findChild<ListFilterBox*>(), items_);
     connect(items_, &ListPane::ChosenChanged, this, &frmDBSetup::ShowState);
     connect(items_, &ListPane::RowsChanged, this, &frmDBSetup::ShowState);
@@ -123,6 +126,7 @@ void frmDBSetup::ShowState() {
     catalogues_->setCurrentIndex(static_cast<int>(model_.Chosen()));
     edit_->setEnabled(model_.EditEnabled());
     delete_->setEnabled(model_.DeleteEnabled());
+    guides_->Show(model_.Guides());
 }
 
 void frmDBSetup::reject() {

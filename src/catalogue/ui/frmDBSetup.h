@@ -12,6 +12,7 @@ class QPushButton;
 
 namespace tw {
 
+class GuidesLabel;
 class ListPane;
 
 class frmDBSetup final : public QDialog {
@@ -40,6 +41,7 @@ class frmDBSetup final : public QDialog {
     QComboBox* catalogues_ = nullptr;
     QPushButton* edit_ = nullptr;
     QPushButton* delete_ = nullptr;
+    GuidesLabel* guides_ = nullptr;
 };
 
 }  // namespace tw

@@ -16,8 +16,13 @@ constexpr int kUsualCharacters = 12;
 }  // namespace
 
 ListField::ListField(DocumentBinding& binding, const ListBox& list, const QString& name, QWidget* parent,
-                     std::function<void(RecipeDocument&, int)> select)
-    : QComboBox(parent), binding_(binding), list_(list), select_(std::move(select)) {
+                     std::function<void(RecipeDocument&, int)> select,
+                     std::function<int(const RecipeDocument&, std::string_view)> entryOf)
+    : QComboBox(parent),
+      binding_(binding),
+      list_(list),
+      select_(std::move(select)),
+      entryOf_(std::move(entryOf)) {
     setObjectName(ToQt(list.Name()));
     setAccessibleName(name);
     setFocusPolicy(Qt::StrongFocus);
@@ -63,8 +68,9 @@ void ListField::Choose(int index) {
 // The entry that the typed text is or, when just one holds it, stands for; -1 for none.
 int ListField::TypedEntry() const {
     const QString typed = currentText().trimmed();
-    const int whole = findText(typed, Qt::MatchFixedString);
-    if (whole >= 0 || typed.isEmpty()) return whole;
+    if (typed.isEmpty()) return -1;
+    const int named = entryOf_(*binding_.Document(), FromQt(typed));
+    if (named >= 0) return named;
     const auto holds = [&](int i) { return itemText(i).contains(typed, Qt::CaseInsensitive); };
     int only = -1;
     for (int i = 0; i < count(); ++i) {

@@ -12,9 +12,11 @@ namespace tw {
 class ListField final : public QComboBox {
     Q_OBJECT
   public:
-    // select carries out the choice of an entry.
+    // select carries out the choice of an entry; entryOf finds the entry that a typed text names, -1 for
+    // none.
     ListField(DocumentBinding& binding, const ListBox& list, const QString& name, QWidget* parent,
-              std::function<void(RecipeDocument&, int)> select);
+              std::function<void(RecipeDocument&, int)> select,
+              std::function<int(const RecipeDocument&, std::string_view)> entryOf);
 
   protected:
     void focusInEvent(QFocusEvent* event) override;
@@ -32,6 +34,7 @@ class ListField final : public QComboBox {
     DocumentBinding& binding_;
     const ListBox& list_;
     std::function<void(RecipeDocument&, int)> select_;
+    std::function<int(const RecipeDocument&, std::string_view)> entryOf_;
 };
 
 }  // namespace tw

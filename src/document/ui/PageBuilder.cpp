@@ -71,8 +71,10 @@ QPushButton* PageBuilder::CommandButton(const Button& button, const QString& cap
 }
 
 QComboBox* PageBuilder::StyleList(const QString& name) {
-    return new ListField(binding_, record_.cmbStyle, name, &page_,
-                         [](RecipeDocument& document, int index) { document.SelectStyle(index); });
+    return new ListField(
+        binding_, record_.cmbStyle, name, &page_,
+        [](RecipeDocument& document, int index) { document.SelectStyle(index); },
+        [](const RecipeDocument& document, std::string_view typed) { return document.StyleEntryOf(typed); });
 }
 
 QRadioButton* PageBuilder::Option(const OptionGroup& group, const QString& option, const QString& caption) {

@@ -73,7 +73,7 @@ void IconPane::FitGrid() {
     setIconSize({side, side});
     int name = DigitsWidth(*this, kWidestInDigits / 2);
     for (const ListRow& row : list_.Rows())
-        name = std::max(name, metrics.horizontalAdvance(ToQt(row.cells.front()).trimmed()));
+        name = std::max(name, metrics.horizontalAdvance(ListPaneModel::NameOf(row)));
     name = std::min(name, DigitsWidth(*this, kWidestInDigits));
     const int height = std::max(side + Unit(*this) / 2, static_cast<int>(std::lround(kLinesPerRow * line)));
     SetPlace({side + name + Unit(*this) * 3, height});

@@ -8,6 +8,7 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
 #include "store/DB_IO.h"
+#include "tree/ListFormats.h"
 #include "tree/NodeList.h"
 #include "tree/ui/NameTip.h"
 #include "tree/ui/NodePictures.h"
@@ -57,9 +58,14 @@ int ListPaneModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(list_.Columns().size());
 }
 
+QString ListPaneModel::NameOf(const ListRow& row) {
+    return ToQt(CodedName(row.code, row.cells.front())).trimmed();
+}
+
 // Where icons stand for the rows, the name alone tells where a found recipe lies.
 QString ListPaneModel::TipOf(const ListRow& row, std::size_t col) const {
-    QString tip = ToQt(row.cells[col]).trimmed();
+    QString tip = col == 0 ? NameOf(row) : ToQt(row.cells[col]).trimmed();
+    if (col == 0 && !row.origin.empty()) tip += QLatin1Char('\n') + ToQt(row.origin);
     if (col == 0 && list_.Columns().back().title == kFolderColumn)
         tip += QLatin1Char('\n') + ToQt(row.cells.back()).trimmed();
     return NameTip(tip);
@@ -71,6 +77,7 @@ QVariant ListPaneModel::data(const QModelIndex& index, int role) const {
     const auto col = static_cast<std::size_t>(index.column());
     switch (role) {
         case Qt::DisplayRole:
+            return col == 0 ? NameOf(row) : ToQt(row.cells[col]).trimmed();
         case Qt::EditRole:
             return ToQt(row.cells[col]).trimmed();
         case Qt::ToolTipRole:
@@ -89,7 +96,7 @@ QVariant ListPaneModel::data(const QModelIndex& index, int role) const {
                                : QVariant();
         case Qt::AccessibleTextRole:
             return QStringLiteral("%1: %2").arg(ToQt(list_.Columns()[col].title),
-                                                ToQt(row.cells[col]).trimmed());
+                                                data(index, Qt::DisplayRole).toString());
         default:
             return {};
     }

@@ -15,6 +15,8 @@ class ListPaneModel final : public QAbstractTableModel {
   public:
     ListPaneModel(const ListTable& list, QObject* parent);
 
+    // A row's name as it is shown, behind its code.
+    static QString NameOf(const ListRow& row);
     // Lets names be edited in place: canRename looks whether a row's may be, rename whether a name is taken.
     void SetRename(std::function<bool(int row)> canRename, std::function<bool(const QString& name)> rename);
     // Lets rows be dragged, and others be dropped on them.

@@ -8,6 +8,7 @@
 
 #include "platform/qt/QtText.h"
 #include "store/DB_IO.h"
+#include "tree/ListFormats.h"
 #include "tree/ui/InPlaceEditor.h"
 #include "tree/ui/NameTip.h"
 #include "tree/ui/NodePictures.h"
@@ -61,10 +62,11 @@ QVariant TreePaneModel::data(const QModelIndex& index, int role) const {
     const int item = ItemOf(index);
     switch (role) {
         case Qt::DisplayRole:
+            return ToQt(CodedName(items_.Code(item), items_.Text(item)));
         case Qt::EditRole:
             return ToQt(items_.Text(item));
         case Qt::ToolTipRole:
-            return NameTip(ToQt(items_.Text(item)));
+            return NameTip(ToQt(CodedName(items_.Code(item), items_.Text(item))));
         case Qt::DecorationRole:
             return NodePicture(items_.Icon(item, items_.Selected() == item));
         default:

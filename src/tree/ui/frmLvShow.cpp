@@ -8,6 +8,7 @@
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
+#include "tree/ui/GuidesLabel.h"
 #include "tree/ui/ListFilterBox.h"
 #include "tree/ui/ListPane.h"
 #include "tree/ui/TreePane.h"
@@ -42,6 +43,9 @@ frmLvShow::frmLvShow(LvShowModel& model, QWidget* parent) : QDialog(parent), mod
     splitter->setSizes({Unit(*this) * kFolderUnits, Unit(*this) * kWidestUnits});
     column->addWidget(new ListFilterBox(model.Items(), *items_, this));
     column->addWidget(splitter, 1);
+    auto* guides = new GuidesLabel(this);
+    guides->Show(model.Guides());
+    column->addWidget(guides);
     column->addLayout(MakeButtons());
     connect(items_, &ListPane::ChosenChanged, this, &frmLvShow::ShowButtons);
     connect(items_, &ListPane::RowsChanged, this, &frmLvShow::ShowButtons);
