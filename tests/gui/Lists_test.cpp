@@ -2,6 +2,7 @@
 #include "GuiTest.h"
 #include "document/ui/ListField.h"
 #include "platform/qt/Appearance.h"
+#include "support/OtherNames.h"
 #include "tree/ui/FolderChooserView.h"
 #include "tree/ui/ListPane.h"
 #include "tree/ui/NodePictures.h"
@@ -46,6 +47,21 @@ TEST_F(ListWidget, ShowsTheRowsWithoutTheirBlanks) {
     EXPECT_EQ(Shown(3), "Saaz");
     EXPECT_EQ(Shown(3, 1), "");
     EXPECT_EQ(FromQt(pane.model()->index(1, 1).data(Qt::AccessibleTextRole).toString()), "Size: 10");
+}
+
+TEST_F(ListWidget, ShowsACodeBeforeTheNameButEditsTheName) {
+    ListRow style = Row("American Pale Ale");
+    style.code = "18B";
+    style.origin = "Beer style guide of 2021";
+    list.SetRows({style});
+    const QModelIndex name = pane.model()->index(0, 0);
+    EXPECT_EQ(Shown(0), "18B  American Pale Ale");
+    EXPECT_EQ(FromQt(name.data(Qt::EditRole).toString()), "American Pale Ale");
+    EXPECT_EQ(FromQt(name.data(Qt::ToolTipRole).toString()),
+              "18B  American Pale Ale\nBeer style guide of 2021");
+    EXPECT_EQ(FromQt(name.data(Qt::AccessibleTextRole).toString()), "Name: 18B  American Pale Ale");
+    QTest::keyClicks(&pane, "18b");
+    EXPECT_EQ(list.SelectedText(), "American Pale Ale");
 }
 
 TEST_F(ListWidget, AClickChoosesARowButNoHeading) {
@@ -198,6 +214,32 @@ TEST_F(Choosers, TheStyleIsBrowsed) {
     EXPECT_EQ(started.substr(0, 14), "Select Style: ");
     EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), "Stout");
     EXPECT_EQ(Find<QComboBox>("cmbStyle").currentText(), QStringLiteral("Stout"));
+}
+
+TEST_F(Choosers, TheStyleBoxTakesACode) {
+    AddOtherNames(*shell.DB());
+    AddFacts(*shell.DB(), CatalogueKind::Style, "Bock", "6C", "Beer 2021");
+    auto* box = NewRecipe().findChild<ListField*>(QStringLiteral("cmbStyle"));
+    ASSERT_NE(box, nullptr);
+    box->setFocus();
+    box->setEditText(QStringLiteral("6c"));
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(shell.ActiveDocument()->Record().cmbStyle.Text(), "Bock");
+    EXPECT_EQ(FromQt(box->currentText()), "Bock");
+}
+
+TEST_F(Choosers, TheStylePickerNamesTheGuidesOfItsCodes) {
+    const auto guides = [this] {
+        LvShowModel model(PickList::Style, *shell.DB(), shell.Tree(), "");
+        frmLvShow picker(model, nullptr);
+        picker.show();
+        auto* label = picker.findChild<QLabel*>(QStringLiteral("lblGuides"));
+        return label && label->isVisible() ? FromQt(label->text()) : std::string();
+    };
+    EXPECT_EQ(guides(), "");
+    AddOtherNames(*shell.DB());
+    AddFacts(*shell.DB(), CatalogueKind::Style, "Bock", "6C", "Beer 2021");
+    EXPECT_EQ(guides(), "Codes: Beer style guide of 2021");
 }
 
 TEST_F(Choosers, ADoubleClickOnANamePicksFromTheCatalogue) {

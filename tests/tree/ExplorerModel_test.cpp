@@ -78,13 +78,13 @@ TEST_F(Explorer, TheTreeOfStylesKnowsTheirCodes) {
     model->Settle();
     model->Show(Page::Styles);
     TreeItems& tree = model->Tree(Page::Styles);
-    EXPECT_EQ(tree.Text(tree.Find("S:1")), "Stout");
-    EXPECT_EQ(tree.Code(tree.Find("S:1")), "15B");
-    EXPECT_EQ(tree.Code(tree.Find("S:2")), "");
+    EXPECT_EQ(tree.Text(tree.Find("S:1:1")), "Stout");
+    EXPECT_EQ(tree.Code(tree.Find("S:1:1")), "15B");
+    EXPECT_EQ(tree.Code(tree.Find("S:2:1")), "");
     // A renamed style is the brewer's own.
-    ASSERT_TRUE(io.RenameObject("S:1", "My Stout", false));
+    ASSERT_TRUE(io.RenameObject("S:1:1", "My Stout", false));
     model->Settle();
-    EXPECT_EQ(tree.Code(tree.Find("S:1")), "");
+    EXPECT_EQ(tree.Code(tree.Find("S:1:1")), "");
 }
 
 TEST_F(Explorer, StartsOnTheRootsOfBothPagesWithTheRecipes) {
