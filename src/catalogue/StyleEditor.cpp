@@ -45,6 +45,7 @@ bool StyleEditor::Write(const std::string& name) {
         return false;
     loadedFolder_ = folders_.FolderID();
     id_ = Context().objects.StyleIdByName(name);
+    Context().objects.StyleStored();
     return true;
 }
 

@@ -77,6 +77,8 @@ void PrintRows(Session& session, Recordset rows) {
 void Sql(Session& session, Arguments& arguments) {
     const std::string text = arguments.Text();
     RunSql(session, *session.Program().DB(), text);
+    // The statement may have changed the styles that the open recipes list.
+    if (TranslateSql(text).kind != StatementKind::Select) session.Program().CatalogueChanged();
 }
 
 void ShowDialogs(Session& session, Arguments& arguments) {

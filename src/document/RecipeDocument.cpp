@@ -172,8 +172,9 @@ void RecipeDocument::NotifyRecipeRenamed(std::string_view oldName, std::string_v
     host_.DocumentRenamed(*this);
 }
 
-void RecipeDocument::NotifyStyleRenamed(std::int64_t styleId, std::string_view) {
-    if (styleId_ == styleId) ReloadStyles();
+// Every document lists all styles, so that a notice about any of them is for all documents.
+void RecipeDocument::NotifyStyleRenamed(std::int64_t, std::string_view) {
+    ReloadStyles();
 }
 
 void RecipeDocument::NotifyRecipeDeleted(std::string_view name) {
@@ -185,7 +186,10 @@ void RecipeDocument::NotifyRecipeFolderDeleted(std::int64_t folderId) {
 }
 
 void RecipeDocument::NotifyStyleDeleted(std::int64_t styleId) {
-    if (styleId_ == styleId) SetStyleID(0);
+    if (styleId_ == styleId)
+        SetStyleID(0);
+    else
+        ReloadStyles();
 }
 
 void RecipeDocument::SetDetached() {
@@ -196,9 +200,8 @@ void RecipeDocument::SetDetached() {
 }
 
 void RecipeDocument::DBChanged() {
-    ReloadStyles();
-    // The ranges beside the figures may be others, too.
-    if (styleId_ != 0) ShowStyleRanges(styleId_);
+    // The ranges beside the figures may have changed, too.
+    SetStyleID(styleId_);
 }
 
 }  // namespace tw

@@ -294,9 +294,10 @@ class RecipeDocument {
     bool ValidateHopExtraction(std::string_view text, bool quiet, double& value);
     bool RunFieldChain(TextBox& box);
     // Style (RecipeDocumentStyle.cpp).
-    // Both give the style's water profile, nothing without one.
-    std::optional<std::string> ShowStyleRanges(std::int64_t styleId);
-    std::optional<std::string> EmptyStyleRanges();
+    // Selects the style of that id and shows its ranges; "(None)" when it is gone. Gives its water profile,
+    // nothing without one.
+    std::optional<std::string> ShowStyle(std::int64_t id);
+    void EmptyStyleRanges();
     void ChooseStyle(std::int64_t id);
 
     // Cells (RecipeDocumentCells.cpp).

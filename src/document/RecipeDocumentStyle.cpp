@@ -55,19 +55,14 @@ void RecipeDocument::ReloadStyles() {
 void RecipeDocument::SetStyleID(std::int64_t id) {
     styleId_ = id;
     ReloadStyles();
-    if (styleId_ == 0)
-        EmptyStyleRanges();
-    else
-        ShowStyleRanges(styleId_);
+    ShowStyle(styleId_);
 }
 
 void RecipeDocument::SelectStyle(int index) {
     const auto& entries = record_.cmbStyle.Entries();
     if (index < 0 || index >= static_cast<int>(entries.size())) return;
     const std::int64_t id = entries[static_cast<std::size_t>(index)].itemData;
-    if (id == styleId_) return;
-    record_.cmbStyle.Select(index);
-    ChooseStyle(id);
+    if (id != styleId_) AsOneStep(ChangeType::Selection, [&] { ChooseStyle(id); });
 }
 
 int RecipeDocument::StyleEntryOf(std::string_view name) const {
@@ -90,15 +85,13 @@ bool RecipeDocument::ChangeStyle(std::string_view name) {
     return entry >= 0;
 }
 
+// The style, and the water that it brings. A style that is gone is none.
 void RecipeDocument::ChooseStyle(std::int64_t id) {
     const std::int64_t oldId = styleId_;
-    styleId_ = id;
-    const std::optional<std::string> profile = id == 0 ? EmptyStyleRanges() : ShowStyleRanges(id);
-    // The water that the style brings belongs to the same step.
-    EditTracker* const choice = recorder_.RecordEdit(
-        record_.cmbStyle.Name(), EditValue::OfNumber(static_cast<double>(oldId)),
-        EditValue::OfNumber(static_cast<double>(styleId_)), {ControlType::ComboBox, ChangeType::Selection});
-    const CompoundEdit compound(recorder_, choice);
+    const std::optional<std::string> profile = ShowStyle(id);
+    recorder_.RecordEdit(record_.cmbStyle.Name(), EditValue::OfNumber(static_cast<double>(oldId)),
+                         EditValue::OfNumber(static_cast<double>(styleId_)),
+                         {ControlType::ComboBox, ChangeType::Selection});
     Grid& water = record_.gridWater;
     if (profile)
         EditCell(water, WaterRow::Target, WaterCol::Profile, Trim(*profile), true);
@@ -110,11 +103,20 @@ void RecipeDocument::ChooseStyle(std::int64_t id) {
     MarkChanged();
 }
 
-std::optional<std::string> RecipeDocument::ShowStyleRanges(std::int64_t id) {
-    Recordset rs = database_.OpenRecordset("SELECT * FROM STYLES WHERE ID = " + std::to_string(id));
+std::optional<std::string> RecipeDocument::ShowStyle(std::int64_t id) {
+    // Even a row of that id would not be "(None)".
+    const Recordset rs =
+        database_.OpenRecordset("SELECT * FROM STYLES WHERE ID <> 0 AND ID = " + std::to_string(id));
+    styleId_ = rs.AtEnd() ? 0 : id;
+    const int index = record_.cmbStyle.IndexOf(styleId_);
+    // A list that is not up to date is read again.
+    if (index < 0 || styleId_ != id)
+        ReloadStyles();
+    else
+        record_.cmbStyle.Select(index);
     if (rs.AtEnd()) {
-        styleId_ = 0;
-        return EmptyStyleRanges();
+        EmptyStyleRanges();
+        return std::nullopt;
     }
     for (const RangeLabel& range : kRangeLabels) {
         const Field low = rs.Fields(range.low);
@@ -126,9 +128,8 @@ std::optional<std::string> RecipeDocument::ShowStyleRanges(std::int64_t id) {
     return profile.Text();
 }
 
-std::optional<std::string> RecipeDocument::EmptyStyleRanges() {
+void RecipeDocument::EmptyStyleRanges() {
     for (const RangeLabel& range : kRangeLabels) (record_.*range.label).SetText("");
-    return std::nullopt;
 }
 
 }  // namespace tw

@@ -277,6 +277,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void NotifyRecipeDeleted(const std::string& name) override;
     void NotifyRecipeFolderDeleted(std::int64_t folderId) override;
     void NotifyStyleDeleted(std::int64_t styleId) override;
+    void NotifyStyleStored() override { CatalogueChanged(); }
     void DeletionEnded() override;
 
   private:

@@ -29,6 +29,8 @@ class ObjectListener {
     // Once for each folder of a deleted subtree, after its recipes.
     virtual void NotifyRecipeFolderDeleted(std::int64_t folderId) = 0;
     virtual void NotifyStyleDeleted(std::int64_t styleId) = 0;
+    // A style was added, or its figures changed.
+    virtual void NotifyStyleStored() {}
     // Once at the end of an operation that deletes, also of one that an error ends; raises nothing.
     virtual void DeletionEnded() {}
 };
@@ -122,6 +124,8 @@ class DB_IO {
     // The name in the tree and in the open documents. ByName: of the style that still has the old name.
     void RenameStyleNodes(std::int64_t id, std::string_view newName);
     void RenameStyleNodesByName(std::string_view oldName, std::string_view newName);
+    // Tells the open documents that the row of a style has just been written.
+    void StyleStored() { listener_.NotifyStyleStored(); }
     // MODIFIED_WHEN of that one folder becomes now; a folder id of 0 matches no row.
     void TouchRecipeFolder(std::int64_t folderId);
     void TouchStyleFolder(std::int64_t folderId);

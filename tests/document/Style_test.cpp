@@ -116,6 +116,31 @@ TEST_F(StyleTest, TheListFollowsTheCatalogue) {
     EXPECT_EQ(document->StyleID(), kStout);
 }
 
+// The list is read again before a name is looked for, but not before a row of it is chosen.
+TEST_F(StyleTest, AStyleThatIsGoneCannotBeChosen) {
+    document->ChangeStyle("Stout");
+    const int lager = R().cmbStyle.IndexOf(kLager);
+    database->Execute("DELETE FROM STYLES WHERE ID = 2");
+    EXPECT_FALSE(document->ChangeStyle("Lager"));
+    EXPECT_EQ(document->BeerStyle(), "Stout");
+    database->Execute("INSERT INTO STYLES (ID, NAME) VALUES (2, 'Lager')");
+    document->DBChanged();
+    database->Execute("DELETE FROM STYLES WHERE ID = 2");
+    document->SelectStyle(lager);
+    EXPECT_EQ(document->StyleID(), 0);
+    EXPECT_EQ(document->BeerStyle(), "(None)");
+    EXPECT_EQ(R().cmbStyle.IndexOf(kLager), -1);
+    EXPECT_THAT(Labels(), ElementsAre("", "", "", "", "", ""));
+}
+
+// Even a recipe and a style that other programs have numbered 0 do not meet.
+TEST_F(StyleTest, NoneIsNotTheStyleOfNumberZero) {
+    database->Execute("INSERT INTO STYLES (ID, NAME, OG_LO) VALUES (0, 'Zero', 1.08)");
+    document->SetStyleID(0);
+    EXPECT_EQ(document->BeerStyle(), "(None)");
+    EXPECT_EQ(Labels()[0], "");
+}
+
 class NoticesTest : public DocumentTest {
   protected:
     NoticesTest() {
@@ -160,12 +185,33 @@ TEST_F(NoticesTest, ARenameTakesTheNameUnlessTheBrewerEditedIt) {
 
 TEST_F(NoticesTest, ARenamedStyleShowsItsNewName) {
     database->Execute("UPDATE STYLES SET NAME = 'Porter' WHERE ID = 1");
-    document->NotifyStyleRenamed(kLager, "Porter");
-    EXPECT_EQ(document->BeerStyle(), "Stout");
     document->NotifyStyleRenamed(kStout, "Porter");
     EXPECT_EQ(document->BeerStyle(), "Porter");
     EXPECT_EQ(document->StyleID(), kStout);
     EXPECT_FALSE(document->Changed());
+}
+
+// A document lists all styles, whichever it has.
+TEST_F(NoticesTest, EveryChangeOfAStyleShowsInTheListOfEveryDocument) {
+    const auto list = [&] {
+        Log names;
+        for (const ListBox::Entry& entry : R().cmbStyle.Entries()) names.push_back(entry.text);
+        return names;
+    };
+    for (const char* style : {"Stout", "(None)"}) {
+        ASSERT_TRUE(document->ChangeStyle(style));
+        SaveAs("Old Ale");
+        database->Execute("UPDATE STYLES SET NAME = 'Pils' WHERE ID = 2");
+        document->NotifyStyleRenamed(kLager, "Pils");
+        EXPECT_THAT(list(), ElementsAre("(None)", "Half Open", "Odd Water", "Pils", "Stout"));
+        database->Execute("DELETE FROM STYLES WHERE ID = 2");
+        document->NotifyStyleDeleted(kLager);
+        EXPECT_THAT(list(), ElementsAre("(None)", "Half Open", "Odd Water", "Stout"));
+        EXPECT_EQ(document->BeerStyle(), style);
+        EXPECT_FALSE(document->Changed());
+        database->Execute("INSERT INTO STYLES (ID, NAME) VALUES (2, 'Lager')");
+        document->DBChanged();
+    }
 }
 
 TEST_F(NoticesTest, ADeletedStyleShowsNone) {

@@ -99,6 +99,36 @@ TEST_F(Notices, ADeletedStyleLeavesNoneAndNoRanges) {
     EXPECT_FALSE(mild.Changed());
 }
 
+// By the operations of the explorer, in documents with another style and without one.
+TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
+    shell.DB()->Execute("INSERT INTO STYLES (ID, NAME, FOLDER_ID) VALUES (8, 'Porter', 0)");
+    for (const char* style : {"Stout", "Porter"}) shell.Objects().AddStyleNodesByName(style);
+    const std::int64_t dark = shell.Objects().CreateStyleFolder(0, "Dark", true);
+    RecipeDocument& stout = NewSaved("Mild");
+    stout.SetStyleID(7);
+    RecipeDocument& none = NewSaved("Bitter");
+    const auto lists = [&] {
+        Strings names;
+        for (const RecipeDocument* document : {&stout, &none}) {
+            std::string line;
+            for (const ListBox::Entry& entry : document->Record().cmbStyle.Entries())
+                line += entry.text + "; ";
+            names.push_back(line);
+        }
+        return names;
+    };
+    ASSERT_TRUE(shell.Objects().RenameStyle(8, "Baltic Porter", true));
+    EXPECT_EQ(lists(), Strings(2, "(None); Baltic Porter; Stout; "));
+    ASSERT_TRUE(shell.Objects().MoveStyleToFolder(8, dark, true));
+    shell.Objects().DeleteStyleFolder(dark);
+    EXPECT_EQ(lists(), Strings(2, "(None); Stout; "));
+    EXPECT_EQ(stout.BeerStyle(), "Stout");
+    shell.Objects().DeleteStyleById(7);
+    EXPECT_EQ(lists(), Strings(2, "(None); "));
+    EXPECT_EQ(stout.BeerStyle() + none.BeerStyle(), "(None)(None)");
+    EXPECT_FALSE(stout.Changed() || none.Changed());
+}
+
 TEST_F(Notices, ADeletedRecipeIsDetachedInEveryWindow) {
     OpenTwice("Mild", "MILD");
     shell.NotifyRecipeDeleted("mild");

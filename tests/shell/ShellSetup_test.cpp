@@ -52,6 +52,26 @@ TEST_F(ShellSetup, AnEditedStyleGivesItsNameAndACancelledOneNothing) {
     EXPECT_EQ(shell.EditStyle("Dry Stout", 0), std::nullopt);
 }
 
+// Whatever the editor's window is closed with afterwards.
+TEST_F(ShellSetup, AnAppliedStyleIsInTheListsAtOnce) {
+    shell.CreateDocumentWindow("");
+    Next([&](DialogModel& editor) {
+        editor.SetControl("Text1", "Stout");
+        editor.Press("cmdApply");
+        EXPECT_TRUE(Offers("Stout"));
+        editor.SetControl("Text1", "Dry Stout");
+        editor.Press("cmdApply");
+        EXPECT_TRUE(Offers("Dry Stout"));
+        EXPECT_FALSE(Offers("Stout"));
+        shell.ActiveDocument()->ChangeStyle("Dry Stout");
+        editor.SetControl("gridInfo(0,0)", "1.040");
+        editor.Press("cmdApply");
+        EXPECT_EQ(shell.ActiveDocument()->Record().lblOGStyle.Text(), ">= 1.040");
+        editor.Press("cmdCancel");
+    });
+    shell.EditStyle("", 0);
+}
+
 TEST_F(ShellSetup, TheDocumentsFollowWhenDatabaseSetupCloses) {
     shell.CreateDocumentWindow("");
     Next([&](DialogModel& setup) {
