@@ -1,6 +1,7 @@
 // What the catalogue gives to a recipe: the entries of a cell's list, and the figures of a name that was
 // chosen.
 #include "calc/Figures.h"
+#include "document/PitchedYeast.h"
 #include "document/RecipeDocument.h"
 #include "store/CatalogueNames.h"
 #include "values/NumberText.h"
@@ -134,8 +135,7 @@ void RecipeDocument::LookUpSalt(int row) {
 void RecipeDocument::LookUpYeast(int row) {
     const Grid& log = record_.gridLog;
     if (!SameName(log.Text(row, LogCol::Action), "PITCHED YEAST")) return;
-    std::string_view name = Trim(log.Text(row, LogCol::Notes));
-    name = name.substr(0, name.find(" - "));
+    const std::string_view name = PitchedYeastName(log.Text(row, LogCol::Notes));
     Recordset rs = database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM YEAST WHERE NAME = " +
                                            RowLiteral(database_, CatalogueKind::Yeast, name));
     if (rs.AtEnd() || rs.Fields(1).IsNull() || record_.txtOG.Empty()) return;

@@ -31,6 +31,16 @@ bool IsHopForm(const RecipeRecord& r, const Grid& grid, int col) {
     return &grid == &r.gridHops && col == HopCol::Form;
 }
 
+bool IsHopAmount(const RecipeRecord& r, const Grid& grid, int col) {
+    return &grid == &r.gridHops && col == HopCol::Amount;
+}
+
+// True when the column takes any text: names, the brew log, the adjuncts.
+bool TakesFreeText(const RecipeRecord& r, const Grid& grid, int col) {
+    return !QuantityOf(r, grid, col) && NumberKind(r, grid, col).empty() && !IsHopForm(r, grid, col) &&
+           !IsHopAmount(r, grid, col) && &grid != &r.gridPressure;
+}
+
 }  // namespace
 
 bool RecipeDocument::CanEdit(const Grid& grid, int row, int col) const {
@@ -43,7 +53,7 @@ bool RecipeDocument::ValidateCell(const Grid& grid, int row, int col, std::strin
     // An empty text is always valid and means 0 or unset.
     if (IsBlank(text)) return true;
     if (IsHopForm(record_, grid, col)) return ValidateHopForm(text, value);
-    if (&grid == &record_.gridHops && col == HopCol::Amount) return ValidateHopAmount(text, quiet, value);
+    if (IsHopAmount(record_, grid, col)) return ValidateHopAmount(text, quiet, value);
     // The time of a dry-hopped row is free text without a value: days in the hopper, for instance.
     if (&grid == &record_.gridHops && col == HopCol::Time && grid.Checked(row, HopCol::DryHopped))
         return true;
@@ -117,6 +127,8 @@ bool RecipeDocument::ValidateKegPressure(std::string_view text, bool quiet, Cell
 
 bool RecipeDocument::EditCell(Grid& grid, int row, int col, std::string_view text, bool quiet) {
     if (!CanEdit(grid, row, col) || grid.IsCheckBox(row, col)) return false;
+    // As in the text boxes: where a quantity belongs, blanks alone are the empty text.
+    if (IsBlank(text) && !TakesFreeText(record_, grid, col)) text = {};
     if (grid.Text(row, col) == text) return true;
     CellValue value;
     if (!ValidateCell(grid, row, col, text, quiet, value)) return false;

@@ -13,7 +13,8 @@ FieldValidator ValidatorOf(const RecipeRecord& r, const TextBox& box) {
     if (&box == &r.txtBoilVol || &box == &r.txtTotalVol || &box == &r.txtDilutions || &box == &r.txtFinalVol)
         return ValidateVolume;
     if (&box == &r.txtExtract) return ValidatePercent;
-    if (&box == &r.txtFG) return ValidateGravity;
+    // The computed gravities are read from a stored text alone.
+    if (&box == &r.txtFG || &box == &r.txtOG || &box == &r.txtBG) return ValidateGravity;
     if (&box == &r.txtTemp) return ValidateTemperature;
     return nullptr;
 }
@@ -43,7 +44,10 @@ void RecipeDocument::RestoreField(TextBox& box) {
 }
 
 bool RecipeDocument::CommitField(TextBox& box, bool quiet) {
-    if (box.Computed() || box.Text() == box.Committed()) return true;
+    if (box.Computed()) return true;
+    // Where a quantity belongs, blanks alone are the empty text.
+    if (!IsFreeText(box) && IsBlank(box.Text())) SetText(box, {});
+    if (box.Text() == box.Committed()) return true;
     if (IsFreeText(box)) {
         box.SetCommitted(box.Text());
         return true;

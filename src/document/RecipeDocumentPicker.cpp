@@ -1,4 +1,5 @@
 // The way from a style or a cell to its catalogue and back.
+#include "document/PitchedYeast.h"
 #include "document/RecipeDocument.h"
 #include "values/Text.h"
 
@@ -30,10 +31,9 @@ bool RecipeDocument::BrowseCell(Grid& grid) {
     if (grid.Selection() != GridRange{row, col, row, col}) return false;
     const std::optional<PickList> list = PickListOf(grid, row, col);
     if (!list) return false;
-    std::string name(Trim(grid.Text(row, col)));
-    // The yeast's name stands before its description.
-    if (*list == PickList::Yeast) name.resize(std::min(name.find(" - "), name.size()));
-    host_.PickFromCatalogue(*this, *list, name);
+    const std::string& text = grid.Text(row, col);
+    host_.PickFromCatalogue(*this, *list,
+                            std::string(*list == PickList::Yeast ? PitchedYeastName(text) : Trim(text)));
     return true;
 }
 

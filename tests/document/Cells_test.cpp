@@ -412,5 +412,67 @@ TEST_F(CellsTest, AStoreErrorInALookUpRisesAndLeavesTheRow) {
     EXPECT_EQ(Shown(), before);
 }
 
+TEST_F(CellsTest, BlanksAloneAreTheEmptyTextWhereAQuantityBelongs) {
+    RecipeRecord& r = R();
+    Set(r.txtTemp, "68");
+    document->InsertRowForGrid(r.gridTreatment);
+    document->InsertRowForGrid(r.gridLog);
+    document->InsertRowForGrid(r.gridAdjuncts);
+    struct Case {
+        Grid& grid;
+        int col;
+        const char* text;
+    };
+    const Case quantities[] = {
+        {r.gridGrain, 1, "9"},      {r.gridGrain, 2, "36"},    {r.gridGrain, 4, "3"},
+        {r.gridExtract, 1, "2 lb"}, {r.gridHops, 1, "5%"},     {r.gridHops, 2, "Leaf"},
+        {r.gridHops, 4, "1 oz"},    {r.gridHops, 6, "60"},     {r.gridPriming, 1, "100"},
+        {r.gridPriming, 2, "4"},    {r.gridPressure, 0, "11"}, {r.gridTreatment, 1, "5"},
+        {r.gridWater, 2, "50"}};
+    for (const auto& [grid, col, text] : quantities) {
+        ASSERT_TRUE(Put(grid, 1, col, text)) << grid.Name() << col;
+        EXPECT_TRUE(Put(grid, 1, col, "   ")) << grid.Name() << col;
+        EXPECT_EQ(grid.Text(1, col), "") << grid.Name() << col;
+        EXPECT_EQ(grid.Number(1, col), 0) << grid.Name() << col;
+    }
+    EXPECT_EQ(r.txtOG.Text(), "");
+    const Case texts[] = {{r.gridGrain, 0, "  "},     {r.gridHops, 0, "  "},  {r.gridPriming, 0, "  "},
+                          {r.gridTreatment, 0, "  "}, {r.gridWater, 1, "  "}, {r.gridAdjuncts, 1, "  "},
+                          {r.gridAdjuncts, 3, "  "},  {r.gridLog, 2, "  "}};
+    for (const auto& [grid, col, text] : texts) {
+        EXPECT_TRUE(Put(grid, 1, col, text)) << grid.Name() << col;
+        EXPECT_EQ(grid.Text(1, col), "  ") << grid.Name() << col;
+    }
+}
+
+// The time of dry hops is free text, but it counts again as soon as they are not.
+TEST_F(CellsTest, BlanksAreNoTimeOfDryHopsEither) {
+    Grid& hops = R().gridHops;
+    document->SetChecked(hops, 1, HopCol::DryHopped, true);
+    Put(hops, 1, HopCol::Time, "7 days");
+    EXPECT_TRUE(Put(hops, 1, HopCol::Time, "  "));
+    EXPECT_EQ(hops.Text(1, HopCol::Time), "");
+}
+
+TEST_F(CellsTest, BlanksInAnEmptyCellAreNoEdit) {
+    SaveAs("A");
+    EXPECT_TRUE(Put(R().gridGrain, 1, GrainCol::Amount, "  "));
+    EXPECT_FALSE(document->Changed());
+    EXPECT_FALSE(document->History().CanUndo());
+}
+
+// 70% of 9 * 36.5 / 5 are 46 points; with an attenuation of 75% the Plato of 1.046 ends at 2.85 and 1.011.
+TEST_F(CellsTest, TheYeastsNameIsTrimmedBehindTheCut) {
+    Put(R().gridGrain, 1, GrainCol::Name, "Pale Malt");
+    Put(R().gridGrain, 1, GrainCol::Amount, "9");
+    document->InsertRowForGrid(R().gridLog);
+    Put(R().gridLog, 1, LogCol::Action, "Pitched Yeast");
+    for (const char* notes : {"  Ale  -  top", "Ale", " Ale - "}) {
+        Set(R().txtFG, "");
+        Put(R().gridLog, 1, LogCol::Notes, notes);
+        EXPECT_EQ(R().txtFG.Text(), "1.011") << notes;
+    }
+}
+
 }  // namespace
 }  // namespace tw::test

@@ -333,5 +333,35 @@ TEST_F(FieldsTest, ActivationSetsTheCommandsInOrder) {
                             testing::StartsWith("EnableCutPaste "), "EnableInsert off", "EnableDelete off"));
 }
 
+TEST_F(FieldsTest, BlanksAloneAreTheEmptyTextInAQuantity) {
+    New();
+    Set(R().txtTotalVol, "5 gal");
+    // 1 lb * 40 / 5 gal = 8 points
+    Put(R().gridExtract, 1, GrainCol::Amount, "1");
+    Put(R().gridExtract, 1, GrainCol::Ppg, "40");
+    ASSERT_EQ(R().txtOG.Text(), "1.008");
+    EXPECT_TRUE(Set(R().txtTotalVol, "   "));
+    EXPECT_EQ(R().txtTotalVol.Text() + R().txtTotalVol.Committed(), "");
+    EXPECT_EQ(R().txtOG.Text(), "");
+    EXPECT_FALSE(host.IsOn("EnableResizeRecipe"));
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().txtTotalVol.Text(), "5 gal");
+    EXPECT_TRUE(Set(R().txtHopExtraction, " "));
+    EXPECT_EQ(R().txtHopExtraction.Text(), "");
+    EXPECT_EQ(R().txtHopExtraction.Value(), 1);
+}
+
+TEST_F(FieldsTest, BlanksInAnEmptyFieldAreNoEdit) {
+    New();
+    SaveAs("A");
+    EXPECT_TRUE(Set(R().txtBoilVol, "  "));
+    EXPECT_EQ(R().txtBoilVol.Text(), "");
+    EXPECT_FALSE(document->Changed());
+    EXPECT_FALSE(document->History().CanUndo());
+    // Free text keeps them.
+    EXPECT_TRUE(Set(R().txtNumBatches, "  "));
+    EXPECT_EQ(R().txtNumBatches.Text(), "  ");
+}
+
 }  // namespace
 }  // namespace tw::test

@@ -28,35 +28,38 @@ const std::vector<std::string> kVolumes{"",
                                         "5 gal extra",
                                         std::string("0.") + std::string(310, '0') + "1",
                                         std::string("0.") + std::string(300, '0') + "1",
-                                        std::string(400, '9')};
+                                        std::string(400, '9'),
+                                        "  "};
 const std::vector<std::string> kPercents{"",    "40", "40%", "72.5", "100", "0",
-                                         "101", "-1", "1/2", "lots", "1/0"};
+                                         "101", "-1", "1/2", "lots", "1/0", "  "};
 const std::vector<std::string> kGravities{
-    "", "1.010", "1.012 SG", "3 P", "1.05", "0", "-1", "heavy", "1/0", "1", std::string(200, '9')};
-const std::vector<std::string> kTemperatures{"",    "68",  "20 C", "38 F",  "0",
-                                             "212", "213", "warm", "293 K", "1/0"};
+    "", "1.010", "1.012 SG", "3 P", "1.05", "0", "-1", "heavy", "1/0", "1", std::string(200, '9'), "  "};
+const std::vector<std::string> kTemperatures{"",    "68",   "20 C",  "38 F", "0", "212",
+                                             "213", "warm", "293 K", "1/0",  "  "};
 const std::vector<std::string> kMultipliers{
-    "", "1", "1.0", "0.8", "0", "-1", "x", "1 .", std::string(300, '9')};
+    "", "1", "1.0", "0.8", "0", "-1", "x", "1 .", std::string(300, '9'), "  "};
 const std::vector<std::string> kPounds{
-    "",    "8",     "8 lb", "2 lb 3 oz",          "500 g", "1.2 kg", "0", "-1", "heavy",
-    "1/0", "1 1/2", "4 oz", std::string(308, '9')};
+    "",    "8",     "8 lb", "2 lb 3 oz",           "500 g", "1.2 kg", "0", "-1", "heavy",
+    "1/0", "1 1/2", "4 oz", std::string(308, '9'), "  "};
 const std::vector<std::string> kNumbers{
-    "", "36", "36.5", "0", "2", "75", "250", "-1", "x", "1/2", ".5", "300", std::string(200, '9')};
+    "", "36", "36.5", "0", "2", "75", "250", "-1", "x", "1/2", ".5", "300", std::string(200, '9'), "  "};
 const std::vector<std::string> kHopAmounts{
     "",       "1",      "1 oz", "28 g", "4 AAU", "12 AAUs", "20 IBU", "31 BUs",   "-1 oz",
-    "-4 AAU", "-2 IBU", "much", "1/0",  "0",     "0 AAU",   "1/2 oz", "1.25 lbs", std::string(300, '9')};
-const std::vector<std::string> kTimes{"",  "60",     "1:30", "1 HR",   "89.5", "90",
-                                      "0", "15 min", "-5",   "7 days", "5 S",  "1/0"};
-const std::vector<std::string> kForms{"", "Pellet", "plug", "LEAF", "Cone"};
-const std::vector<std::string> kPressures{"",   "11",  "11 psi", "1 atm", "0",  "48",
-                                          "50", "400", "-1",     "hard",  "1/0"};
+    "-4 AAU", "-2 IBU", "much", "1/0",  "0",     "0 AAU",   "1/2 oz", "1.25 lbs", std::string(300, '9'),
+    "  "};
+const std::vector<std::string> kTimes{"",       "60", "1:30",   "1 HR", "89.5", "90", "0",
+                                      "15 min", "-5", "7 days", "5 S",  "1/0",  "  "};
+const std::vector<std::string> kForms{"", "Pellet", "plug", "LEAF", "Cone", "  "};
+const std::vector<std::string> kPressures{"",   "11",  "11 psi", "1 atm", "0",   "48",
+                                          "50", "400", "-1",     "hard",  "1/0", "  "};
 const std::vector<std::string> kGrams{
-    "", "5", "5 grams", "1 oz", "0", "-1", "1/0", "pinch", std::string(308, '9')};
+    "", "5", "5 grams", "1 oz", "0", "-1", "1/0", "pinch", std::string(308, '9'), "  "};
 const std::vector<std::string> kOunces{
-    "", "4", "4 oz", "113 g", "0", "-1", "1/0", "cup", std::string(307, '9')};
-const std::vector<std::string> kPpm{"", "0", "7", "100", "98.5", "250.25", "-1", "x", std::string(308, '9')};
-const std::vector<std::string> kFree{"",    "x",    "It's \"good\"", "007",  "1.050",
-                                     "ä ß", "NULL", "a\r\nb",        "%_;--"};
+    "", "4", "4 oz", "113 g", "0", "-1", "1/0", "cup", std::string(307, '9'), "  "};
+const std::vector<std::string> kPpm{"",  "0", "7", "100", "98.5", "250.25", "-1", "x", std::string(308, '9'),
+                                    "  "};
+const std::vector<std::string> kFree{"",    "x",    "It's \"good\"", "007",   "1.050",
+                                     "ä ß", "NULL", "a\r\nb",        "%_;--", "  "};
 
 class ModelTest : public DocumentTest, public testing::WithParamInterface<unsigned> {
   protected:
@@ -128,7 +131,7 @@ void ModelTest::EditCell() {
     static const std::vector<std::string> kSaltNames{"Gypsum", "Chalk", "Nothing", ""};
     static const std::vector<std::string> kActions{"Pitched Yeast", " pitched yeast ", "Racked", ""};
     static const std::vector<std::string> kLogNotes{
-        "Ale", "Ale - Wyeast 1056", "Cook's - 1", "Stray", "Nobody", ""};
+        "Ale", "Ale - Wyeast 1056", "Cook's - 1", "Stray", "Nobody", "", "Ale  - dry"};
     using Texts = const std::vector<std::string>*;
     const std::vector<std::pair<Grid*, std::vector<Texts>>> columns{
         {&r.gridGrain, {&kGrainNames, &kPounds, &kNumbers, nullptr, &kNumbers, nullptr}},

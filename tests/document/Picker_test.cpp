@@ -55,6 +55,8 @@ TEST_F(PickerTest, TheYeastOfAPitchedRowStandsBeforeItsDescription) {
     Put(r.gridLog, 1, LogCol::Action, "pitched yeast");
     EXPECT_EQ(Browse(r.gridLog, 1, LogCol::Notes), "Pick 4 'Ale Yeast'");
     EXPECT_EQ(Browse(r.gridLog, 1, LogCol::Date), "nothing");
+    Put(r.gridLog, 1, LogCol::Notes, " Ale Yeast   - clean");
+    EXPECT_EQ(Browse(r.gridLog, 1, LogCol::Notes), "Pick 4 'Ale Yeast'");
 }
 
 TEST_F(PickerTest, SeveralSelectedCellsAskNothing) {

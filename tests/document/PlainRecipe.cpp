@@ -25,6 +25,21 @@ bool IsFermentable(const std::string& grid) {
     return grid == "gridGrain" || grid == "gridExtract";
 }
 
+bool IsFreeText(const std::string& box) {
+    return box == "txtName" || box == "txtNotes" || box == "txtNumBatches";
+}
+
+// The columns that take a quantity, a form or a number; all others take any text.
+bool IsQuantity(const std::string& grid, int col) {
+    if (grid == "gridAdjuncts" || grid == "gridLog") return false;
+    if (grid == "gridWater") return col > 1;
+    return grid == "gridPressure" || col > 0;
+}
+
+bool IsBlanks(const std::string& text) {
+    return text.find_first_not_of(' ') == std::string::npos;
+}
+
 }  // namespace
 
 PlainRecipe::PlainRecipe(const PlainCatalogue& catalogue, int hopForm, bool hopSock)
@@ -91,12 +106,13 @@ bool PlainRecipe::ReadBox(const std::string& box, const std::string& text, doubl
     return true;
 }
 
-PlainRecipe::Outcome PlainRecipe::Commit(const std::string& box, const std::string& text) {
+PlainRecipe::Outcome PlainRecipe::Commit(const std::string& box, const std::string& typed) {
+    const std::string text = IsBlanks(typed) && !IsFreeText(box) ? "" : typed;
     if (boxes[box].text == text) return Outcome::Done;
     bool chainRan = false;
     const Outcome outcome = Try([&] {
         double number = 0;
-        const bool freeText = box == "txtName" || box == "txtNotes" || box == "txtNumBatches";
+        const bool freeText = IsFreeText(box);
         if (!freeText && !ReadBox(box, text, number)) return false;
         boxes[box] = {text, number};
         chainRan = true;
@@ -192,7 +208,8 @@ bool PlainRecipe::ReadCell(const std::string& grid, int row, int col, const std:
     return true;
 }
 
-PlainRecipe::Outcome PlainRecipe::Edit(const std::string& grid, int row, int col, const std::string& text) {
+PlainRecipe::Outcome PlainRecipe::Edit(const std::string& grid, int row, int col, const std::string& typed) {
+    const std::string text = IsBlanks(typed) && IsQuantity(grid, col) ? "" : typed;
     const PlainCell old = rows[grid][static_cast<std::size_t>(row)][static_cast<std::size_t>(col)];
     if (old.text == text) return Outcome::Done;
     return Try([&] {
@@ -268,7 +285,7 @@ void PlainRecipe::Yeast(int row) {
     const PlainRow& line = rows["gridLog"][static_cast<std::size_t>(row)];
     if (Upper(Trim(line[1].text)) != "PITCHED YEAST") return;
     const std::string notes(Trim(line[2].text));
-    const auto found = catalogue_.yeasts.find(notes.substr(0, notes.find(" - ")));
+    const auto found = catalogue_.yeasts.find(std::string(Trim(notes.substr(0, notes.find(" - ")))));
     if (found == catalogue_.yeasts.end() || !found->second || boxes["txtOG"].text.empty()) return;
     const double att = *found->second / 100;
     const double oe = SGToPlato(boxes["txtOG"].number);
