@@ -1,24 +1,34 @@
 #include "document/EditRecorder.h"
 
+#include <utility>
+
 namespace tw {
 
 void EditRecorder::Clear() {
     stack_.Clear();
-    compoundHead_ = compoundTail_ = nullptr;
+    EndCompoundEdit();
     changed_();
 }
 
 void EditRecorder::PutBackRedo(std::vector<EditTracker> edits) {
+    if (edits.empty()) return;
     stack_.PutBackRedo(std::move(edits));
     changed_();
 }
 
 EditTracker* EditRecorder::Store(EditTracker edit) {
-    if (compoundHead_) {
-        edit.SetTabNumber(-1);
-        compoundTail_ = compoundTail_->AddNext(std::move(edit));
-        return compoundTail_;
+    if (awaitedHead_) {
+        EditTracker head;
+        head.SetChangeType(*std::exchange(awaitedHead_, std::nullopt));
+        BeginCompoundBehind(StoreStep(std::move(head)));
     }
+    if (!compoundHead_) return StoreStep(std::move(edit));
+    edit.SetTabNumber(-1);
+    compoundTail_ = compoundTail_->AddNext(std::move(edit));
+    return compoundTail_;
+}
+
+EditTracker* EditRecorder::StoreStep(EditTracker edit) {
     edit.SetTabNumber(tab_);
     EditTracker* const stored = stack_.AddToStack(std::move(edit));
     changed_();
@@ -39,24 +49,19 @@ EditTracker* EditRecorder::RecordEdit(const std::string& controlName, EditValue 
 }
 
 bool EditRecorder::BeginCompoundEdit(ChangeType type) {
-    if (!trackEdits_) return false;
-    EditTracker head;
-    head.SetChangeType(type);
-    if (compoundHead_) {
-        // A head within a compound applies nothing and only hangs in the chain.
-        Store(std::move(head));
-        return false;
-    }
-    return BeginCompoundBehind(Store(std::move(head)));
+    if (!trackEdits_ || InCompound()) return false;
+    awaitedHead_ = type;
+    return true;
 }
 
 bool EditRecorder::BeginCompoundBehind(EditTracker* head) {
-    if (!head || compoundHead_) return false;
+    if (!head || InCompound()) return false;
     compoundHead_ = compoundTail_ = head;
     return true;
 }
 
 void EditRecorder::EndCompoundEdit() {
+    awaitedHead_.reset();
     compoundHead_ = compoundTail_ = nullptr;
 }
 

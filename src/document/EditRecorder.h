@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,7 @@ class EditRecorder {
     UndoStack& Stack() { return stack_; }
     const UndoStack& Stack() const { return stack_; }
     void Clear();
-    // Puts back what could be redone; what can be redone now is forgotten.
+    // Puts back what could be redone, if anything; what can be redone now is forgotten then.
     void PutBackRedo(std::vector<EditTracker> edits);
 
     // Off while a document is filled and while an undo or redo runs: nothing is recorded then.
@@ -41,21 +42,25 @@ class EditRecorder {
     // controlName must stay where it is. Inside a compound the edit hangs behind its head.
     EditTracker* RecordEdit(const std::string& controlName, EditValue oldValue, EditValue newValue,
                             const Edit& edit);
-    // Opens a compound whose name is that of the type, unless one is open; true when this call opened it.
+    // Opens a compound whose name is that of the type, unless one is open; true when this call opened it. Its
+    // head comes with its first edit, so that a compound without edits is no step and leaves what can be
+    // redone.
     bool BeginCompoundEdit(ChangeType type);
     // A record that has just been made becomes the head of a compound, unless one is open; true when it did.
     bool BeginCompoundBehind(EditTracker* head);
     // REQUIRES: the matching Begin gave true.
     void EndCompoundEdit();
-    bool InCompound() const { return compoundHead_ != nullptr; }
+    bool InCompound() const { return compoundHead_ || awaitedHead_; }
 
     EditTracker* RecordGridCell(const Grid& grid, int row, int col, EditValue oldValue, EditValue newValue);
 
   private:
     EditTracker* Store(EditTracker edit);
+    EditTracker* StoreStep(EditTracker edit);
 
     std::function<void()> changed_;
     UndoStack stack_;
+    std::optional<ChangeType> awaitedHead_;  // of an open compound without an edit yet
     EditTracker* compoundHead_ = nullptr;
     EditTracker* compoundTail_ = nullptr;
     int tab_ = 0;

@@ -346,6 +346,7 @@ class RecipeDocument {
     void ApplyToTextBox(TextBox& box, const EditTracker& edit, bool undo);
     // Runs changes as one step of the history, or as part of the step that is open; when one raises, the
     // whole step is taken back and the error goes on.
+    void ApplyToStyle(std::int64_t id);
     void AsOneStep(ChangeType type, const std::function<void()>& changes);
     void ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo);
     void ApplyToCell(Grid& grid, int row, int col, const EditValue& value);

@@ -101,22 +101,24 @@ void RecipeDocument::ClearFactors(int row) {
 }
 
 void RecipeDocument::AsOneStep(ChangeType type, const std::function<void()>& changes) {
-    if (recorder_.InCompound()) {
-        const CompoundEdit compound(recorder_, type);
-        changes();
-        return;
-    }
+    if (!recorder_.Tracking() || recorder_.InCompound()) return changes();
     const bool changedBefore = changed_;
-    std::vector<EditTracker> redo = recorder_.Stack().TakeRedo();
+    UndoStack& stack = recorder_.Stack();
+    std::vector<EditTracker> redo = stack.TakeRedo();
+    const std::size_t before = stack.StackPosition();
     try {
         const CompoundEdit compound(recorder_, type);
         changes();
     } catch (const Error&) {
-        Quietly([this] { return ApplyStep(recorder_.Stack().StepBack(), true); });
+        if (stack.StackPosition() > before) Quietly([&] { return ApplyStep(stack.StepBack(), true); });
+        stack.DropRedo();
         recorder_.PutBackRedo(std::move(redo));
+        RefreshUndoCommands();
         if (!changedBefore) ClearChanged();
         throw;
     }
+    // Without an edit there is no step, and nothing is lost.
+    if (stack.StackPosition() == before) recorder_.PutBackRedo(std::move(redo));
 }
 
 // What is being typed in a text box is the next step back itself: committing it first would only ask about an
@@ -155,7 +157,6 @@ bool RecipeDocument::ApplyStep(const EditTracker* head, bool undo) {
         throw;
     }
     finish();
-    MarkChanged();
     return true;
 }
 
@@ -176,8 +177,7 @@ void RecipeDocument::ApplyEdit(const EditTracker& edit, bool undo) {
             if (TextBox* const box = record_.FindTextBox(name)) ApplyToTextBox(*box, edit, undo);
             break;
         case ControlType::ComboBox:
-            // The water that came with the style has records of its own.
-            SetStyleID(static_cast<std::int64_t>(value.AsNumber()));
+            ApplyToStyle(static_cast<std::int64_t>(value.AsNumber()));
             break;
         case ControlType::OptionGroup:
             ChooseOption(value.AsText());
@@ -189,6 +189,13 @@ void RecipeDocument::ApplyEdit(const EditTracker& edit, bool undo) {
         case ControlType::None:
             break;
     }
+}
+
+// The water that came with the style has records of its own.
+void RecipeDocument::ApplyToStyle(std::int64_t id) {
+    const std::int64_t before = styleId_;
+    SetStyleID(id);
+    if (styleId_ != before) MarkChanged();
 }
 
 void RecipeDocument::ApplyToTextBox(TextBox& box, const EditTracker& edit, bool undo) {
@@ -203,7 +210,10 @@ void RecipeDocument::ApplyToTextBox(TextBox& box, const EditTracker& edit, bool 
         const bool differs = !committed || number != box.Value();
         box.SetCommitted(box.Text());
         box.SetValue(number);
-        if (differs) Quietly([&] { return RunFieldChain(box); });
+        if (differs) {
+            MarkChanged();
+            Quietly([&] { return RunFieldChain(box); });
+        }
     } else if (!Quietly([&] { return CommitField(box, true); })) {
         // A text that was refused when it was typed comes back as it was: shown, not committed.
         SetText(box, value.AsText());
@@ -224,6 +234,7 @@ void RecipeDocument::ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo)
             break;
         case ChangeType::Sort:
             OrderGrid(grid, value.AsOrder(), edit.Col());
+            MarkChanged();
             break;
         default: {
             ApplyToCell(grid, edit.Row(), edit.Col(), value);
@@ -237,6 +248,7 @@ void RecipeDocument::ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo)
 
 void RecipeDocument::ApplyToCell(Grid& grid, int row, int col, const EditValue& value) {
     if (!grid.HasCell(row, col)) return;
+    const Cell before = grid.At(row, col);
     if (grid.IsCheckBox(row, col)) {
         grid.SetChecked(row, col, value.AsBoolean());
         if (&grid == &record_.gridHops && col == HopCol::DryHopped && !value.AsBoolean())
@@ -248,6 +260,7 @@ void RecipeDocument::ApplyToCell(Grid& grid, int row, int col, const EditValue& 
         grid.SetValue(row, col, number ? *number : ReadCell(grid, row, col, value.AsText()));
         grid.SetText(row, col, value.AsText());
     }
+    if (grid.At(row, col) != before) MarkChanged();
     // Without look-ups: what they filled in has records of its own.
     RecalculateGrid(grid, row);
 }
@@ -259,6 +272,7 @@ void RecipeDocument::ApplyRowInsert(Grid& grid, const EditTracker& edit, bool in
             appended ? grid.EndOfData() : std::clamp(edit.Row(), Grid::FixedRows(), grid.EndOfData());
         AddBlankRow(grid, row);
         grid.SetCurrent(row, grid.CurrentCol());
+        MarkChanged();
         RefreshRowCommands();
         return;
     }
@@ -278,6 +292,7 @@ void RecipeDocument::ApplyRowDelete(Grid& grid, int row, bool remove) {
     const int at = std::clamp(row, Grid::FixedRows(), grid.EndOfData());
     grid.InsertRow(at);
     grid.SetCurrent(at, grid.CurrentCol());
+    MarkChanged();
     RefreshRowCommands();
 }
 

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "values/NumberText.h"
+#include "values/Text.h"
 
 namespace tw::test {
 namespace {
@@ -32,7 +33,9 @@ void AddValue(const CellValue& value, bool computed, std::string& text) {
 void AddBoxes(const RecipeRecord& r, DocumentState& state) {
     for (const TextBox* box : r.TextBoxes()) {
         const std::string line = box->Name() + "=" + box->Text();
-        if (!box->Computed()) state.entered += line + "\n";
+        // Blanks alone that have not been left yet stand for the empty text.
+        const bool blank = !IsFreeText(r, *box) && IsBlank(box->Text());
+        if (!box->Computed()) state.entered += (blank ? box->Name() + "=" : line) + "\n";
         state.all += line;
         if (!box->Empty() || !box->Computed()) {
             state.all += "|";

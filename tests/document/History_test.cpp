@@ -342,5 +342,141 @@ TEST_F(HistoryTest, AStepMarksTheDocumentChanged) {
     EXPECT_FALSE(document->Changed());
 }
 
+// Commands that end without an edit.
+
+TEST_F(HistoryTest, ACommandThatChangesNothingIsNoStep) {
+    Grid& grain = R().gridGrain;
+    document->InsertRowForGrid(R().gridLog);
+    Put(R().gridLog, 1, LogCol::Date, "3/9/2024");
+    Put(grain, 1, GrainCol::Name, "Pale Malt");
+    Put(grain, 1, GrainCol::Amount, "8");
+    SaveAs("A");
+    Put(grain, 1, GrainCol::Color, "4");
+    ASSERT_TRUE(document->Undo());
+    SaveAs("A");
+    const std::function<void()> commands[] = {
+        [&] { document->Clear(); },
+        [&] { document->Cut(); },
+        [&] {
+            document->SetCurrentCell(grain, 1, GrainCol::Amount);
+            platform.clipboard.text = "8";
+            document->Paste();
+        },
+        [&] { document->ChangeGrain("Pale Malt"); },
+        [&] {
+            document->PickLogDate({2024, 3, 9});
+        },
+        [&] {
+            document->FocusOn(R().txtNotes);
+            document->Clear();
+            document->Cut();
+        },
+    };
+    for (const auto& command : commands) {
+        document->FocusOn(grain);
+        document->SetCurrentCell(grain, 1, GrainCol::Points);
+        command();
+        EXPECT_FALSE(History().CanUndo());
+        EXPECT_FALSE(host.IsOn("EnableUndo"));
+        EXPECT_FALSE(document->Changed());
+    }
+}
+
+TEST_F(HistoryTest, ACommandThatChangesNothingLeavesWhatCanBeRedone) {
+    Put(R().gridGrain, 1, GrainCol::Amount, "8");
+    ASSERT_TRUE(document->Undo());
+    document->FocusOn(R().gridGrain);
+    document->Clear();
+    EXPECT_EQ(History().RedoType(), "Typing");
+    EXPECT_TRUE(host.IsOn("EnableRedo"));
+    ASSERT_TRUE(document->Redo());
+    EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Amount), "8");
+}
+
+// Typing joins what was typed before, since nothing came between.
+TEST_F(HistoryTest, ACommandThatChangesNothingDoesNotPartTheTyping) {
+    Set(R().txtName, "A");
+    R().txtName.Select({1, 0});
+    document->FocusOn(R().txtName);
+    document->Clear();
+    Set(R().txtName, "AB");
+    EXPECT_EQ(History().StackTop(), 1U);
+}
+
+// A fault in its first edit leaves nothing to take back.
+TEST_F(HistoryTest, AFaultBeforeTheFirstEditTakesNothingElseBack) {
+    Put(R().gridGrain, 1, GrainCol::Amount, "8");
+    database->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
+    EXPECT_THROW(document->ChangeGrain("Pale Malt"), Error);
+    database->SetStatementHook({});
+    EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Amount), "8");
+    EXPECT_EQ(History().StackTop(), 1U);
+    EXPECT_TRUE(document->Changed());
+}
+
+TEST_F(HistoryTest, TakingBackAnEntryThatWasNotLeftIsNoChange) {
+    Set(R().txtBoilVol, "6");
+    SaveAs("A");
+    document->FocusOn(R().txtBoilVol);
+    for (const char* text : {"7", "much"}) {
+        document->SetText(R().txtBoilVol, text);
+        ASSERT_TRUE(document->Undo());
+        EXPECT_EQ(R().txtBoilVol.Text(), "6");
+        EXPECT_FALSE(document->Changed());
+    }
+    // A refused entry that comes back is none either.
+    document->SetText(R().txtBoilVol, "much");
+    document->RestoreField(R().txtBoilVol);
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().txtBoilVol.Text(), "much");
+    ASSERT_TRUE(document->Redo());
+    EXPECT_FALSE(document->Changed());
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+TEST_F(HistoryTest, EveryStepThatMovesTheRecipeMarksIt) {
+    Grid& grain = R().gridGrain;
+    const std::function<void()> edits[] = {
+        [&] { Set(R().txtBoilVol, "6"); },
+        [&] { document->SetText(R().txtNotes, "x"); },
+        [&] { document->ChooseOption("optRager"); },
+        [&] { document->ChangeStyle("Lager"); },
+        [&] { Put(grain, 1, GrainCol::Amount, "8"); },
+        [&] { document->SetChecked(R().gridHops, 1, HopCol::DryHopped, true); },
+        [&] { document->InsertRowForGrid(grain); },
+        [&] {
+            // The blank row stands first already; the second click turns the order round.
+            document->ClickHeader(grain, GrainCol::Amount);
+            document->ClickHeader(grain, GrainCol::Amount);
+        },
+        [&] { document->DeleteRowForGrid(grain); },
+    };
+    for (const auto& edit : edits) {
+        SaveAs("A");
+        edit();
+        ASSERT_TRUE(History().CanUndo());
+        for (const bool undo : {true, false}) {
+            host.log.clear();
+            ASSERT_TRUE(undo ? document->Undo() : document->Redo());
+            EXPECT_THAT(host.log, testing::Contains("EnableSave on"));
+        }
+    }
+}
+
+// A style that went meanwhile does not come back by undo, and nothing has changed then.
+TEST_F(HistoryTest, AStyleThatIsGoneDoesNotComeBack) {
+    document->SetStyleID(kLager);
+    SaveAs("A");
+    document->ChangeStyle("(None)");
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().cmbStyle.Text(), "Lager");
+    ASSERT_TRUE(document->Redo());
+    database->Execute("DELETE FROM STYLES WHERE ID = 2");
+    document->NotifyStyleDeleted(kLager);
+    ASSERT_TRUE(document->Undo());
+    EXPECT_EQ(R().cmbStyle.Text(), "(None)");
+    EXPECT_EQ(document->StyleID(), 0);
+}
+
 }  // namespace
 }  // namespace tw::test

@@ -7,29 +7,31 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-const Texts kVolumes{"", "5", "5 gal", "6.5 gal.", "19 l", "2 1/2 gal", "0", "-1", "five", "1/0", "12 qt"};
-const Texts kPercents{"", "40", "40%", "72.5", "100", "0", "101", "lots", "1/0"};
-const Texts kGravities{"", "1.010", "1.012 SG", "3 P", "1.05", "0", "heavy", "1/0", "1"};
-const Texts kTemperatures{"", "68", "20 C", "38 F", "0", "212", "213", "warm", "1/0"};
-const Texts kMultipliers{"", "1", "1.0", "0.8", "0", "-1", "x", std::string(300, '9')};
-const Texts kPounds{"", "8", "8 lb", "2 lb 3 oz", "500 g", "0", "-1", "heavy", "1/0", std::string(308, '9')};
-const Texts kNumbers{"", "36", "36.5", "0", "2", "75", "-1", "x", std::string(200, '9')};
+const Texts kVolumes{"",  "5",  "5 gal", "6.5 gal.", "19 l",  "2 1/2 gal",
+                     "0", "-1", "five",  "1/0",      "12 qt", "  "};
+const Texts kPercents{"", "40", "40%", "72.5", "100", "0", "101", "lots", "1/0", " "};
+const Texts kGravities{"", "1.010", "1.012 SG", "3 P", "1.05", "0", "heavy", "1/0", "1", " "};
+const Texts kTemperatures{"", "68", "20 C", "38 F", "0", "212", "213", "warm", "1/0", "  "};
+const Texts kMultipliers{"", "1", "1.0", "0.8", "0", "-1", "x", " ", std::string(300, '9')};
+const Texts kPounds{"",      "8",   "8 lb", "2 lb 3 oz",          "500 g", "0", "-1",
+                    "heavy", "1/0", "  ",   std::string(308, '9')};
+const Texts kNumbers{"", "36", "36.5", "0", "2", "75", "-1", "x", " ", std::string(200, '9')};
 const Texts kHopAmounts{"",       "1",     "1 oz", "28 g", "4 AAU", "12 AAUs", "20 IBU",
-                        "31 BUs", "-1 oz", "much", "1/0",  "0 AAU", "1/2 oz"};
-const Texts kTimes{"", "60", "1:30", "1 HR", "45", "0", "15 min", "-5", "7 days", "1/0"};
-const Texts kForms{"", "Pellet", "plug", "LEAF", "Cone"};
-const Texts kPressures{"", "11", "11 psi", "0", "48", "50", "400", "-1", "hard", "1/0"};
-const Texts kGrams{"", "5", "5 grams", "1 oz", "0", "-1", "1/0", "pinch"};
-const Texts kOunces{"", "4", "4 oz", "113 g", "0", "-1", "1/0", "cup"};
-const Texts kPpm{"", "0", "7", "100", "98.5", "-1", "x", std::string(308, '9')};
-const Texts kFree{"", "x", "It's \"good\"", "007", "ä ß 麦芽", "a\r\nb", "%_;--", "Stout"};
+                        "31 BUs", "-1 oz", "much", "1/0",  "0 AAU", "1/2 oz",  "  "};
+const Texts kTimes{"", "60", "1:30", "1 HR", "45", "0", "15 min", "-5", "7 days", "1/0", "  "};
+const Texts kForms{"", "Pellet", "plug", "LEAF", "Cone", "  "};
+const Texts kPressures{"", "11", "11 psi", "0", "48", "50", "400", "-1", "hard", "1/0", "  "};
+const Texts kGrams{"", "5", "5 grams", "1 oz", "0", "-1", "1/0", "pinch", "  "};
+const Texts kOunces{"", "4", "4 oz", "113 g", "0", "-1", "1/0", "cup", "  "};
+const Texts kPpm{"", "0", "7", "100", "98.5", "-1", "x", std::string(308, '9'), "  "};
+const Texts kFree{"", "x", "It's \"good\"", "007", "ä ß 麦芽", "a\r\nb", "%_;--", "Stout", "  "};
 const Texts kGrainNames{"Pale Malt", "O'Brien's", "Half Known", "Syrup", "Nothing", ""};
 const Texts kHopNames{"Saaz", "Zeus", "Wild", "Nothing", ""};
 const Texts kSugarNames{"Corn Sugar", "Honey", "Riddle", "Nothing", ""};
 const Texts kWaterNames{"Burton", "Soft", "Nothing", ""};
 const Texts kSaltNames{"Gypsum", "Chalk", "Nothing", ""};
 const Texts kActions{"Pitched Yeast", " pitched yeast ", "Racked", ""};
-const Texts kLogNotes{"Ale", "Ale - Wyeast 1056", "Cook's - 1", "Stray", "Nobody", ""};
+const Texts kLogNotes{"Ale", "Ale - Wyeast 1056", "Cook's - 1", "Stray", "Nobody", "", "Ale  - dry"};
 const Texts kChecks{"Yes", "No", "", "1", "0", "x"};
 
 // What may be typed into each column of each grid; read-only columns have a text as well, for pastes over
@@ -82,6 +84,10 @@ const std::string& RandomEditor::TextFor(const Grid& grid, int col) {
 void RandomEditor::Recorded(PlainHistory::Step step) {
     history_.Add(std::move(step));
     Settle();
+}
+
+void RandomEditor::RecordedIfChanged(const DocumentState& before, PlainHistory::Step step) {
+    if (before != StateOf(*document, host)) Recorded(std::move(step));
 }
 
 // The present point is what the document is now.
@@ -185,7 +191,15 @@ bool RandomEditor::Leave(const std::function<void()>& enter) {
         EXPECT_FALSE(fault) << Trace();
         return !fault;
     }
-    if (pending->Text() == typed) {
+    if (typed != pending->Text() && IsBlank(typed)) {
+        // Blanks alone are the empty text.
+        EXPECT_EQ(pending->Text() + pending->Committed(), "") << Trace();
+        EXPECT_FALSE(fault) << Trace();
+        if (!history_.Type(pending->Name(), typed, "", tab))
+            Settle();
+        else if (!history_.Now().open)
+            CheckPoint("blanks left");
+    } else if (pending->Text() == typed) {
         EXPECT_EQ(pending->Committed(), typed) << Trace();
         EXPECT_FALSE(fault) << Trace();
         Settle();
@@ -274,6 +288,7 @@ void RandomEditor::CutOrPasteInBox() {
     TextBox& box = *R().FindTextBox(name);
     if (PendingBox(*document) != &box && !Leave([&] { document->FocusOn(box); })) return;
     document->FocusOn(box);
+    const DocumentState before = StateOf(*document, host);
     if (Chance(30))
         document->SelectAll();
     else
@@ -284,8 +299,7 @@ void RandomEditor::CutOrPasteInBox() {
     if (which == 0) document->Cut();
     if (which == 1) document->Clear();
     if (which == 2) document->Paste();
-    if (box.Computed()) return;
-    Recorded({which == 0 ? "Cut" : which == 1 ? "Delete" : "Paste", TabNow()});
+    RecordedIfChanged(before, {which == 0 ? "Cut" : which == 1 ? "Delete" : "Paste", TabNow()});
 }
 
 // Cells.

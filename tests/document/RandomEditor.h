@@ -58,6 +58,8 @@ class RandomEditor : public DocumentTest {
         return Leave([&] { document->FocusOn(grid); });
     }
     void Recorded(PlainHistory::Step step);
+    // A command that changes nothing is no step.
+    void RecordedIfChanged(const DocumentState& before, PlainHistory::Step step);
     void Settle();
     void CheckHistory();
     void CheckPoint(const std::string& what);

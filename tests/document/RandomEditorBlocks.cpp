@@ -5,7 +5,7 @@
 
 namespace tw::test {
 
-// Blocks of cells. Each command is one step, also where it changes no cell; a fault takes all of it back.
+// Blocks of cells. Each command that changes a cell is one step; a fault takes all of it back.
 
 template <class Edit>
 void RandomEditor::Compound(const std::string& name, Edit edit) {
@@ -14,7 +14,7 @@ void RandomEditor::Compound(const std::string& name, Edit edit) {
     if (fault)
         ASSERT_EQ(Differences(before.all, StateOf(*document, host).all), "") << Trace();
     else
-        Recorded({name, TabNow()});
+        RecordedIfChanged(before, {name, TabNow()});
 }
 
 void RandomEditor::ClearOrCutCells() {
@@ -80,7 +80,7 @@ void RandomEditor::PasteCells() {
             Log{"[Paste Failed] The clipboard contains data which are not valid entries for this grid"});
         refused = true;
     }
-    if (!fault && !refused) return Recorded({"Paste", TabNow()});
+    if (!fault && !refused) return RecordedIfChanged(before, {"Paste", TabNow()});
     ASSERT_EQ(Differences(before.all, StateOf(*document, host).all), "") << Trace();
 }
 
@@ -107,9 +107,9 @@ void RandomEditor::PickDate() {
     Grid& log = R().gridLog;
     Note("date");
     if (!Enter(log)) return;
-    const bool onRow = log.IsDataRow(log.CurrentRow());
+    const DocumentState before = StateOf(*document, host);
     document->PickLogDate({2024, 1 + Below(12), 1 + Below(28), 0, 0, 0});
-    if (onRow) Recorded({"Selection", TabNow()});
+    RecordedIfChanged(before, {"Selection", TabNow()});
 }
 
 }  // namespace tw::test

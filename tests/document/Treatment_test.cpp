@@ -85,18 +85,13 @@ TEST_F(TreatmentOf, TakesTheOldRowsAwayAndBringsThemBackInOneStep) {
     EXPECT_EQ(Differences(after.all, State().all), "");
 }
 
-TEST_F(TreatmentOf, IsOneStepAlsoWhereTheGridWasAndStaysEmpty) {
-    const auto steps = [&] {
-        int count = 0;
-        while (document->Undo()) ++count;
-        while (document->Redo()) continue;
-        return count;
-    };
-    const int before = steps();
+TEST_F(TreatmentOf, IsNoStepWhereTheGridWasAndStaysEmpty) {
+    const std::size_t steps = document->History().StackTop();
+    ASSERT_NE(host.undoName, "Calculation");
     document->CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
-    EXPECT_EQ(host.undoName, "Calculation");
-    EXPECT_EQ(steps(), before + 1);
+    EXPECT_NE(host.undoName, "Calculation");
+    EXPECT_EQ(document->History().StackTop(), steps);
 }
 
 TEST_F(TreatmentOf, NeedsATotalVolume) {
@@ -296,6 +291,7 @@ TEST_F(TreatmentOf, GoesBackAndForthOnRandomWaters) {
         ASSERT_EQ(Rows(), wanted) << round;
         rowsSeen += static_cast<int>(wanted.size());
         const DocumentState after = State();
+        if (after == before) continue;
         ASSERT_TRUE(document->Undo());
         ASSERT_EQ(Differences(before.all, State().all), "") << round;
         ASSERT_TRUE(document->Redo());
