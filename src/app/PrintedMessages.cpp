@@ -10,7 +10,7 @@ void PrintedMessages::ShowMessage(std::string_view title, std::string_view text)
 
 Answer PrintedMessages::Ask(std::string_view title, std::string_view text, Question kind) {
     ShowMessage(title, text);
-    return kind == Question::YesNo ? Answer::No : Answer::Cancel;
+    return ClosingAnswer(kind);
 }
 
 }  // namespace tw

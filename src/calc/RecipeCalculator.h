@@ -4,6 +4,8 @@
 // a failure; only carbonation can refuse, and only arithmetic (a zero denominator) raises.
 #pragma once
 
+#include <optional>
+
 #include "calc/BeerColor.h"
 #include "calc/RecipeRecord.h"
 
@@ -96,6 +98,9 @@ class RecipeCalculator {
     void ScaleGrainGrid(Grid& grid, double factor);
     void ScaleHopGrid(Grid& grid, double factor);
     void ScaleTreatmentGrid(Grid& grid, double factor);
+    // The final volume that another total volume leaves, as its box would show it; nothing while there is
+    // none.
+    std::optional<double> FinalVolumeFor(double newSize) const;
     // The volumes for another total volume; no chain runs. The boil volume follows if asked to.
     void ScaleVolumes(double newSize, std::string_view sizeText, bool scaleBoilVol);
     // Points, colour, gravity and all that follows from them, after the fermentables have other amounts.

@@ -63,18 +63,26 @@ void RecipeCalculator::ScaleTreatmentGrid(Grid& grid, double factor) {
     }
 }
 
+std::optional<double> RecipeCalculator::FinalVolumeFor(double newSize) const {
+    if (r_.txtFinalVol.Empty()) return std::nullopt;
+    const double oldSize = r_.txtTotalVol.Value(), oldFinal = r_.txtFinalVol.Value();
+    if (oldFinal == oldSize) return newSize;
+    // What was lost between the two goes on top of the new size, so that the final volume becomes the larger
+    // one: intended.
+    double volume = Finite(newSize + oldSize - oldFinal);
+    FormatQuantity(volume, kDisplayDecimals);
+    return volume;
+}
+
 void RecipeCalculator::ScaleVolumes(double newSize, std::string_view sizeText, bool scaleBoilVol) {
     const double oldSize = r_.txtTotalVol.Value();
     if (scaleBoilVol && !r_.txtBoilVol.Empty())
         PutRoundedVolume(r_.txtBoilVol, Finite(r_.txtBoilVol.Value() * Divide(newSize, oldSize)));
-    if (!r_.txtFinalVol.Empty()) {
-        const double finalVolume = r_.txtFinalVol.Value();
-        // What was lost between the two goes on top of the new size, so that the final volume becomes the
-        // larger one: intended.
-        if (finalVolume == oldSize)
+    if (const std::optional<double> finalVolume = FinalVolumeFor(newSize)) {
+        if (r_.txtFinalVol.Value() == oldSize)
             PutVolume(r_.txtFinalVol, newSize, sizeText);
         else
-            PutRoundedVolume(r_.txtFinalVol, Finite(newSize + oldSize - finalVolume));
+            PutRoundedVolume(r_.txtFinalVol, *finalVolume);
     }
     PutVolume(r_.txtTotalVol, newSize, sizeText);
 }

@@ -14,8 +14,8 @@ std::string BoxLine(std::string_view title, std::string_view text) {
 
 // What a word answers; nothing for a word that is no button of the box.
 std::optional<Answer> AnswerOf(std::string_view word, Question kind) {
-    if (word == "Close") return kind == Question::YesNo ? Answer::No : Answer::Cancel;
-    if (word == "Cancel" && kind != Question::YesNo) return Answer::Cancel;
+    if (word == "Close") return ClosingAnswer(kind);
+    if (word == "Cancel" && ClosingAnswer(kind) == Answer::Cancel) return Answer::Cancel;
     if (word == "OK" && kind == Question::OkCancel) return Answer::Ok;
     if (word == "Yes" && kind != Question::OkCancel) return Answer::Yes;
     if (word == "No" && kind != Question::OkCancel) return Answer::No;

@@ -205,10 +205,13 @@ class RecipeDocument {
     // Behind one that went through the history is empty. They raise for an arithmetic fault; all is as before
     // then.
     //
-    // Another total volume in gallons, shown as sizeText; the amounts follow, and the carbonation is held,
-    // about which it asks again. The boil volume follows only if asked to, and the hops keep the bitterness
-    // only if asked to. Nothing while the total volume is 0.
+    // Another total volume in gallons, shown as sizeText; the amounts follow. Whether the carbonation is held
+    // is asked too. A size that RefusalOfSize refuses shows its box. The boil volume follows only if asked
+    // to, and the hops keep the bitterness only if asked to. Nothing while the total volume is 0.
     void ScaleRecipe(double newSize, std::string_view sizeText, bool scaleBoilVol, bool preserveIBU);
+    // Why the recipe cannot be resized to that many gallons, as the text of a box: no final volume would be
+    // left. Empty when it can.
+    std::string RefusalOfSize(double newSize) const;
     // Another original gravity by other amounts of grain and extract. Nothing while the gravity is 1.
     void ScaleOG(double newOG, bool preserveIBU);
     // Another bitterness by other amounts of hops. Nothing while the bitterness is 0.
@@ -343,10 +346,10 @@ class RecipeDocument {
     bool ApplyStep(const EditTracker* head, bool undo);
     void ApplyEdit(const EditTracker& edit, bool undo);
     void WantTab(int tab);
+    void ApplyToStyle(std::int64_t id);
     void ApplyToTextBox(TextBox& box, const EditTracker& edit, bool undo);
     // Runs changes as one step of the history, or as part of the step that is open; when one raises, the
     // whole step is taken back and the error goes on.
-    void ApplyToStyle(std::int64_t id);
     void AsOneStep(ChangeType type, const std::function<void()>& changes);
     void ApplyToGrid(Grid& grid, const EditTracker& edit, bool undo);
     void ApplyToCell(Grid& grid, int row, int col, const EditValue& value);
@@ -363,6 +366,7 @@ class RecipeDocument {
     void ClearTreatment();
     // Scaling (RecipeDocumentScaling.cpp).
     bool MayChangeForGood();
+    bool MayKeepCarbonation();
     void ChangeForGood(const std::function<bool()>& change);
     bool Resize(double newSize, std::string_view sizeText, bool scaleBoilVol, double volumes);
     bool KeepBitterness(double ibu);

@@ -2,6 +2,8 @@
 #include "document/CannotUndo.h"
 #include "document/RecipeDocument.h"
 #include "document/RecordBackup.h"
+#include "values/NumberText.h"
+#include "values/ParserValidater.h"
 
 namespace tw {
 
@@ -13,24 +15,46 @@ bool RecipeDocument::MayChangeForGood() {
 void RecipeDocument::ChangeForGood(const std::function<bool()>& change) {
     const RedrawHold hold(view_);
     const RecordBackup before(record_);
+    bool ended = false;
     try {
-        if (!change()) return;
+        ended = change();
     } catch (...) {
         before.Restore(record_);
         calculator_.RefreshCommands();
         throw;
     }
-    MarkChanged();
-    recorder_.Clear();
+    // A change that stopped on the way keeps the history, but what it has moved is not stored.
+    if (ended || before.TextsChanged(record_)) MarkChanged();
+    if (ended) recorder_.Clear();
+}
+
+bool RecipeDocument::MayKeepCarbonation() {
+    if (!host_.AskBeforeNonUndoableChange()) return true;
+    return platform_.messages.Ask("Keep the Carbonation?",
+                                  "Keep the carbonation of " + record_.txtCO2.Text() +
+                                      "?\r\nYes changes the priming sugar or the pressure with the size; "
+                                      "No leaves them as they are.",
+                                  Question::YesIsUsual) == Answer::Yes;
+}
+
+std::string RecipeDocument::RefusalOfSize(double newSize) const {
+    if (record_.txtTotalVol.Value() == 0) return {};
+    std::optional<double> volume = calculator_.FinalVolumeFor(newSize);
+    if (!volume || *volume > 0) return {};
+    return "The final volume would be " + FormatQuantity(*volume, 0) + " gal. Please enter a larger size.";
 }
 
 void RecipeDocument::ScaleRecipe(double newSize, std::string_view sizeText, bool scaleBoilVol,
                                  bool preserveIBU) {
+    if (const std::string refusal = RefusalOfSize(newSize); !refusal.empty()) {
+        platform_.messages.ShowMessage(kInvalidEntry, refusal);
+        return;
+    }
     if (!MayChangeForGood() || record_.txtTotalVol.Value() == 0) return;
     const double oldIBU = record_.txtIBU.Value();
     const double oldCO2 = calculator_.CO2Volumes();
     // Asked before anything changes, so that neither the window nor an autosave meets a recipe halfway.
-    const bool carbonate = oldCO2 > 0 && MayChangeForGood();
+    const bool carbonate = oldCO2 > 0 && MayKeepCarbonation();
     ChangeForGood([&] {
         const bool carbonated = Resize(newSize, sizeText, scaleBoilVol, carbonate ? oldCO2 : 0);
         return !preserveIBU || KeepBitterness(oldIBU) || carbonated;
@@ -57,8 +81,8 @@ bool RecipeDocument::Resize(double newSize, std::string_view sizeText, bool scal
     return carbonated;
 }
 
-// False when no bitterness is left to scale from: the recipe has changed then, but neither counts as changed
-// nor loses its history by that, as designed.
+// False when no bitterness is left to scale from: the recipe has changed then, but does not lose its history
+// by that, as designed.
 bool RecipeDocument::KeepBitterness(double ibu) {
     const double now = record_.txtIBU.Value();
     if (now == ibu) return true;

@@ -1,5 +1,7 @@
 #include "document/RecordBackup.h"
 
+#include <algorithm>
+
 namespace tw {
 
 RecordBackup::RecordBackup(const RecipeRecord& record) : swatch_(record.Swatch()) {
@@ -24,6 +26,17 @@ void RecordBackup::Restore(RecipeRecord& record) const {
     auto enabled = buttons_.begin();
     for (Button* const button : record.Buttons()) button->SetEnabled(*enabled++);
     record.SetSwatch(swatch_);
+}
+
+bool RecordBackup::TextsChanged(const RecipeRecord& record) const {
+    auto box = boxes_.begin();
+    for (const TextBox* const now : record.TextBoxes())
+        if (now->Text() != (box++)->text) return true;
+    auto row = rows_.begin();
+    for (const Grid* const grid : record.Grids())
+        for (int i = 0; i < grid->Rows(); ++i, ++row)
+            if (!std::ranges::equal(grid->CellsOf(i), *row, {}, &Cell::text, &Cell::text)) return true;
+    return false;
 }
 
 }  // namespace tw

@@ -14,6 +14,8 @@ class RecordBackup {
     explicit RecordBackup(const RecipeRecord& record);
     // REQUIRES: no grid has got or lost a row since.
     void Restore(RecipeRecord& record) const;
+    // True when a box or a cell shows another text now. REQUIRES: as Restore.
+    bool TextsChanged(const RecipeRecord& record) const;
 
   private:
     struct Box {

@@ -76,6 +76,7 @@ bool ScalingModel::SetControl(std::string_view name, std::string_view text) {
 }
 
 bool ScalingModel::LeaveBox() {
+    if (IsBlank(entry_)) entry_.clear();
     return entry_ == goodText_ || Check();
 }
 
@@ -99,7 +100,7 @@ bool ScalingModel::Check() {
 bool ScalingModel::Accepts(double& value) {
     switch (what_) {
         case Scaling::Size:
-            return ValidateVolume(entry_, value, &messages_);
+            return ValidateVolume(entry_, value, &messages_) && AcceptsSize(value);
         case Scaling::Strength:
             return ValidateGravity(entry_, value, &messages_) &&
                    (value >= 1 || Refuse("Gravity cannot be less than 1.0 (0 deg. Plato)"));
@@ -112,6 +113,11 @@ bool ScalingModel::Accepts(double& value) {
     }
     const bool understood = ParseCO2Volumes(entry_, value);
     return AcceptsNumber(understood, value, "carbonation");
+}
+
+bool ScalingModel::AcceptsSize(double gallons) {
+    const std::string refusal = refusal_ && gallons > 0 ? refusal_(gallons) : std::string();
+    return refusal.empty() || Refuse(refusal);
 }
 
 bool ScalingModel::AcceptsNumber(bool understood, double value, std::string_view kind) {

@@ -2,9 +2,11 @@
 // frmChangeCO2. Each shows the present figure and takes the new one.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/DialogModel.h"
@@ -22,6 +24,9 @@ class ScalingModel final : public DialogModel {
     // current: the present figure as the recipe shows it. messages must outlive the dialog.
     ScalingModel(Scaling what, std::string current, MessagePort& messages);
 
+    // What a new size is asked about after it has been read: the text of a refusal, empty for none.
+    void SetSizeCheck(std::function<std::string(double gallons)> refusal) { refusal_ = std::move(refusal); }
+
     Scaling What() const { return what_; }
     const std::string& Current() const { return current_; }
     // The names of the label with the present figure and of the entry box, such as "lblCurSize".
@@ -30,7 +35,8 @@ class ScalingModel final : public DialogModel {
     // What the entry box shows.
     const std::string& Entry() const { return entry_; }
     // The box loses the focus. A bad entry has had its message: the last good text stands there again, and
-    // the focus goes back; false then. A text that was found good before is not looked at again.
+    // the focus goes back; false then. Blanks alone are an empty box. An empty box that was left untouched,
+    // and a text that was found good before, are not looked at again.
     bool LeaveBox();
 
     // True until OKButton has accepted the entry. The results below stand then.
@@ -55,6 +61,7 @@ class ScalingModel final : public DialogModel {
     bool* CheckNamed(std::string_view name);
     bool Check();
     bool Accepts(double& value);
+    bool AcceptsSize(double gallons);
     bool AcceptsNumber(bool understood, double value, std::string_view kind);
     bool Refuse(std::string_view message);
     void Ok();
@@ -62,6 +69,7 @@ class ScalingModel final : public DialogModel {
     Scaling what_;
     std::string current_;
     MessagePort& messages_;
+    std::function<std::string(double)> refusal_;
     std::string entry_;
     std::string goodText_;
     double value_ = 0;

@@ -14,7 +14,13 @@ namespace tw {
 class DialogModel;
 
 enum class Answer { Ok, Yes, No, Cancel };
-enum class Question { YesNo, YesNoCancel, OkCancel };
+// YesIsUsual is a YesNo whose Enter key says Yes: neither answer deletes or overwrites anything.
+enum class Question { YesNo, YesIsUsual, YesNoCancel, OkCancel };
+
+// What closing the box of a question by any other way answers.
+inline Answer ClosingAnswer(Question kind) {
+    return kind == Question::YesNo || kind == Question::YesIsUsual ? Answer::No : Answer::Cancel;
+}
 
 // Message boxes. Each call returns when the user has closed the box.
 class MessagePort {
@@ -28,7 +34,7 @@ class MessagePort {
                                        std::string_view /*advice*/) {
         ShowMessage(title, text);
     }
-    // A box with a choice. Closing it by any other way answers No (YesNo) or Cancel (the others).
+    // A box with a choice. Closing it by any other way gives the ClosingAnswer.
     virtual Answer Ask(std::string_view title, std::string_view text, Question kind) = 0;
     // The system's beep.
     virtual void Beep() = 0;

@@ -182,6 +182,7 @@ void Shell::ShowScaling(Scaling what) {
     const std::optional<std::string> current = CurrentFigure(document, what);
     if (!current) return;
     ScalingModel dialog(what, *current, platform_.messages);
+    dialog.SetSizeCheck([&document](double gallons) { return document.RefusalOfSize(gallons); });
     platform_.dialogs.ShowModal(dialog);
     if (!dialog.Cancelled()) Scale(document, dialog);
 }

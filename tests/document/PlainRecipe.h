@@ -55,7 +55,8 @@ class PlainRecipe {
     void InsertRow(const std::string& grid, int row);
     Outcome DeleteRow(const std::string& grid, int row);
     // Scaling (PlainScaling.cpp); Refused is a stop on the way, which may have changed something. carbonate
-    // is the answer to the question about the carbonation.
+    // is the answer to the question about the carbonation. A final volume of nothing refuses a resize before
+    // anything changes.
     Outcome Resize(double size, const std::string& text, bool boil, bool keepIbu, bool carbonate);
     Outcome ChangeOG(double og, bool keepIbu);
     Outcome ChangeIBU(double ibu);
@@ -108,6 +109,7 @@ class PlainRecipe {
 
     template <class Change>
     Outcome TryForGood(Change change);
+    std::string AllTexts() const;
     static void Amount(PlainCell& cell, double number, int decimals, const std::string& unit);
     void Amounts(const std::string& grid, double factor);
     void AllFermentables();

@@ -10,16 +10,26 @@ namespace tw::test {
 template <class Change>
 PlainRecipe::Outcome PlainRecipe::TryForGood(Change change) {
     const auto before = std::make_tuple(boxes, rows, totals, residual, buttons, commands);
+    const std::string texts = AllTexts();
     try {
         // A stop on the way leaves what has been done so far.
-        if (!change()) return Outcome::Refused;
-        changed = true;
-        return Outcome::Done;
+        const bool ended = change();
+        if (ended || AllTexts() != texts) changed = true;
+        return ended ? Outcome::Done : Outcome::Refused;
     } catch (const Fault&) {
     } catch (const Error&) {
     }
     std::tie(boxes, rows, totals, residual, buttons, commands) = before;
     return Outcome::Raised;
+}
+
+std::string PlainRecipe::AllTexts() const {
+    std::string texts;
+    for (const auto& [name, box] : boxes) texts += box.text + "\n";
+    for (const auto& [name, lines] : rows)
+        for (const PlainRow& row : lines)
+            for (const PlainCell& cell : row) texts += cell.text + "\n";
+    return texts;
 }
 
 void PlainRecipe::Amount(PlainCell& cell, double number, int decimals, const std::string& unit) {
@@ -68,6 +78,12 @@ PlainRecipe::Outcome PlainRecipe::Resize(double size, const std::string& text, b
     return TryForGood([&] {
         const double oldSize = boxes["txtTotalVol"].number;
         if (oldSize == 0) return false;
+        const PlainBox& oldFinal = boxes["txtFinalVol"];
+        if (!oldFinal.text.empty() && oldFinal.number != oldSize) {
+            double left = Sound(size + oldSize - oldFinal.number);
+            FormatQuantity(left, 0);
+            if (left <= 0) return false;
+        }
         const double factor = Over(size, oldSize);
         const double oldIbu = boxes["txtIBU"].number;
         double volumes = 0;

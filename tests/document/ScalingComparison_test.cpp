@@ -113,7 +113,8 @@ void RandomScaling::ScaleDocument(int what, double value, bool first, bool secon
     host.askBefore = what == 0 && !third;
     platform.dialogs.scripts.clear();
     platform.dialogs.scripts.push_back([](DialogModel& dialog) { dialog.Press("cmdYes"); });
-    platform.dialogs.scripts.push_back([](DialogModel& dialog) { dialog.Press("cmdNo"); });
+    // The question about the carbonation.
+    platform.messages.answers = {Answer::No};
     if (what == 0)
         document->ScaleRecipe(value, "size " + std::to_string(value), first, second);
     else if (what == 1)

@@ -113,6 +113,26 @@ TEST_F(ScalingDialogs, StayOpenWhileTheBoxIsEmpty) {
         }
 }
 
+TEST_F(ScalingDialogs, BlanksAloneAreAnEmptyBox) {
+    for (const Scaling what : {Scaling::Size, Scaling::Strength, Scaling::Bitterness, Scaling::Carbonation}) {
+        ScalingModel dialog(what, "", messages);
+        dialog.SetControl(dialog.BoxName(), "   ");
+        EXPECT_TRUE(dialog.LeaveBox());
+        EXPECT_EQ(dialog.Entry(), "");
+        EXPECT_EQ(messages.TakeLog(), Log{});
+    }
+}
+
+TEST_F(ScalingDialogs, ASizeCanBeRefusedByTheRecipe) {
+    ScalingModel dialog(Scaling::Size, "5 gal", messages);
+    dialog.SetSizeCheck([](double gallons) { return gallons < 4 ? std::string("Too small.") : ""; });
+    EXPECT_EQ(Enter(dialog, "3 gal"), "[Invalid Entry] Too small.");
+    EXPECT_EQ(dialog.Entry(), "");
+    EXPECT_EQ(Enter(dialog, "none"), "[Invalid Entry] Please enter a valid volume");
+    EXPECT_EQ(Enter(dialog, "16 qt"), "");
+    EXPECT_EQ(dialog.NewValue(), 4);
+}
+
 TEST_F(ScalingDialogs, ACheckBoxLeavesTheBox) {
     ScalingModel dialog(Scaling::Size, "5 gal", messages);
     dialog.SetControl("txtNewSize", "six");

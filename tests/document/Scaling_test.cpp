@@ -153,19 +153,20 @@ TEST_F(Scaling, WithoutAVolumeThereIsNoResize) {
     EXPECT_TRUE(host.IsOn("EnableUndo"));
 }
 
-// Intended: hops that round to nothing end the operation before its ending; the change is there, but neither
-// marked nor put into the history.
-TEST_F(Scaling, StopsUnmarkedWhenNoBitternessIsLeft) {
+// Intended: hops that round to nothing end the operation before its ending; the history stays, but what has
+// changed is to be saved.
+TEST_F(Scaling, StopsWithItsHistoryWhenNoBitternessIsLeft) {
     AddIbus("0.01 IBU");
     SaveAs("Faint");
-    Put(R().gridGrain, 1, GrainCol::Color, "3");
-    document->Undo();
-    SaveAs("Faint");
+    document->SetText(R().txtTemp, "6");
+    ASSERT_TRUE(host.IsOn("EnableUndo"));
+    ASSERT_FALSE(document->Changed());
     document->ScaleRecipe(1, "1 gal", false, true);
     EXPECT_EQ(Hops(), "0 IBUs");
     EXPECT_EQ(R().txtTotalVol.Text(), "1 gal");
     EXPECT_EQ(Grain(), "2 lbs.");
-    EXPECT_FALSE(document->Changed());
+    EXPECT_TRUE(document->Changed());
+    EXPECT_TRUE(host.IsOn("EnableUndo"));
 }
 
 // The carbonation went through by itself then, and ends as every one does.
@@ -188,11 +189,16 @@ TEST_F(Scaling, HoldsTheCarbonationOfABottledBeer) {
     EXPECT_EQ(R().txtCO2.Text(), "2.49 volumes");
 }
 
+// 4 * 0.27027 / (5 * 0.133) + 0.8615 = 2.4872 volumes
 TEST_F(Scaling, ANoToTheSecondQuestionSkipsTheCarbonationAlone) {
     Prime("100", "4 oz");
-    AnswerQuestions({"cmdYes", "cmdNo"});
+    AnswerQuestions({"cmdYes"});
+    platform.messages.answers = {Answer::No};
     document->ScaleRecipe(10, "10 gal", false, false);
-    EXPECT_EQ(platform.dialogs.shown, Log(2, "frmCannotUndo"));
+    EXPECT_EQ(platform.dialogs.shown, Log(1, "frmCannotUndo"));
+    EXPECT_EQ(Boxes(), Log{"[Keep the Carbonation?] Keep the carbonation of 2.49 volumes?\r\n"
+                           "Yes changes the priming sugar or the pressure with the size; "
+                           "No leaves them as they are. -> No"});
     EXPECT_EQ(Grain(), "20 lbs.");
     EXPECT_EQ(Sugar(), "4 oz");
     ExpectEnding();
@@ -203,14 +209,42 @@ TEST_F(Scaling, BothQuestionsComeBeforeAnythingChanges) {
     Prime("100", "4 oz");
     const DocumentState before = State();
     host.askBefore = true;
-    for (int i = 0; i < 2; ++i)
-        platform.dialogs.scripts.push_back([&](DialogModel& dialog) {
-            EXPECT_EQ(State(), before);
-            dialog.Press("cmdYes");
-        });
+    int asked = 0;
+    const auto look = [&] {
+        ++asked;
+        EXPECT_EQ(State(), before);
+    };
+    platform.dialogs.scripts.push_back([&](DialogModel& dialog) {
+        look();
+        dialog.Press("cmdYes");
+    });
+    platform.messages.whileAsking = look;
+    platform.messages.answers = {Answer::Yes};
     document->ScaleRecipe(10, "10 gal", false, false);
-    EXPECT_EQ(platform.dialogs.shown.size(), 2u);
+    platform.messages.whileAsking = {};
+    EXPECT_EQ(asked, 2);
     EXPECT_EQ(Sugar(), "8 oz.");
+}
+
+TEST_F(Scaling, ASizeThatLeavesNoFinalVolumeIsRefusedBeforeAnyQuestion) {
+    Set(R().txtFinalVol, "8 gal");
+    SaveAs("Diluted");
+    host.askBefore = true;
+    const DocumentState before = State();
+    // 2 + 5 - 8, 3 + 5 - 8, and 3.004 + 5 - 8, which rounds to nothing
+    const std::pair<double, const char*> sizes[] = {{2, "-1"}, {3, "0"}, {3.004, "0"}};
+    for (const auto& [size, volume] : sizes) {
+        document->ScaleRecipe(size, "some", true, true);
+        EXPECT_EQ(Boxes(), Log{std::string("[Invalid Entry] The final volume would be ") + volume +
+                               " gal. Please enter a larger size."});
+    }
+    EXPECT_EQ(platform.dialogs.shown, Log{});
+    EXPECT_EQ(State(), before);
+    EXPECT_FALSE(document->Changed());
+    host.askBefore = false;
+    document->ScaleRecipe(3.01, "3.01 gal", false, false);
+    EXPECT_EQ(Boxes(), Log{});
+    EXPECT_EQ(R().txtFinalVol.Text(), "0.01 gal.");
 }
 
 TEST_F(Scaling, WithoutACarbonationThereIsNoSecondQuestion) {
@@ -419,9 +453,11 @@ TEST_F(FaultyScaling, ABoilOfNothingLeavesAllAsBefore) {
 // The second question has been answered with yes by then.
 TEST_F(FaultyScaling, AFaultBehindTheCarbonationKeepsTheHistory) {
     Prime("100", "4 oz");
-    AnswerQuestions({"cmdYes", "cmdYes"});
+    AnswerQuestions({"cmdYes"});
+    platform.messages.answers = {Answer::Yes};
     ExpectFault(kDivisionByZeroNumber, [&] { document->ScaleRecipe(0.001, "0.001", true, false); });
-    EXPECT_EQ(platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(Boxes().size(), 1u);
 }
 
 TEST_F(Scaling, HoldsTheWindowUntilItIsDone) {

@@ -34,6 +34,13 @@ TEST(Messages, EnterSavesWhatHasChanged) {
     EXPECT_EQ(boxes.Ask("Unsaved Changes", "Save?", Question::YesNoCancel), Answer::Yes);
 }
 
+TEST(Messages, EnterTakesTheUsualAnswerWhereNothingIsLost) {
+    QtMessages boxes;
+    QString shown;
+    EnterInBox(shown);
+    EXPECT_EQ(boxes.Ask("Keep the Carbonation?", "Keep it?", Question::YesIsUsual), Answer::Yes);
+}
+
 TEST(Messages, AVeryLongNameIsCutInTheMiddleOfItsLine) {
     QtMessages boxes;
     QString shown;

@@ -32,7 +32,7 @@ class MessageRecorder : public MessagePort {
     }
 
     Answer Ask(std::string_view title, std::string_view text, Question kind) override {
-        Answer answer = kind == Question::YesNo ? Answer::No : Answer::Cancel;
+        Answer answer = ClosingAnswer(kind);
         if (!answers.empty()) {
             answer = answers.front();
             answers.pop_front();

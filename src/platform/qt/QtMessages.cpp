@@ -48,11 +48,12 @@ Answer QtMessages::Ask(std::string_view title, std::string_view text, Question k
                                    : QMessageBox::Ok | QMessageBox::Cancel);
     if (kind == Question::YesNoCancel) box.addButton(QMessageBox::Cancel);
     // What only asks for leave deletes, overwrites or discards: Enter alone does none of it.
-    box.setDefaultButton(kind == Question::YesNo         ? QMessageBox::No
-                         : kind == Question::YesNoCancel ? QMessageBox::Yes
-                                                         : QMessageBox::Ok);
+    box.setDefaultButton(kind == Question::YesNo      ? QMessageBox::No
+                         : kind == Question::OkCancel ? QMessageBox::Ok
+                                                      : QMessageBox::Yes);
     // Without this a question of two buttons could not be left by Escape.
-    box.setEscapeButton(kind == Question::YesNo ? QMessageBox::No : QMessageBox::Cancel);
+    const bool closesWithNo = ClosingAnswer(kind) == Answer::No;
+    box.setEscapeButton(closesWithNo ? QMessageBox::No : QMessageBox::Cancel);
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;
@@ -61,7 +62,7 @@ Answer QtMessages::Ask(std::string_view title, std::string_view text, Question k
         case QMessageBox::No:
             return Answer::No;
         default:
-            return kind == Question::YesNo ? Answer::No : Answer::Cancel;
+            return ClosingAnswer(kind);
     }
 }
 
