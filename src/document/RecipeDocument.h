@@ -384,10 +384,12 @@ class RecipeDocument {
     static void CheckHopForms(const StoredRecipe& stored);
     void FillFields(const StoredRecipe& stored);
     void FillWaterAndKeg(const StoredRecipe& stored);
-    void FillGrids(const StoredRecipe& stored);
+    // Gives the names of the figures that could not be worked out.
+    std::vector<std::string> FillGrids(const StoredRecipe& stored);
     void FillFermentables(Grid& grid, const std::vector<StoredGrain>& lines);
     void FillHop(const StoredHop& hop);
     void FillTextGrids(const StoredRecipe& stored);
+    void TellUnusableNumbers(const std::vector<std::string>& figures);
     void FillBox(TextBox& box, const StoredQuantity& stored);
     static void FillText(Grid& grid, int row, int col, const StoredText& text);
     void FillCell(Grid& grid, int row, int col, const StoredQuantity& stored);
@@ -396,7 +398,7 @@ class RecipeDocument {
     static void FinishGrid(Grid& grid);
     void RestorePlace(const RecipeSnapshot& snapshot);
     static void RestoreRows(Grid& grid, const std::vector<std::vector<Cell>>& rows);
-    void Recalculate(const std::function<void()>& operation);
+    static bool Recalculate(const std::function<void()>& operation);
     static bool Quietly(const std::function<bool()>& reading);
 
     DocumentHost& host_;

@@ -1,6 +1,7 @@
 // The way of a recipe into the database and back. A recipe is not updated in place: every save deletes its
 // row and writes a new one, so its id changes each time and its name is what identifies it.
 #include "document/RecipeDocument.h"
+#include "document/UnusableNumbers.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -89,12 +90,13 @@ void RecipeDocument::OpenRecipe(std::string_view name) {
     if (!stored)
         throw Error("RecipeDocument.OpenRecipe", "Recipe '" + std::string(name) + "' no longer exists!", 5);
     CheckHopForms(*stored);
+    std::vector<std::string> failed;
     {
         const ScopedFlag loading(loaded_, false);
         recorder_.SetTracking(false);
         FillFields(*stored);
         FillWaterAndKeg(*stored);
-        FillGrids(*stored);
+        failed = FillGrids(*stored);
     }
     recorder_.SetTracking(true);
     recorder_.Clear();
@@ -102,6 +104,15 @@ void RecipeDocument::OpenRecipe(std::string_view name) {
     ClearChanged();
     if (IsActive()) Activate();
     host_.AddToMRU(origName_);
+    if (!failed.empty()) TellUnusableNumbers(failed);
+}
+
+// Once, when all is in its place. Where every single number could be used, the figures that they break
+// together are named instead.
+void RecipeDocument::TellUnusableNumbers(const std::vector<std::string>& figures) {
+    const std::vector<std::string> fields = UnusableNumbers(record_);
+    platform_.messages.ShowMessage("Error",
+                                   UnusableNumbersText(origName_, fields.empty() ? figures : fields));
 }
 
 }  // namespace tw

@@ -24,6 +24,11 @@ StoredQuantity Computed(const TextBox& box) {
     return {Trimmed(box.Text()), box.Value()};
 }
 
+// Blanks alone are no quantity.
+std::string_view QuantityText(std::string_view stored) {
+    return IsBlank(stored) ? std::string_view() : stored;
+}
+
 // A hop amount in AAUs or IBUs is no plain number and takes 0: intended.
 StoredQuantity QuantityOf(const Grid& grid, int row, int col) {
     const CellValue value = grid.At(row, col).value;
@@ -135,12 +140,13 @@ void RecipeDocument::CheckHopForms(const StoredRecipe& stored) {
                         "Hop form " + std::to_string(*hop.form) + " is not known", 9);
 }
 
-// A box's text and number. A text without a number is read again, so that a gap in the row does no harm.
+// A box's text and number. A number that is missing, or 0 behind a text that tells another one, is read from
+// the text again, so that a gap in the row does no harm.
 void RecipeDocument::FillBox(TextBox& box, const StoredQuantity& stored) {
-    if (stored.text) box.SetText(*stored.text);
+    if (stored.text) box.SetText(QuantityText(*stored.text));
     if (stored.data) box.SetValue(*stored.data);
     if (!box.Computed()) box.SetCommitted(box.Text());
-    if (!stored.text || stored.data || box.Computed()) return;
+    if (stored.data ? *stored.data != 0 : !stored.text) return;
     double value = 0;
     if (Quietly([&] { return ValidateField(box, box.Text(), true, value); })) box.SetValue(value);
 }
@@ -199,21 +205,34 @@ void RecipeDocument::FillWaterAndKeg(const StoredRecipe& s) {
     fillWater(WaterRow::Source, s.source);
     fillWater(WaterRow::Target, s.target);
     Grid& keg = record_.gridPressure;
-    keg.SetText(1, PressureCol::Pressure, s.kegPsi.text.value_or(""));
-    keg.SetValue(1, PressureCol::Pressure, CellValue::Of(s.kegPsi.data.value_or(0)));
+    FillCell(keg, 1, PressureCol::Pressure, {s.kegPsi.text.value_or(""), s.kegPsi.data.value_or(0)});
     fillNumber(keg, 1, PressureCol::Volumes, s.kegVols);
-    calculator_.UpdateTreatmentNeeded();
 }
 
-void RecipeDocument::FillGrids(const StoredRecipe& s) {
+std::vector<std::string> RecipeDocument::FillGrids(const StoredRecipe& s) {
     RecipeRecord& r = record_;
-    FillFermentables(r.gridGrain, s.grains);
-    FillFermentables(r.gridExtract, s.extracts);
-    Recalculate([&] { calculator_.CalcColor(); });
+    std::vector<std::string> failed;
+    const auto recalculate = [&](const std::string& figure, const std::function<void()>& operation) {
+        if (!Recalculate(operation)) failed.push_back(figure);
+    };
+    recalculate("Treatment Needed", [&] { calculator_.UpdateTreatmentNeeded(); });
+    const auto fillFermentables = [&](Grid& grid, const std::vector<StoredGrain>& lines) {
+        FillFermentables(grid, lines);
+        recalculate("Points and HCU of " + grid.ColumnAt(0).header, [&] {
+            calculator_.ShowGridTotal(grid);
+            calculator_.RecalcPoints(grid, &grid == &r.gridGrain);
+            calculator_.RecalcHCU(grid);
+        });
+    };
+    fillFermentables(r.gridGrain, s.grains);
+    fillFermentables(r.gridExtract, s.extracts);
+    recalculate("Color", [&] { calculator_.CalcColor(); });
     for (const StoredHop& hop : s.hops) FillHop(hop);
     FinishGrid(r.gridHops);
-    calculator_.ShowGridTotal(r.gridHops);
-    Recalculate([&] { calculator_.RecalcHops(); });
+    recalculate("IBUs", [&] {
+        calculator_.ShowGridTotal(r.gridHops);
+        calculator_.RecalcHops();
+    });
     for (const StoredSalt& salt : s.salts) {
         const int row = GrowTo(r.gridTreatment, salt.rowId);
         FillText(r.gridTreatment, row, TreatmentCol::Name, salt.name);
@@ -223,7 +242,7 @@ void RecipeDocument::FillGrids(const StoredRecipe& s) {
                                      CellValue::Of(salt.ions[static_cast<std::size_t>(ion)].value_or(0)));
     }
     FinishGrid(r.gridTreatment);
-    Recalculate([&] { calculator_.RecalcTreatment(); });
+    recalculate("Treatment Totals", [&] { calculator_.RecalcTreatment(); });
     for (const StoredSugar& sugar : s.sugars) {
         const int row = GrowTo(r.gridPriming, sugar.rowId);
         FillText(r.gridPriming, row, PrimingCol::Sugar, sugar.name);
@@ -231,12 +250,13 @@ void RecipeDocument::FillGrids(const StoredRecipe& s) {
         FillCell(r.gridPriming, row, PrimingCol::Amount, sugar.amount);
     }
     FinishGrid(r.gridPriming);
-    Recalculate([&] {
+    recalculate("CO2 Amount", [&] {
         bool ok = true;
         calculator_.CalcCarbonation(ok);
         calculator_.RecalcPriming();
     });
     FillTextGrids(s);
+    return failed;
 }
 
 void RecipeDocument::FillFermentables(Grid& grid, const std::vector<StoredGrain>& lines) {
@@ -248,11 +268,6 @@ void RecipeDocument::FillFermentables(Grid& grid, const std::vector<StoredGrain>
         FillCell(grid, row, GrainCol::Color, line.color);
     }
     FinishGrid(grid);
-    calculator_.ShowGridTotal(grid);
-    Recalculate([&] {
-        calculator_.RecalcPoints(grid, &grid == &record_.gridGrain);
-        calculator_.RecalcHCU(grid);
-    });
 }
 
 void RecipeDocument::FillHop(const StoredHop& hop) {
@@ -271,7 +286,7 @@ void RecipeDocument::FillHop(const StoredHop& hop) {
     CellValue value;
     const auto read = [&] { return ValidateHopAmount(grid.Text(row, HopCol::Amount), true, value); };
     if (grid.Empty(row, HopCol::Amount) || !Quietly(read)) return;
-    if (value.kind != CellValue::Kind::Number || !hop.amount.data) grid.SetValue(row, HopCol::Amount, value);
+    if (value.kind != CellValue::Kind::Number) grid.SetValue(row, HopCol::Amount, value);
 }
 
 void RecipeDocument::FillTextGrids(const StoredRecipe& s) {
@@ -307,14 +322,13 @@ void RecipeDocument::FillText(Grid& grid, int row, int col, const StoredText& te
 }
 
 void RecipeDocument::FillCell(Grid& grid, int row, int col, const StoredQuantity& stored) {
-    FillText(grid, row, col, stored.text);
-    if (stored.data) {
-        grid.SetValue(row, col, CellValue::Of(*stored.data));
-    } else if (stored.text) {
-        CellValue value;
-        if (Quietly([&] { return ValidateCell(grid, row, col, *stored.text, true, value); }))
-            grid.SetValue(row, col, value);
-    }
+    if (stored.text) grid.SetText(row, col, QuantityText(*stored.text));
+    if (stored.data) grid.SetValue(row, col, CellValue::Of(*stored.data));
+    if (grid.Empty(row, col) || stored.data.value_or(0) != 0) return;
+    // As in a box: what is missing is read from the text.
+    CellValue value;
+    const bool told = Quietly([&] { return ValidateCell(grid, row, col, grid.Text(row, col), true, value); });
+    if (told && (!stored.data || value.number != 0)) grid.SetValue(row, col, value);
 }
 
 void RecipeDocument::FinishGrid(Grid& grid) {
@@ -322,14 +336,12 @@ void RecipeDocument::FinishGrid(Grid& grid) {
     grid.NotifyFilled();
 }
 
-// A stored number that breaks a formula is told once and leaves that figure as it is; the recipe opens all
-// the same.
-void RecipeDocument::Recalculate(const std::function<void()>& operation) {
-    try {
+// A stored number that breaks a formula leaves that figure as it is; the recipe opens all the same.
+bool RecipeDocument::Recalculate(const std::function<void()>& operation) {
+    return Quietly([&] {
         operation();
-    } catch (const Error& error) {
-        platform_.messages.ShowMessage("Error", error.WithNumber());
-    }
+        return true;
+    });
 }
 
 bool RecipeDocument::Quietly(const std::function<bool()>& reading) {

@@ -270,15 +270,108 @@ TEST_F(OpeningTest, TheStoredTextsOfTheFiguresCount) {
     EXPECT_EQ(R().txtBG.Text(), "higher");
 }
 
-// Zero volumes behind a text break every formula: the recipe opens, the brewer is told.
-TEST_F(OpeningTest, DamagedNumbersAreToldAndDoNotKeepARecipeShut) {
+TEST_F(OpeningTest, ANumberThatIsMissingOrZeroIsReadFromItsTextAgain) {
+    for (const char* number : {"NULL", "0"}) {
+        EmptyStore();
+        SaveFullRecipe();
+        document->ChooseOption("optKeg");
+        bool ok = false;
+        document->Save(false, true, ok);
+        const Log before = Shown();
+        for (const TableSchema& table : MainSchema())
+            for (const ColumnDef& column : table.columns)
+                // Figures are worked out from the full gravities.
+                if (column.name.ends_with("_DATA") && column.name != "OG_DATA" && column.name != "BG_DATA")
+                    database->ExecuteNative("UPDATE " + std::string(table.name) + " SET " +
+                                            std::string(column.name) + " = " + number);
+        Open("Full");
+        EXPECT_EQ(Shown(), before) << number;
+        EXPECT_THAT(Boxes(), IsEmpty()) << number;
+        EXPECT_EQ(R().txtBoilVol.Value(), 6);
+        EXPECT_EQ(R().txtExtract.Value(), 70);
+        EXPECT_EQ(R().txtHopExtraction.Value(), 1.1);
+        EXPECT_EQ(R().txtTemp.Value(), 68);
+        EXPECT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 2.1875);
+        EXPECT_EQ(R().gridHops.At(1, HopCol::Amount).value.Text(), "A4.5");
+        EXPECT_EQ(R().gridHops.Number(1, HopCol::Time), 90);
+        EXPECT_NEAR(R().gridPressure.Number(1, PressureCol::Pressure), 14.6959, 1e-4);
+        EXPECT_FALSE(document->Changed());
+    }
+}
+
+TEST_F(OpeningTest, TheGravitiesAreReadAgainToo) {
     SaveFullRecipe();
-    database->ExecuteNative("UPDATE RECIPES SET TV_DATA = 0, FV_DATA = 0");
+    const double og = R().txtOG.Value(), bg = R().txtBG.Value();
+    ASSERT_GT(bg, 1.001);
+    database->ExecuteNative("UPDATE RECIPES SET OG_DATA = NULL, BG_DATA = 0");
+    Open("Full");
+    EXPECT_NEAR(R().txtOG.Value(), og, 0.0005);
+    EXPECT_NEAR(R().txtBG.Value(), bg, 0.0005);
+}
+
+// A multiplier that the text does not tell is 1; a number that says something else than its text counts.
+TEST_F(OpeningTest, OnlyANumberThatSaysNothingGivesWayToItsText) {
+    SaveFullRecipe();
+    database->ExecuteNative(
+        "UPDATE RECIPES SET HOP_EXTRACT = '', HOP_EXTRACT_DATA = 0, TV_DATA = 4, BV = '0 gal', BV_DATA = 0");
+    database->ExecuteNative("UPDATE RECIPE_HOPS SET DRY = 1, DURATION = '60', DURATION_DATA = 0");
+    Open("Full");
+    EXPECT_EQ(R().txtHopExtraction.Value(), 1);
+    EXPECT_EQ(R().txtTotalVol.Text(), "5 gal");
+    EXPECT_EQ(R().txtTotalVol.Value(), 4);
+    EXPECT_EQ(R().txtBoilVol.Value(), 0);
+    // The time of dry hops is free text without a number.
+    EXPECT_EQ(R().gridHops.Number(1, HopCol::Time), 0);
+}
+
+TEST_F(OpeningTest, StoredBlanksAreNoQuantity) {
+    SaveFullRecipe();
+    database->ExecuteNative("UPDATE RECIPES SET TV = '  ', TV_DATA = 0");
+    database->ExecuteNative("UPDATE RECIPE_GRAINS SET AMOUNT = ' ', AMOUNT_DATA = 0");
+    Open("Full");
+    EXPECT_EQ(R().txtTotalVol.Text() + R().txtTotalVol.Committed(), "");
+    EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Amount), "");
+    EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Points), "");
+    EXPECT_THAT(Boxes(), IsEmpty());
+}
+
+// Numbers that break the formulas: the recipe opens, and one box names it and its fields.
+TEST_F(OpeningTest, DamagedNumbersAreToldOnceAndDoNotKeepARecipeShut) {
+    SaveFullRecipe();
+    database->ExecuteNative("UPDATE RECIPES SET TV = 'much', TV_DATA = 0, FV = 'more', FV_DATA = 0");
     ASSERT_NO_THROW(Open("Full"));
-    EXPECT_THAT(Boxes(), Contains("[Error] Division by zero (11)"));
+    EXPECT_THAT(Boxes(),
+                ElementsAre("[Error] The recipe 'Full' is open, but some of its stored numbers cannot be "
+                            "used:\r\nTotal Volume; Final Volume.\r\nFigures that need them are not up to "
+                            "date. Correct these entries, then save the recipe."));
     EXPECT_EQ(R().gridGrain.Text(1, 0), "O'Brien's");
     EXPECT_EQ(R().gridLog.Text(1, 1), "Tasted");
     EXPECT_EQ(document->OrigName(), "Full");
+    EXPECT_FALSE(document->Changed());
+}
+
+TEST_F(OpeningTest, DamagedNumbersOfLinesAreNamedByTheirPlace) {
+    SaveFullRecipe();
+    database->ExecuteNative("UPDATE RECIPE_GRAINS SET AMOUNT_DATA = 1e300, PPG_DATA = 1e300 WHERE GRAIN");
+    database->ExecuteNative("UPDATE RECIPE_SALTS SET AMOUNT_DATA = 1e308 WHERE ROW_ID = 0");
+    database->ExecuteNative("UPDATE RECIPES SET SRC_CA = -1e308, TRG_CA = 1e308");
+    Open("Full");
+    const Log boxes = Boxes();
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_THAT(boxes[0],
+                testing::HasSubstr("used:\r\nGrain row 1, Amount (lbs); Grain row 1, PPG; Grain row 2, "
+                                   "Amount (lbs); Grain row 2, PPG; Source Water, Calcium (Ca); Target "
+                                   "Water, Calcium (Ca); and 1 more.\r\n"));
+}
+
+// Salts have numbers that no field shows.
+TEST_F(OpeningTest, NumbersThatOnlyFailTogetherAreNamedByTheirFigure) {
+    SaveFullRecipe();
+    database->ExecuteNative("UPDATE RECIPE_SALTS SET CA = 1e308, AMOUNT_DATA = 1e6");
+    Open("Full");
+    const Log boxes = Boxes();
+    ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_THAT(boxes[0], testing::HasSubstr("used:\r\nTreatment Totals.\r\n"));
 }
 
 TEST_F(OpeningTest, TellsTheProgramInOrder) {
