@@ -43,8 +43,10 @@ void Grid::Changed(int row, int col) const {
 }
 
 CellPaint Grid::Paint(int row, int col) const {
-    const Row& r = RowAt(row);
-    return r.paintedCol == col ? r.cellPaint : r.paint;
+    const CellPaint paint = RowAt(row).paint;
+    if (paint != CellPaint::Plain || !IsDataRow(row)) return paint;
+    const Column& column = ColumnAt(col);
+    return column.readOnly && !column.label ? CellPaint::ReadOnly : CellPaint::Plain;
 }
 
 std::string Grid::Shown(int row, int col) const {
@@ -91,12 +93,6 @@ void Grid::SetBold(int row, int col, bool bold) {
     if (cell.bold == bold) return;
     cell.bold = bold;
     Changed(row, col);
-}
-
-void Grid::SetCellPaint(int row, int col, CellPaint paint) {
-    Row& r = rows_[static_cast<std::size_t>(row)];
-    r.paintedCol = col;
-    r.cellPaint = paint;
 }
 
 void Grid::RestoreCells(int row, const std::vector<Cell>& cells) {

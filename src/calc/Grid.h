@@ -39,6 +39,7 @@ struct Column {
     bool readOnly = false;          // tagged "READONLY": the editor is refused
     bool checkBox = false;          // cells hold a checked state and no text
     std::string_view pattern = {};  // how a computed number is shown; empty shows the cell's text
+    bool label = false;             // names its rows: read-only, but nothing that is calculated
 };
 
 // How a cell is painted; the colours come from the settings.
@@ -88,6 +89,7 @@ class Grid {
     // True when the row or the column is tagged "READONLY".
     bool IsReadOnly(int row, int col) const { return RowAt(row).readOnly || ColumnAt(col).readOnly; }
     bool IsReadOnlyRow(int row) const { return RowAt(row).readOnly; }
+    // The row's own paint; elsewhere the cells of read-only columns are ReadOnly, but for labels.
     CellPaint Paint(int row, int col) const;
     // What the cell shows: a computed number in its column's pattern, otherwise the text.
     std::string Shown(int row, int col) const;
@@ -102,7 +104,6 @@ class Grid {
     void SetBold(int row, int col, bool bold);
     void SetRowPaint(int row, CellPaint paint) { rows_[static_cast<std::size_t>(row)].paint = paint; }
     void SetRowReadOnly(int row) { rows_[static_cast<std::size_t>(row)].readOnly = true; }
-    void SetCellPaint(int row, int col, CellPaint paint);
 
     // A row's cells, and the same put back.
     const std::vector<Cell>& CellsOf(int row) const { return RowAt(row).cells; }
@@ -133,8 +134,6 @@ class Grid {
         std::vector<Cell> cells;
         bool readOnly = false;
         CellPaint paint = CellPaint::Plain;
-        int paintedCol = -1;  // a single cell of another paint, and that paint
-        CellPaint cellPaint = CellPaint::Plain;
     };
 
     const Row& RowAt(int row) const { return rows_[static_cast<std::size_t>(row)]; }

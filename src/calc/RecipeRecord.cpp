@@ -39,7 +39,7 @@ std::vector<Column> WithIons(std::vector<Column> first, bool readOnly, std::stri
 }
 
 Grid::Layout WaterLayout() {
-    return {"gridWater", WithIons({{"", true, false, {}}, {"Water Profile"}}, false, {}), 0, 0, false};
+    return {"gridWater", WithIons({{"", true, false, {}, true}, {"Water Profile"}}, false, {}), 0, 0, false};
 }
 
 Grid::Layout TreatmentLayout() {
@@ -132,7 +132,6 @@ RecipeRecord::RecipeRecord()
     gridPriming.SetText(gridPriming.TotalsRow(), PrimingCol::Sugar, "Total");
     gridPriming.SetRowPaint(gridPriming.TotalsRow() - 1, CellPaint::ReadOnly);
     gridPressure.InsertRow(1);
-    gridPressure.SetCellPaint(1, PressureCol::Volumes, CellPaint::ReadOnly);
     BuildWaterRows(gridWater);
 }
 

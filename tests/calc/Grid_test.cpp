@@ -69,6 +69,31 @@ TEST(RecipeRecord, LabelsTheFixedRows) {
     EXPECT_EQ(r.gridLog.Rows(), 1);
 }
 
+TEST(RecipeRecord, PaintsTheCalculatedCellsOfEveryDataRow) {
+    RecipeRecord r;
+    const auto painted = [](Grid& grid) {
+        grid.InsertRow(Grid::FixedRows());
+        grid.InsertRow(Grid::FixedRows());
+        std::string cols;
+        for (int col = 0; col < grid.Cols(); ++col) {
+            EXPECT_EQ(grid.Paint(1, col), grid.Paint(2, col)) << grid.Name() << " " << col;
+            if (grid.Paint(1, col) == CellPaint::ReadOnly) cols += std::to_string(col);
+        }
+        return cols;
+    };
+    EXPECT_EQ(painted(r.gridGrain), "35");
+    EXPECT_EQ(painted(r.gridExtract), "35");
+    EXPECT_EQ(painted(r.gridHops), "7");
+    EXPECT_EQ(painted(r.gridTreatment), "234567");
+    EXPECT_EQ(painted(r.gridPriming), "3");
+    EXPECT_EQ(painted(r.gridAdjuncts), "");
+    EXPECT_EQ(painted(r.gridLog), "");
+    // The rows of the waters are entered, and their names are no figures.
+    for (int col = 0; col < r.gridWater.Cols(); ++col)
+        for (const int row : {WaterRow::Source, WaterRow::Target, WaterRow::Spacer})
+            EXPECT_EQ(r.gridWater.Paint(row, col), CellPaint::Plain) << row << " " << col;
+}
+
 TEST(RecipeRecord, MarksTheComputedColumnsReadOnly) {
     RecipeRecord r;
     const auto readOnly = [](const Grid& grid) {
