@@ -62,10 +62,11 @@ void RecipeDocument::ClickHeader(Grid& grid, int col) {
     const EditRecorder::Edit edit{ControlType::Grid, ChangeType::Sort, {}, 0, col};
     recorder_.RecordEdit(grid.Name(), EditValue::OfOrder(std::move(inverse)), EditValue::OfOrder(order),
                          edit);
-    OrderGrid(grid, order, col);
+    grid.OrderRows(order);
     MarkChanged();
 }
 
+// A sort that is undone or done again shows where.
 void RecipeDocument::OrderGrid(Grid& grid, const std::vector<int>& order, int col) {
     if (order.size() != static_cast<std::size_t>(grid.DataRows())) return;
     grid.OrderRows(order);
