@@ -56,6 +56,7 @@ class Nothing : public MessagePort,
         return std::nullopt;
     }
     bool Write(Layer, std::string_view, std::string_view, std::string_view) override { return false; }
+    void Remove(Layer, std::string_view, std::string_view) override {}
     DateTime Now() override { return {}; }
     bool HasText() override { return !clipboard_.empty(); }
     std::string Text() override { return clipboard_; }

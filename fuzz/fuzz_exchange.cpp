@@ -43,6 +43,7 @@ class NoSettings : public SettingsPort {
         return std::nullopt;
     }
     bool Write(Layer, std::string_view, std::string_view, std::string_view) override { return false; }
+    void Remove(Layer, std::string_view, std::string_view) override {}
 };
 
 class NoClipboard : public ClipboardPort {

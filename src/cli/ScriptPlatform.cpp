@@ -118,4 +118,8 @@ bool MemorySettings::Write(Layer layer, std::string_view section, std::string_vi
     return true;
 }
 
+void MemorySettings::Remove(Layer layer, std::string_view section, std::string_view key) {
+    if (layer == Layer::User) values_.erase({std::string(section), std::string(key)});
+}
+
 }  // namespace tw

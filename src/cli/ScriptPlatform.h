@@ -92,6 +92,7 @@ class MemorySettings : public SettingsPort {
   public:
     std::optional<std::string> Read(Layer layer, std::string_view section, std::string_view key) override;
     bool Write(Layer layer, std::string_view section, std::string_view key, std::string_view value) override;
+    void Remove(Layer layer, std::string_view section, std::string_view key) override;
 
   private:
     std::map<std::pair<std::string, std::string>, std::string> values_;

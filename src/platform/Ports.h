@@ -60,6 +60,8 @@ class SettingsPort {
                        std::string_view value) = 0;
     // The paths of the files that hold the layers, there or not; none for settings in memory.
     virtual std::vector<std::string> Files() const { return {}; }
+    // The layer holds the key no longer. A layer that cannot be written stays as it is.
+    virtual void Remove(Layer layer, std::string_view section, std::string_view key) = 0;
 };
 
 class ClockPort {

@@ -25,4 +25,8 @@ void SettingsStore::SaveSetting(std::string_view section, std::string_view key, 
     port_.Write(SettingsPort::Layer::User, section, key, value);
 }
 
+void SettingsStore::ForgetSetting(std::string_view section, std::string_view key) const {
+    port_.Remove(SettingsPort::Layer::User, section, key);
+}
+
 }  // namespace tw

@@ -19,6 +19,8 @@ class SettingsStore {
     // store that cannot be written ends silently.
     void SaveSetting(std::string_view section, std::string_view key, std::string_view value,
                      bool machineWide) const;
+    // Forgets the user's text, so that the machine's or the default counts again.
+    void ForgetSetting(std::string_view section, std::string_view key) const;
 
   private:
     SettingsPort& port_;

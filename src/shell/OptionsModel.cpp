@@ -20,12 +20,14 @@ constexpr int kBlackKept = 1;
 
 struct ColorRow {
     std::string_view picture;
-    int Settings::*field;
+    std::string_view key;
+    std::optional<int> Settings::*field;
+    std::string Default() const { return Settings::DefaultOf(kSettingsSection, key).value(); }
 };
-constexpr ColorRow kColors[] = {{"picCalcBackground", &Settings::gridReadOnlyBg},
-                                {"picCalcForeground", &Settings::gridReadOnlyFg},
-                                {"picSumBackground", &Settings::gridTotalBg},
-                                {"picSumForeground", &Settings::gridTotalFg}};
+constexpr ColorRow kColors[] = {{"picCalcBackground", "GridReadOnlyBg", &Settings::gridReadOnlyBg},
+                                {"picCalcForeground", "GridReadOnlyFg", &Settings::gridReadOnlyFg},
+                                {"picSumBackground", "GridTotalBg", &Settings::gridTotalBg},
+                                {"picSumForeground", "GridTotalFg", &Settings::gridTotalFg}};
 
 constexpr std::string_view kIconOptions[] = {"optIcons(0)", "optIcons(1)", "optIcons(2)"};
 constexpr std::string_view kButtonOptions[] = {"optButtons(0)", "optButtons(1)"};
@@ -93,8 +95,14 @@ void OptionsModel::FillAppearanceTab() {
     index = 0;
     for (const std::string_view name : kButtonOptions)
         controls_.push_back({Kind::Option, std::string(name), YesNo(index++ == buttons)});
-    for (const ColorRow& row : kColors)
-        controls_.push_back({Kind::Color, std::string(row.picture), std::to_string(s.*row.field)});
+    for (const ColorRow& row : kColors) {
+        const std::optional<int>& color = s.*row.field;
+        controls_.push_back({Kind::Color,
+                             std::string(row.picture),
+                             color ? std::to_string(*color) : row.Default(),
+                             {},
+                             color.has_value()});
+    }
 }
 
 void OptionsModel::AddList(std::string_view name, std::vector<std::string> entries, int index) {
@@ -151,6 +159,10 @@ int OptionsModel::Color(std::string_view picture) const {
     int color = 0;
     std::from_chars(text.data(), text.data() + text.size(), color);
     return color;
+}
+
+std::optional<int> OptionsModel::ChosenColor(std::string_view picture) const {
+    return Find(picture).chosen ? std::optional(Color(picture)) : std::nullopt;
 }
 
 bool OptionsModel::SaveIncEnabled() const {
@@ -277,6 +289,7 @@ bool OptionsModel::Enter(Control& control, std::string_view text) {
     if (error != std::errc() || end != text.data() + text.size()) return false;
     if (color < 0 || color > kHighestColor) return false;
     control.text = std::to_string(color == 0 ? kBlackKept : color);
+    control.chosen = true;
     return true;
 }
 
@@ -299,8 +312,11 @@ bool OptionsModel::Press(std::string_view button) {
 }
 
 void OptionsModel::ResetColors() {
-    const Settings defaults;
-    for (const ColorRow& row : kColors) Find(row.picture).text = std::to_string(defaults.*row.field);
+    for (const ColorRow& row : kColors) {
+        Control& picture = Find(row.picture);
+        picture.text = row.Default();
+        picture.chosen = false;
+    }
 }
 
 void OptionsModel::Ok() {
@@ -356,7 +372,7 @@ void OptionsModel::ApplyAppearance() {
         s.buttonStyle = buttons;
         shell_.ChangeToolbarButtonStyle();
     }
-    for (const ColorRow& row : kColors) s.*row.field = Color(row.picture);
+    for (const ColorRow& row : kColors) s.*row.field = ChosenColor(row.picture);
     shell_.UpdateDocsOfColorChange();
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,6 +31,9 @@ class OptionsModel final : public DialogModel {
     const std::vector<std::string>& Entries(std::string_view list) const { return Find(list).entries; }
     // A colour of the grids: 32 bits in blue-green-red order. REQUIRES: the picture exists.
     int Color(std::string_view picture) const;
+    // The same, or nothing while the brewer has chosen none: the grids show a tint of the desktop's colours
+    // then.
+    std::optional<int> ChosenColor(std::string_view picture) const;
     // txtSaveInc and its two labels: on while chkAutoSave is checked.
     bool SaveIncEnabled() const;
     // UpDown1: needs a number in txtSaveInc too.
@@ -57,7 +61,7 @@ class OptionsModel final : public DialogModel {
     // the same, so that a script can name its controls in any order.
     bool SetControl(std::string_view name, std::string_view text) override;
     // cmdOK stays open when the field with the focus is refused; cmdCancel; mnuResetColors sets the four
-    // pictures back to their defaults.
+    // pictures back to their defaults, as if no colour had ever been chosen.
     bool Press(std::string_view button) override;
     void CloseBox() override { open_ = false; }
     bool IsOpen() const override { return open_; }
@@ -69,6 +73,7 @@ class OptionsModel final : public DialogModel {
         std::string name;
         std::string text;
         std::vector<std::string> entries = {};
+        bool chosen = false;  // a colour that is the brewer's, not the default
     };
 
     void FillDefaultsTab();

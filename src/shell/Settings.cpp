@@ -17,11 +17,14 @@ namespace {
 struct Real {
     double Settings::*field;
 };
-// An integer of 16 or 32 bits, or a colour.
+// An integer of 16 or 32 bits.
 struct Integer {
     int Settings::*field;
     int least = std::numeric_limits<std::int32_t>::min();
     int most = std::numeric_limits<std::int32_t>::max();
+};
+struct Color {
+    std::optional<int> Settings::*field;
 };
 struct Flag {
     bool Settings::*field;
@@ -32,7 +35,7 @@ struct TextValue {
     std::string Settings::*field;
 };
 
-using FieldOf = std::variant<Real, Integer, Flag, TextValue>;
+using FieldOf = std::variant<Real, Integer, Color, Flag, TextValue>;
 
 struct KeyRow {
     std::string_view key;
@@ -74,10 +77,10 @@ constexpr std::array kKeys = std::to_array<KeyRow>({
     {"DoAutoSaveEvery", "5", Short(&Settings::doAutoSaveEvery)},
     {"AskBeforeNonUndoableChange", "1", Flag{&Settings::askBeforeNonUndoableChange}},
     {"QuickPrintFromToolbar", "1", Flag{&Settings::quickPrintFromToolbar}},
-    {"GridReadOnlyBg", "65535", Long(&Settings::gridReadOnlyBg)},
-    {"GridTotalBg", "65280", Long(&Settings::gridTotalBg)},
-    {"GridReadOnlyFg", "1", Long(&Settings::gridReadOnlyFg)},
-    {"GridTotalFg", "1", Long(&Settings::gridTotalFg)},
+    {"GridReadOnlyBg", "65535", Color{&Settings::gridReadOnlyBg}},
+    {"GridTotalBg", "65280", Color{&Settings::gridTotalBg}},
+    {"GridReadOnlyFg", "1", Color{&Settings::gridReadOnlyFg}},
+    {"GridTotalFg", "1", Color{&Settings::gridTotalFg}},
     {"LPMaxIter", "1000", Long(&Settings::lpMaxIter)},
 });
 
@@ -100,6 +103,13 @@ struct Reader {
     bool operator()(const Integer& integer) const {
         return ReadWhole(text, integer.least, integer.most, settings.*integer.field);
     }
+    bool operator()(const Color& color) const {
+        int value = 0;
+        const bool read = ReadWhole(text, std::numeric_limits<std::int32_t>::min(),
+                                    std::numeric_limits<std::int32_t>::max(), value);
+        settings.*color.field = read ? std::optional(value) : std::nullopt;
+        return true;
+    }
     bool operator()(const Flag& flag) const { return ReadFlag(text, settings.*flag.field); }
     bool operator()(const TextValue& value) const {
         settings.*value.field = text;
@@ -112,6 +122,9 @@ struct Writer {
 
     std::string operator()(const Real& real) const { return NumberText(settings.*real.field); }
     std::string operator()(const Integer& integer) const { return std::to_string(settings.*integer.field); }
+    std::string operator()(const Color& color) const {
+        return std::to_string((settings.*color.field).value());
+    }
     std::string operator()(const Flag& flag) const {
         return std::string(settings.*flag.field ? flag.yes : flag.no);
     }
@@ -125,13 +138,34 @@ void TakeText(Settings& settings, const KeyRow& row, std::string_view text) {
 
 void LoadKeys(Settings& settings, const SettingsStore& store, KeyRows rows) {
     for (const KeyRow& row : rows) {
-        TakeText(settings, row, store.GetSetting(kSettingsSection, row.key, row.fallback));
+        // No default stands for a colour that is not stored.
+        const bool isColor = std::holds_alternative<Color>(row.field);
+        TakeText(settings, row, store.GetSetting(kSettingsSection, row.key, isColor ? "" : row.fallback));
     }
+}
+
+// Earlier versions stored all four colours at every shut-down, chosen or not.
+void ForgetColorsOfEarlierVersions(Settings& settings) {
+    const auto isDefault = [&](const KeyRow& row) {
+        const std::optional<int>& color = settings.*std::get<Color>(row.field).field;
+        return color && std::to_string(*color) == row.fallback;
+    };
+    if (!std::ranges::all_of(kColorKeys, isDefault)) return;
+    for (const KeyRow& row : kColorKeys) (settings.*std::get<Color>(row.field).field).reset();
 }
 
 void StoreKeys(const Settings& settings, const SettingsStore& store, KeyRows rows) {
     for (const KeyRow& row : rows) {
         store.SaveSetting(kSettingsSection, row.key, std::visit(Writer{settings}, row.field), false);
+    }
+}
+
+void StoreColors(const Settings& settings, const SettingsStore& store) {
+    for (const KeyRow& row : kColorKeys) {
+        if (settings.*std::get<Color>(row.field).field)
+            store.SaveSetting(kSettingsSection, row.key, std::visit(Writer{settings}, row.field), false);
+        else
+            store.ForgetSetting(kSettingsSection, row.key);
     }
 }
 
@@ -150,12 +184,13 @@ void Settings::LoadWindowKeys(const SettingsStore& store) {
 
 void Settings::LoadProgramKeys(const SettingsStore& store) {
     LoadKeys(*this, store, kProgramKeys);
+    ForgetColorsOfEarlierVersions(*this);
 }
 
 void Settings::Store(const SettingsStore& store) const {
     StoreKeys(*this, store, kPreferenceKeys);
     StoreKeys(*this, store, kStyleKeys);
-    StoreKeys(*this, store, kColorKeys);
+    StoreColors(*this, store);
 }
 
 void Settings::StoreGeometry(const SettingsStore& store) const {

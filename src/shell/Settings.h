@@ -26,8 +26,9 @@ struct Settings {
     bool copyHeaders = false, pasteMismatchSize = false, showAssistantAtStartup = true, doAutoSave = false;
     int doAutoSaveEvery = 5;
     bool askBeforeNonUndoableChange = true, quickPrintFromToolbar = true;
-    // Colours as 32-bit numbers in blue-green-red order.
-    int gridReadOnlyBg = 65535, gridTotalBg = 65280, gridReadOnlyFg = 1, gridTotalFg = 1;
+    // Colours as 32-bit numbers in blue-green-red order. Nothing is a colour that the brewer never chose: the
+    // grids show a tint of the desktop's colours for it, and it is not stored.
+    std::optional<int> gridReadOnlyBg, gridTotalBg, gridReadOnlyFg, gridTotalFg;
     int lpMaxIter = 1000;  // read, never written by the program
 
     // The keys of the window's geometry and style, read before the database is opened.
@@ -35,6 +36,7 @@ struct Settings {
     // All other keys, in the table's order.
     void LoadProgramKeys(const SettingsStore& store);
     // Every key but those of the geometry (and LPMaxIter, which is never written), in the order of shut-down.
+    // A colour that was never chosen leaves the store.
     void Store(const SettingsStore& store) const;
     void StoreGeometry(const SettingsStore& store) const;
     // Takes one key's text into its field. False for an unknown key.

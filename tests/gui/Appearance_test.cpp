@@ -7,6 +7,7 @@
 
 #include "document/ui/DetailsDialog.h"
 #include "document/ui/RangeBar.h"
+#include "platform/qt/CellColors.h"
 #include "platform/qt/QtText.h"
 
 namespace tw::test {
@@ -43,7 +44,46 @@ TEST_P(PaletteContrast, TellsDarkFromLight) {
     EXPECT_EQ(IsDark(palette), GetParam());
 }
 
+// What is not chosen is told from the plain cells, and its text is read without effort.
+TEST_P(PaletteContrast, OfTheTintsIsReadableAndTheirGroundsDiffer) {
+    const CellColors calculated = CalculatedColors({}, palette), total = TotalColors({}, palette);
+    EXPECT_GE(ContrastRatio(calculated.ink, calculated.ground), 7);
+    EXPECT_GE(ContrastRatio(total.ink, total.ground), 7);
+    EXPECT_GE(ContrastRatio(calculated.ground, Role(QPalette::Base)), 1.08);
+    EXPECT_GE(ContrastRatio(total.ground, calculated.ground), 1.08);
+}
+
 INSTANTIATE_TEST_SUITE_P(LightAndDark, PaletteContrast, testing::Bool());
+
+TEST(CellColorsTest, PaintsAChosenColorExactly) {
+    const CellColors chosen{QColor(1, 2, 3), QColor(4, 5, 6)};
+    const CellColors painted = TotalColors(chosen, DarkPalette());
+    EXPECT_EQ(painted.ground, QColor(1, 2, 3));
+    EXPECT_EQ(painted.ink, QColor(4, 5, 6));
+}
+
+// Yellow under the light text of a dark desktop would be about 1.2:1.
+TEST(CellColorsTest, TurnsToAReadableTextOnAChosenGround) {
+    EXPECT_EQ(CalculatedColors({QColor(255, 255, 0), {}}, DarkPalette()).ink, QColor(Qt::black));
+    EXPECT_EQ(CalculatedColors({QColor(0, 0, 128), {}}, LightPalette()).ink, QColor(Qt::white));
+    EXPECT_EQ(CalculatedColors({QColor(255, 255, 0), {}}, LightPalette()).ink,
+              LightPalette().color(QPalette::Text));
+}
+
+// The themes of desktops for weak eyes: black on white, white on black, yellow on black.
+TEST(CellColorsTest, KeepsTheContrastOfAContrastPalette) {
+    for (const auto& [base, text] : {std::pair(Qt::white, Qt::black), std::pair(Qt::black, Qt::white),
+                                     std::pair(Qt::black, Qt::yellow)}) {
+        QPalette palette;
+        for (const auto role : {QPalette::Base, QPalette::Window}) palette.setColor(role, base);
+        for (const auto role : {QPalette::Text, QPalette::WindowText}) palette.setColor(role, text);
+        const CellColors total = TotalColors({}, palette), calculated = CalculatedColors({}, palette);
+        EXPECT_EQ(total.ink, QColor(text));
+        EXPECT_GE(ContrastRatio(total.ink, total.ground), 10);
+        EXPECT_GE(ContrastRatio(total.ground, QColor(base)), 1.15);
+        EXPECT_GE(ContrastRatio(calculated.ground, QColor(base)), 1.08);
+    }
+}
 
 // 1440 twips are an inch.
 TEST(Twips, AreATwentiethOfAPoint) {

@@ -2,6 +2,7 @@
 #include <QtTest/QSignalSpy>
 
 #include "GuiTest.h"
+#include "platform/qt/CellColors.h"
 #include "platform/qt/ColorButton.h"
 #include "shell/ui/Icons.h"
 #include "shell/ui/UpDown.h"
@@ -174,10 +175,12 @@ TEST_F(OptionsWindow, AColorShowsAtOnceAndActsWithOk) {
     auto& picture = In<ColorButton>("picSumBackground");
     colors.answer = QColor(1, 2, 3);
     picture.click();
-    EXPECT_EQ(colors.asked, Strings{"Total Background #00ff00"});
+    // Not chosen yet: it shows what the grids show.
+    const QColor tint = TotalColors({}, dialog->palette()).ground;
+    EXPECT_EQ(colors.asked, Strings{"Total Background " + FromQt(tint.name())});
     EXPECT_EQ(picture.Shown(), QColor(1, 2, 3));
     EXPECT_EQ(In<QLabel>("lblSum").palette().color(QPalette::Window), QColor(1, 2, 3));
-    EXPECT_EQ(shell.CurrentSettings().gridTotalBg, 65280);
+    EXPECT_EQ(shell.CurrentSettings().gridTotalBg, std::nullopt);
     // Cancelled: nothing changes.
     colors.answer.reset();
     picture.click();
@@ -201,7 +204,7 @@ TEST_F(OptionsWindow, OpenGridsTakeTheColorsAtOnce) {
             .data(Qt::BackgroundRole)
             .value<QBrush>();
     };
-    EXPECT_EQ(ground().color(), QColor(0xffff00));
+    EXPECT_EQ(ground().color(), CalculatedColors({}, view.palette()).ground);
     QSignalSpy changed(&view.Model(), &QAbstractItemModel::dataChanged);
     Open();
     Tabs().setCurrentIndex(2);
@@ -231,7 +234,7 @@ TEST_F(OptionsWindow, TheMenuKeyOffersResetInTheMiddleOfTheGroup) {
     const QWidget& group = In<QWidget>("GridColors");
     EXPECT_EQ(menu->pos(), group.mapToGlobal(group.rect().center()));
     QTest::keyClick(menu, Qt::Key_R);
-    EXPECT_EQ(In<ColorButton>("picCalcBackground").Shown(), QColor(0xffff00));
+    EXPECT_EQ(In<ColorButton>("picCalcBackground").Shown(), CalculatedColors({}, dialog->palette()).ground);
 }
 
 TEST_F(OptionsWindow, TheMouseOffersResetOnTheGroupAlone) {

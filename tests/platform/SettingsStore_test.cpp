@@ -68,6 +68,16 @@ TEST(SettingsStore, SavesForTheMachineOrElseForTheUser) {
     EXPECT_EQ(port.Read(Layer::User, "Settings", "HopForm"), "2");
 }
 
+TEST(SettingsStore, ForgetsTheUsersTextAlone) {
+    MemorySettings port;
+    const SettingsStore store(port);
+    port.Put("Settings", "HopForm", "1", Layer::Machine);
+    store.SaveSetting("Settings", "HopForm", "2", false);
+    store.ForgetSetting("Settings", "HopForm");
+    EXPECT_EQ(store.GetSetting("Settings", "HopForm", "0"), "1");
+    store.ForgetSetting("Settings", "NoSuchKey");
+}
+
 TEST(SettingsStore, AStoreThatCannotBeWrittenEndsSilently) {
     MemorySettings port;
     port.userWritable = false;

@@ -97,7 +97,7 @@ TEST_F(OptionsModelTest, OkTakesEveryControlIntoTheSettings) {
         EXPECT_TRUE(dialog.SetControl(name, text)) << name;
     // Nothing before OK.
     EXPECT_EQ(S().hopForm, 0);
-    EXPECT_EQ(S().gridReadOnlyBg, 65535);
+    EXPECT_EQ(S().gridReadOnlyBg, std::nullopt);
     EXPECT_TRUE(dialog.Press("cmdOK"));
     EXPECT_FALSE(dialog.IsOpen());
     EXPECT_EQ(S().hopForm, 2);
@@ -291,10 +291,22 @@ TEST_F(OptionsModelTest, ResetSetsThePicturesAloneUntilOk) {
     EXPECT_EQ(dialog.Color("picSumForeground"), 1);
     EXPECT_EQ(S().gridReadOnlyBg, 10);
     dialog.Press("cmdOK");
-    EXPECT_EQ(S().gridReadOnlyBg, 65535);
-    EXPECT_EQ(S().gridReadOnlyFg, 1);
+    // As if none had ever been chosen.
+    for (const auto& color : {S().gridReadOnlyBg, S().gridReadOnlyFg, S().gridTotalBg, S().gridTotalFg})
+        EXPECT_EQ(color, std::nullopt);
+}
+
+TEST_F(OptionsModelTest, OnlyAColorThatIsChosenReachesTheSettings) {
+    OptionsModel dialog = Open();
+    EXPECT_EQ(dialog.Text("picSumBackground"), "65280");
+    EXPECT_EQ(dialog.ChosenColor("picSumBackground"), std::nullopt);
+    // The default, chosen by hand, is a choice.
+    EXPECT_TRUE(dialog.SetControl("picSumBackground", "65280"));
+    EXPECT_EQ(dialog.ChosenColor("picSumBackground"), 65280);
+    dialog.Press("cmdOK");
     EXPECT_EQ(S().gridTotalBg, 65280);
-    EXPECT_EQ(S().gridTotalFg, 1);
+    EXPECT_EQ(S().gridTotalFg, std::nullopt);
+    EXPECT_EQ(S().gridReadOnlyBg, std::nullopt);
 }
 
 TEST_F(OptionsModelTest, WaterProfilesStandByNameBehindAnEmptyEntry) {

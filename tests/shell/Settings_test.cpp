@@ -48,10 +48,10 @@ TEST_F(SettingsTest, AnEmptyStoreGivesTheDefaults) {
     EXPECT_EQ(s.doAutoSaveEvery, 5);
     EXPECT_TRUE(s.askBeforeNonUndoableChange);
     EXPECT_TRUE(s.quickPrintFromToolbar);
-    EXPECT_EQ(s.gridReadOnlyBg, 65535);
-    EXPECT_EQ(s.gridTotalBg, 65280);
-    EXPECT_EQ(s.gridReadOnlyFg, 1);
-    EXPECT_EQ(s.gridTotalFg, 1);
+    EXPECT_EQ(s.gridReadOnlyBg, std::nullopt);
+    EXPECT_EQ(s.gridTotalBg, std::nullopt);
+    EXPECT_EQ(s.gridReadOnlyFg, std::nullopt);
+    EXPECT_EQ(s.gridTotalFg, std::nullopt);
     EXPECT_EQ(s.lpMaxIter, 1000);
 }
 
@@ -177,7 +177,40 @@ TEST_F(SettingsTest, ColoursTake32Bits) {
     EXPECT_TRUE(s.Take("GridTotalBg", "16777215"));
     EXPECT_EQ(s.gridTotalBg, 16777215);
     EXPECT_TRUE(s.Take("GridTotalBg", "2147483648"));
-    EXPECT_EQ(s.gridTotalBg, 65280);
+    EXPECT_EQ(s.gridTotalBg, std::nullopt);
+}
+
+TEST_F(SettingsTest, AColourThatWasNeverChosenIsNotStored) {
+    Settings s = Load();
+    s.gridTotalBg = 255;
+    s.Store(store);
+    EXPECT_EQ(port.Read(SettingsPort::Layer::User, "Settings", "GridTotalBg"), "255");
+    for (const char* key : {"GridReadOnlyBg", "GridReadOnlyFg", "GridTotalFg"})
+        EXPECT_EQ(port.Read(SettingsPort::Layer::User, "Settings", key), std::nullopt) << key;
+    // Given back: the store forgets it too.
+    s.gridTotalBg.reset();
+    s.Store(store);
+    EXPECT_EQ(port.Read(SettingsPort::Layer::User, "Settings", "GridTotalBg"), std::nullopt);
+}
+
+TEST_F(SettingsTest, AStoredColourIsChosenEvenIfItIsTheDefault) {
+    port.Put("Settings", "GridReadOnlyBg", "65535");
+    const Settings s = Load();
+    EXPECT_EQ(s.gridReadOnlyBg, 65535);
+    EXPECT_EQ(s.gridReadOnlyFg, std::nullopt);
+}
+
+// Versions before the tints wrote all four at every shut-down.
+TEST_F(SettingsTest, TheFourDefaultsTogetherAreNoChoice) {
+    port.Put("Settings", "GridReadOnlyBg", "65535");
+    port.Put("Settings", "GridTotalBg", "65280");
+    port.Put("Settings", "GridReadOnlyFg", "1");
+    port.Put("Settings", "GridTotalFg", "1");
+    EXPECT_EQ(Load().gridReadOnlyBg, std::nullopt);
+    EXPECT_EQ(Load().gridTotalFg, std::nullopt);
+    port.Put("Settings", "GridTotalFg", "2");
+    EXPECT_EQ(Load().gridReadOnlyBg, 65535);
+    EXPECT_EQ(Load().gridTotalFg, 2);
 }
 
 TEST_F(SettingsTest, AnUnknownKeyIsRefused) {
@@ -187,7 +220,9 @@ TEST_F(SettingsTest, AnUnknownKeyIsRefused) {
 }
 
 TEST_F(SettingsTest, ShutDownWritesEveryKeyInItsOrderAndForm) {
-    Load().Store(store);
+    Settings s = Load();
+    s.gridReadOnlyBg = 65535, s.gridTotalBg = 65280, s.gridReadOnlyFg = 1, s.gridTotalFg = 1;
+    s.Store(store);
     EXPECT_EQ(port.written, (Strings{"ChildState=0",
                                      "AppendRows=0",
                                      "HopForm=0",

@@ -196,6 +196,8 @@ TEST_F(ShellStartTest, ShutDownWritesGeometryThenSettingsThenTheRecentList) {
     shell.LoadWindowSettings();
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
     shell.AddToMRU("Pale Ale");
+    Settings& s = shell.CurrentSettings();
+    s.gridReadOnlyBg = 65535, s.gridTotalBg = 65280, s.gridReadOnlyFg = 1, s.gridTotalFg = 1;
     ASSERT_TRUE(shell.RequestExit());
     shell.Unload(true);
     const Strings& written = outside.settings.written;

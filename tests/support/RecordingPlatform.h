@@ -107,6 +107,10 @@ class MemorySettings : public SettingsPort {
         return true;
     }
 
+    void Remove(Layer layer, std::string_view section, std::string_view key) override {
+        values.erase({layer, std::string(section), std::string(key)});
+    }
+
     void Put(std::string_view section, std::string_view key, std::string_view value,
              Layer layer = Layer::User) {
         values[{layer, std::string(section), std::string(key)}] = value;

@@ -1,16 +1,16 @@
 // What a document window asks of the main window around it.
 #pragma once
 
-#include <QColor>
 #include <QPoint>
 #include <string_view>
 
+#include "platform/qt/CellColors.h"
+
 namespace tw {
 
-// The two colour pairs of the settings, painted exactly as stored.
+// The two colour pairs of the settings, as far as the brewer has chosen them.
 struct GridColors {
-    QColor readOnlyBack, readOnlyFore;
-    QColor totalBack, totalFore;
+    CellColors readOnly, total;
 };
 
 class DocumentFrame {

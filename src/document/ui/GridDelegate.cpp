@@ -24,6 +24,12 @@ void PaintCheckBox(QPainter& painter, const QStyleOptionViewItem& option, Qt::Ch
     PaintCheckIndicator(painter, box, option.palette, state == Qt::Checked);
 }
 
+// Sums stand below a line.
+void PaintSumLine(QPainter& painter, const QRect& cell, const QColor& ink) {
+    painter.setPen(ink);
+    painter.drawLine(cell.topLeft(), cell.topRight());
+}
+
 // The current cell: a strong frame while the grid has the focus, a thin one while it has not.
 void PaintCurrentFrame(QPainter& painter, const QStyleOptionViewItem& option, bool focused) {
     const int width = focused ? 2 : 1;
@@ -43,8 +49,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& plain,
                          const QModelIndex& index) const {
     QStyleOptionViewItem option = plain;
     initStyleOption(&option, index);
-    const auto* view = qobject_cast<const QAbstractItemView*>(option.widget);
-    const bool current = view && body_.IsCurrentCell(index);
+    const bool current = body_.IsCurrentCell(index);
     painter->save();
     const QVariant ground = index.data(Qt::BackgroundRole);
     painter->fillRect(option.rect,
@@ -55,11 +60,13 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& plain,
         painter->fillRect(option.rect, veil);
     }
     const QVariant check = index.data(Qt::CheckStateRole);
+    const QVariant ownInk = index.data(Qt::ForegroundRole);
+    const QColor ink =
+        ownInk.isValid() ? ownInk.value<QBrush>().color() : option.palette.color(QPalette::Text);
     if (check.isValid()) {
         PaintCheckBox(*painter, option, static_cast<Qt::CheckState>(check.toInt()));
     } else {
-        const QVariant ink = index.data(Qt::ForegroundRole);
-        painter->setPen(ink.isValid() ? ink.value<QBrush>().color() : option.palette.color(QPalette::Text));
+        painter->setPen(ink);
         painter->setFont(option.font);
         const int padding = CellPadding(body_);
         const QRect place = option.rect.adjusted(padding, 0, -padding, 0);
@@ -69,7 +76,10 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& plain,
     painter->setPen(HairlineColor(option.palette));
     painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-    if (current) PaintCurrentFrame(*painter, option, view->hasFocus());
+    if (static_cast<const GridModel&>(*index.model()).IsTotal(index))
+        PaintSumLine(*painter, option.rect, ink);
+    // The rows have the focus for the totals too.
+    if (current) PaintCurrentFrame(*painter, option, body_.hasFocus());
     painter->restore();
 }
 
@@ -170,7 +180,10 @@ bool GridDelegate::HandleKey(QWidget& editor, const QKeyEvent& key) {
     switch (key.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            Close(editor, SubmitModelCache);
+            if (key.modifiers().testFlag(Qt::ControlModifier))
+                body_.BrowseSoon();
+            else
+                Close(editor, SubmitModelCache);
             return true;
         case Qt::Key_Tab:
             Close(editor, EditNextItem);

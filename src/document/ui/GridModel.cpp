@@ -2,6 +2,7 @@
 
 #include <QBrush>
 #include <QFont>
+#include <QWidget>
 
 #include "platform/qt/QtText.h"
 
@@ -22,10 +23,20 @@ bool IsItalic(const Grid& grid, int row, int col) {
     return grid.Name() == "gridWater" && row >= WaterRow::Needed && col >= WaterCol::FirstIon;
 }
 
+// A colour as a role's value; nothing for an invalid one.
+QVariant BrushOf(const QColor& color) {
+    return color.isValid() ? QVariant(QBrush(color)) : QVariant();
+}
+
 }  // namespace
 
-GridModel::GridModel(DocumentBinding& binding, Grid& grid, Part part, QObject* parent)
-    : QAbstractTableModel(parent), binding_(binding), grid_(&grid), part_(part), rows_(CountRows()) {}
+GridModel::GridModel(DocumentBinding& binding, Grid& grid, Part part, QWidget* view)
+    : QAbstractTableModel(view),
+      binding_(binding),
+      view_(*view),
+      grid_(&grid),
+      part_(part),
+      rows_(CountRows()) {}
 
 int GridModel::FirstRow() const {
     return part_ == Part::Data || !grid_ ? Grid::FixedRows() : grid_->EndOfData();
@@ -69,20 +80,26 @@ bool GridModel::HasCatalogue(const QModelIndex& index) const {
            document->PickListOf(*grid_, GridRow(index.row()), index.column());
 }
 
-QVariant GridModel::Colored(int row, int col, bool background) const {
-    const GridColors colors = binding_.Frame().Colors();
-    switch (grid_->Paint(row, col)) {
-        case CellPaint::ReadOnly:
-            return QBrush(background ? colors.readOnlyBack : colors.readOnlyFore);
-        case CellPaint::Total:
-            return QBrush(background ? colors.totalBack : colors.totalFore);
-        default:
-            return {};
-    }
+bool GridModel::IsTotal(const QModelIndex& index) const {
+    return grid_ && index.isValid() && grid_->Paint(GridRow(index.row()), index.column()) == CellPaint::Total;
 }
 
+CellColors GridModel::ColorsOf(int row, int col) const {
+    switch (grid_->Paint(row, col)) {
+        case CellPaint::ReadOnly:
+            return CalculatedColors(binding_.Frame().Colors().readOnly, view_.palette());
+        case CellPaint::Total:
+            return TotalColors(binding_.Frame().Colors().total, view_.palette());
+        case CellPaint::Plain:
+            break;
+    }
+    return {};
+}
+
+// Rows of totals are bold. Among the data rows bold has a meaning of its own: an ion that is close enough.
 QVariant GridModel::FontOf(int row, int col) const {
-    const bool bold = grid_->At(row, col).bold, italic = IsItalic(*grid_, row, col);
+    const bool isTotal = part_ == Part::Totals && grid_->Paint(row, col) == CellPaint::Total;
+    const bool bold = isTotal || grid_->At(row, col).bold, italic = IsItalic(*grid_, row, col);
     if (!bold && !italic) return {};
     QFont font;
     font.setBold(bold);
@@ -110,9 +127,9 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(AlignmentOf(*grid_, col));
         case Qt::BackgroundRole:
-            return Colored(row, col, true);
+            return BrushOf(ColorsOf(row, col).ground);
         case Qt::ForegroundRole:
-            return Colored(row, col, false);
+            return BrushOf(ColorsOf(row, col).ink);
         case Qt::FontRole:
             return FontOf(row, col);
         case Qt::CheckStateRole:

@@ -13,7 +13,8 @@ class GridModel final : public QAbstractTableModel {
   public:
     enum class Part { Data, Totals };
 
-    GridModel(DocumentBinding& binding, Grid& grid, Part part, QObject* parent);
+    // view: the widget that shows the rows; its palette gives the tints.
+    GridModel(DocumentBinding& binding, Grid& grid, Part part, QWidget* view);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -26,6 +27,8 @@ class GridModel final : public QAbstractTableModel {
     int ModelRow(int gridRow) const;
     bool IsCheckBox(const QModelIndex& index) const;
     bool CanEdit(const QModelIndex& index) const;
+    // Whether the cell is one of a row of totals.
+    bool IsTotal(const QModelIndex& index) const;
     // Whether the cell's name can be chosen from a catalogue.
     bool HasCatalogue(const QModelIndex& index) const;
     // Numbers stand at the right, texts at the left.
@@ -43,11 +46,13 @@ class GridModel final : public QAbstractTableModel {
   private:
     int FirstRow() const;
     int CountRows() const;
-    QVariant Colored(int row, int col, bool background) const;
+    // Invalid colours for a cell that is painted like the rest of the window.
+    CellColors ColorsOf(int row, int col) const;
     QVariant FontOf(int row, int col) const;
     QString Spoken(int row, int col) const;
 
     DocumentBinding& binding_;
+    const QWidget& view_;
     Grid* grid_;
     Part part_;
     int rows_;

@@ -22,11 +22,6 @@ double Luminance(const QColor& color) {
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-QColor Mix(const QColor& a, const QColor& b, double partOfB) {
-    const auto mix = [&](int x, int y) { return static_cast<int>(std::lround(x + (y - x) * partOfB)); };
-    return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
-}
-
 using Colors = std::initializer_list<std::pair<QPalette::ColorRole, QColor>>;
 
 QPalette MakePalette(Colors colors, const QColor& disabledText) {
@@ -40,6 +35,11 @@ QPalette MakePalette(Colors colors, const QColor& disabledText) {
 }
 
 }  // namespace
+
+QColor Mix(const QColor& a, const QColor& b, double partOfB) {
+    const auto mix = [&](int x, int y) { return static_cast<int>(std::lround(x + (y - x) * partOfB)); };
+    return {mix(a.red(), b.red()), mix(a.green(), b.green()), mix(a.blue(), b.blue())};
+}
 
 int Unit(const QWidget& widget) {
     return std::max(4, widget.fontMetrics().lineSpacing() / 2);

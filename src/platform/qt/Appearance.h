@@ -43,6 +43,9 @@ QColor HairlineColor(const QPalette& palette);
 QPalette LightPalette();
 QPalette DarkPalette();
 
+// The colour that holds partOfB (0 to 1) of b and the rest of a.
+QColor Mix(const QColor& a, const QColor& b, double partOfB);
+
 // The contrast of two opaque colours, 1 to 21, by the formula of the Web Content Accessibility Guidelines.
 double ContrastRatio(const QColor& a, const QColor& b);
 

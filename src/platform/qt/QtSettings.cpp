@@ -64,4 +64,9 @@ bool QtSettings::Write(Layer layer, std::string_view section, std::string_view k
     return settings.status() != QSettings::AccessError;
 }
 
+void QtSettings::Remove(Layer layer, std::string_view section, std::string_view key) {
+    QSettings& settings = Of(layer);
+    if (settings.isWritable()) settings.remove(Path(section, key));
+}
+
 }  // namespace tw

@@ -20,6 +20,7 @@ class QtSettings : public SettingsPort {
     std::optional<std::string> Read(Layer layer, std::string_view section, std::string_view key) override;
     // The file is brought up to date when the program returns to its event loop, and when this object goes.
     bool Write(Layer layer, std::string_view section, std::string_view key, std::string_view value) override;
+    void Remove(Layer layer, std::string_view section, std::string_view key) override;
 
     std::vector<std::string> Files() const override;
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QColor>
+#include <optional>
 
 namespace tw {
 
@@ -9,6 +10,11 @@ inline QColor ColorOf(int stored) {
     const auto value = static_cast<unsigned>(stored);
     return {static_cast<int>(value & 0xFF), static_cast<int>(value >> 8 & 0xFF),
             static_cast<int>(value >> 16 & 0xFF)};
+}
+
+// An invalid colour for nothing stored.
+inline QColor ColorOf(std::optional<int> stored) {
+    return stored ? ColorOf(*stored) : QColor();
 }
 
 inline int StoredColorOf(const QColor& color) {

@@ -322,8 +322,8 @@ void frmMain::ShowEditMenu(const QPoint& globalPosition) {
 
 GridColors frmMain::Colors() const {
     const Settings& settings = shell_.CurrentSettings();
-    return {ColorOf(settings.gridReadOnlyBg), ColorOf(settings.gridReadOnlyFg), ColorOf(settings.gridTotalBg),
-            ColorOf(settings.gridTotalFg)};
+    return {{ColorOf(settings.gridReadOnlyBg), ColorOf(settings.gridReadOnlyFg)},
+            {ColorOf(settings.gridTotalBg), ColorOf(settings.gridTotalFg)}};
 }
 
 void frmMain::FillWindowMenu() {

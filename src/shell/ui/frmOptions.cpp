@@ -101,7 +101,8 @@ void frmOptions::ShowModel() {
             // The text of a list without a choice is an entry too; the model knows which it is.
             list->setCurrentIndex(list->findText(text));
         } else if (auto* color = qobject_cast<ColorButton*>(widget)) {
-            color->Show(ColorOf(model_.Color(control.name)));
+            const CellColors shown = ShownColors(control.name.starts_with("picCalc"));
+            color->Show(control.name.ends_with("Background") ? shown.ground : shown.ink);
         } else if (auto* box = qobject_cast<QAbstractButton*>(widget)) {
             box->setChecked(control.text == "yes");
         }
@@ -110,14 +111,21 @@ void frmOptions::ShowModel() {
                           static_cast<QWidget*>(every_), static_cast<QWidget*>(minutes_)})
         part->setEnabled(model_.SaveIncEnabled());
     upDown_->setEnabled(model_.UpDownEnabled());
-    ShowSample(*calcSample_, "picCalcBackground", "picCalcForeground");
-    ShowSample(*sumSample_, "picSumBackground", "picSumForeground");
+    ShowSample(*calcSample_, ShownColors(true));
+    ShowSample(*sumSample_, ShownColors(false));
 }
 
-void frmOptions::ShowSample(QLabel& sample, const char* background, const char* foreground) {
+CellColors frmOptions::ShownColors(bool calculated) const {
+    const char* const ground = calculated ? "picCalcBackground" : "picSumBackground";
+    const char* const ink = calculated ? "picCalcForeground" : "picSumForeground";
+    const CellColors chosen{ColorOf(model_.ChosenColor(ground)), ColorOf(model_.ChosenColor(ink))};
+    return calculated ? CalculatedColors(chosen, palette()) : TotalColors(chosen, palette());
+}
+
+void frmOptions::ShowSample(QLabel& sample, const CellColors& shown) {
     QPalette colors = sample.palette();
-    colors.setColor(QPalette::Window, ColorOf(model_.Color(background)));
-    colors.setColor(QPalette::WindowText, ColorOf(model_.Color(foreground)));
+    colors.setColor(QPalette::Window, shown.ground);
+    colors.setColor(QPalette::WindowText, shown.ink);
     sample.setPalette(colors);
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 
+#include "platform/qt/CellColors.h"
 #include "platform/qt/ColorChooser.h"
 #include "shell/OptionsModel.h"
 
@@ -61,7 +62,9 @@ class frmOptions final : public QDialog {
     void ChooseColor(const QString& picture);
     // Everything shows what the model holds.
     void ShowModel();
-    void ShowSample(QLabel& sample, const char* background, const char* foreground);
+    // How the grids paint their calculated cells, or else their totals, with the colours of the dialog.
+    CellColors ShownColors(bool calculated) const;
+    static void ShowSample(QLabel& sample, const CellColors& shown);
     void FieldLeft();
     // The focus goes back to a refused field, once the event that took it away is over.
     void GoBackTo(const QString& field);
