@@ -83,6 +83,17 @@ TEST_F(AutoSaveWindow, ShowsTheRecipeAndHowFarItIs) {
     EXPECT_EQ(progress.findChild<QLabel*>(QStringLiteral("lblRecipe"))->text(), QStringLiteral("Porter"));
 }
 
+TEST_F(AutoSaveWindow, SaysWhatItIsSaving) {
+    AutoSaveModel model(shell);
+    const frmAutoSave progress(model, &window);
+    for (const auto& [name, text] :
+         {std::pair("Label1", "Saving your open recipes."), std::pair("Label2", "Recipe:")}) {
+        const auto* label = progress.findChild<QLabel*>(QLatin1String(name));
+        ASSERT_NE(label, nullptr) << name;
+        EXPECT_EQ(FromQt(label->text()), text);
+    }
+}
+
 TEST_F(AutoSaveWindow, AnOpenCellEditorGoesOnBeingTypedInto) {
     Stored("Stout");
     GridView& grid = GridAt(Tab::Grains, "gridGrain", 1, 1);

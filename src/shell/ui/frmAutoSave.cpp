@@ -36,8 +36,14 @@ frmAutoSave::frmAutoSave(AutoSaveModel& model, QWidget* parent)
     progress_->setObjectName(QStringLiteral("ProgressBar1"));
     progress_->setAccessibleName(tr("Progress"));
     progress_->setTextVisible(false);
+    auto* caption = new QLabel(tr("Recipe:"), this);
+    caption->setObjectName(QStringLiteral("Label2"));
+    auto* recipe = new QHBoxLayout;
+    recipe->setSpacing(Unit(*this) * kGapUnits);
+    recipe->addWidget(caption);
+    recipe->addWidget(recipe_, 1);
     column->addWidget(saving);
-    column->addWidget(recipe_);
+    column->addLayout(recipe);
     column->addWidget(progress_);
     column->addStretch();
     setMinimumWidth(Unit(*this) * 40);
