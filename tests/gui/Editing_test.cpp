@@ -200,14 +200,18 @@ TEST_F(Editing, AnOpenCellEditorKeepsTheKeysOfText) {
 
 TEST_F(Editing, AHeaderClickSortsAndMarksTheColumn) {
     GridView& view = TwoGrains();
+    view.setCurrentIndex(view.Model().index(1, 2));
     ClickHeader(view, 1);
     EXPECT_EQ(Shown(view, 1, 1), "2 lb");
-    EXPECT_EQ(R().gridGrain.Selection(), (GridRange{1, 1, 1, 1}));
+    // The current cell stays where it is.
+    EXPECT_EQ(R().gridGrain.Selection(), (GridRange{2, 2, 2, 2}));
+    EXPECT_EQ(view.currentIndex(), view.Model().index(1, 2));
     EXPECT_TRUE(view.horizontalHeader()->isSortIndicatorShown());
     EXPECT_EQ(view.horizontalHeader()->sortIndicatorSection(), 1);
     EXPECT_EQ(view.horizontalHeader()->sortIndicatorOrder(), Qt::AscendingOrder);
     EXPECT_EQ(Action("mnuEditUndo").text(), QStringLiteral("&Undo Sort"));
     // The same by key, the other way round.
+    view.setCurrentIndex(view.Model().index(0, 1));
     Key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Shown(view, 1, 1), "8 lb");
     EXPECT_EQ(view.horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);

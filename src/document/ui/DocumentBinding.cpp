@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QWidget>
+#include <utility>
 
 #include "document/ui/GridView.h"
 #include "platform/qt/ErrorBox.h"
@@ -75,11 +76,6 @@ void DocumentBinding::ForEachGrid(const std::function<void(GridView&)>& visit) c
 bool DocumentBinding::HandleKey(const QKeyEvent& key) {
     if (!key.modifiers().testFlag(Qt::ControlModifier)) return false;
     switch (key.key()) {
-        case Qt::Key_PageDown:
-        case Qt::Key_PageUp:
-            if (!stepTab_) return false;
-            stepTab_(key.key() == Qt::Key_PageDown ? 1 : -1);
-            return true;
         case Qt::Key_Plus:
         case Qt::Key_Equal:  // the plus key where plus needs Shift
             return frame_.RunCommand("mnuEditInsert");
@@ -127,8 +123,25 @@ bool DocumentBinding::IsLeaving(const QFocusEvent& event, const QWidget& control
 }
 
 void DocumentBinding::SetActiveField(QWidget* field, std::function<bool()> commit) {
+    if (activeField_ != field) LeaveActiveField();
     activeField_ = field;
     commitActiveField_ = std::move(commit);
+}
+
+void DocumentBinding::FocusIsIn(const QWidget& control) {
+    if (!activeField_ || activeField_ == &control || activeField_->isAncestorOf(&control)) return;
+    LeaveActiveField();
+}
+
+void DocumentBinding::LeaveActiveField() {
+    if (!document_ || !activeField_ || !commitActiveField_ || IsRefusing()) return;
+    const QPointer<QWidget> left = activeField_;
+    const std::function<bool()> commit = std::exchange(commitActiveField_, {});
+    activeField_.clear();
+    if (commit()) return;
+    Refuse(left, [left] {
+        if (left) left->setFocus();
+    });
 }
 
 void DocumentBinding::Refuse(QWidget* field, std::function<void()> takeBack) {

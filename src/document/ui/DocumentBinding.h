@@ -45,9 +45,7 @@ class DocumentBinding final : public RecordObserver {
     // Every grid that has a widget.
     void ForEachGrid(const std::function<void(GridView&)>& visit) const;
 
-    // A step to the next (+1) or previous (-1) tab.
-    void SetStepTab(std::function<void(int)> stepTab) { stepTab_ = std::move(stepTab); }
-    // The keys of tabs and rows, which work in an open cell editor too. True when the key has been used up.
+    // The keys of rows, which work in an open cell editor too. True when the key has been used up.
     bool HandleKey(const QKeyEvent& key);
     // Those, and the keys of the Edit menu: its commands are the recipe's, never the widget's own.
     bool HandleEditKey(const QKeyEvent& key);
@@ -65,8 +63,12 @@ class DocumentBinding final : public RecordObserver {
     // Whether the focus goes for good: neither a menu or list opens over the control nor another program
     // comes in front. Another recipe's window in front is leaving.
     static bool IsLeaving(const QFocusEvent& event, const QWidget& control);
-    // The text box that may hold an uncommitted text; commit gives false for a bad entry.
+    // The text box that may hold an uncommitted text; commit gives false for a bad entry. The one before is
+    // left, however the focus came from it.
     void SetActiveField(QWidget* field, std::function<bool()> commit);
+    // The focus is in that control of the document. A text box that lost it to a menu, which kept it open,
+    // and does not get it back is left now.
+    void FocusIsIn(const QWidget& control);
     // A bad entry has been refused: its box takes the focus back as soon as the present event is over.
     void Refuse(QWidget* field, std::function<void()> takeBack);
     bool IsRefusing() const { return !refused_.isNull(); }
@@ -89,6 +91,7 @@ class DocumentBinding final : public RecordObserver {
 
   private:
     void Fire(const void* object);
+    void LeaveActiveField();
 
     RecipeDocument* document_;
     Platform& platform_;
@@ -98,7 +101,6 @@ class DocumentBinding final : public RecordObserver {
     std::unordered_map<const Grid*, GridView*> grids_;
     int holds_ = 0;
     std::function<void(Rgb)> showSwatch_;
-    std::function<void(int)> stepTab_;
     QPointer<QWidget> activeField_;
     std::function<bool()> commitActiveField_;
     QPointer<QWidget> refused_;

@@ -117,7 +117,9 @@ void FieldBox::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
         case Qt::Key_Delete:
             // Selected text goes as one step of the history, with or without the menu.
-            if (event->modifiers() != Qt::NoModifier || !hasSelectedText() || isReadOnly()) break;
+            if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier || !hasSelectedText() ||
+                isReadOnly())
+                break;
             binding_.Frame().RunCommand("mnuEditClear");
             return;
         case Qt::Key_Return:

@@ -8,7 +8,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
-#include "document/ui/GridDelegate.h"
+#include "document/ui/TotalsView.h"
 #include "platform/qt/Appearance.h"
 
 namespace tw {
@@ -31,7 +31,10 @@ GridPanel::GridPanel(DocumentBinding& binding, Grid& grid, const QString& name, 
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setFocusProxy(view_);
     setAccessibleName(name);
-    if (grid.EndOfData() < grid.Rows()) MakeTotals(binding, grid);
+    if (grid.EndOfData() < grid.Rows()) {
+        totals_ = new TotalsView(*view_, this);
+        view_->SetTotals(totals_);
+    }
     if (!hint.isEmpty()) {
         hint_ = new QLabel(hint, this);
         hint_->setWordWrap(true);
@@ -43,42 +46,8 @@ GridPanel::GridPanel(DocumentBinding& binding, Grid& grid, const QString& name, 
     view_->verticalScrollBar()->installEventFilter(this);
 }
 
-void GridPanel::MakeTotals(DocumentBinding& binding, Grid& grid) {
-    totals_ = new QTableView(this);
-    totals_->setObjectName(view_->objectName() + QStringLiteral("Totals"));
-    totals_->setAccessibleName(tr("Totals of %1").arg(view_->accessibleName()));
-    totals_->setFrameShape(QFrame::NoFrame);
-    totals_->setModel(new GridModel(binding, grid, GridModel::Part::Totals, totals_));
-    totals_->setItemDelegate(new GridDelegate(*view_, totals_));
-    totals_->horizontalHeader()->hide();
-    totals_->horizontalHeader()->setMinimumSectionSize(1);
-    totals_->verticalHeader()->hide();
-    totals_->verticalHeader()->setMinimumSectionSize(1);
-    totals_->verticalHeader()->setDefaultSectionSize(view_->RowHeight());
-    totals_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    totals_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    totals_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    totals_->setSelectionMode(QAbstractItemView::ContiguousSelection);
-    totals_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    totals_->setTabKeyNavigation(false);
-    totals_->setFocusPolicy(Qt::ClickFocus);
-    totals_->setWordWrap(false);
-    totals_->setShowGrid(false);
-    connect(totals_->selectionModel(), &QItemSelectionModel::currentChanged, this, &GridPanel::TotalChosen);
-    // The same cell again, after one of the rows above.
-    connect(totals_, &QTableView::clicked, this, &GridPanel::TotalChosen);
-    view_->SetTotals(totals_);
-}
-
-void GridPanel::TotalChosen(const QModelIndex& cell) {
-    if (!cell.isValid() || !view_->TheGrid()) return;
-    const int row = static_cast<GridModel*>(totals_->model())->GridRow(cell.row());
-    view_->Binding().Run(
-        [&](RecipeDocument& document) { document.SetCurrentCell(*view_->TheGrid(), row, cell.column()); });
-}
-
 int GridPanel::TotalsHeight() const {
-    return totals_ ? totals_->model()->rowCount() * view_->RowHeight() : 0;
+    return totals_ ? totals_->Model().rowCount() * view_->RowHeight() : 0;
 }
 
 QSize GridPanel::sizeHint() const {
@@ -91,12 +60,20 @@ QSize GridPanel::minimumSizeHint() const {
     return {Unit(*this) * 30, header + kLeastRows * view_->RowHeight() + TotalsHeight()};
 }
 
+// The height that a scroll bar below the rows takes; 0 when all columns are in sight. It is worked out, since
+// Qt shows its scroll bars only after the rows have their place.
+int GridPanel::WideBarHeight(int room) const {
+    const bool allRows = view_->ContentHeight() <= room;
+    const int sideBar = allRows ? 0 : view_->verticalScrollBar()->sizeHint().width();
+    const bool allColumns = view_->ContentWidth() <= contentsRect().width() - sideBar;
+    return allColumns ? 0 : view_->horizontalScrollBar()->sizeHint().height();
+}
+
 void GridPanel::Arrange() {
     const QRect all = contentsRect();
     const int totals = TotalsHeight();
-    const int wideBar =
-        view_->horizontalScrollBar()->isVisible() ? view_->horizontalScrollBar()->height() : 0;
-    const int rows = std::min(view_->ContentHeight() + wideBar, std::max(0, all.height() - totals));
+    const int room = std::max(0, all.height() - totals);
+    const int rows = std::min(view_->ContentHeight() + WideBarHeight(room), room);
     view_->setGeometry(all.left(), all.top(), all.width(), rows);
     if (totals_) {
         const int bar = view_->verticalScrollBar()->isVisible() ? view_->verticalScrollBar()->width() : 0;
@@ -124,8 +101,7 @@ void GridPanel::resizeEvent(QResizeEvent* event) {
 
 void GridPanel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const bool focused = view_->hasFocus() || view_->isAncestorOf(QApplication::focusWidget()) ||
-                         (totals_ && totals_->hasFocus());
+    const bool focused = view_->hasFocus() || view_->isAncestorOf(QApplication::focusWidget());
     if (focused) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), kFrameWidth));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
@@ -142,7 +118,9 @@ void GridPanel::mousePressEvent(QMouseEvent*) {
 void GridPanel::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) LookHint();
-    if (event->type() == QEvent::FontChange) Arrange();
+    if (event->type() != QEvent::FontChange) return;
+    if (totals_) totals_->verticalHeader()->setDefaultSectionSize(view_->RowHeight());
+    Arrange();
 }
 
 bool GridPanel::eventFilter(QObject* object, QEvent* event) {

@@ -10,6 +10,8 @@ class QLabel;
 
 namespace tw {
 
+class TotalsView;
+
 class GridPanel final : public QFrame {
     Q_OBJECT
   public:
@@ -29,16 +31,15 @@ class GridPanel final : public QFrame {
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
-    void MakeTotals(DocumentBinding& binding, Grid& grid);
-    // Makes a cell of the totals the current one.
-    void TotalChosen(const QModelIndex& cell);
     int TotalsHeight() const;
+    // room: the height for the rows and their scroll bars.
+    int WideBarHeight(int room) const;
     // Places the rows, the totals under the last row, or at the bottom when there is no room for all rows.
     void Arrange();
     void LookHint();
 
     GridView* view_;
-    QTableView* totals_ = nullptr;
+    TotalsView* totals_ = nullptr;
     QLabel* hint_ = nullptr;
 };
 

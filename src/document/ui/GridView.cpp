@@ -2,7 +2,6 @@
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QScrollBar>
 #include <algorithm>
 #include <cmath>
@@ -10,6 +9,7 @@
 #include <utility>
 
 #include "document/ui/GridDelegate.h"
+#include "document/ui/TotalsView.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/GridHeader.h"
 #include "platform/qt/QtText.h"
@@ -19,9 +19,6 @@ namespace {
 
 constexpr double kLinesPerRow = 1.6;
 constexpr int kExtraPerColumn = 7;
-
-// What a column's contents ask for at most: notes of the log must not push the other columns out of sight.
-constexpr int kWidestInDigits = 60;
 
 }  // namespace
 
@@ -73,8 +70,10 @@ void GridView::BuildHeader() {
 
 void GridView::Connect() {
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this](int col, int, int width) {
-        if (!fitting_) widthsChosen_ = true;
         if (totals_) totals_->setColumnWidth(col, width);
+        if (fitting_) return;
+        widthsChosen_ = true;
+        emit ContentChanged();
     });
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, &GridView::TellSelection);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &GridView::SortBy);
@@ -91,6 +90,10 @@ int GridView::ContentHeight() const {
     return horizontalHeader()->sizeHint().height() + model_->rowCount() * RowHeight();
 }
 
+int GridView::ContentWidth() const {
+    return horizontalHeader()->length();
+}
+
 void GridView::ShowCell(int row, int col) {
     // The rows are no longer known to stand in the order of the mark.
     if (!sorting_ && horizontalHeader()->sortIndicatorSection() == col) ShowSortMark(-1);
@@ -99,7 +102,7 @@ void GridView::ShowCell(int row, int col) {
         return;
     }
     model_->CellChanged(row, col);
-    if (totals_) static_cast<GridModel*>(totals_->model())->CellChanged(row, col);
+    if (totals_) totals_->Model().CellChanged(row, col);
     if (!widthsChosen_ && WantsMoreRoom(row, col)) FitGridColumns();
     emit ContentChanged();
 }
@@ -116,7 +119,7 @@ bool GridView::WantsMoreRoom(int row, int col) const {
     if (!grid_ || !isVisible()) return false;
     const int modelRow = model_->ModelRow(row);
     const int wanted = modelRow >= 0 ? sizeHintForIndex(model_->index(modelRow, col)).width() : 0;
-    return std::min(wanted, DigitsWidth(*this, kWidestInDigits)) > columnWidth(col);
+    return wanted > columnWidth(col);
 }
 
 void GridView::ShowRowInserted(int row) {
@@ -156,8 +159,10 @@ void GridView::ShowCurrentCell() {
     }
     if (totals_) SelectIn(*totals_, range);
     following_ = false;
-    viewport()->update();
-    if (totals_) totals_->viewport()->update();
+    if (InTotals() && hasFocus())
+        totals_->Announce(
+            totals_->Model().index(totals_->Model().ModelRow(grid_->CurrentRow()), grid_->CurrentCol()));
+    ShowFocus();
 }
 
 void GridView::SelectIn(QTableView& view, const GridRange& range) {
@@ -183,7 +188,7 @@ std::optional<GridRange> GridView::SelectedRange() const {
 
 void GridView::ShowColors() {
     model_->AllChanged();
-    if (totals_) static_cast<GridModel*>(totals_->model())->AllChanged();
+    if (totals_) totals_->Model().AllChanged();
 }
 
 void GridView::Detach() {
@@ -191,19 +196,18 @@ void GridView::Detach() {
     grid_ = nullptr;
     refused_ = false;
     model_->Detach();
-    if (totals_) static_cast<GridModel*>(totals_->model())->Detach();
+    if (totals_) totals_->Model().Detach();
 }
 
 void GridView::FitGridColumns() {
     if (!grid_ || !isVisible()) return;
     ensurePolished();
-    const int widest = DigitsWidth(*this, kWidestInDigits);
     std::vector<int> widths;
     for (int col = 0; col < model_->columnCount(); ++col) {
         int width = std::max(sizeHintForColumn(col), horizontalHeader()->sectionSizeHint(col));
-        for (int row = 0; totals_ && row < totals_->model()->rowCount(); ++row)
-            width = std::max(width, totals_->sizeHintForIndex(totals_->model()->index(row, col)).width());
-        widths.push_back(std::min(width, widest));
+        for (int row = 0; totals_ && row < totals_->Model().rowCount(); ++row)
+            width = std::max(width, totals_->sizeHintForIndex(totals_->Model().index(row, col)).width());
+        widths.push_back(width);
     }
     widths = FitColumns(std::move(widths), viewport()->width());
     fitting_ = true;
@@ -211,6 +215,7 @@ void GridView::FitGridColumns() {
         setColumnWidth(col, widths[static_cast<std::size_t>(col)]);
     fitting_ = false;
     widthsChosen_ = false;
+    emit ContentChanged();
 }
 
 bool GridView::IsBlankGrid() const {
@@ -261,8 +266,7 @@ bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event
         return false;
     }
     if (trigger == DoubleClicked && model_->HasCatalogue(index)) {
-        // The window of the catalogue comes up when the click is over.
-        QMetaObject::invokeMethod(this, &GridView::BrowseCatalogue, Qt::QueuedConnection);
+        BrowseSoon();
         return false;
     }
     return QTableView::edit(index, trigger, event);
@@ -334,6 +338,10 @@ void GridView::Toggle(const QModelIndex& cell) {
         [&](RecipeDocument& document) { document.SetChecked(*grid_, row, col, !grid_->Checked(row, col)); });
 }
 
+void GridView::BrowseSoon() {
+    QMetaObject::invokeMethod(this, &GridView::BrowseCatalogue, Qt::QueuedConnection);
+}
+
 void GridView::BrowseCatalogue() {
     if (!grid_ || !binding_.Flush()) return;
     binding_.Run([this](RecipeDocument& document) { document.BrowseCell(*grid_); });
@@ -355,76 +363,27 @@ void GridView::ShowSortMark(int col) {
     horizontalHeader()->setSortIndicatorShown(col >= 0);
 }
 
-bool GridView::Step(int direction) {
-    const int cols = model_->columnCount(), cells = model_->rowCount() * cols;
-    int place = currentIndex().row() * cols + currentIndex().column() + direction;
-    for (; place >= 0 && place < cells; place += direction) {
-        const QModelIndex cell = model_->index(place / cols, place % cols);
-        if (!model_->CanEdit(cell)) continue;
-        setCurrentIndex(cell);
-        return true;
-    }
-    return false;
-}
-
-void GridView::StepDown() {
-    const QModelIndex below = model_->index(currentIndex().row() + 1, currentIndex().column());
-    if (below.isValid()) setCurrentIndex(below);
-}
-
-void GridView::keyPressEvent(QKeyEvent* event) {
-    if (binding_.HandleEditKey(*event)) return;
-    const QModelIndex cell = currentIndex();
-    switch (event->key()) {
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            if (event->modifiers().testFlag(Qt::ControlModifier))
-                BrowseCatalogue();
-            else
-                StepDown();
-            return;
-        case Qt::Key_Space:
-            if (!model_->IsCheckBox(cell)) break;
-            Toggle(cell);
-            return;
-        case Qt::Key_Delete:
-            if (event->modifiers() != Qt::NoModifier) break;
-            binding_.Frame().RunCommand("mnuEditClear");
-            return;
-        case Qt::Key_S:
-            // Nothing needs the mouse: the header's click by key.
-            if (event->modifiers() != (Qt::ControlModifier | Qt::ShiftModifier)) break;
-            SortBy(grid_ ? grid_->CurrentCol() : -1);
-            return;
-        case Qt::Key_Down:
-            if (!hasDates_ || !event->modifiers().testFlag(Qt::AltModifier) || !cell.isValid()) break;
-            emit CalendarRequested(model_->GridRow(cell.row()));
-            return;
-        default:
-            break;
-    }
-    QTableView::keyPressEvent(event);
-}
-
-bool GridView::focusNextPrevChild(bool next) {
-    if (!CommitEditor()) return true;
-    if (hasFocus() && Step(next ? 1 : -1)) return true;
-    return QAbstractScrollArea::focusNextPrevChild(next);
-}
-
 void GridView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
-    // The current cell may have been one of the totals.
-    if (grid_ && !grid_->IsDataRow(grid_->CurrentRow())) TellSelection();
+    const bool byTab = event->reason() == Qt::TabFocusReason;
+    // Whoever comes by key wants to type, and that is not among the totals.
+    if (byTab && InTotals()) TellSelection();
     ShowCurrentCell();
-    if (!currentIndex().isValid() && model_->rowCount() > 0) setCurrentIndex(model_->index(0, 0));
-    // Whoever comes by key wants to type.
-    if (event->reason() == Qt::TabFocusReason && !model_->CanEdit(currentIndex())) Step(1);
+    if (!currentIndex().isValid() && model_->rowCount() > 0 && !InTotals())
+        setCurrentIndex(model_->index(0, 0));
+    if (byTab && !model_->CanEdit(currentIndex())) Step(1);
+    ShowFocus();
 }
 
 void GridView::focusOutEvent(QFocusEvent* event) {
     QTableView::focusOutEvent(event);
+    ShowFocus();
+}
+
+// The frame around the current cell is strong while the grid has the focus.
+void GridView::ShowFocus() {
     viewport()->update();
+    if (totals_) totals_->viewport()->update();
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
@@ -446,9 +405,15 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
 
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
     QPoint place = event->globalPos();
-    if (event->reason() == QContextMenuEvent::Keyboard)
-        place = viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
+    if (event->reason() == QContextMenuEvent::Keyboard) place = PlaceOfCurrentCell();
     binding_.Frame().ShowEditMenu(place);
+}
+
+QPoint GridView::PlaceOfCurrentCell() const {
+    if (!InTotals()) return viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
+    const GridModel& model = totals_->Model();
+    const QModelIndex cell = model.index(model.ModelRow(grid_->CurrentRow()), grid_->CurrentCol());
+    return totals_->viewport()->mapToGlobal(totals_->visualRect(cell).bottomLeft());
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {

@@ -14,6 +14,8 @@
 
 namespace tw {
 
+class TotalsView;
+
 // Column widths of a filled grid: autoWidths as they are; when they and 7 for each column leave some of
 // clientWidth, each gets the integer part of an equal share. Pixels.
 std::vector<int> FitColumns(std::vector<int> autoWidths, int clientWidth);
@@ -31,8 +33,15 @@ class GridView final : public QTableView {
     int RowHeight() const;
     // Height of header and rows.
     int ContentHeight() const;
+    // The width of all columns.
+    int ContentWidth() const;
     // The rows behind the data, whose columns follow these; nullptr for none.
-    void SetTotals(QTableView* totals) { totals_ = totals; }
+    void SetTotals(TotalsView* totals) { totals_ = totals; }
+    // Makes a cell of the grid, one of the totals too, the current one, or the end of the selected block.
+    void MoveTo(int row, int col, bool extends);
+    // Lets the brewer choose the current cell's name from its catalogue, if it has one, as soon as the
+    // present event is over. An open editor is committed first.
+    void BrowseSoon();
     // The first column holds dates: a double click and Alt+Down ask for a calendar instead of an editor.
     void SetHasDates() { hasDates_ = true; }
 
@@ -63,7 +72,7 @@ class GridView final : public QTableView {
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
 
   signals:
-    // The content height or whether the grid is blank may be another.
+    // The content's size or whether the grid is blank may have changed.
     void ContentChanged();
     void CalendarRequested(int row);
 
@@ -88,14 +97,37 @@ class GridView final : public QTableView {
     void BuildHeader();
     void Connect();
     void Toggle(const QModelIndex& cell);
-    // Lets the brewer choose the current cell's name from its catalogue, if it has one.
     void BrowseCatalogue();
     void SortBy(int col);
     void ShowSortMark(int col);
-    // To the next (+1) or previous (-1) cell that takes an entry; false when there is none.
+    // The keys and ways of the current cell (GridViewKeys.cpp).
+    struct Place {
+        int row, col;
+    };
+    // The corners of a selected block: the one that stays and the one that moves.
+    struct Block {
+        Place anchor, end;
+    };
+    Block SelectedBlock() const;
+    static GridRange RangeOf(const Block& block);
+    // Whether the current cell is one of the totals.
+    bool InTotals() const;
+    // The arrows over the border between rows and totals and among the totals. False for any other key.
+    bool MoveThroughTotals(const QKeyEvent& key);
+    // True when the key has been used up.
+    bool HandleOwnKey(const QKeyEvent& key);
+    // To the next (+1) or previous (-1) cell that takes an entry, or to the next total; false when there is
+    // none.
     bool Step(int direction);
+    // The same from a place among the data rows, whose cells count from 0.
+    bool StepFrom(int place, int direction);
     // To the cell below.
     void StepDown();
+    // Brings the column into sight.
+    void ShowColumn(int col);
+    void ShowFocus();
+    // The lower left corner of the current cell on the screen.
+    QPoint PlaceOfCurrentCell() const;
     void FollowRows(const std::function<void()>& change);
     // Makes this view's selection, or its current cell, the record's.
     void TellSelection();
@@ -110,7 +142,8 @@ class GridView final : public QTableView {
     DocumentBinding& binding_;
     Grid* grid_;
     GridModel* model_;
-    QTableView* totals_ = nullptr;
+    TotalsView* totals_ = nullptr;
+    Block block_{};  // the last one that reached into the totals
     QPointer<QWidget> editor_;
     QPersistentModelIndex editedCell_;
     bool committing_ = false;  // the entry is being validated

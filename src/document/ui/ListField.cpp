@@ -1,6 +1,7 @@
 #include "document/ui/ListField.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -83,6 +84,8 @@ int ListField::TypedEntry() const {
 
 void ListField::Settle() {
     if (!binding_.Document()) return;
+    // Left open, the list of matches would go on catching the keys.
+    completer()->popup()->hide();
     const int typed = TypedEntry();
     if (typed >= 0) Choose(typed);
     ShowList();
@@ -92,8 +95,6 @@ void ListField::Settle() {
 void ListField::focusInEvent(QFocusEvent* event) {
     QComboBox::focusInEvent(event);
     binding_.SetActiveField(this, [this] {
-        // Left open, the list of matches would go on catching the keys.
-        completer()->popup()->hide();
         Settle();
         return true;
     });
@@ -102,7 +103,19 @@ void ListField::focusInEvent(QFocusEvent* event) {
 
 void ListField::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
-    if (DocumentBinding::IsLeaving(*event, *this)) Settle();
+    if (!GoesToOwnPopup(*event) && !GoesToAnotherProgram(*event)) Settle();
+}
+
+// Whether one of the lists of the box or the menu of its text opens. Any other menu is a way to leave: the
+// focus need not come back from it.
+bool ListField::GoesToOwnPopup(const QFocusEvent& event) const {
+    const QWidget* const popup = QApplication::activePopupWidget();
+    if (event.reason() != Qt::PopupFocusReason || !popup) return false;
+    return popup == completer()->popup() || isAncestorOf(popup);
+}
+
+bool ListField::GoesToAnotherProgram(const QFocusEvent& event) const {
+    return event.reason() == Qt::ActiveWindowFocusReason && !isActiveWindow();
 }
 
 // The wheel changes the list only after it was chosen; before, it scrolls the page.

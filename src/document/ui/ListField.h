@@ -28,6 +28,8 @@ class ListField final : public QComboBox {
     void ShowList();
     void Choose(int index);
     int TypedEntry() const;
+    bool GoesToOwnPopup(const QFocusEvent& event) const;
+    bool GoesToAnotherProgram(const QFocusEvent& event) const;
     // What was typed becomes the choice, or the present entry comes back.
     void Settle();
 

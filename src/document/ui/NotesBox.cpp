@@ -89,13 +89,18 @@ void NotesBox::focusInEvent(QFocusEvent* event) {
 
 void NotesBox::focusOutEvent(QFocusEvent* event) {
     QPlainTextEdit::focusOutEvent(event);
-    Commit();
+    if (DocumentBinding::IsLeaving(*event, *this)) Commit();
 }
 
 void NotesBox::keyPressEvent(QKeyEvent* event) {
     if (binding_.HandleEditKey(*event)) return;
-    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::NoModifier &&
-        textCursor().hasSelection()) {
+    if (event->key() == Qt::Key_Escape) {
+        binding_.Run([this](RecipeDocument& document) { document.RestoreField(box_); });
+        moveCursor(QTextCursor::End);
+        return;
+    }
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (event->key() == Qt::Key_Delete && plain && textCursor().hasSelection()) {
         binding_.Frame().RunCommand("mnuEditClear");
         return;
     }

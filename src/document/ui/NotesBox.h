@@ -1,4 +1,4 @@
-// The notes of a recipe: text of many lines.
+// The notes of a recipe: text of many lines. Leaving it commits, Escape restores.
 #pragma once
 
 #include <QPlainTextEdit>

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -43,10 +44,28 @@ frmDocument::frmDocument(RecipeDocument& document, Platform& platform, DocumentF
     document.SetView(this);
     connect(tabs_, &QTabWidget::currentChanged, this, &frmDocument::TabChosen);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { FocusMoved(now); });
-    binding_.SetStepTab([this](int step) {
-        const int to = tabs_->currentIndex() + step;
-        if (to >= 0 && to < kTabs) ShowTab(static_cast<Tab>(to));
-    });
+    AddTabKeys();
+}
+
+// They work wherever the focus is in the recipe, and nowhere else.
+void frmDocument::AddTabKeys() {
+    const auto add = [this](const QKeySequence& key, std::function<void()> run) {
+        auto* shortcut = new QShortcut(key, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, std::move(run));
+    };
+    add(Qt::CTRL | Qt::Key_PageDown, [this] { StepTab(1); });
+    add(Qt::CTRL | Qt::Key_PageUp, [this] { StepTab(-1); });
+    for (int i = 0; i < kTabs; ++i) {
+        const QKeySequence key(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + i));
+        add(key, [this, i] { ShowTab(static_cast<Tab>(i)); });
+        tabs_->setTabToolTip(i, key.toString(QKeySequence::NativeText));
+    }
+}
+
+void frmDocument::StepTab(int step) {
+    const int to = tabs_->currentIndex() + step;
+    if (to >= 0 && to < kTabs) ShowTab(static_cast<Tab>(to));
 }
 
 frmDocument::~frmDocument() {
@@ -112,6 +131,7 @@ void frmDocument::FocusMoved(QWidget* now) {
     RecipeDocument* document = binding_.Document();
     // Menus and dialogs come and go; the edit commands stay with what they were about.
     if (!document || !now || !isAncestorOf(now)) return;
+    binding_.FocusIsIn(*now);
     for (QWidget* control = now; control != this; control = control->parentWidget()) {
         const auto* panel = qobject_cast<GridPanel*>(control);
         if (panel && panel->View().TheGrid()) return document->FocusOn(*panel->View().TheGrid());

@@ -47,6 +47,10 @@ class frmDocument final : public QWidget, private DocumentView {
     void HoldRedraw(bool hold) override;
     // Tells the document which control has the focus.
     void FocusMoved(QWidget* now);
+    // Ctrl+PageDown, Ctrl+PageUp, and Alt+1 to Alt+9.
+    void AddTabKeys();
+    // To the next (+1) or previous (-1) tab; nothing behind the last and before the first.
+    void StepTab(int step);
     // The contents of a tab are made when it is first shown.
     void BuildTab(int index);
     void TabChosen(int index);

@@ -1,0 +1,35 @@
+// The rows of totals below a grid's data rows. To the hands they are rows of that grid: the focus is with the
+// data rows, whose keys work here too.
+#pragma once
+
+#include <QTableView>
+
+namespace tw {
+
+class GridModel;
+class GridView;
+
+class TotalsView final : public QTableView {
+    Q_OBJECT
+  public:
+    // rows shows the data rows of the same grid and must outlive the view's last event.
+    TotalsView(GridView& rows, QWidget* parent);
+
+    GridModel& Model() const { return *model_; }
+    // Tells assistive programs that the cell is the current one.
+    void Announce(const QModelIndex& cell);
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent*) override {}
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    GridView& rows_;
+    GridModel* model_;
+};
+
+}  // namespace tw
