@@ -56,7 +56,7 @@ TEST_F(GridTotals, TheKeysOfTheGridWorkThere) {
     ClickTotal(view, 0, GrainCol::Amount);
     EXPECT_EQ(Focus(), "gridGrain");
     Key(Qt::Key_Insert, Qt::ControlModifier);
-    EXPECT_EQ(outside.clipboard.Text(), "8 lbs.");
+    EXPECT_EQ(outside.clipboard.Text(), "8 lbs.\r");
     Key(Qt::Key_Delete);
     Key(Qt::Key_Space);
     Type("9");
@@ -181,7 +181,7 @@ TEST_F(GridTotals, CalculatedCellsAndTotalsAreTintedOnAnyDesktop) {
     OneGrain();
     window.ActiveWindow()->ShowTab(Tab::Hops);
     for (const QPalette& palette : {LightPalette(), DarkPalette()}) {
-        QApplication::setPalette(palette);
+        window.setPalette(palette);
         const CellColors calculated = CalculatedColors({}, palette), total = TotalColors({}, palette);
         auto& grains = Find<GridView>("gridGrain");
         for (const int col : {GrainCol::Points, GrainCol::Hcu})
@@ -194,7 +194,6 @@ TEST_F(GridTotals, CalculatedCellsAndTotalsAreTintedOnAnyDesktop) {
         EXPECT_EQ(Color(sum, Qt::ForegroundRole), total.ink);
         EXPECT_TRUE(sum.data(Qt::FontRole).value<QFont>().bold());
     }
-    QApplication::setPalette(QPalette());
     // A total is as wide as its bold text.
     auto& grains = GridAt(Tab::Grains, "gridGrain", 1, 0);
     const QFontMetrics bold(BoldFont(grains.font()));
@@ -213,8 +212,9 @@ TEST_F(GridTotals, ANarrowGridShowsItsRowAboveItsScrollBar) {
     auto& view = GridAt(Tab::Hops, "gridHops", 1, 0);
     Type("Hallertauer Mittelfrueh from the cellar\r");
     auto& panel = *qobject_cast<GridPanel*>(view.parentWidget());
-    for (const int width : {1100, 500, 1100, 520}) {
-        window.resize(width, 600);
+    QWidget& frame = *window.ActiveWindow()->parentWidget();
+    for (const int width : {1050, 500, 1050, 520}) {
+        frame.resize(width, 500);
         QApplication::processEvents();
         ASSERT_EQ(view.horizontalScrollBar()->isVisible(), width < 1000) << width;
         EXPECT_FALSE(view.verticalScrollBar()->isVisible()) << width;
@@ -225,7 +225,7 @@ TEST_F(GridTotals, ANarrowGridShowsItsRowAboveItsScrollBar) {
         EXPECT_LE(Totals(view).geometry().bottom(), panel.contentsRect().bottom());
     }
     // A column that the brewer has dragged wide, too.
-    window.resize(1100, 600);
+    frame.resize(1050, 500);
     view.setColumnWidth(0, 2000);
     QApplication::processEvents();
     EXPECT_TRUE(view.horizontalScrollBar()->isVisible());

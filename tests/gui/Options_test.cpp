@@ -2,6 +2,7 @@
 #include <QtTest/QSignalSpy>
 
 #include "GuiTest.h"
+#include "platform/qt/Appearance.h"
 #include "platform/qt/CellColors.h"
 #include "platform/qt/ColorButton.h"
 #include "shell/ui/Icons.h"
@@ -235,6 +236,16 @@ TEST_F(OptionsWindow, TheMenuKeyOffersResetInTheMiddleOfTheGroup) {
     EXPECT_EQ(menu->pos(), group.mapToGlobal(group.rect().center()));
     QTest::keyClick(menu, Qt::Key_R);
     EXPECT_EQ(In<ColorButton>("picCalcBackground").Shown(), CalculatedColors({}, dialog->palette()).ground);
+}
+
+TEST_F(OptionsWindow, TheSamplesFollowThePalette) {
+    Tabs().setCurrentIndex(2);
+    for (const QPalette& palette : {DarkPalette(), LightPalette()}) {
+        dialog->setPalette(palette);
+        EXPECT_EQ(In<QLabel>("lblCalc").palette().color(QPalette::Window),
+                  CalculatedColors({}, palette).ground);
+        EXPECT_EQ(In<ColorButton>("picSumForeground").Shown(), TotalColors({}, palette).ink);
+    }
 }
 
 TEST_F(OptionsWindow, TheMouseOffersResetOnTheGroupAlone) {

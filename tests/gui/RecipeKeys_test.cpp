@@ -114,8 +114,6 @@ TEST_F(RecipeKeys, EscapeRestoresTheNotesAsTheyWereLastLeft) {
     EXPECT_EQ(R().txtNotes.Text(), "one\r\ntwo");
     EXPECT_EQ(notes.toPlainText(), QStringLiteral("one\ntwo"));
     EXPECT_EQ(notes.textCursor().position(), 7);
-    Key(Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(notes.toPlainText(), QStringLiteral("one\ntwo!!"));
 }
 
 TEST_F(RecipeKeys, DeleteTakesTheNextLetterOrTheSelection) {
@@ -151,7 +149,17 @@ TEST_F(RecipeKeys, AMenuSettlesTheStyleThatIsBeingTyped) {
         EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), style);
         menu.close();
     }
-    // By key into the bar of the menus, and from there to another box.
+    // By key, with the list of matches open.
+    styles.setFocus();
+    styles.lineEdit()->selectAll();
+    Type("o");
+    ASSERT_TRUE(styles.completer()->popup()->isVisible());
+    Key(Qt::Key_E, Qt::AltModifier);
+    ASSERT_TRUE(menu.isVisible());
+    EXPECT_FALSE(styles.completer()->popup()->isVisible());
+    EXPECT_EQ(FromQt(styles.currentText()), "(None)");
+    menu.close();
+    // Into the bar of the menus, and from there to another box.
     styles.setFocus();
     styles.lineEdit()->selectAll();
     Type("tou");

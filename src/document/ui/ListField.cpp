@@ -37,6 +37,7 @@ ListField::ListField(DocumentBinding& binding, const ListBox& list, const QStrin
     completer()->setFilterMode(Qt::MatchContains);
     completer()->setCaseSensitivity(Qt::CaseInsensitive);
     completer()->setMaxVisibleItems(kVisibleEntries);
+    completer()->popup()->installEventFilter(this);
     ShowList();
     binding_.Watch(&list_, [this] { ShowList(); });
     connect(this, &QComboBox::activated, this, &ListField::Choose);
@@ -110,8 +111,23 @@ void ListField::focusOutEvent(QFocusEvent* event) {
 // focus need not come back from it.
 bool ListField::GoesToOwnPopup(const QFocusEvent& event) const {
     const QWidget* const popup = QApplication::activePopupWidget();
-    if (event.reason() != Qt::PopupFocusReason || !popup) return false;
-    return popup == completer()->popup() || isAncestorOf(popup);
+    return event.reason() == Qt::PopupFocusReason && popup && IsOwnPopup(*popup);
+}
+
+bool ListField::IsOwnPopup(const QWidget& popup) const {
+    return &popup == completer()->popup() || isAncestorOf(&popup);
+}
+
+// A menu that opens over the list of matches takes no focus from the box, so it is looked out for.
+bool ListField::eventFilter(QObject* object, QEvent* event) {
+    if (object == completer()->popup()) {
+        if (event->type() == QEvent::Show) qApp->installEventFilter(this);
+        if (event->type() == QEvent::Hide) qApp->removeEventFilter(this);
+    } else if (event->type() == QEvent::Show && completer()->popup()->isVisible()) {
+        const auto* opened = qobject_cast<QWidget*>(object);
+        if (opened && opened->windowType() == Qt::Popup && !IsOwnPopup(*opened)) Settle();
+    }
+    return QComboBox::eventFilter(object, event);
 }
 
 bool ListField::GoesToAnotherProgram(const QFocusEvent& event) const {

@@ -23,11 +23,14 @@ class ListField final : public QComboBox {
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
     void ShowList();
     void Choose(int index);
     int TypedEntry() const;
+    // Whether it is the list of matches, the list that drops down, or the menu of the text.
+    bool IsOwnPopup(const QWidget& popup) const;
     bool GoesToOwnPopup(const QFocusEvent& event) const;
     bool GoesToAnotherProgram(const QFocusEvent& event) const;
     // What was typed becomes the choice, or the present entry comes back.

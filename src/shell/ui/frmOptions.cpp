@@ -129,6 +129,12 @@ void frmOptions::ShowSample(QLabel& sample, const CellColors& shown) {
     sample.setPalette(colors);
 }
 
+void frmOptions::changeEvent(QEvent* event) {
+    QDialog::changeEvent(event);
+    // The tints follow the desktop.
+    if (event->type() == QEvent::PaletteChange && sumSample_) ShowModel();
+}
+
 void frmOptions::FieldLeft() {
     if (model_.LeaveField()) return;
     ShowModel();

@@ -37,6 +37,7 @@ class frmOptions final : public QDialog {
     void reject() override;
     bool eventFilter(QObject* object, QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
   private:
     // The pages (OptionsPages.cpp).
