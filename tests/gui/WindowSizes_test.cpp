@@ -2,6 +2,7 @@
 #include <QScreen>
 
 #include "GuiTest.h"
+#include "platform/qt/Appearance.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/ScreenRoom.h"
 #include "shell/AboutModel.h"
@@ -111,6 +112,22 @@ TEST_F(WindowSizes, TheMainWindowFitsAtTheFirstStartAndLater) {
     larger.mainLeft = larger.mainTop = larger.mainWidth = larger.mainHeight = 60000;
     outside.settings.Write(SettingsPort::Layer::User, "Settings", "MainWidth", "60000");
     EXPECT_EQ(place(larger), room);
+}
+
+TEST_F(WindowSizes, AMaximizedWindowKeepsThePlaceThatItHadBefore) {
+    window.resize(700, 450);
+    window.move(30, 40);
+    QApplication::processEvents();
+    ASSERT_EQ(window.pos(), QPoint(30, 40));
+    window.showMaximized();
+    QApplication::processEvents();
+    Settings kept;
+    KeepGeometry(window, kept, shell.Store());
+    const double dots = window.screen()->logicalDotsPerInch();
+    EXPECT_EQ(PixelsOfTwips(kept.mainLeft, dots), 30);
+    EXPECT_EQ(PixelsOfTwips(kept.mainTop, dots), 40);
+    EXPECT_EQ(PixelsOfTwips(kept.mainWidth, dots), 700);
+    EXPECT_EQ(PixelsOfTwips(kept.mainHeight, dots), 450);
 }
 
 TEST(ScreenRoom, MovesBeforeItShrinks) {

@@ -48,8 +48,11 @@ void ApplyGeometry(QMainWindow& window, const Settings& settings, const Settings
 
 void KeepGeometry(const QMainWindow& window, Settings& settings, const SettingsStore& store) {
     const double dotsPerInch = window.screen()->logicalDotsPerInch();
-    const QRect geometry =
-        window.isMaximized() ? window.normalGeometry() : QRect(window.pos(), window.size());
+    QRect geometry(window.pos(), window.size());
+    // The normal one is without its frame, while QWidget::move takes the place with it: else the window would
+    // come up further down with every start.
+    if (window.isMaximized())
+        geometry = window.normalGeometry().translated(window.pos() - window.geometry().topLeft());
     settings.mainLeft = TwipsOfPixels(geometry.left(), dotsPerInch);
     settings.mainTop = TwipsOfPixels(geometry.top(), dotsPerInch);
     settings.mainWidth = TwipsOfPixels(geometry.width(), dotsPerInch);
