@@ -34,7 +34,7 @@
 #include "platform/qt/QtSettings.h"
 #include "platform/qt/QtText.h"
 #include "reports/qt/QtPrinters.h"
-#include "reports/ui/NoPrinterBox.h"
+#include "reports/ui/NoPrinterDialog.h"
 #include "reports/ui/frmChooseFont.h"
 #include "reports/ui/frmPrintFmtOptions.h"
 #include "reports/ui/frmPrintPreview.h"
@@ -74,7 +74,7 @@ void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
     dialogs.Register("frmOpenSave", &OpenSaveDialog::Make);
     dialogs.Register("frmRecovery", &RecoveryDialog::Make);
     dialogs.Register("frmOptions", frmOptions::Factory(colors));
-    dialogs.Register("frmNoPrinter", &NoPrinterBox::Make);
+    dialogs.Register("frmNoPrinter", &NoPrinterDialog::Make);
     dialogs.Register("frmPrintPreview", &frmPrintPreview::Make);
     dialogs.Register("frmPrintWizard", &frmPrintWizard::Make);
     dialogs.Register("frmPrintFmtOptions", frmPrintFmtOptions::Factory(colors));

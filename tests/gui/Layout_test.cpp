@@ -17,7 +17,7 @@
 #include "help/ui/frmHelpContents.h"
 #include "platform/qt/Appearance.h"
 #include "reports/NoPrinterModel.h"
-#include "reports/ui/NoPrinterBox.h"
+#include "reports/ui/NoPrinterDialog.h"
 #include "reports/ui/frmChooseFont.h"
 #include "reports/ui/frmPrintFmtOptions.h"
 #include "reports/ui/frmPrintPreview.h"
@@ -212,7 +212,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         frmPrintPreview previewWindow(preview, nullptr);
         show(previewWindow);
         NoPrinterModel noPrinter;
-        NoPrinterBox noPrinterWindow(noPrinter, nullptr);
+        NoPrinterDialog noPrinterWindow(noPrinter, nullptr);
         show(noPrinterWindow);
         PrintWizardModel wizard({*shell.DB(), shell.Tree(), shell.Store(), outside.messages, outside.dialogs,
                                  nullptr, shell.Own()},

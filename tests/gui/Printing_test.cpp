@@ -14,7 +14,7 @@
 #include "reports/qt/PaperPainter.h"
 #include "reports/qt/QtPrinterDevice.h"
 #include "reports/qt/QtPrinters.h"
-#include "reports/ui/NoPrinterBox.h"
+#include "reports/ui/NoPrinterDialog.h"
 #include "reports/ui/PreviewPage.h"
 #include "reports/ui/frmChooseFont.h"
 #include "reports/ui/frmPrintFmtOptions.h"
@@ -273,7 +273,7 @@ TEST_F(PaperTest, TheBoxWithoutAPrinterGoesByTheKeyboard) {
     using Choice = NoPrinterModel::Choice;
     const auto chosenBy = [](const std::vector<Qt::Key>& keys) {
         NoPrinterModel model;
-        NoPrinterBox box(model, nullptr);
+        NoPrinterDialog box(model, nullptr);
         box.show();
         QApplication::setActiveWindow(&box);
         for (const Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);

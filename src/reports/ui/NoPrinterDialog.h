@@ -1,0 +1,27 @@
+// The window of a computer without a printer (frmNoPrinter).
+#pragma once
+
+#include <QDialog>
+#include <memory>
+
+#include "platform/DialogModel.h"
+
+namespace tw {
+
+class NoPrinterDialog final : public QDialog {
+    Q_OBJECT
+  public:
+    // The model must outlive the window.
+    NoPrinterDialog(DialogModel& model, QWidget* parent);
+    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
+
+  protected:
+    void reject() override;
+
+  private:
+    void Press(const char* button);
+
+    DialogModel& model_;
+};
+
+}  // namespace tw
