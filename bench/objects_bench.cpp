@@ -116,7 +116,7 @@ void BM_DeleteFolder(benchmark::State& state) {
             Bed bed(kStoreFile);
             storeTimes.push_back(Seconds([&] { bed.objects.DeleteRecipeFolder(kFolder); }));
         }
-        const SqliteHandle raw = OpenDatabaseFile(kRawFile, true);
+        const SqliteHandle raw = OpenDatabaseFile(kRawFile, FileUse::Exclusive).handle;
         rawTimes.push_back(Seconds([&] { RunRaw(raw.get(), statements); }));
         state.SetIterationTime(storeTimes.back());
     }

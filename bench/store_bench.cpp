@@ -110,7 +110,7 @@ class Bed {
         std::filesystem::copy_file(kStoreFile, kRawFile);
         Fill(*shadow_);
         store = OpenMainDatabase(kStoreFile);
-        raw = OpenDatabaseFile(kRawFile, true);
+        raw = OpenDatabaseFile(kRawFile, FileUse::Exclusive).handle;
         shadow_->SetStatementHook([this](std::string_view sql) { statements_.push_back(Native(sql)); });
     }
     ~Bed() {
@@ -272,8 +272,8 @@ void CompareCopy(benchmark::State& state, bool isImport) {
         state.SetIterationTime(storeTimes.back());
         source.reset();
         dest.reset();
-        const SqliteHandle rawSource = OpenDatabaseFile(kSourceFile, false);
-        const SqliteHandle rawDest = OpenDatabaseFile(kRawFile, true);
+        const SqliteHandle rawSource = OpenDatabaseFile(kSourceFile, FileUse::Shared).handle;
+        const SqliteHandle rawDest = OpenDatabaseFile(kRawFile, FileUse::Exclusive).handle;
         rawTimes.push_back(Seconds([&] {
             RunNative(rawSource.get(), "BEGIN");
             RunNative(rawDest.get(), "BEGIN IMMEDIATE");

@@ -148,7 +148,7 @@ void BM_InitFromDatabase(benchmark::State& state) {
             treeTimes.push_back(Seconds([&] { tree.InitFromDatabase(); }));
             benchmark::DoNotOptimize(tree.Count());
         }
-        const SqliteHandle raw = OpenDatabaseFile(kFile, true);
+        const SqliteHandle raw = OpenDatabaseFile(kFile, FileUse::Exclusive).handle;
         DesignedReads(raw.get()).Run();
         readTimes.push_back(Seconds([&] { DesignedReads(raw.get()).Run(); }));
         state.SetIterationTime(treeTimes.back());

@@ -45,7 +45,8 @@ class ExplorerModel final : public DialogModel {
     std::string NodeKey() const { return At(shown_).tree.SelectedKey(); }
     // Whether a command does something now.
     bool IsEnabled(std::string_view command) const;
-    // How many objects are shown and chosen, or what has just been opened, or that the tree is not up to date.
+    // How many objects are shown and chosen, or what has just been opened, or that the tree is not up to
+    // date.
     std::string Status() const;
 
     // What the brewer does on the page shown.
