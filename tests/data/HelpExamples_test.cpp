@@ -141,20 +141,20 @@ class HelpExamples : public testing::Test {
   private:
     static void Take(std::multimap<std::string, std::string>& printed, const std::string& name,
                      const std::string& text, const std::string& line) {
-        static const std::regex picked("(.*), words? ([0-9]+)(?:-([0-9]+))?");
+        static const std::regex pattern("(.*), words? ([0-9]+)(?:-([0-9]+))?");
         EXPECT_NE(name, "") << "'" << line << "' prints what no figure is named for: " << text;
         std::smatch match;
-        if (!std::regex_match(name, match, picked)) {
+        if (!std::regex_match(name, match, pattern)) {
             printed.emplace(name, text.substr(0, text.find_last_not_of('\n') + 1));
             return;
         }
         const Strings words = WordsOf(text);
         const std::size_t first = std::stoul(match[2]),
                           last = match[3].matched ? std::stoul(match[3]) : first;
-        std::string words_;
+        std::string chosen;
         for (std::size_t i = first; i <= last; ++i)
-            words_ += (i == first ? "" : " ") + (i <= words.size() ? words[i - 1] : std::string("nothing"));
-        printed.emplace(match[1], words_);
+            chosen += (i == first ? "" : " ") + (i <= words.size() ? words[i - 1] : std::string("nothing"));
+        printed.emplace(match[1], chosen);
     }
 
     static fs::path folder_;
