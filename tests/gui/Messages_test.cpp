@@ -41,6 +41,17 @@ TEST(Messages, EnterTakesTheUsualAnswerWhereNothingIsLost) {
     EXPECT_EQ(boxes.Ask("Keep the Carbonation?", "Keep it?", Question::YesIsUsual), Answer::Yes);
 }
 
+TEST(Messages, AdviceStandsBelowTheTextAsItIsWritten) {
+    QtMessages boxes;
+    QString shown;
+    EnterInBox(shown);
+    boxes.ShowMessageWithAdvice("Error", "Could not create", "'<b>' is a folder.");
+    EXPECT_EQ(shown, QStringLiteral("Could not create\n\n'<b>' is a folder."));
+    EnterInBox(shown);
+    boxes.ShowMessageWithAdvice("Error", "Could not create", "");
+    EXPECT_EQ(shown, QStringLiteral("Could not create"));
+}
+
 TEST(Messages, AVeryLongNameIsCutInTheMiddleOfItsLine) {
     QtMessages boxes;
     QString shown;

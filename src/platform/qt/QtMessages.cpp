@@ -33,7 +33,8 @@ void QtMessages::ShowMessageWithAdvice(std::string_view title, std::string_view 
                                        std::string_view advice) {
     QMessageBox box(QApplication::activeWindow());
     Prepare(box, title, text);
-    if (!advice.empty()) box.setInformativeText(Lines(advice));
+    // Qt's own second text would take the name of a file for markup.
+    if (!advice.empty()) box.setText(Lines(text) + QStringLiteral("\n\n") + Lines(advice));
     box.setIcon(title.find("Error") == title.npos ? QMessageBox::Information : QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();
