@@ -1,0 +1,23 @@
+// The tests, or one run that keeps a recipe as unsaved work does: --keep-recipe FOLDER TEXT.
+#include <gtest/gtest.h>
+#include <string_view>
+
+#include "shell/Recovery.h"
+
+namespace {
+
+int KeepRecipe(const std::string& folder, const std::string& text) {
+    tw::RecipeSnapshot snapshot;
+    snapshot.fields = {{"txtNotes", text, text}};
+    tw::Recovery recovery(folder);
+    recovery.Adopt("1", folder + "/1.unsaved");
+    return recovery.Keep("1", snapshot) ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (argc == 4 && std::string_view(argv[1]) == "--keep-recipe") return KeepRecipe(argv[2], argv[3]);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

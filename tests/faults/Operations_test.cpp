@@ -1,0 +1,314 @@
+// What the brewer does, with the program killed and its disk failing at each call: afterwards every file is
+// the old one or the new one, whole, and the database opens. A sample of the calls by default, all of them
+// with TUNWRIGHT_FAULTS=all.
+#include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <iterator>
+#include <map>
+#include <set>
+#include <utility>
+
+#include "faults/FaultyRun.h"
+#include "platform/Error.h"
+#include "platform/TargetFile.h"
+#include "shell/Recovery.h"
+#include "store/Database.h"
+#include "store/Schema.h"
+
+namespace tw::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Two recipes, a third one in a file alone, and older files under the names that are written below.
+constexpr const char* kSetup = R"(
+new
+set txtNotes first
+saveas 0 Mild
+close
+new
+set txtNotes second
+saveas 0 Bock
+close
+new
+set txtNotes third
+saveas 0 Stout
+close
+export new stout.TWR Stout
+answer Yes
+remove R:3:3
+export new ales.TWR Mild
+export new log.TWR Mild
+report text report.txt Bock
+report html report.htm Bock
+report rtf report.rtf Bock
+)";
+
+struct Operation {
+    const char* name;
+    const char* script;
+    // A failure of the disk may leave a part of what the database was to take, with its box; a file never is
+    // left in parts.
+    bool ofDatabase = false;
+};
+
+constexpr Operation kOperations[] = {
+    {"ANewRecipe", "new\nset txtNotes fourth\nsaveas 0 Porter\n", true},
+    {"ASavedRecipe", "open Mild\nset txtNotes changed\nsave\n", true},
+    {"ARecipeOverAnother", "open Bock\nanswer Yes\nsaveas 0 Mild\n", true},
+    {"ADeletedRecipe", "answer Yes\nremove R:2:3\n", true},
+    {"ANewFolder", "folder F:0 Ales\n", true},
+    {"AnImport", "import 0 stout.TWR\n", true},
+    {"AnExportToANewFile", "export new fresh.TWR Mild Bock\n"},
+    {"AnExportOverAnOlderFile", "export new ales.TWR Bock Mild\n"},
+    {"AnExportAddedToAFile", "export ales.TWR Bock\n"},
+    {"ATextReport", "report text report.txt Mild\n"},
+    {"AnAddedTextReport", "setting TextOptions Append 1\nreport text report.txt Mild\n"},
+    {"AnHtmlReport", "report html report.htm Mild\n"},
+    {"ARichTextReport", "report rtf report.rtf Mild Bock\n"},
+};
+
+std::vector<std::string> Console(const std::string& settings = ":memory:") {
+    return {CONSOLE, "--database", "beer.mdb", "--settings", settings};
+}
+
+bool IsDatabase(const fs::path& path) {
+    return path.extension() == ".mdb" || path.extension() == ".TWR";
+}
+
+// Every row of every table. Opening it does what the next start does with a journal that was left.
+std::string Dump(const fs::path& path) {
+    const auto database = Database::OpenDatabase(path.string(), false);
+    EXPECT_EQ(database->OpenRecordset("SELECT integrity_check FROM pragma_integrity_check").Fields(0).Text(),
+              "ok");
+    std::string all;
+    for (Recordset table = database->OpenRecordset(
+             "SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite%' ORDER BY name");
+         !table.AtEnd(); table.MoveNext()) {
+        const std::string name = table.Fields(0).Text();
+        all += name + "\n";
+        std::multiset<std::string> rows;
+        for (Recordset row = database->OpenRecordset("SELECT * FROM [" + name + "]"); !row.AtEnd();
+             row.MoveNext()) {
+            std::string text;
+            for (int column = 0; column < row.FieldCount(); ++column)
+                // The time of a save is another at each run.
+                if (row.TypeOf(column) != FieldType::Date) text += row.Fields(column).Text() + "\t";
+            rows.insert(std::move(text));
+        }
+        for (const std::string& text : rows) all += text + "\n";
+    }
+    return all;
+}
+
+std::string Bytes(const fs::path& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// Name to contents, of all files of a folder. What a journal of the recipes held has been taken back by then;
+// an empty one may be left to the next start.
+using State = std::map<std::string, std::string>;
+
+State StateOf(const fs::path& folder) {
+    State state;
+    std::set<fs::path> paths;
+    for (const auto& entry : fs::directory_iterator(folder)) paths.insert(entry.path());
+    for (const fs::path& path : paths)
+        if (IsDatabase(path)) state[path.filename().string()] = Dump(path);
+    for (const fs::path& path : paths)
+        if (!IsDatabase(path) && path.filename() != "beer.mdb-journal")
+            state[path.filename().string()] = Bytes(path);
+    return state;
+}
+
+// Which of that many calls are struck.
+std::vector<std::size_t> Places(std::size_t calls) {
+    const char* const wanted = std::getenv("TUNWRIGHT_FAULTS");
+    const std::size_t most = wanted != nullptr && std::string_view(wanted) == "all" ? calls : 3;
+    std::vector<std::size_t> places;
+    for (std::size_t i = 0; i < std::min(most, calls); ++i)
+        places.push_back(1 + i * calls / std::min(most, calls));
+    return places;
+}
+
+class FaultTest : public testing::Test {
+  protected:
+    FaultTest() {
+        std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
+        std::ranges::replace(name, '/', '-');
+        root = fs::canonical(testing::TempDir()) / ("tunwright_faults_" + name);
+        fs::remove_all(root);
+        fs::create_directories(root / "old");
+        CreateSchema(*Database::CreateDatabase((root / "old" / "beer.mdb").string(), ""));
+        const FaultyRun setup = RunWithFault(Console(), root / "old", kSetup, Fault::None, 0);
+        EXPECT_EQ(setup.status, 0) << setup.output;
+        EXPECT_THAT(setup.output, testing::Not(testing::HasSubstr("[Error]")));
+    }
+    ~FaultTest() override {
+        std::error_code ignored;
+        fs::remove_all(root, ignored);
+    }
+
+    // The operation in a fresh copy of the files.
+    FaultyRun Run(const std::vector<std::string>& command, const std::string& script, Fault fault,
+                  std::size_t at) {
+        fs::remove_all(Work());
+        fs::copy(root / "old", Work(), fs::copy_options::recursive);
+        return RunWithFault(command, Work(), script, fault, at);
+    }
+    fs::path Work() const { return root / "work"; }
+
+    // Each file is as before or as afterwards; nothing else is there, but for what a killed writer leaves.
+    static void ExpectOldOrNew(const State& state, const State& before, const State& after, Fault fault) {
+        for (const auto& [name, contents] : state) {
+            const auto old = before.find(name), changed = after.find(name);
+            if (old == before.end() && changed == after.end()) {
+                EXPECT_TRUE(fault == Fault::Kill && name.ends_with(kUnderWay)) << name;
+            } else {
+                EXPECT_TRUE((old != before.end() && contents == old->second) ||
+                            (changed != after.end() && contents == changed->second))
+                    << name << " is neither the old nor the new file:\n"
+                    << contents;
+            }
+        }
+        for (const auto& entry : before)
+            EXPECT_TRUE(state.contains(entry.first) || !after.contains(entry.first)) << entry.first;
+    }
+
+    fs::path root;
+};
+
+class OperationFaultTest : public FaultTest, public testing::WithParamInterface<Operation> {
+  protected:
+    void SetUp() override {
+        const FaultyRun clean = Run(Console(), GetParam().script, Fault::None, 0);
+        ASSERT_EQ(clean.status, 0) << clean.output;
+        calls = clean.calls;
+        ASSERT_GE(calls.size(), 4u);
+        before = StateOf(root / "old");
+        after = StateOf(Work());
+        ASSERT_NE(before, after);
+    }
+
+    void Strike(Fault fault, std::size_t at) {
+        const FaultyRun run = Run(Console(), GetParam().script, fault, at);
+        ASSERT_EQ(run.killed, fault == Fault::Kill) << run.output;
+        State state = StateOf(Work());
+        if (fault != Fault::Kill) {
+            EXPECT_TRUE(state == after || run.output.find("Error") != std::string::npos)
+                << "the failure was not told: " << run.output;
+            if (GetParam().ofDatabase) TakeUnfinished(state);
+        }
+        ExpectOldOrNew(state, before, after, fault);
+    }
+
+    // What stands in both the old and the new database is there in any case; the rest may have come in part.
+    void TakeUnfinished(State& state) const {
+        for (const char* recipe : {"Mild", "Bock"})
+            EXPECT_GE(state["beer.mdb"].find(recipe) != std::string::npos,
+                      after.at("beer.mdb").find(recipe) != std::string::npos)
+                << recipe;
+        state["beer.mdb"] = before.at("beer.mdb");
+    }
+
+    std::vector<std::string> calls;
+    State before, after;
+};
+
+TEST_P(OperationFaultTest, IsWholeAfterAFaultAtEachCall) {
+    for (const Fault fault : {Fault::Kill, Fault::Fail, Fault::Full})
+        for (const std::size_t at : Places(calls.size())) {
+            SCOPED_TRACE(NameOf(fault) + (" at call " + std::to_string(at)) + ": " + calls[at - 1]);
+            Strike(fault, at);
+        }
+}
+
+INSTANTIATE_TEST_SUITE_P(Faults, OperationFaultTest, testing::ValuesIn(kOperations),
+                         [](const auto& test) { return test.param.name; });
+
+// The settings are written by Qt, beside and behind a lock of its own, the files of which a kill leaves.
+TEST_F(FaultTest, SettingsSurviveAKillAtEachCall) {
+    std::ofstream(root / "old" / "kept.ini") << "[Settings]\nBoilVol=6 gal\n";
+    const std::string script = "setting Settings BoilVol 7 gal\n";
+    const State before = StateOf(root / "old");
+    const FaultyRun clean = Run(Console("kept.ini"), script, Fault::None, 0);
+    const State after = StateOf(Work());
+    ASSERT_NE(before.at("kept.ini"), after.at("kept.ini"));
+    for (const std::size_t at : Places(clean.calls.size())) {
+        SCOPED_TRACE("at call " + std::to_string(at) + ": " + clean.calls[at - 1]);
+        ASSERT_TRUE(Run(Console("kept.ini"), script, Fault::Kill, at).killed);
+        State state = StateOf(Work());
+        std::erase_if(state, [](const auto& file) { return file.first.starts_with("kept.ini."); });
+        ExpectOldOrNew(state, before, after, Fault::Kill);
+    }
+}
+
+// Unsaved work, as the windows keep it every few seconds.
+TEST_F(FaultTest, AnUnsavedRecipeIsTheOldOrTheNewOne) {
+    const std::string self = fs::read_symlink("/proc/self/exe").string();
+    const auto keep = [&](const std::string& folder, const char* text) {
+        return std::vector<std::string>{self, "--keep-recipe", folder, text};
+    };
+    const std::string unsaved = (Work() / "unsaved").string();
+    ASSERT_EQ(RunWithFault(keep((root / "old" / "unsaved").string(), "old"), root / "old", "", Fault::None, 0)
+                  .status,
+              0);
+    const auto notes = [&]() -> std::vector<std::string> {
+        std::vector<std::string> all;
+        const FoundRecipes found = Recovery(unsaved).Find();
+        EXPECT_TRUE(found.putAside.empty());
+        for (const LostRecipe& lost : found.lost) all.push_back(lost.snapshot.fields.at(0).text);
+        return all;
+    };
+    const FaultyRun clean = Run(keep(unsaved, "new"), "", Fault::None, 0);
+    EXPECT_THAT(notes(), testing::ElementsAre("new"));
+    ASSERT_GE(clean.calls.size(), 4u);
+    for (const Fault fault : {Fault::Kill, Fault::Fail, Fault::Full})
+        for (std::size_t at = 1; at <= clean.calls.size(); ++at) {
+            SCOPED_TRACE("at call " + std::to_string(at) + ": " + clean.calls[at - 1]);
+            Run(keep(unsaved, "new"), "", fault, at);
+            EXPECT_THAT(notes(), testing::ElementsAre(testing::AnyOf("old", "new")));
+            // What was left on the way is gone by then.
+            EXPECT_EQ(std::distance(fs::directory_iterator(unsaved), {}), 1);
+        }
+}
+
+// A loss of power keeps what was synced and nothing else: the new file's contents are on the disk before its
+// name is, and the name is there when the operation ends.
+class PowerTest : public FaultTest {
+  protected:
+    static std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/')); }
+    // The place of a call, the last one before end; -1 for none.
+    static long Last(const std::vector<std::string>& calls, const std::string& call, long end) {
+        for (long i = end - 1; i >= 0; --i)
+            if (calls[static_cast<std::size_t>(i)] == call) return i;
+        return -1;
+    }
+};
+
+TEST_F(PowerTest, ANewFileIsOnTheDiskBeforeItsName) {
+    const char* const names[] = {"report.txt", "report.htm", "ales.TWR", "fresh.TWR"};
+    const FaultyRun run = Run(Console(),
+                              "report text report.txt Mild\nreport html report.htm Mild\n"
+                              "export ales.TWR Bock\nexport new fresh.TWR Mild\n",
+                              Fault::None, 0);
+    const auto end = static_cast<long>(run.calls.size());
+    for (const std::string name : names) {
+        const std::string target = (Work() / name).string();
+        const std::string beside = (Work() / ("." + name + std::string(kUnderWay))).string();
+        const std::string folder = Work().string();
+        const long renamed = Last(run.calls, "rename " + beside + " " + target, end);
+        ASSERT_GE(renamed, 0) << name;
+        const long synced = Last(run.calls, "sync " + beside, renamed);
+        EXPECT_GT(synced, Last(run.calls, "write " + beside, renamed)) << name;
+        EXPECT_GT(Last(run.calls, "sync " + folder, end), renamed) << name;
+        EXPECT_EQ(Last(run.calls, "write " + target, end), -1) << name;
+    }
+}
+
+}  // namespace
+}  // namespace tw::test
