@@ -38,6 +38,8 @@ ListField::ListField(DocumentBinding& binding, const ListBox& list, const QStrin
     completer()->setCaseSensitivity(Qt::CaseInsensitive);
     completer()->setMaxVisibleItems(kVisibleEntries);
     completer()->popup()->installEventFilter(this);
+    // Before the completer's own filter, which keeps the loss of the focus from the box.
+    installEventFilter(this);
     ShowList();
     binding_.Watch(&list_, [this] { ShowList(); });
     connect(this, &QComboBox::activated, this, &ListField::Choose);
@@ -104,7 +106,11 @@ void ListField::focusInEvent(QFocusEvent* event) {
 
 void ListField::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
-    if (!GoesToOwnPopup(*event) && !GoesToAnotherProgram(*event)) Settle();
+    if (IsLeft(*event)) Settle();
+}
+
+bool ListField::IsLeft(const QFocusEvent& event) const {
+    return !GoesToOwnPopup(event) && !GoesToAnotherProgram(event);
 }
 
 // Whether one of the lists of the box or the menu of its text opens. Any other menu is a way to leave: the
@@ -120,7 +126,10 @@ bool ListField::IsOwnPopup(const QWidget& popup) const {
 
 // A menu that opens over the list of matches takes no focus from the box, so it is looked out for.
 bool ListField::eventFilter(QObject* object, QEvent* event) {
-    if (object == completer()->popup()) {
+    if (object == this) {
+        const bool out = event->type() == QEvent::FocusOut;
+        if (out && IsLeft(*static_cast<QFocusEvent*>(event))) completer()->popup()->hide();
+    } else if (object == completer()->popup()) {
         if (event->type() == QEvent::Show) qApp->installEventFilter(this);
         if (event->type() == QEvent::Hide) qApp->removeEventFilter(this);
     } else if (event->type() == QEvent::Show && completer()->popup()->isVisible()) {

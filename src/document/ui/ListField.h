@@ -31,6 +31,8 @@ class ListField final : public QComboBox {
     int TypedEntry() const;
     // Whether it is the list of matches, the list that drops down, or the menu of the text.
     bool IsOwnPopup(const QWidget& popup) const;
+    // Whether the focus goes where it need not come back from.
+    bool IsLeft(const QFocusEvent& event) const;
     bool GoesToOwnPopup(const QFocusEvent& event) const;
     bool GoesToAnotherProgram(const QFocusEvent& event) const;
     // What was typed becomes the choice, or the present entry comes back.
