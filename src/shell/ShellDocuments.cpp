@@ -154,7 +154,7 @@ void Shell::SwitchAutoSave(bool wasOn) {
 void Shell::TickAutoSave() {
     // The time that saving takes is not counted. A save within the one unit of an import would be lost with
     // it.
-    if (!settings_.doAutoSave || autoSaving_ || exchanging_ || database_->ReadOnly()) return;
+    if (!settings_.doAutoSave || autoSaving_ || exchanging_ || !database_ || database_->ReadOnly()) return;
     if (!autoSaveMinutes_.Tick(!documents_.empty(), settings_.doAutoSaveEvery)) return;
     ShowAutoSave();
     autoSaveMinutes_.Reset();
