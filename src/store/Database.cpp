@@ -49,9 +49,20 @@ std::unique_ptr<Database> Database::OpenDatabase(const std::string& path, bool e
 std::unique_ptr<Database> Database::OpenForeign(const std::string& path, Clock now) {
     OpenedFile file = OpenDatabaseFile(path, FileUse::Foreign);
     std::unique_ptr<Database> database(new Database(file.handle.release(), path));
-    database->watch_ = std::make_unique<StatementWatch>(database->handle_, std::move(now));
-    CheckForeignTables(*database);
+    database->GuardForeign(std::move(now));
     return database;
+}
+
+std::unique_ptr<Database> Database::ForeignFromImage(std::string_view image, Clock now) {
+    std::unique_ptr<Database> database = FromImage(image);
+    Distrust(database->handle_);
+    database->GuardForeign(std::move(now));
+    return database;
+}
+
+void Database::GuardForeign(Clock now) {
+    watch_ = std::make_unique<StatementWatch>(handle_, std::move(now));
+    CheckForeignTables(*this);
 }
 
 std::chrono::milliseconds Database::SteadyNow() {

@@ -135,6 +135,8 @@ class Database {
     // A database in memory alone that holds what those bytes of a file do; an empty one for none. Raises an
     // error when the memory is short. REQUIRES: the file is not in the journal mode WAL.
     static std::unique_ptr<Database> FromImage(std::string_view image);
+    // The same of somebody else's file: nothing in it is trusted, as by OpenForeign.
+    static std::unique_ptr<Database> ForeignFromImage(std::string_view image, Clock now = SteadyNow);
     // The bytes of the file that this database is or would be. Raises an error when the memory is short.
     std::string Image() const;
 
@@ -178,6 +180,8 @@ class Database {
     // Takes the handle over.
     Database(sqlite3* handle, std::string path, bool readOnly = false);
     static std::chrono::milliseconds SteadyNow();
+    // Watches the statements of a file that is not trusted, and refuses one whose tables are none.
+    void GuardForeign(Clock now);
     void CheckWritable() const;
     // Raises what has undone the present unit.
     [[noreturn]] void RaiseUndone() const;

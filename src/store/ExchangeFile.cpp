@@ -141,7 +141,7 @@ ExchangeCopy::ExchangeCopy(Database& main) : contents_(Database::FromImage({})) 
 ExchangeCopy::ExchangeCopy(std::unique_ptr<Database> old) : old_(std::move(old)) {
     // All of it is in the one file then, and stays as it is until that is replaced.
     old_->ExecuteNative("PRAGMA journal_mode=DELETE; BEGIN IMMEDIATE");
-    contents_ = Database::FromImage(old_->Image());
+    contents_ = Database::ForeignFromImage(old_->Image());
 }
 
 void ExchangeCopy::Save(const TargetFile& target) const {

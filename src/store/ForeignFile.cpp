@@ -33,6 +33,9 @@ constexpr Limit kLimits[] = {
 // What the program's own statements call, and GLOB for the rule of a date.
 constexpr std::string_view kFunctions[] = {"COUNT", "GLOB", "LCASE", "LIKE", "SUBSTR", "TRIM", "UCASE"};
 
+// How the store writes, and what its copy of the whole file asks.
+constexpr std::string_view kPragmas[] = {"journal_mode", "page_count", "synchronous"};
+
 // The program reads tables and adds to them; what else a statement would do was put into the file.
 int Authorize(void*, int action, const char* first, const char* function, const char*, const char*) noexcept {
     switch (action) {
@@ -48,8 +51,10 @@ int Authorize(void*, int action, const char* first, const char* function, const 
             const auto same = [&](std::string_view known) { return CompareNoCase(known, function) == 0; };
             return std::ranges::any_of(kFunctions, same) ? SQLITE_OK : SQLITE_DENY;
         }
-        case SQLITE_PRAGMA:
-            return CompareNoCase(first, "synchronous") == 0 ? SQLITE_OK : SQLITE_DENY;
+        case SQLITE_PRAGMA: {
+            const auto same = [&](std::string_view known) { return CompareNoCase(known, first) == 0; };
+            return std::ranges::any_of(kPragmas, same) ? SQLITE_OK : SQLITE_DENY;
+        }
         default:
             return SQLITE_DENY;
     }

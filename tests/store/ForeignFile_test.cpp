@@ -64,6 +64,15 @@ TEST_F(ForeignFile, RunsNoViewAndNoTrigger) {
     EXPECT_EQ(Cell(*file, "SELECT COUNT(*) FROM RECIPES"), "1");
 }
 
+TEST_F(ForeignFile, IsTrustedNoMoreInMemory) {
+    Change("CREATE TRIGGER T AFTER INSERT ON RECIPES BEGIN DELETE FROM RECIPES; END");
+    const auto file = Database::ForeignFromImage(Database::OpenForeign(path)->Image());
+    file->Execute("INSERT INTO RECIPES (NAME) VALUES ('Mild')");
+    EXPECT_EQ(Cell(*file, "SELECT COUNT(*) FROM RECIPES"), "1");
+    EXPECT_THROW(file->ExecuteNative("DROP TABLE RECIPES"), Error);
+    EXPECT_EQ(Cell(*Database::ForeignFromImage(file->Image()), "SELECT NAME FROM RECIPES"), "Mild");
+}
+
 TEST_F(ForeignFile, DoesNothingButReadAndWriteItsRows) {
     const auto file = Database::OpenForeign(path);
     for (const std::string& sql : {"ATTACH '" + folder.File("b.mdb") + "' AS B",
