@@ -132,6 +132,13 @@ std::string WrittenValue(Database& database, const CatalogueEntry& entry, const 
     return GrainTypeId(database, literal, entry.Literal("GRAIN"));
 }
 
+// The ID of the type of a grain; "0" for a row of another table and for a grain without one.
+std::string TypeOfRow(Database& database, std::string_view table, const std::string& id) {
+    if (table != "GRAINS") return "0";
+    return std::to_string(
+        database.OpenRecordset("SELECT GRAIN_TYPE FROM GRAINS WHERE ID = " + id).Fields(0).Integer());
+}
+
 void DropUnusedType(Database& database, const std::string& id) {
     const Recordset grains =
         database.OpenRecordset("SELECT COUNT(GRAIN_TYPE) FROM GRAINS WHERE GRAIN_TYPE = " + id);
@@ -203,11 +210,7 @@ void InsertEntry(Database& database, const CatalogueEntry& entry, const std::str
 void UpdateEntry(Database& database, const CatalogueEntry& entry, const std::string& id,
                  const std::string& when) {
     const std::string table(entry.table);
-    std::string oldType = "0";
-    if (entry.table == "GRAINS") {
-        oldType = std::to_string(
-            database.OpenRecordset("SELECT GRAIN_TYPE FROM GRAINS WHERE ID = " + id).Fields(0).Integer());
-    }
+    const std::string oldType = TypeOfRow(database, entry.table, id);
     std::string changes;
     for (const auto& [column, literal] : entry.values) {
         changes +=
@@ -215,6 +218,12 @@ void UpdateEntry(Database& database, const CatalogueEntry& entry, const std::str
     }
     if (!entry.folder.empty()) changes += ", MODIFIED_WHEN = " + when;
     database.Execute("UPDATE " + table + " SET " + changes + " WHERE ID = " + id);
+    if (oldType != "0") DropUnusedType(database, oldType);
+}
+
+void DeleteEntry(Database& database, std::string_view table, const std::string& id) {
+    const std::string oldType = TypeOfRow(database, table, id);
+    database.Execute("DELETE FROM " + std::string(table) + " WHERE ID = " + id);
     if (oldType != "0") DropUnusedType(database, oldType);
 }
 

@@ -40,4 +40,7 @@ void InsertEntry(Database& database, const CatalogueEntry& entry, const std::str
 void UpdateEntry(Database& database, const CatalogueEntry& entry, const std::string& id,
                  const std::string& when);
 
+// Deletes the row of that ID. A grain type that loses its last grain goes.
+void DeleteEntry(Database& database, std::string_view table, const std::string& id);
+
 }  // namespace tw

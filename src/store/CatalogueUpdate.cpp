@@ -98,7 +98,7 @@ class Update {
         if (row.AtEnd() || !StandsAs(database_, row, *delivered)) return;
         const std::string id = row.Fields("ID").Text();
         if (table == kStyles && FirstId("SELECT ID FROM RECIPES WHERE STYLE_ID = " + id)) return;
-        database_.Execute("DELETE FROM " + std::string(table) + " WHERE ID = " + id);
+        DeleteEntry(database_, table, id);
         deliveries_.Forget(table, name);
         changed_ = true;
     }

@@ -257,6 +257,15 @@ TEST_F(CatalogueUpdateTest, ADroppedIngredientGoesWhenItStandsAsDelivered) {
     EXPECT_THAT(WildHops(), ElementsAre("Wild Hop|Aroma|Mild.|3|5"));
 }
 
+TEST_F(CatalogueUpdateTest, ADroppedGrainTakesItsTypeAlongWhenItWasTheLast) {
+    Edit("grains.tsv", "Honey\textract\tSugar\t\t\t\t\t\tsecondary\n", "");
+    Edit("aliases.tsv", "Sugar\tfermentable\tHoney\nMiel\tfermentable\tHoney\n", "");
+    Append("former.tsv", "Honey\tfermentable\tgone\t\n");
+    EXPECT_TRUE(Update());
+    EXPECT_THAT(Rows("SELECT NAME FROM GRAINS"), ElementsAre("Pale Malt"));
+    EXPECT_THAT(Rows("SELECT NAME FROM GRAIN_TYPES"), ElementsAre("Base Malt"));
+}
+
 TEST_F(CatalogueUpdateTest, ASecondStartChangesNothingMore) {
     AgeTheDatabase();
     ChangeTheGuide();
