@@ -140,7 +140,8 @@ TEST_F(CatalogueData, EveryYeastHasALaboratoryAndAFormAndItsCodeIsItsAlone) {
 
 TEST_F(CatalogueData, EveryAttenuationIsPlausible) {
     EXPECT_THAT(Names("YEAST", "AA_LO < 10 OR AA_HI > 100 OR AA_LO > AA_HI"), IsEmpty());
-    EXPECT_THAT(Names("YEAST", "AA_LO < 50"), ElementsAre("Fermentis SafBrew LA-01", "Lallemand LalBrew LoNa"));
+    EXPECT_THAT(Names("YEAST", "AA_LO < 50"),
+                ElementsAre("Fermentis SafBrew LA-01", "Lallemand LalBrew LoNa"));
 }
 
 TEST_F(CatalogueData, OtherNamesLeadToTheirRows) {

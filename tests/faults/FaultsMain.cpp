@@ -9,8 +9,9 @@ namespace {
 int KeepRecipe(const std::string& folder, const std::string& text) {
     tw::RecipeSnapshot snapshot;
     snapshot.fields = {{"txtNotes", text, text}};
-    tw::Recovery recovery(folder);
-    recovery.Adopt("1", folder + "/1.unsaved");
+    const std::string database = "/Tunwright.mdb";  // not opened; its path names the folder
+    tw::Recovery recovery(folder, database, "");
+    recovery.Adopt("1", tw::Recovery::FolderOf(folder, database) + "/1.unsaved");
     return recovery.Keep("1", snapshot) ? 0 : 1;
 }
 

@@ -259,7 +259,7 @@ TEST_F(FaultTest, AnUnsavedRecipeIsTheOldOrTheNewOne) {
               0);
     const auto notes = [&]() -> std::vector<std::string> {
         std::vector<std::string> all;
-        const FoundRecipes found = Recovery(unsaved).Find();
+        const FoundRecipes found = Recovery(unsaved, "/Tunwright.mdb", "").Find();
         EXPECT_TRUE(found.putAside.empty());
         for (const LostRecipe& lost : found.lost) all.push_back(lost.snapshot.fields.at(0).text);
         return all;
@@ -273,7 +273,8 @@ TEST_F(FaultTest, AnUnsavedRecipeIsTheOldOrTheNewOne) {
             Run(keep(unsaved, "new"), "", fault, at);
             EXPECT_THAT(notes(), testing::ElementsAre(testing::AnyOf("old", "new")));
             // What was left on the way is gone by then.
-            EXPECT_EQ(std::distance(fs::directory_iterator(unsaved), {}), 1);
+            EXPECT_EQ(
+                std::distance(fs::directory_iterator(Recovery::FolderOf(unsaved, "/Tunwright.mdb")), {}), 1);
         }
 }
 

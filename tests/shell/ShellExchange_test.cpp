@@ -436,10 +436,11 @@ TEST(ShellExchange, TheDatabaseItselfIsNeverReplacedOrTakenForARecipeFile) {
     const std::string path = folder.File("Tunwright.mdb");
     CreateSchema(*Database::CreateDatabase(path, ""));
     std::filesystem::create_symlink(path, folder.File("link.TWR"));
-    std::filesystem::create_hard_link(path, folder.File("hard.TWR"));
     RecordingPlatform outside;
     Shell shell(outside.platform);
     ASSERT_TRUE(shell.PerformSplashScreenInit(path));
+    // A start refuses a database that has a second name by then.
+    std::filesystem::create_hard_link(path, folder.File("hard.TWR"));
     AddRecipeRow(*shell.DB(), "Mild");
     for (const char* name : {"Tunwright.mdb", "link.TWR", "hard.TWR"}) {
         const std::string target = folder.File(name);
