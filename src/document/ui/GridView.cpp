@@ -20,6 +20,17 @@ namespace {
 constexpr double kLinesPerRow = 1.6;
 constexpr int kExtraPerColumn = 7;
 
+// Selects what of the range one of the two views shows.
+void SelectIn(QTableView& view, const GridRange& range) {
+    const auto& model = static_cast<const GridModel&>(*view.model());
+    const int first = std::max(range.row1, model.GridRow(0));
+    const int last = std::min(range.row2, model.GridRow(model.rowCount() - 1));
+    if (first > last) return view.clearSelection();
+    const QItemSelection block(model.index(model.ModelRow(first), range.col1),
+                               model.index(model.ModelRow(last), range.col2));
+    view.selectionModel()->select(block, QItemSelectionModel::ClearAndSelect);
+}
+
 }  // namespace
 
 std::vector<int> FitColumns(std::vector<int> autoWidths, int clientWidth) {
@@ -163,16 +174,6 @@ void GridView::ShowCurrentCell() {
         totals_->Announce(
             totals_->Model().index(totals_->Model().ModelRow(grid_->CurrentRow()), grid_->CurrentCol()));
     ShowFocus();
-}
-
-void GridView::SelectIn(QTableView& view, const GridRange& range) {
-    const auto& model = static_cast<const GridModel&>(*view.model());
-    const int first = std::max(range.row1, model.GridRow(0));
-    const int last = std::min(range.row2, model.GridRow(model.rowCount() - 1));
-    if (first > last) return view.clearSelection();
-    const QItemSelection block(model.index(model.ModelRow(first), range.col1),
-                               model.index(model.ModelRow(last), range.col2));
-    view.selectionModel()->select(block, QItemSelectionModel::ClearAndSelect);
 }
 
 std::optional<GridRange> GridView::SelectedRange() const {

@@ -107,9 +107,9 @@ class GridView final : public QTableView {
     // The corners of a selected block: the one that stays and the one that moves.
     struct Block {
         Place anchor, end;
+        GridRange Range() const;
     };
     Block SelectedBlock() const;
-    static GridRange RangeOf(const Block& block);
     // Whether the current cell is one of the totals.
     bool InTotals() const;
     // The arrows over the border between rows and totals and among the totals. False for any other key.
@@ -133,8 +133,6 @@ class GridView final : public QTableView {
     void TellSelection();
     // The selected block as cells of the record; the current cell alone when it lies outside.
     std::optional<GridRange> SelectedRange() const;
-    // The selection of one of the two views, as far as the range reaches into it.
-    static void SelectIn(QTableView& view, const GridRange& range);
     void KeepEditor();
     // A text has come that the column is too narrow for.
     bool WantsMoreRoom(int row, int col) const;

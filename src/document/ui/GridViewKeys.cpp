@@ -22,14 +22,14 @@ GridView::Block GridView::SelectedBlock() const {
         const int otherCol = col == range.col1 ? range.col2 : range.col1;
         return {{otherRow, otherCol}, {row, col}};
     }
-    if (RangeOf(block_) == range) return block_;
+    if (block_.Range() == range) return block_;
     // Selected as a whole: the arrows go on from the current cell.
     return {{range.row2, range.col2}, {range.row1, range.col1}};
 }
 
-GridRange GridView::RangeOf(const Block& block) {
-    return {std::min(block.anchor.row, block.end.row), std::min(block.anchor.col, block.end.col),
-            std::max(block.anchor.row, block.end.row), std::max(block.anchor.col, block.end.col)};
+GridRange GridView::Block::Range() const {
+    return {std::min(anchor.row, end.row), std::min(anchor.col, end.col), std::max(anchor.row, end.row),
+            std::max(anchor.col, end.col)};
 }
 
 void GridView::MoveTo(int row, int col, bool extends) {
@@ -37,7 +37,7 @@ void GridView::MoveTo(int row, int col, bool extends) {
     const Place end{std::clamp(row, Grid::FixedRows(), grid_->TotalsRow()),
                     std::clamp(col, 0, grid_->Cols() - 1)};
     block_ = {extends ? SelectedBlock().anchor : end, end};
-    binding_.Run([&](RecipeDocument& document) { document.SelectCells(*grid_, RangeOf(block_)); });
+    binding_.Run([&](RecipeDocument& document) { document.SelectCells(*grid_, block_.Range()); });
     ShowColumn(end.col);
 }
 
