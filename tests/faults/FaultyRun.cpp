@@ -3,7 +3,7 @@
 #include <fcntl.h>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <iterator>
+#include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -14,7 +14,9 @@ namespace fs = std::filesystem;
 
 std::string ReadAll(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
 }
 
 // In the child process: becomes the command. Does not return.

@@ -9,6 +9,7 @@
 #include <iterator>
 #include <map>
 #include <set>
+#include <sstream>
 #include <utility>
 
 #include "faults/FaultyRun.h"
@@ -106,7 +107,9 @@ std::string Dump(const fs::path& path) {
 
 std::string Bytes(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    return bytes.str();
 }
 
 // Name to contents, of all files of a folder. What a journal of the recipes held has been taken back by then;

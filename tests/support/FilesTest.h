@@ -5,6 +5,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
@@ -32,7 +33,9 @@ class FilesTest : public testing::Test {
     }
     std::string Content(const std::string& name) const {
         std::ifstream file(File(name), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        std::ostringstream bytes;
+        bytes << file.rdbuf();
+        return bytes.str();
     }
     // The permission bits.
     unsigned Mode(const std::string& name) const {
