@@ -192,9 +192,10 @@ TEST_F(LongLinesTest, TheRuleSeesWhatRunsOver) {
     const auto text = [&](double x, double y, std::size_t letters) {
         return PrintStep{Kind::Text, x, y, 0, 0, font, Letters(letters)};
     };
-    const auto faults = [&](std::vector<PrintStep> texts) {
-        texts.insert(texts.begin(), PrintStep{Kind::Page});
-        return OutOfBounds({"", kLetterPaper, texts}, measure).size();
+    const auto faults = [&](const std::vector<PrintStep>& texts) {
+        std::vector<PrintStep> all{PrintStep{Kind::Page}};
+        for (const PrintStep& step : texts) all.push_back(step);
+        return OutOfBounds({"", kLetterPaper, all}, measure).size();
     };
     EXPECT_EQ(faults({text(0.5, 1, 90), text(0.5, 2, 45), text(4.5, 2, 42)}), 0U);
     EXPECT_EQ(faults({text(0.5, 1, 91)}), 1U);
