@@ -191,6 +191,11 @@ void frmExplorer::ConnectTree(Page page, PageWidgets& widgets) {
     AddKey(tree, QKeySequence(Qt::Key_Insert), "mnuNewFolder");
 }
 
+// A name that is still being edited is taken over as its editor goes, which needs this window.
+frmExplorer::~frmExplorer() {
+    qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
+}
+
 void frmExplorer::ConnectList(PageWidgets& widgets) {
     NodeListPane* list = widgets.list;
     list->SetRename([this](const QString& name) { return model_.RenameRow(FromQt(name)); });

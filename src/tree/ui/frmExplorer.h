@@ -26,6 +26,7 @@ class frmExplorer final : public QDialog {
     Q_OBJECT
   public:
     frmExplorer(ExplorerModel& model, QWidget* parent);
+    ~frmExplorer() override;
     // The window of an ExplorerModel. REQUIRES: model is one.
     static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
