@@ -26,6 +26,11 @@ ListPaneModel& NodeListPane::Model() const {
     return details_ ? details_->Model() : icons_->Model();
 }
 
+// A name that is still being edited is taken over as its editor goes, which needs this pane.
+NodeListPane::~NodeListPane() {
+    delete &View();
+}
+
 template <class Pane>
 void NodeListPane::Connect(Pane& pane) {
     pane.SetMulti(multi_);

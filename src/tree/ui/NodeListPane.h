@@ -21,6 +21,7 @@ class NodeListPane final : public QWidget {
     // Shows the list from now on; multi: whether several rows can be chosen. name: what it is called to
     // assistive programs. REQUIRES: the list lives for as long.
     NodeListPane(NodeList& list, const QString& name, bool multi, QWidget* parent);
+    ~NodeListPane() override;
 
     // What runs with the name typed over a row; false takes it back.
     void SetRename(std::function<bool(const QString& name)> rename);
