@@ -1,7 +1,6 @@
 // Any text may be typed into a quantity field. For each parser and validator: nothing but an Error of the
-// program is raised, an accepted number is finite, a refused one is not written, and a call with a message
-// box decides as a quiet one does. The first eight bytes, taken for a double, become text and the same number
-// again.
+// program is raised, an accepted number is finite, and a refusal says why. The first eight bytes, taken for a
+// double, become text and the same number again.
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -21,18 +20,6 @@ constexpr double kUntouched = -98765.25;
 void Require(bool holds) {
     if (!holds) std::abort();
 }
-
-class CountingMessages : public MessagePort {
-  public:
-    void ShowMessage(std::string_view title, std::string_view) override {
-        Require(title == kInvalidEntry);
-        ++shown;
-    }
-    Answer Ask(std::string_view, std::string_view, Question) override { std::abort(); }
-    void Beep() override { std::abort(); }
-
-    int shown = 0;
-};
 
 enum class Outcome { Accepted, Refused, Raised };
 
@@ -65,18 +52,24 @@ void CheckNumberText(double value) {
 
 void CheckParser(Parser parser, std::string_view text) {
     double value = 0;
-    if (Run([&](double& v) { return parser(text, v); }, value) == Outcome::Accepted) CheckNumberText(value);
+    const auto parse = [&](double& v) {
+        const std::optional<double> read = parser(text);
+        v = read.value_or(v);
+        return read.has_value();
+    };
+    if (Run(parse, value) == Outcome::Accepted) CheckNumberText(value);
 }
 
 void CheckValidator(Validator validator, std::string_view text) {
-    CountingMessages messages;
-    double loud = 0;
-    double quiet = 0;
-    const Outcome outcome = Run([&](double& v) { return validator(text, v, &messages); }, loud);
-    Require(Run([&](double& v) { return validator(text, v, nullptr); }, quiet) == outcome);
-    Require(loud == quiet);
-    Require(messages.shown == (outcome == Outcome::Refused ? 1 : 0));
-    if (IsBlank(text)) Require(outcome == Outcome::Accepted && loud == 0);
+    double value = 0;
+    const auto validate = [&](double& v) {
+        const Reading<double> read = validator(text);
+        if (!read) Require(!read.Why().text.empty());
+        v = read.ValueOr(v);
+        return read.Accepted();
+    };
+    const Outcome outcome = Run(validate, value);
+    if (IsBlank(text)) Require(outcome == Outcome::Accepted && value == 0);
 }
 
 void CheckTokens(std::string_view text) {

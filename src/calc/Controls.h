@@ -58,13 +58,35 @@ struct TextSelection {
     bool operator==(const TextSelection&) const = default;
 };
 
+// Which text box of a recipe it is; RuleOf in FieldRules.h tells the rest.
+enum class FieldId : std::uint8_t {
+    Name,
+    NumBatches,
+    BoilVol,
+    TotalVol,
+    OG,
+    FG,
+    ABV,
+    Color,
+    IBU,
+    CO2,
+    Extract,
+    HopExtraction,
+    BG,
+    Temp,
+    Dilutions,
+    FinalVol,
+    Notes
+};
+
 // A text box: the text shown, the last committed text, and the number behind the committed text in the
 // canonical unit.
 class TextBox {
   public:
-    TextBox(RecordLink& link, std::string name, bool computed = false)
-        : link_(&link), name_(std::move(name)), computed_(computed) {}
+    TextBox(RecordLink& link, FieldId id, std::string name, bool computed)
+        : link_(&link), name_(std::move(name)), id_(id), computed_(computed) {}
 
+    FieldId Id() const { return id_; }
     const std::string& Name() const { return name_; }
     // A figure of the program that the brewer cannot type into.
     bool Computed() const { return computed_; }
@@ -92,6 +114,7 @@ class TextBox {
     std::string committed_;
     TextSelection selection_;
     double value_ = 0;
+    FieldId id_;
     bool computed_;
 };
 

@@ -47,17 +47,16 @@ double KegPressure(double fahrenheit, double volumes) {
                   0.0684226 * (volumes * volumes));
 }
 
-bool KegVolumes(double fahrenheit, double psi, double& volumes) {
+std::optional<double> KegVolumes(double fahrenheit, double psi) {
     const double a = -0.0684226;
     const double b = 0.173354 * fahrenheit + 4.24267;
     const double c = PressureWithoutGas(fahrenheit) - psi;
     const double discriminant = b * b - 4 * a * c;
-    if (discriminant < 0) return false;
+    if (discriminant < 0) return std::nullopt;
     double v = (-b + std::sqrt(discriminant)) / (2 * a);
     if (v < 0) v = (-b - std::sqrt(discriminant)) / (2 * a);
-    if (v < 0) return false;
-    volumes = Finite(v);
-    return true;
+    if (v < 0) return std::nullopt;
+    return Finite(v);
 }
 
 double PrimingVolumes(double ounces, double fermentablePercent, double gallons) {

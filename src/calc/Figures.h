@@ -2,6 +2,8 @@
 // "Division by zero" or "Overflow" where a result would not be a finite number.
 #pragma once
 
+#include <optional>
+
 namespace tw {
 
 // What original and final gravity say about the beer.
@@ -30,8 +32,8 @@ double ResidualCO2(double fahrenheit);
 // the carbonation chart.
 double KegPressure(double fahrenheit, double volumes);
 // The non-negative volumes of CO2 that a keg pressure (psi) gives at that temperature (degrees F), solving
-// KegPressure for volumes. False when there are none; volumes is untouched then.
-bool KegVolumes(double fahrenheit, double psi, double& volumes);
+// KegPressure for volumes; nothing when there are none.
+std::optional<double> KegVolumes(double fahrenheit, double psi);
 // Volumes of CO2 from that many ounces of a sugar in that many gallons of beer.
 double PrimingVolumes(double ounces, double fermentablePercent, double gallons);
 // Ounces of a sugar that give that many volumes of CO2 to that many gallons of beer: PrimingVolumes solved

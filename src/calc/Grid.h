@@ -12,6 +12,9 @@
 
 namespace tw {
 
+// Which grid of a recipe it is; RuleOf in GridRules.h tells the rest.
+enum class GridId : std::uint8_t { Grain, Extract, Hops, Water, Treatment, Priming, Pressure, Adjuncts, Log };
+
 enum class CheckState : std::uint8_t { None, Unchecked, Checked };
 
 // The number behind a cell. A hop amount is of one of three kinds; every other cell is a Number or nothing.
@@ -56,6 +59,7 @@ struct GridRange {
 class Grid {
   public:
     struct Layout {
+        GridId id;
         std::string name;
         std::vector<Column> columns;
         int totalsRows = 0;         // rows behind the data that are no data
@@ -66,6 +70,7 @@ class Grid {
     // Makes the header row and the totals rows; no data row yet.
     Grid(RecordLink& link, Layout layout);
 
+    GridId Id() const { return layout_.id; }
     const std::string& Name() const { return layout_.name; }
     int Rows() const { return static_cast<int>(rows_.size()); }
     int Cols() const { return static_cast<int>(layout_.columns.size()); }

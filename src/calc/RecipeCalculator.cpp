@@ -1,5 +1,6 @@
 #include "calc/RecipeCalculator.h"
 
+#include "calc/GridRules.h"
 #include "platform/Error.h"
 #include "values/Text.h"
 
@@ -41,14 +42,17 @@ void RecipeCalculator::FGCommitted() {
     CalcABV();
 }
 
-void RecipeCalculator::TempCommitted(bool& ok) {
-    CalcCarbonation(ok);
-    if (ok) RefreshCarbonationCommand();
+Commit RecipeCalculator::TempCommitted() {
+    if (!CalcCarbonation())
+        return Commit::Refused({kCarbonationFailed, "Please enter a more reasonable temperature."});
+    RefreshCarbonationCommand();
+    return Commit::Accepted();
 }
 
 void RecipeCalculator::FermentableCommitted(Grid& grid, int row, int col) {
-    const bool useGrainExtraction = &grid == &r_.gridGrain;
+    const bool useGrainExtraction = grid.Id() == GridId::Grain;
     switch (col) {
+        case kWholeRow:
         case GrainCol::Amount:
             CalcPoints(grid, row, useGrainExtraction, false);
             CalcHCU(grid, row, false);
@@ -80,8 +84,7 @@ void RecipeCalculator::PrimingCommitted(int row) {
 }
 
 void RecipeCalculator::PressureCommitted() {
-    bool ok = true;
-    CalcKegVolumes(false, 0, ok);
+    CalcKegVolumes();
     ShowCO2();
 }
 

@@ -8,8 +8,12 @@
 
 #include "calc/BeerColor.h"
 #include "calc/RecipeRecord.h"
+#include "values/Reading.h"
 
 namespace tw {
+
+// The title of the box for a temperature or pressure that leaves no carbonation.
+inline constexpr std::string_view kCarbonationFailed = "Error calculating carbonation";
 
 // The commands of the main window that a recipe steers.
 class RecipeCommands {
@@ -35,10 +39,11 @@ class RecipeCalculator {
     void ExtractCommitted();
     void HopExtractionCommitted();
     void FGCommitted();
-    // ok is false when no non-negative carbonation exists at the temperature; nothing else was done then.
-    void TempCommitted(bool& ok);
+    // Refused when no non-negative carbonation exists at the temperature; nothing else was done then.
+    Commit TempCommitted();
 
     // The chains of the committed cells. The cell's text and value are the new ones.
+    // col may be kWholeRow.
     void FermentableCommitted(Grid& grid, int row, int col);
     void HopCommitted(int row);
     void PrimingCommitted(int row);
@@ -84,10 +89,14 @@ class RecipeCalculator {
     void ShowCO2();
     // Row "Treatment Needed" of gridWater (target less source), and the emphasis of the row of totals.
     void UpdateTreatmentNeeded();
-    // ok is false when the pressure has no non-negative volumes at the temperature: the cell stays then. With
-    // usePressure the given pressure is only tested and nothing is written.
-    void CalcKegVolumes(bool usePressure, double pressure, bool& ok);
-    void CalcCarbonation(bool& ok);
+    // True if that keg pressure (psi) has non-negative volumes of CO2 at the recipe's temperature.
+    bool HasKegVolumes(double psi) const;
+    // The keg's volumes from its pressure. False when the pressure has none at the temperature: the cell
+    // stays then.
+    bool CalcKegVolumes();
+    // The keg's volumes and the residual CO2 of bottling. False, and nothing else was done, as
+    // CalcKegVolumes.
+    bool CalcCarbonation();
 
     // Whether the change-carbonation command makes sense.
     bool CanEnableCO2() const;

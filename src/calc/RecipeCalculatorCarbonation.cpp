@@ -55,33 +55,35 @@ void RecipeCalculator::ShowCO2() {
     r_.txtCO2.SetText(grid.Empty(row, col) ? "" : FormatNumber(grid.Number(row, col), "0.00 volumes"));
 }
 
-void RecipeCalculator::CalcKegVolumes(bool usePressure, double pressure, bool& ok) {
-    Grid& grid = r_.gridPressure;
-    ok = true;
-    // Without a temperature there is nothing to work with: the keg's volumes stay empty.
-    if (!usePressure && (grid.Empty(1, PressureCol::Pressure) || r_.txtTemp.Empty())) {
-        grid.Clear(1, PressureCol::Volumes);
-        return;
-    }
-    double volumes = 0;
-    ok = KegVolumes(r_.txtTemp.Value(), usePressure ? pressure : grid.Number(1, PressureCol::Pressure),
-                    volumes);
-    if (ok && !usePressure) grid.SetComputed(1, PressureCol::Volumes, volumes);
+bool RecipeCalculator::HasKegVolumes(double psi) const {
+    return KegVolumes(r_.txtTemp.Value(), psi).has_value();
 }
 
-void RecipeCalculator::CalcCarbonation(bool& ok) {
+bool RecipeCalculator::CalcKegVolumes() {
+    Grid& grid = r_.gridPressure;
+    // Without a temperature there is nothing to work with: the keg's volumes stay empty.
+    if (grid.Empty(1, PressureCol::Pressure) || r_.txtTemp.Empty()) {
+        grid.Clear(1, PressureCol::Volumes);
+        return true;
+    }
+    const std::optional<double> volumes =
+        KegVolumes(r_.txtTemp.Value(), grid.Number(1, PressureCol::Pressure));
+    if (!volumes) return false;
+    grid.SetComputed(1, PressureCol::Volumes, *volumes);
+    return true;
+}
+
+bool RecipeCalculator::CalcCarbonation() {
     Grid& priming = r_.gridPriming;
     if (r_.txtTemp.Empty()) {
         r_.gridPressure.Clear(1, PressureCol::Volumes);
         priming.Clear(ResidualRow(priming), PrimingCol::Volumes);
-        TotalPrimingVolumes();
-        ok = true;
-        return;
+    } else {
+        if (!CalcKegVolumes()) return false;
+        priming.SetComputed(ResidualRow(priming), PrimingCol::Volumes, ResidualCO2(r_.txtTemp.Value()));
     }
-    CalcKegVolumes(false, 0, ok);
-    if (!ok) return;
-    priming.SetComputed(ResidualRow(priming), PrimingCol::Volumes, ResidualCO2(r_.txtTemp.Value()));
     TotalPrimingVolumes();
+    return true;
 }
 
 bool RecipeCalculator::CanEnableCO2() const {

@@ -69,7 +69,7 @@ void RecipeCalculator::ShowIBU() {
 }
 
 void RecipeCalculator::ShowGridTotal(Grid& grid) {
-    if (&grid == &r_.gridHops) {
+    if (grid.Id() == GridId::Hops) {
         ShowHopTotal();
         return;
     }

@@ -110,9 +110,7 @@ RecipeCalculator::CO2Outcome RecipeCalculator::ScalePressure(double volumes) {
     if (psi < 0) return CO2Outcome::TooLow;
     const std::string text = FormatQuantity(psi, kDisplayDecimals) + " psi";
     // As any pressure that is typed, it must have volumes.
-    bool ok = true;
-    CalcKegVolumes(true, psi, ok);
-    if (!ok) return CO2Outcome::Unreasonable;
+    if (!HasKegVolumes(psi)) return CO2Outcome::Unreasonable;
     r_.gridPressure.SetText(1, PressureCol::Pressure, text);
     r_.gridPressure.SetValue(1, PressureCol::Pressure, CellValue::Of(psi));
     PressureCommitted();

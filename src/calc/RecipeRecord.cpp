@@ -2,59 +2,25 @@
 
 #include <algorithm>
 
+#include "calc/FieldRules.h"
+#include "calc/GridRules.h"
+
 namespace tw {
 namespace {
 
-Grid::Layout FermentableLayout(std::string name, std::string heading) {
-    return {std::move(name),
-            {{std::move(heading)},
-             {"Amount (lbs)"},
-             {"PPG"},
-             {"Points", true, false, "#.0"},
-             {"Color (°L)"},
-             {"HCU", true, false, "#.0"}},
-            1,
-            1};
+TextBox FieldOf(RecordLink& link, FieldId id) {
+    const FieldRule& rule = RuleOf(id);
+    return {link, id, std::string(rule.name), rule.computed};
 }
 
-Grid::Layout HopLayout() {
-    return {"gridHops",
-            {{"Hop Variety"},
-             {"AA%"},
-             {"Hop Form"},
-             {"Hop Socks?", false, true, {}},
-             {"Amount (oz)"},
-             {"Dry Hopped?", false, true, {}},
-             {"Time (min)"},
-             {"IBU", true, false, "#.0"}},
-            1,
-            1};
-}
-
-std::vector<Column> WithIons(std::vector<Column> first, bool readOnly, std::string_view pattern) {
-    for (const char* ion : {"Calcium (Ca)", "Carbonate (CO3)", "Chloride (Cl)", "Magnesium (Mg)",
-                            "Sodium (Na)", "Sulfate (SO4)"})
-        first.push_back({ion, readOnly, false, pattern});
-    return first;
-}
-
-Grid::Layout WaterLayout() {
-    return {"gridWater", WithIons({{"", true, false, {}, true}, {"Water Profile"}}, false, {}), 0, 0, false};
-}
-
-Grid::Layout TreatmentLayout() {
-    return {"gridTreatment", WithIons({{"Treatment"}, {"Amount (grams)"}}, true, {})};
-}
-
-Grid::Layout PrimingLayout() {
-    return {"gridPriming",
-            {{"Priming Sugar"}, {"Fermentable%"}, {"Amount (oz)"}, {"CO2 Volumes", true, false, "#.00"}},
-            2,
-            1};
-}
-
-Grid::Layout PressureLayout() {
-    return {"gridPressure", {{"Keg Pressure (psi)"}, {"CO2 Volumes", true, false, "#.00"}}, 0, 0, false};
+Grid::Layout LayoutOf(GridId id) {
+    const GridRule& rule = RuleOf(id);
+    Grid::Layout layout{
+        id, std::string(rule.name), {}, rule.totalsRows, rule.leastDataRows, rule.rowsCanChange};
+    for (const CellRule& cell : rule.columns)
+        layout.columns.push_back({std::string(cell.header), cell.ReadOnly(), cell.CheckBox(), cell.pattern,
+                                  cell.takes == CellTakes::RowLabel});
+    return layout;
 }
 
 void BuildWaterRows(Grid& grid) {
@@ -80,23 +46,23 @@ Control* FindByName(const std::vector<Control*>& controls, std::string_view name
 }  // namespace
 
 RecipeRecord::RecipeRecord()
-    : txtName(link_, "txtName"),
-      txtNumBatches(link_, "txtNumBatches"),
-      txtBoilVol(link_, "txtBoilVol"),
-      txtTotalVol(link_, "txtTotalVol"),
-      txtOG(link_, "txtOG", true),
-      txtFG(link_, "txtFG"),
-      txtABV(link_, "txtABV", true),
-      txtColor(link_, "txtColor", true),
-      txtIBU(link_, "txtIBU", true),
-      txtCO2(link_, "txtCO2", true),
-      txtExtract(link_, "txtExtract"),
-      txtHopExtraction(link_, "txtHopExtraction"),
-      txtBG(link_, "txtBG", true),
-      txtTemp(link_, "txtTemp"),
-      txtDilutions(link_, "txtDilutions"),
-      txtFinalVol(link_, "txtFinalVol"),
-      txtNotes(link_, "txtNotes"),
+    : txtName(FieldOf(link_, FieldId::Name)),
+      txtNumBatches(FieldOf(link_, FieldId::NumBatches)),
+      txtBoilVol(FieldOf(link_, FieldId::BoilVol)),
+      txtTotalVol(FieldOf(link_, FieldId::TotalVol)),
+      txtOG(FieldOf(link_, FieldId::OG)),
+      txtFG(FieldOf(link_, FieldId::FG)),
+      txtABV(FieldOf(link_, FieldId::ABV)),
+      txtColor(FieldOf(link_, FieldId::Color)),
+      txtIBU(FieldOf(link_, FieldId::IBU)),
+      txtCO2(FieldOf(link_, FieldId::CO2)),
+      txtExtract(FieldOf(link_, FieldId::Extract)),
+      txtHopExtraction(FieldOf(link_, FieldId::HopExtraction)),
+      txtBG(FieldOf(link_, FieldId::BG)),
+      txtTemp(FieldOf(link_, FieldId::Temp)),
+      txtDilutions(FieldOf(link_, FieldId::Dilutions)),
+      txtFinalVol(FieldOf(link_, FieldId::FinalVol)),
+      txtNotes(FieldOf(link_, FieldId::Notes)),
       cmbStyle(link_, "cmbStyle"),
       lblOGStyle(link_, "lblOGStyle"),
       lblFGStyle(link_, "lblFGStyle"),
@@ -110,18 +76,16 @@ RecipeRecord::RecipeRecord()
       cmdFinalVolDetails(link_, "cmdFinalVolDetails", false),
       cmdIBUDetails(link_, "cmdIBUDetails", false),
       cmdCalcTreatment(link_, "cmdCalcTreatment", false),
-      gridGrain(link_, FermentableLayout("gridGrain", "Grain")),
-      gridExtract(link_, FermentableLayout("gridExtract", "Extract")),
-      gridHops(link_, HopLayout()),
-      gridWater(link_, WaterLayout()),
-      gridTreatment(link_, TreatmentLayout()),
-      gridPriming(link_, PrimingLayout()),
-      gridPressure(link_, PressureLayout()),
-      gridAdjuncts(link_, {"gridAdjuncts", {{"Adjunct"}, {"Amount"}, {"When Added"}, {"Time"}}}),
-      gridLog(link_, {"gridLog", {{"Date"}, {"Action"}, {"Notes"}}}) {
-    textBoxes_ = {&txtName, &txtNumBatches, &txtBoilVol,   &txtTotalVol, &txtOG,      &txtFG,
-                  &txtABV,  &txtColor,      &txtIBU,       &txtCO2,      &txtExtract, &txtHopExtraction,
-                  &txtBG,   &txtTemp,       &txtDilutions, &txtFinalVol, &txtNotes};
+      gridGrain(link_, LayoutOf(GridId::Grain)),
+      gridExtract(link_, LayoutOf(GridId::Extract)),
+      gridHops(link_, LayoutOf(GridId::Hops)),
+      gridWater(link_, LayoutOf(GridId::Water)),
+      gridTreatment(link_, LayoutOf(GridId::Treatment)),
+      gridPriming(link_, LayoutOf(GridId::Priming)),
+      gridPressure(link_, LayoutOf(GridId::Pressure)),
+      gridAdjuncts(link_, LayoutOf(GridId::Adjuncts)),
+      gridLog(link_, LayoutOf(GridId::Log)) {
+    for (const FieldRule& rule : FieldRules()) textBoxes_.push_back(&(this->*rule.box));
     grids_ = {&gridGrain,   &gridExtract,  &gridHops,     &gridWater, &gridTreatment,
               &gridPriming, &gridPressure, &gridAdjuncts, &gridLog};
     labels_ = {&lblOGStyle, &lblFGStyle, &lblABVStyle, &lblColorStyle, &lblIBUStyle, &lblCO2Style};

@@ -149,19 +149,30 @@ void CatalogueEditor::TypeCell(int row, int col, std::string_view text) {
     MarkChanged();
 }
 
+// The number of a text that is not blank; nothing when it was refused, which a box has said.
+std::optional<double> CatalogueEditor::ReadAloud(const RangeRow& row, std::string_view text) {
+    try {
+        const Reading<double> value = ReadCell(row, text);
+        if (value) return *value;
+        ShowRefusal(context_.messages, value.Why());
+    } catch (const Error& error) {
+        context_.messages.ShowMessage("Error", error.WithNumber());
+    }
+    return std::nullopt;
+}
+
 bool CatalogueEditor::LeaveCell(int row, int col) {
     CellState& cell = Cell(row, col);
     // A figure that is only looked at keeps all its digits.
     if (cell.text == cell.goodText) return true;
-    if (IsBlank(cell.text)) {
-        cell.value.reset();
-    } else if (double value = 0;
-               ReadCell(form_->rows[static_cast<std::size_t>(row)], cell.text, value, context_.messages)) {
-        cell.value = value;
-    } else {
+    const bool blank = IsBlank(cell.text);
+    const std::optional<double> value =
+        blank ? std::nullopt : ReadAloud(form_->rows[static_cast<std::size_t>(row)], cell.text);
+    if (!blank && !value) {
         cell.text = cell.goodText;
         return false;
     }
+    cell.value = value;
     cell.goodText = cell.text;
     return true;
 }

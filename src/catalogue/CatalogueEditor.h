@@ -154,6 +154,7 @@ class CatalogueEditor : public DialogModel {
     // nullptr for a control that the form does not have.
     std::string CatalogueEditor::*TextNamed(std::string_view control) const;
     EditorList CatalogueEditor::*ListNamed(std::string_view control) const;
+    std::optional<double> ReadAloud(const RangeRow& row, std::string_view text);
     void SetUpLists();
     void Clear();
     void Read(const Recordset& row);

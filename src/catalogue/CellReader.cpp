@@ -10,54 +10,41 @@
 namespace tw {
 namespace {
 
-bool ReadGravity(std::string_view text, double& gravity) {
-    if (ParseSG(text, gravity)) return true;
-    double plato = 0;
-    if (!ParsePlato(text, plato)) return false;
-    gravity = Finite(PlatoToSG(plato));
-    return true;
+std::optional<double> ReadGravity(std::string_view text) {
+    if (const auto gravity = ParseSG(text)) return gravity;
+    const std::optional<double> plato = ParsePlato(text);
+    if (!plato) return std::nullopt;
+    return Finite(PlatoToSG(*plato));
 }
 
-bool Parse(CellCheck check, std::string_view text, double& value) {
+std::optional<double> Parse(CellCheck check, std::string_view text) {
     switch (check) {
         case CellCheck::Gravity:
-            return ReadGravity(text, value);
+            return ReadGravity(text);
         case CellCheck::Share:
-            return ParsePercent(text, value);
+            return ParsePercent(text);
         case CellCheck::Bitterness:
-            return ParseIBU(text, value);
+            return ParseIBU(text);
         case CellCheck::Carbonation:
-            return ParseCO2Volumes(text, value);
+            return ParseCO2Volumes(text);
         default:
-            return ParseReal(Trim(text), value);
+            return ParseReal(Trim(text));
     }
-}
-
-bool Check(const RangeRow& row, std::string_view text, double& value, MessagePort& messages) {
-    if (row.check == CellCheck::Percent) return ValidatePercent(text, value, &messages);
-    if (row.check == CellCheck::Temperature) return ValidateTemperature(text, value, &messages);
-    const auto refuse = [&](std::string_view what) {
-        messages.ShowMessage(kInvalidEntry,
-                             "Please enter a " + std::string(what) + " " + std::string(row.word));
-        return false;
-    };
-    double number = 0;
-    if (!Parse(row.check, text, number)) return refuse("valid");
-    // As everywhere, a gravity of zero is refused, and no other zero.
-    if (number < 0 || (number == 0 && row.check == CellCheck::Gravity)) return refuse("positive");
-    value = number;
-    return true;
 }
 
 }  // namespace
 
-bool ReadCell(const RangeRow& row, std::string_view text, double& value, MessagePort& messages) {
-    try {
-        return Check(row, text, value, messages);
-    } catch (const Error& error) {
-        messages.ShowMessage("Error", error.WithNumber());
-        return false;
-    }
+Reading<double> ReadCell(const RangeRow& row, std::string_view text) {
+    if (row.check == CellCheck::Percent) return ValidatePercent(text);
+    if (row.check == CellCheck::Temperature) return ValidateTemperature(text);
+    const auto refused = [&](std::string_view what) {
+        return Refusal{kInvalidEntry, "Please enter a " + std::string(what) + " " + std::string(row.word)};
+    };
+    const std::optional<double> number = Parse(row.check, text);
+    if (!number) return refused("valid");
+    // As everywhere, a gravity of zero is refused, and no other zero.
+    if (*number < 0 || (*number == 0 && row.check == CellCheck::Gravity)) return refused("positive");
+    return *number;
 }
 
 }  // namespace tw

@@ -4,12 +4,12 @@
 #include <string_view>
 
 #include "catalogue/EditorForm.h"
-#include "platform/Ports.h"
+#include "values/Reading.h"
 
 namespace tw {
 
-// The number of a text that is not blank, in the unit that its row is stored in. A refusal is reported in a
-// box titled "Invalid Entry", an arithmetic error in one titled "Error"; value is untouched then.
-bool ReadCell(const RangeRow& row, std::string_view text, double& value, MessagePort& messages);
+// The number of a text that is not blank, in the unit that its row is stored in. Raises arithmetic errors as
+// the parsers do.
+Reading<double> ReadCell(const RangeRow& row, std::string_view text);
 
 }  // namespace tw

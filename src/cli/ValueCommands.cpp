@@ -21,9 +21,8 @@ void Parse(Session& session, Arguments& arguments) {
     const std::string name = arguments.Word("PARSER");
     const Parser parser = FindParser(name);
     if (parser == nullptr) throw ScriptError("unknown parser '" + name + "'");
-    double number = 0;
-    if (parser(arguments.Text(), number))
-        PrintNumber(session, number);
+    if (const std::optional<double> number = parser(arguments.Text()))
+        PrintNumber(session, *number);
     else
         session.Out().Line("no");
 }
@@ -32,11 +31,10 @@ void Validate(Session& session, Arguments& arguments) {
     const std::string name = arguments.Word("VALIDATOR");
     const Validator validator = FindValidator(name);
     if (validator == nullptr) throw ScriptError("unknown validator '" + name + "'");
-    double number = 0;
-    if (validator(arguments.Text(), number, &session.Messages()))
-        PrintNumber(session, number);
-    else
-        session.Out().Line("no");
+    const Reading<double> number = validator(arguments.Text());
+    if (number) return PrintNumber(session, *number);
+    ShowRefusal(session.Messages(), number.Why());
+    session.Out().Line("no");
 }
 
 void Format(Session& session, Arguments& arguments) {

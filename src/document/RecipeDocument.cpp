@@ -26,7 +26,7 @@ void RecipeDocument::ApplyDefaults() {
     const RecipeDefaults defaults = host_.Defaults();
     CommitDefault(record_.txtExtract, defaults.grainExtraction);
     CommitDefault(record_.txtHopExtraction, defaults.hopExtraction);
-    EditCell(record_.gridWater, WaterRow::Source, WaterCol::Profile, defaults.waterProfile, true);
+    EditCell(record_.gridWater, WaterRow::Source, WaterCol::Profile, defaults.waterProfile, Asking::Quietly);
     CommitDefault(record_.txtBoilVol, defaults.boilVol);
     CommitDefault(record_.txtTotalVol, defaults.totalVol);
     const auto choose = [](OptionGroup& group, int index) {
@@ -42,7 +42,7 @@ void RecipeDocument::ApplyDefaults() {
 void RecipeDocument::CommitDefault(TextBox& box, const std::string& text) {
     box.SetText(text);
     try {
-        if (CommitField(box, true)) return;
+        if (CommitField(box, Asking::Quietly)) return;
     } catch (const Error&) {
         // The field is empty again; a new recipe must open whatever the settings hold.
     }
@@ -83,7 +83,7 @@ bool RecipeDocument::ChooseOption(std::string_view option) {
     if (index == group->Selected()) return true;
     const int before = group->Selected();
     group->Select(index);
-    const bool isMethod = group == &record_.grpIBUMethod;
+    const bool isMethod = group->Name() == record_.grpIBUMethod.Name();
     try {
         isMethod ? calculator_.IbuMethodChosen() : calculator_.PackagingChosen();
     } catch (const Error&) {

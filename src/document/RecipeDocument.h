@@ -28,6 +28,9 @@ struct RecipeSnapshot;
 enum class Tab : int { General, Grains, Extracts, Hops, Water, Carbonation, Adjuncts, Log, Notes };
 inline constexpr int kTabs = 9;
 
+// Whether a refused entry is told in a box.
+enum class Asking : std::uint8_t { Aloud, Quietly };
+
 // What the editor of a cell offers.
 struct CellList {
     std::vector<std::string> entries;
@@ -96,10 +99,10 @@ class RecipeDocument {
 
     // Text boxes. SetText is each change while typing; CommitField is what runs when the box loses the focus
     // or edits are flushed: validation, then the field's chain. It returns false for a bad entry (whose box
-    // has been shown, unless quiet): the text stays and the box keeps the focus. It raises for an arithmetic
+    // has been shown, if aloud): the text stays and the box keeps the focus. It raises for an arithmetic
     // fault; the field then has its last committed text again. A computed box refuses both.
     void SetText(TextBox& box, std::string_view text);
-    bool CommitField(TextBox& box, bool quiet = false);
+    bool CommitField(TextBox& box, Asking asking = Asking::Aloud);
     // Puts the last committed text back (Escape, a refused entry of a script); the typing stays balanced in
     // the history.
     void RestoreField(TextBox& box);
@@ -120,12 +123,11 @@ class RecipeDocument {
     bool CanEdit(const Grid& grid, int row, int col) const;
     CellList ListOf(const Grid& grid, int row, int col) const;
     // Validates the text and commits it: the cell's chain runs. False for a bad entry (whose box has been
-    // shown, unless quiet) and for a cell that cannot be edited: nothing has changed then. Raises for an
+    // shown, if aloud) and for a cell that cannot be edited: nothing has changed then. Raises for an
     // arithmetic fault; the cell is then as before.
-    bool EditCell(Grid& grid, int row, int col, std::string_view text, bool quiet = false);
-    // The validation alone, as the editor closes: value is what the cell would hold.
-    bool ValidateCell(const Grid& grid, int row, int col, std::string_view text, bool quiet,
-                      CellValue& value);
+    bool EditCell(Grid& grid, int row, int col, std::string_view text, Asking asking = Asking::Aloud);
+    // What the cell would hold with that text; nothing changes. Raises for an arithmetic fault.
+    Reading<CellValue> ReadCell(const Grid& grid, int row, int col, std::string_view text) const;
     // A check-box cell. False when the cell is none.
     bool SetChecked(Grid& grid, int row, int col, bool checked);
     // A day of the calendar for the current row of gridLog.
@@ -292,10 +294,10 @@ class RecipeDocument {
     void SetDetached();
 
     // Fields (RecipeDocumentFields.cpp).
-    bool IsFreeText(const TextBox& box) const;
-    bool ValidateField(const TextBox& box, std::string_view text, bool quiet, double& value);
-    bool ValidateHopExtraction(std::string_view text, bool quiet, double& value);
-    bool RunFieldChain(TextBox& box);
+    Commit CommitQuantity(TextBox& box);
+    // The number of a text in the box's unit; that of the box for free text.
+    static Reading<double> ReadField(const TextBox& box, std::string_view text);
+    Commit RunFieldChain(const TextBox& box);
     // Style (RecipeDocumentStyle.cpp).
     // Selects the style of that id and shows its ranges; "(None)" when it is gone. Gives its water profile,
     // nothing without one.
@@ -304,22 +306,22 @@ class RecipeDocument {
     void ChooseStyle(std::int64_t id);
 
     // Cells (RecipeDocumentCells.cpp).
-    bool ValidateNumber(std::string_view text, std::string_view kind, bool quiet, CellValue& value);
-    bool ValidateHopAmount(std::string_view text, bool quiet, CellValue& value);
-    bool ValidateHopForm(std::string_view text, CellValue& value) const;
-    bool ValidateKegPressure(std::string_view text, bool quiet, CellValue& value);
-    bool Refuse(std::string_view message, bool quiet);
+    Reading<CellValue> ReadKegPressure(std::string_view text) const;
+    // What ReadCell gives; nothing for a text that is refused or breaks a formula.
+    std::optional<CellValue> ReadQuietly(const Grid& grid, int row, int col, std::string_view text) const;
     void ChangeRow(Grid& grid, int row, int col, const std::function<void()>& change);
     void RecordRowChange(Grid& grid, int row, int col, const std::vector<Cell>& before);
     void ReadTimeAgain(Grid& hops, int row);
     void RunCellChain(Grid& grid, int row, int col);
     void RecalculateGrid(Grid& grid, int row);
-    // Catalogue look-ups by the row's name (RecipeDocumentCatalogue.cpp); whether the name was found.
+    // Catalogue look-ups by the row's name (RecipeDocumentCatalogue.cpp). True if the name was found and has
+    // filled other cells.
+    bool LookUp(Grid& grid, int row, int col);
     bool LookUpFermentable(Grid& grid, int row);
     bool LookUpSugar(int row);
-    void LookUpHop(int row);
-    void LookUpWater(int row);
-    void LookUpSalt(int row);
+    bool LookUpHop(int row);
+    bool LookUpWater(int row);
+    bool LookUpSalt(int row);
     void LookUpYeast(int row);
     void FillFromCatalogue(Grid& grid, int row, int col, const Field& field);
 
@@ -327,7 +329,6 @@ class RecipeDocument {
     void AddBlankRow(Grid& grid, int row);
     void ClearRowCells(Grid& grid, int row);
     void ClearFactors(int row);
-    void RecalculateAfterDelete(Grid& grid);
     void RefreshRowCommands();
 
     void RemoveRow(Grid& grid, int row);
@@ -355,8 +356,8 @@ class RecipeDocument {
     void ApplyToCell(Grid& grid, int row, int col, const EditValue& value);
     EditValue ValueOf(const Grid& grid, int row, int col, const Cell& cell);
     EditValue ValueOf(const TextBox& box, std::string_view text, double number);
-    double ReadField(const TextBox& box, std::string_view text, double otherwise);
-    CellValue ReadCell(const Grid& grid, int row, int col, std::string_view text);
+    static double NumberTold(const TextBox& box, std::string_view text, double otherwise);
+    CellValue NumberTold(const Grid& grid, int row, int col, std::string_view text) const;
     void ApplyRowInsert(Grid& grid, const EditTracker& edit, bool insert);
     void ApplyRowDelete(Grid& grid, int row, bool remove);
     void RefreshUndoCommands();

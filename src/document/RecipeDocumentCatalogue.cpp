@@ -1,6 +1,7 @@
 // What the catalogue gives to a recipe: the entries of a cell's list, and the figures of a name that was
 // chosen.
 #include "calc/Figures.h"
+#include "calc/GridRules.h"
 #include "document/PitchedYeast.h"
 #include "document/RecipeDocument.h"
 #include "store/CatalogueNames.h"
@@ -26,18 +27,29 @@ constexpr const char* kLogActions[] = {"Steeped Specialty Grains",
                                        "Bottled",
                                        "Tasted"};
 
-// The statement behind the list of a cell; nullptr where the list is no query.
-const char* ListQuery(const RecipeRecord& r, const Grid& grid, int col) {
-    if (col == 0) {
-        if (&grid == &r.gridGrain) return "SELECT NAME FROM GRAINS WHERE GRAIN ORDER BY 1";
-        if (&grid == &r.gridExtract) return "SELECT NAME FROM GRAINS WHERE NOT GRAIN ORDER BY 1";
-        if (&grid == &r.gridHops) return "SELECT NAME FROM HOPS ORDER BY 1";
-        if (&grid == &r.gridPriming) return "SELECT NAME FROM SUGARS ORDER BY 1";
-        if (&grid == &r.gridTreatment) return "SELECT NAME FROM SALTS ORDER BY 1";
-        if (&grid == &r.gridAdjuncts) return "SELECT DISTINCT NAME FROM RECIPE_ADJUNCTS ORDER BY NAME";
+// The statement behind a list of names; nullptr for a list that is no query.
+const char* QueryOf(CellNames names) {
+    switch (names) {
+        case CellNames::Grains:
+            return "SELECT NAME FROM GRAINS WHERE GRAIN ORDER BY 1";
+        case CellNames::Extracts:
+            return "SELECT NAME FROM GRAINS WHERE NOT GRAIN ORDER BY 1";
+        case CellNames::Hops:
+            return "SELECT NAME FROM HOPS ORDER BY 1";
+        case CellNames::Sugars:
+            return "SELECT NAME FROM SUGARS ORDER BY 1";
+        case CellNames::Salts:
+            return "SELECT NAME FROM SALTS ORDER BY 1";
+        case CellNames::Waters:
+            return "SELECT NAME FROM WATER_PROFILES ORDER BY 1";
+        case CellNames::UsedAdjuncts:
+            return "SELECT DISTINCT NAME FROM RECIPE_ADJUNCTS ORDER BY NAME";
+        case CellNames::None:
+        case CellNames::HopForms:
+        case CellNames::TimesToAdd:
+        case CellNames::LogActions:
+            break;
     }
-    if (&grid == &r.gridWater && col == WaterCol::Profile)
-        return "SELECT NAME FROM WATER_PROFILES ORDER BY 1";
     return nullptr;
 }
 
@@ -52,18 +64,39 @@ std::string RowLiteral(Database& database, CatalogueKind kind, std::string_view 
 CellList RecipeDocument::ListOf(const Grid& grid, int row, int col) const {
     CellList list;
     if (!CanEdit(grid, row, col)) return list;
-    if (&grid == &record_.gridHops && col == HopCol::Form) {
+    const CellNames names = RuleOf(grid, col).names;
+    if (names == CellNames::HopForms) {
         list.freeText = false;
         for (const HopForm& form : kHopForms) list.entries.emplace_back(form.name);
-    } else if (&grid == &record_.gridAdjuncts && col == AdjunctCol::WhenAdded) {
+    } else if (names == CellNames::TimesToAdd) {
         list.entries.assign(std::begin(kWhenAdded), std::end(kWhenAdded));
-    } else if (&grid == &record_.gridLog && col == LogCol::Action) {
+    } else if (names == CellNames::LogActions) {
         list.entries.assign(std::begin(kLogActions), std::end(kLogActions));
-    } else if (const char* query = ListQuery(record_, grid, col)) {
+    } else if (const char* query = QueryOf(names)) {
         for (Recordset rs = database_.OpenRecordset(query); !rs.AtEnd(); rs.MoveNext())
             list.entries.push_back(rs.Fields(0).Text());
     }
     return list;
+}
+
+bool RecipeDocument::LookUp(Grid& grid, int row, int col) {
+    switch (RuleOf(grid, col).names) {
+        case CellNames::Grains:
+        case CellNames::Extracts:
+            return LookUpFermentable(grid, row);
+        case CellNames::Hops:
+            return LookUpHop(row);
+        case CellNames::Sugars:
+            return LookUpSugar(row);
+        case CellNames::Salts:
+            return LookUpSalt(row);
+        case CellNames::Waters:
+            return LookUpWater(row);
+        default:
+            break;
+    }
+    if (grid.Id() == GridId::Log && col == LogCol::Notes) LookUpYeast(row);
+    return false;
 }
 
 // A mid-point of the catalogue becomes the cell's text and number; NULL empties the cell.
@@ -77,7 +110,7 @@ void RecipeDocument::FillFromCatalogue(Grid& grid, int row, int col, const Field
 }
 
 bool RecipeDocument::LookUpFermentable(Grid& grid, int row) {
-    const bool isGrain = &grid == &record_.gridGrain;
+    const bool isGrain = grid.Id() == GridId::Grain;
     Recordset rs = database_.OpenRecordset(
         "SELECT NAME, (PPG_LO+PPG_HI)/2, (COLOR_LO+COLOR_HI)/2 FROM GRAINS WHERE NAME = " +
         RowLiteral(database_, isGrain ? CatalogueKind::Grain : CatalogueKind::Extract,
@@ -89,12 +122,14 @@ bool RecipeDocument::LookUpFermentable(Grid& grid, int row) {
     return true;
 }
 
-void RecipeDocument::LookUpHop(int row) {
+bool RecipeDocument::LookUpHop(int row) {
     Grid& hops = record_.gridHops;
     Recordset rs =
         database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM HOPS WHERE NAME = " +
                                 RowLiteral(database_, CatalogueKind::Hop, hops.Text(row, HopCol::Variety)));
-    if (!rs.AtEnd()) FillFromCatalogue(hops, row, HopCol::AlphaAcid, rs.Fields(1));
+    if (rs.AtEnd()) return false;
+    FillFromCatalogue(hops, row, HopCol::AlphaAcid, rs.Fields(1));
+    return true;
 }
 
 bool RecipeDocument::LookUpSugar(int row) {
@@ -107,21 +142,22 @@ bool RecipeDocument::LookUpSugar(int row) {
     return true;
 }
 
-void RecipeDocument::LookUpWater(int row) {
+bool RecipeDocument::LookUpWater(int row) {
     Grid& water = record_.gridWater;
     Recordset rs = database_.OpenRecordset(
         "SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM WATER_PROFILES WHERE NAME = " +
         RowLiteral(database_, CatalogueKind::Water, water.Text(row, WaterCol::Profile)));
-    if (rs.AtEnd()) return;
+    if (rs.AtEnd()) return false;
     for (int ion = 0; ion < kIons; ++ion) {
         const double ppm = rs.Fields(ion + 1).Number();
         water.SetText(row, WaterCol::FirstIon + ion, NumberText(ppm));
         water.SetValue(row, WaterCol::FirstIon + ion, CellValue::Of(ppm));
     }
+    return true;
 }
 
 // The numbers behind the ion cells of a treatment row are what one gram of the salt adds to one gallon.
-void RecipeDocument::LookUpSalt(int row) {
+bool RecipeDocument::LookUpSalt(int row) {
     Grid& treatment = record_.gridTreatment;
     Recordset rs = database_.OpenRecordset(
         "SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM SALTS WHERE NAME = " +
@@ -129,6 +165,7 @@ void RecipeDocument::LookUpSalt(int row) {
     for (int ion = 0; ion < kIons; ++ion)
         treatment.SetValue(row, TreatmentCol::FirstIon + ion,
                            rs.AtEnd() ? CellValue{} : CellValue::Of(rs.Fields(ion + 1).Number()));
+    return !rs.AtEnd();
 }
 
 // Pitched yeast sets the final gravity from its apparent attenuation.

@@ -154,7 +154,7 @@ void RecipeDocument::Paste() {
     if (!platform_.clipboard.HasText()) return;
     const std::string text = platform_.clipboard.Text();
     if (focusBox_) {
-        const bool lines = focusBox_ == &record_.txtNotes;
+        const bool lines = focusBox_->Id() == FieldId::Notes;
         ReplaceSelection(*focusBox_, lines ? NotesLines(text) : OneLine(text), ChangeType::Paste);
     }
     if (!HasCells(focusGrid_) || !FlushEdits()) return;
@@ -184,10 +184,8 @@ bool RecipeDocument::CanPaste(const Grid& grid, const GridRange& target, const C
         return false;
     }
     const bool valid = EveryCell(target, [&](int row, int col) {
-        CellValue value;
         return !CanEdit(grid, row, col) || grid.IsCheckBox(row, col) ||
-               ValidateCell(grid, row, col, BlockCell(block, row - target.row1, col - target.col1), true,
-                            value);
+               ReadCell(grid, row, col, BlockCell(block, row - target.row1, col - target.col1)).Accepted();
     });
     if (!valid)
         platform_.messages.ShowMessage(
@@ -209,13 +207,13 @@ void RecipeDocument::ApplyBlock(Grid& grid, const GridRange& target, const Clipb
 
 void RecipeDocument::ApplyBlockCell(Grid& grid, int row, int col, const std::string& text) {
     if (!grid.IsCheckBox(row, col))
-        EditCell(grid, row, col, text, true);
+        EditCell(grid, row, col, text, Asking::Quietly);
     else if (!text.empty())
         SetChecked(grid, row, col, MeansChecked(text));
 }
 
 void RecipeDocument::ChooseFromCatalogue(Grid& grid, int col, std::string_view name) {
-    AsOneStep(ChangeType::Selection, [&] { EditCell(grid, grid.CurrentRow(), col, name, true); });
+    AsOneStep(ChangeType::Selection, [&] { EditCell(grid, grid.CurrentRow(), col, name, Asking::Quietly); });
 }
 
 void RecipeDocument::ChangeGrain(std::string_view name) {

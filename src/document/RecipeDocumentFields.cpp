@@ -1,4 +1,5 @@
 // The text boxes of a recipe: typing, validation, commit.
+#include "calc/FieldRules.h"
 #include "document/RecipeDocument.h"
 #include "values/ParserValidater.h"
 #include "values/Text.h"
@@ -6,24 +7,19 @@
 namespace tw {
 namespace {
 
-using FieldValidator = Validator;
+bool IsFreeText(const TextBox& box) {
+    return RuleOf(box).takes == FieldTakes::FreeText;
+}
 
-// The quantity that a text box holds; nullptr for free text.
-FieldValidator ValidatorOf(const RecipeRecord& r, const TextBox& box) {
-    if (&box == &r.txtBoilVol || &box == &r.txtTotalVol || &box == &r.txtDilutions || &box == &r.txtFinalVol)
-        return ValidateVolume;
-    if (&box == &r.txtExtract) return ValidatePercent;
-    // The computed gravities are read from a stored text alone.
-    if (&box == &r.txtFG || &box == &r.txtOG || &box == &r.txtBG) return ValidateGravity;
-    if (&box == &r.txtTemp) return ValidateTemperature;
-    return nullptr;
+Reading<double> ReadMultiplier(std::string_view text) {
+    if (IsBlank(text)) return 1.0;
+    const std::optional<double> number = ParseReal(text);
+    if (!number) return Refusal{kInvalidEntry, "Please enter a valid decimal number"};
+    if (*number < 0) return Refusal{kInvalidEntry, "Please enter a positive decimal number"};
+    return *number;
 }
 
 }  // namespace
-
-bool RecipeDocument::IsFreeText(const TextBox& box) const {
-    return &box == &record_.txtName || &box == &record_.txtNumBatches || &box == &record_.txtNotes;
-}
 
 void RecipeDocument::SetText(TextBox& box, std::string_view text) {
     if (box.Computed() || box.Text() == text) return;
@@ -31,7 +27,7 @@ void RecipeDocument::SetText(TextBox& box, std::string_view text) {
     box.SetText(text);
     if (!IsFreeText(box)) return;
     MarkChanged();
-    if (&box == &record_.txtName) host_.DocumentRenamed(*this);
+    if (box.Id() == FieldId::Name) host_.DocumentRenamed(*this);
 }
 
 void RecipeDocument::RestoreField(TextBox& box) {
@@ -40,10 +36,10 @@ void RecipeDocument::RestoreField(TextBox& box) {
     // Free text has no refusals; what was typed since it was left is typed back.
     RecordText(box, committed, IsFreeText(box) ? ChangeType::Typing : ChangeType::Abort);
     box.SetText(committed);
-    if (&box == &record_.txtName) host_.DocumentRenamed(*this);
+    if (box.Id() == FieldId::Name) host_.DocumentRenamed(*this);
 }
 
-bool RecipeDocument::CommitField(TextBox& box, bool quiet) {
+bool RecipeDocument::CommitField(TextBox& box, Asking asking) {
     if (box.Computed()) return true;
     // Where a quantity belongs, blanks alone are the empty text.
     if (!IsFreeText(box) && IsBlank(box.Text())) SetText(box, {});
@@ -52,6 +48,16 @@ bool RecipeDocument::CommitField(TextBox& box, bool quiet) {
         box.SetCommitted(box.Text());
         return true;
     }
+    const Commit commit = CommitQuantity(box);
+    // The record is whole again before the box, behind which the program goes on.
+    if (!commit && asking == Asking::Aloud) ShowRefusal(platform_.messages, commit.Why());
+    if (commit) MarkChanged();
+    return static_cast<bool>(commit);
+}
+
+// Takes the text of a box that holds a quantity, and runs its chain. A refused text leaves the record as it
+// was.
+Commit RecipeDocument::CommitQuantity(TextBox& box) {
     const std::string oldText = box.Committed();
     const double oldValue = box.Value();
     const auto goBack = [&] {
@@ -60,74 +66,53 @@ bool RecipeDocument::CommitField(TextBox& box, bool quiet) {
     };
     bool chainRan = false;
     try {
-        double value = 0;
-        if (!ValidateField(box, box.Text(), quiet, value)) return false;
-        box.SetValue(value);
+        const Reading<double> value = ReadField(box, box.Text());
+        if (!value) return Commit::Refused(value.Why());
+        box.SetValue(*value);
         // The text being committed counts in its own chain.
         box.SetCommitted(box.Text());
         chainRan = true;
-        if (!RunFieldChain(box)) {
-            goBack();
-            // The record is whole again before the box, behind which the program goes on.
-            if (!quiet)
-                platform_.messages.ShowMessage("Error calculating carbonation",
-                                               "Please enter a more reasonable temperature.");
-            return false;
-        }
+        Commit commit = RunFieldChain(box);
+        if (!commit) goBack();
+        return commit;
     } catch (const Error&) {
         goBack();
         RestoreField(box);
-        if (chainRan) RunFieldChain(box);
+        // The chain of the old value refuses nothing that it did not refuse when that was committed.
+        if (chainRan) (void)RunFieldChain(box);
         throw;
     }
-    MarkChanged();
-    return true;
 }
 
 void RecipeDocument::FlushEditsQuietly() {
     for (TextBox* box : record_.TextBoxes()) {
         if (IsBlank(box->Text())) continue;
         const std::string typed = box->Text();
-        if (!Quietly([&] { return CommitField(*box, true); })) SetText(*box, typed);
+        if (!Quietly([&] { return CommitField(*box, Asking::Quietly); })) SetText(*box, typed);
     }
 }
 
-bool RecipeDocument::ValidateField(const TextBox& box, std::string_view text, bool quiet, double& value) {
-    if (&box == &record_.txtHopExtraction) return ValidateHopExtraction(text, quiet, value);
-    return ValidatorOf(record_, box)(text, value, quiet ? nullptr : &platform_.messages);
+Reading<double> RecipeDocument::ReadField(const TextBox& box, std::string_view text) {
+    switch (RuleOf(box).takes) {
+        case FieldTakes::Gallons:
+            return ValidateVolume(text);
+        case FieldTakes::Percent:
+            return ValidatePercent(text);
+        case FieldTakes::SpecificGravity:
+            return ValidateGravity(text);
+        case FieldTakes::Fahrenheit:
+            return ValidateTemperature(text);
+        case FieldTakes::Multiplier:
+            return ReadMultiplier(text);
+        case FieldTakes::FreeText:
+            break;
+    }
+    return box.Value();
 }
 
-bool RecipeDocument::ValidateHopExtraction(std::string_view text, bool quiet, double& value) {
-    if (IsBlank(text)) {
-        value = 1;
-        return true;
-    }
-    double number = 0;
-    const char* refusal = nullptr;
-    if (!ParseReal(text, number))
-        refusal = "Please enter a valid decimal number";
-    else if (number < 0)
-        refusal = "Please enter a positive decimal number";
-    if (!refusal) {
-        value = number;
-        return true;
-    }
-    if (!quiet) platform_.messages.ShowMessage(kInvalidEntry, refusal);
-    return false;
-}
-
-// False when the chain refuses the value; the record is then to be set back.
-bool RecipeDocument::RunFieldChain(TextBox& box) {
-    if (&box == &record_.txtBoilVol) calculator_.BoilVolCommitted();
-    if (&box == &record_.txtTotalVol) calculator_.TotalVolCommitted();
-    if (&box == &record_.txtFinalVol) calculator_.FinalVolCommitted();
-    if (&box == &record_.txtExtract) calculator_.ExtractCommitted();
-    if (&box == &record_.txtHopExtraction) calculator_.HopExtractionCommitted();
-    if (&box == &record_.txtFG) calculator_.FGCommitted();
-    if (&box != &record_.txtTemp) return true;
-    bool ok = true;
-    calculator_.TempCommitted(ok);
-    return ok;
+Commit RecipeDocument::RunFieldChain(const TextBox& box) {
+    const auto chain = RuleOf(box).chain;
+    return chain ? chain(calculator_) : Commit::Accepted();
 }
 
 }  // namespace tw

@@ -1,4 +1,5 @@
 // The way from a style or a cell to its catalogue and back.
+#include "calc/GridRules.h"
 #include "document/PitchedYeast.h"
 #include "document/RecipeDocument.h"
 #include "values/Text.h"
@@ -6,20 +7,27 @@
 namespace tw {
 
 std::optional<PickList> RecipeDocument::PickListOf(const Grid& grid, int row, int col) const {
-    const RecipeRecord& r = record_;
     if (!CanEdit(grid, row, col)) return std::nullopt;
-    if (&grid == &r.gridWater && col == WaterCol::Profile) return PickList::Water;
     // Other notes than those of a pitched yeast are nobody's name.
-    if (&grid == &r.gridLog && col == LogCol::Notes &&
+    if (grid.Id() == GridId::Log && col == LogCol::Notes &&
         SameName(grid.Text(row, LogCol::Action), "PITCHED YEAST"))
         return PickList::Yeast;
-    if (col != 0) return std::nullopt;
-    if (&grid == &r.gridGrain) return PickList::Grain;
-    if (&grid == &r.gridExtract) return PickList::Extract;
-    if (&grid == &r.gridHops) return PickList::Hop;
-    if (&grid == &r.gridTreatment) return PickList::Treatment;
-    if (&grid == &r.gridPriming) return PickList::Sugar;
-    return std::nullopt;
+    switch (RuleOf(grid, col).names) {
+        case CellNames::Grains:
+            return PickList::Grain;
+        case CellNames::Extracts:
+            return PickList::Extract;
+        case CellNames::Hops:
+            return PickList::Hop;
+        case CellNames::Sugars:
+            return PickList::Sugar;
+        case CellNames::Salts:
+            return PickList::Treatment;
+        case CellNames::Waters:
+            return PickList::Water;
+        default:
+            return std::nullopt;
+    }
 }
 
 void RecipeDocument::BrowseStyles() {

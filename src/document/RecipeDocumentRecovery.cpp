@@ -89,7 +89,7 @@ void RecipeDocument::Restore(const RecipeSnapshot& s) {
     RestorePlace(s);
     // An entry that is still uncommitted would stand in its box without counting.
     for (TextBox* box : record_.TextBoxes())
-        if (!Quietly([&] { return CommitField(*box, true); })) box->SetText(box->Committed());
+        if (!Quietly([&] { return CommitField(*box, Asking::Quietly); })) box->SetText(box->Committed());
     recorder_.Clear();
     MarkChanged();
     if (IsActive()) Activate();

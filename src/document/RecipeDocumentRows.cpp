@@ -1,6 +1,7 @@
 // Rows of the grids: inserting, deleting, and the commands that offer it.
 #include <algorithm>
 
+#include "calc/GridRules.h"
 #include "document/RecipeDocument.h"
 
 namespace tw {
@@ -29,7 +30,7 @@ Grid* RecipeDocument::GridOfTab(Tab tab) {
 }
 
 bool RecipeDocument::CanInsertRow(const Grid& grid) const {
-    return grid.RowsCanChange() && (&grid != &record_.gridPriming || record_.Bottled());
+    return grid.RowsCanChange() && (grid.Id() != GridId::Priming || record_.Bottled());
 }
 
 bool RecipeDocument::CanDeleteRow(const Grid& grid) const {
@@ -67,7 +68,7 @@ void RecipeDocument::DeleteRow() {
 // A row with the defaults of a new one: a hop row has the settings' form and sock, every other cell is empty.
 void RecipeDocument::AddBlankRow(Grid& grid, int row) {
     grid.InsertRow(row);
-    if (&grid != &record_.gridHops) return;
+    if (grid.Id() != GridId::Hops) return;
     const RecipeDefaults defaults = host_.Defaults();
     const auto last = static_cast<int>(kHopForms.size()) - 1;
     const int form = std::clamp(defaults.hopForm, 0, last);
@@ -102,37 +103,20 @@ void RecipeDocument::DeleteRowForGrid(Grid& grid) {
 
 void RecipeDocument::RemoveRow(Grid& grid, int row) {
     grid.RemoveRow(row);
-    RecalculateAfterDelete(grid);
+    if (const auto removed = RuleOf(grid).removed) removed(calculator_, grid);
     MarkChanged();
     RefreshRowCommands();
 }
 
 // Empties each cell with a record of its own, so that an undo brings the whole row back.
 void RecipeDocument::ClearRowCells(Grid& grid, int row) {
-    if (&grid == &record_.gridTreatment) ClearFactors(row);
+    if (grid.Id() == GridId::Treatment) ClearFactors(row);
     for (int col = 0; col < grid.Cols(); ++col) {
         if (!CanEdit(grid, row, col)) continue;
         if (grid.IsCheckBox(row, col))
             SetChecked(grid, row, col, false);
         else
-            EditCell(grid, row, col, "", true);
-    }
-}
-
-void RecipeDocument::RecalculateAfterDelete(Grid& grid) {
-    if (&grid == &record_.gridGrain || &grid == &record_.gridExtract) {
-        calculator_.TotalPoints(grid);
-        calculator_.TotalHCU(grid);
-        calculator_.ShowGridTotal(grid);
-        calculator_.CalcOGAndColor();
-    } else if (&grid == &record_.gridHops) {
-        calculator_.TotalIBU(grid);
-        calculator_.ShowGridTotal(grid);
-        calculator_.ShowIBU();
-    } else if (&grid == &record_.gridTreatment) {
-        calculator_.RecalcTreatment();
-    } else if (&grid == &record_.gridPriming) {
-        calculator_.TotalPrimingVolumes();
+            EditCell(grid, row, col, "", Asking::Quietly);
     }
 }
 

@@ -2,18 +2,13 @@
 #include <algorithm>
 #include <numeric>
 
+#include "calc/GridRules.h"
 #include "document/RecipeDocument.h"
 #include "values/NumberText.h"
 #include "values/Text.h"
 
 namespace tw {
 namespace {
-
-// A column whose cells hold numbers is sorted by number, a column of check boxes by state, any other by text.
-bool SortsByNumber(const RecipeRecord& r, const Grid& grid, int col) {
-    if (&grid == &r.gridAdjuncts || &grid == &r.gridLog) return false;
-    return col > 0 && !(&grid == &r.gridHops && col == HopCol::Form);
-}
 
 double SortNumber(const Grid& grid, int row, int col) {
     if (grid.IsCheckBox(row, col)) return grid.Checked(row, col) ? 1 : 0;
@@ -27,7 +22,7 @@ double SortNumber(const Grid& grid, int row, int col) {
 
 // The order of the data rows by the column; a blank comes first, equal rows keep their order.
 std::vector<int> RecipeDocument::SortedOrder(const Grid& grid, int col) const {
-    const bool byNumber = SortsByNumber(record_, grid, col);
+    const bool byNumber = RuleOf(grid, col).SortsByNumber();
     const auto before = [&](int a, int b) {
         const int rowA = Grid::FixedRows() + a;
         const int rowB = Grid::FixedRows() + b;

@@ -94,7 +94,7 @@ void RecipeDocument::ChooseStyle(std::int64_t id) {
                          {ControlType::ComboBox, ChangeType::Selection});
     Grid& water = record_.gridWater;
     if (profile)
-        EditCell(water, WaterRow::Target, WaterCol::Profile, Trim(*profile), true);
+        EditCell(water, WaterRow::Target, WaterCol::Profile, Trim(*profile), Asking::Quietly);
     else
         ChangeRow(water, WaterRow::Target, WaterCol::Profile, [&] {
             for (int col = WaterCol::Profile; col < water.Cols(); ++col) water.Clear(WaterRow::Target, col);

@@ -75,9 +75,9 @@ void RecipeDocument::CalcTreatment() {
         for (std::size_t i = 0; i < wanted.size(); ++i) InsertRowForGrid(grid);
         int row = Grid::FixedRows();
         for (SaltDose& dose : wanted) {
-            EditCell(grid, row, TreatmentCol::Name, dose.name, true);
+            EditCell(grid, row, TreatmentCol::Name, dose.name, Asking::Quietly);
             EditCell(grid, row, TreatmentCol::Amount, FormatQuantity(dose.grams, kGramDecimals) + " grams",
-                     true);
+                     Asking::Quietly);
             ++row;
         }
     });

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "calc/FieldRules.h"
 #include "document/RecipeDocument.h"
 #include "values/Text.h"
 
@@ -40,30 +41,31 @@ void RecipeDocument::RecordText(TextBox& box, std::string_view newText, ChangeTy
 // What a box holds with its text committed. A number that the text does not tell goes along: the gravity that
 // a yeast gives, or that of a recipe stored elsewhere.
 EditValue RecipeDocument::ValueOf(const TextBox& box, std::string_view text, double number) {
-    return ReadField(box, text, number) == number ? EditValue::OfText(text)
-                                                  : EditValue::OfTextAndNumber(text, CellValue::Of(number));
+    return NumberTold(box, text, number) == number ? EditValue::OfText(text)
+                                                   : EditValue::OfTextAndNumber(text, CellValue::Of(number));
 }
 
 // The number that a box's text tells; the other one for a text that tells none.
-double RecipeDocument::ReadField(const TextBox& box, std::string_view text, double otherwise) {
-    double told = otherwise;
-    if (!IsFreeText(box)) Quietly([&] { return ValidateField(box, text, true, told); });
-    return told;
+double RecipeDocument::NumberTold(const TextBox& box, std::string_view text, double otherwise) {
+    if (RuleOf(box).takes == FieldTakes::FreeText) return otherwise;
+    try {
+        return ReadField(box, text).ValueOr(otherwise);
+    } catch (const Error&) {
+        return otherwise;
+    }
 }
 
 // What a cell holds. A number that its text does not tell goes along: that of a recipe stored elsewhere, or
 // of a time typed before its hops were dry.
 EditValue RecipeDocument::ValueOf(const Grid& grid, int row, int col, const Cell& cell) {
     if (cell.check != CheckState::None) return EditValue::OfBoolean(cell.check == CheckState::Checked);
-    const bool tells = ReadCell(grid, row, col, cell.text) == cell.value;
+    const bool tells = NumberTold(grid, row, col, cell.text) == cell.value;
     return tells ? EditValue::OfText(cell.text) : EditValue::OfTextAndNumber(cell.text, cell.value);
 }
 
 // The number that a cell's text tells; nothing for a text that is not valid there.
-CellValue RecipeDocument::ReadCell(const Grid& grid, int row, int col, std::string_view text) {
-    CellValue value;
-    Quietly([&] { return ValidateCell(grid, row, col, text, true, value); });
-    return value;
+CellValue RecipeDocument::NumberTold(const Grid& grid, int row, int col, std::string_view text) const {
+    return ReadQuietly(grid, row, col, text).value_or(CellValue{});
 }
 
 // The cell in which the change began is the head; every other cell that changed with it hangs behind.
@@ -80,7 +82,7 @@ void RecipeDocument::RecordRowChange(Grid& grid, int row, int col, const std::ve
         if (c == col) continue;
         if (!grid.ColumnAt(c).readOnly) record(c);
         // The salt's factors stand behind its ion cells, whose texts are computed.
-        else if (&grid == &record_.gridTreatment)
+        else if (grid.Id() == GridId::Treatment)
             recorder_.RecordGridCell(grid, row, c, NumberOf(old(c)), NumberOf(grid.At(row, c)));
     }
     if (!gravityChange_) return;
@@ -206,15 +208,15 @@ void RecipeDocument::ApplyToTextBox(TextBox& box, const EditTracker& edit, bool 
     const CellValue* const own = value.OwnNumber();
     if (own || committed) {
         // There is nothing to commit, but another number may have stood behind the same text.
-        const double number = own ? own->number : ReadField(box, box.Text(), box.Value());
+        const double number = own ? own->number : NumberTold(box, box.Text(), box.Value());
         const bool differs = !committed || number != box.Value();
         box.SetCommitted(box.Text());
         box.SetValue(number);
         if (differs) {
             MarkChanged();
-            Quietly([&] { return RunFieldChain(box); });
+            Quietly([&] { return static_cast<bool>(RunFieldChain(box)); });
         }
-    } else if (!Quietly([&] { return CommitField(box, true); })) {
+    } else if (!Quietly([&] { return CommitField(box, Asking::Quietly); })) {
         // A text that was refused when it was typed comes back as it was: shown, not committed.
         SetText(box, value.AsText());
     }
@@ -251,13 +253,13 @@ void RecipeDocument::ApplyToCell(Grid& grid, int row, int col, const EditValue& 
     const Cell before = grid.At(row, col);
     if (grid.IsCheckBox(row, col)) {
         grid.SetChecked(row, col, value.AsBoolean());
-        if (&grid == &record_.gridHops && col == HopCol::DryHopped && !value.AsBoolean())
+        if (grid.Id() == GridId::Hops && col == HopCol::DryHopped && !value.AsBoolean())
             ReadTimeAgain(grid, row);
     } else if (!value.IsText()) {
         grid.SetValue(row, col, value.IsNumber() ? CellValue::Of(value.AsNumber()) : CellValue{});
     } else {
         const CellValue* const number = value.OwnNumber();
-        grid.SetValue(row, col, number ? *number : ReadCell(grid, row, col, value.AsText()));
+        grid.SetValue(row, col, number ? *number : NumberTold(grid, row, col, value.AsText()));
         grid.SetText(row, col, value.AsText());
     }
     if (grid.At(row, col) != before) MarkChanged();

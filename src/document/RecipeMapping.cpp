@@ -147,8 +147,7 @@ void RecipeDocument::FillBox(TextBox& box, const StoredQuantity& stored) {
     if (stored.data) box.SetValue(*stored.data);
     if (!box.Computed()) box.SetCommitted(box.Text());
     if (stored.data ? *stored.data != 0 : !stored.text) return;
-    double value = 0;
-    if (Quietly([&] { return ValidateField(box, box.Text(), true, value); })) box.SetValue(value);
+    box.SetValue(NumberTold(box, box.Text(), box.Value()));
 }
 
 void RecipeDocument::FillFields(const StoredRecipe& s) {
@@ -220,7 +219,7 @@ std::vector<std::string> RecipeDocument::FillGrids(const StoredRecipe& s) {
         FillFermentables(grid, lines);
         recalculate("Points and HCU of " + grid.ColumnAt(0).header, [&] {
             calculator_.ShowGridTotal(grid);
-            calculator_.RecalcPoints(grid, &grid == &r.gridGrain);
+            calculator_.RecalcPoints(grid, grid.Id() == GridId::Grain);
             calculator_.RecalcHCU(grid);
         });
     };
@@ -251,8 +250,7 @@ std::vector<std::string> RecipeDocument::FillGrids(const StoredRecipe& s) {
     }
     FinishGrid(r.gridPriming);
     recalculate("CO2 Amount", [&] {
-        bool ok = true;
-        calculator_.CalcCarbonation(ok);
+        calculator_.CalcCarbonation();
         calculator_.RecalcPriming();
     });
     FillTextGrids(s);
@@ -283,10 +281,9 @@ void RecipeDocument::FillHop(const StoredHop& hop) {
     FillCell(grid, row, HopCol::Time, hop.duration);
     FillCell(grid, row, HopCol::Amount, hop.amount);
     // The number column cannot tell AAUs and IBUs: their kind and number are taken from the text again.
-    CellValue value;
-    const auto read = [&] { return ValidateHopAmount(grid.Text(row, HopCol::Amount), true, value); };
-    if (grid.Empty(row, HopCol::Amount) || !Quietly(read)) return;
-    if (value.kind != CellValue::Kind::Number) grid.SetValue(row, HopCol::Amount, value);
+    if (grid.Empty(row, HopCol::Amount)) return;
+    const auto value = ReadQuietly(grid, row, HopCol::Amount, grid.Text(row, HopCol::Amount));
+    if (value && value->kind != CellValue::Kind::Number) grid.SetValue(row, HopCol::Amount, *value);
 }
 
 void RecipeDocument::FillTextGrids(const StoredRecipe& s) {
@@ -326,9 +323,8 @@ void RecipeDocument::FillCell(Grid& grid, int row, int col, const StoredQuantity
     if (stored.data) grid.SetValue(row, col, CellValue::Of(*stored.data));
     if (grid.Empty(row, col) || stored.data.value_or(0) != 0) return;
     // As in a box: what is missing is read from the text.
-    CellValue value;
-    const bool told = Quietly([&] { return ValidateCell(grid, row, col, grid.Text(row, col), true, value); });
-    if (told && (!stored.data || value.number != 0)) grid.SetValue(row, col, value);
+    const std::optional<CellValue> value = ReadQuietly(grid, row, col, grid.Text(row, col));
+    if (value && (!stored.data || value->number != 0)) grid.SetValue(row, col, *value);
 }
 
 void RecipeDocument::FinishGrid(Grid& grid) {
@@ -342,6 +338,17 @@ bool RecipeDocument::Recalculate(const std::function<void()>& operation) {
         operation();
         return true;
     });
+}
+
+std::optional<CellValue> RecipeDocument::ReadQuietly(const Grid& grid, int row, int col,
+                                                     std::string_view text) const {
+    try {
+        const Reading<CellValue> read = ReadCell(grid, row, col, text);
+        if (read) return *read;
+    } catch (const Error&) {
+        // An arithmetic fault tells no number, as a text that is refused.
+    }
+    return std::nullopt;
 }
 
 bool RecipeDocument::Quietly(const std::function<bool()>& reading) {

@@ -31,6 +31,13 @@ std::string YesNo(bool yes) {
     return yes ? "yes" : "no";
 }
 
+// The number that was understood, if any; kind is its word in the messages.
+Reading<double> NotNegative(std::optional<double> number, const std::string& kind) {
+    if (!number) return Refusal{kInvalidEntry, "Please enter a valid " + kind + " value"};
+    if (*number < 0) return Refusal{kInvalidEntry, "Please enter a positive " + kind + " value"};
+    return *number;
+}
+
 }  // namespace
 
 ScalingModel::ScalingModel(Scaling what, std::string current, MessagePort& messages)
@@ -81,53 +88,45 @@ bool ScalingModel::LeaveBox() {
 }
 
 bool ScalingModel::Check() {
-    double value = 0;
-    bool accepted = false;
     try {
-        accepted = Accepts(value);
+        const Reading<double> value = Read();
+        if (value) {
+            value_ = *value;
+            goodText_ = entry_;
+            return true;
+        }
+        ShowRefusal(messages_, value.Why());
     } catch (const Error& error) {
         messages_.ShowMessage("Error", error.WithNumber());
     }
-    if (accepted) {
-        value_ = value;
-        goodText_ = entry_;
-    } else {
-        entry_ = goodText_;
-    }
-    return accepted;
+    entry_ = goodText_;
+    return false;
 }
 
-bool ScalingModel::Accepts(double& value) {
+Reading<double> ScalingModel::Read() const {
     switch (what_) {
         case Scaling::Size:
-            return ValidateVolume(entry_, value, &messages_) && AcceptsSize(value);
-        case Scaling::Strength:
-            return ValidateGravity(entry_, value, &messages_) &&
-                   (value >= 1 || Refuse("Gravity cannot be less than 1.0 (0 deg. Plato)"));
-        case Scaling::Bitterness: {
-            const bool understood = ParseIBU(entry_, value);
-            return AcceptsNumber(understood, value, "IBU");
+            return ReadSize();
+        case Scaling::Strength: {
+            Reading<double> gravity = ValidateGravity(entry_);
+            if (gravity && *gravity < 1)
+                return Refusal{kInvalidEntry, "Gravity cannot be less than 1.0 (0 deg. Plato)"};
+            return gravity;
         }
+        case Scaling::Bitterness:
+            return NotNegative(ParseIBU(entry_), "IBU");
         case Scaling::Carbonation:
             break;
     }
-    const bool understood = ParseCO2Volumes(entry_, value);
-    return AcceptsNumber(understood, value, "carbonation");
+    return NotNegative(ParseCO2Volumes(entry_), "carbonation");
 }
 
-bool ScalingModel::AcceptsSize(double gallons) {
-    const std::string refusal = refusal_ && gallons > 0 ? refusal_(gallons) : std::string();
-    return refusal.empty() || Refuse(refusal);
-}
-
-bool ScalingModel::AcceptsNumber(bool understood, double value, std::string_view kind) {
-    if (!understood) return Refuse("Please enter a valid " + std::string(kind) + " value");
-    return value >= 0 || Refuse("Please enter a positive " + std::string(kind) + " value");
-}
-
-bool ScalingModel::Refuse(std::string_view message) {
-    messages_.ShowMessage(kInvalidEntry, message);
-    return false;
+Reading<double> ScalingModel::ReadSize() const {
+    Reading<double> gallons = ValidateVolume(entry_);
+    if (!gallons || *gallons <= 0 || !refusal_) return gallons;
+    if (std::string refusal = refusal_(*gallons); !refusal.empty())
+        return Refusal{kInvalidEntry, std::move(refusal)};
+    return gallons;
 }
 
 bool ScalingModel::Press(std::string_view button) {

@@ -11,6 +11,7 @@
 
 #include "platform/DialogModel.h"
 #include "platform/Ports.h"
+#include "values/Reading.h"
 
 namespace tw {
 
@@ -60,10 +61,8 @@ class ScalingModel final : public DialogModel {
   private:
     bool* CheckNamed(std::string_view name);
     bool Check();
-    bool Accepts(double& value);
-    bool AcceptsSize(double gallons);
-    bool AcceptsNumber(bool understood, double value, std::string_view kind);
-    bool Refuse(std::string_view message);
+    Reading<double> Read() const;
+    Reading<double> ReadSize() const;
     void Ok();
 
     Scaling what_;

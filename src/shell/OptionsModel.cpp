@@ -43,12 +43,11 @@ std::string_view GroupOf(std::string_view option) {
 }
 
 // Digits beyond every number are a whole number all the same; its value does not matter then.
-bool IsWhole(std::string_view text, double& value) {
+std::optional<double> ReadWhole(std::string_view text) {
     try {
-        return ParseWholeNumber(text, value);
+        return ParseWholeNumber(text);
     } catch (const Error&) {
-        value = HUGE_VAL;
-        return true;
+        return HUGE_VAL;
     }
 }
 
@@ -170,9 +169,8 @@ bool OptionsModel::SaveIncEnabled() const {
 }
 
 bool OptionsModel::UpDownEnabled() const {
-    double value = 0;
     const std::string& text = Text("txtSaveInc");
-    return SaveIncEnabled() && (IsWhole(text, value) || ParseReal(text, value));
+    return SaveIncEnabled() && (ReadWhole(text) || ParseReal(text));
 }
 
 void OptionsModel::EnterField(std::string_view name) {
@@ -200,23 +198,25 @@ bool OptionsModel::LeaveField() {
 }
 
 bool OptionsModel::AcceptsText(const Control& field) {
-    double ignored = 0;
     if (field.name == "txtHopExtraction") return AcceptsHopExtraction(field.text);
     if (field.name == "txtSaveInc") return AcceptsSaveInc(field.text);
-    if (field.name == "txtExtract") return ValidatePercent(field.text, ignored, &messages_);
-    return ValidateVolume(field.text, ignored, &messages_);
+    const Reading<double> read =
+        field.name == "txtExtract" ? ValidatePercent(field.text) : ValidateVolume(field.text);
+    if (!read) ShowRefusal(messages_, read.Why());
+    return read.Accepted();
 }
 
 bool OptionsModel::AcceptsHopExtraction(std::string_view text) {
-    double value = 0;
-    if (!IsBlank(text) && !ParseReal(text, value)) return Refuse("Please enter a valid decimal number");
-    return value >= 0 || Refuse("Please enter a positive decimal number");
+    if (IsBlank(text)) return true;
+    const std::optional<double> number = ParseReal(text);
+    if (!number) return Refuse("Please enter a valid decimal number");
+    return *number >= 0 || Refuse("Please enter a positive decimal number");
 }
 
 bool OptionsModel::AcceptsSaveInc(std::string_view text) {
-    double value = 0;
-    if (!IsWhole(text, value)) return Refuse("Please enter a valid integer");
-    return (value >= kLeastMinutes && value <= kMostMinutes) ||
+    const std::optional<double> minutes = ReadWhole(text);
+    if (!minutes) return Refuse("Please enter a valid integer");
+    return (*minutes >= kLeastMinutes && *minutes <= kMostMinutes) ||
            Refuse("Please enter an integer between 1 and 60");
 }
 
@@ -228,8 +228,8 @@ bool OptionsModel::Refuse(std::string_view text) {
 void OptionsModel::StepSaveInc(int by) {
     if (!UpDownEnabled()) return;
     Control& field = Find("txtSaveInc");
-    double value = 0;
-    if (!IsWhole(field.text, value)) ParseReal(field.text, value);
+    const std::optional<double> whole = ReadWhole(field.text);
+    double value = whole ? *whole : ParseReal(field.text).value_or(0);
     if (by > 0 ? value >= kMostMinutes : value <= kLeastMinutes) {
         messages_.Beep();
         return;
@@ -353,8 +353,8 @@ void OptionsModel::ApplySettings() {
     s.copyHeaders = Checked("chkCopyHeaders");
     s.pasteMismatchSize = Checked("chkPasteBlockSize");
     shell_.SetDoAutoSave(Checked("chkAutoSave"));
-    double minutes = 0;
-    if (IsWhole(Text("txtSaveInc"), minutes)) s.doAutoSaveEvery = static_cast<int>(minutes);
+    if (const std::optional<double> minutes = ReadWhole(Text("txtSaveInc")))
+        s.doAutoSaveEvery = static_cast<int>(*minutes);
     s.askBeforeNonUndoableChange = Checked("chkAskNonUndoableChange");
     s.quickPrintFromToolbar = Checked("chkQuickPrint");
 }

@@ -16,16 +16,15 @@ std::string BoxName(int box) {
 }
 
 // A number with an optional fraction; what stands behind is not looked at.
-bool ReadQuantity(std::string_view text, double& value) {
+std::optional<double> ReadQuantity(std::string_view text) {
     std::string_view rest = Trim(text);
     const std::string_view token = GetToken(rest);
-    return ParseMixedNumber(token, rest, value);
+    return ParseMixedNumber(token, rest);
 }
 
 bool IsNumber(std::string_view text) {
-    double ignored = 0;
     try {
-        return ReadQuantity(text, ignored);
+        return ReadQuantity(text).has_value();
     } catch (const Error&) {
         return true;
     }
@@ -50,11 +49,10 @@ bool ConvertUnitsModel::ConvertFromBox(int box) {
     const FlagGuard guard(converting_);
     const std::string& text = Text(box);
     try {
-        double value = 0;
         if (IsBlank(text)) {
             EmptyOthers(box);
-        } else if (ReadQuantity(text, value)) {
-            FillOthers(box, value);
+        } else if (const std::optional<double> value = ReadQuantity(text)) {
+            FillOthers(box, *value);
         } else {
             messages_.ShowMessage("Error", "Invalid numeric value!");
             return false;

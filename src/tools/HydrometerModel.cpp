@@ -39,31 +39,30 @@ bool HydrometerModel::TypeInto(std::string_view name, std::string_view text) {
     return true;
 }
 
-bool HydrometerModel::Take(std::string_view name, Validator validator, double& value, std::string& refused) {
+std::optional<double> HydrometerModel::Take(std::string_view name, Validator validator,
+                                            std::string& refused) {
     const std::string& text = Text(name);
-    bool accepted = false;
     try {
-        accepted = validator(text, value, &messages_);
+        const Reading<double> value = validator(text);
+        if (value) return IsBlank(text) ? std::nullopt : std::optional(*value);
+        ShowRefusal(messages_, value.Why());
     } catch (const Error& error) {
         messages_.ShowMessage("Error", error.WithNumber());
     }
-    if (!accepted) refused = name;
-    return accepted && !IsBlank(text);
+    refused = name;
+    return std::nullopt;
 }
 
 std::string HydrometerModel::UpdateCorrection() {
     std::string refused;
     if (updating_) return refused;
     const FlagGuard guard(updating_);
-    double sample = 0;
-    double reading = 0;
-    double calibration = 0;
-    if (!Take("txtActTemp", ValidateTemperature, sample, refused) ||
-        !Take("txtActRead", ValidateGravity, reading, refused) ||
-        !Take("cmbCalTemp", ValidateTemperature, calibration, refused))
-        return refused;
+    const auto sample = Take("txtActTemp", ValidateTemperature, refused);
+    const auto reading = sample ? Take("txtActRead", ValidateGravity, refused) : std::nullopt;
+    const auto calibration = reading ? Take("cmbCalTemp", ValidateTemperature, refused) : std::nullopt;
+    if (!calibration) return refused;
     try {
-        const double corrected = Finite(reading * WaterDensity(sample) / WaterDensity(calibration));
+        const double corrected = Finite(*reading * WaterDensity(*sample) / WaterDensity(*calibration));
         controls_.back().text = FormatNumber(corrected, "0.##0") + " (" +
                                 FormatNumber(Finite(SGToPlato(corrected)), "0.##0") + "° Plato)";
     } catch (const Error& error) {

@@ -8,6 +8,7 @@
 
 #include "platform/DialogModel.h"
 #include "platform/Ports.h"
+#include "values/ParserValidater.h"
 
 namespace tw {
 
@@ -45,9 +46,8 @@ class HydrometerModel final : public DialogModel {
     bool IsOpen() const override { return open_; }
 
   private:
-    using Validator = bool (*)(std::string_view, double&, MessagePort*);
-    // False when the correction stops here: the text is blank, or refused and then put into refused.
-    bool Take(std::string_view name, Validator validator, double& value, std::string& refused);
+    // Nothing when the correction stops here: the text is blank, or refused and then named in refused.
+    std::optional<double> Take(std::string_view name, Validator validator, std::string& refused);
 
     MessagePort& messages_;
     // Each under its control's name, in the order of the form.

@@ -28,22 +28,15 @@ std::size_t WordLength(std::string_view text) {
     return n;
 }
 
-bool ReadWhole(std::string_view text, double& value) {
-    double read = 0;
-    if (ReadNumeric(text, read) != Numeric::Whole) return false;
-    value = read;
-    return true;
-}
-
 // The fraction that may follow a whole number: adds it to value and cuts it off rest.
 void TakeFraction(std::string_view& rest, double& value) {
     if (rest.find('/') == std::string_view::npos) return;
     std::string_view behind = rest;
     const std::string_view token = GetToken(behind);
-    double fraction = 0;
-    if (!ParseFraction(token, fraction)) return;
+    const std::optional<double> fraction = ParseFraction(token);
+    if (!fraction) return;
     // Added to a negative whole number too, so that "-2 1/2" is -1.5; that is intended.
-    value = Finite(value + fraction);
+    value = Finite(value + *fraction);
     rest = behind;
 }
 
@@ -68,38 +61,40 @@ std::string_view GetToken(std::string_view& text) {
     return token;
 }
 
-bool ParseReal(std::string_view text, double& value) {
-    return ReadNumeric(text, value) != Numeric::No;
+std::optional<double> ParseReal(std::string_view text) {
+    double value = 0;
+    if (ReadNumeric(text, value) == Numeric::No) return std::nullopt;
+    return value;
 }
 
-bool ParseWholeNumber(std::string_view text, double& value) {
-    return ReadWhole(text, value);
+std::optional<double> ParseWholeNumber(std::string_view text) {
+    double value = 0;
+    if (ReadNumeric(text, value) != Numeric::Whole) return std::nullopt;
+    return value;
 }
 
-bool ParseFraction(std::string_view text, double& value) {
+std::optional<double> ParseFraction(std::string_view text) {
     const std::size_t slash = text.find('/');
-    if (slash == std::string_view::npos) return false;
-    double numerator = 0;
-    double denominator = 0;
-    if (!ReadWhole(text.substr(0, slash), numerator) || !ReadWhole(text.substr(slash + 1), denominator))
-        return false;
-    value = Divide(numerator, denominator);
-    return true;
+    if (slash == std::string_view::npos) return std::nullopt;
+    const std::optional<double> numerator = ParseWholeNumber(text.substr(0, slash));
+    if (!numerator) return std::nullopt;
+    const std::optional<double> denominator = ParseWholeNumber(text.substr(slash + 1));
+    if (!denominator) return std::nullopt;
+    return Divide(*numerator, *denominator);
 }
 
-bool ParseMixedNumber(std::string_view token, std::string_view& rest, double& value) {
-    double read = 0;
-    switch (ReadNumeric(token, read)) {
+std::optional<double> ParseMixedNumber(std::string_view token, std::string_view& rest) {
+    double value = 0;
+    switch (ReadNumeric(token, value)) {
         case Numeric::No:
-            return ParseFraction(token, value);
+            return ParseFraction(token);
         case Numeric::Whole:
-            TakeFraction(rest, read);
+            TakeFraction(rest, value);
             break;
         case Numeric::Real:
             break;
     }
-    value = read;
-    return true;
+    return value;
 }
 
 }  // namespace tw

@@ -7,26 +7,24 @@
 namespace tw {
 namespace {
 
-bool ParseUnit(std::string_view text, NumberForm form, Unit unit, double& value) {
+std::optional<double> ParseUnit(std::string_view text, NumberForm form, Unit unit) {
     const UnitReader reader(text, form);
-    if (!reader.HasNumber() || !reader.Names(unit)) return false;
-    value = reader.Number();
-    return true;
+    if (!reader.HasNumber() || !reader.Names(unit)) return std::nullopt;
+    return reader.Number();
 }
 
-bool ParseMixedUnit(std::string_view text, Unit unit, double& value) {
-    return ParseUnit(text, NumberForm::Mixed, unit, value);
+std::optional<double> ParseMixedUnit(std::string_view text, Unit unit) {
+    return ParseUnit(text, NumberForm::Mixed, unit);
 }
 
-bool ParseRealUnit(std::string_view text, Unit unit, double& value) {
-    return ParseUnit(text, NumberForm::Real, unit, value);
+std::optional<double> ParseRealUnit(std::string_view text, Unit unit) {
+    return ParseUnit(text, NumberForm::Real, unit);
 }
 
-bool ParseDegreeUnit(std::string_view text, Unit unit, double& value) {
+std::optional<double> ParseDegreeUnit(std::string_view text, Unit unit) {
     const UnitReader reader(text, NumberForm::Mixed);
-    if (!reader.HasNumber() || !reader.NamesDegree(unit)) return false;
-    value = reader.Number();
-    return true;
+    if (!reader.HasNumber() || !reader.NamesDegree(unit)) return std::nullopt;
+    return reader.Number();
 }
 
 // A ":" part behind a time: if rest begins with a colon, adds the number behind it, divided by divisor, to
@@ -35,142 +33,138 @@ bool TakeColonPart(std::string_view& rest, double divisor, double& value) {
     if (rest.empty() || rest.front() != ':') return true;
     rest.remove_prefix(1);
     const std::string_view token = GetToken(rest);
-    double part = 0;
-    if (!ParseMixedNumber(token, rest, part)) return false;
-    value = Finite(value + part / divisor);
+    const std::optional<double> part = ParseMixedNumber(token, rest);
+    if (!part) return false;
+    value = Finite(value + *part / divisor);
     return true;
 }
 
 }  // namespace
 
-bool ParseSG(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::SG, value);
+std::optional<double> ParseSG(std::string_view text) {
+    return ParseMixedUnit(text, Unit::SG);
 }
-bool ParsePlato(std::string_view text, double& value) {
-    return ParseDegreeUnit(text, Unit::Plato, value);
-}
-
-bool ParseGallons(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Gallons, value);
-}
-bool ParseQuarts(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Quarts, value);
-}
-bool ParsePints(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Pints, value);
-}
-bool ParseCups(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Cups, value);
+std::optional<double> ParsePlato(std::string_view text) {
+    return ParseDegreeUnit(text, Unit::Plato);
 }
 
-bool ParseFluidOunces(std::string_view text, double& value) {
+std::optional<double> ParseGallons(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Gallons);
+}
+std::optional<double> ParseQuarts(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Quarts);
+}
+std::optional<double> ParsePints(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Pints);
+}
+std::optional<double> ParseCups(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Cups);
+}
+
+std::optional<double> ParseFluidOunces(std::string_view text) {
     const UnitReader reader(text, NumberForm::Mixed);
-    if (!reader.HasNumber() || !reader.NamesFluid(Unit::FluidOunces)) return false;
-    value = reader.Number();
-    return true;
+    if (!reader.HasNumber() || !reader.NamesFluid(Unit::FluidOunces)) return std::nullopt;
+    return reader.Number();
 }
 
-bool ParseTablespoons(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Tablespoons, value);
+std::optional<double> ParseTablespoons(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Tablespoons);
 }
-bool ParseTeaspoons(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Teaspoons, value);
+std::optional<double> ParseTeaspoons(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Teaspoons);
 }
-bool ParseLiters(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Liters, value);
+std::optional<double> ParseLiters(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Liters);
 }
-bool ParseMilliliters(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Milliliters, value);
+std::optional<double> ParseMilliliters(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Milliliters);
 }
 
 // "2 LB 3 OZ": behind a pound word, ounces may follow, with or without their word.
-bool ParsePounds(std::string_view text, double& value) {
+std::optional<double> ParsePounds(std::string_view text) {
     const UnitReader reader(text, NumberForm::Mixed);
-    if (!reader.HasNumber()) return false;
+    if (!reader.HasNumber()) return std::nullopt;
     double pounds = reader.Number();
     std::string_view rest = reader.Rest();
     if (!rest.empty()) {
         const std::string_view word = GetToken(rest);
-        if (word.empty() || !UnitsOf(word).Has(Unit::Pounds)) return false;
+        if (word.empty() || !UnitsOf(word).Has(Unit::Pounds)) return std::nullopt;
     }
     if (!rest.empty()) {
-        double ounces = 0;
-        if (!ParseOunces(rest, ounces)) return false;
-        pounds = Finite(pounds + ounces / kOuncesPerPound);
+        const std::optional<double> ounces = ParseOunces(rest);
+        if (!ounces) return std::nullopt;
+        pounds = Finite(pounds + *ounces / kOuncesPerPound);
     }
-    value = pounds;
-    return true;
+    return pounds;
 }
 
-bool ParseOunces(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Ounces, value);
+std::optional<double> ParseOunces(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Ounces);
 }
-bool ParseGrams(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Grams, value);
+std::optional<double> ParseGrams(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Grams);
 }
-bool ParseKilograms(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Kilograms, value);
-}
-
-bool ParsePercent(std::string_view text, double& value) {
-    return ParseRealUnit(text, Unit::Percent, value);
-}
-bool ParseAAU(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::AAU, value);
-}
-bool ParseIBU(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::IBU, value);
-}
-bool ParseCO2Volumes(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::CO2Volumes, value);
+std::optional<double> ParseKilograms(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Kilograms);
 }
 
-bool ParseMinutes(std::string_view text, double& value) {
+std::optional<double> ParsePercent(std::string_view text) {
+    return ParseRealUnit(text, Unit::Percent);
+}
+std::optional<double> ParseAAU(std::string_view text) {
+    return ParseMixedUnit(text, Unit::AAU);
+}
+std::optional<double> ParseIBU(std::string_view text) {
+    return ParseMixedUnit(text, Unit::IBU);
+}
+std::optional<double> ParseCO2Volumes(std::string_view text) {
+    return ParseMixedUnit(text, Unit::CO2Volumes);
+}
+
+std::optional<double> ParseMinutes(std::string_view text) {
     const UnitReader reader(text, NumberForm::Mixed);
-    if (!reader.HasNumber()) return false;
+    if (!reader.HasNumber()) return std::nullopt;
     double minutes = reader.Number();
     std::string_view rest = reader.Rest();
-    if (!TakeColonPart(rest, 60, minutes) || !UnitsOf(rest).Has(Unit::Minutes)) return false;
-    value = minutes;
-    return true;
+    if (!TakeColonPart(rest, 60, minutes) || !UnitsOf(rest).Has(Unit::Minutes)) return std::nullopt;
+    return minutes;
 }
 
-bool ParseHours(std::string_view text, double& value) {
+std::optional<double> ParseHours(std::string_view text) {
     const UnitReader reader(text, NumberForm::Mixed);
-    if (!reader.HasNumber()) return false;
+    if (!reader.HasNumber()) return std::nullopt;
     double hours = reader.Number();
     std::string_view rest = reader.Rest();
-    if (!TakeColonPart(rest, 60, hours) || !TakeColonPart(rest, 3600, hours)) return false;
-    if (!UnitsOf(rest).Has(Unit::Hours)) return false;
-    value = hours;
-    return true;
+    if (!TakeColonPart(rest, 60, hours) || !TakeColonPart(rest, 3600, hours)) return std::nullopt;
+    if (!UnitsOf(rest).Has(Unit::Hours)) return std::nullopt;
+    return hours;
 }
 
-bool ParseSeconds(std::string_view text, double& value) {
-    return ParseRealUnit(text, Unit::Seconds, value);
+std::optional<double> ParseSeconds(std::string_view text) {
+    return ParseRealUnit(text, Unit::Seconds);
 }
 
-bool ParseFahrenheit(std::string_view text, double& value) {
-    return ParseDegreeUnit(text, Unit::Fahrenheit, value);
+std::optional<double> ParseFahrenheit(std::string_view text) {
+    return ParseDegreeUnit(text, Unit::Fahrenheit);
 }
-bool ParseCelsius(std::string_view text, double& value) {
-    return ParseDegreeUnit(text, Unit::Celsius, value);
+std::optional<double> ParseCelsius(std::string_view text) {
+    return ParseDegreeUnit(text, Unit::Celsius);
 }
-bool ParseKelvin(std::string_view text, double& value) {
-    return ParseMixedUnit(text, Unit::Kelvin, value);
+std::optional<double> ParseKelvin(std::string_view text) {
+    return ParseMixedUnit(text, Unit::Kelvin);
 }
 
-bool ParsePSI(std::string_view text, double& value) {
-    return ParseRealUnit(text, Unit::PSI, value);
+std::optional<double> ParsePSI(std::string_view text) {
+    return ParseRealUnit(text, Unit::PSI);
 }
-bool ParseKPa(std::string_view text, double& value) {
-    return ParseRealUnit(text, Unit::KPa, value);
+std::optional<double> ParseKPa(std::string_view text) {
+    return ParseRealUnit(text, Unit::KPa);
 }
-bool ParsePa(std::string_view text, double& value) {
-    return ParseRealUnit(text, Unit::Pa, value);
+std::optional<double> ParsePa(std::string_view text) {
+    return ParseRealUnit(text, Unit::Pa);
 }
-bool ParseAtm(std::string_view text, double& value) {
-    return ParseRealUnit(text, Unit::Atm, value);
+std::optional<double> ParseAtm(std::string_view text) {
+    return ParseRealUnit(text, Unit::Atm);
 }
 
 }  // namespace tw

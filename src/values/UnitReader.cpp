@@ -24,9 +24,8 @@ UpperText::UpperText(std::string_view text) {
 
 UnitReader::UnitReader(std::string_view text, NumberForm form) : upper_(text), rest_(upper_.View()) {
     const std::string_view token = GetToken(rest_);
-    hasNumber_ =
-        form == NumberForm::Mixed ? ParseMixedNumber(token, rest_, number_) : ParseReal(token, number_);
-    if (hasNumber_) units_ = UnitsOf(rest_);
+    number_ = form == NumberForm::Mixed ? ParseMixedNumber(token, rest_) : ParseReal(token);
+    if (number_) units_ = UnitsOf(rest_);
 }
 
 bool UnitReader::NamesBehind(bool (*isOptional)(std::string_view), Unit unit) const {

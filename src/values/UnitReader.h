@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -39,8 +40,9 @@ class UnitReader {
     UnitReader(std::string_view text, NumberForm form);
 
     // False when there is no number of the form at the head; the other functions mean nothing then.
-    bool HasNumber() const { return hasNumber_; }
-    double Number() const { return number_; }
+    bool HasNumber() const { return number_.has_value(); }
+    // REQUIRES: HasNumber().
+    double Number() const { return *number_; }
     // What stands behind the number, in upper case, trimmed.
     std::string_view Rest() const { return rest_; }
 
@@ -54,8 +56,7 @@ class UnitReader {
   private:
     UpperText upper_;
     std::string_view rest_;
-    double number_ = 0;
-    bool hasNumber_ = false;
+    std::optional<double> number_;
     UnitSet units_;
 
     bool NamesBehind(bool (*isOptional)(std::string_view), Unit unit) const;

@@ -18,14 +18,12 @@ struct Conversion {
     double divide;
 };
 
-bool Convert(const UnitReader& reader, std::span<const Conversion> conversions, double& value) {
-    if (!reader.HasNumber()) return false;
-    for (const Conversion& conversion : conversions) {
-        if (!reader.Names(conversion.unit)) continue;
-        value = Finite(reader.Number() * conversion.multiply / conversion.divide);
-        return true;
-    }
-    return false;
+std::optional<double> Convert(const UnitReader& reader, std::span<const Conversion> conversions) {
+    if (!reader.HasNumber()) return std::nullopt;
+    for (const Conversion& conversion : conversions)
+        if (reader.Names(conversion.unit))
+            return Finite(reader.Number() * conversion.multiply / conversion.divide);
+    return std::nullopt;
 }
 
 constexpr Conversion kVolumes[] = {{Unit::Gallons, 1, 1},
@@ -38,82 +36,67 @@ constexpr Conversion kVolumes[] = {{Unit::Gallons, 1, 1},
                                    {Unit::Liters, 1, kLitersPerGallon},
                                    {Unit::Milliliters, 1, kMillilitersPerGallon}};
 
-bool ReadGallons(std::string_view text, double& value) {
+std::optional<double> ReadGallons(std::string_view text) {
     const UnitReader reader(text, NumberForm::Mixed);
-    if (Convert(reader, kVolumes, value)) return true;
+    if (const auto gallons = Convert(reader, kVolumes)) return gallons;
     // Fluid ounces with an "FL" before their word collide with no other volume's words, so they can come
     // last.
-    if (!reader.HasNumber() || !reader.NamesFluid(Unit::FluidOunces)) return false;
-    value = reader.Number() / kFluidOuncesPerGallon;
-    return true;
+    if (!reader.HasNumber() || !reader.NamesFluid(Unit::FluidOunces)) return std::nullopt;
+    return reader.Number() / kFluidOuncesPerGallon;
 }
 
-bool ReadGravity(std::string_view text, double& value) {
+std::optional<double> ReadGravity(std::string_view text) {
     const UnitReader reader(text, NumberForm::Mixed);
-    if (!reader.HasNumber()) return false;
-    if (reader.Names(Unit::SG)) {
-        value = reader.Number();
-        return true;
-    }
-    if (!reader.NamesDegree(Unit::Plato)) return false;
-    value = Finite(PlatoToSG(reader.Number()));
-    return true;
+    if (!reader.HasNumber()) return std::nullopt;
+    if (reader.Names(Unit::SG)) return reader.Number();
+    if (!reader.NamesDegree(Unit::Plato)) return std::nullopt;
+    return Finite(PlatoToSG(reader.Number()));
 }
 
 // Weights: pounds come first or last, since behind their word ounces may follow.
 constexpr double kGramsPerKilogram = 1000;
 
-bool ReadPounds(std::string_view text, double& value) {
-    if (ParsePounds(text, value)) return true;
+std::optional<double> ReadPounds(std::string_view text) {
+    if (const auto pounds = ParsePounds(text)) return pounds;
     static constexpr Conversion kOthers[] = {{Unit::Ounces, 1, kOuncesPerPound},
                                              {Unit::Kilograms, kGramsPerKilogram, kGramsPerPound},
                                              {Unit::Grams, 1, kGramsPerPound}};
-    return Convert(UnitReader(text, NumberForm::Mixed), kOthers, value);
+    return Convert(UnitReader(text, NumberForm::Mixed), kOthers);
 }
 
-bool ReadGrams(std::string_view text, double& value) {
+std::optional<double> ReadGrams(std::string_view text) {
     static constexpr Conversion kOthers[] = {
         {Unit::Grams, 1, 1}, {Unit::Kilograms, kGramsPerKilogram, 1}, {Unit::Ounces, kGramsPerOunce, 1}};
-    if (Convert(UnitReader(text, NumberForm::Mixed), kOthers, value)) return true;
-    double pounds = 0;
-    if (!ParsePounds(text, pounds)) return false;
-    value = Finite(pounds * kGramsPerPound);
-    return true;
+    if (const auto grams = Convert(UnitReader(text, NumberForm::Mixed), kOthers)) return grams;
+    const std::optional<double> pounds = ParsePounds(text);
+    if (!pounds) return std::nullopt;
+    return Finite(*pounds * kGramsPerPound);
 }
 
-bool ReadMinutes(std::string_view text, double& value) {
-    if (ParseMinutes(text, value)) return true;
-    double number = 0;
-    if (ParseHours(text, number)) {
-        value = Finite(number * 60);
-        return true;
-    }
-    if (!ParseSeconds(text, number)) return false;
-    value = number / 60;
-    return true;
+std::optional<double> ReadMinutes(std::string_view text) {
+    if (const auto minutes = ParseMinutes(text)) return minutes;
+    if (const auto hours = ParseHours(text)) return Finite(*hours * 60);
+    const std::optional<double> seconds = ParseSeconds(text);
+    if (!seconds) return std::nullopt;
+    return *seconds / 60;
 }
 
-bool ReadFahrenheit(std::string_view text, double& value) {
+std::optional<double> ReadFahrenheit(std::string_view text) {
     const UnitReader reader(text, NumberForm::Mixed);
-    if (!reader.HasNumber()) return false;
+    if (!reader.HasNumber()) return std::nullopt;
     const double number = reader.Number();
-    if (reader.NamesDegree(Unit::Fahrenheit))
-        value = number;
-    else if (reader.NamesDegree(Unit::Celsius))
-        value = Finite(number * 9 / 5 + 32);
-    else if (reader.Names(Unit::Kelvin))
-        value = Finite((number - kKelvinOffset) * 9 / 5 + 32);
-    else
-        return false;
-    return true;
+    if (reader.NamesDegree(Unit::Fahrenheit)) return number;
+    if (reader.NamesDegree(Unit::Celsius)) return Finite(number * 9 / 5 + 32);
+    if (reader.Names(Unit::Kelvin)) return Finite((number - kKelvinOffset) * 9 / 5 + 32);
+    return std::nullopt;
 }
 
-bool ReadPSI(std::string_view text, double& value) {
+std::optional<double> ReadPSI(std::string_view text) {
     static constexpr Conversion kPressures[] = {{Unit::PSI, 1, 1},
                                                 {Unit::KPa, 1, kKilopascalsPerPsi},
                                                 {Unit::Pa, 1, kPascalsPerPsi},
                                                 {Unit::Atm, kPsiPerAtmosphere, 1}};
-    return Convert(UnitReader(text, NumberForm::Real), kPressures, value);
+    return Convert(UnitReader(text, NumberForm::Real), kPressures);
 }
 
 // A zero volume or gravity is refused when typed, although an empty text gives zero and passes; a zero
@@ -139,20 +122,11 @@ struct Quantity {
     std::string_view outOfRange;
 };
 
-bool Validate(const Quantity& quantity, std::string_view text, double& value, MessagePort* messages) {
-    if (IsBlank(text)) {
-        value = 0;
-        return true;
-    }
-    double read = 0;
-    const bool understood = quantity.read(text, read);
-    if (understood && quantity.inRange(read)) {
-        value = read;
-        return true;
-    }
-    if (messages)
-        messages->ShowMessage(kInvalidEntry, understood ? quantity.outOfRange : quantity.notUnderstood);
-    return false;
+Reading<double> Validate(const Quantity& quantity, std::string_view text) {
+    if (IsBlank(text)) return 0.0;
+    const std::optional<double> read = quantity.read(text);
+    if (read && quantity.inRange(*read)) return *read;
+    return Refusal{kInvalidEntry, std::string(read ? quantity.outOfRange : quantity.notUnderstood)};
 }
 
 constexpr std::string_view kValidWeight = "Please enter a valid weight";
@@ -176,50 +150,43 @@ constexpr Quantity kPressure{ReadPSI, IsNotNegative, "Please enter a valid press
 
 }  // namespace
 
-bool ParseOuncesAnyUnit(std::string_view text, double& ounces) {
-    if (IsBlank(text)) {
-        ounces = 0;
-        return true;
-    }
+std::optional<double> ParseOuncesAnyUnit(std::string_view text) {
+    if (IsBlank(text)) return 0.0;
     const UnitReader reader(text, NumberForm::Mixed);
     static constexpr Conversion kPlainOunces[] = {{Unit::Ounces, 1, 1}};
-    if (Convert(reader, kPlainOunces, ounces)) return true;
-    double pounds = 0;
-    if (ParsePounds(text, pounds)) {
-        ounces = Finite(pounds * kOuncesPerPound);
-        return true;
-    }
+    if (const auto ounces = Convert(reader, kPlainOunces)) return ounces;
+    if (const auto pounds = ParsePounds(text)) return Finite(*pounds * kOuncesPerPound);
     static constexpr Conversion kOthers[] = {{Unit::Grams, 1, kGramsPerOunce},
                                              {Unit::Kilograms, kOuncesPerKilogram, 1}};
-    return Convert(reader, kOthers, ounces);
+    return Convert(reader, kOthers);
 }
 
-bool ValidateVolume(std::string_view text, double& gallons, MessagePort* messages) {
-    return Validate(kVolume, text, gallons, messages);
+Reading<double> ValidateVolume(std::string_view text) {
+    return Validate(kVolume, text);
 }
-bool ValidateGravity(std::string_view text, double& sg, MessagePort* messages) {
-    return Validate(kGravity, text, sg, messages);
+Reading<double> ValidateGravity(std::string_view text) {
+    return Validate(kGravity, text);
 }
-bool ValidatePercent(std::string_view text, double& percent, MessagePort* messages) {
-    return Validate(kPercent, text, percent, messages);
+Reading<double> ValidatePercent(std::string_view text) {
+    return Validate(kPercent, text);
 }
-bool ValidatePounds(std::string_view text, double& pounds, MessagePort* messages) {
-    return Validate(kPounds, text, pounds, messages);
+Reading<double> ValidatePounds(std::string_view text) {
+    return Validate(kPounds, text);
 }
-bool ValidateGrams(std::string_view text, double& grams, MessagePort* messages) {
-    return Validate(kGrams, text, grams, messages);
+Reading<double> ValidateGrams(std::string_view text) {
+    return Validate(kGrams, text);
 }
-bool ValidateOunces(std::string_view text, double& ounces, MessagePort* messages) {
-    return Validate(kOunces, text, ounces, messages);
+Reading<double> ValidateOunces(std::string_view text) {
+    return Validate(kOunces, text);
 }
-bool ValidateMinutes(std::string_view text, double& minutes, MessagePort* messages) {
-    return Validate(kTime, text, minutes, messages);
+Reading<double> ValidateMinutes(std::string_view text) {
+    return Validate(kTime, text);
 }
-bool ValidateTemperature(std::string_view text, double& fahrenheit, MessagePort* messages) {
-    return Validate(kTemperature, text, fahrenheit, messages);
+Reading<double> ValidateTemperature(std::string_view text) {
+    return Validate(kTemperature, text);
 }
-bool ValidatePressure(std::string_view text, double& psi, MessagePort* messages) {
-    return Validate(kPressure, text, psi, messages);
+Reading<double> ValidatePressure(std::string_view text) {
+    return Validate(kPressure, text);
 }
 
 }  // namespace tw

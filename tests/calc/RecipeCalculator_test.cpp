@@ -284,15 +284,13 @@ TEST_F(CalculatorTest, ResidualGasIsNeededForTheTotal) {
     EXPECT_EQ(r.txtCO2.Text(), "");
     EXPECT_FALSE(commands.carbonation);
     Fill(r.txtTemp, "68", 68);
-    bool ok = false;
-    calculator.TempCommitted(ok);
-    EXPECT_TRUE(ok);
+    EXPECT_TRUE(calculator.TempCommitted());
     EXPECT_NEAR(r.gridPriming.Number(2, PrimingCol::Volumes), 0.8614872, 1e-9);
     // 1.6256842 + 0.8614872 = 2.4871714
     EXPECT_EQ(r.txtCO2.Text(), "2.49 volumes");
     EXPECT_TRUE(commands.carbonation);
     Fill(r.txtTemp, "", 0);
-    calculator.TempCommitted(ok);
+    EXPECT_TRUE(calculator.TempCommitted());
     EXPECT_EQ(r.txtCO2.Text(), "");
     EXPECT_EQ(r.gridPriming.Text(2, PrimingCol::Volumes), "");
 }
@@ -322,8 +320,7 @@ TEST_F(CalculatorTest, KegVolumesNeedATemperature) {
     calculator.PressureCommitted();
     EXPECT_EQ(r.gridPressure.Text(1, PressureCol::Volumes), "");
     Fill(r.txtTemp, "38", 38);
-    bool ok = false;
-    calculator.TempCommitted(ok);
+    EXPECT_TRUE(calculator.TempCommitted());
     EXPECT_NEAR(r.gridPressure.Number(1, PressureCol::Volumes), 2.5, 1e-8);
     EXPECT_EQ(r.txtCO2.Text(), "2.50 volumes");
     r.gridPressure.SetText(1, PressureCol::Pressure, "");
@@ -335,18 +332,14 @@ TEST_F(CalculatorTest, KegVolumesNeedATemperature) {
 TEST_F(CalculatorTest, AnUnreachablePressureLeavesTheCells) {
     Put(r.gridPressure, 1, PressureCol::Pressure, 48);
     Fill(r.txtTemp, "0", 0);
-    bool ok = false;
-    calculator.CalcCarbonation(ok);
-    ASSERT_TRUE(ok);
+    ASSERT_TRUE(calculator.CalcCarbonation());
     // (4.24267 - sqrt(0.2925072)) / 0.1368452
     EXPECT_NEAR(r.gridPressure.Number(1, PressureCol::Volumes), 27.0512275, 1e-6);
     Put(r.gridPressure, 1, PressureCol::Pressure, 50);
     Fill(r.txtTemp, "0.0", 0);
-    calculator.CalcCarbonation(ok);
-    EXPECT_FALSE(ok);
+    EXPECT_FALSE(calculator.CalcCarbonation());
     EXPECT_NEAR(r.gridPressure.Number(1, PressureCol::Volumes), 27.0512275, 1e-6);
-    calculator.CalcKegVolumes(true, 48, ok);
-    EXPECT_TRUE(ok);
+    EXPECT_TRUE(calculator.HasKegVolumes(48));
     EXPECT_EQ(r.gridPressure.Number(1, PressureCol::Pressure), 50);
 }
 

@@ -178,63 +178,23 @@ TEST(HelpPages, TheIndexIsTheTemplateWithTheHomePage) {
 }
 
 bool IsHopAmount(std::string_view text) {
-    double value = 0;
-    return ParseOuncesAnyUnit(text, value) || ParseAAU(text, value) || ParseIBU(text, value);
+    return ParseOuncesAnyUnit(text) || ParseAAU(text) || ParseIBU(text);
 }
 
 // Every example of the table on units can be typed where the table says so.
 TEST(HelpPages, ShowUnitsThatAreAccepted) {
     const std::map<std::string, std::function<bool(std::string_view)>> accepts = {
-        {"Volume",
-         [](std::string_view t) {
-             double v = 0;
-             return ValidateVolume(t, v, nullptr);
-         }},
-        {"Gravity",
-         [](std::string_view t) {
-             double v = 0;
-             return ValidateGravity(t, v, nullptr);
-         }},
-        {"Percentage",
-         [](std::string_view t) {
-             double v = 0;
-             return ValidatePercent(t, v, nullptr);
-         }},
-        {"Malt, extract",
-         [](std::string_view t) {
-             double v = 0;
-             return ValidatePounds(t, v, nullptr);
-         }},
+        {"Volume", [](std::string_view t) { return ValidateVolume(t).Accepted(); }},
+        {"Gravity", [](std::string_view t) { return ValidateGravity(t).Accepted(); }},
+        {"Percentage", [](std::string_view t) { return ValidatePercent(t).Accepted(); }},
+        {"Malt, extract", [](std::string_view t) { return ValidatePounds(t).Accepted(); }},
         {"Hops", IsHopAmount},
-        {"Priming sugar",
-         [](std::string_view t) {
-             double v = 0;
-             return ValidateOunces(t, v, nullptr);
-         }},
-        {"Brewing salt",
-         [](std::string_view t) {
-             double v = 0;
-             return ValidateGrams(t, v, nullptr);
-         }},
-        {"Time",
-         [](std::string_view t) {
-             double v = 0;
-             return ValidateMinutes(t, v, nullptr);
-         }},
-        {"Temperature",
-         [](std::string_view t) {
-             double v = 0;
-             return ValidateTemperature(t, v, nullptr);
-         }},
-        {"Pressure",
-         [](std::string_view t) {
-             double v = 0;
-             return ValidatePressure(t, v, nullptr);
-         }},
-        {"Carbonation", [](std::string_view t) {
-             double v = 0;
-             return ParseCO2Volumes(t, v);
-         }}};
+        {"Priming sugar", [](std::string_view t) { return ValidateOunces(t).Accepted(); }},
+        {"Brewing salt", [](std::string_view t) { return ValidateGrams(t).Accepted(); }},
+        {"Time", [](std::string_view t) { return ValidateMinutes(t).Accepted(); }},
+        {"Temperature", [](std::string_view t) { return ValidateTemperature(t).Accepted(); }},
+        {"Pressure", [](std::string_view t) { return ValidatePressure(t).Accepted(); }},
+        {"Carbonation", [](std::string_view t) { return ParseCO2Volumes(t).has_value(); }}};
     const std::string page = TextOf(kPages / "units.html");
     Strings seen;
     for (const std::string& row : Matches(page, "<tr>(<td>[\\s\\S]*?)</tr>")) {

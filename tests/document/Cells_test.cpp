@@ -63,7 +63,7 @@ TEST_F(CellsTest, TellWhatIsWrongToTheLetter) {
     for (const Case& c : cases) {
         EXPECT_FALSE(Put(c.grid, 1, c.col, c.text)) << c.text;
         EXPECT_THAT(Boxes(), ElementsAre("[Invalid Entry] " + std::string(c.message))) << c.text;
-        EXPECT_FALSE(document->EditCell(c.grid, 1, c.col, c.text, true)) << c.text;
+        EXPECT_FALSE(document->EditCell(c.grid, 1, c.col, c.text, Asking::Quietly)) << c.text;
         EXPECT_THAT(Boxes(), IsEmpty());
         EXPECT_EQ(Shown(), before) << c.text;
     }

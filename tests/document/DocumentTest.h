@@ -47,9 +47,9 @@ class DocumentTest : public testing::Test {
     RecipeRecord& R() { return document->Record(); }
 
     // Types a text and leaves the box.
-    bool Set(TextBox& box, std::string_view text, bool quiet = false) {
+    bool Set(TextBox& box, std::string_view text, Asking asking = Asking::Aloud) {
         document->SetText(box, text);
-        return document->CommitField(box, quiet);
+        return document->CommitField(box, asking);
     }
     bool Put(Grid& grid, int row, int col, std::string_view text) {
         return document->EditCell(grid, row, col, text);

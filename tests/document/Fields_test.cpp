@@ -91,7 +91,7 @@ TEST_F(FieldsTest, TellsWhatIsWrongToTheLetter) {
         EXPECT_EQ(c.box.Committed(), "");
         document->RestoreField(c.box);
         EXPECT_EQ(c.box.Text(), "");
-        EXPECT_FALSE(Set(c.box, c.text, true));
+        EXPECT_FALSE(Set(c.box, c.text, Asking::Quietly));
         EXPECT_THAT(Boxes(), IsEmpty());
         document->RestoreField(c.box);
     }
@@ -242,7 +242,7 @@ TEST_F(FieldsTest, ATemperatureThatTheKegCannotHaveIsRefused) {
     EXPECT_EQ(R().txtTemp.Text(), "0");
     document->RestoreField(R().txtTemp);
     EXPECT_EQ(Shown(), before);
-    EXPECT_FALSE(Set(R().txtTemp, "0", true));
+    EXPECT_FALSE(Set(R().txtTemp, "0", Asking::Quietly));
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 

@@ -109,7 +109,8 @@ void ModelTest::EditField() {
     last_ = std::string(name) + " <- " + text;
     TextBox& box = *R().FindTextBox(name);
     const Outcome wanted = plain_.Commit(name, text);
-    const Outcome got = OutcomeOf([&] { return Set(box, text, Below(2) == 0); });
+    const Outcome got =
+        OutcomeOf([&] { return Set(box, text, Below(2) == 0 ? Asking::Quietly : Asking::Aloud); });
     ASSERT_EQ(got, wanted) << last_;
     if (got == Outcome::Refused) document->RestoreField(box);
 }
@@ -117,7 +118,9 @@ void ModelTest::EditField() {
 void ModelTest::EditText(Grid& grid, int row, int col, const std::string& text) {
     last_ = grid.Name() + " " + std::to_string(row) + "," + std::to_string(col) + " <- " + text;
     const Outcome wanted = plain_.Edit(grid.Name(), row - 1, col, text);
-    const Outcome got = OutcomeOf([&] { return document->EditCell(grid, row, col, text, Below(2) == 0); });
+    const Outcome got = OutcomeOf([&] {
+        return document->EditCell(grid, row, col, text, Below(2) == 0 ? Asking::Quietly : Asking::Aloud);
+    });
     ASSERT_EQ(got, wanted) << last_;
 }
 

@@ -91,17 +91,31 @@ PlainRecipe::Outcome PlainRecipe::Try(Change change) {
     return Outcome::Raised;
 }
 
+namespace {
+
+// Puts what was read into number; false, and number untouched, when nothing was.
+bool Take(const std::optional<double>& read, double& number) {
+    number = read.value_or(number);
+    return read.has_value();
+}
+bool Take(const Reading<double>& read, double& number) {
+    number = read.ValueOr(number);
+    return read.Accepted();
+}
+
+}  // namespace
+
 bool PlainRecipe::ReadBox(const std::string& box, const std::string& text, double& number) {
-    if (box == "txtExtract") return ValidatePercent(text, number, nullptr);
-    if (box == "txtFG") return ValidateGravity(text, number, nullptr);
-    if (box == "txtTemp") return ValidateTemperature(text, number, nullptr);
-    if (box != "txtHopExtraction") return ValidateVolume(text, number, nullptr);
+    if (box == "txtExtract") return Take(ValidatePercent(text), number);
+    if (box == "txtFG") return Take(ValidateGravity(text), number);
+    if (box == "txtTemp") return Take(ValidateTemperature(text), number);
+    if (box != "txtHopExtraction") return Take(ValidateVolume(text), number);
     if (text.empty()) {
         number = 1;
         return true;
     }
     double read = 0;
-    if (!ParseReal(text, read) || read < 0) return false;
+    if (!Take(ParseReal(text), read) || read < 0) return false;
     number = read;
     return true;
 }
@@ -173,13 +187,13 @@ bool PlainRecipe::ReadCell(const std::string& grid, int row, int col, const std:
     cell.number = 0;
     cell.kind = ' ';
     if (text.empty()) return true;
-    const auto number = [&] { return ParseReal(text, cell.number) && cell.number >= 0; };
+    const auto number = [&] { return Take(ParseReal(text), cell.number) && cell.number >= 0; };
     if (IsFermentable(grid)) {
-        if (col == 1) return ValidatePounds(text, cell.number, nullptr);
+        if (col == 1) return Take(ValidatePounds(text), cell.number);
         return col == 0 || number();
     }
     if (grid == "gridHops") {
-        if (col == 1) return ValidatePercent(text, cell.number, nullptr);
+        if (col == 1) return Take(ValidatePercent(text), cell.number);
         if (col == 2) {
             for (int form = 0; form < 3; ++form)
                 if (SameName(text, kFormNames[form])) {
@@ -190,20 +204,19 @@ bool PlainRecipe::ReadCell(const std::string& grid, int row, int col, const std:
             return false;
         }
         if (col == 4) {
-            if (ParseOuncesAnyUnit(text, cell.number)) return cell.number >= 0;
+            if (Take(ParseOuncesAnyUnit(text), cell.number)) return cell.number >= 0;
             cell.kind = 'A';
-            if (ParseAAU(text, cell.number)) return cell.number >= 0;
+            if (Take(ParseAAU(text), cell.number)) return cell.number >= 0;
             cell.kind = 'I';
-            return ParseIBU(text, cell.number) && cell.number >= 0;
+            return Take(ParseIBU(text), cell.number) && cell.number >= 0;
         }
         const bool dry = rows[grid][static_cast<std::size_t>(row)][5].checked;
-        return col != 6 || dry || ValidateMinutes(text, cell.number, nullptr);
+        return col != 6 || dry || Take(ValidateMinutes(text), cell.number);
     }
-    if (grid == "gridPriming" && col == 1) return ValidatePercent(text, cell.number, nullptr);
-    if (grid == "gridPriming" && col == 2) return ValidateOunces(text, cell.number, nullptr);
-    if (grid == "gridPressure")
-        return ValidatePressure(text, cell.number, nullptr) && KegVolumes(cell.number);
-    if (grid == "gridTreatment" && col == 1) return ValidateGrams(text, cell.number, nullptr);
+    if (grid == "gridPriming" && col == 1) return Take(ValidatePercent(text), cell.number);
+    if (grid == "gridPriming" && col == 2) return Take(ValidateOunces(text), cell.number);
+    if (grid == "gridPressure") return Take(ValidatePressure(text), cell.number) && KegVolumes(cell.number);
+    if (grid == "gridTreatment" && col == 1) return Take(ValidateGrams(text), cell.number);
     if (grid == "gridWater" && col > 1) return number();
     return true;
 }
@@ -302,7 +315,7 @@ PlainRecipe::Outcome PlainRecipe::Check(int hopRow, int col, bool checked) {
         PlainRow& row = rows["gridHops"][static_cast<std::size_t>(hopRow)];
         row[static_cast<std::size_t>(col)].checked = checked;
         double minutes = 0;
-        if (col == 5 && !checked && ValidateMinutes(row[6].text, minutes, nullptr)) row[6].number = minutes;
+        if (col == 5 && !checked && Take(ValidateMinutes(row[6].text), minutes)) row[6].number = minutes;
         RunCell("gridHops", hopRow, col);
         return true;
     });

@@ -225,7 +225,7 @@ void RandomEditor::Key(TextBox& box, const std::string& text) {
     // Typed back to where the step began: committed, it is all as it was then. Only a gravity that came from
     // a yeast was finer than its text.
     if (history_.Now().open) return;
-    document->CommitField(box, true);
+    document->CommitField(box, Asking::Quietly);
     if (&box == &R().txtFG) history_.SetPoint({history_.Now().state, true});
     CheckPoint("typed back");
 }
@@ -314,7 +314,9 @@ void RandomEditor::EditCell() {
     const DocumentState before = StateOf(*document, host);
     const std::string old = grid.Text(row, col);
     bool done = false;
-    const bool fault = Faults([&] { done = document->EditCell(grid, row, col, text, Chance(50)); });
+    const bool fault = Faults([&] {
+        done = document->EditCell(grid, row, col, text, Chance(50) ? Asking::Quietly : Asking::Aloud);
+    });
     if (fault || !done || grid.Text(row, col) == old)
         ASSERT_EQ(Differences(before.all, StateOf(*document, host).all), "") << Trace();
     else

@@ -268,7 +268,7 @@ class RandomSnapshots : public SnapshotTest, public testing::WithParamInterface<
             case 0: {
                 TextBox& box = *R().TextBoxes()[static_cast<std::size_t>(
                     Below(static_cast<int>(R().TextBoxes().size())))];
-                if (!Set(box, AnyText(), true)) document->RestoreField(box);
+                if (!Set(box, AnyText(), Asking::Quietly)) document->RestoreField(box);
                 break;
             }
             case 1:
@@ -290,7 +290,7 @@ class RandomSnapshots : public SnapshotTest, public testing::WithParamInterface<
                                                    "optKeg"}[static_cast<std::size_t>(Below(5))]);
                 break;
             default:
-                document->EditCell(grid, row, col, AnyText(), true);
+                document->EditCell(grid, row, col, AnyText(), Asking::Quietly);
         }
     }
     std::mt19937 random_{GetParam()};

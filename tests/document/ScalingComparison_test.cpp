@@ -33,7 +33,7 @@ class RandomScaling : public DocumentTest, public testing::WithParamInterface<un
         const Outcome outcome = plain_.Commit(name, text);
         try {
             TextBox& box = *R().FindTextBox(name);
-            const bool done = Set(box, text, true);
+            const bool done = Set(box, text, Asking::Quietly);
             ASSERT_EQ(done, outcome == Outcome::Done);
             if (!done) document->RestoreField(box);
         } catch (const Error&) {
@@ -47,7 +47,7 @@ class RandomScaling : public DocumentTest, public testing::WithParamInterface<un
     void Edit(Grid& grid, int row, int col, const std::string& text) {
         const Outcome outcome = plain_.Edit(grid.Name(), row - 1, col, text);
         try {
-            ASSERT_EQ(document->EditCell(grid, row, col, text, true), outcome == Outcome::Done);
+            ASSERT_EQ(document->EditCell(grid, row, col, text, Asking::Quietly), outcome == Outcome::Done);
         } catch (const Error&) {
             ASSERT_EQ(outcome, Outcome::Raised);
         }

@@ -52,7 +52,7 @@ TEST_F(HistoryMemory, AStepOfOneCellTakesLittleBesideItsTwoTexts) {
     Forget();
     const std::size_t before = held;
     for (int step = 0; step < kSteps; ++step) {
-        ASSERT_TRUE(document->EditCell(R().gridAdjuncts, 1, 0, texts[step % 2], true));
+        ASSERT_TRUE(document->EditCell(R().gridAdjuncts, 1, 0, texts[step % 2], Asking::Quietly));
         host.log.clear();
     }
     Forget();
