@@ -1,0 +1,119 @@
+// The rules of the house that a machine can see: how large a class may be, where a control may be told by its
+// address, where a command's name may stand. What broke a rule before it was made stands in
+// known-offences.txt; that list may shrink, never grow, and the test says so when it can.
+#include <algorithm>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+#include <regex>
+#include <sstream>
+
+#include "architecture/SourceReader.h"
+
+namespace tw::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// How often a place breaks a rule.
+using Offences = std::map<std::string, int>;
+
+constexpr int kMostFunctions = 60;
+
+// The offences of a rule that were there before it, from known-offences.txt: a line for each place, the
+// rule's word, how often, the place.
+Offences KnownOffences(std::string_view rule) {
+    Offences known;
+    std::ifstream file(fs::path(TUNWRIGHT_SOURCES) / "tests/architecture/known-offences.txt");
+    EXPECT_TRUE(file) << "the list of known offences is missing";
+    for (std::string line; std::getline(file, line);) {
+        if (line.starts_with('#')) continue;
+        std::istringstream words(line);
+        std::string word, place;
+        int count = 0;
+        words >> word >> count;
+        std::getline(words >> std::ws, place);
+        if (word == rule) known[place] = count;
+    }
+    return known;
+}
+
+// The table of the commands.
+constexpr std::string_view kCommandTable = "src/shell/CommandBar.cpp";
+
+// The sources below a folder of the checkout, by their paths from its root.
+std::map<std::string, std::string> SourcesBelow(const std::string& folder) {
+    const fs::path root = TUNWRIGHT_SOURCES;
+    std::map<std::string, std::string> sources;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator(root / folder)) {
+        const fs::path extension = entry.path().extension();
+        if (extension != ".h" && extension != ".cpp") continue;
+        sources[fs::relative(entry.path(), root).generic_string()] = ReadSource(entry.path());
+    }
+    return sources;
+}
+
+// The places of a pattern in all sources, counted by file; what prepare leaves of a source is searched.
+template <class Prepare>
+Offences FilesWith(const std::string& pattern, Prepare prepare) {
+    const std::regex expression(pattern);
+    Offences found;
+    for (const auto& [path, source] : SourcesBelow("src")) {
+        const std::string text = prepare(source);
+        const auto count =
+            std::distance(std::sregex_iterator(text.begin(), text.end(), expression), std::sregex_iterator());
+        if (count > 0) found[path] = static_cast<int>(count);
+    }
+    return found;
+}
+
+// Names every place that breaks the rule more often than the list of known ones allows, and every line of
+// that list which allows more than there is.
+void ExpectKnown(const Offences& found, const Offences& known, const std::string& rule) {
+    for (const auto& [place, count] : found) {
+        const auto allowed = known.find(place);
+        EXPECT_LE(count, allowed == known.end() ? 0 : allowed->second) << place << ": " << rule;
+    }
+    for (const auto& [place, count] : known) {
+        const auto now = found.find(place);
+        EXPECT_EQ(now == found.end() ? 0 : now->second, count) << place << ": the list may shrink";
+    }
+}
+
+TEST(Rooms, AreReadWhole) {
+    EXPECT_TRUE(SourcesBelow("src").contains("src/document/RecipeDocument.h"));
+}
+
+TEST(Rooms, NoClassDeclaresMoreThanSixtyFunctions) {
+    Offences large;
+    for (const auto& [path, source] : SourcesBelow("src")) {
+        if (!path.ends_with(".h")) continue;
+        for (const DeclaredClass& found : ClassesOf(source))
+            if (found.functions > kMostFunctions) large[path + " " + found.name] = found.functions;
+    }
+    ExpectKnown(large, KnownOffences("large-class"), "a class has one job and at most 60 functions");
+}
+
+// Only sources that know controls at all: elsewhere two addresses may say whether two things are the same.
+std::string CodeWithControls(std::string_view source) {
+    const std::string code = CodeOf(source);
+    static const std::regex kControls(R"(\b(Grid|TextBox|RecipeRecord)\b)");
+    return std::regex_search(code, kControls) ? code : std::string();
+}
+
+TEST(Rooms, NoAddressTellsWhatAControlIs) {
+    ExpectKnown(
+        FilesWith(R"(&\w+(\.|->)?\w*\s*[!=]=\s*&\w|[!=]=\s*&(r|r_|record_|record)\.\w)", CodeWithControls),
+        KnownOffences("compared-address"),
+        "ask the control for its id, and the tables of fields and cells for the rest");
+}
+
+TEST(Rooms, CommandsAreNamedInTheirTableAlone) {
+    Offences named = FilesWith("\"mnu", WithoutComments);
+    named.erase(std::string(kCommandTable));
+    ExpectKnown(named, KnownOffences("command-name"),
+                "a command is named by its id; its name stands in the table of commands");
+}
+
+}  // namespace
+}  // namespace tw::test
