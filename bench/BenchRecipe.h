@@ -111,12 +111,12 @@ class Recipe {
     }
 
     void Commit(TextBox& box, std::string_view text) {
-        document_.SetText(box, text);
-        if (!document_.CommitField(box)) throw Error("Recipe", "The entry was refused", 1);
+        document_.Fields().SetText(box, text);
+        if (!document_.Fields().CommitField(box)) throw Error("Recipe", "The entry was refused", 1);
     }
     void CommitTotalVolume(std::string_view text) { Commit(document_.Record().txtTotalVol, text); }
     void CommitGrain(int row, std::string_view text) {
-        if (!document_.EditCell(document_.Record().gridGrain, row, GrainCol::Amount, text))
+        if (!document_.Cells().EditCell(document_.Record().gridGrain, row, GrainCol::Amount, text))
             throw Error("Recipe", "The entry was refused", 1);
     }
 
@@ -124,9 +124,9 @@ class Recipe {
     // Pastes into a block of cells.
     void Paste(Grid& grid, const GridRange& range, std::string_view text) {
         nothing_.SetText(text);
-        document_.FocusOn(grid);
-        document_.SelectCells(grid, range);
-        document_.Paste();
+        document_.Focus().FocusOn(grid);
+        document_.Focus().SelectCells(grid, range);
+        document_.Edit().Paste();
     }
 
   private:
@@ -135,10 +135,11 @@ class Recipe {
         double most;
     };
     void Lines(Grid& grid, int lines, Dice& dice, const std::vector<Entry>& entries) {
-        while (grid.DataRows() < lines) document_.InsertRowForGrid(grid);
+        while (grid.DataRows() < lines) document_.Lines().InsertRowForGrid(grid);
         for (int row = 1; row <= lines; ++row)
             for (const Entry& entry : entries)
-                document_.EditCell(grid, row, entry.col, Typed((0.1 + 0.9 * dice.Next()) * entry.most));
+                document_.Cells().EditCell(grid, row, entry.col,
+                                           Typed((0.1 + 0.9 * dice.Next()) * entry.most));
     }
 
     Nothing nothing_;

@@ -20,8 +20,8 @@ void UndoOneCell(benchmark::State& state) {
     recipe.CommitGrain(3, "4.56");
     recipe.CommitGrain(3, "7.89");
     for ([[maybe_unused]] const auto _ : state) {
-        Require(recipe.Document().Undo());
-        Require(recipe.Document().Redo());
+        Require(recipe.Document().Replay().Undo());
+        Require(recipe.Document().Replay().Redo());
     }
     state.counters["per_step"] =
         benchmark::Counter(2.0 * static_cast<double>(state.iterations()),
@@ -34,8 +34,8 @@ void UndoTheTotalVolume(benchmark::State& state) {
     Recipe recipe;
     recipe.CommitTotalVolume("5.5 gal");
     for ([[maybe_unused]] const auto _ : state) {
-        Require(recipe.Document().Undo());
-        Require(recipe.Document().Redo());
+        Require(recipe.Document().Replay().Undo());
+        Require(recipe.Document().Replay().Redo());
     }
     state.counters["per_step"] =
         benchmark::Counter(2.0 * static_cast<double>(state.iterations()),
@@ -46,11 +46,11 @@ BENCHMARK(UndoTheTotalVolume)->Unit(benchmark::kMicrosecond);
 void UndoADeletedRow(benchmark::State& state) {
     Recipe recipe;
     Grid& grain = recipe.Document().Record().gridGrain;
-    recipe.Document().SetCurrentCell(grain, 7, 0);
-    recipe.Document().DeleteRowForGrid(grain);
+    recipe.Document().Focus().SetCurrentCell(grain, 7, 0);
+    recipe.Document().Lines().DeleteRowForGrid(grain);
     for ([[maybe_unused]] const auto _ : state) {
-        Require(recipe.Document().Undo());
-        Require(recipe.Document().Redo());
+        Require(recipe.Document().Replay().Undo());
+        Require(recipe.Document().Replay().Redo());
     }
 }
 BENCHMARK(UndoADeletedRow)->Unit(benchmark::kMicrosecond);
@@ -63,12 +63,12 @@ void PasteThousandCells(benchmark::State& state) {
     Recipe recipe;
     tw::RecipeDocument& document = recipe.Document();
     Grid& grid = adjuncts ? document.Record().gridAdjuncts : document.Record().gridGrain;
-    while (grid.DataRows() < rows) document.InsertRowForGrid(grid);
+    while (grid.DataRows() < rows) document.Lines().InsertRowForGrid(grid);
     const tw::GridRange target = adjuncts
                                      ? tw::GridRange{1, 0, rows, 3}
                                      : tw::GridRange{1, tw::GrainCol::Amount, rows, tw::GrainCol::Amount};
-    recipe.Paste(grid, target, "7.25");
-    for ([[maybe_unused]] const auto _ : state) Require(document.Undo() && document.Redo());
+    recipe.Edit().Paste(grid, target, "7.25");
+    for ([[maybe_unused]] const auto _ : state) Require(document.Replay().Undo() && document.Replay().Redo());
 }
 BENCHMARK(PasteThousandCells)->ArgName("grains")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 

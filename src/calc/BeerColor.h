@@ -4,7 +4,7 @@
 
 #include <map>
 
-#include "calc/Controls.h"
+#include "calc/Rgb.h"
 
 namespace tw {
 

@@ -36,8 +36,8 @@ void Sort(Session& session, Arguments& arguments) {
     arguments.End();
     CheckCell(grid, 0, col);
     if (!grid.RowsCanChange()) return session.Out().Line("off");
-    session.Document().FocusOn(grid);
-    session.Document().ClickHeader(grid, col);
+    session.Document().Focus().FocusOn(grid);
+    session.Document().Lines().ClickHeader(grid, col);
 }
 
 void Select(Session& session, Arguments& arguments) {
@@ -50,8 +50,8 @@ void Select(Session& session, Arguments& arguments) {
     arguments.End();
     CheckCell(grid, range.row1, range.col1);
     CheckCell(grid, range.row2, range.col2);
-    session.Document().FocusOn(grid);
-    session.Document().SelectCells(grid, range);
+    session.Document().Focus().FocusOn(grid);
+    session.Document().Focus().SelectCells(grid, range);
 }
 
 void ShowClipboard(Session& session, Arguments& arguments) {

@@ -35,19 +35,19 @@ CellPlace TakeCell(Session& session, Arguments& arguments) {
 void MakeCurrent(Session& session, Grid& grid, int row) {
     if (row < Grid::FixedRows() || row >= grid.Rows())
         throw ScriptError(grid.Name() + " has no row " + std::to_string(row));
-    session.Document().FocusOn(grid);
-    session.Document().SetCurrentCell(grid, row, grid.CurrentCol());
+    session.Document().Focus().FocusOn(grid);
+    session.Document().Focus().SetCurrentCell(grid, row, grid.CurrentCol());
 }
 
 void EditCell(Session& session, Arguments& arguments) {
     const auto [grid, row, col] = TakeCell(session, arguments);
     const std::string text = arguments.Text();
     RecipeDocument& document = session.Document();
-    if (!document.CanEdit(grid, row, col) || grid.IsCheckBox(row, col))
+    if (!document.Cells().CanEdit(grid, row, col) || grid.IsCheckBox(row, col))
         return session.Out().Line("read-only");
-    document.FocusOn(grid);
-    document.SetCurrentCell(grid, row, col);
-    document.EditCell(grid, row, col, text);
+    document.Focus().FocusOn(grid);
+    document.Focus().SetCurrentCell(grid, row, col);
+    document.Cells().EditCell(grid, row, col, text);
 }
 
 void Check(Session& session, Arguments& arguments) {
@@ -58,9 +58,9 @@ void Check(Session& session, Arguments& arguments) {
         throw ScriptError("column " + std::to_string(col) + " of " + grid.Name() + " holds no check boxes");
     if (!grid.IsCheckBox(row, col)) return session.Out().Line("read-only");
     RecipeDocument& document = session.Document();
-    document.FocusOn(grid);
-    document.SetCurrentCell(grid, row, col);
-    document.SetChecked(grid, row, col, checked);
+    document.Focus().FocusOn(grid);
+    document.Focus().SetCurrentCell(grid, row, col);
+    document.Cells().SetChecked(grid, row, col, checked);
 }
 
 // What a control that is no grid shows.
@@ -131,9 +131,9 @@ void Insert(Session& session, Arguments& arguments) {
     // An empty grid has no row to make current, but its first row is the one that is meant.
     const bool firstOfEmpty = grid.DataRows() == 0 && row == grid.EndOfData();
     if (rowGiven && !firstOfEmpty) MakeCurrent(session, grid, row);
-    if (!document.CanInsertRow(grid)) return session.Out().Line("off");
-    document.FocusOn(grid);
-    document.InsertRowForGrid(grid);
+    if (!document.Focus().CanInsertRow(grid)) return session.Out().Line("off");
+    document.Focus().FocusOn(grid);
+    document.Lines().InsertRowForGrid(grid);
 }
 
 void Delete(Session& session, Arguments& arguments) {
@@ -143,14 +143,14 @@ void Delete(Session& session, Arguments& arguments) {
     RecipeDocument& document = session.Document();
     if (!grid.RowsCanChange()) return session.Out().Line("off");
     MakeCurrent(session, grid, row);
-    if (!document.CanDeleteRow(grid)) return session.Out().Line("off");
-    document.DeleteRowForGrid(grid);
+    if (!document.Focus().CanDeleteRow(grid)) return session.Out().Line("off");
+    document.Lines().DeleteRowForGrid(grid);
 }
 
 void ShowTab(Session& session, Arguments& arguments) {
     const int tab = arguments.Integer("N", 0, kTabs - 1);
     arguments.End();
-    session.Document().SetTab(static_cast<Tab>(tab));
+    session.Document().Focus().SetTab(static_cast<Tab>(tab));
 }
 
 void SetRow(Session& session, Arguments& arguments) {

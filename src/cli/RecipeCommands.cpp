@@ -61,9 +61,9 @@ void Set(Session& session, Arguments& arguments) {
     TextBox* const box = document.Record().FindTextBox(name);
     if (box == nullptr) throw ScriptError("there is no text box '" + name + "'");
     if (box->Computed()) return session.Out().Line("read-only");
-    document.FocusOn(*box);
-    document.SetText(*box, text);
-    if (!document.CommitField(*box)) document.RestoreField(*box);
+    document.Focus().FocusOn(*box);
+    document.Fields().SetText(*box, text);
+    if (!document.Fields().CommitField(*box)) document.Fields().RestoreField(*box);
 }
 
 void Pick(Session& session, Arguments& arguments) {
@@ -72,9 +72,9 @@ void Pick(Session& session, Arguments& arguments) {
     RecipeDocument& document = session.Document();
     const ListBox& list = document.Record().cmbStyle;
     if (name != list.Name()) throw ScriptError("there is no list '" + name + "'");
-    document.FocusElsewhere();
+    document.Focus().FocusElsewhere();
     for (std::size_t i = 0; i < list.Entries().size(); ++i)
-        if (SameName(list.Entries()[i].text, text)) return document.SelectStyle(static_cast<int>(i));
+        if (SameName(list.Entries()[i].text, text)) return document.Style().Select(static_cast<int>(i));
     throw ScriptError(name + " has no entry '" + text + "'");
 }
 
@@ -82,8 +82,8 @@ void Choose(Session& session, Arguments& arguments) {
     const std::string option = arguments.Word("OPTION");
     arguments.End();
     RecipeDocument& document = session.Document();
-    document.FocusElsewhere();
-    if (!document.ChooseOption(option)) throw ScriptError("there is no option '" + option + "'");
+    document.Focus().FocusElsewhere();
+    if (!document.Options().Choose(option)) throw ScriptError("there is no option '" + option + "'");
 }
 
 void Changed(Session& session, Arguments& arguments) {

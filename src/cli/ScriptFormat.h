@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "calc/Controls.h"
-#include "calc/Grid.h"
+#include "record/Controls.h"
+#include "record/Grid.h"
 
 namespace tw {
 

@@ -7,7 +7,6 @@
 #include <optional>
 #include <string>
 
-#include "calc/RecipeRecord.h"
 #include "cli/ScriptHelp.h"
 #include "cli/ScriptPlatform.h"
 #include "cli/ScriptPrinter.h"
@@ -15,6 +14,7 @@
 #include "help/Help.h"
 #include "platform/SettingsStore.h"
 #include "platform/SystemClock.h"
+#include "record/RecipeRecord.h"
 #include "reports/ReportUnits.h"
 #include "shell/Shell.h"
 

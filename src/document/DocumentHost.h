@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "calc/RecipeCalculator.h"
+#include "record/RecipeCalculator.h"
 #include "tree/PickList.h"
 
 namespace tw {

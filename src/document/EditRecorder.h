@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "calc/Grid.h"
 #include "document/EditTracker.h"
 #include "document/UndoStack.h"
+#include "record/Grid.h"
 
 namespace tw {
 

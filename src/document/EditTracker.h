@@ -10,7 +10,7 @@
 #include <variant>
 #include <vector>
 
-#include "calc/Grid.h"
+#include "record/Grid.h"
 
 namespace tw {
 

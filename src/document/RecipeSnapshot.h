@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "calc/Grid.h"
 #include "platform/DateTime.h"
+#include "record/Grid.h"
 
 namespace tw {
 

@@ -6,7 +6,7 @@ namespace tw {
 
 RecordBackup::RecordBackup(const RecipeRecord& record) : swatch_(record.Swatch()) {
     for (const TextBox* box : record.TextBoxes())
-        boxes_.push_back({box->Text(), box->Committed(), box->Value()});
+        boxes_.push_back({box->Text(), box->Committed(), box->Value(), box->HasOwnNumber()});
     for (const Grid* grid : record.Grids())
         for (int row = 0; row < grid->Rows(); ++row) rows_.push_back(grid->CellsOf(row));
     for (const Button* button : record.Buttons()) buttons_.push_back(button->Enabled());
@@ -18,6 +18,7 @@ void RecordBackup::Restore(RecipeRecord& record) const {
         target->SetText(box->text);
         target->SetCommitted(box->committed);
         target->SetValue(box->value);
+        target->SetOwnNumber(box->ownNumber);
         ++box;
     }
     auto row = rows_.begin();

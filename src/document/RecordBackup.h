@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "calc/RecipeRecord.h"
+#include "record/RecipeRecord.h"
 
 namespace tw {
 
@@ -22,6 +22,7 @@ class RecordBackup {
         std::string text;
         std::string committed;
         double value;
+        bool ownNumber;
     };
 
     std::vector<Box> boxes_;

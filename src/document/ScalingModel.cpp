@@ -149,7 +149,7 @@ void ScalingModel::Ok() {
 std::optional<std::string> CurrentFigure(const RecipeDocument& document, Scaling what) {
     const RecipeRecord& r = document.Record();
     if (what == Scaling::Carbonation) {
-        if (!document.CanEnableCO2()) return std::nullopt;
+        if (!document.Scaling().CanScaleCO2()) return std::nullopt;
         return r.txtCO2.Empty() ? "0 volumes" : r.txtCO2.Text();
     }
     const TextBox& box = what == Scaling::Size       ? r.txtTotalVol
@@ -162,17 +162,17 @@ std::optional<std::string> CurrentFigure(const RecipeDocument& document, Scaling
 void Scale(RecipeDocument& document, const ScalingModel& dialog) {
     switch (dialog.What()) {
         case Scaling::Size:
-            document.ScaleRecipe(dialog.NewValue(), dialog.NewText(), dialog.ScaleBoilVol(),
-                                 dialog.PreserveIBU());
+            document.Scaling().ScaleRecipe(dialog.NewValue(), dialog.NewText(), dialog.ScaleBoilVol(),
+                                           dialog.PreserveIBU());
             break;
         case Scaling::Strength:
-            document.ScaleOG(dialog.NewValue(), dialog.PreserveIBU());
+            document.Scaling().ScaleOG(dialog.NewValue(), dialog.PreserveIBU());
             break;
         case Scaling::Bitterness:
-            document.ScaleIBU(dialog.NewValue());
+            document.Scaling().ScaleIBU(dialog.NewValue());
             break;
         case Scaling::Carbonation:
-            document.ScaleCO2(dialog.NewValue(), false);
+            document.Scaling().ScaleCO2(dialog.NewValue(), Asking::Aloud);
             break;
     }
 }

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "record/FieldRules.h"
+
 namespace tw {
 namespace {
 
@@ -12,31 +14,11 @@ constexpr std::size_t kMostNamed = 6;
 bool IsAnAmount(double number) {
     return std::isfinite(number) && number >= 0 && number < kMostOfAnything;
 }
-bool IsAVolumeOrGravity(double number) {
-    return IsAnAmount(number) && number > 0;
+// Whether a formula can work with the number of a field. The unit says what it can be.
+bool IsUsable(double number, const FieldRule& rule) {
+    if (rule.takes == FieldTakes::Fahrenheit) return number >= 0 && number <= 212;
+    return IsAnAmount(number) && (number > 0 || rule.mayBeZero);
 }
-bool IsATemperature(double fahrenheit) {
-    return fahrenheit >= 0 && fahrenheit <= 212;
-}
-
-struct BoxRule {
-    TextBox RecipeRecord::*box;
-    const char* label;
-    bool (*usable)(double);
-};
-
-constexpr BoxRule kBoxRules[] = {
-    {&RecipeRecord::txtBoilVol, "Boil Volume", IsAVolumeOrGravity},
-    {&RecipeRecord::txtTotalVol, "Total Volume", IsAVolumeOrGravity},
-    {&RecipeRecord::txtOG, "Original Gravity", IsAVolumeOrGravity},
-    {&RecipeRecord::txtFG, "Finished Gravity", IsAVolumeOrGravity},
-    {&RecipeRecord::txtExtract, "Extraction Rate", IsAnAmount},
-    {&RecipeRecord::txtHopExtraction, "Extraction Constant", IsAnAmount},
-    {&RecipeRecord::txtBG, "Boil Gravity", IsAVolumeOrGravity},
-    {&RecipeRecord::txtTemp, "Temperature", IsATemperature},
-    {&RecipeRecord::txtDilutions, "Dilution Additions", IsAnAmount},
-    {&RecipeRecord::txtFinalVol, "Final Volume", IsAVolumeOrGravity},
-};
 
 // "Grain row 2", "Source Water", "" for a grid of one row.
 std::string RowName(const Grid& grid, int row) {
@@ -60,9 +42,10 @@ void AddCells(const Grid& grid, std::vector<std::string>& fields) {
 
 std::vector<std::string> UnusableNumbers(const RecipeRecord& record) {
     std::vector<std::string> fields;
-    for (const BoxRule& rule : kBoxRules) {
-        const TextBox& box = record.*rule.box;
-        if (!box.Empty() && !rule.usable(box.Value())) fields.emplace_back(rule.label);
+    for (const TextBox* const box : record.TextBoxes()) {
+        const FieldRule& rule = RuleOf(*box);
+        if (rule.stored == FieldStored::Quantity && !box->Empty() && !IsUsable(box->Value(), rule))
+            fields.push_back(PlainCaption(rule));
     }
     for (const Grid* grid : record.Grids()) AddCells(*grid, fields);
     return fields;

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "calc/RecipeRecord.h"
+#include "record/RecipeRecord.h"
 
 namespace tw {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "calc/Controls.h"
+#include "record/Controls.h"
 #include "reports/PrinterDevice.h"
 
 namespace tw {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "calc/Controls.h"
+#include "record/Controls.h"
 #include "reports/LineBreaks.h"
 #include "reports/TWPrinter.h"
 

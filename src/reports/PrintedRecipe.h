@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "calc/RecipeRecord.h"
+#include "record/RecipeRecord.h"
 #include "reports/PrintSteps.h"
 #include "reports/PrinterDevice.h"
 

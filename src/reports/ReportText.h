@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "calc/Controls.h"
+#include "record/Controls.h"
 
 namespace tw {
 

@@ -56,19 +56,19 @@ const Shell::ActionRow Shell::kFileActions[] = {
 
 // They run with an active document only.
 const Shell::ActionRow Shell::kEditActions[] = {
-    {"mnuEditUndo", [](Shell& s) { s.active_->Undo(); }},
-    {"mnuEditRedo", [](Shell& s) { s.active_->Redo(); }},
+    {"mnuEditUndo", [](Shell& s) { s.active_->Replay().Undo(); }},
+    {"mnuEditRedo", [](Shell& s) { s.active_->Replay().Redo(); }},
     {"mnuEditCut",
      [](Shell& s) {
-         s.active_->Cut();
+         s.active_->Edit().Cut();
          s.ReapplyPasteState();
      }},
     {"mnuEditCopy", [](Shell& s) { s.CopyShowingErrors(); }},
-    {"mnuEditPaste", [](Shell& s) { s.active_->Paste(); }},
-    {"mnuEditClear", [](Shell& s) { s.active_->Clear(); }},
-    {"mnuEditSelectAll", [](Shell& s) { s.active_->SelectAll(); }},
-    {"mnuEditInsert", [](Shell& s) { s.active_->InsertRow(); }},
-    {"mnuEditDelete", [](Shell& s) { s.active_->DeleteRow(); }},
+    {"mnuEditPaste", [](Shell& s) { s.active_->Edit().Paste(); }},
+    {"mnuEditClear", [](Shell& s) { s.active_->Edit().Clear(); }},
+    {"mnuEditSelectAll", [](Shell& s) { s.active_->Edit().SelectAll(); }},
+    {"mnuEditInsert", [](Shell& s) { s.active_->Lines().InsertRow(); }},
+    {"mnuEditDelete", [](Shell& s) { s.active_->Lines().DeleteRow(); }},
     {"mnuEditAppendFlag", [](Shell& s) { s.SetAppendRows(!s.AppendRows()); }},
 };
 
@@ -140,7 +140,7 @@ void Shell::Arrange(Arrangement arrangement) {
 
 void Shell::CopyShowingErrors() {
     try {
-        active_->Copy();
+        active_->Edit().Copy();
     } catch (const Error& error) {
         platform_.messages.ShowMessage("Error", "Error during copy:\r\n" + error.WithNumber());
     }
@@ -173,16 +173,16 @@ void Shell::PickFromCatalogue(RecipeDocument& document, PickList list, const std
     LvShowModel picker(list, *database_, *tree_, name);
     picker.SetViewer([this](PickList type, ListTable& items) { ViewCatalogueRow(type, items); });
     platform_.dialogs.ShowModal(picker);
-    if (!picker.Cancelled()) document.TakeChoice(list, picker.Answer());
+    if (!picker.Cancelled()) document.Picks().Take(list, picker.Answer());
 }
 
 void Shell::ShowScaling(Scaling what) {
-    if (!active_ || !active_->FlushEdits()) return;
+    if (!active_ || !active_->Focus().FlushEdits()) return;
     RecipeDocument& document = *active_;
     const std::optional<std::string> current = CurrentFigure(document, what);
     if (!current) return;
     ScalingModel dialog(what, *current, platform_.messages);
-    dialog.SetSizeCheck([&document](double gallons) { return document.RefusalOfSize(gallons); });
+    dialog.SetSizeCheck([&document](double gallons) { return document.Scaling().RefusalOfSize(gallons); });
     platform_.dialogs.ShowModal(dialog);
     if (!dialog.Cancelled()) Scale(document, dialog);
 }
@@ -191,7 +191,7 @@ void Shell::SaveAllDocuments() {
     // One that cannot be saved does not keep the others from it.
     for (std::size_t i = 0; i < documents_.size(); ++i) {
         Guard([&] {
-            documents_[i]->FlushEdits();
+            documents_[i]->Focus().FlushEdits();
             SaveRecipe(*documents_[i], false);
         });
     }

@@ -12,7 +12,7 @@ void Shell::Activate(RecipeDocument& document) {
         active_ = &document;
         std::erase(useOrder_, &document);
         useOrder_.push_back(&document);
-        document.Activate();
+        document.Focus().Activate();
     }
     if (view_) view_->DocumentActivated(&document);
 }
@@ -30,7 +30,7 @@ RecipeDocument& Shell::CreateDocumentWindow(std::string_view name) {
     Activate(document);
     if (IsBlank(name)) return document;
     try {
-        document.OpenRecipe(name);
+        document.Storage().Open(name);
     } catch (...) {
         // A recipe that was read in part must never be saved over the whole one.
         DeleteWindow(document);
@@ -61,7 +61,7 @@ void Shell::OpenByName(std::string_view name) {
 
 bool Shell::CloseDocument(RecipeDocument& document) {
     // An entry that is still being typed counts, so that it is asked about.
-    if (!Guard([&] { document.FlushEdits(); })) return false;
+    if (!Guard([&] { document.Focus().FlushEdits(); })) return false;
     if (document.Changed()) {
         Activate(document);
         const std::string question =
@@ -128,12 +128,12 @@ bool Shell::SaveRecipe(RecipeDocument& document, bool silent) {
     if (IsBlank(document.BeerName()) || document.FolderID() < 0) return !silent && SaveRecipeAs(document);
     return TrySave([&](bool& ok) {
         if (silent)
-            document.FlushEditsQuietly();
+            document.Focus().FlushEditsQuietly();
         else
-            document.FlushEdits();
+            document.Focus().FlushEdits();
         const bool renamed = !SameName(document.BeerName(), document.OrigName());
         if (silent && renamed && RecipeExists(*database_, document.BeerName())) return;
-        document.Save(false, silent, ok);
+        ok = document.Storage().Save(SaveAs::No, silent ? Asking::Quietly : Asking::Aloud);
         FollowUnfinishedSave(document, ok);
     });
 }
@@ -171,7 +171,7 @@ void Shell::ShowAutoSave() {
 bool Shell::SaveRecipeAs(RecipeDocument& document) {
     std::unique_ptr<OpenSaveModel> dialog;
     const bool shown = TrySave([&](bool& ok) {
-        document.FlushEdits();
+        document.Focus().FlushEdits();
         dialog = std::make_unique<OpenSaveModel>(OpenSaveModel::Style::Save, Access(), browse_);
         dialog->SetRecipe(document.Caption(), document.FolderID());
         platform_.dialogs.ShowModal(*dialog);
@@ -185,8 +185,8 @@ bool Shell::SaveRecipeAs(RecipeDocument& document) {
 bool Shell::SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId,
                             bool silent) {
     return TrySave([&](bool& ok) {
-        document.FlushEdits();
-        document.SaveRecipeAs(name, folderId, silent, ok);
+        document.Focus().FlushEdits();
+        ok = document.Storage().SaveUnder(name, folderId, silent ? Asking::Quietly : Asking::Aloud);
         FollowUnfinishedSave(document, ok);
     });
 }
@@ -227,34 +227,38 @@ void Shell::ForEachDocument(Notice notice) {
 }
 
 void Shell::NotifyRecipeMoved(const std::string& name, std::int64_t folderId) {
-    ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeMoved(name, folderId); });
+    ForEachDocument([&](RecipeDocument& document) { document.Notices().NotifyRecipeMoved(name, folderId); });
 }
 
 void Shell::NotifyRecipeNewStyle(const std::string& name, std::int64_t styleId) {
-    ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeNewStyle(name, styleId); });
+    ForEachDocument(
+        [&](RecipeDocument& document) { document.Notices().NotifyRecipeNewStyle(name, styleId); });
 }
 
 void Shell::NotifyRecipeRenamed(const std::string& oldName, const std::string& newName) {
     recent_.Rename(oldName, newName);
-    ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeRenamed(oldName, newName); });
+    ForEachDocument(
+        [&](RecipeDocument& document) { document.Notices().NotifyRecipeRenamed(oldName, newName); });
 }
 
 void Shell::NotifyStyleRenamed(std::int64_t styleId, const std::string& newName) {
-    ForEachDocument([&](RecipeDocument& document) { document.NotifyStyleRenamed(styleId, newName); });
+    ForEachDocument(
+        [&](RecipeDocument& document) { document.Notices().NotifyStyleRenamed(styleId, newName); });
 }
 
 void Shell::NotifyRecipeDeleted(const std::string& name) {
     recent_.Remove(name);
-    ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeDeleted(name); });
+    ForEachDocument([&](RecipeDocument& document) { document.Notices().NotifyRecipeDeleted(name); });
 }
 
 void Shell::NotifyRecipeFolderDeleted(std::int64_t folderId) {
     if (browse_.nodeKey == "F:" + std::to_string(folderId)) browse_.nodeKey = kRecipeFoldersKey;
-    ForEachDocument([&](RecipeDocument& document) { document.NotifyRecipeFolderDeleted(folderId); });
+    ForEachDocument(
+        [&](RecipeDocument& document) { document.Notices().NotifyRecipeFolderDeleted(folderId); });
 }
 
 void Shell::NotifyStyleDeleted(std::int64_t styleId) {
-    ForEachDocument([&](RecipeDocument& document) { document.NotifyStyleDeleted(styleId); });
+    ForEachDocument([&](RecipeDocument& document) { document.Notices().NotifyStyleDeleted(styleId); });
 }
 
 void Shell::DeletionEnded() {

@@ -11,7 +11,7 @@ void Shell::ShowContextHelp(std::string_view formName, std::string_view context)
 
 void Shell::ShowHelpOfActive() {
     if (active_ && !(view_ && view_->IsMinimized(*active_)))
-        ShowContextHelp("frmDocument", TabContext(static_cast<int>(active_->CurrentTab()) + 1));
+        ShowContextHelp("frmDocument", TabContext(static_cast<int>(active_->Focus().CurrentTab()) + 1));
     else
         ShowContextHelp("", kWholeWindow);
 }

@@ -24,7 +24,7 @@ void Shell::KeepUnsavedWork() {
     std::set<std::string> notKept;
     for (const auto& document : documents_)
         if (editedKeys_.contains(document->Key()) && document->Changed() &&
-            !recovery_->Keep(document->Key(), document->TakeSnapshot()))
+            !recovery_->Keep(document->Key(), document->Storage().TakeSnapshot()))
             notKept.insert(document->Key());
     editedKeys_ = std::move(notKept);
     const bool wasNotKept = std::exchange(unsavedNotKept_, !editedKeys_.empty());
@@ -85,7 +85,7 @@ void Shell::OfferRecovery() {
 bool Shell::RestoreLostRecipe(const LostRecipe& lost) {
     RecipeDocument& document = CreateDocumentWindow("");
     try {
-        document.Restore(lost.snapshot);
+        document.Storage().Restore(lost.snapshot);
     } catch (const Error&) {
         DeleteWindow(document);
         ReportPutAside(recovery_->PutAside(lost.file));

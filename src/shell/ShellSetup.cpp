@@ -20,7 +20,7 @@ CatalogueContext Shell::Catalogues() {
 }
 
 void Shell::CatalogueChanged() {
-    for (const auto& document : documents_) document->DBChanged();
+    for (const auto& document : documents_) document->Notices().DBChanged();
 }
 
 void Shell::ShowDatabaseSetup() {

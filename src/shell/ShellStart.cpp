@@ -1,5 +1,5 @@
 // Start-up, shut-down and the settings of the shell.
-#include "calc/RecipeRecord.h"
+#include "record/RecipeRecord.h"
 #include "shell/Shell.h"
 #include "store/CatalogueUpdate.h"
 #include "store/Schema.h"

@@ -1,5 +1,5 @@
-// One recipe as the rows of its tables: what a save writes and an opening reads. Plain data; the document
-// maps its controls to it and back.
+// One recipe as the rows of its tables: what a save writes and an opening reads. Plain data; which column
+// holds what is said by FieldRules.h and CellRules.h alone. The document maps its controls to it and back.
 #pragma once
 
 #include <array>
@@ -10,87 +10,54 @@
 #include <vector>
 
 #include "platform/DateTime.h"
+#include "record/CellRules.h"
+#include "record/FieldRules.h"
 #include "store/Database.h"
 
 namespace tw {
 
-// A pair of columns X and X_DATA. Each half is absent when the column is NULL.
-struct StoredQuantity {
+// What the columns of a field or a cell hold. Each half is absent when its column is NULL, or when there is
+// none: a column of text has no number, an option, a hop form and a check mark (1 or 0) have no text.
+struct StoredValue {
     std::optional<std::string> text;
-    std::optional<double> data;
+    std::optional<double> number;
+    bool operator==(const StoredValue&) const = default;
 };
 
-// An optional column of its own.
-using StoredText = std::optional<std::string>;
-
-struct StoredGrain {  // a line of RECIPE_GRAINS, grain or extract
-    int rowId = 0;
-    StoredText name;
-    StoredQuantity amount, ppg, color;
-};
-
-struct StoredHop {
-    int rowId = 0;
-    StoredText name;
-    std::optional<std::int64_t> form;
-    std::optional<bool> sock, dry;
-    StoredQuantity amount, aa, duration;
-};
-
-struct StoredSalt {
-    int rowId = 0;
-    StoredText name;
-    StoredQuantity amount;
-    std::array<std::optional<double>, 6> ions;  // CA, CO3, CL, MG, NA, SO4
-};
-
-struct StoredSugar {
-    int rowId = 0;
-    StoredText name;
-    StoredQuantity ferment, amount;
-};
-
-struct StoredAdjunct {
-    int rowId = 0;
-    StoredText name, amount, duration, when;
-};
-
-struct StoredLogLine {
-    int rowId = 0;
-    StoredText date, action, notes;
-};
-
-struct StoredWater {
-    StoredText profile;
-    // The cells' texts, bare numbers; blank or absent is NULL. CA, CO3, CL, MG, NA, SO4.
-    std::array<StoredText, 6> ions;
+// One data row of a grid.
+struct StoredLine {
+    int rowId = 0;                   // its place among the data rows, from 0
+    std::vector<StoredValue> cells;  // by column of the grid
 };
 
 struct StoredRecipe {
+    StoredRecipe();
+
     std::string name;  // trimmed
     std::int64_t id = 0;
     std::optional<std::int64_t> styleId, folderId;
     std::optional<DateTime> createdWhen;
     DateTime modifiedWhen;
-    StoredQuantity bv, tv, dilutions, fv, bg, og, fg;
-    StoredText abv, color, ibu, co2Vols, notes, numBatches;
-    StoredQuantity grainExtract;
     std::optional<std::int64_t> ibuMethod;
-    StoredQuantity hopExtract;
     std::optional<bool> bottled;
-    StoredQuantity kegPsi;
-    StoredText kegVols;  // the cell's text, a bare number; blank or absent is NULL
-    StoredQuantity temperature;
-    StoredWater source, target;
-    std::vector<StoredGrain> grains, extracts;
-    std::vector<StoredHop> hops;
-    std::vector<StoredSalt> salts;
-    std::vector<StoredSugar> sugars;
-    std::vector<StoredAdjunct> adjuncts;
-    std::vector<StoredLogLine> log;
+
+    // The name's own value is not among them.
+    StoredValue& operator[](FieldId field) { return fields[static_cast<std::size_t>(field)]; }
+    const StoredValue& operator[](FieldId field) const { return fields[static_cast<std::size_t>(field)]; }
+    // The lines of a grid; those of a grid that the recipe's own row stores are all there, in their order.
+    std::vector<StoredLine>& operator[](GridId grid) { return grids[static_cast<std::size_t>(grid)]; }
+    const std::vector<StoredLine>& operator[](GridId grid) const {
+        return grids[static_cast<std::size_t>(grid)];
+    }
+
+    std::array<StoredValue, kFields> fields;
+    std::array<std::vector<StoredLine>, kGrids> grids;
 };
 
-// Writes a recipe as a new row with its lines. A quantity without data writes 0. Returns false when the new
+// A line of that place with as many empty cells as the grid has columns.
+StoredLine EmptyLine(GridId grid, int rowId);
+
+// Writes a recipe as a new row with its lines. A value without a number writes 0. Returns false when the new
 // row cannot be found again or an UPDATE touches no row; what was written until then stays. Raises the
 // store's errors. REQUIRES: createdWhen is set.
 bool InsertRecipe(Database& database, const StoredRecipe& recipe);

@@ -7,11 +7,11 @@
 namespace tw {
 namespace {
 
-constexpr std::size_t kIonCount = std::tuple_size_v<IonNumbers>;
+constexpr std::size_t kIonCount = std::tuple_size_v<Ions>;
 constexpr std::size_t kSulfate = kIonCount - 1;
 
 // How far the doses miss the needs, all ions together.
-double MissOf(const std::vector<double>& doses, const IonNumbers& needed, std::span<const IonNumbers> salts) {
+double MissOf(const std::vector<double>& doses, const Ions& needed, std::span<const Ions> salts) {
     double miss = 0;
     for (std::size_t ion = 0; ion < kIonCount; ++ion) {
         double added = 0;
@@ -24,7 +24,7 @@ double MissOf(const std::vector<double>& doses, const IonNumbers& needed, std::s
 
 }  // namespace
 
-TreatmentAnswer SolveTreatmentWithDeviations(const IonNumbers& needed, std::span<const IonNumbers> salts,
+TreatmentAnswer SolveTreatmentWithDeviations(const Ions& needed, std::span<const Ions> salts,
                                              int maxIterations) {
     const std::size_t variables = kIonCount + salts.size();
     LPsimplex simplex;
@@ -49,14 +49,13 @@ TreatmentAnswer SolveTreatmentWithDeviations(const IonNumbers& needed, std::span
     return {status, std::vector<double>(x.begin() + kIonCount, x.end())};
 }
 
-TreatmentAnswer SolveTreatmentCapped(const IonNumbers& needed, std::span<const IonNumbers> salts,
-                                     int maxIterations) {
+TreatmentAnswer SolveTreatmentCapped(const Ions& needed, std::span<const Ions> salts, int maxIterations) {
     LPsimplex simplex;
     simplex.Initialize(static_cast<int>(salts.size()), static_cast<int>(kIonCount));
     simplex.SpecifyObjective(std::vector<double>(salts.size(), 1.0), false);
     for (std::size_t ion = 0; ion < kIonCount; ++ion) {
         std::vector<double> row;
-        for (const IonNumbers& salt : salts) row.push_back(salt[ion]);
+        for (const Ions& salt : salts) row.push_back(salt[ion]);
         simplex.AddConstraint(row, needed[ion], LPRow::AtMost);
     }
     TreatmentAnswer answer;
@@ -64,7 +63,7 @@ TreatmentAnswer SolveTreatmentCapped(const IonNumbers& needed, std::span<const I
     return answer;
 }
 
-std::optional<std::vector<double>> FindDoses(const IonNumbers& needed, std::span<const IonNumbers> salts,
+std::optional<std::vector<double>> FindDoses(const Ions& needed, std::span<const Ions> salts,
                                              int maxIterations) {
     TreatmentAnswer deviations = SolveTreatmentWithDeviations(needed, salts, maxIterations);
     TreatmentAnswer capped = SolveTreatmentCapped(needed, salts, maxIterations);

@@ -2,18 +2,14 @@
 // doses of the salts, and the choice between their answers.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <span>
 #include <vector>
 
+#include "calc/Ions.h"
 #include "water/LPsimplex.h"
 
 namespace tw {
-
-// One number for each ion, in the order that water tables have everywhere: calcium, carbonate, chloride,
-// magnesium, sodium, sulfate.
-using IonNumbers = std::array<double, 6>;
 
 // What one of the programs says.
 struct TreatmentAnswer {
@@ -26,16 +22,15 @@ struct TreatmentAnswer {
 //
 // The smallest sum of the shortfalls of the first five ions. That of sulfate counts for nothing, although no
 // ion may overshoot its need, sulfate included: intended.
-TreatmentAnswer SolveTreatmentWithDeviations(const IonNumbers& needed, std::span<const IonNumbers> salts,
+TreatmentAnswer SolveTreatmentWithDeviations(const Ions& needed, std::span<const Ions> salts,
                                              int maxIterations);
 // As many grams as the needs allow.
-TreatmentAnswer SolveTreatmentCapped(const IonNumbers& needed, std::span<const IonNumbers> salts,
-                                     int maxIterations);
+TreatmentAnswer SolveTreatmentCapped(const Ions& needed, std::span<const Ions> salts, int maxIterations);
 
 // The doses of the answer that misses the needs by less, summed over the six ions; the first program's for a
 // tie. An answer at the limit of iterations counts as it stands. Nothing when neither program has one. Raises
 // "Overflow" when a number goes beyond a double, and what the solver raises.
-std::optional<std::vector<double>> FindDoses(const IonNumbers& needed, std::span<const IonNumbers> salts,
+std::optional<std::vector<double>> FindDoses(const Ions& needed, std::span<const Ions> salts,
                                              int maxIterations);
 
 }  // namespace tw

@@ -11,7 +11,7 @@ function(offence file text)
   set(offences ${count} PARENT_SCOPE)
 endfunction()
 
-# includes_of(VAR FILE): the targets of the #include lines, their first quote or bracket kept: "<QString", "\"calc/Grid.h".
+# includes_of(VAR FILE): the targets of the #include lines, their first quote or bracket kept: "<QString", "\"record/Grid.h".
 function(includes_of var file)
   file(STRINGS ${ROOT}/${file} lines REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"]")
   set(found)

@@ -23,20 +23,20 @@ class ClipboardTest : public DocumentTest {
     }
 
     void Rows(Grid& grid, int rows) {
-        while (grid.DataRows() < rows) document->InsertRowForGrid(grid);
+        while (grid.DataRows() < rows) document->Lines().InsertRowForGrid(grid);
     }
     void Select(Grid& grid, GridRange range) {
-        document->FocusOn(grid);
-        document->SelectCells(grid, range);
+        document->Focus().FocusOn(grid);
+        document->Focus().SelectCells(grid, range);
     }
     void Paste(Grid& grid, GridRange range, std::string text) {
         platform.clipboard.text = std::move(text);
         Select(grid, range);
-        document->Paste();
+        document->Edit().Paste();
     }
     std::string CopyOf(Grid& grid, GridRange range) {
         Select(grid, range);
-        document->Copy();
+        document->Edit().Copy();
         return platform.clipboard.text.value_or("nothing");
     }
     // The texts of a block as a copy without headers gives them.
@@ -71,7 +71,7 @@ TEST_F(ClipboardTest, AnotherShapeIsFilledOnlyWithTheSetting) {
     EXPECT_EQ(State(), before);
     EXPECT_EQ(Steps(), steps);
     host.pasteMismatchSize = true;
-    document->Paste();
+    document->Edit().Paste();
     EXPECT_EQ(Cells(adjuncts, {1, 0, 3, 2}), "a\tb\ta\rc\td\tc\ra\tb\ta\r");
     EXPECT_THAT(Boxes(), IsEmpty());
 }
@@ -83,7 +83,7 @@ TEST_F(ClipboardTest, ALargerBlockIsCutOnlyWithTheSetting) {
     Paste(adjuncts, {1, 0, 2, 1}, block);
     EXPECT_THAT(Boxes(), ElementsAre(kMisfit));
     host.pasteMismatchSize = true;
-    document->Paste();
+    document->Edit().Paste();
     EXPECT_EQ(Cells(adjuncts, {1, 0, 2, 3}), "a\tb\t\t\rd\te\t\t\r");
 }
 
@@ -104,7 +104,7 @@ TEST_F(ClipboardTest, OneRowGrowsToTheHeightOfTheBlock) {
     Paste(adjuncts, {4, 0, 4, 0}, "x\ry\r");
     EXPECT_THAT(Boxes(), ElementsAre(kMisfit));
     host.pasteMismatchSize = true;
-    document->Paste();
+    document->Edit().Paste();
     EXPECT_EQ(adjuncts.Text(4, 0), "x");
     EXPECT_EQ(adjuncts.DataRows(), 4);
 }
@@ -138,14 +138,14 @@ TEST_F(ClipboardTest, ATotalsRowUsesUpARowOfTheBlock) {
 TEST_F(ClipboardTest, CheckBoxesTravelAsYesAndNo) {
     Grid& hops = R().gridHops;
     Rows(hops, 4);
-    document->SetChecked(hops, 1, HopCol::Sock, false);
+    document->Cells().SetChecked(hops, 1, HopCol::Sock, false);
     EXPECT_EQ(CopyOf(hops, {1, HopCol::Sock, 2, HopCol::Sock}), "No\rYes\r");
-    document->SetChecked(hops, 4, HopCol::Sock, false);
+    document->Cells().SetChecked(hops, 4, HopCol::Sock, false);
     Select(hops, {3, HopCol::Sock, 4, HopCol::Sock});
-    document->Paste();
+    document->Edit().Paste();
     EXPECT_FALSE(hops.Checked(3, HopCol::Sock));
     EXPECT_TRUE(hops.Checked(4, HopCol::Sock));
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_TRUE(hops.Checked(3, HopCol::Sock));
     EXPECT_FALSE(hops.Checked(4, HopCol::Sock));
 }
@@ -172,9 +172,9 @@ TEST_F(ClipboardTest, CataloguePastesLookTheirNamesUpAndLaterCellsWin) {
     EXPECT_EQ(grain.Text(1, GrainCol::Ppg), "31");
     EXPECT_EQ(grain.Text(1, GrainCol::Color), "60");
     const std::string after = State();
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(Cells(grain, {1, 0, 1, 5}), "\t\t\t\t\t\r");
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(State(), after);
 }
 
@@ -190,22 +190,22 @@ TEST_F(ClipboardTest, HeadersGoAlongWithWholeColumnsOnly) {
 
 TEST_F(ClipboardTest, SelectAllTakesTheTotalsRowsToo) {
     Put(R().gridGrain, 1, GrainCol::Amount, "8");
-    document->FocusOn(R().gridGrain);
-    document->SelectAll();
-    document->Copy();
+    document->Focus().FocusOn(R().gridGrain);
+    document->Edit().SelectAll();
+    document->Edit().Copy();
     EXPECT_EQ(platform.clipboard.text, "\t8\t\t\t\t\rTotal\t8 lbs.\t\t\t\t\r");
-    document->Clear();
+    document->Edit().Clear();
     EXPECT_EQ(Cells(R().gridGrain, {1, 0, 2, 5}), "\t\t\t\t\t\rTotal\t\t\t\t\t\r");
 }
 
 TEST_F(ClipboardTest, AGridWithoutRowsTakesAndGivesNothing) {
     platform.clipboard.text = "x\ty\r";
-    document->FocusOn(R().gridLog);
-    document->SelectAll();
-    document->Copy();
-    document->Cut();
-    document->Clear();
-    document->Paste();
+    document->Focus().FocusOn(R().gridLog);
+    document->Edit().SelectAll();
+    document->Edit().Copy();
+    document->Edit().Cut();
+    document->Edit().Clear();
+    document->Edit().Paste();
     EXPECT_EQ(platform.clipboard.text, "x\ty\r");
     EXPECT_EQ(Steps(), 0U);
     EXPECT_EQ(R().gridLog.Rows(), 1);
@@ -213,21 +213,21 @@ TEST_F(ClipboardTest, AGridWithoutRowsTakesAndGivesNothing) {
 
 TEST_F(ClipboardTest, WithoutAControlNothingHappens) {
     platform.clipboard.text = "x";
-    document->FocusElsewhere();
-    document->SelectAll();
-    document->Copy();
-    document->Cut();
-    document->Clear();
-    document->Paste();
+    document->Focus().FocusElsewhere();
+    document->Edit().SelectAll();
+    document->Edit().Copy();
+    document->Edit().Cut();
+    document->Edit().Clear();
+    document->Edit().Paste();
     EXPECT_EQ(platform.clipboard.text, "x");
     EXPECT_EQ(Steps(), 0U);
 }
 
 TEST_F(ClipboardTest, AnEmptyClipboardPastesNothing) {
-    document->FocusOn(R().gridGrain);
-    document->Paste();
-    document->FocusOn(R().txtName);
-    document->Paste();
+    document->Focus().FocusOn(R().gridGrain);
+    document->Edit().Paste();
+    document->Focus().FocusOn(R().txtName);
+    document->Edit().Paste();
     EXPECT_EQ(Steps(), 0U);
 }
 
@@ -249,15 +249,15 @@ TEST_F(ClipboardTest, AFaultInTheMiddleTakesAllBack) {
     Set(R().txtTotalVol, "5");
     SaveAs("Stored");
     Set(R().txtNotes, "A");
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     const std::string before = State();
     platform.clipboard.text = "Rye\t" + std::string(308, '9') + "\t36\r";
     Select(R().gridExtract, {1, 0, 1, 0});
-    EXPECT_THROW(document->Paste(), Error);
+    EXPECT_THROW(document->Edit().Paste(), Error);
     EXPECT_EQ(State(), before);
     EXPECT_FALSE(document->History().CanUndo());
     // Nothing was made, so that what could be redone still can.
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(R().txtNotes.Text(), "A");
 }
 
@@ -266,7 +266,7 @@ TEST_F(ClipboardTest, AFaultLeavesACleanDocumentClean) {
     SaveAs("Stored");
     platform.clipboard.text = std::string(308, '9') + "\t36\r";
     Select(R().gridExtract, {1, 1, 1, 1});
-    EXPECT_THROW(document->Paste(), Error);
+    EXPECT_THROW(document->Edit().Paste(), Error);
     EXPECT_FALSE(document->Changed());
     EXPECT_FALSE(host.IsOn("EnableSave"));
 }
@@ -279,15 +279,15 @@ TEST_F(ClipboardTest, CutCellsComeBackInOneStep) {
     Put(hops, 2, HopCol::Time, "60");
     const std::string before = State();
     Select(hops, {1, 0, 2, HopCol::Ibu});
-    document->Cut();
+    document->Edit().Cut();
     EXPECT_EQ(platform.clipboard.text, "Saaz\t3.5\tPellet\tYes\t1 oz\tNo\t\t\r\t\tPellet\tYes\t\tNo\t60\t\r");
     EXPECT_EQ(Cells(hops, {1, 0, 2, 7}), "\t\t\t\t\t\t\t\r\t\t\t\t\t\t\t\r");
     // Check boxes stay as they are.
     EXPECT_TRUE(hops.Checked(1, HopCol::Sock));
     EXPECT_EQ(document->History().UndoType(), "Cut");
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(State(), before);
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(hops.Text(1, HopCol::Variety), "");
 }
 
@@ -297,10 +297,10 @@ TEST_F(ClipboardTest, ClearedCellsComeBackInOneStep) {
     Put(grain, 1, GrainCol::Ppg, "36");
     const std::string before = State();
     Select(grain, {1, 0, 1, 5});
-    document->Clear();
+    document->Edit().Clear();
     EXPECT_EQ(document->History().UndoType(), "Delete");
     EXPECT_EQ(grain.Text(2, GrainCol::Amount), "");
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(State(), before);
 }
 
@@ -308,21 +308,21 @@ TEST_F(ClipboardTest, ClearedCellsComeBackInOneStep) {
 
 TEST_F(ClipboardTest, ATextBoxCutsAndPastesItsSelection) {
     Set(R().txtName, "Grüne Malztype");
-    document->FocusOn(R().txtName);
+    document->Focus().FocusOn(R().txtName);
     R().txtName.Select({2, 4});
-    document->Copy();
+    document->Edit().Copy();
     EXPECT_EQ(platform.clipboard.text, "üne ");
-    document->Cut();
+    document->Edit().Cut();
     EXPECT_EQ(R().txtName.Text(), "GrMalztype");
     EXPECT_EQ(R().txtName.Selection(), (TextSelection{2, 0}));
     EXPECT_EQ(document->History().UndoType(), "Cut");
-    document->Paste();
+    document->Edit().Paste();
     EXPECT_EQ(R().txtName.Text(), "Grüne Malztype");
     EXPECT_EQ(R().txtName.Selection(), (TextSelection{6, 0}));
     EXPECT_EQ(document->History().UndoType(), "Paste");
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtName.Text(), "GrMalztype");
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtName.Text(), "Grüne Malztype");
     EXPECT_EQ(R().txtName.Selection(), (TextSelection{2, 4}));
 }
@@ -330,9 +330,9 @@ TEST_F(ClipboardTest, ATextBoxCutsAndPastesItsSelection) {
 TEST_F(ClipboardTest, ACopyWithoutASelectionKeepsTheClipboard) {
     platform.clipboard.text = "x";
     Set(R().txtName, "A");
-    document->FocusOn(R().txtName);
+    document->Focus().FocusOn(R().txtName);
     R().txtName.Select({1, 0});
-    document->Copy();
+    document->Edit().Copy();
     EXPECT_EQ(platform.clipboard.text, "x");
 }
 
@@ -342,42 +342,42 @@ TEST_F(ClipboardTest, AComputedBoxIsCopiedAndNothingElse) {
     Put(R().gridExtract, 1, GrainCol::Ppg, "40");
     ASSERT_EQ(R().txtOG.Text(), "1.040");
     const std::size_t steps = Steps();
-    document->FocusOn(R().txtOG);
-    document->SelectAll();
-    document->Copy();
+    document->Focus().FocusOn(R().txtOG);
+    document->Edit().SelectAll();
+    document->Edit().Copy();
     EXPECT_EQ(platform.clipboard.text, "1.040");
-    document->Cut();
-    document->Clear();
-    document->Paste();
+    document->Edit().Cut();
+    document->Edit().Clear();
+    document->Edit().Paste();
     EXPECT_EQ(R().txtOG.Text(), "1.040");
     EXPECT_EQ(Steps(), steps);
 }
 
 TEST_F(ClipboardTest, NotesKeepTheirLines) {
-    document->FocusOn(R().txtNotes);
+    document->Focus().FocusOn(R().txtNotes);
     platform.clipboard.text = "a\nb\rc\r\nd";
-    document->Paste();
+    document->Edit().Paste();
     EXPECT_EQ(R().txtNotes.Text(), "a\r\nb\r\nc\r\nd");
-    document->FocusOn(R().txtName);
-    document->Paste();
+    document->Focus().FocusOn(R().txtName);
+    document->Edit().Paste();
     EXPECT_EQ(R().txtName.Text(), "a b c d");
-    ASSERT_TRUE(document->Undo());
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtNotes.Text(), "");
 }
 
 TEST_F(ClipboardTest, APastedEntryIsReadAsTheBoxIsLeft) {
-    document->FocusOn(R().txtBoilVol);
+    document->Focus().FocusOn(R().txtBoilVol);
     platform.clipboard.text = "6 gal";
-    document->Paste();
+    document->Edit().Paste();
     EXPECT_EQ(R().txtBoilVol.Committed(), "");
-    document->FocusOn(R().gridGrain);
+    document->Focus().FocusOn(R().gridGrain);
     EXPECT_EQ(R().txtBoilVol.Value(), 6);
     platform.clipboard.text = "much";
-    document->FocusOn(R().txtBoilVol);
-    document->SelectAll();
-    document->Paste();
-    document->FocusOn(R().gridGrain);
+    document->Focus().FocusOn(R().txtBoilVol);
+    document->Edit().SelectAll();
+    document->Edit().Paste();
+    document->Focus().FocusOn(R().gridGrain);
     EXPECT_THAT(Boxes(), ElementsAre("[Invalid Entry] Please enter a valid volume"));
     EXPECT_EQ(R().txtBoilVol.Text(), "6 gal");
     EXPECT_EQ(document->History().UndoType(), "Abort");

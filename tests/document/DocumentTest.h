@@ -34,13 +34,13 @@ class DocumentTest : public testing::Test {
         document = std::make_unique<RecipeDocument>(host, platform.platform, *database, colors, 3);
         host.documents.push_back(document.get());
         host.active = document.get();
-        document->Activate();
+        document->Focus().Activate();
         host.log.clear();
         return *document;
     }
     // The same with a stored recipe in it.
     RecipeDocument& Open(std::string_view name) {
-        New().OpenRecipe(name);
+        New().Storage().Open(name);
         host.log.clear();
         return *document;
     }
@@ -48,17 +48,15 @@ class DocumentTest : public testing::Test {
 
     // Types a text and leaves the box.
     bool Set(TextBox& box, std::string_view text, Asking asking = Asking::Aloud) {
-        document->SetText(box, text);
-        return document->CommitField(box, asking);
+        document->Fields().SetText(box, text);
+        return document->Fields().CommitField(box, asking);
     }
     bool Put(Grid& grid, int row, int col, std::string_view text) {
-        return document->EditCell(grid, row, col, text);
+        return document->Cells().EditCell(grid, row, col, text);
     }
     // Saves under a name; the recipe then stands in folder 0.
     void SaveAs(std::string_view name) {
-        bool ok = false;
-        document->SaveRecipeAs(name, 0, true, ok);
-        ASSERT_TRUE(ok);
+        ASSERT_TRUE(document->Storage().SaveUnder(name, 0, Asking::Quietly));
     }
     std::string One(std::string_view sql) {
         const Recordset rows = database->OpenRecordset(sql);

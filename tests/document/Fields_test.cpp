@@ -52,8 +52,7 @@ TEST_F(FieldsTest, ADefaultThatCannotBeReadLeavesItsFieldEmpty) {
 TEST_F(FieldsTest, AnUnchangedTextIsNoCommit) {
     New();
     Set(R().txtTotalVol, "5");
-    bool ok = false;
-    document->SaveRecipeAs("A", 0, true, ok);
+    EXPECT_TRUE(document->Storage().SaveUnder("A", 0, Asking::Quietly));
     host.log.clear();
     EXPECT_TRUE(Set(R().txtTotalVol, "5"));
     EXPECT_THAT(host.log, IsEmpty());
@@ -89,11 +88,11 @@ TEST_F(FieldsTest, TellsWhatIsWrongToTheLetter) {
         // The text stays for the brewer to mend; nothing else has moved.
         EXPECT_EQ(c.box.Text(), c.text);
         EXPECT_EQ(c.box.Committed(), "");
-        document->RestoreField(c.box);
+        document->Fields().RestoreField(c.box);
         EXPECT_EQ(c.box.Text(), "");
         EXPECT_FALSE(Set(c.box, c.text, Asking::Quietly));
         EXPECT_THAT(Boxes(), IsEmpty());
-        document->RestoreField(c.box);
+        document->Fields().RestoreField(c.box);
     }
     EXPECT_FALSE(document->Changed());
     EXPECT_EQ(r.txtHopExtraction.Value(), 1);
@@ -183,10 +182,10 @@ TEST_F(FieldsTest, DilutionsChangeNothingButTheDocument) {
 
 TEST_F(FieldsTest, TypingAloneCommitsNothingInAValidatedBox) {
     New();
-    document->SetText(R().txtTotalVol, "5");
+    document->Fields().SetText(R().txtTotalVol, "5");
     EXPECT_FALSE(document->Changed());
     EXPECT_EQ(R().txtTotalVol.Value(), 0);
-    document->RestoreField(R().txtTotalVol);
+    document->Fields().RestoreField(R().txtTotalVol);
     EXPECT_EQ(R().txtTotalVol.Text(), "");
 }
 
@@ -194,7 +193,7 @@ TEST_F(FieldsTest, FreeTextCountsAtOnce) {
     for (TextBox RecipeRecord::*box :
          {&RecipeRecord::txtName, &RecipeRecord::txtNotes, &RecipeRecord::txtNumBatches}) {
         New();
-        document->SetText(R().*box, "x");
+        document->Fields().SetText(R().*box, "x");
         EXPECT_TRUE(document->Changed());
         EXPECT_TRUE(host.IsOn("EnableSave"));
     }
@@ -203,10 +202,10 @@ TEST_F(FieldsTest, FreeTextCountsAtOnce) {
 TEST_F(FieldsTest, TheNameIsTheCaption) {
     New();
     EXPECT_EQ(document->Caption(), "Untitled 3");
-    document->SetText(R().txtName, "  Old Ale ");
+    document->Fields().SetText(R().txtName, "  Old Ale ");
     EXPECT_EQ(document->Caption(), "Old Ale");
     EXPECT_THAT(host.log, testing::Contains("DocumentRenamed Old Ale"));
-    document->SetText(R().txtName, "  ");
+    document->Fields().SetText(R().txtName, "  ");
     EXPECT_EQ(document->Caption(), "Untitled 3");
     RecipeDocument plain(host, platform.platform, *database, colors, 0);
     EXPECT_EQ(plain.Caption(), "Untitled");
@@ -215,8 +214,8 @@ TEST_F(FieldsTest, TheNameIsTheCaption) {
 TEST_F(FieldsTest, ComputedBoxesTakeNoText) {
     New();
     for (TextBox* box : {&R().txtOG, &R().txtBG, &R().txtABV, &R().txtColor, &R().txtIBU, &R().txtCO2}) {
-        document->SetText(*box, "9");
-        EXPECT_TRUE(document->CommitField(*box));
+        document->Fields().SetText(*box, "9");
+        EXPECT_TRUE(document->Fields().CommitField(*box));
         EXPECT_EQ(box->Text(), "");
     }
     EXPECT_FALSE(document->Changed());
@@ -240,7 +239,7 @@ TEST_F(FieldsTest, ATemperatureThatTheKegCannotHaveIsRefused) {
     EXPECT_EQ(R().txtTemp.Value(), 38);
     EXPECT_EQ(R().txtTemp.Committed(), "38");
     EXPECT_EQ(R().txtTemp.Text(), "0");
-    document->RestoreField(R().txtTemp);
+    document->Fields().RestoreField(R().txtTemp);
     EXPECT_EQ(Shown(), before);
     EXPECT_FALSE(Set(R().txtTemp, "0", Asking::Quietly));
     EXPECT_THAT(Boxes(), IsEmpty());
@@ -258,7 +257,7 @@ TEST_F(FieldsTest, AnArithmeticFaultRaisesAndLeavesEverythingAsItWas) {
     Put(R().gridPriming, 1, PrimingCol::Amount, "4");
     Set(R().txtTemp, "68");
     Set(R().txtFG, "1.010");
-    document->InsertRowForGrid(R().gridTreatment);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
     Put(R().gridTreatment, 1, 0, "Gypsum");
     Put(R().gridTreatment, 1, 1, "5");
     SaveAs("Sound");
@@ -281,7 +280,7 @@ TEST_F(FieldsTest, AnArithmeticFaultRaisesAndLeavesEverythingAsItWas) {
         raises(*box, tiny, kOverflowNumber);
     // Below the smallest number: the text reads as zero, which a volume refuses with words.
     EXPECT_FALSE(Set(R().txtTotalVol, "0." + std::string(330, '0') + "1"));
-    document->RestoreField(R().txtTotalVol);
+    document->Fields().RestoreField(R().txtTotalVol);
     raises(R().txtFG, std::string(150, '9'), kOverflowNumber);
     raises(R().txtHopExtraction, std::string(308, '9'), kOverflowNumber);
     raises(R().txtTotalVol, std::string(400, '9'), kOverflowNumber);
@@ -296,14 +295,14 @@ TEST_F(FieldsTest, OptionButtonsRecomputeAndCount) {
     Put(R().gridHops, 1, HopCol::Time, "89.5");
     SaveAs("A");
     ASSERT_NE(R().txtIBU.Text(), "0");
-    EXPECT_TRUE(document->ChooseOption("optTinseth"));
+    EXPECT_TRUE(document->Options().Choose("optTinseth"));
     EXPECT_FALSE(document->Changed());
-    EXPECT_TRUE(document->ChooseOption("optRager"));
+    EXPECT_TRUE(document->Options().Choose("optRager"));
     EXPECT_EQ(R().txtIBU.Text(), "0");  // the hole in the table
     EXPECT_TRUE(document->Changed());
-    EXPECT_TRUE(document->ChooseOption("optGaretz"));
+    EXPECT_TRUE(document->Options().Choose("optGaretz"));
     EXPECT_NE(R().txtIBU.Text(), "0");
-    EXPECT_FALSE(document->ChooseOption("optNoonan"));
+    EXPECT_FALSE(document->Options().Choose("optNoonan"));
 }
 
 TEST_F(FieldsTest, PackagingChoosesTheGridOfTheCarbonation) {
@@ -314,18 +313,18 @@ TEST_F(FieldsTest, PackagingChoosesTheGridOfTheCarbonation) {
     Put(R().gridPriming, 1, PrimingCol::Amount, "4");
     // 1.5188982 + 1.6256842
     EXPECT_EQ(R().txtCO2.Text(), "3.14 volumes");
-    EXPECT_TRUE(document->ChooseOption("optKeg"));
+    EXPECT_TRUE(document->Options().Choose("optKeg"));
     EXPECT_EQ(R().txtCO2.Text(), "");
     EXPECT_TRUE(host.IsOn("EnableChangeCarbonation"));
     Put(R().gridPressure, 1, 0, "11.24617283 psi");
     EXPECT_EQ(R().txtCO2.Text(), "2.50 volumes");
-    EXPECT_TRUE(document->ChooseOption("optBottle"));
+    EXPECT_TRUE(document->Options().Choose("optBottle"));
     EXPECT_EQ(R().txtCO2.Text(), "3.14 volumes");
 }
 
 TEST_F(FieldsTest, ActivationSetsTheCommandsInOrder) {
     New();
-    document->Activate();
+    document->Focus().Activate();
     EXPECT_THAT(host.log,
                 ElementsAre("EnableSave off", "EnableResizeRecipe off", "EnableChangeStrength off",
                             "EnableChangeBitterness off", "EnableChangeCarbonation off", "EnableUndo off",
@@ -344,7 +343,7 @@ TEST_F(FieldsTest, BlanksAloneAreTheEmptyTextInAQuantity) {
     EXPECT_EQ(R().txtTotalVol.Text() + R().txtTotalVol.Committed(), "");
     EXPECT_EQ(R().txtOG.Text(), "");
     EXPECT_FALSE(host.IsOn("EnableResizeRecipe"));
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtTotalVol.Text(), "5 gal");
     EXPECT_TRUE(Set(R().txtHopExtraction, " "));
     EXPECT_EQ(R().txtHopExtraction.Text(), "");

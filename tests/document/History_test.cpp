@@ -24,16 +24,16 @@ class HistoryTest : public DocumentTest {
         Put(R().gridGrain, 1, GrainCol::Ppg, "36");
     }
     void PitchYeast() {
-        document->InsertRowForGrid(R().gridLog);
+        document->Lines().InsertRowForGrid(R().gridLog);
         Put(R().gridLog, 1, LogCol::Action, "Pitched Yeast");
-        document->SetCurrentCell(R().gridLog, 1, LogCol::Notes);
-        document->ChangeYeast("Ale");
+        document->Focus().SetCurrentCell(R().gridLog, 1, LogCol::Notes);
+        document->Picks().Take(PickList::Yeast, "Ale");
     }
     void ExpectUndoAndRedo(const std::string& before) {
         const std::string after = State();
-        ASSERT_TRUE(document->Undo());
+        ASSERT_TRUE(document->Replay().Undo());
         EXPECT_EQ(Differences(before, State()), "");
-        ASSERT_TRUE(document->Redo());
+        ASSERT_TRUE(document->Replay().Redo());
         EXPECT_EQ(Differences(after, State()), "");
     }
 };
@@ -42,16 +42,16 @@ TEST_F(HistoryTest, TypingOnAfterLeavingIsStillTheSameStep) {
     Set(R().txtBoilVol, "6 gal");
     Set(R().txtBoilVol, "7 gal");
     EXPECT_EQ(History().StackTop(), 1U);
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtBoilVol.Text(), "");
 }
 
 TEST_F(HistoryTest, AStepBetweenPartsTheTyping) {
     Set(R().txtName, "A");
-    document->ChooseOption("optRager");
+    document->Options().Choose("optRager");
     Set(R().txtName, "AB");
     EXPECT_EQ(History().StackTop(), 3U);
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtName.Text(), "A");
 }
 
@@ -64,20 +64,20 @@ TEST_F(HistoryTest, TypingInAnotherBoxIsAnotherStep) {
 
 TEST_F(HistoryTest, TypingDoesNotJoinWhatCanBeRedone) {
     Set(R().txtName, "A");
-    document->ChooseOption("optRager");
-    ASSERT_TRUE(document->Undo());
+    document->Options().Choose("optRager");
+    ASSERT_TRUE(document->Replay().Undo());
     // The typing before is not the last record, so that this begins a new one.
     Set(R().txtName, "AB");
     EXPECT_EQ(History().StackTop(), 2U);
-    EXPECT_FALSE(document->Redo());
-    ASSERT_TRUE(document->Undo());
+    EXPECT_FALSE(document->Replay().Redo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtName.Text(), "A");
 }
 
 TEST_F(HistoryTest, TypingBackTakesTheStepAway) {
     Set(R().txtName, "A");
-    document->ChooseOption("optRager");
-    for (const char* text : {"AB", "ABC", "AB", "A"}) document->SetText(R().txtName, text);
+    document->Options().Choose("optRager");
+    for (const char* text : {"AB", "ABC", "AB", "A"}) document->Fields().SetText(R().txtName, text);
     EXPECT_EQ(History().StackTop(), 2U);
     EXPECT_EQ(History().UndoType(), "Selection");
     EXPECT_EQ(host.undoName, "Selection");
@@ -85,125 +85,125 @@ TEST_F(HistoryTest, TypingBackTakesTheStepAway) {
 
 TEST_F(HistoryTest, ARefusedEntryIsBalancedByItsAbort) {
     Set(R().txtBoilVol, "6");
-    document->FocusOn(R().txtBoilVol);
-    document->SetText(R().txtBoilVol, "much");
-    document->FocusOn(R().gridGrain);
+    document->Focus().FocusOn(R().txtBoilVol);
+    document->Fields().SetText(R().txtBoilVol, "much");
+    document->Focus().FocusOn(R().gridGrain);
     EXPECT_EQ(R().txtBoilVol.Text(), "6");
     EXPECT_EQ(History().StackTop(), 2U);
     EXPECT_EQ(History().UndoType(), "Abort");
     EXPECT_THAT(Boxes(), ElementsAre("[Invalid Entry] Please enter a valid volume"));
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtBoilVol.Text(), "much");
     EXPECT_EQ(R().txtBoilVol.Value(), 6);
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtBoilVol.Text(), "");
-    ASSERT_TRUE(document->Redo());
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(R().txtBoilVol.Text(), "6");
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
 TEST_F(HistoryTest, UndoWhileAWrongEntryStandsTakesTheEntryBack) {
     Set(R().txtBoilVol, "6");
-    document->ChooseOption("optRager");
-    document->FocusOn(R().txtBoilVol);
+    document->Options().Choose("optRager");
+    document->Focus().FocusOn(R().txtBoilVol);
     for (const char* text : {"much", "1/0"}) {
-        document->SetText(R().txtBoilVol, text);
-        ASSERT_TRUE(document->Undo());
+        document->Fields().SetText(R().txtBoilVol, text);
+        ASSERT_TRUE(document->Replay().Undo());
         EXPECT_EQ(R().txtBoilVol.Text(), "6");
         EXPECT_EQ(History().UndoType(), "Selection");
         EXPECT_EQ(History().RedoType(), "Typing");
         EXPECT_THAT(Boxes(), IsEmpty());
-        ASSERT_TRUE(document->Redo());
+        ASSERT_TRUE(document->Replay().Redo());
         EXPECT_EQ(R().txtBoilVol.Text(), text);
         EXPECT_EQ(R().txtBoilVol.Value(), 6);
-        ASSERT_TRUE(document->Undo());
+        ASSERT_TRUE(document->Replay().Undo());
     }
 }
 
 TEST_F(HistoryTest, EscapeIsAnAbortInAFieldAndTypingInFreeText) {
     Set(R().txtTemp, "68");
-    document->SetText(R().txtTemp, "6");
-    document->RestoreField(R().txtTemp);
+    document->Fields().SetText(R().txtTemp, "6");
+    document->Fields().RestoreField(R().txtTemp);
     EXPECT_EQ(History().UndoType(), "Abort");
     Set(R().txtName, "A");
-    document->SetText(R().txtName, "AB");
-    document->RestoreField(R().txtName);
+    document->Fields().SetText(R().txtName, "AB");
+    document->Fields().RestoreField(R().txtName);
     EXPECT_EQ(R().txtName.Text(), "A");
     EXPECT_EQ(History().UndoType(), "Typing");
 }
 
 TEST_F(HistoryTest, AStepShowsItsTab) {
-    document->SetTab(Tab::Grains);
+    document->Focus().SetTab(Tab::Grains);
     Put(R().gridGrain, 1, GrainCol::Amount, "8");
-    document->SetTab(Tab::Notes);
-    ASSERT_TRUE(document->Undo());
-    EXPECT_EQ(document->CurrentTab(), Tab::Grains);
-    document->SetTab(Tab::Log);
-    ASSERT_TRUE(document->Redo());
-    EXPECT_EQ(document->CurrentTab(), Tab::Grains);
+    document->Focus().SetTab(Tab::Notes);
+    ASSERT_TRUE(document->Replay().Undo());
+    EXPECT_EQ(document->Focus().CurrentTab(), Tab::Grains);
+    document->Focus().SetTab(Tab::Log);
+    ASSERT_TRUE(document->Replay().Redo());
+    EXPECT_EQ(document->Focus().CurrentTab(), Tab::Grains);
 }
 
 TEST_F(HistoryTest, ACellStepSelectsItsCellAndItsCommands) {
     host.appendRows = true;
-    document->SetTab(Tab::Grains);
-    document->InsertRowForGrid(R().gridGrain);
-    document->SetCurrentCell(R().gridGrain, 2, GrainCol::Color);
+    document->Focus().SetTab(Tab::Grains);
+    document->Lines().InsertRowForGrid(R().gridGrain);
+    document->Focus().SetCurrentCell(R().gridGrain, 2, GrainCol::Color);
     Put(R().gridGrain, 2, GrainCol::Color, "4");
-    document->SetCurrentCell(R().gridGrain, 3, 0);
+    document->Focus().SetCurrentCell(R().gridGrain, 3, 0);
     ASSERT_FALSE(host.IsOn("EnableDelete"));
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridGrain.Selection(), (GridRange{2, GrainCol::Color, 2, GrainCol::Color}));
     EXPECT_TRUE(host.IsOn("EnableDelete"));
 }
 
 TEST_F(HistoryTest, TheFirstRowOfAnEmptyGridGoes) {
-    document->InsertRowForGrid(R().gridAdjuncts);
-    ASSERT_TRUE(document->Undo());
+    document->Lines().InsertRowForGrid(R().gridAdjuncts);
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridAdjuncts.DataRows(), 0);
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(R().gridAdjuncts.DataRows(), 1);
 }
 
 TEST_F(HistoryTest, AnAppendedRowGoesWhateverTheSettingIsNow) {
     host.appendRows = true;
-    document->InsertRowForGrid(R().gridGrain);
+    document->Lines().InsertRowForGrid(R().gridGrain);
     Put(R().gridGrain, 1, 0, "A");
     Put(R().gridGrain, 2, 0, "B");
-    document->SetCurrentCell(R().gridGrain, 1, 0);
-    document->InsertRowForGrid(R().gridGrain);
+    document->Focus().SetCurrentCell(R().gridGrain, 1, 0);
+    document->Lines().InsertRowForGrid(R().gridGrain);
     host.appendRows = false;
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridGrain.Text(1, 0), "A");
     EXPECT_EQ(R().gridGrain.Text(2, 0), "B");
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(R().gridGrain.Text(2, 0), "B");
     EXPECT_EQ(R().gridGrain.Text(3, 0), "");
 }
 
 TEST_F(HistoryTest, TheLastRowDeletedComesBackBehindTheOthers) {
     host.appendRows = true;
-    document->InsertRowForGrid(R().gridPriming);
+    document->Lines().InsertRowForGrid(R().gridPriming);
     Put(R().gridPriming, 1, 0, "A");
     Put(R().gridPriming, 2, 0, "B");
     const std::string before = State();
-    document->SetCurrentCell(R().gridPriming, 2, 0);
-    document->DeleteRowForGrid(R().gridPriming);
+    document->Focus().SetCurrentCell(R().gridPriming, 2, 0);
+    document->Lines().DeleteRowForGrid(R().gridPriming);
     EXPECT_EQ(R().gridPriming.Text(2, 0), "Residual");
     ExpectUndoAndRedo(before);
 }
 
 TEST_F(HistoryTest, AStyleGoesWithItsWater) {
     Put(R().gridWater, WaterRow::Source, WaterCol::Profile, "Soft");
-    document->ChangeStyle("Stout");
-    document->ChangeStyle("Half Open");
+    document->Style().ChangeStyle("Stout");
+    document->Style().ChangeStyle("Half Open");
     const std::string before = State();
-    document->ChangeStyle("(None)");
+    document->Style().ChangeStyle("(None)");
     EXPECT_EQ(R().gridWater.Text(WaterRow::Target, WaterCol::Profile), "");
     EXPECT_EQ(History().StackTop(), 4U);
     ExpectUndoAndRedo(before);
-    ASSERT_TRUE(document->Undo());
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridWater.Text(WaterRow::Target, WaterCol::FirstIon), "275");
     EXPECT_EQ(R().cmbStyle.Text(), "Stout");
 }
@@ -213,22 +213,22 @@ TEST_F(HistoryTest, EveryNameFromTheCatalogueIsOneSelection) {
         Grid& grid;
         int col;
         const char* name;
-        void (RecipeDocument::*choose)(std::string_view);
+        PickList list;
     };
-    document->InsertRowForGrid(R().gridTreatment);
-    document->InsertRowForGrid(R().gridLog);
-    const Choice choices[] = {{R().gridGrain, 0, "O'Brien's", &RecipeDocument::ChangeGrain},
-                              {R().gridExtract, 0, "Syrup", &RecipeDocument::ChangeExtract},
-                              {R().gridHops, 0, "Zeus", &RecipeDocument::ChangeHop},
-                              {R().gridLog, 2, "Cook's", &RecipeDocument::ChangeYeast},
-                              {R().gridWater, 1, "Burton", &RecipeDocument::ChangeWater},
-                              {R().gridTreatment, 0, "Gypsum", &RecipeDocument::ChangeSalt},
-                              {R().gridPriming, 0, "Honey", &RecipeDocument::ChangeSugar}};
+    document->Lines().InsertRowForGrid(R().gridTreatment);
+    document->Lines().InsertRowForGrid(R().gridLog);
+    const Choice choices[] = {{R().gridGrain, 0, "O'Brien's", PickList::Grain},
+                              {R().gridExtract, 0, "Syrup", PickList::Extract},
+                              {R().gridHops, 0, "Zeus", PickList::Hop},
+                              {R().gridLog, 2, "Cook's", PickList::Yeast},
+                              {R().gridWater, 1, "Burton", PickList::Water},
+                              {R().gridTreatment, 0, "Gypsum", PickList::Treatment},
+                              {R().gridPriming, 0, "Honey", PickList::Sugar}};
     for (const Choice& choice : choices) {
-        document->SetCurrentCell(choice.grid, 1, 0);
+        document->Focus().SetCurrentCell(choice.grid, 1, 0);
         const std::size_t steps = History().StackTop();
         const std::string before = State();
-        (document.get()->*choice.choose)(choice.name);
+        document->Picks().Take(choice.list, choice.name);
         EXPECT_EQ(choice.grid.Text(1, choice.col), choice.name);
         EXPECT_EQ(History().StackTop(), steps + 1) << choice.name;
         EXPECT_EQ(History().UndoType(), "Selection") << choice.name;
@@ -239,13 +239,13 @@ TEST_F(HistoryTest, EveryNameFromTheCatalogueIsOneSelection) {
 }
 
 TEST_F(HistoryTest, ADayOfTheCalendarIsOneSelection) {
-    document->PickLogDate({2024, 3, 9});
+    document->Cells().PickLogDate({2024, 3, 9});
     EXPECT_FALSE(History().CanUndo());
-    document->InsertRowForGrid(R().gridLog);
-    document->PickLogDate({2024, 3, 9});
+    document->Lines().InsertRowForGrid(R().gridLog);
+    document->Cells().PickLogDate({2024, 3, 9});
     EXPECT_EQ(R().gridLog.Text(1, LogCol::Date), "3/9/2024");
     EXPECT_EQ(History().UndoType(), "Selection");
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridLog.Text(1, LogCol::Date), "");
 }
 
@@ -256,13 +256,13 @@ TEST_F(HistoryTest, TheGravityOfAYeastComesBackFinerThanItsText) {
     const double gravity = R().txtFG.Value();
     ASSERT_NE(gravity, 1.012);
     const std::string before = State();
-    document->FocusOn(R().txtFG);
+    document->Focus().FocusOn(R().txtFG);
     Set(R().txtFG, "1.020");
     ExpectUndoAndRedo(before);
-    ASSERT_TRUE(document->Undo());
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtFG.Text(), "");
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(R().txtFG.Value(), gravity);
 }
 
@@ -274,10 +274,10 @@ TEST_F(HistoryTest, AYeastThatChangesNoTextGoesBackToTheTypedGravity) {
     PitchYeast();
     ASSERT_EQ(R().txtFG.Text(), "1.012");
     ASSERT_NE(R().txtFG.Value(), 1.012);
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtFG.Value(), 1.012);
-    ASSERT_TRUE(document->Undo());
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(Differences(before, State()), "");
 }
 
@@ -285,22 +285,22 @@ TEST_F(HistoryTest, AnEscapeKeepsTheGravityOfAYeast) {
     Brew();
     PitchYeast();
     const std::string before = State();
-    document->FocusOn(R().txtFG);
-    document->SetText(R().txtFG, "1.02");
-    document->RestoreField(R().txtFG);
+    document->Focus().FocusOn(R().txtFG);
+    document->Fields().SetText(R().txtFG, "1.02");
+    document->Fields().RestoreField(R().txtFG);
     EXPECT_EQ(Differences(before, State()), "");
-    ASSERT_TRUE(document->Undo());
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Undo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(Differences(before, State()), "");
 }
 
 TEST_F(HistoryTest, TheTimeOfDryHopsKeepsItsNumber) {
     Grid& hops = R().gridHops;
-    document->SetChecked(hops, 1, HopCol::DryHopped, true);
+    document->Cells().SetChecked(hops, 1, HopCol::DryHopped, true);
     Put(hops, 1, HopCol::Time, "45");
     ASSERT_EQ(hops.Number(1, HopCol::Time), 0);
     const std::string before = State();
-    document->SetChecked(hops, 1, HopCol::DryHopped, false);
+    document->Cells().SetChecked(hops, 1, HopCol::DryHopped, false);
     EXPECT_EQ(hops.Number(1, HopCol::Time), 45);
     ExpectUndoAndRedo(before);
 }
@@ -308,8 +308,8 @@ TEST_F(HistoryTest, TheTimeOfDryHopsKeepsItsNumber) {
 // A recipe from elsewhere may hold another number than its text tells.
 TEST_F(HistoryTest, ADeletedRowComesBackWithItsStoredNumbers) {
     host.appendRows = true;
-    document->InsertRowForGrid(R().gridGrain);
-    document->InsertRowForGrid(R().gridTreatment);
+    document->Lines().InsertRowForGrid(R().gridGrain);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
     Put(R().gridGrain, 1, GrainCol::Amount, "8 lb");
     Put(R().gridGrain, 1, GrainCol::Ppg, "36");
     Put(R().gridGrain, 1, GrainCol::Color, "2");
@@ -320,25 +320,25 @@ TEST_F(HistoryTest, ADeletedRowComesBackWithItsStoredNumbers) {
     Open("Odd");
     ASSERT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 9);
     const std::string before = State();
-    document->SetCurrentCell(R().gridGrain, 1, 0);
-    document->DeleteRowForGrid(R().gridGrain);
+    document->Focus().SetCurrentCell(R().gridGrain, 1, 0);
+    document->Lines().DeleteRowForGrid(R().gridGrain);
     ExpectUndoAndRedo(before);
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 9);
-    document->SetCurrentCell(R().gridTreatment, 1, 0);
-    document->DeleteRowForGrid(R().gridTreatment);
-    ASSERT_TRUE(document->Undo());
+    document->Focus().SetCurrentCell(R().gridTreatment, 1, 0);
+    document->Lines().DeleteRowForGrid(R().gridTreatment);
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridTreatment.Number(1, TreatmentCol::FirstIon), 20);
 }
 
 TEST_F(HistoryTest, AStepMarksTheDocumentChanged) {
     Set(R().txtName, "A");
-    document->ChooseOption("optKeg");
+    document->Options().Choose("optKeg");
     EXPECT_TRUE(document->Changed());
     SaveAs("A");
     EXPECT_FALSE(document->Changed());
     EXPECT_FALSE(host.IsOn("EnableUndo"));
-    EXPECT_FALSE(document->Undo());
+    EXPECT_FALSE(document->Replay().Undo());
     EXPECT_FALSE(document->Changed());
 }
 
@@ -346,35 +346,35 @@ TEST_F(HistoryTest, AStepMarksTheDocumentChanged) {
 
 TEST_F(HistoryTest, ACommandThatChangesNothingIsNoStep) {
     Grid& grain = R().gridGrain;
-    document->InsertRowForGrid(R().gridLog);
+    document->Lines().InsertRowForGrid(R().gridLog);
     Put(R().gridLog, 1, LogCol::Date, "3/9/2024");
     Put(grain, 1, GrainCol::Name, "Pale Malt");
     Put(grain, 1, GrainCol::Amount, "8");
     SaveAs("A");
     Put(grain, 1, GrainCol::Color, "4");
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     SaveAs("A");
     const std::function<void()> commands[] = {
-        [&] { document->Clear(); },
-        [&] { document->Cut(); },
+        [&] { document->Edit().Clear(); },
+        [&] { document->Edit().Cut(); },
         [&] {
-            document->SetCurrentCell(grain, 1, GrainCol::Amount);
+            document->Focus().SetCurrentCell(grain, 1, GrainCol::Amount);
             platform.clipboard.text = "8";
-            document->Paste();
+            document->Edit().Paste();
         },
-        [&] { document->ChangeGrain("Pale Malt"); },
+        [&] { document->Picks().Take(PickList::Grain, "Pale Malt"); },
         [&] {
-            document->PickLogDate({2024, 3, 9});
+            document->Cells().PickLogDate({2024, 3, 9});
         },
         [&] {
-            document->FocusOn(R().txtNotes);
-            document->Clear();
-            document->Cut();
+            document->Focus().FocusOn(R().txtNotes);
+            document->Edit().Clear();
+            document->Edit().Cut();
         },
     };
     for (const auto& command : commands) {
-        document->FocusOn(grain);
-        document->SetCurrentCell(grain, 1, GrainCol::Points);
+        document->Focus().FocusOn(grain);
+        document->Focus().SetCurrentCell(grain, 1, GrainCol::Points);
         command();
         EXPECT_FALSE(History().CanUndo());
         EXPECT_FALSE(host.IsOn("EnableUndo"));
@@ -384,12 +384,12 @@ TEST_F(HistoryTest, ACommandThatChangesNothingIsNoStep) {
 
 TEST_F(HistoryTest, ACommandThatChangesNothingLeavesWhatCanBeRedone) {
     Put(R().gridGrain, 1, GrainCol::Amount, "8");
-    ASSERT_TRUE(document->Undo());
-    document->FocusOn(R().gridGrain);
-    document->Clear();
+    ASSERT_TRUE(document->Replay().Undo());
+    document->Focus().FocusOn(R().gridGrain);
+    document->Edit().Clear();
     EXPECT_EQ(History().RedoType(), "Typing");
     EXPECT_TRUE(host.IsOn("EnableRedo"));
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Amount), "8");
 }
 
@@ -397,8 +397,8 @@ TEST_F(HistoryTest, ACommandThatChangesNothingLeavesWhatCanBeRedone) {
 TEST_F(HistoryTest, ACommandThatChangesNothingDoesNotPartTheTyping) {
     Set(R().txtName, "A");
     R().txtName.Select({1, 0});
-    document->FocusOn(R().txtName);
-    document->Clear();
+    document->Focus().FocusOn(R().txtName);
+    document->Edit().Clear();
     Set(R().txtName, "AB");
     EXPECT_EQ(History().StackTop(), 1U);
 }
@@ -407,7 +407,7 @@ TEST_F(HistoryTest, ACommandThatChangesNothingDoesNotPartTheTyping) {
 TEST_F(HistoryTest, AFaultBeforeTheFirstEditTakesNothingElseBack) {
     Put(R().gridGrain, 1, GrainCol::Amount, "8");
     database->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
-    EXPECT_THROW(document->ChangeGrain("Pale Malt"), Error);
+    EXPECT_THROW(document->Picks().Take(PickList::Grain, "Pale Malt"), Error);
     database->SetStatementHook({});
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Amount), "8");
     EXPECT_EQ(History().StackTop(), 1U);
@@ -417,19 +417,19 @@ TEST_F(HistoryTest, AFaultBeforeTheFirstEditTakesNothingElseBack) {
 TEST_F(HistoryTest, TakingBackAnEntryThatWasNotLeftIsNoChange) {
     Set(R().txtBoilVol, "6");
     SaveAs("A");
-    document->FocusOn(R().txtBoilVol);
+    document->Focus().FocusOn(R().txtBoilVol);
     for (const char* text : {"7", "much"}) {
-        document->SetText(R().txtBoilVol, text);
-        ASSERT_TRUE(document->Undo());
+        document->Fields().SetText(R().txtBoilVol, text);
+        ASSERT_TRUE(document->Replay().Undo());
         EXPECT_EQ(R().txtBoilVol.Text(), "6");
         EXPECT_FALSE(document->Changed());
     }
     // A refused entry that comes back is none either.
-    document->SetText(R().txtBoilVol, "much");
-    document->RestoreField(R().txtBoilVol);
-    ASSERT_TRUE(document->Undo());
+    document->Fields().SetText(R().txtBoilVol, "much");
+    document->Fields().RestoreField(R().txtBoilVol);
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtBoilVol.Text(), "much");
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_FALSE(document->Changed());
     EXPECT_THAT(Boxes(), IsEmpty());
 }
@@ -438,18 +438,18 @@ TEST_F(HistoryTest, EveryStepThatMovesTheRecipeMarksIt) {
     Grid& grain = R().gridGrain;
     const std::function<void()> edits[] = {
         [&] { Set(R().txtBoilVol, "6"); },
-        [&] { document->SetText(R().txtNotes, "x"); },
-        [&] { document->ChooseOption("optRager"); },
-        [&] { document->ChangeStyle("Lager"); },
+        [&] { document->Fields().SetText(R().txtNotes, "x"); },
+        [&] { document->Options().Choose("optRager"); },
+        [&] { document->Style().ChangeStyle("Lager"); },
         [&] { Put(grain, 1, GrainCol::Amount, "8"); },
-        [&] { document->SetChecked(R().gridHops, 1, HopCol::DryHopped, true); },
-        [&] { document->InsertRowForGrid(grain); },
+        [&] { document->Cells().SetChecked(R().gridHops, 1, HopCol::DryHopped, true); },
+        [&] { document->Lines().InsertRowForGrid(grain); },
         [&] {
             // The blank row stands first already; the second click turns the order round.
-            document->ClickHeader(grain, GrainCol::Amount);
-            document->ClickHeader(grain, GrainCol::Amount);
+            document->Lines().ClickHeader(grain, GrainCol::Amount);
+            document->Lines().ClickHeader(grain, GrainCol::Amount);
         },
-        [&] { document->DeleteRowForGrid(grain); },
+        [&] { document->Lines().DeleteRowForGrid(grain); },
     };
     for (const auto& edit : edits) {
         SaveAs("A");
@@ -457,7 +457,7 @@ TEST_F(HistoryTest, EveryStepThatMovesTheRecipeMarksIt) {
         ASSERT_TRUE(History().CanUndo());
         for (const bool undo : {true, false}) {
             host.log.clear();
-            ASSERT_TRUE(undo ? document->Undo() : document->Redo());
+            ASSERT_TRUE(undo ? document->Replay().Undo() : document->Replay().Redo());
             EXPECT_THAT(host.log, testing::Contains("EnableSave on"));
         }
     }
@@ -465,15 +465,15 @@ TEST_F(HistoryTest, EveryStepThatMovesTheRecipeMarksIt) {
 
 // A style that went meanwhile does not come back by undo, and nothing has changed then.
 TEST_F(HistoryTest, AStyleThatIsGoneDoesNotComeBack) {
-    document->SetStyleID(kLager);
+    document->Style().SetId(kLager);
     SaveAs("A");
-    document->ChangeStyle("(None)");
-    ASSERT_TRUE(document->Undo());
+    document->Style().ChangeStyle("(None)");
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().cmbStyle.Text(), "Lager");
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     database->Execute("DELETE FROM STYLES WHERE ID = 2");
-    document->NotifyStyleDeleted(kLager);
-    ASSERT_TRUE(document->Undo());
+    document->Notices().NotifyStyleDeleted(kLager);
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().cmbStyle.Text(), "(None)");
     EXPECT_EQ(document->StyleID(), 0);
 }

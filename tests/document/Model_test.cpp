@@ -112,14 +112,15 @@ void ModelTest::EditField() {
     const Outcome got =
         OutcomeOf([&] { return Set(box, text, Below(2) == 0 ? Asking::Quietly : Asking::Aloud); });
     ASSERT_EQ(got, wanted) << last_;
-    if (got == Outcome::Refused) document->RestoreField(box);
+    if (got == Outcome::Refused) document->Fields().RestoreField(box);
 }
 
 void ModelTest::EditText(Grid& grid, int row, int col, const std::string& text) {
     last_ = grid.Name() + " " + std::to_string(row) + "," + std::to_string(col) + " <- " + text;
     const Outcome wanted = plain_.Edit(grid.Name(), row - 1, col, text);
     const Outcome got = OutcomeOf([&] {
-        return document->EditCell(grid, row, col, text, Below(2) == 0 ? Asking::Quietly : Asking::Aloud);
+        return document->Cells().EditCell(grid, row, col, text,
+                                          Below(2) == 0 ? Asking::Quietly : Asking::Aloud);
     });
     ASSERT_EQ(got, wanted) << last_;
 }
@@ -162,23 +163,23 @@ void ModelTest::EditOther() {
         const bool on = Below(2) == 0;
         last_ = "check " + std::to_string(row) + "," + std::to_string(col);
         const Outcome wanted = plain_.Check(row - 1, col, on);
-        ASSERT_EQ(OutcomeOf([&] { return document->SetChecked(R().gridHops, row, col, on); }), wanted)
+        ASSERT_EQ(OutcomeOf([&] { return document->Cells().SetChecked(R().gridHops, row, col, on); }), wanted)
             << last_;
     } else if (which == 1) {
         const int index = Below(3);
         const char* const names[] = {"optTinseth", "optRager", "optGaretz"};
         last_ = names[index];
         const Outcome wanted = plain_.ChooseMethod(index);
-        ASSERT_EQ(OutcomeOf([&] { return document->ChooseOption(names[index]); }), wanted) << last_;
+        ASSERT_EQ(OutcomeOf([&] { return document->Options().Choose(names[index]); }), wanted) << last_;
     } else if (which == 2) {
         const int index = Below(2);
         last_ = index ? "optKeg" : "optBottle";
         const Outcome wanted = plain_.ChoosePackaging(index);
-        ASSERT_EQ(OutcomeOf([&] { return document->ChooseOption(last_); }), wanted) << last_;
+        ASSERT_EQ(OutcomeOf([&] { return document->Options().Choose(last_); }), wanted) << last_;
     } else {
         const int index = Below(5);
         last_ = "style " + std::to_string(index);
-        document->SelectStyle(index);
+        document->Style().Select(index);
         plain_.ChooseStyle(
             static_cast<int>(R().cmbStyle.Entries()[static_cast<std::size_t>(index)].itemData));
     }
@@ -192,16 +193,16 @@ void ModelTest::EditRows() {
         const int row = Below(grid.DataRows() + 1);
         last_ = "insert " + grid.Name() + " " + std::to_string(row);
         host.appendRows = row == grid.DataRows();
-        document->SetCurrentCell(grid, host.appendRows ? 1 : 1 + row, 0);
-        document->InsertRowForGrid(grid);
+        document->Focus().SetCurrentCell(grid, host.appendRows ? 1 : 1 + row, 0);
+        document->Lines().InsertRowForGrid(grid);
         plain_.InsertRow(grid.Name(), row);
     } else if (grid.DataRows() > grid.LeastDataRows()) {
         const int row = Below(grid.DataRows());
         last_ = "delete " + grid.Name() + " " + std::to_string(row);
-        document->SetCurrentCell(grid, 1 + row, 0);
+        document->Focus().SetCurrentCell(grid, 1 + row, 0);
         const Outcome wanted = plain_.DeleteRow(grid.Name(), row);
         ASSERT_EQ(OutcomeOf([&] {
-                      document->DeleteRowForGrid(grid);
+                      document->Lines().DeleteRowForGrid(grid);
                       return true;
                   }),
                   wanted)
@@ -212,12 +213,10 @@ void ModelTest::EditRows() {
 void ModelTest::SaveAndOpen() {
     last_ = "save and open";
     const std::string name = "Model's " + std::to_string(Below(3));
-    document->SetText(R().txtName, name);
-    document->CommitField(R().txtName);
+    document->Fields().SetText(R().txtName, name);
+    document->Fields().CommitField(R().txtName);
     plain_.Commit("txtName", name);
-    bool ok = false;
-    document->Save(false, true, ok);
-    ASSERT_TRUE(ok);
+    ASSERT_TRUE(document->Storage().Save(SaveAs::No, Asking::Quietly));
     plain_.changed = false;
     Compare("saved");
     platform.messages.log.clear();

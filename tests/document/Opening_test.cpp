@@ -19,7 +19,7 @@ class OpeningTest : public DocumentTest {
         host.appendRows = true;
         New();
         RecipeRecord& r = R();
-        document->ChangeStyle("Stout");
+        document->Style().ChangeStyle("Stout");
         Set(r.txtNumBatches, "2 or 3");
         Set(r.txtNotes, "line 1\r\nit's \"line\" 2\t%_?*[x]; DROP TABLE RECIPES;--\\ ä漢");
         Set(r.txtFinalVol, "5 1/2 gal");
@@ -27,9 +27,9 @@ class OpeningTest : public DocumentTest {
         Set(r.txtFG, "3 P");
         Set(r.txtTemp, "20 C");
         for (Grid* grid : {&r.gridGrain, &r.gridExtract, &r.gridHops, &r.gridPriming})
-            document->InsertRowForGrid(*grid);
+            document->Lines().InsertRowForGrid(*grid);
         for (Grid* grid : {&r.gridTreatment, &r.gridAdjuncts, &r.gridLog})
-            for (int i = 0; i < 2; ++i) document->InsertRowForGrid(*grid);
+            for (int i = 0; i < 2; ++i) document->Lines().InsertRowForGrid(*grid);
         for (Grid* grid : {&r.gridGrain, &r.gridExtract}) {
             Put(*grid, 1, 0, "O'Brien's");
             Put(*grid, 1, 1, "2 lb 3 oz");
@@ -44,7 +44,7 @@ class OpeningTest : public DocumentTest {
         Put(r.gridHops, 2, 0, "1.050");
         Put(r.gridHops, 2, 2, "Leaf");
         Put(r.gridHops, 2, 4, "12 ibu");
-        document->SetChecked(r.gridHops, 2, 3, false);
+        document->Cells().SetChecked(r.gridHops, 2, 3, false);
         Put(r.gridPriming, 1, 0, "Honey");
         Put(r.gridPriming, 1, 2, "113 g");
         Put(r.gridPriming, 2, 0, "null");
@@ -119,8 +119,7 @@ TEST_F(OpeningTest, SavingItAgainWritesTheSameRows) {
     const Log before = dump();
     EXPECT_EQ(before.size(), 1u + 4 + 2 + 2 + 2 + 2 + 2);
     Open("Full");
-    bool ok = false;
-    document->Save(false, false, ok);
+    EXPECT_TRUE(document->Storage().Save(SaveAs::No, Asking::Aloud));
     EXPECT_EQ(dump(), before);
 }
 
@@ -164,7 +163,7 @@ TEST_F(OpeningTest, AnyNullLeavesTheRestWhole) {
             EXPECT_EQ(R().txtNotes.Text(), name + col == "RECIPESNOTES" ? "" : notes) << name << "." << col;
             EXPECT_FALSE(document->Changed());
             bool ok = false;
-            ASSERT_NO_THROW(document->Save(false, true, ok)) << name << "." << col;
+            ASSERT_NO_THROW(ok = document->Storage().Save(SaveAs::No, Asking::Quietly)) << name << "." << col;
             EXPECT_TRUE(ok);
         }
     }
@@ -175,10 +174,9 @@ TEST_F(OpeningTest, ANullFieldKeepsTheDefaultOfANewRecipe) {
     Set(R().txtBoilVol, "7 gal");
     Set(R().txtExtract, "75");
     Set(R().txtHopExtraction, "0.9");
-    bool ok = false;
-    document->ChooseOption("optGaretz");
-    document->ChooseOption("optKeg");
-    document->Save(false, true, ok);
+    document->Options().Choose("optGaretz");
+    document->Options().Choose("optKeg");
+    EXPECT_TRUE(document->Storage().Save(SaveAs::No, Asking::Quietly));
     database->ExecuteNative(
         "UPDATE RECIPES SET BV = NULL, BV_DATA = NULL, GRAIN_EXTRACT = NULL, HOP_EXTRACT = NULL, "
         "HOP_EXTRACT_DATA = NULL, IBU_METHOD = NULL, BOTTLED = NULL, FOLDER_ID = NULL, STYLE_ID = NULL");
@@ -198,8 +196,7 @@ TEST_F(OpeningTest, ANullCreationDayIsSetByTheNextSave) {
     database->ExecuteNative("UPDATE RECIPES SET CREATED_WHEN = NULL");
     Open("Full");
     platform.clock.now = {2025, 12, 31, 23, 59, 59};
-    bool ok = false;
-    document->Save(false, false, ok);
+    EXPECT_TRUE(document->Storage().Save(SaveAs::No, Asking::Aloud));
     EXPECT_EQ(One("SELECT CREATED_WHEN FROM RECIPES"), "12/31/2025 23:59:59");
 }
 
@@ -240,13 +237,13 @@ TEST_F(OpeningTest, ImpossiblePlacesAndFormsAreAnError) {
         SaveFullRecipe();
         database->ExecuteNative(damage);
         New();
-        EXPECT_THROW(document->OpenRecipe("Full"), Error) << damage;
+        EXPECT_THROW(document->Storage().Open("Full"), Error) << damage;
     }
 }
 
 TEST_F(OpeningTest, AVanishedRecipeIsAnError) {
     New();
-    EXPECT_THROW(document->OpenRecipe("Gone"), Error);
+    EXPECT_THROW(document->Storage().Open("Gone"), Error);
     EXPECT_FALSE(document->Changed());
 }
 
@@ -274,9 +271,8 @@ TEST_F(OpeningTest, ANumberThatIsMissingOrZeroIsReadFromItsTextAgain) {
     for (const char* number : {"NULL", "0"}) {
         EmptyStore();
         SaveFullRecipe();
-        document->ChooseOption("optKeg");
-        bool ok = false;
-        document->Save(false, true, ok);
+        document->Options().Choose("optKeg");
+        EXPECT_TRUE(document->Storage().Save(SaveAs::No, Asking::Quietly));
         const Log before = Shown();
         for (const TableSchema& table : MainSchema())
             for (const ColumnDef& column : table.columns)
@@ -377,7 +373,7 @@ TEST_F(OpeningTest, NumbersThatOnlyFailTogetherAreNamedByTheirFigure) {
 TEST_F(OpeningTest, TellsTheProgramInOrder) {
     SaveFullRecipe();
     New();
-    document->OpenRecipe("full");
+    document->Storage().Open("full");
     EXPECT_EQ(host.log.back(), "AddToMRU Full");
     EXPECT_THAT(host.log, Contains("EnableSave off"));
     EXPECT_THAT(host.log, testing::Not(Contains("EnableSave on")));

@@ -107,9 +107,9 @@ void RandomEditor::CheckHistory() {
     ASSERT_EQ(host.IsOn("EnableRedo"), history_.CanRedo()) << Trace();
     ASSERT_EQ(host.undoName, history_.UndoType()) << Trace();
     ASSERT_EQ(host.redoName, history_.RedoType()) << Trace();
-    const Grid* const grid = document->GridOfTab(document->CurrentTab());
-    ASSERT_EQ(host.IsOn("EnableInsert"), grid && document->CanInsertRow(*grid)) << Trace();
-    ASSERT_EQ(host.IsOn("EnableDelete"), grid && document->CanDeleteRow(*grid)) << Trace();
+    const Grid* const grid = document->Focus().GridOfTab(document->Focus().CurrentTab());
+    ASSERT_EQ(host.IsOn("EnableInsert"), grid && document->Focus().CanInsertRow(*grid)) << Trace();
+    ASSERT_EQ(host.IsOn("EnableDelete"), grid && document->Focus().CanDeleteRow(*grid)) << Trace();
     ASSERT_EQ(host.IsOn("EnableSave"), document->Changed()) << Trace();
 }
 
@@ -131,7 +131,7 @@ void RandomEditor::CheckSelection(const PlainHistory::Step& step) {
 void RandomEditor::UndoOnce() {
     Note("undo");
     const bool expected = history_.CanUndo();
-    ASSERT_EQ(document->Undo(), expected) << Trace();
+    ASSERT_EQ(document->Replay().Undo(), expected) << Trace();
     if (!expected) return;
     const PlainHistory::Step& step = history_.Undo();
     ASSERT_EQ(TabNow(), step.tab) << Trace();
@@ -143,7 +143,7 @@ void RandomEditor::UndoOnce() {
 void RandomEditor::RedoOnce() {
     Note("redo");
     const bool expected = history_.CanRedo();
-    ASSERT_EQ(document->Redo(), expected) << Trace();
+    ASSERT_EQ(document->Replay().Redo(), expected) << Trace();
     if (!expected) return;
     const PlainHistory::Step& step = history_.Redo();
     ASSERT_EQ(TabNow(), step.tab) << Trace();
@@ -160,22 +160,20 @@ void RandomEditor::Walk() {
 
 void RandomEditor::UndoAll() {
     while (history_.CanUndo() && !HasFatalFailure()) UndoOnce();
-    ASSERT_FALSE(document->Undo());
+    ASSERT_FALSE(document->Replay().Undo());
 }
 
 void RandomEditor::RedoAll() {
     while (history_.CanRedo() && !HasFatalFailure()) RedoOnce();
-    ASSERT_FALSE(document->Redo());
+    ASSERT_FALSE(document->Replay().Redo());
 }
 
 void RandomEditor::SaveAndStartAgain() {
     Note("save");
-    if (!Leave([&] { document->FocusElsewhere(); })) return;
-    bool ok = false;
-    document->Save(false, true, ok);
-    ASSERT_TRUE(ok);
-    ASSERT_FALSE(document->Undo());
-    ASSERT_FALSE(document->Redo());
+    if (!Leave([&] { document->Focus().FocusElsewhere(); })) return;
+    ASSERT_TRUE(document->Storage().Save(SaveAs::No, Asking::Quietly));
+    ASSERT_FALSE(document->Replay().Undo());
+    ASSERT_FALSE(document->Replay().Redo());
     history_.Start(StateOf(*document, host));
 }
 
@@ -215,7 +213,7 @@ bool RandomEditor::Leave(const std::function<void()>& enter) {
 
 void RandomEditor::Key(TextBox& box, const std::string& text) {
     const std::string old = box.Text();
-    document->SetText(box, text);
+    document->Fields().SetText(box, text);
     if (box.Computed() || text == old) {
         ASSERT_EQ(box.Text(), old);
         return;
@@ -225,7 +223,7 @@ void RandomEditor::Key(TextBox& box, const std::string& text) {
     // Typed back to where the step began: committed, it is all as it was then. Only a gravity that came from
     // a yeast was finer than its text.
     if (history_.Now().open) return;
-    document->CommitField(box, Asking::Quietly);
+    document->Fields().CommitField(box, Asking::Quietly);
     if (&box == &R().txtFG) history_.SetPoint({history_.Now().state, true});
     CheckPoint("typed back");
 }
@@ -251,7 +249,7 @@ void RandomEditor::Escape(TextBox& box) {
     const bool free = box.Name() == "txtName" || box.Name() == "txtNumBatches" || box.Name() == "txtNotes";
     const std::string old = box.Text(), committed = box.Committed();
     Note("   escape " + box.Name());
-    document->RestoreField(box);
+    document->Fields().RestoreField(box);
     if (box.Computed() || old == committed) return;
     ASSERT_EQ(box.Text(), committed);
     if (!free)
@@ -269,9 +267,9 @@ void RandomEditor::TypeInBox() {
     Note(box.Name() + " <- " + text);
     if (!Leave([&] {
             // Staying in a box commits nothing.
-            document->FocusOn(box);
+            document->Focus().FocusOn(box);
             if (PendingBox(*document) == &box)
-                document->CommitField(box) || (document->RestoreField(box), true);
+                document->Fields().CommitField(box) || (document->Fields().RestoreField(box), true);
         }))
         return;
     TypeKeys(box, text);
@@ -279,26 +277,26 @@ void RandomEditor::TypeInBox() {
     if (Chance(15)) return Escape(box);
     Note("   left");
     Leave([&] {
-        if (!document->CommitField(box)) document->RestoreField(box);
+        if (!document->Fields().CommitField(box)) document->Fields().RestoreField(box);
     });
 }
 
 void RandomEditor::CutOrPasteInBox() {
     const auto& [name, texts] = kFields[static_cast<std::size_t>(Below(static_cast<int>(kFields.size())))];
     TextBox& box = *R().FindTextBox(name);
-    if (PendingBox(*document) != &box && !Leave([&] { document->FocusOn(box); })) return;
-    document->FocusOn(box);
+    if (PendingBox(*document) != &box && !Leave([&] { document->Focus().FocusOn(box); })) return;
+    document->Focus().FocusOn(box);
     const DocumentState before = StateOf(*document, host);
     if (Chance(30))
-        document->SelectAll();
+        document->Edit().SelectAll();
     else
         box.Select({Below(6), Below(6)});
     const int which = Below(3);
     platform.clipboard.text = Any(*texts);
     Note(box.Name() + (which == 0 ? " cut" : which == 1 ? " clear" : " paste " + *platform.clipboard.text));
-    if (which == 0) document->Cut();
-    if (which == 1) document->Clear();
-    if (which == 2) document->Paste();
+    if (which == 0) document->Edit().Cut();
+    if (which == 1) document->Edit().Clear();
+    if (which == 2) document->Edit().Paste();
     RecordedIfChanged(before, {which == 0 ? "Cut" : which == 1 ? "Delete" : "Paste", TabNow()});
 }
 
@@ -310,12 +308,12 @@ void RandomEditor::EditCell() {
     const std::string& text = TextFor(grid, col);
     Note(grid.Name() + " " + std::to_string(row) + "," + std::to_string(col) + " <- " + text);
     if (!Enter(grid)) return;
-    if (Chance(70)) document->SetCurrentCell(grid, row, col);
+    if (Chance(70)) document->Focus().SetCurrentCell(grid, row, col);
     const DocumentState before = StateOf(*document, host);
     const std::string old = grid.Text(row, col);
     bool done = false;
     const bool fault = Faults([&] {
-        done = document->EditCell(grid, row, col, text, Chance(50) ? Asking::Quietly : Asking::Aloud);
+        done = document->Cells().EditCell(grid, row, col, text, Chance(50) ? Asking::Quietly : Asking::Aloud);
     });
     if (fault || !done || grid.Text(row, col) == old)
         ASSERT_EQ(Differences(before.all, StateOf(*document, host).all), "") << Trace();
@@ -331,7 +329,7 @@ void RandomEditor::CheckCell() {
     if (!Enter(hops)) return;
     const DocumentState before = StateOf(*document, host);
     const bool old = hops.Checked(row, col);
-    const bool fault = Faults([&] { document->SetChecked(hops, row, col, checked); });
+    const bool fault = Faults([&] { document->Cells().SetChecked(hops, row, col, checked); });
     if (fault || hops.Checked(row, col) == old)
         ASSERT_EQ(Differences(before.all, StateOf(*document, host).all), "") << Trace();
     else
@@ -342,16 +340,16 @@ void RandomEditor::ChooseOptionOrStyle() {
     static constexpr const char* kOptions[] = {"optTinseth", "optRager", "optGaretz", "optBottle", "optKeg"};
     static constexpr const char* kStyles[] = {"stout ",    "Lager",  "Odd Water",
                                               "Half Open", "(None)", "Nothing"};
-    if (!Leave([&] { document->FocusElsewhere(); })) return;
+    if (!Leave([&] { document->Focus().FocusElsewhere(); })) return;
     const std::int64_t style = document->StyleID();
     const std::string options = R().grpIBUMethod.Value() + R().grpPkgMethod.Value();
     const std::string option = kOptions[Below(5)], name = kStyles[Below(6)];
     const int which = Below(3);
     Note(which == 0 ? option : "style " + name);
     const bool fault = Faults([&] {
-        if (which == 0) document->ChooseOption(option);
-        if (which == 1) document->ChangeStyle(name);
-        if (which == 2) document->SelectStyle(Below(5));
+        if (which == 0) document->Options().Choose(option);
+        if (which == 1) document->Style().ChangeStyle(name);
+        if (which == 2) document->Style().Select(Below(5));
     });
     const bool changed =
         style != document->StyleID() || options != R().grpIBUMethod.Value() + R().grpPkgMethod.Value();
@@ -365,13 +363,13 @@ void RandomEditor::ChangeRows() {
     Grid& grid = AnyGrid();
     if (!Enter(grid)) return;
     host.appendRows = Chance(40);
-    document->SetCurrentCell(grid, Below(grid.Rows() + 1), Below(grid.Cols()));
+    document->Focus().SetCurrentCell(grid, Below(grid.Rows() + 1), Below(grid.Cols()));
     const std::string place = grid.Name() + " " + std::to_string(grid.CurrentRow());
     const int rows = grid.Rows();
     const int row = grid.CurrentRow();
     if (Chance(55) && grid.DataRows() < kMostRows) {
         Note("insert " + place + (host.appendRows ? " append" : ""));
-        document->InsertRowForGrid(grid);
+        document->Lines().InsertRowForGrid(grid);
         ASSERT_EQ(grid.Rows(), rows + (grid.RowsCanChange() ? 1 : 0)) << Trace();
         if (grid.RowsCanChange()) Recorded({"Insert Row", TabNow()});
         return;
@@ -379,7 +377,7 @@ void RandomEditor::ChangeRows() {
     Note("delete " + place);
     const bool can = grid.RowsCanChange() && grid.IsDataRow(row) && grid.DataRows() > grid.LeastDataRows();
     const DocumentState before = StateOf(*document, host);
-    const bool fault = Faults([&] { document->DeleteRowForGrid(grid); });
+    const bool fault = Faults([&] { document->Lines().DeleteRowForGrid(grid); });
     if (fault || !can)
         ASSERT_EQ(Differences(before.all, StateOf(*document, host).all), "") << Trace();
     else
@@ -392,7 +390,7 @@ void RandomEditor::SortRows() {
     Note("sort " + grid.Name() + " " + std::to_string(col));
     if (!Enter(grid)) return;
     const DocumentState before = StateOf(*document, host);
-    document->ClickHeader(grid, col);
+    document->Lines().ClickHeader(grid, col);
     if (before == StateOf(*document, host)) return;
     ASSERT_TRUE(grid.RowsCanChange());
     Recorded({"Sort", TabNow(), {}, {}, grid.Name(), {1, col, 1, col}});
@@ -402,14 +400,14 @@ void RandomEditor::MoveAbout() {
     if (Chance(50)) {
         const int tab = Below(kTabs);
         Note("tab " + std::to_string(tab));
-        Leave([&] { document->SetTab(static_cast<Tab>(tab)); });
+        Leave([&] { document->Focus().SetTab(static_cast<Tab>(tab)); });
         return;
     }
     Grid& grid = AnyGrid();
     Note("select in " + grid.Name());
     if (!Enter(grid)) return;
-    document->SelectCells(grid,
-                          {Below(grid.Rows()), Below(grid.Cols()), Below(grid.Rows()), Below(grid.Cols())});
+    document->Focus().SelectCells(
+        grid, {Below(grid.Rows()), Below(grid.Cols()), Below(grid.Rows()), Below(grid.Cols())});
 }
 
 void RandomEditor::EditOnce() {

@@ -38,7 +38,7 @@ class RandomEditor : public DocumentTest {
     }
     const std::string& TextFor(const Grid& grid, int col);
     void Note(const std::string& what);
-    int TabNow() const { return static_cast<int>(document->CurrentTab()); }
+    int TabNow() const { return static_cast<int>(document->Focus().CurrentTab()); }
 
     // True when the change ended with a fault of its arithmetic.
     template <class Change>
@@ -55,7 +55,7 @@ class RandomEditor : public DocumentTest {
     // chain kept it.
     bool Leave(const std::function<void()>& enter);
     bool Enter(Grid& grid) {
-        return Leave([&] { document->FocusOn(grid); });
+        return Leave([&] { document->Focus().FocusOn(grid); });
     }
     void Recorded(PlainHistory::Step step);
     // A command that changes nothing is no step.

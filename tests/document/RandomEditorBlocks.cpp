@@ -22,16 +22,16 @@ void RandomEditor::ClearOrCutCells() {
     const GridRange range{Below(grid.Rows()), Below(grid.Cols()), Below(grid.Rows()), Below(grid.Cols())};
     if (!Enter(grid)) return;
     if (Chance(15))
-        document->SelectAll();
+        document->Edit().SelectAll();
     else
-        document->SelectCells(grid, range);
+        document->Focus().SelectCells(grid, range);
     const bool cut = Chance(50);
     Note((cut ? "cut " : "clear ") + grid.Name());
     if (grid.Rows() == Grid::FixedRows()) {
-        cut ? document->Cut() : document->Clear();
+        cut ? document->Edit().Cut() : document->Edit().Clear();
         return;
     }
-    Compound(cut ? "Cut" : "Delete", [&] { cut ? document->Cut() : document->Clear(); });
+    Compound(cut ? "Cut" : "Delete", [&] { cut ? document->Edit().Cut() : document->Edit().Clear(); });
 }
 
 std::string RandomEditor::Block(const Grid& grid, int col, int rows, int cols) {
@@ -51,8 +51,8 @@ std::string RandomEditor::Block(const Grid& grid, int col, int rows, int cols) {
 void RandomEditor::PasteCells() {
     Grid& grid = AnyGrid();
     if (!Enter(grid)) return;
-    document->SelectCells(grid,
-                          {Below(grid.Rows()), Below(grid.Cols()), Below(grid.Rows()), Below(grid.Cols())});
+    document->Focus().SelectCells(
+        grid, {Below(grid.Rows()), Below(grid.Cols()), Below(grid.Rows()), Below(grid.Cols())});
     const GridRange selection = grid.Selection();
     const int height = 1 + Below(3), width = 1 + Below(3);
     host.pasteMismatchSize = Chance(50);
@@ -63,11 +63,11 @@ void RandomEditor::PasteCells() {
     const int rows = selection.Rows() > 1 ? selection.Rows() : std::min(height, grid.Rows() - selection.row1);
     const int cols = selection.Cols() > 1 ? selection.Cols() : std::min(width, grid.Cols() - selection.col1);
     const bool fits = host.pasteMismatchSize || (rows % height == 0 && cols % width == 0);
-    if (grid.Rows() == Grid::FixedRows()) return document->Paste();
+    if (grid.Rows() == Grid::FixedRows()) return document->Edit().Paste();
     const DocumentState before = StateOf(*document, host);
     Boxes();
     bool refused = false;
-    const bool fault = Faults([&] { document->Paste(); });
+    const bool fault = Faults([&] { document->Edit().Paste(); });
     const Log boxes = Boxes();
     if (!fits) {
         ASSERT_EQ(
@@ -88,19 +88,19 @@ void RandomEditor::PickFromCatalogue() {
     struct Choice {
         const char* grid;
         int col;
-        void (RecipeDocument::*choose)(std::string_view);
+        PickList list;
     };
     static constexpr Choice kChoices[] = {
-        {"gridGrain", 0, &RecipeDocument::ChangeGrain},  {"gridExtract", 0, &RecipeDocument::ChangeExtract},
-        {"gridHops", 0, &RecipeDocument::ChangeHop},     {"gridLog", 2, &RecipeDocument::ChangeYeast},
-        {"gridWater", 1, &RecipeDocument::ChangeWater},  {"gridTreatment", 0, &RecipeDocument::ChangeSalt},
-        {"gridPriming", 0, &RecipeDocument::ChangeSugar}};
+        {"gridGrain", 0, PickList::Grain},  {"gridExtract", 0, PickList::Extract},
+        {"gridHops", 0, PickList::Hop},     {"gridLog", 2, PickList::Yeast},
+        {"gridWater", 1, PickList::Water},  {"gridTreatment", 0, PickList::Treatment},
+        {"gridPriming", 0, PickList::Sugar}};
     const Choice& choice = kChoices[Below(7)];
     Grid& grid = *R().FindGrid(choice.grid);
     const std::string& name = TextFor(grid, choice.col);
     Note(std::string("choose for ") + choice.grid + " " + std::to_string(grid.CurrentRow()) + ": " + name);
     if (!Enter(grid)) return;
-    Compound("Selection", [&] { (document.get()->*choice.choose)(name); });
+    Compound("Selection", [&] { document->Picks().Take(choice.list, name); });
 }
 
 void RandomEditor::PickDate() {
@@ -108,7 +108,7 @@ void RandomEditor::PickDate() {
     Note("date");
     if (!Enter(log)) return;
     const DocumentState before = StateOf(*document, host);
-    document->PickLogDate({2024, 1 + Below(12), 1 + Below(28), 0, 0, 0});
+    document->Cells().PickLogDate({2024, 1 + Below(12), 1 + Below(28), 0, 0, 0});
     RecordedIfChanged(before, {"Selection", TabNow()});
 }
 

@@ -16,11 +16,11 @@ class SnapshotTest : public DocumentTest {
   protected:
     // The document's snapshot as text, put into a new document that becomes the active one.
     void ThroughText() {
-        const std::string text = SnapshotText(document->TakeSnapshot());
+        const std::string text = SnapshotText(document->Storage().TakeSnapshot());
         const std::optional<RecipeSnapshot> read = ReadSnapshot(text);
         ASSERT_TRUE(read.has_value());
-        ASSERT_EQ(*read, document->TakeSnapshot());
-        New().Restore(*read);
+        ASSERT_EQ(*read, document->Storage().TakeSnapshot());
+        New().Storage().Restore(*read);
         host.log.clear();
     }
     void Fill() {
@@ -36,19 +36,17 @@ class SnapshotTest : public DocumentTest {
         Put(R().gridHops, 1, 0, "Zeus");
         Put(R().gridHops, 1, 4, "4 AAU");
         Put(R().gridHops, 1, 6, "60");
-        document->SetChecked(R().gridHops, 1, HopCol::Sock, false);
+        document->Cells().SetChecked(R().gridHops, 1, HopCol::Sock, false);
         Put(R().gridPriming, 1, 0, "Corn Sugar");
         Put(R().gridPriming, 1, 2, "4 oz");
         Put(R().gridWater, 1, 1, "Soft");
-        document->SetTab(Tab::Log);
-        document->InsertRow();
+        document->Focus().SetTab(Tab::Log);
+        document->Lines().InsertRow();
         Put(R().gridLog, 1, 2, "pitched");
-        document->ChangeStyle("Stout");
-        document->ChooseOption("optGaretz");
-        document->ChooseOption("optKeg");
-        bool ok = false;
-        document->SaveRecipeAs("Fill", 4, true, ok);
-        ASSERT_TRUE(ok);
+        document->Style().ChangeStyle("Stout");
+        document->Options().Choose("optGaretz");
+        document->Options().Choose("optKeg");
+        ASSERT_TRUE(document->Storage().SaveUnder("Fill", 4, Asking::Quietly));
         Set(R().txtNotes, "after the save");
     }
 };
@@ -76,9 +74,7 @@ TEST_F(SnapshotTest, ARestoredRecipeSavesOverItsStoredOne) {
     Open("Fill");
     Set(R().txtNotes, "lost");
     ThroughText();
-    bool ok = false;
-    document->Save(false, false, ok);
-    EXPECT_TRUE(ok);
+    EXPECT_TRUE(document->Storage().Save(SaveAs::No, Asking::Aloud));
     EXPECT_THAT(Boxes(), IsEmpty());
     EXPECT_EQ(Count("RECIPES"), 1);
     EXPECT_EQ(One("SELECT NOTES FROM RECIPES"), "lost");
@@ -102,8 +98,8 @@ TEST_F(SnapshotTest, EveryByteOfATextComesBack) {
     New();
     std::string bytes;
     for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
-    document->SetText(R().txtNotes, bytes + "\r\n\"\\ \\x41 ä");
-    document->SetText(R().txtName, "  two\nlines \t");
+    document->Fields().SetText(R().txtNotes, bytes + "\r\n\"\\ \\x41 ä");
+    document->Fields().SetText(R().txtName, "  two\nlines \t");
     Put(R().gridGrain, 1, 0, "end 0123\nrow\n");
     const Log before = Shown();
     ThroughText();
@@ -114,7 +110,7 @@ TEST_F(SnapshotTest, EveryByteOfATextComesBack) {
 TEST_F(SnapshotTest, AClearedTextStaysCleared) {
     Fill();
     Set(R().txtNotes, "old");
-    document->SetText(R().txtNotes, "");
+    document->Fields().SetText(R().txtNotes, "");
     ThroughText();
     EXPECT_EQ(R().txtNotes.Text(), "");
 }
@@ -122,8 +118,8 @@ TEST_F(SnapshotTest, AClearedTextStaysCleared) {
 TEST_F(SnapshotTest, AnEntryThatWasBeingTypedIsCommittedIfItCanBeRead) {
     New();
     Set(R().txtTotalVol, "5 gal");
-    document->SetText(R().txtTotalVol, "6 gal");
-    document->SetText(R().txtBoilVol, "seven");
+    document->Fields().SetText(R().txtTotalVol, "6 gal");
+    document->Fields().SetText(R().txtBoilVol, "seven");
     ThroughText();
     EXPECT_EQ(R().txtTotalVol.Value(), 6);
     EXPECT_EQ(R().txtTotalVol.Committed(), "6 gal");
@@ -133,14 +129,14 @@ TEST_F(SnapshotTest, AnEntryThatWasBeingTypedIsCommittedIfItCanBeRead) {
 
 TEST_F(SnapshotTest, WhatIsGoneFromTheDatabaseLeavesNoPlace) {
     Fill();
-    const RecipeSnapshot snapshot = document->TakeSnapshot();
+    const RecipeSnapshot snapshot = document->Storage().TakeSnapshot();
     database->Execute("DELETE FROM FOLDERS");
-    New().Restore(snapshot);
+    New().Storage().Restore(snapshot);
     EXPECT_EQ(document->FolderID(), -1);
     EXPECT_EQ(document->OrigName(), "Fill");
     database->Execute("DELETE FROM STYLES WHERE ID = 1");
     database->Execute("DELETE FROM RECIPES");
-    New().Restore(snapshot);
+    New().Storage().Restore(snapshot);
     EXPECT_EQ(document->OrigName(), "");
     EXPECT_EQ(document->BeerName(), "Fill");
     EXPECT_EQ(document->StyleID(), 0);
@@ -149,7 +145,7 @@ TEST_F(SnapshotTest, WhatIsGoneFromTheDatabaseLeavesNoPlace) {
 
 TEST_F(SnapshotTest, AnUnsavedRecipeStaysOne) {
     New();
-    document->SetText(R().txtNotes, "x");
+    document->Fields().SetText(R().txtNotes, "x");
     ThroughText();
     EXPECT_EQ(document->FolderID(), -1);
     EXPECT_EQ(document->OrigName(), "");
@@ -158,7 +154,7 @@ TEST_F(SnapshotTest, AnUnsavedRecipeStaysOne) {
 
 TEST_F(SnapshotTest, EveryDamageIsSeen) {
     Fill();
-    const std::string text = SnapshotText(document->TakeSnapshot());
+    const std::string text = SnapshotText(document->Storage().TakeSnapshot());
     for (std::size_t length = 0; length < text.size(); length += 7)
         ASSERT_FALSE(ReadSnapshot(text.substr(0, length))) << length;
     for (std::size_t at = 0; at < text.size(); at += 3) {
@@ -217,7 +213,7 @@ TEST_F(SnapshotTest, TheChecksumIsThePublishedOne) {
 
 TEST_F(SnapshotTest, RowsThatNoGridCanHaveAreRefused) {
     Fill();
-    const RecipeSnapshot good = document->TakeSnapshot();
+    const RecipeSnapshot good = document->Storage().TakeSnapshot();
     const auto grid = [](RecipeSnapshot& s, std::string_view name) -> std::vector<std::vector<Cell>>& {
         return std::ranges::find(s.grids, name, &RecipeSnapshot::Rows::grid)->rows;
     };
@@ -225,7 +221,7 @@ TEST_F(SnapshotTest, RowsThatNoGridCanHaveAreRefused) {
         RecipeSnapshot bad = good;
         spoil(bad);
         try {
-            New().Restore(bad);
+            New().Storage().Restore(bad);
         } catch (const Error&) {
             return true;
         }
@@ -268,29 +264,29 @@ class RandomSnapshots : public SnapshotTest, public testing::WithParamInterface<
             case 0: {
                 TextBox& box = *R().TextBoxes()[static_cast<std::size_t>(
                     Below(static_cast<int>(R().TextBoxes().size())))];
-                if (!Set(box, AnyText(), Asking::Quietly)) document->RestoreField(box);
+                if (!Set(box, AnyText(), Asking::Quietly)) document->Fields().RestoreField(box);
                 break;
             }
             case 1:
-                document->SetCurrentCell(grid, row, col);
-                document->InsertRowForGrid(grid);
+                document->Focus().SetCurrentCell(grid, row, col);
+                document->Lines().InsertRowForGrid(grid);
                 break;
             case 2:
-                document->SetCurrentCell(grid, row, col);
-                if (Below(3) == 0) document->DeleteRowForGrid(grid);
+                document->Focus().SetCurrentCell(grid, row, col);
+                if (Below(3) == 0) document->Lines().DeleteRowForGrid(grid);
                 break;
             case 3:
-                document->SetChecked(grid, row, col, Below(2) == 0);
+                document->Cells().SetChecked(grid, row, col, Below(2) == 0);
                 break;
             case 4:
-                document->SelectStyle(Below(6));
+                document->Style().Select(Below(6));
                 break;
             case 5:
-                document->ChooseOption(std::vector{"optTinseth", "optRager", "optGaretz", "optBottle",
-                                                   "optKeg"}[static_cast<std::size_t>(Below(5))]);
+                document->Options().Choose(std::vector{"optTinseth", "optRager", "optGaretz", "optBottle",
+                                                       "optKeg"}[static_cast<std::size_t>(Below(5))]);
                 break;
             default:
-                document->EditCell(grid, row, col, AnyText(), Asking::Quietly);
+                document->Cells().EditCell(grid, row, col, AnyText(), Asking::Quietly);
         }
     }
     std::mt19937 random_{GetParam()};
@@ -301,12 +297,12 @@ TEST_P(RandomSnapshots, ComeBackAsTheyWere) {
     for (int round = 0; round < 40; ++round) {
         for (int edit = 0; edit < 25; ++edit) Edit();
         const Log shown = Shown();
-        const RecipeSnapshot before = document->TakeSnapshot();
+        const RecipeSnapshot before = document->Storage().TakeSnapshot();
         const std::map<std::string, bool, std::less<>> commands = host.commands;
         ThroughText();
         if (HasFatalFailure()) return;
         ASSERT_EQ(Shown(), shown);
-        ASSERT_EQ(document->TakeSnapshot(), before);
+        ASSERT_EQ(document->Storage().TakeSnapshot(), before);
         for (const char* command : {"EnableResizeRecipe", "EnableChangeStrength", "EnableChangeBitterness",
                                     "EnableChangeCarbonation"})
             ASSERT_EQ(host.IsOn(command), commands.contains(command) && commands.at(command)) << command;

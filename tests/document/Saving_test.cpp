@@ -13,19 +13,18 @@ using testing::IsEmpty;
 class SavingTest : public DocumentTest {
   protected:
     bool Save(bool saveAs = false, bool silent = false) {
-        bool ok = false;
-        document->Save(saveAs, silent, ok);
-        return ok;
+        return document->Storage().Save(saveAs ? SaveAs::Yes : SaveAs::No,
+                                        silent ? Asking::Quietly : Asking::Aloud);
     }
     // A new document with some lines in it.
     void NewWithLines() {
         New();
         Put(R().gridGrain, 1, 0, "Pale Malt");
         Put(R().gridGrain, 1, 1, "8 lb");
-        document->InsertRowForGrid(R().gridLog);
+        document->Lines().InsertRowForGrid(R().gridLog);
         Put(R().gridLog, 1, 2, "note");
     }
-    void Rename(std::string_view name) { document->SetText(R().txtName, name); }
+    void Rename(std::string_view name) { document->Fields().SetText(R().txtName, name); }
 };
 
 TEST_F(SavingTest, AFirstSaveMakesTheRecipe) {
@@ -98,9 +97,7 @@ TEST_F(SavingTest, SavingUnderAnotherNameMakesACopy) {
     Rename("A");
     Save();
     platform.clock.now.day = 20;
-    bool ok = false;
-    document->SaveRecipeAs("B", 5, false, ok);
-    EXPECT_TRUE(ok);
+    EXPECT_TRUE(document->Storage().SaveUnder("B", 5, Asking::Aloud));
     EXPECT_EQ(Count("RECIPES"), 2);
     EXPECT_EQ(One("SELECT CREATED_WHEN FROM RECIPES WHERE NAME = 'B'"), "03/20/2024 14:05:07");
     EXPECT_EQ(One("SELECT FOLDER_ID FROM RECIPES WHERE NAME = 'B'"), "5");
@@ -113,24 +110,20 @@ TEST_F(SavingTest, SavingAsItselfAsks) {
     Rename("A");
     Save();
     Put(R().gridGrain, 1, 1, "9 lb");
-    bool ok = true;
-    document->SaveRecipeAs("A", 0, false, ok);
-    EXPECT_FALSE(ok);
+    EXPECT_FALSE(document->Storage().SaveUnder("A", 0, Asking::Aloud));
     EXPECT_THAT(Boxes(),
                 ElementsAre("[Overwrite existing recipe?] Another recipe named 'A' already exists.\r\n"
                             "Overwrite it? -> No"));
     EXPECT_EQ(One("SELECT AMOUNT FROM RECIPE_GRAINS WHERE GRAIN"), "8 lb");
     platform.clock.now.day = 20;
     platform.messages.answers = {Answer::Yes};
-    document->SaveRecipeAs("A", 0, false, ok);
-    EXPECT_TRUE(ok);
+    EXPECT_TRUE(document->Storage().SaveUnder("A", 0, Asking::Aloud));
     EXPECT_EQ(Count("RECIPES"), 1);
     EXPECT_EQ(One("SELECT CREATED_WHEN FROM RECIPES"), "03/20/2024 14:05:07");
     EXPECT_EQ(One("SELECT AMOUNT FROM RECIPE_GRAINS WHERE GRAIN"), "9 lb");
     EXPECT_EQ(document->OrigName(), "A");
     Boxes();
-    document->SaveRecipeAs("a", 0, true, ok);
-    EXPECT_TRUE(ok);
+    EXPECT_TRUE(document->Storage().SaveUnder("a", 0, Asking::Quietly));
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
@@ -138,7 +131,7 @@ TEST_F(SavingTest, TheNameOfAnotherRecipeAsks) {
     New();
     SaveAs("It's Mine");
     RecipeDocument other(host, platform.platform, *database, colors, 1);
-    other.OpenRecipe("It's Mine");
+    other.Storage().Open("It's Mine");
     NewWithLines();
     host.documents = {&other, document.get()};
     Rename("Yours");
@@ -177,7 +170,7 @@ TEST_F(SavingTest, ASilentSaveAsksNothing) {
 
 TEST_F(SavingTest, OrphanedLinesNeverComeToANewRecipe) {
     NewWithLines();
-    document->InsertRowForGrid(R().gridTreatment);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
     Put(R().gridTreatment, 1, 0, "Gypsum");
     Rename("A");
     Save();
@@ -213,11 +206,11 @@ TEST_F(SavingTest, AFailureAnywhereLosesNothingOfTheDocument) {
         ownHost.documents = {&own};
         ownHost.active = &own;
         bool ok = false;
-        own.SaveRecipeAs("Old", 0, true, ok);
-        own.EditCell(own.Record().gridGrain, 1, 1, "8 lb");
-        own.InsertRowForGrid(own.Record().gridLog);
-        own.EditCell(own.Record().gridLog, 1, 2, "note");
-        own.SetText(own.Record().txtName, "New");
+        ok = own.Storage().SaveUnder("Old", 0, Asking::Quietly);
+        own.Cells().EditCell(own.Record().gridGrain, 1, 1, "8 lb");
+        own.Lines().InsertRowForGrid(own.Record().gridLog);
+        own.Cells().EditCell(own.Record().gridLog, 1, 2, "note");
+        own.Fields().SetText(own.Record().txtName, "New");
         int count = 0;
         bool failed = false;
         database->SetStatementHook([&](std::string_view) {
@@ -226,7 +219,7 @@ TEST_F(SavingTest, AFailureAnywhereLosesNothingOfTheDocument) {
             throw Error("Database", "disk I/O error", 10);
         });
         try {
-            own.Save(false, false, ok);
+            ok = own.Storage().Save(SaveAs::No, Asking::Aloud);
         } catch (const Error& error) {
             EXPECT_EQ(error.WithNumber(), "disk I/O error (10)");
         }
@@ -239,7 +232,7 @@ TEST_F(SavingTest, AFailureAnywhereLosesNothingOfTheDocument) {
         EXPECT_EQ(own.BeerName(), "New") << failing;
         EXPECT_EQ(own.Record().gridGrain.Text(1, 1), "8 lb") << failing;
         EXPECT_LE(Count("RECIPES"), 1) << failing;
-        own.Save(false, true, ok);
+        ok = own.Storage().Save(SaveAs::No, Asking::Quietly);
         EXPECT_TRUE(ok) << failing;
         EXPECT_FALSE(own.Changed()) << failing;
         EXPECT_EQ(Count("RECIPES"), 1) << failing;
@@ -287,8 +280,7 @@ TEST_F(SavingTest, ARowThatCannotBeFoundAgainIsToldInABox) {
         if (!sql.starts_with("UPDATE RECIPES SET ABV")) return;
         database->ExecuteNative("DELETE FROM RECIPES");
     });
-    bool ok = false;
-    document->Save(false, false, ok);
+    const bool ok = document->Storage().Save(SaveAs::No, Asking::Aloud);
     database->SetStatementHook({});
     EXPECT_TRUE(ok);
     EXPECT_THAT(Boxes(), ElementsAre("[UNKNOWN ERROR] Error saving recipe to database!"));

@@ -35,7 +35,7 @@ class RandomScaling : public DocumentTest, public testing::WithParamInterface<un
             TextBox& box = *R().FindTextBox(name);
             const bool done = Set(box, text, Asking::Quietly);
             ASSERT_EQ(done, outcome == Outcome::Done);
-            if (!done) document->RestoreField(box);
+            if (!done) document->Fields().RestoreField(box);
         } catch (const Error&) {
             ASSERT_EQ(outcome, Outcome::Raised) << name << text;
         }
@@ -47,7 +47,8 @@ class RandomScaling : public DocumentTest, public testing::WithParamInterface<un
     void Edit(Grid& grid, int row, int col, const std::string& text) {
         const Outcome outcome = plain_.Edit(grid.Name(), row - 1, col, text);
         try {
-            ASSERT_EQ(document->EditCell(grid, row, col, text, Asking::Quietly), outcome == Outcome::Done);
+            ASSERT_EQ(document->Cells().EditCell(grid, row, col, text, Asking::Quietly),
+                      outcome == Outcome::Done);
         } catch (const Error&) {
             ASSERT_EQ(outcome, Outcome::Raised);
         }
@@ -56,8 +57,8 @@ class RandomScaling : public DocumentTest, public testing::WithParamInterface<un
         for (Grid* grid :
              {&R().gridGrain, &R().gridExtract, &R().gridHops, &R().gridTreatment, &R().gridPriming}) {
             if (grid->DataRows() > 3) continue;
-            document->SetCurrentCell(*grid, 1, 0);
-            document->InsertRowForGrid(*grid);
+            document->Focus().SetCurrentCell(*grid, 1, 0);
+            document->Lines().InsertRowForGrid(*grid);
             plain_.InsertRow(grid->Name(), 0);
         }
     }
@@ -93,7 +94,7 @@ void RandomScaling::MakeRecipe() {
     Edit(R().gridPressure, 1, PressureCol::Pressure, Any({"11", "1 atm", "0", ""}));
     const int packaging = Below(2);
     plain_.ChoosePackaging(packaging);
-    document->ChooseOption(packaging ? "optKeg" : "optBottle");
+    document->Options().Choose(packaging ? "optKeg" : "optBottle");
 }
 
 Outcome RandomScaling::ScalePlainly(int what, double value, bool first, bool second, bool third) {
@@ -116,13 +117,13 @@ void RandomScaling::ScaleDocument(int what, double value, bool first, bool secon
     // The question about the carbonation.
     platform.messages.answers = {Answer::No};
     if (what == 0)
-        document->ScaleRecipe(value, "size " + std::to_string(value), first, second);
+        document->Scaling().ScaleRecipe(value, "size " + std::to_string(value), first, second);
     else if (what == 1)
-        document->ScaleOG(value, first);
+        document->Scaling().ScaleOG(value, first);
     else if (what == 2)
-        document->ScaleIBU(value);
+        document->Scaling().ScaleIBU(value);
     else
-        document->ScaleCO2(value, Below(2) == 0);
+        document->Scaling().ScaleCO2(value, Below(2) == 0 ? Asking::Quietly : Asking::Aloud);
 }
 
 void RandomScaling::ScaleOnce() {

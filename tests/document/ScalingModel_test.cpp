@@ -183,7 +183,7 @@ TEST_F(ScalingStart, IsTheTextShownWhereThereIsOne) {
 
 TEST_F(ScalingStart, OfTheCarbonationIsNothingToSpeakOfWithoutAFigure) {
     New();
-    document->ChooseOption("optKeg");
+    document->Options().Choose("optKeg");
     Set(R().txtTemp, "38");
     EXPECT_EQ(R().txtCO2.Text(), "");
     EXPECT_EQ(CurrentFigure(*document, Scaling::Carbonation), "0 volumes");

@@ -39,7 +39,7 @@ class Scaling : public DocumentTest {
         EXPECT_TRUE(host.IsOn("EnableSave"));
         EXPECT_FALSE(host.IsOn("EnableUndo"));
         EXPECT_FALSE(host.IsOn("EnableRedo"));
-        EXPECT_FALSE(document->Undo());
+        EXPECT_FALSE(document->Replay().Undo());
     }
     DocumentState State() { return StateOf(*document, host); }
     const std::string& Grain() { return R().gridGrain.Text(1, GrainCol::Amount); }
@@ -53,10 +53,10 @@ TEST_F(Scaling, WithoutAYesNothingHappens) {
     SaveAs("As It Was");
     const DocumentState before = State();
     AnswerQuestions({"cmdNo", "cmdNo", "cmdNo", "cmdNo"});
-    document->ScaleRecipe(10, "10 gal", true, true);
-    document->ScaleOG(1.06, false);
-    document->ScaleIBU(40);
-    document->ScaleCO2(3, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", true, true);
+    document->Scaling().ScaleOG(1.06, false);
+    document->Scaling().ScaleIBU(40);
+    document->Scaling().ScaleCO2(3, Asking::Aloud);
     EXPECT_EQ(platform.dialogs.shown, Log(4, "frmCannotUndo"));
     EXPECT_EQ(State(), before);
     EXPECT_FALSE(document->Changed());
@@ -69,8 +69,8 @@ TEST_F(Scaling, AYesToAllOfThemIsAskedForOnce) {
         dialog.Press("cmdYes");
     });
     Prime("100", "4 oz");
-    document->ScaleRecipe(10, "10", false, false);
-    document->ScaleOG(1.03, false);
+    document->Scaling().ScaleRecipe(10, "10", false, false);
+    document->Scaling().ScaleOG(1.03, false);
     EXPECT_EQ(platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(Sugar(), "8 oz.");
 }
@@ -78,9 +78,9 @@ TEST_F(Scaling, AYesToAllOfThemIsAskedForOnce) {
 TEST_F(Scaling, EndsTheHistoryAndMarksTheRecipe) {
     SaveAs("Once");
     Put(R().gridGrain, 1, GrainCol::Color, "3");
-    document->Undo();
+    document->Replay().Undo();
     EXPECT_TRUE(host.IsOn("EnableRedo"));
-    document->ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     ExpectEnding();
     EXPECT_EQ(Grain(), "20 lbs.");
     SaveAs("Twice");
@@ -89,7 +89,7 @@ TEST_F(Scaling, EndsTheHistoryAndMarksTheRecipe) {
 
 TEST_F(Scaling, TextsThatItWritesAreCommitted) {
     Set(R().txtFinalVol, "4.5");
-    document->ScaleRecipe(10, "40 qt", true, false);
+    document->Scaling().ScaleRecipe(10, "40 qt", true, false);
     for (TextBox* box : {&R().txtTotalVol, &R().txtBoilVol, &R().txtFinalVol})
         EXPECT_EQ(box->Committed(), box->Text());
     EXPECT_EQ(R().txtTotalVol.Text(), "40 qt");
@@ -101,7 +101,7 @@ TEST_F(Scaling, TextsThatItWritesAreCommitted) {
 TEST_F(Scaling, LeavesPercentagesAndPpgAlone) {
     Put(R().gridHops, 1, HopCol::AlphaAcid, "5%");
     Prime("75%", "4 oz");
-    document->ScaleRecipe(10, "10", true, false);
+    document->Scaling().ScaleRecipe(10, "10", true, false);
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Ppg), "36");
     EXPECT_EQ(R().gridHops.Text(1, HopCol::AlphaAcid), "5%");
     EXPECT_EQ(R().gridPriming.Text(1, PrimingCol::Fermentable), "75%");
@@ -110,7 +110,7 @@ TEST_F(Scaling, LeavesPercentagesAndPpgAlone) {
 
 // 10 / 3 = 3.333...
 TEST_F(Scaling, WhatIsShownIsWhatIsKept) {
-    document->ScaleRecipe(5.0 / 3, "1 2/3 gal", true, false);
+    document->Scaling().ScaleRecipe(5.0 / 3, "1 2/3 gal", true, false);
     EXPECT_EQ(Grain(), "3.33 lbs.");
     EXPECT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 3.33);
     EXPECT_EQ(R().gridGrain.Text(2, GrainCol::Amount), "3.33 lbs.");
@@ -120,7 +120,7 @@ TEST_F(Scaling, WhatIsShownIsWhatIsKept) {
 
 TEST_F(Scaling, AFinalVolumeOfTheOldSizeTakesTheNewText) {
     Set(R().txtFinalVol, "20 qt");
-    document->ScaleRecipe(10, "10 gallons", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gallons", false, false);
     EXPECT_EQ(R().txtFinalVol.Text(), "10 gallons");
     EXPECT_EQ(R().txtFinalVol.Value(), 10);
 }
@@ -128,14 +128,14 @@ TEST_F(Scaling, AFinalVolumeOfTheOldSizeTakesTheNewText) {
 // Intended: what was gained between the two goes off the new size.
 TEST_F(Scaling, AFinalVolumeAboveTheOldSizeEndsBelowTheNewOne) {
     Set(R().txtFinalVol, "6");
-    document->ScaleRecipe(10, "10", false, false);
+    document->Scaling().ScaleRecipe(10, "10", false, false);
     EXPECT_EQ(R().txtFinalVol.Text(), "9 gal.");
 }
 
 TEST_F(Scaling, BlankRowsStayBlank) {
-    document->InsertRowForGrid(R().gridHops);
-    document->InsertRowForGrid(R().gridTreatment);
-    document->ScaleRecipe(10, "10", false, false);
+    document->Lines().InsertRowForGrid(R().gridHops);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
+    document->Scaling().ScaleRecipe(10, "10", false, false);
     EXPECT_EQ(Hops(1), "");
     EXPECT_EQ(Hops(2), "");
     EXPECT_EQ(R().gridTreatment.Text(1, TreatmentCol::Amount), "");
@@ -148,7 +148,7 @@ TEST_F(Scaling, WithoutAVolumeThereIsNoResize) {
     Set(R().txtTotalVol, "");
     const DocumentState before = State();
     EXPECT_TRUE(host.IsOn("EnableUndo"));
-    document->ScaleRecipe(10, "10", false, false);
+    document->Scaling().ScaleRecipe(10, "10", false, false);
     EXPECT_EQ(State(), before);
     EXPECT_TRUE(host.IsOn("EnableUndo"));
 }
@@ -158,10 +158,10 @@ TEST_F(Scaling, WithoutAVolumeThereIsNoResize) {
 TEST_F(Scaling, StopsWithItsHistoryWhenNoBitternessIsLeft) {
     AddIbus("0.01 IBU");
     SaveAs("Faint");
-    document->SetText(R().txtTemp, "6");
+    document->Fields().SetText(R().txtTemp, "6");
     ASSERT_TRUE(host.IsOn("EnableUndo"));
     ASSERT_FALSE(document->Changed());
-    document->ScaleRecipe(1, "1 gal", false, true);
+    document->Scaling().ScaleRecipe(1, "1 gal", false, true);
     EXPECT_EQ(Hops(), "0 IBUs");
     EXPECT_EQ(R().txtTotalVol.Text(), "1 gal");
     EXPECT_EQ(Grain(), "2 lbs.");
@@ -174,7 +174,7 @@ TEST_F(Scaling, IsMarkedByItsCarbonationWhenNoBitternessIsLeft) {
     AddIbus("0.01 IBU");
     Prime("100", "4 oz");
     SaveAs("Faint");
-    document->ScaleRecipe(1, "1 gal", false, true);
+    document->Scaling().ScaleRecipe(1, "1 gal", false, true);
     EXPECT_EQ(Hops(), "0 IBUs");
     EXPECT_EQ(Sugar(), "0.8 oz.");
     ExpectEnding();
@@ -184,7 +184,7 @@ TEST_F(Scaling, HoldsTheCarbonationOfABottledBeer) {
     Prime("100", "4 oz");
     // 4 * 0.27027 / (5 * 0.133) + 0.8615
     EXPECT_EQ(R().txtCO2.Text(), "2.49 volumes");
-    document->ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     EXPECT_EQ(Sugar(), "8 oz.");
     EXPECT_EQ(R().txtCO2.Text(), "2.49 volumes");
 }
@@ -194,7 +194,7 @@ TEST_F(Scaling, ANoToTheSecondQuestionSkipsTheCarbonationAlone) {
     Prime("100", "4 oz");
     AnswerQuestions({"cmdYes"});
     platform.messages.answers = {Answer::No};
-    document->ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     EXPECT_EQ(platform.dialogs.shown, Log(1, "frmCannotUndo"));
     EXPECT_EQ(Boxes(), Log{"[Keep the Carbonation?] Keep the carbonation of 2.49 volumes?\r\n"
                            "Yes changes the priming sugar or the pressure with the size; "
@@ -220,7 +220,7 @@ TEST_F(Scaling, BothQuestionsComeBeforeAnythingChanges) {
     });
     platform.messages.whileAsking = look;
     platform.messages.answers = {Answer::Yes};
-    document->ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     platform.messages.whileAsking = {};
     EXPECT_EQ(asked, 2);
     EXPECT_EQ(Sugar(), "8 oz.");
@@ -234,7 +234,7 @@ TEST_F(Scaling, ASizeThatLeavesNoFinalVolumeIsRefusedBeforeAnyQuestion) {
     // 2 + 5 - 8, 3 + 5 - 8, and 3.004 + 5 - 8, which rounds to nothing
     const std::pair<double, const char*> sizes[] = {{2, "-1"}, {3, "0"}, {3.004, "0"}};
     for (const auto& [size, volume] : sizes) {
-        document->ScaleRecipe(size, "some", true, true);
+        document->Scaling().ScaleRecipe(size, "some", true, true);
         EXPECT_EQ(Boxes(), Log{std::string("[Invalid Entry] The final volume would be ") + volume +
                                " gal. Please enter a larger size."});
     }
@@ -242,14 +242,14 @@ TEST_F(Scaling, ASizeThatLeavesNoFinalVolumeIsRefusedBeforeAnyQuestion) {
     EXPECT_EQ(State(), before);
     EXPECT_FALSE(document->Changed());
     host.askBefore = false;
-    document->ScaleRecipe(3.01, "3.01 gal", false, false);
+    document->Scaling().ScaleRecipe(3.01, "3.01 gal", false, false);
     EXPECT_EQ(Boxes(), Log{});
     EXPECT_EQ(R().txtFinalVol.Text(), "0.01 gal.");
 }
 
 TEST_F(Scaling, WithoutACarbonationThereIsNoSecondQuestion) {
     AnswerQuestions({"cmdYes"});
-    document->ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     EXPECT_EQ(platform.dialogs.shown, Log(1, "frmCannotUndo"));
     EXPECT_EQ(Grain(), "20 lbs.");
 }
@@ -259,13 +259,13 @@ TEST_F(Scaling, StrengthStopsAtWater) {
     SaveAs("Water");
     EXPECT_EQ(R().txtOG.Value(), 1);
     const DocumentState before = State();
-    document->ScaleOG(1.05, true);
+    document->Scaling().ScaleOG(1.05, true);
     EXPECT_EQ(State(), before);
     EXPECT_FALSE(document->Changed());
 }
 
 TEST_F(Scaling, StrengthDownToWaterEmptiesTheMash) {
-    document->ScaleOG(1, false);
+    document->Scaling().ScaleOG(1, false);
     EXPECT_EQ(Grain(), "0 lbs.");
     EXPECT_EQ(R().txtOG.Text(), "1.000");
     ExpectEnding();
@@ -274,7 +274,7 @@ TEST_F(Scaling, StrengthDownToWaterEmptiesTheMash) {
 TEST_F(Scaling, TheSameStrengthIsAChangeToo) {
     SaveAs("Same");
     Put(R().gridGrain, 1, GrainCol::Color, "3");
-    document->ScaleOG(R().txtOG.Value(), false);
+    document->Scaling().ScaleOG(R().txtOG.Value(), false);
     EXPECT_EQ(Grain(), "10 lbs.");
     ExpectEnding();
 }
@@ -282,7 +282,7 @@ TEST_F(Scaling, TheSameStrengthIsAChangeToo) {
 TEST_F(Scaling, BitternessStopsAtNone) {
     AddIbus("0 IBU");
     SaveAs("Gruit");
-    document->ScaleIBU(30);
+    document->Scaling().ScaleIBU(30);
     EXPECT_EQ(Hops(), "0 IBU");
     EXPECT_FALSE(document->Changed());
 }
@@ -291,7 +291,7 @@ TEST_F(Scaling, BitternessStopsAtNone) {
 TEST_F(Scaling, BitternessScalesFromTheFullFigure) {
     AddIbus("16.4 IBU");
     EXPECT_EQ(R().txtIBU.Text(), "16");
-    document->ScaleIBU(32.8);
+    document->Scaling().ScaleIBU(32.8);
     EXPECT_EQ(Hops(), "32.8 IBUs");
     EXPECT_EQ(R().gridHops.At(1, HopCol::Amount).value, (CellValue{CellValue::Kind::BitternessUnits, 32.8}));
     ExpectEnding();
@@ -299,7 +299,7 @@ TEST_F(Scaling, BitternessScalesFromTheFullFigure) {
 
 TEST_F(Scaling, TheTotalOfTheHopsFollowsTheirKind) {
     AddIbus("2 AAU");
-    document->ScaleIBU(R().txtIBU.Value() * 3);
+    document->Scaling().ScaleIBU(R().txtIBU.Value() * 3);
     EXPECT_EQ(Hops(1), "6 AAUs");
     EXPECT_EQ(Hops(2), "6 AAUs");
     EXPECT_EQ(R().gridHops.At(1, HopCol::Amount).value, (CellValue{CellValue::Kind::AlphaAcidUnits, 6}));
@@ -308,13 +308,13 @@ TEST_F(Scaling, TheTotalOfTheHopsFollowsTheirKind) {
 // (2.5 - 0.8614872) / 1.6256842 * 4 = 4.03156...
 TEST_F(Scaling, CarbonationScalesAllSugars) {
     Prime("100", "3 oz");
-    document->SetCurrentCell(R().gridPriming, 1, 0);
-    document->InsertRowForGrid(R().gridPriming);
+    document->Focus().SetCurrentCell(R().gridPriming, 1, 0);
+    document->Lines().InsertRowForGrid(R().gridPriming);
     Put(R().gridPriming, 1, PrimingCol::Fermentable, "50");
     Put(R().gridPriming, 1, PrimingCol::Amount, "2 oz");
-    document->InsertRowForGrid(R().gridPriming);
+    document->Lines().InsertRowForGrid(R().gridPriming);
     Put(R().gridPriming, 1, PrimingCol::Amount, "0 oz");
-    document->ScaleCO2(2.5, false);
+    document->Scaling().ScaleCO2(2.5, Asking::Aloud);
     // (2.5 - 0.8614872) / (4 * 0.27027 / 0.665) = 1.00789
     EXPECT_EQ(R().gridPriming.Text(1, PrimingCol::Amount), "0 oz");
     EXPECT_EQ(R().gridPriming.Text(2, PrimingCol::Amount), "2.02 oz.");
@@ -325,7 +325,7 @@ TEST_F(Scaling, CarbonationScalesAllSugars) {
 
 TEST_F(Scaling, CarbonationOfExactlyWhatIsLeftTakesAllSugarAway) {
     Prime("100", "4 oz");
-    document->ScaleCO2(R().gridPriming.Number(2, PrimingCol::Volumes), false);
+    document->Scaling().ScaleCO2(R().gridPriming.Number(2, PrimingCol::Volumes), Asking::Aloud);
     EXPECT_EQ(Sugar(), "0 oz.");
     EXPECT_EQ(R().txtCO2.Text(), "0.86 volumes");
 }
@@ -334,10 +334,10 @@ TEST_F(Scaling, CarbonationBelowWhatIsLeftIsImpossible) {
     Prime("100", "4 oz");
     SaveAs("Bubbles");
     const DocumentState before = State();
-    document->ScaleCO2(0.86, false);
+    document->Scaling().ScaleCO2(0.86, Asking::Aloud);
     EXPECT_EQ(Boxes(), Log{"[Error] Desired carbonation impossible with the given temperature.\r\n"
                            "Try again with a higher value."});
-    document->ScaleCO2(0.86, true);
+    document->Scaling().ScaleCO2(0.86, Asking::Quietly);
     EXPECT_EQ(Boxes(), Log{});
     EXPECT_EQ(State(), before);
     EXPECT_FALSE(document->Changed());
@@ -345,10 +345,10 @@ TEST_F(Scaling, CarbonationBelowWhatIsLeftIsImpossible) {
 
 TEST_F(Scaling, CarbonationWithoutAFermentableSugarIsImpossible) {
     Prime("0%", "");
-    document->ScaleCO2(2.5, false);
+    document->Scaling().ScaleCO2(2.5, Asking::Aloud);
     EXPECT_EQ(Boxes(), Log{"[Error] Desired carbonation impossible. Please specify Fermentable% value\r\n"
                            "for at least one priming sugar."});
-    document->ScaleCO2(2.5, true);
+    document->Scaling().ScaleCO2(2.5, Asking::Quietly);
     EXPECT_EQ(Boxes(), Log{});
     EXPECT_EQ(Sugar(), "");
 }
@@ -356,11 +356,11 @@ TEST_F(Scaling, CarbonationWithoutAFermentableSugarIsImpossible) {
 // (2.5 - 0.8614872) / 0.27027 * 0.133 * 5 * 100 / 80 = 5.0395 in 5 gallons.
 TEST_F(Scaling, CarbonationFillsTheFirstSugarThatFerments) {
     Prime("0%", "");
-    document->SetCurrentCell(R().gridPriming, 2, 0);
+    document->Focus().SetCurrentCell(R().gridPriming, 2, 0);
     host.appendRows = true;
-    document->InsertRowForGrid(R().gridPriming);
+    document->Lines().InsertRowForGrid(R().gridPriming);
     Put(R().gridPriming, 2, PrimingCol::Fermentable, "80");
-    document->ScaleCO2(2.5, false);
+    document->Scaling().ScaleCO2(2.5, Asking::Aloud);
     EXPECT_EQ(R().gridPriming.Text(1, PrimingCol::Amount), "");
     EXPECT_EQ(R().gridPriming.Text(2, PrimingCol::Amount), "5.04 oz.");
     EXPECT_EQ(R().txtCO2.Text(), "2.50 volumes");
@@ -369,7 +369,7 @@ TEST_F(Scaling, CarbonationFillsTheFirstSugarThatFerments) {
 TEST_F(Scaling, CarbonationIsThatOfTheFinalVolume) {
     Prime("80%", "");
     Set(R().txtFinalVol, "10 gal");
-    document->ScaleCO2(2.5, false);
+    document->Scaling().ScaleCO2(2.5, Asking::Aloud);
     EXPECT_EQ(Sugar(), "10.08 oz.");
 }
 
@@ -377,14 +377,14 @@ class KegScaling : public Scaling {
   protected:
     KegScaling() {
         Set(R().txtTemp, "38 F");
-        document->ChooseOption("optKeg");
+        document->Options().Choose("optKeg");
     }
     const std::string& Pressure() { return R().gridPressure.Text(1, PressureCol::Pressure); }
 };
 
 // 11.246 psi; the rounded one gives 2.5004 volumes.
 TEST_F(KegScaling, CarbonationSetsThePressure) {
-    document->ScaleCO2(2.5, false);
+    document->Scaling().ScaleCO2(2.5, Asking::Aloud);
     EXPECT_EQ(Pressure(), "11.25 psi");
     EXPECT_EQ(R().gridPressure.Number(1, PressureCol::Pressure), 11.25);
     EXPECT_NEAR(R().gridPressure.Number(1, PressureCol::Volumes), 2.500365, 1e-6);
@@ -395,7 +395,7 @@ TEST_F(KegScaling, CarbonationSetsThePressure) {
 TEST_F(KegScaling, ANegativePressureIsImpossible) {
     Put(R().gridPressure, 1, PressureCol::Pressure, "11 psi");
     SaveAs("Keg");
-    document->ScaleCO2(1, false);
+    document->Scaling().ScaleCO2(1, Asking::Aloud);
     EXPECT_EQ(Boxes(), Log{"[Error] Desired carbonation impossible with the given temperature.\r\n"
                            "Try again with a higher value."});
     EXPECT_EQ(Pressure(), "11 psi");
@@ -407,9 +407,9 @@ TEST_F(KegScaling, ANegativePressureIsImpossible) {
 TEST_F(KegScaling, APressureBeyondTheCurveIsRefusedAsWhenItIsTyped) {
     Set(R().txtTemp, "60 F");
     const DocumentState before = State();
-    document->ScaleCO2(107.0108, false);
+    document->Scaling().ScaleCO2(107.0108, Asking::Aloud);
     EXPECT_EQ(Boxes(), Log{"[Error calculating carbonation] Please enter a more reasonable pressure."});
-    document->ScaleCO2(107.0108, true);
+    document->Scaling().ScaleCO2(107.0108, Asking::Quietly);
     EXPECT_EQ(Boxes(), Log{});
     EXPECT_EQ(Differences(before.all, State().all), "");
     EXPECT_TRUE(host.IsOn("EnableUndo"));
@@ -417,7 +417,7 @@ TEST_F(KegScaling, APressureBeyondTheCurveIsRefusedAsWhenItIsTyped) {
 
 TEST_F(KegScaling, ResizingHoldsThePressure) {
     Put(R().gridPressure, 1, PressureCol::Pressure, "11.25 psi");
-    document->ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     EXPECT_EQ(Pressure(), "11.25 psi");
     EXPECT_EQ(R().txtCO2.Text(), "2.50 volumes");
 }
@@ -434,20 +434,20 @@ class FaultyScaling : public Scaling {
             EXPECT_EQ(error.Number(), number);
         }
         EXPECT_EQ(Differences(before.all, State().all), "");
-        EXPECT_TRUE(document->Undo());
+        EXPECT_TRUE(document->Replay().Undo());
     }
 };
 
 TEST_F(FaultyScaling, AmountsBeyondANumberLeaveAllAsBefore) {
     AddIbus("0.5 IBU");
-    ExpectFault(kOverflowNumber, [&] { document->ScaleRecipe(1e308, "huge", true, true); });
-    ExpectFault(kOverflowNumber, [&] { document->ScaleOG(1e308, false); });
-    ExpectFault(kOverflowNumber, [&] { document->ScaleIBU(1e308); });
+    ExpectFault(kOverflowNumber, [&] { document->Scaling().ScaleRecipe(1e308, "huge", true, true); });
+    ExpectFault(kOverflowNumber, [&] { document->Scaling().ScaleOG(1e308, false); });
+    ExpectFault(kOverflowNumber, [&] { document->Scaling().ScaleIBU(1e308); });
 }
 
 // A boil volume that rounds to nothing leaves no boil gravity: the change is taken back halfway through.
 TEST_F(FaultyScaling, ABoilOfNothingLeavesAllAsBefore) {
-    ExpectFault(kDivisionByZeroNumber, [&] { document->ScaleRecipe(0.001, "0.001", true, false); });
+    ExpectFault(kDivisionByZeroNumber, [&] { document->Scaling().ScaleRecipe(0.001, "0.001", true, false); });
 }
 
 // The second question has been answered with yes by then.
@@ -455,7 +455,7 @@ TEST_F(FaultyScaling, AFaultBehindTheCarbonationKeepsTheHistory) {
     Prime("100", "4 oz");
     AnswerQuestions({"cmdYes"});
     platform.messages.answers = {Answer::Yes};
-    ExpectFault(kDivisionByZeroNumber, [&] { document->ScaleRecipe(0.001, "0.001", true, false); });
+    ExpectFault(kDivisionByZeroNumber, [&] { document->Scaling().ScaleRecipe(0.001, "0.001", true, false); });
     EXPECT_EQ(platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(Boxes().size(), 1u);
 }
@@ -471,10 +471,10 @@ TEST_F(Scaling, HoldsTheWindowUntilItIsDone) {
         int holds = 0, most = 0;
     } view;
     document->SetView(&view);
-    document->ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     EXPECT_EQ(view.holds, 0);
     EXPECT_EQ(view.most, 1);
-    EXPECT_THROW(document->ScaleRecipe(1e308, "huge", false, false), Error);
+    EXPECT_THROW(document->Scaling().ScaleRecipe(1e308, "huge", false, false), Error);
     EXPECT_EQ(view.holds, 0);
     document->SetView(nullptr);
 }

@@ -33,71 +33,71 @@ TEST_F(StyleTest, ListsTheStylesByNameBehindNone) {
 }
 
 TEST_F(StyleTest, IsFoundByAnotherNameAndByItsCode) {
-    EXPECT_FALSE(document->ChangeStyle("Dry Stout"));
+    EXPECT_FALSE(document->Style().ChangeStyle("Dry Stout"));
     AddOtherNames(*database);
     AddAlias(*database, CatalogueKind::Style, "Dry Stout", "Stout");
     AddFacts(*database, CatalogueKind::Style, "Lager", "1B", "Beer 2021");
-    EXPECT_TRUE(document->ChangeStyle("dry stout"));
+    EXPECT_TRUE(document->Style().ChangeStyle("dry stout"));
     EXPECT_EQ(R().cmbStyle.Text(), "Stout");
-    EXPECT_TRUE(document->ChangeStyle("1b"));
+    EXPECT_TRUE(document->Style().ChangeStyle("1b"));
     EXPECT_EQ(R().cmbStyle.Text(), "Lager");
-    EXPECT_FALSE(document->ChangeStyle("9Z"));
+    EXPECT_FALSE(document->Style().ChangeStyle("9Z"));
     EXPECT_EQ(R().cmbStyle.Text(), "Lager");
 }
 
 TEST_F(StyleTest, ShowsItsRanges) {
-    ASSERT_TRUE(document->ChangeStyle(" STOUT "));
+    ASSERT_TRUE(document->Style().ChangeStyle(" STOUT "));
     EXPECT_EQ(document->StyleID(), kStout);
     EXPECT_EQ(document->BeerStyle(), "Stout");
     // The final gravity of this style has no limits.
     EXPECT_THAT(Labels(),
                 ElementsAre("1.035 - 1.050", "", "3.2 - 5.5 abv", "35 - 200 SRM", "30 - 50", "2.0 - 2.5"));
-    document->ChangeStyle("Lager");
+    document->Style().ChangeStyle("Lager");
     EXPECT_THAT(Labels(), ElementsAre("1.045", "1.010", "5.0 abv", "4 SRM", "20", "2.5"));
-    document->ChangeStyle("Half Open");
+    document->Style().ChangeStyle("Half Open");
     EXPECT_THAT(Labels(), ElementsAre(">= 1.050", "<= 1.012", ">= 6.0 abv", "<= 12 SRM", ">= 26", "<= 2.8"));
-    document->SelectStyle(0);
+    document->Style().Select(0);
     EXPECT_THAT(Labels(), ElementsAre("", "", "", "", "", ""));
 }
 
 TEST_F(StyleTest, BringsItsWater) {
     Put(R().gridWater, 1, WaterCol::Profile, "Soft");
-    document->ChangeStyle("Stout");
+    document->Style().ChangeStyle("Stout");
     EXPECT_THAT(Target(), ElementsAre("Burton", "275", "270", "35", "40", "0", "610"));
     EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "268");
     EXPECT_TRUE(document->Changed());
     EXPECT_TRUE(host.IsOn("EnableSave"));
     // A profile that the catalogue does not know leaves the ions.
-    document->ChangeStyle("Odd Water");
+    document->Style().ChangeStyle("Odd Water");
     EXPECT_THAT(Target(), ElementsAre("No Such Water", "275", "270", "35", "40", "0", "610"));
     // A style without a profile, and no style, empty the row; what is needed follows.
-    document->ChangeStyle("Lager");
+    document->Style().ChangeStyle("Lager");
     EXPECT_THAT(Target(), ElementsAre("", "", "", "", "", "", ""));
     EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "-7");
-    document->ChangeStyle("Stout");
-    document->ChangeStyle("(None)");
+    document->Style().ChangeStyle("Stout");
+    document->Style().ChangeStyle("(None)");
     EXPECT_THAT(Target(), ElementsAre("", "", "", "", "", "", ""));
     EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "-7");
 }
 
 TEST_F(StyleTest, ChoosingTheSameOneIsNoEdit) {
-    document->ChangeStyle("Stout");
+    document->Style().ChangeStyle("Stout");
     SaveAs("A");
-    document->ChangeStyle("stout");
-    document->SelectStyle(R().cmbStyle.Selected());
-    document->SelectStyle(-1);
-    document->SelectStyle(99);
-    EXPECT_FALSE(document->ChangeStyle("Porter"));
+    document->Style().ChangeStyle("stout");
+    document->Style().Select(R().cmbStyle.Selected());
+    document->Style().Select(-1);
+    document->Style().Select(99);
+    EXPECT_FALSE(document->Style().ChangeStyle("Porter"));
     EXPECT_FALSE(document->Changed());
     EXPECT_EQ(document->StyleID(), kStout);
 }
 
 TEST_F(StyleTest, SettingTheIdIsNoEditAndLeavesTheWater) {
-    document->SetStyleID(kStout);
+    document->Style().SetId(kStout);
     EXPECT_EQ(document->BeerStyle(), "Stout");
     EXPECT_EQ(Labels()[0], "1.035 - 1.050");
     EXPECT_THAT(Target(), ElementsAre("", "", "", "", "", "", ""));
-    document->SetStyleID(99);
+    document->Style().SetId(99);
     EXPECT_EQ(document->StyleID(), 0);
     EXPECT_EQ(document->BeerStyle(), "(None)");
     EXPECT_EQ(Labels()[0], "");
@@ -105,10 +105,10 @@ TEST_F(StyleTest, SettingTheIdIsNoEditAndLeavesTheWater) {
 }
 
 TEST_F(StyleTest, TheListFollowsTheCatalogue) {
-    document->ChangeStyle("Stout");
+    document->Style().ChangeStyle("Stout");
     database->Execute("UPDATE STYLES SET NAME = 'Zwickel' WHERE ID = 2");
     database->Execute("INSERT INTO STYLES (ID, NAME) VALUES (9, 'Alt')");
-    document->DBChanged();
+    document->Notices().DBChanged();
     EXPECT_EQ(R().cmbStyle.Entries().size(), 6u);
     EXPECT_EQ(R().cmbStyle.Entries()[1].text, "Alt");
     EXPECT_EQ(R().cmbStyle.Entries()[5].text, "Zwickel");
@@ -118,15 +118,15 @@ TEST_F(StyleTest, TheListFollowsTheCatalogue) {
 
 // The list is read again before a name is looked for, but not before a row of it is chosen.
 TEST_F(StyleTest, AStyleThatIsGoneCannotBeChosen) {
-    document->ChangeStyle("Stout");
+    document->Style().ChangeStyle("Stout");
     const int lager = R().cmbStyle.IndexOf(kLager);
     database->Execute("DELETE FROM STYLES WHERE ID = 2");
-    EXPECT_FALSE(document->ChangeStyle("Lager"));
+    EXPECT_FALSE(document->Style().ChangeStyle("Lager"));
     EXPECT_EQ(document->BeerStyle(), "Stout");
     database->Execute("INSERT INTO STYLES (ID, NAME) VALUES (2, 'Lager')");
-    document->DBChanged();
+    document->Notices().DBChanged();
     database->Execute("DELETE FROM STYLES WHERE ID = 2");
-    document->SelectStyle(lager);
+    document->Style().Select(lager);
     EXPECT_EQ(document->StyleID(), 0);
     EXPECT_EQ(document->BeerStyle(), "(None)");
     EXPECT_EQ(R().cmbStyle.IndexOf(kLager), -1);
@@ -136,7 +136,7 @@ TEST_F(StyleTest, AStyleThatIsGoneCannotBeChosen) {
 // Even a recipe and a style that other programs have numbered 0 do not meet.
 TEST_F(StyleTest, NoneIsNotTheStyleOfNumberZero) {
     database->Execute("INSERT INTO STYLES (ID, NAME, OG_LO) VALUES (0, 'Zero', 1.08)");
-    document->SetStyleID(0);
+    document->Style().SetId(0);
     EXPECT_EQ(document->BeerStyle(), "(None)");
     EXPECT_EQ(Labels()[0], "");
 }
@@ -145,7 +145,7 @@ class NoticesTest : public DocumentTest {
   protected:
     NoticesTest() {
         New();
-        document->ChangeStyle("Stout");
+        document->Style().ChangeStyle("Stout");
         SaveAs("Old Ale");
         document->SetFolderID(7);
         host.log.clear();
@@ -153,39 +153,39 @@ class NoticesTest : public DocumentTest {
 };
 
 TEST_F(NoticesTest, AMoveIsFollowedByNameWithoutRegardToCase) {
-    document->NotifyRecipeMoved(" OLD ale ", 12);
+    document->Notices().NotifyRecipeMoved(" OLD ale ", 12);
     EXPECT_EQ(document->FolderID(), 12);
-    document->NotifyRecipeMoved("Other", 13);
+    document->Notices().NotifyRecipeMoved("Other", 13);
     EXPECT_EQ(document->FolderID(), 12);
     EXPECT_FALSE(document->Changed());
 }
 
 TEST_F(NoticesTest, ANewStyleIsShownAndNoEdit) {
-    document->NotifyRecipeNewStyle("Other", kLager);
+    document->Notices().NotifyRecipeNewStyle("Other", kLager);
     EXPECT_EQ(document->StyleID(), kStout);
-    document->NotifyRecipeNewStyle("old ale", kLager);
+    document->Notices().NotifyRecipeNewStyle("old ale", kLager);
     EXPECT_EQ(document->StyleID(), kLager);
     EXPECT_EQ(R().lblOGStyle.Text(), "1.045");
     EXPECT_FALSE(document->Changed());
 }
 
 TEST_F(NoticesTest, ARenameTakesTheNameUnlessTheBrewerEditedIt) {
-    document->NotifyRecipeRenamed("Other", "X");
+    document->Notices().NotifyRecipeRenamed("Other", "X");
     EXPECT_EQ(document->OrigName(), "Old Ale");
-    document->NotifyRecipeRenamed(" old ALE", " Older Ale ");
+    document->Notices().NotifyRecipeRenamed(" old ALE", " Older Ale ");
     EXPECT_EQ(document->OrigName(), "Older Ale");
     EXPECT_EQ(document->BeerName(), "Older Ale");
     EXPECT_EQ(document->Caption(), "Older Ale");
     EXPECT_FALSE(document->Changed());
-    document->SetText(R().txtName, "My Ale");
-    document->NotifyRecipeRenamed("Older Ale", "Oldest Ale");
+    document->Fields().SetText(R().txtName, "My Ale");
+    document->Notices().NotifyRecipeRenamed("Older Ale", "Oldest Ale");
     EXPECT_EQ(document->OrigName(), "Oldest Ale");
     EXPECT_EQ(document->BeerName(), "My Ale");
 }
 
 TEST_F(NoticesTest, ARenamedStyleShowsItsNewName) {
     database->Execute("UPDATE STYLES SET NAME = 'Porter' WHERE ID = 1");
-    document->NotifyStyleRenamed(kStout, "Porter");
+    document->Notices().NotifyStyleRenamed(kStout, "Porter");
     EXPECT_EQ(document->BeerStyle(), "Porter");
     EXPECT_EQ(document->StyleID(), kStout);
     EXPECT_FALSE(document->Changed());
@@ -199,26 +199,26 @@ TEST_F(NoticesTest, EveryChangeOfAStyleShowsInTheListOfEveryDocument) {
         return names;
     };
     for (const char* style : {"Stout", "(None)"}) {
-        ASSERT_TRUE(document->ChangeStyle(style));
+        ASSERT_TRUE(document->Style().ChangeStyle(style));
         SaveAs("Old Ale");
         database->Execute("UPDATE STYLES SET NAME = 'Pils' WHERE ID = 2");
-        document->NotifyStyleRenamed(kLager, "Pils");
+        document->Notices().NotifyStyleRenamed(kLager, "Pils");
         EXPECT_THAT(list(), ElementsAre("(None)", "Half Open", "Odd Water", "Pils", "Stout"));
         database->Execute("DELETE FROM STYLES WHERE ID = 2");
-        document->NotifyStyleDeleted(kLager);
+        document->Notices().NotifyStyleDeleted(kLager);
         EXPECT_THAT(list(), ElementsAre("(None)", "Half Open", "Odd Water", "Stout"));
         EXPECT_EQ(document->BeerStyle(), style);
         EXPECT_FALSE(document->Changed());
         database->Execute("INSERT INTO STYLES (ID, NAME) VALUES (2, 'Lager')");
-        document->DBChanged();
+        document->Notices().DBChanged();
     }
 }
 
 TEST_F(NoticesTest, ADeletedStyleShowsNone) {
-    document->NotifyStyleDeleted(kLager);
+    document->Notices().NotifyStyleDeleted(kLager);
     EXPECT_EQ(document->StyleID(), kStout);
     database->Execute("DELETE FROM STYLES WHERE ID = 1");
-    document->NotifyStyleDeleted(kStout);
+    document->Notices().NotifyStyleDeleted(kStout);
     EXPECT_EQ(document->StyleID(), 0);
     EXPECT_EQ(document->BeerStyle(), "(None)");
     EXPECT_EQ(R().lblOGStyle.Text(), "");
@@ -227,9 +227,9 @@ TEST_F(NoticesTest, ADeletedStyleShowsNone) {
 }
 
 TEST_F(NoticesTest, ADeletedRecipeIsDetached) {
-    document->NotifyRecipeDeleted("Other");
+    document->Notices().NotifyRecipeDeleted("Other");
     EXPECT_FALSE(document->Changed());
-    document->NotifyRecipeDeleted("OLD ALE ");
+    document->Notices().NotifyRecipeDeleted("OLD ALE ");
     EXPECT_TRUE(document->Changed());
     EXPECT_EQ(document->OrigName(), "");
     EXPECT_EQ(document->FolderID(), -1);
@@ -239,19 +239,19 @@ TEST_F(NoticesTest, ADeletedRecipeIsDetached) {
 
 // A recipe can come without a name from another program; a document that is none is not that one.
 TEST_F(NoticesTest, ARecipeWithoutANameIsNoUnsavedDocument) {
-    document->NotifyRecipeDeleted("Old Ale");
+    document->Notices().NotifyRecipeDeleted("Old Ale");
     ASSERT_EQ(document->OrigName(), "");
-    document->NotifyRecipeMoved("", 12);
+    document->Notices().NotifyRecipeMoved("", 12);
     EXPECT_EQ(document->FolderID(), -1);
-    document->NotifyRecipeRenamed("", "Stray");
+    document->Notices().NotifyRecipeRenamed("", "Stray");
     EXPECT_EQ(document->OrigName(), "");
 }
 
 TEST_F(NoticesTest, ADeletedFolderDetachesItsRecipes) {
-    document->NotifyRecipeFolderDeleted(8);
+    document->Notices().NotifyRecipeFolderDeleted(8);
     EXPECT_FALSE(document->Changed());
     host.active = nullptr;
-    document->NotifyRecipeFolderDeleted(7);
+    document->Notices().NotifyRecipeFolderDeleted(7);
     EXPECT_TRUE(document->Changed());
     EXPECT_EQ(document->OrigName(), "");
     EXPECT_THAT(host.log, testing::Not(testing::Contains("EnableSave on")));

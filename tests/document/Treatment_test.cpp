@@ -17,12 +17,12 @@ class TreatmentOf : public DocumentTest {
         New();
         Set(R().txtTotalVol, "5 gal");
     }
-    void Need(const IonNumbers& ppm) {
+    void Need(const Ions& ppm) {
         for (int ion = 0; ion < kIons; ++ion)
             Put(R().gridWater, WaterRow::Target, WaterCol::FirstIon + ion,
                 NumberText(ppm[static_cast<std::size_t>(ion)]));
     }
-    void AddSalt(const std::string& name, const IonNumbers& ions) {
+    void AddSalt(const std::string& name, const Ions& ions) {
         std::string numbers;
         for (const double ion : ions) numbers += ", " + NumberText(ion);
         database->Execute("INSERT INTO SALTS (NAME, CA, CO3, CL, MG, NA, SO4) VALUES (" + SqlText(name) +
@@ -39,7 +39,7 @@ class TreatmentOf : public DocumentTest {
     DocumentState State() { return StateOf(*document, host); }
     void AddRow(std::string_view name, std::string_view amount) {
         Grid& grid = R().gridTreatment;
-        document->InsertRowForGrid(grid);
+        document->Lines().InsertRowForGrid(grid);
         Put(grid, grid.CurrentRow(), TreatmentCol::Name, name);
         Put(grid, grid.CurrentRow(), TreatmentCol::Amount, amount);
     }
@@ -49,7 +49,7 @@ class TreatmentOf : public DocumentTest {
 // and 79.2.
 TEST_F(TreatmentOf, GivesEachSaltItsGramsForTheBatch) {
     Need({114.4, 79.2, 0, 0, 0, 147.4});
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
     EXPECT_EQ(R().gridTreatment.Number(2, TreatmentCol::Amount), 2.5);
     EXPECT_EQ(R().gridTreatment.Number(2, TreatmentCol::FirstIon), 105.8);
@@ -63,7 +63,7 @@ TEST_F(TreatmentOf, GivesEachSaltItsGramsForTheBatch) {
 // 100 / 147.4 * 5 = 3.39213...
 TEST_F(TreatmentOf, RoundsGramsToThreePlaces) {
     Need({61.5, 0, 0, 0, 0, 100});
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{"Gypsum 3.392 grams"});
     EXPECT_EQ(R().gridTreatment.Number(1, TreatmentCol::Amount), 3.392);
 }
@@ -74,21 +74,21 @@ TEST_F(TreatmentOf, TakesTheOldRowsAwayAndBringsThemBackInOneStep) {
     AddRow("Gypsum", "1 g");
     Need({61.5, 0, 0, 0, 0, 147.4});
     const DocumentState before = State();
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     const DocumentState after = State();
     EXPECT_EQ(Rows(), Log{"Gypsum 5 grams"});
     EXPECT_EQ(host.undoName, "Calculation");
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(Differences(before.all, State().all), "");
     EXPECT_EQ(host.redoName, "Calculation");
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(Differences(after.all, State().all), "");
 }
 
 TEST_F(TreatmentOf, IsNoStepWhereTheGridWasAndStaysEmpty) {
     const std::size_t steps = document->History().StackTop();
     ASSERT_NE(host.undoName, "Calculation");
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
     EXPECT_NE(host.undoName, "Calculation");
     EXPECT_EQ(document->History().StackTop(), steps);
@@ -99,7 +99,7 @@ TEST_F(TreatmentOf, NeedsATotalVolume) {
     AddRow("Chalk", "9 g");
     Set(R().txtTotalVol, "");
     EXPECT_FALSE(R().cmdCalcTreatment.Enabled());
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{"Chalk 9 g"});
     Set(R().txtTotalVol, "  ");
     EXPECT_FALSE(R().cmdCalcTreatment.Enabled());
@@ -122,7 +122,7 @@ TEST_F(TreatmentOf, SaysThatThereAreNoSalts) {
     database->Execute("DELETE FROM SALTS");
     const DocumentState before = State();
     const std::string undoName = host.undoName;
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Boxes(),
               Log{"[Could not setup Linear Program] Not enough data to calculate water treatment.\r\n"
                   "Check Salts tab of Database Setup"});
@@ -138,7 +138,7 @@ TEST_F(TreatmentOf, SaysThatNoProgramHasASolution) {
     AddRow("Chalk", "9 g");
     Need({0, 254.2, 0, 241.9, 0, 0});
     const DocumentState before = State();
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Boxes(), Log{"[Could not solve Linear Program] Water Treatment Calculation failed"});
     EXPECT_EQ(State(), before);
     EXPECT_NE(host.undoName, "Calculation");
@@ -149,7 +149,7 @@ TEST_F(TreatmentOf, ANegativeNeedCountsAsNone) {
     Put(R().gridWater, WaterRow::Source, WaterCol::FirstIon, "200");
     Need({61.5, 0, 0, 0, 0, 147.4});
     EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, WaterCol::FirstIon), "-138.5");
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
 }
 
@@ -158,21 +158,21 @@ TEST_F(TreatmentOf, LeavesOutWhatIsBelowAThousandthOfAGramForTheBatch) {
     AddSalt("Strong", {1000, 0, 0, 0, 0, 0});
     Need({0.18, 0, 0, 0, 0, 0});
     // 0.00018 g a gallon: 0.0009 g in 5 gallons, 0.0018 in 10.
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
     Set(R().txtTotalVol, "10 gal");
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{"Strong 0.002 grams"});
 }
 
 TEST_F(TreatmentOf, PutsRowsInTheOrderOfTheSaltsWhereverNewRowsGo) {
     Need({114.4, 79.2, 0, 0, 0, 147.4});
     host.appendRows = true;
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
-    document->Undo();
+    document->Replay().Undo();
     EXPECT_EQ(Rows(), Log{});
-    document->Redo();
+    document->Replay().Redo();
     EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
     EXPECT_TRUE(host.appendRows);
 }
@@ -180,23 +180,23 @@ TEST_F(TreatmentOf, PutsRowsInTheOrderOfTheSaltsWhereverNewRowsGo) {
 TEST_F(TreatmentOf, KeepsToTheLimitOfTheSettings) {
     Need({114.4, 79.2, 0, 0, 0, 147.4});
     host.lpMaxIter = 0;
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     // Both programs stop behind their first step: gypsum by 114.4 / 61.5 is more than sulfate allows, 1 is
     // left.
     EXPECT_EQ(Rows(), Log{"Gypsum 5 grams"});
     host.lpMaxIter = 1000;
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
 }
 
 TEST_F(TreatmentOf, LightsDeleteOnItsTab) {
-    document->SetTab(Tab::Water);
+    document->Focus().SetTab(Tab::Water);
     Need({114.4, 79.2, 0, 0, 0, 147.4});
     EXPECT_FALSE(host.IsOn("EnableDelete"));
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_TRUE(host.IsOn("EnableDelete"));
     Need({});
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_FALSE(host.IsOn("EnableDelete"));
 }
 
@@ -206,18 +206,18 @@ class FaultyTreatment : public TreatmentOf {
     void ExpectFault(int number) {
         AddRow("Chalk", "9 g");
         Put(R().gridTreatment, 1, TreatmentCol::Amount, "8 g");
-        document->Undo();
+        document->Replay().Undo();
         const DocumentState before = State();
         const std::string undoName = host.undoName;
         try {
-            document->CalcTreatment();
+            document->Water().CalcTreatment();
             FAIL() << "no fault";
         } catch (const Error& error) {
             EXPECT_EQ(error.Number(), number);
         }
         EXPECT_EQ(Differences(before.all, State().all), "");
         EXPECT_EQ(host.undoName, undoName);
-        EXPECT_TRUE(document->Redo());
+        EXPECT_TRUE(document->Replay().Redo());
         EXPECT_EQ(Rows(), Log{"Chalk 8 g"});
     }
 };
@@ -255,26 +255,26 @@ TEST_F(TreatmentOf, GoesBackAndForthOnRandomWaters) {
     std::mt19937 random(7);
     const auto below = [&](unsigned limit) { return static_cast<double>(random() % limit); };
     const auto ions = [&](unsigned limit) {
-        IonNumbers numbers{};
+        Ions numbers{};
         for (double& number : numbers) number = random() % 3 > 0 ? below(limit * 10) / 10 : 0;
         return numbers;
     };
     int rowsSeen = 0;
     for (int round = 0; round < 300; ++round) {
         database->Execute("DELETE FROM SALTS");
-        std::vector<IonNumbers> salts;
+        std::vector<Ions> salts;
         for (unsigned i = 0; i < 1 + round % 6u; ++i) {
             salts.push_back(ions(200));
             AddSalt("Salt " + std::to_string(i), salts.back());
         }
         Set(R().txtTotalVol, NumberText(1 + below(20)));
         Need(ions(300));
-        IonNumbers needed{};
+        Ions needed{};
         for (std::size_t ion = 0; ion < needed.size(); ++ion)
             needed[ion] = R().gridWater.Number(WaterRow::Needed, WaterCol::FirstIon + static_cast<int>(ion));
         const auto doses = FindDoses(needed, salts, host.lpMaxIter);
         const DocumentState before = State();
-        document->CalcTreatment();
+        document->Water().CalcTreatment();
         if (!doses) {
             EXPECT_EQ(Boxes().size(), 1u);
             EXPECT_EQ(State(), before);
@@ -292,9 +292,9 @@ TEST_F(TreatmentOf, GoesBackAndForthOnRandomWaters) {
         rowsSeen += static_cast<int>(wanted.size());
         const DocumentState after = State();
         if (after == before) continue;
-        ASSERT_TRUE(document->Undo());
+        ASSERT_TRUE(document->Replay().Undo());
         ASSERT_EQ(Differences(before.all, State().all), "") << round;
-        ASSERT_TRUE(document->Redo());
+        ASSERT_TRUE(document->Replay().Redo());
         ASSERT_EQ(Differences(after.all, State().all), "") << round;
     }
     EXPECT_GT(rowsSeen, 100);
@@ -315,7 +315,7 @@ TEST_F(TreatmentOf, IsShownAtOnceWhenItIsDone) {
     HeldView view;
     document->SetView(&view);
     Need({114.4, 79.2, 0, 0, 0, 147.4});
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(view.scopes, 1);
     EXPECT_EQ(view.holds, 0);
     document->SetView(nullptr);
@@ -326,7 +326,7 @@ TEST_F(TreatmentOf, WaitsForAnEntryThatWasRefused) {
     view.accepts = false;
     document->SetView(&view);
     Need({114.4, 79.2, 0, 0, 0, 147.4});
-    document->CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
     document->SetView(nullptr);
 }

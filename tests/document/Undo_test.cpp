@@ -27,31 +27,31 @@ class UndoTest : public DocumentTest {
     void ExpectOneStep(const std::string& before) {
         const std::string after = State();
         ASSERT_NE(before, after);
-        ASSERT_TRUE(document->Undo());
+        ASSERT_TRUE(document->Replay().Undo());
         EXPECT_EQ(State(), before);
-        ASSERT_TRUE(document->Redo());
+        ASSERT_TRUE(document->Replay().Redo());
         EXPECT_EQ(State(), after);
     }
 };
 
 TEST_F(UndoTest, TypingInOneBoxFormsOneRecord) {
     New();
-    document->SetText(R().txtName, "A");
-    document->SetText(R().txtName, "Ab");
+    document->Fields().SetText(R().txtName, "A");
+    document->Fields().SetText(R().txtName, "Ab");
     EXPECT_EQ(document->History().StackTop(), 1U);
     EXPECT_EQ(document->History().UndoType(), "Typing");
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtName.Text(), "");
-    ASSERT_TRUE(document->Redo());
+    ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(R().txtName.Text(), "Ab");
 }
 
 TEST_F(UndoTest, TypingBackToTheBeginningLeavesNoRecord) {
     New();
-    document->SetText(R().txtName, "abc");
-    document->SetText(R().txtName, "");
+    document->Fields().SetText(R().txtName, "abc");
+    document->Fields().SetText(R().txtName, "");
     EXPECT_EQ(document->History().StackTop(), 0U);
-    EXPECT_FALSE(document->Undo());
+    EXPECT_FALSE(document->Replay().Undo());
 }
 
 TEST_F(UndoTest, AVolumeTakesItsFiguresBackAndForth) {
@@ -67,7 +67,7 @@ TEST_F(UndoTest, AVolumeTakesItsFiguresBackAndForth) {
 TEST_F(UndoTest, ANewEditDropsWhatCouldBeRedone) {
     New();
     Put(R().gridGrain, 1, GrainCol::Amount, "10");
-    ASSERT_TRUE(document->Undo());
+    ASSERT_TRUE(document->Replay().Undo());
     EXPECT_TRUE(document->History().CanRedo());
     Put(R().gridGrain, 1, GrainCol::Amount, "8");
     EXPECT_FALSE(document->History().CanRedo());
@@ -78,14 +78,14 @@ TEST_F(UndoTest, ADeletedRowComesBackInItsPlace) {
     Put(R().gridHops, 1, HopCol::Variety, "Home grown");
     Put(R().gridHops, 1, HopCol::Form, "Leaf");
     Put(R().gridHops, 1, HopCol::Amount, "5 AAU");
-    document->SetChecked(R().gridHops, 1, HopCol::Sock, false);
-    document->SetChecked(R().gridHops, 1, HopCol::DryHopped, true);
+    document->Cells().SetChecked(R().gridHops, 1, HopCol::Sock, false);
+    document->Cells().SetChecked(R().gridHops, 1, HopCol::DryHopped, true);
     Put(R().gridHops, 1, HopCol::Time, "5 days");
-    document->SetCurrentCell(R().gridHops, 1, 0);
-    document->InsertRowForGrid(R().gridHops);
-    document->SetCurrentCell(R().gridHops, 2, 0);
+    document->Focus().SetCurrentCell(R().gridHops, 1, 0);
+    document->Lines().InsertRowForGrid(R().gridHops);
+    document->Focus().SetCurrentCell(R().gridHops, 2, 0);
     const std::string before = State();
-    document->DeleteRowForGrid(R().gridHops);
+    document->Lines().DeleteRowForGrid(R().gridHops);
     EXPECT_EQ(document->History().UndoType(), "Delete Row");
     ExpectOneStep(before);
 }
@@ -94,7 +94,7 @@ TEST_F(UndoTest, AnInsertedRowGoesAndComesBack) {
     New();
     Put(R().gridGrain, 1, GrainCol::Amount, "10");
     const std::string before = State();
-    document->InsertRowForGrid(R().gridGrain);
+    document->Lines().InsertRowForGrid(R().gridGrain);
     EXPECT_EQ(document->History().UndoType(), "Insert Row");
     ExpectOneStep(before);
 }
@@ -102,13 +102,13 @@ TEST_F(UndoTest, AnInsertedRowGoesAndComesBack) {
 TEST_F(UndoTest, ASortThatMovesNothingRecordsNothing) {
     New();
     Put(R().gridGrain, 1, GrainCol::Name, "A");
-    document->InsertRowForGrid(R().gridGrain);
+    document->Lines().InsertRowForGrid(R().gridGrain);
     const std::size_t records = document->History().StackTop();
     // The blank row that was inserted before "A" comes first already.
-    document->ClickHeader(R().gridGrain, GrainCol::Name);
+    document->Lines().ClickHeader(R().gridGrain, GrainCol::Name);
     EXPECT_EQ(document->History().StackTop(), records);
     const std::string before = State();
-    document->ClickHeader(R().gridGrain, GrainCol::Name);
+    document->Lines().ClickHeader(R().gridGrain, GrainCol::Name);
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Name), "A");
     ExpectOneStep(before);
 }
@@ -116,7 +116,7 @@ TEST_F(UndoTest, ASortThatMovesNothingRecordsNothing) {
 TEST_F(UndoTest, AnOptionGoesBack) {
     New();
     const std::string before = State();
-    document->ChooseOption("optRager");
+    document->Options().Choose("optRager");
     ExpectOneStep(before);
 }
 
@@ -125,7 +125,7 @@ TEST_F(UndoTest, AfterASaveNothingCanBeUndone) {
     Put(R().gridGrain, 1, GrainCol::Amount, "10");
     SaveAs("A");
     EXPECT_FALSE(document->History().CanUndo());
-    EXPECT_FALSE(document->Undo());
+    EXPECT_FALSE(document->Replay().Undo());
 }
 
 TEST_F(UndoTest, AFaultRecordsNothing) {

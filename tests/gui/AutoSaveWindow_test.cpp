@@ -49,7 +49,7 @@ TEST_F(AutoSaveWindow, TheTimerFollowsTheSwitch) {
 
 TEST_F(AutoSaveWindow, TheTimerTicksBehindAnotherWindow) {
     RecipeDocument& document = Stored("Stout");
-    document.SetText(document.Record().txtNotes, "kept");
+    document.Fields().SetText(document.Record().txtNotes, "kept");
     shell.CurrentSettings().doAutoSaveEvery = 1;
     shell.SetDoAutoSave(true);
     Timer("tmrAutoSave").start(0);
@@ -62,7 +62,7 @@ TEST_F(AutoSaveWindow, TheTimerTicksBehindAnotherWindow) {
 
 TEST_F(AutoSaveWindow, TheWindowSavesAndGoesByItself) {
     RecipeDocument& document = Stored("Stout");
-    document.SetText(document.Record().txtNotes, "kept");
+    document.Fields().SetText(document.Record().txtNotes, "kept");
     RunAutoSave();
     EXPECT_EQ(StoredNotes(), "kept");
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
@@ -132,7 +132,7 @@ TEST_F(AutoSaveWindow, EditsAreKeptSomeSecondsLater) {
     auto* timer = other.findChild<QTimer*>(QStringLiteral("tmrKeepUnsaved"));
     RecipeDocument& document = second.CreateDocumentWindow("");
     EXPECT_FALSE(timer->isActive());
-    document.SetText(document.Record().txtNotes, "typed");
+    document.Fields().SetText(document.Record().txtNotes, "typed");
     EXPECT_TRUE(timer->isActive());
     EXPECT_LE(timer->interval(), 5000);
     QSignalSpy ticks(timer, &QTimer::timeout);
@@ -160,7 +160,7 @@ TEST_F(AutoSaveWindow, TheStatusBarSaysWhileWorkIsNotKept) {
     auto* timer = other.findChild<QTimer*>(QStringLiteral("tmrKeepUnsaved"));
     ASSERT_NE(notice, nullptr);
     RecipeDocument& document = second.CreateDocumentWindow("");
-    document.SetText(document.Record().txtNotes, "typed");
+    document.Fields().SetText(document.Record().txtNotes, "typed");
     EXPECT_EQ(notice->text(), QString());
     const auto tick = [&] {
         timer->stop();
@@ -196,7 +196,7 @@ TEST_F(AutoSaveWindow, TheRecoveryWindowRestoresWhatIsChosen) {
         ASSERT_TRUE(lost.PerformSplashScreenInit(FromQt(database)));
         for (const char* name : {"Stout", "Porter"}) {
             RecipeDocument& document = lost.CreateDocumentWindow("");
-            document.SetText(document.Record().txtName, name);
+            document.Fields().SetText(document.Record().txtName, name);
         }
         lost.KeepUnsavedWork();
     }

@@ -176,7 +176,7 @@ TEST_F(DocumentWindow, WalksThroughAllTabsByKey) {
 
 TEST_F(DocumentWindow, ChoosesAStyleByAnyPartOfItsName) {
     NewRecipe();
-    shell.ActiveDocument()->ReloadStyles();
+    shell.ActiveDocument()->Style().Reload();
     auto& styles = Find<QComboBox>("cmbStyle");
     styles.setFocus();
     Type("stout");

@@ -206,7 +206,7 @@ class Choosers : public GuiTest {
 TEST_F(Choosers, TheStyleIsBrowsed) {
     NewRecipe();
     Find<QComboBox>("cmbStyle").setCurrentIndex(1);
-    shell.ActiveDocument()->SelectStyle(1);
+    shell.ActiveDocument()->Style().Select(1);
     Answer("Stout");
     auto& browse = Find<QPushButton>("cmdBrowseStyles");
     EXPECT_TRUE(browse.isEnabled());

@@ -135,7 +135,7 @@ TEST_F(RecipeKeys, DeleteTakesTheNextLetterOrTheSelection) {
 }
 
 TEST_F(RecipeKeys, AMenuSettlesTheStyleThatIsBeingTyped) {
-    shell.ActiveDocument()->ReloadStyles();
+    shell.ActiveDocument()->Style().Reload();
     auto& styles = Find<QComboBox>("cmbStyle");
     QMenu& menu = *window.findChild<QMenu*>(QStringLiteral("mnuEdit"));
     for (const auto& [typed, style] :

@@ -56,7 +56,7 @@ class UndoWindows : public GuiTest, public testing::WithParamInterface<unsigned>
     // What counts of a recipe at a point of its history: all that is shown, and the numbers behind it. The
     // rows "Treatment Needed" and "Treatment Totals" are blank until they are first worked out.
     RecipeSnapshot State() {
-        RecipeSnapshot state = Document().TakeSnapshot();
+        RecipeSnapshot state = Document().Storage().TakeSnapshot();
         for (RecipeSnapshot::Rows& rows : state.grids) {
             if (rows.grid != "gridWater") continue;
             for (int row : {WaterRow::Needed, WaterRow::Totals})

@@ -46,13 +46,13 @@ class HistoryMemory : public DocumentTest {
 
 TEST_F(HistoryMemory, AStepOfOneCellTakesLittleBesideItsTwoTexts) {
     New();
-    document->InsertRowForGrid(R().gridAdjuncts);
+    document->Lines().InsertRowForGrid(R().gridAdjuncts);
     const std::string texts[] = {"Irish Moss, rehydrated", "Whirlfloc tablets, two"};
     ASSERT_TRUE(Put(R().gridAdjuncts, 1, 0, texts[1]));
     Forget();
     const std::size_t before = held;
     for (int step = 0; step < kSteps; ++step) {
-        ASSERT_TRUE(document->EditCell(R().gridAdjuncts, 1, 0, texts[step % 2], Asking::Quietly));
+        ASSERT_TRUE(document->Cells().EditCell(R().gridAdjuncts, 1, 0, texts[step % 2], Asking::Quietly));
         host.log.clear();
     }
     Forget();
@@ -71,7 +71,7 @@ TEST_F(HistoryMemory, TypingAThousandLettersIsOneStepOfTwoTexts) {
     std::string text;
     for (int letter = 0; letter < 1000; ++letter) {
         text += 'x';
-        document->SetText(R().txtNotes, text);
+        document->Fields().SetText(R().txtNotes, text);
         host.log.clear();
     }
     Forget();
@@ -83,14 +83,12 @@ TEST_F(HistoryMemory, TypingAThousandLettersIsOneStepOfTwoTexts) {
 TEST_F(HistoryMemory, ASaveGivesTheHistoryBack) {
     New();
     SaveAs("A");
-    document->InsertRowForGrid(R().gridAdjuncts);
+    document->Lines().InsertRowForGrid(R().gridAdjuncts);
     Forget();
     const std::size_t before = held;
     for (int step = 0; step < 1000; ++step) Put(R().gridAdjuncts, 1, 0, std::to_string(step));
     const std::size_t full = held;
-    bool ok = false;
-    document->Save(false, true, ok);
-    ASSERT_TRUE(ok);
+    ASSERT_TRUE(document->Storage().Save(SaveAs::No, Asking::Quietly));
     Forget();
     EXPECT_GT(full - before, 50U * 1000);
     EXPECT_LT(held, before + 10000);

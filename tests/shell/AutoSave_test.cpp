@@ -23,7 +23,7 @@ class AutoSaveTest : public ShellTest {
         return rows.AtEnd() ? "no recipe" : rows.Fields(0).IsNull() ? "NULL" : rows.Fields(0).Text();
     }
     void Note(RecipeDocument& document, std::string_view text) {
-        document.SetText(document.Record().txtNotes, text);
+        document.Fields().SetText(document.Record().txtNotes, text);
     }
 };
 
@@ -173,7 +173,7 @@ TEST_F(AutoSaveTest, UnchangedRecipesAreSavedToo) {
 
 TEST_F(AutoSaveTest, AnEditedNameMovesTheStoredRecipe) {
     RecipeDocument& stout = NewSaved("Stout");
-    stout.SetText(stout.Record().txtName, "Dry Stout");
+    stout.Fields().SetText(stout.Record().txtName, "Dry Stout");
     Tick();
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Dry Stout"});
 }
@@ -181,7 +181,7 @@ TEST_F(AutoSaveTest, AnEditedNameMovesTheStoredRecipe) {
 TEST_F(AutoSaveTest, ANameOfAnotherRecipeIsPassedOver) {
     NewSaved("Porter");
     RecipeDocument& stout = NewSaved("Stout");
-    stout.SetText(stout.Record().txtName, " porter ");
+    stout.Fields().SetText(stout.Record().txtName, " porter ");
     Tick();
     EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Porter", "Stout"}));
     EXPECT_TRUE(stout.Changed());
@@ -277,7 +277,7 @@ TEST_F(AutoSaveTest, ATickBehindAQuestionSavesAsUsual) {
 
 TEST_F(AutoSaveTest, AnEntryThatCanBeReadIsCommittedFirst) {
     RecipeDocument& stout = NewSaved("Stout");
-    stout.SetText(stout.Record().txtTotalVol, "5 gal");
+    stout.Fields().SetText(stout.Record().txtTotalVol, "5 gal");
     Tick();
     EXPECT_EQ(stout.Record().txtTotalVol.Value(), 5);
     EXPECT_FALSE(stout.Changed());
@@ -288,7 +288,7 @@ TEST_F(AutoSaveTest, AnEntryThatCannotBeReadStaysAsItIsTyped) {
     RecipeDocument& stout = NewSaved("Stout");
     TextBox& volume = stout.Record().txtTotalVol;
     for (const char* typed : {"five", "1/0", "5 gallo"}) {
-        stout.SetText(volume, typed);
+        stout.Fields().SetText(volume, typed);
         Tick();
         EXPECT_EQ(volume.Text(), typed);
         EXPECT_EQ(volume.Committed(), "");
@@ -299,10 +299,10 @@ TEST_F(AutoSaveTest, AnEntryThatCannotBeReadStaysAsItIsTyped) {
 
 TEST_F(AutoSaveTest, AnEmptiedBoxIsNotFilledUnderTheTypingHand) {
     RecipeDocument& stout = NewSaved("Stout");
-    stout.SetText(stout.Record().txtTotalVol, "5 gal");
-    stout.CommitField(stout.Record().txtTotalVol);
+    stout.Fields().SetText(stout.Record().txtTotalVol, "5 gal");
+    stout.Fields().CommitField(stout.Record().txtTotalVol);
     TextBox& volume = stout.Record().txtFinalVol;
-    stout.SetText(volume, "");
+    stout.Fields().SetText(volume, "");
     Tick();
     EXPECT_EQ(volume.Text(), "");
 }
@@ -310,17 +310,17 @@ TEST_F(AutoSaveTest, AnEmptiedBoxIsNotFilledUnderTheTypingHand) {
 TEST_F(AutoSaveTest, ARefusedTemperatureIsNeverSaved) {
     RecipeDocument& stout = NewSaved("Stout");
     TextBox& temperature = stout.Record().txtTemp;
-    stout.SetText(temperature, "38");
-    ASSERT_TRUE(stout.CommitField(temperature));
-    ASSERT_TRUE(stout.EditCell(stout.Record().gridPressure, 1, PressureCol::Pressure, "50 psi"));
+    stout.Fields().SetText(temperature, "38");
+    ASSERT_TRUE(stout.Fields().CommitField(temperature));
+    ASSERT_TRUE(stout.Cells().EditCell(stout.Record().gridPressure, 1, PressureCol::Pressure, "50 psi"));
     std::string committedMeanwhile;
     MessageRecorder& boxes = outside.messages;
     boxes.whileShowing = [&] {
         committedMeanwhile = temperature.Committed();
         Tick();
     };
-    stout.SetText(temperature, "0");
-    EXPECT_FALSE(stout.CommitField(temperature));
+    stout.Fields().SetText(temperature, "0");
+    EXPECT_FALSE(stout.Fields().CommitField(temperature));
     EXPECT_EQ(boxes.log.size(), 1u);
     EXPECT_EQ(committedMeanwhile, "38");
     EXPECT_EQ(shell.DB()->OpenRecordset("SELECT TEMPERATURE FROM RECIPES").Fields(0).Text(), "38");

@@ -66,7 +66,7 @@ TEST_F(Notices, ARenamedRecipeIsRenamedInTheRecentListFirst) {
 
 TEST_F(Notices, ANameThatTheBrewerHasEditedStaysAndIsSavedOverTheRenamedRecipe) {
     RecipeDocument& mild = NewSaved("Mild");
-    mild.SetText(mild.Record().txtName, "Best Mild");
+    mild.Fields().SetText(mild.Record().txtName, "Best Mild");
     shell.DB()->Execute("UPDATE RECIPES SET NAME = 'Dark Mild'");
     shell.NotifyRecipeRenamed("Mild", "Dark Mild");
     EXPECT_EQ(mild.BeerName(), "Best Mild");
@@ -78,7 +78,7 @@ TEST_F(Notices, ANameThatTheBrewerHasEditedStaysAndIsSavedOverTheRenamedRecipe) 
 TEST_F(Notices, ARenamedStyleIsShownWithItsNewName) {
     RecipeDocument& mild = NewSaved("Mild");
     RecipeDocument& none = NewSaved("Porter");
-    mild.SetStyleID(7);
+    mild.Style().SetId(7);
     shell.DB()->Execute("UPDATE STYLES SET NAME = 'Dry Stout' WHERE ID = 7");
     shell.NotifyStyleRenamed(7, "Dry Stout");
     EXPECT_EQ(mild.BeerStyle(), "Dry Stout");
@@ -89,7 +89,7 @@ TEST_F(Notices, ARenamedStyleIsShownWithItsNewName) {
 
 TEST_F(Notices, ADeletedStyleLeavesNoneAndNoRanges) {
     RecipeDocument& mild = NewSaved("Mild");
-    mild.SetStyleID(7);
+    mild.Style().SetId(7);
     EXPECT_NE(mild.Record().lblOGStyle.Text(), "");
     shell.DB()->Execute("DELETE FROM STYLES WHERE ID = 7");
     shell.NotifyStyleDeleted(7);
@@ -105,7 +105,7 @@ TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
     for (const char* style : {"Stout", "Porter"}) shell.Objects().AddStyleNodesByName(style);
     const std::int64_t dark = shell.Objects().CreateStyleFolder(0, "Dark", true);
     RecipeDocument& stout = NewSaved("Mild");
-    stout.SetStyleID(7);
+    stout.Style().SetId(7);
     RecipeDocument& none = NewSaved("Bitter");
     const auto lists = [&] {
         Strings names;

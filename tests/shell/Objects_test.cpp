@@ -34,7 +34,7 @@ TEST_F(ShellObjects, ASaveGivesTheRecipeNewEntries) {
     EXPECT_EQ(Keys(), (Strings{"R:1:0", "R:1:3"}));
     EXPECT_TRUE(shell.SaveRecipe(mild, false));
     EXPECT_EQ(Keys(), (Strings{"R:2:0", "R:2:3"}));
-    mild.SetText(mild.Record().txtName, "Best");
+    mild.Fields().SetText(mild.Record().txtName, "Best");
     EXPECT_TRUE(shell.SaveRecipe(mild, false));
     EXPECT_EQ(Keys(), (Strings{"R:3:0", "R:3:3"}));
     EXPECT_EQ(shell.Tree().Nodes("R:3:0")->Name(), "Best");
@@ -42,7 +42,7 @@ TEST_F(ShellObjects, ASaveGivesTheRecipeNewEntries) {
 
 TEST_F(ShellObjects, ASaveThatFailsLeavesTheTreeAsTheDatabase) {
     RecipeDocument& mild = NewSaved("Mild");
-    mild.SetText(mild.Record().txtNotes, "changed");
+    mild.Fields().SetText(mild.Record().txtNotes, "changed");
     shell.DB()->SetStatementHook([](std::string_view sql) {
         if (sql.starts_with("UPDATE RECIPES")) throw Error("Test", "the disk is on fire", 7);
     });

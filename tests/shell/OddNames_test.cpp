@@ -49,7 +49,7 @@ TEST_F(OddNamesTest, KeepTheirLettersFromSavingToOpening) {
         ASSERT_NE(shell.ActiveDocument(), nullptr);
         RecipeDocument& document = *shell.ActiveDocument();
         EXPECT_EQ(document.BeerName(), name);
-        document.SetText(document.Record().txtNotes, "changed");
+        document.Fields().SetText(document.Record().txtNotes, "changed");
         EXPECT_TRUE(shell.SaveRecipe(document, false));
         EXPECT_EQ(RecipeNames(*shell.DB()), Strings{name});
 

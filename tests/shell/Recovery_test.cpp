@@ -33,8 +33,8 @@ struct ProgramRun {
     }
     RecipeDocument& New(std::string_view name, std::string_view notes) {
         RecipeDocument& document = shell.CreateDocumentWindow("");
-        document.SetText(document.Record().txtName, name);
-        document.SetText(document.Record().txtNotes, notes);
+        document.Fields().SetText(document.Record().txtName, name);
+        document.Fields().SetText(document.Record().txtNotes, notes);
         return document;
     }
     // What OfferRecovery shows; the dialog is left with "Later" after press.
@@ -98,7 +98,7 @@ TEST_F(RecoveryTest, AFileComesSomeTimeAfterAnEditAndGoesWithTheSave) {
     EXPECT_THAT(Files(), IsEmpty());
     run->shell.KeepUnsavedWork();
     EXPECT_THAT(Files(), IsEmpty());
-    stout.SetText(stout.Record().txtNotes, "two");
+    stout.Fields().SetText(stout.Record().txtNotes, "two");
     run->shell.KeepUnsavedWork();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
     run->outside.messages.answers = {Answer::No};
@@ -121,7 +121,7 @@ TEST_F(RecoveryTest, TheNextStartRestoresAllOfIt) {
     auto run = Start();
     RecipeDocument& stored = run->New("Stout", "stored");
     ASSERT_TRUE(run->shell.SaveRecipeUnder(stored, "Stout", 0, true));
-    stored.EditCell(stored.Record().gridGrain, 1, 0, "Pale Malt");
+    stored.Cells().EditCell(stored.Record().gridGrain, 1, 0, "Pale Malt");
     run->New("", "never saved");
     run->shell.KeepUnsavedWork();
     run.reset();
@@ -310,7 +310,7 @@ TEST_F(RecoveryTest, AFolderThatCannotBeWrittenCostsNothingButTheFile) {
     EXPECT_TRUE(stout.Changed());
     EXPECT_THAT(run->outside.messages.log, IsEmpty());
     fs::remove(scratch.File("unsaved"));
-    stout.SetText(stout.Record().txtNotes, "two");
+    stout.Fields().SetText(stout.Record().txtNotes, "two");
     run->shell.KeepUnsavedWork();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
 }
@@ -479,7 +479,7 @@ TEST_F(RecoveryTest, AFailedSaveLeavesTheFile) {
     auto run = Start();
     RecipeDocument& stout = run->New("Stout", "stored");
     ASSERT_TRUE(run->shell.SaveRecipeUnder(stout, "Stout", 0, true));
-    stout.SetText(stout.Record().txtNotes, "edited");
+    stout.Fields().SetText(stout.Record().txtNotes, "edited");
     run->shell.KeepUnsavedWork();
     run->shell.DB()->ExecuteNative(
         "CREATE TRIGGER refuse BEFORE INSERT ON RECIPES BEGIN SELECT RAISE(ABORT, 'no'); END");

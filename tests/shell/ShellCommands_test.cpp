@@ -6,7 +6,7 @@ namespace {
 
 TEST_F(ShellTest, EveryLitCommandHasAnAction) {
     RecipeDocument& document = NewSaved("Pale Ale");
-    document.SetTab(Tab::Adjuncts);
+    document.Focus().SetTab(Tab::Adjuncts);
     const std::vector<MenuItem> items = bar().Items();
     for (const MenuItem& item : items) {
         if (item.IsSeparator() || !item.visible || !item.enabled || item.name == "mnuFileExit" ||
@@ -60,8 +60,8 @@ TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem
     for (const std::string_view item : commands) EXPECT_TRUE(Lit(item)) << item;
     EXPECT_TRUE(bar().FindItem("mnuFilePrint")->enabled);
     EXPECT_TRUE(bar().FindButton("Print")->enabled);
-    document.SetTab(Tab::Adjuncts);
-    document.SetText(document.Record().txtNotes, "x");
+    document.Focus().SetTab(Tab::Adjuncts);
+    document.Fields().SetText(document.Record().txtNotes, "x");
     EXPECT_TRUE(Lit("mnuFileSave"));
     EXPECT_TRUE(Lit("mnuFileSaveAll"));
     EXPECT_TRUE(Lit("mnuEditInsert"));
@@ -135,7 +135,7 @@ TEST_F(ShellTest, SaveAllIsOnExactlyWhileSomeDocumentIsChanged) {
     RecipeDocument& first = NewSaved("One");
     RecipeDocument& second = NewSaved("Two");
     EXPECT_FALSE(Lit("mnuFileSaveAll"));
-    first.SetText(first.Record().txtNotes, "x");
+    first.Fields().SetText(first.Record().txtNotes, "x");
     EXPECT_TRUE(Lit("mnuFileSaveAll"));
     EXPECT_FALSE(Lit("mnuFileSave"));  // the active one is clean
     shell.Activate(first);
@@ -233,7 +233,7 @@ TEST_F(ShellTest, TheAppendFlagTogglesWhileADocumentIsOpen) {
 
 TEST_F(ShellTest, InsertAndDeleteActOnTheActiveDocument) {
     RecipeDocument& document = shell.CreateDocumentWindow("");
-    document.SetTab(Tab::Adjuncts);
+    document.Focus().SetTab(Tab::Adjuncts);
     const int before = document.Record().gridAdjuncts.Rows();
     EXPECT_TRUE(shell.RunMenu("mnuEditInsert"));
     EXPECT_EQ(document.Record().gridAdjuncts.Rows(), before + 1);

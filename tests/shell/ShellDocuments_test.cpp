@@ -127,7 +127,7 @@ TEST_F(ShellTest, NoDropsTheChanges) {
 
 TEST_F(ShellTest, YesSavesAStoredRecipeAndCloses) {
     RecipeDocument& document = NewSaved("Pale Ale");
-    document.SetText(document.Record().txtNotes, "More hops.");
+    document.Fields().SetText(document.Record().txtNotes, "More hops.");
     outside.messages.answers = {Answer::Yes};
     EXPECT_TRUE(shell.CloseDocument(document));
     Recordset row = shell.DB()->OpenRecordset("SELECT NOTES FROM RECIPES WHERE NAME = 'Pale Ale'");
@@ -146,7 +146,7 @@ TEST_F(ShellTest, YesWithACancelledNameDialogKeepsTheDocument) {
 
 TEST_F(ShellTest, YesWithAFailingSaveKeepsTheDocument) {
     RecipeDocument& document = NewSaved("Pale Ale");
-    document.SetText(document.Record().txtNotes, "x");
+    document.Fields().SetText(document.Record().txtNotes, "x");
     shell.DB()->SetStatementHook([](std::string_view sql) {
         if (sql.starts_with("INSERT INTO RECIPES")) throw Error("Database", "disk full", 13);
     });
@@ -160,7 +160,7 @@ TEST_F(ShellTest, YesWithAFailingSaveKeepsTheDocument) {
 // A save whose new row has vanished counts as done but leaves the document changed; its window must not go.
 TEST_F(ShellTest, YesWithASaveThatLosesItsRowKeepsTheDocument) {
     RecipeDocument& document = NewSaved("Pale Ale");
-    document.SetText(document.Record().txtNotes, "x");
+    document.Fields().SetText(document.Record().txtNotes, "x");
     Database& database = *shell.DB();
     database.SetStatementHook([&](std::string_view sql) {
         if (!sql.starts_with("UPDATE RECIPES SET BV")) return;
@@ -186,7 +186,7 @@ class PendingEntry : public DocumentView {
 
 TEST_F(ShellTest, AnEntryStillBeingTypedCountsWhenClosing) {
     RecipeDocument& document = shell.CreateDocumentWindow("");
-    PendingEntry entry([&] { document.SetText(document.Record().txtNotes, "typed"); });
+    PendingEntry entry([&] { document.Fields().SetText(document.Record().txtNotes, "typed"); });
     document.SetView(&entry);
     EXPECT_FALSE(shell.CloseDocument(document));
     EXPECT_EQ(outside.messages.log, Strings{Unsaved("", "Cancel")});
@@ -286,7 +286,7 @@ TEST_F(ShellTest, AnOverwrittenRecipesWindowStaysDetached) {
 TEST_F(ShellTest, SavingUnderAnotherRecipesNameAsksAndARefusalChangesNothing) {
     NewSaved("Pale Ale");
     RecipeDocument& document = NewSaved("Stout");
-    document.SetText(document.Record().txtName, "Pale Ale");
+    document.Fields().SetText(document.Record().txtName, "Pale Ale");
     EXPECT_FALSE(shell.SaveRecipe(document, false));
     EXPECT_EQ(outside.messages.log,
               Strings{"[Overwrite existing recipe?] Another recipe named 'Pale Ale' already exists.\r\n"
@@ -305,7 +305,7 @@ TEST_F(ShellTest, ASilentSavePassesANewDocumentOver) {
 TEST_F(ShellTest, ASilentSavePassesADocumentOverWhoseNameIsAnotherRecipes) {
     NewSaved("Pale Ale");
     RecipeDocument& document = NewSaved("Stout");
-    document.SetText(document.Record().txtName, " PALE ALE ");
+    document.Fields().SetText(document.Record().txtName, " PALE ALE ");
     EXPECT_FALSE(shell.SaveRecipe(document, true));
     EXPECT_TRUE(document.Changed());
     EXPECT_EQ(document.OrigName(), "Stout");
@@ -315,7 +315,7 @@ TEST_F(ShellTest, ASilentSavePassesADocumentOverWhoseNameIsAnotherRecipes) {
 
 TEST_F(ShellTest, ASilentSaveTakesAnEditedNameThatIsFree) {
     RecipeDocument& document = NewSaved("Stout");
-    document.SetText(document.Record().txtName, "Dry Stout");
+    document.Fields().SetText(document.Record().txtName, "Dry Stout");
     EXPECT_TRUE(shell.SaveRecipe(document, true));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Dry Stout"});
     EXPECT_EQ(outside.messages.log, Strings{});
@@ -329,7 +329,7 @@ TEST_F(ShellTest, ASilentSaveWithoutAnyEditSaves) {
 
 TEST_F(ShellTest, AnErrorDuringSaveIsShownAndReportedAsNotSaved) {
     RecipeDocument& document = NewSaved("Stout");
-    document.SetText(document.Record().txtNotes, "x");
+    document.Fields().SetText(document.Record().txtNotes, "x");
     shell.DB()->SetStatementHook([](std::string_view sql) {
         if (sql.starts_with("UPDATE RECIPES")) throw Error("Database", "disk full", 13);
     });
@@ -342,7 +342,7 @@ TEST_F(ShellTest, AnErrorDuringSaveIsShownAndReportedAsNotSaved) {
 
 TEST_F(ShellTest, AFullDiskDuringSaveIsToldByItsOwnError) {
     RecipeDocument& document = NewSaved("Stout");
-    document.SetText(document.Record().txtNotes, "x");
+    document.Fields().SetText(document.Record().txtNotes, "x");
     bool isFull = false;
     shell.DB()->SetStatementHook([&](std::string_view sql) {
         if (isFull || !sql.starts_with("DELETE FROM RECIPE_GRAINS")) return;
@@ -363,7 +363,7 @@ TEST_F(ShellTest, AFullDiskDuringSaveIsToldByItsOwnError) {
 
 TEST_F(ShellTest, ADiskThatStaysDeadLeavesTheListsAndSaysThatTheyAreOld) {
     RecipeDocument& document = NewSaved("Stout");
-    document.SetText(document.Record().txtNotes, "x");
+    document.Fields().SetText(document.Record().txtNotes, "x");
     ExplorerModel explorer(shell.Access(), {});
     view.log.clear();
     shell.DB()->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
@@ -395,7 +395,8 @@ TEST_F(ShellTest, OldListsAreReadAgainWhenTheyAreLookedAt) {
 TEST_F(ShellTest, SaveAllSavesEveryDocumentAndGoesOnAfterAFailure) {
     RecipeDocument& first = NewSaved("One");
     RecipeDocument& second = NewSaved("Two");
-    for (RecipeDocument* document : {&first, &second}) document->SetText(document->Record().txtNotes, "x");
+    for (RecipeDocument* document : {&first, &second})
+        document->Fields().SetText(document->Record().txtNotes, "x");
     bool failed = false;
     shell.DB()->SetStatementHook([&](std::string_view sql) {
         if (failed || !sql.starts_with("INSERT INTO RECIPES")) return;

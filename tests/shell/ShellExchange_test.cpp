@@ -200,8 +200,8 @@ TEST_F(ShellExchangeTest, AnUnknownStyleIsTold) {
 TEST_F(ShellExchangeTest, AnOpenRecipeThatIsOverwrittenStaysAsItWas) {
     RecipeDocument& document = NewSaved("Mild");
     shell.ExportRecipes(file, false, {"Mild"});
-    document.SetText(document.Record().txtName, "Mild");
-    document.SetText(document.Record().txtNotes, "typed since");
+    document.Fields().SetText(document.Record().txtName, "Mild");
+    document.Fields().SetText(document.Record().txtNotes, "typed since");
     NextDialog({{}, {"cmdOverwrite"}});
     shell.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(document.Record().txtNotes.Text(), "typed since");
@@ -371,7 +371,7 @@ TEST_F(ShellExchangeTest, AutosaveWaitsWhileRecipesAreCopied) {
     shell.SetDoAutoSave(true);
     shell.CurrentSettings().doAutoSaveEvery = 1;
     shell.ExportRecipes(file, false, {"Mild"});
-    document.SetText(document.Record().txtNotes, "typed since");
+    document.Fields().SetText(document.Record().txtNotes, "typed since");
     outside.dialogs.scripts.emplace_back([&](DialogModel&) { shell.TickAutoSave(); });
     shell.ImportRecipes(file, 0, std::nullopt);
     EXPECT_TRUE(document.Changed());

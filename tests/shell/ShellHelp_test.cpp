@@ -42,10 +42,10 @@ class ShellHelp : public ShellTest {
 };
 
 TEST_F(ShellHelp, IsAboutTheTabInFront) {
-    shell.CreateDocumentWindow("").SetTab(Tab::Hops);
+    shell.CreateDocumentWindow("").Focus().SetTab(Tab::Hops);
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "hops.html");
-    shell.ActiveDocument()->SetTab(Tab::General);
+    shell.ActiveDocument()->Focus().SetTab(Tab::General);
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "general.html");
 }
@@ -53,14 +53,14 @@ TEST_F(ShellHelp, IsAboutTheTabInFront) {
 TEST_F(ShellHelp, IsTheHomePageWithoutADocumentOrWithAMinimisedOne) {
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "home");
-    shell.CreateDocumentWindow("").SetTab(Tab::Hops);
+    shell.CreateDocumentWindow("").Focus().SetTab(Tab::Hops);
     view.minimized = true;
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "home");
 }
 
 TEST_F(ShellHelp, ATabWithoutAPageIsTold) {
-    shell.CreateDocumentWindow("").SetTab(Tab::Notes);
+    shell.CreateDocumentWindow("").Focus().SetTab(Tab::Notes);
     shell.RunMenu("mnuHelpAuto");
     EXPECT_EQ(outside.messages.log, Strings{"[Error Loading Help Topic] Error: Topic Not Found"});
     EXPECT_EQ(TakePage(), "");

@@ -63,7 +63,7 @@ TEST_F(ShellSetup, AnAppliedStyleIsInTheListsAtOnce) {
         editor.Press("cmdApply");
         EXPECT_TRUE(Offers("Dry Stout"));
         EXPECT_FALSE(Offers("Stout"));
-        shell.ActiveDocument()->ChangeStyle("Dry Stout");
+        shell.ActiveDocument()->Style().ChangeStyle("Dry Stout");
         editor.SetControl("gridInfo(0,0)", "1.040");
         editor.Press("cmdApply");
         EXPECT_EQ(shell.ActiveDocument()->Record().lblOGStyle.Text(), ">= 1.040");
@@ -86,9 +86,9 @@ TEST_F(ShellSetup, TheDocumentsFollowWhenDatabaseSetupCloses) {
 TEST_F(ShellSetup, TheRangesBesideTheFiguresFollowTheStyleWithoutAChange) {
     shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID, IBU_LO) VALUES ('Stout', 0, 20)");
     RecipeDocument& document = shell.CreateDocumentWindow("");
-    ASSERT_TRUE(document.ChangeStyle("Stout"));
+    ASSERT_TRUE(document.Style().ChangeStyle("Stout"));
     bool saved = false;
-    document.SaveRecipeAs("Mine", 0, true, saved);
+    saved = document.Storage().SaveUnder("Mine", 0, Asking::Quietly);
     ASSERT_TRUE(saved);
     Next([](DialogModel& editor) {
         editor.SetControl("gridInfo(4,1)", "40");

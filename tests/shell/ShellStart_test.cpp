@@ -83,7 +83,7 @@ TEST_F(ShellStartTest, AWriteProtectedDatabaseIsToldOnceAndCanBeRead) {
     shell.OpenByName("Stout");
     ASSERT_NE(shell.ActiveDocument(), nullptr);
     RecipeDocument& stout = *shell.ActiveDocument();
-    stout.SetText(stout.Record().txtNotes, "kept all the same");
+    stout.Fields().SetText(stout.Record().txtNotes, "kept all the same");
     shell.KeepUnsavedWork();
     EXPECT_FALSE(shell.SaveRecipe(stout, false));
     EXPECT_EQ(

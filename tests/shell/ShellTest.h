@@ -93,7 +93,7 @@ class ShellTest : public testing::Test {
     // A document with that name typed in, changed.
     RecipeDocument& NewNamed(std::string_view name) {
         RecipeDocument& document = shell.CreateDocumentWindow("");
-        document.SetText(document.Record().txtName, name);
+        document.Fields().SetText(document.Record().txtName, name);
         return document;
     }
     // A document that has been saved under that name.

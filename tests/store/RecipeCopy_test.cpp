@@ -95,7 +95,7 @@ TEST_F(RecipeCopyTest, ARecipeComesBackAsItWentButForItsSugarsAndItsFolder) {
     for (const char* table : {"GRAINS", "HOPS", "SALTS", "ADJUNCTS", "LOG", "SUGARS"})
         main->Execute("DELETE FROM RECIPE_" + std::string(table));
     Import({"Mild"}, 4);
-    recipe.sugars.clear();
+    recipe[GridId::Priming].clear();
     recipe.folderId = 4;
     EXPECT_EQ(Describe(*ReadRecipe(*main, "Mild")), Describe(recipe));
     EXPECT_EQ(host.conflicts, Strings{});

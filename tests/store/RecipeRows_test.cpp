@@ -56,10 +56,13 @@ TEST_F(RecipeRows, ComeBackWithAwkwardTexts) {
                                             "\xff\xfe"};
     for (const std::string& text : texts) {
         StoredRecipe recipe = FullRecipe("Awkward " + std::to_string(&text - texts.data()), 1);
-        recipe.bv.text = recipe.og.text = recipe.abv = recipe.notes = recipe.numBatches =
-            recipe.source.profile = text;
-        recipe.grains[0].name = recipe.hops[0].duration.text = recipe.salts[0].amount.text = text;
-        recipe.sugars[0].ferment.text = recipe.adjuncts[0].when = recipe.log[0].notes = text;
+        recipe[FieldId::BoilVol].text = recipe[FieldId::OG].text = recipe[FieldId::ABV].text =
+            recipe[FieldId::Notes].text = recipe[FieldId::NumBatches].text =
+                recipe[GridId::Water].at(0).cells[WaterCol::Profile].text = text;
+        recipe[GridId::Grain].at(0).cells[0].text = recipe[GridId::Hops].at(0).cells[6].text =
+            recipe[GridId::Treatment].at(0).cells[1].text = text;
+        recipe[GridId::Priming].at(0).cells[1].text = recipe[GridId::Adjuncts].at(0).cells[2].text =
+            recipe[GridId::Log].at(0).cells[2].text = text;
         EXPECT_EQ(Describe(RoundTrip(recipe)), Describe(recipe)) << text.substr(0, 40);
     }
 }
@@ -76,18 +79,18 @@ TEST_F(RecipeRows, KeepEveryDigitOfANumber) {
     for (const double number : {0.1, 1.653947502249557, 345.9954202661539, 1.041234567890123, 1.0 / 3, 5e-324,
                                 1.7976931348623157e308, 123456789012345680.0, -2.5e-7, 4503599627370497.5}) {
         StoredRecipe recipe = FullRecipe("N", 1);
-        recipe.og.data = number;
-        recipe.grains[0].amount.data = -number;
+        recipe[FieldId::OG].number = number;
+        recipe[GridId::Grain].at(0).cells[1].number = -number;
         db->Execute("DELETE FROM RECIPES");
         const StoredRecipe read = RoundTrip(recipe);
-        EXPECT_EQ(read.og.data, number);
-        EXPECT_EQ(read.grains[0].amount.data, -number);
+        EXPECT_EQ(read[FieldId::OG].number, number);
+        EXPECT_EQ(read[GridId::Grain].at(0).cells[1].number, -number);
     }
 }
 
 TEST_F(RecipeRows, TrimTextsOnWriting) {
     StoredRecipe recipe = FullRecipe("  Mild  ", 1);
-    recipe.notes = "  two lines\r\n below ";
+    recipe[FieldId::Notes].text = "  two lines\r\n below ";
     EXPECT_TRUE(InsertRecipe(*db, recipe));
     EXPECT_EQ(Cell(*db, "SELECT NAME FROM RECIPES"), "Mild");
     EXPECT_EQ(Cell(*db, "SELECT NOTES FROM RECIPES"), "two lines\r\n below");
@@ -97,40 +100,39 @@ TEST_F(RecipeRows, WriteBlanksForWhatIsAbsent) {
     StoredRecipe recipe;
     recipe.name = "Bare";
     recipe.createdWhen = DateTime{2024, 1, 1, 0, 0, 0};
-    recipe.grains.emplace_back();
-    recipe.hops.emplace_back();
-    recipe.salts.emplace_back();
+    for (const GridId grid : {GridId::Grain, GridId::Hops, GridId::Treatment})
+        recipe[grid].push_back(EmptyLine(grid, 0));
     const StoredRecipe read = RoundTrip(recipe);
     EXPECT_EQ(read.styleId, 0);
     EXPECT_EQ(read.folderId, 0);
-    EXPECT_EQ(read.bv.text, "");
-    EXPECT_EQ(read.bv.data, 0);
+    EXPECT_EQ(read[FieldId::BoilVol].text, "");
+    EXPECT_EQ(read[FieldId::BoilVol].number, 0);
     EXPECT_EQ(read.ibuMethod, 0);
     EXPECT_EQ(read.bottled, false);
-    EXPECT_EQ(read.kegPsi.data, 0);
-    EXPECT_EQ(read.kegVols, std::nullopt);
-    EXPECT_EQ(read.source.ions[0], std::nullopt);
-    EXPECT_EQ(read.grains.at(0).name, "");
-    EXPECT_EQ(read.grains.at(0).color.data, 0);
-    EXPECT_EQ(read.hops.at(0).form, 0);
-    EXPECT_EQ(read.hops.at(0).dry, false);
-    EXPECT_EQ(read.salts.at(0).ions[5], 0);
+    EXPECT_EQ(read[GridId::Pressure].at(0).cells[PressureCol::Pressure].number, 0);
+    EXPECT_EQ(read[GridId::Pressure].at(0).cells[PressureCol::Volumes].text, std::nullopt);
+    EXPECT_EQ(read[GridId::Water].at(0).cells[WaterCol::FirstIon + 0].text, std::nullopt);
+    EXPECT_EQ(read[GridId::Grain].at(0).cells[0].text, "");
+    EXPECT_EQ(read[GridId::Grain].at(0).cells[4].number, 0);
+    EXPECT_EQ(read[GridId::Hops].at(0).cells[2].number, 0);
+    EXPECT_EQ(read[GridId::Hops].at(0).cells[5].number, false);
+    EXPECT_EQ(read[GridId::Treatment].at(0).cells[TreatmentCol::FirstIon + 5].number, 0);
 }
 
 TEST_F(RecipeRows, WriteABlankCellAsNull) {
     StoredRecipe recipe = FullRecipe("Blank");
-    recipe.kegVols = "  ";
-    recipe.source.ions[0] = "";
-    recipe.target.ions[5] = " 638 ";
+    recipe[GridId::Pressure].at(0).cells[PressureCol::Volumes].text = "  ";
+    recipe[GridId::Water].at(0).cells[WaterCol::FirstIon + 0].text = "";
+    recipe[GridId::Water].at(1).cells[WaterCol::FirstIon + 5].text = " 638 ";
     const StoredRecipe read = RoundTrip(recipe);
-    EXPECT_EQ(read.kegVols, std::nullopt);
-    EXPECT_EQ(read.source.ions[0], std::nullopt);
-    EXPECT_EQ(read.target.ions[5], "638");
+    EXPECT_EQ(read[GridId::Pressure].at(0).cells[PressureCol::Volumes].text, std::nullopt);
+    EXPECT_EQ(read[GridId::Water].at(0).cells[WaterCol::FirstIon + 0].text, std::nullopt);
+    EXPECT_EQ(read[GridId::Water].at(1).cells[WaterCol::FirstIon + 5].text, "638");
 }
 
 TEST_F(RecipeRows, RefuseABareTextThatIsNoNumber) {
     StoredRecipe recipe = FullRecipe("Evil");
-    recipe.target.ions[1] = "1, NOTES = ''";
+    recipe[GridId::Water].at(1).cells[WaterCol::FirstIon + 1].text = "1, NOTES = ''";
     EXPECT_EQ(ErrorOf([&] { InsertRecipe(*db, recipe); }).WithSource(),
               "Database\r\n'1, NOTES = ''' is no number. (20)");
     // What was written until then stays.
@@ -146,16 +148,16 @@ TEST_F(RecipeRows, ReadNullAsAbsent) {
     ASSERT_TRUE(read.has_value());
     EXPECT_EQ(read->createdWhen, std::nullopt);
     EXPECT_EQ(read->styleId, std::nullopt);
-    EXPECT_EQ(read->notes, std::nullopt);
-    EXPECT_EQ(read->bv.text, std::nullopt);
-    EXPECT_EQ(read->bv.data, std::nullopt);
+    EXPECT_EQ((*read)[FieldId::Notes].text, std::nullopt);
+    EXPECT_EQ((*read)[FieldId::BoilVol].text, std::nullopt);
+    EXPECT_EQ((*read)[FieldId::BoilVol].number, std::nullopt);
     EXPECT_EQ(read->bottled, std::nullopt);
-    EXPECT_TRUE(read->grains.empty());  // neither a grain nor an extract
-    EXPECT_EQ(read->hops.at(0).dry, std::nullopt);
-    EXPECT_EQ(read->salts.at(0).ions[0], std::nullopt);
-    EXPECT_EQ(read->sugars.at(0).name, std::nullopt);
-    EXPECT_EQ(read->adjuncts.at(0).when, std::nullopt);
-    EXPECT_EQ(read->log.at(0).notes, std::nullopt);
+    EXPECT_TRUE((*read)[GridId::Grain].empty());  // neither a grain nor an extract
+    EXPECT_EQ((*read)[GridId::Hops].at(0).cells[5].number, std::nullopt);
+    EXPECT_EQ((*read)[GridId::Treatment].at(0).cells[TreatmentCol::FirstIon + 0].number, std::nullopt);
+    EXPECT_EQ((*read)[GridId::Priming].at(0).cells[0].text, std::nullopt);
+    EXPECT_EQ((*read)[GridId::Adjuncts].at(0).cells[2].text, std::nullopt);
+    EXPECT_EQ((*read)[GridId::Log].at(0).cells[2].text, std::nullopt);
 }
 
 TEST_F(RecipeRows, AreFoundWithoutCase) {
@@ -168,10 +170,10 @@ TEST_F(RecipeRows, AreFoundWithoutCase) {
 
 TEST_F(RecipeRows, KeepGapsBetweenRows) {
     StoredRecipe recipe = FullRecipe("Gaps", 2);
-    recipe.log[0].rowId = 9;
+    recipe[GridId::Log].at(0).rowId = 9;
     const StoredRecipe read = RoundTrip(recipe);
-    EXPECT_EQ(read.log.at(0).rowId, 9);
-    EXPECT_EQ(read.log.at(1).rowId, 0);
+    EXPECT_EQ(read[GridId::Log].at(0).rowId, 9);
+    EXPECT_EQ(read[GridId::Log].at(1).rowId, 0);
 }
 
 TEST_F(RecipeRows, RefuseARowThatNoGridCouldHold) {

@@ -12,7 +12,7 @@
 namespace tw::test {
 namespace {
 
-void Add(std::string& out, std::string_view name, const StoredText& text) {
+void Add(std::string& out, std::string_view name, const std::optional<std::string>& text) {
     out.append(name).append("=").append(text ? "'" + *text + "'" : "NULL").append("; ");
 }
 
@@ -20,62 +20,38 @@ void Add(std::string& out, std::string_view name, const std::optional<double>& n
     out.append(name).append("=").append(number ? NumberText(*number) : "NULL").append("; ");
 }
 
-void Add(std::string& out, std::string_view name, const StoredQuantity& quantity) {
-    Add(out, name, quantity.text);
-    Add(out, name, quantity.data);
+void Add(std::string& out, std::string_view name, const StoredValue& value) {
+    Add(out, name, value.text);
+    Add(out, name, value.number);
 }
 
-std::optional<double> AsNumber(const std::optional<std::int64_t>& whole) {
-    if (!whole) return std::nullopt;
-    return static_cast<double>(*whole);
-}
-
-std::optional<double> AsNumber(const std::optional<bool>& value) {
+template <class T>
+std::optional<double> AsNumber(const std::optional<T>& value) {
     if (!value) return std::nullopt;
-    return *value ? 1 : 0;
+    return static_cast<double>(*value);
 }
 
-void AddWater(std::string& out, const StoredWater& water) {
-    Add(out, "profile", water.profile);
-    for (const StoredText& ion : water.ions) Add(out, "ion", ion);
+// A line with a value for each stored column, in the order of the grid's columns.
+StoredLine LineOf(GridId grid, int rowId, const std::vector<StoredValue>& values) {
+    StoredLine line = EmptyLine(grid, rowId);
+    std::size_t next = 0;
+    for (std::size_t col = 0; col < line.cells.size(); ++col)
+        if (RuleOf(grid).columns[col].stored != CellStored::No) line.cells[col] = values.at(next++);
+    return line;
 }
 
-void AddLines(std::string& out, const StoredRecipe& r) {
-    for (const auto* list : {&r.grains, &r.extracts})
-        for (const StoredGrain& line : *list) {
-            out += "\ngrain " + std::to_string(line.rowId) + ": ";
-            Add(out, "name", line.name);
-            for (const StoredQuantity* q : {&line.amount, &line.ppg, &line.color}) Add(out, "q", *q);
-        }
-    for (const StoredHop& line : r.hops) {
-        out += "\nhop " + std::to_string(line.rowId) + ": ";
-        Add(out, "name", line.name);
-        Add(out, "form", AsNumber(line.form));
-        Add(out, "sock", AsNumber(line.sock));
-        Add(out, "dry", AsNumber(line.dry));
-        for (const StoredQuantity* q : {&line.amount, &line.aa, &line.duration}) Add(out, "q", *q);
-    }
-    for (const StoredSalt& line : r.salts) {
-        out += "\nsalt " + std::to_string(line.rowId) + ": ";
-        Add(out, "name", line.name);
-        Add(out, "amount", line.amount);
-        for (const std::optional<double>& ion : line.ions) Add(out, "ion", ion);
-    }
-    for (const StoredSugar& line : r.sugars) {
-        out += "\nsugar " + std::to_string(line.rowId) + ": ";
-        Add(out, "name", line.name);
-        Add(out, "ferment", line.ferment);
-        Add(out, "amount", line.amount);
-    }
-    for (const StoredAdjunct& line : r.adjuncts) {
-        out += "\nadjunct " + std::to_string(line.rowId) + ": ";
-        for (const StoredText* text : {&line.name, &line.amount, &line.duration, &line.when})
-            Add(out, "t", *text);
-    }
-    for (const StoredLogLine& line : r.log) {
-        out += "\nlog " + std::to_string(line.rowId) + ": ";
-        for (const StoredText* text : {&line.date, &line.action, &line.notes}) Add(out, "t", *text);
-    }
+StoredValue Text(const std::string& text) {
+    return {text, {}};
+}
+
+StoredValue Number(double number) {
+    return {{}, number};
+}
+
+std::vector<StoredValue> Water(const std::string& profile, const std::vector<std::string>& ions) {
+    std::vector<StoredValue> values{Text(profile)};
+    for (const std::string& ion : ions) values.push_back(ion.empty() ? StoredValue{} : Text(ion));
+    return values;
 }
 
 }  // namespace
@@ -131,60 +107,73 @@ StoredRecipe FullRecipe(const std::string& name, int linesPerTable) {
     r.folderId = 3;
     r.createdWhen = DateTime{2024, 1, 31, 12, 0, 5};
     r.modifiedWhen = DateTime{2024, 2, 29, 18, 30, 59};
-    r.bv = {"7 gal", 7};
-    r.tv = {"5 1/2 gal", 5.5};
-    r.dilutions = {"1 qt", 0.25};
-    r.fv = {"5 gal", 5};
-    r.bg = {"1.041", 1.041234567890123};
-    r.og = {"1.050", 1.05};
-    r.fg = {"1.012", 1.012};
-    r.abv = "5.2% abv";
-    r.color = "9 SRM (14 HCU)";
-    r.ibu = "34";
-    r.co2Vols = "2.45 volumes";
-    r.notes = "007";
-    r.numBatches = "1.050";
-    r.grainExtract = {"72%", 72};
+    r[FieldId::BoilVol] = {"7 gal", 7};
+    r[FieldId::TotalVol] = {"5 1/2 gal", 5.5};
+    r[FieldId::Dilutions] = {"1 qt", 0.25};
+    r[FieldId::FinalVol] = {"5 gal", 5};
+    r[FieldId::BG] = {"1.041", 1.041234567890123};
+    r[FieldId::OG] = {"1.050", 1.05};
+    r[FieldId::FG] = {"1.012", 1.012};
+    r[FieldId::ABV] = Text("5.2% abv");
+    r[FieldId::Color] = Text("9 SRM (14 HCU)");
+    r[FieldId::IBU] = Text("34");
+    r[FieldId::CO2] = Text("2.45 volumes");
+    r[FieldId::Notes] = Text("007");
+    r[FieldId::NumBatches] = Text("1.050");
+    r[FieldId::Extract] = {"72%", 72};
     r.ibuMethod = 2;
-    r.hopExtract = {"1.0", 1};
+    r[FieldId::HopExtraction] = {"1.0", 1};
     r.bottled = true;
-    r.kegPsi = {"12 psi", 12};
-    r.kegVols = "2.5";
-    r.temperature = {"68 F", 68};
-    r.source = {"Home", {"40", "120.5", "20", "8", "15", "30"}};
-    r.target = {"Burton", {"268", "200", std::nullopt, "62", "0", "638"}};
+    r[FieldId::Temp] = {"68 F", 68};
+    r[GridId::Pressure] = {LineOf(GridId::Pressure, 0, {{"12 psi", 12}, Text("2.5")})};
+    r[GridId::Water] = {LineOf(GridId::Water, 0, Water("Home", {"40", "120.5", "20", "8", "15", "30"})),
+                        LineOf(GridId::Water, 1, Water("Burton", {"268", "200", "", "62", "0", "638"}))};
     // By descending row, as a recipe is read.
     for (int i = linesPerTable - 1; i >= 0; --i) {
         const std::string n = std::to_string(i);
-        r.grains.push_back({i, "Pale malt " + n, {"8 lb 4 oz", 8.25}, {"36.5", 36.5}, {"2.2", 2.2}});
-        r.extracts.push_back({i, "Light extract " + n, {"1 lb", 1}, {"44", 44}, {"5", 5}});
-        r.hops.push_back(
-            {i, "Goldings " + n, 2, true, false, {"1 1/2 oz", 1.5}, {"5.2%", 5.2}, {"60 min", 60}});
-        r.salts.push_back({i, "Gypsum " + n, {"3.125 grams", 3.125}, {61.5, 0, 0.1, 2, 3, 147.4}});
-        r.sugars.push_back({i, "Corn sugar " + n, {"100%", 100}, {"4 oz", 4}});
-        r.adjuncts.push_back({i, "Irish moss " + n, "1 tsp", "15 min", "Boil"});
-        r.log.push_back({i, "02/28/2024", "Pitched Yeast", "London ale " + n});
+        const auto add = [&](GridId grid, const std::vector<StoredValue>& values) {
+            r[grid].push_back(LineOf(grid, i, values));
+        };
+        add(GridId::Grain, {Text("Pale malt " + n), {"8 lb 4 oz", 8.25}, {"36.5", 36.5}, {"2.2", 2.2}});
+        add(GridId::Extract, {Text("Light extract " + n), {"1 lb", 1}, {"44", 44}, {"5", 5}});
+        add(GridId::Hops, {Text("Goldings " + n),
+                           {"5.2%", 5.2},
+                           Number(2),
+                           Number(1),
+                           {"1 1/2 oz", 1.5},
+                           Number(0),
+                           {"60 min", 60}});
+        add(GridId::Treatment, {Text("Gypsum " + n),
+                                {"3.125 grams", 3.125},
+                                Number(61.5),
+                                Number(0),
+                                Number(0.1),
+                                Number(2),
+                                Number(3),
+                                Number(147.4)});
+        add(GridId::Priming, {Text("Corn sugar " + n), {"100%", 100}, {"4 oz", 4}});
+        add(GridId::Adjuncts, {Text("Irish moss " + n), Text("1 tsp"), Text("Boil"), Text("15 min")});
+        add(GridId::Log, {Text("02/28/2024"), Text("Pitched Yeast"), Text("London ale " + n)});
     }
     return r;
 }
 
 std::string Describe(const StoredRecipe& r) {
     std::string out;
-    Add(out, "name", r.name);
+    Add(out, "name", std::optional(r.name));
     Add(out, "style", AsNumber(r.styleId));
     Add(out, "folder", AsNumber(r.folderId));
-    Add(out, "created", r.createdWhen ? StoredText(DateText(*r.createdWhen)) : std::nullopt);
-    Add(out, "modified", StoredText(DateText(r.modifiedWhen)));
-    for (const StoredQuantity* q : {&r.bv, &r.tv, &r.dilutions, &r.fv, &r.bg, &r.og, &r.fg, &r.grainExtract,
-                                    &r.hopExtract, &r.kegPsi, &r.temperature})
-        Add(out, "q", *q);
-    for (const StoredText* t : {&r.abv, &r.color, &r.ibu, &r.co2Vols, &r.notes, &r.numBatches, &r.kegVols})
-        Add(out, "t", *t);
+    Add(out, "created", r.createdWhen ? std::optional(DateText(*r.createdWhen)) : std::nullopt);
+    Add(out, "modified", std::optional(DateText(r.modifiedWhen)));
     Add(out, "method", AsNumber(r.ibuMethod));
     Add(out, "bottled", AsNumber(r.bottled));
-    AddWater(out, r.source);
-    AddWater(out, r.target);
-    AddLines(out, r);
+    for (const FieldRule& rule : FieldRules()) Add(out, rule.name, r[rule.id]);
+    for (const GridRule& rule : GridRules())
+        for (const StoredLine& line : r[rule.id]) {
+            out.append("\n").append(rule.name).append(" " + std::to_string(line.rowId) + ": ");
+            for (std::size_t col = 0; col < line.cells.size(); ++col)
+                Add(out, rule.columns[col].header, line.cells[col]);
+        }
     return out;
 }
 

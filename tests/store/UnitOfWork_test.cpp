@@ -27,7 +27,7 @@ void Save(Database& database, const StoredRecipe& recipe) {
 
 StoredRecipe NewRecipe() {
     StoredRecipe recipe = FullRecipe("Mild", 3);
-    recipe.notes = std::string(20000, 'n');  // more pages than the old one
+    recipe[FieldId::Notes].text = std::string(20000, 'n');  // more pages than the old one
     return recipe;
 }
 

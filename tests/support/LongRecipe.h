@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "calc/RecipeRecord.h"
+#include "record/RecipeRecord.h"
 #include "reports/PrintSteps.h"
 #include "values/Text.h"
 

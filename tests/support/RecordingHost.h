@@ -93,25 +93,25 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
         commands[command] = on;
     }
     void NotifyRecipeMoved(const std::string& name, std::int64_t folderId) override {
-        for (RecipeDocument* document : documents) document->NotifyRecipeMoved(name, folderId);
+        for (RecipeDocument* document : documents) document->Notices().NotifyRecipeMoved(name, folderId);
     }
     void NotifyRecipeNewStyle(const std::string& name, std::int64_t styleId) override {
-        for (RecipeDocument* document : documents) document->NotifyRecipeNewStyle(name, styleId);
+        for (RecipeDocument* document : documents) document->Notices().NotifyRecipeNewStyle(name, styleId);
     }
     void NotifyRecipeRenamed(const std::string& oldName, const std::string& newName) override {
-        for (RecipeDocument* document : documents) document->NotifyRecipeRenamed(oldName, newName);
+        for (RecipeDocument* document : documents) document->Notices().NotifyRecipeRenamed(oldName, newName);
     }
     void NotifyStyleRenamed(std::int64_t styleId, const std::string& newName) override {
-        for (RecipeDocument* document : documents) document->NotifyStyleRenamed(styleId, newName);
+        for (RecipeDocument* document : documents) document->Notices().NotifyStyleRenamed(styleId, newName);
     }
     void NotifyRecipeDeleted(const std::string& name) override {
-        for (RecipeDocument* document : documents) document->NotifyRecipeDeleted(name);
+        for (RecipeDocument* document : documents) document->Notices().NotifyRecipeDeleted(name);
     }
     void NotifyRecipeFolderDeleted(std::int64_t folderId) override {
-        for (RecipeDocument* document : documents) document->NotifyRecipeFolderDeleted(folderId);
+        for (RecipeDocument* document : documents) document->Notices().NotifyRecipeFolderDeleted(folderId);
     }
     void NotifyStyleDeleted(std::int64_t styleId) override {
-        for (RecipeDocument* document : documents) document->NotifyStyleDeleted(styleId);
+        for (RecipeDocument* document : documents) document->Notices().NotifyStyleDeleted(styleId);
     }
 
     ObjectTree tree_;  // shows nothing

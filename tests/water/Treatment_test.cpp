@@ -16,7 +16,7 @@
 namespace tw {
 namespace {
 
-using Salts = std::vector<IonNumbers>;
+using Salts = std::vector<Ions>;
 using Doses = std::vector<double>;
 
 constexpr int kLimit = 1000;
@@ -43,7 +43,7 @@ TEST(Treatment, SulfateIsNeverOvershot) {
 // second then sodium, and only 5 of chloride are short.
 TEST(Treatment, TheSecondProgramWinsWhereSulfateIsWorthMore) {
     const Salts salts{{0, 0, 0, 0, 10, 20}, {0, 0, 20, 0, 20, 0}};
-    const IonNumbers needed{0, 0, 20, 0, 20, 10};
+    const Ions needed{0, 0, 20, 0, 20, 10};
     EXPECT_EQ(SolveTreatmentWithDeviations(needed, salts, kLimit).doses, (Doses{0, 1}));
     EXPECT_EQ(SolveTreatmentCapped(needed, salts, kLimit).doses, (Doses{0.5, 0.75}));
     EXPECT_EQ(FindDoses(needed, salts, kLimit), (Doses{0.5, 0.75}));
@@ -53,7 +53,7 @@ TEST(Treatment, TheSecondProgramWinsWhereSulfateIsWorthMore) {
 // grams would help the second.
 TEST(Treatment, TheSmallerMissDecidesNotTheGrams) {
     const Salts salts{{1, 0, 0, 0, 0, 0}, {1, 0, 0, 2, 0, 0}};
-    const IonNumbers needed{30, 0, 0, 60, 0, 0};
+    const Ions needed{30, 0, 0, 60, 0, 0};
     EXPECT_EQ(SolveTreatmentWithDeviations(needed, salts, kLimit).doses, (Doses{0, 30}));
     EXPECT_EQ(FindDoses(needed, salts, kLimit), (Doses{0, 30}));
 }
@@ -61,7 +61,7 @@ TEST(Treatment, TheSmallerMissDecidesNotTheGrams) {
 // Any dose of two equal salts that adds up to 2 meets the need; the first program's stands.
 TEST(Treatment, ATieGoesToTheFirstProgram) {
     const Salts salts{{10, 0, 0, 0, 0, 0}, {10, 0, 0, 0, 0, 0}};
-    const IonNumbers needed{20, 0, 0, 0, 0, 0};
+    const Ions needed{20, 0, 0, 0, 0, 0};
     const auto first = SolveTreatmentWithDeviations(needed, salts, kLimit).doses;
     EXPECT_EQ(first[0] + first[1], 2);
     EXPECT_EQ(FindDoses(needed, salts, kLimit), first);
@@ -102,7 +102,7 @@ struct PlainTreatment {
 
 using Way = PlainTreatment::Way;
 
-LinearProgram FirstProgram(const IonNumbers& needed, const Salts& salts) {
+LinearProgram FirstProgram(const Ions& needed, const Salts& salts) {
     const int n = static_cast<int>(salts.size());
     LinearProgram program{n + 6, Doses{1, 1, 1, 1, 1, 0}, true, {}};
     program.objective.resize(n + 6, 0.0);
@@ -120,7 +120,7 @@ LinearProgram FirstProgram(const IonNumbers& needed, const Salts& salts) {
     return program;
 }
 
-LinearProgram SecondProgram(const IonNumbers& needed, const Salts& salts) {
+LinearProgram SecondProgram(const Ions& needed, const Salts& salts) {
     const int n = static_cast<int>(salts.size());
     LinearProgram program{n, Doses(n, 1.0), false, {}};
     for (int i = 0; i < 6; ++i) {
@@ -131,7 +131,7 @@ LinearProgram SecondProgram(const IonNumbers& needed, const Salts& salts) {
     return program;
 }
 
-double PlainMiss(const Doses& doses, const IonNumbers& needed, const Salts& salts) {
+double PlainMiss(const Doses& doses, const Ions& needed, const Salts& salts) {
     double miss = 0;
     for (int i = 0; i < 6; ++i) {
         double added = 0;
@@ -141,7 +141,7 @@ double PlainMiss(const Doses& doses, const IonNumbers& needed, const Salts& salt
     return miss;
 }
 
-PlainTreatment FindPlainly(const IonNumbers& needed, const Salts& salts, int limit) {
+PlainTreatment FindPlainly(const Ions& needed, const Salts& salts, int limit) {
     const LPAnswer first = SolvePlainly(FirstProgram(needed, salts), limit);
     if (first.kind == LPAnswer::Kind::DivisionByZero) return {Way::Division};
     if (first.kind == LPAnswer::Kind::Overflow) return {Way::Overflow};
@@ -163,7 +163,7 @@ PlainTreatment FindPlainly(const IonNumbers& needed, const Salts& salts, int lim
     return {Way::SecondBetter, limited, second.x};
 }
 
-PlainTreatment FindOurs(const IonNumbers& needed, const Salts& salts, int limit) {
+PlainTreatment FindOurs(const Ions& needed, const Salts& salts, int limit) {
     try {
         const auto doses = FindDoses(needed, salts, limit);
         PlainTreatment found{doses ? Way::FirstBetter : Way::None};
@@ -180,7 +180,7 @@ bool HasDoses(Way way) {
 
 // Where every ion of a salt and every need is a figure that a brewer could type; now and then far beyond.
 struct RandomWater {
-    IonNumbers needed{};
+    Ions needed{};
     Salts salts;
 };
 
@@ -189,7 +189,7 @@ RandomWater MakeWater(Dice& dice) {
     const bool huge = dice.Below(40) == 0;
     const int size = 1 + dice.Below(10);
     for (int j = 0; j < size; ++j) {
-        IonNumbers& salt = water.salts.emplace_back();
+        Ions& salt = water.salts.emplace_back();
         if (dice.Below(30) == 0) continue;
         for (double& factor : salt) {
             if (dice.Below(3) > 0) continue;

@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "calc/Controls.h"
+#include "record/Controls.h"
 
 namespace tw {
 

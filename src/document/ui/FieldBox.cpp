@@ -28,7 +28,7 @@ FieldBox::FieldBox(DocumentBinding& binding, TextBox& box, const QString& name, 
     connect(this, &QLineEdit::selectionChanged, this, &FieldBox::TellSelection);
     connect(this, &QLineEdit::cursorPositionChanged, this, &FieldBox::TellSelection);
     connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
-        binding_.Run([&](RecipeDocument& document) { document.SetText(box_, FromQt(text)); });
+        binding_.Run([&](RecipeDocument& document) { document.Fields().SetText(box_, FromQt(text)); });
     });
 }
 
@@ -90,7 +90,7 @@ void FieldBox::changeEvent(QEvent* event) {
 
 bool FieldBox::Commit() {
     bool accepted = true;
-    binding_.Run([&](RecipeDocument& document) { accepted = document.CommitField(box_); });
+    binding_.Run([&](RecipeDocument& document) { accepted = document.Fields().CommitField(box_); });
     if (!accepted) selectAll();
     return accepted;
 }
@@ -127,7 +127,7 @@ void FieldBox::keyPressEvent(QKeyEvent* event) {
             if (Commit()) selectAll();
             return;
         case Qt::Key_Escape:
-            binding_.Run([this](RecipeDocument& document) { document.RestoreField(box_); });
+            binding_.Run([this](RecipeDocument& document) { document.Fields().RestoreField(box_); });
             selectAll();
             return;
         default:

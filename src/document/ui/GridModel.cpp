@@ -66,7 +66,7 @@ bool GridModel::IsCheckBox(const QModelIndex& index) const {
 bool GridModel::CanEdit(const QModelIndex& index) const {
     const RecipeDocument* document = binding_.Document();
     return grid_ && document && index.isValid() && part_ == Part::Data &&
-           document->CanEdit(*grid_, GridRow(index.row()), index.column());
+           document->Cells().CanEdit(*grid_, GridRow(index.row()), index.column());
 }
 
 Qt::Alignment GridModel::AlignmentOf(const Grid& grid, int col) {
@@ -77,7 +77,7 @@ Qt::Alignment GridModel::AlignmentOf(const Grid& grid, int col) {
 bool GridModel::HasCatalogue(const QModelIndex& index) const {
     const RecipeDocument* document = binding_.Document();
     return grid_ && document && index.isValid() && part_ == Part::Data &&
-           document->PickListOf(*grid_, GridRow(index.row()), index.column());
+           document->Picks().ListOf(*grid_, GridRow(index.row()), index.column());
 }
 
 bool GridModel::IsTotal(const QModelIndex& index) const {

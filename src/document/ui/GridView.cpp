@@ -238,7 +238,8 @@ CellList GridView::ListOf(const QModelIndex& cell) const {
     CellList list;
     if (!grid_) return list;
     const int row = model_->GridRow(cell.row());
-    binding_.Run([&](RecipeDocument& document) { list = document.ListOf(*grid_, row, cell.column()); });
+    binding_.Run(
+        [&](RecipeDocument& document) { list = document.Cells().ListOf(*grid_, row, cell.column()); });
     return list;
 }
 
@@ -280,7 +281,8 @@ void GridView::commitData(QWidget* editor) {
     bool accepted = true;
     committing_ = true;
     // An arithmetic error leaves the cell as it was; the editor closes then.
-    binding_.Run([&](RecipeDocument& document) { accepted = document.EditCell(*grid_, row, col, text); });
+    binding_.Run(
+        [&](RecipeDocument& document) { accepted = document.Cells().EditCell(*grid_, row, col, text); });
     committing_ = false;
     refused_ = !accepted;
 }
@@ -323,7 +325,7 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 void GridView::TellSelection() {
     const std::optional<GridRange> range = SelectedRange();
     if (following_ || !range || *range == grid_->Selection()) return;
-    binding_.Run([&](RecipeDocument& document) { document.SelectCells(*grid_, *range); });
+    binding_.Run([&](RecipeDocument& document) { document.Focus().SelectCells(*grid_, *range); });
 }
 
 bool GridView::IsCurrentCell(const QModelIndex& cell) const {
@@ -335,8 +337,9 @@ bool GridView::IsCurrentCell(const QModelIndex& cell) const {
 void GridView::Toggle(const QModelIndex& cell) {
     if (!model_->IsCheckBox(cell) || !model_->CanEdit(cell)) return;
     const int row = model_->GridRow(cell.row()), col = cell.column();
-    binding_.Run(
-        [&](RecipeDocument& document) { document.SetChecked(*grid_, row, col, !grid_->Checked(row, col)); });
+    binding_.Run([&](RecipeDocument& document) {
+        document.Cells().SetChecked(*grid_, row, col, !grid_->Checked(row, col));
+    });
 }
 
 void GridView::BrowseSoon() {
@@ -345,13 +348,13 @@ void GridView::BrowseSoon() {
 
 void GridView::BrowseCatalogue() {
     if (!grid_ || !binding_.Flush()) return;
-    binding_.Run([this](RecipeDocument& document) { document.BrowseCell(*grid_); });
+    binding_.Run([this](RecipeDocument& document) { document.Picks().BrowseCell(*grid_); });
 }
 
 void GridView::SortBy(int col) {
     if (!grid_ || !grid_->RowsCanChange() || col < 0) return;
     sorting_ = true;
-    binding_.Run([&](RecipeDocument& document) { document.ClickHeader(*grid_, col); });
+    binding_.Run([&](RecipeDocument& document) { document.Lines().ClickHeader(*grid_, col); });
     sorting_ = false;
     // The document has one sort column for all its grids.
     binding_.ForEachGrid([&](GridView& view) { view.ShowSortMark(&view == this ? col : -1); });
@@ -359,7 +362,7 @@ void GridView::SortBy(int col) {
 
 void GridView::ShowSortMark(int col) {
     const RecipeDocument* document = binding_.Document();
-    const bool descending = document && document->SortDescending();
+    const bool descending = document && document->Lines().SortDescending();
     horizontalHeader()->setSortIndicator(col, descending ? Qt::DescendingOrder : Qt::AscendingOrder);
     horizontalHeader()->setSortIndicatorShown(col >= 0);
 }

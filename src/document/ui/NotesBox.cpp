@@ -31,7 +31,7 @@ NotesBox::NotesBox(DocumentBinding& binding, TextBox& box, const QString& name, 
     connect(this, &QPlainTextEdit::textChanged, this, [this] {
         if (showing_) return;
         const QString text = toPlainText().replace(QLatin1Char('\n'), QStringLiteral("\r\n"));
-        binding_.Run([&](RecipeDocument& document) { document.SetText(box_, FromQt(text)); });
+        binding_.Run([&](RecipeDocument& document) { document.Fields().SetText(box_, FromQt(text)); });
     });
 }
 
@@ -78,7 +78,7 @@ void NotesBox::TellSelection() {
 
 bool NotesBox::Commit() {
     bool accepted = true;
-    binding_.Run([&](RecipeDocument& document) { accepted = document.CommitField(box_); });
+    binding_.Run([&](RecipeDocument& document) { accepted = document.Fields().CommitField(box_); });
     return accepted;
 }
 
@@ -95,7 +95,7 @@ void NotesBox::focusOutEvent(QFocusEvent* event) {
 void NotesBox::keyPressEvent(QKeyEvent* event) {
     if (binding_.HandleEditKey(*event)) return;
     if (event->key() == Qt::Key_Escape) {
-        binding_.Run([this](RecipeDocument& document) { document.RestoreField(box_); });
+        binding_.Run([this](RecipeDocument& document) { document.Fields().RestoreField(box_); });
         moveCursor(QTextCursor::End);
         return;
     }

@@ -73,8 +73,10 @@ QPushButton* PageBuilder::CommandButton(const Button& button, const QString& cap
 QComboBox* PageBuilder::StyleList(const QString& name) {
     return new ListField(
         binding_, record_.cmbStyle, name, &page_,
-        [](RecipeDocument& document, int index) { document.SelectStyle(index); },
-        [](const RecipeDocument& document, std::string_view typed) { return document.StyleEntryOf(typed); });
+        [](RecipeDocument& document, int index) { document.Style().Select(index); },
+        [](const RecipeDocument& document, std::string_view typed) {
+            return document.Style().EntryOf(typed);
+        });
 }
 
 QRadioButton* PageBuilder::Option(const OptionGroup& group, const QString& option, const QString& caption) {
@@ -87,7 +89,7 @@ QRadioButton* PageBuilder::Option(const OptionGroup& group, const QString& optio
     show();
     DocumentBinding& binding = binding_;
     QObject::connect(button, &QRadioButton::clicked, button, [&binding, name, show] {
-        binding.Run([&](RecipeDocument& document) { document.ChooseOption(name); });
+        binding.Run([&](RecipeDocument& document) { document.Options().Choose(name); });
         if (binding.Document()) show();
     });
     return button;

@@ -102,7 +102,7 @@ void frmDocument::TabChosen(int index) {
     }
     shown_ = index;
     BuildTab(index);
-    binding_.Run([index](RecipeDocument& document) { document.SetTab(static_cast<Tab>(index)); });
+    binding_.Run([index](RecipeDocument& document) { document.Focus().SetTab(static_cast<Tab>(index)); });
     QWidget* first = FirstField();
     setFocusProxy(first);
     if (first) first->setFocus(Qt::TabFocusReason);
@@ -134,11 +134,13 @@ void frmDocument::FocusMoved(QWidget* now) {
     binding_.FocusIsIn(*now);
     for (QWidget* control = now; control != this; control = control->parentWidget()) {
         const auto* panel = qobject_cast<GridPanel*>(control);
-        if (panel && panel->View().TheGrid()) return document->FocusOn(*panel->View().TheGrid());
-        if (const auto* field = qobject_cast<FieldBox*>(control)) return document->FocusOn(field->Box());
-        if (const auto* notes = qobject_cast<NotesBox*>(control)) return document->FocusOn(notes->Box());
+        if (panel && panel->View().TheGrid()) return document->Focus().FocusOn(*panel->View().TheGrid());
+        if (const auto* field = qobject_cast<FieldBox*>(control))
+            return document->Focus().FocusOn(field->Box());
+        if (const auto* notes = qobject_cast<NotesBox*>(control))
+            return document->Focus().FocusOn(notes->Box());
     }
-    document->FocusElsewhere();
+    document->Focus().FocusElsewhere();
 }
 
 QWidget* frmDocument::FirstField() const {
@@ -153,11 +155,11 @@ bool frmDocument::IsEditing(const QWidget& control) const {
 
 void frmDocument::FocusRow() {
     RecipeDocument* document = binding_.Document();
-    Grid* grid = document ? document->GridOfTab(static_cast<Tab>(shown_)) : nullptr;
+    Grid* grid = document ? document->Focus().GridOfTab(static_cast<Tab>(shown_)) : nullptr;
     GridView* view = grid ? binding_.ViewOf(*grid) : nullptr;
     if (!view || !view->isVisible()) return;
     view->setFocus();
-    binding_.Run([grid](RecipeDocument& d) { d.SetCurrentCell(*grid, grid->CurrentRow(), 0); });
+    binding_.Run([grid](RecipeDocument& d) { d.Focus().SetCurrentCell(*grid, grid->CurrentRow(), 0); });
 }
 
 void frmDocument::GridColorsChanged() {

@@ -1,0 +1,149 @@
+#include "document/CatalogueLookup.h"
+
+#include "store/CatalogueNames.h"
+
+namespace tw {
+namespace {
+
+std::optional<double> NumberOf(const Field& field) {
+    if (field.IsNull()) return std::nullopt;
+    return field.Number();
+}
+
+// The statement behind a list of names; nullptr for a list that is no query.
+const char* QueryOf(CellNames names) {
+    switch (names) {
+        case CellNames::Grains:
+            return "SELECT NAME FROM GRAINS WHERE GRAIN ORDER BY 1";
+        case CellNames::Extracts:
+            return "SELECT NAME FROM GRAINS WHERE NOT GRAIN ORDER BY 1";
+        case CellNames::Hops:
+            return "SELECT NAME FROM HOPS ORDER BY 1";
+        case CellNames::Sugars:
+            return "SELECT NAME FROM SUGARS ORDER BY 1";
+        case CellNames::Salts:
+            return "SELECT NAME FROM SALTS ORDER BY 1";
+        case CellNames::Waters:
+            return "SELECT NAME FROM WATER_PROFILES ORDER BY 1";
+        case CellNames::UsedAdjuncts:
+            return "SELECT DISTINCT NAME FROM RECIPE_ADJUNCTS ORDER BY NAME";
+        case CellNames::None:
+        case CellNames::HopForms:
+        case CellNames::TimesToAdd:
+        case CellNames::LogActions:
+        case CellNames::PitchedYeast:
+            break;
+    }
+    return nullptr;
+}
+
+Ions IonsIn(const Recordset& row) {
+    Ions ions;
+    for (int ion = 0; ion < kIons; ++ion) ions[static_cast<std::size_t>(ion)] = row.Fields(ion + 1).Number();
+    return ions;
+}
+
+FigureRange RangeIn(const Recordset& row, std::string_view low, std::string_view high) {
+    return {NumberOf(row.Fields(low)), NumberOf(row.Fields(high))};
+}
+
+}  // namespace
+
+std::vector<std::string> CatalogueLookup::Names(CellNames list) const {
+    std::vector<std::string> names;
+    if (const char* const query = QueryOf(list))
+        for (Recordset rows = database_.OpenRecordset(query); !rows.AtEnd(); rows.MoveNext())
+            names.push_back(rows.Fields(0).Text());
+    return names;
+}
+
+// The name of the row that a typed text stands for; the text itself when there is none.
+std::string CatalogueLookup::RowLiteral(CatalogueKind kind, std::string_view typed) const {
+    return SqlText(CatalogueNames(database_).RowOf(kind, typed).value_or(std::string(typed)));
+}
+
+std::optional<FermentableFigures> CatalogueLookup::Fermentable(CatalogueKind kind,
+                                                               std::string_view name) const {
+    const Recordset row = database_.OpenRecordset(
+        "SELECT NAME, (PPG_LO+PPG_HI)/2, (COLOR_LO+COLOR_HI)/2 FROM GRAINS WHERE NAME = " +
+        RowLiteral(kind, name) + (kind == CatalogueKind::Grain ? " AND GRAIN" : " AND NOT GRAIN"));
+    if (row.AtEnd()) return std::nullopt;
+    return FermentableFigures{NumberOf(row.Fields(1)), NumberOf(row.Fields(2))};
+}
+
+std::optional<HopFigures> CatalogueLookup::Hop(std::string_view name) const {
+    const Recordset row = database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM HOPS WHERE NAME = " +
+                                                  RowLiteral(CatalogueKind::Hop, name));
+    if (row.AtEnd()) return std::nullopt;
+    return HopFigures{NumberOf(row.Fields(1))};
+}
+
+std::optional<SugarFigures> CatalogueLookup::Sugar(std::string_view name) const {
+    const Recordset row =
+        database_.OpenRecordset("SELECT NAME, (FERMENT_LO+FERMENT_HI)/2 FROM SUGARS WHERE NAME = " +
+                                RowLiteral(CatalogueKind::Sugar, name));
+    if (row.AtEnd()) return std::nullopt;
+    return SugarFigures{NumberOf(row.Fields(1))};
+}
+
+std::optional<YeastFigures> CatalogueLookup::Yeast(std::string_view name) const {
+    const Recordset row = database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM YEAST WHERE NAME = " +
+                                                  RowLiteral(CatalogueKind::Yeast, name));
+    if (row.AtEnd()) return std::nullopt;
+    return YeastFigures{NumberOf(row.Fields(1))};
+}
+
+std::optional<Ions> CatalogueLookup::IonsOf(CatalogueKind kind, std::string_view name) const {
+    std::string sql = "SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM ";
+    sql.append(TableOf(kind)).append(" WHERE NAME = ").append(RowLiteral(kind, name));
+    const Recordset row = database_.OpenRecordset(sql);
+    if (row.AtEnd()) return std::nullopt;
+    return IonsIn(row);
+}
+
+std::optional<Ions> CatalogueLookup::Water(std::string_view name) const {
+    return IonsOf(CatalogueKind::Water, name);
+}
+
+std::optional<Ions> CatalogueLookup::Salt(std::string_view name) const {
+    return IonsOf(CatalogueKind::Salt, name);
+}
+
+std::vector<SaltIons> CatalogueLookup::Salts() const {
+    std::vector<SaltIons> salts;
+    for (Recordset rows = database_.OpenRecordset("SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM SALTS");
+         !rows.AtEnd(); rows.MoveNext())
+        salts.push_back({rows.Fields(0).Text(), IonsIn(rows)});
+    return salts;
+}
+
+std::vector<StyleName> CatalogueLookup::Styles() const {
+    std::vector<StyleName> styles;
+    for (Recordset rows = database_.OpenRecordset("SELECT NAME, ID FROM STYLES ORDER BY 1"); !rows.AtEnd();
+         rows.MoveNext())
+        styles.push_back({rows.Fields(1).Integer(), rows.Fields(0).Text()});
+    return styles;
+}
+
+std::optional<StyleFigures> CatalogueLookup::Style(std::int64_t id) const {
+    // Even a row of the id 0 would be no style.
+    const Recordset row =
+        database_.OpenRecordset("SELECT * FROM STYLES WHERE ID <> 0 AND ID = " + std::to_string(id));
+    if (row.AtEnd()) return std::nullopt;
+    StyleFigures style{RangeIn(row, "OG_LO", "OG_HI"),
+                       RangeIn(row, "FG_LO", "FG_HI"),
+                       RangeIn(row, "ABV_LO", "ABV_HI"),
+                       RangeIn(row, "COLOR_LO", "COLOR_HI"),
+                       RangeIn(row, "IBU_LO", "IBU_HI"),
+                       RangeIn(row, "CO2_LO", "CO2_HI"),
+                       std::nullopt};
+    const Field profile = row.Fields("WATER_PROFILE");
+    if (!profile.IsNull()) style.waterProfile = profile.Text();
+    return style;
+}
+
+std::optional<std::string> CatalogueLookup::StyleNamed(std::string_view typed) const {
+    return CatalogueNames(database_).RowOf(CatalogueKind::Style, typed);
+}
+
+}  // namespace tw

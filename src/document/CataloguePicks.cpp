@@ -1,0 +1,73 @@
+#include "document/CataloguePicks.h"
+
+#include <string>
+
+#include "document/DocumentHost.h"
+#include "document/RowFiller.h"
+#include "record/CellRules.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+struct Catalogue {
+    CellNames names;
+    PickList list;
+};
+
+constexpr Catalogue kCatalogues[] = {
+    {CellNames::Grains, PickList::Grain}, {CellNames::Extracts, PickList::Extract},
+    {CellNames::Hops, PickList::Hop},     {CellNames::PitchedYeast, PickList::Yeast},
+    {CellNames::Waters, PickList::Water}, {CellNames::Salts, PickList::Treatment},
+    {CellNames::Sugars, PickList::Sugar},
+};
+
+std::optional<CellNames> NamesOf(PickList list) {
+    for (const Catalogue& catalogue : kCatalogues)
+        if (catalogue.list == list) return catalogue.names;
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<PickList> CataloguePicks::ListOf(const Grid& grid, int row, int col) const {
+    if (!cells_.CanEdit(grid, row, col)) return std::nullopt;
+    const CellNames names = RuleOf(grid, col).names;
+    // Other notes than those of a pitched yeast are nobody's name.
+    if (names == CellNames::PitchedYeast && !PitchesYeast(grid, row)) return std::nullopt;
+    for (const Catalogue& catalogue : kCatalogues)
+        if (catalogue.names == names) return catalogue.list;
+    return std::nullopt;
+}
+
+void CataloguePicks::BrowseStyles() {
+    recipe_.PickFromCatalogue(PickList::Style, recipe_.record.cmbStyle.Text());
+}
+
+bool CataloguePicks::BrowseCell(Grid& grid) {
+    const int row = grid.CurrentRow(), col = grid.CurrentCol();
+    if (grid.Selection() != GridRange{row, col, row, col}) return false;
+    const std::optional<PickList> list = ListOf(grid, row, col);
+    if (!list) return false;
+    const std::string& text = grid.Text(row, col);
+    recipe_.PickFromCatalogue(*list,
+                              std::string(*list == PickList::Yeast ? PitchedYeastName(text) : Trim(text)));
+    return true;
+}
+
+void CataloguePicks::Take(PickList list, std::string_view name) {
+    if (list == PickList::Style) {
+        style_.ChangeStyle(name);
+        return;
+    }
+    const std::optional<CellNames> names = NamesOf(list);
+    for (Grid* const grid : recipe_.record.Grids())
+        for (int col = 0; col < grid->Cols(); ++col)
+            if (RuleOf(*grid, col).names == names) {
+                OneStep step(recipe_, ChangeType::Selection);
+                cells_.EditCell(*grid, grid->CurrentRow(), col, name, Asking::Quietly);
+                step.Keep();
+            }
+}
+
+}  // namespace tw

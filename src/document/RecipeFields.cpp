@@ -1,0 +1,168 @@
+#include "document/RecipeFields.h"
+
+#include <string>
+
+#include "record/Entries.h"
+#include "record/FieldRules.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+bool IsFreeText(const TextBox& box) {
+    return RuleOf(box).takes == FieldTakes::FreeText;
+}
+
+std::string_view Characters(std::string_view text, TextSelection selection) {
+    const std::size_t begin = CodePointOffset(text, static_cast<std::size_t>(selection.start));
+    const std::string_view rest = text.substr(begin);
+    return rest.substr(0, CodePointOffset(rest, static_cast<std::size_t>(selection.length)));
+}
+
+}  // namespace
+
+std::string_view SelectedText(const TextBox& box) {
+    return Characters(box.Text(), box.Selection());
+}
+
+void RecipeFields::SetText(TextBox& box, std::string_view text) {
+    if (box.Computed() || box.Text() == text) return;
+    Record(box, text, ChangeType::Typing);
+    box.SetText(text);
+    if (!IsFreeText(box)) return;
+    recipe_.MarkChanged();
+    if (box.Id() == FieldId::Name) recipe_.Renamed();
+}
+
+void RecipeFields::RestoreField(TextBox& box) {
+    if (box.Computed() || box.Text() == box.Committed()) return;
+    const std::string committed = box.Committed();
+    // Free text has no refusals; what was typed since it was left is typed back.
+    Record(box, committed, IsFreeText(box) ? ChangeType::Typing : ChangeType::Abort);
+    box.SetText(committed);
+    if (box.Id() == FieldId::Name) recipe_.Renamed();
+}
+
+bool RecipeFields::CommitField(TextBox& box, Asking asking) {
+    if (box.Computed()) return true;
+    // Where a quantity belongs, blanks alone are the empty text.
+    if (!IsFreeText(box) && IsBlank(box.Text())) SetText(box, {});
+    if (box.Text() == box.Committed()) return true;
+    if (IsFreeText(box)) {
+        box.SetCommitted(box.Text());
+        return true;
+    }
+    const Commit commit = CommitQuantity(box);
+    // The record is whole again before the box, behind which the program goes on.
+    if (!commit && asking == Asking::Aloud) recipe_.Tell(commit.Why());
+    if (commit) recipe_.MarkChanged();
+    return static_cast<bool>(commit);
+}
+
+bool RecipeFields::CommitIfReadable(TextBox& box) {
+    try {
+        return CommitField(box, Asking::Quietly);
+    } catch (const Error&) {
+        return false;
+    }
+}
+
+// Takes the text of a box that holds a quantity, and runs its chain. A refused text leaves the record as it
+// was.
+Commit RecipeFields::CommitQuantity(TextBox& box) {
+    const std::string oldText = box.Committed();
+    const double oldValue = box.Value();
+    const bool oldOwn = box.HasOwnNumber();
+    const auto goBack = [&] {
+        box.SetValue(oldValue);
+        box.SetCommitted(oldText);
+        box.SetOwnNumber(oldOwn);
+    };
+    bool chainRan = false;
+    try {
+        const Reading<double> value = ReadEntry(box, box.Text());
+        if (!value) return Commit::Refused(value.Why());
+        box.SetValue(*value);
+        // The text being committed counts in its own chain.
+        box.SetCommitted(box.Text());
+        box.SetOwnNumber(false);
+        chainRan = true;
+        Commit commit = RunChain(box);
+        if (!commit) goBack();
+        return commit;
+    } catch (const Error&) {
+        goBack();
+        RestoreField(box);
+        // The chain of the old value refuses nothing that it did not refuse when that was committed.
+        if (chainRan) (void)RunChain(box);
+        throw;
+    }
+}
+
+Commit RecipeFields::RunChain(const TextBox& box) {
+    const auto chain = RuleOf(box).chain;
+    return chain ? chain(recipe_.calculator) : Commit::Accepted();
+}
+
+void RecipeFields::CommitDefault(TextBox& box, std::string_view text) {
+    box.SetText(text);
+    if (!CommitIfReadable(box)) RestoreField(box);
+}
+
+void RecipeFields::Replace(TextBox& box, TextSelection characters, std::string_view with, ChangeType type) {
+    if (box.Computed()) return;
+    const CompoundEdit compound(recipe_.recorder, type);
+    const std::string_view old = box.Text();
+    const std::string_view replaced = Characters(old, characters);
+    std::string text(old.data(), replaced.data());
+    text += with;
+    text.append(replaced.data() + replaced.size(), old.data() + old.size());
+    SetText(box, text);
+    box.Select({characters.start + static_cast<int>(CodePointCount(with)), 0});
+}
+
+EditValue RecipeFields::StateOf(const TextBox& box) {
+    // Only a text that is committed, or goes back to it, has a number.
+    return box.HasOwnNumber() && box.Text() == box.Committed()
+               ? EditValue::OfTextAndNumber(box.Text(), CellValue::Of(box.Value()))
+               : EditValue::OfText(box.Text());
+}
+
+// The selection before is what the new text has replaced; behind the edit the caret stands after it.
+void RecipeFields::Record(TextBox& box, std::string_view newText, ChangeType type) {
+    const TextSpan span = ChangedSpan(box.Text(), newText);
+    EditRecorder::Edit edit{ControlType::TextBox, type};
+    edit.selection.oldStart = span.start;
+    edit.selection.oldLength = span.oldLength;
+    edit.selection.newStart = span.start + span.newLength;
+    EditValue newValue = box.HasOwnNumber() && newText == box.Committed()
+                             ? EditValue::OfTextAndNumber(newText, CellValue::Of(box.Value()))
+                             : EditValue::OfText(newText);
+    recipe_.recorder.RecordEdit(box.Name(), StateOf(box), std::move(newValue), edit);
+}
+
+void RecipeFields::PutBack(TextBox& box, const EditValue& value) {
+    SetText(box, value.AsText());
+    const bool committed = box.Text() == box.Committed();
+    const CellValue* const own = value.OwnNumber();
+    if (!own && !committed) {
+        // A text that was refused when it was typed comes back as it was: shown, not committed.
+        if (!CommitIfReadable(box)) SetText(box, value.AsText());
+        return;
+    }
+    // There is nothing to commit, but another number may have stood behind the same text.
+    const double number = own ? own->number : NumberTold(box, box.Text()).value_or(box.Value());
+    const bool differs = !committed || number != box.Value();
+    box.SetCommitted(box.Text());
+    box.SetValue(number);
+    box.SetOwnNumber(own != nullptr);
+    if (!differs) return;
+    recipe_.MarkChanged();
+    try {
+        (void)RunChain(box);
+    } catch (const Error&) {
+        // The figure that the number breaks stays as it is; the number stood there before.
+    }
+}
+
+}  // namespace tw

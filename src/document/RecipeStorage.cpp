@@ -1,0 +1,206 @@
+#include "document/RecipeStorage.h"
+
+#include <algorithm>
+
+#include "document/RecipeMapping.h"
+#include "document/UnusableNumbers.h"
+#include "record/Entries.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+// Sets a flag for the time of a scope, even if an error ends it.
+class ScopedFlag {
+  public:
+    explicit ScopedFlag(bool& flag) : flag_(flag) { flag = true; }
+    ~ScopedFlag() { flag_ = false; }
+    ScopedFlag(const ScopedFlag&) = delete;
+    ScopedFlag& operator=(const ScopedFlag&) = delete;
+
+  private:
+    bool& flag_;
+};
+
+// What happens to the record for the time of a scope is no edit: nothing is recorded.
+class Filling {
+  public:
+    explicit Filling(OpenRecipe& recipe) : recipe_(recipe), filledBefore_(recipe.SetFilled(false)) {
+        recipe.recorder.SetTracking(false);
+    }
+    ~Filling() {
+        recipe_.SetFilled(filledBefore_);
+        recipe_.recorder.SetTracking(true);
+    }
+    Filling(const Filling&) = delete;
+    Filling& operator=(const Filling&) = delete;
+
+  private:
+    OpenRecipe& recipe_;
+    bool filledBefore_;
+};
+
+}  // namespace
+
+bool RecipeStorage::AskOverwrite() {
+    const std::string name(Trim(recipe_.record.txtName.Text()));
+    return recipe_.platform.messages.Ask(
+               "Overwrite existing recipe?",
+               "Another recipe named '" + name + "' already exists.\r\nOverwrite it?",
+               Question::YesNo) == Answer::Yes;
+}
+
+void RecipeStorage::DeleteOwnRow() {
+    const ScopedFlag guard(savingOver_);
+    recipe_.host.DeleteRecipe(std::string(recipe_.place.origName));
+}
+
+bool RecipeStorage::Save(SaveAs way, Asking asking) {
+    RecipePlace& place = recipe_.place;
+    const std::string name(Trim(recipe_.record.txtName.Text()));
+    const bool saveAs = way == SaveAs::Yes;
+    const bool sameName = SameName(name, place.origName);
+    const bool replacesOther = !sameName && RecipeExists(recipe_.database, name);
+    if ((replacesOther || (saveAs && sameName)) && asking == Asking::Aloud && !AskOverwrite()) return false;
+    UnitOfWork unit(recipe_.database);
+    if (replacesOther) recipe_.host.DeleteRecipe(name);
+    // Saving under another name makes a copy and leaves the old recipe; a plain save under an edited name
+    // renames it, and nothing is left under the old one.
+    if ((saveAs && sameName) || (!saveAs && !place.origName.empty())) DeleteOwnRow();
+    const DateTime now = recipe_.platform.clock.Now();
+    if (!place.createdWhen) place.createdWhen = now;
+    StoredRecipe stored = StoredFrom(recipe_.record);
+    stored.name = name;
+    stored.styleId = style_.Id();
+    stored.folderId = place.folderId;
+    stored.createdWhen = place.createdWhen;
+    stored.modifiedWhen = now;
+    if (!InsertRecipe(recipe_.database, stored)) {
+        unit.Commit();
+        recipe_.Tell("UNKNOWN ERROR", "Error saving recipe to database!");
+        return true;
+    }
+    recipe_.host.RecipeStored(name);
+    unit.Commit();
+    place.origName = name;
+    for (TextBox* const box : recipe_.record.TextBoxes())
+        if (RuleOf(*box).takes == FieldTakes::FreeText && !box->Computed()) box->SetCommitted(box->Text());
+    recipe_.ClearChanged();
+    // Nothing before a save can be undone.
+    recipe_.recorder.Clear();
+    recipe_.host.AddToMRU(name);
+    return true;
+}
+
+bool RecipeStorage::SaveUnder(std::string_view name, std::int64_t folderId, Asking asking) {
+    RecipePlace& place = recipe_.place;
+    TextBox& box = recipe_.record.txtName;
+    const std::string oldName = box.Text();
+    const std::int64_t oldFolder = place.folderId;
+    const std::optional<DateTime> oldCreated = place.createdWhen;
+    const bool wasChanged = recipe_.Changed();
+    fields_.SetText(box, name);
+    place.folderId = folderId;
+    place.createdWhen = recipe_.platform.clock.Now();
+    if (Save(SaveAs::Yes, asking)) return true;
+    // The brewer called it off: nothing has changed.
+    fields_.SetText(box, oldName);
+    place.folderId = oldFolder;
+    place.createdWhen = oldCreated;
+    if (!wasChanged) recipe_.ClearChanged();
+    return false;
+}
+
+void RecipeStorage::Open(std::string_view name) {
+    const std::optional<StoredRecipe> stored = ReadRecipe(recipe_.database, name);
+    if (!stored)
+        throw Error("RecipeDocument.OpenRecipe", "Recipe '" + std::string(name) + "' no longer exists!", 5);
+    CheckStored(*stored);
+    std::vector<std::string> failed;
+    {
+        const Filling filling(recipe_);
+        Fill(*stored);
+        failed = FillGrids(*stored);
+        MarkOwnNumbers(recipe_.record);
+    }
+    recipe_.recorder.Clear();
+    recipe_.place.origName = Trim(recipe_.record.txtName.Text());
+    recipe_.ClearChanged();
+    if (recipe_.IsActive()) focus_.Activate();
+    recipe_.host.AddToMRU(recipe_.place.origName);
+    if (!failed.empty()) TellUnusableNumbers(failed);
+}
+
+void RecipeStorage::Fill(const StoredRecipe& stored) {
+    recipe_.place.createdWhen = stored.createdWhen;
+    TextBox& name = recipe_.record.txtName;
+    name.SetText(stored.name);
+    name.SetCommitted(stored.name);
+    if (stored.folderId) recipe_.place.folderId = *stored.folderId;
+    if (stored.styleId) style_.SetId(*stored.styleId);
+    FillFields(recipe_.record, stored);
+}
+
+// Gives the names of the figures that could not be worked out: a stored number that breaks a formula leaves
+// its figure as it is, and the recipe opens all the same.
+std::vector<std::string> RecipeStorage::FillGrids(const StoredRecipe& stored) {
+    RecipeRecord& r = recipe_.record;
+    RecipeCalculator& calculator = recipe_.calculator;
+    std::vector<std::string> failed;
+    const auto recalculate = [&](const std::string& figure, const std::function<void()>& operation) {
+        try {
+            operation();
+        } catch (const Error&) {
+            failed.push_back(figure);
+        }
+    };
+    const auto fill = [&](Grid& grid) {
+        FillGrid(grid, stored, [this](Grid& g) { lines_.AddBlankRow(g, g.EndOfData()); });
+    };
+    fill(r.gridWater);
+    fill(r.gridPressure);
+    recalculate("Treatment Needed", [&] { calculator.UpdateTreatmentNeeded(); });
+    for (Grid* const grid : {&r.gridGrain, &r.gridExtract}) {
+        fill(*grid);
+        recalculate("Points and HCU of " + grid->ColumnAt(0).header, [&] {
+            calculator.ShowGridTotal(*grid);
+            calculator.RecalcPoints(*grid, grid->Id() == GridId::Grain);
+            calculator.RecalcHCU(*grid);
+        });
+    }
+    recalculate("Color", [&] { calculator.CalcColor(); });
+    fill(r.gridHops);
+    recalculate("IBUs", [&] {
+        calculator.ShowGridTotal(r.gridHops);
+        calculator.RecalcHops();
+    });
+    fill(r.gridTreatment);
+    recalculate("Treatment Totals", [&] { calculator.RecalcTreatment(); });
+    fill(r.gridPriming);
+    recalculate("CO2 Amount", [&] {
+        calculator.CalcCarbonation();
+        calculator.RecalcPriming();
+    });
+    fill(r.gridAdjuncts);
+    fill(r.gridLog);
+    return failed;
+}
+
+// Where every single number could be used, the figures that they break together are named instead.
+void RecipeStorage::TellUnusableNumbers(const std::vector<std::string>& figures) {
+    const std::vector<std::string> fields = UnusableNumbers(recipe_.record);
+    recipe_.Tell("Error", UnusableNumbersText(recipe_.place.origName, fields.empty() ? figures : fields));
+}
+
+bool RecipeStorage::IsStoredAs(std::string_view name) const {
+    return !recipe_.place.origName.empty() && SameName(name, recipe_.place.origName);
+}
+
+void RecipeStorage::Detach() {
+    if (savingOver_) return;
+    recipe_.place.folderId = -1;
+    recipe_.place.origName.clear();
+    recipe_.MarkChanged();
+}
+
+}  // namespace tw

@@ -1,0 +1,45 @@
+// Fills the other cells of a row from the catalogue when its name has been committed.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "document/CatalogueLookup.h"
+#include "document/OpenRecipe.h"
+
+namespace tw {
+
+// What a commit has moved beside its own cell.
+struct FillEffects {
+    bool rowFilled = false;  // other cells of the row have been filled or emptied
+    // What txtFG held before a pitched yeast moved it.
+    std::optional<EditValue> finalGravityBefore;
+};
+
+class RowFiller {
+  public:
+    RowFiller(OpenRecipe& recipe, const CatalogueLookup& catalogue)
+        : recipe_(recipe), catalogue_(catalogue) {}
+
+    // Looks the cell's text up in the catalogue of its column. Does nothing for a column without one. A name
+    // that the catalogue does not know leaves the row as it is, but for the factors of a salt.
+    FillEffects Fill(Grid& grid, int row, int col);
+
+  private:
+    bool FillFermentable(Grid& grid, int row);
+    bool FillHop(Grid& grid, int row);
+    bool FillSugar(Grid& grid, int row);
+    bool FillWater(Grid& grid, int row);
+    bool FillSalt(Grid& grid, int row);
+    std::optional<EditValue> Pitch(const Grid& log, int row);
+
+    OpenRecipe& recipe_;
+    const CatalogueLookup& catalogue_;
+};
+
+// True if that row of the brew log pitches a yeast, so that its notes begin with a yeast's name.
+bool PitchesYeast(const Grid& log, int row);
+// The name at the beginning of such notes, up to " - " and the yeast's description; trimmed.
+std::string_view PitchedYeastName(std::string_view notes);
+
+}  // namespace tw

@@ -1,0 +1,34 @@
+// Which salts, and how many grams of each, turn the source water into the target water.
+#pragma once
+
+#include "document/CatalogueLookup.h"
+#include "document/OpenRecipe.h"
+#include "document/RecipeCells.h"
+#include "document/RecipeFocus.h"
+#include "document/RecipeLines.h"
+
+namespace tw {
+
+class WaterTreatment {
+  public:
+    WaterTreatment(OpenRecipe& recipe, const CatalogueLookup& catalogue, RecipeFocus& focus,
+                   RecipeCells& cells, RecipeLines& lines)
+        : recipe_(recipe), catalogue_(catalogue), focus_(focus), cells_(cells), lines_(lines) {}
+
+    // The button below gridWater, nothing while it is disabled: replaces all rows of gridTreatment by the
+    // salts that bring the source water nearest to the target water, as one step of the history. A box, and
+    // nothing has changed, when the catalogue has no salts or no program has a solution. Raises for an
+    // arithmetic fault; all is as before then.
+    void CalcTreatment();
+
+  private:
+    void Clear();
+
+    OpenRecipe& recipe_;
+    const CatalogueLookup& catalogue_;
+    RecipeFocus& focus_;
+    RecipeCells& cells_;
+    RecipeLines& lines_;
+};
+
+}  // namespace tw

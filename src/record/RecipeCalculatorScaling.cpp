@@ -1,0 +1,153 @@
+// A recipe's amounts for another size, strength, bitterness or carbonation.
+#include "calc/Figures.h"
+#include "platform/Error.h"
+#include "record/RecipeCalculator.h"
+#include "values/NumberText.h"
+
+namespace tw {
+namespace {
+
+constexpr int kDisplayDecimals = 0;  // two at most
+constexpr int kGramDecimals = 3;
+
+// An amount of a cell: its rounded number, that number's text with the unit behind it.
+void PutAmount(Grid& grid, int row, int col, CellValue value, int decimals, std::string_view unit) {
+    const std::string text = FormatQuantity(value.number, decimals).append(unit);
+    grid.SetText(row, col, text);
+    grid.SetValue(row, col, value);
+}
+
+// A volume's text is committed as it stands.
+void PutVolume(TextBox& box, double gallons, std::string_view text) {
+    box.SetValue(gallons);
+    box.SetText(text);
+    box.SetCommitted(text);
+}
+
+void PutRoundedVolume(TextBox& box, double gallons) {
+    const std::string text = FormatQuantity(gallons, kDisplayDecimals) + " gal.";
+    PutVolume(box, gallons, text);
+}
+
+}  // namespace
+
+void RecipeCalculator::ScaleGrainGrid(Grid& grid, double factor) {
+    for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row) {
+        if (grid.Empty(row, GrainCol::Amount)) continue;
+        const double pounds = Finite(grid.Number(row, GrainCol::Amount) * factor);
+        PutAmount(grid, row, GrainCol::Amount, CellValue::Of(pounds), kDisplayDecimals, " lbs.");
+    }
+    ShowGridTotal(grid);
+}
+
+void RecipeCalculator::ScaleHopGrid(Grid& grid, double factor) {
+    using Kind = CellValue::Kind;
+    for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row) {
+        if (grid.Empty(row, HopCol::Amount)) continue;
+        CellValue value = grid.At(row, HopCol::Amount).value;
+        if (value.kind == Kind::None) value.kind = Kind::Number;
+        value.number = Finite(value.number * factor);
+        const std::string_view unit = value.kind == Kind::AlphaAcidUnits    ? " AAUs"
+                                      : value.kind == Kind::BitternessUnits ? " IBUs"
+                                                                            : " oz.";
+        PutAmount(grid, row, HopCol::Amount, value, kDisplayDecimals, unit);
+    }
+    ShowGridTotal(grid);
+}
+
+void RecipeCalculator::ScaleTreatmentGrid(Grid& grid, double factor) {
+    for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row) {
+        if (grid.Empty(row, TreatmentCol::Amount)) continue;
+        const double grams = Finite(grid.Number(row, TreatmentCol::Amount) * factor);
+        PutAmount(grid, row, TreatmentCol::Amount, CellValue::Of(grams), kGramDecimals, " grams");
+    }
+}
+
+std::optional<double> RecipeCalculator::FinalVolumeFor(double newSize) const {
+    if (r_.txtFinalVol.Empty()) return std::nullopt;
+    const double oldSize = r_.txtTotalVol.Value(), oldFinal = r_.txtFinalVol.Value();
+    if (oldFinal == oldSize) return newSize;
+    // What was lost between the two goes on top of the new size, so that the final volume becomes the larger
+    // one: intended.
+    double volume = Finite(newSize + oldSize - oldFinal);
+    FormatQuantity(volume, kDisplayDecimals);
+    return volume;
+}
+
+void RecipeCalculator::ScaleVolumes(double newSize, std::string_view sizeText, bool scaleBoilVol) {
+    const double oldSize = r_.txtTotalVol.Value();
+    if (scaleBoilVol && !r_.txtBoilVol.Empty())
+        PutRoundedVolume(r_.txtBoilVol, Finite(r_.txtBoilVol.Value() * Divide(newSize, oldSize)));
+    if (const std::optional<double> finalVolume = FinalVolumeFor(newSize)) {
+        if (r_.txtFinalVol.Value() == oldSize)
+            PutVolume(r_.txtFinalVol, newSize, sizeText);
+        else
+            PutRoundedVolume(r_.txtFinalVol, *finalVolume);
+    }
+    PutVolume(r_.txtTotalVol, newSize, sizeText);
+}
+
+void RecipeCalculator::RecalcFermentables() {
+    RecalcHCU(r_.gridGrain);
+    RecalcPoints(r_.gridGrain, true);
+    RecalcHCU(r_.gridExtract);
+    RecalcPoints(r_.gridExtract, false);
+    CalcOGAndColor();
+}
+
+double RecipeCalculator::CO2Volumes() const {
+    if (r_.txtCO2.Empty()) return 0;
+    if (r_.Bottled()) return TotalOf(r_.gridPriming, PrimingCol::Volumes);
+    return r_.gridPressure.Number(1, PressureCol::Volumes);
+}
+
+RecipeCalculator::CO2Outcome RecipeCalculator::ScaleCO2(double volumes) {
+    return r_.Bottled() ? ScaleSugars(volumes) : ScalePressure(volumes);
+}
+
+RecipeCalculator::CO2Outcome RecipeCalculator::ScalePressure(double volumes) {
+    double psi = KegPressure(r_.txtTemp.Value(), volumes);
+    if (psi < 0) return CO2Outcome::TooLow;
+    const std::string text = FormatQuantity(psi, kDisplayDecimals) + " psi";
+    // As any pressure that is typed, it must have volumes.
+    if (!HasKegVolumes(psi)) return CO2Outcome::Unreasonable;
+    r_.gridPressure.SetText(1, PressureCol::Pressure, text);
+    r_.gridPressure.SetValue(1, PressureCol::Pressure, CellValue::Of(psi));
+    PressureCommitted();
+    return CO2Outcome::Done;
+}
+
+RecipeCalculator::CO2Outcome RecipeCalculator::ScaleSugars(double volumes) {
+    const Grid& grid = r_.gridPriming;
+    const double residual = grid.Number(grid.TotalsRow() - 1, PrimingCol::Volumes);
+    if (volumes < residual) return CO2Outcome::TooLow;
+    const double fromSugars = TotalOf(grid, PrimingCol::Volumes) - residual;
+    if (fromSugars <= 0) return FillFirstSugar(volumes - residual);
+    const double factor = Divide(volumes - residual, fromSugars);
+    for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row)
+        if (!grid.Empty(row, PrimingCol::Amount) && grid.Number(row, PrimingCol::Amount) > 0)
+            PutSugar(row, grid.Number(row, PrimingCol::Amount) * factor);
+    return CO2Outcome::Done;
+}
+
+// volumes: those that the sugars are to give.
+RecipeCalculator::CO2Outcome RecipeCalculator::FillFirstSugar(double volumes) {
+    const Grid& grid = r_.gridPriming;
+    for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row) {
+        const double fermentable = grid.Number(row, PrimingCol::Fermentable);
+        if (grid.Empty(row, PrimingCol::Fermentable) || !(fermentable > 0)) continue;
+        const bool hasFinal = r_.txtFinalVol.Value() > 0 && !r_.txtFinalVol.Empty();
+        const TextBox& volume = hasFinal ? r_.txtFinalVol : r_.txtTotalVol;
+        PutSugar(row, PrimingOunces(volumes, fermentable, volume.Value()));
+        return CO2Outcome::Done;
+    }
+    return CO2Outcome::NoFermentable;
+}
+
+void RecipeCalculator::PutSugar(int row, double ounces) {
+    PutAmount(r_.gridPriming, row, PrimingCol::Amount, CellValue::Of(Finite(ounces)), kDisplayDecimals,
+              " oz.");
+    PrimingCommitted(row);
+}
+
+}  // namespace tw
