@@ -2,49 +2,23 @@
 
 #include <string>
 
+#include "document/TabRules.h"
 #include "values/Text.h"
 
 namespace tw {
-namespace {
-
-struct TabRule {
-    Grid RecipeRecord::*rows;      // the grid that the row commands act on; nullptr for none
-    TextBox RecipeRecord::*first;  // the control with the focus first: a text box,
-    Grid RecipeRecord::*grid;      // or a grid
-};
-
-// In the order of Tab.
-constexpr TabRule kTabRules[kTabs] = {
-    {nullptr, &RecipeRecord::txtName, nullptr},
-    {&RecipeRecord::gridGrain, nullptr, &RecipeRecord::gridGrain},
-    {&RecipeRecord::gridExtract, nullptr, &RecipeRecord::gridExtract},
-    {&RecipeRecord::gridHops, nullptr, &RecipeRecord::gridHops},
-    {&RecipeRecord::gridTreatment, nullptr, &RecipeRecord::gridWater},
-    {&RecipeRecord::gridPriming, &RecipeRecord::txtTemp, nullptr},
-    {&RecipeRecord::gridAdjuncts, nullptr, &RecipeRecord::gridAdjuncts},
-    {&RecipeRecord::gridLog, nullptr, &RecipeRecord::gridLog},
-    {nullptr, &RecipeRecord::txtNotes, nullptr},
-};
-
-const TabRule& RuleOf(Tab tab) {
-    return kTabRules[static_cast<std::size_t>(tab)];
-}
-
-}  // namespace
-
 Grid* RecipeFocus::GridOfTab(Tab tab) {
-    const auto rows = RuleOf(tab).rows;
-    return rows ? &(recipe_.record.*rows) : nullptr;
+    const std::optional<GridId> rows = RuleOf(tab).rows;
+    return rows ? &recipe_.record[*rows] : nullptr;
 }
 
 void RecipeFocus::SetTab(Tab tab) {
     FlushEdits();
     tab_ = tab;
     const TabRule& rule = RuleOf(tab);
-    if (rule.first)
-        FocusOn(recipe_.record.*rule.first);
+    if (rule.firstBox)
+        FocusOn(recipe_.record[*rule.firstBox]);
     else
-        FocusOn(recipe_.record.*rule.grid);
+        FocusOn(recipe_.record[*rule.firstGrid]);
     recipe_.recorder.SetTab(static_cast<int>(tab));
     RefreshRowCommands();
 }

@@ -41,7 +41,7 @@ bool RecipeScaling::MayKeepCarbonation() {
 
 std::string RecipeScaling::RefusalOfSize(double gallons) const {
     if (recipe_.record.txtTotalVol.Value() == 0) return {};
-    std::optional<double> volume = recipe_.calculator.FinalVolumeFor(gallons);
+    std::optional<double> volume = scaler_.FinalVolumeFor(gallons);
     if (!volume || *volume > 0) return {};
     return "The final volume would be " + FormatQuantity(*volume, 0) + " gal. Please enter a larger size.";
 }
@@ -66,16 +66,16 @@ void RecipeScaling::ScaleRecipe(double gallons, std::string_view sizeText, bool 
 // volumes: the carbonation to hold, 0 for none. True when it could be held.
 bool RecipeScaling::Resize(double gallons, std::string_view sizeText, bool scaleBoilVol, double volumes) {
     const double factor = Divide(gallons, recipe_.record.txtTotalVol.Value());
-    recipe_.calculator.ScaleVolumes(gallons, sizeText, scaleBoilVol);
-    recipe_.calculator.ScaleGrainGrid(recipe_.record.gridGrain, factor);
-    recipe_.calculator.ScaleGrainGrid(recipe_.record.gridExtract, factor);
-    recipe_.calculator.ScaleHopGrid(recipe_.record.gridHops, factor);
-    recipe_.calculator.ScaleTreatmentGrid(recipe_.record.gridTreatment, factor);
+    scaler_.ScaleVolumes(gallons, sizeText, scaleBoilVol);
+    scaler_.ScaleGrainGrid(recipe_.record.gridGrain, factor);
+    scaler_.ScaleGrainGrid(recipe_.record.gridExtract, factor);
+    scaler_.ScaleHops(factor);
+    scaler_.ScaleTreatment(factor);
     bool carbonated = false;
     if (volumes > 0) {
         // What the sugars give to the new volume, so that their amounts are scaled from there.
         recipe_.calculator.RecalcPriming();
-        carbonated = recipe_.calculator.ScaleCO2(volumes) == RecipeCalculator::CO2Outcome::Done;
+        carbonated = scaler_.ScaleCO2(volumes) == RecipeScaler::CO2Outcome::Done;
     }
     recipe_.calculator.RecalcFermentables();
     recipe_.calculator.RecalcTreatment();
@@ -89,7 +89,7 @@ bool RecipeScaling::KeepBitterness(double ibu) {
     const double now = recipe_.record.txtIBU.Value();
     if (now == ibu) return true;
     if (now == 0) return false;
-    recipe_.calculator.ScaleHopGrid(recipe_.record.gridHops, Divide(ibu, now));
+    scaler_.ScaleHops(Divide(ibu, now));
     recipe_.calculator.RecalcHops();
     return true;
 }
@@ -101,8 +101,8 @@ void RecipeScaling::ScaleOG(double newOG, bool preserveIBU) {
         if (og == 1) return false;
         const double factor = Divide(newOG - 1, og - 1);
         const double oldIBU = recipe_.record.txtIBU.Value();
-        recipe_.calculator.ScaleGrainGrid(recipe_.record.gridGrain, factor);
-        recipe_.calculator.ScaleGrainGrid(recipe_.record.gridExtract, factor);
+        scaler_.ScaleGrainGrid(recipe_.record.gridGrain, factor);
+        scaler_.ScaleGrainGrid(recipe_.record.gridExtract, factor);
         recipe_.calculator.RecalcFermentables();
         return !preserveIBU || KeepBitterness(oldIBU);
     });
@@ -113,18 +113,18 @@ void RecipeScaling::ScaleIBU(double newIBU) {
     ChangeForGood([&] {
         const double ibu = recipe_.record.txtIBU.Value();
         if (ibu == 0) return false;
-        recipe_.calculator.ScaleHopGrid(recipe_.record.gridHops, Divide(newIBU, ibu));
+        scaler_.ScaleHops(Divide(newIBU, ibu));
         recipe_.calculator.RecalcHops();
         return true;
     });
 }
 
 void RecipeScaling::ScaleCO2(double newVolumes, Asking asking) {
-    using Outcome = RecipeCalculator::CO2Outcome;
+    using Outcome = RecipeScaler::CO2Outcome;
     if (!MayChangeForGood()) return;
     Outcome outcome = Outcome::Done;
     ChangeForGood([&] {
-        outcome = recipe_.calculator.ScaleCO2(newVolumes);
+        outcome = scaler_.ScaleCO2(newVolumes);
         return outcome == Outcome::Done;
     });
     if (asking == Asking::Quietly) return;

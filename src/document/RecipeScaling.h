@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "document/OpenRecipe.h"
+#include "record/RecipeScaler.h"
 
 namespace tw {
 
@@ -13,7 +14,7 @@ namespace tw {
 // history is empty. They raise for an arithmetic fault; all is as before then.
 class RecipeScaling {
   public:
-    explicit RecipeScaling(OpenRecipe& recipe) : recipe_(recipe) {}
+    explicit RecipeScaling(OpenRecipe& recipe) : recipe_(recipe), scaler_(recipe.record, recipe.calculator) {}
 
     // Changes the total volume to that many gallons, shown as sizeText; the amounts follow. Whether the
     // carbonation is held is asked too. A size that RefusalOfSize refuses shows its box. The boil volume
@@ -43,6 +44,7 @@ class RecipeScaling {
     bool KeepBitterness(double ibu);
 
     OpenRecipe& recipe_;
+    RecipeScaler scaler_;
 };
 
 }  // namespace tw

@@ -91,6 +91,8 @@ class Grid {
     const std::string& Text(int row, int col) const { return At(row, col).text; }
     bool Empty(int row, int col) const { return At(row, col).text.empty(); }
     double Number(int row, int col) const { return At(row, col).value.number; }
+    // The number of the totals row, 0 for an empty cell.
+    double Total(int col) const { return Empty(TotalsRow(), col) ? 0 : Number(TotalsRow(), col); }
     bool Checked(int row, int col) const { return At(row, col).check == CheckState::Checked; }
     bool IsCheckBox(int row, int col) const { return IsDataRow(row) && ColumnAt(col).checkBox; }
     // True when the row or the column is tagged "READONLY".

@@ -118,8 +118,4 @@ void RecipeCalculator::TotalColumn(Grid& grid, int col) {
         grid.Clear(grid.TotalsRow(), col);
 }
 
-double RecipeCalculator::TotalOf(const Grid& grid, int col) {
-    return grid.Empty(grid.TotalsRow(), col) ? 0 : grid.Number(grid.TotalsRow(), col);
-}
-
 }  // namespace tw

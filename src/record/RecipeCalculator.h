@@ -101,24 +101,10 @@ class RecipeCalculator {
     // Whether the change-carbonation command makes sense.
     bool CanEnableCO2() const;
 
-    // Scaling. The amounts in a grid's rows, each rounded to what it shows; the amount of the totals row
-    // follows. ScaleGrainGrid leaves points and HCU alone, ScaleHopGrid the IBUs; ScaleTreatmentGrid has no
-    // total.
-    void ScaleGrainGrid(Grid& grid, double factor);
-    void ScaleHopGrid(Grid& grid, double factor);
-    void ScaleTreatmentGrid(Grid& grid, double factor);
-    // The final volume that another total volume leaves, as its box would show it; nothing while there is
-    // none.
-    std::optional<double> FinalVolumeFor(double newSize) const;
-    // The volumes for another total volume; no chain runs. The boil volume follows if asked to.
-    void ScaleVolumes(double newSize, std::string_view sizeText, bool scaleBoilVol);
     // Points, colour, gravity and all that follows from them, after the fermentables have other amounts.
     void RecalcFermentables();
     // Volumes of CO2 as they stand, 0 while they are unknown.
     double CO2Volumes() const;
-    // Changes pressure or sugars so that the beer gets that many volumes; all but Done change nothing.
-    enum class CO2Outcome { Done, TooLow, NoFermentable, Unreasonable };
-    CO2Outcome ScaleCO2(double volumes);
 
     // Sets the four scaling commands by the record's present figures.
     void RefreshCommands();
@@ -128,12 +114,6 @@ class RecipeCalculator {
     void TotalColumn(Grid& grid, int col);
     void ShowHopTotal();
     void MarkTreatmentTotal(int col);
-    CO2Outcome ScalePressure(double volumes);
-    CO2Outcome ScaleSugars(double volumes);
-    CO2Outcome FillFirstSugar(double volumes);
-    void PutSugar(int row, double ounces);
-    // The number behind "0" for an empty totals cell.
-    static double TotalOf(const Grid& grid, int col);
 
     RecipeRecord& r_;
     RecipeCommands& commands_;

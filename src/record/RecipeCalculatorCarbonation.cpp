@@ -97,4 +97,10 @@ bool RecipeCalculator::CanEnableCO2() const {
     return false;
 }
 
+double RecipeCalculator::CO2Volumes() const {
+    if (r_.txtCO2.Empty()) return 0;
+    if (r_.Bottled()) return r_.gridPriming.Total(PrimingCol::Volumes);
+    return r_.gridPressure.Number(1, PressureCol::Volumes);
+}
+
 }  // namespace tw

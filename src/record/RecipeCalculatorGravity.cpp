@@ -70,7 +70,7 @@ void RecipeCalculator::CalcOG() {
         r_.txtOG.SetText("");
     } else {
         r_.txtOG.SetValue(
-            Finite(1 + (TotalOf(grain, GrainCol::Points) + TotalOf(extract, GrainCol::Points)) / 1000));
+            Finite(1 + (grain.Total(GrainCol::Points) + extract.Total(GrainCol::Points)) / 1000));
         r_.txtOG.SetText(FormatNumber(r_.txtOG.Value(), kGravityPattern));
     }
     commands_.EnableChangeStrength(!r_.txtOG.Empty());
@@ -113,11 +113,19 @@ void RecipeCalculator::CalcColor() {
         r_.SetSwatch({255, 255, 255});
         return;
     }
-    const double hcu = TotalOf(grain, GrainCol::Hcu) + TotalOf(extract, GrainCol::Hcu);
+    const double hcu = grain.Total(GrainCol::Hcu) + extract.Total(GrainCol::Hcu);
     const double srm = HCUToSRM(hcu);
     const std::string hcuText = FormatNumber(hcu, "0") + " HCU)";
     r_.txtColor.SetText(srm <= 50 ? FormatNumber(srm, "0") + " SRM (" + hcuText : ">50 SRM (" + hcuText);
     r_.SetSwatch(colors_.HCUToColor(hcu));
+}
+
+void RecipeCalculator::RecalcFermentables() {
+    RecalcHCU(r_.gridGrain);
+    RecalcPoints(r_.gridGrain, true);
+    RecalcHCU(r_.gridExtract);
+    RecalcPoints(r_.gridExtract, false);
+    CalcOGAndColor();
 }
 
 }  // namespace tw

@@ -59,6 +59,9 @@ class RecipeRecord {
     // The one observer of the record, or nullptr.
     void SetObserver(RecordObserver* observer) { link_.observer = observer; }
 
+    // Both in constant time.
+    TextBox& operator[](FieldId id) { return *textBoxes_[static_cast<std::size_t>(id)]; }
+    Grid& operator[](GridId id) { return *grids_[static_cast<std::size_t>(id)]; }
     // Look-up by control name; nullptr for a name that is not of that kind.
     TextBox* FindTextBox(std::string_view name);
     Grid* FindGrid(std::string_view name);

@@ -21,16 +21,6 @@
 namespace tw {
 namespace {
 
-constexpr std::array<TabText, kTabs> kTabTexts{{{"General", "txtName"},
-                                                {"Malts && Grains", "gridGrain"},
-                                                {"Extracts && Sugars", "gridExtract"},
-                                                {"Hops", "gridHops"},
-                                                {"Water Profile", "gridWater"},
-                                                {"Carbon Dioxide", "txtTemp"},
-                                                {"Other Adjuncts", "gridAdjuncts"},
-                                                {"Brew Log", "gridLog"},
-                                                {"Misc. Notes", "txtNotes"}}};
-
 QString Tr(const char* text) {
     return QCoreApplication::translate("DocumentPages", text);
 }
@@ -52,18 +42,17 @@ QHBoxLayout* RowOf(PageBuilder& b, std::initializer_list<QWidget*> widgets) {
 
 void BuildGrains(PageBuilder& b) {
     QVBoxLayout* column = ColumnOf(b);
-    const QString caption = Tr("E&xtraction Rate (%):");
-    GridPanel* grid = b.GridOf(b.Record().gridGrain, Tr("Malts and grains"),
+    GridPanel* grid = b.GridOf(b.Record().gridGrain,
                                Tr("Type a grain's name, Tab, then its amount: 8 lb. Ctrl and + adds a row."));
     column->addWidget(grid, 1);
-    FieldBox* rate = b.Field(b.Record().txtExtract, caption, 8);
-    column->addLayout(RowOf(b, {b.LabelFor(caption, rate), rate}));
+    FieldBox* rate = b.Field(b.Record().txtExtract, 8);
+    column->addLayout(RowOf(b, {b.LabelFor(rate), rate}));
 }
 
 void BuildExtracts(PageBuilder& b) {
     ColumnOf(b)->addWidget(
         b.GridOf(
-            b.Record().gridExtract, Tr("Extracts and sugars"),
+            b.Record().gridExtract,
             Tr("Type an extract's or a sugar's name, Tab, then its amount: 3.3 lb. Ctrl and + adds a row.")),
         1);
 }
@@ -71,35 +60,33 @@ void BuildExtracts(PageBuilder& b) {
 void BuildHops(PageBuilder& b) {
     RecipeRecord& r = b.Record();
     QVBoxLayout* column = ColumnOf(b);
-    column->addWidget(b.GridOf(r.gridHops, Tr("Hops"),
-                               Tr("Type a hop's name, its amount (1 oz, 8 AAU or 20 IBU) and its minutes in "
-                                  "the boil. Ctrl and + "
-                                  "adds a row.")),
-                      1);
+    column->addWidget(
+        b.GridOf(r.gridHops, Tr("Type a hop's name, its amount (1 oz, 8 AAU or 20 IBU) and its minutes in "
+                                "the boil. Ctrl and + "
+                                "adds a row.")),
+        1);
     auto* heading = new QLabel(Tr("IBU Method:"), &b.Page());
     column->addLayout(
         RowOf(b, {heading, b.Option(r.grpIBUMethod, QStringLiteral("optTinseth"), Tr("Ti&nseth")),
                   b.Option(r.grpIBUMethod, QStringLiteral("optRager"), Tr("&Rager")),
                   b.Option(r.grpIBUMethod, QStringLiteral("optGaretz"), Tr("&Garetz"))}));
-    const QString constant = Tr("Extraction &Constant:"), gravity = Tr("Boil Gravity:");
-    FieldBox* extraction = b.Field(r.txtHopExtraction, constant, 8);
-    FieldBox* boil = b.Field(r.txtBG, gravity, 8);
-    column->addLayout(
-        RowOf(b, {b.LabelFor(constant, extraction), extraction, b.LabelFor(gravity, boil), boil}));
+    FieldBox* extraction = b.Field(r.txtHopExtraction, 8);
+    FieldBox* boil = b.Field(r.txtBG, 8);
+    column->addLayout(RowOf(b, {b.LabelFor(extraction), extraction, b.LabelFor(boil), boil}));
 }
 
 void BuildWater(PageBuilder& b) {
     RecipeRecord& r = b.Record();
     QVBoxLayout* column = ColumnOf(b);
-    column->addWidget(b.GridOf(r.gridWater, Tr("Water profile"), {}), 1);
+    column->addWidget(b.GridOf(r.gridWater, {}), 1);
     auto* treat = b.CommandButton(r.cmdCalcTreatment, Tr("Calculate Treat&ment"),
                                   Tr("Works out the salts that turn the source water into the target water"),
                                   [](RecipeDocument& document) { document.Water().CalcTreatment(); });
     treat->setAccessibleName(Tr("Calculate Treatment"));
     column->addLayout(RowOf(b, {treat}));
-    column->addWidget(b.GridOf(r.gridTreatment, Tr("Treatment"),
-                               Tr("Ctrl and + adds a row; then type a salt's name and its amount: 4 g.")),
-                      1);
+    column->addWidget(
+        b.GridOf(r.gridTreatment, Tr("Ctrl and + adds a row; then type a salt's name and its amount: 4 g.")),
+        1);
 }
 
 QWidget* MakePackaging(PageBuilder& b) {
@@ -107,10 +94,9 @@ QWidget* MakePackaging(PageBuilder& b) {
     auto* place = new QWidget(&b.Page());
     auto* column = new QVBoxLayout(place);
     SetSpacing(*column, *place, false);
-    GridPanel* priming =
-        b.GridOf(r.gridPriming, Tr("Priming sugars"),
-                 Tr("Type a sugar's name, Tab, then its amount: 4 oz. Ctrl and + adds a row."));
-    GridPanel* pressure = b.GridOf(r.gridPressure, Tr("Keg pressure"), {});
+    GridPanel* priming = b.GridOf(
+        r.gridPriming, Tr("Type a sugar's name, Tab, then its amount: 4 oz. Ctrl and + adds a row."));
+    GridPanel* pressure = b.GridOf(r.gridPressure, {});
     auto* heading = new FancyLabel({}, place);
     heading->setObjectName(QStringLiteral("FancyLabel8"));
     column->addWidget(heading);
@@ -131,14 +117,14 @@ void BuildCarbonation(PageBuilder& b) {
     QVBoxLayout* column = ColumnOf(b);
     auto* fields = new QGridLayout;
     fields->setSpacing(Unit(b.Page()) * kGapUnits);
-    const auto add = [&](int row, TextBox& box, const QString& caption) {
-        FieldBox* field = b.Field(box, caption, 10);
-        fields->addWidget(b.LabelFor(caption, field), row, 0);
+    const auto add = [&](int row, TextBox& box) {
+        FieldBox* field = b.Field(box, 10);
+        fields->addWidget(b.LabelFor(field), row, 0);
         fields->addWidget(field, row, 1);
     };
-    add(0, r.txtTemp, Tr("Tem&perature:"));
-    add(1, r.txtDilutions, Tr("&Dilution Additions (gal):"));
-    add(2, r.txtFinalVol, Tr("Final &Volume (gal):"));
+    add(0, r.txtTemp);
+    add(1, r.txtDilutions);
+    add(2, r.txtFinalVol);
     fields->addWidget(
         b.CommandButton(r.cmdFinalVolDetails, Tr("&More Info"), Tr("More about the final volume"),
                         [&b = b.Binding()](RecipeDocument& document) {
@@ -161,7 +147,7 @@ void BuildCarbonation(PageBuilder& b) {
 
 void BuildAdjuncts(PageBuilder& b) {
     ColumnOf(b)->addWidget(
-        b.GridOf(b.Record().gridAdjuncts, Tr("Other adjuncts"),
+        b.GridOf(b.Record().gridAdjuncts,
                  Tr("Ctrl and + adds a row; then type the adjunct, as Irish moss, and its amount.")),
         1);
 }
@@ -169,7 +155,7 @@ void BuildAdjuncts(PageBuilder& b) {
 void BuildLog(PageBuilder& b) {
     QVBoxLayout* column = ColumnOf(b);
     GridPanel* grid =
-        b.GridOf(b.Record().gridLog, Tr("Brew log"),
+        b.GridOf(b.Record().gridLog,
                  Tr("Ctrl and + adds a row; then type the date, what was done, and notes. Alt and Down "
                     "shows a calendar."));
     grid->View().SetHasDates();
@@ -185,14 +171,12 @@ void BuildLog(PageBuilder& b) {
 }
 
 void BuildNotes(PageBuilder& b) {
-    ColumnOf(b)->addWidget(new NotesBox(b.Binding(), b.Record().txtNotes, Tr("Notes"), &b.Page()), 1);
+    ColumnOf(b)->addWidget(new NotesBox(b.Binding(), b.Record().txtNotes,
+                                        PageBuilder::CaptionOf(b.Record().txtNotes), &b.Page()),
+                           1);
 }
 
 }  // namespace
-
-const TabText& TextOf(Tab tab) {
-    return kTabTexts[static_cast<std::size_t>(tab)];
-}
 
 void BuildPage(Tab tab, PageBuilder& builder) {
     static constexpr std::array<void (*)(PageBuilder&), kTabs> kBuilders{

@@ -44,15 +44,15 @@ QGridLayout* MakeSizes(PageBuilder& b) {
     RecipeRecord& r = b.Record();
     auto* grid = new QGridLayout;
     grid->setSpacing(Unit(b.Page()) * kGapUnits);
-    const auto add = [&](const QString& caption, QWidget* box) {
+    const auto add = [&](FieldBox* box) {
         const int row = grid->rowCount();
-        grid->addWidget(b.LabelFor(caption, box), row, 0);
+        grid->addWidget(b.LabelFor(box), row, 0);
         const bool wide = box->sizePolicy().horizontalPolicy() != QSizePolicy::Fixed;
         grid->addWidget(box, row, 1, 1, 2, wide ? Qt::Alignment() : Qt::AlignLeft);
     };
     AddRule(b, *grid, 3, 1, Tr("Basic"));
-    const QString name = Tr("Beer &Name:"), style = Tr("Beer &Style:"), batches = Tr("Number of &Batches:");
-    add(name, b.Field(r.txtName, name, 0));
+    const QString style = Tr("Beer &Style:");
+    add(b.Field(r.txtName, 0));
     QComboBox* styles = b.StyleList(PlainCaption(style));
     const int row = grid->rowCount();
     grid->addWidget(b.LabelFor(style, styles), row, 0);
@@ -67,11 +67,10 @@ QGridLayout* MakeSizes(PageBuilder& b) {
         if (binding.Flush()) binding.Run([](RecipeDocument& document) { document.Picks().BrowseStyles(); });
     });
     grid->addWidget(browse, row, 2);
-    add(batches, b.Field(r.txtNumBatches, batches, kVolumeDigits));
+    add(b.Field(r.txtNumBatches, kVolumeDigits));
     AddRule(b, *grid, 3, 2, Tr("Batch Size"));
-    const QString boil = Tr("Boi&l Volume (gal):"), total = Tr("Total &Volume (gal):");
-    add(boil, b.Field(r.txtBoilVol, boil, kVolumeDigits));
-    add(total, b.Field(r.txtTotalVol, total, kVolumeDigits));
+    add(b.Field(r.txtBoilVol, kVolumeDigits));
+    add(b.Field(r.txtTotalVol, kVolumeDigits));
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(grid->rowCount(), 1);
     return grid;
@@ -80,15 +79,14 @@ QGridLayout* MakeSizes(PageBuilder& b) {
 struct FigureRow {
     TextBox& box;
     const Label& range;
-    QString caption;
     int digits;
 };
 
 void AddFigure(PageBuilder& b, QGridLayout& grid, const FigureRow& figure, QWidget* extra) {
     const int row = grid.rowCount();
-    const QString what = PlainCaption(figure.caption);
-    FieldBox* box = b.Figure(figure.box, figure.caption, figure.digits);
-    grid.addWidget(b.LabelFor(figure.caption, box), row, Caption);
+    const QString what = PlainCaption(PageBuilder::CaptionOf(figure.box));
+    FieldBox* box = b.Figure(figure.box, figure.digits);
+    grid.addWidget(b.LabelFor(box), row, Caption);
     grid.addWidget(box, row, Box, Qt::AlignLeft);
     if (extra) {
         grid.addWidget(extra, row, Extra, Qt::AlignLeft);
@@ -114,21 +112,21 @@ QGridLayout* MakeFigures(PageBuilder& b) {
     auto* grid = new QGridLayout;
     grid->setSpacing(Unit(b.Page()) * kGapUnits);
     AddRule(b, *grid, FigureColumns, 3, Tr("Strength"));
-    AddFigure(b, *grid, {r.txtOG, r.lblOGStyle, Tr("Original Gravity:"), kGravityDigits},
+    AddFigure(b, *grid, {r.txtOG, r.lblOGStyle, kGravityDigits},
               MoreInfo(b, r.cmdStrengthDetails, Tr("&More Info"), Tr("More about the strength"),
                        StrengthDetailsOf));
-    AddFigure(b, *grid, {r.txtFG, r.lblFGStyle, Tr("Finished &Gravity:"), kGravityDigits}, nullptr);
-    AddFigure(b, *grid, {r.txtABV, r.lblABVStyle, Tr("Alcohol Content:"), kFigureDigits}, nullptr);
+    AddFigure(b, *grid, {r.txtFG, r.lblFGStyle, kGravityDigits}, nullptr);
+    AddFigure(b, *grid, {r.txtABV, r.lblABVStyle, kFigureDigits}, nullptr);
     AddRule(b, *grid, FigureColumns, 4, Tr("Appearance"));
     auto* swatch = new ColorSwatch(&b.Page());
     swatch->SetColor(r.Swatch());
     b.Binding().WatchSwatch([swatch](Rgb color) { swatch->SetColor(color); });
-    AddFigure(b, *grid, {r.txtColor, r.lblColorStyle, Tr("Color:"), kColorDigits}, swatch);
+    AddFigure(b, *grid, {r.txtColor, r.lblColorStyle, kColorDigits}, swatch);
     AddRule(b, *grid, FigureColumns, 5, Tr("Bitterness"));
-    AddFigure(b, *grid, {r.txtIBU, r.lblIBUStyle, Tr("IBUs:"), kGravityDigits},
+    AddFigure(b, *grid, {r.txtIBU, r.lblIBUStyle, kGravityDigits},
               MoreInfo(b, r.cmdIBUDetails, Tr("More &Info"), Tr("More about the bitterness"), HopDetailsOf));
     AddRule(b, *grid, FigureColumns, 6, Tr("Carbonation"));
-    AddFigure(b, *grid, {r.txtCO2, r.lblCO2Style, Tr("CO2 Amount:"), kFigureDigits}, nullptr);
+    AddFigure(b, *grid, {r.txtCO2, r.lblCO2Style, kFigureDigits}, nullptr);
     grid->setColumnStretch(Bar, 1);
     grid->setRowStretch(grid->rowCount(), 1);
     return grid;

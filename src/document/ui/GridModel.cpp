@@ -5,22 +5,14 @@
 #include <QWidget>
 
 #include "platform/qt/QtText.h"
+#include "record/CellRules.h"
 
 namespace tw {
 namespace {
 
-// Columns that hold words; all others hold numbers or check boxes.
-bool HoldsText(const Grid& grid, int col) {
-    const std::string& name = grid.Name();
-    if (name == "gridAdjuncts" || name == "gridLog") return true;
-    if (name == "gridWater") return col <= WaterCol::Profile;
-    if (name == "gridHops") return col == HopCol::Variety || col == HopCol::Form;
-    return col == 0 && name != "gridPressure";
-}
-
 // The ion cells of "Treatment Needed" and "Treatment Totals".
 bool IsItalic(const Grid& grid, int row, int col) {
-    return grid.Name() == "gridWater" && row >= WaterRow::Needed && col >= WaterCol::FirstIon;
+    return grid.Id() == GridId::Water && row >= WaterRow::Needed && col >= WaterCol::FirstIon;
 }
 
 // A colour as a role's value; nothing for an invalid one.
@@ -71,7 +63,7 @@ bool GridModel::CanEdit(const QModelIndex& index) const {
 
 Qt::Alignment GridModel::AlignmentOf(const Grid& grid, int col) {
     if (grid.ColumnAt(col).checkBox) return Qt::AlignCenter;
-    return Qt::AlignVCenter | (HoldsText(grid, col) ? Qt::AlignLeft : Qt::AlignRight);
+    return Qt::AlignVCenter | (RuleOf(grid, col).HoldsWords() ? Qt::AlignLeft : Qt::AlignRight);
 }
 
 bool GridModel::HasCatalogue(const QModelIndex& index) const {

@@ -13,6 +13,7 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/GridHeader.h"
 #include "platform/qt/QtText.h"
+#include "record/CellRules.h"
 
 namespace tw {
 namespace {
@@ -223,8 +224,7 @@ bool GridView::IsBlankGrid() const {
     if (!grid_) return false;
     for (int row = Grid::FixedRows(); row < grid_->EndOfData(); ++row)
         for (int col = 0; col < grid_->Cols(); ++col)
-            if (!grid_->Empty(row, col) && !(grid_->Name() == "gridHops" && col == HopCol::Form))
-                return false;
+            if (!grid_->Empty(row, col) && RuleOf(*grid_, col).takes != CellTakes::HopForm) return false;
     return true;
 }
 

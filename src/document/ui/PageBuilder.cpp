@@ -1,5 +1,6 @@
 #include "document/ui/PageBuilder.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -10,6 +11,8 @@
 #include "document/ui/RangeBar.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
+#include "record/CellRules.h"
+#include "record/FieldRules.h"
 
 namespace tw {
 QString PlainCaption(QString caption) {
@@ -25,12 +28,20 @@ QLabel* PageBuilder::LabelFor(const QString& caption, QWidget* buddy) {
     return label;
 }
 
-FieldBox* PageBuilder::Field(TextBox& box, const QString& caption, int digits) {
-    return new FieldBox(binding_, box, PlainCaption(caption), digits, &page_);
+QString PageBuilder::CaptionOf(const TextBox& box) {
+    return QCoreApplication::translate("PageBuilder", RuleOf(box).caption.data());
 }
 
-FieldBox* PageBuilder::Figure(TextBox& box, const QString& caption, int digits) {
-    FieldBox* field = Field(box, caption, digits);
+QLabel* PageBuilder::LabelFor(FieldBox* field) {
+    return LabelFor(CaptionOf(field->Box()), field);
+}
+
+FieldBox* PageBuilder::Field(TextBox& box, int digits) {
+    return new FieldBox(binding_, box, PlainCaption(CaptionOf(box)), digits, &page_);
+}
+
+FieldBox* PageBuilder::Figure(TextBox& box, int digits) {
+    FieldBox* field = Field(box, digits);
     field->setFont(FigureFont(field->font()));
     return field;
 }
@@ -95,7 +106,8 @@ QRadioButton* PageBuilder::Option(const OptionGroup& group, const QString& optio
     return button;
 }
 
-GridPanel* PageBuilder::GridOf(Grid& grid, const QString& name, const QString& hint) {
+GridPanel* PageBuilder::GridOf(Grid& grid, const QString& hint) {
+    const QString name = QCoreApplication::translate("PageBuilder", RuleOf(grid).caption.data());
     return new GridPanel(binding_, grid, name, hint, &page_);
 }
 

@@ -30,10 +30,13 @@ class PageBuilder {
 
     // A label right before its control, whose buddy it is; "&" marks the mnemonic.
     QLabel* LabelFor(const QString& caption, QWidget* buddy);
+    // The field's caption beside it.
+    QLabel* LabelFor(FieldBox* field);
+    static QString CaptionOf(const TextBox& box);
     // caption: the text of the box's label. digits: the usual width, 0 for as wide as there is room.
-    FieldBox* Field(TextBox& box, const QString& caption, int digits);
+    FieldBox* Field(TextBox& box, int digits);
     // A computed or typed figure in the larger face.
-    FieldBox* Figure(TextBox& box, const QString& caption, int digits);
+    FieldBox* Figure(TextBox& box, int digits);
     // A label of the record, such as a style's range.
     QLabel* RecordLabel(const Label& label, const QString& name);
     // The bar that belongs to a figure and its range.
@@ -43,7 +46,7 @@ class PageBuilder {
     QComboBox* StyleList(const QString& name);
     // An option button of that control name.
     QRadioButton* Option(const OptionGroup& group, const QString& option, const QString& caption);
-    GridPanel* GridOf(Grid& grid, const QString& name, const QString& hint);
+    GridPanel* GridOf(Grid& grid, const QString& hint);
 
   private:
     DocumentBinding& binding_;

@@ -8,6 +8,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "document/TabRules.h"
 #include "document/ui/DocumentPages.h"
 #include "document/ui/FieldBox.h"
 #include "document/ui/GridPanel.h"
@@ -37,7 +38,7 @@ frmDocument::frmDocument(RecipeDocument& document, Platform& platform, DocumentF
         page->setFocusPolicy(Qt::NoFocus);
         page->verticalScrollBar()->setObjectName(QStringLiteral("VScroll1"));
         pages_[static_cast<std::size_t>(i)] = page;
-        tabs_->addTab(page, tr(TextOf(static_cast<Tab>(i)).caption));
+        tabs_->addTab(page, tr(RuleOf(static_cast<Tab>(i)).caption));
     }
     BuildTab(0);
     setFocusProxy(FirstField());
@@ -144,7 +145,7 @@ void frmDocument::FocusMoved(QWidget* now) {
 }
 
 QWidget* frmDocument::FirstField() const {
-    const QString name = QString::fromLatin1(TextOf(static_cast<Tab>(shown_)).firstFocus);
+    const QString name = ToQt(FirstControlOf(static_cast<Tab>(shown_)));
     return pages_[static_cast<std::size_t>(shown_)]->findChild<QWidget*>(name);
 }
 

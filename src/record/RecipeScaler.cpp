@@ -31,16 +31,17 @@ void PutRoundedVolume(TextBox& box, double gallons) {
 
 }  // namespace
 
-void RecipeCalculator::ScaleGrainGrid(Grid& grid, double factor) {
+void RecipeScaler::ScaleGrainGrid(Grid& grid, double factor) {
     for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row) {
         if (grid.Empty(row, GrainCol::Amount)) continue;
         const double pounds = Finite(grid.Number(row, GrainCol::Amount) * factor);
         PutAmount(grid, row, GrainCol::Amount, CellValue::Of(pounds), kDisplayDecimals, " lbs.");
     }
-    ShowGridTotal(grid);
+    calculator_.ShowGridTotal(grid);
 }
 
-void RecipeCalculator::ScaleHopGrid(Grid& grid, double factor) {
+void RecipeScaler::ScaleHops(double factor) {
+    Grid& grid = r_.gridHops;
     using Kind = CellValue::Kind;
     for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row) {
         if (grid.Empty(row, HopCol::Amount)) continue;
@@ -52,10 +53,11 @@ void RecipeCalculator::ScaleHopGrid(Grid& grid, double factor) {
                                                                             : " oz.";
         PutAmount(grid, row, HopCol::Amount, value, kDisplayDecimals, unit);
     }
-    ShowGridTotal(grid);
+    calculator_.ShowGridTotal(grid);
 }
 
-void RecipeCalculator::ScaleTreatmentGrid(Grid& grid, double factor) {
+void RecipeScaler::ScaleTreatment(double factor) {
+    Grid& grid = r_.gridTreatment;
     for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row) {
         if (grid.Empty(row, TreatmentCol::Amount)) continue;
         const double grams = Finite(grid.Number(row, TreatmentCol::Amount) * factor);
@@ -63,65 +65,51 @@ void RecipeCalculator::ScaleTreatmentGrid(Grid& grid, double factor) {
     }
 }
 
-std::optional<double> RecipeCalculator::FinalVolumeFor(double newSize) const {
+std::optional<double> RecipeScaler::FinalVolumeFor(double newGallons) const {
     if (r_.txtFinalVol.Empty()) return std::nullopt;
     const double oldSize = r_.txtTotalVol.Value(), oldFinal = r_.txtFinalVol.Value();
-    if (oldFinal == oldSize) return newSize;
+    if (oldFinal == oldSize) return newGallons;
     // What was lost between the two goes on top of the new size, so that the final volume becomes the larger
     // one: intended.
-    double volume = Finite(newSize + oldSize - oldFinal);
+    double volume = Finite(newGallons + oldSize - oldFinal);
     FormatQuantity(volume, kDisplayDecimals);
     return volume;
 }
 
-void RecipeCalculator::ScaleVolumes(double newSize, std::string_view sizeText, bool scaleBoilVol) {
+void RecipeScaler::ScaleVolumes(double newGallons, std::string_view sizeText, bool scaleBoilVol) {
     const double oldSize = r_.txtTotalVol.Value();
     if (scaleBoilVol && !r_.txtBoilVol.Empty())
-        PutRoundedVolume(r_.txtBoilVol, Finite(r_.txtBoilVol.Value() * Divide(newSize, oldSize)));
-    if (const std::optional<double> finalVolume = FinalVolumeFor(newSize)) {
+        PutRoundedVolume(r_.txtBoilVol, Finite(r_.txtBoilVol.Value() * Divide(newGallons, oldSize)));
+    if (const std::optional<double> finalVolume = FinalVolumeFor(newGallons)) {
         if (r_.txtFinalVol.Value() == oldSize)
-            PutVolume(r_.txtFinalVol, newSize, sizeText);
+            PutVolume(r_.txtFinalVol, newGallons, sizeText);
         else
             PutRoundedVolume(r_.txtFinalVol, *finalVolume);
     }
-    PutVolume(r_.txtTotalVol, newSize, sizeText);
+    PutVolume(r_.txtTotalVol, newGallons, sizeText);
 }
 
-void RecipeCalculator::RecalcFermentables() {
-    RecalcHCU(r_.gridGrain);
-    RecalcPoints(r_.gridGrain, true);
-    RecalcHCU(r_.gridExtract);
-    RecalcPoints(r_.gridExtract, false);
-    CalcOGAndColor();
-}
-
-double RecipeCalculator::CO2Volumes() const {
-    if (r_.txtCO2.Empty()) return 0;
-    if (r_.Bottled()) return TotalOf(r_.gridPriming, PrimingCol::Volumes);
-    return r_.gridPressure.Number(1, PressureCol::Volumes);
-}
-
-RecipeCalculator::CO2Outcome RecipeCalculator::ScaleCO2(double volumes) {
+RecipeScaler::CO2Outcome RecipeScaler::ScaleCO2(double volumes) {
     return r_.Bottled() ? ScaleSugars(volumes) : ScalePressure(volumes);
 }
 
-RecipeCalculator::CO2Outcome RecipeCalculator::ScalePressure(double volumes) {
+RecipeScaler::CO2Outcome RecipeScaler::ScalePressure(double volumes) {
     double psi = KegPressure(r_.txtTemp.Value(), volumes);
     if (psi < 0) return CO2Outcome::TooLow;
     const std::string text = FormatQuantity(psi, kDisplayDecimals) + " psi";
     // As any pressure that is typed, it must have volumes.
-    if (!HasKegVolumes(psi)) return CO2Outcome::Unreasonable;
+    if (!calculator_.HasKegVolumes(psi)) return CO2Outcome::Unreasonable;
     r_.gridPressure.SetText(1, PressureCol::Pressure, text);
     r_.gridPressure.SetValue(1, PressureCol::Pressure, CellValue::Of(psi));
-    PressureCommitted();
+    calculator_.PressureCommitted();
     return CO2Outcome::Done;
 }
 
-RecipeCalculator::CO2Outcome RecipeCalculator::ScaleSugars(double volumes) {
+RecipeScaler::CO2Outcome RecipeScaler::ScaleSugars(double volumes) {
     const Grid& grid = r_.gridPriming;
     const double residual = grid.Number(grid.TotalsRow() - 1, PrimingCol::Volumes);
     if (volumes < residual) return CO2Outcome::TooLow;
-    const double fromSugars = TotalOf(grid, PrimingCol::Volumes) - residual;
+    const double fromSugars = grid.Total(PrimingCol::Volumes) - residual;
     if (fromSugars <= 0) return FillFirstSugar(volumes - residual);
     const double factor = Divide(volumes - residual, fromSugars);
     for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row)
@@ -131,7 +119,7 @@ RecipeCalculator::CO2Outcome RecipeCalculator::ScaleSugars(double volumes) {
 }
 
 // volumes: those that the sugars are to give.
-RecipeCalculator::CO2Outcome RecipeCalculator::FillFirstSugar(double volumes) {
+RecipeScaler::CO2Outcome RecipeScaler::FillFirstSugar(double volumes) {
     const Grid& grid = r_.gridPriming;
     for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row) {
         const double fermentable = grid.Number(row, PrimingCol::Fermentable);
@@ -144,10 +132,10 @@ RecipeCalculator::CO2Outcome RecipeCalculator::FillFirstSugar(double volumes) {
     return CO2Outcome::NoFermentable;
 }
 
-void RecipeCalculator::PutSugar(int row, double ounces) {
+void RecipeScaler::PutSugar(int row, double ounces) {
     PutAmount(r_.gridPriming, row, PrimingCol::Amount, CellValue::Of(Finite(ounces)), kDisplayDecimals,
               " oz.");
-    PrimingCommitted(row);
+    calculator_.PrimingCommitted(row);
 }
 
 }  // namespace tw
