@@ -207,18 +207,6 @@ std::optional<std::string_view> Body(std::string_view text) {
 
 }  // namespace
 
-std::string HashText(std::string_view text) {
-    std::uint64_t hash = 14695981039346656037ULL;
-    for (const char c : text) {
-        hash ^= static_cast<unsigned char>(c);
-        hash *= 1099511628211ULL;
-    }
-    std::string digits(kHashDigits, '0');
-    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit, hash >>= 4)
-        *digit = kHexDigits[hash & 15];
-    return digits;
-}
-
 std::string RecipeSnapshot::Name() const {
     const auto found = std::ranges::find(fields, "txtName", &Field::name);
     return found == fields.end() ? std::string() : found->text;

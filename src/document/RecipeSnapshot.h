@@ -8,8 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "calc/Grid.h"
 #include "platform/DateTime.h"
-#include "record/Grid.h"
+#include "values/Hash.h"
 
 namespace tw {
 
@@ -39,11 +40,8 @@ struct RecipeSnapshot {
     std::string Name() const;
 };
 
-// A checksum of a text: its 64-bit FNV-1a hash as 16 hexadecimal digits.
-std::string HashText(std::string_view text);
-
-// The snapshot as lines of text behind a line with the version of the form, with a checksum at the end. Every
-// byte of its texts comes back.
+// The snapshot as lines of text behind a line with the version of the form, with its HashText at the end.
+// Every byte of its texts comes back.
 std::string SnapshotText(const RecipeSnapshot& snapshot);
 // Reads the form of SnapshotText. Nothing for any other text: a foreign or later form, a damaged or cut one.
 // What is read agrees with itself; a document checks it against its own controls (RecipeDocument::Restore).

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "values/NumberText.h"
+#include "values/Split.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -246,11 +247,7 @@ void PrintLayout::PrintSmallNote(std::string_view text) {
 void PrintLayout::PrintWrapped(std::string_view text) {
     const std::string lines = ReplaceAll(text, "\r", "");
     if (IsBlank(lines)) return;
-    for (std::size_t begin = 0; begin <= lines.size();) {
-        const std::size_t end = std::min(lines.find('\n', begin), lines.size());
-        PrintWrappedLine(std::string_view(lines).substr(begin, end - begin));
-        begin = end + 1;
-    }
+    for (const std::string_view line : Split(lines, '\n')) PrintWrappedLine(line);
 }
 
 void PrintLayout::PrintWrappedLine(std::string_view line) {

@@ -3,7 +3,8 @@
 #include <cstdint>
 #include <cstdio>
 #include <iterator>
-#include <utf8proc.h>
+
+#include "values/Utf8.h"
 
 namespace tw {
 namespace {
@@ -20,17 +21,9 @@ constexpr std::uint32_t kPage1252[] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0
 
 // Takes the code point off the front of text; a byte that is no UTF-8 counts as one that cannot be shown.
 std::uint32_t TakeCodePoint(std::string_view& text) {
-    const auto first = static_cast<unsigned char>(text.front());
-    if (first < kFirstBeyondAscii) {
-        text.remove_prefix(1);
-        return first;
-    }
-    utf8proc_int32_t codePoint = -1;
-    const std::string_view front = text.substr(0, 4);
-    const utf8proc_ssize_t length = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(front.data()),
-                                                     static_cast<utf8proc_ssize_t>(front.size()), &codePoint);
-    text.remove_prefix(length >= 1 ? static_cast<std::size_t>(length) : 1);
-    return length >= 1 ? static_cast<std::uint32_t>(codePoint) : kReplacement;
+    const CodePoint front = FrontCodePoint(text);
+    text.remove_prefix(front.bytes);
+    return front.value == kNoCodePoint ? kReplacement : static_cast<std::uint32_t>(front.value);
 }
 
 // The byte of code page 1252; 0 when it has none.

@@ -1,5 +1,7 @@
 #include "store/CatalogueDeliveries.h"
 
+#include "values/Split.h"
+
 namespace tw {
 
 namespace {
@@ -87,11 +89,9 @@ std::string FolderOf(std::string_view content) {
 bool StandsAs(Database& database, const Recordset& row, std::string_view content) {
     content = ValuesOf(content);
     while (!content.empty()) {
-        const std::size_t end = content.find('\n');
-        const std::string_view line = content.substr(0, end);
-        const std::size_t equals = line.find('=');
-        if (LiteralOf(database, row, line.substr(0, equals)) != line.substr(equals + 1)) return false;
-        content.remove_prefix(end + 1);
+        std::string_view literal = CutPart(content, '\n');
+        const std::string_view column = CutPart(literal, '=');
+        if (LiteralOf(database, row, column) != literal) return false;
     }
     return true;
 }

@@ -6,11 +6,12 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <utf8proc.h>
 
 #include "platform/Error.h"
 #include "values/NumberText.h"
+#include "values/TabbedSheet.h"
 #include "values/Text.h"
+#include "values/Utf8.h"
 
 namespace tw {
 
@@ -22,50 +23,17 @@ std::string Quoted(std::string_view text) {
     return quoted;
 }
 
-std::vector<std::string_view> Split(std::string_view text, char separator) {
-    std::vector<std::string_view> parts;
-    for (std::size_t start = 0;;) {
-        const std::size_t end = text.find(separator, start);
-        if (end == std::string_view::npos) {
-            parts.push_back(text.substr(start));
-            return parts;
-        }
-        parts.push_back(text.substr(start, end - start));
-        start = end + 1;
-    }
-}
-
-// True for a code point that shows as nothing or as a blank that is not the plain one.
-bool IsInvisible(utf8proc_int32_t codePoint) {
-    if (codePoint == ' ') return false;
-    switch (utf8proc_category(codePoint)) {
-        case UTF8PROC_CATEGORY_CC:
-        case UTF8PROC_CATEGORY_CF:
-        case UTF8PROC_CATEGORY_CN:
-        case UTF8PROC_CATEGORY_CO:
-        case UTF8PROC_CATEGORY_ZS:
-        case UTF8PROC_CATEGORY_ZL:
-        case UTF8PROC_CATEGORY_ZP:
-            return true;
-        default:
-            return false;
-    }
-}
-
 // What is wrong with the bytes of a line; empty when nothing is.
 std::string EncodingFault(std::string_view line) {
-    for (std::size_t at = 0; at < line.size();) {
-        utf8proc_int32_t codePoint = 0;
-        const auto* bytes = reinterpret_cast<const utf8proc_uint8_t*>(line.data()) + at;
-        const auto length =
-            utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(line.size() - at), &codePoint);
-        if (length <= 0) return "the line is not valid UTF-8";
-        if (codePoint != '\t' && IsInvisible(codePoint)) {
+    while (!line.empty()) {
+        const CodePoint front = FrontCodePoint(line);
+        if (front.value == kNoCodePoint) return "the line is not valid UTF-8";
+        if (front.value != '\t' && IsInvisible(front.value)) {
             std::array<char, 16> code{};
-            std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(codePoint));
+            std::snprintf(code.data(), code.size(), "U+%04X", static_cast<unsigned>(front.value));
             return "the line holds the invisible character " + std::string(code.data());
         }
-        at += static_cast<std::size_t>(length);
+        line.remove_prefix(front.bytes);
     }
     return {};
 }
@@ -77,12 +45,10 @@ class Reader {
         : sheet_(sheet), columns_(columns), problems_(problems) {}
 
     void Read(std::istream& stream) {
-        std::string line;
-        std::getline(stream, line);
-        ++line_;
-        if (!CheckHeader(line)) return;
-        while (std::getline(stream, line)) {
-            ++line_;
+        const TabbedSheet read = ReadTabbedSheet(stream);
+        if (!CheckHeader(read.header)) return;
+        for (const SheetLine& line : read.lines) {
+            line_ = line.number;
             ReadRow(line);
         }
     }
@@ -103,15 +69,15 @@ class Reader {
         return sheet_.readable;
     }
 
-    void ReadRow(std::string_view line) {
+    void ReadRow(const SheetLine& line) {
         CatalogueRow row;
         row.columns = columns_;
         row.line = line_;
-        for (std::string_view cell : Split(line, '\t')) row.cells.emplace_back(cell);
+        row.cells = line.Cells();
         const std::size_t found = row.cells.size();
         row.cells.resize(columns_.size());
         row.numbers.resize(columns_.size());
-        if (std::string fault = EncodingFault(line); !fault.empty()) {
+        if (std::string fault = EncodingFault(line.text); !fault.empty()) {
             Report(std::move(fault));
         } else if (found != columns_.size()) {
             Report("the row has " + std::to_string(found) + " cells, not " + std::to_string(columns_.size()));
@@ -197,7 +163,7 @@ class Reader {
     CatalogueSheet& sheet_;
     std::span<const CatalogueColumn> columns_;
     CatalogueProblems& problems_;
-    int line_ = 0;
+    int line_ = 1;
     std::map<std::string, int> lineOfName_;
 };
 

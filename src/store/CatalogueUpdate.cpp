@@ -10,6 +10,7 @@
 #include "store/CatalogueDeliveries.h"
 #include "store/CatalogueEntries.h"
 #include "store/CatalogueNames.h"
+#include "values/Hash.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -42,13 +43,13 @@ std::optional<std::string> ReadFile(const std::string& path) {
     return bytes.str();
 }
 
-// The 64-bit FNV-1a hash of all bytes of the files tells one state of them from another.
+// The hash of all bytes of the files tells one state of them from another.
 std::optional<Release> ReleaseOf(const std::string& folder) {
-    std::uint64_t hash = 0xcbf29ce484222325U;
+    std::uint64_t hash = kEmptyHash64;
     for (const char* name : kCatalogueFiles) {
         const auto bytes = ReadFile(folder + "/" + name);
         if (!bytes) return std::nullopt;
-        for (const char byte : *bytes) hash = (hash ^ static_cast<unsigned char>(byte)) * 0x100000001b3U;
+        hash = Hash64(*bytes, hash);
     }
     const auto version = ReadFile(folder + "/version.txt");
     if (!version) return std::nullopt;

@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 #include <utility>
 
+#include "platform/ScopeGuard.h"
 #include "store/ForeignFile.h"
 #include "store/Schema.h"
 #include "store/SqlDialect.h"
@@ -16,19 +17,13 @@ struct StatementFinalizer {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 };
 
-// Runs the actions, which raise nothing, when its scope ends, also by an exception.
-class RunAtEnd {
-  public:
-    explicit RunAtEnd(std::vector<std::function<void()>>& actions) : actions_(std::exchange(actions, {})) {}
-    ~RunAtEnd() {
-        for (const auto& action : actions_) action();
-    }
-    RunAtEnd(const RunAtEnd&) = delete;
-    RunAtEnd& operator=(const RunAtEnd&) = delete;
-
-  private:
-    std::vector<std::function<void()>> actions_;
-};
+// Runs the actions, which raise nothing, when the scope of the result ends. The list is empty at once, since
+// an action may begin a unit of its own.
+auto RunAtEnd(std::vector<std::function<void()>>& actions) {
+    return ScopeGuard([taken = std::exchange(actions, {})] {
+        for (const auto& action : taken) action();
+    });
+}
 
 }  // namespace
 
@@ -161,7 +156,7 @@ bool UnitOfWork::End() {
 
 void UnitOfWork::Commit() {
     if (!open_ || !End()) return;
-    const RunAtEnd after(database_.afterUnit_);
+    const auto after = RunAtEnd(database_.afterUnit_);
     sqlite3* const handle = database_.handle_;
     if (sqlite3_get_autocommit(handle) != 0) database_.RaiseUndone();
     if (sqlite3_exec(handle, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK) return;
@@ -172,7 +167,7 @@ void UnitOfWork::Commit() {
 
 void UnitOfWork::Abandon() {
     if (!open_ || !End()) return;
-    const RunAtEnd after(database_.afterUnit_);
+    const auto after = RunAtEnd(database_.afterUnit_);
     sqlite3_exec(database_.handle_, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 

@@ -5,8 +5,10 @@
 
 #include "store/Database.h"
 #include "store/SqliteHandle.h"
+#include "values/Hash.h"
 #include "values/NumberText.h"
 #include "values/Text.h"
+#include "values/Utf8.h"
 
 namespace tw {
 namespace {
@@ -47,13 +49,11 @@ FieldType ValueType(int storage) {
 
 // A number that is the same for names that differ in case alone. Names beyond ASCII share one.
 std::uint32_t NameHash(std::string_view name) {
-    constexpr std::uint32_t kBasis = 2166136261U;
-    constexpr std::uint32_t kPrime = 16777619U;
-    std::uint32_t hash = kBasis;
+    constexpr unsigned char kLowerCase = 0x20;
+    std::uint32_t hash = kEmptyHash32;
     for (const char c : name) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 0x80) return 0;
-        hash = (hash ^ (byte | 0x20U)) * kPrime;
+        if (!IsAscii(c)) return 0;
+        hash = Hash32(static_cast<unsigned char>(c) | kLowerCase, hash);
     }
     return hash;
 }

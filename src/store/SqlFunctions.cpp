@@ -1,8 +1,6 @@
-#include <array>
 #include <cstddef>
 #include <cstring>
 #include <string_view>
-#include <utf8proc.h>
 
 #include "store/SqliteHandle.h"
 #include "values/Text.h"
@@ -39,29 +37,6 @@ int CompareDates(void*, int sizeA, const void* a, int sizeB, const void* b) noex
         if (years != 0) return years;
     }
     return left.compare(right);
-}
-
-std::string Lower(std::string_view text) {
-    std::string lower;
-    lower.reserve(text.size() + 4);
-    while (!text.empty()) {
-        constexpr std::size_t kLongest = 4;
-        const std::string_view front = text.substr(0, kLongest);
-        utf8proc_int32_t codePoint = -1;
-        const auto* const bytes = reinterpret_cast<const utf8proc_uint8_t*>(front.data());
-        const utf8proc_ssize_t length =
-            utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(front.size()), &codePoint);
-        if (length < 1) {  // no valid UTF-8: the byte stays
-            lower.push_back(text.front());
-            text.remove_prefix(1);
-            continue;
-        }
-        std::array<utf8proc_uint8_t, kLongest> encoded{};
-        const utf8proc_ssize_t size = utf8proc_encode_char(utf8proc_tolower(codePoint), encoded.data());
-        lower.append(reinterpret_cast<const char*>(encoded.data()), static_cast<std::size_t>(size));
-        text.remove_prefix(static_cast<std::size_t>(length));
-    }
-    return lower;
 }
 
 // The SQL function around a change of case: NULL stays NULL, a number is taken as its text.

@@ -5,6 +5,7 @@
 
 #include "store/ObjectKeys.h"
 #include "tree/lvFiller.h"
+#include "values/Split.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -17,16 +18,6 @@ int ExplorerColumns() {
         return static_cast<int>(list.Columns().size());
     }();
     return count;
-}
-
-std::vector<std::string_view> LinesOf(std::string_view text) {
-    std::vector<std::string_view> lines;
-    while (true) {
-        const std::size_t end = text.find('\n');
-        lines.push_back(Trim(text.substr(0, end)));
-        if (end == std::string_view::npos) return lines;
-        text.remove_prefix(end + 1);
-    }
 }
 
 }  // namespace
@@ -140,7 +131,8 @@ bool NodeList::ChooseKey(std::string_view key) {
 
 bool NodeList::ChooseByText(std::string_view lines) {
     std::vector<int> rows;
-    for (const std::string_view line : LinesOf(lines)) {
+    for (const std::string_view part : Split(lines, '\n')) {
+        const std::string_view line = Trim(part);
         const auto found = std::ranges::find_if(rows_.Rows(), [&](const ListRow& row) {
             return row.key == line || SameName(row.cells.front(), line);
         });

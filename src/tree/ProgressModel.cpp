@@ -1,5 +1,7 @@
 #include "tree/ProgressModel.h"
 
+#include "platform/ScopeGuard.h"
+
 namespace tw {
 
 bool ProgressModel::Show(const std::string& name, int done, int total) {
@@ -34,15 +36,11 @@ void ProgressModel::CloseBox() {
 void ProgressModel::FirstShown() {
     if (!open_ || running_) return;
     running_ = true;
-    struct End {
-        ProgressModel& model;
-        ~End() {
-            model.running_ = false;
-            model.open_ = false;
-            model.busy_ = false;
-        }
-    };
-    const End end{*this};
+    const ScopeGuard end([this] {
+        running_ = false;
+        open_ = false;
+        busy_ = false;
+    });
     SetBusy(true);
     work_(*this);
     SetBusy(false);

@@ -6,6 +6,7 @@
 #include <numeric>
 #include <utility>
 
+#include "values/Split.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -13,26 +14,8 @@ namespace {
 
 constexpr std::uint32_t kBits = 64;
 
-bool Separates(char c) {
-    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
 std::size_t SetSize(std::uint32_t texts) {
     return (std::size_t{texts} + kBits - 1) / kBits;
-}
-
-// Calls action with each word of text as it is written.
-template <typename Action>
-void ForEachWord(std::string_view text, Action action) {
-    const char* at = text.data();
-    const char* const end = at + text.size();
-    for (;;) {
-        at = std::find_if_not(at, end, Separates);
-        if (at == end) return;
-        const char* const begin = at;
-        at = std::find_if(at, end, Separates);
-        action(std::string_view(begin, static_cast<std::size_t>(at - begin)));
-    }
 }
 
 void AppendPacked(std::vector<unsigned char>& packed, std::uint32_t number) {

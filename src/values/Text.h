@@ -2,9 +2,10 @@
 // ASCII. Text that is not valid UTF-8 is compared byte by byte where it cannot be read; nothing here fails.
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
+
+#include "values/Utf8.h"
 
 namespace tw {
 
@@ -14,16 +15,13 @@ std::string_view Trim(std::string_view text);
 bool IsBlank(std::string_view text);
 // text in upper case, one code point for one (simple case mapping).
 std::string Upper(std::string_view text);
+// The same in lower case.
+std::string Lower(std::string_view text);
 // True when both texts are equal after trimming and upper-casing: the comparison of names.
 bool SameName(std::string_view a, std::string_view b);
 // Negative, zero or positive as a sorts before, with or behind b: by code points of the upper-cased texts,
 // untrimmed.
 int CompareNoCase(std::string_view a, std::string_view b);
-// The number of code points; a byte that is no valid UTF-8 counts as one.
-std::size_t CodePointCount(std::string_view text);
-// The byte at which the code point of that number begins, counted from 0; the end of the text for a larger
-// number.
-std::size_t CodePointOffset(std::string_view text, std::size_t number);
 // text with every from replaced by to. REQUIRES: from is not empty.
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
 

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 
+#include "values/Split.h"
+
 namespace tw {
 namespace {
 
@@ -55,8 +57,9 @@ struct WordTable {
     std::array<Slot, kSlots> slots{};
     UnitSet bareNumber;
 
-    // REQUIRES: word is not empty.
-    static constexpr std::size_t Hash(std::string_view word) {
+    // Where word stands unless another word took the slot; worked out from three of its bytes, since units
+    // are looked up with every entry. REQUIRES: word is not empty.
+    static constexpr std::size_t FirstSlot(std::string_view word) {
         const auto at = [word](std::size_t i) {
             return static_cast<std::size_t>(static_cast<unsigned char>(word[i]));
         };
@@ -65,7 +68,7 @@ struct WordTable {
 
     // The slot of word, or the empty slot where it would stand. REQUIRES: word is not empty.
     constexpr std::size_t Find(std::string_view word) const {
-        std::size_t at = Hash(word);
+        std::size_t at = FirstSlot(word);
         while (!slots[at].word.empty() && slots[at].word != word) at = (at + 1) % kSlots;
         return at;
     }
@@ -81,13 +84,8 @@ constexpr WordTable MakeWordTable() {
     WordTable table;
     for (const UnitEntry& entry : kUnits) {
         if (entry.bareNumber) table.bareNumber.Add(entry.unit);
-        std::string_view words = entry.words;
-        while (!words.empty()) {
-            const std::size_t comma = words.find(',');
-            const std::string_view word = words.substr(0, comma);
-            table.Add(word, entry.unit);
-            words = comma == std::string_view::npos ? std::string_view() : words.substr(comma + 1);
-        }
+        for (std::string_view words = entry.words; !words.empty();)
+            table.Add(CutPart(words, ','), entry.unit);
     }
     return table;
 }

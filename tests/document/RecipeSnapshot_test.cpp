@@ -204,13 +204,6 @@ TEST_F(SnapshotTest, AForeignFormIsRefusedWhateverItsChecksum) {
     EXPECT_FALSE(ReadSnapshot(Signed(first + "field txtOG \"\" \"\" " + std::string(400, '9') + "\n")));
 }
 
-TEST_F(SnapshotTest, TheChecksumIsThePublishedOne) {
-    // Test vectors of FNV-1a.
-    EXPECT_EQ(HashText(""), "cbf29ce484222325");
-    EXPECT_EQ(HashText("a"), "af63dc4c8601ec8c");
-    EXPECT_EQ(HashText("foobar"), "85944171f73967e8");
-}
-
 TEST_F(SnapshotTest, RowsThatNoGridCanHaveAreRefused) {
     Fill();
     const RecipeSnapshot good = document->Storage().TakeSnapshot();

@@ -78,15 +78,6 @@ TEST(CompareNoCase, SortsByUpperCaseCodePoints) {
     }
 }
 
-TEST(CodePointCount, CountsABrokenByteAsOne) {
-    EXPECT_EQ(CodePointCount(""), 0u);
-    EXPECT_EQ(CodePointCount("abc"), 3u);
-    EXPECT_EQ(CodePointCount("k\u00F6lsch"), 6u);
-    EXPECT_EQ(CodePointCount("\U00010400"), 1u);
-    EXPECT_EQ(CodePointCount("\xFF\xFE"), 2u);
-    EXPECT_EQ(CodePointCount("a\xC3"), 2u);
-}
-
 TEST(ReplaceAll, GoesFromLeftToRight) {
     EXPECT_EQ(ReplaceAll("O'Hara's", "'", "''"), "O''Hara''s");
     EXPECT_EQ(ReplaceAll("aaa", "aa", "b"), "ba");

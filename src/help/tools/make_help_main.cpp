@@ -14,6 +14,7 @@
 #include "help/SystemTextFiles.h"
 #include "platform/Error.h"
 #include "store/Database.h"
+#include "values/TabbedSheet.h"
 #include "values/Text.h"
 
 namespace {
@@ -44,18 +45,10 @@ class Problems {
 std::vector<Row> ReadTable(const fs::path& file, std::size_t columns, Problems& problems) {
     std::istringstream text(TextFiles().Read(file.string()));
     std::vector<Row> rows;
-    std::string line;
-    for (int number = 1; std::getline(text, line); ++number) {
-        if (number == 1) continue;
-        Row row(1);
-        for (const char c : line) {
-            if (c == '\t')
-                row.emplace_back();
-            else
-                row.back() += c;
-        }
+    for (const tw::SheetLine& line : tw::ReadTabbedSheet(text).lines) {
+        Row row = line.Cells();
         if (row.size() != columns)
-            problems.Add(file.string() + ":" + std::to_string(number) + ": there are " +
+            problems.Add(file.string() + ":" + std::to_string(line.number) + ": there are " +
                          std::to_string(columns) + " columns");
         row.resize(columns);
         rows.push_back(std::move(row));

@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <utility>
 
+#include "platform/ScopeGuard.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
 #include "tree/ListTable.h"
@@ -86,7 +87,7 @@ class RowView : public View, protected ListTableObserver {
     }
 
     void ShowSelection() {
-        const bool was = std::exchange(following_, true);
+        const ScopedValue following(following_, true);
         const QModelIndex row = model_->index(list_.Selected(), 0);
         QItemSelection rows;
         for (const int chosen : list_.Chosen())
@@ -102,18 +103,16 @@ class RowView : public View, protected ListTableObserver {
                 this->scrollTo(model_->index(row.row() - 1, 0));
             this->scrollTo(row);
         }
-        following_ = was;
     }
 
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
         View::currentChanged(current, previous);
         if (following_ || !current.isValid()) return;
-        const bool was = std::exchange(choosing_, multi_);
+        const ScopedValue choosing(choosing_, multi_);
         if (!multi_)
             list_.Select(current.row());
         else if (list_.IsChosen(current.row()))
             list_.Choose(list_.Chosen(), current.row());
-        choosing_ = was;
     }
 
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override {
@@ -122,9 +121,8 @@ class RowView : public View, protected ListTableObserver {
         std::vector<int> rows;
         for (const QModelIndex& index : this->selectionModel()->selectedIndexes())
             if (index.column() == 0) rows.push_back(index.row());
-        const bool was = std::exchange(choosing_, true);
+        const ScopedValue choosing(choosing_, true);
         list_.Choose(std::move(rows), this->currentIndex().row());
-        choosing_ = was;
     }
 
     void keyPressEvent(QKeyEvent* event) override {

@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <utility>
 
+#include "platform/ScopeGuard.h"
 #include "platform/qt/QtText.h"
 #include "store/DB_IO.h"
 #include "tree/ListFormats.h"
@@ -154,17 +155,15 @@ void TreePane::ShowAll() {
 }
 
 void TreePane::ShowExpanded(int item) {
-    const bool was = std::exchange(following_, true);
+    const ScopedValue following(following_, true);
     setExpanded(model_->IndexOf(item), items_.IsExpanded(item));
-    following_ = was;
 }
 
 void TreePane::ShowSelection() {
-    const bool was = std::exchange(following_, true);
+    const ScopedValue following(following_, true);
     const QModelIndex index = model_->IndexOf(items_.Selected());
     setCurrentIndex(index);
     if (index.isValid()) scrollTo(index);
-    following_ = was;
     viewport()->update();
 }
 

@@ -1,0 +1,36 @@
+// What ends with a scope, even if an exception ends it.
+#pragma once
+
+#include <utility>
+
+namespace tw {
+
+// Runs an action when its scope ends. REQUIRES: the action raises nothing.
+template <typename Action>
+class [[nodiscard]] ScopeGuard {
+  public:
+    explicit ScopeGuard(Action action) : action_(std::move(action)) {}
+    ~ScopeGuard() { action_(); }
+    ScopeGuard(const ScopeGuard&) = delete;
+    ScopeGuard& operator=(const ScopeGuard&) = delete;
+
+  private:
+    Action action_;
+};
+
+// Gives a variable a value for the time of a scope, and then the one that it had before.
+template <typename Value>
+class [[nodiscard]] ScopedValue {
+  public:
+    ScopedValue(Value& variable, Value during)
+        : variable_(variable), before_(std::exchange(variable, std::move(during))) {}
+    ~ScopedValue() { variable_ = std::move(before_); }
+    ScopedValue(const ScopedValue&) = delete;
+    ScopedValue& operator=(const ScopedValue&) = delete;
+
+  private:
+    Value& variable_;
+    Value before_;
+};
+
+}  // namespace tw

@@ -1,0 +1,43 @@
+// UTF-8 texts by their code points. A byte that is no valid UTF-8 counts as a code point of its own; nothing
+// here fails.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tw {
+
+// Stands for a byte that is no valid UTF-8.
+inline constexpr std::int32_t kNoCodePoint = -1;
+
+// One code point of a text and the number of bytes that it takes there.
+struct CodePoint {
+    std::int32_t value = kNoCodePoint;
+    std::size_t bytes = 1;
+};
+
+constexpr bool IsAscii(char c) {
+    return static_cast<unsigned char>(c) < 0x80;
+}
+// True if every byte of text is ASCII; an empty text is.
+constexpr bool IsAscii(std::string_view text) {
+    unsigned char all = 0;
+    for (const char c : text) all = static_cast<unsigned char>(all | static_cast<unsigned char>(c));
+    return all < 0x80;
+}
+
+// Returns the code point at the front of text. REQUIRES: text is not empty.
+CodePoint FrontCodePoint(std::string_view text);
+// Writes a code point to the end of out. REQUIRES: it is one that FrontCodePoint returns, not kNoCodePoint.
+void AppendCodePoint(std::string& out, std::int32_t codePoint);
+// Returns the number of code points.
+std::size_t CodePointCount(std::string_view text);
+// Returns the byte offset at which the code point of that number, counted from 0, begins; the end of the text
+// for a larger number.
+std::size_t CodePointOffset(std::string_view text, std::size_t number);
+// True for a code point that shows as nothing or as a blank that is not the plain one.
+bool IsInvisible(std::int32_t codePoint);
+
+}  // namespace tw
