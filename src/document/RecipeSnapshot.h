@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "calc/Grid.h"
+#include "record/Grid.h"
 #include "platform/DateTime.h"
 #include "values/Hash.h"
 

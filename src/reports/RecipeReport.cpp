@@ -46,7 +46,7 @@ class RecipeReport {
 };
 
 void RecipeReport::Write(std::string_view name) {
-    const Recordset recipe = database_.OpenRecordset("SELECT * FROM RECIPES WHERE NAME = " + SqlText(name));
+    const Recordset recipe = database_.OpenRecordset("SELECT * FROM RECIPES WHERE NAME = ?", {name});
     if (recipe.AtEnd()) return;
     WriteHead(recipe);
     WriteGeneral(recipe);
@@ -100,7 +100,7 @@ const std::string& RecipeReport::StyleName(const Field& id) {
     const auto [found, added] = styles_.try_emplace(id.Integer());
     if (added) {
         const Recordset style =
-            database_.OpenRecordset("SELECT NAME FROM STYLES WHERE ID = " + std::to_string(found->first));
+            database_.OpenRecordset("SELECT NAME FROM STYLES WHERE ID = ?", {found->first});
         if (!style.AtEnd()) found->second = Trimmed(style.Fields(0).Text());
     }
     return found->second;

@@ -9,16 +9,12 @@ namespace {
 // No column has this name: FOLDER_ID tells where a style stands.
 constexpr std::string_view kFolderLine = "FOLDER=";
 
-std::string KeyCondition(std::string_view sheet, const std::string& name) {
-    return " WHERE SHEET = " + SqlText(sheet) + " AND NAME = " + SqlText(name);
-}
-
 }  // namespace
 
 bool Deliveries::AreIn(Database& database) {
     return !database
-                .OpenRecordset("SELECT name FROM sqlite_schema WHERE type = 'table' AND name = " +
-                               SqlText(kDeliveryTable))
+                .OpenRecordset("SELECT name FROM sqlite_schema WHERE type = 'table' AND name = ?",
+                               {kDeliveryTable})
                 .AtEnd();
 }
 
@@ -44,15 +40,18 @@ void Deliveries::Remember(std::string_view sheet, const std::string& name, const
     const std::string table(kDeliveryTable);
     const std::string* known = Find(sheet, name);
     if (known && *known == content) return;
-    database_.Execute(known ? "UPDATE " + table + " SET CONTENT = " + SqlText(content) +
-                                  KeyCondition(sheet, name)
-                            : "INSERT INTO " + table + " (SHEET, NAME, CONTENT) VALUES (" + SqlText(sheet) +
-                                  ", " + SqlText(name) + ", " + SqlText(content) + ")");
+    if (known)
+        database_.Execute("UPDATE " + table + " SET CONTENT = ? WHERE SHEET = ? AND NAME = ?",
+                          {content, sheet, name});
+    else
+        database_.Execute("INSERT INTO " + table + " (SHEET, NAME, CONTENT) VALUES (?, ?, ?)",
+                          {sheet, name, content});
     contents_[{std::string(sheet), name}] = content;
 }
 
 void Deliveries::Forget(std::string_view sheet, const std::string& name) {
-    database_.Execute("DELETE FROM " + std::string(kDeliveryTable) + KeyCondition(sheet, name));
+    database_.Execute("DELETE FROM " + std::string(kDeliveryTable) + " WHERE SHEET = ? AND NAME = ?",
+                      {sheet, name});
     contents_.erase({std::string(sheet), name});
 }
 
@@ -65,7 +64,7 @@ std::vector<std::string> Deliveries::NamesOf(std::string_view sheet) const {
 
 std::string ContentOf(const CatalogueEntry& entry) {
     std::string content;
-    for (const auto& [column, literal] : entry.values) content.append(column + "=" + literal + "\n");
+    for (const auto& [column, value] : entry.values) content.append(column + "=" + value.Literal() + "\n");
     if (!entry.folder.empty()) content.append(kFolderLine).append(entry.folder).append("\n");
     return content;
 }
@@ -91,7 +90,7 @@ bool StandsAs(Database& database, const Recordset& row, std::string_view content
     while (!content.empty()) {
         std::string_view literal = CutPart(content, '\n');
         const std::string_view column = CutPart(literal, '=');
-        if (LiteralOf(database, row, column) != literal) return false;
+        if (ValueOf(database, row, column).Literal() != literal) return false;
     }
     return true;
 }

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
-
-#include "values/NumberText.h"
+#include <optional>
 
 namespace tw {
 
@@ -11,17 +10,10 @@ namespace {
 
 constexpr std::string_view kTypeOfGrain = "GRAIN_TYPE";
 
-std::string NumberLiteral(const std::optional<double>& number) {
-    return number ? NumberText(*number) : "NULL";
-}
-
-std::string BoolLiteral(bool value) {
-    return value ? "TRUE" : "FALSE";
-}
-
-std::string TypeLiteral(const std::string& word) {
+std::optional<std::int64_t> TypeOf(const std::string& word) {
     const auto found = std::ranges::find(kYeastTypes, word);
-    return found == kYeastTypes.end() ? "NULL" : std::to_string(found - kYeastTypes.begin());
+    if (found == kYeastTypes.end()) return std::nullopt;
+    return found - kYeastTypes.begin();
 }
 
 // Builds the entry of one row of a sheet.
@@ -30,17 +22,17 @@ class EntryMaker {
     EntryMaker(std::string_view table, const CatalogueRow& row) : row_(row) {
         entry_.table = table;
         entry_.name = row.Text("name");
-        Literal("NAME", SqlText(entry_.name));
+        Value("NAME", entry_.name);
     }
-    EntryMaker& Literal(std::string column, std::string literal) {
-        entry_.values.emplace_back(std::move(column), std::move(literal));
+    EntryMaker& Value(std::string column, SqlValue value) {
+        entry_.values.emplace_back(std::move(column), std::move(value));
         return *this;
     }
     EntryMaker& Text(std::string column, std::string_view header) {
-        return Literal(std::move(column), SqlText(row_.Text(header)));
+        return Value(std::move(column), row_.Text(header));
     }
     EntryMaker& Number(std::string column, std::string_view header) {
-        return Literal(std::move(column), NumberLiteral(row_.Number(header)));
+        return Value(std::move(column), row_.Number(header));
     }
     // The two columns and the two headers are those with "_LO" and "_HI", "_lo" and "_hi" behind the given
     // words.
@@ -61,7 +53,7 @@ class EntryMaker {
 
 CatalogueEntry GrainEntry(const CatalogueRow& row) {
     return EntryMaker("GRAINS", row)
-        .Literal("GRAIN", BoolLiteral(row.Text("kind") == "grain"))
+        .Value("GRAIN", row.Text("kind") == "grain")
         .Text(std::string(kTypeOfGrain), "type")
         .Text("DESCR", "description")
         .Range("PPG", "ppg")
@@ -82,7 +74,7 @@ CatalogueEntry YeastEntry(const CatalogueRow& row) {
         .Text("DESCR", "short_description")
         .Text("FLOC", "flocculation")
         .Text("FULL_DESCR", "description")
-        .Literal("TYPE", TypeLiteral(row.Text("type")))
+        .Value("TYPE", TypeOf(row.Text("type")))
         .Range("AA", "attenuation")
         .Range("TEMP", "temp")
         .Done();
@@ -105,8 +97,8 @@ CatalogueEntry StyleEntry(const CatalogueRow& row) {
     const std::string& profile = row.Text("water_profile");
     return EntryMaker("STYLES", row)
         .Text("DESCR", "description")
-        .Literal("TYPE", TypeLiteral(row.Text("type")))
-        .Literal("WATER_PROFILE", profile.empty() ? "NULL" : SqlText(profile))
+        .Value("TYPE", TypeOf(row.Text("type")))
+        .Value("WATER_PROFILE", profile.empty() ? SqlValue(Null()) : SqlValue(profile))
         .Range("OG", "og")
         .Range("FG", "fg")
         .Range("ABV", "abv")
@@ -117,37 +109,36 @@ CatalogueEntry StyleEntry(const CatalogueRow& row) {
         .Done();
 }
 
-std::optional<std::string> FoundTypeId(Database& database, const std::string& name,
-                                       const std::string& isGrain) {
+std::optional<std::int64_t> FoundTypeId(Database& database, const SqlValue& name, const SqlValue& isGrain) {
     const Recordset found =
-        database.OpenRecordset("SELECT ID FROM GRAIN_TYPES WHERE NAME = " + name + " AND GRAIN = " + isGrain);
+        database.OpenRecordset("SELECT ID FROM GRAIN_TYPES WHERE NAME = ? AND GRAIN = ?", {name, isGrain});
     if (found.AtEnd()) return std::nullopt;
-    return found.Fields(0).Text();
+    return found.Fields(0).Integer();
 }
 
 // The value to write for a column: the ID where the entry names the type of a grain.
-std::string WrittenValue(Database& database, const CatalogueEntry& entry, const std::string& column,
-                         const std::string& literal) {
-    if (column != kTypeOfGrain) return literal;
-    return GrainTypeId(database, literal, entry.Literal("GRAIN"));
+SqlValue WrittenValue(Database& database, const CatalogueEntry& entry, const std::string& column,
+                      const SqlValue& value) {
+    if (column != kTypeOfGrain) return value;
+    return GrainTypeId(database, value, entry.ValueOf("GRAIN"));
 }
 
-// The ID of the type of a grain; "0" for a row of another table and for a grain without one.
-std::string TypeOfRow(Database& database, std::string_view table, const std::string& id) {
-    if (table != "GRAINS") return "0";
-    return std::to_string(
-        database.OpenRecordset("SELECT GRAIN_TYPE FROM GRAINS WHERE ID = " + id).Fields(0).Integer());
+// The ID of the type of a grain; 0 for a row of another table and for a grain without one.
+std::int64_t TypeOfRow(Database& database, std::string_view table, const SqlValue& id) {
+    if (table != "GRAINS") return 0;
+    return database.OpenRecordset("SELECT GRAIN_TYPE FROM GRAINS WHERE ID = ?", {id}).Fields(0).Integer();
 }
 
-void DropUnusedType(Database& database, const std::string& id) {
+void DropUnusedType(Database& database, std::int64_t id) {
+    if (id == 0) return;
     const Recordset grains =
-        database.OpenRecordset("SELECT COUNT(GRAIN_TYPE) FROM GRAINS WHERE GRAIN_TYPE = " + id);
-    if (grains.Fields(0).Integer() < 1) database.Execute("DELETE FROM GRAIN_TYPES WHERE ID = " + id);
+        database.OpenRecordset("SELECT COUNT(GRAIN_TYPE) FROM GRAINS WHERE GRAIN_TYPE = ?", {id});
+    if (grains.Fields(0).Integer() < 1) database.Execute("DELETE FROM GRAIN_TYPES WHERE ID = ?", {id});
 }
 
 }  // namespace
 
-const std::string& CatalogueEntry::Literal(std::string_view column) const {
+const SqlValue& CatalogueEntry::ValueOf(std::string_view column) const {
     const auto found = std::ranges::find_if(values, [&](const auto& value) { return value.first == column; });
     assert(found != values.end());
     return found->second;
@@ -168,63 +159,69 @@ std::vector<CatalogueEntry> EntriesOf(const CatalogueSheets& catalogue) {
     return entries;
 }
 
-std::string LiteralOf(Database& database, const Recordset& records, std::string_view column) {
+SqlValue ValueOf(Database& database, const Recordset& records, std::string_view column) {
     const Field field = records.Fields(column);
-    if (field.IsNull()) return "NULL";
+    if (field.IsNull()) return Null();
     if (column == kTypeOfGrain) {
         const Recordset type =
-            database.OpenRecordset("SELECT NAME FROM GRAIN_TYPES WHERE ID = " + field.Text());
-        return type.AtEnd() ? "NULL" : SqlText(type.Fields(0).Text());
+            database.OpenRecordset("SELECT NAME FROM GRAIN_TYPES WHERE ID = ?", {field.Text()});
+        if (type.AtEnd()) return Null();
+        return type.Fields(0).Text();
     }
     const Value value = field.Value();
-    if (const auto* text = std::get_if<std::string>(&value)) return SqlText(*text);
-    if (const auto* number = std::get_if<double>(&value)) return NumberText(*number);
-    return BoolLiteral(field.Boolean());
+    if (const auto* text = std::get_if<std::string>(&value)) return *text;
+    if (const auto* number = std::get_if<double>(&value)) return *number;
+    return field.Boolean();
 }
 
-std::string GrainTypeId(Database& database, const std::string& name, const std::string& isGrain) {
+SqlValue GrainTypeId(Database& database, const SqlValue& name, const SqlValue& isGrain) {
     if (const auto id = FoundTypeId(database, name, isGrain)) return *id;
-    database.Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES (" + name + ", " + isGrain + ")");
-    return FoundTypeId(database, name, isGrain).value_or("NULL");
+    database.Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES (?, ?)", {name, isGrain});
+    return FoundTypeId(database, name, isGrain);
 }
 
-void InsertEntry(Database& database, const CatalogueEntry& entry, const std::string& folderId,
-                 const std::string& when) {
+void InsertEntry(Database& database, const CatalogueEntry& entry, const SqlValue& folderId,
+                 const SqlValue& when) {
     std::string columns;
-    std::string literals;
-    const auto add = [&](const std::string& column, const std::string& literal) {
+    std::string places;
+    SqlValues values;
+    const auto add = [&](const std::string& column, SqlValue value) {
         columns += (columns.empty() ? "" : ", ") + column;
-        literals += (literals.empty() ? "" : ", ") + literal;
+        places += places.empty() ? "?" : ", ?";
+        values.push_back(std::move(value));
     };
-    for (const auto& [column, literal] : entry.values)
-        add(column, WrittenValue(database, entry, column, literal));
+    for (const auto& [column, value] : entry.values)
+        add(column, WrittenValue(database, entry, column, value));
     if (!entry.folder.empty()) {
         add("FOLDER_ID", folderId);
         add("CREATED_WHEN", when);
         add("MODIFIED_WHEN", when);
     }
-    database.Execute("INSERT INTO " + std::string(entry.table) + " (" + columns + ") VALUES (" + literals +
-                     ")");
+    database.Execute("INSERT INTO " + std::string(entry.table) + " (" + columns + ") VALUES (" + places + ")",
+                     values);
 }
 
-void UpdateEntry(Database& database, const CatalogueEntry& entry, const std::string& id,
-                 const std::string& when) {
-    const std::string table(entry.table);
-    const std::string oldType = TypeOfRow(database, entry.table, id);
+void UpdateEntry(Database& database, const CatalogueEntry& entry, const SqlValue& id, const SqlValue& when) {
+    const std::int64_t oldType = TypeOfRow(database, entry.table, id);
     std::string changes;
-    for (const auto& [column, literal] : entry.values) {
-        changes +=
-            (changes.empty() ? "" : ", ") + column + " = " + WrittenValue(database, entry, column, literal);
+    SqlValues values;
+    for (const auto& [column, value] : entry.values) {
+        changes += (changes.empty() ? "" : ", ") + column + " = ?";
+        values.push_back(WrittenValue(database, entry, column, value));
     }
-    if (!entry.folder.empty()) changes += ", MODIFIED_WHEN = " + when;
-    database.Execute("UPDATE " + table + " SET " + changes + " WHERE ID = " + id);
-    if (oldType != "0") DropUnusedType(database, oldType);
+    if (!entry.folder.empty()) {
+        changes += ", MODIFIED_WHEN = ?";
+        values.push_back(when);
+    }
+    values.push_back(id);
+    database.Execute("UPDATE " + std::string(entry.table) + " SET " + changes + " WHERE ID = ?", values);
+    DropUnusedType(database, oldType);
 }
 
-void DeleteEntry(Database& database, std::string_view table, const std::string& id) {
-    const std::string oldType = TypeOfRow(database, table, id);
-    database.Execute("DELETE FROM " + std::string(table) + " WHERE ID = " + id);
-    if (oldType != "0") DropUnusedType(database, oldType);
+void DeleteEntry(Database& database, std::string_view table, const SqlValue& id) {
+    const std::int64_t oldType = TypeOfRow(database, table, id);
+    database.Execute("DELETE FROM " + std::string(table) + " WHERE ID = ?", {id});
+    DropUnusedType(database, oldType);
 }
 
 }  // namespace tw

@@ -62,8 +62,8 @@ std::optional<Release> ReleaseOf(const std::string& folder) {
 // The release that came last; nothing when none is remembered, as after a first look that was broken off.
 std::optional<Release> LastRelease(Database& database) {
     if (!Deliveries::AreIn(database)) return std::nullopt;
-    const Recordset row = database.OpenRecordset("SELECT CONTENT FROM " + std::string(kDeliveryTable) +
-                                                 " WHERE SHEET = " + SqlText(kRelease));
+    const Recordset row = database.OpenRecordset(
+        "SELECT CONTENT FROM " + std::string(kDeliveryTable) + " WHERE SHEET = ?", {kRelease});
     if (row.AtEnd()) return std::nullopt;
     return Release::FromText(row.Fields(0).Text());
 }
@@ -76,7 +76,7 @@ class Update {
         : database_(database),
           deliveries_(database),
           former_(catalogue.former),
-          when_(now ? SqlText(DateText(*now)) : "NULL") {}
+          when_(now ? SqlValue(DateText(*now)) : SqlValue(Null())) {}
 
     void Take(const CatalogueEntry& entry) {
         const std::string content = ContentOf(entry);
@@ -98,7 +98,7 @@ class Update {
         const Recordset row = RowOf(table, name);
         if (row.AtEnd() || !StandsAs(database_, row, *delivered)) return;
         const std::string id = row.Fields("ID").Text();
-        if (table == kStyles && FirstId("SELECT ID FROM RECIPES WHERE STYLE_ID = " + id)) return;
+        if (table == kStyles && FirstId("SELECT ID FROM RECIPES WHERE STYLE_ID = ?", {id})) return;
         DeleteEntry(database_, table, id);
         deliveries_.Forget(table, name);
         changed_ = true;
@@ -109,10 +109,10 @@ class Update {
         for (const std::string& name : deliveries_.NamesOf(kDeliveredFolders)) {
             const std::optional<std::string> id =
                 folders.contains(name) ? std::nullopt : StandingFolder(name);
-            if (!id || FirstId("SELECT ID FROM STYLES WHERE FOLDER_ID = " + *id) ||
-                FirstId("SELECT ID FROM FOLDERS WHERE PARENT_ID = " + *id))
+            if (!id || FirstId("SELECT ID FROM STYLES WHERE FOLDER_ID = ?", {*id}) ||
+                FirstId("SELECT ID FROM FOLDERS WHERE PARENT_ID = ?", {*id}))
                 continue;
-            database_.Execute("DELETE FROM FOLDERS WHERE ID = " + *id);
+            database_.Execute("DELETE FROM FOLDERS WHERE ID = ?", {*id});
             deliveries_.Forget(kDeliveredFolders, name);
             changed_ = true;
         }
@@ -128,8 +128,7 @@ class Update {
 
   private:
     Recordset RowOf(std::string_view table, const std::string& name) {
-        return database_.OpenRecordset("SELECT * FROM " + std::string(table) +
-                                       " WHERE NAME = " + SqlText(name));
+        return database_.OpenRecordset("SELECT * FROM " + std::string(table) + " WHERE NAME = ?", {name});
     }
     // Gives a row that stands as delivered the new values. A style that also stands in the folder delivered
     // goes into the new one.
@@ -141,8 +140,8 @@ class Update {
         const std::optional<std::string> from =
             folder.empty() || folder == entry.folder ? std::nullopt : StandingFolder(folder);
         if (from && row.Fields("FOLDER_ID").Text() == *from) {
-            database_.Execute("UPDATE STYLES SET FOLDER_ID = " + FolderId(entry.folder) +
-                              ", MODIFIED_WHEN = " + when_ + " WHERE ID = " + id);
+            database_.Execute("UPDATE STYLES SET FOLDER_ID = ?, MODIFIED_WHEN = ? WHERE ID = ?",
+                              {FolderId(entry.folder), when_, id});
             changed_ = true;
         }
         if (ValuesOf(delivered) == ValuesOf(content)) return;
@@ -162,27 +161,28 @@ class Update {
     std::optional<std::string> StandingFolder(const std::string& name) {
         const std::string* id = deliveries_.Find(kDeliveredFolders, name);
         if (!id) return std::nullopt;
-        return FirstId("SELECT ID FROM FOLDERS WHERE STYLE AND PARENT_ID = 0 AND ID = " + *id +
-                       " AND NAME = " + SqlText(name));
+        return FirstId("SELECT ID FROM FOLDERS WHERE STYLE AND PARENT_ID = 0 AND ID = ? AND NAME = ?",
+                       {*id, name});
     }
-    std::optional<std::string> FirstId(const std::string& sql) {
-        const Recordset found = database_.OpenRecordset(sql);
+    std::optional<std::string> FirstId(std::string_view sql, const SqlValues& values) {
+        const Recordset found = database_.OpenRecordset(sql, values);
         if (found.AtEnd()) return std::nullopt;
         return found.Fields(0).Text();
     }
     std::optional<std::string> FoundFolder(const std::string& name) {
-        return FirstId("SELECT ID FROM FOLDERS WHERE STYLE AND PARENT_ID = 0 AND NAME = " + SqlText(name));
+        return FirstId("SELECT ID FROM FOLDERS WHERE STYLE AND PARENT_ID = 0 AND NAME = ?", {name});
     }
     // The folder delivered under that name; a new one is made for a name that never was, and one that its
     // brewer removed does not come back.
     std::string FolderId(const std::string& name) {
         if (const std::string* id = deliveries_.Find(kDeliveredFolders, name))
-            return FirstId("SELECT ID FROM FOLDERS WHERE STYLE AND ID = " + *id).value_or("0");
+            return FirstId("SELECT ID FROM FOLDERS WHERE STYLE AND ID = ?", {*id}).value_or("0");
         std::optional<std::string> id = FoundFolder(name);
         if (!id) {
             database_.Execute(
-                "INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE, CREATED_WHEN, MODIFIED_WHEN) VALUES (0, " +
-                SqlText(name) + ", TRUE, " + when_ + ", " + when_ + ")");
+                "INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE, CREATED_WHEN, MODIFIED_WHEN) "
+                "VALUES (0, ?, TRUE, ?, ?)",
+                {name, when_, when_});
             id = FoundFolder(name);
         }
         deliveries_.Remember(kDeliveredFolders, name, id.value_or("0"));
@@ -192,18 +192,18 @@ class Update {
     Database& database_;
     Deliveries deliveries_;
     const CatalogueSheet& former_;
-    std::string when_;
+    SqlValue when_;
     bool changed_ = false;
 };
 
 // The first databases came with this date on every style and style folder, which the explorer showed as a
 // day on which something had happened.
 void ForgetMadeUpDates(Database& database) {
-    const std::string madeUp = SqlText("01/01/2024 00:00:00");
+    const SqlValues madeUp = {"01/01/2024 00:00:00"};
     for (const std::string column : {"CREATED_WHEN", "MODIFIED_WHEN"}) {
-        database.Execute("UPDATE FOLDERS SET " + column + " = NULL WHERE STYLE AND " + column + " = " +
+        database.Execute("UPDATE FOLDERS SET " + column + " = NULL WHERE STYLE AND " + column + " = ?",
                          madeUp);
-        database.Execute("UPDATE STYLES SET " + column + " = NULL WHERE " + column + " = " + madeUp);
+        database.Execute("UPDATE STYLES SET " + column + " = NULL WHERE " + column + " = ?", madeUp);
     }
 }
 
@@ -250,7 +250,7 @@ void DeliverCatalogue(const std::string& folder, const CatalogueSheets& catalogu
     Deliveries::MakeTable(database);
     // The types come first, so that the lists show them in the order of their file.
     for (const CatalogueRow& row : catalogue.grainTypes.rows) {
-        GrainTypeId(database, SqlText(row.Text("name")), row.Text("kind") == "grain" ? "TRUE" : "FALSE");
+        GrainTypeId(database, row.Text("name"), row.Text("kind") == "grain");
     }
     Update update(database, catalogue, created);
     for (const CatalogueEntry& entry : EntriesOf(catalogue)) update.Take(entry);

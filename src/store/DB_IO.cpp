@@ -24,9 +24,10 @@ bool IsNoStyle(std::string_view key) {
     return key.starts_with("S:0:");
 }
 
-std::string ByName(std::string_view columns, std::string_view table, std::string_view name) {
-    return "SELECT " + std::string(columns) + " FROM " + std::string(table) +
-           " WHERE NAME = " + SqlText(Trim(name));
+Recordset ByName(Database& database, std::string_view columns, std::string_view table,
+                 std::string_view name) {
+    return database.OpenRecordset(
+        "SELECT " + std::string(columns) + " FROM " + std::string(table) + " WHERE NAME = ?", {Trim(name)});
 }
 
 // The id that a row refers to; nobody's for NULL.
@@ -34,8 +35,8 @@ std::int64_t LinkOf(const Field& field) {
     return field.IsNull() ? kNoId : field.Integer();
 }
 
-std::string NameQuery(std::int64_t id, std::string_view table) {
-    return "SELECT NAME FROM " + std::string(table) + " WHERE ID = " + std::to_string(id);
+Recordset NameOfRow(Database& database, std::int64_t id, std::string_view table) {
+    return database.OpenRecordset("SELECT NAME FROM " + std::string(table) + " WHERE ID = ?", {id});
 }
 
 }  // namespace
@@ -142,21 +143,21 @@ std::string DB_IO::CreateFolderObject(std::string_view parentKey, std::string_vi
 }
 
 std::int64_t DB_IO::IdByName(std::string_view name, std::string_view table) {
-    const Recordset rows = database_.OpenRecordset(ByName("ID", table, name));
+    const Recordset rows = ByName(database_, "ID", table, name);
     return rows.AtEnd() ? 0 : rows.Fields(0).Integer();
 }
 
 std::string DB_IO::NameById(std::int64_t id, std::string_view table) {
-    const Recordset rows = database_.OpenRecordset(NameQuery(id, table));
+    const Recordset rows = NameOfRow(database_, id, table);
     return rows.AtEnd() ? std::string() : rows.Fields(0).Text();
 }
 
 bool DB_IO::RecipeNameExists(std::string_view name) {
-    return Exists(ByName("*", "RECIPES", name));
+    return !ByName(database_, "*", "RECIPES", name).AtEnd();
 }
 
 bool DB_IO::StyleNameExists(std::string_view name) {
-    return Exists(ByName("*", "STYLES", name));
+    return !ByName(database_, "*", "STYLES", name).AtEnd();
 }
 
 bool DB_IO::RecipeFolderNameExists(std::int64_t parentId, std::string_view name) {
@@ -168,23 +169,22 @@ bool DB_IO::StyleFolderNameExists(std::int64_t parentId, std::string_view name) 
 }
 
 bool DB_IO::FolderNameExists(FolderKind kind, std::int64_t parentId, std::string_view name) {
-    return Exists("SELECT * FROM FOLDERS WHERE " + Condition(kind) +
-                  " AND PARENT_ID = " + std::to_string(parentId) + " AND NAME = " + SqlText(Trim(name)));
+    return !database_
+                .OpenRecordset(
+                    "SELECT * FROM FOLDERS WHERE " + Condition(kind) + " AND PARENT_ID = ? AND NAME = ?",
+                    {parentId, Trim(name)})
+                .AtEnd();
 }
 
-bool DB_IO::Exists(const std::string& sql) {
-    return !database_.OpenRecordset(sql).AtEnd();
-}
-
-std::vector<std::int64_t> DB_IO::Ids(const std::string& sql) {
+std::vector<std::int64_t> DB_IO::Ids(const std::string& sql, const SqlValues& values) {
     std::vector<std::int64_t> ids;
-    for (Recordset rows = database_.OpenRecordset(sql); !rows.AtEnd(); rows.MoveNext())
+    for (Recordset rows = database_.OpenRecordset(sql, values); !rows.AtEnd(); rows.MoveNext())
         ids.push_back(rows.Fields(0).Integer());
     return ids;
 }
 
 std::vector<std::int64_t> DB_IO::RecipesOfStyle(std::int64_t styleId) {
-    return Ids("SELECT ID FROM RECIPES WHERE STYLE_ID = " + std::to_string(styleId));
+    return Ids("SELECT ID FROM RECIPES WHERE STYLE_ID = ?", {styleId});
 }
 
 std::string DB_IO::FolderKey(FolderKind kind, std::int64_t id) {
@@ -194,7 +194,7 @@ std::string DB_IO::FolderKey(FolderKind kind, std::int64_t id) {
 std::optional<std::string> DB_IO::ObjectName(const std::string& key, std::string_view table,
                                              std::int64_t id) {
     if (auto name = tree_.NameOf(key)) return name;
-    const Recordset rows = database_.OpenRecordset(NameQuery(id, table));
+    const Recordset rows = NameOfRow(database_, id, table);
     if (rows.AtEnd()) return std::nullopt;
     return rows.Fields(0).Text();
 }
@@ -230,8 +230,8 @@ void DB_IO::AddRecipeNodesByName(std::string_view name) {
     };
     std::vector<Row> found;
     // The name is one recipe's, unless another program has written the file.
-    for (Recordset rows = database_.OpenRecordset(ByName("ID, FOLDER_ID, STYLE_ID, NAME", "RECIPES", name));
-         !rows.AtEnd(); rows.MoveNext())
+    for (Recordset rows = ByName(database_, "ID, FOLDER_ID, STYLE_ID, NAME", "RECIPES", name); !rows.AtEnd();
+         rows.MoveNext())
         found.push_back({rows.Fields(0).Integer(), LinkOf(rows.Fields(1)), LinkOf(rows.Fields(2)),
                          rows.Fields(3).Text()});
     for (const Row& row : found)
@@ -247,7 +247,7 @@ void DB_IO::AddStyleNodes(std::int64_t id, std::string_view name, std::int64_t f
 }
 
 void DB_IO::AddStyleNodesByName(std::string_view name) {
-    Recordset rows = database_.OpenRecordset(ByName("ID, FOLDER_ID", "STYLES", name));
+    Recordset rows = ByName(database_, "ID, FOLDER_ID", "STYLES", name);
     if (rows.AtEnd()) return;
     const std::int64_t id = rows.Fields(0).Integer();
     const std::int64_t folderId = LinkOf(rows.Fields(1));
@@ -276,8 +276,8 @@ void DB_IO::TouchStyleFolder(std::int64_t folderId) {
 }
 
 void DB_IO::Touch(FolderKind kind, std::int64_t id) {
-    database_.Execute("UPDATE FOLDERS SET MODIFIED_WHEN = '" + DateText(clock_.Now()) + "' WHERE " +
-                      Condition(kind) + " AND ID = " + std::to_string(id));
+    database_.Execute("UPDATE FOLDERS SET MODIFIED_WHEN = ? WHERE " + Condition(kind) + " AND ID = ?",
+                      {DateText(clock_.Now()), id});
 }
 
 void DB_IO::TouchFolderOf(FolderKind kind, const std::string& key) {

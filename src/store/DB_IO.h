@@ -154,8 +154,8 @@ class DB_IO {
     // Refuses in the form of an error: there is no such object.
     bool RefuseMissing(std::string_view title, std::string_view object, bool silent);
 
-    bool Exists(const std::string& sql);
-    std::vector<std::int64_t> Ids(const std::string& sql);
+    // The first column of all rows.
+    std::vector<std::int64_t> Ids(const std::string& sql, const SqlValues& values);
     std::vector<std::int64_t> RecipesOfStyle(std::int64_t styleId);
     // The name in the tree, else in the table; nothing when neither holds the object.
     std::optional<std::string> ObjectName(const std::string& key, std::string_view table, std::int64_t id);

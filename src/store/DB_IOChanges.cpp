@@ -29,8 +29,8 @@ bool DB_IO::MoveFolder(FolderKind kind, std::int64_t id, std::int64_t destId, bo
             return Refuse("Could not move " + word,
                           "The destination folder already contains a folder with that name", silent);
         UnitOfWork unit(database_);
-        database_.Execute("UPDATE FOLDERS SET PARENT_ID = " + std::to_string(destId) + " WHERE " +
-                          Condition(kind) + " AND ID = " + std::to_string(id));
+        database_.Execute("UPDATE FOLDERS SET PARENT_ID = ? WHERE " + Condition(kind) + " AND ID = ?",
+                          {destId, id});
         TouchFolderOf(kind, key);
         Touch(kind, destId);
         unit.Commit();
@@ -50,8 +50,7 @@ bool DB_IO::MoveRecipeToFolder(std::int64_t recipeId, std::int64_t folderId, boo
         const std::string folderKey = FolderKey(FolderKind::Recipes, folderId);
         if (tree_.ParentOf(key) == folderKey) return false;
         UnitOfWork unit(database_);
-        database_.Execute("UPDATE RECIPES SET FOLDER_ID = " + std::to_string(folderId) +
-                          " WHERE ID = " + std::to_string(recipeId));
+        database_.Execute("UPDATE RECIPES SET FOLDER_ID = ? WHERE ID = ?", {folderId, recipeId});
         TouchFolderOf(FolderKind::Recipes, key);
         TouchRecipeFolder(folderId);
         unit.Commit();
@@ -73,8 +72,7 @@ bool DB_IO::MoveRecipeToStyle(std::int64_t recipeId, std::int64_t styleId, bool 
 }
 
 void DB_IO::ChangeStyle(std::int64_t recipeId, const std::string& name, std::int64_t styleId) {
-    database_.Execute("UPDATE RECIPES SET STYLE_ID = " + std::to_string(styleId) +
-                      " WHERE ID = " + std::to_string(recipeId));
+    database_.Execute("UPDATE RECIPES SET STYLE_ID = ? WHERE ID = ?", {styleId, recipeId});
     for (int copy = 0; copy < kStyleCopies; ++copy)
         tree_.Place(RecipeKey(recipeId, copy + 1), StyleKey(styleId, copy), name);
     listener_.NotifyRecipeNewStyle(name, styleId);
@@ -91,8 +89,7 @@ bool DB_IO::MoveStyleToFolder(std::int64_t styleId, std::int64_t folderId, bool 
         const bool wasNowhere = !tree_.NameOf(key);
         if (tree_.ParentOf(key) == folderKey) return false;
         UnitOfWork unit(database_);
-        database_.Execute("UPDATE STYLES SET FOLDER_ID = " + std::to_string(folderId) +
-                          " WHERE ID = " + std::to_string(styleId));
+        database_.Execute("UPDATE STYLES SET FOLDER_ID = ? WHERE ID = ?", {folderId, styleId});
         TouchFolderOf(FolderKind::Styles, key);
         TouchStyleFolder(folderId);
         unit.Commit();
@@ -143,8 +140,8 @@ bool DB_IO::RenameFolder(FolderKind kind, std::int64_t id, std::string_view newN
         const auto nameExists = [&] { return FolderNameExists(kind, IdOfKey(tree_.ParentOf(key)), newName); };
         if (!CheckNewName(word, tree_.NameOf(key).value_or(""), newName, nameExists, silent)) return false;
         UnitOfWork unit(database_);
-        database_.Execute("UPDATE FOLDERS SET NAME = " + SqlText(Trim(newName)) + " WHERE " +
-                          Condition(kind) + " AND ID = " + std::to_string(id));
+        database_.Execute("UPDATE FOLDERS SET NAME = ? WHERE " + Condition(kind) + " AND ID = ?",
+                          {Trim(newName), id});
         TouchFolderOf(kind, key);
         unit.Commit();
         tree_.Rename(key, std::string(newName));
@@ -160,8 +157,7 @@ bool DB_IO::RenameRecipe(std::int64_t id, std::string_view newName, bool silent)
         const auto nameExists = [&] { return RecipeNameExists(newName); };
         if (!CheckNewName("recipe", *oldName, newName, nameExists, silent)) return false;
         UnitOfWork unit(database_);
-        database_.Execute("UPDATE RECIPES SET NAME = " + SqlText(Trim(newName)) +
-                          " WHERE ID = " + std::to_string(id));
+        database_.Execute("UPDATE RECIPES SET NAME = ? WHERE ID = ?", {Trim(newName), id});
         TouchFolderOf(FolderKind::Recipes, RecipeKey(id, kCopyInFolder));
         unit.Commit();
         const std::string text(newName);
@@ -179,8 +175,7 @@ bool DB_IO::RenameStyle(std::int64_t id, std::string_view newName, bool silent) 
         const auto nameExists = [&] { return StyleNameExists(newName); };
         if (!CheckNewName("style", *oldName, newName, nameExists, silent)) return false;
         UnitOfWork unit(database_);
-        database_.Execute("UPDATE STYLES SET NAME = " + SqlText(Trim(newName)) +
-                          " WHERE ID = " + std::to_string(id));
+        database_.Execute("UPDATE STYLES SET NAME = ? WHERE ID = ?", {Trim(newName), id});
         TouchFolderOf(FolderKind::Styles, StyleKey(id, kStyleInFolder));
         unit.Commit();
         RenameStyleNodes(id, newName);
@@ -214,14 +209,14 @@ std::int64_t DB_IO::CreateFolder(FolderKind kind, std::int64_t parentId, std::st
 }
 
 std::int64_t DB_IO::InsertFolder(FolderKind kind, std::int64_t parentId, const std::string& name) {
-    const std::string parent = std::to_string(parentId);
-    const std::string now = SqlText(DateText(clock_.Now()));
+    const std::string now = DateText(clock_.Now());
     UnitOfWork unit(database_);
-    database_.Execute("INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE, CREATED_WHEN, MODIFIED_WHEN) VALUES (" +
-                      parent + ", " + SqlText(name) +
-                      (kind == FolderKind::Styles ? ", TRUE, " : ", FALSE, ") + now + ", " + now + ")");
-    const std::vector<std::int64_t> ids = Ids("SELECT ID FROM FOLDERS WHERE " + Condition(kind) +
-                                              " AND PARENT_ID = " + parent + " AND NAME = " + SqlText(name));
+    database_.Execute(
+        "INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE, CREATED_WHEN, MODIFIED_WHEN) VALUES (?, ?, ?, ?, ?)",
+        {parentId, name, kind == FolderKind::Styles, now, now});
+    const std::vector<std::int64_t> ids =
+        Ids("SELECT ID FROM FOLDERS WHERE " + Condition(kind) + " AND PARENT_ID = ? AND NAME = ?",
+            {parentId, name});
     unit.Commit();
     if (ids.empty()) throw Error("DB_IO", "The new folder cannot be found.", kMissingNumber);
     return ids.front();

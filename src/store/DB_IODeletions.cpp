@@ -42,9 +42,7 @@ void DB_IO::DeleteFolder(FolderKind kind, std::int64_t id) {
     std::unordered_set<std::int64_t> seen = {id, 0, kAllObjects};
     const auto open = [&](std::int64_t folder) -> Level {
         return {folder,
-                Ids("SELECT ID FROM FOLDERS WHERE " + Condition(kind) +
-                    " AND PARENT_ID = " + std::to_string(folder)),
-                0};
+                Ids("SELECT ID FROM FOLDERS WHERE " + Condition(kind) + " AND PARENT_ID = ?", {folder}), 0};
     };
     std::vector<Level> levels = {open(id)};
     while (!levels.empty()) {
@@ -59,16 +57,16 @@ void DB_IO::DeleteFolder(FolderKind kind, std::int64_t id) {
 }
 
 void DB_IO::DeleteEmptied(FolderKind kind, std::int64_t id) {
-    const std::string idText = std::to_string(id);
     const bool forStyles = kind == FolderKind::Styles;
-    for (const std::int64_t object : Ids(std::string("SELECT ID FROM ") + (forStyles ? "STYLES" : "RECIPES") +
-                                         " WHERE FOLDER_ID = " + idText)) {
+    for (const std::int64_t object : Ids(forStyles ? "SELECT ID FROM STYLES WHERE FOLDER_ID = ?"
+                                                   : "SELECT ID FROM RECIPES WHERE FOLDER_ID = ?",
+                                         {id})) {
         if (forStyles)
             DeleteStyle(object);
         else
             DeleteRecipe(object, RecipeName(object).value_or(""));
     }
-    database_.Execute("DELETE FROM FOLDERS WHERE " + Condition(kind) + " AND ID = " + idText);
+    database_.Execute("DELETE FROM FOLDERS WHERE " + Condition(kind) + " AND ID = ?", {id});
     tree_.Remove(FolderKey(kind, id));
     if (!forStyles) listener_.NotifyRecipeFolderDeleted(id);
 }
@@ -85,12 +83,9 @@ void DB_IO::DeleteRecipeByName(std::string_view name) {
 }
 
 void DB_IO::DeleteRecipe(std::int64_t id, const std::string& name) {
-    const std::string idText = std::to_string(id);
-    database_.Execute("DELETE FROM RECIPES WHERE ID = " + idText);
-    database_.Execute("DELETE FROM RECIPE_GRAINS WHERE RECIPE_ID = " + idText);
-    database_.Execute("DELETE FROM RECIPE_HOPS WHERE RECIPE_ID = " + idText);
-    database_.Execute("DELETE FROM RECIPE_ADJUNCTS WHERE RECIPE_ID = " + idText);
-    database_.Execute("DELETE FROM RECIPE_LOG WHERE RECIPE_ID = " + idText);
+    database_.Execute("DELETE FROM RECIPES WHERE ID = ?", {id});
+    for (const char* lines : {"RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_ADJUNCTS", "RECIPE_LOG"})
+        database_.Execute("DELETE FROM " + std::string(lines) + " WHERE RECIPE_ID = ?", {id});
     for (int copy = 0; copy < kRecipeCopies; ++copy) tree_.Remove(RecipeKey(id, copy));
     listener_.NotifyRecipeDeleted(name);
 }
@@ -102,7 +97,7 @@ void DB_IO::DeleteStyleById(std::int64_t id) {
 void DB_IO::DeleteStyle(std::int64_t id) {
     for (const std::int64_t recipe : RecipesOfStyle(id))
         ChangeStyle(recipe, RecipeName(recipe).value_or(""), 0);
-    database_.Execute("DELETE FROM STYLES WHERE ID = " + std::to_string(id));
+    database_.Execute("DELETE FROM STYLES WHERE ID = ?", {id});
     for (int copy = 0; copy < kStyleCopies; ++copy) tree_.Remove(StyleKey(id, copy));
     listener_.NotifyStyleDeleted(id);
 }

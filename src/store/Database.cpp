@@ -1,5 +1,6 @@
 #include "store/Database.h"
 
+#include <cmath>
 #include <sqlite3.h>
 #include <utility>
 
@@ -8,7 +9,6 @@
 #include "store/Schema.h"
 #include "store/SqlDialect.h"
 #include "store/SqliteHandle.h"
-#include "values/Text.h"
 
 namespace tw {
 namespace {
@@ -16,6 +16,46 @@ namespace {
 struct StatementFinalizer {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 };
+using StatementOwner = std::unique_ptr<sqlite3_stmt, StatementFinalizer>;
+
+// Gives one parameter of a statement its value. The result is SQLite's.
+struct Binder {
+    sqlite3_stmt* statement;
+    int parameter;
+    bool copyTexts;  // else they outlive the statement
+
+    int operator()(Null) const { return sqlite3_bind_null(statement, parameter); }
+    int operator()(bool value) const { return sqlite3_bind_int(statement, parameter, value ? 1 : 0); }
+    int operator()(std::int64_t value) const { return sqlite3_bind_int64(statement, parameter, value); }
+    int operator()(double value) const {
+        // From here on SQLite takes the digits of a whole number as a double too.
+        constexpr double kLongest = 1e18;
+        if (std::trunc(value) == value && std::abs(value) < kLongest)
+            return (*this)(static_cast<std::int64_t>(value));
+        return sqlite3_bind_double(statement, parameter, value);
+    }
+    int operator()(const std::string& value) const {
+        return sqlite3_bind_text64(statement, parameter, value.data(), value.size(),
+                                   copyTexts ? SQLITE_TRANSIENT : SQLITE_STATIC, SQLITE_UTF8);
+    }
+};
+
+// Gives all parameters their values: the numbers of the SQL text, and the values of the caller. False when
+// SQLite refuses one.
+bool BindAll(sqlite3_stmt* statement, const DialectStatement& translated, const SqlValues& values,
+             bool copyTexts) {
+    auto number = translated.numbers.begin();
+    auto value = values.begin();
+    const int count = static_cast<int>(translated.numbers.size() + values.size());
+    for (int parameter = 1; parameter <= count; ++parameter) {
+        const bool isValue = value != values.end() &&
+                             translated.values[static_cast<std::size_t>(value - values.begin())] == parameter;
+        const int result = isValue ? std::visit(Binder{statement, parameter, copyTexts}, (value++)->Get())
+                                   : sqlite3_bind_double(statement, parameter, *number++);
+        if (result != SQLITE_OK) return false;
+    }
+    return true;
+}
 
 // Runs the actions, which raise nothing, when the scope of the result ends. The list is empty at once, since
 // an action may begin a unit of its own.
@@ -99,29 +139,29 @@ std::unique_ptr<Database> Database::CreateInMemory() {
     return database;
 }
 
-sqlite3_stmt* Database::Prepare(std::string_view sql, bool select) {
-    if (hook_) hook_(sql);
+sqlite3_stmt* Database::Prepare(std::string_view sql, const SqlValues& values, bool select) {
+    if (hook_) hook_(WithLiterals(sql, values));
     // The disk itself may undo a unit of work in its middle. What would run now would stand alone.
     if (unitDepth_ > 0 && sqlite3_get_autocommit(handle_) != 0) RaiseUndone();
-    const DialectStatement translated = TranslateSql(sql);
+    const DialectStatement translated = TranslateSql(sql, values.size());
     if ((translated.kind == StatementKind::Select) != select)
         throw Error(kDatabaseSource,
                     select ? "A recordset is opened on a SELECT." : "A SELECT is not executed.",
                     SQLITE_ERROR);
-    sqlite3_stmt* statement = nullptr;
+    sqlite3_stmt* compiled = nullptr;
     // With the closing NUL counted, SQLite reads the text in place.
     if (sqlite3_prepare_v3(handle_, translated.sql.c_str(), static_cast<int>(translated.sql.size() + 1), 0,
-                           &statement, nullptr) != SQLITE_OK)
+                           &compiled, nullptr) != SQLITE_OK)
         RaiseStoreError(handle_, kDatabaseSource);
-    int parameter = 0;
-    for (const double number : translated.numbers) sqlite3_bind_double(statement, ++parameter, number);
-    return statement;
+    StatementOwner statement(compiled);
+    if (!BindAll(compiled, translated, values, select)) RaiseStoreError(handle_, kDatabaseSource);
+    return statement.release();
 }
 
-void Database::Execute(std::string_view sql) {
+void Database::Execute(std::string_view sql, const SqlValues& values) {
     recordsAffected_ = 0;
     CheckWritable();
-    const std::unique_ptr<sqlite3_stmt, StatementFinalizer> statement(Prepare(sql, false));
+    const StatementOwner statement(Prepare(sql, values, false));
     int result = SQLITE_ROW;
     while (result == SQLITE_ROW) result = sqlite3_step(statement.get());
     if (result != SQLITE_DONE) {
@@ -177,27 +217,6 @@ UnitOfWork::~UnitOfWork() {
     } catch (const Error&) {
         // An exception is on its way already, or the caller did not ask: the old state stands.
     }
-}
-
-std::string DoubleQuotes(std::string_view text) {
-    return ReplaceAll(text, "'", "''");
-}
-
-std::string SqlText(std::string_view text) {
-    std::string quoted;
-    AppendSqlText(quoted, text);
-    return quoted;
-}
-
-void AppendSqlText(std::string& out, std::string_view text) {
-    out.push_back('\'');
-    for (;;) {
-        const std::size_t quote = text.find('\'');
-        if (quote == std::string_view::npos) break;
-        out.append(text.substr(0, quote + 1)).push_back('\'');
-        text.remove_prefix(quote + 1);
-    }
-    out.append(text).push_back('\'');
 }
 
 }  // namespace tw

@@ -15,6 +15,7 @@
 
 #include "platform/DateTime.h"
 #include "platform/Error.h"
+#include "store/SqlValue.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -44,10 +45,6 @@ enum class FieldType : int {
 // The type that the declaration of a column names, such as "TEXT(50)", without regard to case; Binary for an
 // unknown one.
 FieldType FieldTypeOf(std::string_view declared);
-
-struct Null {
-    bool operator==(const Null&) const = default;
-};
 
 // What a field of a row holds: nothing, a boolean, a number, or text. A date is the text of DateText.
 using Value = std::variant<Null, bool, double, std::string>;
@@ -144,12 +141,13 @@ class Database {
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
-    // Runs one INSERT, UPDATE or DELETE. Raises an error that carries the store's description.
-    void Execute(std::string_view sql);
+    // Runs one INSERT, UPDATE or DELETE. The values stand for the "?" of the statement in their order, as
+    // many as there are. Raises an error that carries the store's description.
+    void Execute(std::string_view sql, const SqlValues& values = {});
     // Rows changed by the last Execute.
     int RecordsAffected() const { return recordsAffected_; }
-    // Runs one SELECT; the recordset stands on its first row or at EOF.
-    Recordset OpenRecordset(std::string_view sql);
+    // Runs one SELECT in the same way; the recordset stands on its first row or at EOF.
+    Recordset OpenRecordset(std::string_view sql, const SqlValues& values = {});
     // A number that grows with every row that this connection writes: equal to an earlier one as long as
     // nothing was written since.
     std::int64_t ChangeCount() const;
@@ -167,8 +165,8 @@ class Database {
     void MarkProgress();
     void SetWatch(std::function<bool()> watch);
 
-    // Called with the text of each statement before it runs. Tests count statements with it, end the process
-    // or raise an error in the middle of an operation.
+    // Called with the text of each statement, its values written into it, before it runs. Tests count
+    // statements with it, end the process or raise an error in the middle of an operation.
     using StatementHook = std::function<void(std::string_view sql)>;
     void SetStatementHook(StatementHook hook) { hook_ = std::move(hook); }
 
@@ -185,8 +183,9 @@ class Database {
     void CheckWritable() const;
     // Raises what has undone the present unit.
     [[noreturn]] void RaiseUndone() const;
-    // Calls the hook, translates and compiles. REQUIRES: select tells a SELECT from the other statements.
-    sqlite3_stmt* Prepare(std::string_view sql, bool select);
+    // Calls the hook, translates, compiles and gives the statement its values. REQUIRES: select tells a
+    // SELECT from the other statements; what is no SELECT is run while the values are there.
+    sqlite3_stmt* Prepare(std::string_view sql, const SqlValues& values, bool select);
 
     sqlite3* handle_;
     std::string path_;
@@ -221,12 +220,5 @@ class UnitOfWork {
     Database& database_;
     bool open_ = true;
 };
-
-// text with every "'" doubled, for a literal between single quotes.
-std::string DoubleQuotes(std::string_view text);
-// "'" + DoubleQuotes(text) + "'".
-std::string SqlText(std::string_view text);
-// Writes SqlText(text) to the end of out.
-void AppendSqlText(std::string& out, std::string_view text);
 
 }  // namespace tw

@@ -37,7 +37,7 @@ std::string EnsureDatabaseId(Database& database) {
     id = NewId();
     UnitOfWork unit(database);
     database.ExecuteNative("CREATE TABLE IF NOT EXISTS DATABASE_ID (ID TEXT)");
-    database.Execute("INSERT INTO DATABASE_ID (ID) VALUES (" + SqlText(id) + ")");
+    database.Execute("INSERT INTO DATABASE_ID (ID) VALUES (?)", {id});
     unit.Commit();
     return id;
 }

@@ -46,8 +46,7 @@ std::string ColumnSql(std::string_view table, const Recordset& column, bool coun
 
 std::string TableSql(Database& main, const std::string& table, bool counter) {
     std::string columns;
-    for (Recordset column =
-             main.OpenRecordset("SELECT * FROM pragma_table_info(" + SqlText(table) + ") ORDER BY cid");
+    for (Recordset column = main.OpenRecordset("SELECT * FROM pragma_table_info(?) ORDER BY cid", {table});
          !column.AtEnd(); column.MoveNext()) {
         if (!columns.empty()) columns += ", ";
         columns += ColumnSql(table, column, counter);
@@ -58,8 +57,8 @@ std::string TableSql(Database& main, const std::string& table, bool counter) {
 // The columns of an index, empty when one of them is no column but an expression.
 std::string IndexedColumns(Database& main, const std::string& table, const std::string& index) {
     std::string columns;
-    for (Recordset column = main.OpenRecordset("SELECT name, [desc] FROM pragma_index_xinfo(" +
-                                               SqlText(index) + ") WHERE [key] = 1 ORDER BY seqno");
+    for (Recordset column = main.OpenRecordset(
+             "SELECT name, [desc] FROM pragma_index_xinfo(?) WHERE [key] = 1 ORDER BY seqno", {index});
          !column.AtEnd(); column.MoveNext()) {
         const std::string name = column.Fields("name").Text();
         if (name.empty()) return {};
@@ -74,8 +73,9 @@ std::string IndexedColumns(Database& main, const std::string& table, const std::
 std::string IndexesSql(Database& main, const std::string& table) {
     std::string sql;
     for (Recordset index =
-             main.OpenRecordset("SELECT name, [unique] FROM pragma_index_list(" + SqlText(table) +
-                                ") WHERE origin = 'c' AND NOT partial ORDER BY seq DESC");
+             main.OpenRecordset("SELECT name, [unique] FROM pragma_index_list(?) WHERE origin = 'c' "
+                                "AND NOT partial ORDER BY seq DESC",
+                                {table});
          !index.AtEnd(); index.MoveNext()) {
         const std::string name = index.Fields("name").Text();
         const std::string columns = IndexedColumns(main, table, name);

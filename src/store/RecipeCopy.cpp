@@ -30,30 +30,28 @@ std::string ColumnName(const std::string& name) {
     return "[" + name + "]";
 }
 
-// Writes the field as a literal. False, and nothing, for a type that cannot be written.
-bool AppendLiteral(std::string& out, const Field& field) {
-    if (field.IsNull()) {
-        out += "NULL";
-        return true;
-    }
+// The number that the field holds. A text stays one: any column of a file may hold it.
+SqlValue NumberOf(const Field& field) {
+    if (std::holds_alternative<std::string>(field.Value())) return field.Text();
+    // A 64-bit whole number has digits that a double cannot hold.
+    if (const auto whole = field.WholeNumber()) return *whole;
+    return field.Number();
+}
+
+// The value of the field for a statement; nothing for a type that cannot be written.
+std::optional<SqlValue> CopyOf(const Field& field) {
+    if (field.IsNull()) return Null();
     switch (field.Type()) {
         case FieldType::Binary:
-            return false;
+            return std::nullopt;
         case FieldType::Boolean:
-            out += field.Boolean() ? "TRUE" : "FALSE";
-            return true;
+            return field.Boolean();
         case FieldType::Text:
         case FieldType::Memo:
         case FieldType::Date:
-            AppendSqlText(out, field.Text());
-            return true;
+            return field.Text();
         default:
-            // Any column of a file may hold a text; bare it would be read as SQL.
-            if (std::holds_alternative<std::string>(field.Value()))
-                AppendSqlText(out, field.Text());
-            else
-                out += field.Text();
-            return true;
+            return NumberOf(field);
     }
 }
 
@@ -71,48 +69,33 @@ bool IsNumeric(FieldType type) {
 }
 
 // An INSERT as it grows. A column without a value makes a statement that the store refuses.
-class InsertText {
+class RowInsert {
   public:
-    explicit InsertText(const std::string& table) : columns_("INSERT INTO " + table + " (") {
-        constexpr std::size_t kUsualSize = 2048;
-        columns_.reserve(kUsualSize);
-        values_.reserve(kUsualSize);
-    }
-    void Add(std::string_view column, std::string_view literal) {
-        AddColumn(column);
-        StartValue();
-        values_ += literal;
-    }
-    // False when the field's type cannot be written: its column stands without a value then.
-    bool Add(std::string_view column, const Field& field) {
-        AddColumn(column);
-        const std::size_t end = values_.size();
-        StartValue();
-        if (AppendLiteral(values_, field)) return true;
-        values_.resize(end);
-        return false;
-    }
-    std::string Text() const { return columns_ + ") " + values_ + ")"; }
+    explicit RowInsert(const std::string& table) : columns_("INSERT INTO " + table + " (") {}
 
-  private:
-    static constexpr std::string_view kValues = "VALUES (";
-
+    void Add(std::string_view column, SqlValue value) {
+        AddColumn(column);
+        places_ += values_.empty() ? "?" : ", ?";
+        values_.push_back(std::move(value));
+    }
     void AddColumn(std::string_view name) {
         if (hasColumn_) columns_ += ", ";
         hasColumn_ = true;
         columns_ += name;
     }
-    void StartValue() {
-        if (values_.size() > kValues.size()) values_ += ", ";
-    }
+    void Run(Database& database) const { database.Execute(columns_ + ") VALUES (" + places_ + ")", values_); }
 
+  private:
     std::string columns_;
-    std::string values_{kValues};
+    std::string places_;
+    SqlValues values_;
     bool hasColumn_ = false;
 };
 
-void AddField(InsertText& insert, const std::string& table, const Field& field, CopyHost& host) {
-    if (insert.Add(ColumnName(field.Name()), field)) return;
+void AddField(RowInsert& insert, const std::string& table, const Field& field, CopyHost& host) {
+    const std::string column = ColumnName(field.Name());
+    if (auto value = CopyOf(field)) return insert.Add(column, std::move(*value));
+    insert.AddColumn(column);
     host.DebugText("column " + field.Name() + " of table " + table + " is of type " +
                    std::to_string(static_cast<int>(field.Type())) + " (?)");
 }
@@ -230,12 +213,11 @@ RecipeCopier::Step RecipeCopier::CopyRows(std::int64_t sourceId, std::optional<s
     std::optional<Replacement> replacement;
     if (oldId) {
         replacement.emplace(Dest());
-        Dest().Execute("DELETE FROM RECIPES WHERE ID = " + std::to_string(*oldId));
+        Dest().Execute("DELETE FROM RECIPES WHERE ID = ?", {*oldId});
     }
     {
-        const Recordset source =
-            Source().OpenRecordset("SELECT * FROM RECIPES WHERE ID = " + std::to_string(sourceId));
-        Dest().Execute(RecipeInsert(source, newName));
+        const Recordset source = Source().OpenRecordset("SELECT * FROM RECIPES WHERE ID = ?", {sourceId});
+        InsertRecipe(source, newName);
     }
     const std::optional<std::int64_t> newId = NewestInDest(newName);
     if (!newId) return host_.ContinueAfter("Unknown error inserting recipe !") ? Step::Next : Step::Stop;
@@ -266,63 +248,63 @@ bool RecipeCopier::ResolveName(std::string& newName) {
 
 std::optional<std::int64_t> RecipeCopier::NewestInDest(const std::string& name) {
     std::optional<std::int64_t> id;
-    for (Recordset rows = Dest().OpenRecordset("SELECT ID FROM RECIPES WHERE NAME = " + SqlText(name));
+    for (Recordset rows = Dest().OpenRecordset("SELECT ID FROM RECIPES WHERE NAME = ?", {name});
          !rows.AtEnd(); rows.MoveNext())
         if (!rows.Fields(0).IsNull())
             id = std::max(id.value_or(std::numeric_limits<std::int64_t>::min()), rows.Fields(0).Integer());
     return id;
 }
 
-std::string RecipeCopier::RecipeInsert(const Recordset& source, const std::string& newName) {
-    InsertText insert("RECIPES");
+void RecipeCopier::InsertRecipe(const Recordset& source, const std::string& newName) {
+    RowInsert insert("RECIPES");
     for (int i = 0; i < source.FieldCount(); ++i) {
         const Field field = source.Fields(i);
         if (Is(field.Name(), "ID")) continue;
         if (isImport_ && Is(field.Name(), "STYLE_NAME"))
             insert.Add("STYLE_ID", StyleIdOf(field.Text(), newName));
         else if (!isImport_ && Is(field.Name(), "STYLE_ID"))
-            insert.Add("STYLE_NAME", SqlText(objects_.StyleNameById(field.Integer())));
+            insert.Add("STYLE_NAME", objects_.StyleNameById(field.Integer()));
         else if (isImport_ && Is(field.Name(), "FOLDER_ID"))
-            insert.Add(field.Name(), std::to_string(destFolderId_));
+            insert.Add(field.Name(), destFolderId_);
         else if (Is(field.Name(), "NAME"))
-            insert.Add(field.Name(), SqlText(newName));
+            insert.Add(field.Name(), newName);
         else
             AddField(insert, "RECIPES", field, host_);
     }
-    return insert.Text();
+    insert.Run(Dest());
 }
 
-std::string RecipeCopier::StyleIdOf(const std::string& style, const std::string& recipe) {
-    if (style.empty()) return "0";
+std::int64_t RecipeCopier::StyleIdOf(const std::string& style, const std::string& recipe) {
+    if (style.empty()) return 0;
     const std::int64_t id = objects_.StyleIdByName(style);
-    if (id >= 1) return std::to_string(id);
+    if (id >= 1) return id;
     const auto known = std::ranges::find(*stylesNotImported_, recipe, &StyleNotImported::recipe);
     if (known == stylesNotImported_->end())
         stylesNotImported_->push_back({recipe, style});
     else
         known->style = style;
-    return "0";
+    return 0;
 }
 
 void RecipeCopier::CopyLines(const std::string& table, std::optional<std::int64_t> oldId,
                              std::int64_t sourceId, std::int64_t newId) {
-    if (oldId) Dest().Execute("DELETE FROM " + table + " WHERE RECIPE_ID = " + std::to_string(*oldId));
-    for (Recordset rows = Source().OpenRecordset("SELECT * FROM " + table + " WHERE RECIPE_ID = " +
-                                                 std::to_string(sourceId) + " ORDER BY ROW_ID");
+    if (oldId) Dest().Execute("DELETE FROM " + table + " WHERE RECIPE_ID = ?", {*oldId});
+    for (Recordset rows = Source().OpenRecordset(
+             "SELECT * FROM " + table + " WHERE RECIPE_ID = ? ORDER BY ROW_ID", {sourceId});
          !rows.AtEnd(); rows.MoveNext())
-        Dest().Execute(LineInsert(table, rows, newId));
+        InsertLine(table, rows, newId);
 }
 
-std::string RecipeCopier::LineInsert(const std::string& table, const Recordset& source, std::int64_t newId) {
-    InsertText insert(table);
+void RecipeCopier::InsertLine(const std::string& table, const Recordset& source, std::int64_t newId) {
+    RowInsert insert(table);
     for (int i = 0; i < source.FieldCount(); ++i) {
         const Field field = source.Fields(i);
         if (Is(field.Name(), "RECIPE_ID") && IsNumeric(field.Type()))
-            insert.Add(field.Name(), std::to_string(newId));
+            insert.Add(field.Name(), newId);
         else
             AddField(insert, table, field, host_);
     }
-    return insert.Text();
+    insert.Run(Dest());
 }
 
 }  // namespace tw

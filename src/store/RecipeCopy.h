@@ -87,10 +87,10 @@ class RecipeCopier {
     Step CopyRows(std::int64_t sourceId, std::optional<std::int64_t> oldId, const std::string& newName);
     // The newest row of just that name in the destination; nothing when there is none.
     std::optional<std::int64_t> NewestInDest(const std::string& name);
-    std::string RecipeInsert(const Recordset& source, const std::string& newName);
-    std::string LineInsert(const std::string& table, const Recordset& source, std::int64_t newId);
+    void InsertRecipe(const Recordset& source, const std::string& newName);
+    void InsertLine(const std::string& table, const Recordset& source, std::int64_t newId);
     // STYLE_ID for a name that the main database knows; 0, and an entry, for any other.
-    std::string StyleIdOf(const std::string& style, const std::string& recipe);
+    std::int64_t StyleIdOf(const std::string& style, const std::string& recipe);
     void CopyLines(const std::string& table, std::optional<std::int64_t> oldId, std::int64_t sourceId,
                    std::int64_t newId);
 

@@ -75,11 +75,11 @@ void ReadOwnRow(const Recordset& rows, StoredRecipe& recipe) {
 void ReadLines(Database& database, const GridRule& grid, StoredRecipe& recipe) {
     if (grid.lines.name.empty()) return;
     std::string sql = "SELECT * FROM ";
-    sql.append(grid.lines.name).append(" WHERE RECIPE_ID = ").append(std::to_string(recipe.id));
+    sql.append(grid.lines.name).append(" WHERE RECIPE_ID = ?");
     if (!grid.lines.flagColumn.empty())
         sql.append(grid.lines.flag ? " AND " : " AND NOT ").append(grid.lines.flagColumn);
     sql.append(" ORDER BY ROW_ID DESC");
-    for (Recordset rows = database.OpenRecordset(sql); !rows.AtEnd(); rows.MoveNext()) {
+    for (Recordset rows = database.OpenRecordset(sql, {recipe.id}); !rows.AtEnd(); rows.MoveNext()) {
         StoredLine line = EmptyLine(grid.id, ReadRow(rows));
         for (const RecipeColumn& column : LineColumns(grid.id))
             ReadInto(line.cells[column.cell], column, rows);
@@ -91,7 +91,7 @@ void ReadLines(Database& database, const GridRule& grid, StoredRecipe& recipe) {
 
 std::optional<StoredRecipe> ReadRecipe(Database& database, std::string_view name) {
     // No blanks around "=": so the statement stands in the design.
-    Recordset rows = database.OpenRecordset("SELECT * FROM RECIPES WHERE NAME=" + SqlText(name));
+    Recordset rows = database.OpenRecordset("SELECT * FROM RECIPES WHERE NAME=?", {name});
     if (rows.AtEnd()) return std::nullopt;
     StoredRecipe recipe;
     ReadOwnRow(rows, recipe);
@@ -101,7 +101,7 @@ std::optional<StoredRecipe> ReadRecipe(Database& database, std::string_view name
 }
 
 bool RecipeExists(Database& database, std::string_view name) {
-    return !database.OpenRecordset("SELECT * FROM RECIPES WHERE NAME = " + SqlText(Trim(name))).AtEnd();
+    return !database.OpenRecordset("SELECT * FROM RECIPES WHERE NAME = ?", {Trim(name)}).AtEnd();
 }
 
 }  // namespace tw

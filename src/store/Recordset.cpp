@@ -293,8 +293,8 @@ FieldType Recordset::TypeOf(int index) const {
     return impl_->TypeOf(index);
 }
 
-Recordset Database::OpenRecordset(std::string_view sql) {
-    return Recordset(std::make_unique<Recordset::Impl>(Prepare(sql, true)));
+Recordset Database::OpenRecordset(std::string_view sql, const SqlValues& values) {
+    return Recordset(std::make_unique<Recordset::Impl>(Prepare(sql, values, true)));
 }
 
 }  // namespace tw

@@ -55,13 +55,14 @@ bool IsTextFunction(std::string_view word) {
 // piece when something has to be rewritten; a statement that needs no rewriting is copied once as a whole.
 class Translator {
   public:
-    explicit Translator(std::string_view sql) : sql_(sql) {}
+    Translator(std::string_view sql, std::size_t values) : sql_(sql), valuesLeft_(values) {}
 
     DialectStatement Run() {
         while (at_ < sql_.size()) TakeToken();
         if (!kind_) Refuse("The SQL text holds no statement.");
+        if (valuesLeft_ > 0) Refuse("The SQL text has no place for a value.");
         Flush();
-        return {*kind_, std::move(out_), std::move(numbers_)};
+        return {*kind_, std::move(out_), std::move(numbers_), std::move(values_)};
     }
 
   private:
@@ -188,6 +189,12 @@ class Translator {
                 TakeEnd();
                 return;
             case '?':
+                if (valuesLeft_ > 0) {
+                    --valuesLeft_;
+                    values_.push_back(static_cast<int>(numbers_.size() + values_.size() + 1));
+                    break;
+                }
+                [[fallthrough]];
             case ':':
             case '@':
             case '$':
@@ -274,6 +281,8 @@ class Translator {
     std::string_view sql_;
     std::string out_;
     std::vector<double> numbers_;
+    std::vector<int> values_;
+    std::size_t valuesLeft_;
     std::size_t at_ = 0;
     std::size_t copied_ = 0;
     std::optional<StatementKind> kind_;
@@ -286,8 +295,8 @@ class Translator {
 
 }  // namespace
 
-DialectStatement TranslateSql(std::string_view sql) {
-    return Translator(sql).Run();
+DialectStatement TranslateSql(std::string_view sql, std::size_t values) {
+    return Translator(sql, values).Run();
 }
 
 }  // namespace tw

@@ -16,11 +16,6 @@ constexpr int kSubscriptOutOfRange = 9;
 constexpr std::array<std::string_view, 8> kButtons = {
     "cmdAdd", "cmdDel", "cmdUp", "cmdDown", "cmdTop", "cmdBottom", "mnuPopupSortAsc", "mnuPopupSortDesc"};
 
-// For SQL text between double quotes.
-std::string DoubleQuoted(std::string_view text) {
-    return "\"" + ReplaceAll(text, "\"", "\"\"") + "\"";
-}
-
 // The node's name, or those of all recipes below it, in the order of the tree.
 std::vector<std::string> RecipesOf(TWNode& top) {
     std::vector<std::string> names;
@@ -73,8 +68,8 @@ void RecipeChooser::Initialize() {
 bool RecipeChooser::OpenTreeTo(std::string_view name) {
     Database* const database = tree_ && tree_->SourceDatabase() ? tree_->SourceDatabase() : database_;
     if (database == nullptr) return false;
-    const Recordset recipe = database->OpenRecordset("SELECT NAME, ID FROM RECIPES WHERE UCASE(NAME) = " +
-                                                     DoubleQuoted(Upper(Trim(name))));
+    const Recordset recipe =
+        database->OpenRecordset("SELECT NAME, ID FROM RECIPES WHERE UCASE(NAME) = ?", {Upper(Trim(name))});
     if (recipe.AtEnd()) return false;
     const std::string key = "R:" + recipe.Fields("ID").Text() + ":";
     return items_.SelectKey(key + "3") || items_.SelectKey(key + "0");

@@ -167,15 +167,14 @@ void TreeLoader::LoadExchangeFile() {
                                      "WHERE STYLE_NAME <> '' AND NOT STYLE_NAME IS NULL ORDER BY STYLE_NAME");
          !rows.AtEnd(); rows.MoveNext()) {
         const ObjectRow row = ObjectRow::OfFile(rows);
-        FillRecipes(
-            Add(byStyle_, row.Style(1)),
-            "SELECT NAME, ID FROM RECIPES WHERE STYLE_NAME = " + SqlText(row.name.View()) + " ORDER BY NAME",
-            kInStyleOfFolder);
+        FillRecipes(Add(byStyle_, row.Style(1)),
+                    "SELECT NAME, ID FROM RECIPES WHERE STYLE_NAME = ? ORDER BY NAME", kInStyleOfFolder,
+                    {row.name.View()});
     }
 }
 
-void TreeLoader::FillRecipes(TWNode* parent, const std::string& sql, int copy) {
-    for (Recordset rows = database_.OpenRecordset(sql); !rows.AtEnd(); rows.MoveNext())
+void TreeLoader::FillRecipes(TWNode* parent, std::string_view sql, int copy, const SqlValues& values) {
+    for (Recordset rows = database_.OpenRecordset(sql, values); !rows.AtEnd(); rows.MoveNext())
         Add(parent, ObjectRow::OfFile(rows).Recipe(copy));
 }
 

@@ -42,7 +42,7 @@ class TreeLoader {
     void AddStyles(const NodesById& folders);
     void AddRecipes(const NodesById& folders);
     // One node for each row of NAME and ID.
-    void FillRecipes(TWNode* parent, const std::string& sql, int copy);
+    void FillRecipes(TWNode* parent, std::string_view sql, int copy, const SqlValues& values = {});
 
     TWTree& tree_;
     Database& database_;

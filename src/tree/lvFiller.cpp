@@ -193,11 +193,11 @@ void ShowRecipe(ListRow& row, const ShownFields<RecipeFields>& recipe) {
 template <std::size_t kCount>
 using Show = void (*)(ListRow&, const ShownFields<kCount>&);
 
-// What one object's row shows beyond its node; nothing when the database does not hold it.
+// What one object's row shows beyond its node; nothing when the database does not hold it. sql takes its id.
 template <std::size_t kCount>
-void ShowOne(Database& database, const std::string& sql, const FieldNames<kCount>& names, ListRow& row,
-             Show<kCount> show) {
-    const Recordset object = database.OpenRecordset(sql);
+void ShowOne(Database& database, std::string_view sql, std::int64_t id, const FieldNames<kCount>& names,
+             ListRow& row, Show<kCount> show) {
+    const Recordset object = database.OpenRecordset(sql, {id});
     if (!object.AtEnd()) show(row, ShownFields<kCount>(object, names));
 }
 
@@ -328,11 +328,11 @@ void lvFiller::AddFolderRow(ListTable& list, TWNode& folder) const {
     ListRow row = FolderRow(folder);
     const std::int64_t id = IdOfKey(row.key);
     if (HasRow(folder, id))
-        ShowOne(
-            database_,
-            "SELECT CREATED_WHEN, MODIFIED_WHEN, NULL AS CHILDREN_MODIFIED_WHEN FROM FOLDERS WHERE ID = " +
-                std::to_string(id) + (row.key.starts_with("G:") ? " AND STYLE" : " AND NOT STYLE"),
-            kFolderNames, row, ShowFolder);
+        ShowOne(database_,
+                std::string("SELECT CREATED_WHEN, MODIFIED_WHEN, NULL AS CHILDREN_MODIFIED_WHEN FROM FOLDERS "
+                            "WHERE ID = ?") +
+                    (row.key.starts_with("G:") ? " AND STYLE" : " AND NOT STYLE"),
+                id, kFolderNames, row, ShowFolder);
     list.Add(std::move(row));
 }
 
@@ -341,8 +341,7 @@ void lvFiller::AddStyleRow(ListTable& list, TWNode& style) const {
     RowFacts(database_, CatalogueKind::Style).AddTo(row);
     const std::int64_t id = IdOfKey(row.key);
     if (HasRow(style, id))
-        ShowOne(database_, "SELECT * FROM STYLES WHERE ID = " + std::to_string(id), kStyleNames, row,
-                ShowStyle);
+        ShowOne(database_, "SELECT * FROM STYLES WHERE ID = ?", id, kStyleNames, row, ShowStyle);
     list.Add(std::move(row));
 }
 
@@ -350,8 +349,7 @@ void lvFiller::AddRecipeRow(ListTable& list, TWNode& recipe) const {
     ListRow row = RecipeRow(recipe);
     const std::int64_t id = IdOfKey(row.key);
     if (HasRow(recipe, id))
-        ShowOne(database_, "SELECT * FROM RECIPES WHERE ID = " + std::to_string(id), kRecipeNames, row,
-                ShowRecipe);
+        ShowOne(database_, "SELECT * FROM RECIPES WHERE ID = ?", id, kRecipeNames, row, ShowRecipe);
     list.Add(std::move(row));
 }
 

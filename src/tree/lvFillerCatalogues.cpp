@@ -49,11 +49,13 @@ void FillTable(Database& database, ListTable& list, CatalogueKind kind, MakeCell
 
 std::vector<ListRow> StyleRows(Database& database, std::int64_t folderId) {
     // The system folder holds every style.
-    const std::string condition = folderId == -1 ? "" : " WHERE FOLDER_ID = " + std::to_string(folderId);
+    const bool all = folderId == -1;
     const RowFacts facts(database, CatalogueKind::Style);
     std::vector<ListRow> styles;
-    for (Recordset rows = database.OpenRecordset("SELECT * FROM STYLES" + condition); !rows.AtEnd();
-         rows.MoveNext()) {
+    for (Recordset rows =
+             all ? database.OpenRecordset("SELECT * FROM STYLES")
+                 : database.OpenRecordset("SELECT * FROM STYLES WHERE FOLDER_ID = ?", {folderId});
+         !rows.AtEnd(); rows.MoveNext()) {
         ListRow row = NamedRow(rows, "NAME");
         row.icon = NodeIcon::StyleClosed;
         if (const auto srm = MiddleOf(rows.Fields("COLOR_LO"), rows.Fields("COLOR_HI")))

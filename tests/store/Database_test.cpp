@@ -199,6 +199,75 @@ TEST_F(DatabaseTest, ShowsEachStatementToTheHookBeforeItRuns) {
                                               "SELECT NAME FROM HOPS"}));
 }
 
+TEST_F(DatabaseTest, ShowsTheHookEachStatementWithItsValues) {
+    std::vector<std::string> seen;
+    db->SetStatementHook([&](std::string_view sql) { seen.emplace_back(sql); });
+    db->Execute("INSERT INTO HOPS (NAME, DESCR, AA_LO, AA_HI) VALUES (?, '?', ?, ?)", {"Brewer's", 5, 6.5});
+    db->OpenRecordset("SELECT [?] FROM (SELECT 1 AS [?]) WHERE ? AND ? IS NULL", {true, Null()});
+    EXPECT_EQ(seen, (std::vector<std::string>{
+                        "INSERT INTO HOPS (NAME, DESCR, AA_LO, AA_HI) VALUES ('Brewer''s', '?', 5, 6.5)",
+                        "SELECT [?] FROM (SELECT 1 AS [?]) WHERE TRUE AND NULL IS NULL"}));
+}
+
+TEST_F(DatabaseTest, TakesValuesInTheirOrder) {
+    // The number of five decimals is a parameter of SQLite's too.
+    const Recordset row = db->OpenRecordset("SELECT ?, 1.00003, ?, '?', ?", {"O'Hara \"x\"", 7, Null()});
+    EXPECT_EQ(row.Fields(0).Text(), "O'Hara \"x\"");
+    EXPECT_EQ(row.Fields(1).Number(), 1.00003);
+    EXPECT_EQ(row.Fields(2).Integer(), 7);
+    EXPECT_EQ(row.Fields(3).Text(), "?");
+    EXPECT_TRUE(row.Fields(4).IsNull());
+}
+
+// What a value leaves in a column is what its literal would.
+TEST_F(DatabaseTest, StoresAValueAsItsLiteral) {
+    const SqlValues values = {"Baker's",
+                              "",
+                              std::string("a\0b", 3),
+                              "\u00C9t\u00E9",
+                              0,
+                              -5,
+                              std::int64_t{9007199254740993},
+                              5.0,
+                              -5.0,
+                              5.25,
+                              0.1 + 0.2,
+                              1e17,
+                              1e18,
+                              -1e300,
+                              true,
+                              false,
+                              Null(),
+                              std::optional<double>(),
+                              std::optional<double>(2.5)};
+    for (const char* type : {"TEXT", "DOUBLE", "INTEGER", "BOOLEAN", "LONGTEXT", ""}) {
+        db->ExecuteNative("DROP TABLE IF EXISTS T; CREATE TABLE T (A " + std::string(type) + ")");
+        for (const SqlValue& value : values) {
+            db->Execute("INSERT INTO T (A) VALUES (?)", {value});
+            db->Execute("INSERT INTO T (A) VALUES (" + value.Literal() + ")");
+            const Recordset kinds = db->OpenRecordset(
+                "SELECT COUNT(*), COUNT(DISTINCT typeof(A) || quote(A)) FROM T WHERE NOT A IS NULL");
+            EXPECT_EQ(kinds.Fields(1).Integer(), kinds.Fields(0).Integer() / 2) << type << value.Literal();
+            db->Execute("DELETE FROM T");
+        }
+    }
+}
+
+TEST_F(DatabaseTest, KeepsTheValuesOfARecordsetThatRunsAgain) {
+    Run("INSERT INTO HOPS (NAME) VALUES ('A long name of a hop that is kept elsewhere')");
+    std::string name = "A long name of a hop that is kept elsewhere";
+    Recordset rows = db->OpenRecordset("SELECT NAME FROM HOPS WHERE NAME = ?", {name});
+    ASSERT_FALSE(rows.AtEnd());
+    rows.MoveFirst();
+    EXPECT_EQ(rows.Fields(0).Text(), name);
+}
+
+TEST_F(DatabaseTest, RefusesAnotherNumberOfValues) {
+    EXPECT_THROW(db->OpenRecordset("SELECT ?", {1, 2}), Error);
+    EXPECT_THROW(db->OpenRecordset("SELECT ?, ?", {1}), Error);
+    EXPECT_THROW(db->Execute("DELETE FROM HOPS WHERE NAME = '?'", {"A"}), Error);
+}
+
 TEST(SqlText, DoublesApostrophesOnly) {
     EXPECT_EQ(DoubleQuotes("Baker's \"Best\""), "Baker''s \"Best\"");
     EXPECT_EQ(SqlText("''"), "''''''");

@@ -75,6 +75,14 @@ TEST(SqlDialect, HandsLongNumbersOverAsNumbers) {
         EXPECT_EQ(Sql(text), text);
 }
 
+TEST(SqlDialect, TellsWhichParametersTheValuesAre) {
+    const DialectStatement statement =
+        TranslateSql("SELECT ? FROM A WHERE B = 1.00003 AND C = ? AND D = '?' AND E = 1.00007", 2);
+    EXPECT_EQ(statement.sql, "SELECT ? FROM A WHERE B = ? AND C = ? AND D = '?' AND E = ?");
+    EXPECT_EQ(statement.numbers, (std::vector<double>{1.00003, 1.00007}));
+    EXPECT_EQ(statement.values, (std::vector<int>{1, 3}));
+}
+
 TEST(SqlDialect, DropsOneSemicolonAtTheEnd) {
     EXPECT_EQ(Sql("SELECT 1 ; \r\n"), "SELECT 1 ");
 }

@@ -103,19 +103,18 @@ void CheckTopics(const std::vector<Row>& topics, Problems& problems) {
 
 void MakeDatabase(const Sources& sources, const std::string& file) {
     const auto database = tw::Database::CreateDatabase(file, "");
+    tw::UnitOfWork unit(*database);
     database->ExecuteNative(
-        "BEGIN;"
         "CREATE TABLE CONTEXT_HELP (FORM_NAME TEXT(50) COLLATE TWTEXT, FORM_CONTEXT TEXT(50) COLLATE TWTEXT,"
         " HELP_URL TEXT(255), PRIMARY KEY (FORM_NAME, FORM_CONTEXT)) WITHOUT ROWID;"
         "CREATE TABLE HELP_CONTENTS (TOPIC_ID LONG PRIMARY KEY, TOPIC_NAME TEXT(255),"
         " TOPIC_HELP_URL TEXT(255), PARENT_TOPIC_ID LONG);");
     for (const Row& row : sources.contexts)
-        database->ExecuteNative("INSERT INTO CONTEXT_HELP VALUES (" + tw::SqlText(row[0]) + ", " +
-                                tw::SqlText(row[1]) + ", " + tw::SqlText(row[2]) + ");");
+        database->Execute("INSERT INTO CONTEXT_HELP VALUES (?, ?, ?)", {row[0], row[1], row[2]});
     for (const Row& row : sources.topics)
-        database->ExecuteNative("INSERT INTO HELP_CONTENTS VALUES (" + row[0] + ", " + tw::SqlText(row[1]) +
-                                ", " + tw::SqlText(row[2]) + ", " + row[3] + ");");
-    database->ExecuteNative("COMMIT;");
+        database->Execute("INSERT INTO HELP_CONTENTS VALUES (?, ?, ?, ?)",
+                          {std::stoi(row[0]), row[1], row[2], std::stoi(row[3])});
+    unit.Commit();
 }
 
 int MakeHelp(const fs::path& folder, const fs::path& target) {
