@@ -61,8 +61,8 @@ void CatalogueEditor::Clear() {
 void CatalogueEditor::SetName(std::string_view name) {
     Clear();
     if (IsBlank(name)) return;
-    const Recordset row = Store().OpenRecordset("SELECT * FROM " + std::string(form_->table) +
-                                                " WHERE NAME = " + SqlText(Trim(name)));
+    const Recordset row =
+        Store().OpenRecordset("SELECT * FROM " + std::string(form_->table) + " WHERE NAME = ?", {Trim(name)});
     if (row.AtEnd())
         return context_.messages.ShowMessage("Error", "No data available for " + std::string(name));
     try {

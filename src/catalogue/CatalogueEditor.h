@@ -103,14 +103,14 @@ class CatalogueEditor : public DialogModel {
     bool IsOpen() const override { return open_; }
 
   protected:
-    using ColumnValues = std::vector<std::pair<std::string, std::string>>;  // columns and SQL literals
+    using ColumnValues = std::vector<std::pair<std::string, SqlValue>>;  // by the names of the columns
 
     // Clears what the form has beside texts, lists and cells, for a new row.
     virtual void ClearOwn() {}
     // Takes what the row holds beside them. The recordset is at the row.
     virtual void ReadOwn(const Recordset&) {}
-    // The literal of a column that only a derived editor knows.
-    virtual std::string OwnValue(ColumnSource) const { return "NULL"; }
+    // The value of a column that only a derived editor knows.
+    virtual SqlValue OwnValue(ColumnSource) const { return Null(); }
     // Writes the row: deletes the old one and inserts the new one, as one unit that is taken back when it
     // fails. Raises the store's error. False when the row could not be written, which has been told.
     virtual bool Write(const std::string& name);
@@ -168,7 +168,7 @@ class CatalogueEditor : public DialogModel {
     bool Save();
     // Whether the name may be stored; tells why not.
     bool CheckName(const std::string& name);
-    std::string ValueOf(ColumnSource source, const std::string& name) const;
+    SqlValue ValueOf(ColumnSource source, const std::string& name) const;
     void AddRanges(ColumnValues& values) const;
     void Step(std::string_view button);
 

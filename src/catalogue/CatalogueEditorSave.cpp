@@ -8,18 +8,12 @@
 namespace tw {
 namespace {
 
-constexpr std::string_view kNull = "NULL";
-
-// The number of a type's word; NULL for none. A number that has no word is its own.
-std::string TypeNumber(std::string_view word) {
+// The number of a type's word; Null for none. A number that has no word is its own.
+SqlValue TypeNumber(std::string_view word) {
     for (std::size_t i = 0; i < TypeNames().size(); ++i)
-        if (SameName(TypeNames()[i], word)) return std::to_string(i);
+        if (SameName(TypeNames()[i], word)) return i;
     double number = 0;
-    return ReadNumber(word, number) ? NumberText(number) : std::string(kNull);
-}
-
-std::string Literal(const std::optional<double>& number, std::string_view blank) {
-    return number ? NumberText(*number) : std::string(blank);
+    return ReadNumber(word, number) ? SqlValue(number) : SqlValue(Null());
 }
 
 }  // namespace
@@ -31,7 +25,7 @@ bool CatalogueEditor::CheckName(const std::string& name) {
     }
     if (SameName(name, loadedName_)) return true;
     if (Store()
-            .OpenRecordset("SELECT * FROM " + std::string(form_->table) + " WHERE NAME = " + SqlText(name))
+            .OpenRecordset("SELECT * FROM " + std::string(form_->table) + " WHERE NAME = ?", {name})
             .AtEnd())
         return true;
     context_.messages.ShowMessage(
@@ -60,27 +54,30 @@ bool CatalogueEditor::Save() {
     return true;
 }
 
-std::string CatalogueEditor::ValueOf(ColumnSource source, const std::string& name) const {
+SqlValue CatalogueEditor::ValueOf(ColumnSource source, const std::string& name) const {
     switch (source) {
         case ColumnSource::Name:
-            return SqlText(name);
+            return name;
         case ColumnSource::Text2:
-            return SqlText(text2_);
+            return text2_;
         case ColumnSource::Description:
-            return SqlText(description_);
+            return description_;
         case ColumnSource::TypeNumber:
             return TypeNumber(list1_.text);
         case ColumnSource::Combo2:
             // A style without a water has none; a flocculation is a text.
-            if (form_->blank == BlankCell::Null && IsBlank(list2_.text)) return std::string(kNull);
-            return SqlText(list2_.text);
+            if (form_->blank == BlankCell::Null && IsBlank(list2_.text)) return Null();
+            return list2_.text;
         default:
             return OwnValue(source);
     }
 }
 
 void CatalogueEditor::AddRanges(ColumnValues& values) const {
-    const std::string_view blank = form_->blank == BlankCell::Zero ? "0" : kNull;
+    const SqlValue blank = form_->blank == BlankCell::Zero ? SqlValue(0) : SqlValue(Null());
+    const auto valueOf = [&](const std::optional<double>& number) {
+        return number ? SqlValue(*number) : blank;
+    };
     for (int i = 0; i < Rows(); ++i) {
         const RangeRow& row = form_->rows[static_cast<std::size_t>(i)];
         std::optional<double> low = CellValue(i, 0), high = low;
@@ -91,10 +88,10 @@ void CatalogueEditor::AddRanges(ColumnValues& values) const {
                 if (!low) low = high;
                 if (!high) high = low;
             }
-            values.emplace_back(row.low, Literal(low, blank));
-            values.emplace_back(row.high, Literal(high, blank));
+            values.emplace_back(row.low, valueOf(low));
+            values.emplace_back(row.high, valueOf(high));
         } else {
-            values.emplace_back(row.low, Literal(low, blank));
+            values.emplace_back(row.low, valueOf(low));
         }
     }
 }
@@ -102,8 +99,8 @@ void CatalogueEditor::AddRanges(ColumnValues& values) const {
 CatalogueEditor::ColumnValues CatalogueEditor::Values(const std::string& name) const {
     ColumnValues values;
     for (const FormColumn& column : form_->columns) {
-        std::string value = ValueOf(column.source, name);
-        if (form_->blank == BlankCell::LeftOut && value == kNull) continue;
+        SqlValue value = ValueOf(column.source, name);
+        if (form_->blank == BlankCell::LeftOut && value == SqlValue(Null())) continue;
         values.emplace_back(column.column, std::move(value));
     }
     AddRanges(values);
@@ -111,14 +108,15 @@ CatalogueEditor::ColumnValues CatalogueEditor::Values(const std::string& name) c
 }
 
 void CatalogueEditor::Insert(const ColumnValues& values) {
-    std::string columns, literals;
-    for (const auto& [column, literal] : values) {
-        const char* const comma = columns.empty() ? "" : ", ";
-        columns.append(comma).append(column);
-        literals.append(comma).append(literal);
+    std::string columns, places;
+    SqlValues bound;
+    for (const auto& [column, value] : values) {
+        columns.append(columns.empty() ? "" : ", ").append(column);
+        places.append(places.empty() ? "?" : ", ?");
+        bound.push_back(value);
     }
-    Store().Execute("INSERT INTO " + std::string(form_->table) + " (" + columns + ") VALUES (" + literals +
-                    ")");
+    Store().Execute("INSERT INTO " + std::string(form_->table) + " (" + columns + ") VALUES (" + places + ")",
+                    bound);
 }
 
 bool CatalogueEditor::Write(const std::string& name) {
@@ -126,8 +124,7 @@ bool CatalogueEditor::Write(const std::string& name) {
     try {
         BeforeWrite();
         if (!loadedName_.empty())
-            Store().Execute("DELETE FROM " + std::string(form_->table) +
-                            " WHERE NAME = " + SqlText(loadedName_));
+            Store().Execute("DELETE FROM " + std::string(form_->table) + " WHERE NAME = ?", {loadedName_});
         Insert(Values(name));
         AfterWrite();
     } catch (const Error&) {

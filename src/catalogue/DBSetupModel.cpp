@@ -113,8 +113,8 @@ bool DBSetupModel::ShowName(std::string_view name) {
     if (select()) return true;
     items_.SetFilter("");
     if (catalogue_ == Catalogue::Styles) {
-        const Recordset style = context_.database.OpenRecordset("SELECT FOLDER_ID FROM STYLES WHERE NAME = " +
-                                                                SqlText(Trim(name)));
+        const Recordset style =
+            context_.database.OpenRecordset("SELECT FOLDER_ID FROM STYLES WHERE NAME = ?", {Trim(name)});
         if (style.AtEnd()) return false;
         folderId_ = style.Fields(0).Integer();
         Refill();
@@ -211,9 +211,9 @@ void DBSetupModel::Delete() {
 }
 
 void DBSetupModel::DeleteRow(const std::string& name) {
-    const std::string condition = " WHERE NAME = " + SqlText(name);
     if (catalogue_ == Catalogue::Styles) {
-        const Recordset style = context_.database.OpenRecordset("SELECT ID FROM STYLES" + condition);
+        const Recordset style =
+            context_.database.OpenRecordset("SELECT ID FROM STYLES WHERE NAME = ?", {name});
         const std::int64_t id = style.AtEnd() ? 0 : style.Fields(0).Integer();
         return context_.objects.DeleteStyleById(id);
     }
@@ -221,10 +221,12 @@ void DBSetupModel::DeleteRow(const std::string& name) {
     UnitOfWork unit(context_.database);
     std::int64_t type = 0;
     if (fermentable) {
-        const Recordset row = context_.database.OpenRecordset("SELECT GRAIN_TYPE FROM GRAINS" + condition);
+        const Recordset row =
+            context_.database.OpenRecordset("SELECT GRAIN_TYPE FROM GRAINS WHERE NAME = ?", {name});
         if (!row.AtEnd()) type = row.Fields(0).Integer();
     }
-    context_.database.Execute("DELETE FROM " + std::string(FormOf(catalogue_).table) + condition);
+    context_.database.Execute("DELETE FROM " + std::string(FormOf(catalogue_).table) + " WHERE NAME = ?",
+                              {name});
     RemoveUnusedType(context_.database, type);
     unit.Commit();
 }

@@ -28,8 +28,7 @@ void GrainEditor::ReadOwn(const Recordset& row) {
     SetForm(row.Fields("GRAIN").Boolean() ? Catalogue::Grains : Catalogue::Extracts);
     FillTypes();
     storedType_ = row.Fields("GRAIN_TYPE").Integer();
-    const Recordset type =
-        Store().OpenRecordset("SELECT NAME FROM GRAIN_TYPES WHERE ID = " + std::to_string(storedType_));
+    const Recordset type = Store().OpenRecordset("SELECT NAME FROM GRAIN_TYPES WHERE ID = ?", {storedType_});
     if (!type.AtEnd()) TypeList().text = type.Fields(0).Text();
 }
 
@@ -40,8 +39,9 @@ bool GrainEditor::Write(const std::string& name) {
     return true;
 }
 
-std::string GrainEditor::OwnValue(ColumnSource source) const {
-    return source == ColumnSource::Kind ? Truth() : std::to_string(newType_);
+SqlValue GrainEditor::OwnValue(ColumnSource source) const {
+    if (source == ColumnSource::Kind) return Grain();
+    return newType_;
 }
 
 void GrainEditor::BeforeWrite() {
@@ -49,14 +49,14 @@ void GrainEditor::BeforeWrite() {
     const std::string name(Trim(TypeList().text));
     if (name.empty()) return;
     const auto find = [&] {
-        const Recordset rows = Store().OpenRecordset(
-            "SELECT * FROM GRAIN_TYPES WHERE NAME = " + SqlText(name) + " AND GRAIN = " + Truth());
+        const Recordset rows =
+            Store().OpenRecordset("SELECT * FROM GRAIN_TYPES WHERE NAME = ? AND GRAIN = ?", {name, Grain()});
         if (rows.AtEnd()) return false;
         newType_ = rows.Fields("ID").Integer();
         return true;
     };
     if (find()) return;
-    Store().Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES (" + SqlText(name) + ", " + Truth() + ")");
+    Store().Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES (?, ?)", {name, Grain()});
     find();
 }
 
@@ -66,11 +66,11 @@ void GrainEditor::AfterWrite() {
 
 void RemoveUnusedType(Database& database, std::int64_t type) {
     if (type <= 0) return;
-    const std::string id = std::to_string(type);
-    Recordset count = database.OpenRecordset("SELECT COUNT(GRAIN_TYPE) FROM GRAINS WHERE GRAIN_TYPE = " + id);
+    Recordset count =
+        database.OpenRecordset("SELECT COUNT(GRAIN_TYPE) FROM GRAINS WHERE GRAIN_TYPE = ?", {type});
     const bool used = count.Fields(0).Integer() >= 1;
     count.Close();
-    if (!used) database.Execute("DELETE FROM GRAIN_TYPES WHERE ID = " + id);
+    if (!used) database.Execute("DELETE FROM GRAIN_TYPES WHERE ID = ?", {type});
 }
 
 }  // namespace tw

@@ -19,12 +19,11 @@ class GrainEditor final : public CatalogueEditor {
     void ReadOwn(const Recordset& row) override;
     bool Write(const std::string& name) override;
     void Applied() override { FillTypes(); }
-    std::string OwnValue(ColumnSource source) const override;
+    SqlValue OwnValue(ColumnSource source) const override;
     void BeforeWrite() override;
     void AfterWrite() override;
     // Lists the types that there are; what stands in the box stays.
     void FillTypes();
-    std::string Truth() const { return Grain() ? "TRUE" : "FALSE"; }
 
     std::int64_t storedType_ = 0;  // GRAIN_TYPES.ID of the row as it is stored, 0 for none
     std::int64_t newType_ = 0;     // of the row being written

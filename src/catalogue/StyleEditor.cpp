@@ -1,6 +1,5 @@
 #include "catalogue/StyleEditor.h"
 
-#include "values/NumberText.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -38,7 +37,7 @@ bool StyleEditor::EnterFolder(std::string_view text) {
 }
 
 bool StyleEditor::Write(const std::string& name) {
-    const std::string now = SqlText(DateText(Context().clock.Now()));
+    const std::string now = DateText(Context().clock.Now());
     if (LoadedName().empty())
         InsertStyle(name, now);
     else if (!UpdateStyle(name, now))
@@ -50,10 +49,8 @@ bool StyleEditor::Write(const std::string& name) {
 }
 
 void StyleEditor::InsertStyle(const std::string& name, const std::string& now) {
-    ColumnValues values = {{"NAME", SqlText(name)},
-                           {"FOLDER_ID", std::to_string(folders_.FolderID())},
-                           {"CREATED_WHEN", now},
-                           {"MODIFIED_WHEN", now}};
+    ColumnValues values = {
+        {"NAME", name}, {"FOLDER_ID", folders_.FolderID()}, {"CREATED_WHEN", now}, {"MODIFIED_WHEN", now}};
     for (auto& value : Values(name)) values.push_back(std::move(value));
     Insert(values);
     Context().objects.AddStyleNodesByName(name);
@@ -63,13 +60,17 @@ bool StyleEditor::UpdateStyle(const std::string& name, const std::string& now) {
     // Before the name is another one: the rows are found by it.
     const std::int64_t id = Context().objects.StyleIdByName(LoadedName());
     const std::int64_t folder = folders_.FolderID();
-    ColumnValues values = {{"NAME", SqlText(name)}, {"FOLDER_ID", std::to_string(folder)}};
+    ColumnValues values = {{"NAME", name}, {"FOLDER_ID", folder}};
     for (auto& value : Values(name)) values.push_back(std::move(value));
     values.emplace_back("MODIFIED_WHEN", now);
     std::string assignments;
-    for (const auto& [column, literal] : values)
-        assignments.append(assignments.empty() ? "" : ", ").append(column).append(" = ").append(literal);
-    Store().Execute("UPDATE STYLES SET " + assignments + " WHERE NAME = " + SqlText(LoadedName()));
+    SqlValues bound;
+    for (const auto& [column, value] : values) {
+        assignments.append(assignments.empty() ? "" : ", ").append(column).append(" = ?");
+        bound.push_back(value);
+    }
+    bound.emplace_back(LoadedName());
+    Store().Execute("UPDATE STYLES SET " + assignments + " WHERE NAME = ?", bound);
     if (Store().RecordsAffected() == 0) {
         ShowError("The style '" + LoadedName() +
                   "' is no longer in the database. OK stores it as a new style.");
