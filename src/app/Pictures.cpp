@@ -139,7 +139,8 @@ bool SaveTools(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
 // The pickers and choosers.
 bool SaveChoosers(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     bool ok = true;
-    for (const PickList list : {PickList::Style, PickList::Grain, PickList::Yeast, PickList::Water}) {
+    for (const CatalogueKind list :
+         {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Yeast, CatalogueKind::Water}) {
         LvShowModel picker(list, *shell.DB(), shell.Tree(), "");
         ok &= SaveDialog(dialogs, picker, parent,
                          QStringLiteral("%1pick-%2.png").arg(prefix).arg(static_cast<int>(list)));
@@ -194,17 +195,17 @@ bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
 bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     const CatalogueContext context = shell.Catalogues();
     bool ok = true;
-    for (int i = 0; i < kCatalogues; ++i) {
-        const auto catalogue = static_cast<Catalogue>(i);
+    for (int i = 0; i < kCatalogueKinds; ++i) {
+        const auto catalogue = kSetupOrder[static_cast<std::size_t>(i)];
         DBSetupModel setup(context);
         setup.Choose(catalogue);
         ok &= SaveDialog(dialogs, setup, parent, QStringLiteral("%1setup-%2.png").arg(prefix).arg(i));
         ObjectNavigator navigator(setup.Items());
         const auto editor = MakeEditor(catalogue, context);
-        if (catalogue != Catalogue::Styles) editor->SetNavigator(navigator);
+        if (catalogue != CatalogueKind::Style) editor->SetNavigator(navigator);
         Recordset names =
             shell.DB()->OpenRecordset("SELECT NAME FROM " + std::string(editor->Form().table) +
-                                      (catalogue == Catalogue::Extracts ? " WHERE NOT GRAIN" : ""));
+                                      (catalogue == CatalogueKind::Extract ? " WHERE NOT GRAIN" : ""));
         editor->SetName(names.AtEnd() ? "" : names.Fields(0).Text());
         names.Close();
         ok &= SaveDialog(dialogs, *editor, parent, QStringLiteral("%1edit-%2.png").arg(prefix).arg(i));

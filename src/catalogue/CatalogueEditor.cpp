@@ -18,7 +18,7 @@ constexpr std::string_view kFlocculations[] = {"Low", "Medium", "High", "Very Hi
 
 }  // namespace
 
-CatalogueEditor::CatalogueEditor(Catalogue catalogue, const CatalogueContext& context)
+CatalogueEditor::CatalogueEditor(CatalogueKind catalogue, const CatalogueContext& context)
     : form_(&FormOf(catalogue)), context_(context) {
     cells_.resize(form_->rows.size() * static_cast<std::size_t>(Cols()));
     SetUpLists();
@@ -30,16 +30,16 @@ std::string CatalogueEditor::CellName(int row, int col) {
 
 void CatalogueEditor::SetUpLists() {
     list1_ = list2_ = {};
-    const bool forStyles = form_->catalogue == Catalogue::Styles;
+    const bool forStyles = form_->catalogue == CatalogueKind::Style;
     if (forStyles) list1_.entries.emplace_back(kNoType);
-    if (forStyles || form_->catalogue == Catalogue::Yeast)
+    if (forStyles || form_->catalogue == CatalogueKind::Yeast)
         for (const std::string_view type : TypeNames()) list1_.entries.emplace_back(type);
     if (forStyles) {
         list2_.entries = {""};
         for (Recordset rows = Store().OpenRecordset("SELECT NAME FROM WATER_PROFILES ORDER BY NAME");
              !rows.AtEnd(); rows.MoveNext())
             list2_.entries.push_back(rows.Fields(0).Text());
-    } else if (form_->catalogue == Catalogue::Yeast) {
+    } else if (form_->catalogue == CatalogueKind::Yeast) {
         list2_.entries.assign(std::begin(kFlocculations), std::end(kFlocculations));
         list2_.freeText = true;
     }
@@ -100,7 +100,7 @@ void CatalogueEditor::ReadColumn(const FormColumn& column, const Recordset& row)
             // What the list does not hold is shown all the same, so that saving does not change it.
             list1_.text = field.IsNull() ? std::string() : std::string(Trim(ListTypeName(field)));
             if (list1_.text.empty() && !field.IsNull()) list1_.text = field.Text();
-            if (field.IsNull() && form_->catalogue == Catalogue::Styles) list1_.text = kNoType;
+            if (field.IsNull() && form_->catalogue == CatalogueKind::Style) list1_.text = kNoType;
             break;
         }
         default:

@@ -31,7 +31,7 @@ struct EditorList {
 class CatalogueEditor : public DialogModel {
   public:
     // Blank, for a new row; SetName fills it. context must outlive the editor.
-    CatalogueEditor(Catalogue catalogue, const CatalogueContext& context);
+    CatalogueEditor(CatalogueKind catalogue, const CatalogueContext& context);
     CatalogueEditor(const CatalogueEditor&) = delete;
     CatalogueEditor& operator=(const CatalogueEditor&) = delete;
 
@@ -126,7 +126,7 @@ class CatalogueEditor : public DialogModel {
     const CatalogueContext& Context() const { return context_; }
     Database& Store() const { return context_.database; }
     // For the grain that turns out to be an extract.
-    void SetForm(Catalogue catalogue) { form_ = &FormOf(catalogue); }
+    void SetForm(CatalogueKind catalogue) { form_ = &FormOf(catalogue); }
     // Combo1, whatever the form has there.
     EditorList& TypeList() { return list1_; }
     const EditorList& TypeList() const { return list1_; }
@@ -187,6 +187,6 @@ class CatalogueEditor : public DialogModel {
 };
 
 // The editor of that catalogue, on a blank form.
-std::unique_ptr<CatalogueEditor> MakeEditor(Catalogue catalogue, const CatalogueContext& context);
+std::unique_ptr<CatalogueEditor> MakeEditor(CatalogueKind catalogue, const CatalogueContext& context);
 
 }  // namespace tw

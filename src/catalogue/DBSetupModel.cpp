@@ -25,17 +25,19 @@ std::string FolderKey(std::int64_t id) {
 
 DBSetupModel::DBSetupModel(const CatalogueContext& context)
     : context_(context), filler_(context.database, context.tree) {
-    Choose(Catalogue::Styles);
+    Choose(CatalogueKind::Style);
 }
 
 const std::vector<std::string>& DBSetupModel::Entries() {
-    static const std::vector<std::string> entries{"Styles",         "Grains",         "Extracts",
-                                                  "Hop Varieties",  "Yeasts",         "Priming Sugars",
-                                                  "Water Profiles", "Treatment Salts"};
+    static const std::vector<std::string> entries = [] {
+        std::vector<std::string> plurals;
+        for (const CatalogueKind kind : kSetupOrder) plurals.emplace_back(WordsOf(kind).plural);
+        return plurals;
+    }();
     return entries;
 }
 
-void DBSetupModel::Choose(Catalogue catalogue) {
+void DBSetupModel::Choose(CatalogueKind catalogue) {
     catalogue_ = catalogue;
     folderId_ = 0;
     items_.SetFilter("");
@@ -47,9 +49,9 @@ void DBSetupModel::Refill() {
     const std::string titleBefore = items_.Columns().empty() ? "" : items_.Columns().front().title;
     const int sortColumn = items_.SortColumn();
     const bool descending = items_.SortDescending();
-    if (catalogue_ == Catalogue::Styles && !items_.Filter().empty()) {
+    if (catalogue_ == CatalogueKind::Style && !items_.Filter().empty()) {
         filler_.FillStyles(items_, -1);
-    } else if (catalogue_ == Catalogue::Styles) {
+    } else if (catalogue_ == CatalogueKind::Style) {
         filler_.FillStylesAndFolders(items_, folderId_);
         if (folderId_ != 0) AddRowUp();
     } else {
@@ -63,7 +65,7 @@ void DBSetupModel::SetFilter(std::string_view text) {
     const bool wasFiltered = !items_.Filter().empty();
     const std::string chosen = EditEnabled() ? SelectedName() : std::string();
     items_.SetFilter(text);
-    if (catalogue_ != Catalogue::Styles || wasFiltered == !items_.Filter().empty()) return;
+    if (catalogue_ != CatalogueKind::Style || wasFiltered == !items_.Filter().empty()) return;
     Refill();
     const int row = items_.FindKey(chosen);
     // Without a filter the chosen style is shown in its folder.
@@ -95,7 +97,7 @@ bool DBSetupModel::FolderSelected() const {
 }
 
 std::string DBSetupModel::Guides() const {
-    return catalogue_ == Catalogue::Styles ? StyleGuides(context_.database) : std::string();
+    return catalogue_ == CatalogueKind::Style ? StyleGuides(context_.database) : std::string();
 }
 
 bool DBSetupModel::EditEnabled() const {
@@ -112,7 +114,7 @@ bool DBSetupModel::ShowName(std::string_view name) {
     items_.SelectNone();
     if (select()) return true;
     items_.SetFilter("");
-    if (catalogue_ == Catalogue::Styles) {
+    if (catalogue_ == CatalogueKind::Style) {
         const Recordset style =
             context_.database.OpenRecordset("SELECT FOLDER_ID FROM STYLES WHERE NAME = ?", {Trim(name)});
         if (style.AtEnd()) return false;
@@ -133,7 +135,7 @@ void DBSetupModel::EnterFolder() {
 }
 
 std::vector<DialogControl> DBSetupModel::Controls() const {
-    return {{"Combo1", Entries()[static_cast<std::size_t>(catalogue_)]}, {"lvItems", items_.SelectedText()}};
+    return {{"Combo1", std::string(WordsOf(catalogue_).plural)}, {"lvItems", items_.SelectedText()}};
 }
 
 bool DBSetupModel::SetControl(std::string_view name, std::string_view text) {
@@ -141,7 +143,7 @@ bool DBSetupModel::SetControl(std::string_view name, std::string_view text) {
         const auto entry =
             std::ranges::find_if(Entries(), [&](const std::string& e) { return SameName(e, text); });
         if (entry == Entries().end()) return false;
-        Choose(static_cast<Catalogue>(entry - Entries().begin()));
+        Choose(kSetupOrder[static_cast<std::size_t>(entry - Entries().begin())]);
         return true;
     }
     if (name == "txtFilter") {
@@ -211,13 +213,13 @@ void DBSetupModel::Delete() {
 }
 
 void DBSetupModel::DeleteRow(const std::string& name) {
-    if (catalogue_ == Catalogue::Styles) {
+    if (catalogue_ == CatalogueKind::Style) {
         const Recordset style =
             context_.database.OpenRecordset("SELECT ID FROM STYLES WHERE NAME = ?", {name});
         const std::int64_t id = style.AtEnd() ? 0 : style.Fields(0).Integer();
         return context_.objects.DeleteStyleById(id);
     }
-    const bool fermentable = catalogue_ == Catalogue::Grains || catalogue_ == Catalogue::Extracts;
+    const bool fermentable = catalogue_ == CatalogueKind::Grain || catalogue_ == CatalogueKind::Extract;
     UnitOfWork unit(context_.database);
     std::int64_t type = 0;
     if (fermentable) {

@@ -19,9 +19,9 @@ class DBSetupModel final : public DialogModel {
 
     // The entries of Combo1, in the order of the catalogues.
     static const std::vector<std::string>& Entries();
-    Catalogue Chosen() const { return catalogue_; }
+    CatalogueKind Chosen() const { return catalogue_; }
     // Shows another catalogue, on its first row; the styles from their root.
-    void Choose(Catalogue catalogue);
+    void Choose(CatalogueKind catalogue);
     ListTable& Items() { return items_; }
     // Shows only the rows that hold these words; of the styles those of all folders, until the text is blank.
     void SetFilter(std::string_view text);
@@ -62,7 +62,7 @@ class DBSetupModel final : public DialogModel {
     CatalogueContext context_;
     lvFiller filler_;
     ListTable items_;
-    Catalogue catalogue_ = Catalogue::Styles;
+    CatalogueKind catalogue_ = CatalogueKind::Style;
     std::int64_t folderId_ = 0;  // whose styles are shown
     bool open_ = true;
 };

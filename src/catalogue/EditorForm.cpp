@@ -61,32 +61,34 @@ constexpr FormColumn kYeastColumns[] = {{"NAME", ColumnSource::Name},
                                         {"TYPE", ColumnSource::TypeNumber}};
 constexpr FormColumn kPlainColumns[] = {{"NAME", ColumnSource::Name}, {"DESCR", ColumnSource::Description}};
 
-constexpr std::array<EditorForm, kCatalogues> kForms = {{
-    {Catalogue::Styles, "frmStyle", "STYLES", "Style", "style", "Style Details", "Style Name", "",
-     "Style Type", "Water Profile", "Description", "Style Ranges", kStyleColumns, kStyleRows,
-     BlankCell::Null},
-    {Catalogue::Grains, "frmGrain", "GRAINS", "Grain", "grain or extract", "Grain Details", "Grain Name", "",
-     "Grain Type", "", "Description", "Grain Ranges", kGrainColumns, kGrainRows, BlankCell::LeftOut},
-    {Catalogue::Extracts, "frmGrain", "GRAINS", "Extract", "grain or extract", "Extract Details",
-     "Extract Name", "", "Extract Type", "", "Description", "Extract Ranges", kGrainColumns, kGrainRows,
-     BlankCell::LeftOut},
-    {Catalogue::Hops, "frmHop", "HOPS", "Hop", "hop variety", "Hop Details", "Hop Name", "Usage", "", "",
-     "Description", "Hop Ranges", kHopColumns, kHopRows, BlankCell::LeftOut},
-    {Catalogue::Yeast, "frmYeast", "YEAST", "Yeast", "yeast", "Yeast Details", "Yeast Name",
-     "Short Description", "Yeast Type", "Flocculation", "Full Description", "Yeast Ranges", kYeastColumns,
-     kYeastRows, BlankCell::LeftOut},
-    {Catalogue::PrimingSugars, "frmPrimingSugar", "SUGARS", "Sugar", "priming sugar", "Priming Sugar Details",
-     "Sugar Name", "", "", "", "Description", "Sugar Ranges", kPlainColumns, kSugarRows, BlankCell::LeftOut},
-    {Catalogue::WaterProfiles, "frmWater", "WATER_PROFILES", "Profile", "Profile", "Profile Info",
+constexpr std::array<EditorForm, kCatalogueKinds> kForms = {{
+    {CatalogueKind::Style, "frmStyle", TableOf(CatalogueKind::Style), "Style", "style", "Style Details",
+     "Style Name", "", "Style Type", "Water Profile", "Description", "Style Ranges", kStyleColumns,
+     kStyleRows, BlankCell::Null},
+    {CatalogueKind::Grain, "frmGrain", TableOf(CatalogueKind::Grain), "Grain", "grain or extract",
+     "Grain Details", "Grain Name", "", "Grain Type", "", "Description", "Grain Ranges", kGrainColumns,
+     kGrainRows, BlankCell::LeftOut},
+    {CatalogueKind::Extract, "frmGrain", TableOf(CatalogueKind::Extract), "Extract", "grain or extract",
+     "Extract Details", "Extract Name", "", "Extract Type", "", "Description", "Extract Ranges",
+     kGrainColumns, kGrainRows, BlankCell::LeftOut},
+    {CatalogueKind::Hop, "frmHop", TableOf(CatalogueKind::Hop), "Hop", "hop variety", "Hop Details",
+     "Hop Name", "Usage", "", "", "Description", "Hop Ranges", kHopColumns, kHopRows, BlankCell::LeftOut},
+    {CatalogueKind::Yeast, "frmYeast", TableOf(CatalogueKind::Yeast), "Yeast", "yeast", "Yeast Details",
+     "Yeast Name", "Short Description", "Yeast Type", "Flocculation", "Full Description", "Yeast Ranges",
+     kYeastColumns, kYeastRows, BlankCell::LeftOut},
+    {CatalogueKind::Water, "frmWater", TableOf(CatalogueKind::Water), "Profile", "Profile", "Profile Info",
      "Profile Name", "", "", "", "Description", "Ions", kPlainColumns, kProfileRows, BlankCell::Zero},
-    {Catalogue::TreatmentSalts, "frmWater", "SALTS", "Treatment Salt", "Treatment Salt",
+    {CatalogueKind::Salt, "frmWater", TableOf(CatalogueKind::Salt), "Treatment Salt", "Treatment Salt",
      "Treatment Salt Info", "Treatment Salt Name", "", "", "", "Description", "Ions", kPlainColumns,
      kSaltRows, BlankCell::Zero},
+    {CatalogueKind::Sugar, "frmPrimingSugar", TableOf(CatalogueKind::Sugar), "Sugar", "priming sugar",
+     "Priming Sugar Details", "Sugar Name", "", "", "", "Description", "Sugar Ranges", kPlainColumns,
+     kSugarRows, BlankCell::LeftOut},
 }};
 
 }  // namespace
 
-const EditorForm& FormOf(Catalogue catalogue) {
+const EditorForm& FormOf(CatalogueKind catalogue) {
     return kForms[static_cast<std::size_t>(catalogue)];
 }
 

@@ -57,7 +57,7 @@ enum class BlankCell {
 };
 
 struct EditorForm {
-    Catalogue catalogue;
+    CatalogueKind catalogue;
     std::string_view formName;
     std::string_view table;
     // "{kind} name cannot be blank."; "A {duplicate} named '...' already exists."
@@ -74,6 +74,6 @@ struct EditorForm {
     bool HasRanges() const { return !rows.front().high.empty(); }
 };
 
-const EditorForm& FormOf(Catalogue catalogue);
+const EditorForm& FormOf(CatalogueKind catalogue);
 
 }  // namespace tw

@@ -4,7 +4,7 @@
 
 namespace tw {
 
-GrainEditor::GrainEditor(Catalogue catalogue, const CatalogueContext& context)
+GrainEditor::GrainEditor(CatalogueKind catalogue, const CatalogueContext& context)
     : CatalogueEditor(catalogue, context) {
     FillTypes();
 }
@@ -25,7 +25,7 @@ void GrainEditor::ClearOwn() {
 }
 
 void GrainEditor::ReadOwn(const Recordset& row) {
-    SetForm(row.Fields("GRAIN").Boolean() ? Catalogue::Grains : Catalogue::Extracts);
+    SetForm(row.Fields("GRAIN").Boolean() ? CatalogueKind::Grain : CatalogueKind::Extract);
     FillTypes();
     storedType_ = row.Fields("GRAIN_TYPE").Integer();
     const Recordset type = Store().OpenRecordset("SELECT NAME FROM GRAIN_TYPES WHERE ID = ?", {storedType_});

@@ -9,10 +9,10 @@ class GrainEditor final : public CatalogueEditor {
   public:
     // catalogue is that of the grains or that of the extracts. A row that turns out to be of the other kind
     // stays of its kind: names are unique across both.
-    GrainEditor(Catalogue catalogue, const CatalogueContext& context);
+    GrainEditor(CatalogueKind catalogue, const CatalogueContext& context);
 
     // Whether it is a grain, not an extract.
-    bool Grain() const { return Form().catalogue == Catalogue::Grains; }
+    bool Grain() const { return Form().catalogue == CatalogueKind::Grain; }
 
   private:
     void ClearOwn() override;

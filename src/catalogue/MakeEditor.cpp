@@ -4,12 +4,12 @@
 
 namespace tw {
 
-std::unique_ptr<CatalogueEditor> MakeEditor(Catalogue catalogue, const CatalogueContext& context) {
+std::unique_ptr<CatalogueEditor> MakeEditor(CatalogueKind catalogue, const CatalogueContext& context) {
     switch (catalogue) {
-        case Catalogue::Styles:
+        case CatalogueKind::Style:
             return std::make_unique<StyleEditor>(context);
-        case Catalogue::Grains:
-        case Catalogue::Extracts:
+        case CatalogueKind::Grain:
+        case CatalogueKind::Extract:
             return std::make_unique<GrainEditor>(catalogue, context);
         default:
             return std::make_unique<CatalogueEditor>(catalogue, context);

@@ -5,7 +5,7 @@
 namespace tw {
 
 StyleEditor::StyleEditor(const CatalogueContext& context)
-    : CatalogueEditor(Catalogue::Styles, context), folders_(context.tree, context.objects) {
+    : CatalogueEditor(CatalogueKind::Style, context), folders_(context.tree, context.objects) {
     folders_.SetStyles(true);
 }
 

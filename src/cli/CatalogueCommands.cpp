@@ -28,7 +28,7 @@ void WorkEditor(CatalogueEditor& editor, const DialogAnswer& answer) {
 }
 
 void Entry(Session& session, Arguments& arguments) {
-    const Catalogue catalogue = TakeCatalogue(arguments);
+    const CatalogueKind catalogue = TakeCatalogue(arguments);
     const std::string name = arguments.Word("NAME");
     const bool showsOnly = arguments.AtEnd();
     const DialogAnswer answer = showsOnly ? DialogAnswer() : ReadDialogAnswer(arguments.Text());
@@ -43,7 +43,7 @@ void Entry(Session& session, Arguments& arguments) {
 }
 
 void Drop(Session& session, Arguments& arguments) {
-    const Catalogue catalogue = TakeCatalogue(arguments);
+    const CatalogueKind catalogue = TakeCatalogue(arguments);
     const std::string name = arguments.LastName("NAME");
     Shell& program = session.Program();
     const CatalogueContext context = program.Catalogues();
@@ -66,7 +66,7 @@ constexpr StepRow kSteps[] = {{"first", &ObjectNavigator::GetFirst},
                               {"last", &ObjectNavigator::GetLast}};
 
 void Navigate(Session& session, Arguments& arguments) {
-    const Catalogue catalogue = TakeCatalogue(arguments);
+    const CatalogueKind catalogue = TakeCatalogue(arguments);
     const std::string name = arguments.Word("NAME");
     const std::string word = arguments.Word("the step");
     arguments.End();

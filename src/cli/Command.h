@@ -28,7 +28,7 @@ int TakeIndex(Arguments& arguments, std::string_view what);
 void CheckCell(const Grid& grid, int row, int col);
 
 // The argument WORD that names a catalogue; those of two words stand without quotes. Raises ScriptError.
-Catalogue TakeCatalogue(Arguments& arguments);
+CatalogueKind TakeCatalogue(Arguments& arguments);
 
 // Prints the rows of a SELECT, or runs another statement and prints the number of rows changed. Raises the
 // store's error.

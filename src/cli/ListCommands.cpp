@@ -62,7 +62,7 @@ void List(Session& session, Arguments& arguments) {
 }
 
 void PrintCatalogue(Session& session, Arguments& arguments) {
-    const Catalogue catalogue = TakeCatalogue(arguments);
+    const CatalogueKind catalogue = TakeCatalogue(arguments);
     const std::string columns = arguments.Text();
     ListTable list;
     FillerOf(session).Fill(list, catalogue);
@@ -70,7 +70,7 @@ void PrintCatalogue(Session& session, Arguments& arguments) {
 }
 
 void PickFrom(Session& session, Arguments& arguments) {
-    const auto type = static_cast<PickList>(arguments.Integer("TYPE", 0, kPickLists - 1));
+    const auto type = static_cast<CatalogueKind>(arguments.Integer("TYPE", 0, kCatalogueKinds - 1));
     const std::string name = arguments.Word("NAME");
     const std::string button = arguments.Word("BUTTON");
     arguments.End();
@@ -96,10 +96,9 @@ constexpr Command kCommands[] = {
 
 }  // namespace
 
-Catalogue TakeCatalogue(Arguments& arguments) {
+CatalogueKind TakeCatalogue(Arguments& arguments) {
     const std::string first = arguments.Word("WORD");
-    for (int i = 0; i < kCatalogues; ++i) {
-        const auto catalogue = static_cast<Catalogue>(i);
+    for (const CatalogueKind catalogue : kSetupOrder) {
         const std::string_view word = WordOf(catalogue);
         if (word == first) return catalogue;
         const std::size_t blank = word.find(' ');

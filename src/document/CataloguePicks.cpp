@@ -12,17 +12,17 @@ namespace {
 
 struct Catalogue {
     CellNames names;
-    PickList list;
+    CatalogueKind list;
 };
 
 constexpr Catalogue kCatalogues[] = {
-    {CellNames::Grains, PickList::Grain}, {CellNames::Extracts, PickList::Extract},
-    {CellNames::Hops, PickList::Hop},     {CellNames::PitchedYeast, PickList::Yeast},
-    {CellNames::Waters, PickList::Water}, {CellNames::Salts, PickList::Treatment},
-    {CellNames::Sugars, PickList::Sugar},
+    {CellNames::Grains, CatalogueKind::Grain}, {CellNames::Extracts, CatalogueKind::Extract},
+    {CellNames::Hops, CatalogueKind::Hop},     {CellNames::PitchedYeast, CatalogueKind::Yeast},
+    {CellNames::Waters, CatalogueKind::Water}, {CellNames::Salts, CatalogueKind::Salt},
+    {CellNames::Sugars, CatalogueKind::Sugar},
 };
 
-std::optional<CellNames> NamesOf(PickList list) {
+std::optional<CellNames> NamesOf(CatalogueKind list) {
     for (const Catalogue& catalogue : kCatalogues)
         if (catalogue.list == list) return catalogue.names;
     return std::nullopt;
@@ -30,7 +30,7 @@ std::optional<CellNames> NamesOf(PickList list) {
 
 }  // namespace
 
-std::optional<PickList> CataloguePicks::ListOf(const Grid& grid, int row, int col) const {
+std::optional<CatalogueKind> CataloguePicks::ListOf(const Grid& grid, int row, int col) const {
     if (!cells_.CanEdit(grid, row, col)) return std::nullopt;
     const CellNames names = RuleOf(grid, col).names;
     // Other notes than those of a pitched yeast are nobody's name.
@@ -41,22 +41,22 @@ std::optional<PickList> CataloguePicks::ListOf(const Grid& grid, int row, int co
 }
 
 void CataloguePicks::BrowseStyles() {
-    recipe_.PickFromCatalogue(PickList::Style, recipe_.record.cmbStyle.Text());
+    recipe_.PickFromCatalogue(CatalogueKind::Style, recipe_.record.cmbStyle.Text());
 }
 
 bool CataloguePicks::BrowseCell(Grid& grid) {
     const int row = grid.CurrentRow(), col = grid.CurrentCol();
     if (grid.Selection() != GridRange{row, col, row, col}) return false;
-    const std::optional<PickList> list = ListOf(grid, row, col);
+    const std::optional<CatalogueKind> list = ListOf(grid, row, col);
     if (!list) return false;
     const std::string& text = grid.Text(row, col);
     recipe_.PickFromCatalogue(*list,
-                              std::string(*list == PickList::Yeast ? PitchedYeastName(text) : Trim(text)));
+                              std::string(*list == CatalogueKind::Yeast ? PitchedYeastName(text) : Trim(text)));
     return true;
 }
 
-void CataloguePicks::Take(PickList list, std::string_view name) {
-    if (list == PickList::Style) {
+void CataloguePicks::Take(CatalogueKind list, std::string_view name) {
+    if (list == CatalogueKind::Style) {
         style_.ChangeStyle(name);
         return;
     }

@@ -7,7 +7,7 @@
 #include "document/OpenRecipe.h"
 #include "document/RecipeCells.h"
 #include "document/RecipeStyle.h"
-#include "tree/PickList.h"
+#include "store/CatalogueKind.h"
 
 namespace tw {
 
@@ -18,7 +18,7 @@ class CataloguePicks {
 
     // The catalogue that a cell's name stands in; nothing for a cell that holds no such name, and for one
     // that cannot be edited. Of gridLog it is that of the yeasts, for the notes of a row that pitches one.
-    std::optional<PickList> ListOf(const Grid& grid, int row, int col) const;
+    std::optional<CatalogueKind> ListOf(const Grid& grid, int row, int col) const;
     // Let the brewer choose from a catalogue, which opens on the present name; the choice goes into the
     // style, into the current cell. BrowseCell is false, and asks nothing, for a cell without a catalogue and
     // while more cells are selected.
@@ -27,7 +27,7 @@ class CataloguePicks {
     // A name that was chosen from the list. A style becomes the recipe's; any other name goes into the
     // current row of the grid of its kind (a yeast into the notes of gridLog), and the row is filled as if it
     // had been typed.
-    void Take(PickList list, std::string_view name);
+    void Take(CatalogueKind list, std::string_view name);
 
   private:
     OpenRecipe& recipe_;

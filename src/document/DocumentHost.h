@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "record/RecipeCalculator.h"
-#include "tree/PickList.h"
+#include "store/CatalogueKind.h"
 
 namespace tw {
 
@@ -64,7 +64,7 @@ class DocumentHost {
     virtual void AddToMRU(std::string_view name) = 0;
     // The brewer wants to choose from a catalogue, starting on name: what is chosen goes to the document's
     // TakeChoice.
-    virtual void PickFromCatalogue(RecipeDocument&, PickList, const std::string& /*name*/) {}
+    virtual void PickFromCatalogue(RecipeDocument&, CatalogueKind, const std::string& /*name*/) {}
     // An edit of the recipe; it is changed.
     virtual void DocumentEdited(const RecipeDocument&) {}
     // The document's caption or changed state is another one.

@@ -59,7 +59,7 @@ class OpenRecipe {
     // The caption has changed.
     void Renamed() { host.DocumentRenamed(document_); }
     // The brewer wants to choose from a catalogue, starting on name.
-    void PickFromCatalogue(PickList list, const std::string& name) {
+    void PickFromCatalogue(CatalogueKind list, const std::string& name) {
         host.PickFromCatalogue(document_, list, name);
     }
     // Sets the commands of undo and redo by the history.

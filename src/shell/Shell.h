@@ -248,7 +248,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void DeleteRecipe(std::string_view name) override;
     void RecipeStored(std::string_view name) override;
     void AddToMRU(std::string_view name) override;
-    void PickFromCatalogue(RecipeDocument& document, PickList list, const std::string& name) override;
+    void PickFromCatalogue(RecipeDocument& document, CatalogueKind list, const std::string& name) override;
     void DocumentEdited(const RecipeDocument& document) override;
     void DocumentRenamed(const RecipeDocument& document) override;
 
@@ -311,7 +311,7 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void ShowOpenDialog();
     void ShowDatabaseSetup();
     // Shows the selected row of a picker's list, and those around it, to be read.
-    void ViewCatalogueRow(PickList type, ListTable& items);
+    void ViewCatalogueRow(CatalogueKind type, ListTable& items);
     // What the dialog has come to; a printer that was chosen has the job by then.
     PrinterAnswer::Result PrintThroughDialog(bool quick);
     void PrintOn(std::unique_ptr<PrinterDevice> device);

@@ -169,9 +169,9 @@ bool Shell::PressButton(std::string_view key) {
     return RunAction(FindAction(key) ? key : std::string_view(button->menuItem));
 }
 
-void Shell::PickFromCatalogue(RecipeDocument& document, PickList list, const std::string& name) {
+void Shell::PickFromCatalogue(RecipeDocument& document, CatalogueKind list, const std::string& name) {
     LvShowModel picker(list, *database_, *tree_, name);
-    picker.SetViewer([this](PickList type, ListTable& items) { ViewCatalogueRow(type, items); });
+    picker.SetViewer([this](CatalogueKind type, ListTable& items) { ViewCatalogueRow(type, items); });
     platform_.dialogs.ShowModal(picker);
     if (!picker.Cancelled()) document.Picks().Take(list, picker.Answer());
 }

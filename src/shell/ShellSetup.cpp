@@ -6,14 +6,6 @@
 #include "values/Text.h"
 
 namespace tw {
-namespace {
-
-// The catalogue of each list to pick from, in their order.
-constexpr Catalogue kCatalogueOf[kPickLists] = {
-    Catalogue::Styles, Catalogue::Grains,        Catalogue::Extracts,       Catalogue::Hops,
-    Catalogue::Yeast,  Catalogue::WaterProfiles, Catalogue::TreatmentSalts, Catalogue::PrimingSugars};
-
-}  // namespace
 
 CatalogueContext Shell::Catalogues() {
     return {*database_, *tree_, *objects_, platform_.messages, platform_.dialogs, platform_.clock};
@@ -44,9 +36,9 @@ std::optional<std::string> Shell::EditStyle(std::string_view name, std::int64_t 
     return editor.Selection();
 }
 
-void Shell::ViewCatalogueRow(PickList type, ListTable& items) {
+void Shell::ViewCatalogueRow(CatalogueKind type, ListTable& items) {
     const CatalogueContext context = Catalogues();
-    const auto editor = MakeEditor(kCatalogueOf[static_cast<std::size_t>(type)], context);
+    const auto editor = MakeEditor(type, context);
     ObjectNavigator navigator(items);
     if (editor->Folders() == nullptr) editor->SetNavigator(navigator);
     editor->SetName(items.Row(items.Selected()).key);

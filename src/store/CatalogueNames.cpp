@@ -25,11 +25,6 @@ void WriteFacts(Database& database, std::string_view table, const CatalogueSheet
             {table, row.Text("name"), cell(row, code), cell(row, source), cell(row, form)});
 }
 
-std::string_view ConditionOf(CatalogueKind kind) {
-    if (kind == CatalogueKind::Grain) return " AND GRAIN";
-    return kind == CatalogueKind::Extract ? " AND NOT GRAIN" : "";
-}
-
 }  // namespace
 
 bool CatalogueNames::HasTables() const {
@@ -41,7 +36,7 @@ bool CatalogueNames::HasTables() const {
 
 std::optional<std::string> CatalogueNames::NamedRow(CatalogueKind kind, std::string_view name) const {
     std::string sql("SELECT NAME FROM ");
-    sql.append(TableOf(kind)).append(" WHERE NAME = ?").append(ConditionOf(kind));
+    sql.append(TableOf(kind)).append(" WHERE NAME = ?").append(WordsOf(kind).condition);
     const Recordset row = database_.OpenRecordset(sql, {name});
     if (row.AtEnd()) return std::nullopt;
     return row.Fields(0).Text();

@@ -5,6 +5,7 @@
 #include <map>
 #include <set>
 
+#include "store/CatalogueKind.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -176,7 +177,8 @@ using NamesOfTables = std::map<std::string_view, std::set<std::string>>;
 // An alias that is a row's own name would never be looked at.
 void CheckAliases(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
     NamesOfTables exact, upper;
-    for (const std::string_view table : kNameTables) {
+    for (const std::string_view word : kNameKinds) {
+        const std::string_view table = TableOfNameKind(word);
         for (const CatalogueRow& row : SheetOf(catalogue, table).rows) {
             exact[table].insert(row.Text("name"));
             upper[table].insert(Upper(row.Text("name")));
@@ -218,9 +220,8 @@ void CheckFormer(const CatalogueSheets& catalogue, CatalogueProblems& problems) 
 }  // namespace
 
 std::string_view TableOfNameKind(std::string_view word) {
-    const auto found = std::ranges::find(kNameKinds, word);
-    return found == kNameKinds.end() ? std::string_view()
-                                     : kNameTables[static_cast<std::size_t>(found - kNameKinds.begin())];
+    const auto* const found = std::ranges::find(kCatalogueWords, word, &CatalogueRowWords::sheetWord);
+    return found == kCatalogueWords.end() ? std::string_view() : found->table;
 }
 
 CatalogueSheets ReadCatalogue(const std::string& folder, CatalogueProblems& problems) {

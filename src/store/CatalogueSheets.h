@@ -14,13 +14,10 @@ namespace tw {
 inline constexpr std::array<std::string_view, 5> kYeastTypes = {"Ale", "Lager", "Wheat", "Lactic",
                                                                 "Wine/Mead/Cider"};
 
-// The words of the columns called "kind" of aliases and of former rows. The table at the place of a word
-// holds the rows that it means.
+// The words of the columns called "kind" of aliases and of former rows.
 inline constexpr std::array<std::string_view, 7> kNameKinds = {"fermentable", "hop",   "yeast", "style",
                                                                "salt",        "sugar", "water"};
-inline constexpr std::array<std::string_view, 7> kNameTables = {"GRAINS", "HOPS",   "YEAST",         "STYLES",
-                                                                "SALTS",  "SUGARS", "WATER_PROFILES"};
-// Empty for any other word.
+// The table with the rows that such a word means; empty for any other word.
 std::string_view TableOfNameKind(std::string_view word);
 
 // The words of the column "fate" of former rows: what became of a row that an earlier release delivered.

@@ -1,7 +1,5 @@
 #include "tree/LvShowModel.h"
 
-#include <array>
-
 #include "store/CatalogueNames.h"
 #include "store/ObjectKeys.h"
 #include "tree/ListFormats.h"
@@ -9,19 +7,12 @@
 #include "values/Text.h"
 
 namespace tw {
-namespace {
 
-constexpr std::array<std::string_view, kPickLists> kTitles = {
-    "Select Style", "Select Grain",         "Select Extract",   "Select Hop Variety",
-    "Select Yeast", "Select Water Profile", "Select Treatment", "Select Priming Sugar"};
-
-}  // namespace
-
-LvShowModel::LvShowModel(PickList type, Database& database, const TWTree& tree, std::string_view name)
+LvShowModel::LvShowModel(CatalogueKind type, Database& database, const TWTree& tree, std::string_view name)
     : type_(type),
       filler_(database, tree),
-      name_(CatalogueNames(database).RowOf(KindOf(type), Trim(name)).value_or(std::string(name))),
-      guides_(type == PickList::Style ? StyleGuides(database) : std::string()) {
+      name_(CatalogueNames(database).RowOf(type, Trim(name)).value_or(std::string(name))),
+      guides_(type == CatalogueKind::Style ? StyleGuides(database) : std::string()) {
     folders_.Fill([&](TreeView& view) {
         if (HasFolders()) tree.PopulateTreeViewForStyleList(view);
     });
@@ -31,34 +22,14 @@ LvShowModel::LvShowModel(PickList type, Database& database, const TWTree& tree, 
 }
 
 std::string LvShowModel::Title() const {
-    return std::string(kTitles[static_cast<std::size_t>(type_)]);
+    return "Select " + std::string(WordsOf(type_).picked);
 }
 
 void LvShowModel::Fill(std::int64_t folderId) {
-    switch (type_) {
-        case PickList::Style:
-            filler_.FillStyles(items_, folderId);
-            break;
-        case PickList::Grain:
-        case PickList::Extract:
-            filler_.FillGrains(items_, type_ == PickList::Grain);
-            break;
-        case PickList::Hop:
-            filler_.FillHops(items_);
-            break;
-        case PickList::Yeast:
-            filler_.FillYeast(items_);
-            break;
-        case PickList::Water:
-            filler_.FillWaterProfiles(items_);
-            break;
-        case PickList::Treatment:
-            filler_.FillSalts(items_);
-            break;
-        case PickList::Sugar:
-            filler_.FillSugars(items_);
-            break;
-    }
+    if (type_ == CatalogueKind::Style)
+        filler_.FillStyles(items_, folderId);
+    else
+        filler_.Fill(items_, type_);
     items_.Select(items_.FindNearest(name_));
 }
 
@@ -99,7 +70,7 @@ void LvShowModel::Accept() {
     const ListRow& row = items_.Row(items_.Selected());
     answer_ = row.key;
     // Without a description there is nothing to part from the name: a " - " alone would become part of it.
-    if (type_ == PickList::Yeast && !IsBlank(row.cells[1])) answer_ += " - " + row.cells[1];
+    if (type_ == CatalogueKind::Yeast && !IsBlank(row.cells[1])) answer_ += " - " + row.cells[1];
     cancelled_ = false;
     open_ = false;
 }

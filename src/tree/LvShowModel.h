@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "platform/DialogModel.h"
+#include "store/CatalogueKind.h"
 #include "tree/ListTable.h"
-#include "tree/PickList.h"
 #include "tree/TreeItems.h"
 #include "tree/lvFiller.h"
 
@@ -17,23 +17,23 @@ namespace tw {
 class LvShowModel final : public DialogModel {
   public:
     // Shows the chosen row of the list to be read; the list's selection may be another afterwards.
-    using Viewer = std::function<void(PickList type, ListTable& items)>;
+    using Viewer = std::function<void(CatalogueKind type, ListTable& items)>;
 
     // name: what the search starts on; another name of a row stands for that row. REQUIRES: both live for as
     // long as the dialog.
-    LvShowModel(PickList type, Database& database, const TWTree& tree, std::string_view name);
+    LvShowModel(CatalogueKind type, Database& database, const TWTree& tree, std::string_view name);
 
     // What cmdView does; it stays off without one.
     void SetViewer(Viewer viewer) { viewer_ = std::move(viewer); }
 
-    PickList Type() const { return type_; }
+    CatalogueKind Type() const { return type_; }
     // "Select Style".
     std::string Title() const;
     ListTable& Items() { return items_; }
     // The guides that the codes of the styles are from; empty without codes and for other lists.
     const std::string& Guides() const { return guides_; }
     // treeFolders, which the style picker alone has.
-    bool HasFolders() const { return type_ == PickList::Style; }
+    bool HasFolders() const { return type_ == CatalogueKind::Style; }
     TreeItems& Folders() { return folders_; }
     // The list follows, on the row nearest to the name. False for no such folder.
     bool ChooseFolder(std::string_view key);
@@ -60,7 +60,7 @@ class LvShowModel final : public DialogModel {
     void Fill(std::int64_t folderId);
     void Accept();
 
-    PickList type_;
+    CatalogueKind type_;
     lvFiller filler_;
     std::string name_;
     std::string guides_;

@@ -13,21 +13,6 @@
 
 namespace tw {
 
-// The catalogues, in the order in which database setup offers them.
-enum class Catalogue : int {
-    Styles,
-    Grains,
-    Extracts,
-    Hops,
-    Yeast,
-    PrimingSugars,
-    WaterProfiles,
-    TreatmentSalts
-};
-inline constexpr int kCatalogues = 8;
-// What one of its rows is called: "style", "hop variety".
-std::string_view WordOf(Catalogue catalogue);
-
 // A cell that has no value shows blanks: one in the columns of dates, two in all others. What cannot be read,
 // such as a row that is gone, is shown as far as it can be.
 class lvFiller {
@@ -67,7 +52,7 @@ class lvFiller {
     void FillSalts(ListTable& list) const;
     void FillSugars(ListTable& list) const;
     // One of those; of the styles the folders and styles at the root.
-    void Fill(ListTable& list, Catalogue catalogue) const;
+    void Fill(ListTable& list, CatalogueKind catalogue) const;
 
   private:
     void FillIons(ListTable& list, const char* nameTitle, CatalogueKind kind, const char* unit) const;

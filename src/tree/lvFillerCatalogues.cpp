@@ -1,6 +1,5 @@
 // The lists of the catalogues.
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <utility>
 
@@ -15,9 +14,6 @@ namespace tw {
 namespace {
 
 using enum ListColumnKind;
-
-constexpr std::array<std::string_view, kCatalogues> kWords = {
-    "style", "grain", "extract", "hop variety", "yeast", "priming sugar", "water profile", "treatment salt"};
 
 // The row of the present record, under its name.
 ListRow NamedRow(const Recordset& rows, std::string_view nameField) {
@@ -98,10 +94,6 @@ ListRow GrainRow(const Recordset& rows, int group, const RowFacts& facts) {
 }
 
 }  // namespace
-
-std::string_view WordOf(Catalogue catalogue) {
-    return kWords[static_cast<std::size_t>(catalogue)];
-}
 
 void lvFiller::FillStyles(ListTable& list, std::int64_t folderId) const {
     SetUpStyleColumns(list);
@@ -212,23 +204,23 @@ void lvFiller::FillSugars(ListTable& list) const {
               });
 }
 
-void lvFiller::Fill(ListTable& list, Catalogue catalogue) const {
+void lvFiller::Fill(ListTable& list, CatalogueKind catalogue) const {
     switch (catalogue) {
-        case Catalogue::Styles:
+        case CatalogueKind::Style:
             return FillStylesAndFolders(list, 0);
-        case Catalogue::Grains:
+        case CatalogueKind::Grain:
             return FillGrains(list, true);
-        case Catalogue::Extracts:
+        case CatalogueKind::Extract:
             return FillGrains(list, false);
-        case Catalogue::Hops:
+        case CatalogueKind::Hop:
             return FillHops(list);
-        case Catalogue::Yeast:
+        case CatalogueKind::Yeast:
             return FillYeast(list);
-        case Catalogue::PrimingSugars:
+        case CatalogueKind::Sugar:
             return FillSugars(list);
-        case Catalogue::WaterProfiles:
+        case CatalogueKind::Water:
             return FillWaterProfiles(list);
-        case Catalogue::TreatmentSalts:
+        case CatalogueKind::Salt:
             return FillSalts(list);
     }
 }

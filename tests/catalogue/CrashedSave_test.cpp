@@ -74,7 +74,7 @@ TEST_F(CrashedSave, OfARenamedGrainLeavesTheOldRow) {
     // The name, the type twice and its insert, the grain's delete and insert, the old type's count and
     // delete.
     ExpectWhole(8, [](const CatalogueContext& context, const auto& arm) {
-        const auto editor = MakeEditor(Catalogue::Grains, context);
+        const auto editor = MakeEditor(CatalogueKind::Grain, context);
         editor->SetName("Pale");
         editor->SetControl("Text1", "Pale Ale");
         editor->SetControl("Combo1", "Malt");
@@ -87,7 +87,7 @@ TEST_F(CrashedSave, OfARenamedGrainLeavesTheOldRow) {
 TEST_F(CrashedSave, OfADeletedGrainLeavesIt) {
     ExpectWhole(4, [](const CatalogueContext& context, const auto& arm) {
         DBSetupModel setup(context);
-        setup.Choose(Catalogue::Grains);
+        setup.Choose(CatalogueKind::Grain);
         arm();
         setup.Press("cmdDelete");
     });

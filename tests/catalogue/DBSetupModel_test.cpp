@@ -11,7 +11,7 @@ using testing::IsEmpty;
 
 class Setup : public EditorTest {
   protected:
-    DBSetupModel& Show(Catalogue catalogue) {
+    DBSetupModel& Show(CatalogueKind catalogue) {
         model = std::make_unique<DBSetupModel>(context);
         model->Choose(catalogue);
         return *model;
@@ -43,7 +43,7 @@ class Setup : public EditorTest {
 TEST_F(Setup, EachEntryShowsItsCatalogueOnTheFirstRow) {
     Lines shown;
     for (const std::string& entry : DBSetupModel::Entries()) {
-        DBSetupModel& setup = Show(Catalogue::Hops);
+        DBSetupModel& setup = Show(CatalogueKind::Hop);
         EXPECT_TRUE(setup.SetControl("Combo1", entry));
         shown.push_back(entry + ": " + setup.Items().Columns().front().title);
     }
@@ -53,11 +53,11 @@ TEST_F(Setup, EachEntryShowsItsCatalogueOnTheFirstRow) {
                                    "Treatment Salts: Treatment Salt Name"));
     EXPECT_FALSE(model->SetControl("Combo1", "Malts"));
     Hops({"Saaz", "Fuggle"});
-    EXPECT_EQ(Show(Catalogue::Hops).Items().SelectedText(), "Fuggle");
+    EXPECT_EQ(Show(CatalogueKind::Hop).Items().SelectedText(), "Fuggle");
 }
 
 TEST_F(Setup, EditAndDeleteAreOffWithoutARow) {
-    DBSetupModel& setup = Show(Catalogue::Hops);
+    DBSetupModel& setup = Show(CatalogueKind::Hop);
     EXPECT_FALSE(setup.EditEnabled());
     setup.Press("cmdEdit");
     setup.Press("cmdDelete");
@@ -68,7 +68,7 @@ TEST_F(Setup, EditAndDeleteAreOffWithoutARow) {
 
 TEST_F(Setup, DeletingAsksFirst) {
     Hops({"Fuggle", "It's"});
-    DBSetupModel& setup = Show(Catalogue::Hops);
+    DBSetupModel& setup = Show(CatalogueKind::Hop);
     setup.SetControl("lvItems", "it's");
     setup.Press("cmdDelete");
     EXPECT_THAT(Boxes(), ElementsAre("[Delete hop variety?] Are you sure you want to delete the hop variety "
@@ -87,7 +87,7 @@ TEST_F(Setup, TheLastGrainOfATypeTakesItAlong) {
     Grain("Pale", 1);
     Grain("Black", 2);
     Grain("Bare", 0);
-    DBSetupModel& setup = Show(Catalogue::Grains);
+    DBSetupModel& setup = Show(CatalogueKind::Grain);
     EXPECT_THAT(Names(), ElementsAre("Base", "Pale", "Roasted", "Black", "Bare"));
     outside.messages.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
     setup.SetControl("lvItems", "Black");
@@ -111,14 +111,14 @@ TEST_F(Setup, DeletingAHopLeavesTheRecipesThatUseIt) {
     Hops({"Saaz"});
     db->Execute("INSERT INTO RECIPE_HOPS (RECIPE_ID, ROW_ID, NAME) VALUES (1, 0, 'Saaz')");
     outside.messages.answers = {Answer::Yes};
-    Show(Catalogue::Hops).Press("cmdDelete");
+    Show(CatalogueKind::Hop).Press("cmdDelete");
     EXPECT_THAT(Select("SELECT NAME FROM RECIPE_HOPS"), ElementsAre("Saaz"));
 }
 
 TEST_F(Setup, DeletingAStyleGoesThroughTheTree) {
     Style("Stout", 0);
     outside.messages.answers = {Answer::Yes};
-    Show(Catalogue::Styles).Press("cmdDelete");
+    Show(CatalogueKind::Style).Press("cmdDelete");
     EXPECT_THAT(Boxes(),
                 ElementsAre("[Delete style?] Are you sure you want to delete the style 'Stout'? -> Yes"));
     EXPECT_THAT(notices.log, ElementsAre("style deleted 1"));
@@ -127,7 +127,7 @@ TEST_F(Setup, DeletingAStyleGoesThroughTheTree) {
 
 TEST_F(Setup, WhatAnEditorHasSavedIsSelected) {
     Hops({"Fuggle", "Saaz"});
-    DBSetupModel& setup = Show(Catalogue::Hops);
+    DBSetupModel& setup = Show(CatalogueKind::Hop);
     Next([](DialogModel& editor) {
         editor.SetControl("Text1", "Zeus");
         editor.Press("cmdOK");
@@ -150,7 +150,7 @@ TEST_F(Setup, WhatAnEditorHasSavedIsSelected) {
 
 TEST_F(Setup, TheNavigatorFollowsARenameThatWasApplied) {
     Hops({"B", "D"});
-    DBSetupModel& setup = Show(Catalogue::Hops);
+    DBSetupModel& setup = Show(CatalogueKind::Hop);
     Next([](DialogModel& editor) {
         editor.SetControl("Text1", "E");
         editor.Press("cmdApply");
@@ -171,7 +171,7 @@ TEST_F(Setup, FoldersOfStylesAreEnteredAndLeft) {
     const std::int64_t darker = io.CreateStyleFolder(dark, "Darker", true);
     Style("Bock", darker);
     Style("Alt", 0);
-    DBSetupModel& setup = Show(Catalogue::Styles);
+    DBSetupModel& setup = Show(CatalogueKind::Style);
     EXPECT_THAT(Names(), ElementsAre("Dark", "Alt"));
     EXPECT_FALSE(setup.EditEnabled());
     EXPECT_FALSE(setup.DeleteEnabled());
@@ -196,7 +196,7 @@ TEST_F(Setup, FoldersOfStylesAreEnteredAndLeft) {
 
 TEST_F(Setup, ANewStyleStandsInTheFolderThatIsShown) {
     io.CreateStyleFolder(0, "Dark", true);
-    DBSetupModel& setup = Show(Catalogue::Styles);
+    DBSetupModel& setup = Show(CatalogueKind::Style);
     setup.Press("lvItems");
     Next([](DialogModel& editor) {
         editor.SetControl("Text1", "Stout");
@@ -216,7 +216,7 @@ TEST_F(Setup, ANewStyleStandsInTheFolderThatIsShown) {
 
 TEST_F(Setup, AFolderThatWasMadeInACancelledEditorIsShown) {
     Style("Bock", 0);
-    DBSetupModel& setup = Show(Catalogue::Styles);
+    DBSetupModel& setup = Show(CatalogueKind::Style);
     Next([](DialogModel& editor) { dynamic_cast<CatalogueEditor&>(editor).Folders()->CreateFolder(); });
     setup.Press("cmdEdit");
     EXPECT_THAT(Names(), ElementsAre("New Folder", "Bock"));
@@ -227,7 +227,7 @@ TEST_F(Setup, AFilterFindsTheStylesOfAllFolders) {
     const std::int64_t dark = io.CreateStyleFolder(0, "Dark", true);
     Style("Dry Stout", dark);
     Style("Bock", 0);
-    DBSetupModel& setup = Show(Catalogue::Styles);
+    DBSetupModel& setup = Show(CatalogueKind::Style);
     EXPECT_TRUE(setup.SetControl("txtFilter", "stout"));
     EXPECT_THAT(Names(), ElementsAre("Dry Stout"));
     EXPECT_TRUE(setup.EditEnabled());
@@ -242,7 +242,7 @@ TEST_F(Setup, AFilterFindsTheStylesOfAllFolders) {
 
 TEST_F(Setup, AFilterGivesWayToWhatWasSaved) {
     Hops({"Fuggle", "Saaz"});
-    DBSetupModel& setup = Show(Catalogue::Hops);
+    DBSetupModel& setup = Show(CatalogueKind::Hop);
     setup.SetFilter("saaz");
     Next([](DialogModel& editor) {
         editor.SetControl("Text1", "Zeus");
@@ -256,7 +256,7 @@ TEST_F(Setup, AFilterGivesWayToWhatWasSaved) {
 TEST_F(Setup, DeletingUnderAFilterLeavesTheHeadingOfWhatIsHidden) {
     db->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
     for (const char* name : {"Mild", "Pale 1", "Pale 2"}) Grain(name, 1);
-    DBSetupModel& setup = Show(Catalogue::Grains);
+    DBSetupModel& setup = Show(CatalogueKind::Grain);
     setup.SetFilter("pale");
     outside.messages.answers = {Answer::Yes, Answer::Yes};
     setup.Press("cmdDelete");
@@ -271,7 +271,7 @@ TEST_F(Setup, DeletingUnderAFilterLeavesTheHeadingOfWhatIsHidden) {
 
 TEST_F(Setup, TheOrderOfTheBrewerStaysWhenTheListIsReadAgain) {
     Hops({"A", "B"});
-    DBSetupModel& setup = Show(Catalogue::Hops);
+    DBSetupModel& setup = Show(CatalogueKind::Hop);
     setup.Items().Sort(0, true);
     Next([](DialogModel& editor) {
         editor.SetControl("Text1", "C");
@@ -283,7 +283,7 @@ TEST_F(Setup, TheOrderOfTheBrewerStaysWhenTheListIsReadAgain) {
 
 TEST_F(Setup, AFailedDeletionRisesAndLeavesTheRow) {
     Hops({"Saaz"});
-    DBSetupModel& setup = Show(Catalogue::Hops);
+    DBSetupModel& setup = Show(CatalogueKind::Hop);
     outside.messages.answers = {Answer::Yes};
     FailAt("DELETE");
     EXPECT_THROW(setup.Press("cmdDelete"), Error);

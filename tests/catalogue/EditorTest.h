@@ -42,7 +42,7 @@ class EditorTest : public testing::Test {
   protected:
     EditorTest() { tree.InitFromDatabase(); }
 
-    std::unique_ptr<CatalogueEditor> Open(Catalogue catalogue, const std::string& name = "") {
+    std::unique_ptr<CatalogueEditor> Open(CatalogueKind catalogue, const std::string& name = "") {
         auto editor = MakeEditor(catalogue, context);
         editor->SetName(name);
         return editor;

@@ -10,7 +10,7 @@ using testing::IsEmpty;
 class Ingredients : public EditorTest {};
 
 TEST_F(Ingredients, ANewHopIsLookedUpAndInserted) {
-    const auto editor = Open(Catalogue::Hops);
+    const auto editor = Open(CatalogueKind::Hop);
     EXPECT_THAT(StatementsOf([&] {
                     Save(*editor, {{"Text1", " Zeus "}, {"Text2", "Bittering"}, {"gridInfo(0,0)", "14 %"}});
                 }),
@@ -24,7 +24,7 @@ TEST_F(Ingredients, ANewHopIsLookedUpAndInserted) {
 
 TEST_F(Ingredients, AStoredHopIsDeletedAndInserted) {
     db->Execute("INSERT INTO HOPS (NAME, USAGE, AA_LO, AA_HI) VALUES ('Zeus', 'Aroma', 14, 16)");
-    const auto editor = Open(Catalogue::Hops, "ZEUS");
+    const auto editor = Open(CatalogueKind::Hop, "ZEUS");
     EXPECT_THAT(Shown(*editor),
                 ElementsAre("Text1=Zeus", "Text2=Aroma", "txtDesc=", "gridInfo(0,0)=14", "gridInfo(0,1)=16"));
     EXPECT_THAT(
@@ -37,17 +37,17 @@ TEST_F(Ingredients, AStoredHopIsDeletedAndInserted) {
 }
 
 TEST_F(Ingredients, BlankAlphaAcidsAreNull) {
-    Save(*Open(Catalogue::Hops), {{"Text1", "Zeus"}});
+    Save(*Open(CatalogueKind::Hop), {{"Text1", "Zeus"}});
     EXPECT_THAT(Select("SELECT NAME, USAGE, DESCR, AA_LO, AA_HI FROM HOPS"), ElementsAre("Zeus|||NULL|NULL"));
 }
 
 TEST_F(Ingredients, ARangeWithItsHighEndAloneHasItAtBoth) {
-    Save(*Open(Catalogue::PrimingSugars), {{"Text1", "Honey"}, {"gridInfo(0,1)", "85"}});
+    Save(*Open(CatalogueKind::Sugar), {{"Text1", "Honey"}, {"gridInfo(0,1)", "85"}});
     EXPECT_THAT(Select("SELECT FERMENT_LO, FERMENT_HI FROM SUGARS"), ElementsAre("85|85"));
 }
 
 TEST_F(Ingredients, AReversedRangeIsStoredAsItIsAndHintedAt) {
-    const auto editor = Open(Catalogue::Hops);
+    const auto editor = Open(CatalogueKind::Hop);
     editor->SetControl("gridInfo(0,0)", "9");
     EXPECT_EQ(editor->RangeHint(), "");
     editor->SetControl("gridInfo(0,1)", "4");
@@ -58,7 +58,7 @@ TEST_F(Ingredients, AReversedRangeIsStoredAsItIsAndHintedAt) {
 }
 
 TEST_F(Ingredients, AYeastIsStoredWithItsTypeAndInFahrenheit) {
-    const auto editor = Open(Catalogue::Yeast);
+    const auto editor = Open(CatalogueKind::Yeast);
     EXPECT_EQ(editor->List("Combo1").text, "Ale");
     EXPECT_THAT(editor->List("Combo1").entries,
                 ElementsAre("Ale", "Lager", "Wheat", "Lactic", "Wine/Mead/Cider"));
@@ -80,20 +80,20 @@ TEST_F(Ingredients, AYeastIsStoredWithItsTypeAndInFahrenheit) {
 TEST_F(Ingredients, ATypeWithoutAWordAndNoTypeStayAsTheyAre) {
     db->Execute("INSERT INTO YEAST (NAME, TYPE) VALUES ('Odd', 9)");
     db->Execute("INSERT INTO YEAST (NAME) VALUES ('None')");
-    Save(*Open(Catalogue::Yeast, "Odd"), {{"Text2", "x"}});
-    Save(*Open(Catalogue::Yeast, "None"), {{"Text2", "x"}});
+    Save(*Open(CatalogueKind::Yeast, "Odd"), {{"Text2", "x"}});
+    Save(*Open(CatalogueKind::Yeast, "None"), {{"Text2", "x"}});
     EXPECT_THAT(Select("SELECT NAME, TYPE FROM YEAST ORDER BY NAME"), ElementsAre("None|NULL", "Odd|9"));
 }
 
 TEST_F(Ingredients, ABlankIonIsZero) {
-    const auto profile = Open(Catalogue::WaterProfiles);
+    const auto profile = Open(CatalogueKind::Water);
     EXPECT_THAT(StatementsOf([&] {
                     Save(*profile, {{"Text1", "Burton"}, {"gridInfo(0,0)", "270"}, {"gridInfo(5,0)", ".5"}});
                 }),
                 ElementsAre("SELECT * FROM WATER_PROFILES WHERE NAME = 'Burton'",
                             "INSERT INTO WATER_PROFILES (NAME, DESCR, CA, CO3, CL, MG, NA, SO4) VALUES "
                             "('Burton', '', 270, 0, 0, 0, 0, 0.5)"));
-    const auto salt = Open(Catalogue::TreatmentSalts);
+    const auto salt = Open(CatalogueKind::Salt);
     EXPECT_FALSE(salt->SetControl("gridInfo(0,1)", "1"));
     Save(*salt, {{"Text1", "Chalk"}});
     EXPECT_THAT(Select("SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM SALTS"), ElementsAre("Chalk|0|0|0|0|0|0"));
@@ -101,12 +101,12 @@ TEST_F(Ingredients, ABlankIonIsZero) {
 
 TEST_F(Ingredients, AFigureThatIsOnlyLookedAtKeepsAllItsDigits) {
     db->Execute("INSERT INTO SUGARS (NAME, FERMENT_LO, FERMENT_HI) VALUES ('Honey', 0.1, 66.66666666666667)");
-    Save(*Open(Catalogue::PrimingSugars, "Honey"), {{"txtDesc", "x"}});
+    Save(*Open(CatalogueKind::Sugar, "Honey"), {{"txtDesc", "x"}});
     EXPECT_THAT(Select("SELECT FERMENT_LO, FERMENT_HI FROM SUGARS"), ElementsAre("0.1|66.66666666666667"));
 }
 
 TEST_F(Ingredients, ARefusedCellKeepsItsLastGoodText) {
-    const auto editor = Open(Catalogue::Yeast);
+    const auto editor = Open(CatalogueKind::Yeast);
     editor->SetControl("gridInfo(0,0)", "75%");
     editor->SetControl("gridInfo(0,0)", "three");
     EXPECT_EQ(editor->CellText(0, 0), "75%");
@@ -122,7 +122,7 @@ TEST_F(Ingredients, ARefusedCellKeepsItsLastGoodText) {
 }
 
 TEST_F(Ingredients, ACellThatIsStillBeingTypedIsCheckedBeforeTheRowIsStored) {
-    const auto editor = Open(Catalogue::Hops);
+    const auto editor = Open(CatalogueKind::Hop);
     editor->SetControl("Text1", "Zeus");
     editor->TypeCell(0, 1, "strong");
     EXPECT_TRUE(editor->Press("cmdOK"));
@@ -133,7 +133,7 @@ TEST_F(Ingredients, ACellThatIsStillBeingTypedIsCheckedBeforeTheRowIsStored) {
 }
 
 TEST_F(Ingredients, AZeroDenominatorHasItsBox) {
-    const auto editor = Open(Catalogue::Yeast);
+    const auto editor = Open(CatalogueKind::Yeast);
     editor->SetControl("gridInfo(1,0)", "1/0");
     EXPECT_THAT(Boxes(), ElementsAre("[Error] Division by zero (11)"));
     EXPECT_EQ(editor->CellText(1, 0), "");
@@ -142,7 +142,7 @@ TEST_F(Ingredients, AZeroDenominatorHasItsBox) {
 TEST_F(Ingredients, ANameMustBeThereAndBeItsOwn) {
     db->Execute("INSERT INTO HOPS (NAME) VALUES ('Zeus')");
     db->Execute("INSERT INTO HOPS (NAME) VALUES ('Saaz')");
-    const auto editor = Open(Catalogue::Hops, "Saaz");
+    const auto editor = Open(CatalogueKind::Hop, "Saaz");
     Save(*editor, {{"Text1", "  "}});
     EXPECT_EQ(editor->RefusedControl(), "Text1");
     Save(*editor, {{"Text1", "zeus "}});
@@ -156,8 +156,8 @@ TEST_F(Ingredients, ANameMustBeThereAndBeItsOwn) {
 TEST_F(Ingredients, AnyNameCanBeStoredAndReadAgain) {
     for (const std::string& name : {std::string("It's \"[odd]\"; DROP"), std::string(1000, 'x'),
                                     std::string("Höpfchen % _ *"), std::string("''"), std::string("NAME")}) {
-        Save(*Open(Catalogue::Hops), {{"Text1", name}, {"txtDesc", name}});
-        const auto editor = Open(Catalogue::Hops, name);
+        Save(*Open(CatalogueKind::Hop), {{"Text1", name}, {"txtDesc", name}});
+        const auto editor = Open(CatalogueKind::Hop, name);
         EXPECT_EQ(editor->LoadedName(), name);
         EXPECT_EQ(editor->Text("txtDesc"), name);
         Save(*editor, {{"Text2", "again"}});
@@ -167,7 +167,7 @@ TEST_F(Ingredients, AnyNameCanBeStoredAndReadAgain) {
 }
 
 TEST_F(Ingredients, ANameThatIsNotThereGivesABlankForm) {
-    const auto editor = Open(Catalogue::Hops, "Nugget");
+    const auto editor = Open(CatalogueKind::Hop, "Nugget");
     EXPECT_THAT(Boxes(), ElementsAre("[Error] No data available for Nugget"));
     EXPECT_EQ(editor->LoadedName(), "");
     EXPECT_THAT(Shown(*editor),
@@ -177,7 +177,7 @@ TEST_F(Ingredients, ANameThatIsNotThereGivesABlankForm) {
 TEST_F(Ingredients, ARowThatCannotBeReadGivesABlankForm) {
     db->Execute("INSERT INTO HOPS (NAME, USAGE, AA_LO) VALUES ('Hot', 'Aroma', 1)");
     db->ExecuteNative("UPDATE HOPS SET AA_LO = 9e999");
-    const auto editor = MakeEditor(Catalogue::Hops, context);
+    const auto editor = MakeEditor(CatalogueKind::Hop, context);
     EXPECT_THROW(editor->SetName("Hot"), Error);
     EXPECT_THAT(Shown(*editor),
                 ElementsAre("Text1=", "Text2=", "txtDesc=", "gridInfo(0,0)=", "gridInfo(0,1)="));
@@ -186,14 +186,14 @@ TEST_F(Ingredients, ARowThatCannotBeReadGivesABlankForm) {
 
 TEST_F(Ingredients, NullInEveryColumnLeavesTheFormBlank) {
     db->Execute("INSERT INTO WATER_PROFILES (NAME) VALUES ('Empty')");
-    const auto editor = Open(Catalogue::WaterProfiles, "Empty");
+    const auto editor = Open(CatalogueKind::Water, "Empty");
     EXPECT_THAT(Shown(*editor),
                 ElementsAre("Text1=Empty", "txtDesc=", "gridInfo(0,0)=", "gridInfo(1,0)=", "gridInfo(2,0)=",
                             "gridInfo(3,0)=", "gridInfo(4,0)=", "gridInfo(5,0)="));
 }
 
 TEST_F(Ingredients, ApplyStoresStaysAndIsOffUntilTheNextChange) {
-    const auto editor = Open(Catalogue::Hops);
+    const auto editor = Open(CatalogueKind::Hop);
     EXPECT_FALSE(editor->ApplyEnabled());
     editor->SetControl("Text1", "Zeus");
     EXPECT_TRUE(editor->ApplyEnabled());
@@ -217,7 +217,7 @@ TEST_F(Ingredients, ApplyStoresStaysAndIsOffUntilTheNextChange) {
 
 TEST_F(Ingredients, TheOldRowStaysWhenTheNewOneCannotBeWritten) {
     db->Execute("INSERT INTO HOPS (NAME, AA_LO) VALUES ('Zeus', 14)");
-    const auto editor = Open(Catalogue::Hops, "Zeus");
+    const auto editor = Open(CatalogueKind::Hop, "Zeus");
     FailAt("INSERT");
     Save(*editor, {{"Text1", "Hercules"}});
     Work();
@@ -231,7 +231,7 @@ TEST_F(Ingredients, TheOldRowStaysWhenTheNewOneCannotBeWritten) {
 
 TEST_F(Ingredients, ARowThatWasDeletedMeanwhileIsStoredAnew) {
     db->Execute("INSERT INTO HOPS (NAME) VALUES ('Zeus')");
-    const auto editor = Open(Catalogue::Hops, "Zeus");
+    const auto editor = Open(CatalogueKind::Hop, "Zeus");
     db->Execute("DELETE FROM HOPS");
     Save(*editor, {{"Text2", "Bittering"}});
     EXPECT_THAT(Select("SELECT NAME, USAGE FROM HOPS"), ElementsAre("Zeus|Bittering"));
@@ -239,7 +239,7 @@ TEST_F(Ingredients, ARowThatWasDeletedMeanwhileIsStoredAnew) {
 
 TEST_F(Ingredients, AReadOnlyFormTakesAndStoresNothing) {
     db->Execute("INSERT INTO HOPS (NAME) VALUES ('Zeus')");
-    const auto editor = Open(Catalogue::Hops, "Zeus");
+    const auto editor = Open(CatalogueKind::Hop, "Zeus");
     editor->SetReadOnly();
     EXPECT_FALSE(editor->SetControl("Text1", "Hercules"));
     EXPECT_FALSE(editor->SetControl("gridInfo(0,0)", "1"));
@@ -263,7 +263,7 @@ TEST_F(Ingredients, AStepShowsTheNextRowAndDropsWhatWasNotApplied) {
     }
     list.Select(0);
     ObjectNavigator navigator(list);
-    const auto editor = Open(Catalogue::Hops, "A");
+    const auto editor = Open(CatalogueKind::Hop, "A");
     editor->SetNavigator(navigator);
     editor->SetControl("Text2", "new");
     editor->TypeCell(0, 0, "not checked");
@@ -286,29 +286,29 @@ TEST_F(Ingredients, AStepShowsTheNextRowAndDropsWhatWasNotApplied) {
 }
 
 TEST_F(Ingredients, OnlyTheFormsOwnControlsAndEntriesAreTaken) {
-    const auto hop = Open(Catalogue::Hops);
+    const auto hop = Open(CatalogueKind::Hop);
     for (const char* control : {"Combo1", "Combo2", "FolderID", "gridInfo(1,0)", "cmdOK", ""})
         EXPECT_FALSE(hop->SetControl(control, "1")) << control;
-    const auto yeast = Open(Catalogue::Yeast);
+    const auto yeast = Open(CatalogueKind::Yeast);
     EXPECT_FALSE(yeast->SetControl("Combo1", "Bread"));
     EXPECT_TRUE(yeast->SetControl("Combo2", "Powdery"));
     EXPECT_FALSE(yeast->Press("cmdHelp"));
 }
 
 TEST_F(Ingredients, AMaltHasTheMiddleOfItsColours) {
-    const auto grain = Open(Catalogue::Grains);
+    const auto grain = Open(CatalogueKind::Grain);
     EXPECT_FALSE(grain->ColorHcu());
     grain->SetControl("gridInfo(1,0)", "10");
     EXPECT_EQ(grain->ColorHcu(), 10);
     grain->SetControl("gridInfo(1,1)", "14");
     EXPECT_EQ(grain->ColorHcu(), 12);
-    EXPECT_FALSE(Open(Catalogue::Hops)->ColorHcu());
+    EXPECT_FALSE(Open(CatalogueKind::Hop)->ColorHcu());
 }
 
 class Grains : public EditorTest {};
 
 TEST_F(Grains, ANewTypeIsThereBeforeItsGrain) {
-    const auto editor = Open(Catalogue::Grains);
+    const auto editor = Open(CatalogueKind::Grain);
     EXPECT_THAT(StatementsOf([&] {
                     Save(*editor, {{"Text1", "Pale"}, {"Combo1", " Base Malt "}, {"gridInfo(0,0)", "36"}});
                 }),
@@ -324,7 +324,7 @@ TEST_F(Grains, TheOldTypeGoesWithItsLastGrain) {
     db->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
     db->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Roasted', TRUE)");
     db->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Pale', TRUE, 1)");
-    const auto editor = Open(Catalogue::Grains, "pale");
+    const auto editor = Open(CatalogueKind::Grain, "pale");
     EXPECT_THAT(editor->List("Combo1").entries, ElementsAre("Base", "Roasted"));
     EXPECT_EQ(editor->List("Combo1").text, "Base");
     EXPECT_THAT(
@@ -342,7 +342,7 @@ TEST_F(Grains, ATypeThatOthersHaveStays) {
     db->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
     db->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Pale', TRUE, 1)");
     db->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Mild', TRUE, 1)");
-    Save(*Open(Catalogue::Grains, "Pale"), {{"Combo1", ""}});
+    Save(*Open(CatalogueKind::Grain, "Pale"), {{"Combo1", ""}});
     EXPECT_THAT(Select("SELECT NAME FROM GRAIN_TYPES"), ElementsAre("Base"));
     EXPECT_THAT(Select("SELECT NAME, GRAIN_TYPE FROM GRAINS ORDER BY NAME"), ElementsAre("Mild|1", "Pale|0"));
 }
@@ -350,7 +350,7 @@ TEST_F(Grains, ATypeThatOthersHaveStays) {
 TEST_F(Grains, ATypeGoesWithTheApplyThatLeavesItWithoutGrains) {
     db->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
     db->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Pale', TRUE, 1)");
-    const auto editor = Open(Catalogue::Grains, "Pale");
+    const auto editor = Open(CatalogueKind::Grain, "Pale");
     const auto apply = [&](const char* type) {
         editor->SetControl("Combo1", type);
         editor->Press("cmdApply");
@@ -372,7 +372,7 @@ TEST_F(Grains, ATypeGoesWithTheApplyThatLeavesItWithoutGrains) {
 }
 
 TEST_F(Grains, ANewGrainLeavesItsFirstTypeByTheNextApply) {
-    const auto editor = Open(Catalogue::Grains);
+    const auto editor = Open(CatalogueKind::Grain);
     editor->SetControl("Text1", "Pale");
     for (const char* type : {"Base", "Kilned"}) {
         editor->SetControl("Combo1", type);
@@ -385,7 +385,7 @@ TEST_F(Grains, ANewGrainLeavesItsFirstTypeByTheNextApply) {
 TEST_F(Grains, AnApplyThatFailsLeavesTheTypeAsItIsStored) {
     db->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
     db->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Pale', TRUE, 1)");
-    const auto editor = Open(Catalogue::Grains, "Pale");
+    const auto editor = Open(CatalogueKind::Grain, "Pale");
     editor->SetControl("Combo1", "Kilned");
     FailAt("INSERT INTO GRAINS");
     editor->Press("cmdApply");
@@ -399,27 +399,27 @@ TEST_F(Grains, AnApplyThatFailsLeavesTheTypeAsItIsStored) {
 
 TEST_F(Grains, ExtractsHaveTypesAndWordsOfTheirOwn) {
     db->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Syrup', TRUE)");
-    const auto editor = Open(Catalogue::Extracts);
+    const auto editor = Open(CatalogueKind::Extract);
     EXPECT_THAT(editor->List("Combo1").entries, IsEmpty());
     Save(*editor, {{"Text1", ""}});
     Save(*editor, {{"Text1", "Dark"}, {"Combo1", "Syrup"}});
     EXPECT_THAT(Select("SELECT NAME, GRAIN FROM GRAIN_TYPES"), ElementsAre("Syrup|TRUE", "Syrup|FALSE"));
     EXPECT_THAT(Select("SELECT GRAIN, NAME, GRAIN_TYPE FROM GRAINS"), ElementsAre("FALSE|Dark|2"));
-    Save(*Open(Catalogue::Grains), {{"Text1", "DARK"}});
+    Save(*Open(CatalogueKind::Grain), {{"Text1", "DARK"}});
     EXPECT_THAT(Boxes(), ElementsAre("[Invalid Name] Extract name cannot be blank.",
                                      "[Duplicate Name] A grain or extract named 'DARK' already exists."));
 }
 
 TEST_F(Grains, AnExtractOpenedAsAGrainStaysAnExtract) {
     db->Execute("INSERT INTO GRAINS (NAME, GRAIN) VALUES ('Dark', FALSE)");
-    Save(*Open(Catalogue::Grains, "Dark"), {{"txtDesc", "Thick"}});
+    Save(*Open(CatalogueKind::Grain, "Dark"), {{"txtDesc", "Thick"}});
     EXPECT_THAT(Select("SELECT GRAIN, NAME, GRAIN_TYPE, DESCR FROM GRAINS"),
                 ElementsAre("FALSE|Dark|0|Thick"));
 }
 
 TEST_F(Grains, ATypeThatWasMadeForAGrainGoesWhenTheGrainCannotBeWritten) {
     db->Execute("INSERT INTO GRAINS (NAME, GRAIN) VALUES ('Pale', TRUE)");
-    const auto editor = Open(Catalogue::Grains, "Pale");
+    const auto editor = Open(CatalogueKind::Grain, "Pale");
     FailAt("INSERT INTO GRAINS");
     Save(*editor, {{"Combo1", "Base"}});
     Work();
@@ -429,7 +429,7 @@ TEST_F(Grains, ATypeThatWasMadeForAGrainGoesWhenTheGrainCannotBeWritten) {
 }
 
 TEST_F(Grains, EachCellHasItsWords) {
-    const auto editor = Open(Catalogue::Grains);
+    const auto editor = Open(CatalogueKind::Grain);
     for (const char* cell : {"gridInfo(0,0)", "gridInfo(1,1)"})
         for (const char* text : {"36 PPG", "-1", "1e3", "+1"}) editor->SetControl(cell, text);
     EXPECT_THAT(Boxes(), ElementsAre("[Invalid Entry] Please enter a valid PPG value",

@@ -58,7 +58,7 @@ constexpr const char* kFigures[] = {"", "36", "37.25", "0", " ", "bad", "-3"};
 
 void RandomGrains::Store(const std::string& opened) {
     const bool exists = plain.contains(Upper(opened));
-    const auto editor = Open(Catalogue::Grains, exists ? opened : "");
+    const auto editor = Open(CatalogueKind::Grain, exists ? opened : "");
     PlainGrain grain = exists ? plain[Upper(opened)] : PlainGrain{"", "", "NULL", "NULL"};
     const std::string name = Varied(OneOf(kNames)), type = Varied(OneOf(kTypes));
     editor->SetControl("Text1", name);
@@ -88,7 +88,7 @@ void RandomGrains::Store(const std::string& opened) {
 
 void RandomGrains::Drop(const std::string& name) {
     DBSetupModel setup(context);
-    setup.Choose(Catalogue::Grains);
+    setup.Choose(CatalogueKind::Grain);
     ASSERT_EQ(setup.ShowName(name), plain.contains(Upper(name)));
     if (!plain.contains(Upper(name))) return;
     outside.messages.answers.push_back(Answer::Yes);
@@ -97,7 +97,7 @@ void RandomGrains::Drop(const std::string& name) {
     DropUnusedTypes();
     // The list without the row is the one that is read anew.
     DBSetupModel fresh(context);
-    fresh.Choose(Catalogue::Grains);
+    fresh.Choose(CatalogueKind::Grain);
     ASSERT_EQ(setup.Items().Count(), fresh.Items().Count());
     for (int row = 0; row < fresh.Items().Count(); ++row)
         ASSERT_EQ(setup.Items().Row(row).cells, fresh.Items().Row(row).cells);

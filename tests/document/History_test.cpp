@@ -27,7 +27,7 @@ class HistoryTest : public DocumentTest {
         document->Lines().InsertRowForGrid(R().gridLog);
         Put(R().gridLog, 1, LogCol::Action, "Pitched Yeast");
         document->Focus().SetCurrentCell(R().gridLog, 1, LogCol::Notes);
-        document->Picks().Take(PickList::Yeast, "Ale");
+        document->Picks().Take(CatalogueKind::Yeast, "Ale");
     }
     void ExpectUndoAndRedo(const std::string& before) {
         const std::string after = State();
@@ -213,17 +213,17 @@ TEST_F(HistoryTest, EveryNameFromTheCatalogueIsOneSelection) {
         Grid& grid;
         int col;
         const char* name;
-        PickList list;
+        CatalogueKind list;
     };
     document->Lines().InsertRowForGrid(R().gridTreatment);
     document->Lines().InsertRowForGrid(R().gridLog);
-    const Choice choices[] = {{R().gridGrain, 0, "O'Brien's", PickList::Grain},
-                              {R().gridExtract, 0, "Syrup", PickList::Extract},
-                              {R().gridHops, 0, "Zeus", PickList::Hop},
-                              {R().gridLog, 2, "Cook's", PickList::Yeast},
-                              {R().gridWater, 1, "Burton", PickList::Water},
-                              {R().gridTreatment, 0, "Gypsum", PickList::Treatment},
-                              {R().gridPriming, 0, "Honey", PickList::Sugar}};
+    const Choice choices[] = {{R().gridGrain, 0, "O'Brien's", CatalogueKind::Grain},
+                              {R().gridExtract, 0, "Syrup", CatalogueKind::Extract},
+                              {R().gridHops, 0, "Zeus", CatalogueKind::Hop},
+                              {R().gridLog, 2, "Cook's", CatalogueKind::Yeast},
+                              {R().gridWater, 1, "Burton", CatalogueKind::Water},
+                              {R().gridTreatment, 0, "Gypsum", CatalogueKind::Salt},
+                              {R().gridPriming, 0, "Honey", CatalogueKind::Sugar}};
     for (const Choice& choice : choices) {
         document->Focus().SetCurrentCell(choice.grid, 1, 0);
         const std::size_t steps = History().StackTop();
@@ -362,7 +362,7 @@ TEST_F(HistoryTest, ACommandThatChangesNothingIsNoStep) {
             platform.clipboard.text = "8";
             document->Edit().Paste();
         },
-        [&] { document->Picks().Take(PickList::Grain, "Pale Malt"); },
+        [&] { document->Picks().Take(CatalogueKind::Grain, "Pale Malt"); },
         [&] {
             document->Cells().PickLogDate({2024, 3, 9});
         },
@@ -407,7 +407,7 @@ TEST_F(HistoryTest, ACommandThatChangesNothingDoesNotPartTheTyping) {
 TEST_F(HistoryTest, AFaultBeforeTheFirstEditTakesNothingElseBack) {
     Put(R().gridGrain, 1, GrainCol::Amount, "8");
     database->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
-    EXPECT_THROW(document->Picks().Take(PickList::Grain, "Pale Malt"), Error);
+    EXPECT_THROW(document->Picks().Take(CatalogueKind::Grain, "Pale Malt"), Error);
     database->SetStatementHook({});
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Amount), "8");
     EXPECT_EQ(History().StackTop(), 1U);

@@ -82,7 +82,7 @@ TEST_F(PickerTest, AChoiceGoesWhereItsListSays) {
     const char* const names[kPickLists] = {"Stout", "grain", "extract", "hop",
                                            "yeast", "water", "salt",    "sugar"};
     for (int list = 0; list < kPickLists; ++list)
-        document->Picks().Take(static_cast<PickList>(list), names[list]);
+        document->Picks().Take(static_cast<CatalogueKind>(list), names[list]);
     EXPECT_EQ(document->BeerStyle(), "Stout");
     EXPECT_EQ(r.gridGrain.Text(1, GrainCol::Name), "grain");
     EXPECT_EQ(r.gridExtract.Text(1, GrainCol::Name), "extract");

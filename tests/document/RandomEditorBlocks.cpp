@@ -88,13 +88,13 @@ void RandomEditor::PickFromCatalogue() {
     struct Choice {
         const char* grid;
         int col;
-        PickList list;
+        CatalogueKind list;
     };
     static constexpr Choice kChoices[] = {
-        {"gridGrain", 0, PickList::Grain},  {"gridExtract", 0, PickList::Extract},
-        {"gridHops", 0, PickList::Hop},     {"gridLog", 2, PickList::Yeast},
-        {"gridWater", 1, PickList::Water},  {"gridTreatment", 0, PickList::Treatment},
-        {"gridPriming", 0, PickList::Sugar}};
+        {"gridGrain", 0, CatalogueKind::Grain},  {"gridExtract", 0, CatalogueKind::Extract},
+        {"gridHops", 0, CatalogueKind::Hop},     {"gridLog", 2, CatalogueKind::Yeast},
+        {"gridWater", 1, CatalogueKind::Water},  {"gridTreatment", 0, CatalogueKind::Salt},
+        {"gridPriming", 0, CatalogueKind::Sugar}};
     const Choice& choice = kChoices[Below(7)];
     Grid& grid = *R().FindGrid(choice.grid);
     const std::string& name = TextFor(grid, choice.col);

@@ -58,7 +58,7 @@ class CatalogueWindows : public GuiTest {
 };
 
 TEST_F(CatalogueWindows, AHopIsEnteredByTheKeyboardAlone) {
-    const auto model = MakeEditor(Catalogue::Hops, *context);
+    const auto model = MakeEditor(CatalogueKind::Hop, *context);
     EditorDialog editor(*model, nullptr);
     Up(editor);
     EXPECT_EQ(Focus(), "Text1");
@@ -80,7 +80,7 @@ TEST_F(CatalogueWindows, AHopIsEnteredByTheKeyboardAlone) {
 }
 
 TEST_F(CatalogueWindows, ARefusedCellTakesTheFocusBack) {
-    const auto model = MakeEditor(Catalogue::Hops, *context);
+    const auto model = MakeEditor(CatalogueKind::Hop, *context);
     model->SetName("Saaz");
     EditorDialog editor(*model, nullptr);
     Up(editor);
@@ -96,7 +96,7 @@ TEST_F(CatalogueWindows, ARefusedCellTakesTheFocusBack) {
 }
 
 TEST_F(CatalogueWindows, EscapeAndCancelCheckNothing) {
-    const auto model = MakeEditor(Catalogue::Hops, *context);
+    const auto model = MakeEditor(CatalogueKind::Hop, *context);
     EditorDialog editor(*model, nullptr);
     Up(editor);
     In<QLineEdit>(editor, "gridInfo(0,0)").setFocus();
@@ -108,7 +108,7 @@ TEST_F(CatalogueWindows, EscapeAndCancelCheckNothing) {
 }
 
 TEST_F(CatalogueWindows, ABlankNameIsToldAndTakesTheFocus) {
-    const auto model = MakeEditor(Catalogue::Grains, *context);
+    const auto model = MakeEditor(CatalogueKind::Grain, *context);
     EditorDialog editor(*model, nullptr);
     Up(editor);
     In<QLineEdit>(editor, "gridInfo(0,0)").setFocus();
@@ -122,9 +122,9 @@ TEST_F(CatalogueWindows, ABlankNameIsToldAndTakesTheFocus) {
 
 TEST_F(CatalogueWindows, StepsShowOtherRowsAndDropWhatIsTyped) {
     DBSetupModel setup(*context);
-    setup.Choose(Catalogue::Hops);
+    setup.Choose(CatalogueKind::Hop);
     ObjectNavigator navigator(setup.Items());
-    const auto model = MakeEditor(Catalogue::Hops, *context);
+    const auto model = MakeEditor(CatalogueKind::Hop, *context);
     model->SetNavigator(navigator);
     model->SetName("Cascade");
     EditorDialog editor(*model, nullptr);
@@ -146,7 +146,7 @@ TEST_F(CatalogueWindows, StepsShowOtherRowsAndDropWhatIsTyped) {
 TEST_F(CatalogueWindows, AStyleHasItsListsItsFolderAndItsColour) {
     shell.Objects().CreateStyleFolder(0, "Dark", true);
     shell.DB()->Execute("INSERT INTO WATER_PROFILES (NAME) VALUES ('Dublin')");
-    const auto model = MakeEditor(Catalogue::Styles, *context);
+    const auto model = MakeEditor(CatalogueKind::Style, *context);
     model->SetName("Stout");
     EditorDialog editor(*model, nullptr);
     Up(editor);
@@ -175,7 +175,7 @@ TEST_F(CatalogueWindows, AStyleHasItsListsItsFolderAndItsColour) {
 
 TEST_F(CatalogueWindows, AGravityShowsItsDecimalsButNoFewerThanItHas) {
     shell.DB()->Execute("UPDATE STYLES SET OG_LO = 1.05, OG_HI = 1.0512, FG_LO = 1");
-    const auto model = MakeEditor(Catalogue::Styles, *context);
+    const auto model = MakeEditor(CatalogueKind::Style, *context);
     model->SetName("Stout");
     EditorDialog editor(*model, nullptr);
     Up(editor);
@@ -191,7 +191,7 @@ TEST_F(CatalogueWindows, AGravityShowsItsDecimalsButNoFewerThanItHas) {
 }
 
 TEST_F(CatalogueWindows, ANewTypeCanBeTyped) {
-    const auto model = MakeEditor(Catalogue::Grains, *context);
+    const auto model = MakeEditor(CatalogueKind::Grain, *context);
     model->SetName("Pale Malt");
     EditorDialog editor(*model, nullptr);
     Up(editor);
@@ -208,7 +208,7 @@ TEST_F(CatalogueWindows, AnApplyBringsTheListOfTypesUpToDate) {
     shell.DB()->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
     shell.DB()->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Roasted', TRUE)");
     shell.DB()->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Black', TRUE, 2)");
-    const auto model = MakeEditor(Catalogue::Grains, *context);
+    const auto model = MakeEditor(CatalogueKind::Grain, *context);
     model->SetName("Pale Malt");
     EditorDialog editor(*model, nullptr);
     Up(editor);
@@ -227,7 +227,7 @@ TEST_F(CatalogueWindows, AnApplyBringsTheListOfTypesUpToDate) {
 }
 
 TEST_F(CatalogueWindows, AFormToBeReadHasOneButton) {
-    const auto model = MakeEditor(Catalogue::Styles, *context);
+    const auto model = MakeEditor(CatalogueKind::Style, *context);
     model->SetName("Stout");
     model->SetReadOnly();
     EditorDialog editor(*model, nullptr);
@@ -267,7 +267,7 @@ TEST_F(CatalogueWindows, SetupDeletesAndAddsByItsKeys) {
 
 TEST_F(CatalogueWindows, SetupIsWalkedThroughInReadingOrder) {
     DBSetupModel model(*context);
-    model.Choose(Catalogue::Hops);
+    model.Choose(CatalogueKind::Hop);
     frmDBSetup setup(model, nullptr);
     Up(setup);
     In<QComboBox>(setup, "Combo1").setFocus();
@@ -339,9 +339,9 @@ TEST_F(CatalogueWindows, AFolderOfStylesShowsItsColumnsInFull) {
 TEST_F(CatalogueWindows, AStepLeavesTheFocusWhereItIs) {
     shell.DB()->Execute("INSERT INTO GRAINS (NAME, GRAIN) VALUES ('Wheat', TRUE)");
     DBSetupModel setup(*context);
-    setup.Choose(Catalogue::Grains);
+    setup.Choose(CatalogueKind::Grain);
     ObjectNavigator navigator(setup.Items());
-    const auto model = MakeEditor(Catalogue::Grains, *context);
+    const auto model = MakeEditor(CatalogueKind::Grain, *context);
     model->SetNavigator(navigator);
     model->SetName("Pale Malt");
     EditorDialog editor(*model, nullptr);
@@ -355,7 +355,7 @@ TEST_F(CatalogueWindows, AStepLeavesTheFocusWhereItIs) {
 
 TEST_F(CatalogueWindows, TheFilterLeavesWhatHoldsItsWords) {
     DBSetupModel model(*context);
-    model.Choose(Catalogue::Hops);
+    model.Choose(CatalogueKind::Hop);
     frmDBSetup setup(model, nullptr);
     Up(setup);
     Key(Qt::Key_F, Qt::ControlModifier);
@@ -406,7 +406,7 @@ TEST_F(CatalogueWindows, APickerShowsItsRowToBeRead) {
         picker.Press("cmdView");
         picker.Press("cmdOK");
     });
-    shell.PickFromCatalogue(*shell.ActiveDocument(), PickList::Hop, "Fuggle");
+    shell.PickFromCatalogue(*shell.ActiveDocument(), CatalogueKind::Hop, "Fuggle");
     EXPECT_THAT(outside.dialogs.shown, ElementsAre("frmLvShow", "frmHop"));
     EXPECT_EQ(shell.ActiveDocument()->Record().gridHops.Text(1, 0), "Saaz");
 }

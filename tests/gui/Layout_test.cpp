@@ -131,7 +131,8 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
 
     // The pickers, and what recipes and folders are chosen with.
     void ForEachChooser(const std::function<void(QWidget&)>& visit) {
-        for (const PickList list : {PickList::Style, PickList::Grain, PickList::Hop, PickList::Yeast}) {
+        for (const CatalogueKind list :
+             {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Hop, CatalogueKind::Yeast}) {
             LvShowModel picker(list, *shell.DB(), shell.Tree(), "");
             frmLvShow pickerWindow(picker, nullptr);
             pickerWindow.show();
@@ -176,8 +177,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
     // Database setup, and the editor of each catalogue, to be filled and to be read.
     void ForEachEditor(const std::function<void(QWidget&)>& visit) {
         const CatalogueContext context = shell.Catalogues();
-        for (int i = 0; i < kCatalogues; ++i) {
-            const auto catalogue = static_cast<Catalogue>(i);
+        for (const CatalogueKind catalogue : kSetupOrder) {
             DBSetupModel setup(context);
             setup.Choose(catalogue);
             frmDBSetup setupWindow(setup, nullptr);

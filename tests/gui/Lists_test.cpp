@@ -230,7 +230,7 @@ TEST_F(Choosers, TheStyleBoxTakesACode) {
 
 TEST_F(Choosers, TheStylePickerNamesTheGuidesOfItsCodes) {
     const auto guides = [this] {
-        LvShowModel model(PickList::Style, *shell.DB(), shell.Tree(), "");
+        LvShowModel model(CatalogueKind::Style, *shell.DB(), shell.Tree(), "");
         frmLvShow picker(model, nullptr);
         picker.show();
         auto* label = picker.findChild<QLabel*>(QStringLiteral("lblGuides"));
@@ -282,7 +282,7 @@ TEST_F(Choosers, ADoubleClickElsewhereOpensTheEditor) {
 }
 
 TEST_F(Choosers, ThePickerOpensOnItsNameAndEnterTakesIt) {
-    LvShowModel model(PickList::Hop, *shell.DB(), shell.Tree(), "saaz");
+    LvShowModel model(CatalogueKind::Hop, *shell.DB(), shell.Tree(), "saaz");
     frmLvShow picker(model, nullptr);
     picker.show();
     QApplication::setActiveWindow(&picker);
@@ -298,7 +298,7 @@ TEST_F(Choosers, ThePickerOpensOnItsNameAndEnterTakesIt) {
 }
 
 TEST_F(Choosers, AnEmptyPickerOffersNothing) {
-    LvShowModel model(PickList::Sugar, *shell.DB(), shell.Tree(), "Corn");
+    LvShowModel model(CatalogueKind::Sugar, *shell.DB(), shell.Tree(), "Corn");
     frmLvShow picker(model, nullptr);
     picker.show();
     EXPECT_FALSE(picker.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled());
@@ -315,7 +315,7 @@ TEST_F(Choosers, AYeastShowsItsFiguresFromTheFirst) {
         "the Long Street WLP099 Super High Gravity Ale Yeast', 'Ferments a strong wort dry and leaves it "
         "clean "
         "of nearly everything', 4, 'Very High', 65, 100.5, 61.5, 68.5)");
-    LvShowModel model(PickList::Yeast, *shell.DB(), shell.Tree(), "");
+    LvShowModel model(CatalogueKind::Yeast, *shell.DB(), shell.Tree(), "");
     frmLvShow picker(model, nullptr);
     picker.show();
     QApplication::processEvents();
@@ -336,7 +336,7 @@ TEST_F(Choosers, AYeastShowsItsFiguresFromTheFirst) {
 TEST_F(Choosers, TheStyleListFollowsTheFolderByKey) {
     shell.Objects().CreateStyleFolder(0, "Dark", true);
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1 WHERE NAME = 'Bock'");
-    LvShowModel model(PickList::Style, *shell.DB(), shell.Tree(), "");
+    LvShowModel model(CatalogueKind::Style, *shell.DB(), shell.Tree(), "");
     frmLvShow picker(model, nullptr);
     picker.show();
     QApplication::setActiveWindow(&picker);

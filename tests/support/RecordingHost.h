@@ -58,7 +58,7 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
         io_.AddRecipeNodesByName(name);
     }
     void AddToMRU(std::string_view name) override { log.push_back("AddToMRU " + std::string(name)); }
-    void PickFromCatalogue(RecipeDocument&, PickList list, const std::string& name) override {
+    void PickFromCatalogue(RecipeDocument&, CatalogueKind list, const std::string& name) override {
         log.push_back("Pick " + std::to_string(static_cast<int>(list)) + " '" + name + "'");
     }
     void DocumentRenamed(const RecipeDocument& document) override {

@@ -10,7 +10,7 @@ using testing::ElementsAre;
 
 class Picker : public Objects {
   protected:
-    LvShowModel Open(PickList type, const std::string& name = "") {
+    LvShowModel Open(CatalogueKind type, const std::string& name = "") {
         return {type, *main.db, main.tree, name};
     }
     void Hops(const Lines& names) {
@@ -37,8 +37,8 @@ class Picker : public Objects {
 
 TEST_F(Picker, HasATitleAndAListForEachType) {
     Lines titles;
-    for (int i = 0; i < kPickLists; ++i) {
-        LvShowModel picker = Open(static_cast<PickList>(i));
+    for (int i = 0; i < kCatalogueKinds; ++i) {
+        LvShowModel picker = Open(static_cast<CatalogueKind>(i));
         titles.push_back(picker.Title() + ": " + picker.Items().Columns().front().title);
     }
     EXPECT_THAT(titles, ElementsAre("Select Style: Style Name", "Select Grain: Grain Name",
@@ -50,43 +50,43 @@ TEST_F(Picker, HasATitleAndAListForEachType) {
 
 TEST_F(Picker, StartsOnTheNameInAnyCase) {
     Hops({"Cascade", "Fuggle", "Saaz"});
-    EXPECT_EQ(Open(PickList::Hop, " FUGGLE").Items().SelectedText(), "Fuggle");
-    EXPECT_EQ(Open(PickList::Hop, "Galena").Items().SelectedText(), "Fuggle");
-    EXPECT_EQ(Open(PickList::Hop, "").Items().SelectedText(), "Cascade");
-    EXPECT_EQ(Open(PickList::Hop, "Admiral").Items().SelectedText(), "Cascade");
+    EXPECT_EQ(Open(CatalogueKind::Hop, " FUGGLE").Items().SelectedText(), "Fuggle");
+    EXPECT_EQ(Open(CatalogueKind::Hop, "Galena").Items().SelectedText(), "Fuggle");
+    EXPECT_EQ(Open(CatalogueKind::Hop, "").Items().SelectedText(), "Cascade");
+    EXPECT_EQ(Open(CatalogueKind::Hop, "Admiral").Items().SelectedText(), "Cascade");
 }
 
 TEST_F(Picker, StartsOnTheRowThatAnotherNameStandsFor) {
     Hops({"Cascade", "East Kent Goldings", "Saaz"});
     AddOtherNames(*main.db);
     AddAlias(*main.db, CatalogueKind::Hop, "EKG", "East Kent Goldings");
-    EXPECT_EQ(Open(PickList::Hop, " ekg ").Items().SelectedText(), "East Kent Goldings");
+    EXPECT_EQ(Open(CatalogueKind::Hop, " ekg ").Items().SelectedText(), "East Kent Goldings");
     // Without such a row the alphabet decides.
     main.Execute("DELETE FROM HOPS WHERE NAME = 'East Kent Goldings'");
-    EXPECT_EQ(Open(PickList::Hop, "EKG").Items().SelectedText(), "Cascade");
+    EXPECT_EQ(Open(CatalogueKind::Hop, "EKG").Items().SelectedText(), "Cascade");
 }
 
 TEST_F(Picker, OfStylesNamesTheGuidesOfItsCodes) {
-    EXPECT_EQ(Open(PickList::Style).Guides(), "");
+    EXPECT_EQ(Open(CatalogueKind::Style).Guides(), "");
     AddOtherNames(*main.db);
-    EXPECT_EQ(Open(PickList::Style).Guides(), "");
+    EXPECT_EQ(Open(CatalogueKind::Style).Guides(), "");
     AddFacts(*main.db, CatalogueKind::Style, "Stout", "15B", "Beer 2021");
     AddFacts(*main.db, CatalogueKind::Style, "Perry", "C4A", "Cider 2025");
     AddFacts(*main.db, CatalogueKind::Style, "Porter", "13C", "Beer 2021");
-    EXPECT_EQ(Open(PickList::Style).Guides(), "Beer style guide of 2021, Cider style guide of 2025");
-    EXPECT_EQ(Open(PickList::Hop).Guides(), "");
+    EXPECT_EQ(Open(CatalogueKind::Style).Guides(), "Beer style guide of 2021, Cider style guide of 2025");
+    EXPECT_EQ(Open(CatalogueKind::Hop).Guides(), "");
 }
 
 TEST_F(Picker, StartsOnNoHeadingOfAGroup) {
     main.Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base Malt', TRUE)");
     main.Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Pale', TRUE, 1)");
-    EXPECT_EQ(Open(PickList::Grain).Items().SelectedText(), "Pale");
-    EXPECT_EQ(Open(PickList::Grain, "Base Malt").Items().SelectedText(), "Pale");
+    EXPECT_EQ(Open(CatalogueKind::Grain).Items().SelectedText(), "Pale");
+    EXPECT_EQ(Open(CatalogueKind::Grain, "Base Malt").Items().SelectedText(), "Pale");
 }
 
 TEST_F(Picker, AnswersWithTheNameOfTheChosenRow) {
     Hops({"Cascade", "Saaz"});
-    LvShowModel picker = Open(PickList::Hop);
+    LvShowModel picker = Open(CatalogueKind::Hop);
     EXPECT_TRUE(picker.SetControl("lvItems", "saaz"));
     EXPECT_TRUE(picker.Press("cmdOK"));
     EXPECT_FALSE(picker.IsOpen());
@@ -96,16 +96,16 @@ TEST_F(Picker, AnswersWithTheNameOfTheChosenRow) {
 
 TEST_F(Picker, AYeastAnswersWithItsDescription) {
     main.Execute("INSERT INTO YEAST (NAME, DESCR) VALUES ('Ale 1', 'Clean')");
-    EXPECT_EQ(AnswerOf(Open(PickList::Yeast)), "Ale 1 - Clean");
+    EXPECT_EQ(AnswerOf(Open(CatalogueKind::Yeast)), "Ale 1 - Clean");
 }
 
 TEST_F(Picker, AYeastWithoutADescriptionAnswersWithItsName) {
     main.Execute("INSERT INTO YEAST (NAME) VALUES ('Ale 1')");
-    EXPECT_EQ(AnswerOf(Open(PickList::Yeast)), "Ale 1");
+    EXPECT_EQ(AnswerOf(Open(CatalogueKind::Yeast)), "Ale 1");
 }
 
 TEST_F(Picker, AnEmptyListHasNothingToChoose) {
-    LvShowModel picker = Open(PickList::Sugar, "Corn");
+    LvShowModel picker = Open(CatalogueKind::Sugar, "Corn");
     EXPECT_FALSE(picker.OkEnabled());
     EXPECT_TRUE(picker.Press("cmdOK"));
     EXPECT_TRUE(picker.IsOpen());
@@ -116,23 +116,23 @@ TEST_F(Picker, AnEmptyListHasNothingToChoose) {
 
 TEST_F(Picker, CannotViewWithoutAViewer) {
     Hops({"Saaz"});
-    LvShowModel picker = Open(PickList::Hop);
+    LvShowModel picker = Open(CatalogueKind::Hop);
     EXPECT_FALSE(picker.ViewEnabled());
     EXPECT_TRUE(picker.Press("cmdView"));
     std::string viewed;
-    picker.SetViewer([&](PickList, const ListTable& items) { viewed = items.SelectedText(); });
+    picker.SetViewer([&](CatalogueKind, const ListTable& items) { viewed = items.SelectedText(); });
     EXPECT_TRUE(picker.ViewEnabled());
     EXPECT_TRUE(picker.Press("cmdView"));
     EXPECT_EQ(viewed, "Saaz");
     EXPECT_TRUE(picker.IsOpen());
-    LvShowModel empty = Open(PickList::Sugar);
-    empty.SetViewer([](PickList, const ListTable&) {});
+    LvShowModel empty = Open(CatalogueKind::Sugar);
+    empty.SetViewer([](CatalogueKind, const ListTable&) {});
     EXPECT_FALSE(empty.ViewEnabled());
 }
 
 TEST_F(Picker, KnowsItsControls) {
     Hops({"Saaz"});
-    LvShowModel picker = Open(PickList::Hop);
+    LvShowModel picker = Open(CatalogueKind::Hop);
     EXPECT_EQ(picker.FormName(), "frmLvShow");
     EXPECT_THAT(Controls(picker), ElementsAre("lvItems=Saaz"));
     EXPECT_FALSE(picker.SetControl("lvItems", "Cascade"));
@@ -148,7 +148,7 @@ TEST_F(Picker, TheStyleListFollowsTheFolder) {
     Style("Ale");
     Style("Stout", dark);
     Style("Bock", dark);
-    LvShowModel picker = Open(PickList::Style, "stout");
+    LvShowModel picker = Open(CatalogueKind::Style, "stout");
     EXPECT_THAT(Controls(picker), ElementsAre("lvItems=Stout", "treeFolders=G:-1"));
     EXPECT_THAT(Texts(picker), ElementsAre("Ale", "Bock", "Stout"));
     EXPECT_TRUE(picker.ChooseFolder("G:0"));
@@ -162,17 +162,17 @@ TEST_F(Picker, TheStyleListFollowsTheFolder) {
 TEST_F(Picker, TheTreeShowsTheFoldersOfStyles) {
     StyleFolder(0, "Dark");
     Style("Stout", 1);
-    LvShowModel picker = Open(PickList::Style);
+    LvShowModel picker = Open(CatalogueKind::Style);
     Lines keys;
     for (int item = 0; item < picker.Folders().Count(); ++item) keys.push_back(picker.Folders().Key(item));
     EXPECT_THAT(keys, ElementsAre("G:-1", "G:0", "G:1"));
-    EXPECT_EQ(Open(PickList::Hop).Folders().Count(), 0);
+    EXPECT_EQ(Open(CatalogueKind::Hop).Folders().Count(), 0);
 }
 
 TEST_F(Picker, AnEmptyFolderOfStylesHasNothingToChoose) {
     StyleFolder(0, "Dark");
     Style("Ale");
-    LvShowModel picker = Open(PickList::Style);
+    LvShowModel picker = Open(CatalogueKind::Style);
     EXPECT_TRUE(picker.OkEnabled());
     picker.ChooseFolder("G:1");
     EXPECT_FALSE(picker.OkEnabled());
@@ -181,7 +181,7 @@ TEST_F(Picker, AnEmptyFolderOfStylesHasNothingToChoose) {
 TEST_F(Picker, WithoutATreeAllStylesAreShown) {
     Style("Ale");
     const TWTree empty;
-    LvShowModel picker(PickList::Style, *main.db, empty, "");
+    LvShowModel picker(CatalogueKind::Style, *main.db, empty, "");
     EXPECT_EQ(picker.Items().SelectedText(), "Ale");
 }
 

@@ -340,7 +340,7 @@ TEST_F(Lists, TheStyleCatalogueShowsFoldersBeforeStyles) {
     StyleFolder(1, "Below");
     Style("Ale");
     Style("Bock", 1);
-    filler.Fill(list, Catalogue::Styles);
+    filler.Fill(list, CatalogueKind::Style);
     EXPECT_THAT(LinesOf(),
                 ElementsAre("Dark|Style Folder|  |  |  |  |  |  |  ", "Ale|  |  |  |  |  |  |  |  "));
     EXPECT_EQ(list.Row(0).key, "G:1");
@@ -469,9 +469,9 @@ TEST_F(Lists, ARowWithoutANameIsShownBlank) {
 
 TEST_F(Lists, EveryCatalogueHasItsWordAndItsList) {
     Lines heads;
-    for (int i = 0; i < kCatalogues; ++i) {
-        filler.Fill(list, static_cast<Catalogue>(i));
-        heads.push_back(std::string(WordOf(static_cast<Catalogue>(i))) + ": " + Titles().front());
+    for (const CatalogueKind kind : kSetupOrder) {
+        filler.Fill(list, kind);
+        heads.push_back(std::string(WordOf(kind)) + ": " + Titles().front());
     }
     EXPECT_THAT(heads, ElementsAre("style: Style Name", "grain: Grain Name", "extract: Extract Name",
                                    "hop variety: Hop Variety Name", "yeast: Yeast Name",
