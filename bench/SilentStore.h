@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "platform/Ports.h"
-#include "store/DB_IO.h"
+#include "tree/DB_IO.h"
 
 namespace tw {
 

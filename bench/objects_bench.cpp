@@ -11,10 +11,10 @@
 
 #include "SilentStore.h"
 #include "Timing.h"
-#include "store/DB_IO.h"
 #include "store/Schema.h"
 #include "store/SqlDialect.h"
 #include "store/SqliteHandle.h"
+#include "tree/DB_IO.h"
 #include "tree/TreeObjects.h"
 #include "values/NumberText.h"
 

@@ -11,13 +11,13 @@
 
 #include "SilentStore.h"
 #include "Timing.h"
-#include "store/DB_IO.h"
 #include "store/ExchangeFile.h"
 #include "store/RecipeCopy.h"
 #include "store/RecipeRows.h"
 #include "store/Schema.h"
 #include "store/SqlDialect.h"
 #include "store/SqliteHandle.h"
+#include "tree/DB_IO.h"
 #include "values/NumberText.h"
 
 namespace {
@@ -80,7 +80,8 @@ void Fill(Database& database) {
 void Save(Database& database, const StoredRecipe& recipe) {
     FixedClock clock;
     NoListener listener;
-    ObjectTree tree;
+    TWTree nothing;
+    TreeObjects tree(nothing);
     NoMessages messages;
     UnitOfWork unit(database);
     DB_IO(database, tree, messages, clock, listener).DeleteRecipeByName(recipe.name);
@@ -212,15 +213,10 @@ class NoQuestions : public CopyHost {
 
 // Copies all recipes between the two.
 void CopyAll(Database& main, Database& file, bool isImport) {
-    FixedClock clock;
-    NoListener listener;
-    ObjectTree tree;
-    NoMessages messages;
-    DB_IO objects(main, tree, messages, clock, listener);
     NoQuestions host;
     std::vector<std::string> names;
     for (int i = 0; i < kRecipes; ++i) names.push_back(NameOf(i));
-    RecipeCopier copier(main, objects, file, host);
+    RecipeCopier copier(main, file, host);
     StylesNotImported unknown;
     isImport ? copier.ImportRecipes(names, 0, unknown) : copier.ExportRecipes(names);
 }

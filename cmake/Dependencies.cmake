@@ -3,7 +3,9 @@
 find_package(PkgConfig REQUIRED)
 find_package(SQLite3 3.40 REQUIRED)
 pkg_check_modules(UTF8PROC REQUIRED IMPORTED_TARGET libutf8proc)
-set(TW_CORE_LIBRARIES SQLite::SQLite3 PkgConfig::UTF8PROC)
+# What a folder of the core stands on; no other one uses it.
+set(TW_LIBRARIES_OF_values PkgConfig::UTF8PROC)
+set(TW_LIBRARIES_OF_store SQLite::SQLite3)
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core)
 if(TUNWRIGHT_WINDOWS)

@@ -10,7 +10,7 @@ function(tw_core_folder name)
   endif()
   add_library(tw_${name} OBJECT ${sources})
   target_include_directories(tw_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-  target_link_libraries(tw_${name} PUBLIC tw_flags)
+  target_link_libraries(tw_${name} PUBLIC tw_flags ${TW_LIBRARIES_OF_${name}})
 endfunction()
 
 # tw_objects_up_to(VAR NAME): the object libraries of all folders from the bottom up to NAME.

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "platform/Ports.h"
-#include "store/DB_IO.h"
 #include "store/Database.h"
+#include "tree/DB_IO.h"
 #include "tree/TWTree.h"
 
 namespace tw {

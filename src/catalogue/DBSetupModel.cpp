@@ -5,7 +5,7 @@
 #include "catalogue/CatalogueEditor.h"
 #include "catalogue/GrainEditor.h"
 #include "catalogue/StyleEditor.h"
-#include "store/ObjectKeys.h"
+#include "tree/NodeKey.h"
 #include "tree/RowFacts.h"
 #include "tree/TWNodes.h"
 #include "values/Text.h"
@@ -16,10 +16,6 @@ namespace {
 // Before all folders and styles.
 constexpr int kRowUpGroup = -1;
 constexpr std::string_view kRowUp = "..";
-
-std::string FolderKey(std::int64_t id) {
-    return "G:" + std::to_string(id);
-}
 
 }  // namespace
 
@@ -76,10 +72,10 @@ void DBSetupModel::SetFilter(std::string_view text) {
 }
 
 void DBSetupModel::AddRowUp() {
-    const TWNode* const folder = context_.tree.Nodes(FolderKey(folderId_));
+    const TWNode* const folder = context_.tree.Nodes(StyleFolderKey(folderId_));
     const TWNode* const parent = folder != nullptr ? folder->Parent() : nullptr;
     ListRow up;
-    up.key = parent != nullptr ? std::string(parent->Key()) : FolderKey(0);
+    up.key = parent != nullptr ? std::string(parent->Key()) : StyleFolderKey(0);
     up.cells = {std::string(kRowUp), "Style Folder"};
     up.icon = NodeIcon::FolderOpen;
     up.isFolder = true;
@@ -130,7 +126,7 @@ void DBSetupModel::EnterFolder() {
     items_.SetFilter("");
     Refill();
     // On the way up the folder that was left is the one to go on from.
-    const int row = items_.FindKey(FolderKey(left));
+    const int row = items_.FindKey(StyleFolderKey(left));
     items_.Select(row == ListTable::kNoRow ? items_.FirstRow() : row);
 }
 

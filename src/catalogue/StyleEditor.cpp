@@ -32,8 +32,7 @@ std::optional<std::string> StyleEditor::FolderText() const {
 }
 
 bool StyleEditor::EnterFolder(std::string_view text) {
-    const std::string key = "G:" + std::string(Trim(text));
-    return folders_.Choose(key);
+    return folders_.Choose(StyleFolderKey(Trim(text)));
 }
 
 bool StyleEditor::Write(const std::string& name) {

@@ -4,8 +4,8 @@
 #include <array>
 #include <charconv>
 
-#include "store/ObjectKeys.h"
 #include "store/RecipeRows.h"
+#include "tree/NodeKey.h"
 #include "tree/TWNodes.h"
 #include "values/Text.h"
 

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <iostream>
-#include <sqlite3.h>
 
 #include "platform/FileDialogModel.h"
 #include "shell/ImportExportModel.h"
@@ -105,7 +104,7 @@ TargetFile RecipeExchange::Target(const std::string& path) const {
     const TargetFile target(path, own_);
     std::error_code failure;
     if (!fs::is_directory(fs::path(target.Path()).parent_path(), failure))
-        Refuse(path, "cannot be opened: unable to open database file.", SQLITE_CANTOPEN);
+        Refuse(path, "cannot be opened: unable to open database file.", Database::kCannotOpenNumber);
     return target;
 }
 
@@ -157,7 +156,7 @@ void RecipeExchange::CopyOut(const std::string& path, std::unique_ptr<Database> 
     UnitOfWork unit(file.Contents());
     Host host(platform_, progress, false);
     try {
-        RecipeCopier(main_, objects_, file.Contents(), host).ExportRecipes(names);
+        RecipeCopier(main_, file.Contents(), host).ExportRecipes(names);
     } catch (const Error&) {
         // A new file comes whole or not at all; an older one keeps what was added before the error.
         if (!isNew) SaveWhatCame(unit, file, target);
@@ -211,8 +210,7 @@ void RecipeExchange::CopyWatched(Database& file, const Choice& choice, ProgressM
     const int total = static_cast<int>(choice.names.size());
     file.SetWatch([&] { return progress.Show(progress.Name(), progress.Done(), total) || host.HasBegun(); });
     try {
-        RecipeCopier(main_, objects_, file, host)
-            .ImportRecipes(choice.names, choice.folderId, stylesNotImported);
+        RecipeCopier(main_, file, host).ImportRecipes(choice.names, choice.folderId, stylesNotImported);
     } catch (const Error& error) {
         const bool calledOff = error.Number() == Database::kInterruptedNumber && progress.IsCancelled();
         if (!calledOff) throw;

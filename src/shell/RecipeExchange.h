@@ -12,9 +12,9 @@
 #include "platform/OwnFiles.h"
 #include "platform/Ports.h"
 #include "platform/TargetFile.h"
-#include "store/DB_IO.h"
 #include "store/Database.h"
 #include "store/RecipeCopy.h"
+#include "tree/DB_IO.h"
 #include "tree/TWTree.h"
 
 namespace tw {

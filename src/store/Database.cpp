@@ -13,6 +13,8 @@
 namespace tw {
 namespace {
 
+static_assert(Database::kCannotOpenNumber == SQLITE_CANTOPEN);
+
 struct StatementFinalizer {
     void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 };

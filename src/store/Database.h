@@ -110,6 +110,9 @@ class Recordset {
 // One open database file. Not copyable; closes itself.
 class Database {
   public:
+    // The number of the error about a file that cannot be opened.
+    static constexpr int kCannotOpenNumber = 14;
+
     // Opens an existing file. exclusive keeps every other process out for as long as it is open, also while
     // nothing is written. Raises an error that says what is wrong when the file is missing, is a folder, is
     // no database, is cut short, or is in use; the file is untouched then. What a crash has left half-written

@@ -5,6 +5,7 @@
 #include <sqlite3.h>
 
 #include "platform/Error.h"
+#include "store/RowNames.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -263,7 +264,7 @@ void RecipeCopier::InsertRecipe(const Recordset& source, const std::string& newN
         if (isImport_ && Is(field.Name(), "STYLE_NAME"))
             insert.Add("STYLE_ID", StyleIdOf(field.Text(), newName));
         else if (!isImport_ && Is(field.Name(), "STYLE_ID"))
-            insert.Add("STYLE_NAME", objects_.StyleNameById(field.Integer()));
+            insert.Add("STYLE_NAME", NameById(main_, "STYLES", field.Integer()).value_or(""));
         else if (isImport_ && Is(field.Name(), "FOLDER_ID"))
             insert.Add(field.Name(), destFolderId_);
         else if (Is(field.Name(), "NAME"))
@@ -276,7 +277,7 @@ void RecipeCopier::InsertRecipe(const Recordset& source, const std::string& newN
 
 std::int64_t RecipeCopier::StyleIdOf(const std::string& style, const std::string& recipe) {
     if (style.empty()) return 0;
-    const std::int64_t id = objects_.StyleIdByName(style);
+    const std::int64_t id = IdByName(main_, "STYLES", style);
     if (id >= 1) return id;
     const auto known = std::ranges::find(*stylesNotImported_, recipe, &StyleNotImported::recipe);
     if (known == stylesNotImported_->end())

@@ -10,7 +10,6 @@
 #include <unordered_map>
 #include <vector>
 
-#include "store/DB_IO.h"
 #include "store/Database.h"
 
 namespace tw {
@@ -64,8 +63,7 @@ class RecipeNames {
 class RecipeCopier {
   public:
     // REQUIRES: all of them live for as long.
-    RecipeCopier(Database& main, DB_IO& objects, Database& file, CopyHost& host)
-        : main_(main), objects_(objects), file_(file), host_(host) {}
+    RecipeCopier(Database& main, Database& file, CopyHost& host) : main_(main), file_(file), host_(host) {}
 
     // Out of the main database, with the names of the styles.
     void ExportRecipes(std::span<const std::string> names);
@@ -95,7 +93,6 @@ class RecipeCopier {
                    std::int64_t newId);
 
     Database& main_;
-    DB_IO& objects_;
     Database& file_;
     CopyHost& host_;
     RecipeNames sourceNames_, destNames_;

@@ -12,7 +12,8 @@ std::vector<DialogControl> ChooseFolderModel::Controls() const {
 }
 
 bool ChooseFolderModel::SetControl(std::string_view name, std::string_view text) {
-    return name == "FolderChooser1" && chooser_.Choose((StyleFolders() ? "G:" : "F:") + std::string(text));
+    return name == "FolderChooser1" &&
+           chooser_.Choose(StyleFolders() ? StyleFolderKey(text) : RecipeFolderKey(text));
 }
 
 bool ChooseFolderModel::Press(std::string_view button) {

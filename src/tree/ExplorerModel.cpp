@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "store/CatalogueNames.h"
-#include "store/ObjectKeys.h"
+#include "tree/NodeKey.h"
 #include "tree/ProgressModel.h"
 #include "tree/TWNodes.h"
 #include "values/Text.h"
@@ -34,7 +34,7 @@ std::string_view RootOf(bool styles) {
 }
 
 bool IsFolder(std::string_view key) {
-    return key.starts_with("F:") || key.starts_with("G:") || key.starts_with("X:");
+    return IsRecipeFolderKey(key) || IsStyleFolderKey(key) || IsGroupKey(key);
 }
 
 std::string Counted(std::size_t count) {
@@ -148,7 +148,7 @@ std::string ExplorerModel::Status() const {
 
 bool ExplorerModel::CanOpen(std::string_view key) const {
     // "(None)" is no style that could be edited.
-    if (key.starts_with("S:")) return hooks_.editStyle && CanRenameNode(key);
+    if (IsStyleKey(key)) return hooks_.editStyle && CanRenameNode(key);
     return !key.empty();
 }
 
@@ -160,7 +160,7 @@ bool ExplorerModel::IsEnabled(std::string_view command) const {
     if (command == "mnuRename")
         return list.Rows().Chosen().size() == 1 && list.CanRename(list.Rows().Selected());
     if (command == "mnuNewFolder") return CanHoldFolders(node);
-    if (command == "mnuNewStyle") return hooks_.editStyle && node.starts_with("G") && node != kAllStylesKey;
+    if (command == "mnuNewStyle") return hooks_.editStyle && IsStyleFolderKey(node) && node != kAllStylesKey;
     if (command == "mnuRenameFolder" || command == "mnuDeleteFolder") return CanDeleteNode(node);
     if (command == "mnuLineUp")
         return look_.viewType == ListViewType::LargeIcons || look_.viewType == ListViewType::SmallIcons;
@@ -172,7 +172,7 @@ void ExplorerModel::Open() {
     if (!CanOpen(key)) return;
     if (IsFolder(key)) {
         ChooseNode(key);
-    } else if (key.starts_with("S:")) {
+    } else if (IsStyleKey(key)) {
         OpenStyle(key);
     } else {
         // The stored name: the tree shows a new one as it was typed.

@@ -1,6 +1,6 @@
 #include "tree/FolderChooser.h"
 
-#include "store/ObjectKeys.h"
+#include "tree/NodeKey.h"
 
 namespace tw {
 
@@ -25,17 +25,17 @@ void FolderChooser::FillTheTree() {
         } else if (tree_) {
             tree_->PopulateTreeViewWithRecipeFolders(view);
         } else {
-            const auto add = [&](TreeViewItem parent, const char* key, const char* text) {
+            const auto add = [&](TreeViewItem parent, const std::string& key, const char* text) {
                 return view.Add(parent, key, text, IconName(NodeIcon::FolderClosed),
                                 IconName(NodeIcon::FolderOpen));
             };
-            const TreeViewItem root = add(TreeViewItem::Top, "F:0", "My Folders");
-            add(root, "F:1", "Folder A");
-            add(root, "F:2", "Folder B");
-            add(root, "F:3", "Folder C");
+            const TreeViewItem root = add(TreeViewItem::Top, RecipeFolderKey(0), "My Folders");
+            add(root, RecipeFolderKey(1), "Folder A");
+            add(root, RecipeFolderKey(2), "Folder B");
+            add(root, RecipeFolderKey(3), "Folder C");
         }
     });
-    const int root = items_.Find(tree_ ? RootKey() : "F:0");
+    const int root = items_.Find(tree_ ? RootKey() : kRecipeFoldersKey);
     if (root == TreeItems::kNone) return;
     items_.Expand(root);
     if (items_.Selected() == TreeItems::kNone) items_.Select(root);
@@ -47,7 +47,7 @@ std::int64_t FolderChooser::FolderID() const {
 }
 
 void FolderChooser::SetFolderID(std::int64_t id) {
-    if (!items_.SelectKey((styles_ ? "G:" : "F:") + std::to_string(id))) items_.SelectKey(RootKey());
+    if (!items_.SelectKey(styles_ ? StyleFolderKey(id) : RecipeFolderKey(id))) items_.SelectKey(RootKey());
 }
 
 bool FolderChooser::Choose(std::string_view key) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "store/DB_IO.h"
+#include "tree/DB_IO.h"
 #include "tree/TWTree.h"
 #include "tree/TreeItems.h"
 
@@ -54,7 +54,7 @@ class FolderChooser {
     bool Rename(std::string_view newName);
 
   private:
-    std::string RootKey() const { return styles_ ? "G:0" : "F:0"; }
+    std::string_view RootKey() const { return styles_ ? kStyleFoldersKey : kRecipeFoldersKey; }
 
     const TWTree* tree_ = nullptr;
     DB_IO* objects_ = nullptr;

@@ -1,8 +1,8 @@
 #include "tree/LvShowModel.h"
 
 #include "store/CatalogueNames.h"
-#include "store/ObjectKeys.h"
 #include "tree/ListFormats.h"
+#include "tree/NodeKey.h"
 #include "tree/RowFacts.h"
 #include "values/Text.h"
 

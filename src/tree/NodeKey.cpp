@@ -1,5 +1,6 @@
 #include "tree/NodeKey.h"
 
+#include <algorithm>
 #include <charconv>
 #include <functional>
 
@@ -61,6 +62,33 @@ std::string NodeKey::Text() const {
 bool NodeKey::operator==(const NodeKey& other) const noexcept {
     if (kind_ != other.kind_ || copy_ != other.copy_) return false;
     return kind_ == kIsText ? text_.View() == other.text_.View() : id_ == other.id_;
+}
+
+std::string RecipeKey(std::int64_t id, int copy) {
+    return NodeKey('R', id, copy).Text();
+}
+std::string StyleKey(std::int64_t id, int copy) {
+    return NodeKey('S', id, copy).Text();
+}
+std::string RecipeFolderKey(std::int64_t id) {
+    return NodeKey('F', id).Text();
+}
+std::string StyleFolderKey(std::int64_t id) {
+    return NodeKey('G', id).Text();
+}
+std::string RecipeFolderKey(std::string_view id) {
+    return "F:" + std::string(id);
+}
+std::string StyleFolderKey(std::string_view id) {
+    return "G:" + std::string(id);
+}
+
+std::int64_t IdOfKey(std::string_view key) {
+    const std::size_t start = std::min(key.find(':'), key.size() - 1) + 1;
+    const std::string_view field = key.substr(start, key.find(':', start) - start);
+    std::int64_t id = kNoId;
+    const auto [end, failure] = std::from_chars(field.data(), field.data() + field.size(), id);
+    return failure == std::errc() && end == field.data() + field.size() ? id : kNoId;
 }
 
 std::uint64_t NodeKey::HashOfObject() const noexcept {

@@ -1,9 +1,10 @@
-// The key of an entry of the tree, such as "R:17:3": a text that the whole program takes apart at its colons.
-// Keys of numbers, all but those of an exchange file's styles, are kept as numbers.
+// The keys of the entries of the tree: "F:3" a folder of recipes, "G:3" one of styles, "R:17:3" a recipe,
+// "S:5:1" a style, the last number telling which of its entries. Only this file knows how they are written.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -21,6 +22,19 @@ inline constexpr std::string_view kRecipeFoldersKey = "F:0";
 inline constexpr std::string_view kNoStyleKey = "S:0:0";        // under kAllStylesKey
 inline constexpr std::string_view kNoStyleFolderKey = "S:0:1";  // under kStyleFoldersKey
 
+// A recipe stands under "All Recipes", under both entries of its style, and in its folder.
+inline constexpr int kRecipeCopies = 4;
+inline constexpr int kCopyInFolder = 3;
+// A style stands under "All Styles" and in its folder.
+inline constexpr int kStyleCopies = 2;
+inline constexpr int kStyleInFolder = 1;
+
+// The id in the keys of "All Recipes" and "All Styles", which hold no row of their own.
+inline constexpr std::int64_t kAllObjects = -1;
+// Never the id of a row; any other value, even negative, may be one.
+inline constexpr std::int64_t kNoId = std::numeric_limits<std::int64_t>::min();
+
+// Keys of numbers, all but those of an exchange file's styles, are kept as numbers.
 class NodeKey {
   public:
     // The empty key.
@@ -48,5 +62,40 @@ class NodeKey {
     char kind_ = kIsText;
     std::int8_t copy_ = kNoCopy;
 };
+
+// The keys of objects, as texts. REQUIRES: copy is from 0 to 9.
+std::string RecipeKey(std::int64_t id, int copy);
+std::string StyleKey(std::int64_t id, int copy);
+std::string RecipeFolderKey(std::int64_t id);
+std::string StyleFolderKey(std::int64_t id);
+// Those of the folder whose id is typed; no key of the tree for what is no id.
+std::string RecipeFolderKey(std::string_view id);
+std::string StyleFolderKey(std::string_view id);
+
+// What a key stands for, by its first letter alone: nothing is looked up, and what stands behind the letter
+// need be no id.
+constexpr bool IsRecipeFolderKey(std::string_view key) {
+    return key.starts_with('F');
+}
+constexpr bool IsStyleFolderKey(std::string_view key) {
+    return key.starts_with('G');
+}
+constexpr bool IsRecipeKey(std::string_view key) {
+    return key.starts_with('R');
+}
+constexpr bool IsStyleKey(std::string_view key) {
+    return key.starts_with('S');
+}
+// True for an entry that groups others and has no row in any table.
+constexpr bool IsGroupKey(std::string_view key) {
+    return key.starts_with('X');
+}
+// True for the entries "(None)".
+constexpr bool IsNoStyleKey(std::string_view key) {
+    return key.starts_with("S:0:");
+}
+
+// The second field of a key; kNoId when it is no whole number.
+std::int64_t IdOfKey(std::string_view key);
 
 }  // namespace tw

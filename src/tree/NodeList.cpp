@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "store/ObjectKeys.h"
+#include "tree/NodeKey.h"
 #include "tree/lvFiller.h"
 #include "values/Split.h"
 #include "values/Text.h"
@@ -23,9 +23,10 @@ int ExplorerColumns() {
 }  // namespace
 
 std::string KeyNow(const ObjectAccess& access, const std::string& key, std::string_view name) {
-    if (!key.starts_with("R:") || access.tree.NodeExists(key)) return key;
+    if (!IsRecipeKey(key) || access.tree.NodeExists(key)) return key;
     const std::int64_t id = access.objects.IdByName(name, "RECIPES");
-    return id == 0 ? key : RecipeKey(id, key.back() - '0');
+    const int copy = NodeKey(key).Copy();
+    return id == 0 || copy < 0 ? key : RecipeKey(id, copy);
 }
 
 NodeList::NodeList(const ObjectAccess& access, const ListLook& look, bool showStyles)
@@ -193,7 +194,7 @@ std::string NodeList::Hint() const {
     if (!showStyles_ && !anyRecipe)
         return "There is no recipe yet. Ctrl+N in the main window starts your first one; once it is saved, "
                "it stands here.";
-    if (!key_.starts_with("S:")) return "This folder is empty.";
+    if (!IsStyleKey(key_)) return "This folder is empty.";
     return IdOfKey(key_) == 0 ? "There is no recipe without a style." : "No recipe has this style yet.";
 }
 

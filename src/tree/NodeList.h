@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "platform/Ports.h"
-#include "store/DB_IO.h"
+#include "tree/DB_IO.h"
 #include "tree/ListTable.h"
 #include "tree/RecipeFinder.h"
 #include "tree/TWTree.h"

@@ -71,8 +71,8 @@ bool RecipeChooser::OpenTreeTo(std::string_view name) {
     const Recordset recipe =
         database->OpenRecordset("SELECT NAME, ID FROM RECIPES WHERE UCASE(NAME) = ?", {Upper(Trim(name))});
     if (recipe.AtEnd()) return false;
-    const std::string key = "R:" + recipe.Fields("ID").Text() + ":";
-    return items_.SelectKey(key + "3") || items_.SelectKey(key + "0");
+    const std::optional<std::int64_t> id = recipe.Fields("ID").WholeNumber();
+    return id && (items_.SelectKey(RecipeKey(*id, kCopyInFolder)) || items_.SelectKey(RecipeKey(*id, 0)));
 }
 
 void RecipeChooser::SetRootName(std::string_view name) {

@@ -11,8 +11,8 @@ namespace {
 
 std::unique_ptr<TWNode> MakeNode(const std::string& key, const std::string& name) {
     NodeContent content{SharedText(name), NodeKey(key), NodeIcon::FolderOpen, NodeIcon::FolderClosed};
-    content.isDocument = key.starts_with('R');
-    content.isStyle = key.starts_with('S');
+    content.isDocument = IsRecipeKey(key);
+    content.isStyle = IsStyleKey(key);
     if (content.isDocument) content.iconOpen = content.iconClosed = NodeIcon::Document;
     if (content.isStyle) {
         content.iconOpen = NodeIcon::StyleOpen;

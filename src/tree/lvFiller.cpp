@@ -6,8 +6,8 @@
 #include <map>
 #include <optional>
 
-#include "store/ObjectKeys.h"
 #include "tree/ListFormats.h"
+#include "tree/NodeKey.h"
 #include "tree/RowFacts.h"
 #include "tree/TWNodes.h"
 #include "values/Text.h"
@@ -115,8 +115,8 @@ ListRow BlankRow(const TWNode& node) {
 }
 
 bool IsSystemFolder(std::string_view key) {
-    return key.starts_with("X:") || key == kAllRecipesKey || key == kRecipeFoldersKey ||
-           key == kAllStylesKey || key == kStyleFoldersKey;
+    return IsGroupKey(key) || key == kAllRecipesKey || key == kRecipeFoldersKey || key == kAllStylesKey ||
+           key == kStyleFoldersKey;
 }
 
 ListRow FolderRow(TWNode& node) {
@@ -124,7 +124,7 @@ ListRow FolderRow(TWNode& node) {
     row.isFolder = true;
     Cell(row, Size) = SizeOf(node);
     Cell(row, Type) = IsSystemFolder(row.key)     ? "System Folder"
-                      : row.key.starts_with("G:") ? "Style Folder"
+                      : IsStyleFolderKey(row.key) ? "Style Folder"
                                                   : "Recipe Folder";
     return row;
 }
@@ -257,7 +257,7 @@ bool IsBefore(const TWNode* a, const TWNode* b) {
 
 bool BelongsToStyles(const TWNode& node) {
     const std::string key = node.Key();
-    return node.IsStyle() || key == kByStyleKey || key.starts_with("G:");
+    return node.IsStyle() || key == kByStyleKey || IsStyleFolderKey(key);
 }
 
 }  // namespace
@@ -315,7 +315,7 @@ void lvFiller::FillNodes(ListTable& list, const std::vector<TWNode*>& nodes) con
         else if (node->IsStyle())
             styles.Add(id, place);
         else
-            (rowKey.starts_with("G:") ? styleFolders : recipeFolders).Add(id, place);
+            (IsStyleFolderKey(rowKey) ? styleFolders : recipeFolders).Add(id, place);
     }
     recipeFolders.Read(database_, rows);
     styleFolders.Read(database_, rows);
@@ -331,7 +331,7 @@ void lvFiller::AddFolderRow(ListTable& list, TWNode& folder) const {
         ShowOne(database_,
                 std::string("SELECT CREATED_WHEN, MODIFIED_WHEN, NULL AS CHILDREN_MODIFIED_WHEN FROM FOLDERS "
                             "WHERE ID = ?") +
-                    (row.key.starts_with("G:") ? " AND STYLE" : " AND NOT STYLE"),
+                    (IsStyleFolderKey(row.key) ? " AND STYLE" : " AND NOT STYLE"),
                 id, kFolderNames, row, ShowFolder);
     list.Add(std::move(row));
 }

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "calc/BeerColor.h"
-#include "store/ObjectKeys.h"
 #include "tree/ListFormats.h"
+#include "tree/NodeKey.h"
 #include "tree/RowFacts.h"
 #include "tree/TWNodes.h"
 #include "tree/lvFiller.h"
@@ -104,7 +104,7 @@ void lvFiller::FillStyles(ListTable& list, std::int64_t folderId) const {
 void lvFiller::FillStylesAndFolders(ListTable& list, std::int64_t folderId) const {
     SetUpStyleColumns(list);
     std::vector<ListRow> rows;
-    TWNode* const parent = tree_.Nodes("G:" + std::to_string(folderId));
+    TWNode* const parent = tree_.Nodes(StyleFolderKey(folderId));
     if (parent != nullptr && parent->HasChildren())
         for (const auto& child : parent->Children()) {
             if (child->IsStyle() || child->IsDocument()) continue;

@@ -9,8 +9,6 @@
 #include "store/ExchangeFile.h"
 #include "store/Schema.h"
 #include "support/DiesIn.h"
-#include "support/NoMessages.h"
-#include "support/SilentStore.h"
 
 namespace tw::test {
 namespace {
@@ -59,7 +57,7 @@ class RecipeCopyTest : public testing::Test {
         main->Execute("INSERT INTO STYLES (ID, NAME) VALUES (7, 'Dry Stout')");
     }
 
-    RecipeCopier Copier() { return {*main, objects, *file, host}; }
+    RecipeCopier Copier() { return {*main, *file, host}; }
     void Export(const Strings& names) { Copier().ExportRecipes(names); }
     void Import(const Strings& names, std::int64_t folderId = 0) {
         Copier().ImportRecipes(names, folderId, unknown);
@@ -78,11 +76,6 @@ class RecipeCopyTest : public testing::Test {
     const TemporaryFolder folder;
     const std::unique_ptr<Database> main = Database::CreateInMemory();
     const std::unique_ptr<Database> file = Database::CreateDatabase(folder.File("a.TWR"), kExchangeLocale);
-    NoMessages messages;
-    StoreClock clock;
-    NoListener listener;
-    ObjectTree tree;
-    DB_IO objects{*main, tree, messages, clock, listener};
     Host host;
     StylesNotImported unknown;
 };
@@ -427,9 +420,8 @@ TEST_F(RecipeCopyTest, ACrashInAnImportLeavesTheOldDatabaseWhole) {
             db->ExecuteNative("PRAGMA cache_size=3");
             DieAt(*db, statement);
             const auto source = Database::OpenDatabase(folder.File("a.TWR"), false);
-            DB_IO names(*db, tree, messages, clock, listener);
             host.answers = {kOverwrite};
-            RecipeCopier(*db, names, *source, host).ImportRecipes(Strings{"Mild", "Stout"}, 0, unknown);
+            RecipeCopier(*db, *source, host).ImportRecipes(Strings{"Mild", "Stout"}, 0, unknown);
         });
         const auto db = OpenMainDatabase(path);
         if (died) {

@@ -4,23 +4,20 @@
 #include <unistd.h>
 
 #include "StoreSupport.h"
-#include "store/DB_IO.h"
+#include "store/RowNames.h"
 #include "store/Schema.h"
 #include "support/DiesIn.h"
-#include "support/NoMessages.h"
-#include "support/SilentStore.h"
 
 namespace tw::test {
 namespace {
 
 // A save: the old recipe goes, the new one takes its place.
 void Save(Database& database, const StoredRecipe& recipe) {
-    StoreClock clock;
-    NoListener listener;
-    ObjectTree tree;
-    NoMessages messages;
     UnitOfWork unit(database);
-    DB_IO(database, tree, messages, clock, listener).DeleteRecipeByName(recipe.name);
+    const std::int64_t old = IdByName(database, "RECIPES", recipe.name);
+    database.Execute("DELETE FROM RECIPES WHERE ID = ?", {old});
+    for (const std::string lines : {"RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_ADJUNCTS", "RECIPE_LOG"})
+        database.Execute("DELETE FROM " + lines + " WHERE RECIPE_ID = ?", {old});
     InsertRecipe(database, recipe);
     unit.Commit();
 }

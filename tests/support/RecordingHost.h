@@ -12,8 +12,8 @@
 
 #include "document/DocumentHost.h"
 #include "document/RecipeDocument.h"
-#include "store/DB_IO.h"
 #include "support/NoMessages.h"
+#include "tree/DB_IO.h"
 
 namespace tw::test {
 
@@ -114,7 +114,8 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
         for (RecipeDocument* document : documents) document->Notices().NotifyStyleDeleted(styleId);
     }
 
-    ObjectTree tree_;  // shows nothing
+    TWTree shown_;  // nothing
+    TreeObjects tree_{shown_};
     NoMessages messages_;
     DB_IO io_;
 };

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "platform/Ports.h"
-#include "store/DB_IO.h"
+#include "tree/DB_IO.h"
 
 namespace tw::test {
 

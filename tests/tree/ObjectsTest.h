@@ -9,8 +9,8 @@
 
 #include "TreeComparison.h"
 #include "TreeTest.h"
-#include "store/DB_IO.h"
 #include "support/RecordingPlatform.h"
+#include "tree/DB_IO.h"
 #include "tree/TreeObjects.h"
 
 namespace tw::test {

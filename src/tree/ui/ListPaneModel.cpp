@@ -7,7 +7,7 @@
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
-#include "store/DB_IO.h"
+#include "tree/DB_IO.h"
 #include "tree/ListFormats.h"
 #include "tree/NodeList.h"
 #include "tree/ui/NameTip.h"

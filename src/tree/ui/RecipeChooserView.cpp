@@ -123,7 +123,7 @@ void RecipeChooserView::ShowButtons() {
 // A folder opens, and is taken by cmdAdd alone.
 void RecipeChooserView::AddChosen() {
     const std::string key = chooser_.treeRecipes().SelectedKey();
-    if (key.starts_with("R:")) chooser_.Press("cmdAdd");
+    if (IsRecipeKey(key)) chooser_.Press("cmdAdd");
 }
 
 void RecipeChooserView::ShowPopup(const QPoint& place) {

@@ -8,7 +8,7 @@
 
 #include "platform/ScopeGuard.h"
 #include "platform/qt/QtText.h"
-#include "store/DB_IO.h"
+#include "tree/DB_IO.h"
 #include "tree/ListFormats.h"
 #include "tree/ui/InPlaceEditor.h"
 #include "tree/ui/NameTip.h"

@@ -1,7 +1,6 @@
 // What a key allows.
-#include "store/ObjectKeys.h"
-
 #include "ObjectsTest.h"
+#include "tree/DB_IO.h"
 
 namespace tw::test {
 namespace {

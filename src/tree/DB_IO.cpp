@@ -1,33 +1,24 @@
 // Keys, look-ups, the tree's entries, and what the operations share.
-#include "store/DB_IO.h"
+#include "tree/DB_IO.h"
 
 #include <algorithm>
-#include <charconv>
 
-#include "store/ObjectKeys.h"
+#include "store/RowNames.h"
+#include "tree/NodeKey.h"
 #include "values/Text.h"
 
 namespace tw {
 namespace {
 
-constexpr std::string_view kSystemFolders[] = {kAllRecipesFolder, "F:0", kAllStylesFolder, "G:0"};
+constexpr std::string_view kSystemFolders[] = {kAllRecipesKey, kRecipeFoldersKey, kAllStylesKey,
+                                               kStyleFoldersKey};
 
-bool IsFolderKey(std::string_view key) {
-    return key.starts_with('F') || key.starts_with('G');
+bool IsFolder(std::string_view key) {
+    return IsRecipeFolderKey(key) || IsStyleFolderKey(key);
 }
 
 bool IsSystemFolder(std::string_view key) {
     return std::ranges::find(kSystemFolders, key) != std::end(kSystemFolders);
-}
-
-bool IsNoStyle(std::string_view key) {
-    return key.starts_with("S:0:");
-}
-
-Recordset ByName(Database& database, std::string_view columns, std::string_view table,
-                 std::string_view name) {
-    return database.OpenRecordset(
-        "SELECT " + std::string(columns) + " FROM " + std::string(table) + " WHERE NAME = ?", {Trim(name)});
 }
 
 // The id that a row refers to; nobody's for NULL.
@@ -35,23 +26,11 @@ std::int64_t LinkOf(const Field& field) {
     return field.IsNull() ? kNoId : field.Integer();
 }
 
-Recordset NameOfRow(Database& database, std::int64_t id, std::string_view table) {
-    return database.OpenRecordset("SELECT NAME FROM " + std::string(table) + " WHERE ID = ?", {id});
-}
-
 }  // namespace
 
-std::int64_t IdOfKey(std::string_view key) {
-    const std::size_t start = std::min(key.find(':'), key.size() - 1) + 1;
-    const std::string_view field = key.substr(start, key.find(':', start) - start);
-    std::int64_t id = kNoId;
-    const auto [end, failure] = std::from_chars(field.data(), field.data() + field.size(), id);
-    return failure == std::errc() && end == field.data() + field.size() ? id : kNoId;
-}
-
 bool CanDeleteNode(std::string_view key) {
-    if (IsFolderKey(key)) return !IsSystemFolder(key);
-    return key.starts_with('R') || (key.starts_with('S') && !IsNoStyle(key));
+    if (IsFolder(key)) return !IsSystemFolder(key);
+    return IsRecipeKey(key) || (IsStyleKey(key) && !IsNoStyleKey(key));
 }
 
 bool CanRenameNode(std::string_view key) {
@@ -59,25 +38,16 @@ bool CanRenameNode(std::string_view key) {
 }
 
 bool CanHoldFolders(std::string_view key) {
-    return IsFolderKey(key) && key != kAllRecipesFolder && key != kAllStylesFolder;
+    return IsFolder(key) && key != kAllRecipesKey && key != kAllStylesKey;
 }
 
 bool CanDropOn(std::string_view sourceKey, std::string_view destKey) {
-    if (sourceKey.empty() || IsSystemFolder(sourceKey) || IsNoStyle(sourceKey) || sourceKey == destKey)
-        return false;
-    const bool ontoRecipeFolder = destKey.starts_with('F') && destKey != kAllRecipesFolder;
-    const bool ontoStyleFolder = destKey.starts_with('G') && destKey != kAllStylesFolder;
-    switch (sourceKey.front()) {
-        case 'F':
-            return ontoRecipeFolder;
-        case 'R':
-            return ontoRecipeFolder || destKey.starts_with('S');
-        case 'G':
-        case 'S':
-            return ontoStyleFolder;
-        default:
-            return false;
-    }
+    if (IsSystemFolder(sourceKey) || IsNoStyleKey(sourceKey) || sourceKey == destKey) return false;
+    const bool ontoRecipeFolder = IsRecipeFolderKey(destKey) && destKey != kAllRecipesKey;
+    const bool ontoStyleFolder = IsStyleFolderKey(destKey) && destKey != kAllStylesKey;
+    if (IsRecipeFolderKey(sourceKey)) return ontoRecipeFolder;
+    if (IsRecipeKey(sourceKey)) return ontoRecipeFolder || IsStyleKey(destKey);
+    return (IsStyleFolderKey(sourceKey) || IsStyleKey(sourceKey)) && ontoStyleFolder;
 }
 
 bool DB_IO::IsSubFolder(std::string_view sourceKey, std::string_view destKey) const {
@@ -89,47 +59,29 @@ bool DB_IO::MoveObject(std::string_view sourceKey, std::string_view destKey, boo
     if (!CanDropOn(sourceKey, destKey)) return Refuse("Could not move object", "Invalid Destination", silent);
     const std::int64_t source = IdOfKey(sourceKey);
     const std::int64_t dest = IdOfKey(destKey);
-    switch (sourceKey.front()) {
-        case 'F':
-            return MoveRecipeFolder(source, dest, silent);
-        case 'G':
-            return MoveStyleFolder(source, dest, silent);
-        case 'S':
-            return MoveStyleToFolder(source, dest, silent);
-        default:
-            return destKey.starts_with('S') ? MoveRecipeToStyle(source, dest, silent)
-                                            : MoveRecipeToFolder(source, dest, silent);
-    }
+    if (IsRecipeFolderKey(sourceKey)) return MoveRecipeFolder(source, dest, silent);
+    if (IsStyleFolderKey(sourceKey)) return MoveStyleFolder(source, dest, silent);
+    if (IsStyleKey(sourceKey)) return MoveStyleToFolder(source, dest, silent);
+    return IsStyleKey(destKey) ? MoveRecipeToStyle(source, dest, silent)
+                               : MoveRecipeToFolder(source, dest, silent);
 }
 
 bool DB_IO::RenameObject(std::string_view key, std::string_view newName, bool silent) {
     if (!CanRenameNode(key)) return Refuse("Could not rename object", "Invalid Object", silent);
     const std::int64_t id = IdOfKey(key);
-    switch (key.front()) {
-        case 'F':
-            return RenameRecipeFolder(id, newName, silent);
-        case 'G':
-            return RenameStyleFolder(id, newName, silent);
-        case 'S':
-            return RenameStyle(id, newName, silent);
-        default:
-            return RenameRecipe(id, newName, silent);
-    }
+    if (IsRecipeFolderKey(key)) return RenameRecipeFolder(id, newName, silent);
+    if (IsStyleFolderKey(key)) return RenameStyleFolder(id, newName, silent);
+    if (IsStyleKey(key)) return RenameStyle(id, newName, silent);
+    return RenameRecipe(id, newName, silent);
 }
 
 void DB_IO::DeleteObject(std::string_view key) {
     if (!CanDeleteNode(key)) return;
     const std::int64_t id = IdOfKey(key);
-    switch (key.front()) {
-        case 'F':
-            return DeleteRecipeFolder(id);
-        case 'G':
-            return DeleteStyleFolder(id);
-        case 'S':
-            return DeleteStyleById(id);
-        default:
-            return DeleteRecipeById(id);
-    }
+    if (IsRecipeFolderKey(key)) return DeleteRecipeFolder(id);
+    if (IsStyleFolderKey(key)) return DeleteStyleFolder(id);
+    if (IsStyleKey(key)) return DeleteStyleById(id);
+    DeleteRecipeById(id);
 }
 
 std::string DB_IO::CreateFolderObject(std::string_view parentKey, std::string_view name, bool silent) {
@@ -137,27 +89,25 @@ std::string DB_IO::CreateFolderObject(std::string_view parentKey, std::string_vi
         Refuse("Could not create new folder", "Invalid Parent Object", silent);
         return {};
     }
-    const FolderKind kind = parentKey.starts_with('F') ? FolderKind::Recipes : FolderKind::Styles;
+    const FolderKind kind = IsRecipeFolderKey(parentKey) ? FolderKind::Recipes : FolderKind::Styles;
     const std::int64_t id = CreateFolder(kind, IdOfKey(parentKey), name, silent);
     return id < 0 ? std::string() : FolderKey(kind, id);
 }
 
 std::int64_t DB_IO::IdByName(std::string_view name, std::string_view table) {
-    const Recordset rows = ByName(database_, "ID", table, name);
-    return rows.AtEnd() ? 0 : rows.Fields(0).Integer();
+    return tw::IdByName(database_, table, name);
 }
 
 std::string DB_IO::NameById(std::int64_t id, std::string_view table) {
-    const Recordset rows = NameOfRow(database_, id, table);
-    return rows.AtEnd() ? std::string() : rows.Fields(0).Text();
+    return tw::NameById(database_, table, id).value_or("");
 }
 
 bool DB_IO::RecipeNameExists(std::string_view name) {
-    return !ByName(database_, "*", "RECIPES", name).AtEnd();
+    return !RowsByName(database_, "RECIPES", "*", name).AtEnd();
 }
 
 bool DB_IO::StyleNameExists(std::string_view name) {
-    return !ByName(database_, "*", "STYLES", name).AtEnd();
+    return !RowsByName(database_, "STYLES", "*", name).AtEnd();
 }
 
 bool DB_IO::RecipeFolderNameExists(std::int64_t parentId, std::string_view name) {
@@ -188,15 +138,13 @@ std::vector<std::int64_t> DB_IO::RecipesOfStyle(std::int64_t styleId) {
 }
 
 std::string DB_IO::FolderKey(FolderKind kind, std::int64_t id) {
-    return std::string(1, static_cast<char>(kind)) + ":" + std::to_string(id);
+    return kind == FolderKind::Styles ? StyleFolderKey(id) : RecipeFolderKey(id);
 }
 
 std::optional<std::string> DB_IO::ObjectName(const std::string& key, std::string_view table,
                                              std::int64_t id) {
     if (auto name = tree_.NameOf(key)) return name;
-    const Recordset rows = NameOfRow(database_, id, table);
-    if (rows.AtEnd()) return std::nullopt;
-    return rows.Fields(0).Text();
+    return tw::NameById(database_, table, id);
 }
 
 std::optional<std::string> DB_IO::RecipeName(std::int64_t id) {
@@ -215,7 +163,7 @@ bool DB_IO::IsFolder(FolderKind kind, std::int64_t id) const {
 void DB_IO::AddRecipeNodes(std::int64_t id, std::string_view name, std::int64_t folderId,
                            std::int64_t styleId) {
     const std::string text(name);
-    tree_.Place(RecipeKey(id, 0), std::string(kAllRecipesFolder), text);
+    tree_.Place(RecipeKey(id, 0), std::string(kAllRecipesKey), text);
     for (int copy = 0; copy < kStyleCopies; ++copy)
         tree_.Place(RecipeKey(id, copy + 1), StyleKey(styleId, copy), text);
     if (IsFolder(FolderKind::Recipes, folderId))
@@ -230,8 +178,8 @@ void DB_IO::AddRecipeNodesByName(std::string_view name) {
     };
     std::vector<Row> found;
     // The name is one recipe's, unless another program has written the file.
-    for (Recordset rows = ByName(database_, "ID, FOLDER_ID, STYLE_ID, NAME", "RECIPES", name); !rows.AtEnd();
-         rows.MoveNext())
+    for (Recordset rows = RowsByName(database_, "RECIPES", "ID, FOLDER_ID, STYLE_ID, NAME", name);
+         !rows.AtEnd(); rows.MoveNext())
         found.push_back({rows.Fields(0).Integer(), LinkOf(rows.Fields(1)), LinkOf(rows.Fields(2)),
                          rows.Fields(3).Text()});
     for (const Row& row : found)
@@ -240,14 +188,14 @@ void DB_IO::AddRecipeNodesByName(std::string_view name) {
 
 void DB_IO::AddStyleNodes(std::int64_t id, std::string_view name, std::int64_t folderId) {
     const std::string text(name);
-    tree_.Place(StyleKey(id, 0), std::string(kAllStylesFolder), text);
+    tree_.Place(StyleKey(id, 0), std::string(kAllStylesKey), text);
     if (IsFolder(FolderKind::Styles, folderId))
         tree_.Place(StyleKey(id, kStyleInFolder), FolderKey(FolderKind::Styles, folderId), text);
     TouchStyleFolder(folderId);
 }
 
 void DB_IO::AddStyleNodesByName(std::string_view name) {
-    Recordset rows = ByName(database_, "ID, FOLDER_ID", "STYLES", name);
+    Recordset rows = RowsByName(database_, "STYLES", "ID, FOLDER_ID", name);
     if (rows.AtEnd()) return;
     const std::int64_t id = rows.Fields(0).Integer();
     const std::int64_t folderId = LinkOf(rows.Fields(1));

@@ -11,7 +11,7 @@
 
 #include "platform/Ports.h"
 #include "store/Database.h"
-#include "store/ObjectTree.h"
+#include "tree/TreeObjects.h"
 
 namespace tw {
 
@@ -50,7 +50,7 @@ bool CanDropOn(std::string_view sourceKey, std::string_view destKey);
 class DB_IO {
   public:
     // REQUIRES: all of them live for as long.
-    DB_IO(Database& database, ObjectTree& tree, MessagePort& messages, ClockPort& clock,
+    DB_IO(Database& database, TreeObjects& tree, MessagePort& messages, ClockPort& clock,
           ObjectListener& listener)
         : database_(database), tree_(tree), messages_(messages), clock_(clock), listener_(listener) {}
 
@@ -131,8 +131,10 @@ class DB_IO {
     void TouchStyleFolder(std::int64_t folderId);
 
   private:
-    enum class FolderKind : char { Recipes = 'F', Styles = 'G' };
+    enum class FolderKind { Recipes, Styles };
     using Operation = std::function<bool()>;
+    // Of the errors that tell of a missing object.
+    static constexpr int kMissingNumber = 5;
     static std::string FolderKey(FolderKind kind, std::int64_t id);
     // What tells the rows of these folders from the others.
     static std::string Condition(FolderKind kind) {
@@ -186,7 +188,7 @@ class DB_IO {
     void DeleteStyle(std::int64_t id);
 
     Database& database_;
-    ObjectTree& tree_;
+    TreeObjects& tree_;
     MessagePort& messages_;
     ClockPort& clock_;
     ObjectListener& listener_;

@@ -1,6 +1,6 @@
 // Moving, renaming and creating objects.
-#include "store/DB_IO.h"
-#include "store/ObjectKeys.h"
+#include "tree/DB_IO.h"
+#include "tree/NodeKey.h"
 #include "values/Text.h"
 
 namespace tw {

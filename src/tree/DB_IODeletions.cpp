@@ -1,8 +1,8 @@
 // Deleting objects with all that hangs on them.
 #include <unordered_set>
 
-#include "store/DB_IO.h"
-#include "store/ObjectKeys.h"
+#include "tree/DB_IO.h"
+#include "tree/NodeKey.h"
 #include "values/Text.h"
 
 namespace tw {
