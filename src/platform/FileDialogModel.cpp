@@ -4,31 +4,20 @@
 
 namespace tw {
 
-void FileDialogModel::Accept(std::string_view fileName) {
+FileDialogModel::FileDialogModel(Options options, MessagePort& messages)
+    : FormModel("CommonDialog"), options_(std::move(options)), messages_(messages) {
+    AddControls({TextEntry("FileName", text_)});
+    AddButtons({{"cmdOK", [this] { Ok(); }}, {"cmdCancel", [this] { Close(); }}});
+}
+
+void FileDialogModel::Take(std::string_view fileName) {
     fileName_ = fileName;
-    cancelled_ = false;
-    open_ = false;
+    Accept();
 }
 
-std::vector<DialogControl> FileDialogModel::Controls() const {
-    return {{"FileName", text_}};
-}
-
-bool FileDialogModel::SetControl(std::string_view name, std::string_view text) {
-    if (name != "FileName") return false;
-    text_ = text;
-    return true;
-}
-
-bool FileDialogModel::Press(std::string_view button) {
-    if (button == "cmdOK") {
-        const std::string fileName = WithExtension();
-        if (Accepts(fileName)) Accept(fileName);
-        return true;
-    }
-    if (button != "cmdCancel") return false;
-    CloseBox();
-    return true;
+void FileDialogModel::Ok() {
+    const std::string fileName = WithExtension();
+    if (Accepts(fileName)) Take(fileName);
 }
 
 std::string FileDialogModel::WithExtension() const {

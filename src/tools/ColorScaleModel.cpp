@@ -65,43 +65,40 @@ std::string ColorReading(double hcu) {
     return (srm <= 50 ? FormatNumber(srm, "0") : std::string(">50")) + " SRM (" + FormatNumber(hcu, "0 HCU)");
 }
 
+ColorScaleModel::ColorScaleModel() : FormModel("frmColor") {
+    for (int i = 0; i < kColorScales; ++i) {
+        const auto scale = static_cast<ColorScale>(i);
+        AddControls({OptionButton(
+            Member("optScale", i), [this, scale] { return scale_ == scale; },
+            [this, scale] { Choose(scale); })});
+    }
+    AddColumn(LeftColumn, 0);
+    AddColumn(RightColumn, kColumnMembers);
+    AddControls({
+        {Member("Label1", 0), [this] { return std::string(LeftColumn(scale_).caption); }},
+        {Member("Label1", 1), [this] { return std::string(RightColumn(scale_).caption); }},
+    });
+    AddButtons({{"cmdClose", [this] { Close(); }}});
+}
+
+// As many labels as the longest column has; a shorter one leaves the last of them out.
+void ColorScaleModel::AddColumn(ScaleColumn (*columnOf)(ColorScale), int firstLabel) {
+    for (int i = 0; i < kColumnMembers; ++i) {
+        const auto mark = static_cast<std::size_t>(i);
+        const auto value = [this, columnOf, mark] {
+            return std::to_string(columnOf(scale_).marks[mark].value);
+        };
+        const auto isThere = [this, columnOf, mark] { return mark < columnOf(scale_).marks.size(); };
+        AddControls({{Member("lblVal", firstLabel + i), value, {}, isThere}});
+    }
+}
+
 void ColorScaleModel::MovePointer(int step) {
     pointer_ = std::clamp(step, 0, kPointerEnd);
 }
 
 double ColorScaleModel::PointerHcu() const {
     return ScaleHcu(scale_, static_cast<double>(pointer_) / kPointerEnd);
-}
-
-std::vector<DialogControl> ColorScaleModel::Controls() const {
-    std::vector<DialogControl> controls;
-    controls.reserve(kColorScales + 2 * kColumnMembers + 2);
-    for (int i = 0; i < kColorScales; ++i)
-        controls.push_back({Member("optScale", i), i == static_cast<int>(scale_) ? "yes" : "no"});
-    int index = 0;
-    for (const ScaleMark& mark : LeftColumn(scale_).marks)
-        controls.push_back({Member("lblVal", index++), std::to_string(mark.value)});
-    index = kColumnMembers;
-    for (const ScaleMark& mark : RightColumn(scale_).marks)
-        controls.push_back({Member("lblVal", index++), std::to_string(mark.value)});
-    controls.push_back({Member("Label1", 0), std::string(LeftColumn(scale_).caption)});
-    controls.push_back({Member("Label1", 1), std::string(RightColumn(scale_).caption)});
-    return controls;
-}
-
-bool ColorScaleModel::SetControl(std::string_view name, std::string_view text) {
-    for (int i = 0; i < kColorScales; ++i) {
-        if (name != Member("optScale", i) || text != "yes") continue;
-        Choose(static_cast<ColorScale>(i));
-        return true;
-    }
-    return false;
-}
-
-bool ColorScaleModel::Press(std::string_view button) {
-    if (button != "cmdClose") return false;
-    open_ = false;
-    return true;
 }
 
 }  // namespace tw

@@ -5,10 +5,9 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "calc/BeerColor.h"
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 
 namespace tw {
 
@@ -37,8 +36,12 @@ double ScaleHcu(ColorScale scale, double fraction);
 // An HCU figure as recipes show it: "12 SRM (21 HCU)", ">50 SRM (250 HCU)".
 std::string ColorReading(double hcu);
 
-class ColorScaleModel final : public DialogModel {
+// optScale(0) to (2); the members of lblVal that are shown, those of the left column from 0, those of the
+// right one from 12; Label1(0) and (1); cmdClose.
+class ColorScaleModel final : public FormModel {
   public:
+    ColorScaleModel();
+
     // Steps of the pointer along the picture.
     static constexpr int kPointerEnd = 100;
 
@@ -53,21 +56,12 @@ class ColorScaleModel final : public DialogModel {
     // The figure under the pointer.
     double PointerHcu() const;
 
-    std::string FormName() const override { return "frmColor"; }
-    // optScale(0) to (2), the members of lblVal that are shown, those of the left column from 0, those of
-    // the right one from 12, and Label1(0) and (1).
-    std::vector<DialogControl> Controls() const override;
-    // An option takes "yes".
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdClose.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
+    // The labels of a column, counted from the first one's number.
+    void AddColumn(ScaleColumn (*columnOf)(ColorScale), int firstLabel);
+
     ColorScale scale_ = ColorScale::Srm;
     int pointer_ = 0;
-    bool open_ = true;
 };
 
 }  // namespace tw

@@ -38,6 +38,24 @@ std::optional<QuantityKind> FindKind(std::string_view name) {
     return std::nullopt;
 }
 
+ConvertUnitsModel::ConvertUnitsModel(MessagePort& messages)
+    : FormModel("frmConvertUnits"), messages_(messages) {
+    AddControls({
+        {"cmbType", [this] { return std::string(KindName(kind_)); },
+         [this](std::string_view name) { return ChooseKind(name); }},
+        {"labelType", [] { return std::string("Unit Type"); }},
+    });
+    for (int box = 0; box < kBoxes; ++box) {
+        const auto enter = [this, box](std::string_view text) {
+            Enter(box, text);
+            return true;
+        };
+        AddControls({{BoxName(box), [this, box] { return Text(box); }, enter,
+                      [this, box] { return box < BoxCount(); }}});
+    }
+    AddButtons({{"cmdClose", [this] { Close(); }}});
+}
+
 void ConvertUnitsModel::SetKind(QuantityKind kind) {
     if (kind == kind_) return;
     kind_ = kind;
@@ -89,31 +107,10 @@ void ConvertUnitsModel::FillOthers(int box, double value) {
     }
 }
 
-std::vector<DialogControl> ConvertUnitsModel::Controls() const {
-    std::vector<DialogControl> controls{{"cmbType", std::string(KindName(kind_))},
-                                        {"labelType", "Unit Type"}};
-    for (int box = 0; box < BoxCount(); ++box) controls.push_back({BoxName(box), Text(box)});
-    return controls;
-}
-
-bool ConvertUnitsModel::SetControl(std::string_view name, std::string_view text) {
-    if (name == "cmbType") {
-        const std::optional<QuantityKind> kind = FindKind(text);
-        if (kind) SetKind(*kind);
-        return kind.has_value();
-    }
-    for (int box = 0; box < BoxCount(); ++box) {
-        if (name != BoxName(box)) continue;
-        Enter(box, text);
-        return true;
-    }
-    return false;
-}
-
-bool ConvertUnitsModel::Press(std::string_view button) {
-    if (button != "cmdClose") return false;
-    open_ = false;
-    return true;
+bool ConvertUnitsModel::ChooseKind(std::string_view name) {
+    const std::optional<QuantityKind> kind = FindKind(name);
+    if (kind) SetKind(*kind);
+    return kind.has_value();
 }
 
 }  // namespace tw

@@ -6,21 +6,22 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "platform/Ports.h"
 #include "tools/UnitConverter.h"
 
 namespace tw {
 
-class ConvertUnitsModel final : public DialogModel {
+// cmbType takes the name of a kind; labelType; Text1 and so on, as far as they are shown, take any text, from
+// which they convert; cmdClose.
+class ConvertUnitsModel final : public FormModel {
   public:
     // The most boxes that a kind needs.
     static constexpr int kBoxes = 9;
 
     // Opens on the first kind with empty boxes. messages must outlive the dialog.
-    explicit ConvertUnitsModel(MessagePort& messages) : messages_(messages) {}
+    explicit ConvertUnitsModel(MessagePort& messages);
 
     QuantityKind Kind() const { return kind_; }
     // Another kind shows its own boxes, all empty. The same one again changes nothing.
@@ -43,17 +44,8 @@ class ConvertUnitsModel final : public DialogModel {
     // key, or for the box to be left.
     void TypeInto(int box, std::string_view text);
 
-    std::string FormName() const override { return "frmConvertUnits"; }
-    // cmbType, labelType, then Text1 and so on, as far as they are shown.
-    std::vector<DialogControl> Controls() const override;
-    // cmbType takes the name of a kind, a box any text, from which it converts.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdClose.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
+    bool ChooseKind(std::string_view name);
     void EmptyOthers(int box);
     void FillOthers(int box, double value);
 
@@ -61,7 +53,6 @@ class ConvertUnitsModel final : public DialogModel {
     QuantityKind kind_ = QuantityKind::Weight;
     std::array<std::string, kBoxes> texts_;
     bool converting_ = false;
-    bool open_ = true;
 };
 
 // The kind of that name, in any case; nothing for another name.

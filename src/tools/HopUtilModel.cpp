@@ -25,7 +25,13 @@ std::optional<double> NumberOf(std::string_view text) {
 
 }  // namespace
 
-HopUtilModel::HopUtilModel(const std::optional<std::string>& boilGravity) {
+HopUtilModel::HopUtilModel(const std::optional<std::string>& boilGravity) : FormModel("frmHopUtil") {
+    AddControls({
+        {"Slider1", [this] { return std::to_string(position_); },
+         [this](std::string_view text) { return EnterPosition(text); }},
+        {"lblGraph", [this] { return GraphText(); }},
+    });
+    AddButtons({{"cmdClose", [this] { Close(); }}});
     const std::optional<double> gravity = boilGravity ? NumberOf(*boilGravity) : std::nullopt;
     // A stronger boil than the slider knows leaves it where it is.
     if (!gravity || *gravity > kHeaviest) return;
@@ -48,23 +54,12 @@ void HopUtilModel::MoveTo(int minutes) {
     minutes_ = std::clamp(minutes, 0, kGraphMinutes);
 }
 
-std::vector<DialogControl> HopUtilModel::Controls() const {
-    return {{"Slider1", std::to_string(position_)}, {"lblGraph", GraphText()}};
-}
-
-bool HopUtilModel::SetControl(std::string_view name, std::string_view text) {
+bool HopUtilModel::EnterPosition(std::string_view text) {
     int position = 0;
     const char* const textEnd = text.data() + text.size();
     const auto [end, error] = std::from_chars(text.data(), textEnd, position);
-    if (name != "Slider1" || error != std::errc() || end != textEnd || position < 0 || position > kSliderEnd)
-        return false;
+    if (error != std::errc() || end != textEnd || position < 0 || position > kSliderEnd) return false;
     MoveSlider(position);
-    return true;
-}
-
-bool HopUtilModel::Press(std::string_view button) {
-    if (button != "cmdClose") return false;
-    open_ = false;
     return true;
 }
 

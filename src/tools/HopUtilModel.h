@@ -6,9 +6,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "tools/UtilisationGraph.h"
 
 namespace tw {
@@ -16,7 +15,8 @@ namespace tw {
 // Positions of Slider1: the first stands for 1.250, the last for 1.000.
 inline constexpr int kSliderEnd = 250;
 
-class HopUtilModel final : public DialogModel {
+// Slider1 takes its position, a whole number from 0 to kSliderEnd; lblGraph; cmdClose.
+class HopUtilModel final : public FormModel {
   public:
     // boilGravity: the text of the active document's boil gravity, nothing without a document. A number from
     // 1 to 1.25 sets the slider, one below 1 sets it to 1.000; anything else leaves it at 1.100.
@@ -38,20 +38,11 @@ class HopUtilModel final : public DialogModel {
     // The utilisation at that time, in percent.
     UtilisationFigures Figures() const { return UtilisationAt(Gravity(), minutes_); }
 
-    std::string FormName() const override { return "frmHopUtil"; }
-    // Slider1, its position, and lblGraph.
-    std::vector<DialogControl> Controls() const override;
-    // Slider1 takes a whole number from 0 to 250.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdClose.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
+    bool EnterPosition(std::string_view text);
+
     int position_ = 150;
     int minutes_ = 60;
-    bool open_ = true;
 };
 
 }  // namespace tw

@@ -21,20 +21,39 @@ double WaterDensity(double t) {
     return 1.00130346 - 0.000134722124 * t + 2.04052596e-6 * t * t - 2.32820948e-9 * t * t * t;
 }
 
+HydrometerModel::HydrometerModel(MessagePort& messages) : FormModel("frmHydrometer"), messages_(messages) {
+    AddControls({
+        Entry("txtActRead"),
+        Entry("txtActTemp"),
+        Entry("cmbCalTemp"),
+        {std::string(kResult), [this] { return Text(kResult); }},
+    });
+    AddButtons({{"cmdEscape", [this] { Close(); }}});
+}
+
+FormControl HydrometerModel::Entry(const std::string& name) {
+    return {name, [this, name] { return Text(name); },
+            [this, name](std::string_view text) {
+                TypeInto(name, text);
+                UpdateCorrection();
+                return true;
+            }};
+}
+
 const std::vector<std::string>& HydrometerModel::CalibrationEntries() {
     static const std::vector<std::string> entries{"60.0 F (15.6 C)", "20.0 C (68.0 F)"};
     return entries;
 }
 
 const std::string& HydrometerModel::Text(std::string_view name) const {
-    const auto found = std::ranges::find(controls_, name, &DialogControl::name);
-    assert(found != controls_.end());
+    const auto found = std::ranges::find(texts_, name, &DialogControl::name);
+    assert(found != texts_.end());
     return found->text;
 }
 
 bool HydrometerModel::TypeInto(std::string_view name, std::string_view text) {
-    const auto found = std::ranges::find(controls_, name, &DialogControl::name);
-    if (found == controls_.end() || name == kResult) return false;
+    const auto found = std::ranges::find(texts_, name, &DialogControl::name);
+    if (found == texts_.end() || name == kResult) return false;
     found->text = text;
     return true;
 }
@@ -63,28 +82,12 @@ std::string HydrometerModel::UpdateCorrection() {
     if (!calibration) return refused;
     try {
         const double corrected = Finite(*reading * WaterDensity(*sample) / WaterDensity(*calibration));
-        controls_.back().text = FormatNumber(corrected, "0.##0") + " (" +
-                                FormatNumber(Finite(SGToPlato(corrected)), "0.##0") + "° Plato)";
+        texts_.back().text = FormatNumber(corrected, "0.##0") + " (" +
+                             FormatNumber(Finite(SGToPlato(corrected)), "0.##0") + "° Plato)";
     } catch (const Error& error) {
         messages_.ShowMessage("Error", error.WithNumber());
     }
     return refused;
-}
-
-std::vector<DialogControl> HydrometerModel::Controls() const {
-    return controls_;
-}
-
-bool HydrometerModel::SetControl(std::string_view name, std::string_view text) {
-    if (!TypeInto(name, text)) return false;
-    UpdateCorrection();
-    return true;
-}
-
-bool HydrometerModel::Press(std::string_view button) {
-    if (button != "cmdEscape") return false;
-    open_ = false;
-    return true;
 }
 
 }  // namespace tw

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "platform/Ports.h"
 #include "values/ParserValidater.h"
 
@@ -16,10 +16,11 @@ namespace tw {
 // 1.000063 at 60.
 double WaterDensity(double t);
 
-class HydrometerModel final : public DialogModel {
+// txtActRead, txtActTemp and cmbCalTemp take any text and are left then; txtCalRead shows the result.
+class HydrometerModel final : public FormModel {
   public:
     // messages must outlive the dialog.
-    explicit HydrometerModel(MessagePort& messages) : messages_(messages) {}
+    explicit HydrometerModel(MessagePort& messages);
 
     // The entries of cmbCalTemp, which takes any other text too.
     static const std::vector<std::string>& CalibrationEntries();
@@ -35,28 +36,18 @@ class HydrometerModel final : public DialogModel {
     // error has a box of its own. Nothing happens while the operation itself is running.
     std::string UpdateCorrection();
 
-    std::string FormName() const override { return "frmHydrometer"; }
-    // txtActRead, txtActTemp, cmbCalTemp, txtCalRead.
-    std::vector<DialogControl> Controls() const override;
-    // The three entries take any text and are left then.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdEscape closes the window.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
+    FormControl Entry(const std::string& name);
     // Nothing when the correction stops here: the text is blank, or refused and then named in refused.
     std::optional<double> Take(std::string_view name, Validator validator, std::string& refused);
 
     MessagePort& messages_;
     // Each under its control's name, in the order of the form.
-    std::vector<DialogControl> controls_{{"txtActRead", ""},
-                                         {"txtActTemp", ""},
-                                         {"cmbCalTemp", CalibrationEntries().front()},
-                                         {"txtCalRead", ""}};
+    std::vector<DialogControl> texts_{{"txtActRead", ""},
+                                      {"txtActTemp", ""},
+                                      {"cmbCalTemp", CalibrationEntries().front()},
+                                      {"txtCalRead", ""}};
     bool updating_ = false;
-    bool open_ = true;
 };
 
 }  // namespace tw

@@ -15,7 +15,7 @@ FileDialog::FileDialog(FileDialogModel& model, QWidget* parent) : QFileDialog(pa
     setNameFilter(ToQt(options.filterName));
     setDefaultSuffix(ToQt(options.extension));
     connect(this, &QFileDialog::fileSelected, this, [&model](const QString& file) {
-        if (!file.isEmpty()) model.Accept(FromQt(file));
+        if (!file.isEmpty()) model.Take(FromQt(file));
     });
 }
 
