@@ -2,21 +2,9 @@
 
 namespace tw {
 
-std::vector<DialogControl> CannotUndoModel::Controls() const {
-    return {{"chkDontShow", dontShow_ ? "yes" : "no"}};
-}
-
-bool CannotUndoModel::SetControl(std::string_view name, std::string_view text) {
-    if (name != "chkDontShow" || (text != "yes" && text != "no")) return false;
-    dontShow_ = text == "yes";
-    return true;
-}
-
-bool CannotUndoModel::Press(std::string_view button) {
-    if (button != "cmdYes" && button != "cmdNo") return false;
-    yes_ = button == "cmdYes";
-    open_ = false;
-    return true;
+CannotUndoModel::CannotUndoModel() : FormModel("frmCannotUndo") {
+    AddControls({CheckBox("chkDontShow", dontShow_)});
+    AddButtons({{"cmdYes", [this] { Accept(); }}, {"cmdNo", [this] { Close(); }}});
 }
 
 std::optional<PlainQuestion> CannotUndoModel::AsQuestion() const {

@@ -45,16 +45,17 @@ std::string FreezingPoint(const AlcoholFigures& f) {
 
 }  // namespace
 
-bool DetailsModel::Press(std::string_view button) {
-    if (button != "cmdClose") return false;
-    open_ = false;
-    return true;
+DetailsModel::DetailsModel(std::string formName, std::vector<DialogControl> labels, int slider)
+    : FormModel(std::move(formName)), slider_(slider) {
+    for (DialogControl& label : labels)
+        AddControls({{std::move(label.name), [text = std::move(label.text)] { return text; }}});
+    AddButtons({{"cmdClose", [this] { Close(); }}});
 }
 
 std::string DetailsModel::Text(std::string_view label) const {
-    const auto found =
-        std::find_if(labels_.begin(), labels_.end(), [&](const DialogControl& c) { return c.name == label; });
-    return found == labels_.end() ? "" : found->text;
+    for (const DialogControl& shown : Controls())
+        if (shown.name == label) return shown.text;
+    return {};
 }
 
 DetailsModel StrengthDetails(double og, double fg) {
@@ -122,9 +123,7 @@ DetailsModel HopDetails(double og, double ibu) {
                                            slider = BalancePosition(ratio);
                                            return FormatNumber(ratio, "0.##0");
                                        })}};
-    DetailsModel model("frmHopDetails", std::move(labels));
-    model.SetSliderBalance(slider);
-    return model;
+    return {"frmHopDetails", std::move(labels), slider};
 }
 
 DetailsModel StrengthDetailsOf(const RecipeDocument& document) {

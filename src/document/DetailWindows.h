@@ -7,33 +7,22 @@
 #include <vector>
 
 #include "document/RecipeDocument.h"
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 
 namespace tw {
 
 // A modal window of labels with one button, cmdClose.
-class DetailsModel : public DialogModel {
+class DetailsModel final : public FormModel {
   public:
-    DetailsModel(std::string formName, std::vector<DialogControl> labels)
-        : formName_(std::move(formName)), labels_(std::move(labels)) {}
+    // slider: the position of sliderBalance, 0 to 1000; 0 for a window without one.
+    DetailsModel(std::string formName, std::vector<DialogControl> labels, int slider = 0);
 
-    std::string FormName() const override { return formName_; }
-    std::vector<DialogControl> Controls() const override { return labels_; }
-    bool SetControl(std::string_view, std::string_view) override { return false; }
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
     // The text of a label, empty for an unknown one.
     std::string Text(std::string_view label) const;
-    // Position of sliderBalance, 0 to 1000; 0 in the other windows.
     int SliderBalance() const { return slider_; }
-    void SetSliderBalance(int position) { slider_ = position; }
 
   private:
-    std::string formName_;
-    std::vector<DialogControl> labels_;
-    int slider_ = 0;
-    bool open_ = true;
+    int slider_;
 };
 
 // og, fg: specific gravities.

@@ -24,13 +24,6 @@ const Form& FormOf(Scaling what) {
     return kForms[static_cast<std::size_t>(what)];
 }
 
-constexpr std::string_view kScaleBoilVol = "chkScaleBV";
-constexpr std::string_view kPreserveIBU = "chkPreserveIBU";
-
-std::string YesNo(bool yes) {
-    return yes ? "yes" : "no";
-}
-
 // The number that was understood, if any; kind is its word in the messages.
 Reading<double> NotNegative(std::optional<double> number, const std::string& kind) {
     if (!number) return Refusal{kInvalidEntry, "Please enter a valid " + kind + " value"};
@@ -41,7 +34,28 @@ Reading<double> NotNegative(std::optional<double> number, const std::string& kin
 }  // namespace
 
 ScalingModel::ScalingModel(Scaling what, std::string current, MessagePort& messages)
-    : what_(what), current_(std::move(current)), messages_(messages) {}
+    : FormModel(std::string(FormOf(what).name)),
+      what_(what),
+      current_(std::move(current)),
+      messages_(messages) {
+    const Form& form = FormOf(what);
+    AddControls(
+        {{std::string(form.label), [this] { return current_; }}, TextEntry(std::string(form.box), entry_)});
+    if (form.scalesBoilVol) AddControls({Switch("chkScaleBV", scaleBoilVol_)});
+    if (form.preservesIBU) AddControls({Switch("chkPreserveIBU", preserveIBU_)});
+    AddButtons({{"OKButton", [this] { Ok(); }}, {"CancelButton", [this] { Close(); }}});
+}
+
+FormControl ScalingModel::Switch(std::string_view name, bool& checked) {
+    FormControl box = CheckBox(std::string(name), checked);
+    box.take = [this, &checked](std::string_view text) {
+        if (text != "yes" && text != "no") return false;
+        LeaveBox();
+        checked = text == "yes";
+        return true;
+    };
+    return box;
+}
 
 std::string_view ScalingModel::LabelName() const {
     return FormOf(what_).label;
@@ -49,37 +63,6 @@ std::string_view ScalingModel::LabelName() const {
 
 std::string_view ScalingModel::BoxName() const {
     return FormOf(what_).box;
-}
-
-std::string ScalingModel::FormName() const {
-    return std::string(FormOf(what_).name);
-}
-
-std::vector<DialogControl> ScalingModel::Controls() const {
-    const Form& form = FormOf(what_);
-    std::vector<DialogControl> controls{{std::string(form.label), current_}, {std::string(form.box), entry_}};
-    if (form.scalesBoilVol) controls.push_back({std::string(kScaleBoilVol), YesNo(scaleBoilVol_)});
-    if (form.preservesIBU) controls.push_back({std::string(kPreserveIBU), YesNo(preserveIBU_)});
-    return controls;
-}
-
-bool* ScalingModel::CheckNamed(std::string_view name) {
-    const Form& form = FormOf(what_);
-    if (form.scalesBoilVol && name == kScaleBoilVol) return &scaleBoilVol_;
-    if (form.preservesIBU && name == kPreserveIBU) return &preserveIBU_;
-    return nullptr;
-}
-
-bool ScalingModel::SetControl(std::string_view name, std::string_view text) {
-    if (name == BoxName()) {
-        entry_ = text;
-        return true;
-    }
-    bool* const check = CheckNamed(name);
-    if (!check || (text != "yes" && text != "no")) return false;
-    LeaveBox();
-    *check = text == "yes";
-    return true;
 }
 
 bool ScalingModel::LeaveBox() {
@@ -129,21 +112,10 @@ Reading<double> ScalingModel::ReadSize() const {
     return gallons;
 }
 
-bool ScalingModel::Press(std::string_view button) {
-    if (button == "OKButton")
-        Ok();
-    else if (button == "CancelButton")
-        CloseBox();
-    else
-        return false;
-    return true;
-}
-
 void ScalingModel::Ok() {
     // Blanks alone are no figure to scale to either.
     if (IsBlank(entry_) || !Check()) return;
-    cancelled_ = false;
-    open_ = false;
+    Accept();
 }
 
 std::optional<std::string> CurrentFigure(const RecipeDocument& document, Scaling what) {

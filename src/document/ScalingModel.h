@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "platform/Ports.h"
 #include "values/Reading.h"
 
@@ -20,7 +20,10 @@ class RecipeDocument;
 // What a recipe can be scaled to.
 enum class Scaling { Size, Strength, Bitterness, Carbonation };
 
-class ScalingModel final : public DialogModel {
+// The label and the entry box of the form; chkScaleBV and chkPreserveIBU as far as the form has them, which
+// leave the entry box first; OKButton, which stays open while the box is empty and for a bad entry;
+// CancelButton.
+class ScalingModel final : public FormModel {
   public:
     // current: the present figure as the recipe shows it. messages must outlive the dialog.
     ScalingModel(Scaling what, std::string current, MessagePort& messages);
@@ -40,26 +43,17 @@ class ScalingModel final : public DialogModel {
     // and a text that was found good before, are not looked at again.
     bool LeaveBox();
 
-    // True until OKButton has accepted the entry. The results below stand then.
-    bool Cancelled() const { return cancelled_; }
+    // The results, once OKButton has accepted the entry.
+
     // In the canonical unit of its kind: gallons, specific gravity, IBUs, volumes.
     double NewValue() const { return value_; }
     const std::string& NewText() const { return goodText_; }
     bool ScaleBoilVol() const { return scaleBoilVol_; }
     bool PreserveIBU() const { return preserveIBU_; }
 
-    std::string FormName() const override;
-    // Label, entry box, check boxes.
-    std::vector<DialogControl> Controls() const override;
-    // Entering a check box leaves the entry box.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // OKButton stays open while the box is empty and for a bad entry; CancelButton.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
-    bool* CheckNamed(std::string_view name);
+    // A check box that leaves the entry box as it takes its entry.
+    FormControl Switch(std::string_view name, bool& checked);
     bool Check();
     Reading<double> Read() const;
     Reading<double> ReadSize() const;
@@ -74,8 +68,6 @@ class ScalingModel final : public DialogModel {
     double value_ = 0;
     bool scaleBoilVol_ = false;
     bool preserveIBU_ = false;
-    bool cancelled_ = true;
-    bool open_ = true;
 };
 
 // The figure that a scaling starts from, as text; nothing while the recipe has none.
