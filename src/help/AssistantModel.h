@@ -3,9 +3,8 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 
 namespace tw {
 
@@ -24,29 +23,23 @@ inline constexpr AssistantLink kAssistantLinks[] = {
     {"Help", "Read the &help", "mnuHelpAuto"},
 };
 
-class AssistantModel final : public DialogModel {
+// chkShowAtStartup; the captions of the links; cmdOK, or a link by one of its two names: each closes the
+// window.
+class AssistantModel final : public FormModel {
   public:
-    explicit AssistantModel(bool showAtStartup) : showAtStartup_(showAtStartup) {}
+    explicit AssistantModel(bool showAtStartup);
 
     static constexpr std::string_view kTitle = "Tunwright Assistant";
-    // chkShowAtStartup.
     bool ShowAtStartup() const { return showAtStartup_; }
     void SetShowAtStartup(bool show) { showAtStartup_ = show; }
     // The menu item of the link that closed the window; empty when something else did.
     std::string_view Chosen() const { return chosen_; }
 
-    std::string FormName() const override { return "frmAssistant"; }
-    std::vector<DialogControl> Controls() const override;
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdOK, or a link by one of its two names; each closes the window.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
+    void Follow(const AssistantLink& link);
+
     bool showAtStartup_;
     std::string_view chosen_;
-    bool open_ = true;
 };
 
 }  // namespace tw

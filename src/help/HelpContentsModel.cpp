@@ -42,7 +42,14 @@ void ReadHelpTopics(const Help& help, std::vector<HelpTopic>& topics) {
         AppendChildren(*database, topic, topics, seen);
 }
 
-HelpContentsModel::HelpContentsModel(Help& help, MessagePort& messages) : help_(help) {
+HelpContentsModel::HelpContentsModel(Help& help, MessagePort& messages)
+    : FormModel("frmHelpContents"), help_(help) {
+    AddControls({
+        {"TreeView1", [this] { return SelectedName(); },
+         [this](std::string_view name) { return SelectNamed(name); }},
+        {"lblSel", [this] { return SelectedText(); }},
+    });
+    AddButtons({{"TreeView1", [this] { ShowSelected(); }}});
     try {
         ReadHelpTopics(help, topics_);
     } catch (const Error& error) {
@@ -53,10 +60,13 @@ HelpContentsModel::HelpContentsModel(Help& help, MessagePort& messages) : help_(
     if (!topics_.empty()) selected_ = 0;
 }
 
+std::string HelpContentsModel::SelectedName() const {
+    return selected_ == HelpTopic::kTop ? std::string() : topics_[static_cast<std::size_t>(selected_)].name;
+}
+
 std::string HelpContentsModel::SelectedText() const {
     std::string text;
-    if (selected_ == HelpTopic::kTop) return text;
-    for (const char c : topics_[static_cast<std::size_t>(selected_)].name) text.append(c == '&' ? 2 : 1, c);
+    for (const char c : SelectedName()) text.append(c == '&' ? 2 : 1, c);
     return text;
 }
 
@@ -64,23 +74,10 @@ void HelpContentsModel::ShowSelected() {
     if (selected_ != HelpTopic::kTop) help_.ShowHelpPage(topics_[static_cast<std::size_t>(selected_)].page);
 }
 
-std::vector<DialogControl> HelpContentsModel::Controls() const {
-    const std::string name =
-        selected_ == HelpTopic::kTop ? std::string() : topics_[static_cast<std::size_t>(selected_)].name;
-    return {{"TreeView1", name}, {"lblSel", SelectedText()}};
-}
-
-bool HelpContentsModel::SetControl(std::string_view name, std::string_view text) {
-    if (name != "TreeView1") return false;
-    const auto found = std::ranges::find(topics_, text, &HelpTopic::name);
+bool HelpContentsModel::SelectNamed(std::string_view name) {
+    const auto found = std::ranges::find(topics_, name, &HelpTopic::name);
     if (found == topics_.end()) return false;
     selected_ = static_cast<int>(found - topics_.begin());
-    return true;
-}
-
-bool HelpContentsModel::Press(std::string_view button) {
-    if (button != "TreeView1") return false;
-    ShowSelected();
     return true;
 }
 

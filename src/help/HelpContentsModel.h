@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "help/Help.h"
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 
 namespace tw {
 
@@ -28,7 +28,9 @@ struct HelpTopic {
 // before.
 void ReadHelpTopics(const Help& help, std::vector<HelpTopic>& topics);
 
-class HelpContentsModel final : public DialogModel {
+// TreeView1 shows and takes the name of a topic, of two with the same name the first; a press on it is a
+// double click. lblSel.
+class HelpContentsModel final : public FormModel {
   public:
     // Reads the topics; a failure is shown in a box, and the tree holds what was read before it. The first
     // topic is selected. REQUIRES: both outlive the object.
@@ -47,22 +49,15 @@ class HelpContentsModel final : public DialogModel {
     // A double click, or Enter: shows the page of the selected topic.
     void ShowSelected();
 
-    std::string FormName() const override { return "frmHelpContents"; }
-    // TreeView1 shows the name of the selected topic.
-    std::vector<DialogControl> Controls() const override;
-    // TreeView1 takes the name of a topic; of two with the same name the first is meant.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // TreeView1: a double click on the selected topic.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
+    // Empty without a topic.
+    std::string SelectedName() const;
+    bool SelectNamed(std::string_view name);
+
     Help& help_;
     std::vector<HelpTopic> topics_;
     std::vector<int> topLevel_;
     int selected_ = HelpTopic::kTop;
-    bool open_ = true;
 };
 
 }  // namespace tw

@@ -2,12 +2,17 @@
 
 namespace tw {
 
-bool NoPrinterModel::Press(std::string_view button) {
-    if (button != "cmdPreview" && button != "cmdPDF" && button != "cmdCancel") return false;
-    if (button == "cmdPreview") chosen_ = Choice::Preview;
-    if (button == "cmdPDF") chosen_ = Choice::Pdf;
-    open_ = false;
-    return true;
+NoPrinterModel::NoPrinterModel() : FormModel("frmNoPrinter") {
+    AddButtons({
+        {"cmdPreview", [this] { Choose(Choice::Preview); }},
+        {"cmdPDF", [this] { Choose(Choice::Pdf); }},
+        {"cmdCancel", [this] { Close(); }},
+    });
+}
+
+void NoPrinterModel::Choose(Choice choice) {
+    chosen_ = choice;
+    Close();
 }
 
 }  // namespace tw

@@ -19,7 +19,30 @@ constexpr FontRow kFonts[] = {{"pbTitles", "cmdTitles", &ReportOptions::title},
 }  // namespace
 
 PrintFmtOptionsModel::PrintFmtOptionsModel(ReportType mode, const SettingsStore& store, DialogPort& dialogs)
-    : mode_(mode), store_(store), dialogs_(dialogs), options_(LoadReportOptions(store, mode)) {}
+    : FormModel("frmPrintFmtOptions"),
+      mode_(mode),
+      store_(store),
+      dialogs_(dialogs),
+      options_(LoadReportOptions(store, mode)) {
+    if (mode == ReportType::Text) AddControls({TextEntry("txtCols", options_.numColumns)});
+    if (mode == ReportType::Html)
+        AddControls(
+            {{"pbBGColor", [this] { return std::to_string(options_.bgColor); },
+              [this](std::string_view text) { return ReadWhole(text, 0, kWhite, options_.bgColor); }}});
+    if (mode != ReportType::Text) AddFonts();
+    AddControls(
+        {CheckBox("chkOne", mode == ReportType::Html ? options_.horizontalRulers : options_.pageBreak)});
+    if (mode == ReportType::Text) AddControls({CheckBox("chkTwo", options_.append)});
+    AddButtons({{"cmdOK", [this] { Ok(); }}, {"cmdCancel", [this] { Close(); }}});
+}
+
+void PrintFmtOptionsModel::AddFonts() {
+    for (const FontRow& row : kFonts) {
+        ReportFont& font = options_.*row.font;
+        AddControls({{std::string(row.box), [&font] { return font.face + ", " + NumberText(font.points); }}});
+        AddButtons({{std::string(row.button), [this, &font] { ChooseFont(font); }}});
+    }
+}
 
 std::string_view PrintFmtOptionsModel::Title() const {
     constexpr std::string_view kTitles[] = {"Text File Options", "HTML File Options",
@@ -31,52 +54,9 @@ std::string_view PrintFmtOptionsModel::OneCaption() const {
     return mode_ == ReportType::Html ? "&Rule Between Recipes" : "&Page Break Between Recipes";
 }
 
-bool* PrintFmtOptionsModel::Switch(std::string_view name) {
-    if (name == "chkOne") return mode_ == ReportType::Html ? &options_.horizontalRulers : &options_.pageBreak;
-    return name == "chkTwo" && mode_ == ReportType::Text ? &options_.append : nullptr;
-}
-
-std::vector<DialogControl> PrintFmtOptionsModel::Controls() const {
-    const auto yesNo = [](bool yes) { return yes ? "yes" : "no"; };
-    if (mode_ == ReportType::Text)
-        return {{"txtCols", options_.numColumns},
-                {"chkOne", yesNo(options_.pageBreak)},
-                {"chkTwo", yesNo(options_.append)}};
-    std::vector<DialogControl> controls;
-    if (mode_ == ReportType::Html) controls.push_back({"pbBGColor", std::to_string(options_.bgColor)});
-    for (const FontRow& row : kFonts) {
-        const ReportFont& font = options_.*row.font;
-        controls.push_back({std::string(row.box), font.face + ", " + NumberText(font.points)});
-    }
-    const bool one = mode_ == ReportType::Html ? options_.horizontalRulers : options_.pageBreak;
-    controls.push_back({"chkOne", yesNo(one)});
-    return controls;
-}
-
-bool PrintFmtOptionsModel::SetControl(std::string_view name, std::string_view text) {
-    if (bool* const flag = Switch(name)) {
-        if (text != "yes" && text != "no") return false;
-        *flag = text == "yes";
-        return true;
-    }
-    if (name == "pbBGColor" && mode_ == ReportType::Html) return ReadWhole(text, 0, kWhite, options_.bgColor);
-    if (name != "txtCols" || mode_ != ReportType::Text) return false;
-    options_.numColumns = text;
-    return true;
-}
-
-bool PrintFmtOptionsModel::Press(std::string_view button) {
-    if (mode_ != ReportType::Text) {
-        for (const FontRow& row : kFonts) {
-            if (row.button != button) continue;
-            ChooseFont(options_.*row.font);
-            return true;
-        }
-    }
-    if (button != "cmdOK" && button != "cmdCancel") return false;
-    if (button == "cmdOK") SaveReportOptions(store_, mode_, options_);
-    open_ = false;
-    return true;
+void PrintFmtOptionsModel::Ok() {
+    SaveReportOptions(store_, mode_, options_);
+    Accept();
 }
 
 void PrintFmtOptionsModel::ChooseFont(ReportFont& font) {

@@ -20,7 +20,29 @@ std::string ZoomName(int zoom) {
 }  // namespace
 
 PrintPreviewModel::PrintPreviewModel(Actions actions, Paper paper)
-    : actions_(std::move(actions)), paper_(paper) {
+    : FormModel("frmPrintPreview"), actions_(std::move(actions)), paper_(paper) {
+    AddControls({
+        {"cmbPaper", [this] { return std::string(kPaperNames[static_cast<std::size_t>(paper_)]); },
+         [this](std::string_view name) { return ChoosePaper(name); }},
+        {"cmbZoom", [this] { return ZoomName(Zoom()); },
+         [this](std::string_view name) { return ChooseZoom(name); }},
+        {"txtPage", [this] { return std::to_string(page_); },
+         [this](std::string_view text) { return ReadWhole(text, 1, Pages(), page_); }},
+        {"lblPages", [this] { return "of " + std::to_string(Pages()); }},
+    });
+    const auto before = [this] { return page_ > 1; };
+    const auto behind = [this] { return page_ < Pages(); };
+    AddButtons({
+        {"cmdPrint", [this] { actions_.print(); }},
+        {"cmdPDF", [this] { actions_.savePdf(steps_, paper_); }},
+        {"cmdFirst", [this] { page_ = 1; }, before},
+        {"cmdPrevious", [this] { --page_; }, before},
+        {"cmdNext", [this] { ++page_; }, behind},
+        {"cmdLast", [this] { page_ = Pages(); }, behind},
+        {"cmdZoomIn", [this] { ++zoom_; }, [this] { return zoom_ + 1 < std::size(kZooms); }},
+        {"cmdZoomOut", [this] { --zoom_; }, [this] { return zoom_ > 0; }},
+        {"cmdClose", [this] { Close(); }},
+    });
     LayOut();
 }
 
@@ -39,61 +61,20 @@ std::vector<std::string> PrintPreviewModel::ZoomNames() {
     return names;
 }
 
-bool PrintPreviewModel::IsEnabled(std::string_view button) const {
-    if (button == "cmdFirst" || button == "cmdPrevious") return page_ > 1;
-    if (button == "cmdNext" || button == "cmdLast") return page_ < Pages();
-    if (button == "cmdZoomIn") return zoom_ + 1 < std::size(kZooms);
-    if (button == "cmdZoomOut") return zoom_ > 0;
+bool PrintPreviewModel::ChoosePaper(std::string_view name) {
+    const auto* const found =
+        std::ranges::find_if(kPaperNames, [&](auto paper) { return SameName(paper, name); });
+    if (found == kPaperNames.end()) return false;
+    paper_ = static_cast<Paper>(found - kPaperNames.begin());
+    LayOut();
     return true;
 }
 
-std::vector<DialogControl> PrintPreviewModel::Controls() const {
-    return {{"cmbPaper", std::string(kPaperNames[static_cast<std::size_t>(paper_)])},
-            {"cmbZoom", ZoomName(Zoom())},
-            {"txtPage", std::to_string(page_)},
-            {"lblPages", "of " + std::to_string(Pages())}};
-}
-
-bool PrintPreviewModel::SetControl(std::string_view name, std::string_view text) {
-    if (name == "txtPage") return ReadWhole(text, 1, Pages(), page_);
-    if (name == "cmbPaper") {
-        const auto* const found =
-            std::ranges::find_if(kPaperNames, [&](auto n) { return SameName(n, text); });
-        if (found == kPaperNames.end()) return false;
-        paper_ = static_cast<Paper>(found - kPaperNames.begin());
-        LayOut();
-        return true;
-    }
-    if (name != "cmbZoom") return false;
+bool PrintPreviewModel::ChooseZoom(std::string_view name) {
     const auto* const found =
-        std::ranges::find_if(kZooms, [&](int zoom) { return SameName(ZoomName(zoom), text); });
+        std::ranges::find_if(kZooms, [&](int zoom) { return SameName(ZoomName(zoom), name); });
     if (found == std::end(kZooms)) return false;
     zoom_ = static_cast<std::size_t>(found - kZooms);
-    return true;
-}
-
-bool PrintPreviewModel::Press(std::string_view button) {
-    const bool on = IsEnabled(button);
-    if (button == "cmdClose")
-        CloseBox();
-    else if (button == "cmdPrint")
-        actions_.print();
-    else if (button == "cmdPDF")
-        actions_.savePdf(steps_, paper_);
-    else if (button == "cmdFirst")
-        page_ = 1;
-    else if (button == "cmdLast")
-        page_ = Pages();
-    else if (button == "cmdPrevious")
-        page_ -= on ? 1 : 0;
-    else if (button == "cmdNext")
-        page_ += on ? 1 : 0;
-    else if (button == "cmdZoomIn")
-        zoom_ += on ? 1 : 0;
-    else if (button == "cmdZoomOut")
-        zoom_ -= on ? 1 : 0;
-    else
-        return false;
     return true;
 }
 

@@ -7,13 +7,16 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "reports/Paper.h"
 #include "reports/PrintSteps.h"
 
 namespace tw {
 
-class PrintPreviewModel final : public DialogModel {
+// cmbPaper and cmbZoom take one of their entries, txtPage the number of a page; lblPages; cmdPrint, cmdPDF,
+// cmdClose. The page buttons cmdFirst, cmdPrevious, cmdNext and cmdLast are off at the ends, cmdZoomIn and
+// cmdZoomOut at the last step.
+class PrintPreviewModel final : public FormModel {
   public:
     // What the preview asks of its program.
     struct Actions {
@@ -34,29 +37,17 @@ class PrintPreviewModel final : public DialogModel {
     // The zoom in percent of the paper's size, 0 for the whole page in the window.
     int Zoom() const;
     static std::vector<std::string> ZoomNames();
-    // Off where it would change nothing: the page buttons at the ends, the zoom buttons at the last step.
-    bool IsEnabled(std::string_view button) const;
-
-    std::string FormName() const override { return "frmPrintPreview"; }
-    // cmbPaper, cmbZoom, txtPage, lblPages.
-    std::vector<DialogControl> Controls() const override;
-    // cmbPaper and cmbZoom take one of their entries, txtPage the number of a page.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdPrint, cmdPDF, cmdFirst, cmdPrevious, cmdNext, cmdLast, cmdZoomIn, cmdZoomOut, cmdClose. A button
-    // that is off does nothing.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
 
   private:
+    bool ChoosePaper(std::string_view name);
+    bool ChooseZoom(std::string_view name);
     void LayOut();
 
     Actions actions_;
     Paper paper_;
     PrintSteps steps_;
     int page_ = 1;
-    std::size_t zoom_ = 0;
-    bool open_ = true;
+    std::size_t zoom_ = 0;  // a step of the zoom
 };
 
 }  // namespace tw
