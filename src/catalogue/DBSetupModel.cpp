@@ -20,8 +20,31 @@ constexpr std::string_view kRowUp = "..";
 }  // namespace
 
 DBSetupModel::DBSetupModel(const CatalogueContext& context)
-    : context_(context), filler_(context.database, context.tree) {
+    : FormModel("frmDBSetup"), context_(context), filler_(context.database, context.tree) {
+    DeclareForm();
     Choose(CatalogueKind::Style);
+}
+
+void DBSetupModel::DeclareForm() {
+    AddControls({
+        {"Combo1", [this] { return std::string(WordsOf(catalogue_).plural); },
+         [this](std::string_view entry) { return ChooseNamed(entry); }},
+        {"lvItems", [this] { return items_.SelectedText(); },
+         [this](std::string_view text) { return items_.SelectText(text); }},
+        {"txtFilter",
+         {},
+         [this](std::string_view words) {
+             SetFilter(words);
+             return true;
+         }},
+    });
+    AddButtons({
+        {"cmdNew", [this] { OpenEditor(""); }},
+        {"cmdEdit", [this] { OpenEditor(SelectedName()); }, [this] { return EditEnabled(); }},
+        {"cmdDelete", [this] { Delete(); }, [this] { return DeleteEnabled(); }},
+        {"lvItems", [this] { OpenRow(); }},
+        {"cmdClose", [this] { Close(); }},
+    });
 }
 
 const std::vector<std::string>& DBSetupModel::Entries() {
@@ -130,46 +153,19 @@ void DBSetupModel::EnterFolder() {
     items_.Select(row == ListTable::kNoRow ? items_.FirstRow() : row);
 }
 
-std::vector<DialogControl> DBSetupModel::Controls() const {
-    return {{"Combo1", std::string(WordsOf(catalogue_).plural)}, {"lvItems", items_.SelectedText()}};
-}
-
-bool DBSetupModel::SetControl(std::string_view name, std::string_view text) {
-    if (name == "Combo1") {
-        const auto entry =
-            std::ranges::find_if(Entries(), [&](const std::string& e) { return SameName(e, text); });
-        if (entry == Entries().end()) return false;
-        Choose(kSetupOrder[static_cast<std::size_t>(entry - Entries().begin())]);
-        return true;
-    }
-    if (name == "txtFilter") {
-        SetFilter(text);
-        return true;
-    }
-    if (name != "lvItems") return false;
-    for (int row = 0; row < items_.Count(); ++row)
-        if (SameName(items_.Row(row).cells.front(), text) && items_.Select(row)) return true;
-    return false;
-}
-
-bool DBSetupModel::Press(std::string_view button) {
-    if (button == "cmdNew") {
-        OpenEditor("");
-    } else if (button == "cmdEdit") {
-        if (EditEnabled()) OpenEditor(SelectedName());
-    } else if (button == "cmdDelete") {
-        if (DeleteEnabled()) Delete();
-    } else if (button == "lvItems") {
-        if (FolderSelected())
-            EnterFolder();
-        else if (EditEnabled())
-            OpenEditor(SelectedName());
-    } else if (button == "cmdClose") {
-        CloseBox();
-    } else {
-        return false;
-    }
+bool DBSetupModel::ChooseNamed(std::string_view entry) {
+    const auto found =
+        std::ranges::find_if(Entries(), [&](const std::string& known) { return SameName(known, entry); });
+    if (found == Entries().end()) return false;
+    Choose(kSetupOrder[static_cast<std::size_t>(found - Entries().begin())]);
     return true;
+}
+
+void DBSetupModel::OpenRow() {
+    if (FolderSelected())
+        EnterFolder();
+    else if (EditEnabled())
+        OpenEditor(SelectedName());
 }
 
 void DBSetupModel::OpenEditor(const std::string& name) {

@@ -6,13 +6,16 @@
 #include <vector>
 
 #include "catalogue/CatalogueContext.h"
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "tree/ListTable.h"
 #include "tree/lvFiller.h"
 
 namespace tw {
 
-class DBSetupModel final : public DialogModel {
+// Combo1 takes one of its entries; lvItems shows and takes the text of the selected row, and a press on it is
+// a double click, which enters a folder and edits anything else; txtFilter takes the words to filter by;
+// cmdNew, cmdEdit, cmdDelete, cmdClose. Errors of the store rise.
+class DBSetupModel final : public FormModel {
   public:
     // Starts with the styles. context must outlive the dialog.
     explicit DBSetupModel(const CatalogueContext& context);
@@ -35,18 +38,10 @@ class DBSetupModel final : public DialogModel {
     bool EditEnabled() const;
     bool DeleteEnabled() const { return EditEnabled(); }
 
-    std::string FormName() const override { return "frmDBSetup"; }
-    // Combo1; lvItems with the text of the selected row.
-    std::vector<DialogControl> Controls() const override;
-    // Combo1 takes one of its entries, lvItems the text of a row, txtFilter the words to filter by.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdNew, cmdEdit, cmdDelete, cmdClose; lvItems is a double click on the selected row: it enters a folder
-    // and edits anything else. One that is off does nothing. Errors of the store rise.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
+    void DeclareForm();
+    bool ChooseNamed(std::string_view entry);
+    void OpenRow();
     std::string SelectedName() const;
     bool FolderSelected() const;
     void Refill();
@@ -64,7 +59,6 @@ class DBSetupModel final : public DialogModel {
     ListTable items_;
     CatalogueKind catalogue_ = CatalogueKind::Style;
     std::int64_t folderId_ = 0;  // whose styles are shown
-    bool open_ = true;
 };
 
 }  // namespace tw

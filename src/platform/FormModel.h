@@ -61,6 +61,8 @@ class FormButtons {
     bool Press(std::string_view name) const;
     // False also for a button that is not there.
     bool IsEnabled(std::string_view name) const;
+    // For the form that the part belongs to.
+    const std::vector<FormButton>& All() const { return buttons_; }
 
   private:
     const FormButton* Find(std::string_view name) const;

@@ -19,67 +19,59 @@ std::string_view PrintWizardModel::PageTitle(int page) {
     return kTitles[page];
 }
 
-PrintWizardModel::PrintWizardModel(const Context& context, int reportType) : context_(context) {
+PrintWizardModel::PrintWizardModel(const Context& context, int reportType)
+    : FormModel("frmPrintWizard"), context_(context) {
     if (reportType > 0 && reportType < static_cast<int>(kReportTypeNames.size()))
         request_.type = static_cast<ReportType>(reportType);
     recipes_.SetTree(&context_.tree);
     recipes_.SetAction("Print");
     recipes_.Initialize();
+    AddUnits();
+    AddControls({
+        {"treeRecipes", [this] { return std::string(recipes_.treeRecipes().SelectedKey()); },
+         [this](std::string_view key) { return recipes_.treeRecipes().SelectKey(key); }},
+        {"lstRecipes", [this] { return PickedNames(); },
+         [this](std::string_view name) { return ChoosePicked(name); }},
+        {"cmbFileType",
+         [this] { return std::string(kReportTypeNames[static_cast<std::size_t>(request_.type)]); },
+         [this](std::string_view name) { return ChooseType(name); }},
+        TextEntry("txtFileName", request_.path),
+    });
+    AddButtons({
+        {"cmdCancel", [this] { Close(); }},
+        {"cmdBack", [this] { --page_; }, [this] { return page_ > Units; }},
+        {"cmdNext", [this] { Next(); }, [this] { return CanGoOn(); }},
+        {"cmdConfigure", [this] { Configure(); }},
+        {"cmdBrowse", [this] { Browse(); }},
+    });
+    AddButtons(recipes_.Buttons());
 }
 
-bool PrintWizardModel::IsEnabled(std::string_view button) const {
-    if (button == "cmdBack") return page_ > Units;
-    if (button != "cmdNext") return true;
+void PrintWizardModel::AddUnits() {
+    for (const ReportUnitGroup& group : ReportUnitGroups())
+        for (const ReportUnitGroup::Option& option : group.options)
+            AddControls({OptionButton(
+                std::string(option.name), [this, &option] { return request_.units.IsChosen(option.name); },
+                [this, &option] { request_.units.Choose(option.name); })});
+}
+
+bool PrintWizardModel::CanGoOn() const {
     if (page_ == Recipes) return recipes_.SelectionCount() > 0;
     return page_ != Output || !request_.path.empty();
 }
 
-std::vector<DialogControl> PrintWizardModel::Controls() const {
-    std::vector<DialogControl> controls;
-    for (const ReportUnitGroup& group : ReportUnitGroups())
-        for (const ReportUnitGroup::Option& option : group.options)
-            controls.push_back(
-                {std::string(option.name), request_.units.IsChosen(option.name) ? "yes" : "no"});
-    controls.push_back({"treeRecipes", std::string(recipes_.treeRecipes().SelectedKey())});
+std::string PrintWizardModel::PickedNames() const {
     std::string names;
     for (const std::string& name : recipes_.Selection()) names += (names.empty() ? "" : ", ") + name;
-    controls.push_back({"lstRecipes", names});
-    controls.push_back(
-        {"cmbFileType", std::string(kReportTypeNames[static_cast<std::size_t>(request_.type)])});
-    controls.push_back({"txtFileName", request_.path});
-    return controls;
+    return names;
 }
 
-bool PrintWizardModel::SetControl(std::string_view name, std::string_view text) {
-    if (request_.units.Knows(name)) return text == "yes" && request_.units.Choose(name);
-    if (name == "treeRecipes") return recipes_.treeRecipes().SelectKey(text);
-    if (name == "cmbFileType") return ChooseType(text);
-    if (name == "lstRecipes") {
-        const auto& names = recipes_.Selection();
-        const auto found = std::ranges::find_if(names, [&](const auto& n) { return SameName(n, text); });
-        if (found == names.end()) return false;
-        recipes_.SetCurrent(static_cast<int>(found - names.begin()));
-        return true;
-    }
-    if (name != "txtFileName") return false;
-    request_.path = text;
-    return true;
-}
-
-bool PrintWizardModel::Press(std::string_view button) {
-    const bool on = IsEnabled(button);
-    if (button == "cmdCancel")
-        CloseBox();
-    else if (button == "cmdBack")
-        page_ -= on ? 1 : 0;
-    else if (button == "cmdConfigure")
-        Configure();
-    else if (button == "cmdBrowse")
-        Browse();
-    else if (button != "cmdNext")
-        return recipes_.Press(button);
-    else if (on)
-        Next();
+bool PrintWizardModel::ChoosePicked(std::string_view name) {
+    const auto& names = recipes_.Selection();
+    const auto found =
+        std::ranges::find_if(names, [&](const auto& picked) { return SameName(picked, name); });
+    if (found == names.end()) return false;
+    recipes_.SetCurrent(static_cast<int>(found - names.begin()));
     return true;
 }
 
@@ -92,7 +84,8 @@ void PrintWizardModel::Next() {
 
 void PrintWizardModel::Finish() {
     request_.names = recipes_.Selection();
-    open_ = !CreateReportFile(context_.database, context_.store, request_, context_.own, context_.messages);
+    if (CreateReportFile(context_.database, context_.store, request_, context_.own, context_.messages))
+        Accept();
 }
 
 void PrintWizardModel::Configure() {

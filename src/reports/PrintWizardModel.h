@@ -3,9 +3,8 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "platform/Ports.h"
 #include "platform/SaveFilePort.h"
 #include "platform/SettingsStore.h"
@@ -16,7 +15,11 @@
 
 namespace tw {
 
-class PrintWizardModel final : public DialogModel {
+// The options of the first page; treeRecipes with the key of the chosen node, lstRecipes with the names of
+// the list; cmbFileType takes one of its entries, which swaps the extension of the file name; txtFileName;
+// cmdConfigure and cmdBrowse; cmdCancel, cmdBack, and cmdNext, which makes the report on the last page; the
+// buttons of the chooser.
+class PrintWizardModel final : public FormModel {
   public:
     enum Page : int { Units, Recipes, Output };
     static constexpr int kPages = 3;
@@ -43,26 +46,15 @@ class PrintWizardModel final : public DialogModel {
     const std::string& FileName() const { return request_.path; }
     // "Next >", or "Finish" on the last page.
     std::string_view NextCaption() const { return page_ == Output ? "Finish" : "Next >"; }
-    // cmdBack is off on the first page; cmdNext on the second until a recipe is chosen, on the last while
-    // there is no file name.
-    bool IsEnabled(std::string_view button) const;
-
-    std::string FormName() const override { return "frmPrintWizard"; }
-    // The options of the first page, treeRecipes and lstRecipes (what is chosen in the tree, the names of the
-    // list), cmbFileType, txtFileName.
-    std::vector<DialogControl> Controls() const override;
-    // An option takes "yes", treeRecipes the key of a node, lstRecipes a name of the list, cmbFileType one of
-    // its entries, which swaps the extension of the file name.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdBack, cmdNext, cmdCancel, cmdConfigure, cmdBrowse, and the buttons of the chooser. A button that is
-    // off does nothing. The report that cmdNext makes on the last page ends the wizard; one that fails has
-    // had its box, and the wizard stays.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
 
   private:
+    void AddUnits();
+    std::string PickedNames() const;
+    bool ChoosePicked(std::string_view name);
+    // Off on the second page until a recipe is chosen, on the last one while there is no file name.
+    bool CanGoOn() const;
     void Next();
+    // The report ends the wizard; one that fails has had its box, and the wizard stays.
     void Finish();
     void Configure();
     void Browse();
@@ -73,7 +65,6 @@ class PrintWizardModel final : public DialogModel {
     RecipeChooser recipes_;
     ReportRequest request_;
     int page_ = Units;
-    bool open_ = true;
 };
 
 }  // namespace tw

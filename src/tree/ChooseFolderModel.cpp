@@ -2,28 +2,25 @@
 
 namespace tw {
 
+ChooseFolderModel::ChooseFolderModel(const TWTree& tree, DB_IO& objects)
+    : FormModel("frmChooseFolder"), chooser_(tree, objects) {
+    AddControls({{"FolderChooser1", [this] { return std::to_string(chooser_.FolderID()); },
+                  [this](std::string_view id) { return ChooseFolder(id); }}});
+    AddButtons({{"cmdOK", [this] { Ok(); }}, {"cmdCancel", [this] { Close(); }}});
+}
+
 void ChooseFolderModel::SetFolderID(std::int64_t id) {
     folderId_ = id;
     chooser_.SetFolderID(id);
 }
 
-std::vector<DialogControl> ChooseFolderModel::Controls() const {
-    return {{"FolderChooser1", std::to_string(chooser_.FolderID())}};
+bool ChooseFolderModel::ChooseFolder(std::string_view id) {
+    return chooser_.Choose(StyleFolders() ? StyleFolderKey(id) : RecipeFolderKey(id));
 }
 
-bool ChooseFolderModel::SetControl(std::string_view name, std::string_view text) {
-    return name == "FolderChooser1" &&
-           chooser_.Choose(StyleFolders() ? StyleFolderKey(text) : RecipeFolderKey(text));
-}
-
-bool ChooseFolderModel::Press(std::string_view button) {
-    if (button != "cmdOK" && button != "cmdCancel") return false;
-    if (button == "cmdOK") {
-        folderId_ = chooser_.FolderID();
-        cancelled_ = false;
-    }
-    CloseBox();
-    return true;
+void ChooseFolderModel::Ok() {
+    folderId_ = chooser_.FolderID();
+    Accept();
 }
 
 }  // namespace tw

@@ -44,9 +44,12 @@ std::string Counted(std::size_t count) {
 }  // namespace
 
 ExplorerModel::ExplorerModel(const ObjectAccess& access, Hooks hooks)
-    : access_(access),
+    : FormModel("frmExplorer"),
+      access_(access),
       hooks_(std::move(hooks)),
       pages_{PageState(access, look_, false), PageState(access, look_, true)} {
+    DeclareControls();
+    DeclareCommands();
     for (PageState& page : pages_) {
         FillTree(page, RootOf(page.styles));
         for (const int top : page.tree.Children(TreeItems::kNone)) page.tree.Expand(top);
@@ -56,9 +59,58 @@ ExplorerModel::ExplorerModel(const ObjectAccess& access, Hooks hooks)
     }
 }
 
+void ExplorerModel::DeclareControls() {
+    AddControls({
+        OptionButton(
+            "optRecipes", [this] { return shown_ == Page::Recipes; }, [this] { Show(Page::Recipes); }),
+        OptionButton(
+            "optStyles", [this] { return shown_ == Page::Styles; }, [this] { Show(Page::Styles); }),
+        {"treeFolders", [this] { return NodeKey(); },
+         [this](std::string_view key) { return ChooseNode(key); }},
+        {"lvNames", [this] { return ChosenNames(); },
+         [this](std::string_view names) { return ChooseRows(names); }},
+        {"txtFind",
+         {},
+         [this](std::string_view text) {
+             Show(Page::Recipes);
+             Find(text);
+             return true;
+         }},
+        {"txtLabel", {}, [this](std::string_view newName) { return EnterLabel(newName); }},
+    });
+}
+
+void ExplorerModel::DeclareCommands() {
+    // A save under an open explorer has given rows new keys.
+    const auto run = [this](void (ExplorerModel::*command)()) {
+        return [this, command] {
+            At(shown_).list.FollowSaves();
+            (this->*command)();
+        };
+    };
+    const auto isOwnFolder = [this] { return CanDeleteNode(NodeKey()); };
+    AddButtons({
+        {"mnuOpen", run(&ExplorerModel::Open), [this] { return CanOpen(At(shown_).list.SelectedKey()); }},
+        {"mnuDelete", run(&ExplorerModel::Delete),
+         [this] { return std::ranges::any_of(At(shown_).list.ChosenKeys(), CanDeleteNode); }},
+        {"mnuRename", run(&ExplorerModel::BeginRename), [this] { return CanRename(); }},
+        {"mnuNewFolder", run(&ExplorerModel::NewFolder), [this] { return CanHoldFolders(NodeKey()); }},
+        {"mnuNewStyle", run(&ExplorerModel::NewStyle), [this] { return CanAddStyle(); }},
+        {"mnuRenameFolder", run(&ExplorerModel::BeginRenameNode), isOwnFolder},
+        {"mnuDeleteFolder", run(&ExplorerModel::DeleteNode), isOwnFolder},
+        {"mnuLineUp", run(&ExplorerModel::LineUp), [this] { return ShowsIcons(); }},
+        {"cmdClose", [this] { Close(); }},
+    });
+    AddButtons(LookButtons(look_, [this] { SortLists(); }));
+}
+
+void ExplorerModel::SortLists() {
+    for (PageState& page : pages_) page.list.Sort();
+}
+
 void ExplorerModel::SetLook(const ListLook& look) {
     look_ = look;
-    for (PageState& page : pages_) page.list.Sort();
+    SortLists();
 }
 
 void ExplorerModel::FillTree(PageState& page, std::string_view keyToSelect) {
@@ -152,19 +204,18 @@ bool ExplorerModel::CanOpen(std::string_view key) const {
     return !key.empty();
 }
 
-bool ExplorerModel::IsEnabled(std::string_view command) const {
+bool ExplorerModel::CanRename() const {
     const NodeList& list = At(shown_).list;
+    return list.Rows().Chosen().size() == 1 && list.CanRename(list.Rows().Selected());
+}
+
+bool ExplorerModel::CanAddStyle() const {
     const std::string node = NodeKey();
-    if (command == "mnuOpen") return CanOpen(list.SelectedKey());
-    if (command == "mnuDelete") return std::ranges::any_of(list.ChosenKeys(), CanDeleteNode);
-    if (command == "mnuRename")
-        return list.Rows().Chosen().size() == 1 && list.CanRename(list.Rows().Selected());
-    if (command == "mnuNewFolder") return CanHoldFolders(node);
-    if (command == "mnuNewStyle") return hooks_.editStyle && IsStyleFolderKey(node) && node != kAllStylesKey;
-    if (command == "mnuRenameFolder" || command == "mnuDeleteFolder") return CanDeleteNode(node);
-    if (command == "mnuLineUp")
-        return look_.viewType == ListViewType::LargeIcons || look_.viewType == ListViewType::SmallIcons;
-    return true;
+    return hooks_.editStyle && IsStyleFolderKey(node) && node != kAllStylesKey;
+}
+
+bool ExplorerModel::ShowsIcons() const {
+    return look_.viewType == ListViewType::LargeIcons || look_.viewType == ListViewType::SmallIcons;
 }
 
 void ExplorerModel::Open() {
@@ -280,80 +331,44 @@ bool ExplorerModel::RenameNode(std::string_view newName) {
     return true;
 }
 
-std::vector<DialogControl> ExplorerModel::Controls() const {
-    const PageState& page = At(shown_);
+std::string ExplorerModel::ChosenNames() const {
+    const ListTable& rows = At(shown_).list.Rows();
     std::string names;
-    for (const int row : page.list.Rows().Chosen()) {
+    for (const int row : rows.Chosen()) {
         if (!names.empty()) names += '\n';
-        names += page.list.Rows().Row(row).cells.front();
+        names += rows.Row(row).cells.front();
     }
-    return {{"optRecipes", page.styles ? "no" : "yes"},
-            {"optStyles", page.styles ? "yes" : "no"},
-            {"treeFolders", page.tree.SelectedKey()},
-            {"lvNames", names}};
+    return names;
 }
 
-bool ExplorerModel::SetControl(std::string_view name, std::string_view text) {
-    if (name == "optRecipes" || name == "optStyles") {
-        if (text != "yes") return false;
-        Show(name == "optStyles" ? Page::Styles : Page::Recipes);
-        return true;
-    }
-    if (name == "treeFolders") return ChooseNode(text);
-    if (name == "lvNames") {
-        if (!At(shown_).list.ChooseByText(text)) return false;
-        RowChosen();
-        return true;
-    }
-    if (name == "txtFind") {
-        Show(Page::Recipes);
-        Find(text);
-        return true;
-    }
-    if (name != "txtLabel") return false;
+bool ExplorerModel::ChooseRows(std::string_view names) {
+    if (!At(shown_).list.ChooseByText(names)) return false;
+    RowChosen();
+    return true;
+}
+
+bool ExplorerModel::EnterLabel(std::string_view newName) {
     if (EditedNode() != TreeItems::kNone)
-        RenameNode(text);
+        RenameNode(newName);
     else if (At(shown_).list.EditedRow() != ListTable::kNoRow)
-        RenameRow(text);
+        RenameRow(newName);
     else
         return false;
     Settle();
     return true;
 }
 
-bool ExplorerModel::Run(std::string_view command) {
-    PageState& page = At(shown_);
-    page.list.FollowSaves();
-    if (command == "mnuOpen")
-        Open();
-    else if (command == "mnuDelete")
-        Delete();
-    else if (command == "mnuRename")
-        page.list.BeginEdit(page.list.Rows().Selected());
-    else if (command == "mnuNewFolder")
-        NewFolder();
-    else if (command == "mnuNewStyle")
-        NewStyle();
-    else if (command == "mnuRenameFolder")
-        page.editedKey = page.tree.SelectedKey();
-    else if (command == "mnuDeleteFolder")
-        DeleteNode();
-    else if (command == "mnuLineUp")
-        page.list.Sort();
-    else
-        return false;
-    return true;
+void ExplorerModel::BeginRename() {
+    NodeList& list = At(shown_).list;
+    list.BeginEdit(list.Rows().Selected());
 }
 
-bool ExplorerModel::Press(std::string_view button) {
-    if (button == "cmdClose") {
-        CloseBox();
-        return true;
-    }
-    if (!IsEnabled(button)) return true;
-    if (!TakeLookCommand(look_, button)) return Run(button);
-    for (PageState& page : pages_) page.list.Sort();
-    return true;
+void ExplorerModel::BeginRenameNode() {
+    At(shown_).editedKey = NodeKey();
+}
+
+void ExplorerModel::LineUp() {
+    At(shown_).list.Sort();
 }
 
 }  // namespace tw

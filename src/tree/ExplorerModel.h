@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "tree/NodeList.h"
 #include "tree/TreeItems.h"
 
@@ -21,7 +21,11 @@ namespace tw {
 using StyleEditing =
     std::function<std::optional<std::string>(const std::string& name, std::int64_t folderId)>;
 
-class ExplorerModel final : public DialogModel {
+// optRecipes and optStyles; of the page shown treeFolders, the key of the chosen entry, and lvNames, the
+// chosen rows' names, a line each, which takes keys too; txtFind, what to look for; txtLabel, the new name of
+// what is being edited, which ends the edit. The buttons are the items of the menus, mnuArrangeBy(0) and so
+// on for its array, and cmdClose. An error of a deletion rises when what is left is shown.
+class ExplorerModel final : public FormModel {
   public:
     enum class Page : int { Recipes, Styles };
     struct Hooks {
@@ -43,8 +47,6 @@ class ExplorerModel final : public DialogModel {
     NodeList& List(Page page) { return At(page).list; }
     // Of the page shown, empty when no entry is chosen.
     std::string NodeKey() const { return At(shown_).tree.SelectedKey(); }
-    // Whether a command does something now.
-    bool IsEnabled(std::string_view command) const;
     // How many objects are shown and chosen, or what has just been opened, or that the tree is not up to
     // date.
     std::string Status() const;
@@ -71,19 +73,6 @@ class ExplorerModel final : public DialogModel {
     // Shows everything as it stands in the tree now; the chosen entries and rows stay chosen.
     void Settle();
 
-    std::string FormName() const override { return "frmExplorer"; }
-    // optRecipes and optStyles; treeFolders, the key of the chosen entry, and lvNames, the chosen rows'
-    // names, a line each, of the page shown.
-    std::vector<DialogControl> Controls() const override;
-    // Those; lvNames takes keys too. txtFind what to look for; txtLabel the new name of what is being edited,
-    // which ends the edit.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // The items of the menus, mnuArrangeBy(0) and so on for its array, and cmdClose. A command that is not
-    // lit does nothing. An error of a deletion rises when what is left is shown.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
     struct PageState {
         PageState(const ObjectAccess& access, const ListLook& look, bool ofStyles)
@@ -96,7 +85,17 @@ class ExplorerModel final : public DialogModel {
     PageState& At(Page page) { return pages_[static_cast<std::size_t>(page)]; }
     const PageState& At(Page page) const { return pages_[static_cast<std::size_t>(page)]; }
 
+    void DeclareControls();
+    void DeclareCommands();
+    std::string ChosenNames() const;
+    bool ChooseRows(std::string_view names);
+    bool EnterLabel(std::string_view newName);
+
     bool CanOpen(std::string_view key) const;
+    bool CanRename() const;
+    bool CanAddStyle() const;
+    bool ShowsIcons() const;
+    void SortLists();
     // Fills the page's tree; keyToSelect, if it is there, is chosen then, otherwise the entry as before, or
     // the page's root folder.
     void FillTree(PageState& page, std::string_view keyToSelect);
@@ -108,13 +107,15 @@ class ExplorerModel final : public DialogModel {
     std::string NameOf(const std::string& key) const;
     std::vector<std::string> NamesOf(const std::vector<std::string>& keys) const;
 
-    bool Run(std::string_view command);
     void Open();
     void OpenStyle(const std::string& key);
     void Delete();
     void DeleteNode();
     void NewFolder();
     void NewStyle();
+    void BeginRename();
+    void BeginRenameNode();
+    void LineUp();
 
     ObjectAccess access_;
     Hooks hooks_;
@@ -122,7 +123,6 @@ class ExplorerModel final : public DialogModel {
     Page shown_ = Page::Recipes;
     std::array<PageState, 2> pages_;
     std::string opened_;  // the recipe opened last
-    bool open_ = true;
 };
 
 }  // namespace tw

@@ -250,6 +250,12 @@ bool ListTable::Select(int row) {
     return true;
 }
 
+bool ListTable::SelectText(std::string_view text) {
+    for (int row = 0; row < Count(); ++row)
+        if (SameName(Row(row).cells.front(), text) && Select(row)) return true;
+    return false;
+}
+
 void ListTable::Choose(std::vector<int> rows, int selected) {
     std::erase_if(rows, [&](int row) { return row < 0 || row >= Count() || Row(row).isGroup; });
     std::ranges::sort(rows);

@@ -96,6 +96,9 @@ class ListTable {
     std::string SelectedText() const;
     // Chooses that row alone. False, and nothing changes, for a group row and for none.
     bool Select(int row);
+    // Chooses the first row with that text in its first column, compared without regard to case and blanks at
+    // the ends. False, and nothing changes, without one.
+    bool SelectText(std::string_view text);
     // Chooses those rows and no other; group rows and what is no row are passed over. selected becomes the
     // one chosen last when it is among them, otherwise the first of them does.
     void Choose(std::vector<int> rows, int selected);

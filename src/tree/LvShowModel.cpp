@@ -9,10 +9,21 @@
 namespace tw {
 
 LvShowModel::LvShowModel(CatalogueKind type, Database& database, const TWTree& tree, std::string_view name)
-    : type_(type),
+    : FormModel("frmLvShow"),
+      type_(type),
       filler_(database, tree),
       name_(CatalogueNames(database).RowOf(type, Trim(name)).value_or(std::string(name))),
       guides_(type == CatalogueKind::Style ? StyleGuides(database) : std::string()) {
+    AddControls({{"lvItems", [this] { return items_.SelectedText(); },
+                  [this](std::string_view text) { return items_.SelectText(text); }}});
+    if (HasFolders())
+        AddControls({{"treeFolders", [this] { return folders_.SelectedKey(); },
+                      [this](std::string_view key) { return ChooseFolder(key); }}});
+    AddButtons({
+        {"cmdOK", [this] { TakeRow(); }, [this] { return OkEnabled(); }},
+        {"cmdView", [this] { viewer_(type_, items_); }, [this] { return ViewEnabled(); }},
+        {"cmdCancel", [this] { Close(); }},
+    });
     folders_.Fill([&](TreeView& view) {
         if (HasFolders()) tree.PopulateTreeViewForStyleList(view);
     });
@@ -39,40 +50,12 @@ bool LvShowModel::ChooseFolder(std::string_view key) {
     return true;
 }
 
-std::vector<DialogControl> LvShowModel::Controls() const {
-    std::vector<DialogControl> controls = {{"lvItems", items_.SelectedText()}};
-    if (HasFolders()) controls.push_back({"treeFolders", folders_.SelectedKey()});
-    return controls;
-}
-
-bool LvShowModel::SetControl(std::string_view name, std::string_view text) {
-    if (name == "treeFolders") return HasFolders() && ChooseFolder(text);
-    if (name != "lvItems") return false;
-    for (int row = 0; row < items_.Count(); ++row)
-        if (SameName(items_.Row(row).cells.front(), text) && items_.Select(row)) return true;
-    return false;
-}
-
-bool LvShowModel::Press(std::string_view button) {
-    if (button == "cmdOK") {
-        if (OkEnabled()) Accept();
-    } else if (button == "cmdView") {
-        if (ViewEnabled()) viewer_(type_, items_);
-    } else if (button == "cmdCancel") {
-        CloseBox();
-    } else {
-        return false;
-    }
-    return true;
-}
-
-void LvShowModel::Accept() {
+void LvShowModel::TakeRow() {
     const ListRow& row = items_.Row(items_.Selected());
     answer_ = row.key;
     // Without a description there is nothing to part from the name: a " - " alone would become part of it.
     if (type_ == CatalogueKind::Yeast && !IsBlank(row.cells[1])) answer_ += " - " + row.cells[1];
-    cancelled_ = false;
-    open_ = false;
+    Accept();
 }
 
 }  // namespace tw

@@ -4,9 +4,8 @@
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "store/CatalogueKind.h"
 #include "tree/ListTable.h"
 #include "tree/TreeItems.h"
@@ -14,7 +13,9 @@
 
 namespace tw {
 
-class LvShowModel final : public DialogModel {
+// lvItems shows and takes the text of the chosen row, treeFolders, where it is there, the key of the folder;
+// cmdOK and cmdView, which are off while the list has no chosen row; cmdCancel.
+class LvShowModel final : public FormModel {
   public:
     // Shows the chosen row of the list to be read; the list's selection may be another afterwards.
     using Viewer = std::function<void(CatalogueKind type, ListTable& items)>;
@@ -37,28 +38,15 @@ class LvShowModel final : public DialogModel {
     TreeItems& Folders() { return folders_; }
     // The list follows, on the row nearest to the name. False for no such folder.
     bool ChooseFolder(std::string_view key);
-    // Both are off while the list has no chosen row.
     bool OkEnabled() const { return items_.Selected() != ListTable::kNoRow; }
     bool ViewEnabled() const { return viewer_ && OkEnabled(); }
 
-    // Until cmdOK has taken a row.
-    bool Cancelled() const { return cancelled_; }
     // What the document is to be told: the row's text; of a yeast that, " - " and its description.
     const std::string& Answer() const { return answer_; }
 
-    std::string FormName() const override { return "frmLvShow"; }
-    // lvItems shows the text of the chosen row, treeFolders the key of the folder.
-    std::vector<DialogControl> Controls() const override;
-    // lvItems takes the text of a row, treeFolders the key of a folder.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdOK, cmdCancel, cmdView. One that is off does nothing.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
     void Fill(std::int64_t folderId);
-    void Accept();
+    void TakeRow();
 
     CatalogueKind type_;
     lvFiller filler_;
@@ -68,8 +56,6 @@ class LvShowModel final : public DialogModel {
     TreeItems folders_;
     Viewer viewer_;
     std::string answer_;
-    bool cancelled_ = true;
-    bool open_ = true;
 };
 
 }  // namespace tw

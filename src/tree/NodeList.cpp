@@ -217,4 +217,16 @@ bool TakeLookCommand(ListLook& look, std::string_view command) {
     return false;
 }
 
+std::vector<FormButton> LookButtons(ListLook& look, const std::function<void()>& changed) {
+    std::vector<std::string> commands(std::begin(kViewCommands), std::end(kViewCommands));
+    for (int column = 0; column <= ExplorerColumns(); ++column) commands.push_back(ArrangeCommand(column));
+    std::vector<FormButton> buttons;
+    for (const std::string& command : commands)
+        buttons.push_back({command, [&look, changed, command] {
+                               TakeLookCommand(look, command);
+                               changed();
+                           }});
+    return buttons;
+}
+
 }  // namespace tw

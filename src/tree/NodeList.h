@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/FormModel.h"
 #include "platform/Ports.h"
 #include "tree/DB_IO.h"
 #include "tree/ListTable.h"
@@ -121,5 +122,7 @@ std::string ArrangeCommand(int column);
 // Takes a command of the menus "View" and "Arrange" into the look; the column that is sorted by already turns
 // its order round. False for any other command.
 bool TakeLookCommand(ListLook& look, std::string_view command);
+// These commands as buttons of a form, which runs changed after each. REQUIRES: look lives for as long.
+std::vector<FormButton> LookButtons(ListLook& look, const std::function<void()>& changed);
 
 }  // namespace tw

@@ -4,6 +4,15 @@
 
 namespace tw {
 
+ProgressModel::ProgressModel(std::string title, Work work)
+    : FormModel("frmProgress"), title_(std::move(title)), work_(std::move(work)) {
+    AddControls({
+        {"lblObject", [this] { return name_; }},
+        {"ProgressBar1", [this] { return std::to_string(done_); }},
+    });
+    AddButtons({{"cmdCancel", [this] { CloseBox(); }}});
+}
+
 bool ProgressModel::Show(const std::string& name, int done, int total) {
     name_ = name;
     done_ = done;
@@ -18,27 +27,17 @@ void ProgressModel::SetBusy(bool busy) {
     Tell();
 }
 
-std::vector<DialogControl> ProgressModel::Controls() const {
-    return {{"lblObject", name_}, {"ProgressBar1", std::to_string(done_)}};
-}
-
-bool ProgressModel::Press(std::string_view button) {
-    if (button != "cmdCancel") return false;
-    CloseBox();
-    return true;
-}
-
 void ProgressModel::CloseBox() {
     cancelled_ = true;
-    if (!running_) open_ = false;
+    if (!running_) Close();
 }
 
 void ProgressModel::FirstShown() {
-    if (!open_ || running_) return;
+    if (!IsOpen() || running_) return;
     running_ = true;
     const ScopeGuard end([this] {
         running_ = false;
-        open_ = false;
+        Close();
         busy_ = false;
     });
     SetBusy(true);

@@ -8,19 +8,20 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "platform/Ports.h"
 
 namespace tw {
 
-class ProgressModel final : public DialogModel {
+// lblObject, the name of the object being worked on; ProgressBar1, the number of those done; cmdCancel.
+class ProgressModel final : public FormModel {
   public:
     using Work = std::function<void(ProgressModel&)>;
     // So many objects are done before a window would be read.
     static constexpr int kWithoutWindow = 10;
 
     // title: what is being done, such as "Deleting". work tells its progress here.
-    ProgressModel(std::string title, Work work) : title_(std::move(title)), work_(std::move(work)) {}
+    ProgressModel(std::string title, Work work);
 
     // Called after each change of what the window shows: it paints, and lets waiting events run.
     void SetObserver(std::function<void()> observer) { observer_ = std::move(observer); }
@@ -39,15 +40,8 @@ class ProgressModel final : public DialogModel {
     bool Show(const std::string& name, int done, int total);
     void SetBusy(bool busy);
 
-    std::string FormName() const override { return "frmProgress"; }
-    // lblObject, the name of the object being worked on, and ProgressBar1, the number of those done.
-    std::vector<DialogControl> Controls() const override;
-    bool SetControl(std::string_view, std::string_view) override { return false; }
-    // cmdCancel.
-    bool Press(std::string_view button) override;
     // Calls the work off behind the present object; before the work it closes the window.
     void CloseBox() override;
-    bool IsOpen() const override { return open_; }
     // Works and closes, also when an error rises from the work.
     void FirstShown() override;
 
@@ -60,7 +54,6 @@ class ProgressModel final : public DialogModel {
     std::string name_;
     int done_ = 0;
     int total_ = 0;
-    bool open_ = true;
     bool running_ = false;
     bool busy_ = false;
     bool cancelled_ = false;

@@ -1,7 +1,6 @@
 #include "tree/RecipeChooser.h"
 
 #include <algorithm>
-#include <array>
 #include <unordered_set>
 
 #include "platform/Error.h"
@@ -13,8 +12,6 @@ namespace {
 
 constexpr int kSubscriptOutOfRange = 9;
 
-constexpr std::array<std::string_view, 8> kButtons = {
-    "cmdAdd", "cmdDel", "cmdUp", "cmdDown", "cmdTop", "cmdBottom", "mnuPopupSortAsc", "mnuPopupSortDesc"};
 
 // The node's name, or those of all recipes below it, in the order of the tree.
 std::vector<std::string> RecipesOf(TWNode& top) {
@@ -43,6 +40,25 @@ bool HoldsRecipe(TWNode& top) {
 }
 
 }  // namespace
+
+RecipeChooser::RecipeChooser() {
+    const auto canRise = [this] { return current_ > 0 && !sorted_; };
+    const auto canSink = [this] { return current_ != kNone && current_ < SelectionCount() - 1 && !sorted_; };
+    const auto sort = [this](bool descending) {
+        Sort(descending);
+        TellChanged();
+    };
+    buttons_.Add({
+        {"cmdAdd", [this] { Add(items_.SelectedKey()); }, [this] { return CanAdd(); }},
+        {"cmdDel", [this] { Delete(); }, [this] { return current_ != kNone; }},
+        {"cmdUp", [this] { MoveTo(current_ - 1); }, canRise},
+        {"cmdDown", [this] { MoveTo(current_ + 1); }, canSink},
+        {"cmdTop", [this] { MoveTo(0); }, canRise},
+        {"cmdBottom", [this] { MoveTo(SelectionCount() - 1); }, canSink},
+        {"mnuPopupSortAsc", [sort] { sort(false); }, [this] { return SelectionCount() > 1; }},
+        {"mnuPopupSortDesc", [sort] { sort(true); }, [this] { return SelectionCount() > 1 && !sorted_; }},
+    });
+}
 
 void RecipeChooser::TellChanged() {
     if (observer_) observer_->RecipeChooserChanged();
@@ -121,47 +137,16 @@ bool RecipeChooser::Add(std::string_view key) {
     return true;
 }
 
-bool RecipeChooser::IsEnabled(std::string_view button) const {
-    const int last = SelectionCount() - 1;
-    const bool movable = current_ != kNone && !sorted_;
-    if (button == "cmdAdd") {
-        TWNode* const node = tree_ ? tree_->Nodes(items_.SelectedKey()) : nullptr;
-        return node != nullptr && HoldsRecipe(*node);
-    }
-    if (button == "cmdDel") return current_ != kNone;
-    if (button == "cmdUp" || button == "cmdTop") return movable && current_ > 0;
-    if (button == "cmdDown" || button == "cmdBottom") return movable && current_ < last;
-    if (button == "mnuPopupSortAsc") return last > 0;
-    return button == "mnuPopupSortDesc" && last > 0 && !sorted_;
-}
-
-bool RecipeChooser::Press(std::string_view button) {
-    if (std::ranges::find(kButtons, button) == kButtons.end()) return false;
-    if (!IsEnabled(button)) return true;
-    if (button == "cmdAdd") {
-        Add(items_.SelectedKey());
-        return true;
-    }
-    if (button == "cmdDel")
-        Delete();
-    else if (button == "cmdUp")
-        MoveTo(current_ - 1);
-    else if (button == "cmdDown")
-        MoveTo(current_ + 1);
-    else if (button == "cmdTop")
-        MoveTo(0);
-    else if (button == "cmdBottom")
-        MoveTo(SelectionCount() - 1);
-    else
-        Sort(button == "mnuPopupSortDesc");
-    TellChanged();
-    return true;
+bool RecipeChooser::CanAdd() const {
+    TWNode* const node = tree_ ? tree_->Nodes(items_.SelectedKey()) : nullptr;
+    return node != nullptr && HoldsRecipe(*node);
 }
 
 // The line that follows is chosen next.
 void RecipeChooser::Delete() {
     names_.erase(names_.begin() + current_);
     current_ = std::min(current_, SelectionCount() - 1);
+    TellChanged();
 }
 
 void RecipeChooser::MoveTo(int index) {
@@ -171,6 +156,7 @@ void RecipeChooser::MoveTo(int index) {
     else
         std::rotate(to, from, from + 1);
     current_ = index;
+    TellChanged();
 }
 
 void RecipeChooser::Sort(bool descending) {

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/FormModel.h"
 #include "store/Database.h"
 #include "tree/TWTree.h"
 #include "tree/TreeItems.h"
@@ -23,7 +24,7 @@ class RecipeChooser {
   public:
     static constexpr int kNone = -1;
 
-    RecipeChooser() = default;
+    RecipeChooser();
     RecipeChooser(const RecipeChooser&) = delete;
     RecipeChooser& operator=(const RecipeChooser&) = delete;
     void SetObserver(RecipeChooserObserver* observer) { observer_ = observer; }
@@ -70,15 +71,19 @@ class RecipeChooser {
     // cmdAdd adds what is chosen in the tree, cmdDel takes the chosen line out, cmdUp, cmdDown, cmdTop and
     // cmdBottom move it; mnuPopupSortAsc and mnuPopupSortDesc sort the names without regard to case. False
     // for no such button; one that is off does nothing.
-    bool Press(std::string_view button);
-    bool IsEnabled(std::string_view button) const;
+    bool Press(std::string_view button) { return buttons_.Press(button); }
+    bool IsEnabled(std::string_view button) const { return buttons_.IsEnabled(button); }
+    // For the table of the form that it is part of.
+    const std::vector<FormButton>& Buttons() const { return buttons_.All(); }
 
   private:
+    bool CanAdd() const;
     void Delete();
     void MoveTo(int index);
     void Sort(bool descending);
     void TellChanged();
 
+    FormButtons buttons_;
     const TWTree* tree_ = nullptr;
     Database* database_ = nullptr;
     std::unique_ptr<TWTree> ownTree_;
