@@ -1,6 +1,7 @@
 # The folders of the core from the lowest layer up. A folder includes itself and what stands before it in this list,
 # nothing behind it; tests/architecture/CheckLayers.cmake fails otherwise.
-set(TW_CORE_FOLDERS platform values calc record water store tree document catalogue reports help tools shell)
+set(TW_CORE_FOLDERS platform commands values calc record water store tree document catalogue reports help tools
+  shell)
 
 # tw_core_folder(NAME): the logic of src/NAME (not its ui/ and qt/ folders) as an object library tw_NAME.
 function(tw_core_folder name)

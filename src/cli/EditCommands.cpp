@@ -6,19 +6,11 @@ namespace tw {
 namespace {
 
 // A menu item that does nothing prints that it is off.
-template <const auto& kItem>
+template <CommandId kItem>
 void RunItem(Session& session, Arguments& arguments) {
     arguments.End();
-    if (!session.Program().RunMenu(kItem)) session.Out().Line("off");
+    if (!session.Program().RunCommand(kItem)) session.Out().Line("off");
 }
-
-constexpr char kUndo[] = "mnuEditUndo";
-constexpr char kRedo[] = "mnuEditRedo";
-constexpr char kSelectAll[] = "mnuEditSelectAll";
-constexpr char kCopy[] = "mnuEditCopy";
-constexpr char kCut[] = "mnuEditCut";
-constexpr char kClear[] = "mnuEditClear";
-constexpr char kPaste[] = "mnuEditPaste";
 
 void UndoType(Session& session, Arguments& arguments) {
     arguments.End();
@@ -37,7 +29,7 @@ void Sort(Session& session, Arguments& arguments) {
     CheckCell(grid, 0, col);
     if (!grid.RowsCanChange()) return session.Out().Line("off");
     session.Document().Focus().FocusOn(grid);
-    session.Document().Lines().ClickHeader(grid, col);
+    session.Document().Lines().Lines().ClickHeader(grid, col);
 }
 
 void Select(Session& session, Arguments& arguments) {
@@ -51,7 +43,7 @@ void Select(Session& session, Arguments& arguments) {
     CheckCell(grid, range.row1, range.col1);
     CheckCell(grid, range.row2, range.col2);
     session.Document().Focus().FocusOn(grid);
-    session.Document().Focus().SelectCells(grid, range);
+    session.Document().Focus().Focus().SelectCells(grid, range);
 }
 
 void ShowClipboard(Session& session, Arguments& arguments) {
@@ -65,17 +57,17 @@ void SetClipboard(Session& session, Arguments& arguments) {
 }
 
 constexpr Command kCommands[] = {
-    {"undo", "", "takes the last edit back", RunItem<kUndo>},
-    {"redo", "", "does again what was taken back", RunItem<kRedo>},
+    {"undo", "", "takes the last edit back", RunItem<CommandId::EditUndo>},
+    {"redo", "", "does again what was taken back", RunItem<CommandId::EditRedo>},
     {"undotype", "", "the name of the edit that undo takes back", UndoType},
     {"redotype", "", "the name of the edit that redo does again", RedoType},
     {"sort", "GRID COL", "a click on the header of a column", Sort},
     {"select", "GRID ROW1 COL1 ROW2 COL2", "selects a block of cells", Select},
-    {"selectall", "", "selects all of the present text box or grid", RunItem<kSelectAll>},
-    {"copy", "", "copies what is selected", RunItem<kCopy>},
-    {"cut", "", "copies what is selected and empties it", RunItem<kCut>},
-    {"clear", "", "empties what is selected", RunItem<kClear>},
-    {"paste", "", "puts the clipboard in place of what is selected", RunItem<kPaste>},
+    {"selectall", "", "selects all of the present text box or grid", RunItem<CommandId::EditSelectAll>},
+    {"copy", "", "copies what is selected", RunItem<CommandId::EditCopy>},
+    {"cut", "", "copies what is selected and empties it", RunItem<CommandId::EditCut>},
+    {"clear", "", "empties what is selected", RunItem<CommandId::EditClear>},
+    {"paste", "", "puts the clipboard in place of what is selected", RunItem<CommandId::EditPaste>},
     {"clipboard", "", "the clipboard's text", ShowClipboard},
     {"setclipboard", "TEXT", "puts a text on the clipboard", SetClipboard},
 };

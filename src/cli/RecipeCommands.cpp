@@ -63,7 +63,7 @@ void Set(Session& session, Arguments& arguments) {
     if (box->Computed()) return session.Out().Line("read-only");
     document.Focus().FocusOn(*box);
     document.Fields().SetText(*box, text);
-    if (!document.Fields().CommitField(*box)) document.Fields().RestoreField(*box);
+    if (!document.Fields().Fields().CommitField(*box)) document.Fields().Fields().RestoreField(*box);
 }
 
 void Pick(Session& session, Arguments& arguments) {
@@ -72,7 +72,7 @@ void Pick(Session& session, Arguments& arguments) {
     RecipeDocument& document = session.Document();
     const ListBox& list = document.Record().cmbStyle;
     if (name != list.Name()) throw ScriptError("there is no list '" + name + "'");
-    document.Focus().FocusElsewhere();
+    document.Focus().Focus().FocusElsewhere();
     for (std::size_t i = 0; i < list.Entries().size(); ++i)
         if (SameName(list.Entries()[i].text, text)) return document.Style().Select(static_cast<int>(i));
     throw ScriptError(name + " has no entry '" + text + "'");
@@ -82,7 +82,7 @@ void Choose(Session& session, Arguments& arguments) {
     const std::string option = arguments.Word("OPTION");
     arguments.End();
     RecipeDocument& document = session.Document();
-    document.Focus().FocusElsewhere();
+    document.Focus().Focus().FocusElsewhere();
     if (!document.Options().Choose(option)) throw ScriptError("there is no option '" + option + "'");
 }
 

@@ -12,7 +12,7 @@ struct Entry {
 };
 
 // Shows the dialog of a menu item with the entry and OK. One that is refused counts as cancelled.
-void RunDialog(Session& session, std::string_view item, const Entry& entry) {
+void RunDialog(Session& session, CommandId command, const Entry& entry) {
     session.Document();
     session.Dialogs().AnswerNextWith([&entry](DialogModel& dialog) {
         if (entry.scaleBoilVol) dialog.SetControl("chkScaleBV", "yes");
@@ -20,7 +20,7 @@ void RunDialog(Session& session, std::string_view item, const Entry& entry) {
         dialog.SetControl(dynamic_cast<const ScalingModel&>(dialog).BoxName(), entry.text);
         dialog.Press("OKButton");
     });
-    const bool ran = session.Program().RunMenu(item);
+    const bool ran = session.Program().RunCommand(command);
     session.Dialogs().AnswerNextWith({});
     if (!ran) session.Out().Line("off");
 }
@@ -35,30 +35,30 @@ void Resize(Session& session, Arguments& arguments) {
         more = boil || ibu;
     }
     entry.text = arguments.LastName("SIZE");
-    RunDialog(session, "mnuToolsResizeRecipe", entry);
+    RunDialog(session, CommandId::ToolsResizeRecipe, entry);
 }
 
 void Strength(Session& session, Arguments& arguments) {
     Entry entry;
     entry.preserveIBU = arguments.TakeWord("ibu");
     entry.text = arguments.LastName("GRAVITY");
-    RunDialog(session, "mnuToolsChangeStrength", entry);
+    RunDialog(session, CommandId::ToolsChangeStrength, entry);
 }
 
 void Bitterness(Session& session, Arguments& arguments) {
-    RunDialog(session, "mnuToolsChangeBitterness", {arguments.LastName("IBU")});
+    RunDialog(session, CommandId::ToolsChangeBitterness, {arguments.LastName("IBU")});
 }
 
 void Carbonation(Session& session, Arguments& arguments) {
-    RunDialog(session, "mnuToolsChangeCO2", {arguments.LastName("VOLUMES")});
+    RunDialog(session, CommandId::ToolsChangeCO2, {arguments.LastName("VOLUMES")});
 }
 
 void Treat(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
     if (!document.Record().cmdCalcTreatment.Enabled()) return session.Out().Line("off");
-    document.Focus().FocusElsewhere();
-    document.Water().CalcTreatment();
+    document.Focus().Focus().FocusElsewhere();
+    document.Water().Water().CalcTreatment();
 }
 
 constexpr Command kCommands[] = {

@@ -23,8 +23,7 @@ void Menu(Session& session, Arguments& arguments) {
     if (!item.visible) return session.Out().Line("hidden");
     if (!item.enabled) return session.Out().Line("off");
     if (item.IsSeparator()) return;
-    const std::string name = item.name;
-    session.Program().RunMenu(name);
+    session.Program().RunMenu(item.name);
 }
 
 void State(Session& session, Arguments& arguments) {

@@ -26,7 +26,7 @@ AssistantModel::AssistantModel(bool showAtStartup)
 }
 
 void AssistantModel::Follow(const AssistantLink& link) {
-    chosen_ = link.menuItem;
+    chosen_ = link.command;
     Close();
 }
 

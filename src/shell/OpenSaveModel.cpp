@@ -18,6 +18,14 @@ bool IsFolderKey(std::string_view key) {
     return key.starts_with("F:");
 }
 
+// The command of a button or of a menu item.
+std::optional<PopupChoice> CommandOf(std::string_view control) {
+    if (control == "cmdNewFolder") return PopupCommand::NewFolder;
+    if (control == "cmdList") return PopupCommand::List;
+    if (control == "cmdDetails") return PopupCommand::Details;
+    return FindListCommand(control);
+}
+
 }  // namespace
 
 OpenSaveModel::OpenSaveModel(Style style, const ObjectAccess& access, const OpenSaveFields& fields)
@@ -86,17 +94,27 @@ std::vector<OpenSaveModel::FolderEntry> OpenSaveModel::Folders() const {
     return folders;
 }
 
-bool OpenSaveModel::IsEnabled(std::string_view command) const {
-    if (command == "cmdBack") return !history_.empty();
-    if (command == "cmdUp") {
+bool OpenSaveModel::IsEnabled(std::string_view control) const {
+    if (control == "cmdBack") return !history_.empty();
+    if (control == "cmdUp") {
         const TWNode* const node = access_.tree.Nodes(NodeKey());
         return node && node->Parent();
     }
-    if (command == "cmdNewFolder" || command == "mnuNewFolder") return CanHoldFolders(NodeKey());
-    if (command == "mnuRename") return list_.CanRename(list_.Rows().Selected());
-    if (command == "mnuLineUp")
-        return look_.viewType == ListViewType::LargeIcons || look_.viewType == ListViewType::SmallIcons;
-    return true;
+    const std::optional<PopupChoice> choice = CommandOf(control);
+    return !choice || IsEnabled(choice->command);
+}
+
+bool OpenSaveModel::IsEnabled(PopupCommand command) const {
+    switch (command) {
+        case PopupCommand::NewFolder:
+            return CanHoldFolders(NodeKey());
+        case PopupCommand::Rename:
+            return list_.CanRename(list_.Rows().Selected());
+        case PopupCommand::LineUp:
+            return look_.viewType == ListViewType::LargeIcons || look_.viewType == ListViewType::SmallIcons;
+        default:
+            return true;
+    }
 }
 
 void OpenSaveModel::RowChosen() {
@@ -214,21 +232,26 @@ bool OpenSaveModel::SetControl(std::string_view name, std::string_view text) {
     return true;
 }
 
-bool OpenSaveModel::Run(std::string_view command) {
-    list_.FollowSaves();
-    if (command == "cmdBack")
-        GoBack();
-    else if (command == "cmdUp")
-        GoUp();
-    else if (command == "cmdNewFolder" || command == "mnuNewFolder")
-        NewFolder();
-    else if (command == "mnuRename")
-        list_.BeginEdit(list_.Rows().Selected());
-    else if (command == "mnuLineUp")
+bool OpenSaveModel::Run(PopupChoice choice) {
+    if (!IsEnabled(choice.command)) return true;
+    if (TakeLookCommand(look_, choice)) {
         list_.Sort();
-    else
-        return false;
-    return true;
+        return true;
+    }
+    list_.FollowSaves();
+    switch (choice.command) {
+        case PopupCommand::NewFolder:
+            NewFolder();
+            return true;
+        case PopupCommand::Rename:
+            list_.BeginEdit(list_.Rows().Selected());
+            return true;
+        case PopupCommand::LineUp:
+            list_.Sort();
+            return true;
+        default:
+            return false;
+    }
 }
 
 bool OpenSaveModel::Press(std::string_view button) {
@@ -242,14 +265,12 @@ bool OpenSaveModel::Press(std::string_view button) {
         if (nameTouched_ || !EnterFolder(key)) AcceptName();
         return true;
     }
+    if (const std::optional<PopupChoice> choice = CommandOf(button)) return Run(*choice);
+    if (button != "cmdBack" && button != "cmdUp") return false;
     if (!IsEnabled(button)) return true;
-    if (button == "cmdList") button = "mnuList";
-    if (button == "cmdDetails") button = "mnuDetails";
-    if (TakeLookCommand(look_, button)) {
-        list_.Sort();
-        return true;
-    }
-    return Run(button);
+    list_.FollowSaves();
+    button == "cmdBack" ? GoBack() : GoUp();
+    return true;
 }
 
 void OpenSaveModel::CloseBox() {

@@ -57,11 +57,14 @@ class OpenSaveModel final : public DialogModel {
     const ListLook& Look() const { return look_; }
     std::vector<FolderEntry> Folders() const;
     const std::string& NameText() const { return text_; }
-    // Whether a button or menu item is lit.
-    bool IsEnabled(std::string_view command) const;
+    // Whether a button or menu item is enabled, by its control name; true for any other name.
+    bool IsEnabled(std::string_view control) const;
+    bool IsEnabled(PopupCommand command) const;
 
     // What the brewer does.
 
+    // Does what the item of the menu does; nothing while it is disabled. False for one of another window.
+    bool Run(PopupChoice choice);
     // Enters a folder that the dialog shows; the way back leads here. False for any other key.
     bool EnterFolder(std::string_view key);
     // A row has been chosen: a recipe's name goes into the box.
@@ -84,14 +87,13 @@ class OpenSaveModel final : public DialogModel {
     // the id of a recipe folder, -1 for all recipes; txtFind what to look for; txtLabel the new name of the
     // row that is being edited, which ends the edit.
     bool SetControl(std::string_view name, std::string_view text) override;
-    // The buttons and the items of the menu, mnuArrangeBy(0) and so on for its array. cmdOK stays open for
-    // what it refuses. A command that is not lit does nothing.
+    // The buttons, and the items of the menu by their control names, see Run. cmdOK stays open for what it
+    // refuses. A disabled one does nothing.
     bool Press(std::string_view button) override;
     void CloseBox() override;
     bool IsOpen() const override { return open_; }
 
   private:
-    bool Run(std::string_view command);
     bool HasFolder(std::string_view key) const;
     void GoTo(std::string_view key);
     void GoBack();

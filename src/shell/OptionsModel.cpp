@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "commands/PopupCommands.h"
 #include "platform/Error.h"
 #include "shell/Shell.h"
 #include "values/ParserValidater.h"
@@ -302,7 +303,7 @@ void OptionsModel::ChooseOption(Control& option) {
 bool OptionsModel::Press(std::string_view button) {
     if (button == "cmdCancel")
         CloseBox();
-    else if (button == "mnuResetColors")
+    else if (button == RowOf(PopupCommand::ResetColors).name)
         ResetColors();
     else if (button == "cmdOK")
         Ok();

@@ -15,29 +15,26 @@ constexpr std::size_t kCaptionLead = 3;
 
 }  // namespace
 
-std::string RecentList::ItemName(int slot) {
-    return "mnuFileMRU(" + std::to_string(slot) + ")";
-}
-
 bool RecentList::Visible(int slot) const {
-    return commands_.FindItem(ItemName(slot))->visible;
+    return commands_.Item(RecentCommand(slot)).visible;
 }
 
 std::string RecentList::NameOf(int slot) const {
-    const MenuItem* item = commands_.FindItem(ItemName(slot));
-    if (!item || !item->visible || item->caption.size() < kCaptionLead) return {};
-    return ReplaceAll(std::string_view(item->caption).substr(kCaptionLead), "&&", "&");
+    if (slot < 0 || slot >= kRecentSlots) return {};
+    const MenuItem& item = commands_.Item(RecentCommand(slot));
+    if (!item.visible || item.caption.size() < kCaptionLead) return {};
+    return ReplaceAll(std::string_view(item.caption).substr(kCaptionLead), "&&", "&");
 }
 
 void RecentList::SetSlot(int slot, std::string_view name, bool visible) {
-    const std::string item = ItemName(slot);
+    const CommandId item = RecentCommand(slot);
     commands_.SetCaption(
         item, name.empty() ? "" : "&" + std::to_string(slot + 1) + " " + ReplaceAll(name, "&", "&&"));
     commands_.SetVisible(item, visible);
 }
 
 int RecentList::Find(std::string_view name) const {
-    for (int slot = 0; slot < kMruCount; ++slot) {
+    for (int slot = 0; slot < kRecentSlots; ++slot) {
         if (Visible(slot) && SameName(NameOf(slot), name)) return slot;
     }
     return -1;
@@ -45,16 +42,16 @@ int RecentList::Find(std::string_view name) const {
 
 void RecentList::Load(const SettingsStore& store) {
     int next = 0;
-    for (int i = 0; i < kMruCount; ++i) {
+    for (int i = 0; i < kRecentSlots; ++i) {
         const std::string name = store.GetSetting(kMruSection, KeyOf(i), "");
         if (!name.empty()) SetSlot(next++, name, true);
     }
-    while (next < kMruCount) SetSlot(next++, "", false);
+    while (next < kRecentSlots) SetSlot(next++, "", false);
 }
 
 void RecentList::Store(const SettingsStore& store) const {
     int next = 0;
-    for (int slot = 0; slot < kMruCount; ++slot) {
+    for (int slot = 0; slot < kRecentSlots; ++slot) {
         if (Visible(slot)) store.SaveSetting(kMruSection, KeyOf(next++), NameOf(slot), false);
     }
 }
@@ -64,24 +61,24 @@ void RecentList::Add(std::string_view name) {
     const int found = Find(name);
     if (found == 0) return;
     if (Visible(0)) {
-        for (int slot = found > 0 ? found : kMruCount - 1; slot > 0; --slot) {
+        for (int slot = found > 0 ? found : kRecentSlots - 1; slot > 0; --slot) {
             SetSlot(slot, NameOf(slot - 1), Visible(slot - 1));
         }
     }
     SetSlot(0, name, true);
-    // Not the lower separator, mnuFileBar7: after the first entry it appears only at the next start.
+    // Not the lower separator, FileBar7: after the first entry it appears only at the next start.
     // Intended.
-    commands_.SetVisible("mnuFileBar5", true);
+    commands_.SetVisible(CommandId::FileBar5, true);
 }
 
 void RecentList::Remove(std::string_view name) {
     const int found = Find(name);
     if (found < 0) return;
-    for (int slot = found; slot < kMruCount - 1; ++slot) {
+    for (int slot = found; slot < kRecentSlots - 1; ++slot) {
         SetSlot(slot, NameOf(slot + 1), Visible(slot + 1));
     }
-    SetSlot(kMruCount - 1, "", false);
-    commands_.SetVisible("mnuFileBar5", Visible(0));
+    SetSlot(kRecentSlots - 1, "", false);
+    commands_.SetVisible(CommandId::FileBar5, Visible(0));
 }
 
 void RecentList::Rename(std::string_view oldName, std::string_view newName) {
@@ -91,8 +88,8 @@ void RecentList::Rename(std::string_view oldName, std::string_view newName) {
 
 std::vector<std::string> RecentList::Captions() const {
     std::vector<std::string> captions;
-    for (int slot = 0; slot < kMruCount; ++slot) {
-        if (Visible(slot)) captions.push_back(commands_.FindItem(ItemName(slot))->caption);
+    for (int slot = 0; slot < kRecentSlots; ++slot) {
+        if (Visible(slot)) captions.push_back(commands_.Item(RecentCommand(slot)).caption);
     }
     return captions;
 }

@@ -10,8 +10,6 @@
 
 namespace tw {
 
-inline constexpr int kMruCount = 6;
-
 class RecentList {
   public:
     explicit RecentList(CommandBar& commands) : commands_(commands) {}
@@ -27,7 +25,6 @@ class RecentList {
     std::string NameOf(int slot) const;
     // The captions of the visible slots.
     std::vector<std::string> Captions() const;
-    static std::string ItemName(int slot);  // "mnuFileMRU(0)"
 
   private:
     int Find(std::string_view name) const;

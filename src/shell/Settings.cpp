@@ -170,7 +170,7 @@ void StoreColors(const Settings& settings, const SettingsStore& store) {
 }
 
 std::optional<std::string> RecentDefault(std::string_view key) {
-    for (int slot = 0; slot < kMruCount; ++slot) {
+    for (int slot = 0; slot < kRecentSlots; ++slot) {
         if (key == "File" + std::to_string(slot)) return "";
     }
     return std::nullopt;

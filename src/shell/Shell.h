@@ -218,11 +218,13 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     // The wizard that makes report files. Its menu item is hidden: intended.
     void ShowReportWizard();
 
-    // Runs a menu item's action by its name. False when it is disabled or hidden, or unknown: nothing happens
-    // then. An error that rises from the action is shown as Guard does.
+    // Runs a menu item's action. False when it is disabled or hidden: nothing happens then. An error that
+    // rises from the action is shown as Guard does.
+    bool RunCommand(CommandId command);
+    // The same by the item's control name, for scripts; false for an unknown one too.
     bool RunMenu(std::string_view name);
-    // A toolbar button, by its key; likewise.
-    bool PressButton(std::string_view key);
+    // What the toolbar button of the command does; likewise. False for a command without one.
+    bool PressButton(CommandId command);
     // Show the icon set and the button style of the settings, and the grid colours in all documents.
     void ChangeToolbarIcons();
     void ChangeToolbarButtonStyle();
@@ -288,15 +290,18 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
 
     using Action = std::function<void(Shell&)>;
     struct ActionRow {
-        std::string_view name;
+        CommandId command;
         void (*action)(Shell&);
+        void (*pressed)(Shell&) = nullptr;  // what the button does, where that is something else
     };
     static const ActionRow kFileActions[], kEditActions[], kOtherActions[];
     bool OpenDatabase(const std::string& path);
     void FollowCatalogue();
-    // Empty for a name without an action.
-    static Action FindAction(std::string_view name);
-    bool RunAction(std::string_view name);
+    // nullptr for a command without a row, such as a recent recipe.
+    static const ActionRow* FindAction(CommandId command);
+    // Empty for a command that does nothing.
+    static Action ActionOf(CommandId command);
+    bool RunAction(CommandId command, const Action& action);
     bool CloseAll();
     void DarkenDocumentCommands();
     // Runs a save; an error in it is shown and counts as not saved.
@@ -305,9 +310,6 @@ class Shell final : public DocumentHost, public DocumentCommands, public ObjectL
     void FollowUnfinishedSave(const RecipeDocument& document, bool ok);
     void EnableCopy(bool enabled);
     void EnablePaste(bool enabled);
-    // A menu item and its button.
-    void EnablePair(std::string_view item, std::string_view button, bool enabled);
-    void EnablePairWithTwin(std::string_view item, std::string_view button, bool enabled);
     void ShowOpenDialog();
     void ShowDatabaseSetup();
     // Shows the selected row of a picker's list, and those around it, to be read.

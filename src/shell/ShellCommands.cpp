@@ -15,40 +15,31 @@
 
 namespace tw {
 
-namespace {
-
-bool IsEditItem(std::string_view name) {
-    return name.starts_with("mnuEdit");
-}
-
-}  // namespace
-
 const Shell::ActionRow Shell::kFileActions[] = {
-    {"mnuFileNew", [](Shell& s) { s.CreateDocumentWindow(""); }},
-    {"mnuFileOpen", [](Shell& s) { s.ShowOpenDialog(); }},
-    {"mnuFileClose",
+    {CommandId::FileNew, [](Shell& s) { s.CreateDocumentWindow(""); }},
+    {CommandId::FileOpen, [](Shell& s) { s.ShowOpenDialog(); }},
+    {CommandId::FileClose,
      [](Shell& s) {
          if (s.active_) s.CloseDocument(*s.active_);
      }},
-    {"mnuFileCloseAll", [](Shell& s) { s.CloseAll(); }},
-    {"mnuFileSave",
+    {CommandId::FileCloseAll, [](Shell& s) { s.CloseAll(); }},
+    {CommandId::FileSave,
      [](Shell& s) {
          if (s.active_) s.SaveRecipe(*s.active_, false);
      }},
-    {"mnuFileSaveAs",
+    {CommandId::FileSaveAs,
      [](Shell& s) {
          if (s.active_) s.SaveRecipeAs(*s.active_);
      }},
-    {"mnuFileSaveAll", [](Shell& s) { s.SaveAllDocuments(); }},
-    {"mnuFileImport", [](Shell& s) { s.Exchange([](RecipeExchange& files) { files.Import(); }); }},
-    {"mnuFileExport", [](Shell& s) { s.Exchange([](RecipeExchange& files) { files.Export(); }); }},
-    {"mnuFilePrint", [](Shell& s) { s.PrintActiveDocument(false); }},
-    {"mnuFilePreview", [](Shell& s) { s.PreviewActiveDocument(); }},
-    // The toolbar's button, by its key.
-    {"Print", [](Shell& s) { s.PrintActiveDocument(s.settings_.quickPrintFromToolbar); }},
-    {"mnuFileReport", [](Shell& s) { s.ShowReportWizard(); }},
-    {"mnuFileDelete", [](Shell& s) { s.ShowDeleteDialog(); }},
-    {"mnuFileExit",
+    {CommandId::FileSaveAll, [](Shell& s) { s.SaveAllDocuments(); }},
+    {CommandId::FileImport, [](Shell& s) { s.Exchange([](RecipeExchange& files) { files.Import(); }); }},
+    {CommandId::FileExport, [](Shell& s) { s.Exchange([](RecipeExchange& files) { files.Export(); }); }},
+    {CommandId::FilePrint, [](Shell& s) { s.PrintActiveDocument(false); },
+     [](Shell& s) { s.PrintActiveDocument(s.settings_.quickPrintFromToolbar); }},
+    {CommandId::FilePreview, [](Shell& s) { s.PreviewActiveDocument(); }},
+    {CommandId::FileReport, [](Shell& s) { s.ShowReportWizard(); }},
+    {CommandId::FileDelete, [](Shell& s) { s.ShowDeleteDialog(); }},
+    {CommandId::FileExit,
      [](Shell& s) {
          if (s.RequestExit() && s.view_) s.view_->CloseMainWindow();
      }},
@@ -56,82 +47,84 @@ const Shell::ActionRow Shell::kFileActions[] = {
 
 // They run with an active document only.
 const Shell::ActionRow Shell::kEditActions[] = {
-    {"mnuEditUndo", [](Shell& s) { s.active_->Replay().Undo(); }},
-    {"mnuEditRedo", [](Shell& s) { s.active_->Replay().Redo(); }},
-    {"mnuEditCut",
+    {CommandId::EditUndo, [](Shell& s) { s.active_->Replay().Undo(); }},
+    {CommandId::EditRedo, [](Shell& s) { s.active_->Replay().Redo(); }},
+    {CommandId::EditCut,
      [](Shell& s) {
          s.active_->Edit().Cut();
          s.ReapplyPasteState();
      }},
-    {"mnuEditCopy", [](Shell& s) { s.CopyShowingErrors(); }},
-    {"mnuEditPaste", [](Shell& s) { s.active_->Edit().Paste(); }},
-    {"mnuEditClear", [](Shell& s) { s.active_->Edit().Clear(); }},
-    {"mnuEditSelectAll", [](Shell& s) { s.active_->Edit().SelectAll(); }},
-    {"mnuEditInsert", [](Shell& s) { s.active_->Lines().InsertRow(); }},
-    {"mnuEditDelete", [](Shell& s) { s.active_->Lines().DeleteRow(); }},
-    {"mnuEditAppendFlag", [](Shell& s) { s.SetAppendRows(!s.AppendRows()); }},
+    {CommandId::EditCopy, [](Shell& s) { s.CopyShowingErrors(); }},
+    {CommandId::EditPaste, [](Shell& s) { s.active_->Edit().Paste(); }},
+    {CommandId::EditClear, [](Shell& s) { s.active_->Edit().Clear(); }},
+    {CommandId::EditSelectAll, [](Shell& s) { s.active_->Edit().SelectAll(); }},
+    {CommandId::EditInsert, [](Shell& s) { s.active_->Lines().InsertRow(); }},
+    {CommandId::EditDelete, [](Shell& s) { s.active_->Lines().DeleteRow(); }},
+    {CommandId::EditAppendFlag, [](Shell& s) { s.SetAppendRows(!s.AppendRows()); }},
 };
 
 const Shell::ActionRow Shell::kOtherActions[] = {
-    {"mnuToolsExplorer", [](Shell& s) { s.ShowExplorer(); }},
-    {"mnuToolsUnits",
+    {CommandId::ToolsExplorer, [](Shell& s) { s.ShowExplorer(); }},
+    {CommandId::ToolsUnits,
      [](Shell& s) {
          ConvertUnitsModel converter(s.platform_.messages);
          s.platform_.dialogs.ShowModal(converter);
      }},
-    {"mnuToolsHydrometer",
+    {CommandId::ToolsHydrometer,
      [](Shell& s) {
          HydrometerModel hydrometer(s.platform_.messages);
          s.platform_.dialogs.ShowModal(hydrometer);
      }},
-    {"mnuToolsColorScale",
+    {CommandId::ToolsColorScale,
      [](Shell& s) {
          ColorScaleModel scales;
          s.platform_.dialogs.ShowModal(scales);
      }},
-    {"mnuToolsHopUtil",
+    {CommandId::ToolsHopUtil,
      [](Shell& s) {
          std::optional<std::string> boilGravity;
          if (s.active_) boilGravity = s.active_->Record().txtBG.Text();
          HopUtilModel explorer(boilGravity);
          s.platform_.dialogs.ShowModal(explorer);
      }},
-    {"mnuToolsResizeRecipe", [](Shell& s) { s.ShowScaling(Scaling::Size); }},
-    {"mnuToolsChangeStrength", [](Shell& s) { s.ShowScaling(Scaling::Strength); }},
-    {"mnuToolsChangeBitterness", [](Shell& s) { s.ShowScaling(Scaling::Bitterness); }},
-    {"mnuToolsChangeCO2", [](Shell& s) { s.ShowScaling(Scaling::Carbonation); }},
-    {"mnuToolsDataSetup", [](Shell& s) { s.ShowDatabaseSetup(); }},
-    {"mnuToolsOptions",
+    {CommandId::ToolsResizeRecipe, [](Shell& s) { s.ShowScaling(Scaling::Size); }},
+    {CommandId::ToolsChangeStrength, [](Shell& s) { s.ShowScaling(Scaling::Strength); }},
+    {CommandId::ToolsChangeBitterness, [](Shell& s) { s.ShowScaling(Scaling::Bitterness); }},
+    {CommandId::ToolsChangeCO2, [](Shell& s) { s.ShowScaling(Scaling::Carbonation); }},
+    {CommandId::ToolsDataSetup, [](Shell& s) { s.ShowDatabaseSetup(); }},
+    {CommandId::ToolsOptions,
      [](Shell& s) {
          OptionsModel options(s, s.platform_.messages);
          s.platform_.dialogs.ShowModal(options);
      }},
-    {"mnuToolsAssistant", [](Shell& s) { s.ShowAssistant(); }},
-    {"mnuWindowCascade", [](Shell& s) { s.Arrange(Arrangement::Cascade); }},
-    {"mnuWindowTileHorizontal", [](Shell& s) { s.Arrange(Arrangement::TileHorizontal); }},
-    {"mnuWindowTileVertical", [](Shell& s) { s.Arrange(Arrangement::TileVertical); }},
-    {"mnuHelpContents", [](Shell& s) { s.ShowHelpContents(); }},
-    {"mnuHelpAuto", [](Shell& s) { s.ShowHelpOfActive(); }},
-    {"mnuHelpAbout",
+    {CommandId::ToolsAssistant, [](Shell& s) { s.ShowAssistant(); }},
+    {CommandId::WindowCascade, [](Shell& s) { s.Arrange(Arrangement::Cascade); }},
+    {CommandId::WindowTileHorizontal, [](Shell& s) { s.Arrange(Arrangement::TileHorizontal); }},
+    {CommandId::WindowTileVertical, [](Shell& s) { s.Arrange(Arrangement::TileVertical); }},
+    {CommandId::HelpContents, [](Shell& s) { s.ShowHelpContents(); }},
+    {CommandId::HelpAuto, [](Shell& s) { s.ShowHelpOfActive(); }},
+    {CommandId::HelpAbout,
      [](Shell& s) {
          AboutModel about;
          s.platform_.dialogs.ShowModal(about);
      }},
 };
 
-Shell::Action Shell::FindAction(std::string_view name) {
+const Shell::ActionRow* Shell::FindAction(CommandId command) {
     for (const std::span<const ActionRow> rows :
          {std::span<const ActionRow>(kFileActions), std::span<const ActionRow>(kEditActions),
           std::span<const ActionRow>(kOtherActions)}) {
-        const auto found = std::ranges::find(rows, name, &ActionRow::name);
-        if (found != rows.end()) return found->action;
+        const auto found = std::ranges::find(rows, command, &ActionRow::command);
+        if (found != rows.end()) return &*found;
     }
-    for (int slot = 0; slot < kMruCount; ++slot) {
-        if (name == RecentList::ItemName(slot)) {
-            return [slot](Shell& s) { s.OpenByName(s.recent_.NameOf(slot)); };
-        }
-    }
-    return {};
+    return nullptr;
+}
+
+Shell::Action Shell::ActionOf(CommandId command) {
+    const int slot = static_cast<int>(command) - static_cast<int>(RecentCommand(0));
+    if (slot >= 0 && slot < kRecentSlots) return [slot](Shell& s) { s.OpenByName(s.recent_.NameOf(slot)); };
+    const ActionRow* const row = FindAction(command);
+    return row != nullptr ? row->action : Action{};
 }
 
 void Shell::Arrange(Arrangement arrangement) {
@@ -147,26 +140,29 @@ void Shell::CopyShowingErrors() {
     ReapplyPasteState();
 }
 
-bool Shell::RunAction(std::string_view name) {
-    const Action action = FindAction(name);
+bool Shell::RunAction(CommandId command, const Action& action) {
     // Without a database the program is about to end.
     if (!action || !database_) return false;
-    // Every edit item is about the active document and does nothing without one.
-    if (IsEditItem(name) && !active_) return true;
+    if (RowOf(command).needs == Needs::ActiveRecipe && !active_) return true;
     Guard([&] { action(*this); });
     return true;
 }
 
-bool Shell::RunMenu(std::string_view name) {
-    const MenuItem* item = bar_.FindItem(name);
-    return item && item->enabled && item->visible && RunAction(name);
+bool Shell::RunCommand(CommandId command) {
+    const MenuItem& item = bar_.Item(command);
+    return item.enabled && item.visible && RunAction(command, ActionOf(command));
 }
 
-bool Shell::PressButton(std::string_view key) {
-    const ToolButton* button = bar_.FindButton(key);
+bool Shell::RunMenu(std::string_view name) {
+    const std::optional<CommandId> command = FindCommandId(name);
+    return command && RunCommand(*command);
+}
+
+bool Shell::PressButton(CommandId command) {
+    const ToolButton* button = bar_.ButtonOf(command);
     if (!button || !button->enabled) return false;
-    // A button whose action differs from its menu item's has one of its own.
-    return RunAction(FindAction(key) ? key : std::string_view(button->menuItem));
+    const ActionRow* const row = FindAction(command);
+    return RunAction(command, row != nullptr && row->pressed != nullptr ? row->pressed : ActionOf(command));
 }
 
 void Shell::PickFromCatalogue(RecipeDocument& document, CatalogueKind list, const std::string& name) {
@@ -177,12 +173,12 @@ void Shell::PickFromCatalogue(RecipeDocument& document, CatalogueKind list, cons
 }
 
 void Shell::ShowScaling(Scaling what) {
-    if (!active_ || !active_->Focus().FlushEdits()) return;
+    if (!active_ || !active_->Focus().Focus().FlushEdits()) return;
     RecipeDocument& document = *active_;
     const std::optional<std::string> current = CurrentFigure(document, what);
     if (!current) return;
     ScalingModel dialog(what, *current, platform_.messages);
-    dialog.SetSizeCheck([&document](double gallons) { return document.Scaling().RefusalOfSize(gallons); });
+    dialog.SetSizeCheck([&document](double gallons) { return document.Scaling().Scaling().RefusalOfSize(gallons); });
     platform_.dialogs.ShowModal(dialog);
     if (!dialog.Cancelled()) Scale(document, dialog);
 }
@@ -191,43 +187,33 @@ void Shell::SaveAllDocuments() {
     // One that cannot be saved does not keep the others from it.
     for (std::size_t i = 0; i < documents_.size(); ++i) {
         Guard([&] {
-            documents_[i]->Focus().FlushEdits();
+            documents_[i]->Focus().Focus().FlushEdits();
             SaveRecipe(*documents_[i], false);
         });
     }
 }
 
-void Shell::EnablePair(std::string_view item, std::string_view button, bool enabled) {
-    bar_.SetEnabled(item, enabled);
-    bar_.SetButtonEnabled(button, enabled);
-}
-
-void Shell::EnablePairWithTwin(std::string_view item, std::string_view button, bool enabled) {
-    bar_.SetEnabled(item, enabled);
-    bar_.SetButtonWithTwin(button, enabled);
-}
-
 void Shell::EnableResizeRecipe(bool enabled) {
-    EnablePair("mnuToolsResizeRecipe", "Volume", enabled);
+    bar_.SetBothEnabled(CommandId::ToolsResizeRecipe, enabled);
 }
 void Shell::EnableChangeStrength(bool enabled) {
-    EnablePair("mnuToolsChangeStrength", "Strength", enabled);
+    bar_.SetBothEnabled(CommandId::ToolsChangeStrength, enabled);
 }
 void Shell::EnableChangeBitterness(bool enabled) {
-    EnablePair("mnuToolsChangeBitterness", "Bitterness", enabled);
+    bar_.SetBothEnabled(CommandId::ToolsChangeBitterness, enabled);
 }
 void Shell::EnableChangeCarbonation(bool enabled) {
-    EnablePair("mnuToolsChangeCO2", "Carbonation", enabled);
+    bar_.SetBothEnabled(CommandId::ToolsChangeCO2, enabled);
 }
 void Shell::EnableInsert(bool enabled) {
-    EnablePair("mnuEditInsert", "Insert", enabled);
+    bar_.SetBothEnabled(CommandId::EditInsert, enabled);
 }
 void Shell::EnableDelete(bool enabled) {
-    EnablePair("mnuEditDelete", "Delete", enabled);
+    bar_.SetBothEnabled(CommandId::EditDelete, enabled);
 }
 
 void Shell::EnableSave(bool enabled) {
-    EnablePairWithTwin("mnuFileSave", "Save", enabled);
+    bar_.SetBothEnabled(CommandId::FileSave, enabled);
     CheckEnableSaveAll();
 }
 
@@ -238,14 +224,14 @@ void Shell::EnableCopyPaste(bool enableCopy, bool enableCutPaste) {
 }
 
 void Shell::EnableCopy(bool enabled) {
-    bar_.SetEnabled("mnuEditSelectAll", enabled);
-    EnablePairWithTwin("mnuEditCopy", "Copy", enabled);
+    bar_.SetEnabled(CommandId::EditSelectAll, enabled);
+    bar_.SetBothEnabled(CommandId::EditCopy, enabled);
 }
 
 void Shell::EnablePaste(bool enabled) {
-    bar_.SetEnabled("mnuEditClear", enabled);
-    EnablePair("mnuEditCut", "Cut", enabled);
-    EnablePairWithTwin("mnuEditPaste", "Paste", enabled && platform_.clipboard.HasText());
+    bar_.SetEnabled(CommandId::EditClear, enabled);
+    bar_.SetBothEnabled(CommandId::EditCut, enabled);
+    bar_.SetBothEnabled(CommandId::EditPaste, enabled && platform_.clipboard.HasText());
 }
 
 void Shell::ReapplyPasteState() {
@@ -253,21 +239,21 @@ void Shell::ReapplyPasteState() {
 }
 
 void Shell::EnableUndo(bool enabled, std::string_view description) {
-    bar_.SetCaption("mnuEditUndo", "&Undo " + std::string(description));
-    EnablePair("mnuEditUndo", "Undo", enabled);
+    bar_.SetCaption(CommandId::EditUndo, "&Undo " + std::string(description));
+    bar_.SetBothEnabled(CommandId::EditUndo, enabled);
 }
 
 void Shell::EnableRedo(bool enabled, std::string_view description) {
-    bar_.SetCaption("mnuEditRedo", "&Redo " + std::string(description));
-    EnablePair("mnuEditRedo", "Redo", enabled);
+    bar_.SetCaption(CommandId::EditRedo, "&Redo " + std::string(description));
+    bar_.SetBothEnabled(CommandId::EditRedo, enabled);
 }
 
 void Shell::EnableClose(bool enabled) {
-    bar_.SetEnabled("mnuFileClose", enabled);
-    bar_.SetEnabled("mnuFileCloseAll", enabled);
-    bar_.SetEnabled("mnuFileSaveAs", enabled);
-    EnablePairWithTwin("mnuFilePrint", "Print", enabled);
-    bar_.SetEnabled("mnuFilePreview", enabled);
+    bar_.SetEnabled(CommandId::FileClose, enabled);
+    bar_.SetEnabled(CommandId::FileCloseAll, enabled);
+    bar_.SetEnabled(CommandId::FileSaveAs, enabled);
+    bar_.SetBothEnabled(CommandId::FilePrint, enabled);
+    bar_.SetEnabled(CommandId::FilePreview, enabled);
 }
 
 void Shell::ChangeToolbarIcons() {
@@ -279,27 +265,27 @@ void Shell::ChangeToolbarButtonStyle() {
 }
 
 void Shell::EnableWindowMenu(bool enabled) {
-    bar_.SetEnabled("mnuWindowCascade", enabled);
-    bar_.SetEnabled("mnuWindowTileHorizontal", enabled);
-    bar_.SetEnabled("mnuWindowTileVertical", enabled);
+    bar_.SetEnabled(CommandId::WindowCascade, enabled);
+    bar_.SetEnabled(CommandId::WindowTileHorizontal, enabled);
+    bar_.SetEnabled(CommandId::WindowTileVertical, enabled);
 }
 
 void Shell::CheckEnableSaveAll() {
-    bar_.SetEnabled("mnuFileSaveAll", std::ranges::any_of(documents_, [](const auto& document) {
+    bar_.SetEnabled(CommandId::FileSaveAll, std::ranges::any_of(documents_, [](const auto& document) {
                         return document->Changed();
                     }));
 }
 
 void Shell::CheckEnableDelete() {
     const bool anyRecipe = !database_->OpenRecordset("SELECT * FROM RECIPES").AtEnd();
-    // Compared with mnuFileDelete alone, on purpose: at a start with recipes mnuFilePrint stays off, and with
+    // Compared with FileDelete alone, on purpose: at a start with recipes FilePrint stays off, and with
     // the first recipe it goes on, also without an open document.
-    if (bar_.FindItem("mnuFileDelete")->enabled == anyRecipe) return;
-    bar_.SetEnabled("mnuFileDelete", anyRecipe);
-    bar_.SetEnabled("mnuFilePrint", anyRecipe);
-    bar_.SetEnabled("mnuFileOpen", anyRecipe);
-    bar_.SetEnabled("mnuFileExport", anyRecipe);
-    bar_.SetButtonEnabled("Open", anyRecipe);
+    if (bar_.Item(CommandId::FileDelete).enabled == anyRecipe) return;
+    bar_.SetEnabled(CommandId::FileDelete, anyRecipe);
+    bar_.SetEnabled(CommandId::FilePrint, anyRecipe);
+    bar_.SetEnabled(CommandId::FileOpen, anyRecipe);
+    bar_.SetEnabled(CommandId::FileExport, anyRecipe);
+    bar_.SetButtonEnabled(CommandId::FileOpen, anyRecipe);
 }
 
 }  // namespace tw

@@ -61,7 +61,7 @@ void Shell::OpenByName(std::string_view name) {
 
 bool Shell::CloseDocument(RecipeDocument& document) {
     // An entry that is still being typed counts, so that it is asked about.
-    if (!Guard([&] { document.Focus().FlushEdits(); })) return false;
+    if (!Guard([&] { document.Focus().Focus().FlushEdits(); })) return false;
     if (document.Changed()) {
         Activate(document);
         const std::string question =
@@ -128,9 +128,9 @@ bool Shell::SaveRecipe(RecipeDocument& document, bool silent) {
     if (IsBlank(document.BeerName()) || document.FolderID() < 0) return !silent && SaveRecipeAs(document);
     return TrySave([&](bool& ok) {
         if (silent)
-            document.Focus().FlushEditsQuietly();
+            document.Focus().Focus().FlushEditsQuietly();
         else
-            document.Focus().FlushEdits();
+            document.Focus().Focus().FlushEdits();
         const bool renamed = !SameName(document.BeerName(), document.OrigName());
         if (silent && renamed && RecipeExists(*database_, document.BeerName())) return;
         ok = document.Storage().Save(SaveAs::No, silent ? Asking::Quietly : Asking::Aloud);
@@ -171,7 +171,7 @@ void Shell::ShowAutoSave() {
 bool Shell::SaveRecipeAs(RecipeDocument& document) {
     std::unique_ptr<OpenSaveModel> dialog;
     const bool shown = TrySave([&](bool& ok) {
-        document.Focus().FlushEdits();
+        document.Focus().Focus().FlushEdits();
         dialog = std::make_unique<OpenSaveModel>(OpenSaveModel::Style::Save, Access(), browse_);
         dialog->SetRecipe(document.Caption(), document.FolderID());
         platform_.dialogs.ShowModal(*dialog);
@@ -185,7 +185,7 @@ bool Shell::SaveRecipeAs(RecipeDocument& document) {
 bool Shell::SaveRecipeUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId,
                             bool silent) {
     return TrySave([&](bool& ok) {
-        document.Focus().FlushEdits();
+        document.Focus().Focus().FlushEdits();
         ok = document.Storage().SaveUnder(name, folderId, silent ? Asking::Quietly : Asking::Aloud);
         FollowUnfinishedSave(document, ok);
     });

@@ -31,7 +31,7 @@ void Shell::ShowAssistant() {
     platform_.dialogs.ShowModal(assistant);
     settings_.showAssistantAtStartup = assistant.ShowAtStartup();
     // A link does what its menu item does, also where that is dark for want of a recipe.
-    if (!assistant.Chosen().empty()) RunAction(assistant.Chosen());
+    if (const auto chosen = assistant.Chosen()) RunAction(*chosen, ActionOf(*chosen));
 }
 
 }  // namespace tw

@@ -48,7 +48,7 @@ bool Shell::PerformSplashScreenInit(const std::string& databasePath) {
     SwitchAutoSave(false);
     browse_ = {};
     recent_.Load(store_);
-    bar_.SetVisible("mnuFileBar7", !recent_.Captions().empty());
+    bar_.SetVisible(CommandId::FileBar7, !recent_.Captions().empty());
     if (!OpenDatabase(databasePath)) return false;
     CheckEnableDelete();
     nextDocKey_ = 0;
@@ -150,11 +150,11 @@ RecipeDefaults Shell::Defaults() const {
 }
 
 bool Shell::AppendRows() const {
-    return bar_.FindItem("mnuEditAppendFlag")->checked;
+    return bar_.Item(CommandId::EditAppendFlag).checked;
 }
 
 void Shell::SetAppendRows(bool append) {
-    bar_.SetChecked("mnuEditAppendFlag", append);
+    bar_.SetChecked(CommandId::EditAppendFlag, append);
 }
 
 bool Shell::Guard(const std::function<void()>& operation) {

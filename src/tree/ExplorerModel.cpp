@@ -90,15 +90,15 @@ void ExplorerModel::DeclareCommands() {
     };
     const auto isOwnFolder = [this] { return CanDeleteNode(NodeKey()); };
     AddButtons({
-        {"mnuOpen", run(&ExplorerModel::Open), [this] { return CanOpen(At(shown_).list.SelectedKey()); }},
-        {"mnuDelete", run(&ExplorerModel::Delete),
+        {NameOf(PopupCommand::Open), run(&ExplorerModel::Open), [this] { return CanOpen(At(shown_).list.SelectedKey()); }},
+        {NameOf(PopupCommand::Delete), run(&ExplorerModel::Delete),
          [this] { return std::ranges::any_of(At(shown_).list.ChosenKeys(), CanDeleteNode); }},
-        {"mnuRename", run(&ExplorerModel::BeginRename), [this] { return CanRename(); }},
-        {"mnuNewFolder", run(&ExplorerModel::NewFolder), [this] { return CanHoldFolders(NodeKey()); }},
-        {"mnuNewStyle", run(&ExplorerModel::NewStyle), [this] { return CanAddStyle(); }},
-        {"mnuRenameFolder", run(&ExplorerModel::BeginRenameNode), isOwnFolder},
-        {"mnuDeleteFolder", run(&ExplorerModel::DeleteNode), isOwnFolder},
-        {"mnuLineUp", run(&ExplorerModel::LineUp), [this] { return ShowsIcons(); }},
+        {NameOf(PopupCommand::Rename), run(&ExplorerModel::BeginRename), [this] { return CanRename(); }},
+        {NameOf(PopupCommand::NewFolder), run(&ExplorerModel::NewFolder), [this] { return CanHoldFolders(NodeKey()); }},
+        {NameOf(PopupCommand::NewStyle), run(&ExplorerModel::NewStyle), [this] { return CanAddStyle(); }},
+        {NameOf(PopupCommand::RenameFolder), run(&ExplorerModel::BeginRenameNode), isOwnFolder},
+        {NameOf(PopupCommand::DeleteFolder), run(&ExplorerModel::DeleteNode), isOwnFolder},
+        {NameOf(PopupCommand::LineUp), run(&ExplorerModel::LineUp), [this] { return ShowsIcons(); }},
         {"cmdClose", [this] { Close(); }},
     });
     AddButtons(LookButtons(look_, [this] { SortLists(); }));

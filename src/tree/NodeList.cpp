@@ -198,32 +198,33 @@ std::string NodeList::Hint() const {
     return IdOfKey(key_) == 0 ? "There is no recipe without a style." : "No recipe has this style yet.";
 }
 
-std::string ArrangeCommand(int column) {
-    return "mnuArrangeBy(" + std::to_string(column) + ")";
+bool TakeLookCommand(ListLook& look, PopupChoice choice) {
+    if (choice.command == PopupCommand::ArrangeBy) {
+        look.descending = look.arrangeKey == choice.column && !look.descending;
+        look.arrangeKey = choice.column;
+        return true;
+    }
+    const int view = static_cast<int>(choice.command) - static_cast<int>(PopupCommand::LargeIcons);
+    if (view < 0 || view > static_cast<int>(ListViewType::Details)) return false;
+    look.viewType = static_cast<ListViewType>(view);
+    return true;
 }
 
-bool TakeLookCommand(ListLook& look, std::string_view command) {
-    const auto view = std::ranges::find(kViewCommands, command);
-    if (view != std::end(kViewCommands)) {
-        look.viewType = static_cast<ListViewType>(view - std::begin(kViewCommands));
-        return true;
-    }
-    for (int column = 0; column <= ExplorerColumns(); ++column) {
-        if (command != ArrangeCommand(column)) continue;
-        look.descending = look.arrangeKey == column && !look.descending;
-        look.arrangeKey = column;
-        return true;
-    }
-    return false;
+std::optional<PopupChoice> FindListCommand(std::string_view name) {
+    // While a search is shown, the column of the folder stands behind the explorer's.
+    return FindPopupCommand(name, ExplorerColumns() + 1);
 }
 
 std::vector<FormButton> LookButtons(ListLook& look, const std::function<void()>& changed) {
-    std::vector<std::string> commands(std::begin(kViewCommands), std::end(kViewCommands));
-    for (int column = 0; column <= ExplorerColumns(); ++column) commands.push_back(ArrangeCommand(column));
+    std::vector<PopupChoice> choices = {PopupCommand::LargeIcons, PopupCommand::SmallIcons,
+                                        PopupCommand::List, PopupCommand::Details};
+    // While a search is shown, the column of the folder stands behind the explorer's.
+    for (int column = 0; column <= ExplorerColumns(); ++column)
+        choices.emplace_back(PopupCommand::ArrangeBy, column);
     std::vector<FormButton> buttons;
-    for (const std::string& command : commands)
-        buttons.push_back({command, [&look, changed, command] {
-                               TakeLookCommand(look, command);
+    for (const PopupChoice choice : choices)
+        buttons.push_back({NameOf(choice), [&look, changed, choice] {
+                               TakeLookCommand(look, choice);
                                changed();
                            }});
     return buttons;

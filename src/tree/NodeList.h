@@ -4,10 +4,12 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "commands/PopupCommands.h"
 #include "platform/FormModel.h"
 #include "platform/Ports.h"
 #include "tree/DB_IO.h"
@@ -114,14 +116,11 @@ class NodeList {
     std::string editedKey_;
 };
 
-// "mnuLargeIcons" to "mnuDetails", in the order of ListViewType.
-inline constexpr std::string_view kViewCommands[] = {"mnuLargeIcons", "mnuSmallIcons", "mnuList",
-                                                     "mnuDetails"};
-// "mnuArrangeBy({column})".
-std::string ArrangeCommand(int column);
 // Takes a command of the menus "View" and "Arrange" into the look; the column that is sorted by already turns
 // its order round. False for any other command.
-bool TakeLookCommand(ListLook& look, std::string_view command);
+bool TakeLookCommand(ListLook& look, PopupChoice choice);
+// The command of that control name, as the console and the tests press it; nothing for an unknown name.
+std::optional<PopupChoice> FindListCommand(std::string_view name);
 // These commands as buttons of a form, which runs changed after each. REQUIRES: look lives for as long.
 std::vector<FormButton> LookButtons(ListLook& look, const std::function<void()>& changed);
 

@@ -55,8 +55,8 @@ RecipeChooser::RecipeChooser() {
         {"cmdDown", [this] { MoveTo(current_ + 1); }, canSink},
         {"cmdTop", [this] { MoveTo(0); }, canRise},
         {"cmdBottom", [this] { MoveTo(SelectionCount() - 1); }, canSink},
-        {"mnuPopupSortAsc", [sort] { sort(false); }, [this] { return SelectionCount() > 1; }},
-        {"mnuPopupSortDesc", [sort] { sort(true); }, [this] { return SelectionCount() > 1 && !sorted_; }},
+        {NameOf(PopupCommand::SortAscending), [sort] { sort(false); }, [this] { return SelectionCount() > 1; }},
+        {NameOf(PopupCommand::SortDescending), [sort] { sort(true); }, [this] { return SelectionCount() > 1 && !sorted_; }},
     });
 }
 

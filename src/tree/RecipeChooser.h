@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "commands/PopupCommands.h"
 #include "platform/FormModel.h"
 #include "store/Database.h"
 #include "tree/TWTree.h"
@@ -69,10 +70,12 @@ class RecipeChooser {
     // False when that adds none.
     bool Add(std::string_view key);
     // cmdAdd adds what is chosen in the tree, cmdDel takes the chosen line out, cmdUp, cmdDown, cmdTop and
-    // cmdBottom move it; mnuPopupSortAsc and mnuPopupSortDesc sort the names without regard to case. False
-    // for no such button; one that is off does nothing.
+    // cmdBottom move it; SortAscending and SortDescending, by their control names, sort the names without
+    // regard to case. False for no such button; a disabled one does nothing.
     bool Press(std::string_view button) { return buttons_.Press(button); }
     bool IsEnabled(std::string_view button) const { return buttons_.IsEnabled(button); }
+    bool Run(PopupCommand sorting) { return Press(NameOf(sorting)); }
+    bool IsEnabled(PopupCommand sorting) const { return IsEnabled(NameOf(sorting)); }
     // For the table of the form that it is part of.
     const std::vector<FormButton>& Buttons() const { return buttons_.All(); }
 

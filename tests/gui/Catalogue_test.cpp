@@ -389,7 +389,7 @@ TEST_F(CatalogueWindows, TheMenuOpensSetupAndTheRecipesFollow) {
         setup.Press("cmdNew");
         setup.Press("cmdClose");
     });
-    EXPECT_TRUE(window.RunCommand("mnuToolsDataSetup"));
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsDataSetup));
     EXPECT_THAT(outside.dialogs.shown, ElementsAre("frmDBSetup", "frmStyle"));
     EXPECT_GE(Find<QComboBox>("cmbStyle").findText(QStringLiteral("Altbier")), 0);
 }

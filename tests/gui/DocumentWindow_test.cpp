@@ -66,7 +66,7 @@ TEST_F(DocumentWindow, KeepsARecipeThroughSavingClosingAndOpening) {
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmOpenSave"});
     EXPECT_FALSE(shell.ActiveDocument()->Changed());
-    ASSERT_TRUE(window.RunCommand("mnuFileClose"));
+    ASSERT_TRUE(window.RunCommand(CommandId::FileClose));
     EXPECT_EQ(window.ActiveWindow(), nullptr);
     EXPECT_EQ(outside.messages.log, Strings{});
 
@@ -118,7 +118,7 @@ TEST_F(DocumentWindow, CommitsWhenAnotherRecipeComesToTheFront) {
     // A refused entry calls the new recipe off.
     Find<QLineEdit>("txtBoilVol").setFocus();
     Type("much");
-    EXPECT_TRUE(window.RunCommand("mnuFileNew"));
+    EXPECT_TRUE(window.RunCommand(CommandId::FileNew));
     EXPECT_EQ(shell.Documents().size(), 2U);
     EXPECT_EQ(Focus(), "txtBoilVol");
 }
@@ -138,9 +138,9 @@ TEST_F(DocumentWindow, RefusesToSaveOrCloseOverABadEntry) {
     Type("Bad");
     Find<QLineEdit>("txtBoilVol").setFocus();
     Type("much");
-    EXPECT_TRUE(window.RunCommand("mnuFileSaveAs"));
+    EXPECT_TRUE(window.RunCommand(CommandId::FileSaveAs));
     EXPECT_EQ(outside.dialogs.shown, Strings{});
-    EXPECT_TRUE(window.RunCommand("mnuFileClose"));
+    EXPECT_TRUE(window.RunCommand(CommandId::FileClose));
     EXPECT_NE(window.ActiveWindow(), nullptr);
     EXPECT_EQ(outside.messages.log, (Strings{"[Invalid Entry] Please enter a valid volume",
                                              "[Invalid Entry] Please enter a valid volume"}));
@@ -237,7 +237,7 @@ TEST_F(DocumentWindow, FallsSilentOnceItsRecipeIsClosed) {
     auto& box = Find<QLineEdit>("txtBoilVol");
     auto& styles = Find<QComboBox>("cmbStyle");
     auto& hops = Find<GridView>("gridHops");
-    ASSERT_TRUE(window.RunCommand("mnuFileClose"));
+    ASSERT_TRUE(window.RunCommand(CommandId::FileClose));
     ASSERT_FALSE(closed.isNull()) << "the frame went at once";
     QApplication::setPalette(DarkPalette());
     QTest::keyClicks(&box, QStringLiteral("much"));

@@ -73,9 +73,9 @@ TEST_F(Editing, UndoShowsTheTabAndTheControl) {
     Type("8 lb\r");
     window.ActiveWindow()->ShowTab(Tab::Notes);
     Type("Dry");
-    EXPECT_TRUE(window.RunCommand("mnuEditUndo"));
+    EXPECT_TRUE(window.RunCommand(CommandId::EditUndo));
     EXPECT_EQ(Focus(), "txtNotes");
-    EXPECT_TRUE(window.RunCommand("mnuEditUndo"));
+    EXPECT_TRUE(window.RunCommand(CommandId::EditUndo));
     EXPECT_EQ(Find<QTabWidget>("SSTab1").currentIndex(), static_cast<int>(Tab::Grains));
     EXPECT_EQ(Focus(), "gridGrain");
     EXPECT_EQ(Find<GridView>("gridGrain").currentIndex(), Find<GridView>("gridGrain").Model().index(0, 1));
@@ -86,9 +86,9 @@ TEST_F(Editing, ANewCellEntryCommitsBeforeTheUndo) {
     auto& view = GridAt(Tab::Grains, "gridGrain", 1, 1);
     Type("8 lb");
     // Nothing is there to be undone before the entry is committed.
-    EXPECT_FALSE(window.RunCommand("mnuEditUndo"));
+    EXPECT_FALSE(window.RunCommand(CommandId::EditUndo));
     Key(Qt::Key_Return);
-    EXPECT_TRUE(window.RunCommand("mnuEditUndo"));
+    EXPECT_TRUE(window.RunCommand(CommandId::EditUndo));
     EXPECT_EQ(Shown(view, 1, 1), "");
 }
 
@@ -125,7 +125,7 @@ TEST_F(Editing, TheSelectionOfATextIsTheRecords) {
     EXPECT_EQ(name.selectedText(), QStringLiteral("Old Ale"));
     Key(Qt::Key_X, Qt::ControlModifier);
     EXPECT_EQ(name.text(), QString());
-    EXPECT_TRUE(window.RunCommand("mnuEditUndo"));
+    EXPECT_TRUE(window.RunCommand(CommandId::EditUndo));
     EXPECT_EQ(name.text(), QStringLiteral("Old Ale"));
     EXPECT_EQ(name.selectedText(), QStringLiteral("Old Ale"));
 }

@@ -476,7 +476,7 @@ TEST_F(ExplorerWindow, ARecipeOpensBehindItInTheMainWindow) {
         explorerWindow.findChild<QPushButton*>(QStringLiteral("cmdClose"))->click();
         EXPECT_FALSE(explorerWindow.isVisible());
     });
-    EXPECT_TRUE(window.RunCommand("mnuToolsExplorer"));
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsExplorer));
     ASSERT_NE(window.ActiveWindow(), nullptr);
     EXPECT_EQ(Text("txtName"), "Ale");
 }

@@ -32,7 +32,7 @@ class GuiTest : public testing::Test {
 
     // A new recipe in front.
     frmDocument& NewRecipe() {
-        EXPECT_TRUE(window.RunCommand("mnuFileNew"));
+        EXPECT_TRUE(window.RunCommand(CommandId::FileNew));
         return *window.ActiveWindow();
     }
     // Shows every tab once, so that all its controls are made.

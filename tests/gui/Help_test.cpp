@@ -168,7 +168,7 @@ TEST_F(AssistantWindow, OneLinkAtATimeIsHighlighted) {
 TEST_F(AssistantWindow, AClickFollowsALink) {
     QTest::mouseClick(&Link("lblDatabase"), Qt::LeftButton);
     EXPECT_FALSE(window.isVisible());
-    EXPECT_EQ(model.Chosen(), "mnuToolsDataSetup");
+    EXPECT_EQ(RowOf(model.Chosen().value()).name, "mnuToolsDataSetup");
 }
 
 TEST_F(AssistantWindow, EnterAndSpaceFollowTheLinkWithTheFocus) {
@@ -179,14 +179,14 @@ TEST_F(AssistantWindow, EnterAndSpaceFollowTheLinkWithTheFocus) {
         Key(Qt::Key_Tab);
         Key(key);
         EXPECT_FALSE(dialog.isVisible()) << key;
-        EXPECT_EQ(other.Chosen(), "mnuFileOpen") << key;
+        EXPECT_EQ(RowOf(other.Chosen().value()).name, "mnuFileOpen") << key;
     }
 }
 
 TEST_F(AssistantWindow, AnAccessKeyFollowsItsLink) {
     Mnemonic(Link("lblDatabase"), Qt::Key_D);
     EXPECT_FALSE(window.isVisible());
-    EXPECT_EQ(model.Chosen(), "mnuToolsDataSetup");
+    EXPECT_EQ(RowOf(model.Chosen().value()).name, "mnuToolsDataSetup");
 }
 
 TEST_F(AssistantWindow, TheCheckBoxIsKeptHoweverTheWindowGoes) {
@@ -194,13 +194,13 @@ TEST_F(AssistantWindow, TheCheckBoxIsKeptHoweverTheWindowGoes) {
     Key(Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());
     EXPECT_FALSE(model.ShowAtStartup());
-    EXPECT_EQ(model.Chosen(), "");
+    EXPECT_EQ(model.Chosen(), std::nullopt);
 }
 
 TEST_F(AssistantWindow, OkClosesIt) {
     QTest::mouseClick(window.findChild<QPushButton*>(QStringLiteral("cmdOK")), Qt::LeftButton);
     EXPECT_FALSE(window.isVisible());
-    EXPECT_EQ(model.Chosen(), "");
+    EXPECT_EQ(model.Chosen(), std::nullopt);
 }
 
 class HelpKey : public GuiTest {
@@ -263,7 +263,7 @@ TEST_F(HelpKey, AsksForTheTabInFrontAlsoWhileACellIsEdited) {
 
 TEST_F(HelpKey, AMinimisedRecipeGetsTheHomePage) {
     NewRecipe().parentWidget()->showMinimized();
-    EXPECT_TRUE(window.RunCommand("mnuHelpAuto"));
+    EXPECT_TRUE(window.RunCommand(CommandId::HelpAuto));
     EXPECT_EQ(TakePage(), "home");
 }
 

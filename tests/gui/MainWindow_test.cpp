@@ -3,7 +3,6 @@
 #include "platform/qt/QtDialogs.h"
 #include "shell/AboutModel.h"
 #include "shell/ui/AboutDialog.h"
-#include "shell/ui/CommandTips.h"
 #include "shell/ui/DocumentArea.h"
 #include "shell/ui/Icons.h"
 #include "shell/ui/MainGeometry.h"
@@ -30,7 +29,7 @@ class MainWindow : public GuiTest {
 
 TEST_F(MainWindow, ShowsEveryCommandOfTheBar) {
     for (const MenuItem& item : shell.Bar().Items()) {
-        const QAction& action = Action(item.name.c_str());
+        const QAction& action = Action(std::string(item.name).c_str());
         EXPECT_EQ(action.isSeparator(), item.IsSeparator()) << item.name;
         EXPECT_EQ(action.isVisible(), item.visible) << item.name;
         EXPECT_EQ(action.isEnabled() && action.isVisible(), item.enabled && item.visible) << item.name;
@@ -43,7 +42,8 @@ TEST_F(MainWindow, ShowsEveryCommandOfTheBar) {
 TEST_F(MainWindow, EveryVisibleCommandHasASentenceForTheStatusBar) {
     for (const MenuItem& item : shell.Bar().Items()) {
         if (item.IsSeparator() || !item.visible) continue;
-        EXPECT_TRUE(CommandTip(item.name).endsWith(QLatin1Char('.'))) << item.name;
+        EXPECT_TRUE(Action(std::string(item.name).c_str()).statusTip().endsWith(QLatin1Char('.')))
+            << item.name;
     }
 }
 
@@ -108,16 +108,16 @@ TEST_F(MainWindow, TilesAcrossAndDown) {
     NewRecipe();
     auto* area = window.findChild<DocumentArea*>();
     const QSize all = area->viewport()->size();
-    ASSERT_TRUE(window.RunCommand("mnuWindowTileHorizontal"));
+    ASSERT_TRUE(window.RunCommand(CommandId::WindowTileHorizontal));
     for (const QMdiSubWindow* child : area->subWindowList()) EXPECT_EQ(child->width(), all.width());
-    ASSERT_TRUE(window.RunCommand("mnuWindowTileVertical"));
+    ASSERT_TRUE(window.RunCommand(CommandId::WindowTileVertical));
     for (const QMdiSubWindow* child : area->subWindowList()) EXPECT_EQ(child->height(), all.height());
 }
 
 TEST_F(MainWindow, CascadesEveryFrameWithinSight) {
     for (int i = 0; i < 8; ++i) NewRecipe();
     auto* area = window.findChild<DocumentArea*>();
-    ASSERT_TRUE(window.RunCommand("mnuWindowCascade"));
+    ASSERT_TRUE(window.RunCommand(CommandId::WindowCascade));
     for (const QMdiSubWindow* child : area->subWindowList())
         EXPECT_TRUE(area->viewport()->rect().contains(child->geometry())) << FromQt(child->windowTitle());
 }

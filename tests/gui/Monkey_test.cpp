@@ -69,8 +69,8 @@ class Monkey : public testing::Test {
     }
 
     void Act() {
-        if (shell_.Documents().empty()) window_.RunCommand("mnuFileNew");
-        if (shell_.Documents().size() > kMostDocuments) window_.RunCommand("mnuFileClose");
+        if (shell_.Documents().empty()) window_.RunCommand(CommandId::FileNew);
+        if (shell_.Documents().size() > kMostDocuments) window_.RunCommand(CommandId::FileClose);
         ComeBack();
         const int kind = Below(random_, 100);
         if (kind < 45)
@@ -146,7 +146,7 @@ class Monkey : public testing::Test {
     void Command() {
         const MenuItem& item = Any(random_, shell_.Bar().Items());
         const bool tooMany = item.name == "mnuFileNew" && shell_.Documents().size() >= kMostDocuments;
-        if (item.name != "mnuFileExit" && !tooMany) window_.RunCommand(std::string(item.name));
+        if (item.name != "mnuFileExit" && !tooMany) window_.RunCommand(item.id);
     }
     void Resize() {
         window_.showNormal();

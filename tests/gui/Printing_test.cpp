@@ -318,7 +318,7 @@ TEST_F(GuiTest, ControlShiftPShowsThePagesOfTheRecipeInFront) {
     NewRecipe();
     QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintPreview"}));
-    EXPECT_TRUE(window.RunCommand("mnuFilePrint"));
+    EXPECT_TRUE(window.RunCommand(CommandId::FilePrint));
     EXPECT_EQ(printer.log.front(), "new");
 }
 

@@ -17,13 +17,13 @@ class ScalingWindows : public GuiTest {
         for (const auto& [box, text] : {std::pair(&r.txtTotalVol, "5 gal"), std::pair(&r.txtBoilVol, "6 gal"),
                                         std::pair(&r.txtExtract, "40%"), std::pair(&r.txtTemp, "68 F")}) {
             document.Fields().SetText(*box, text);
-            document.Fields().CommitField(*box);
+            document.Fields().Fields().CommitField(*box);
         }
-        document.Cells().EditCell(r.gridGrain, 1, GrainCol::Amount, "10 lb");
-        document.Cells().EditCell(r.gridGrain, 1, GrainCol::Ppg, "36");
-        document.Cells().EditCell(r.gridHops, 1, HopCol::Amount, "20 IBU");
-        document.Cells().EditCell(r.gridHops, 1, HopCol::Time, "60");
-        document.Cells().EditCell(r.gridPriming, 1, PrimingCol::Fermentable, "100");
+        document.Cells().Cells().EditCell(r.gridGrain, 1, GrainCol::Amount, "10 lb");
+        document.Cells().Cells().EditCell(r.gridGrain, 1, GrainCol::Ppg, "36");
+        document.Cells().Cells().EditCell(r.gridHops, 1, HopCol::Amount, "20 IBU");
+        document.Cells().Cells().EditCell(r.gridHops, 1, HopCol::Time, "60");
+        document.Cells().Cells().EditCell(r.gridPriming, 1, PrimingCol::Fermentable, "100");
         shell.CurrentSettings().askBeforeNonUndoableChange = false;
     }
     RecipeRecord& R() { return shell.ActiveDocument()->Record(); }
@@ -64,7 +64,7 @@ TEST_F(ScalingWindows, ResizeIsWorkedByKeysAlone) {
         EXPECT_EQ(Focus(), "txtNewSize");
         Key(Qt::Key_Return);
     });
-    EXPECT_TRUE(window.RunCommand("mnuToolsResizeRecipe"));
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsResizeRecipe));
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmResizeRecipe"});
     EXPECT_EQ(Text("txtTotalVol"), "10 gal");
     EXPECT_EQ(Text("txtBoilVol"), "12 gal.");
@@ -75,7 +75,7 @@ TEST_F(ScalingWindows, ResizeIsWorkedByKeysAlone) {
 
 TEST_F(ScalingWindows, TheToolbarOpensAllOfThem) {
     for (const char* key : {"Volume", "Strength", "Bitterness", "Carbonation"})
-        EXPECT_TRUE(shell.PressButton(key));
+        EXPECT_TRUE(shell.PressButton(shell.Bar().FindButton(key)->id));
     EXPECT_EQ(outside.dialogs.shown,
               (Strings{"frmResizeRecipe", "frmChangeOG", "frmChangeIBU", "frmChangeCO2"}));
 }
@@ -89,7 +89,7 @@ TEST_F(ScalingWindows, OpenWithWhatIsBeingTyped) {
         EXPECT_EQ(In<QLabel>(dialog, "lblCurSize").text(), QStringLiteral("8 gal"));
         Key(Qt::Key_Escape);
     });
-    EXPECT_TRUE(window.RunCommand("mnuToolsResizeRecipe"));
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsResizeRecipe));
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmResizeRecipe"});
 }
 
@@ -98,7 +98,7 @@ TEST_F(ScalingWindows, DoNotOpenOverARefusedEntry) {
     box.setFocus();
     box.selectAll();
     Type("much");
-    window.RunCommand("mnuToolsChangeStrength");
+    window.RunCommand(CommandId::ToolsChangeStrength);
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Invalid Entry] Please enter a valid volume"});
     EXPECT_EQ(outside.dialogs.shown, Strings{});
 }
@@ -112,8 +112,8 @@ TEST_F(ScalingWindows, EscapeAndCancelChangeNothing) {
         Type("sweet");
         QTest::mouseClick(&In<QPushButton>(dialog, "CancelButton"), Qt::LeftButton);
     });
-    EXPECT_TRUE(window.RunCommand("mnuToolsChangeStrength"));
-    EXPECT_TRUE(window.RunCommand("mnuToolsChangeStrength"));
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsChangeStrength));
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsChangeStrength));
     EXPECT_EQ(outside.messages.TakeLog(), Strings{});
     EXPECT_EQ(Text("txtOG"), "1.029");
 }
@@ -141,7 +141,7 @@ TEST_F(ScalingWindows, ABadEntryGetsTheFocusBackWithTheLastGoodTextSelected) {
         Key(Qt::Key_Return);
         EXPECT_FALSE(dialog.isVisible());
     });
-    EXPECT_TRUE(window.RunCommand("mnuToolsChangeStrength"));
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsChangeStrength));
     // 10 lb * 40 / 28.8
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Amount), "13.89 lbs.");
 }
@@ -154,7 +154,7 @@ TEST_F(ScalingWindows, AnEmptyBoxJustGetsTheFocus) {
         EXPECT_EQ(Focus(), "txtNewIBU");
         EXPECT_TRUE(dialog.isVisible());
     });
-    EXPECT_TRUE(window.RunCommand("mnuToolsChangeBitterness"));
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsChangeBitterness));
     EXPECT_EQ(outside.messages.TakeLog(), Strings{});
     EXPECT_EQ(R().gridHops.Text(1, HopCol::Amount), "20 IBU");
 }
@@ -165,7 +165,7 @@ TEST_F(ScalingWindows, TheGridsShowWhatWasScaled) {
         Type("2.5 vols");
         Key(Qt::Key_Return);
     });
-    EXPECT_TRUE(window.RunCommand("mnuToolsChangeCO2"));
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsChangeCO2));
     auto& priming = Find<GridView>("gridPriming");
     // (2.5 - 0.8615) / 0.27027 * 0.133 * 5 = 4.03
     EXPECT_EQ(Shown(priming, 1, PrimingCol::Amount), "4.03 oz.");
@@ -179,7 +179,7 @@ TEST_F(ScalingWindows, AQuestionStandsBeforeIt) {
         Key(Qt::Key_Return);
     });
     outside.dialogs.scripts.push_back([](DialogModel& model) { model.Press("cmdNo"); });
-    EXPECT_TRUE(window.RunCommand("mnuToolsChangeBitterness"));
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsChangeBitterness));
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmChangeIBU", "frmCannotUndo"}));
     EXPECT_EQ(R().gridHops.Text(1, HopCol::Amount), "20 IBU");
 }
@@ -200,9 +200,9 @@ TEST_F(ScalingWindows, TheTreatmentIsAButtonAndOneUndo) {
     EXPECT_EQ(Shown(treatment, 1, TreatmentCol::Name), "Gypsum");
     EXPECT_EQ(Shown(treatment, 1, TreatmentCol::Amount), "5 grams");
     EXPECT_EQ(Shown(treatment, 1, TreatmentCol::FirstIon), "60");
-    EXPECT_TRUE(window.RunCommand("mnuEditUndo"));
+    EXPECT_TRUE(window.RunCommand(CommandId::EditUndo));
     EXPECT_EQ(treatment.Model().rowCount(), 0);
-    EXPECT_TRUE(window.RunCommand("mnuEditRedo"));
+    EXPECT_TRUE(window.RunCommand(CommandId::EditRedo));
     EXPECT_EQ(Shown(treatment, 1, TreatmentCol::Amount), "5 grams");
 }
 
@@ -210,16 +210,16 @@ TEST_F(ScalingWindows, TheTreatmentIsOffWithoutAVolume) {
     window.ActiveWindow()->ShowTab(Tab::Water);
     RecipeDocument& document = *shell.ActiveDocument();
     document.Fields().SetText(R().txtTotalVol, "");
-    document.Fields().CommitField(R().txtTotalVol);
+    document.Fields().Fields().CommitField(R().txtTotalVol);
     EXPECT_FALSE(Find<QPushButton>("cmdCalcTreatment").isEnabled());
 }
 
 TEST_F(ScalingWindows, AFaultOfTheTreatmentIsShown) {
     shell.DB()->Execute("INSERT INTO SALTS (NAME, CA) VALUES ('Weak', 1e-300)");
     RecipeDocument& document = *shell.ActiveDocument();
-    document.Cells().EditCell(R().gridWater, WaterRow::Target, WaterCol::FirstIon, "1");
+    document.Cells().Cells().EditCell(R().gridWater, WaterRow::Target, WaterCol::FirstIon, "1");
     document.Fields().SetText(R().txtTotalVol, "1" + std::string(20, '0'));
-    document.Fields().CommitField(R().txtTotalVol);
+    document.Fields().Fields().CommitField(R().txtTotalVol);
     window.ActiveWindow()->ShowTab(Tab::Water);
     Find<QPushButton>("cmdCalcTreatment").click();
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] Overflow (6)"});

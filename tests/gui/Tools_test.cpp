@@ -416,8 +416,9 @@ TEST_F(ColorWindow, TheMouseReadsThePictureAndStaysOnIt) {
 class ToolMenu : public GuiTest {};
 
 TEST_F(ToolMenu, OpensEveryTool) {
-    for (const char* item : {"mnuToolsUnits", "mnuToolsHydrometer", "mnuToolsColorScale", "mnuToolsHopUtil"})
-        EXPECT_TRUE(window.RunCommand(item)) << item;
+    for (const CommandId command : {CommandId::ToolsUnits, CommandId::ToolsHydrometer,
+                                    CommandId::ToolsColorScale, CommandId::ToolsHopUtil})
+        EXPECT_TRUE(window.RunCommand(command)) << RowOf(command).name;
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmConvertUnits", "frmHydrometer", "frmColor", "frmHopUtil"}));
 }
 

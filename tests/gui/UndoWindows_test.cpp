@@ -165,7 +165,7 @@ class UndoWindows : public GuiTest, public testing::WithParamInterface<unsigned>
 
     void Step(bool back) {
         const std::size_t before = Position();
-        ASSERT_TRUE(window.RunCommand(back ? "mnuEditUndo" : "mnuEditRedo"));
+        ASSERT_TRUE(window.RunCommand(back ? CommandId::EditUndo : CommandId::EditRedo));
         ASSERT_EQ(Position(), back ? before - 1 : before + 1);
         Compare();
     }

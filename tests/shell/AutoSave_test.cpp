@@ -300,7 +300,7 @@ TEST_F(AutoSaveTest, AnEntryThatCannotBeReadStaysAsItIsTyped) {
 TEST_F(AutoSaveTest, AnEmptiedBoxIsNotFilledUnderTheTypingHand) {
     RecipeDocument& stout = NewSaved("Stout");
     stout.Fields().SetText(stout.Record().txtTotalVol, "5 gal");
-    stout.Fields().CommitField(stout.Record().txtTotalVol);
+    stout.Fields().Fields().CommitField(stout.Record().txtTotalVol);
     TextBox& volume = stout.Record().txtFinalVol;
     stout.Fields().SetText(volume, "");
     Tick();
@@ -311,8 +311,8 @@ TEST_F(AutoSaveTest, ARefusedTemperatureIsNeverSaved) {
     RecipeDocument& stout = NewSaved("Stout");
     TextBox& temperature = stout.Record().txtTemp;
     stout.Fields().SetText(temperature, "38");
-    ASSERT_TRUE(stout.Fields().CommitField(temperature));
-    ASSERT_TRUE(stout.Cells().EditCell(stout.Record().gridPressure, 1, PressureCol::Pressure, "50 psi"));
+    ASSERT_TRUE(stout.Fields().Fields().CommitField(temperature));
+    ASSERT_TRUE(stout.Cells().Cells().EditCell(stout.Record().gridPressure, 1, PressureCol::Pressure, "50 psi"));
     std::string committedMeanwhile;
     MessageRecorder& boxes = outside.messages;
     boxes.whileShowing = [&] {
@@ -320,7 +320,7 @@ TEST_F(AutoSaveTest, ARefusedTemperatureIsNeverSaved) {
         Tick();
     };
     stout.Fields().SetText(temperature, "0");
-    EXPECT_FALSE(stout.Fields().CommitField(temperature));
+    EXPECT_FALSE(stout.Fields().Fields().CommitField(temperature));
     EXPECT_EQ(boxes.log.size(), 1u);
     EXPECT_EQ(committedMeanwhile, "38");
     EXPECT_EQ(shell.DB()->OpenRecordset("SELECT TEMPERATURE FROM RECIPES").Fields(0).Text(), "38");

@@ -105,7 +105,7 @@ TEST_F(Browsing, TheExplorerOpensRecipesAndStays) {
         EXPECT_TRUE(dialog.Press("mnuOpen"));
         EXPECT_TRUE(dialog.IsOpen());
     });
-    EXPECT_TRUE(shell.PressButton("Explorer"));
+    EXPECT_TRUE(shell.PressButton(CommandId::ToolsExplorer));
     EXPECT_EQ(Captions(), Strings{"Ale"});
 }
 

@@ -26,7 +26,7 @@ std::vector<ItemRow> ItemsOf(const CommandBar& bar, std::string_view menu) {
 TEST(CommandBar, TheTopLevelMenus) {
     Strings captions;
     const CommandBar bar;
-    for (const MenuItem& menu : bar.Menus()) captions.push_back(menu.name + " " + menu.caption);
+    for (const MenuItem& menu : bar.Menus()) captions.push_back(std::string(menu.name) + " " + menu.caption);
     EXPECT_EQ(captions, (Strings{"mnuFile &File", "mnuEdit &Edit", "mnuTools &Tools", "mnuWindow &Window",
                                  "mnuHelp &Help"}));
     EXPECT_EQ(bar.FindItem("mnuWindow")->caption, "&Window");
@@ -112,7 +112,7 @@ TEST(CommandBar, TheSeparatorsAndWhichOfThemStartHidden) {
     Strings hidden;
     const CommandBar bar;
     for (const MenuItem& item : bar.Items()) {
-        if (item.IsSeparator()) (item.visible ? visible : hidden).push_back(item.name);
+        if (item.IsSeparator()) (item.visible ? visible : hidden).emplace_back(item.name);
     }
     EXPECT_EQ(visible, (Strings{"mnuFileBar0", "mnuFileBar1", "mnuFileBar2", "mnuFileBar3", "mnuFileBar4",
                                 "mnuFileBar5", "mnuEditBar1", "mnuEditBar2", "mnuEditBar3", "mnuToolBar1",
@@ -179,14 +179,14 @@ TEST(CommandBar, AButtonStartsOffExactlyWhenItsMenuItemDoes) {
 
 TEST(CommandBar, AButtonWithATwinChangesItsImageAndTag) {
     CommandBar bar;
-    bar.SetButtonWithTwin("Save", true);
+    bar.SetButtonEnabled(CommandId::FileSave, true);
     EXPECT_TRUE(bar.FindButton("Save")->enabled);
     EXPECT_EQ(bar.FindButton("Save")->image, "Save");
     EXPECT_EQ(bar.FindButton("Save")->tag, "Save");
-    bar.SetButtonWithTwin("Save", false);
+    bar.SetButtonEnabled(CommandId::FileSave, false);
     EXPECT_EQ(bar.FindButton("Save")->image, "SaveTransparent");
     EXPECT_EQ(bar.FindButton("Save")->tag, "SaveTransparent");
-    bar.SetButtonEnabled("Open", false);
+    bar.SetButtonEnabled(CommandId::FileOpen, false);
     EXPECT_EQ(bar.FindButton("Open")->image, "Open");
 }
 
@@ -199,8 +199,8 @@ TEST(CommandBar, UnknownNamesAreNotFound) {
 
 class ChangeLog : public CommandObserver {
   public:
-    void MenuItemChanged(const MenuItem& item) override { log.push_back(item.name); }
-    void ToolButtonChanged(const ToolButton& button) override { log.push_back(button.key); }
+    void MenuItemChanged(const MenuItem& item) override { log.emplace_back(item.name); }
+    void ToolButtonChanged(const ToolButton& button) override { log.emplace_back(button.key); }
     Strings log;
 };
 
@@ -208,17 +208,17 @@ TEST(CommandBar, TheObserverHearsOfChangesAlone) {
     CommandBar bar;
     ChangeLog changes;
     bar.SetObserver(&changes);
-    bar.SetEnabled("mnuFileNew", true);
-    bar.SetVisible("mnuFileBar5", true);
-    bar.SetChecked("mnuEditAppendFlag", false);
-    bar.SetCaption("mnuFileNew", "&New");
-    bar.SetButtonEnabled("Save", false);
+    bar.SetEnabled(CommandId::FileNew, true);
+    bar.SetVisible(CommandId::FileBar5, true);
+    bar.SetChecked(CommandId::EditAppendFlag, false);
+    bar.SetCaption(CommandId::FileNew, "&New");
+    bar.SetButtonEnabled(CommandId::FileSave, false);
     EXPECT_EQ(changes.log, Strings{});
-    bar.SetEnabled("mnuFileNew", false);
-    bar.SetVisible("mnuFileBar5", false);
-    bar.SetChecked("mnuEditAppendFlag", true);
-    bar.SetCaption("mnuEditUndo", "&Undo x");
-    bar.SetButtonWithTwin("Save", true);
+    bar.SetEnabled(CommandId::FileNew, false);
+    bar.SetVisible(CommandId::FileBar5, false);
+    bar.SetChecked(CommandId::EditAppendFlag, true);
+    bar.SetCaption(CommandId::EditUndo, "&Undo x");
+    bar.SetButtonEnabled(CommandId::FileSave, true);
     EXPECT_EQ(changes.log,
               (Strings{"mnuFileNew", "mnuFileBar5", "mnuEditAppendFlag", "mnuEditUndo", "Save"}));
 }

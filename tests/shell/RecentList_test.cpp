@@ -39,7 +39,7 @@ TEST_F(RecentListTest, AnEmptyStoreShowsNothing) {
 }
 
 TEST_F(RecentListTest, TheFirstEntryShowsTheUpperSeparatorAlone) {
-    bar.SetVisible("mnuFileBar5", false);
+    bar.SetVisible(CommandId::FileBar5, false);
     list.Add("Pale Ale");
     EXPECT_EQ(list.Captions(), (Strings{"&1 Pale Ale"}));
     EXPECT_TRUE(Visible("mnuFileBar5"));
@@ -142,9 +142,9 @@ TEST_F(RecentListTest, RenamingKeepsThePosition) {
 }
 
 TEST_F(RecentListTest, SlotsHaveTheirItemNames) {
-    EXPECT_EQ(RecentList::ItemName(0), "mnuFileMRU(0)");
+    EXPECT_EQ(RowOf(RecentCommand(0)).name, "mnuFileMRU(0)");
     EXPECT_EQ(list.NameOf(-1), "");
-    EXPECT_EQ(list.NameOf(kMruCount), "");
+    EXPECT_EQ(list.NameOf(kRecentSlots), "");
 }
 
 }  // namespace

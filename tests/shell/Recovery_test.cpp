@@ -121,7 +121,7 @@ TEST_F(RecoveryTest, TheNextStartRestoresAllOfIt) {
     auto run = Start();
     RecipeDocument& stored = run->New("Stout", "stored");
     ASSERT_TRUE(run->shell.SaveRecipeUnder(stored, "Stout", 0, true));
-    stored.Cells().EditCell(stored.Record().gridGrain, 1, 0, "Pale Malt");
+    stored.Cells().Cells().EditCell(stored.Record().gridGrain, 1, 0, "Pale Malt");
     run->New("", "never saved");
     run->shell.KeepUnsavedWork();
     run.reset();

@@ -27,13 +27,13 @@ TEST_F(ShellTest, WhatIsOffHiddenOrUnknownDoesNothing) {
     EXPECT_FALSE(shell.RunMenu("mnuFileBar0"));
     EXPECT_FALSE(shell.RunMenu("mnuFile"));
     EXPECT_FALSE(shell.RunMenu("mnuNothing"));
-    EXPECT_FALSE(shell.PressButton("Save"));
-    EXPECT_FALSE(shell.PressButton("Nothing"));
+    EXPECT_FALSE(shell.PressButton(CommandId::FileSave));
+    EXPECT_FALSE(shell.PressButton(CommandId::FileClose));
     EXPECT_TRUE(shell.Documents().empty());
 }
 
 TEST_F(ShellTest, AButtonRunsTheActionOfItsItem) {
-    EXPECT_TRUE(shell.PressButton("New"));
+    EXPECT_TRUE(shell.PressButton(CommandId::FileNew));
     EXPECT_EQ(Captions(), Strings{"Untitled 1"});
 }
 
@@ -117,8 +117,8 @@ TEST_F(ShellTest, ThePreviewFollowsTheDocumentsAlone) {
 TEST_F(ShellTest, NothingIsTouchedWhileDeleteIsAsItShouldBe) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
     shell.CheckEnableDelete();
-    shell.Bar().SetEnabled("mnuFilePrint", false);
-    shell.Bar().SetEnabled("mnuFileOpen", false);
+    shell.Bar().SetEnabled(CommandId::FilePrint, false);
+    shell.Bar().SetEnabled(CommandId::FileOpen, false);
     shell.CheckEnableDelete();
     EXPECT_FALSE(bar().FindItem("mnuFilePrint")->enabled);
     EXPECT_FALSE(bar().FindItem("mnuFileOpen")->enabled);

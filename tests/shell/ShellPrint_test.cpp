@@ -71,9 +71,9 @@ TEST_F(ShellPrintTest, TheSecondDialogStartsOnTheSettingsOfTheFirst) {
 
 TEST_F(ShellPrintTest, TheButtonGoesStraightToThePrinterUnlessTheSettingSaysNo) {
     NewNamed("Porter");
-    EXPECT_TRUE(shell.PressButton("Print"));
+    EXPECT_TRUE(shell.PressButton(CommandId::FilePrint));
     shell.CurrentSettings().quickPrintFromToolbar = false;
-    EXPECT_TRUE(shell.PressButton("Print"));
+    EXPECT_TRUE(shell.PressButton(CommandId::FilePrint));
     EXPECT_EQ(printer.log,
               (Strings{"new quick", "hourglass", "pointer", "configured", "hourglass", "pointer"}));
 }
@@ -138,7 +138,7 @@ TEST_F(ShellPrintTest, WithoutAPrinterThePreviewAndAPdfFileAreOffered) {
     OnTheBoxPress("cmdPDF");
     files.answer = "/tmp/Porter.pdf";
     printer.log.clear();
-    EXPECT_TRUE(shell.PressButton("Print"));
+    EXPECT_TRUE(shell.PressButton(CommandId::FilePrint));
     EXPECT_EQ(printer.log, (Strings{"new quick", "hourglass", "pdf /tmp/Porter.pdf A4", "pointer"}));
     EXPECT_EQ(printer.printed.title, "Porter");
     EXPECT_TRUE(outside.messages.log.empty());

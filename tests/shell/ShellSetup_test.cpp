@@ -63,7 +63,7 @@ TEST_F(ShellSetup, AnAppliedStyleIsInTheListsAtOnce) {
         editor.Press("cmdApply");
         EXPECT_TRUE(Offers("Dry Stout"));
         EXPECT_FALSE(Offers("Stout"));
-        shell.ActiveDocument()->Style().ChangeStyle("Dry Stout");
+        shell.ActiveDocument()->Style().Style().ChangeStyle("Dry Stout");
         editor.SetControl("gridInfo(0,0)", "1.040");
         editor.Press("cmdApply");
         EXPECT_EQ(shell.ActiveDocument()->Record().lblOGStyle.Text(), ">= 1.040");
@@ -86,7 +86,7 @@ TEST_F(ShellSetup, TheDocumentsFollowWhenDatabaseSetupCloses) {
 TEST_F(ShellSetup, TheRangesBesideTheFiguresFollowTheStyleWithoutAChange) {
     shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID, IBU_LO) VALUES ('Stout', 0, 20)");
     RecipeDocument& document = shell.CreateDocumentWindow("");
-    ASSERT_TRUE(document.Style().ChangeStyle("Stout"));
+    ASSERT_TRUE(document.Style().Style().ChangeStyle("Stout"));
     bool saved = false;
     saved = document.Storage().SaveUnder("Mine", 0, Asking::Quietly);
     ASSERT_TRUE(saved);
@@ -105,7 +105,7 @@ TEST_F(ShellSetup, AnErrorInDatabaseSetupIsShownAndTheDocumentsFollow) {
         shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
         throw Error("Database", "The disk is full.", 13);
     });
-    EXPECT_TRUE(shell.PressButton("Setup"));
+    EXPECT_TRUE(shell.PressButton(CommandId::ToolsDataSetup));
     EXPECT_THAT(outside.messages.log, testing::ElementsAre("[Error] The disk is full. (13)"));
     EXPECT_TRUE(Offers("Stout"));
 }

@@ -193,19 +193,20 @@ TEST_F(NodeLists, AStyleWithoutRecipesIsNoFolder) {
 TEST(ListLook, TakesTheCommandsOfViewAndArrange) {
     ListLook look;
     EXPECT_EQ(look.viewType, ListViewType::List);
-    EXPECT_TRUE(TakeLookCommand(look, "mnuDetails"));
+    EXPECT_TRUE(TakeLookCommand(look, *FindListCommand("mnuDetails")));
     EXPECT_EQ(look.viewType, ListViewType::Details);
-    EXPECT_TRUE(TakeLookCommand(look, "mnuLargeIcons"));
+    EXPECT_TRUE(TakeLookCommand(look, *FindListCommand("mnuLargeIcons")));
     EXPECT_EQ(look.viewType, ListViewType::LargeIcons);
-    EXPECT_TRUE(TakeLookCommand(look, "mnuArrangeBy(2)"));
+    EXPECT_TRUE(TakeLookCommand(look, *FindListCommand("mnuArrangeBy(2)")));
     EXPECT_EQ(look.arrangeKey, 2);
     EXPECT_FALSE(look.descending);
-    EXPECT_TRUE(TakeLookCommand(look, "mnuArrangeBy(2)"));
+    EXPECT_TRUE(TakeLookCommand(look, *FindListCommand("mnuArrangeBy(2)")));
     EXPECT_TRUE(look.descending);
-    EXPECT_TRUE(TakeLookCommand(look, "mnuArrangeBy(3)"));
+    EXPECT_TRUE(TakeLookCommand(look, *FindListCommand("mnuArrangeBy(3)")));
     EXPECT_FALSE(look.descending);
     for (const char* command : {"mnuView", "mnuArrangeBy", "mnuArrangeBy(-1)", "mnuArrangeBy(15)", ""})
-        EXPECT_FALSE(TakeLookCommand(look, command)) << command;
+        EXPECT_EQ(FindListCommand(command), std::nullopt) << command;
+    EXPECT_FALSE(TakeLookCommand(look, PopupCommand::LineUp));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QWidget>
+#include <optional>
 #include <utility>
 
 #include "document/ui/GridView.h"
@@ -12,21 +13,21 @@
 namespace tw {
 namespace {
 
-// The edit command of a key; nullptr for any other key. Delete alone clears in grids and deletes as usual in
+// The edit command of a key; nothing for any other key. Delete alone clears in grids and deletes as usual in
 // texts.
-const char* EditCommandOf(const QKeyEvent& key) {
+std::optional<CommandId> EditCommandOf(const QKeyEvent& key) {
     const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
-    if (key.key() == Qt::Key_Insert && modifiers == Qt::ControlModifier) return "mnuEditCopy";
-    if (key.key() == Qt::Key_Insert && modifiers == Qt::ShiftModifier) return "mnuEditPaste";
-    if (key.key() == Qt::Key_Delete && modifiers == Qt::ShiftModifier) return "mnuEditCut";
+    if (key.key() == Qt::Key_Insert && modifiers == Qt::ControlModifier) return CommandId::EditCopy;
+    if (key.key() == Qt::Key_Insert && modifiers == Qt::ShiftModifier) return CommandId::EditPaste;
+    if (key.key() == Qt::Key_Delete && modifiers == Qt::ShiftModifier) return CommandId::EditCut;
     if (key.matches(QKeySequence::Redo) || (key.key() == Qt::Key_Y && modifiers == Qt::ControlModifier))
-        return "mnuEditRedo";
-    if (key.matches(QKeySequence::Undo)) return "mnuEditUndo";
-    if (key.matches(QKeySequence::Cut)) return "mnuEditCut";
-    if (key.matches(QKeySequence::Copy)) return "mnuEditCopy";
-    if (key.matches(QKeySequence::Paste)) return "mnuEditPaste";
-    if (key.matches(QKeySequence::SelectAll)) return "mnuEditSelectAll";
-    return nullptr;
+        return CommandId::EditRedo;
+    if (key.matches(QKeySequence::Undo)) return CommandId::EditUndo;
+    if (key.matches(QKeySequence::Cut)) return CommandId::EditCut;
+    if (key.matches(QKeySequence::Copy)) return CommandId::EditCopy;
+    if (key.matches(QKeySequence::Paste)) return CommandId::EditPaste;
+    if (key.matches(QKeySequence::SelectAll)) return CommandId::EditSelectAll;
+    return std::nullopt;
 }
 
 }  // namespace
@@ -78,9 +79,9 @@ bool DocumentBinding::HandleKey(const QKeyEvent& key) {
     switch (key.key()) {
         case Qt::Key_Plus:
         case Qt::Key_Equal:  // the plus key where plus needs Shift
-            return frame_.RunCommand("mnuEditInsert");
+            return frame_.RunCommand(CommandId::EditInsert);
         case Qt::Key_Minus:
-            return frame_.RunCommand("mnuEditDelete");
+            return frame_.RunCommand(CommandId::EditDelete);
         default:
             return false;
     }
@@ -88,16 +89,17 @@ bool DocumentBinding::HandleKey(const QKeyEvent& key) {
 
 bool DocumentBinding::HandleEditKey(const QKeyEvent& key) {
     if (HandleKey(key)) return true;
-    const char* command = EditCommandOf(key);
+    const std::optional<CommandId> command = EditCommandOf(key);
     if (!command) return false;
     // Used up also while the command is off: the widget must not do it by itself.
-    frame_.RunCommand(command);
+    frame_.RunCommand(*command);
     return true;
 }
 
 bool DocumentBinding::HandleListKey(const QKeyEvent& key) {
-    const std::string_view command = EditCommandOf(key) ? EditCommandOf(key) : "";
-    return command == "mnuEditUndo" || command == "mnuEditRedo" ? HandleEditKey(key) : HandleKey(key);
+    const std::optional<CommandId> command = EditCommandOf(key);
+    return command == CommandId::EditUndo || command == CommandId::EditRedo ? HandleEditKey(key)
+                                                                            : HandleKey(key);
 }
 
 void DocumentBinding::HoldRedraw(bool hold) {

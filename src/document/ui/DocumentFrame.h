@@ -2,8 +2,8 @@
 #pragma once
 
 #include <QPoint>
-#include <string_view>
 
+#include "commands/Commands.h"
 #include "platform/qt/CellColors.h"
 
 namespace tw {
@@ -16,9 +16,9 @@ struct GridColors {
 class DocumentFrame {
   public:
     virtual ~DocumentFrame() = default;
-    // Runs the action of a menu item by its control name. False when it is off: the key may then do what it
-    // does elsewhere.
-    virtual bool RunCommand(std::string_view menuItem) = 0;
+    // Runs a command of the main window. False when it is disabled: the key may then do what it does
+    // elsewhere.
+    virtual bool RunCommand(CommandId command) = 0;
     // Opens the edit menu as a popup.
     virtual void ShowEditMenu(const QPoint& globalPosition) = 0;
     virtual GridColors Colors() const = 0;

@@ -90,7 +90,7 @@ void FieldBox::changeEvent(QEvent* event) {
 
 bool FieldBox::Commit() {
     bool accepted = true;
-    binding_.Run([&](RecipeDocument& document) { accepted = document.Fields().CommitField(box_); });
+    binding_.Run([&](RecipeDocument& document) { accepted = document.Fields().Fields().CommitField(box_); });
     if (!accepted) selectAll();
     return accepted;
 }
@@ -120,14 +120,14 @@ void FieldBox::keyPressEvent(QKeyEvent* event) {
             if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier || !hasSelectedText() ||
                 isReadOnly())
                 break;
-            binding_.Frame().RunCommand("mnuEditClear");
+            binding_.Frame().RunCommand(CommandId::EditClear);
             return;
         case Qt::Key_Return:
         case Qt::Key_Enter:
             if (Commit()) selectAll();
             return;
         case Qt::Key_Escape:
-            binding_.Run([this](RecipeDocument& document) { document.Fields().RestoreField(box_); });
+            binding_.Run([this](RecipeDocument& document) { document.Fields().Fields().RestoreField(box_); });
             selectAll();
             return;
         default:

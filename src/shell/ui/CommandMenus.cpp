@@ -1,6 +1,7 @@
 #include "shell/ui/CommandMenus.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -9,34 +10,28 @@
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
-#include "shell/ui/CommandTips.h"
 #include "shell/ui/Icons.h"
 
 namespace tw {
 namespace {
 
-struct TopMenu {
-    const char* name;
-    const char* caption;
-};
-constexpr TopMenu kTopMenus[] = {{"mnuFile", "&File"},
-                                 {"mnuEdit", "&Edit"},
-                                 {"mnuTools", "&Tools"},
-                                 {"mnuWindow", "&Window"},
-                                 {"mnuHelp", "&Help"}};
-
 constexpr double kIconUnits = 3;
+
+// The sentence for the status bar.
+QString Tip(std::string_view sentence) {
+    return QCoreApplication::translate("CommandTips", std::string(sentence).c_str());
+}
 
 }  // namespace
 
-CommandMenus::CommandMenus(CommandBar& bar, QMainWindow& window, std::function<void(const QString&)> run,
-                           std::function<void(const QString&)> press)
+CommandMenus::CommandMenus(CommandBar& bar, QMainWindow& window, std::function<void(CommandId)> run,
+                           std::function<void(CommandId)> press)
     : QObject(&window), bar_(bar), run_(std::move(run)), press_(std::move(press)) {
-    for (const TopMenu& top : kTopMenus) {
-        QMenu* menu = window.menuBar()->addMenu(tr(top.caption));
-        menu->setObjectName(QLatin1String(top.name));
+    for (const TopMenuRow& top : AllTopMenus()) {
+        QMenu* menu = window.menuBar()->addMenu(tr(std::string(top.caption).c_str()));
+        menu->setObjectName(ToQt(top.name));
         menu->setToolTipsVisible(false);
-        menus_.insert(menu->objectName(), menu);
+        menus_[top.id] = menu;
     }
     window.menuBar()->setAccessibleName(tr("Menus"));
     for (const MenuItem& item : bar.Items()) AddItem(item, window);
@@ -58,55 +53,54 @@ CommandMenus::~CommandMenus() {
 }
 
 void CommandMenus::AddItem(const MenuItem& item, QMainWindow& window) {
-    const QString name = ToQt(item.name);
+    const CommandRow& row = RowOf(item.id);
     auto* action = new QAction(&window);
-    action->setObjectName(name);
+    action->setObjectName(ToQt(item.name));
     action->setSeparator(item.IsSeparator());
     action->setShortcut(QKeySequence(ToQt(item.shortcut)));
-    action->setStatusTip(CommandTip(item.name));
+    action->setStatusTip(Tip(row.tip));
     action->setMenuRole(QAction::NoRole);
     // The check mark is the command's, not the click's.
-    action->setCheckable(item.name == "mnuEditAppendFlag");
+    action->setCheckable(row.checkable);
     Show(*action, item);
-    connect(action, &QAction::triggered, this, [this, name, action] {
-        if (const MenuItem* known = bar_.FindItem(FromQt(name))) action->setChecked(known->checked);
-        run_(name);
+    connect(action, &QAction::triggered, this, [this, id = item.id, action] {
+        action->setChecked(bar_.Item(id).checked);
+        run_(id);
     });
-    items_.insert(name, action);
-    if (QMenu* menu = menus_.value(ToQt(item.menu))) menu->addAction(action);
+    items_[item.id] = action;
+    Menu(MenuOf(item.id))->addAction(action);
 }
 
 void CommandMenus::AddButton(const ToolButton& button, int& group) {
     if (button.group != group) toolBar_->addSeparator();
     group = button.group;
-    const QString key = ToQt(button.key);
     QAction* action = toolBar_->addAction(ToQt(button.toolTip));
-    action->setObjectName(QStringLiteral("tbToolBar(%1)").arg(key));
+    action->setObjectName(QStringLiteral("tbToolBar(%1)").arg(ToQt(button.key)));
     // A button that does not do quite what its menu item does has a sentence of its own, and not its key.
-    const QString ownTip = CommandTip(button.key);
-    const MenuItem* item = ownTip.isEmpty() ? bar_.FindItem(button.menuItem) : nullptr;
+    const CommandRow& row = RowOf(button.id);
+    const bool likeItem = row.button.tip.empty();
     const QString shortcut =
-        item ? QKeySequence(ToQt(item->shortcut)).toString(QKeySequence::NativeText) : QString();
+        likeItem ? QKeySequence(ToQt(row.keys)).toString(QKeySequence::NativeText) : QString();
     const QString tip = ToQt(button.toolTip);
     action->setToolTip(shortcut.isEmpty() ? tip : QStringLiteral("%1 (%2)").arg(tip, shortcut));
-    action->setStatusTip(ownTip.isEmpty() ? CommandTip(button.menuItem) : ownTip);
+    action->setStatusTip(Tip(likeItem ? row.tip : row.button.tip));
     if (QWidget* widget = toolBar_->widgetForAction(action)) {
         widget->setObjectName(action->objectName());
         widget->setAccessibleName(tip);
         widget->setAccessibleDescription(action->statusTip());
     }
-    connect(action, &QAction::triggered, this, [this, key] { press_(key); });
-    buttons_.insert(key, action);
+    connect(action, &QAction::triggered, this, [this, id = button.id] { press_(id); });
+    buttons_[button.id] = action;
     Show(*action, button);
 }
 
 void CommandMenus::SetIconStyle(int iconStyle) {
     for (const ToolButton& button : bar_.Buttons())
-        if (!button.tag.empty()) buttons_.value(ToQt(button.key))->setIcon(ToolIcon(button.tag, iconStyle));
+        if (!button.tag.empty()) buttons_.at(button.id)->setIcon(ToolIcon(button.tag, iconStyle));
 }
 
 void CommandMenus::SetFlat(bool flat) {
-    for (QAction* action : std::as_const(buttons_))
+    for (const auto& [id, action] : buttons_)
         if (auto* button = qobject_cast<QToolButton*>(toolBar_->widgetForAction(action)))
             button->setAutoRaise(flat);
 }
@@ -123,11 +117,11 @@ void CommandMenus::Show(QAction& action, const ToolButton& button) {
 }
 
 void CommandMenus::MenuItemChanged(const MenuItem& item) {
-    if (QAction* action = items_.value(ToQt(item.name))) Show(*action, item);
+    Show(*items_.at(item.id), item);
 }
 
 void CommandMenus::ToolButtonChanged(const ToolButton& button) {
-    if (QAction* action = buttons_.value(ToQt(button.key))) Show(*action, button);
+    Show(*buttons_.at(button.id), button);
 }
 
 }  // namespace tw

@@ -2,9 +2,9 @@
 // states.
 #pragma once
 
-#include <QHash>
 #include <QObject>
 #include <functional>
+#include <map>
 
 #include "shell/CommandBar.h"
 
@@ -18,14 +18,12 @@ namespace tw {
 class CommandMenus final : public QObject, public CommandObserver {
     Q_OBJECT
   public:
-    // run is called with a menu item's or (press) a button's name when it is chosen. bar must outlive this
-    // object.
-    CommandMenus(CommandBar& bar, QMainWindow& window, std::function<void(const QString&)> run,
-                 std::function<void(const QString&)> press);
+    // run is called when a menu item is chosen, press when a button is. bar must outlive this object.
+    CommandMenus(CommandBar& bar, QMainWindow& window, std::function<void(CommandId)> run,
+                 std::function<void(CommandId)> press);
     ~CommandMenus() override;
 
-    // "mnuFile", "mnuEdit", "mnuTools", "mnuWindow", "mnuHelp".
-    QMenu* Menu(const QString& name) const { return menus_.value(name); }
+    QMenu* Menu(TopMenu menu) const { return menus_.at(menu); }
     QToolBar* ToolBar() const { return toolBar_; }
     // Shows the buttons in the icon set of that style.
     void SetIconStyle(int iconStyle);
@@ -42,11 +40,11 @@ class CommandMenus final : public QObject, public CommandObserver {
     void Show(QAction& action, const ToolButton& button);
 
     CommandBar& bar_;
-    std::function<void(const QString&)> run_;
-    std::function<void(const QString&)> press_;
-    QHash<QString, QMenu*> menus_;
-    QHash<QString, QAction*> items_;
-    QHash<QString, QAction*> buttons_;
+    std::function<void(CommandId)> run_;
+    std::function<void(CommandId)> press_;
+    std::map<TopMenu, QMenu*> menus_;
+    std::map<CommandId, QAction*> items_;
+    std::map<CommandId, QAction*> buttons_;
     QToolBar* toolBar_;
 };
 

@@ -130,15 +130,17 @@ void OpenSaveDialog::MakeList() {
                         model_.Drop(keys, target);
                         ShowState();
                     }});
-    AddKey(*list_, QKeySequence(Qt::Key_F2), "mnuRename");
-    AddKey(*list_, QKeySequence(Qt::Key_Insert), "mnuNewFolder");
+    AddKey(*list_, QKeySequence(Qt::Key_F2), NameOf(PopupCommand::Rename));
+    AddKey(*list_, QKeySequence(Qt::Key_Insert), NameOf(PopupCommand::NewFolder));
     AddKey(*list_, QKeySequence(Qt::Key_Backspace), "cmdUp");
     connect(list_, &NodeListPane::ChosenChanged, this, [this] {
         model_.RowChosen();
         ShowState();
     });
     connect(list_, &NodeListPane::RowActivated, this, &OpenSaveDialog::OpenRow);
-    connect(list_, &NodeListPane::SortAsked, this, [this](int column) { Press(ArrangeCommand(column)); });
+    connect(list_, &NodeListPane::SortAsked, this, [this](int column) {
+        Run({PopupCommand::ArrangeBy, column});
+    });
     connect(list_, &NodeListPane::MenuAsked, this, &OpenSaveDialog::ShowPopup);
     connect(list_, &NodeListPane::EditEnded, this, [this] {
         model_.List().CancelEdit();
@@ -196,6 +198,11 @@ void OpenSaveDialog::Press(const std::string& command) {
     name_->selectAll();
 }
 
+void OpenSaveDialog::Run(PopupChoice choice) {
+    model_.Run(choice);
+    ShowState();
+}
+
 void OpenSaveDialog::OpenRow() {
     model_.OpenRow();
     ShowState();
@@ -228,12 +235,13 @@ void OpenSaveDialog::ShowState() {
 void OpenSaveDialog::ShowPopup(const QPoint& place) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->setObjectName(QStringLiteral("mnuPopup"));
-    const RunCommand run = [this](const std::string& command) { Press(command); };
-    AddLookMenus(*menu, model_.Look(), model_.List().Rows(), model_.IsEnabled("mnuLineUp"), run);
+    menu->setObjectName(QLatin1String(kOpenSavePopup));
+    const RunPopup run = [this](PopupChoice choice) { Run(choice); };
+    AddLookMenus(*menu, model_.Look(), model_.List().Rows(), model_.IsEnabled(PopupCommand::LineUp), run);
     menu->addSeparator();
-    AddCommand(*menu, "mnuNewFolder", tr("&New Folder"), model_.IsEnabled("mnuNewFolder"), run);
-    AddCommand(*menu, "mnuRename", tr("&Rename"), model_.IsEnabled("mnuRename"), run);
+    AddCommand(*menu, PopupCommand::NewFolder, tr("&New Folder"), model_.IsEnabled(PopupCommand::NewFolder),
+               run);
+    AddCommand(*menu, PopupCommand::Rename, model_.IsEnabled(PopupCommand::Rename), run);
     menu->popup(place);
 }
 

@@ -36,6 +36,7 @@ class OpenSaveDialog final : public QDialog {
     void AddButton(QBoxLayout& row, const char* name, const char* icon, const QString& tip);
     void AddKey(QWidget& widget, const QKeySequence& key, const std::string& command);
     void Press(const std::string& command);
+    void Run(PopupChoice choice);
     void OpenRow();
     // The window as the model is now; closes when it is done.
     void ShowState();

@@ -9,6 +9,7 @@
 #include <QRadioButton>
 #include <QTabWidget>
 
+#include "commands/PopupCommands.h"
 #include "document/ui/FancyLabel.h"
 #include "document/ui/PageBuilder.h"
 #include "platform/qt/Appearance.h"
@@ -138,9 +139,9 @@ void frmOptions::BuildAppearancePage() {
     column->addWidget(ColorGroup(page));
     column->addStretch();
     colorMenu_ = new QMenu(this);
-    QAction* reset = colorMenu_->addAction(tr("&Reset"));
-    reset->setObjectName(QStringLiteral("mnuResetColors"));
-    connect(reset, &QAction::triggered, this, [this] { Press("mnuResetColors"); });
+    QAction* reset = colorMenu_->addAction(tr(RowOf(PopupCommand::ResetColors).caption));
+    reset->setObjectName(ToQt(RowOf(PopupCommand::ResetColors).name));
+    connect(reset, &QAction::triggered, this, [this] { Press(NameOf(PopupCommand::ResetColors).c_str()); });
 }
 
 void frmOptions::AddIconChoices(QWidget* page, QBoxLayout& column) {

@@ -32,14 +32,6 @@ constexpr int kStateNormal = 0;
 constexpr int kKeepMilliseconds = 3000;
 constexpr int kNewsMilliseconds = 10000;
 
-// Commands that look at what is being typed, or leave it: it is committed first, and a refused entry calls
-// them off.
-bool IsFlushing(std::string_view command) {
-    for (const std::string_view group : {"mnuFile", "mnuTools", "mnuWindow"})
-        if (command.starts_with(group)) return true;
-    return command == "mnuEditInsert" || command == "mnuEditDelete";
-}
-
 }  // namespace
 
 frmMain::frmMain(Shell& shell, Platform& platform)
@@ -55,8 +47,8 @@ frmMain::frmMain(Shell& shell, Platform& platform)
     setWindowIcon(ProgramIcon());
     setAccessibleName(windowTitle());
     menus_ = new CommandMenus(
-        shell.Bar(), *this, [this](const QString& name) { RunCommand(FromQt(name)); },
-        [this](const QString& key) { PressButton(key); });
+        shell.Bar(), *this, [this](CommandId command) { RunCommand(command); },
+        [this](CommandId command) { PressButton(command); });
     setCentralWidget(area_);
     statusBar()->setObjectName(QStringLiteral("sbStatusBar"));
     statusBar()->setAccessibleName(tr("Status"));
@@ -88,7 +80,7 @@ frmMain::frmMain(Shell& shell, Platform& platform)
         RecipeDocument& document = *frame->Document().Document();
         if (shell_.ActiveDocument() != &document) shell_.Guard([&] { shell_.Activate(document); });
     });
-    connect(menus_->Menu(QStringLiteral("mnuWindow")), &QMenu::aboutToShow, this, &frmMain::FillWindowMenu);
+    connect(menus_->Menu(TopMenu::Window), &QMenu::aboutToShow, this, &frmMain::FillWindowMenu);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
             [this] { shell_.ReapplyPasteState(); });
 }
@@ -122,8 +114,7 @@ bool frmMain::StartUp(const std::string& databasePath, const std::string& file) 
 }
 
 void frmMain::ShowWelcome() {
-    const MenuItem* open = shell_.Bar().FindItem("mnuFileOpen");
-    area_->SetWelcome(open && open->enabled
+    area_->SetWelcome(shell_.Bar().Item(CommandId::FileOpen).enabled
                           ? tr("No recipe is open. Ctrl+N starts a new one, Ctrl+O opens one.")
                           : tr("No recipe is here yet. Ctrl+N starts your first one."));
 }
@@ -283,41 +274,38 @@ void frmMain::GridColorsChanged(const RecipeDocument& document) {
     if (DocumentSubWindow* window = WindowOf(document)) window->Document().GridColorsChanged();
 }
 
-bool frmMain::FlushBefore(std::string_view name) {
+bool frmMain::FlushBefore(CommandId command) {
     frmDocument* window = ActiveWindow();
-    if (!window || !IsFlushing(name)) return true;
+    if (!window || !RowOf(command).commitsEntry) return true;
     return window->Flush();
 }
 
-bool frmMain::RunCommand(std::string_view name) {
-    const MenuItem* item = shell_.Bar().FindItem(name);
-    if (!item || !item->enabled || !item->visible) return false;
+bool frmMain::RunCommand(CommandId command) {
+    const MenuItem& item = shell_.Bar().Item(command);
+    if (!item.enabled || !item.visible) return false;
     // A refused entry has had its message; the key or click is used up.
-    if (!FlushBefore(name)) return true;
-    // name may be the item's own text, which the command can change.
-    const std::string command(name);
+    if (!FlushBefore(command)) return true;
     bool ran = false;
-    shell_.Guard([&] { ran = shell_.RunMenu(command); });
+    shell_.Guard([&] { ran = shell_.RunCommand(command); });
     FocusAfter(command);
     return ran;
 }
 
-void frmMain::PressButton(const QString& key) {
-    const ToolButton* button = shell_.Bar().FindButton(FromQt(key));
-    if (!button || !button->enabled || !FlushBefore(button->menuItem)) return;
-    const std::string command = button->menuItem;
-    shell_.Guard([&] { shell_.PressButton(FromQt(key)); });
+void frmMain::PressButton(CommandId command) {
+    const ToolButton* button = shell_.Bar().ButtonOf(command);
+    if (!button || !button->enabled || !FlushBefore(command)) return;
+    shell_.Guard([&] { shell_.PressButton(command); });
     FocusAfter(command);
 }
 
 // A new row is there to be typed into.
-void frmMain::FocusAfter(std::string_view command) {
+void frmMain::FocusAfter(CommandId command) {
     frmDocument* window = ActiveWindow();
-    if (window && command == "mnuEditInsert") window->FocusRow();
+    if (window && command == CommandId::EditInsert) window->FocusRow();
 }
 
 void frmMain::ShowEditMenu(const QPoint& globalPosition) {
-    menus_->Menu(QStringLiteral("mnuEdit"))->popup(globalPosition);
+    menus_->Menu(TopMenu::Edit)->popup(globalPosition);
 }
 
 GridColors frmMain::Colors() const {
@@ -327,7 +315,7 @@ GridColors frmMain::Colors() const {
 }
 
 void frmMain::FillWindowMenu() {
-    QMenu& menu = *menus_->Menu(QStringLiteral("mnuWindow"));
+    QMenu& menu = *menus_->Menu(TopMenu::Window);
     for (QAction* action : menu.actions())
         if (action->property("openRecipe").toBool()) delete action;
     int number = 0;
@@ -348,7 +336,7 @@ void frmMain::FillWindowMenu() {
 void frmMain::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (!exitGranted_) {
-        if (!FlushBefore("mnuFileExit")) return;
+        if (!FlushBefore(CommandId::FileExit)) return;
         shell_.Guard([this] { exitGranted_ = shell_.RequestExit(); });
         if (!exitGranted_) return;
     }

@@ -32,7 +32,7 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
     frmDocument* ActiveWindow() const;
 
     // DocumentFrame
-    bool RunCommand(std::string_view name) override;
+    bool RunCommand(CommandId command) override;
     void ShowEditMenu(const QPoint& globalPosition) override;
     GridColors Colors() const override;
 
@@ -62,11 +62,11 @@ class frmMain final : public QMainWindow, private ShellView, private DocumentFra
 
     void ShowWelcome();
     void PlaceSubWindow(DocumentSubWindow& window);
-    void PressButton(const QString& key);
+    void PressButton(CommandId command);
     // Commits what is being edited before a command that needs it. False when an entry was refused.
-    bool FlushBefore(std::string_view name);
+    bool FlushBefore(CommandId command);
     // The focus that a command asks for once it has run.
-    void FocusAfter(std::string_view command);
+    void FocusAfter(CommandId command);
     void FillWindowMenu();
     void TickDDE();
     DocumentSubWindow* WindowOf(const RecipeDocument& document) const;

@@ -10,15 +10,16 @@ class QMenu;
 
 namespace tw {
 
-using RunCommand = std::function<void(const std::string& command)>;
+using RunPopup = std::function<void(PopupChoice choice)>;
 
-// An item of that name; run is given the name.
-void AddCommand(QMenu& menu, const char* name, const QString& caption, bool enabled, const RunCommand& run);
-// mnuView, mnuArrange and mnuLineUp.
+// The item of a command, with the caption of its row, or with another one.
+void AddCommand(QMenu& menu, PopupCommand command, bool enabled, const RunPopup& run);
+void AddCommand(QMenu& menu, PopupCommand command, const QString& caption, bool enabled, const RunPopup& run);
+// The sub-menus "View" and "Arrange", and LineUp.
 void AddLookMenus(QMenu& menu, const ListLook& look, const ListTable& list, bool lineUpEnabled,
-                  const RunCommand& run);
+                  const RunPopup& run);
 // The contents of the two sub-menus.
-void AddViews(QMenu& menu, const ListLook& look, const RunCommand& run);
-void AddArrangements(QMenu& menu, const ListLook& look, const ListTable& list, const RunCommand& run);
+void AddViews(QMenu& menu, const ListLook& look, const RunPopup& run);
+void AddArrangements(QMenu& menu, const ListLook& look, const ListTable& list, const RunPopup& run);
 
 }  // namespace tw

@@ -128,13 +128,12 @@ void RecipeChooserView::AddChosen() {
 
 void RecipeChooserView::ShowPopup(const QPoint& place) {
     QMenu menu(this);
-    const auto add = [&](const char* name, const QString& caption) {
-        QAction* action = menu.addAction(caption, this, [this, name] { chooser_.Press(name); });
-        action->setObjectName(QLatin1String(name));
-        action->setEnabled(chooser_.IsEnabled(name));
-    };
-    add("mnuPopupSortAsc", tr("Sort &Ascending"));
-    add("mnuPopupSortDesc", tr("Sort &Descending"));
+    for (const PopupCommand sorting : {PopupCommand::SortAscending, PopupCommand::SortDescending}) {
+        QAction* action =
+            menu.addAction(tr(RowOf(sorting).caption), this, [this, sorting] { chooser_.Run(sorting); });
+        action->setObjectName(ToQt(RowOf(sorting).name));
+        action->setEnabled(chooser_.IsEnabled(sorting));
+    }
     menu.exec(list_->viewport()->mapToGlobal(place));
 }
 

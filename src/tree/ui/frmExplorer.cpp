@@ -44,7 +44,7 @@ frmExplorer::frmExplorer(ExplorerModel& model, QWidget* parent)
     for (const Page page : {Page::Recipes, Page::Styles}) MakePage(page);
     column->addWidget(stack_, 1);
     column->addLayout(MakeBottomRow());
-    AddKey(*this, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N), "mnuNewFolder");
+    AddKey(*this, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N), PopupCommand::NewFolder);
     resize(Unit(*this) * kWidthUnits, Unit(*this) * kHeightUnits);
     ShowState();
     Shown().tree->setFocus();
@@ -96,17 +96,17 @@ QLayout* frmExplorer::MakeCommandRow() {
         buttons_[name] = button;
     };
     add("cmdOpen", tr("&Open"), tr("Opens the chosen recipe, style or folder (Enter)"),
-        [this] { Press("mnuOpen"); });
+        [this] { Run(PopupCommand::Open); });
     add("cmdNewFolder", tr("New &Folder"), tr("Makes a folder in the chosen one (Ctrl+Shift+N)"),
-        [this] { Press("mnuNewFolder"); });
+        [this] { Run(PopupCommand::NewFolder); });
     add("cmdNewStyle", tr("New St&yle"), tr("Makes a style in the chosen folder"),
-        [this] { Press("mnuNewStyle"); });
+        [this] { Run(PopupCommand::NewStyle); });
     add("cmdRename", tr("&Rename"), tr("Gives what is chosen another name (F2)"),
-        [this] { DeleteOrRename("mnuRename", "mnuRenameFolder"); });
+        [this] { DeleteOrRename(PopupCommand::Rename, PopupCommand::RenameFolder); });
     add("cmdDelete", tr("&Delete"), tr("Deletes what is chosen, after a question (Delete)"),
-        [this] { DeleteOrRename("mnuDelete", "mnuDeleteFolder"); });
+        [this] { DeleteOrRename(PopupCommand::Delete, PopupCommand::DeleteFolder); });
     row->addStretch();
-    const RunCommand run = [this](const std::string& command) { Press(command); };
+    const RunPopup run = [this](PopupChoice choice) { Run(choice); };
     const auto addMenu = [&](const char* name, const QString& caption, const QString& tip, auto fill) {
         auto* button = new QPushButton(caption, this);
         button->setObjectName(QLatin1String(name));
@@ -138,7 +138,10 @@ QLayout* frmExplorer::MakeBottomRow() {
     auto* close = new QPushButton(tr("&Close"), this);
     close->setObjectName(QStringLiteral("cmdClose"));
     close->setAutoDefault(false);
-    connect(close, &QPushButton::clicked, this, [this] { Press("cmdClose"); });
+    connect(close, &QPushButton::clicked, this, [this] {
+        model_.CloseBox();
+        ShowState();
+    });
     row->addWidget(close);
     return row;
 }
@@ -186,9 +189,9 @@ void frmExplorer::ConnectTree(Page page, PageWidgets& widgets) {
     connect(tree.itemDelegate(), &QAbstractItemDelegate::closeEditor, this, &frmExplorer::EndEdit);
     connect(&tree, &QWidget::customContextMenuRequested, this,
             [this, &tree](const QPoint& place) { ShowTreePopup(tree.viewport()->mapToGlobal(place)); });
-    AddKey(tree, QKeySequence(Qt::Key_F2), "mnuRenameFolder");
-    AddKey(tree, QKeySequence(Qt::Key_Delete), "mnuDeleteFolder");
-    AddKey(tree, QKeySequence(Qt::Key_Insert), "mnuNewFolder");
+    AddKey(tree, QKeySequence(Qt::Key_F2), PopupCommand::RenameFolder);
+    AddKey(tree, QKeySequence(Qt::Key_Delete), PopupCommand::DeleteFolder);
+    AddKey(tree, QKeySequence(Qt::Key_Insert), PopupCommand::NewFolder);
 }
 
 // A name that is still being edited is taken over as its editor goes, which needs this window.
@@ -200,25 +203,27 @@ void frmExplorer::ConnectList(PageWidgets& widgets) {
     NodeListPane* list = widgets.list;
     list->SetRename([this](const QString& name) { return model_.RenameRow(FromQt(name)); });
     connect(list, &NodeListPane::EditEnded, this, &frmExplorer::EndEdit);
-    connect(list, &NodeListPane::RowActivated, this, [this] { Press("mnuOpen"); });
+    connect(list, &NodeListPane::RowActivated, this, [this] { Run(PopupCommand::Open); });
     connect(list, &NodeListPane::ChosenChanged, this, [this] {
         model_.RowChosen();
         ShowState();
     });
-    connect(list, &NodeListPane::SortAsked, this, [this](int column) { Press(ArrangeCommand(column)); });
+    connect(list, &NodeListPane::SortAsked, this, [this](int column) {
+        Run({PopupCommand::ArrangeBy, column});
+    });
     connect(list, &NodeListPane::MenuAsked, this, &frmExplorer::ShowListPopup);
-    AddKey(*list, QKeySequence(Qt::Key_F2), "mnuRename");
-    AddKey(*list, QKeySequence(Qt::Key_Delete), "mnuDelete");
-    AddKey(*list, QKeySequence(Qt::Key_Insert), "mnuNewFolder");
+    AddKey(*list, QKeySequence(Qt::Key_F2), PopupCommand::Rename);
+    AddKey(*list, QKeySequence(Qt::Key_Delete), PopupCommand::Delete);
+    AddKey(*list, QKeySequence(Qt::Key_Insert), PopupCommand::NewFolder);
 }
 
 // A key that works while no name is being typed in place.
-void frmExplorer::AddKey(QWidget& widget, const QKeySequence& key, const std::string& command) {
+void frmExplorer::AddKey(QWidget& widget, const QKeySequence& key, PopupCommand command) {
     auto* shortcut = new QShortcut(key, &widget);
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
     connect(shortcut, &QShortcut::activated, this, [this, command] {
         const auto* editor = qobject_cast<const QLineEdit*>(focusWidget());
-        if (!editor || editor == find_) Press(command);
+        if (!editor || editor == find_) Run(command);
     });
 }
 
@@ -228,9 +233,9 @@ void frmExplorer::ShowPage(Page page) {
     ShowState();
 }
 
-void frmExplorer::Press(const std::string& command) {
+void frmExplorer::Run(PopupChoice choice) {
     try {
-        model_.Press(command);
+        model_.Run(choice);
     } catch (...) {
         // A deletion that failed half way has changed what is shown; its error goes on to the program.
         ShowState();
@@ -246,8 +251,8 @@ bool frmExplorer::AboutRows() {
     return list.IsFinding() || !list.Rows().Chosen().empty();
 }
 
-void frmExplorer::DeleteOrRename(const std::string& listCommand, const std::string& treeCommand) {
-    Press(AboutRows() ? listCommand : treeCommand);
+void frmExplorer::DeleteOrRename(PopupCommand listCommand, PopupCommand treeCommand) {
+    Run(AboutRows() ? listCommand : treeCommand);
 }
 
 void frmExplorer::EndEdit() {
@@ -284,12 +289,14 @@ void frmExplorer::ShowState() {
     // Choosing a folder ends a search.
     if (!model_.List(Page::Recipes).IsFinding() && !find_->text().trimmed().isEmpty()) find_->clear();
     for (PageWidgets& widgets : pages_) widgets.list->SetView(model_.Look().viewType);
-    buttons_["cmdOpen"]->setEnabled(model_.IsEnabled("mnuOpen"));
-    buttons_["cmdNewFolder"]->setEnabled(model_.IsEnabled("mnuNewFolder"));
+    buttons_["cmdOpen"]->setEnabled(model_.IsEnabled(PopupCommand::Open));
+    buttons_["cmdNewFolder"]->setEnabled(model_.IsEnabled(PopupCommand::NewFolder));
     buttons_["cmdNewStyle"]->setVisible(page == Page::Styles);
-    buttons_["cmdNewStyle"]->setEnabled(model_.IsEnabled("mnuNewStyle"));
-    buttons_["cmdRename"]->setEnabled(model_.IsEnabled(rows ? "mnuRename" : "mnuRenameFolder"));
-    buttons_["cmdDelete"]->setEnabled(model_.IsEnabled(rows ? "mnuDelete" : "mnuDeleteFolder"));
+    buttons_["cmdNewStyle"]->setEnabled(model_.IsEnabled(PopupCommand::NewStyle));
+    buttons_["cmdRename"]->setEnabled(
+        model_.IsEnabled(rows ? PopupCommand::Rename : PopupCommand::RenameFolder));
+    buttons_["cmdDelete"]->setEnabled(
+        model_.IsEnabled(rows ? PopupCommand::Delete : PopupCommand::DeleteFolder));
     status_->setText(ToQt(model_.Status()));
     Shown().list->ShowState();
     if (model_.EditedNode() != TreeItems::kNone) Shown().tree->EditSelected();
@@ -299,35 +306,35 @@ void frmExplorer::ShowState() {
 void frmExplorer::ShowListPopup(const QPoint& place) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->setObjectName(QStringLiteral("mnuPopupList"));
-    const RunCommand run = [this](const std::string& command) { Press(command); };
-    const auto add = [&](const char* name, const QString& caption) {
-        AddCommand(*menu, name, caption, model_.IsEnabled(name), run);
+    menu->setObjectName(QLatin1String(kListPopup));
+    const RunPopup run = [this](PopupChoice choice) { Run(choice); };
+    const auto add = [&](PopupCommand command) {
+        AddCommand(*menu, command, model_.IsEnabled(command), run);
     };
-    add("mnuOpen", tr("&Open"));
-    add("mnuDelete", tr("&Delete"));
-    add("mnuRename", tr("&Rename"));
+    add(PopupCommand::Open);
+    add(PopupCommand::Delete);
+    add(PopupCommand::Rename);
     menu->addSeparator();
-    add("mnuNewFolder", tr("New &Folder"));
-    add("mnuNewStyle", tr("New &Style"));
+    add(PopupCommand::NewFolder);
+    add(PopupCommand::NewStyle);
     menu->addSeparator();
-    AddLookMenus(*menu, model_.Look(), model_.List(model_.Shown()).Rows(), model_.IsEnabled("mnuLineUp"),
-                 run);
+    AddLookMenus(*menu, model_.Look(), model_.List(model_.Shown()).Rows(),
+                 model_.IsEnabled(PopupCommand::LineUp), run);
     menu->popup(place);
 }
 
 void frmExplorer::ShowTreePopup(const QPoint& place) {
     auto* menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->setObjectName(QStringLiteral("mnuPopupTree"));
-    const RunCommand run = [this](const std::string& command) { Press(command); };
-    const auto add = [&](const char* name, const QString& caption) {
-        AddCommand(*menu, name, caption, model_.IsEnabled(name), run);
+    menu->setObjectName(QLatin1String(kTreePopup));
+    const RunPopup run = [this](PopupChoice choice) { Run(choice); };
+    const auto add = [&](PopupCommand command) {
+        AddCommand(*menu, command, model_.IsEnabled(command), run);
     };
-    add("mnuRenameFolder", tr("&Rename"));
-    add("mnuDeleteFolder", tr("&Delete"));
+    add(PopupCommand::RenameFolder);
+    add(PopupCommand::DeleteFolder);
     menu->addSeparator();
-    add("mnuNewFolder", tr("New &Folder"));
+    add(PopupCommand::NewFolder);
     menu->popup(place);
 }
 

@@ -50,13 +50,13 @@ class frmExplorer final : public QDialog {
     void ConnectTree(Page page, PageWidgets& widgets);
     void ConnectList(PageWidgets& widgets);
     QRadioButton* AddOption(QBoxLayout& row, const char* name, const QString& caption, Page page);
-    void AddKey(QWidget& widget, const QKeySequence& key, const std::string& command);
+    void AddKey(QWidget& widget, const QKeySequence& key, PopupCommand command);
     PageWidgets& Shown() { return pages_[static_cast<std::size_t>(model_.Shown())]; }
 
     void ShowPage(Page page);
-    void Press(const std::string& command);
+    void Run(PopupChoice choice);
     bool AboutRows();
-    void DeleteOrRename(const std::string& listCommand, const std::string& treeCommand);
+    void DeleteOrRename(PopupCommand listCommand, PopupCommand treeCommand);
     // When the editor of a name has closed.
     void EndEdit();
     // The window as the model is now; closes when it is done.

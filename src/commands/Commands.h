@@ -1,0 +1,147 @@
+// The commands of the main window: every menu item and toolbar button by its id. A new command is one id
+// here, its row in the table (Commands.cpp), and what it runs (shell/ShellActions.cpp).
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string_view>
+
+namespace tw {
+
+// In the order of the menus, separators included.
+enum class CommandId : std::uint8_t {
+    // The File menu
+    FileNew,
+    FileOpen,
+    FileBar0,
+    FileClose,
+    FileCloseAll,
+    FileBar1,
+    FileSave,
+    FileSaveAs,
+    FileSaveAll,
+    FileBar2,
+    FileImport,
+    FileExport,
+    FileBar3,
+    FileDelete,
+    FileBar4,
+    FilePrint,
+    FilePreview,
+    FileBar5,
+    FileReport,
+    FileBar6,
+    FileRecent0,
+    FileRecent1,
+    FileRecent2,
+    FileRecent3,
+    FileRecent4,
+    FileRecent5,
+    FileBar7,
+    FileExit,
+    // The Edit menu
+    EditHydroCalibration,
+    EditBottleCalc,
+    EditWaterCalc,
+    EditBar0,
+    EditUndo,
+    EditRedo,
+    EditBar1,
+    EditCut,
+    EditCopy,
+    EditPaste,
+    EditClear,
+    EditBar2,
+    EditSelectAll,
+    EditBar3,
+    EditInsert,
+    EditDelete,
+    EditAppendFlag,
+    // The Tools menu
+    ToolsDataSetup,
+    ToolsExplorer,
+    ToolsAssistant,
+    ToolBar1,
+    ToolsResizeRecipe,
+    ToolsChangeStrength,
+    ToolsChangeBitterness,
+    ToolsChangeCO2,
+    ToolBar2,
+    ToolsUnits,
+    ToolsHydrometer,
+    ToolsColorScale,
+    ToolsHopUtil,
+    ToolBar3,
+    ToolsOptions,
+    // The Window menu
+    WindowCascade,
+    WindowTileHorizontal,
+    WindowTileVertical,
+    // The Help menu
+    HelpContents,
+    HelpAuto,
+    HelpBar,
+    HelpAbout,
+    kCount
+};
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kCount);
+
+// How many recently used recipes the File menu can show.
+inline constexpr int kRecentSlots = 6;
+// The command of a recently used recipe. REQUIRES: 0 <= slot < kRecentSlots.
+constexpr CommandId RecentCommand(int slot) {
+    return static_cast<CommandId>(static_cast<int>(CommandId::FileRecent0) + slot);
+}
+
+// The menus of the menu bar from left to right.
+enum class TopMenu : std::uint8_t { File, Edit, Tools, Window, Help };
+
+struct TopMenuRow {
+    TopMenu id;
+    std::string_view name;     // control name
+    std::string_view caption;  // "&" marks the access key
+    CommandId first;           // its items run from here to the first one of the next menu
+};
+
+// How a command starts, before anything has enabled or shown it.
+enum class Start : std::uint8_t { Enabled, Disabled, Hidden };
+
+// What must be there for a command to run. Every command needs the open database.
+enum class Needs : std::uint8_t { Database, ActiveRecipe };
+
+struct ToolButtonRow {
+    std::string_view key = {};  // empty for a command without a button
+    std::string_view toolTip = {};
+    std::string_view image = {};  // the picture's name
+    bool twin = false;  // has a greyed picture for the time it is disabled, named with "Transparent" behind
+    int place = 0;      // the tens count the group, the ones the position in it
+    std::string_view tip = {};  // where the button does something else than the menu item; empty otherwise
+};
+
+inline constexpr std::string_view kSeparator = "-";
+
+struct CommandRow {
+    CommandId id;
+    std::string_view name;       // control name; a separator has one too
+    std::string_view caption;    // "&" marks the access key; kSeparator for a separator
+    std::string_view keys = {};  // "Ctrl+N"; empty for none
+    Start start = Start::Enabled;
+    Needs needs = Needs::Database;
+    bool commitsEntry =
+        false;  // an entry that is still being typed is committed first; a refused one calls it off
+    bool checkable = false;
+    std::string_view tip = {};  // one sentence for the status bar
+    ToolButtonRow button = {};
+};
+
+std::span<const TopMenuRow> AllTopMenus();
+// In the order of their ids.
+std::span<const CommandRow> AllCommandRows();
+const CommandRow& RowOf(CommandId id);
+TopMenu MenuOf(CommandId id);
+// The command of that control name, for scripts and other outsiders; nothing for an unknown name.
+std::optional<CommandId> FindCommandId(std::string_view name);
+
+}  // namespace tw

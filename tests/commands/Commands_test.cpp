@@ -1,0 +1,86 @@
+// The tables of the commands: what no compiler can see in them.
+#include "commands/Commands.h"
+
+#include <set>
+
+#include "commands/PopupCommands.h"
+
+namespace tw::test {
+namespace {
+
+TEST(Commands, EachIsFoundByItsControlNameAlone) {
+    std::set<std::string_view> names;
+    for (const CommandRow& row : AllCommandRows()) {
+        EXPECT_TRUE(row.name.starts_with("mnu")) << row.name;
+        EXPECT_TRUE(names.insert(row.name).second) << row.name << " stands there twice";
+        EXPECT_EQ(FindCommandId(row.name), row.id);
+        EXPECT_EQ(RowOf(row.id).name, row.name);
+    }
+    EXPECT_EQ(names.size(), kCommandCount);
+    for (const char* name : {"", "mnuFile", "mnufilenew", "mnuFileMRU", "mnuFileMRU(6)", "New"})
+        EXPECT_EQ(FindCommandId(name), std::nullopt) << name;
+}
+
+TEST(Commands, EachStandsInTheMenuOfItsName) {
+    EXPECT_EQ(MenuOf(CommandId::FileNew), TopMenu::File);
+    EXPECT_EQ(MenuOf(CommandId::FileExit), TopMenu::File);
+    EXPECT_EQ(MenuOf(CommandId::EditHydroCalibration), TopMenu::Edit);
+    EXPECT_EQ(MenuOf(CommandId::EditAppendFlag), TopMenu::Edit);
+    EXPECT_EQ(MenuOf(CommandId::ToolBar1), TopMenu::Tools);
+    EXPECT_EQ(MenuOf(CommandId::WindowTileVertical), TopMenu::Window);
+    EXPECT_EQ(MenuOf(CommandId::HelpAbout), TopMenu::Help);
+}
+
+TEST(Commands, RecentRecipesAreCountedFromZero) {
+    EXPECT_EQ(RowOf(RecentCommand(0)).name, "mnuFileMRU(0)");
+    EXPECT_EQ(RowOf(RecentCommand(kRecentSlots - 1)).name, "mnuFileMRU(5)");
+}
+
+// A key or a place that stands there twice would hide a command.
+TEST(Commands, NoTwoShareAKeyOrAPlaceInTheToolbar) {
+    std::set<std::string_view> keys, buttons;
+    std::set<int> places;
+    for (const CommandRow& row : AllCommandRows()) {
+        if (!row.keys.empty()) {
+            EXPECT_TRUE(keys.insert(row.keys).second) << row.name;
+        }
+        if (row.button.key.empty()) continue;
+        EXPECT_TRUE(buttons.insert(row.button.key).second) << row.name;
+        EXPECT_TRUE(places.insert(row.button.place).second) << row.name;
+    }
+    EXPECT_EQ(buttons.size(), 17u);
+}
+
+TEST(Commands, EveryCommandOnARecipeWaitsForOne) {
+    for (const CommandRow& row : AllCommandRows()) {
+        if (row.caption == kSeparator) continue;
+        EXPECT_EQ(row.needs == Needs::ActiveRecipe, MenuOf(row.id) == TopMenu::Edit) << row.name;
+    }
+}
+
+TEST(Commands, EntriesAreCommittedBeforeWhatLooksAtThem) {
+    for (const CommandRow& row : AllCommandRows()) {
+        if (row.caption == kSeparator) continue;
+        const bool onRows = row.id == CommandId::EditInsert || row.id == CommandId::EditDelete;
+        const TopMenu menu = MenuOf(row.id);
+        EXPECT_EQ(row.commitsEntry, onRows || (menu != TopMenu::Edit && menu != TopMenu::Help)) << row.name;
+    }
+}
+
+TEST(PopupCommands, EachIsFoundByItsControlName) {
+    for (const PopupCommand command : {PopupCommand::Open, PopupCommand::Details, PopupCommand::ResetColors})
+        EXPECT_EQ(FindPopupCommand(NameOf(command)), PopupChoice(command));
+    EXPECT_EQ(NameOf(PopupCommand::SortDescending), "mnuPopupSortDesc");
+    EXPECT_EQ(FindPopupCommand("mnuPopupList"), std::nullopt);
+    EXPECT_EQ(FindPopupCommand(""), std::nullopt);
+}
+
+TEST(PopupCommands, ColumnsAreCountedFromZeroUpToTheirNumber) {
+    EXPECT_EQ(NameOf({PopupCommand::ArrangeBy, 3}), "mnuArrangeBy(3)");
+    EXPECT_EQ(FindPopupCommand("mnuArrangeBy(3)", 4), PopupChoice(PopupCommand::ArrangeBy, 3));
+    for (const char* name : {"mnuArrangeBy", "mnuArrangeBy(4)", "mnuArrangeBy(-1)", "mnuArrangeBy()"})
+        EXPECT_EQ(FindPopupCommand(name, 4), std::nullopt) << name;
+}
+
+}  // namespace
+}  // namespace tw::test
