@@ -112,11 +112,11 @@ class Recipe {
 
     void Commit(TextBox& box, std::string_view text) {
         document_.Fields().SetText(box, text);
-        if (!document_.Fields().Fields().CommitField(box)) throw Error("Recipe", "The entry was refused", 1);
+        if (!document_.Fields().CommitField(box)) throw Error("Recipe", "The entry was refused", 1);
     }
     void CommitTotalVolume(std::string_view text) { Commit(document_.Record().txtTotalVol, text); }
     void CommitGrain(int row, std::string_view text) {
-        if (!document_.Cells().Cells().EditCell(document_.Record().gridGrain, row, GrainCol::Amount, text))
+        if (!document_.Cells().EditCell(document_.Record().gridGrain, row, GrainCol::Amount, text))
             throw Error("Recipe", "The entry was refused", 1);
     }
 
@@ -125,7 +125,7 @@ class Recipe {
     void Paste(Grid& grid, const GridRange& range, std::string_view text) {
         nothing_.SetText(text);
         document_.Focus().FocusOn(grid);
-        document_.Focus().Focus().SelectCells(grid, range);
+        document_.Focus().SelectCells(grid, range);
         document_.Edit().Paste();
     }
 
@@ -135,10 +135,10 @@ class Recipe {
         double most;
     };
     void Lines(Grid& grid, int lines, Dice& dice, const std::vector<Entry>& entries) {
-        while (grid.DataRows() < lines) document_.Lines().Lines().InsertRowForGrid(grid);
+        while (grid.DataRows() < lines) document_.Lines().InsertRowForGrid(grid);
         for (int row = 1; row <= lines; ++row)
             for (const Entry& entry : entries)
-                document_.Cells().Cells().EditCell(grid, row, entry.col,
+                document_.Cells().EditCell(grid, row, entry.col,
                                            Typed((0.1 + 0.9 * dice.Next()) * entry.most));
     }
 

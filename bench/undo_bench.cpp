@@ -46,8 +46,8 @@ BENCHMARK(UndoTheTotalVolume)->Unit(benchmark::kMicrosecond);
 void UndoADeletedRow(benchmark::State& state) {
     Recipe recipe;
     Grid& grain = recipe.Document().Record().gridGrain;
-    recipe.Document().Focus().Focus().SetCurrentCell(grain, 7, 0);
-    recipe.Document().Lines().Lines().DeleteRowForGrid(grain);
+    recipe.Document().Focus().SetCurrentCell(grain, 7, 0);
+    recipe.Document().Lines().DeleteRowForGrid(grain);
     for ([[maybe_unused]] const auto _ : state) {
         Require(recipe.Document().Replay().Undo());
         Require(recipe.Document().Replay().Redo());
@@ -63,7 +63,7 @@ void PasteThousandCells(benchmark::State& state) {
     Recipe recipe;
     tw::RecipeDocument& document = recipe.Document();
     Grid& grid = adjuncts ? document.Record().gridAdjuncts : document.Record().gridGrain;
-    while (grid.DataRows() < rows) document.Lines().Lines().InsertRowForGrid(grid);
+    while (grid.DataRows() < rows) document.Lines().InsertRowForGrid(grid);
     const tw::GridRange target = adjuncts
                                      ? tw::GridRange{1, 0, rows, 3}
                                      : tw::GridRange{1, tw::GrainCol::Amount, rows, tw::GrainCol::Amount};

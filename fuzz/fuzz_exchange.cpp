@@ -61,7 +61,7 @@ struct Program {
     SystemClock clock;
     NoClipboard clipboard;
     Platform platform{messages, dialogs, settings, clock, clipboard};
-    Shell shell{platform};
+    Shell shell{{platform}};
 };
 
 // Every recipe has a name that is trimmed and its own.
@@ -81,14 +81,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
     Program program;
     if (!program.shell.PerformSplashScreenInit(":memory:")) std::abort();
-    program.shell.ImportRecipes(file, 0, std::nullopt);
+    program.shell.Files().ImportRecipes(file, 0, std::nullopt);
     CheckWhole(*program.shell.DB());
     // Out again, beside what the file holds.
     std::vector<std::string> names;
     for (Recordset rows = program.shell.DB()->OpenRecordset("SELECT NAME FROM RECIPES"); !rows.AtEnd();
          rows.MoveNext())
         names.push_back(rows.Fields(0).Text());
-    program.shell.ExportRecipes(file, true, names);
+    program.shell.Files().ExportRecipes(file, true, names);
     unlink(file.c_str());
     unlink((file + "-journal").c_str());
     return 0;

@@ -44,6 +44,7 @@
 #include "tools/HopUtilModel.h"
 #include "tools/HydrometerModel.h"
 #include "tree/ChooseFolderModel.h"
+#include "tree/ExplorerModel.h"
 #include "tree/LvShowModel.h"
 #include "tree/ProgressModel.h"
 #include "tree/RecipeChooser.h"
@@ -102,7 +103,7 @@ bool SaveScalings(QtDialogs& dialogs, const RecipeDocument& document, QWidget& p
 // Every tab of the options.
 bool SaveOptions(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     PrintedMessages messages;
-    OptionsModel model(shell, messages);
+    OptionsModel model(shell.SettingsNow(), *shell.DB(), messages);
     const std::unique_ptr<QDialog> dialog = dialogs.Make(model, &parent);
     dialog->show();
     auto& tabs = *dialog->findChild<QTabWidget*>();
@@ -139,17 +140,16 @@ bool SaveTools(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
 // The pickers and choosers.
 bool SaveChoosers(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     bool ok = true;
-    for (const CatalogueKind list :
-         {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Yeast, CatalogueKind::Water}) {
-        LvShowModel picker(list, *shell.DB(), shell.Tree(), "");
+    for (const CatalogueKind list : {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Yeast, CatalogueKind::Water}) {
+        LvShowModel picker(list, *shell.DB(), shell.Data().tree, "");
         ok &= SaveDialog(dialogs, picker, parent,
                          QStringLiteral("%1pick-%2.png").arg(prefix).arg(static_cast<int>(list)));
     }
-    ChooseFolderModel folders(shell.Tree(), shell.Objects());
+    ChooseFolderModel folders(shell.Data().tree, shell.Data().objects);
     folders.SetStyleFolders(true);
     ok &= SaveDialog(dialogs, folders, parent, prefix + QStringLiteral("choose-folder.png"));
     RecipeChooser recipes;
-    recipes.SetTree(&shell.Tree());
+    recipes.SetTree(&shell.Data().tree);
     recipes.SetAction("Export");
     recipes.Initialize();
     recipes.Add(kAllRecipesKey);
@@ -176,7 +176,7 @@ bool SaveHelp(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
 // The dialogs of import and export.
 bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     PrintedMessages messages;
-    ImportExportModel recipes(shell.Tree(), false);
+    ImportExportModel recipes(shell.Data().tree, false);
     recipes.Recipes().Add(kAllRecipesKey);
     NameConflictModel conflict("Dry Stout", true, messages);
     StylesNotImportedModel styles({{"Dry Stout", "Irish Stout"}, {"Copper Lantern Bitter", "Best Bitter"}});
@@ -193,7 +193,7 @@ bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
 
 // Database setup on two catalogues, and the editors of their first rows.
 bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
-    const CatalogueContext context = shell.Catalogues();
+    const CatalogueContext context = shell.Catalogue().Context();
     bool ok = true;
     for (int i = 0; i < kCatalogueKinds; ++i) {
         const auto catalogue = kSetupOrder[static_cast<std::size_t>(i)];
@@ -218,7 +218,7 @@ bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStr
 // The preview, the report wizard page by page, and its options.
 bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     bool ok = true;
-    if (const RecipeDocument* document = shell.ActiveDocument()) {
+    if (const RecipeDocument* document = shell.Documents().Active()) {
         const PaperMeasure measure;
         PrintPreviewModel preview(
             {[&](PrintSize area) { return LayOutRecipe(document->Record(), area, measure); }, [] {},
@@ -230,7 +230,7 @@ bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
     ok &= SaveDialog(dialogs, noPrinter, parent, prefix + QStringLiteral("no-printer.png"));
     PrintedMessages messages;
     PrintWizardModel wizard(
-        {*shell.DB(), shell.Tree(), shell.Store(), messages, dialogs, nullptr, shell.Own()}, 0);
+        {*shell.DB(), shell.Data().tree, shell.Store(), messages, dialogs, nullptr, shell.Own()}, 0);
     wizard.Chooser().Add(kAllRecipesKey);
     for (int page = 0; page < PrintWizardModel::kPages; ++page) {
         ok &= SaveDialog(dialogs, wizard, parent, QStringLiteral("%1report-%2.png").arg(prefix).arg(page));
@@ -249,7 +249,7 @@ bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
 bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     bool ok = true;
     for (int view = 0; view <= static_cast<int>(ListViewType::Details); ++view) {
-        ExplorerModel explorer(shell.Access(), {});
+        ExplorerModel explorer(shell.Data().Access(), {});
         explorer.SetLook({static_cast<ListViewType>(view), 0, false});
         explorer.SetControl("lvNames", explorer.List(explorer.Shown()).Rows().Count() > 0
                                            ? explorer.List(explorer.Shown()).Rows().Row(0).key
@@ -257,7 +257,7 @@ bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
         ok &=
             SaveDialog(dialogs, explorer, parent, QStringLiteral("%1explorer-%2.png").arg(prefix).arg(view));
     }
-    ExplorerModel styles(shell.Access(), {}), search(shell.Access(), {});
+    ExplorerModel styles(shell.Data().Access(), {}), search(shell.Data().Access(), {});
     styles.Show(ExplorerModel::Page::Styles);
     styles.SetLook({ListViewType::Details, 0, false});
     ok &= SaveDialog(dialogs, styles, parent, prefix + QStringLiteral("explorer-styles.png"));
@@ -267,9 +267,9 @@ bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     if (auto* find = searching->findChild<QLineEdit*>(QStringLiteral("txtFind")))
         find->setText(QStringLiteral("ale"));
     ok &= SaveWidget(*searching, prefix + QStringLiteral("explorer-find.png"));
-    OpenSaveModel open(OpenSaveModel::Style::Open, shell.Access(), {});
+    OpenSaveModel open(OpenSaveModel::Style::Open, shell.Data().Access(), {});
     ok &= SaveDialog(dialogs, open, parent, prefix + QStringLiteral("open.png"));
-    OpenSaveModel save(OpenSaveModel::Style::Save, shell.Access(),
+    OpenSaveModel save(OpenSaveModel::Style::Save, shell.Data().Access(),
                        {"F:0", {ListViewType::Details, 0, false}});
     save.SetRecipe("Harvest Ale", 0);
     return SaveDialog(dialogs, save, parent, prefix + QStringLiteral("save-as.png")) && ok;
@@ -282,7 +282,7 @@ bool SaveRecovery(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     lost[0].snapshot.fields = {{"txtName", "First Pale Ale", "First Pale Ale"}};
     lost[1].keptWhen = {2026, 5, 2, 19, 55, 0};
     PrintedMessages messages;
-    RecoveryModel recovery(shell, messages, std::move(lost));
+    RecoveryModel recovery(shell.Unsaved(), messages, std::move(lost));
     return SaveDialog(dialogs, recovery, parent, prefix + QStringLiteral("recovery.png"));
 }
 
@@ -300,7 +300,7 @@ bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QStrin
     ok &= SaveReports(dialogs, shell, window, prefix);
     ok &= SaveBrowsing(dialogs, shell, window, prefix);
     ok &= SaveRecovery(dialogs, shell, window, prefix);
-    if (RecipeDocument* document = shell.ActiveDocument()) {
+    if (RecipeDocument* document = shell.Documents().Active()) {
         DetailsModel strength = StrengthDetailsOf(*document), volume = FinalVolDetailsOf(*document),
                      hops = HopDetailsOf(*document);
         ok &= SaveDialog(dialogs, strength, window, prefix + QStringLiteral("strength.png"));

@@ -21,6 +21,7 @@
 #include "help/qt/QtBrowser.h"
 #include "help/ui/frmAssistant.h"
 #include "help/ui/frmHelpContents.h"
+#include "platform/ErrorBox.h"
 #include "platform/SettingsFile.h"
 #include "platform/SystemClock.h"
 #include "platform/qt/ColorChooser.h"
@@ -110,8 +111,9 @@ bool SettingsFileIsFine(const ProgramOptions& options, MessagePort& messages) {
     }
 }
 
-void OpenRecipes(frmMain& window, Shell& shell, const ProgramOptions& options) {
-    for (const QString& name : options.open) shell.Guard([&] { shell.OpenByName(FromQt(name)); });
+void OpenRecipes(frmMain& window, Shell& shell, MessagePort& messages, const ProgramOptions& options) {
+    for (const QString& name : options.open)
+        RunShowingErrors(messages, [&] { shell.Recipes().OpenByName(FromQt(name)); });
     frmDocument* document = window.ActiveWindow();
     if (document && options.tab >= 0 && options.tab < kTabs) document->ShowTab(static_cast<Tab>(options.tab));
 }
@@ -180,30 +182,30 @@ int Run(int argc, char** argv) {
     Platform platform{messages, dialogs, *settings, clock, clipboard};
     // It goes after the shell: the next program waits until this one has closed its files.
     LocalChannel channel(DesktopName());
-    Shell shell(platform);
-    shell.SetProgramFolder(FromQt(QCoreApplication::applicationDirPath()));
-    if (!photographing) {
-        shell.SetRecoveryFolder(FromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
-                                       QStringLiteral("/unsaved")));
-        shell.DDE().SetChannel(&channel);
-    }
+    const std::string programFolder = FromQt(QCoreApplication::applicationDirPath());
+    ShellEnvironment environment{platform, programFolder};
+    if (!photographing)
+        environment.recoveryFolder = FromQt(
+            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/unsaved"));
+    Shell shell(std::move(environment));
+    if (!photographing) shell.DDE().SetChannel(&channel);
     QtBrowser browser;
     SystemTextFiles files(shell.Own());
-    Help help(FromQt(QCoreApplication::applicationDirPath()), messages, browser, files);
-    shell.SetHelp(&help);
+    Help help(programFolder, messages, browser, files);
     dialogs.SetHelp([&shell](const std::string& form, int tab) {
-        shell.ShowContextHelp(form, tab > 0 ? TabContext(tab) : std::string(kWholeWindow));
+        shell.Helping().ShowContextHelp(form, tab > 0 ? TabContext(tab) : std::string(kWholeWindow));
     });
     QtPrinters printers(shell.Own());
-    shell.SetPrinter(&printers);
     QtSaveFile saveFiles;
-    shell.SetSaveFiles(&saveFiles);
+    shell.Environment().help = &help;
+    shell.Environment().printer = &printers;
+    shell.Environment().saveFiles = &saveFiles;
     frmMain window(shell, platform);
     DesktopColors colors;
     window.show();
     if (!window.StartUp(DatabaseOf(options), FromQt(options.file)))
         return shell.DDE().HandedOver() ? EXIT_SUCCESS : EXIT_FAILURE;
-    OpenRecipes(window, shell, options);
+    OpenRecipes(window, shell, messages, options);
     if (photographing) return Photograph(window, shell, dialogs, options);
     colors.Follow();
     // Within the event loop, which ends the program when the main window is closed behind it.

@@ -33,26 +33,26 @@ void Entry(Session& session, Arguments& arguments) {
     const bool showsOnly = arguments.AtEnd();
     const DialogAnswer answer = showsOnly ? DialogAnswer() : ReadDialogAnswer(arguments.Text());
     Shell& program = session.Program();
-    const CatalogueContext context = program.Catalogues();
+    const CatalogueContext context = program.Catalogue().Context();
     const std::unique_ptr<CatalogueEditor> editor = MakeEditor(catalogue, context);
     editor->SetName(name);
     if (showsOnly) return PrintControls(session, *editor);
     session.Dialogs().AnswerNextWith([&](DialogModel&) { WorkEditor(*editor, answer); });
     session.Dialogs().ShowModal(*editor);
-    if (!editor->Selection().empty()) program.CatalogueChanged();
+    if (!editor->Selection().empty()) program.Documents().CatalogueChanged();
 }
 
 void Drop(Session& session, Arguments& arguments) {
     const CatalogueKind catalogue = TakeCatalogue(arguments);
     const std::string name = arguments.LastName("NAME");
     Shell& program = session.Program();
-    const CatalogueContext context = program.Catalogues();
+    const CatalogueContext context = program.Catalogue().Context();
     DBSetupModel setup(context);
     setup.Choose(catalogue);
     if (!setup.ShowName(name))
         throw ScriptError("there is no " + std::string(WordOf(catalogue)) + " '" + name + "'");
     setup.Press("cmdDelete");
-    program.CatalogueChanged();
+    program.Documents().CatalogueChanged();
 }
 
 struct StepRow {
@@ -72,7 +72,7 @@ void Navigate(Session& session, Arguments& arguments) {
     arguments.End();
     const auto step = std::ranges::find(kSteps, word, &StepRow::word);
     if (step == std::end(kSteps)) throw ScriptError("there is no step '" + word + "'");
-    const CatalogueContext context = session.Program().Catalogues();
+    const CatalogueContext context = session.Program().Catalogue().Context();
     DBSetupModel setup(context);
     setup.Choose(catalogue);
     if (!setup.ShowName(name))

@@ -16,7 +16,7 @@ class Console {
     // databasePath is a file, or ":memory:" for a fresh one. All references must outlive the console.
     Console(std::string databasePath, SettingsPort& settings, std::ostream& out, std::ostream& errors);
 
-    // Where the product's own files lie (Shell::SetProgramFolder). Call it before the first script.
+    // Where the product's own files lie (ShellEnvironment::programFolder). Call it before the first script.
     void SetProgramFolder(std::string folder) { session_.SetProgramFolder(std::move(folder)); }
 
     // Runs the lines of one script in the program as the scripts before have left it. Done at its end;

@@ -29,7 +29,7 @@ void Sort(Session& session, Arguments& arguments) {
     CheckCell(grid, 0, col);
     if (!grid.RowsCanChange()) return session.Out().Line("off");
     session.Document().Focus().FocusOn(grid);
-    session.Document().Lines().Lines().ClickHeader(grid, col);
+    session.Document().Lines().ClickHeader(grid, col);
 }
 
 void Select(Session& session, Arguments& arguments) {
@@ -43,7 +43,7 @@ void Select(Session& session, Arguments& arguments) {
     CheckCell(grid, range.row1, range.col1);
     CheckCell(grid, range.row2, range.col2);
     session.Document().Focus().FocusOn(grid);
-    session.Document().Focus().Focus().SelectCells(grid, range);
+    session.Document().Focus().SelectCells(grid, range);
 }
 
 void ShowClipboard(Session& session, Arguments& arguments) {
@@ -53,7 +53,7 @@ void ShowClipboard(Session& session, Arguments& arguments) {
 
 void SetClipboard(Session& session, Arguments& arguments) {
     session.Clipboard().SetText(arguments.Text());
-    if (session.Running()) session.Program().ReapplyPasteState();
+    if (session.Running()) session.Program().States().ReapplyPaste();
 }
 
 constexpr Command kCommands[] = {

@@ -36,7 +36,7 @@ void MakeCurrent(Session& session, Grid& grid, int row) {
     if (row < Grid::FixedRows() || row >= grid.Rows())
         throw ScriptError(grid.Name() + " has no row " + std::to_string(row));
     session.Document().Focus().FocusOn(grid);
-    session.Document().Focus().Focus().SetCurrentCell(grid, row, grid.CurrentCol());
+    session.Document().Focus().SetCurrentCell(grid, row, grid.CurrentCol());
 }
 
 void EditCell(Session& session, Arguments& arguments) {
@@ -46,8 +46,8 @@ void EditCell(Session& session, Arguments& arguments) {
     if (!document.Cells().CanEdit(grid, row, col) || grid.IsCheckBox(row, col))
         return session.Out().Line("read-only");
     document.Focus().FocusOn(grid);
-    document.Focus().Focus().SetCurrentCell(grid, row, col);
-    document.Cells().Cells().EditCell(grid, row, col, text);
+    document.Focus().SetCurrentCell(grid, row, col);
+    document.Cells().EditCell(grid, row, col, text);
 }
 
 void Check(Session& session, Arguments& arguments) {
@@ -59,7 +59,7 @@ void Check(Session& session, Arguments& arguments) {
     if (!grid.IsCheckBox(row, col)) return session.Out().Line("read-only");
     RecipeDocument& document = session.Document();
     document.Focus().FocusOn(grid);
-    document.Focus().Focus().SetCurrentCell(grid, row, col);
+    document.Focus().SetCurrentCell(grid, row, col);
     document.Cells().SetChecked(grid, row, col, checked);
 }
 
@@ -133,7 +133,7 @@ void Insert(Session& session, Arguments& arguments) {
     if (rowGiven && !firstOfEmpty) MakeCurrent(session, grid, row);
     if (!document.Focus().CanInsertRow(grid)) return session.Out().Line("off");
     document.Focus().FocusOn(grid);
-    document.Lines().Lines().InsertRowForGrid(grid);
+    document.Lines().InsertRowForGrid(grid);
 }
 
 void Delete(Session& session, Arguments& arguments) {
@@ -144,7 +144,7 @@ void Delete(Session& session, Arguments& arguments) {
     if (!grid.RowsCanChange()) return session.Out().Line("off");
     MakeCurrent(session, grid, row);
     if (!document.Focus().CanDeleteRow(grid)) return session.Out().Line("off");
-    document.Lines().Lines().DeleteRowForGrid(grid);
+    document.Lines().DeleteRowForGrid(grid);
 }
 
 void ShowTab(Session& session, Arguments& arguments) {

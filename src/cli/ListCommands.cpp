@@ -47,13 +47,13 @@ void PrintList(Session& session, const ListTable& list, std::string_view titles)
 
 lvFiller FillerOf(Session& session) {
     Shell& program = session.Program();
-    return {*program.DB(), program.Tree()};
+    return {*program.DB(), program.Data().tree};
 }
 
 void List(Session& session, Arguments& arguments) {
     const std::string key = arguments.Word("KEY");
     const std::string columns = arguments.Text();
-    if (!session.Program().Tree().NodeExists(key))
+    if (!session.Program().Data().tree.NodeExists(key))
         throw ScriptError("there is no entry '" + key + "' in the tree");
     ListTable list;
     lvFiller::SetUpExplorerColumns(list);
@@ -84,7 +84,7 @@ void PickFrom(Session& session, Arguments& arguments) {
         if (button == "Close") return picker.CloseBox();
         if (!picker.Press(button)) throw ScriptError("the picker has no button '" + button + "'");
     });
-    session.Program().PickFromCatalogue(document, type, name);
+    session.Program().Services().PickFromCatalogue(document, type, name);
 }
 
 constexpr Command kCommands[] = {

@@ -12,45 +12,46 @@ namespace {
 
 void New(Session& session, Arguments& arguments) {
     arguments.End();
-    session.Program().CreateDocumentWindow("");
+    session.Program().Recipes().Create("");
 }
 
 void Open(Session& session, Arguments& arguments) {
     const std::string name = arguments.LastName("NAME");
-    session.Program().OpenByName(name);
+    session.Program().Recipes().OpenByName(name);
 }
 
 void Save(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
-    session.Program().SaveRecipe(document, false);
+    session.Program().Saver().Save(document, false);
 }
 
 void SaveAs(Session& session, Arguments& arguments) {
     const int folder = arguments.Integer("FOLDERID", 0, std::numeric_limits<int>::max());
     const std::string name = arguments.LastName("NAME");
     RecipeDocument& document = session.Document();
-    session.Program().SaveRecipeUnder(document, name, folder, false);
+    session.Program().Saver().SaveUnder(document, name, folder, false);
 }
 
 void Close(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
-    session.Program().CloseDocument(document);
+    session.Program().Saver().Close(document);
 }
 
 void Documents(Session& session, Arguments& arguments) {
     arguments.End();
     Shell& program = session.Program();
-    for (const auto& document : program.Documents())
-        session.Out().Line((program.IsActive(*document) ? "*" : "") + EscapeText(document->Caption()));
+    for (const auto& document : program.Documents().All())
+        session.Out().Line((program.Services().IsActive(*document) ? "*" : "") +
+                           EscapeText(document->Caption()));
 }
 
 void Activate(Session& session, Arguments& arguments) {
     const std::string caption = arguments.LastName("CAPTION");
     Shell& program = session.Program();
-    for (const auto& document : program.Documents())
-        if (document->Caption() == caption) return program.Activate(*document);
+    for (const auto& document : program.Documents().All())
+        if (document->Caption() == caption) return program.Documents().Activate(*document);
     throw ScriptError("no document has the caption '" + caption + "'");
 }
 
@@ -63,7 +64,7 @@ void Set(Session& session, Arguments& arguments) {
     if (box->Computed()) return session.Out().Line("read-only");
     document.Focus().FocusOn(*box);
     document.Fields().SetText(*box, text);
-    if (!document.Fields().Fields().CommitField(*box)) document.Fields().Fields().RestoreField(*box);
+    if (!document.Fields().CommitField(*box)) document.Fields().RestoreField(*box);
 }
 
 void Pick(Session& session, Arguments& arguments) {
@@ -72,7 +73,7 @@ void Pick(Session& session, Arguments& arguments) {
     RecipeDocument& document = session.Document();
     const ListBox& list = document.Record().cmbStyle;
     if (name != list.Name()) throw ScriptError("there is no list '" + name + "'");
-    document.Focus().Focus().FocusElsewhere();
+    document.Focus().FocusElsewhere();
     for (std::size_t i = 0; i < list.Entries().size(); ++i)
         if (SameName(list.Entries()[i].text, text)) return document.Style().Select(static_cast<int>(i));
     throw ScriptError(name + " has no entry '" + text + "'");
@@ -82,7 +83,7 @@ void Choose(Session& session, Arguments& arguments) {
     const std::string option = arguments.Word("OPTION");
     arguments.End();
     RecipeDocument& document = session.Document();
-    document.Focus().Focus().FocusElsewhere();
+    document.Focus().FocusElsewhere();
     if (!document.Options().Choose(option)) throw ScriptError("there is no option '" + option + "'");
 }
 

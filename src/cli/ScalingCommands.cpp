@@ -57,8 +57,8 @@ void Treat(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
     if (!document.Record().cmdCalcTreatment.Enabled()) return session.Out().Line("off");
-    document.Focus().Focus().FocusElsewhere();
-    document.Water().Water().CalcTreatment();
+    document.Focus().FocusElsewhere();
+    document.Water().CalcTreatment();
 }
 
 constexpr Command kCommands[] = {

@@ -37,18 +37,16 @@ Session::~Session() {
 
 Shell& Session::Program() {
     if (shell_) return *shell_;
-    auto shell = std::make_unique<Shell>(platform_);
+    auto shell =
+        std::make_unique<Shell>(ShellEnvironment{platform_, programFolder_, {}, &HelpPages(), &printer_});
     shell->SetView(this);
-    shell->SetProgramFolder(programFolder_);
-    shell->SetHelp(&HelpPages());
-    shell->SetPrinter(&printer_);
     shell->LoadWindowSettings();
     if (!shell->PerformSplashScreenInit(databasePath_)) {
         shell->Unload(true);
         throw StartFailure();
     }
     shell_ = std::move(shell);
-    shell_->EnableDDETimer(true);
+    shell_->DDE().SetTicking(true);
     return *shell_;
 }
 
@@ -58,7 +56,7 @@ Help& Session::HelpPages() {
 }
 
 RecipeDocument& Session::Document() {
-    RecipeDocument* const active = Program().ActiveDocument();
+    RecipeDocument* const active = Program().Documents().Active();
     if (active == nullptr) throw ScriptError("no document is open");
     return *active;
 }

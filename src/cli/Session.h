@@ -32,8 +32,8 @@ class Session : private ShellView {
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    // Where the product's own files lie (Shell::SetProgramFolder), the help among them. Call it before the
-    // first start and the first look at the help.
+    // Where the product's own files lie (ShellEnvironment::programFolder), the help among them. Call it
+    // before the first start and the first look at the help.
     void SetProgramFolder(std::string folder) { programFolder_ = std::move(folder); }
 
     // The running program; starts it when it does not run. Raises StartFailure.

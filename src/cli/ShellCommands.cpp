@@ -56,7 +56,7 @@ void Setting(Session& session, Arguments& arguments) {
     }
     const std::string text = arguments.Text();
     if (session.Running())
-        session.Program().StoreSetting(section, key, text);
+        session.Program().SettingsNow().Store(section, key, text);
     else
         session.Store().SaveSetting(section, key, text, false);
 }
@@ -77,7 +77,7 @@ void Sql(Session& session, Arguments& arguments) {
     const std::string text = arguments.Text();
     RunSql(session, *session.Program().DB(), text);
     // The statement may have changed the styles that the open recipes list.
-    if (TranslateSql(text).kind != StatementKind::Select) session.Program().CatalogueChanged();
+    if (TranslateSql(text).kind != StatementKind::Select) session.Program().Documents().CatalogueChanged();
 }
 
 void ShowDialogs(Session& session, Arguments& arguments) {

@@ -11,7 +11,7 @@ namespace tw {
 namespace {
 
 TWNode& NodeAt(Session& session, const std::string& key) {
-    TWNode* const node = session.Program().Tree().Nodes(key);
+    TWNode* const node = session.Program().Data().tree.Nodes(key);
     if (node == nullptr) throw ScriptError("there is no entry '" + key + "' in the tree");
     return *node;
 }
@@ -39,7 +39,7 @@ void PrintTree(Session& session, Arguments& arguments) {
 void CreateFolder(Session& session, Arguments& arguments) {
     const std::string parentKey = arguments.Word("PARENTKEY");
     const std::string name = arguments.Text();
-    const std::string key = session.Program().Objects().CreateFolderObject(parentKey, name, false);
+    const std::string key = session.Program().Data().objects.CreateFolderObject(parentKey, name, false);
     if (!key.empty()) session.Out().Line(key);
 }
 
@@ -47,19 +47,19 @@ void Move(Session& session, Arguments& arguments) {
     const std::string source = arguments.Word("the KEY to move");
     const std::string dest = arguments.Word("the KEY to move to");
     arguments.End();
-    session.Program().Objects().MoveObject(source, dest, false);
+    session.Program().Data().objects.MoveObject(source, dest, false);
 }
 
 void Rename(Session& session, Arguments& arguments) {
     const std::string key = arguments.Word("KEY");
     const std::string name = arguments.LastName("NAME");
-    session.Program().Objects().RenameObject(key, name, false);
+    session.Program().Data().objects.RenameObject(key, name, false);
 }
 
 void Remove(Session& session, Arguments& arguments) {
     const std::string key = arguments.Word("KEY");
     arguments.End();
-    session.Program().Objects().DeleteObject(key);
+    session.Program().Data().objects.DeleteObject(key);
 }
 
 void Can(Session& session, Arguments& arguments) {

@@ -8,7 +8,7 @@
 
 #include "document/CatalogueLookup.h"
 #include "document/CataloguePicks.h"
-#include "document/DatabaseNotices.h"
+#include "document/RecipeNotices.h"
 #include "document/EditCommands.h"
 #include "document/EditReplay.h"
 #include "document/OpenRecipe.h"
@@ -71,7 +71,7 @@ class RecipeDocument {
     WaterTreatment& Water() { return water_; }
     RecipeStorage& Storage() { return storage_; }
     const RecipeStorage& Storage() const { return storage_; }
-    DatabaseNotices& Notices() { return notices_; }
+    RecipeNotices& Notices() { return notices_; }
 
   private:
     void ApplyDefaults();
@@ -90,7 +90,7 @@ class RecipeDocument {
     RecipeScaling scaling_;
     WaterTreatment water_;
     RecipeStorage storage_;
-    DatabaseNotices notices_;
+    RecipeNotices notices_;
     std::string key_;
     int number_;
 };

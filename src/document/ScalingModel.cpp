@@ -134,14 +134,14 @@ std::optional<std::string> CurrentFigure(const RecipeDocument& document, Scaling
 void Scale(RecipeDocument& document, const ScalingModel& dialog) {
     switch (dialog.What()) {
         case Scaling::Size:
-            document.Scaling().Scaling().ScaleRecipe(dialog.NewValue(), dialog.NewText(), dialog.ScaleBoilVol(),
+            document.Scaling().ScaleRecipe(dialog.NewValue(), dialog.NewText(), dialog.ScaleBoilVol(),
                                            dialog.PreserveIBU());
             break;
         case Scaling::Strength:
-            document.Scaling().Scaling().ScaleOG(dialog.NewValue(), dialog.PreserveIBU());
+            document.Scaling().ScaleOG(dialog.NewValue(), dialog.PreserveIBU());
             break;
         case Scaling::Bitterness:
-            document.Scaling().Scaling().ScaleIBU(dialog.NewValue());
+            document.Scaling().ScaleIBU(dialog.NewValue());
             break;
         case Scaling::Carbonation:
             document.Scaling().ScaleCO2(dialog.NewValue(), Asking::Aloud);

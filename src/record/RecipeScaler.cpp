@@ -1,7 +1,7 @@
-// A recipe's amounts for another size, strength, bitterness or carbonation.
+#include "record/RecipeScaler.h"
+
 #include "calc/Figures.h"
 #include "platform/Error.h"
-#include "record/RecipeCalculator.h"
 #include "values/NumberText.h"
 
 namespace tw {

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/Shell.h"
+#include "shell/DocumentManager.h"
 
 namespace tw {
 
@@ -36,7 +36,7 @@ void AutoSaveModel::FirstShown() {
     running_ = true;
     // Events that run in between may close a document, so they are kept by key.
     std::vector<std::string> keys;
-    for (const auto& document : shell_.Documents()) keys.push_back(document->Key());
+    for (const auto& document : documents_.All()) keys.push_back(document->Key());
     total_ = static_cast<int>(keys.size());
     for (const std::string& key : keys) SaveOne(key);
     running_ = false;
@@ -44,14 +44,14 @@ void AutoSaveModel::FirstShown() {
 }
 
 void AutoSaveModel::SaveOne(const std::string& key) {
-    const auto& documents = shell_.Documents();
+    const auto& documents = documents_.All();
     const auto named = [&](const auto& document) { return document->Key() == key; };
     auto found = std::ranges::find_if(documents, named);
     if (found != documents.end()) {
         recipeName_ = (*found)->BeerName();
         Show();
         found = std::ranges::find_if(documents, named);
-        if (found != documents.end()) shell_.Guard([&] { shell_.SaveRecipe(**found, true); });
+        if (found != documents.end()) save_(**found);
     }
     ++done_;
     Show();

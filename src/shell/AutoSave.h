@@ -5,14 +5,15 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/DialogModel.h"
 
 namespace tw {
 
+class DocumentManager;
 class RecipeDocument;
-class Shell;
 
 // One tick of the autosave timer is one minute.
 inline constexpr int kAutoSaveTickMilliseconds = 60000;
@@ -34,8 +35,9 @@ class AutoSaveMinutes {
 // changed or not, and closes. A document that has never been saved is passed over and counts in the progress.
 class AutoSaveModel final : public DialogModel {
   public:
-    // shell must outlive the object.
-    explicit AutoSaveModel(Shell& shell) : shell_(shell) {}
+    // save saves a document silently and shows its own errors. Both must outlive the object.
+    AutoSaveModel(const DocumentManager& documents, std::function<void(RecipeDocument&)> save)
+        : documents_(documents), save_(std::move(save)) {}
     // Called after each change of what the window shows: it paints, and lets waiting events run.
     void SetObserver(std::function<void()> observer) { observer_ = std::move(observer); }
 
@@ -59,7 +61,8 @@ class AutoSaveModel final : public DialogModel {
     void SaveOne(const std::string& key);
     void Show() const;
 
-    Shell& shell_;
+    const DocumentManager& documents_;
+    std::function<void(RecipeDocument&)> save_;
     std::function<void()> observer_;
     std::string recipeName_;
     int done_ = 0;

@@ -7,7 +7,8 @@
 
 #include "commands/PopupCommands.h"
 #include "platform/Error.h"
-#include "shell/Shell.h"
+#include "shell/SettingsInUse.h"
+#include "store/Database.h"
 #include "values/ParserValidater.h"
 #include "values/Text.h"
 
@@ -54,14 +55,15 @@ std::optional<double> ReadWhole(std::string_view text) {
 
 }  // namespace
 
-OptionsModel::OptionsModel(Shell& shell, MessagePort& messages) : shell_(shell), messages_(messages) {
+OptionsModel::OptionsModel(SettingsInUse& settings, Database& database, MessagePort& messages)
+    : settings_(settings), database_(database), messages_(messages) {
     FillDefaultsTab();
     FillSettingsTab();
     FillAppearanceTab();
 }
 
 void OptionsModel::FillDefaultsTab() {
-    const Settings& s = shell_.CurrentSettings();
+    const Settings& s = settings_.Values();
     AddList("cmbHopForm", {"Pellet", "Plug", "Leaf"}, s.hopForm);
     AddCheck("chkHopSocks", s.hopSocks);
     AddList("cmbIBUMethod", {"Tinseth", "Rager", "Garetz"}, s.ibuMethod);
@@ -75,7 +77,7 @@ void OptionsModel::FillDefaultsTab() {
 }
 
 void OptionsModel::FillSettingsTab() {
-    const Settings& s = shell_.CurrentSettings();
+    const Settings& s = settings_.Values();
     AddList("cmbReportType", {"Text", "HTML", "RichText"}, s.reportType);
     AddCheck("chkCopyHeaders", s.copyHeaders);
     AddCheck("chkPasteBlockSize", s.pasteMismatchSize);
@@ -86,7 +88,7 @@ void OptionsModel::FillSettingsTab() {
 }
 
 void OptionsModel::FillAppearanceTab() {
-    const Settings& s = shell_.CurrentSettings();
+    const Settings& s = settings_.Values();
     const int icons = s.iconStyle >= 0 && s.iconStyle < kLastIconStyle ? s.iconStyle : kLastIconStyle;
     const int buttons = s.buttonStyle == 0 ? 0 : 1;
     int index = 0;
@@ -122,10 +124,10 @@ void OptionsModel::AddText(std::string_view name, std::string_view text) {
 
 void OptionsModel::PopulateWaterProfiles() {
     Control& list = Find("cmbWaterProfile");
-    const std::string& stored = shell_.CurrentSettings().waterProfile;
+    const std::string& stored = settings_.Values().waterProfile;
     list.entries = {""};
     list.text.clear();
-    for (Recordset rows = shell_.DB()->OpenRecordset("SELECT NAME FROM WATER_PROFILES ORDER BY NAME");
+    for (Recordset rows = database_.OpenRecordset("SELECT NAME FROM WATER_PROFILES ORDER BY NAME");
          !rows.AtEnd(); rows.MoveNext()) {
         list.entries.push_back(rows.Fields(0).Text());
         if (SameName(list.entries.back(), stored)) list.text = list.entries.back();
@@ -336,7 +338,7 @@ void OptionsModel::Ok() {
 }
 
 void OptionsModel::ApplyDefaults() {
-    Settings& s = shell_.CurrentSettings();
+    Settings& s = settings_.Values();
     s.hopForm = IndexOf("cmbHopForm");
     s.hopSocks = Checked("chkHopSocks");
     s.reportType = IndexOf("cmbReportType");
@@ -350,10 +352,10 @@ void OptionsModel::ApplyDefaults() {
 }
 
 void OptionsModel::ApplySettings() {
-    Settings& s = shell_.CurrentSettings();
+    Settings& s = settings_.Values();
     s.copyHeaders = Checked("chkCopyHeaders");
     s.pasteMismatchSize = Checked("chkPasteBlockSize");
-    shell_.SetDoAutoSave(Checked("chkAutoSave"));
+    settings_.SetDoAutoSave(Checked("chkAutoSave"));
     if (const std::optional<double> minutes = ReadWhole(Text("txtSaveInc")))
         s.doAutoSaveEvery = static_cast<int>(*minutes);
     s.askBeforeNonUndoableChange = Checked("chkAskNonUndoableChange");
@@ -361,20 +363,20 @@ void OptionsModel::ApplySettings() {
 }
 
 void OptionsModel::ApplyAppearance() {
-    Settings& s = shell_.CurrentSettings();
+    Settings& s = settings_.Values();
     int icons = 0;
     while (!Checked(kIconOptions[icons])) ++icons;
     if (s.iconStyle != icons) {
         s.iconStyle = icons;
-        shell_.ChangeToolbarIcons();
+        settings_.ShowIcons();
     }
     const int buttons = Checked(kButtonOptions[0]) ? 0 : 1;
     if (s.buttonStyle != buttons) {
         s.buttonStyle = buttons;
-        shell_.ChangeToolbarButtonStyle();
+        settings_.ShowButtonStyle();
     }
     for (const ColorRow& row : kColors) s.*row.field = ChosenColor(row.picture);
-    shell_.UpdateDocsOfColorChange();
+    settings_.ShowGridColors();
 }
 
 }  // namespace tw

@@ -13,13 +13,14 @@
 
 namespace tw {
 
-class Shell;
+class Database;
+class SettingsInUse;
 
 class OptionsModel final : public DialogModel {
   public:
-    // Fills the controls from the settings of the shell. Both must outlive the dialog. REQUIRES: the database
-    // is open.
-    OptionsModel(Shell& shell, MessagePort& messages);
+    // Fills the controls from the settings, and the list of water profiles from the database. All must
+    // outlive the dialog.
+    OptionsModel(SettingsInUse& settings, Database& database, MessagePort& messages);
 
     // Fills cmbWaterProfile: an empty entry, then the names of the catalogue. A stored profile that no longer
     // exists selects nothing.
@@ -102,7 +103,8 @@ class OptionsModel final : public DialogModel {
     void ApplyAppearance();
     void ResetColors();
 
-    Shell& shell_;
+    SettingsInUse& settings_;
+    Database& database_;
     MessagePort& messages_;
     std::vector<Control> controls_;
     std::string focused_;

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/Shell.h"
+#include "platform/ErrorBox.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -21,8 +21,8 @@ std::string TwoDigits(int number) {
 
 }  // namespace
 
-RecoveryModel::RecoveryModel(Shell& shell, MessagePort& messages, std::vector<LostRecipe> lost)
-    : shell_(shell), messages_(messages), lost_(std::move(lost)), open_(!lost_.empty()) {}
+RecoveryModel::RecoveryModel(LostRecipes& recipes, MessagePort& messages, std::vector<LostRecipe> lost)
+    : recipes_(recipes), messages_(messages), lost_(std::move(lost)), open_(!lost_.empty()) {}
 
 std::vector<std::string> RecoveryModel::Entries() const {
     std::vector<std::string> entries;
@@ -75,20 +75,20 @@ void RecoveryModel::Drop(int index) {
 
 // One that cannot be restored has been reported and is offered no more.
 void RecoveryModel::RestoreSelected() {
-    if (shell_.Guard([&] { shell_.RestoreLostRecipe(lost_[static_cast<std::size_t>(selected_)]); }))
+    if (RunShowingErrors(messages_, [&] { recipes_.Restore(lost_[static_cast<std::size_t>(selected_)]); }))
         Drop(selected_);
 }
 
 void RecoveryModel::RestoreAll() {
     selected_ = 0;
-    while (open_ && shell_.Guard([&] { shell_.RestoreLostRecipe(lost_.front()); })) Drop(0);
+    while (open_ && RunShowingErrors(messages_, [&] { recipes_.Restore(lost_.front()); })) Drop(0);
 }
 
 void RecoveryModel::DiscardSelected() {
     const LostRecipe& lost = lost_[static_cast<std::size_t>(selected_)];
     const std::string question = "Throw away the unsaved changes of recipe '" + NameOf(lost) + "'?";
     if (messages_.Ask(kTitle, question, Question::YesNo) != Answer::Yes) return;
-    shell_.DiscardLostRecipe(lost);
+    recipes_.Discard(lost);
     Drop(selected_);
 }
 
@@ -97,7 +97,7 @@ void RecoveryModel::DiscardAll() {
     const std::string question =
         "Throw away the unsaved changes of all " + std::to_string(lost_.size()) + " recipes?";
     if (messages_.Ask(kTitle, question, Question::YesNo) != Answer::Yes) return;
-    for (const LostRecipe& lost : lost_) shell_.DiscardLostRecipe(lost);
+    for (const LostRecipe& lost : lost_) recipes_.Discard(lost);
     while (!lost_.empty()) Drop(0);
 }
 

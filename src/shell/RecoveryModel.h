@@ -13,12 +13,21 @@
 
 namespace tw {
 
-class Shell;
+// What becomes of a lost recipe.
+class LostRecipes {
+  public:
+    virtual ~LostRecipes() = default;
+    // A new changed document from the lost recipe, which takes its file over. False when it does not fit this
+    // program: the file has been put aside and reported.
+    virtual bool Restore(const LostRecipe& lost) = 0;
+    // For good.
+    virtual void Discard(const LostRecipe& lost) = 0;
+};
 
 class RecoveryModel final : public DialogModel {
   public:
-    // shell and messages must outlive the object. It is open while lost is not empty.
-    RecoveryModel(Shell& shell, MessagePort& messages, std::vector<LostRecipe> lost);
+    // recipes and messages must outlive the object. It is open while lost is not empty.
+    RecoveryModel(LostRecipes& recipes, MessagePort& messages, std::vector<LostRecipe> lost);
 
     // "{name}, {M/D/YYYY} {HH:MM}" for each recipe, "Untitled" for one without a name.
     std::vector<std::string> Entries() const;
@@ -44,7 +53,7 @@ class RecoveryModel final : public DialogModel {
     void DiscardAll();
     void Drop(int index);
 
-    Shell& shell_;
+    LostRecipes& recipes_;
     MessagePort& messages_;
     std::vector<LostRecipe> lost_;
     int selected_ = 0;

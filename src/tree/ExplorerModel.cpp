@@ -90,15 +90,17 @@ void ExplorerModel::DeclareCommands() {
     };
     const auto isOwnFolder = [this] { return CanDeleteNode(NodeKey()); };
     AddButtons({
-        {NameOf(PopupCommand::Open), run(&ExplorerModel::Open), [this] { return CanOpen(At(shown_).list.SelectedKey()); }},
-        {NameOf(PopupCommand::Delete), run(&ExplorerModel::Delete),
+        {tw::NameOf(PopupCommand::Open), run(&ExplorerModel::Open),
+         [this] { return CanOpen(At(shown_).list.SelectedKey()); }},
+        {tw::NameOf(PopupCommand::Delete), run(&ExplorerModel::Delete),
          [this] { return std::ranges::any_of(At(shown_).list.ChosenKeys(), CanDeleteNode); }},
-        {NameOf(PopupCommand::Rename), run(&ExplorerModel::BeginRename), [this] { return CanRename(); }},
-        {NameOf(PopupCommand::NewFolder), run(&ExplorerModel::NewFolder), [this] { return CanHoldFolders(NodeKey()); }},
-        {NameOf(PopupCommand::NewStyle), run(&ExplorerModel::NewStyle), [this] { return CanAddStyle(); }},
-        {NameOf(PopupCommand::RenameFolder), run(&ExplorerModel::BeginRenameNode), isOwnFolder},
-        {NameOf(PopupCommand::DeleteFolder), run(&ExplorerModel::DeleteNode), isOwnFolder},
-        {NameOf(PopupCommand::LineUp), run(&ExplorerModel::LineUp), [this] { return ShowsIcons(); }},
+        {tw::NameOf(PopupCommand::Rename), run(&ExplorerModel::BeginRename), [this] { return CanRename(); }},
+        {tw::NameOf(PopupCommand::NewFolder), run(&ExplorerModel::NewFolder),
+         [this] { return CanHoldFolders(NodeKey()); }},
+        {tw::NameOf(PopupCommand::NewStyle), run(&ExplorerModel::NewStyle), [this] { return CanAddStyle(); }},
+        {tw::NameOf(PopupCommand::RenameFolder), run(&ExplorerModel::BeginRenameNode), isOwnFolder},
+        {tw::NameOf(PopupCommand::DeleteFolder), run(&ExplorerModel::DeleteNode), isOwnFolder},
+        {tw::NameOf(PopupCommand::LineUp), run(&ExplorerModel::LineUp), [this] { return ShowsIcons(); }},
         {"cmdClose", [this] { Close(); }},
     });
     AddButtons(LookButtons(look_, [this] { SortLists(); }));

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "commands/PopupCommands.h"
 #include "platform/FormModel.h"
 #include "tree/NodeList.h"
 #include "tree/TreeItems.h"
@@ -48,11 +49,11 @@ class ExplorerModel final : public FormModel {
     // Of the page shown, empty when no entry is chosen.
     std::string NodeKey() const { return At(shown_).tree.SelectedKey(); }
     // Whether a command does something now.
-    bool IsEnabled(PopupCommand command) const { return FormModel::IsEnabled(NameOf(command)); }
+    bool IsEnabled(PopupCommand command) const { return FormModel::IsEnabled(tw::NameOf(command)); }
     using FormModel::IsEnabled;
     // Does what the command does; nothing while it is disabled. False for one of another window. An error of
     // a deletion rises when what is left is shown.
-    bool Run(PopupChoice choice) { return Press(NameOf(choice)); }
+    bool Run(PopupChoice choice) { return Press(tw::NameOf(choice)); }
     // How many objects are shown and chosen, or what has just been opened, or that the tree is not up to
     // date.
     std::string Status() const;

@@ -12,7 +12,6 @@ namespace {
 
 constexpr int kSubscriptOutOfRange = 9;
 
-
 // The node's name, or those of all recipes below it, in the order of the tree.
 std::vector<std::string> RecipesOf(TWNode& top) {
     std::vector<std::string> names;
@@ -55,8 +54,10 @@ RecipeChooser::RecipeChooser() {
         {"cmdDown", [this] { MoveTo(current_ + 1); }, canSink},
         {"cmdTop", [this] { MoveTo(0); }, canRise},
         {"cmdBottom", [this] { MoveTo(SelectionCount() - 1); }, canSink},
-        {NameOf(PopupCommand::SortAscending), [sort] { sort(false); }, [this] { return SelectionCount() > 1; }},
-        {NameOf(PopupCommand::SortDescending), [sort] { sort(true); }, [this] { return SelectionCount() > 1 && !sorted_; }},
+        {NameOf(PopupCommand::SortAscending), [sort] { sort(false); },
+         [this] { return SelectionCount() > 1; }},
+        {NameOf(PopupCommand::SortDescending), [sort] { sort(true); },
+         [this] { return SelectionCount() > 1 && !sorted_; }},
     });
 }
 

@@ -19,7 +19,7 @@ class CellsTest : public DocumentTest {
 
 TEST_F(CellsTest, TellWhatIsWrongToTheLetter) {
     RecipeRecord& r = R();
-    document->Lines().Lines().InsertRowForGrid(r.gridTreatment);
+    document->Lines().InsertRowForGrid(r.gridTreatment);
     host.log.clear();
     struct Case {
         Grid& grid;
@@ -63,7 +63,7 @@ TEST_F(CellsTest, TellWhatIsWrongToTheLetter) {
     for (const Case& c : cases) {
         EXPECT_FALSE(Put(c.grid, 1, c.col, c.text)) << c.text;
         EXPECT_THAT(Boxes(), ElementsAre("[Invalid Entry] " + std::string(c.message))) << c.text;
-        EXPECT_FALSE(document->Cells().Cells().EditCell(c.grid, 1, c.col, c.text, Asking::Quietly)) << c.text;
+        EXPECT_FALSE(document->Cells().EditCell(c.grid, 1, c.col, c.text, Asking::Quietly)) << c.text;
         EXPECT_THAT(Boxes(), IsEmpty());
         EXPECT_EQ(Shown(), before) << c.text;
     }
@@ -209,12 +209,12 @@ TEST_F(CellsTest, EveryGridKnowsOtherNames) {
     EXPECT_EQ(R().gridPriming.Text(1, PrimingCol::Fermentable), "70");
     ASSERT_TRUE(Put(R().gridWater, WaterRow::Target, WaterCol::Profile, "other water"));
     EXPECT_EQ(R().gridWater.Text(WaterRow::Target, WaterCol::FirstIon), "11");
-    document->Lines().Lines().InsertRowForGrid(R().gridTreatment);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
     ASSERT_TRUE(Put(R().gridTreatment, 1, TreatmentCol::Name, "other salt"));
     EXPECT_EQ(R().gridTreatment.Number(1, TreatmentCol::FirstIon), 143);
     Put(R().gridGrain, 1, GrainCol::Amount, "10 lb");
     R().txtOG.SetValue(1.050);
-    document->Lines().Lines().InsertRowForGrid(R().gridLog);
+    document->Lines().InsertRowForGrid(R().gridLog);
     ASSERT_TRUE(Put(R().gridLog, 1, LogCol::Action, "Pitched Yeast"));
     ASSERT_TRUE(Put(R().gridLog, 1, LogCol::Notes, "a1 - a clean one"));
     EXPECT_EQ(R().txtFG.Text(), "1.010");
@@ -224,7 +224,7 @@ TEST_F(CellsTest, CatalogueNullsAreZeroInWatersAndSalts) {
     Put(R().gridWater, 2, WaterCol::Profile, "Burton");
     EXPECT_EQ(R().gridWater.Text(2, 6), "0");
     EXPECT_EQ(R().gridWater.Text(4, 2), "275");
-    document->Lines().Lines().InsertRowForGrid(R().gridTreatment);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
     Put(R().gridTreatment, 1, 1, "5");
     EXPECT_EQ(R().gridTreatment.Text(1, 2), "0");
     Put(R().gridTreatment, 1, 0, "Gypsum");
@@ -290,7 +290,7 @@ TEST_F(CellsTest, ADryHoppedTimeIsFreeTextOfNoValue) {
 }
 
 TEST_F(CellsTest, PitchedYeastSetsTheFinalGravity) {
-    document->Lines().Lines().InsertRowForGrid(R().gridLog);
+    document->Lines().InsertRowForGrid(R().gridLog);
     Set(R().txtFG, "1.020");
     Put(R().gridLog, 1, LogCol::Action, " pitched YEAST ");
     Put(R().gridLog, 1, LogCol::Notes, "Ale - two packs");
@@ -330,7 +330,7 @@ TEST_F(CellsTest, OffersTheListsOfTheCatalogue) {
     EXPECT_THAT(list(r.gridGrain, 1), IsEmpty());
     EXPECT_THAT(document->Cells().ListOf(r.gridGrain, 2, 0).entries, IsEmpty());  // the totals row
     for (Grid* grid : {&r.gridTreatment, &r.gridAdjuncts, &r.gridLog})
-        document->Lines().Lines().InsertRowForGrid(*grid);
+        document->Lines().InsertRowForGrid(*grid);
     EXPECT_THAT(list(r.gridTreatment, 0), ElementsAre("Chalk", "Gypsum"));
     EXPECT_THAT(
         list(r.gridAdjuncts, 2),
@@ -345,10 +345,10 @@ TEST_F(CellsTest, OffersTheListsOfTheCatalogue) {
 }
 
 TEST_F(CellsTest, ADayGoesIntoTheCurrentRowOfTheLog) {
-    document->Cells().Cells().PickLogDate({2024, 3, 9});
+    document->Cells().PickLogDate({2024, 3, 9});
     EXPECT_EQ(R().gridLog.DataRows(), 0);
-    document->Lines().Lines().InsertRowForGrid(R().gridLog);
-    document->Cells().Cells().PickLogDate({2024, 3, 9});
+    document->Lines().InsertRowForGrid(R().gridLog);
+    document->Cells().PickLogDate({2024, 3, 9});
     EXPECT_EQ(R().gridLog.Text(1, 0), "3/9/2024");
 }
 
@@ -365,7 +365,7 @@ TEST_F(CellsTest, AnArithmeticFaultRaisesAndLeavesTheRow) {
     Put(r.gridPriming, 1, PrimingCol::Sugar, "Honey");
     Put(r.gridPriming, 1, PrimingCol::Amount, "4");
     Put(r.gridPressure, 1, 0, "11");
-    document->Lines().Lines().InsertRowForGrid(r.gridTreatment);
+    document->Lines().InsertRowForGrid(r.gridTreatment);
     Put(r.gridTreatment, 1, 0, "Gypsum");
     Put(r.gridTreatment, 1, 1, "5");
     SaveAs("Sound");
@@ -398,7 +398,7 @@ TEST_F(CellsTest, AnAbsurdAttenuationRaisesAndLeavesTheGravity) {
     Put(R().gridGrain, 1, GrainCol::Name, "Pale Malt");
     Put(R().gridGrain, 1, GrainCol::Amount, "9");
     Set(R().txtFG, "1.010");
-    document->Lines().Lines().InsertRowForGrid(R().gridLog);
+    document->Lines().InsertRowForGrid(R().gridLog);
     Put(R().gridLog, 1, LogCol::Action, "Pitched Yeast");
     const Log before = Shown();
     EXPECT_THROW(Put(R().gridLog, 1, LogCol::Notes, "Monster"), Error);
@@ -418,9 +418,9 @@ TEST_F(CellsTest, AStoreErrorInALookUpRisesAndLeavesTheRow) {
 TEST_F(CellsTest, BlanksAloneAreTheEmptyTextWhereAQuantityBelongs) {
     RecipeRecord& r = R();
     Set(r.txtTemp, "68");
-    document->Lines().Lines().InsertRowForGrid(r.gridTreatment);
-    document->Lines().Lines().InsertRowForGrid(r.gridLog);
-    document->Lines().Lines().InsertRowForGrid(r.gridAdjuncts);
+    document->Lines().InsertRowForGrid(r.gridTreatment);
+    document->Lines().InsertRowForGrid(r.gridLog);
+    document->Lines().InsertRowForGrid(r.gridAdjuncts);
     struct Case {
         Grid& grid;
         int col;
@@ -468,7 +468,7 @@ TEST_F(CellsTest, BlanksInAnEmptyCellAreNoEdit) {
 TEST_F(CellsTest, TheYeastsNameIsTrimmedBehindTheCut) {
     Put(R().gridGrain, 1, GrainCol::Name, "Pale Malt");
     Put(R().gridGrain, 1, GrainCol::Amount, "9");
-    document->Lines().Lines().InsertRowForGrid(R().gridLog);
+    document->Lines().InsertRowForGrid(R().gridLog);
     Put(R().gridLog, 1, LogCol::Action, "Pitched Yeast");
     for (const char* notes : {"  Ale  -  top", "Ale", " Ale - "}) {
         Set(R().txtFG, "");

@@ -23,11 +23,11 @@ class ClipboardTest : public DocumentTest {
     }
 
     void Rows(Grid& grid, int rows) {
-        while (grid.DataRows() < rows) document->Lines().Lines().InsertRowForGrid(grid);
+        while (grid.DataRows() < rows) document->Lines().InsertRowForGrid(grid);
     }
     void Select(Grid& grid, GridRange range) {
         document->Focus().FocusOn(grid);
-        document->Focus().Focus().SelectCells(grid, range);
+        document->Focus().SelectCells(grid, range);
     }
     void Paste(Grid& grid, GridRange range, std::string text) {
         platform.clipboard.text = std::move(text);
@@ -213,7 +213,7 @@ TEST_F(ClipboardTest, AGridWithoutRowsTakesAndGivesNothing) {
 
 TEST_F(ClipboardTest, WithoutAControlNothingHappens) {
     platform.clipboard.text = "x";
-    document->Focus().Focus().FocusElsewhere();
+    document->Focus().FocusElsewhere();
     document->Edit().SelectAll();
     document->Edit().Copy();
     document->Edit().Cut();

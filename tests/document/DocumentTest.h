@@ -49,10 +49,10 @@ class DocumentTest : public testing::Test {
     // Types a text and leaves the box.
     bool Set(TextBox& box, std::string_view text, Asking asking = Asking::Aloud) {
         document->Fields().SetText(box, text);
-        return document->Fields().Fields().CommitField(box, asking);
+        return document->Fields().CommitField(box, asking);
     }
     bool Put(Grid& grid, int row, int col, std::string_view text) {
-        return document->Cells().Cells().EditCell(grid, row, col, text);
+        return document->Cells().EditCell(grid, row, col, text);
     }
     // Saves under a name; the recipe then stands in folder 0.
     void SaveAs(std::string_view name) {

@@ -88,11 +88,11 @@ TEST_F(FieldsTest, TellsWhatIsWrongToTheLetter) {
         // The text stays for the brewer to mend; nothing else has moved.
         EXPECT_EQ(c.box.Text(), c.text);
         EXPECT_EQ(c.box.Committed(), "");
-        document->Fields().Fields().RestoreField(c.box);
+        document->Fields().RestoreField(c.box);
         EXPECT_EQ(c.box.Text(), "");
         EXPECT_FALSE(Set(c.box, c.text, Asking::Quietly));
         EXPECT_THAT(Boxes(), IsEmpty());
-        document->Fields().Fields().RestoreField(c.box);
+        document->Fields().RestoreField(c.box);
     }
     EXPECT_FALSE(document->Changed());
     EXPECT_EQ(r.txtHopExtraction.Value(), 1);
@@ -185,7 +185,7 @@ TEST_F(FieldsTest, TypingAloneCommitsNothingInAValidatedBox) {
     document->Fields().SetText(R().txtTotalVol, "5");
     EXPECT_FALSE(document->Changed());
     EXPECT_EQ(R().txtTotalVol.Value(), 0);
-    document->Fields().Fields().RestoreField(R().txtTotalVol);
+    document->Fields().RestoreField(R().txtTotalVol);
     EXPECT_EQ(R().txtTotalVol.Text(), "");
 }
 
@@ -215,7 +215,7 @@ TEST_F(FieldsTest, ComputedBoxesTakeNoText) {
     New();
     for (TextBox* box : {&R().txtOG, &R().txtBG, &R().txtABV, &R().txtColor, &R().txtIBU, &R().txtCO2}) {
         document->Fields().SetText(*box, "9");
-        EXPECT_TRUE(document->Fields().Fields().CommitField(*box));
+        EXPECT_TRUE(document->Fields().CommitField(*box));
         EXPECT_EQ(box->Text(), "");
     }
     EXPECT_FALSE(document->Changed());
@@ -239,7 +239,7 @@ TEST_F(FieldsTest, ATemperatureThatTheKegCannotHaveIsRefused) {
     EXPECT_EQ(R().txtTemp.Value(), 38);
     EXPECT_EQ(R().txtTemp.Committed(), "38");
     EXPECT_EQ(R().txtTemp.Text(), "0");
-    document->Fields().Fields().RestoreField(R().txtTemp);
+    document->Fields().RestoreField(R().txtTemp);
     EXPECT_EQ(Shown(), before);
     EXPECT_FALSE(Set(R().txtTemp, "0", Asking::Quietly));
     EXPECT_THAT(Boxes(), IsEmpty());
@@ -257,7 +257,7 @@ TEST_F(FieldsTest, AnArithmeticFaultRaisesAndLeavesEverythingAsItWas) {
     Put(R().gridPriming, 1, PrimingCol::Amount, "4");
     Set(R().txtTemp, "68");
     Set(R().txtFG, "1.010");
-    document->Lines().Lines().InsertRowForGrid(R().gridTreatment);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
     Put(R().gridTreatment, 1, 0, "Gypsum");
     Put(R().gridTreatment, 1, 1, "5");
     SaveAs("Sound");
@@ -280,7 +280,7 @@ TEST_F(FieldsTest, AnArithmeticFaultRaisesAndLeavesEverythingAsItWas) {
         raises(*box, tiny, kOverflowNumber);
     // Below the smallest number: the text reads as zero, which a volume refuses with words.
     EXPECT_FALSE(Set(R().txtTotalVol, "0." + std::string(330, '0') + "1"));
-    document->Fields().Fields().RestoreField(R().txtTotalVol);
+    document->Fields().RestoreField(R().txtTotalVol);
     raises(R().txtFG, std::string(150, '9'), kOverflowNumber);
     raises(R().txtHopExtraction, std::string(308, '9'), kOverflowNumber);
     raises(R().txtTotalVol, std::string(400, '9'), kOverflowNumber);

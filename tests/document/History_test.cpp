@@ -24,9 +24,9 @@ class HistoryTest : public DocumentTest {
         Put(R().gridGrain, 1, GrainCol::Ppg, "36");
     }
     void PitchYeast() {
-        document->Lines().Lines().InsertRowForGrid(R().gridLog);
+        document->Lines().InsertRowForGrid(R().gridLog);
         Put(R().gridLog, 1, LogCol::Action, "Pitched Yeast");
-        document->Focus().Focus().SetCurrentCell(R().gridLog, 1, LogCol::Notes);
+        document->Focus().SetCurrentCell(R().gridLog, 1, LogCol::Notes);
         document->Picks().Take(CatalogueKind::Yeast, "Ale");
     }
     void ExpectUndoAndRedo(const std::string& before) {
@@ -124,11 +124,11 @@ TEST_F(HistoryTest, UndoWhileAWrongEntryStandsTakesTheEntryBack) {
 TEST_F(HistoryTest, EscapeIsAnAbortInAFieldAndTypingInFreeText) {
     Set(R().txtTemp, "68");
     document->Fields().SetText(R().txtTemp, "6");
-    document->Fields().Fields().RestoreField(R().txtTemp);
+    document->Fields().RestoreField(R().txtTemp);
     EXPECT_EQ(History().UndoType(), "Abort");
     Set(R().txtName, "A");
     document->Fields().SetText(R().txtName, "AB");
-    document->Fields().Fields().RestoreField(R().txtName);
+    document->Fields().RestoreField(R().txtName);
     EXPECT_EQ(R().txtName.Text(), "A");
     EXPECT_EQ(History().UndoType(), "Typing");
 }
@@ -147,10 +147,10 @@ TEST_F(HistoryTest, AStepShowsItsTab) {
 TEST_F(HistoryTest, ACellStepSelectsItsCellAndItsCommands) {
     host.appendRows = true;
     document->Focus().SetTab(Tab::Grains);
-    document->Lines().Lines().InsertRowForGrid(R().gridGrain);
-    document->Focus().Focus().SetCurrentCell(R().gridGrain, 2, GrainCol::Color);
+    document->Lines().InsertRowForGrid(R().gridGrain);
+    document->Focus().SetCurrentCell(R().gridGrain, 2, GrainCol::Color);
     Put(R().gridGrain, 2, GrainCol::Color, "4");
-    document->Focus().Focus().SetCurrentCell(R().gridGrain, 3, 0);
+    document->Focus().SetCurrentCell(R().gridGrain, 3, 0);
     ASSERT_FALSE(host.IsOn("EnableDelete"));
     ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridGrain.Selection(), (GridRange{2, GrainCol::Color, 2, GrainCol::Color}));
@@ -158,7 +158,7 @@ TEST_F(HistoryTest, ACellStepSelectsItsCellAndItsCommands) {
 }
 
 TEST_F(HistoryTest, TheFirstRowOfAnEmptyGridGoes) {
-    document->Lines().Lines().InsertRowForGrid(R().gridAdjuncts);
+    document->Lines().InsertRowForGrid(R().gridAdjuncts);
     ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridAdjuncts.DataRows(), 0);
     ASSERT_TRUE(document->Replay().Redo());
@@ -167,11 +167,11 @@ TEST_F(HistoryTest, TheFirstRowOfAnEmptyGridGoes) {
 
 TEST_F(HistoryTest, AnAppendedRowGoesWhateverTheSettingIsNow) {
     host.appendRows = true;
-    document->Lines().Lines().InsertRowForGrid(R().gridGrain);
+    document->Lines().InsertRowForGrid(R().gridGrain);
     Put(R().gridGrain, 1, 0, "A");
     Put(R().gridGrain, 2, 0, "B");
-    document->Focus().Focus().SetCurrentCell(R().gridGrain, 1, 0);
-    document->Lines().Lines().InsertRowForGrid(R().gridGrain);
+    document->Focus().SetCurrentCell(R().gridGrain, 1, 0);
+    document->Lines().InsertRowForGrid(R().gridGrain);
     host.appendRows = false;
     ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridGrain.Text(1, 0), "A");
@@ -183,22 +183,22 @@ TEST_F(HistoryTest, AnAppendedRowGoesWhateverTheSettingIsNow) {
 
 TEST_F(HistoryTest, TheLastRowDeletedComesBackBehindTheOthers) {
     host.appendRows = true;
-    document->Lines().Lines().InsertRowForGrid(R().gridPriming);
+    document->Lines().InsertRowForGrid(R().gridPriming);
     Put(R().gridPriming, 1, 0, "A");
     Put(R().gridPriming, 2, 0, "B");
     const std::string before = State();
-    document->Focus().Focus().SetCurrentCell(R().gridPriming, 2, 0);
-    document->Lines().Lines().DeleteRowForGrid(R().gridPriming);
+    document->Focus().SetCurrentCell(R().gridPriming, 2, 0);
+    document->Lines().DeleteRowForGrid(R().gridPriming);
     EXPECT_EQ(R().gridPriming.Text(2, 0), "Residual");
     ExpectUndoAndRedo(before);
 }
 
 TEST_F(HistoryTest, AStyleGoesWithItsWater) {
     Put(R().gridWater, WaterRow::Source, WaterCol::Profile, "Soft");
-    document->Style().Style().ChangeStyle("Stout");
-    document->Style().Style().ChangeStyle("Half Open");
+    document->Style().ChangeStyle("Stout");
+    document->Style().ChangeStyle("Half Open");
     const std::string before = State();
-    document->Style().Style().ChangeStyle("(None)");
+    document->Style().ChangeStyle("(None)");
     EXPECT_EQ(R().gridWater.Text(WaterRow::Target, WaterCol::Profile), "");
     EXPECT_EQ(History().StackTop(), 4U);
     ExpectUndoAndRedo(before);
@@ -215,8 +215,8 @@ TEST_F(HistoryTest, EveryNameFromTheCatalogueIsOneSelection) {
         const char* name;
         CatalogueKind list;
     };
-    document->Lines().Lines().InsertRowForGrid(R().gridTreatment);
-    document->Lines().Lines().InsertRowForGrid(R().gridLog);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
+    document->Lines().InsertRowForGrid(R().gridLog);
     const Choice choices[] = {{R().gridGrain, 0, "O'Brien's", CatalogueKind::Grain},
                               {R().gridExtract, 0, "Syrup", CatalogueKind::Extract},
                               {R().gridHops, 0, "Zeus", CatalogueKind::Hop},
@@ -225,7 +225,7 @@ TEST_F(HistoryTest, EveryNameFromTheCatalogueIsOneSelection) {
                               {R().gridTreatment, 0, "Gypsum", CatalogueKind::Salt},
                               {R().gridPriming, 0, "Honey", CatalogueKind::Sugar}};
     for (const Choice& choice : choices) {
-        document->Focus().Focus().SetCurrentCell(choice.grid, 1, 0);
+        document->Focus().SetCurrentCell(choice.grid, 1, 0);
         const std::size_t steps = History().StackTop();
         const std::string before = State();
         document->Picks().Take(choice.list, choice.name);
@@ -239,10 +239,10 @@ TEST_F(HistoryTest, EveryNameFromTheCatalogueIsOneSelection) {
 }
 
 TEST_F(HistoryTest, ADayOfTheCalendarIsOneSelection) {
-    document->Cells().Cells().PickLogDate({2024, 3, 9});
+    document->Cells().PickLogDate({2024, 3, 9});
     EXPECT_FALSE(History().CanUndo());
-    document->Lines().Lines().InsertRowForGrid(R().gridLog);
-    document->Cells().Cells().PickLogDate({2024, 3, 9});
+    document->Lines().InsertRowForGrid(R().gridLog);
+    document->Cells().PickLogDate({2024, 3, 9});
     EXPECT_EQ(R().gridLog.Text(1, LogCol::Date), "3/9/2024");
     EXPECT_EQ(History().UndoType(), "Selection");
     ASSERT_TRUE(document->Replay().Undo());
@@ -287,7 +287,7 @@ TEST_F(HistoryTest, AnEscapeKeepsTheGravityOfAYeast) {
     const std::string before = State();
     document->Focus().FocusOn(R().txtFG);
     document->Fields().SetText(R().txtFG, "1.02");
-    document->Fields().Fields().RestoreField(R().txtFG);
+    document->Fields().RestoreField(R().txtFG);
     EXPECT_EQ(Differences(before, State()), "");
     ASSERT_TRUE(document->Replay().Undo());
     ASSERT_TRUE(document->Replay().Redo());
@@ -308,8 +308,8 @@ TEST_F(HistoryTest, TheTimeOfDryHopsKeepsItsNumber) {
 // A recipe from elsewhere may hold another number than its text tells.
 TEST_F(HistoryTest, ADeletedRowComesBackWithItsStoredNumbers) {
     host.appendRows = true;
-    document->Lines().Lines().InsertRowForGrid(R().gridGrain);
-    document->Lines().Lines().InsertRowForGrid(R().gridTreatment);
+    document->Lines().InsertRowForGrid(R().gridGrain);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
     Put(R().gridGrain, 1, GrainCol::Amount, "8 lb");
     Put(R().gridGrain, 1, GrainCol::Ppg, "36");
     Put(R().gridGrain, 1, GrainCol::Color, "2");
@@ -320,13 +320,13 @@ TEST_F(HistoryTest, ADeletedRowComesBackWithItsStoredNumbers) {
     Open("Odd");
     ASSERT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 9);
     const std::string before = State();
-    document->Focus().Focus().SetCurrentCell(R().gridGrain, 1, 0);
-    document->Lines().Lines().DeleteRowForGrid(R().gridGrain);
+    document->Focus().SetCurrentCell(R().gridGrain, 1, 0);
+    document->Lines().DeleteRowForGrid(R().gridGrain);
     ExpectUndoAndRedo(before);
     ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 9);
-    document->Focus().Focus().SetCurrentCell(R().gridTreatment, 1, 0);
-    document->Lines().Lines().DeleteRowForGrid(R().gridTreatment);
+    document->Focus().SetCurrentCell(R().gridTreatment, 1, 0);
+    document->Lines().DeleteRowForGrid(R().gridTreatment);
     ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().gridTreatment.Number(1, TreatmentCol::FirstIon), 20);
 }
@@ -346,7 +346,7 @@ TEST_F(HistoryTest, AStepMarksTheDocumentChanged) {
 
 TEST_F(HistoryTest, ACommandThatChangesNothingIsNoStep) {
     Grid& grain = R().gridGrain;
-    document->Lines().Lines().InsertRowForGrid(R().gridLog);
+    document->Lines().InsertRowForGrid(R().gridLog);
     Put(R().gridLog, 1, LogCol::Date, "3/9/2024");
     Put(grain, 1, GrainCol::Name, "Pale Malt");
     Put(grain, 1, GrainCol::Amount, "8");
@@ -358,13 +358,13 @@ TEST_F(HistoryTest, ACommandThatChangesNothingIsNoStep) {
         [&] { document->Edit().Clear(); },
         [&] { document->Edit().Cut(); },
         [&] {
-            document->Focus().Focus().SetCurrentCell(grain, 1, GrainCol::Amount);
+            document->Focus().SetCurrentCell(grain, 1, GrainCol::Amount);
             platform.clipboard.text = "8";
             document->Edit().Paste();
         },
         [&] { document->Picks().Take(CatalogueKind::Grain, "Pale Malt"); },
         [&] {
-            document->Cells().Cells().PickLogDate({2024, 3, 9});
+            document->Cells().PickLogDate({2024, 3, 9});
         },
         [&] {
             document->Focus().FocusOn(R().txtNotes);
@@ -374,7 +374,7 @@ TEST_F(HistoryTest, ACommandThatChangesNothingIsNoStep) {
     };
     for (const auto& command : commands) {
         document->Focus().FocusOn(grain);
-        document->Focus().Focus().SetCurrentCell(grain, 1, GrainCol::Points);
+        document->Focus().SetCurrentCell(grain, 1, GrainCol::Points);
         command();
         EXPECT_FALSE(History().CanUndo());
         EXPECT_FALSE(host.IsOn("EnableUndo"));
@@ -426,7 +426,7 @@ TEST_F(HistoryTest, TakingBackAnEntryThatWasNotLeftIsNoChange) {
     }
     // A refused entry that comes back is none either.
     document->Fields().SetText(R().txtBoilVol, "much");
-    document->Fields().Fields().RestoreField(R().txtBoilVol);
+    document->Fields().RestoreField(R().txtBoilVol);
     ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().txtBoilVol.Text(), "much");
     ASSERT_TRUE(document->Replay().Redo());
@@ -440,16 +440,16 @@ TEST_F(HistoryTest, EveryStepThatMovesTheRecipeMarksIt) {
         [&] { Set(R().txtBoilVol, "6"); },
         [&] { document->Fields().SetText(R().txtNotes, "x"); },
         [&] { document->Options().Choose("optRager"); },
-        [&] { document->Style().Style().ChangeStyle("Lager"); },
+        [&] { document->Style().ChangeStyle("Lager"); },
         [&] { Put(grain, 1, GrainCol::Amount, "8"); },
         [&] { document->Cells().SetChecked(R().gridHops, 1, HopCol::DryHopped, true); },
-        [&] { document->Lines().Lines().InsertRowForGrid(grain); },
+        [&] { document->Lines().InsertRowForGrid(grain); },
         [&] {
             // The blank row stands first already; the second click turns the order round.
-            document->Lines().Lines().ClickHeader(grain, GrainCol::Amount);
-            document->Lines().Lines().ClickHeader(grain, GrainCol::Amount);
+            document->Lines().ClickHeader(grain, GrainCol::Amount);
+            document->Lines().ClickHeader(grain, GrainCol::Amount);
         },
-        [&] { document->Lines().Lines().DeleteRowForGrid(grain); },
+        [&] { document->Lines().DeleteRowForGrid(grain); },
     };
     for (const auto& edit : edits) {
         SaveAs("A");
@@ -467,7 +467,7 @@ TEST_F(HistoryTest, EveryStepThatMovesTheRecipeMarksIt) {
 TEST_F(HistoryTest, AStyleThatIsGoneDoesNotComeBack) {
     document->Style().SetId(kLager);
     SaveAs("A");
-    document->Style().Style().ChangeStyle("(None)");
+    document->Style().ChangeStyle("(None)");
     ASSERT_TRUE(document->Replay().Undo());
     EXPECT_EQ(R().cmbStyle.Text(), "Lager");
     ASSERT_TRUE(document->Replay().Redo());

@@ -112,14 +112,14 @@ void ModelTest::EditField() {
     const Outcome got =
         OutcomeOf([&] { return Set(box, text, Below(2) == 0 ? Asking::Quietly : Asking::Aloud); });
     ASSERT_EQ(got, wanted) << last_;
-    if (got == Outcome::Refused) document->Fields().Fields().RestoreField(box);
+    if (got == Outcome::Refused) document->Fields().RestoreField(box);
 }
 
 void ModelTest::EditText(Grid& grid, int row, int col, const std::string& text) {
     last_ = grid.Name() + " " + std::to_string(row) + "," + std::to_string(col) + " <- " + text;
     const Outcome wanted = plain_.Edit(grid.Name(), row - 1, col, text);
     const Outcome got = OutcomeOf([&] {
-        return document->Cells().Cells().EditCell(grid, row, col, text,
+        return document->Cells().EditCell(grid, row, col, text,
                                           Below(2) == 0 ? Asking::Quietly : Asking::Aloud);
     });
     ASSERT_EQ(got, wanted) << last_;
@@ -193,16 +193,16 @@ void ModelTest::EditRows() {
         const int row = Below(grid.DataRows() + 1);
         last_ = "insert " + grid.Name() + " " + std::to_string(row);
         host.appendRows = row == grid.DataRows();
-        document->Focus().Focus().SetCurrentCell(grid, host.appendRows ? 1 : 1 + row, 0);
-        document->Lines().Lines().InsertRowForGrid(grid);
+        document->Focus().SetCurrentCell(grid, host.appendRows ? 1 : 1 + row, 0);
+        document->Lines().InsertRowForGrid(grid);
         plain_.InsertRow(grid.Name(), row);
     } else if (grid.DataRows() > grid.LeastDataRows()) {
         const int row = Below(grid.DataRows());
         last_ = "delete " + grid.Name() + " " + std::to_string(row);
-        document->Focus().Focus().SetCurrentCell(grid, 1 + row, 0);
+        document->Focus().SetCurrentCell(grid, 1 + row, 0);
         const Outcome wanted = plain_.DeleteRow(grid.Name(), row);
         ASSERT_EQ(OutcomeOf([&] {
-                      document->Lines().Lines().DeleteRowForGrid(grid);
+                      document->Lines().DeleteRowForGrid(grid);
                       return true;
                   }),
                   wanted)
@@ -214,7 +214,7 @@ void ModelTest::SaveAndOpen() {
     last_ = "save and open";
     const std::string name = "Model's " + std::to_string(Below(3));
     document->Fields().SetText(R().txtName, name);
-    document->Fields().Fields().CommitField(R().txtName);
+    document->Fields().CommitField(R().txtName);
     plain_.Commit("txtName", name);
     ASSERT_TRUE(document->Storage().Save(SaveAs::No, Asking::Quietly));
     plain_.changed = false;

@@ -19,7 +19,7 @@ class OpeningTest : public DocumentTest {
         host.appendRows = true;
         New();
         RecipeRecord& r = R();
-        document->Style().Style().ChangeStyle("Stout");
+        document->Style().ChangeStyle("Stout");
         Set(r.txtNumBatches, "2 or 3");
         Set(r.txtNotes, "line 1\r\nit's \"line\" 2\t%_?*[x]; DROP TABLE RECIPES;--\\ ä漢");
         Set(r.txtFinalVol, "5 1/2 gal");
@@ -27,9 +27,9 @@ class OpeningTest : public DocumentTest {
         Set(r.txtFG, "3 P");
         Set(r.txtTemp, "20 C");
         for (Grid* grid : {&r.gridGrain, &r.gridExtract, &r.gridHops, &r.gridPriming})
-            document->Lines().Lines().InsertRowForGrid(*grid);
+            document->Lines().InsertRowForGrid(*grid);
         for (Grid* grid : {&r.gridTreatment, &r.gridAdjuncts, &r.gridLog})
-            for (int i = 0; i < 2; ++i) document->Lines().Lines().InsertRowForGrid(*grid);
+            for (int i = 0; i < 2; ++i) document->Lines().InsertRowForGrid(*grid);
         for (Grid* grid : {&r.gridGrain, &r.gridExtract}) {
             Put(*grid, 1, 0, "O'Brien's");
             Put(*grid, 1, 1, "2 lb 3 oz");

@@ -14,9 +14,9 @@ class PickerTest : public DocumentTest {
     PickerTest() { New(); }
     // What the brewer is asked when the cell is browsed; "nothing" when there is no catalogue for it.
     std::string Browse(Grid& grid, int row, int col) {
-        document->Focus().Focus().SetCurrentCell(grid, row, col);
+        document->Focus().SetCurrentCell(grid, row, col);
         host.log.clear();
-        const bool asked = document->Picks().Picks().BrowseCell(grid);
+        const bool asked = document->Picks().BrowseCell(grid);
         const Log log = host.TakeLog();
         EXPECT_EQ(asked, !log.empty());
         return log.empty() ? "nothing" : log.front();
@@ -25,7 +25,7 @@ class PickerTest : public DocumentTest {
 
 TEST_F(PickerTest, ANameIsLookedForInTheCatalogueOfItsGrid) {
     RecipeRecord& r = R();
-    document->Lines().Lines().InsertRowForGrid(r.gridTreatment);
+    document->Lines().InsertRowForGrid(r.gridTreatment);
     Put(r.gridGrain, 1, 0, " Pale Malt ");
     EXPECT_EQ(Browse(r.gridGrain, 1, GrainCol::Name), "Pick 1 'Pale Malt'");
     EXPECT_EQ(Browse(r.gridExtract, 1, GrainCol::Name), "Pick 2 ''");
@@ -38,7 +38,7 @@ TEST_F(PickerTest, ANameIsLookedForInTheCatalogueOfItsGrid) {
 
 TEST_F(PickerTest, ACellWithoutACatalogueAsksNothing) {
     RecipeRecord& r = R();
-    document->Lines().Lines().InsertRowForGrid(r.gridAdjuncts);
+    document->Lines().InsertRowForGrid(r.gridAdjuncts);
     EXPECT_EQ(Browse(r.gridGrain, 1, GrainCol::Ppg), "nothing");
     EXPECT_EQ(Browse(r.gridGrain, 2, GrainCol::Name), "nothing");
     EXPECT_EQ(Browse(r.gridWater, 1, 0), "nothing");
@@ -49,7 +49,7 @@ TEST_F(PickerTest, ACellWithoutACatalogueAsksNothing) {
 
 TEST_F(PickerTest, TheYeastOfAPitchedRowStandsBeforeItsDescription) {
     RecipeRecord& r = R();
-    document->Lines().Lines().InsertRowForGrid(r.gridLog);
+    document->Lines().InsertRowForGrid(r.gridLog);
     Put(r.gridLog, 1, LogCol::Notes, "Ale Yeast - clean - and dry");
     EXPECT_EQ(Browse(r.gridLog, 1, LogCol::Notes), "nothing");
     Put(r.gridLog, 1, LogCol::Action, "pitched yeast");
@@ -60,28 +60,28 @@ TEST_F(PickerTest, TheYeastOfAPitchedRowStandsBeforeItsDescription) {
 }
 
 TEST_F(PickerTest, SeveralSelectedCellsAskNothing) {
-    document->Lines().Lines().InsertRowForGrid(R().gridGrain);
-    document->Focus().Focus().SelectCells(R().gridGrain, {1, 0, 2, 0});
+    document->Lines().InsertRowForGrid(R().gridGrain);
+    document->Focus().SelectCells(R().gridGrain, {1, 0, 2, 0});
     host.log.clear();
-    EXPECT_FALSE(document->Picks().Picks().BrowseCell(R().gridGrain));
+    EXPECT_FALSE(document->Picks().BrowseCell(R().gridGrain));
     EXPECT_THAT(host.log, IsEmpty());
 }
 
 TEST_F(PickerTest, TheStyleIsLookedForByItsName) {
-    document->Style().Style().ChangeStyle("Stout");
+    document->Style().ChangeStyle("Stout");
     host.log.clear();
-    document->Picks().Picks().BrowseStyles();
+    document->Picks().BrowseStyles();
     EXPECT_THAT(host.log, ElementsAre("Pick 0 'Stout'"));
 }
 
 TEST_F(PickerTest, AChoiceGoesWhereItsListSays) {
     RecipeRecord& r = R();
-    document->Lines().Lines().InsertRowForGrid(r.gridTreatment);
-    document->Lines().Lines().InsertRowForGrid(r.gridLog);
-    document->Focus().Focus().SetCurrentCell(r.gridWater, 2, WaterCol::Profile);
-    const char* const names[kPickLists] = {"Stout", "grain", "extract", "hop",
-                                           "yeast", "water", "salt",    "sugar"};
-    for (int list = 0; list < kPickLists; ++list)
+    document->Lines().InsertRowForGrid(r.gridTreatment);
+    document->Lines().InsertRowForGrid(r.gridLog);
+    document->Focus().SetCurrentCell(r.gridWater, 2, WaterCol::Profile);
+    const char* const names[kCatalogueKinds] = {"Stout", "grain", "extract", "hop",
+                                                "yeast", "water", "salt",    "sugar"};
+    for (int list = 0; list < kCatalogueKinds; ++list)
         document->Picks().Take(static_cast<CatalogueKind>(list), names[list]);
     EXPECT_EQ(document->BeerStyle(), "Stout");
     EXPECT_EQ(r.gridGrain.Text(1, GrainCol::Name), "grain");

@@ -107,7 +107,7 @@ void RandomEditor::CheckHistory() {
     ASSERT_EQ(host.IsOn("EnableRedo"), history_.CanRedo()) << Trace();
     ASSERT_EQ(host.undoName, history_.UndoType()) << Trace();
     ASSERT_EQ(host.redoName, history_.RedoType()) << Trace();
-    const Grid* const grid = document->Focus().Focus().GridOfTab(document->Focus().CurrentTab());
+    const Grid* const grid = document->Focus().GridOfTab(document->Focus().CurrentTab());
     ASSERT_EQ(host.IsOn("EnableInsert"), grid && document->Focus().CanInsertRow(*grid)) << Trace();
     ASSERT_EQ(host.IsOn("EnableDelete"), grid && document->Focus().CanDeleteRow(*grid)) << Trace();
     ASSERT_EQ(host.IsOn("EnableSave"), document->Changed()) << Trace();
@@ -170,7 +170,7 @@ void RandomEditor::RedoAll() {
 
 void RandomEditor::SaveAndStartAgain() {
     Note("save");
-    if (!Leave([&] { document->Focus().Focus().FocusElsewhere(); })) return;
+    if (!Leave([&] { document->Focus().FocusElsewhere(); })) return;
     ASSERT_TRUE(document->Storage().Save(SaveAs::No, Asking::Quietly));
     ASSERT_FALSE(document->Replay().Undo());
     ASSERT_FALSE(document->Replay().Redo());
@@ -223,7 +223,7 @@ void RandomEditor::Key(TextBox& box, const std::string& text) {
     // Typed back to where the step began: committed, it is all as it was then. Only a gravity that came from
     // a yeast was finer than its text.
     if (history_.Now().open) return;
-    document->Fields().Fields().CommitField(box, Asking::Quietly);
+    document->Fields().CommitField(box, Asking::Quietly);
     if (&box == &R().txtFG) history_.SetPoint({history_.Now().state, true});
     CheckPoint("typed back");
 }
@@ -249,7 +249,7 @@ void RandomEditor::Escape(TextBox& box) {
     const bool free = box.Name() == "txtName" || box.Name() == "txtNumBatches" || box.Name() == "txtNotes";
     const std::string old = box.Text(), committed = box.Committed();
     Note("   escape " + box.Name());
-    document->Fields().Fields().RestoreField(box);
+    document->Fields().RestoreField(box);
     if (box.Computed() || old == committed) return;
     ASSERT_EQ(box.Text(), committed);
     if (!free)
@@ -269,7 +269,7 @@ void RandomEditor::TypeInBox() {
             // Staying in a box commits nothing.
             document->Focus().FocusOn(box);
             if (PendingBox(*document) == &box)
-                document->Fields().Fields().CommitField(box) || (document->Fields().Fields().RestoreField(box), true);
+                document->Fields().CommitField(box) || (document->Fields().RestoreField(box), true);
         }))
         return;
     TypeKeys(box, text);
@@ -277,7 +277,7 @@ void RandomEditor::TypeInBox() {
     if (Chance(15)) return Escape(box);
     Note("   left");
     Leave([&] {
-        if (!document->Fields().Fields().CommitField(box)) document->Fields().Fields().RestoreField(box);
+        if (!document->Fields().CommitField(box)) document->Fields().RestoreField(box);
     });
 }
 
@@ -308,12 +308,12 @@ void RandomEditor::EditCell() {
     const std::string& text = TextFor(grid, col);
     Note(grid.Name() + " " + std::to_string(row) + "," + std::to_string(col) + " <- " + text);
     if (!Enter(grid)) return;
-    if (Chance(70)) document->Focus().Focus().SetCurrentCell(grid, row, col);
+    if (Chance(70)) document->Focus().SetCurrentCell(grid, row, col);
     const DocumentState before = StateOf(*document, host);
     const std::string old = grid.Text(row, col);
     bool done = false;
     const bool fault = Faults([&] {
-        done = document->Cells().Cells().EditCell(grid, row, col, text, Chance(50) ? Asking::Quietly : Asking::Aloud);
+        done = document->Cells().EditCell(grid, row, col, text, Chance(50) ? Asking::Quietly : Asking::Aloud);
     });
     if (fault || !done || grid.Text(row, col) == old)
         ASSERT_EQ(Differences(before.all, StateOf(*document, host).all), "") << Trace();
@@ -340,7 +340,7 @@ void RandomEditor::ChooseOptionOrStyle() {
     static constexpr const char* kOptions[] = {"optTinseth", "optRager", "optGaretz", "optBottle", "optKeg"};
     static constexpr const char* kStyles[] = {"stout ",    "Lager",  "Odd Water",
                                               "Half Open", "(None)", "Nothing"};
-    if (!Leave([&] { document->Focus().Focus().FocusElsewhere(); })) return;
+    if (!Leave([&] { document->Focus().FocusElsewhere(); })) return;
     const std::int64_t style = document->StyleID();
     const std::string options = R().grpIBUMethod.Value() + R().grpPkgMethod.Value();
     const std::string option = kOptions[Below(5)], name = kStyles[Below(6)];
@@ -348,7 +348,7 @@ void RandomEditor::ChooseOptionOrStyle() {
     Note(which == 0 ? option : "style " + name);
     const bool fault = Faults([&] {
         if (which == 0) document->Options().Choose(option);
-        if (which == 1) document->Style().Style().ChangeStyle(name);
+        if (which == 1) document->Style().ChangeStyle(name);
         if (which == 2) document->Style().Select(Below(5));
     });
     const bool changed =
@@ -363,13 +363,13 @@ void RandomEditor::ChangeRows() {
     Grid& grid = AnyGrid();
     if (!Enter(grid)) return;
     host.appendRows = Chance(40);
-    document->Focus().Focus().SetCurrentCell(grid, Below(grid.Rows() + 1), Below(grid.Cols()));
+    document->Focus().SetCurrentCell(grid, Below(grid.Rows() + 1), Below(grid.Cols()));
     const std::string place = grid.Name() + " " + std::to_string(grid.CurrentRow());
     const int rows = grid.Rows();
     const int row = grid.CurrentRow();
     if (Chance(55) && grid.DataRows() < kMostRows) {
         Note("insert " + place + (host.appendRows ? " append" : ""));
-        document->Lines().Lines().InsertRowForGrid(grid);
+        document->Lines().InsertRowForGrid(grid);
         ASSERT_EQ(grid.Rows(), rows + (grid.RowsCanChange() ? 1 : 0)) << Trace();
         if (grid.RowsCanChange()) Recorded({"Insert Row", TabNow()});
         return;
@@ -377,7 +377,7 @@ void RandomEditor::ChangeRows() {
     Note("delete " + place);
     const bool can = grid.RowsCanChange() && grid.IsDataRow(row) && grid.DataRows() > grid.LeastDataRows();
     const DocumentState before = StateOf(*document, host);
-    const bool fault = Faults([&] { document->Lines().Lines().DeleteRowForGrid(grid); });
+    const bool fault = Faults([&] { document->Lines().DeleteRowForGrid(grid); });
     if (fault || !can)
         ASSERT_EQ(Differences(before.all, StateOf(*document, host).all), "") << Trace();
     else
@@ -390,7 +390,7 @@ void RandomEditor::SortRows() {
     Note("sort " + grid.Name() + " " + std::to_string(col));
     if (!Enter(grid)) return;
     const DocumentState before = StateOf(*document, host);
-    document->Lines().Lines().ClickHeader(grid, col);
+    document->Lines().ClickHeader(grid, col);
     if (before == StateOf(*document, host)) return;
     ASSERT_TRUE(grid.RowsCanChange());
     Recorded({"Sort", TabNow(), {}, {}, grid.Name(), {1, col, 1, col}});
@@ -406,7 +406,7 @@ void RandomEditor::MoveAbout() {
     Grid& grid = AnyGrid();
     Note("select in " + grid.Name());
     if (!Enter(grid)) return;
-    document->Focus().Focus().SelectCells(
+    document->Focus().SelectCells(
         grid, {Below(grid.Rows()), Below(grid.Cols()), Below(grid.Rows()), Below(grid.Cols())});
 }
 

@@ -24,7 +24,7 @@ void RandomEditor::ClearOrCutCells() {
     if (Chance(15))
         document->Edit().SelectAll();
     else
-        document->Focus().Focus().SelectCells(grid, range);
+        document->Focus().SelectCells(grid, range);
     const bool cut = Chance(50);
     Note((cut ? "cut " : "clear ") + grid.Name());
     if (grid.Rows() == Grid::FixedRows()) {
@@ -51,7 +51,7 @@ std::string RandomEditor::Block(const Grid& grid, int col, int rows, int cols) {
 void RandomEditor::PasteCells() {
     Grid& grid = AnyGrid();
     if (!Enter(grid)) return;
-    document->Focus().Focus().SelectCells(
+    document->Focus().SelectCells(
         grid, {Below(grid.Rows()), Below(grid.Cols()), Below(grid.Rows()), Below(grid.Cols())});
     const GridRange selection = grid.Selection();
     const int height = 1 + Below(3), width = 1 + Below(3);
@@ -108,7 +108,7 @@ void RandomEditor::PickDate() {
     Note("date");
     if (!Enter(log)) return;
     const DocumentState before = StateOf(*document, host);
-    document->Cells().Cells().PickLogDate({2024, 1 + Below(12), 1 + Below(28), 0, 0, 0});
+    document->Cells().PickLogDate({2024, 1 + Below(12), 1 + Below(28), 0, 0, 0});
     RecordedIfChanged(before, {"Selection", TabNow()});
 }
 

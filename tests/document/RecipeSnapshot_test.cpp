@@ -43,7 +43,7 @@ class SnapshotTest : public DocumentTest {
         document->Focus().SetTab(Tab::Log);
         document->Lines().InsertRow();
         Put(R().gridLog, 1, 2, "pitched");
-        document->Style().Style().ChangeStyle("Stout");
+        document->Style().ChangeStyle("Stout");
         document->Options().Choose("optGaretz");
         document->Options().Choose("optKeg");
         ASSERT_TRUE(document->Storage().SaveUnder("Fill", 4, Asking::Quietly));
@@ -257,16 +257,16 @@ class RandomSnapshots : public SnapshotTest, public testing::WithParamInterface<
             case 0: {
                 TextBox& box = *R().TextBoxes()[static_cast<std::size_t>(
                     Below(static_cast<int>(R().TextBoxes().size())))];
-                if (!Set(box, AnyText(), Asking::Quietly)) document->Fields().Fields().RestoreField(box);
+                if (!Set(box, AnyText(), Asking::Quietly)) document->Fields().RestoreField(box);
                 break;
             }
             case 1:
-                document->Focus().Focus().SetCurrentCell(grid, row, col);
-                document->Lines().Lines().InsertRowForGrid(grid);
+                document->Focus().SetCurrentCell(grid, row, col);
+                document->Lines().InsertRowForGrid(grid);
                 break;
             case 2:
-                document->Focus().Focus().SetCurrentCell(grid, row, col);
-                if (Below(3) == 0) document->Lines().Lines().DeleteRowForGrid(grid);
+                document->Focus().SetCurrentCell(grid, row, col);
+                if (Below(3) == 0) document->Lines().DeleteRowForGrid(grid);
                 break;
             case 3:
                 document->Cells().SetChecked(grid, row, col, Below(2) == 0);
@@ -279,7 +279,7 @@ class RandomSnapshots : public SnapshotTest, public testing::WithParamInterface<
                                                        "optKeg"}[static_cast<std::size_t>(Below(5))]);
                 break;
             default:
-                document->Cells().Cells().EditCell(grid, row, col, AnyText(), Asking::Quietly);
+                document->Cells().EditCell(grid, row, col, AnyText(), Asking::Quietly);
         }
     }
     std::mt19937 random_{GetParam()};

@@ -21,7 +21,7 @@ class SavingTest : public DocumentTest {
         New();
         Put(R().gridGrain, 1, 0, "Pale Malt");
         Put(R().gridGrain, 1, 1, "8 lb");
-        document->Lines().Lines().InsertRowForGrid(R().gridLog);
+        document->Lines().InsertRowForGrid(R().gridLog);
         Put(R().gridLog, 1, 2, "note");
     }
     void Rename(std::string_view name) { document->Fields().SetText(R().txtName, name); }
@@ -170,7 +170,7 @@ TEST_F(SavingTest, ASilentSaveAsksNothing) {
 
 TEST_F(SavingTest, OrphanedLinesNeverComeToANewRecipe) {
     NewWithLines();
-    document->Lines().Lines().InsertRowForGrid(R().gridTreatment);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
     Put(R().gridTreatment, 1, 0, "Gypsum");
     Rename("A");
     Save();
@@ -207,9 +207,9 @@ TEST_F(SavingTest, AFailureAnywhereLosesNothingOfTheDocument) {
         ownHost.active = &own;
         bool ok = false;
         ok = own.Storage().SaveUnder("Old", 0, Asking::Quietly);
-        own.Cells().Cells().EditCell(own.Record().gridGrain, 1, 1, "8 lb");
-        own.Lines().Lines().InsertRowForGrid(own.Record().gridLog);
-        own.Cells().Cells().EditCell(own.Record().gridLog, 1, 2, "note");
+        own.Cells().EditCell(own.Record().gridGrain, 1, 1, "8 lb");
+        own.Lines().InsertRowForGrid(own.Record().gridLog);
+        own.Cells().EditCell(own.Record().gridLog, 1, 2, "note");
         own.Fields().SetText(own.Record().txtName, "New");
         int count = 0;
         bool failed = false;

@@ -35,7 +35,7 @@ class RandomScaling : public DocumentTest, public testing::WithParamInterface<un
             TextBox& box = *R().FindTextBox(name);
             const bool done = Set(box, text, Asking::Quietly);
             ASSERT_EQ(done, outcome == Outcome::Done);
-            if (!done) document->Fields().Fields().RestoreField(box);
+            if (!done) document->Fields().RestoreField(box);
         } catch (const Error&) {
             ASSERT_EQ(outcome, Outcome::Raised) << name << text;
         }
@@ -47,7 +47,7 @@ class RandomScaling : public DocumentTest, public testing::WithParamInterface<un
     void Edit(Grid& grid, int row, int col, const std::string& text) {
         const Outcome outcome = plain_.Edit(grid.Name(), row - 1, col, text);
         try {
-            ASSERT_EQ(document->Cells().Cells().EditCell(grid, row, col, text, Asking::Quietly),
+            ASSERT_EQ(document->Cells().EditCell(grid, row, col, text, Asking::Quietly),
                       outcome == Outcome::Done);
         } catch (const Error&) {
             ASSERT_EQ(outcome, Outcome::Raised);
@@ -57,8 +57,8 @@ class RandomScaling : public DocumentTest, public testing::WithParamInterface<un
         for (Grid* grid :
              {&R().gridGrain, &R().gridExtract, &R().gridHops, &R().gridTreatment, &R().gridPriming}) {
             if (grid->DataRows() > 3) continue;
-            document->Focus().Focus().SetCurrentCell(*grid, 1, 0);
-            document->Lines().Lines().InsertRowForGrid(*grid);
+            document->Focus().SetCurrentCell(*grid, 1, 0);
+            document->Lines().InsertRowForGrid(*grid);
             plain_.InsertRow(grid->Name(), 0);
         }
     }
@@ -117,11 +117,11 @@ void RandomScaling::ScaleDocument(int what, double value, bool first, bool secon
     // The question about the carbonation.
     platform.messages.answers = {Answer::No};
     if (what == 0)
-        document->Scaling().Scaling().ScaleRecipe(value, "size " + std::to_string(value), first, second);
+        document->Scaling().ScaleRecipe(value, "size " + std::to_string(value), first, second);
     else if (what == 1)
-        document->Scaling().Scaling().ScaleOG(value, first);
+        document->Scaling().ScaleOG(value, first);
     else if (what == 2)
-        document->Scaling().Scaling().ScaleIBU(value);
+        document->Scaling().ScaleIBU(value);
     else
         document->Scaling().ScaleCO2(value, Below(2) == 0 ? Asking::Quietly : Asking::Aloud);
 }

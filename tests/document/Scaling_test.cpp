@@ -53,9 +53,9 @@ TEST_F(Scaling, WithoutAYesNothingHappens) {
     SaveAs("As It Was");
     const DocumentState before = State();
     AnswerQuestions({"cmdNo", "cmdNo", "cmdNo", "cmdNo"});
-    document->Scaling().Scaling().ScaleRecipe(10, "10 gal", true, true);
-    document->Scaling().Scaling().ScaleOG(1.06, false);
-    document->Scaling().Scaling().ScaleIBU(40);
+    document->Scaling().ScaleRecipe(10, "10 gal", true, true);
+    document->Scaling().ScaleOG(1.06, false);
+    document->Scaling().ScaleIBU(40);
     document->Scaling().ScaleCO2(3, Asking::Aloud);
     EXPECT_EQ(platform.dialogs.shown, Log(4, "frmCannotUndo"));
     EXPECT_EQ(State(), before);
@@ -69,8 +69,8 @@ TEST_F(Scaling, AYesToAllOfThemIsAskedForOnce) {
         dialog.Press("cmdYes");
     });
     Prime("100", "4 oz");
-    document->Scaling().Scaling().ScaleRecipe(10, "10", false, false);
-    document->Scaling().Scaling().ScaleOG(1.03, false);
+    document->Scaling().ScaleRecipe(10, "10", false, false);
+    document->Scaling().ScaleOG(1.03, false);
     EXPECT_EQ(platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(Sugar(), "8 oz.");
 }
@@ -80,7 +80,7 @@ TEST_F(Scaling, EndsTheHistoryAndMarksTheRecipe) {
     Put(R().gridGrain, 1, GrainCol::Color, "3");
     document->Replay().Undo();
     EXPECT_TRUE(host.IsOn("EnableRedo"));
-    document->Scaling().Scaling().ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     ExpectEnding();
     EXPECT_EQ(Grain(), "20 lbs.");
     SaveAs("Twice");
@@ -89,7 +89,7 @@ TEST_F(Scaling, EndsTheHistoryAndMarksTheRecipe) {
 
 TEST_F(Scaling, TextsThatItWritesAreCommitted) {
     Set(R().txtFinalVol, "4.5");
-    document->Scaling().Scaling().ScaleRecipe(10, "40 qt", true, false);
+    document->Scaling().ScaleRecipe(10, "40 qt", true, false);
     for (TextBox* box : {&R().txtTotalVol, &R().txtBoilVol, &R().txtFinalVol})
         EXPECT_EQ(box->Committed(), box->Text());
     EXPECT_EQ(R().txtTotalVol.Text(), "40 qt");
@@ -101,7 +101,7 @@ TEST_F(Scaling, TextsThatItWritesAreCommitted) {
 TEST_F(Scaling, LeavesPercentagesAndPpgAlone) {
     Put(R().gridHops, 1, HopCol::AlphaAcid, "5%");
     Prime("75%", "4 oz");
-    document->Scaling().Scaling().ScaleRecipe(10, "10", true, false);
+    document->Scaling().ScaleRecipe(10, "10", true, false);
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Ppg), "36");
     EXPECT_EQ(R().gridHops.Text(1, HopCol::AlphaAcid), "5%");
     EXPECT_EQ(R().gridPriming.Text(1, PrimingCol::Fermentable), "75%");
@@ -110,7 +110,7 @@ TEST_F(Scaling, LeavesPercentagesAndPpgAlone) {
 
 // 10 / 3 = 3.333...
 TEST_F(Scaling, WhatIsShownIsWhatIsKept) {
-    document->Scaling().Scaling().ScaleRecipe(5.0 / 3, "1 2/3 gal", true, false);
+    document->Scaling().ScaleRecipe(5.0 / 3, "1 2/3 gal", true, false);
     EXPECT_EQ(Grain(), "3.33 lbs.");
     EXPECT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 3.33);
     EXPECT_EQ(R().gridGrain.Text(2, GrainCol::Amount), "3.33 lbs.");
@@ -120,7 +120,7 @@ TEST_F(Scaling, WhatIsShownIsWhatIsKept) {
 
 TEST_F(Scaling, AFinalVolumeOfTheOldSizeTakesTheNewText) {
     Set(R().txtFinalVol, "20 qt");
-    document->Scaling().Scaling().ScaleRecipe(10, "10 gallons", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gallons", false, false);
     EXPECT_EQ(R().txtFinalVol.Text(), "10 gallons");
     EXPECT_EQ(R().txtFinalVol.Value(), 10);
 }
@@ -128,14 +128,14 @@ TEST_F(Scaling, AFinalVolumeOfTheOldSizeTakesTheNewText) {
 // Intended: what was gained between the two goes off the new size.
 TEST_F(Scaling, AFinalVolumeAboveTheOldSizeEndsBelowTheNewOne) {
     Set(R().txtFinalVol, "6");
-    document->Scaling().Scaling().ScaleRecipe(10, "10", false, false);
+    document->Scaling().ScaleRecipe(10, "10", false, false);
     EXPECT_EQ(R().txtFinalVol.Text(), "9 gal.");
 }
 
 TEST_F(Scaling, BlankRowsStayBlank) {
-    document->Lines().Lines().InsertRowForGrid(R().gridHops);
-    document->Lines().Lines().InsertRowForGrid(R().gridTreatment);
-    document->Scaling().Scaling().ScaleRecipe(10, "10", false, false);
+    document->Lines().InsertRowForGrid(R().gridHops);
+    document->Lines().InsertRowForGrid(R().gridTreatment);
+    document->Scaling().ScaleRecipe(10, "10", false, false);
     EXPECT_EQ(Hops(1), "");
     EXPECT_EQ(Hops(2), "");
     EXPECT_EQ(R().gridTreatment.Text(1, TreatmentCol::Amount), "");
@@ -148,7 +148,7 @@ TEST_F(Scaling, WithoutAVolumeThereIsNoResize) {
     Set(R().txtTotalVol, "");
     const DocumentState before = State();
     EXPECT_TRUE(host.IsOn("EnableUndo"));
-    document->Scaling().Scaling().ScaleRecipe(10, "10", false, false);
+    document->Scaling().ScaleRecipe(10, "10", false, false);
     EXPECT_EQ(State(), before);
     EXPECT_TRUE(host.IsOn("EnableUndo"));
 }
@@ -161,7 +161,7 @@ TEST_F(Scaling, StopsWithItsHistoryWhenNoBitternessIsLeft) {
     document->Fields().SetText(R().txtTemp, "6");
     ASSERT_TRUE(host.IsOn("EnableUndo"));
     ASSERT_FALSE(document->Changed());
-    document->Scaling().Scaling().ScaleRecipe(1, "1 gal", false, true);
+    document->Scaling().ScaleRecipe(1, "1 gal", false, true);
     EXPECT_EQ(Hops(), "0 IBUs");
     EXPECT_EQ(R().txtTotalVol.Text(), "1 gal");
     EXPECT_EQ(Grain(), "2 lbs.");
@@ -174,7 +174,7 @@ TEST_F(Scaling, IsMarkedByItsCarbonationWhenNoBitternessIsLeft) {
     AddIbus("0.01 IBU");
     Prime("100", "4 oz");
     SaveAs("Faint");
-    document->Scaling().Scaling().ScaleRecipe(1, "1 gal", false, true);
+    document->Scaling().ScaleRecipe(1, "1 gal", false, true);
     EXPECT_EQ(Hops(), "0 IBUs");
     EXPECT_EQ(Sugar(), "0.8 oz.");
     ExpectEnding();
@@ -184,7 +184,7 @@ TEST_F(Scaling, HoldsTheCarbonationOfABottledBeer) {
     Prime("100", "4 oz");
     // 4 * 0.27027 / (5 * 0.133) + 0.8615
     EXPECT_EQ(R().txtCO2.Text(), "2.49 volumes");
-    document->Scaling().Scaling().ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     EXPECT_EQ(Sugar(), "8 oz.");
     EXPECT_EQ(R().txtCO2.Text(), "2.49 volumes");
 }
@@ -194,7 +194,7 @@ TEST_F(Scaling, ANoToTheSecondQuestionSkipsTheCarbonationAlone) {
     Prime("100", "4 oz");
     AnswerQuestions({"cmdYes"});
     platform.messages.answers = {Answer::No};
-    document->Scaling().Scaling().ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     EXPECT_EQ(platform.dialogs.shown, Log(1, "frmCannotUndo"));
     EXPECT_EQ(Boxes(), Log{"[Keep the Carbonation?] Keep the carbonation of 2.49 volumes?\r\n"
                            "Yes changes the priming sugar or the pressure with the size; "
@@ -220,7 +220,7 @@ TEST_F(Scaling, BothQuestionsComeBeforeAnythingChanges) {
     });
     platform.messages.whileAsking = look;
     platform.messages.answers = {Answer::Yes};
-    document->Scaling().Scaling().ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     platform.messages.whileAsking = {};
     EXPECT_EQ(asked, 2);
     EXPECT_EQ(Sugar(), "8 oz.");
@@ -234,7 +234,7 @@ TEST_F(Scaling, ASizeThatLeavesNoFinalVolumeIsRefusedBeforeAnyQuestion) {
     // 2 + 5 - 8, 3 + 5 - 8, and 3.004 + 5 - 8, which rounds to nothing
     const std::pair<double, const char*> sizes[] = {{2, "-1"}, {3, "0"}, {3.004, "0"}};
     for (const auto& [size, volume] : sizes) {
-        document->Scaling().Scaling().ScaleRecipe(size, "some", true, true);
+        document->Scaling().ScaleRecipe(size, "some", true, true);
         EXPECT_EQ(Boxes(), Log{std::string("[Invalid Entry] The final volume would be ") + volume +
                                " gal. Please enter a larger size."});
     }
@@ -242,14 +242,14 @@ TEST_F(Scaling, ASizeThatLeavesNoFinalVolumeIsRefusedBeforeAnyQuestion) {
     EXPECT_EQ(State(), before);
     EXPECT_FALSE(document->Changed());
     host.askBefore = false;
-    document->Scaling().Scaling().ScaleRecipe(3.01, "3.01 gal", false, false);
+    document->Scaling().ScaleRecipe(3.01, "3.01 gal", false, false);
     EXPECT_EQ(Boxes(), Log{});
     EXPECT_EQ(R().txtFinalVol.Text(), "0.01 gal.");
 }
 
 TEST_F(Scaling, WithoutACarbonationThereIsNoSecondQuestion) {
     AnswerQuestions({"cmdYes"});
-    document->Scaling().Scaling().ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     EXPECT_EQ(platform.dialogs.shown, Log(1, "frmCannotUndo"));
     EXPECT_EQ(Grain(), "20 lbs.");
 }
@@ -259,13 +259,13 @@ TEST_F(Scaling, StrengthStopsAtWater) {
     SaveAs("Water");
     EXPECT_EQ(R().txtOG.Value(), 1);
     const DocumentState before = State();
-    document->Scaling().Scaling().ScaleOG(1.05, true);
+    document->Scaling().ScaleOG(1.05, true);
     EXPECT_EQ(State(), before);
     EXPECT_FALSE(document->Changed());
 }
 
 TEST_F(Scaling, StrengthDownToWaterEmptiesTheMash) {
-    document->Scaling().Scaling().ScaleOG(1, false);
+    document->Scaling().ScaleOG(1, false);
     EXPECT_EQ(Grain(), "0 lbs.");
     EXPECT_EQ(R().txtOG.Text(), "1.000");
     ExpectEnding();
@@ -274,7 +274,7 @@ TEST_F(Scaling, StrengthDownToWaterEmptiesTheMash) {
 TEST_F(Scaling, TheSameStrengthIsAChangeToo) {
     SaveAs("Same");
     Put(R().gridGrain, 1, GrainCol::Color, "3");
-    document->Scaling().Scaling().ScaleOG(R().txtOG.Value(), false);
+    document->Scaling().ScaleOG(R().txtOG.Value(), false);
     EXPECT_EQ(Grain(), "10 lbs.");
     ExpectEnding();
 }
@@ -282,7 +282,7 @@ TEST_F(Scaling, TheSameStrengthIsAChangeToo) {
 TEST_F(Scaling, BitternessStopsAtNone) {
     AddIbus("0 IBU");
     SaveAs("Gruit");
-    document->Scaling().Scaling().ScaleIBU(30);
+    document->Scaling().ScaleIBU(30);
     EXPECT_EQ(Hops(), "0 IBU");
     EXPECT_FALSE(document->Changed());
 }
@@ -291,7 +291,7 @@ TEST_F(Scaling, BitternessStopsAtNone) {
 TEST_F(Scaling, BitternessScalesFromTheFullFigure) {
     AddIbus("16.4 IBU");
     EXPECT_EQ(R().txtIBU.Text(), "16");
-    document->Scaling().Scaling().ScaleIBU(32.8);
+    document->Scaling().ScaleIBU(32.8);
     EXPECT_EQ(Hops(), "32.8 IBUs");
     EXPECT_EQ(R().gridHops.At(1, HopCol::Amount).value, (CellValue{CellValue::Kind::BitternessUnits, 32.8}));
     ExpectEnding();
@@ -299,7 +299,7 @@ TEST_F(Scaling, BitternessScalesFromTheFullFigure) {
 
 TEST_F(Scaling, TheTotalOfTheHopsFollowsTheirKind) {
     AddIbus("2 AAU");
-    document->Scaling().Scaling().ScaleIBU(R().txtIBU.Value() * 3);
+    document->Scaling().ScaleIBU(R().txtIBU.Value() * 3);
     EXPECT_EQ(Hops(1), "6 AAUs");
     EXPECT_EQ(Hops(2), "6 AAUs");
     EXPECT_EQ(R().gridHops.At(1, HopCol::Amount).value, (CellValue{CellValue::Kind::AlphaAcidUnits, 6}));
@@ -308,11 +308,11 @@ TEST_F(Scaling, TheTotalOfTheHopsFollowsTheirKind) {
 // (2.5 - 0.8614872) / 1.6256842 * 4 = 4.03156...
 TEST_F(Scaling, CarbonationScalesAllSugars) {
     Prime("100", "3 oz");
-    document->Focus().Focus().SetCurrentCell(R().gridPriming, 1, 0);
-    document->Lines().Lines().InsertRowForGrid(R().gridPriming);
+    document->Focus().SetCurrentCell(R().gridPriming, 1, 0);
+    document->Lines().InsertRowForGrid(R().gridPriming);
     Put(R().gridPriming, 1, PrimingCol::Fermentable, "50");
     Put(R().gridPriming, 1, PrimingCol::Amount, "2 oz");
-    document->Lines().Lines().InsertRowForGrid(R().gridPriming);
+    document->Lines().InsertRowForGrid(R().gridPriming);
     Put(R().gridPriming, 1, PrimingCol::Amount, "0 oz");
     document->Scaling().ScaleCO2(2.5, Asking::Aloud);
     // (2.5 - 0.8614872) / (4 * 0.27027 / 0.665) = 1.00789
@@ -356,9 +356,9 @@ TEST_F(Scaling, CarbonationWithoutAFermentableSugarIsImpossible) {
 // (2.5 - 0.8614872) / 0.27027 * 0.133 * 5 * 100 / 80 = 5.0395 in 5 gallons.
 TEST_F(Scaling, CarbonationFillsTheFirstSugarThatFerments) {
     Prime("0%", "");
-    document->Focus().Focus().SetCurrentCell(R().gridPriming, 2, 0);
+    document->Focus().SetCurrentCell(R().gridPriming, 2, 0);
     host.appendRows = true;
-    document->Lines().Lines().InsertRowForGrid(R().gridPriming);
+    document->Lines().InsertRowForGrid(R().gridPriming);
     Put(R().gridPriming, 2, PrimingCol::Fermentable, "80");
     document->Scaling().ScaleCO2(2.5, Asking::Aloud);
     EXPECT_EQ(R().gridPriming.Text(1, PrimingCol::Amount), "");
@@ -417,7 +417,7 @@ TEST_F(KegScaling, APressureBeyondTheCurveIsRefusedAsWhenItIsTyped) {
 
 TEST_F(KegScaling, ResizingHoldsThePressure) {
     Put(R().gridPressure, 1, PressureCol::Pressure, "11.25 psi");
-    document->Scaling().Scaling().ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     EXPECT_EQ(Pressure(), "11.25 psi");
     EXPECT_EQ(R().txtCO2.Text(), "2.50 volumes");
 }
@@ -440,14 +440,14 @@ class FaultyScaling : public Scaling {
 
 TEST_F(FaultyScaling, AmountsBeyondANumberLeaveAllAsBefore) {
     AddIbus("0.5 IBU");
-    ExpectFault(kOverflowNumber, [&] { document->Scaling().Scaling().ScaleRecipe(1e308, "huge", true, true); });
-    ExpectFault(kOverflowNumber, [&] { document->Scaling().Scaling().ScaleOG(1e308, false); });
-    ExpectFault(kOverflowNumber, [&] { document->Scaling().Scaling().ScaleIBU(1e308); });
+    ExpectFault(kOverflowNumber, [&] { document->Scaling().ScaleRecipe(1e308, "huge", true, true); });
+    ExpectFault(kOverflowNumber, [&] { document->Scaling().ScaleOG(1e308, false); });
+    ExpectFault(kOverflowNumber, [&] { document->Scaling().ScaleIBU(1e308); });
 }
 
 // A boil volume that rounds to nothing leaves no boil gravity: the change is taken back halfway through.
 TEST_F(FaultyScaling, ABoilOfNothingLeavesAllAsBefore) {
-    ExpectFault(kDivisionByZeroNumber, [&] { document->Scaling().Scaling().ScaleRecipe(0.001, "0.001", true, false); });
+    ExpectFault(kDivisionByZeroNumber, [&] { document->Scaling().ScaleRecipe(0.001, "0.001", true, false); });
 }
 
 // The second question has been answered with yes by then.
@@ -455,7 +455,7 @@ TEST_F(FaultyScaling, AFaultBehindTheCarbonationKeepsTheHistory) {
     Prime("100", "4 oz");
     AnswerQuestions({"cmdYes"});
     platform.messages.answers = {Answer::Yes};
-    ExpectFault(kDivisionByZeroNumber, [&] { document->Scaling().Scaling().ScaleRecipe(0.001, "0.001", true, false); });
+    ExpectFault(kDivisionByZeroNumber, [&] { document->Scaling().ScaleRecipe(0.001, "0.001", true, false); });
     EXPECT_EQ(platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(Boxes().size(), 1u);
 }
@@ -471,10 +471,10 @@ TEST_F(Scaling, HoldsTheWindowUntilItIsDone) {
         int holds = 0, most = 0;
     } view;
     document->SetView(&view);
-    document->Scaling().Scaling().ScaleRecipe(10, "10 gal", false, false);
+    document->Scaling().ScaleRecipe(10, "10 gal", false, false);
     EXPECT_EQ(view.holds, 0);
     EXPECT_EQ(view.most, 1);
-    EXPECT_THROW(document->Scaling().Scaling().ScaleRecipe(1e308, "huge", false, false), Error);
+    EXPECT_THROW(document->Scaling().ScaleRecipe(1e308, "huge", false, false), Error);
     EXPECT_EQ(view.holds, 0);
     document->SetView(nullptr);
 }

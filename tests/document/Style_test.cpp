@@ -33,28 +33,28 @@ TEST_F(StyleTest, ListsTheStylesByNameBehindNone) {
 }
 
 TEST_F(StyleTest, IsFoundByAnotherNameAndByItsCode) {
-    EXPECT_FALSE(document->Style().Style().ChangeStyle("Dry Stout"));
+    EXPECT_FALSE(document->Style().ChangeStyle("Dry Stout"));
     AddOtherNames(*database);
     AddAlias(*database, CatalogueKind::Style, "Dry Stout", "Stout");
     AddFacts(*database, CatalogueKind::Style, "Lager", "1B", "Beer 2021");
-    EXPECT_TRUE(document->Style().Style().ChangeStyle("dry stout"));
+    EXPECT_TRUE(document->Style().ChangeStyle("dry stout"));
     EXPECT_EQ(R().cmbStyle.Text(), "Stout");
-    EXPECT_TRUE(document->Style().Style().ChangeStyle("1b"));
+    EXPECT_TRUE(document->Style().ChangeStyle("1b"));
     EXPECT_EQ(R().cmbStyle.Text(), "Lager");
-    EXPECT_FALSE(document->Style().Style().ChangeStyle("9Z"));
+    EXPECT_FALSE(document->Style().ChangeStyle("9Z"));
     EXPECT_EQ(R().cmbStyle.Text(), "Lager");
 }
 
 TEST_F(StyleTest, ShowsItsRanges) {
-    ASSERT_TRUE(document->Style().Style().ChangeStyle(" STOUT "));
+    ASSERT_TRUE(document->Style().ChangeStyle(" STOUT "));
     EXPECT_EQ(document->StyleID(), kStout);
     EXPECT_EQ(document->BeerStyle(), "Stout");
     // The final gravity of this style has no limits.
     EXPECT_THAT(Labels(),
                 ElementsAre("1.035 - 1.050", "", "3.2 - 5.5 abv", "35 - 200 SRM", "30 - 50", "2.0 - 2.5"));
-    document->Style().Style().ChangeStyle("Lager");
+    document->Style().ChangeStyle("Lager");
     EXPECT_THAT(Labels(), ElementsAre("1.045", "1.010", "5.0 abv", "4 SRM", "20", "2.5"));
-    document->Style().Style().ChangeStyle("Half Open");
+    document->Style().ChangeStyle("Half Open");
     EXPECT_THAT(Labels(), ElementsAre(">= 1.050", "<= 1.012", ">= 6.0 abv", "<= 12 SRM", ">= 26", "<= 2.8"));
     document->Style().Select(0);
     EXPECT_THAT(Labels(), ElementsAre("", "", "", "", "", ""));
@@ -62,32 +62,32 @@ TEST_F(StyleTest, ShowsItsRanges) {
 
 TEST_F(StyleTest, BringsItsWater) {
     Put(R().gridWater, 1, WaterCol::Profile, "Soft");
-    document->Style().Style().ChangeStyle("Stout");
+    document->Style().ChangeStyle("Stout");
     EXPECT_THAT(Target(), ElementsAre("Burton", "275", "270", "35", "40", "0", "610"));
     EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "268");
     EXPECT_TRUE(document->Changed());
     EXPECT_TRUE(host.IsOn("EnableSave"));
     // A profile that the catalogue does not know leaves the ions.
-    document->Style().Style().ChangeStyle("Odd Water");
+    document->Style().ChangeStyle("Odd Water");
     EXPECT_THAT(Target(), ElementsAre("No Such Water", "275", "270", "35", "40", "0", "610"));
     // A style without a profile, and no style, empty the row; what is needed follows.
-    document->Style().Style().ChangeStyle("Lager");
+    document->Style().ChangeStyle("Lager");
     EXPECT_THAT(Target(), ElementsAre("", "", "", "", "", "", ""));
     EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "-7");
-    document->Style().Style().ChangeStyle("Stout");
-    document->Style().Style().ChangeStyle("(None)");
+    document->Style().ChangeStyle("Stout");
+    document->Style().ChangeStyle("(None)");
     EXPECT_THAT(Target(), ElementsAre("", "", "", "", "", "", ""));
     EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "-7");
 }
 
 TEST_F(StyleTest, ChoosingTheSameOneIsNoEdit) {
-    document->Style().Style().ChangeStyle("Stout");
+    document->Style().ChangeStyle("Stout");
     SaveAs("A");
-    document->Style().Style().ChangeStyle("stout");
+    document->Style().ChangeStyle("stout");
     document->Style().Select(R().cmbStyle.Selected());
     document->Style().Select(-1);
     document->Style().Select(99);
-    EXPECT_FALSE(document->Style().Style().ChangeStyle("Porter"));
+    EXPECT_FALSE(document->Style().ChangeStyle("Porter"));
     EXPECT_FALSE(document->Changed());
     EXPECT_EQ(document->StyleID(), kStout);
 }
@@ -105,7 +105,7 @@ TEST_F(StyleTest, SettingTheIdIsNoEditAndLeavesTheWater) {
 }
 
 TEST_F(StyleTest, TheListFollowsTheCatalogue) {
-    document->Style().Style().ChangeStyle("Stout");
+    document->Style().ChangeStyle("Stout");
     database->Execute("UPDATE STYLES SET NAME = 'Zwickel' WHERE ID = 2");
     database->Execute("INSERT INTO STYLES (ID, NAME) VALUES (9, 'Alt')");
     document->Notices().DBChanged();
@@ -118,10 +118,10 @@ TEST_F(StyleTest, TheListFollowsTheCatalogue) {
 
 // The list is read again before a name is looked for, but not before a row of it is chosen.
 TEST_F(StyleTest, AStyleThatIsGoneCannotBeChosen) {
-    document->Style().Style().ChangeStyle("Stout");
+    document->Style().ChangeStyle("Stout");
     const int lager = R().cmbStyle.IndexOf(kLager);
     database->Execute("DELETE FROM STYLES WHERE ID = 2");
-    EXPECT_FALSE(document->Style().Style().ChangeStyle("Lager"));
+    EXPECT_FALSE(document->Style().ChangeStyle("Lager"));
     EXPECT_EQ(document->BeerStyle(), "Stout");
     database->Execute("INSERT INTO STYLES (ID, NAME) VALUES (2, 'Lager')");
     document->Notices().DBChanged();
@@ -145,7 +145,7 @@ class NoticesTest : public DocumentTest {
   protected:
     NoticesTest() {
         New();
-        document->Style().Style().ChangeStyle("Stout");
+        document->Style().ChangeStyle("Stout");
         SaveAs("Old Ale");
         document->SetFolderID(7);
         host.log.clear();
@@ -199,7 +199,7 @@ TEST_F(NoticesTest, EveryChangeOfAStyleShowsInTheListOfEveryDocument) {
         return names;
     };
     for (const char* style : {"Stout", "(None)"}) {
-        ASSERT_TRUE(document->Style().Style().ChangeStyle(style));
+        ASSERT_TRUE(document->Style().ChangeStyle(style));
         SaveAs("Old Ale");
         database->Execute("UPDATE STYLES SET NAME = 'Pils' WHERE ID = 2");
         document->Notices().NotifyStyleRenamed(kLager, "Pils");

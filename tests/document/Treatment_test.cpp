@@ -39,7 +39,7 @@ class TreatmentOf : public DocumentTest {
     DocumentState State() { return StateOf(*document, host); }
     void AddRow(std::string_view name, std::string_view amount) {
         Grid& grid = R().gridTreatment;
-        document->Lines().Lines().InsertRowForGrid(grid);
+        document->Lines().InsertRowForGrid(grid);
         Put(grid, grid.CurrentRow(), TreatmentCol::Name, name);
         Put(grid, grid.CurrentRow(), TreatmentCol::Amount, amount);
     }
@@ -49,7 +49,7 @@ class TreatmentOf : public DocumentTest {
 // and 79.2.
 TEST_F(TreatmentOf, GivesEachSaltItsGramsForTheBatch) {
     Need({114.4, 79.2, 0, 0, 0, 147.4});
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
     EXPECT_EQ(R().gridTreatment.Number(2, TreatmentCol::Amount), 2.5);
     EXPECT_EQ(R().gridTreatment.Number(2, TreatmentCol::FirstIon), 105.8);
@@ -63,7 +63,7 @@ TEST_F(TreatmentOf, GivesEachSaltItsGramsForTheBatch) {
 // 100 / 147.4 * 5 = 3.39213...
 TEST_F(TreatmentOf, RoundsGramsToThreePlaces) {
     Need({61.5, 0, 0, 0, 0, 100});
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{"Gypsum 3.392 grams"});
     EXPECT_EQ(R().gridTreatment.Number(1, TreatmentCol::Amount), 3.392);
 }
@@ -74,7 +74,7 @@ TEST_F(TreatmentOf, TakesTheOldRowsAwayAndBringsThemBackInOneStep) {
     AddRow("Gypsum", "1 g");
     Need({61.5, 0, 0, 0, 0, 147.4});
     const DocumentState before = State();
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     const DocumentState after = State();
     EXPECT_EQ(Rows(), Log{"Gypsum 5 grams"});
     EXPECT_EQ(host.undoName, "Calculation");
@@ -88,7 +88,7 @@ TEST_F(TreatmentOf, TakesTheOldRowsAwayAndBringsThemBackInOneStep) {
 TEST_F(TreatmentOf, IsNoStepWhereTheGridWasAndStaysEmpty) {
     const std::size_t steps = document->History().StackTop();
     ASSERT_NE(host.undoName, "Calculation");
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
     EXPECT_NE(host.undoName, "Calculation");
     EXPECT_EQ(document->History().StackTop(), steps);
@@ -99,7 +99,7 @@ TEST_F(TreatmentOf, NeedsATotalVolume) {
     AddRow("Chalk", "9 g");
     Set(R().txtTotalVol, "");
     EXPECT_FALSE(R().cmdCalcTreatment.Enabled());
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{"Chalk 9 g"});
     Set(R().txtTotalVol, "  ");
     EXPECT_FALSE(R().cmdCalcTreatment.Enabled());
@@ -122,7 +122,7 @@ TEST_F(TreatmentOf, SaysThatThereAreNoSalts) {
     database->Execute("DELETE FROM SALTS");
     const DocumentState before = State();
     const std::string undoName = host.undoName;
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Boxes(),
               Log{"[Could not setup Linear Program] Not enough data to calculate water treatment.\r\n"
                   "Check Salts tab of Database Setup"});
@@ -138,7 +138,7 @@ TEST_F(TreatmentOf, SaysThatNoProgramHasASolution) {
     AddRow("Chalk", "9 g");
     Need({0, 254.2, 0, 241.9, 0, 0});
     const DocumentState before = State();
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Boxes(), Log{"[Could not solve Linear Program] Water Treatment Calculation failed"});
     EXPECT_EQ(State(), before);
     EXPECT_NE(host.undoName, "Calculation");
@@ -149,7 +149,7 @@ TEST_F(TreatmentOf, ANegativeNeedCountsAsNone) {
     Put(R().gridWater, WaterRow::Source, WaterCol::FirstIon, "200");
     Need({61.5, 0, 0, 0, 0, 147.4});
     EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, WaterCol::FirstIon), "-138.5");
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
 }
 
@@ -158,17 +158,17 @@ TEST_F(TreatmentOf, LeavesOutWhatIsBelowAThousandthOfAGramForTheBatch) {
     AddSalt("Strong", {1000, 0, 0, 0, 0, 0});
     Need({0.18, 0, 0, 0, 0, 0});
     // 0.00018 g a gallon: 0.0009 g in 5 gallons, 0.0018 in 10.
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
     Set(R().txtTotalVol, "10 gal");
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{"Strong 0.002 grams"});
 }
 
 TEST_F(TreatmentOf, PutsRowsInTheOrderOfTheSaltsWhereverNewRowsGo) {
     Need({114.4, 79.2, 0, 0, 0, 147.4});
     host.appendRows = true;
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
     document->Replay().Undo();
     EXPECT_EQ(Rows(), Log{});
@@ -180,12 +180,12 @@ TEST_F(TreatmentOf, PutsRowsInTheOrderOfTheSaltsWhereverNewRowsGo) {
 TEST_F(TreatmentOf, KeepsToTheLimitOfTheSettings) {
     Need({114.4, 79.2, 0, 0, 0, 147.4});
     host.lpMaxIter = 0;
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     // Both programs stop behind their first step: gypsum by 114.4 / 61.5 is more than sulfate allows, 1 is
     // left.
     EXPECT_EQ(Rows(), Log{"Gypsum 5 grams"});
     host.lpMaxIter = 1000;
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), (Log{"Gypsum 5 grams", "Chalk 2.5 grams"}));
 }
 
@@ -193,10 +193,10 @@ TEST_F(TreatmentOf, LightsDeleteOnItsTab) {
     document->Focus().SetTab(Tab::Water);
     Need({114.4, 79.2, 0, 0, 0, 147.4});
     EXPECT_FALSE(host.IsOn("EnableDelete"));
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_TRUE(host.IsOn("EnableDelete"));
     Need({});
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_FALSE(host.IsOn("EnableDelete"));
 }
 
@@ -210,7 +210,7 @@ class FaultyTreatment : public TreatmentOf {
         const DocumentState before = State();
         const std::string undoName = host.undoName;
         try {
-            document->Water().Water().CalcTreatment();
+            document->Water().CalcTreatment();
             FAIL() << "no fault";
         } catch (const Error& error) {
             EXPECT_EQ(error.Number(), number);
@@ -274,7 +274,7 @@ TEST_F(TreatmentOf, GoesBackAndForthOnRandomWaters) {
             needed[ion] = R().gridWater.Number(WaterRow::Needed, WaterCol::FirstIon + static_cast<int>(ion));
         const auto doses = FindDoses(needed, salts, host.lpMaxIter);
         const DocumentState before = State();
-        document->Water().Water().CalcTreatment();
+        document->Water().CalcTreatment();
         if (!doses) {
             EXPECT_EQ(Boxes().size(), 1u);
             EXPECT_EQ(State(), before);
@@ -315,7 +315,7 @@ TEST_F(TreatmentOf, IsShownAtOnceWhenItIsDone) {
     HeldView view;
     document->SetView(&view);
     Need({114.4, 79.2, 0, 0, 0, 147.4});
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(view.scopes, 1);
     EXPECT_EQ(view.holds, 0);
     document->SetView(nullptr);
@@ -326,7 +326,7 @@ TEST_F(TreatmentOf, WaitsForAnEntryThatWasRefused) {
     view.accepts = false;
     document->SetView(&view);
     Need({114.4, 79.2, 0, 0, 0, 147.4});
-    document->Water().Water().CalcTreatment();
+    document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
     document->SetView(nullptr);
 }

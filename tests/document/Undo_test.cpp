@@ -81,11 +81,11 @@ TEST_F(UndoTest, ADeletedRowComesBackInItsPlace) {
     document->Cells().SetChecked(R().gridHops, 1, HopCol::Sock, false);
     document->Cells().SetChecked(R().gridHops, 1, HopCol::DryHopped, true);
     Put(R().gridHops, 1, HopCol::Time, "5 days");
-    document->Focus().Focus().SetCurrentCell(R().gridHops, 1, 0);
-    document->Lines().Lines().InsertRowForGrid(R().gridHops);
-    document->Focus().Focus().SetCurrentCell(R().gridHops, 2, 0);
+    document->Focus().SetCurrentCell(R().gridHops, 1, 0);
+    document->Lines().InsertRowForGrid(R().gridHops);
+    document->Focus().SetCurrentCell(R().gridHops, 2, 0);
     const std::string before = State();
-    document->Lines().Lines().DeleteRowForGrid(R().gridHops);
+    document->Lines().DeleteRowForGrid(R().gridHops);
     EXPECT_EQ(document->History().UndoType(), "Delete Row");
     ExpectOneStep(before);
 }
@@ -94,7 +94,7 @@ TEST_F(UndoTest, AnInsertedRowGoesAndComesBack) {
     New();
     Put(R().gridGrain, 1, GrainCol::Amount, "10");
     const std::string before = State();
-    document->Lines().Lines().InsertRowForGrid(R().gridGrain);
+    document->Lines().InsertRowForGrid(R().gridGrain);
     EXPECT_EQ(document->History().UndoType(), "Insert Row");
     ExpectOneStep(before);
 }
@@ -102,13 +102,13 @@ TEST_F(UndoTest, AnInsertedRowGoesAndComesBack) {
 TEST_F(UndoTest, ASortThatMovesNothingRecordsNothing) {
     New();
     Put(R().gridGrain, 1, GrainCol::Name, "A");
-    document->Lines().Lines().InsertRowForGrid(R().gridGrain);
+    document->Lines().InsertRowForGrid(R().gridGrain);
     const std::size_t records = document->History().StackTop();
     // The blank row that was inserted before "A" comes first already.
-    document->Lines().Lines().ClickHeader(R().gridGrain, GrainCol::Name);
+    document->Lines().ClickHeader(R().gridGrain, GrainCol::Name);
     EXPECT_EQ(document->History().StackTop(), records);
     const std::string before = State();
-    document->Lines().Lines().ClickHeader(R().gridGrain, GrainCol::Name);
+    document->Lines().ClickHeader(R().gridGrain, GrainCol::Name);
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Name), "A");
     ExpectOneStep(before);
 }

@@ -21,8 +21,8 @@ class AutoSaveWindow : public GuiTest {
     // A recipe in front that is stored.
     RecipeDocument& Stored(const char* name) {
         NewRecipe();
-        RecipeDocument& document = *shell.ActiveDocument();
-        EXPECT_TRUE(shell.SaveRecipeUnder(document, name, 0, true));
+        RecipeDocument& document = *shell.Documents().Active();
+        EXPECT_TRUE(shell.Saver().SaveUnder(document, name, 0, true));
         return document;
     }
     std::string StoredNotes() {
@@ -30,7 +30,7 @@ class AutoSaveWindow : public GuiTest {
     }
     // Shows the real window of autosave in place of the recorder's.
     void RunAutoSave() {
-        AutoSaveModel model(shell);
+        AutoSaveModel model = shell.AutoSaving().Progress();
         frmAutoSave progress(model, &window);
         progress.exec();
         EXPECT_FALSE(model.IsOpen());
@@ -41,9 +41,9 @@ TEST_F(AutoSaveWindow, TheTimerFollowsTheSwitch) {
     QTimer& timer = Timer("tmrAutoSave");
     EXPECT_EQ(timer.interval(), 60000);
     EXPECT_FALSE(timer.isActive());
-    shell.SetDoAutoSave(true);
+    shell.SettingsNow().SetDoAutoSave(true);
     EXPECT_TRUE(timer.isActive());
-    shell.StoreSetting("Settings", "DoAutoSave", "0");
+    shell.SettingsNow().Store("Settings", "DoAutoSave", "0");
     EXPECT_FALSE(timer.isActive());
 }
 
@@ -51,7 +51,7 @@ TEST_F(AutoSaveWindow, TheTimerTicksBehindAnotherWindow) {
     RecipeDocument& document = Stored("Stout");
     document.Fields().SetText(document.Record().txtNotes, "kept");
     shell.CurrentSettings().doAutoSaveEvery = 1;
-    shell.SetDoAutoSave(true);
+    shell.SettingsNow().SetDoAutoSave(true);
     Timer("tmrAutoSave").start(0);
     QDialog other(&window);
     QObject::connect(&Timer("tmrAutoSave"), &QTimer::timeout, &other, &QDialog::accept);
@@ -72,7 +72,7 @@ TEST_F(AutoSaveWindow, TheWindowSavesAndGoesByItself) {
 TEST_F(AutoSaveWindow, ShowsTheRecipeAndHowFarItIs) {
     Stored("Stout");
     Stored("Porter");
-    AutoSaveModel model(shell);
+    AutoSaveModel model = shell.AutoSaving().Progress();
     frmAutoSave progress(model, &window);
     EXPECT_EQ(progress.findChild<QLabel*>(QStringLiteral("lblRecipe"))->text(), QString());
     progress.exec();
@@ -84,7 +84,7 @@ TEST_F(AutoSaveWindow, ShowsTheRecipeAndHowFarItIs) {
 }
 
 TEST_F(AutoSaveWindow, SaysWhatItIsSaving) {
-    AutoSaveModel model(shell);
+    AutoSaveModel model = shell.AutoSaving().Progress();
     const frmAutoSave progress(model, &window);
     for (const auto& [name, text] :
          {std::pair("Label1", "Saving your open recipes."), std::pair("Label2", "Recipe:")}) {
@@ -104,8 +104,8 @@ TEST_F(AutoSaveWindow, AnOpenCellEditorGoesOnBeingTypedInto) {
     ASSERT_EQ(QApplication::focusWidget(), editor.data());
     Type(".5");
     Key(Qt::Key_Return);
-    EXPECT_EQ(shell.ActiveDocument()->Record().gridGrain.Text(1, 1), "12.5");
-    EXPECT_TRUE(shell.ActiveDocument()->Changed());
+    EXPECT_EQ(shell.Documents().Active()->Record().gridGrain.Text(1, 1), "12.5");
+    EXPECT_TRUE(shell.Documents().Active()->Changed());
     EXPECT_TRUE(outside.messages.log.empty());
 }
 
@@ -124,13 +124,13 @@ TEST_F(AutoSaveWindow, EditsAreKeptSomeSecondsLater) {
     QTemporaryDir folder;
     const QString database = folder.filePath(QStringLiteral("beer.mdb"));
     shell.DB()->ExecuteNative("VACUUM INTO " + SqlText(FromQt(database)));
-    Shell second(outside.platform);
-    second.SetRecoveryFolder(FromQt(folder.filePath(QStringLiteral("unsaved"))));
+    Shell second({outside.platform});
+    second.Environment().recoveryFolder = FromQt(folder.filePath(QStringLiteral("unsaved")));
     frmMain other(second, outside.platform);
     ASSERT_TRUE(other.StartUp(FromQt(database)));
     EXPECT_TRUE(outside.dialogs.shown.empty());
     auto* timer = other.findChild<QTimer*>(QStringLiteral("tmrKeepUnsaved"));
-    RecipeDocument& document = second.CreateDocumentWindow("");
+    RecipeDocument& document = second.Recipes().Create("");
     EXPECT_FALSE(timer->isActive());
     document.Fields().SetText(document.Record().txtNotes, "typed");
     EXPECT_TRUE(timer->isActive());
@@ -150,8 +150,8 @@ TEST_F(AutoSaveWindow, TheStatusBarSaysWhileWorkIsNotKept) {
     shell.DB()->ExecuteNative("VACUUM INTO " + SqlText(FromQt(database)));
     QFile inTheWay(unsaved);
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
-    Shell second(outside.platform);
-    second.SetRecoveryFolder(FromQt(unsaved));
+    Shell second({outside.platform});
+    second.Environment().recoveryFolder = FromQt(unsaved);
     frmMain other(second, outside.platform);
     other.resize(900, 600);
     other.show();
@@ -159,7 +159,7 @@ TEST_F(AutoSaveWindow, TheStatusBarSaysWhileWorkIsNotKept) {
     auto* notice = other.findChild<QLabel*>(QStringLiteral("lblNotice"));
     auto* timer = other.findChild<QTimer*>(QStringLiteral("tmrKeepUnsaved"));
     ASSERT_NE(notice, nullptr);
-    RecipeDocument& document = second.CreateDocumentWindow("");
+    RecipeDocument& document = second.Recipes().Create("");
     document.Fields().SetText(document.Record().txtNotes, "typed");
     EXPECT_EQ(notice->text(), QString());
     const auto tick = [&] {
@@ -191,17 +191,17 @@ TEST_F(AutoSaveWindow, TheRecoveryWindowRestoresWhatIsChosen) {
     const std::string root = FromQt(folder.filePath(QStringLiteral("unsaved")));
     shell.DB()->ExecuteNative("VACUUM INTO " + SqlText(FromQt(database)));
     {
-        Shell lost(outside.platform);
-        lost.SetRecoveryFolder(root);
+        Shell lost({outside.platform});
+        lost.Environment().recoveryFolder = root;
         ASSERT_TRUE(lost.PerformSplashScreenInit(FromQt(database)));
         for (const char* name : {"Stout", "Porter"}) {
-            RecipeDocument& document = lost.CreateDocumentWindow("");
+            RecipeDocument& document = lost.Recipes().Create("");
             document.Fields().SetText(document.Record().txtName, name);
         }
-        lost.KeepUnsavedWork();
+        lost.Unsaved().Keep();
     }
-    Shell next(outside.platform);
-    next.SetRecoveryFolder(root);
+    Shell next({outside.platform});
+    next.Environment().recoveryFolder = root;
     frmMain other(next, outside.platform);
     outside.dialogs.scripts.push_back([&](DialogModel& model) {
         RecoveryDialog dialog(dynamic_cast<RecoveryModel&>(model), &other);
@@ -218,11 +218,11 @@ TEST_F(AutoSaveWindow, TheRecoveryWindowRestoresWhatIsChosen) {
         EXPECT_FALSE(model.IsOpen());
     });
     ASSERT_TRUE(other.StartUp(FromQt(database)));
-    ASSERT_EQ(next.Documents().size(), 2u);
-    EXPECT_EQ(next.Documents()[0]->Caption(), "Porter");
+    ASSERT_EQ(next.Documents().All().size(), 2u);
+    EXPECT_EQ(next.Documents().All()[0]->Caption(), "Porter");
     EXPECT_EQ(FromQt(other.ActiveWindow()->findChild<QLineEdit*>(QStringLiteral("txtName"))->text()),
               "Stout");
-    EXPECT_TRUE(next.Documents()[0]->Changed());
+    EXPECT_TRUE(next.Documents().All()[0]->Changed());
 }
 
 }  // namespace

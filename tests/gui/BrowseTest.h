@@ -15,7 +15,7 @@ class BrowseTest : public GuiTest {
     // F:1 Winter with F:2 Dark; recipes 1 Ale and 2 mild at the root, 3 Porter in Winter; G:3 British.
     void SetUp() override {
         GuiTest::SetUp();
-        DB_IO& objects = shell.Objects();
+        DB_IO& objects = shell.Data().objects;
         objects.CreateRecipeFolder(0, "Winter", true);
         objects.CreateRecipeFolder(1, "Dark", true);
         objects.CreateStyleFolder(0, "British", true);
@@ -25,7 +25,7 @@ class BrowseTest : public GuiTest {
             shell.DB()->Execute(std::string("INSERT INTO RECIPES (NAME, FOLDER_ID, STYLE_ID) VALUES (") +
                                 values + ", 0)");
         for (const char* name : {"Ale", "mild", "Porter"}) objects.AddRecipeNodesByName(name);
-        shell.CheckEnableDelete();
+        shell.States().CheckEnableDelete();
     }
     static void Front(QWidget& dialog) {
         dialog.show();

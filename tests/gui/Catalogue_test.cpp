@@ -26,7 +26,7 @@ class CatalogueWindows : public GuiTest {
         for (const char* name : {"Cascade", "Fuggle", "Saaz"})
             shell.DB()->Execute(std::string("INSERT INTO HOPS (NAME, AA_LO, AA_HI) VALUES ('") + name +
                                 "', 4, 6)");
-        context.emplace(shell.Catalogues());
+        context.emplace(shell.Catalogue().Context());
     }
     // Shows a window and makes it the active one.
     template <class Window>
@@ -144,7 +144,7 @@ TEST_F(CatalogueWindows, StepsShowOtherRowsAndDropWhatIsTyped) {
 }
 
 TEST_F(CatalogueWindows, AStyleHasItsListsItsFolderAndItsColour) {
-    shell.Objects().CreateStyleFolder(0, "Dark", true);
+    shell.Data().objects.CreateStyleFolder(0, "Dark", true);
     shell.DB()->Execute("INSERT INTO WATER_PROFILES (NAME) VALUES ('Dublin')");
     const auto model = MakeEditor(CatalogueKind::Style, *context);
     model->SetName("Stout");
@@ -305,7 +305,7 @@ TEST_F(CatalogueWindows, SetupTakesItsKeysAlsoBesideTheList) {
 
 TEST_F(CatalogueWindows, SetupIsOffOnAFolderAndEntersIt) {
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0");
-    shell.Objects().CreateStyleFolder(0, "Dark", true);
+    shell.Data().objects.CreateStyleFolder(0, "Dark", true);
     DBSetupModel model(*context);
     frmDBSetup setup(model, nullptr);
     Up(setup);
@@ -322,7 +322,8 @@ TEST_F(CatalogueWindows, SetupIsOffOnAFolderAndEntersIt) {
 TEST_F(CatalogueWindows, AFolderOfStylesShowsItsColumnsInFull) {
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0, TYPE = 0");
     // So many that a scroll bar stands beside them, and goes within the folder.
-    for (int i = 0; i < 60; ++i) shell.Objects().CreateStyleFolder(0, "Folder " + std::to_string(i), true);
+    for (int i = 0; i < 60; ++i)
+        shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), true);
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1");
     DBSetupModel model(*context);
     frmDBSetup setup(model, nullptr);
@@ -406,9 +407,9 @@ TEST_F(CatalogueWindows, APickerShowsItsRowToBeRead) {
         picker.Press("cmdView");
         picker.Press("cmdOK");
     });
-    shell.PickFromCatalogue(*shell.ActiveDocument(), CatalogueKind::Hop, "Fuggle");
+    shell.Services().PickFromCatalogue(*shell.Documents().Active(), CatalogueKind::Hop, "Fuggle");
     EXPECT_THAT(outside.dialogs.shown, ElementsAre("frmLvShow", "frmHop"));
-    EXPECT_EQ(shell.ActiveDocument()->Record().gridHops.Text(1, 0), "Saaz");
+    EXPECT_EQ(shell.Documents().Active()->Record().gridHops.Text(1, 0), "Saaz");
 }
 
 }  // namespace

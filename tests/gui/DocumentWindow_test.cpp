@@ -11,7 +11,7 @@ TEST_F(DocumentWindow, StartsInTheNameOfAnUnnamedRecipe) {
     NewRecipe();
     EXPECT_EQ(Focus(), "txtName");
     Type("Amber");
-    EXPECT_EQ(shell.ActiveDocument()->BeerName(), "Amber");
+    EXPECT_EQ(shell.Documents().Active()->BeerName(), "Amber");
     EXPECT_EQ(window.ActiveWindow()->parentWidget()->windowTitle(), QStringLiteral("Amber"));
 }
 
@@ -65,12 +65,12 @@ TEST_F(DocumentWindow, KeepsARecipeThroughSavingClosingAndOpening) {
     // The amount is still in its editor: saving commits it first.
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmOpenSave"});
-    EXPECT_FALSE(shell.ActiveDocument()->Changed());
+    EXPECT_FALSE(shell.Documents().Active()->Changed());
     ASSERT_TRUE(window.RunCommand(CommandId::FileClose));
     EXPECT_EQ(window.ActiveWindow(), nullptr);
     EXPECT_EQ(outside.messages.log, Strings{});
 
-    shell.OpenByName("Night Shift");
+    shell.Recipes().OpenByName("Night Shift");
     ASSERT_NE(window.ActiveWindow(), nullptr);
     EXPECT_EQ(Text("txtName"), "Night Shift");
     EXPECT_EQ(Text("txtTotalVol"), "5 gal");
@@ -90,7 +90,7 @@ TEST_F(DocumentWindow, KeepsTheFocusInARefusedBox) {
     Type("6 gal");
     Key(Qt::Key_Tab);
     EXPECT_EQ(Focus(), "txtTotalVol");
-    EXPECT_DOUBLE_EQ(shell.ActiveDocument()->Record().txtBoilVol.Value(), 6);
+    EXPECT_DOUBLE_EQ(shell.Documents().Active()->Record().txtBoilVol.Value(), 6);
 }
 
 TEST_F(DocumentWindow, StaysOnTheTabOfARefusedBox) {
@@ -110,7 +110,7 @@ TEST_F(DocumentWindow, StaysOnTheTabOfARefusedBox) {
 
 TEST_F(DocumentWindow, CommitsWhenAnotherRecipeComesToTheFront) {
     NewRecipe();
-    RecipeDocument& first = *shell.ActiveDocument();
+    RecipeDocument& first = *shell.Documents().Active();
     Find<QLineEdit>("txtBoilVol").setFocus();
     Type("6 gal");
     NewRecipe();
@@ -119,7 +119,7 @@ TEST_F(DocumentWindow, CommitsWhenAnotherRecipeComesToTheFront) {
     Find<QLineEdit>("txtBoilVol").setFocus();
     Type("much");
     EXPECT_TRUE(window.RunCommand(CommandId::FileNew));
-    EXPECT_EQ(shell.Documents().size(), 2U);
+    EXPECT_EQ(shell.Documents().All().size(), 2U);
     EXPECT_EQ(Focus(), "txtBoilVol");
 }
 
@@ -152,12 +152,12 @@ TEST_F(DocumentWindow, CommitsOnEnterAndRestoresOnEscape) {
     box.setFocus();
     Type("6 gal");
     Key(Qt::Key_Return);
-    EXPECT_DOUBLE_EQ(shell.ActiveDocument()->Record().txtBoilVol.Value(), 6);
+    EXPECT_DOUBLE_EQ(shell.Documents().Active()->Record().txtBoilVol.Value(), 6);
     Type("7");
     EXPECT_EQ(box.text(), QStringLiteral("7"));
     Key(Qt::Key_Escape);
     EXPECT_EQ(box.text(), QStringLiteral("6 gal"));
-    EXPECT_DOUBLE_EQ(shell.ActiveDocument()->Record().txtBoilVol.Value(), 6);
+    EXPECT_DOUBLE_EQ(shell.Documents().Active()->Record().txtBoilVol.Value(), 6);
 }
 
 TEST_F(DocumentWindow, WalksThroughAllTabsByKey) {
@@ -176,30 +176,30 @@ TEST_F(DocumentWindow, WalksThroughAllTabsByKey) {
 
 TEST_F(DocumentWindow, ChoosesAStyleByAnyPartOfItsName) {
     NewRecipe();
-    shell.ActiveDocument()->Style().Reload();
+    shell.Documents().Active()->Style().Reload();
     auto& styles = Find<QComboBox>("cmbStyle");
     styles.setFocus();
     Type("stout");
     Key(Qt::Key_Return);
-    EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), "Stout");
+    EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "Stout");
     EXPECT_EQ(Find<QLabel>("lblOGStyle").text(), QStringLiteral("1.020 - 1.030"));
     EXPECT_EQ(Find<QLabel>("lblIBUStyle").text(), QStringLiteral(">= 25"));
     // A part that only one style holds stands for it.
     styles.setFocus();
     Type("(no");
     Key(Qt::Key_Return);
-    EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), "(None)");
+    EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "(None)");
     Type("tou");
     // Not settled yet, and the list of matches is open: whatever leaves the box settles it.
     EXPECT_TRUE(styles.completer()->popup()->isVisible());
     EXPECT_TRUE(window.ActiveWindow()->Flush());
     EXPECT_FALSE(styles.completer()->popup()->isVisible());
-    EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), "Stout");
+    EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "Stout");
     // What is no style gives way to the choice.
     Type("no such beer");
     Key(Qt::Key_Tab);
     EXPECT_EQ(styles.currentText(), QStringLiteral("Stout"));
-    EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), "Stout");
+    EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "Stout");
 }
 
 TEST_F(DocumentWindow, SwapsPrimingAndPressureWithThePackaging) {
@@ -211,7 +211,7 @@ TEST_F(DocumentWindow, SwapsPrimingAndPressureWithThePackaging) {
     EXPECT_FALSE(Find<GridView>("gridPriming").isVisible());
     EXPECT_TRUE(Find<GridView>("gridPressure").isVisible());
     EXPECT_EQ(Find<QWidget>("FancyLabel8").property("Caption").toString(), QStringLiteral("Pressure"));
-    EXPECT_FALSE(shell.ActiveDocument()->Record().Bottled());
+    EXPECT_FALSE(shell.Documents().Active()->Record().Bottled());
 }
 
 TEST_F(DocumentWindow, AsksBeforeItsChangesAreLost) {

@@ -12,7 +12,7 @@ class Editing : public GuiTest {
         GuiTest::SetUp();
         NewRecipe();
     }
-    RecipeDocument& Document() { return *shell.ActiveDocument(); }
+    RecipeDocument& Document() { return *shell.Documents().Active(); }
     RecipeRecord& R() { return Document().Record(); }
     QAction& Action(const char* name) { return *window.findChild<QAction*>(QLatin1String(name)); }
     static void ClickHeader(GridView& view, int col) {

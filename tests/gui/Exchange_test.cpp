@@ -24,7 +24,7 @@ class Exchange : public GuiTest {
         for (const char* name : {"Ale", "Mild"}) {
             shell.DB()->Execute(std::string("INSERT INTO RECIPES (NAME, FOLDER_ID, STYLE_ID) VALUES ('") +
                                 name + "', 0, 0)");
-            shell.Objects().AddRecipeNodesByName(name);
+            shell.Data().objects.AddRecipeNodesByName(name);
         }
     }
     static void Show(QDialog& dialog) {
@@ -46,7 +46,7 @@ class Exchange : public GuiTest {
 };
 
 TEST_F(Exchange, RecipesArePickedAndTakenOnWithTheKeyboardAlone) {
-    ImportExportModel model(shell.Tree(), false);
+    ImportExportModel model(shell.Data().tree, false);
     frmImportExport dialog(model, nullptr);
     Show(dialog);
     EXPECT_EQ(FromQt(dialog.windowTitle()), "Export Recipes");
@@ -65,7 +65,7 @@ TEST_F(Exchange, RecipesArePickedAndTakenOnWithTheKeyboardAlone) {
 }
 
 TEST_F(Exchange, NextGoesDarkWhenTheLastRecipeIsTakenOut) {
-    ImportExportModel model(shell.Tree(), true);
+    ImportExportModel model(shell.Data().tree, true);
     frmImportExport dialog(model, nullptr);
     Show(dialog);
     EXPECT_EQ(FromQt(dialog.windowTitle()), "Import Recipes");
@@ -151,7 +151,7 @@ TEST_F(Exchange, UnknownStylesAreListedAndEnterClosesTheList) {
 TEST_F(Exchange, EveryDialogHasAWindowOfItsOwn) {
     QtDialogs dialogs(outside.settings);
     RegisterExchangeForms(dialogs);
-    ImportExportModel recipes(shell.Tree(), true);
+    ImportExportModel recipes(shell.Data().tree, true);
     NameConflictModel conflict("Mild", true, outside.messages);
     StylesNotImportedModel styles({});
     FileDialogModel file({}, outside.messages);

@@ -15,11 +15,12 @@ class ExplorerWindow : public BrowseTest {
     void SetUp() override {
         BrowseTest::SetUp();
         model = std::make_unique<ExplorerModel>(
-            shell.Access(), ExplorerModel::Hooks{[this](const std::string& name) { opened.push_back(name); },
-                                                 [this](const std::string& name, std::int64_t) {
-                                                     edited.push_back(name);
-                                                     return std::optional<std::string>();
-                                                 }});
+            shell.Data().Access(),
+            ExplorerModel::Hooks{[this](const std::string& name) { opened.push_back(name); },
+                                 [this](const std::string& name, std::int64_t) {
+                                     edited.push_back(name);
+                                     return std::optional<std::string>();
+                                 }});
         dialog = std::make_unique<frmExplorer>(*model, nullptr);
         Front(*dialog);
     }
@@ -90,11 +91,11 @@ TEST_F(ExplorerWindow, F2EditsANameInTheList) {
         List().setFocus();
         QTest::keyClick(&List(), Qt::Key_F2);
         TypeName(List(), "Brown");
-        EXPECT_EQ(shell.Tree().Nodes("R:2:3")->Name(), "Brown");
+        EXPECT_EQ(shell.Data().tree.Nodes("R:2:3")->Name(), "Brown");
         EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "Brown"}));
         EXPECT_TRUE(List().hasFocus());
         EXPECT_TRUE(dialog->isVisible());
-        shell.Objects().RenameObject("R:2:3", "mild", true);
+        shell.Data().objects.RenameObject("R:2:3", "mild", true);
         model->Settle();
     }
     EXPECT_EQ(Boxes(), Strings{});
@@ -133,7 +134,7 @@ TEST_F(ExplorerWindow, ARefusedNameLeavesTheFocusWhereItWas) {
         Key(Qt::Key_Home);
         EXPECT_EQ(model->List(Page::Recipes).SelectedKey(), "F:1") << look;
     }
-    shell.Objects().CreateRecipeFolder(0, "Zwickl", true);
+    shell.Data().objects.CreateRecipeFolder(0, "Zwickl", true);
     model->Settle();
     Click(Tree(), Node("F:1"));
     refuse(Tree(), "zwickl");
@@ -173,15 +174,15 @@ TEST_F(ExplorerWindow, AFolderIsMadeAndNamedInTheTree) {
     QTest::keyClick(&Tree(), Qt::Key_Insert);
     TypeName(Tree(), "Autumn");
     EXPECT_EQ(model->NodeKey(), "F:4");
-    EXPECT_EQ(shell.Tree().Nodes("F:4")->Name(), "Autumn");
+    EXPECT_EQ(shell.Data().tree.Nodes("F:4")->Name(), "Autumn");
     EXPECT_EQ(FromQt(Tree().currentIndex().data().toString()), "Autumn");
     EXPECT_EQ(Tree().currentIndex().row(), 0);  // at its place in the order
     QTest::keyClick(&Tree(), Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
     TypeName(Tree(), "Late");
-    EXPECT_EQ(shell.Tree().Nodes("F:5")->Parent()->Key(), "F:4");
+    EXPECT_EQ(shell.Data().tree.Nodes("F:5")->Parent()->Key(), "F:4");
     QTest::keyClick(&Tree(), Qt::Key_F2);
     TypeName(Tree(), "Later");
-    EXPECT_EQ(shell.Tree().Nodes("F:5")->Name(), "Later");
+    EXPECT_EQ(shell.Data().tree.Nodes("F:5")->Name(), "Later");
 }
 
 TEST_F(ExplorerWindow, KeysThatEditANameMakeNoFolder) {
@@ -237,16 +238,16 @@ TEST_F(ExplorerWindow, ObjectsAreDraggedFromListToTree) {
     EXPECT_FALSE(Drop(Tree(), Node("F:-1"), {"R:1:3"}));
     EXPECT_FALSE(Drop(Tree(), Node("X:DB"), {"F:1"}));
     EXPECT_FALSE(Drop(Tree(), Node("F:1"), {"F:1"}));
-    EXPECT_EQ(shell.Tree().Nodes("R:1:3")->Parent()->Key(), "F:1");
+    EXPECT_EQ(shell.Data().tree.Nodes("R:1:3")->Parent()->Key(), "F:1");
 }
 
 TEST_F(ExplorerWindow, ObjectsAreDraggedOnFoldersOfTheList) {
     for (const char* view : {"mnuDetails", "mnuLargeIcons", "mnuList"}) {
         Press(view);
         EXPECT_TRUE(Drop(List(), RowOf(List(), "Winter"), {"R:1:3"})) << view;
-        EXPECT_EQ(shell.Tree().Nodes("R:1:3")->Parent()->Key(), "F:1");
+        EXPECT_EQ(shell.Data().tree.Nodes("R:1:3")->Parent()->Key(), "F:1");
         EXPECT_FALSE(Drop(List(), RowOf(List(), "mild"), {"F:2"}));
-        shell.Objects().MoveObject("R:1:3", "F:0", true);
+        shell.Data().objects.MoveObject("R:1:3", "F:0", true);
         model->Settle();
     }
 }
@@ -275,7 +276,7 @@ TEST_F(ExplorerWindow, AFolderDroppedOnItsOwnChildIsToldOf) {
     EXPECT_TRUE(Drop(Tree(), Node("F:2"), {"F:1"}));
     EXPECT_EQ(Boxes(), Strings{"[Could not move folder] The destination folder is a sub-folder of the source "
                                "folder"});
-    EXPECT_EQ(shell.Tree().Nodes("F:1")->Parent()->Key(), "F:0");
+    EXPECT_EQ(shell.Data().tree.Nodes("F:1")->Parent()->Key(), "F:0");
 }
 
 TEST_F(ExplorerWindow, AStrangerIsNotTaken) {
@@ -311,7 +312,7 @@ TEST_F(ExplorerWindow, TheMenuOfARowIsLitByItsKey) {
     Item(*menu, "mnuRename")->trigger();
     Close(menu);
     TypeName(List(), "Bitter");
-    EXPECT_EQ(shell.Tree().Nodes("R:1:3")->Name(), "Bitter");
+    EXPECT_EQ(shell.Data().tree.Nodes("R:1:3")->Name(), "Bitter");
 }
 
 TEST_F(ExplorerWindow, TheMenuOfAnEntryOfTheTreeIsLitByItsKey) {
@@ -348,8 +349,8 @@ TEST_F(ExplorerWindow, ARecipeIsDraggedToAnotherStyle) {
     EXPECT_EQ(Rows(List()), (Strings{"Ale", "mild", "Porter"}));
     EXPECT_TRUE(Drop(Tree(), Node("S:1:1"), {"R:3:2"}));
     EXPECT_EQ(Rows(List()), (Strings{"Ale", "mild"}));
-    EXPECT_EQ(shell.Tree().Nodes("R:3:3")->Parent()->Key(), "F:1");
-    EXPECT_EQ(shell.Tree().Nodes("R:3:1")->Parent()->Key(), "S:1:0");
+    EXPECT_EQ(shell.Data().tree.Nodes("R:3:3")->Parent()->Key(), "F:1");
+    EXPECT_EQ(shell.Data().tree.Nodes("R:3:1")->Parent()->Key(), "S:1:0");
 }
 
 TEST_F(ExplorerWindow, EachPageKeepsItsPlace) {
@@ -363,7 +364,8 @@ TEST_F(ExplorerWindow, EachPageKeepsItsPlace) {
 }
 
 TEST_F(ExplorerWindow, TheStylesOpenWithTheirFirstRowsInSight) {
-    for (int i = 0; i < 60; ++i) shell.Objects().CreateStyleFolder(0, "Folder " + std::to_string(i), true);
+    for (int i = 0; i < 60; ++i)
+        shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), true);
     model->Settle();
     Button("optStyles").click();
     QApplication::processEvents();
@@ -381,7 +383,7 @@ TEST_F(ExplorerWindow, TheStylesOpenWithTheirFirstRowsInSight) {
 
 TEST_F(ExplorerWindow, TheTreeTellsInATipWhatItCuts) {
     EXPECT_EQ(FromQt(Node("F:1").data(Qt::ToolTipRole).toString()), "Winter");
-    shell.Objects().RenameObject("F:1", "<b>Winter</b>", true);
+    shell.Data().objects.RenameObject("F:1", "<b>Winter</b>", true);
     model->Settle();
     EXPECT_THAT(FromQt(Node("F:1").data(Qt::ToolTipRole).toString()), testing::HasSubstr("&lt;b&gt;"));
 }
@@ -404,7 +406,7 @@ TEST_F(ExplorerWindow, TheButtonsAreAboutTheRowsOrTheEntry) {
     EXPECT_TRUE(Button("cmdDelete").isEnabled());
     Button("cmdRename").click();
     TypeName(Tree(), "Cold");
-    EXPECT_EQ(shell.Tree().Nodes("F:1")->Name(), "Cold");
+    EXPECT_EQ(shell.Data().tree.Nodes("F:1")->Name(), "Cold");
     Click(List(), RowOf(List(), "Porter"));
     Button("cmdDelete").click();
     EXPECT_EQ(Boxes(), Strings{"[Confirm Delete] Are you sure you want to delete 'Porter'? -> No"});

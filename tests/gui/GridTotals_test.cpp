@@ -13,7 +13,7 @@ class GridTotals : public GuiTest {
         GuiTest::SetUp();
         NewRecipe();
     }
-    RecipeRecord& R() { return shell.ActiveDocument()->Record(); }
+    RecipeRecord& R() { return shell.Documents().Active()->Record(); }
     // One grain of 8 lb above its total: rows 1 and 2.
     GridView& OneGrain() {
         auto& view = GridAt(Tab::Grains, "gridGrain", 1, 0);
@@ -237,7 +237,7 @@ TEST_F(GridTotals, AColumnIsAsWideAsItsLongestText) {
     Key(Qt::Key_Plus, Qt::ControlModifier);
     auto& view = GridAt(Tab::Log, "gridLog", 1, LogCol::Notes);
     const QString notes = QStringLiteral("The mash stood at 67 degrees for an hour. ").repeated(6);
-    shell.ActiveDocument()->Cells().Cells().EditCell(R().gridLog, 1, LogCol::Notes, FromQt(notes));
+    shell.Documents().Active()->Cells().EditCell(R().gridLog, 1, LogCol::Notes, FromQt(notes));
     EXPECT_GE(view.columnWidth(LogCol::Notes), view.fontMetrics().horizontalAdvance(notes));
     EXPECT_EQ(view.columnWidth(LogCol::Action), view.horizontalHeader()->sectionSizeHint(LogCol::Action));
 }

@@ -11,7 +11,7 @@ class GridEditing : public GuiTest {
         GuiTest::SetUp();
         NewRecipe();
     }
-    RecipeRecord& R() { return shell.ActiveDocument()->Record(); }
+    RecipeRecord& R() { return shell.Documents().Active()->Record(); }
     static QComboBox* ListEditor() { return qobject_cast<QComboBox*>(QApplication::focusWidget()); }
 };
 
@@ -33,7 +33,7 @@ TEST_F(GridEditing, EscapeKeepsTheOldText) {
     Key(Qt::Key_Escape);
     EXPECT_EQ(Shown(view, 1, 1), "");
     EXPECT_EQ(Focus(), "gridGrain");
-    EXPECT_FALSE(shell.ActiveDocument()->Changed());
+    EXPECT_FALSE(shell.Documents().Active()->Changed());
 }
 
 TEST_F(GridEditing, ARefusedEntryStaysInItsEditor) {

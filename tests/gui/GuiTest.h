@@ -75,7 +75,7 @@ class GuiTest : public testing::Test {
     }
 
     RecordingPlatform outside;
-    Shell shell{outside.platform};
+    Shell shell{{outside.platform}};
     frmMain window{shell, outside.platform};
 };
 

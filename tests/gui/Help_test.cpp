@@ -211,9 +211,9 @@ class HelpKey : public GuiTest {
                          "INSERT INTO CONTEXT_HELP VALUES ('frmDocument', 'Tab1', 'general.html'),"
                          " ('frmDocument', 'Tab2', 'malts.html');");
         files.files[folder.Path().string() + "/index_template.dat"] = "$START_PAGE";
-        shell.SetHelp(&help);
+        shell.Environment().help = &help;
     }
-    void TearDown() override { shell.SetHelp(nullptr); }
+    void TearDown() override { shell.Environment().help = nullptr; }
     std::string TakePage() {
         if (browser.opened.empty()) return {};
         const std::string file = std::exchange(browser.opened, {}).back();
@@ -274,7 +274,7 @@ TEST_F(HelpKey, AsksForTheFormInADialog) {
 }
 
 TEST_F(HelpKey, AsksForTheTabInADialogWithTabs) {
-    OptionsModel options(shell, outside.messages);
+    OptionsModel options(shell.SettingsNow(), *shell.DB(), outside.messages);
     const Strings asked = Asked(options, [](QWidget& dialog) {
         QTest::keyClick(&dialog, Qt::Key_F1);
         dialog.findChild<QTabWidget*>()->setCurrentIndex(2);

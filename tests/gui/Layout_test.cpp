@@ -65,8 +65,8 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         AboutModel about;
         DetailsModel strength = StrengthDetails(1.05, 1.01), hops = HopDetails(1.05, 30);
         DetailsModel volume = FinalVolDetails({5, 0, 5, 1.05, 1.01});
-        OpenSaveModel openSave(OpenSaveModel::Style::Open, shell.Access(), {});
-        ExplorerModel recipes(shell.Access(), {}), styles(shell.Access(), {});
+        OpenSaveModel openSave(OpenSaveModel::Style::Open, shell.Data().Access(), {});
+        ExplorerModel recipes(shell.Data().Access(), {}), styles(shell.Data().Access(), {});
         styles.Show(ExplorerModel::Page::Styles);
         CannotUndoModel cannotUndo;
         AboutDialog aboutWindow(about, nullptr);
@@ -98,7 +98,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             QApplication::processEvents();
             visit(scalingWindow);
         }
-        OptionsModel options(shell, outside.messages);
+        OptionsModel options(shell.SettingsNow(), *shell.DB(), outside.messages);
         QtColorChooser colors;
         frmOptions optionsWindow(options, colors, nullptr);
         optionsWindow.show();
@@ -131,18 +131,17 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
 
     // The pickers, and what recipes and folders are chosen with.
     void ForEachChooser(const std::function<void(QWidget&)>& visit) {
-        for (const CatalogueKind list :
-             {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Hop, CatalogueKind::Yeast}) {
-            LvShowModel picker(list, *shell.DB(), shell.Tree(), "");
+        for (const CatalogueKind list : {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Hop, CatalogueKind::Yeast}) {
+            LvShowModel picker(list, *shell.DB(), shell.Data().tree, "");
             frmLvShow pickerWindow(picker, nullptr);
             pickerWindow.show();
             QApplication::processEvents();
             visit(pickerWindow);
         }
-        ChooseFolderModel folders(shell.Tree(), shell.Objects());
+        ChooseFolderModel folders(shell.Data().tree, shell.Data().objects);
         frmChooseFolder folderWindow(folders, nullptr);
         RecipeChooser recipes;
-        recipes.SetTree(&shell.Tree());
+        recipes.SetTree(&shell.Data().tree);
         recipes.SetAction("Export");
         recipes.Initialize();
         RecipeChooserView chooser(recipes, nullptr);
@@ -156,7 +155,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
     // The dialogs of import and export, for names that are longer than any window.
     void ForEachExchange(const std::function<void(QWidget&)>& visit) {
         const std::string name(1000, 'W');
-        ImportExportModel in(shell.Tree(), true), out(shell.Tree(), false);
+        ImportExportModel in(shell.Data().tree, true), out(shell.Data().tree, false);
         NameConflictModel conflict(name, false, outside.messages);
         StylesNotImportedModel styles({{name, "Stout"}});
         ProgressModel progress("Importing Recipes", {});
@@ -176,8 +175,9 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
 
     // Database setup, and the editor of each catalogue, to be filled and to be read.
     void ForEachEditor(const std::function<void(QWidget&)>& visit) {
-        const CatalogueContext context = shell.Catalogues();
-        for (const CatalogueKind catalogue : kSetupOrder) {
+        const CatalogueContext context = shell.Catalogue().Context();
+        for (int i = 0; i < kCatalogues; ++i) {
+            const auto catalogue = static_cast<Catalogue>(i);
             DBSetupModel setup(context);
             setup.Choose(catalogue);
             frmDBSetup setupWindow(setup, nullptr);
@@ -214,8 +214,8 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         NoPrinterModel noPrinter;
         NoPrinterDialog noPrinterWindow(noPrinter, nullptr);
         show(noPrinterWindow);
-        PrintWizardModel wizard({*shell.DB(), shell.Tree(), shell.Store(), outside.messages, outside.dialogs,
-                                 nullptr, shell.Own()},
+        PrintWizardModel wizard({*shell.DB(), shell.Data().tree, shell.Store(), outside.messages,
+                                 outside.dialogs, nullptr, shell.Own()},
                                 0);
         wizard.Chooser().Add("F:-1");
         for (int page = 0; page < PrintWizardModel::kPages; ++page) {
@@ -373,7 +373,7 @@ class Controls : public GuiTest {};
 TEST_F(Controls, AllOfTheRecipeAreThereUnderTheirNames) {
     NewRecipe();
     BuildAllTabs();
-    const RecipeRecord& record = shell.ActiveDocument()->Record();
+    const RecipeRecord& record = shell.Documents().Active()->Record();
     std::set<std::string> missing;
     const auto look = [&](const std::string& name) {
         if (!window.ActiveWindow()->findChild<QWidget*>(ToQt(name))) missing.insert(name);

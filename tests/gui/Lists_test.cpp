@@ -206,13 +206,13 @@ class Choosers : public GuiTest {
 TEST_F(Choosers, TheStyleIsBrowsed) {
     NewRecipe();
     Find<QComboBox>("cmbStyle").setCurrentIndex(1);
-    shell.ActiveDocument()->Style().Select(1);
+    shell.Documents().Active()->Style().Select(1);
     Answer("Stout");
     auto& browse = Find<QPushButton>("cmdBrowseStyles");
     EXPECT_TRUE(browse.isEnabled());
     browse.click();
     EXPECT_EQ(started.substr(0, 14), "Select Style: ");
-    EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), "Stout");
+    EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "Stout");
     EXPECT_EQ(Find<QComboBox>("cmbStyle").currentText(), QStringLiteral("Stout"));
 }
 
@@ -224,13 +224,13 @@ TEST_F(Choosers, TheStyleBoxTakesACode) {
     box->setFocus();
     box->setEditText(QStringLiteral("6c"));
     QTest::keyClick(box, Qt::Key_Return);
-    EXPECT_EQ(shell.ActiveDocument()->Record().cmbStyle.Text(), "Bock");
+    EXPECT_EQ(shell.Documents().Active()->Record().cmbStyle.Text(), "Bock");
     EXPECT_EQ(FromQt(box->currentText()), "Bock");
 }
 
 TEST_F(Choosers, TheStylePickerNamesTheGuidesOfItsCodes) {
     const auto guides = [this] {
-        LvShowModel model(CatalogueKind::Style, *shell.DB(), shell.Tree(), "");
+        LvShowModel model(CatalogueKind::Style, *shell.DB(), shell.Data().tree, "");
         frmLvShow picker(model, nullptr);
         picker.show();
         auto* label = picker.findChild<QLabel*>(QStringLiteral("lblGuides"));
@@ -270,7 +270,7 @@ TEST_F(Choosers, ACancelledPickerChangesNothing) {
     QTest::keyClick(&view, Qt::Key_Return, Qt::ControlModifier);
     EXPECT_EQ(started, "Select Hop Variety: Saaz");
     EXPECT_EQ(Shown(view, 1, HopCol::Variety), "");
-    EXPECT_FALSE(shell.ActiveDocument()->Changed());
+    EXPECT_FALSE(shell.Documents().Active()->Changed());
 }
 
 TEST_F(Choosers, ADoubleClickElsewhereOpensTheEditor) {
@@ -282,7 +282,7 @@ TEST_F(Choosers, ADoubleClickElsewhereOpensTheEditor) {
 }
 
 TEST_F(Choosers, ThePickerOpensOnItsNameAndEnterTakesIt) {
-    LvShowModel model(CatalogueKind::Hop, *shell.DB(), shell.Tree(), "saaz");
+    LvShowModel model(CatalogueKind::Hop, *shell.DB(), shell.Data().tree, "saaz");
     frmLvShow picker(model, nullptr);
     picker.show();
     QApplication::setActiveWindow(&picker);
@@ -298,7 +298,7 @@ TEST_F(Choosers, ThePickerOpensOnItsNameAndEnterTakesIt) {
 }
 
 TEST_F(Choosers, AnEmptyPickerOffersNothing) {
-    LvShowModel model(CatalogueKind::Sugar, *shell.DB(), shell.Tree(), "Corn");
+    LvShowModel model(CatalogueKind::Sugar, *shell.DB(), shell.Data().tree, "Corn");
     frmLvShow picker(model, nullptr);
     picker.show();
     EXPECT_FALSE(picker.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled());
@@ -315,7 +315,7 @@ TEST_F(Choosers, AYeastShowsItsFiguresFromTheFirst) {
         "the Long Street WLP099 Super High Gravity Ale Yeast', 'Ferments a strong wort dry and leaves it "
         "clean "
         "of nearly everything', 4, 'Very High', 65, 100.5, 61.5, 68.5)");
-    LvShowModel model(CatalogueKind::Yeast, *shell.DB(), shell.Tree(), "");
+    LvShowModel model(CatalogueKind::Yeast, *shell.DB(), shell.Data().tree, "");
     frmLvShow picker(model, nullptr);
     picker.show();
     QApplication::processEvents();
@@ -334,9 +334,9 @@ TEST_F(Choosers, AYeastShowsItsFiguresFromTheFirst) {
 }
 
 TEST_F(Choosers, TheStyleListFollowsTheFolderByKey) {
-    shell.Objects().CreateStyleFolder(0, "Dark", true);
+    shell.Data().objects.CreateStyleFolder(0, "Dark", true);
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1 WHERE NAME = 'Bock'");
-    LvShowModel model(CatalogueKind::Style, *shell.DB(), shell.Tree(), "");
+    LvShowModel model(CatalogueKind::Style, *shell.DB(), shell.Data().tree, "");
     frmLvShow picker(model, nullptr);
     picker.show();
     QApplication::setActiveWindow(&picker);
@@ -350,7 +350,7 @@ TEST_F(Choosers, TheStyleListFollowsTheFolderByKey) {
 }
 
 TEST_F(Choosers, AFolderIsMadeAndNamedInPlace) {
-    ChooseFolderModel model(shell.Tree(), shell.Objects());
+    ChooseFolderModel model(shell.Data().tree, shell.Data().objects);
     frmChooseFolder dialog(model, nullptr);
     dialog.show();
     QApplication::setActiveWindow(&dialog);
@@ -363,7 +363,7 @@ TEST_F(Choosers, AFolderIsMadeAndNamedInPlace) {
     QTest::keyClick(editor, Qt::Key_Return);
     QApplication::processEvents();
     EXPECT_EQ(model.FolderChooser1().FolderID(), 1);
-    EXPECT_EQ(shell.Tree().Nodes("F:1")->Name(), "Winter");
+    EXPECT_EQ(shell.Data().tree.Nodes("F:1")->Name(), "Winter");
     EXPECT_EQ(FromQt(tree->currentIndex().data().toString()), "Winter");
     EXPECT_TRUE(dialog.isVisible());
     dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->click();
@@ -372,9 +372,9 @@ TEST_F(Choosers, AFolderIsMadeAndNamedInPlace) {
 }
 
 TEST_F(Choosers, ARefusedNameOfAFolderIsTakenBackAfterOneBox) {
-    shell.Objects().CreateRecipeFolder(0, "Winter", true);
-    shell.Objects().CreateRecipeFolder(0, "Autumn", true);
-    FolderChooser chooser(shell.Tree(), shell.Objects());
+    shell.Data().objects.CreateRecipeFolder(0, "Winter", true);
+    shell.Data().objects.CreateRecipeFolder(0, "Autumn", true);
+    FolderChooser chooser(shell.Data().tree, shell.Data().objects);
     FolderChooserView view(chooser, nullptr);
     view.show();
     QApplication::setActiveWindow(&view);
@@ -394,8 +394,8 @@ TEST_F(Choosers, ARefusedNameOfAFolderIsTakenBackAfterOneBox) {
 }
 
 TEST_F(Choosers, ALockedFolderStaysChosen) {
-    shell.Objects().CreateRecipeFolder(0, "Winter", true);
-    FolderChooser chooser(shell.Tree(), shell.Objects());
+    shell.Data().objects.CreateRecipeFolder(0, "Winter", true);
+    FolderChooser chooser(shell.Data().tree, shell.Data().objects);
     chooser.SetFolderID(1);
     chooser.SetLocked(true);
     FolderChooserView view(chooser, nullptr);
@@ -416,9 +416,9 @@ class RecipePicking : public GuiTest {
         for (const char* name : {"Ale", "Mild"}) {
             shell.DB()->Execute(std::string("INSERT INTO RECIPES (NAME, FOLDER_ID, STYLE_ID) VALUES ('") +
                                 name + "', 0, 0)");
-            shell.Objects().AddRecipeNodesByName(name);
+            shell.Data().objects.AddRecipeNodesByName(name);
         }
-        chooser.SetTree(&shell.Tree());
+        chooser.SetTree(&shell.Data().tree);
         chooser.SetAction("Export");
         chooser.Initialize();
     }

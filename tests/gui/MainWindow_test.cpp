@@ -82,9 +82,9 @@ TEST_F(MainWindow, FollowsTheStatesOfTheCommands) {
 
 TEST_F(MainWindow, AppendOnInsertIsCheckedByItsCommandAlone) {
     NewRecipe();
-    const bool before = shell.AppendRows();
+    const bool before = shell.SettingsNow().AppendRows();
     Action("mnuEditAppendFlag").trigger();
-    EXPECT_EQ(shell.AppendRows(), !before);
+    EXPECT_EQ(shell.SettingsNow().AppendRows(), !before);
     EXPECT_EQ(Action("mnuEditAppendFlag").isChecked(), !before);
 }
 
@@ -100,7 +100,7 @@ TEST_F(MainWindow, ListsTheOpenRecipesInTheWindowMenu) {
         if (action->isCheckable()) titles << action->text();
     EXPECT_EQ(titles, (QStringList{QStringLiteral("&1 Bock && Co"), QStringLiteral("&2 Untitled 2")}));
     menu->actions().at(menu->actions().size() - 2)->trigger();
-    EXPECT_EQ(shell.ActiveDocument()->BeerName(), "Bock & Co");
+    EXPECT_EQ(shell.Documents().Active()->BeerName(), "Bock & Co");
 }
 
 TEST_F(MainWindow, TilesAcrossAndDown) {

@@ -69,8 +69,8 @@ class Monkey : public testing::Test {
     }
 
     void Act() {
-        if (shell_.Documents().empty()) window_.RunCommand(CommandId::FileNew);
-        if (shell_.Documents().size() > kMostDocuments) window_.RunCommand(CommandId::FileClose);
+        if (shell_.Documents().All().empty()) window_.RunCommand(CommandId::FileNew);
+        if (shell_.Documents().All().size() > kMostDocuments) window_.RunCommand(CommandId::FileClose);
         ComeBack();
         const int kind = Below(random_, 100);
         if (kind < 45)
@@ -145,7 +145,7 @@ class Monkey : public testing::Test {
     }
     void Command() {
         const MenuItem& item = Any(random_, shell_.Bar().Items());
-        const bool tooMany = item.name == "mnuFileNew" && shell_.Documents().size() >= kMostDocuments;
+        const bool tooMany = item.name == "mnuFileNew" && shell_.Documents().All().size() >= kMostDocuments;
         if (item.name != "mnuFileExit" && !tooMany) window_.RunCommand(item.id);
     }
     void Resize() {
@@ -165,7 +165,7 @@ class Monkey : public testing::Test {
     Platform platform_{messages_, outside_.dialogs, outside_.settings, outside_.clock, outside_.clipboard};
 
   protected:
-    Shell shell_{platform_};
+    Shell shell_{{platform_}};
     frmMain window_{shell_, platform_};
 };
 
@@ -227,7 +227,7 @@ void Monkey::Check() {
         ++open;
         CheckDocument(*view, *view->Document());
     }
-    EXPECT_EQ(open, shell_.Documents().size());
+    EXPECT_EQ(open, shell_.Documents().All().size());
     for (const MenuItem& item : shell_.Bar().Items()) {
         const auto* action = window_.findChild<QAction*>(ToQt(item.name));
         if (!item.IsSeparator()) {
@@ -240,7 +240,7 @@ void Monkey::Check() {
         EXPECT_EQ(action->isEnabled(), button.enabled) << button.key;
     }
     // Qt counts no recipe's window as active while the main window is not.
-    if (shell_.ActiveDocument() && window_.isActiveWindow()) {
+    if (shell_.Documents().Active() && window_.isActiveWindow()) {
         ASSERT_NE(area->activeSubWindow(), nullptr);
         EXPECT_EQ(window_.ActiveWindow(), area->activeSubWindow()->widget());
     }

@@ -30,7 +30,7 @@ class OptionsWindow : public GuiTest {
     }
     void Open() {
         dialog.reset();
-        model = std::make_unique<OptionsModel>(shell, outside.messages);
+        model = std::make_unique<OptionsModel>(shell.SettingsNow(), *shell.DB(), outside.messages);
         dialog = std::make_unique<frmOptions>(*model, colors, nullptr);
         dialog->show();
         QApplication::setActiveWindow(dialog.get());

@@ -60,11 +60,11 @@ TEST_F(OutsideCommands, RunWhileARecipeIsOpen) {
 }
 
 TEST_F(OutsideCommands, WaitWhileTheTimerIsOff) {
-    shell.EnableDDETimer(false);
+    shell.DDE().SetTicking(false);
     Receive();
     Tick();
     EXPECT_EQ(outside.messages.TakeLog(), Strings{});
-    shell.EnableDDETimer(true);
+    shell.DDE().SetTicking(true);
     Tick();
     EXPECT_EQ(outside.messages.TakeLog(), Strings{box});
 }
@@ -88,7 +88,7 @@ TEST_F(OutsideCommands, AreDroppedWhenTheProgramEnds) {
 
 TEST(StartWithAFile, ImportsItAndThenTakesWhatCameFromOutside) {
     RecordingPlatform outside;
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     frmMain window(shell, outside.platform);
     shell.DDE().Receive(ChannelMessage::Commands, "[IMPORT(\"/no/b\")]");
     shell.DDE().TickDDE();
@@ -119,7 +119,7 @@ class BusyChannel : public ChannelPort {
 TEST(SecondStart, EndsBeforeItTouchesAnything) {
     RecordingPlatform outside;
     BusyChannel channel;
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     frmMain window(shell, outside.platform);
     window.show();
     shell.DDE().SetChannel(&channel);

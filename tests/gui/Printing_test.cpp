@@ -312,7 +312,7 @@ TEST(SaveFile, FiltersMatchWhateverTheCase) {
 
 TEST_F(GuiTest, ControlShiftPShowsThePagesOfTheRecipeInFront) {
     RecordingPrinter printer;
-    shell.SetPrinter(&printer);
+    shell.Environment().printer = &printer;
     QTest::keyClick(&window, Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_TRUE(outside.dialogs.shown.empty());
     NewRecipe();

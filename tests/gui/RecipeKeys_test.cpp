@@ -10,7 +10,7 @@ class RecipeKeys : public GuiTest {
         GuiTest::SetUp();
         NewRecipe();
     }
-    RecipeRecord& R() { return shell.ActiveDocument()->Record(); }
+    RecipeRecord& R() { return shell.Documents().Active()->Record(); }
     Tab Front() { return static_cast<Tab>(Find<QTabWidget>("SSTab1").currentIndex()); }
     // Every control of the front tab that takes the focus by key, and the bar of the tabs.
     std::vector<QWidget*> Controls() {
@@ -92,7 +92,7 @@ TEST_F(RecipeKeys, EscapeRestoresTheLastCommittedTextOfEveryBox) {
         EXPECT_EQ(FromQt(box.text()), committed) << name;
         EXPECT_EQ(R().FindTextBox(name)->Text(), committed);
     }
-    EXPECT_EQ(shell.ActiveDocument()->Caption(), "Old Ale");
+    EXPECT_EQ(shell.Documents().Active()->Caption(), "Old Ale");
     EXPECT_TRUE(outside.messages.log.empty());
 }
 
@@ -135,7 +135,7 @@ TEST_F(RecipeKeys, DeleteTakesTheNextLetterOrTheSelection) {
 }
 
 TEST_F(RecipeKeys, AMenuSettlesTheStyleThatIsBeingTyped) {
-    shell.ActiveDocument()->Style().Reload();
+    shell.Documents().Active()->Style().Reload();
     auto& styles = Find<QComboBox>("cmbStyle");
     QMenu& menu = *window.findChild<QMenu*>(QStringLiteral("mnuEdit"));
     for (const auto& [typed, style] :
@@ -146,7 +146,7 @@ TEST_F(RecipeKeys, AMenuSettlesTheStyleThatIsBeingTyped) {
         menu.popup(QPoint(0, 0));
         EXPECT_FALSE(styles.completer()->popup()->isVisible()) << typed;
         EXPECT_EQ(FromQt(styles.currentText()), style) << typed;
-        EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), style);
+        EXPECT_EQ(shell.Documents().Active()->BeerStyle(), style);
         menu.close();
     }
     // By key, with the list of matches open.
@@ -164,7 +164,7 @@ TEST_F(RecipeKeys, AMenuSettlesTheStyleThatIsBeingTyped) {
     styles.lineEdit()->selectAll();
     Type("tou");
     window.menuBar()->setFocus(Qt::MenuBarFocusReason);
-    EXPECT_EQ(shell.ActiveDocument()->BeerStyle(), "Stout");
+    EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "Stout");
     EXPECT_EQ(FromQt(styles.currentText()), "Stout");
 }
 

@@ -12,21 +12,21 @@ class ScalingWindows : public GuiTest {
     void SetUp() override {
         GuiTest::SetUp();
         NewRecipe();
-        RecipeDocument& document = *shell.ActiveDocument();
+        RecipeDocument& document = *shell.Documents().Active();
         RecipeRecord& r = document.Record();
         for (const auto& [box, text] : {std::pair(&r.txtTotalVol, "5 gal"), std::pair(&r.txtBoilVol, "6 gal"),
                                         std::pair(&r.txtExtract, "40%"), std::pair(&r.txtTemp, "68 F")}) {
             document.Fields().SetText(*box, text);
-            document.Fields().Fields().CommitField(*box);
+            document.Fields().CommitField(*box);
         }
-        document.Cells().Cells().EditCell(r.gridGrain, 1, GrainCol::Amount, "10 lb");
-        document.Cells().Cells().EditCell(r.gridGrain, 1, GrainCol::Ppg, "36");
-        document.Cells().Cells().EditCell(r.gridHops, 1, HopCol::Amount, "20 IBU");
-        document.Cells().Cells().EditCell(r.gridHops, 1, HopCol::Time, "60");
-        document.Cells().Cells().EditCell(r.gridPriming, 1, PrimingCol::Fermentable, "100");
+        document.Cells().EditCell(r.gridGrain, 1, GrainCol::Amount, "10 lb");
+        document.Cells().EditCell(r.gridGrain, 1, GrainCol::Ppg, "36");
+        document.Cells().EditCell(r.gridHops, 1, HopCol::Amount, "20 IBU");
+        document.Cells().EditCell(r.gridHops, 1, HopCol::Time, "60");
+        document.Cells().EditCell(r.gridPriming, 1, PrimingCol::Fermentable, "100");
         shell.CurrentSettings().askBeforeNonUndoableChange = false;
     }
-    RecipeRecord& R() { return shell.ActiveDocument()->Record(); }
+    RecipeRecord& R() { return shell.Documents().Active()->Record(); }
     // The next dialog is shown in its window and worked by that.
     void Work(std::function<void(ScalingDialog&)> work) {
         outside.dialogs.scripts.push_back([work = std::move(work)](DialogModel& model) {
@@ -208,18 +208,18 @@ TEST_F(ScalingWindows, TheTreatmentIsAButtonAndOneUndo) {
 
 TEST_F(ScalingWindows, TheTreatmentIsOffWithoutAVolume) {
     window.ActiveWindow()->ShowTab(Tab::Water);
-    RecipeDocument& document = *shell.ActiveDocument();
+    RecipeDocument& document = *shell.Documents().Active();
     document.Fields().SetText(R().txtTotalVol, "");
-    document.Fields().Fields().CommitField(R().txtTotalVol);
+    document.Fields().CommitField(R().txtTotalVol);
     EXPECT_FALSE(Find<QPushButton>("cmdCalcTreatment").isEnabled());
 }
 
 TEST_F(ScalingWindows, AFaultOfTheTreatmentIsShown) {
     shell.DB()->Execute("INSERT INTO SALTS (NAME, CA) VALUES ('Weak', 1e-300)");
-    RecipeDocument& document = *shell.ActiveDocument();
-    document.Cells().Cells().EditCell(R().gridWater, WaterRow::Target, WaterCol::FirstIon, "1");
+    RecipeDocument& document = *shell.Documents().Active();
+    document.Cells().EditCell(R().gridWater, WaterRow::Target, WaterCol::FirstIon, "1");
     document.Fields().SetText(R().txtTotalVol, "1" + std::string(20, '0'));
-    document.Fields().Fields().CommitField(R().txtTotalVol);
+    document.Fields().CommitField(R().txtTotalVol);
     window.ActiveWindow()->ShowTab(Tab::Water);
     Find<QPushButton>("cmdCalcTreatment").click();
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] Overflow (6)"});

@@ -50,7 +50,7 @@ class UndoWindows : public GuiTest, public testing::WithParamInterface<unsigned>
     const auto& Any(const List& list) {
         return list[static_cast<std::size_t>(Below(static_cast<int>(std::size(list))))];
     }
-    RecipeDocument& Document() { return *shell.ActiveDocument(); }
+    RecipeDocument& Document() { return *shell.Documents().Active(); }
     std::size_t Position() { return Document().History().StackPosition(); }
 
     // What counts of a recipe at a point of its history: all that is shown, and the numbers behind it. The

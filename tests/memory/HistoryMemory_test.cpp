@@ -46,13 +46,13 @@ class HistoryMemory : public DocumentTest {
 
 TEST_F(HistoryMemory, AStepOfOneCellTakesLittleBesideItsTwoTexts) {
     New();
-    document->Lines().Lines().InsertRowForGrid(R().gridAdjuncts);
+    document->Lines().InsertRowForGrid(R().gridAdjuncts);
     const std::string texts[] = {"Irish Moss, rehydrated", "Whirlfloc tablets, two"};
     ASSERT_TRUE(Put(R().gridAdjuncts, 1, 0, texts[1]));
     Forget();
     const std::size_t before = held;
     for (int step = 0; step < kSteps; ++step) {
-        ASSERT_TRUE(document->Cells().Cells().EditCell(R().gridAdjuncts, 1, 0, texts[step % 2], Asking::Quietly));
+        ASSERT_TRUE(document->Cells().EditCell(R().gridAdjuncts, 1, 0, texts[step % 2], Asking::Quietly));
         host.log.clear();
     }
     Forget();
@@ -83,7 +83,7 @@ TEST_F(HistoryMemory, TypingAThousandLettersIsOneStepOfTwoTexts) {
 TEST_F(HistoryMemory, ASaveGivesTheHistoryBack) {
     New();
     SaveAs("A");
-    document->Lines().Lines().InsertRowForGrid(R().gridAdjuncts);
+    document->Lines().InsertRowForGrid(R().gridAdjuncts);
     Forget();
     const std::size_t before = held;
     for (int step = 0; step < 1000; ++step) Put(R().gridAdjuncts, 1, 0, std::to_string(step));

@@ -10,7 +10,7 @@ class AutoSaveTest : public ShellTest {
   protected:
     void SetUp() override {
         ShellTest::SetUp();
-        shell.SetDoAutoSave(true);
+        shell.SettingsNow().SetDoAutoSave(true);
         shell.CurrentSettings().doAutoSaveEvery = 1;
     }
     void Tick(int times = 1) {
@@ -57,7 +57,7 @@ TEST_F(AutoSaveTest, EveryMinuteSavesAtEachTick) {
 
 TEST_F(AutoSaveTest, NothingOpenShowsNothing) {
     Tick(3);
-    shell.ShowAutoSave();
+    shell.AutoSaving().Run();
     EXPECT_EQ(Runs(), 0u);
 }
 
@@ -78,7 +78,7 @@ TEST_F(AutoSaveTest, ClosingTheLastDocumentStartsTheCountAgain) {
     shell.CurrentSettings().doAutoSaveEvery = 2;
     RecipeDocument& stout = NewSaved("Stout");
     Tick();
-    shell.CloseDocument(stout);
+    shell.Saver().Close(stout);
     Tick();
     NewSaved("Porter");
     Tick();
@@ -91,12 +91,12 @@ TEST_F(AutoSaveTest, OffAndOnAgainStartsTheCountAgain) {
     shell.CurrentSettings().doAutoSaveEvery = 2;
     NewSaved("Stout");
     Tick();
-    shell.SetDoAutoSave(false);
-    shell.SetDoAutoSave(true);
+    shell.SettingsNow().SetDoAutoSave(false);
+    shell.SettingsNow().SetDoAutoSave(true);
     Tick();
     EXPECT_EQ(Runs(), 0u);
     // On while it is on already goes on counting.
-    shell.SetDoAutoSave(true);
+    shell.SettingsNow().SetDoAutoSave(true);
     Tick();
     EXPECT_EQ(Runs(), 1u);
 }
@@ -111,7 +111,7 @@ TEST_F(AutoSaveTest, AnotherNumberOfMinutesKeepsTheCount) {
 }
 
 TEST_F(AutoSaveTest, OffDoesNothing) {
-    shell.SetDoAutoSave(false);
+    shell.SettingsNow().SetDoAutoSave(false);
     NewSaved("Stout");
     Tick(5);
     EXPECT_EQ(Runs(), 0u);
@@ -121,30 +121,30 @@ TEST_F(AutoSaveTest, AStoredSettingSwitchesItAtOnce) {
     shell.CurrentSettings().doAutoSaveEvery = 2;
     NewSaved("Stout");
     Tick();
-    shell.StoreSetting("Settings", "DoAutoSave", "0");
-    EXPECT_FALSE(shell.DoAutoSave());
+    shell.SettingsNow().Store("Settings", "DoAutoSave", "0");
+    EXPECT_FALSE(shell.CurrentSettings().doAutoSave);
     EXPECT_EQ(view.log.back(), "autosave off");
-    shell.StoreSetting("Settings", "DoAutoSave", "True");
+    shell.SettingsNow().Store("Settings", "DoAutoSave", "True");
     EXPECT_EQ(view.log.back(), "autosave on");
     Tick();
     EXPECT_EQ(Runs(), 0u);
-    shell.StoreSetting("Settings", "DoAutoSaveEvery", "1");
+    shell.SettingsNow().Store("Settings", "DoAutoSaveEvery", "1");
     Tick();
     EXPECT_EQ(Runs(), 1u);
 }
 
 TEST_F(AutoSaveTest, TheStartTakesTheStoredSetting) {
     outside.settings.Put("Settings", "DoAutoSave", "True");
-    Shell other(outside.platform);
+    Shell other({outside.platform});
     RecordingView otherView;
     other.SetView(&otherView);
     ASSERT_TRUE(other.PerformSplashScreenInit(":memory:"));
-    EXPECT_TRUE(other.DoAutoSave());
+    EXPECT_TRUE(other.CurrentSettings().doAutoSave);
     EXPECT_EQ(otherView.log, Strings{"autosave on"});
 }
 
 TEST_F(AutoSaveTest, ANewRecipeIsPassedOverSilently) {
-    RecipeDocument& unnamed = shell.CreateDocumentWindow("");
+    RecipeDocument& unnamed = shell.Recipes().Create("");
     Note(unnamed, "sour");
     RecipeDocument& named = NewNamed("Stout");
     Tick();
@@ -157,7 +157,7 @@ TEST_F(AutoSaveTest, ANewRecipeIsPassedOverSilently) {
 
 TEST_F(AutoSaveTest, ADetachedRecipeIsPassedOver) {
     RecipeDocument& stout = NewSaved("Stout");
-    shell.DeleteRecipe("Stout");
+    shell.Services().DeleteRecipe("Stout");
     Tick();
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
     EXPECT_TRUE(stout.Changed());
@@ -205,9 +205,9 @@ TEST_F(AutoSaveTest, AnErrorHasItsBoxAndTheOthersAreSaved) {
 
 TEST_F(AutoSaveTest, TheProgressNamesEachRecipeAndCountsThePassedOver) {
     NewSaved("Stout");
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     NewSaved("Porter");
-    AutoSaveModel progress(shell);
+    AutoSaveModel progress = shell.AutoSaving().Progress();
     EXPECT_EQ(progress.Controls()[0].text, "");
     Strings seen;
     progress.SetObserver([&] {
@@ -221,7 +221,7 @@ TEST_F(AutoSaveTest, TheProgressNamesEachRecipeAndCountsThePassedOver) {
 }
 
 TEST_F(AutoSaveTest, TheProgressWindowTakesNoEntryAndClosesByItself) {
-    AutoSaveModel progress(shell);
+    AutoSaveModel progress = shell.AutoSaving().Progress();
     EXPECT_FALSE(progress.SetControl("lblRecipe", "x"));
     EXPECT_FALSE(progress.Press("cmdOK"));
     EXPECT_TRUE(progress.IsOpen());
@@ -231,7 +231,7 @@ TEST_F(AutoSaveTest, TheProgressWindowTakesNoEntryAndClosesByItself) {
 
 TEST_F(AutoSaveTest, ItsCloseBoxDoesNotStopARun) {
     NewSaved("Stout");
-    AutoSaveModel progress(shell);
+    AutoSaveModel progress = shell.AutoSaving().Progress();
     std::vector<bool> open;
     progress.SetObserver([&] {
         progress.CloseBox();
@@ -245,10 +245,10 @@ TEST_F(AutoSaveTest, ADocumentThatGoesDuringTheRunIsLeftOut) {
     RecipeDocument& first = NewSaved("Stout");
     NewSaved("Porter");
     Note(first, "late");
-    AutoSaveModel progress(shell);
+    AutoSaveModel progress = shell.AutoSaving().Progress();
     bool closed = false;
     progress.SetObserver([&] {
-        if (!closed) shell.DeleteWindow(first);
+        if (!closed) shell.Documents().Remove(first);
         closed = true;
     });
     progress.FirstShown();
@@ -270,7 +270,7 @@ TEST_F(AutoSaveTest, ATickBehindAQuestionSavesAsUsual) {
     Note(stout, "kept");
     outside.messages.answers = {Answer::Cancel};
     outside.messages.whileAsking = [&] { Tick(); };
-    EXPECT_FALSE(shell.CloseDocument(stout));
+    EXPECT_FALSE(shell.Saver().Close(stout));
     EXPECT_EQ(StoredNotes("Stout"), "kept");
     EXPECT_FALSE(stout.Changed());
 }
@@ -300,7 +300,7 @@ TEST_F(AutoSaveTest, AnEntryThatCannotBeReadStaysAsItIsTyped) {
 TEST_F(AutoSaveTest, AnEmptiedBoxIsNotFilledUnderTheTypingHand) {
     RecipeDocument& stout = NewSaved("Stout");
     stout.Fields().SetText(stout.Record().txtTotalVol, "5 gal");
-    stout.Fields().Fields().CommitField(stout.Record().txtTotalVol);
+    stout.Fields().CommitField(stout.Record().txtTotalVol);
     TextBox& volume = stout.Record().txtFinalVol;
     stout.Fields().SetText(volume, "");
     Tick();
@@ -311,8 +311,8 @@ TEST_F(AutoSaveTest, ARefusedTemperatureIsNeverSaved) {
     RecipeDocument& stout = NewSaved("Stout");
     TextBox& temperature = stout.Record().txtTemp;
     stout.Fields().SetText(temperature, "38");
-    ASSERT_TRUE(stout.Fields().Fields().CommitField(temperature));
-    ASSERT_TRUE(stout.Cells().Cells().EditCell(stout.Record().gridPressure, 1, PressureCol::Pressure, "50 psi"));
+    ASSERT_TRUE(stout.Fields().CommitField(temperature));
+    ASSERT_TRUE(stout.Cells().EditCell(stout.Record().gridPressure, 1, PressureCol::Pressure, "50 psi"));
     std::string committedMeanwhile;
     MessageRecorder& boxes = outside.messages;
     boxes.whileShowing = [&] {
@@ -320,7 +320,7 @@ TEST_F(AutoSaveTest, ARefusedTemperatureIsNeverSaved) {
         Tick();
     };
     stout.Fields().SetText(temperature, "0");
-    EXPECT_FALSE(stout.Fields().Fields().CommitField(temperature));
+    EXPECT_FALSE(stout.Fields().CommitField(temperature));
     EXPECT_EQ(boxes.log.size(), 1u);
     EXPECT_EQ(committedMeanwhile, "38");
     EXPECT_EQ(shell.DB()->OpenRecordset("SELECT TEMPERATURE FROM RECIPES").Fields(0).Text(), "38");

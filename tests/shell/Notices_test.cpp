@@ -14,29 +14,29 @@ class Notices : public ShellTest {
     // Two windows on the same recipe: names in another case open a second one.
     void OpenTwice(const std::string& name, const std::string& other) {
         NewSaved(name);
-        shell.LoadDoc(other);
-        ASSERT_EQ(shell.Documents().size(), 2u);
+        shell.Recipes().Load(other);
+        ASSERT_EQ(shell.Documents().All().size(), 2u);
     }
 };
 
 TEST_F(Notices, AMovedRecipeTakesItsFolderInEveryWindow) {
     OpenTwice("Mild", "MILD");
     RecipeDocument& other = NewSaved("Porter");
-    shell.NotifyRecipeMoved("mild ", 4);
-    EXPECT_EQ(shell.Documents()[0]->FolderID(), 4);
-    EXPECT_EQ(shell.Documents()[1]->FolderID(), 4);
+    shell.Notices().NotifyRecipeMoved("mild ", 4);
+    EXPECT_EQ(shell.Documents().All()[0]->FolderID(), 4);
+    EXPECT_EQ(shell.Documents().All()[1]->FolderID(), 4);
     EXPECT_EQ(other.FolderID(), 0);
-    EXPECT_FALSE(shell.Documents()[0]->Changed());
+    EXPECT_FALSE(shell.Documents().All()[0]->Changed());
 }
 
 TEST_F(Notices, ANewStyleShowsInEveryWindowOfTheRecipe) {
     OpenTwice("Mild", "MILD");
     RecipeDocument& other = NewSaved("Porter");
-    shell.NotifyRecipeNewStyle("MILD", 7);
+    shell.Notices().NotifyRecipeNewStyle("MILD", 7);
     for (int i : {0, 1}) {
-        EXPECT_EQ(shell.Documents()[static_cast<std::size_t>(i)]->StyleID(), 7);
-        EXPECT_EQ(shell.Documents()[static_cast<std::size_t>(i)]->BeerStyle(), "Stout");
-        EXPECT_FALSE(shell.Documents()[static_cast<std::size_t>(i)]->Changed());
+        EXPECT_EQ(shell.Documents().All()[static_cast<std::size_t>(i)]->StyleID(), 7);
+        EXPECT_EQ(shell.Documents().All()[static_cast<std::size_t>(i)]->BeerStyle(), "Stout");
+        EXPECT_FALSE(shell.Documents().All()[static_cast<std::size_t>(i)]->Changed());
     }
     EXPECT_EQ(other.StyleID(), 0);
 }
@@ -54,7 +54,7 @@ TEST_F(Notices, ARenamedRecipeIsRenamedInTheRecentListFirst) {
         std::function<void()> look_;
     } watcher([&] { seen = Mru(1); });
     mild.Record().SetObserver(&watcher);
-    shell.NotifyRecipeRenamed("MILD", " Dark Mild ");
+    shell.Notices().NotifyRecipeRenamed("MILD", " Dark Mild ");
     mild.Record().SetObserver(nullptr);
     EXPECT_EQ(seen, "&2 Dark Mild");
     EXPECT_EQ(mild.OrigName(), "Dark Mild");
@@ -68,9 +68,9 @@ TEST_F(Notices, ANameThatTheBrewerHasEditedStaysAndIsSavedOverTheRenamedRecipe) 
     RecipeDocument& mild = NewSaved("Mild");
     mild.Fields().SetText(mild.Record().txtName, "Best Mild");
     shell.DB()->Execute("UPDATE RECIPES SET NAME = 'Dark Mild'");
-    shell.NotifyRecipeRenamed("Mild", "Dark Mild");
+    shell.Notices().NotifyRecipeRenamed("Mild", "Dark Mild");
     EXPECT_EQ(mild.BeerName(), "Best Mild");
-    EXPECT_TRUE(shell.SaveRecipe(mild, false));
+    EXPECT_TRUE(shell.Saver().Save(mild, false));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Best Mild"});
     EXPECT_EQ(outside.messages.log, Strings{});
 }
@@ -80,7 +80,7 @@ TEST_F(Notices, ARenamedStyleIsShownWithItsNewName) {
     RecipeDocument& none = NewSaved("Porter");
     mild.Style().SetId(7);
     shell.DB()->Execute("UPDATE STYLES SET NAME = 'Dry Stout' WHERE ID = 7");
-    shell.NotifyStyleRenamed(7, "Dry Stout");
+    shell.Notices().NotifyStyleRenamed(7, "Dry Stout");
     EXPECT_EQ(mild.BeerStyle(), "Dry Stout");
     EXPECT_EQ(mild.StyleID(), 7);
     EXPECT_EQ(none.BeerStyle(), "(None)");
@@ -92,7 +92,7 @@ TEST_F(Notices, ADeletedStyleLeavesNoneAndNoRanges) {
     mild.Style().SetId(7);
     EXPECT_NE(mild.Record().lblOGStyle.Text(), "");
     shell.DB()->Execute("DELETE FROM STYLES WHERE ID = 7");
-    shell.NotifyStyleDeleted(7);
+    shell.Notices().NotifyStyleDeleted(7);
     EXPECT_EQ(mild.StyleID(), 0);
     EXPECT_EQ(mild.BeerStyle(), "(None)");
     EXPECT_EQ(mild.Record().lblOGStyle.Text(), "");
@@ -102,8 +102,8 @@ TEST_F(Notices, ADeletedStyleLeavesNoneAndNoRanges) {
 // By the operations of the explorer, in documents with another style and without one.
 TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
     shell.DB()->Execute("INSERT INTO STYLES (ID, NAME, FOLDER_ID) VALUES (8, 'Porter', 0)");
-    for (const char* style : {"Stout", "Porter"}) shell.Objects().AddStyleNodesByName(style);
-    const std::int64_t dark = shell.Objects().CreateStyleFolder(0, "Dark", true);
+    for (const char* style : {"Stout", "Porter"}) shell.Data().objects.AddStyleNodesByName(style);
+    const std::int64_t dark = shell.Data().objects.CreateStyleFolder(0, "Dark", true);
     RecipeDocument& stout = NewSaved("Mild");
     stout.Style().SetId(7);
     RecipeDocument& none = NewSaved("Bitter");
@@ -117,13 +117,13 @@ TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
         }
         return names;
     };
-    ASSERT_TRUE(shell.Objects().RenameStyle(8, "Baltic Porter", true));
+    ASSERT_TRUE(shell.Data().objects.RenameStyle(8, "Baltic Porter", true));
     EXPECT_EQ(lists(), Strings(2, "(None); Baltic Porter; Stout; "));
-    ASSERT_TRUE(shell.Objects().MoveStyleToFolder(8, dark, true));
-    shell.Objects().DeleteStyleFolder(dark);
+    ASSERT_TRUE(shell.Data().objects.MoveStyleToFolder(8, dark, true));
+    shell.Data().objects.DeleteStyleFolder(dark);
     EXPECT_EQ(lists(), Strings(2, "(None); Stout; "));
     EXPECT_EQ(stout.BeerStyle(), "Stout");
-    shell.Objects().DeleteStyleById(7);
+    shell.Data().objects.DeleteStyleById(7);
     EXPECT_EQ(lists(), Strings(2, "(None); "));
     EXPECT_EQ(stout.BeerStyle() + none.BeerStyle(), "(None)(None)");
     EXPECT_FALSE(stout.Changed() || none.Changed());
@@ -131,8 +131,8 @@ TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
 
 TEST_F(Notices, ADeletedRecipeIsDetachedInEveryWindow) {
     OpenTwice("Mild", "MILD");
-    shell.NotifyRecipeDeleted("mild");
-    for (const auto& document : shell.Documents()) {
+    shell.Notices().NotifyRecipeDeleted("mild");
+    for (const auto& document : shell.Documents().All()) {
         EXPECT_EQ(document->FolderID(), -1);
         EXPECT_EQ(document->OrigName(), "");
         EXPECT_TRUE(document->Changed());
@@ -143,23 +143,23 @@ TEST_F(Notices, ADeletedRecipeIsDetachedInEveryWindow) {
 TEST_F(Notices, DeletingTheFolderDetachesAndClosingAsks) {
     RecipeDocument& mild = NewSaved("Mild");
     RecipeDocument& porter = NewSaved("Porter");
-    shell.NotifyRecipeMoved("Mild", 4);
-    shell.NotifyRecipeFolderDeleted(4);
+    shell.Notices().NotifyRecipeMoved("Mild", 4);
+    shell.Notices().NotifyRecipeFolderDeleted(4);
     EXPECT_TRUE(mild.Changed());
     EXPECT_EQ(mild.FolderID(), -1);
     EXPECT_FALSE(porter.Changed());
-    EXPECT_FALSE(shell.CloseDocument(mild));
+    EXPECT_FALSE(shell.Saver().Close(mild));
     EXPECT_EQ(
         outside.messages.log,
         Strings{"[Unsaved Changes] Recipe 'Mild' has changed. Do you wish to save your changes? -> Cancel"});
-    EXPECT_TRUE(shell.CloseDocument(porter));
+    EXPECT_TRUE(shell.Saver().Close(porter));
 }
 
 TEST_F(Notices, WithoutADocumentTheyReachTheRecentListAlone) {
     shell.Recent().Add("Mild");
-    shell.NotifyRecipeRenamed("Mild", "Bitter");
+    shell.Notices().NotifyRecipeRenamed("Mild", "Bitter");
     EXPECT_EQ(shell.Recent().Captions(), Strings{"&1 Bitter"});
-    shell.NotifyRecipeDeleted("BITTER ");
+    shell.Notices().NotifyRecipeDeleted("BITTER ");
     EXPECT_EQ(shell.Recent().Captions(), Strings{});
 }
 

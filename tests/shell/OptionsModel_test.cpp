@@ -13,7 +13,7 @@ using testing::ElementsAre;
 class OptionsModelTest : public ShellTest {
   protected:
     Settings& S() { return shell.CurrentSettings(); }
-    OptionsModel Open() { return OptionsModel(shell, outside.messages); }
+    OptionsModel Open() { return OptionsModel(shell.SettingsNow(), *shell.DB(), outside.messages); }
     // Enters one text with the focus in its field and presses OK. True when the dialog has closed.
     bool Passes(std::string_view field, std::string_view text) {
         OptionsModel dialog = Open();
@@ -319,8 +319,8 @@ TEST_F(OptionsModelTest, WaterProfilesStandByNameBehindAnEmptyEntry) {
 }
 
 TEST_F(OptionsModelTest, LooksActAtOnceAndOnlyWhenTheyChange) {
-    shell.CreateDocumentWindow("");
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
+    shell.Recipes().Create("");
     view.log.clear();
     OptionsModel same = Open();
     same.Press("cmdOK");
@@ -367,18 +367,18 @@ TEST_F(OptionsModelTest, TakesNoEntryThatAControlCannotHold) {
 }
 
 TEST_F(OptionsModelTest, NewRecipesTakeTheDefaultsAndOpenOnesKeepTheirs) {
-    RecipeDocument& open = shell.CreateDocumentWindow("");
+    RecipeDocument& open = shell.Recipes().Create("");
     EXPECT_TRUE(Passes("txtTotalVol", "3 gal"));
     EXPECT_EQ(open.Record().txtTotalVol.Text(), "");
-    EXPECT_EQ(shell.CreateDocumentWindow("").Record().txtTotalVol.Text(), "3 gal");
+    EXPECT_EQ(shell.Recipes().Create("").Record().txtTotalVol.Text(), "3 gal");
 }
 
 TEST_F(OptionsModelTest, AStoredLookActsAtOnceToo) {
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     view.log.clear();
-    shell.StoreSetting("Settings", "IconStyle", "1");
-    shell.StoreSetting("Settings", "ButtonStyle", "1");
-    shell.StoreSetting("Settings", "GridTotalBg", "255");
+    shell.SettingsNow().Store("Settings", "IconStyle", "1");
+    shell.SettingsNow().Store("Settings", "ButtonStyle", "1");
+    shell.SettingsNow().Store("Settings", "GridTotalBg", "255");
     EXPECT_EQ(view.log, (Strings{"icons", "button style", "colors of 0"}));
 }
 

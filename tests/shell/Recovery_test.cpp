@@ -28,11 +28,11 @@ void CreateDatabaseFile(const std::string& path) {
 struct ProgramRun {
     ProgramRun(const std::string& root, const std::string& database) {
         shell.SetView(&view);
-        shell.SetRecoveryFolder(root);
+        shell.Environment().recoveryFolder = root;
         EXPECT_TRUE(shell.PerformSplashScreenInit(database));
     }
     RecipeDocument& New(std::string_view name, std::string_view notes) {
-        RecipeDocument& document = shell.CreateDocumentWindow("");
+        RecipeDocument& document = shell.Recipes().Create("");
         document.Fields().SetText(document.Record().txtName, name);
         document.Fields().SetText(document.Record().txtNotes, notes);
         return document;
@@ -45,14 +45,14 @@ struct ProgramRun {
                 entries.push_back(entry.substr(0, entry.find(',')));
             for (const std::string& button : press) EXPECT_TRUE(dialog.Press(button)) << button;
         });
-        shell.OfferRecovery();
+        shell.Unsaved().Offer();
         outside.dialogs.scripts.clear();
         return entries;
     }
 
     RecordingPlatform outside;
     RecordingView view;
-    Shell shell{outside.platform};
+    Shell shell{{outside.platform}};
 };
 
 class RecoveryTest : public testing::Test {
@@ -92,26 +92,26 @@ TEST_F(RecoveryTest, AFileComesSomeTimeAfterAnEditAndGoesWithTheSave) {
     RecipeDocument& stout = run->New("Stout", "one");
     EXPECT_EQ(std::ranges::count(run->view.log, "unsaved work"), 2);
     EXPECT_THAT(Files(), IsEmpty());
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
-    EXPECT_TRUE(run->shell.SaveRecipeUnder(stout, "Stout", 0, true));
+    EXPECT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, true));
     EXPECT_THAT(Files(), IsEmpty());
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), IsEmpty());
     stout.Fields().SetText(stout.Record().txtNotes, "two");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
     run->outside.messages.answers = {Answer::No};
-    EXPECT_TRUE(run->shell.CloseDocument(stout));
+    EXPECT_TRUE(run->shell.Saver().Close(stout));
     EXPECT_THAT(Files(), IsEmpty());
 }
 
 TEST_F(RecoveryTest, EachChangedDocumentHasAFileAndAnUnchangedOneNone) {
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.CreateDocumentWindow("");
+    run->shell.Recipes().Create("");
     run->New("Porter", "two");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved", "2.unsaved"));
     run->shell.Unload(true);
     EXPECT_THAT(Files(), IsEmpty());
@@ -120,23 +120,23 @@ TEST_F(RecoveryTest, EachChangedDocumentHasAFileAndAnUnchangedOneNone) {
 TEST_F(RecoveryTest, TheNextStartRestoresAllOfIt) {
     auto run = Start();
     RecipeDocument& stored = run->New("Stout", "stored");
-    ASSERT_TRUE(run->shell.SaveRecipeUnder(stored, "Stout", 0, true));
-    stored.Cells().Cells().EditCell(stored.Record().gridGrain, 1, 0, "Pale Malt");
+    ASSERT_TRUE(run->shell.Saver().SaveUnder(stored, "Stout", 0, true));
+    stored.Cells().EditCell(stored.Record().gridGrain, 1, 0, "Pale Malt");
     run->New("", "never saved");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run.reset();
     run = Start();
     EXPECT_THAT(run->Offer({"cmdRestoreAll"}), ElementsAre("Stout", "Untitled"));
-    ASSERT_EQ(run->shell.Documents().size(), 2u);
-    const RecipeDocument& stout = *run->shell.Documents()[0];
+    ASSERT_EQ(run->shell.Documents().All().size(), 2u);
+    const RecipeDocument& stout = *run->shell.Documents().All()[0];
     EXPECT_EQ(stout.Record().gridGrain.Text(1, 0), "Pale Malt");
     EXPECT_EQ(stout.OrigName(), "Stout");
     EXPECT_EQ(stout.FolderID(), 0);
     EXPECT_TRUE(stout.Changed());
-    EXPECT_EQ(run->shell.Documents()[1]->Caption(), "Untitled 2");
-    EXPECT_EQ(run->shell.Documents()[1]->Record().txtNotes.Text(), "never saved");
+    EXPECT_EQ(run->shell.Documents().All()[1]->Caption(), "Untitled 2");
+    EXPECT_EQ(run->shell.Documents().All()[1]->Record().txtNotes.Text(), "never saved");
     EXPECT_TRUE(run->shell.Bar().FindItem("mnuFileSave")->enabled);
-    EXPECT_EQ(run->shell.ActiveDocument(), run->shell.Documents()[1].get());
+    EXPECT_EQ(run->shell.Documents().Active(), run->shell.Documents().All()[1].get());
     // The stored recipe is as it was.
     EXPECT_TRUE(
         run->shell.DB()->OpenRecordset("SELECT * FROM RECIPE_GRAINS WHERE NAME = 'Pale Malt'").AtEnd());
@@ -146,7 +146,7 @@ TEST_F(RecoveryTest, TheNextStartRestoresAllOfIt) {
 TEST_F(RecoveryTest, ARestoredRecipeSurvivesTheNextCrashTooAndGoesWithItsSave) {
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run = nullptr;
     run = Start();
     run->Offer({"cmdRestore"});
@@ -154,18 +154,18 @@ TEST_F(RecoveryTest, ARestoredRecipeSurvivesTheNextCrashTooAndGoesWithItsSave) {
     run = nullptr;
     run = Start();
     EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));
-    EXPECT_TRUE(run->shell.SaveRecipeUnder(*run->shell.ActiveDocument(), "Stout", 0, true));
+    EXPECT_TRUE(run->shell.Saver().SaveUnder(*run->shell.Documents().Active(), "Stout", 0, true));
     EXPECT_THAT(Files(), IsEmpty());
 }
 
 TEST_F(RecoveryTest, NothingIsShownWhenNothingWasLost) {
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run->shell.Unload(true);
     run = nullptr;
     run = Start();
-    run->shell.OfferRecovery();
+    run->shell.Unsaved().Offer();
     EXPECT_THAT(run->outside.dialogs.shown, IsEmpty());
     EXPECT_THAT(run->outside.messages.log, IsEmpty());
 }
@@ -174,13 +174,13 @@ TEST_F(RecoveryTest, LaterOffersTheRestAgainAtTheNextStart) {
     auto run = Start();
     run->New("Stout", "one");
     run->New("Porter", "two");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run = nullptr;
     run = Start();
     EXPECT_THAT(run->Offer({"cmdRestore", "cmdClose"}), ElementsAre("Stout", "Porter"));
     // What is open has its file from now on, and a new document takes another one.
     run->New("Mild", "three");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved", "2.unsaved", "3.unsaved"));
     run->shell.Unload(true);
     run = nullptr;
@@ -193,7 +193,7 @@ TEST_F(RecoveryTest, ThrowingAwayAsksFirst) {
     run->New("Stout", "one");
     run->New("Porter", "two");
     run->New("Mild", "three");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run = nullptr;
     run = Start();
     run->outside.messages.answers = {Answer::No, Answer::Yes, Answer::No};
@@ -205,14 +205,14 @@ TEST_F(RecoveryTest, ThrowingAwayAsksFirst) {
     run->outside.messages.answers = {Answer::Yes};
     EXPECT_THAT(run->Offer({"cmdDiscardAll"}), ElementsAre("Porter", "Mild"));
     EXPECT_THAT(Files(), IsEmpty());
-    EXPECT_TRUE(run->shell.Documents().empty());
+    EXPECT_TRUE(run->shell.Documents().All().empty());
 }
 
 TEST_F(RecoveryTest, TheListIsChosenFromByItsEntries) {
     auto run = Start();
     run->New("Stout", "one");
     run->New("Porter", "two");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run = nullptr;
     run = Start();
     run->outside.dialogs.scripts.push_back([](DialogModel& dialog) {
@@ -226,14 +226,14 @@ TEST_F(RecoveryTest, TheListIsChosenFromByItsEntries) {
         EXPECT_FALSE(dialog.Press("cmdOK"));
         EXPECT_TRUE(dialog.IsOpen());
     });
-    run->shell.OfferRecovery();
-    EXPECT_EQ(run->shell.ActiveDocument()->BeerName(), "Porter");
+    run->shell.Unsaved().Offer();
+    EXPECT_EQ(run->shell.Documents().Active()->BeerName(), "Porter");
 }
 
 TEST_F(RecoveryTest, ADamagedFileIsReportedOnceAndKeptAside) {
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run = nullptr;
     const std::string good = Contents(Folder() + "/1.unsaved");
     PutFile("2.unsaved", good.substr(0, good.size() / 2));
@@ -273,7 +273,7 @@ TEST_F(RecoveryTest, ARecipeThatFitsNoGridIsPutAsideWhenItIsRestored) {
     PutFile("1.unsaved", body + "end " + HashText(body) + "\n");
     auto run = Start();
     EXPECT_THAT(run->Offer({"cmdRestoreAll"}), ElementsAre("Odd"));
-    EXPECT_TRUE(run->shell.Documents().empty());
+    EXPECT_TRUE(run->shell.Documents().All().empty());
     EXPECT_EQ(run->outside.messages.log.size(), 1u);
     EXPECT_THAT(Files(), ElementsAre("1.unsaved.damaged"));
 }
@@ -281,7 +281,7 @@ TEST_F(RecoveryTest, ARecipeThatFitsNoGridIsPutAsideWhenItIsRestored) {
 TEST_F(RecoveryTest, AWritingThatWasCutShortLeavesTheOlderFile) {
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run = nullptr;
     PutFile("1.unsaved.new", "Tunwright unsa");
     PutFile(".1.unsaved" + std::string(kUnderWay), "Tunwright unsa");
@@ -296,7 +296,7 @@ TEST_F(RecoveryTest, AWritingThatWasCutShortLeavesTheOlderFile) {
 TEST_F(RecoveryTest, OtherFilesAreLeftAlone) {
     PutFile("notes.txt", "mine");
     auto run = Start();
-    run->shell.OfferRecovery();
+    run->shell.Unsaved().Offer();
     EXPECT_THAT(run->outside.dialogs.shown, IsEmpty());
     EXPECT_THAT(Files(), ElementsAre("notes.txt"));
 }
@@ -304,14 +304,14 @@ TEST_F(RecoveryTest, OtherFilesAreLeftAlone) {
 TEST_F(RecoveryTest, AFolderThatCannotBeWrittenCostsNothingButTheFile) {
     std::ofstream(scratch.File("unsaved")) << "a file where the folder belongs";
     auto run = Start();
-    run->shell.OfferRecovery();
+    run->shell.Unsaved().Offer();
     RecipeDocument& stout = run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_TRUE(stout.Changed());
     EXPECT_THAT(run->outside.messages.log, IsEmpty());
     fs::remove(scratch.File("unsaved"));
     stout.Fields().SetText(stout.Record().txtNotes, "two");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
 }
 
@@ -322,20 +322,20 @@ TEST_F(RecoveryTest, WhatCannotBeKeptIsToldOnceAndTriedAgainUntilItCan) {
     RecipeDocument& porter = run->New("Porter", "two");
     run->view.log.clear();
     const std::string notice = "notice: Unsaved work is not being kept: save your recipes.";
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_THAT(run->view.log, ElementsAre(notice, "unsaved work"));
     // No edit in between, and no second word.
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_THAT(run->view.log, ElementsAre(notice, "unsaved work", "unsaved work"));
     run->outside.messages.answers = {Answer::No};
-    EXPECT_TRUE(run->shell.CloseDocument(porter));
+    EXPECT_TRUE(run->shell.Saver().Close(porter));
     run->view.log.clear();
     fs::remove(scratch.File("unsaved"));
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_THAT(run->view.log, ElementsAre("notice: ", "news: Unsaved work is being kept again."));
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
     run->view.log.clear();
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_THAT(run->view.log, IsEmpty());
 }
 
@@ -343,9 +343,9 @@ TEST_F(RecoveryTest, NothingIsLeftToKeepOnceItIsSaved) {
     std::ofstream(scratch.File("unsaved")) << "a file where the folder belongs";
     auto run = Start();
     RecipeDocument& stout = run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run->view.log.clear();
-    EXPECT_TRUE(run->shell.SaveRecipeUnder(stout, "Stout", 0, true));
+    EXPECT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, true));
     EXPECT_THAT(run->view.log, testing::Contains("notice: "));
     EXPECT_THAT(run->view.log, testing::Not(testing::Contains(testing::StartsWith("news"))));
 }
@@ -356,14 +356,14 @@ TEST_F(RecoveryTest, ADatabaseThatWasMovedFindsItsFiles) {
     ProgramRun(scratch.File("unsaved"), scratch.File("Beer/a.mdb")).shell.Unload(true);
     auto crashed = std::make_unique<ProgramRun>(scratch.File("unsaved"), scratch.File("Beer/a.mdb"));
     crashed->New("Stout", "one");
-    crashed->shell.KeepUnsavedWork();
+    crashed->shell.Unsaved().Keep();
     crashed = nullptr;
     fs::rename(scratch.File("Beer"), scratch.File("Ale"));
     // Another database is not offered what is not its own.
     EXPECT_THAT(Start()->Offer(), IsEmpty());
     ProgramRun moved(scratch.File("unsaved"), scratch.File("Ale/a.mdb"));
     EXPECT_THAT(moved.Offer({"cmdRestore"}), ElementsAre("Stout"));
-    EXPECT_EQ(moved.shell.ActiveDocument()->Record().txtNotes.Text(), "one");
+    EXPECT_EQ(moved.shell.Documents().Active()->Record().txtNotes.Text(), "one");
     EXPECT_TRUE(
         fs::exists(Recovery::FolderOf(scratch.File("unsaved"), scratch.File("Ale/a.mdb")) + "/1.unsaved"));
     EXPECT_FALSE(fs::exists(Recovery::FolderOf(scratch.File("unsaved"), scratch.File("Beer/a.mdb"))));
@@ -374,13 +374,13 @@ TEST_F(RecoveryTest, OfADatabaseAndItsCopyEachKeepsItsOwn) {
     run->shell.Unload(true);
     run = Start();
     run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run = nullptr;
     fs::copy_file(scratch.File("beer.mdb"), scratch.File("copy.mdb"));
     auto copy = std::make_unique<ProgramRun>(scratch.File("unsaved"), scratch.File("copy.mdb"));
     EXPECT_THAT(copy->Offer(), IsEmpty());
     copy->New("Porter", "two");
-    copy->shell.KeepUnsavedWork();
+    copy->shell.Unsaved().Keep();
     copy = nullptr;
     // Once the one is gone, the other has what is left of both.
     EXPECT_THAT(Start()->Offer(), ElementsAre("Stout"));
@@ -392,7 +392,7 @@ TEST_F(RecoveryTest, OfADatabaseAndItsCopyEachKeepsItsOwn) {
 TEST_F(RecoveryTest, FilesFromBeforeTheIdAreFoundByThePath) {
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run->shell.DB()->ExecuteNative("DROP TABLE DATABASE_ID");
     run = nullptr;
     fs::remove(Folder() + "/database");
@@ -407,7 +407,7 @@ TEST_F(RecoveryTest, ADamagedMarkOfAFolderIsPassedOver) {
     for (const std::string_view mark : {"", "\n", "no id at all", "\xff\n/no/such"}) {
         std::ofstream(other + "/database", std::ios::binary) << mark;
         std::ofstream(other + "/1.unsaved") << "not ours";
-        Start()->shell.OfferRecovery();
+        Start()->shell.Unsaved().Offer();
         EXPECT_TRUE(fs::exists(other + "/1.unsaved"));
     }
 }
@@ -415,7 +415,7 @@ TEST_F(RecoveryTest, ADamagedMarkOfAFolderIsPassedOver) {
 TEST_F(RecoveryTest, TheFilesAreForTheUsersEyesAlone) {
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     struct stat status {};
     ASSERT_EQ(stat((Folder() + "/1.unsaved").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777U, 0600U);
@@ -430,7 +430,7 @@ TEST_F(RecoveryTest, AFolderOfAnEarlierReleaseIsClosedToOthers) {
     fs::permissions(Folder(), static_cast<fs::perms>(0755));
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     EXPECT_EQ(fs::status(Folder()).permissions(), fs::perms::owner_all);
 }
 
@@ -442,11 +442,11 @@ TEST_F(RecoveryTest, NothingElseIsWrittenIntoTheFolder) {
 TEST_F(RecoveryTest, EachDatabaseHasItsOwnFiles) {
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run = nullptr;
     CreateDatabaseFile(scratch.File("wine.mdb"));
     ProgramRun other(scratch.File("unsaved"), scratch.File("wine.mdb"));
-    other.shell.OfferRecovery();
+    other.shell.Unsaved().Offer();
     EXPECT_THAT(other.outside.dialogs.shown, IsEmpty());
     fs::create_symlink(scratch.File("beer.mdb"), scratch.File("link.mdb"));
     EXPECT_EQ(Recovery::FolderOf("x", scratch.File("link.mdb")),
@@ -456,13 +456,13 @@ TEST_F(RecoveryTest, EachDatabaseHasItsOwnFiles) {
 TEST_F(RecoveryTest, AnotherRunningProgramsFilesAreNotTouched) {
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     // The second program is refused the database and with it the files.
     RecordingPlatform outside;
-    Shell second(outside.platform);
-    second.SetRecoveryFolder(scratch.File("unsaved"));
+    Shell second({outside.platform});
+    second.Environment().recoveryFolder = scratch.File("unsaved");
     EXPECT_FALSE(second.PerformSplashScreenInit(scratch.File("beer.mdb")));
-    second.OfferRecovery();
+    second.Unsaved().Offer();
     second.Unload(true);
     EXPECT_THAT(outside.dialogs.shown, IsEmpty());
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
@@ -471,23 +471,23 @@ TEST_F(RecoveryTest, AnotherRunningProgramsFilesAreNotTouched) {
 TEST_F(RecoveryTest, ADatabaseInMemoryKeepsNothing) {
     ProgramRun run(scratch.File("unsaved"), ":memory:");
     run.New("Stout", "one");
-    run.shell.KeepUnsavedWork();
+    run.shell.Unsaved().Keep();
     EXPECT_THAT(Files(), IsEmpty());
 }
 
 TEST_F(RecoveryTest, AFailedSaveLeavesTheFile) {
     auto run = Start();
     RecipeDocument& stout = run->New("Stout", "stored");
-    ASSERT_TRUE(run->shell.SaveRecipeUnder(stout, "Stout", 0, true));
+    ASSERT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, true));
     stout.Fields().SetText(stout.Record().txtNotes, "edited");
-    run->shell.KeepUnsavedWork();
+    run->shell.Unsaved().Keep();
     run->shell.DB()->ExecuteNative(
         "CREATE TRIGGER refuse BEFORE INSERT ON RECIPES BEGIN SELECT RAISE(ABORT, 'no'); END");
-    EXPECT_FALSE(run->shell.SaveRecipe(stout, false));
+    EXPECT_FALSE(run->shell.Saver().Save(stout, false));
     run = nullptr;
     run = Start();
     EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));
-    EXPECT_EQ(run->shell.ActiveDocument()->Record().txtNotes.Text(), "edited");
+    EXPECT_EQ(run->shell.Documents().Active()->Record().txtNotes.Text(), "edited");
 }
 
 TEST_F(RecoveryTest, AProgramThatIsKilledLosesNothingThatWasKept) {
@@ -496,14 +496,14 @@ TEST_F(RecoveryTest, AProgramThatIsKilledLosesNothingThatWasKept) {
         {
             auto run = Start();
             run->New("Stout", "killed");
-            run->shell.KeepUnsavedWork();
+            run->shell.Unsaved().Keep();
             raise(SIGKILL);
         },
         testing::KilledBySignal(SIGKILL), "");
     // The killed process made the folder of this test anew, as the first line of the test did here.
     auto run = Start();
     EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));
-    EXPECT_EQ(run->shell.ActiveDocument()->Record().txtNotes.Text(), "killed");
+    EXPECT_EQ(run->shell.Documents().Active()->Record().txtNotes.Text(), "killed");
 }
 
 }  // namespace

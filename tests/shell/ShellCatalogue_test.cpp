@@ -20,7 +20,7 @@ class ShellCatalogue : public SmallCatalogue {
     }
     std::string Path() const { return program_.File("Tunwright.mdb"); }
     bool Start(Shell& shell, const std::string& path) {
-        shell.SetProgramFolder(program_.File(""));
+        shell.Environment().programFolder = program_.File("");
         return shell.PerformSplashScreenInit(path);
     }
     static bool HasGose(Shell& shell) {
@@ -32,14 +32,14 @@ class ShellCatalogue : public SmallCatalogue {
 };
 
 TEST_F(ShellCatalogue, TheStartBringsItInWithoutAWord) {
-    Shell shell(outside_.platform);
+    Shell shell({outside_.platform});
     ASSERT_TRUE(Start(shell, Path()));
     EXPECT_TRUE(HasGose(shell));
     EXPECT_EQ(outside_.messages.log, std::vector<std::string>{});
 }
 
 TEST_F(ShellCatalogue, ADatabaseInMemoryStaysEmpty) {
-    Shell shell(outside_.platform);
+    Shell shell({outside_.platform});
     ASSERT_TRUE(Start(shell, ":memory:"));
     EXPECT_FALSE(HasGose(shell));
 }
@@ -49,7 +49,7 @@ TEST_F(ShellCatalogue, AStartGoesOnWhenTheRememberedDeliveriesAreDamaged) {
         const auto database = Database::OpenDatabase(Path(), true);
         database->ExecuteNative("ALTER TABLE CATALOGUE_BASE DROP COLUMN CONTENT");
     }
-    Shell shell(outside_.platform);
+    Shell shell({outside_.platform});
     ASSERT_TRUE(Start(shell, Path()));
     EXPECT_EQ(outside_.messages.log, std::vector<std::string>{});
 }

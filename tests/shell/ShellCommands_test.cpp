@@ -17,7 +17,7 @@ TEST_F(ShellTest, EveryLitCommandHasAnAction) {
     }
     outside.messages.answers = {Answer::No};
     EXPECT_TRUE(shell.RunMenu("mnuFileCloseAll"));
-    EXPECT_TRUE(shell.Documents().empty());
+    EXPECT_TRUE(shell.Documents().All().empty());
 }
 
 TEST_F(ShellTest, WhatIsOffHiddenOrUnknownDoesNothing) {
@@ -29,7 +29,7 @@ TEST_F(ShellTest, WhatIsOffHiddenOrUnknownDoesNothing) {
     EXPECT_FALSE(shell.RunMenu("mnuNothing"));
     EXPECT_FALSE(shell.PressButton(CommandId::FileSave));
     EXPECT_FALSE(shell.PressButton(CommandId::FileClose));
-    EXPECT_TRUE(shell.Documents().empty());
+    EXPECT_TRUE(shell.Documents().All().empty());
 }
 
 TEST_F(ShellTest, AButtonRunsTheActionOfItsItem) {
@@ -45,9 +45,9 @@ TEST_F(ShellTest, AnErrorInACommandIsShown) {
 }
 
 TEST_F(ShellTest, GuardShowsAnyErrorAndTellsOfIt) {
-    EXPECT_TRUE(shell.Guard([] {}));
-    EXPECT_FALSE(shell.Guard([] { RaiseOverflow(); }));
-    EXPECT_FALSE(shell.Guard([] { throw std::runtime_error("odd"); }));
+    EXPECT_TRUE(RunShowingErrors(outside.messages, [] {}));
+    EXPECT_FALSE(RunShowingErrors(outside.messages, [] { RaiseOverflow(); }));
+    EXPECT_FALSE(RunShowingErrors(outside.messages, [] { throw std::runtime_error("odd"); }));
     EXPECT_EQ(outside.messages.log, (Strings{"[Error] Overflow (6)", "[Error] odd"}));
 }
 
@@ -56,7 +56,7 @@ TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem
         "mnuFileClose",     "mnuFileCloseAll",         "mnuFileSaveAs",        "mnuFilePreview",
         "mnuWindowCascade", "mnuWindowTileHorizontal", "mnuWindowTileVertical"};
     for (const std::string_view item : commands) EXPECT_FALSE(Lit(item)) << item;
-    RecipeDocument& document = shell.CreateDocumentWindow("");
+    RecipeDocument& document = shell.Recipes().Create("");
     for (const std::string_view item : commands) EXPECT_TRUE(Lit(item)) << item;
     EXPECT_TRUE(bar().FindItem("mnuFilePrint")->enabled);
     EXPECT_TRUE(bar().FindButton("Print")->enabled);
@@ -67,7 +67,7 @@ TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem
     EXPECT_TRUE(Lit("mnuEditInsert"));
     EXPECT_EQ(Button("Save").image, "Save");
     outside.messages.answers = {Answer::No};
-    EXPECT_TRUE(shell.CloseDocument(document));
+    EXPECT_TRUE(shell.Saver().Close(document));
     for (const std::string_view item : commands) EXPECT_FALSE(Lit(item)) << item;
     for (const char* item : {"mnuFileSave", "mnuFileSaveAll", "mnuFilePrint", "mnuEditInsert",
                              "mnuEditDelete", "mnuEditCopy", "mnuEditSelectAll", "mnuEditCut", "mnuEditClear",
@@ -83,13 +83,13 @@ TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem
 // Closing the last document leaves these to the stored recipes alone.
 TEST_F(ShellTest, OpenAndExportFollowTheStoredRecipesNotTheDocuments) {
     RecipeDocument& document = NewSaved("Pale Ale");
-    EXPECT_TRUE(shell.CloseDocument(document));
+    EXPECT_TRUE(shell.Saver().Close(document));
     EXPECT_TRUE(Lit("mnuFileOpen"));
     EXPECT_TRUE(Button("Open").enabled);
     EXPECT_TRUE(bar().FindItem("mnuFileExport")->enabled);
     EXPECT_TRUE(bar().FindItem("mnuFileDelete")->enabled);
     EXPECT_FALSE(bar().FindItem("mnuFilePrint")->enabled);
-    shell.DeleteRecipe("Pale Ale");
+    shell.Services().DeleteRecipe("Pale Ale");
     EXPECT_FALSE(Lit("mnuFileOpen"));
     EXPECT_FALSE(Button("Open").enabled);
     EXPECT_FALSE(bar().FindItem("mnuFileExport")->enabled);
@@ -98,7 +98,7 @@ TEST_F(ShellTest, OpenAndExportFollowTheStoredRecipesNotTheDocuments) {
 // Intended: the first recipe turns Print on even while no document is open.
 TEST_F(ShellTest, TheFirstRecipeTurnsPrintOnWithoutADocument) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    shell.CheckEnableDelete();
+    shell.States().CheckEnableDelete();
     EXPECT_TRUE(bar().FindItem("mnuFilePrint")->enabled);
     EXPECT_FALSE(bar().FindButton("Print")->enabled);
     EXPECT_FALSE(bar().FindItem("mnuFilePreview")->enabled);
@@ -108,7 +108,7 @@ TEST_F(ShellTest, TheFirstRecipeTurnsPrintOnWithoutADocument) {
 TEST_F(ShellTest, ThePreviewFollowsTheDocumentsAlone) {
     NewSaved("Pale Ale");
     EXPECT_TRUE(bar().FindItem("mnuFilePreview")->enabled);
-    shell.DeleteRecipe("Pale Ale");
+    shell.Services().DeleteRecipe("Pale Ale");
     EXPECT_FALSE(bar().FindItem("mnuFilePrint")->enabled);
     EXPECT_TRUE(bar().FindItem("mnuFilePreview")->enabled);
 }
@@ -116,10 +116,10 @@ TEST_F(ShellTest, ThePreviewFollowsTheDocumentsAlone) {
 // Intended: the comparison is made with mnuFileDelete alone.
 TEST_F(ShellTest, NothingIsTouchedWhileDeleteIsAsItShouldBe) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    shell.CheckEnableDelete();
+    shell.States().CheckEnableDelete();
     shell.Bar().SetEnabled(CommandId::FilePrint, false);
     shell.Bar().SetEnabled(CommandId::FileOpen, false);
-    shell.CheckEnableDelete();
+    shell.States().CheckEnableDelete();
     EXPECT_FALSE(bar().FindItem("mnuFilePrint")->enabled);
     EXPECT_FALSE(bar().FindItem("mnuFileOpen")->enabled);
 }
@@ -138,32 +138,32 @@ TEST_F(ShellTest, SaveAllIsOnExactlyWhileSomeDocumentIsChanged) {
     first.Fields().SetText(first.Record().txtNotes, "x");
     EXPECT_TRUE(Lit("mnuFileSaveAll"));
     EXPECT_FALSE(Lit("mnuFileSave"));  // the active one is clean
-    shell.Activate(first);
+    shell.Documents().Activate(first);
     EXPECT_TRUE(Lit("mnuFileSave"));
-    shell.Activate(second);
+    shell.Documents().Activate(second);
     EXPECT_FALSE(Lit("mnuFileSave"));
-    EXPECT_TRUE(shell.SaveRecipe(first, false));
+    EXPECT_TRUE(shell.Saver().Save(first, false));
     EXPECT_FALSE(Lit("mnuFileSaveAll"));
 }
 
 TEST_F(ShellTest, EachOperationLightsItsItemAndItsButton) {
     struct Pair {
-        void (Shell::*enable)(bool);
+        void (CommandStates::*enable)(bool);
         const char* item;
         const char* button;
     };
     const Pair pairs[] = {
-        {&Shell::EnableSave, "mnuFileSave", "Save"},
-        {&Shell::EnableInsert, "mnuEditInsert", "Insert"},
-        {&Shell::EnableDelete, "mnuEditDelete", "Delete"},
-        {&Shell::EnableResizeRecipe, "mnuToolsResizeRecipe", "Volume"},
-        {&Shell::EnableChangeStrength, "mnuToolsChangeStrength", "Strength"},
-        {&Shell::EnableChangeBitterness, "mnuToolsChangeBitterness", "Bitterness"},
-        {&Shell::EnableChangeCarbonation, "mnuToolsChangeCO2", "Carbonation"},
+        {&CommandStates::EnableSave, "mnuFileSave", "Save"},
+        {&CommandStates::EnableInsert, "mnuEditInsert", "Insert"},
+        {&CommandStates::EnableDelete, "mnuEditDelete", "Delete"},
+        {&CommandStates::EnableResizeRecipe, "mnuToolsResizeRecipe", "Volume"},
+        {&CommandStates::EnableChangeStrength, "mnuToolsChangeStrength", "Strength"},
+        {&CommandStates::EnableChangeBitterness, "mnuToolsChangeBitterness", "Bitterness"},
+        {&CommandStates::EnableChangeCarbonation, "mnuToolsChangeCO2", "Carbonation"},
     };
     for (const Pair& pair : pairs) {
         for (const bool on : {true, false}) {
-            (shell.*pair.enable)(on);
+            (shell.States().*pair.enable)(on);
             EXPECT_EQ(bar().FindItem(pair.item)->enabled, on) << pair.item;
             EXPECT_EQ(Button(pair.button).enabled, on) << pair.button;
         }
@@ -171,8 +171,8 @@ TEST_F(ShellTest, EachOperationLightsItsItemAndItsButton) {
 }
 
 TEST_F(ShellTest, UndoAndRedoShowTheirDescriptionAlways) {
-    shell.EnableUndo(false, "Typing");
-    shell.EnableRedo(true, "Insert Row");
+    shell.States().EnableUndo(false, "Typing");
+    shell.States().EnableRedo(true, "Insert Row");
     EXPECT_EQ(bar().FindItem("mnuEditUndo")->caption, "&Undo Typing");
     EXPECT_EQ(bar().FindItem("mnuEditRedo")->caption, "&Redo Insert Row");
     EXPECT_FALSE(bar().FindItem("mnuEditUndo")->enabled);
@@ -182,13 +182,13 @@ TEST_F(ShellTest, UndoAndRedoShowTheirDescriptionAlways) {
 
 TEST_F(ShellTest, CopyAndPasteLightTheirCommands) {
     outside.clipboard.text = "x";
-    shell.EnableCopyPaste(true, false);
+    shell.States().EnableCopyPaste(true, false);
     EXPECT_TRUE(bar().FindItem("mnuEditCopy")->enabled);
     EXPECT_TRUE(bar().FindItem("mnuEditSelectAll")->enabled);
     EXPECT_TRUE(Button("Copy").enabled);
     EXPECT_FALSE(bar().FindItem("mnuEditCut")->enabled);
     EXPECT_FALSE(bar().FindItem("mnuEditPaste")->enabled);
-    shell.EnableCopyPaste(false, true);
+    shell.States().EnableCopyPaste(false, true);
     EXPECT_FALSE(bar().FindItem("mnuEditCopy")->enabled);
     for (const char* item : {"mnuEditCut", "mnuEditClear", "mnuEditPaste"})
         EXPECT_TRUE(bar().FindItem(item)->enabled) << item;
@@ -197,24 +197,24 @@ TEST_F(ShellTest, CopyAndPasteLightTheirCommands) {
 }
 
 TEST_F(ShellTest, PasteStaysOffWhileTheClipboardHoldsNoText) {
-    shell.EnableCopyPaste(true, true);
+    shell.States().EnableCopyPaste(true, true);
     EXPECT_TRUE(bar().FindItem("mnuEditCut")->enabled);
     EXPECT_FALSE(bar().FindItem("mnuEditPaste")->enabled);
     EXPECT_FALSE(Button("Paste").enabled);
     outside.clipboard.text = "from elsewhere";
-    shell.ReapplyPasteState();
+    shell.States().ReapplyPaste();
     EXPECT_TRUE(bar().FindItem("mnuEditPaste")->enabled);
     EXPECT_TRUE(Button("Paste").enabled);
     outside.clipboard.text.reset();
-    shell.ReapplyPasteState();
+    shell.States().ReapplyPaste();
     EXPECT_FALSE(bar().FindItem("mnuEditPaste")->enabled);
     EXPECT_TRUE(bar().FindItem("mnuEditCut")->enabled);
 }
 
 TEST_F(ShellTest, ReapplyingKeepsWhatTheDocumentRefused) {
     outside.clipboard.text = "x";
-    shell.EnableCopyPaste(true, false);
-    shell.ReapplyPasteState();
+    shell.States().EnableCopyPaste(true, false);
+    shell.States().ReapplyPaste();
     EXPECT_FALSE(bar().FindItem("mnuEditPaste")->enabled);
     EXPECT_FALSE(bar().FindItem("mnuEditCut")->enabled);
 }
@@ -222,17 +222,17 @@ TEST_F(ShellTest, ReapplyingKeepsWhatTheDocumentRefused) {
 // Intended: every edit item is about the active document, the append flag too.
 TEST_F(ShellTest, TheAppendFlagTogglesWhileADocumentIsOpen) {
     EXPECT_TRUE(shell.RunMenu("mnuEditAppendFlag"));
-    EXPECT_FALSE(shell.AppendRows());
-    shell.CreateDocumentWindow("");
+    EXPECT_FALSE(shell.SettingsNow().AppendRows());
+    shell.Recipes().Create("");
     EXPECT_TRUE(shell.RunMenu("mnuEditAppendFlag"));
-    EXPECT_TRUE(shell.AppendRows());
+    EXPECT_TRUE(shell.SettingsNow().AppendRows());
     EXPECT_TRUE(bar().FindItem("mnuEditAppendFlag")->checked);
     EXPECT_TRUE(shell.RunMenu("mnuEditAppendFlag"));
-    EXPECT_FALSE(shell.AppendRows());
+    EXPECT_FALSE(shell.SettingsNow().AppendRows());
 }
 
 TEST_F(ShellTest, InsertAndDeleteActOnTheActiveDocument) {
-    RecipeDocument& document = shell.CreateDocumentWindow("");
+    RecipeDocument& document = shell.Recipes().Create("");
     document.Focus().SetTab(Tab::Adjuncts);
     const int before = document.Record().gridAdjuncts.Rows();
     EXPECT_TRUE(shell.RunMenu("mnuEditInsert"));
@@ -240,7 +240,7 @@ TEST_F(ShellTest, InsertAndDeleteActOnTheActiveDocument) {
 }
 
 TEST_F(ShellTest, TheWindowMenuArranges) {
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     view.log.clear();
     EXPECT_TRUE(shell.RunMenu("mnuWindowCascade"));
     EXPECT_TRUE(shell.RunMenu("mnuWindowTileHorizontal"));
@@ -250,17 +250,17 @@ TEST_F(ShellTest, TheWindowMenuArranges) {
 
 TEST_F(ShellTest, CloseAllStopsAtTheFirstRefusal) {
     NewNamed("One");
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     EXPECT_TRUE(shell.RunMenu("mnuFileCloseAll"));
-    EXPECT_EQ(shell.Documents().size(), 2u);
+    EXPECT_EQ(shell.Documents().All().size(), 2u);
     outside.messages.answers = {Answer::No};
     EXPECT_TRUE(shell.RunMenu("mnuFileCloseAll"));
-    EXPECT_TRUE(shell.Documents().empty());
+    EXPECT_TRUE(shell.Documents().All().empty());
 }
 
 TEST_F(ShellTest, OpenTakesTheNameOfTheDialog) {
     RecipeDocument& document = NewSaved("Pale Ale");
-    EXPECT_TRUE(shell.CloseDocument(document));
+    EXPECT_TRUE(shell.Saver().Close(document));
     outside.dialogs.scripts.push_back([](DialogModel& dialog) {
         dialog.SetControl("txtName", "Pale Ale");
         dialog.Press("cmdOK");
@@ -268,7 +268,7 @@ TEST_F(ShellTest, OpenTakesTheNameOfTheDialog) {
     EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));
     EXPECT_EQ(Captions(), Strings{"Pale Ale"});
     EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));  // cancelled
-    EXPECT_EQ(shell.Documents().size(), 1u);
+    EXPECT_EQ(shell.Documents().All().size(), 1u);
 }
 
 TEST_F(ShellTest, TheAboutWindowTellsTitleAndVersion) {

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "shell/ShellTest.h"
+#include "tree/ExplorerModel.h"
 
 namespace tw::test {
 namespace {
@@ -11,75 +12,75 @@ std::string Unsaved(std::string_view name, std::string_view answer) {
 }
 
 TEST_F(ShellTest, ANewDocumentIsNumberedKeyedAndActive) {
-    RecipeDocument& first = shell.CreateDocumentWindow("");
-    RecipeDocument& second = shell.CreateDocumentWindow("  ");
+    RecipeDocument& first = shell.Recipes().Create("");
+    RecipeDocument& second = shell.Recipes().Create("  ");
     EXPECT_EQ(Captions(), (Strings{"Untitled 1", "Untitled 2"}));
     EXPECT_EQ(first.Key(), "0");
     EXPECT_EQ(second.Key(), "1");
-    EXPECT_EQ(shell.ActiveDocument(), &second);
+    EXPECT_EQ(shell.Documents().Active(), &second);
     EXPECT_FALSE(second.Changed());
     EXPECT_EQ(view.log, (Strings{"opened 0", "activated 0", "opened 1", "activated 1"}));
 }
 
 TEST_F(ShellTest, UntitledNumbersSkipTheOpenedRecipesAndAreNotReused) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    RecipeDocument& first = shell.CreateDocumentWindow("");
-    shell.OpenByName("Pale Ale");
-    EXPECT_TRUE(shell.CloseDocument(first));
-    RecipeDocument& next = shell.CreateDocumentWindow("");
+    RecipeDocument& first = shell.Recipes().Create("");
+    shell.Recipes().OpenByName("Pale Ale");
+    EXPECT_TRUE(shell.Saver().Close(first));
+    RecipeDocument& next = shell.Recipes().Create("");
     EXPECT_EQ(Captions(), (Strings{"Pale Ale", "Untitled 3"}));
     EXPECT_EQ(next.Key(), "2");
 }
 
 TEST_F(ShellTest, OpeningAnOpenRecipeFocusesItsWindowWithABeep) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    shell.LoadDoc("Pale Ale");
-    RecipeDocument* open = shell.ActiveDocument();
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Load("Pale Ale");
+    RecipeDocument* open = shell.Documents().Active();
+    shell.Recipes().Create("");
     view.log.clear();
-    shell.LoadDoc("Pale Ale");
-    EXPECT_EQ(shell.ActiveDocument(), open);
-    EXPECT_EQ(shell.Documents().size(), 2u);
+    shell.Recipes().Load("Pale Ale");
+    EXPECT_EQ(shell.Documents().Active(), open);
+    EXPECT_EQ(shell.Documents().All().size(), 2u);
     EXPECT_EQ(view.log, Strings{"activated 0"});
     EXPECT_EQ(outside.messages.log, Strings{"beep"});
 }
 
 TEST_F(ShellTest, TheActiveRecipesWindowIsShownAgain) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    shell.LoadDoc("Pale Ale");
+    shell.Recipes().Load("Pale Ale");
     view.log.clear();
-    shell.LoadDoc("Pale Ale");
+    shell.Recipes().Load("Pale Ale");
     EXPECT_EQ(view.log, Strings{"activated 0"});
 }
 
 // Intended: only exactly the same name counts as open.
 TEST_F(ShellTest, ANameInAnotherCaseOpensASecondWindow) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    shell.OpenByName("Pale Ale");
-    shell.OpenByName("PALE ALE");
+    shell.Recipes().OpenByName("Pale Ale");
+    shell.Recipes().OpenByName("PALE ALE");
     EXPECT_EQ(Captions(), (Strings{"Pale Ale", "Pale Ale"}));
     EXPECT_EQ(outside.messages.log, Strings{});
 }
 
 TEST_F(ShellTest, OpeningTrimsTheName) {
     AddRecipeRow(*shell.DB(), "Joe's Ale");
-    shell.OpenByName("  Joe's Ale ");
+    shell.Recipes().OpenByName("  Joe's Ale ");
     EXPECT_EQ(Captions(), Strings{"Joe's Ale"});
-    EXPECT_EQ(shell.Documents()[0]->OrigName(), "Joe's Ale");
+    EXPECT_EQ(shell.Documents().All()[0]->OrigName(), "Joe's Ale");
     EXPECT_EQ(shell.Recent().Captions(), Strings{"&1 Joe's Ale"});
 }
 
 TEST_F(ShellTest, AMissingRecipeIsReportedAndStaysInTheList) {
-    shell.AddToMRU("Joe's Ale");
+    shell.Recent().Add("Joe's Ale");
     EXPECT_TRUE(shell.RunMenu("mnuFileMRU(0)"));
     EXPECT_EQ(outside.messages.log, Strings{"[Could not find recipe] Recipe 'Joe's Ale' no longer exists!"});
-    EXPECT_TRUE(shell.Documents().empty());
+    EXPECT_TRUE(shell.Documents().All().empty());
     EXPECT_EQ(shell.Recent().Captions(), Strings{"&1 Joe's Ale"});
 }
 
 TEST_F(ShellTest, ASlotOpensItsRecipe) {
     AddRecipeRow(*shell.DB(), "Bread & Butter");
-    shell.AddToMRU("Bread & Butter");
+    shell.Recent().Add("Bread & Butter");
     EXPECT_TRUE(shell.RunMenu("mnuFileMRU(0)"));
     EXPECT_EQ(Captions(), Strings{"Bread & Butter"});
     EXPECT_FALSE(shell.RunMenu("mnuFileMRU(1)"));
@@ -90,38 +91,38 @@ TEST_F(ShellTest, ARecipeThatCannotBeReadLeavesNoDocumentBehind) {
     shell.DB()->SetStatementHook([](std::string_view sql) {
         if (sql.find("RECIPE_HOPS") != std::string_view::npos) throw Error("Database", "disk gone", 10);
     });
-    EXPECT_FALSE(shell.Guard([&] { shell.OpenByName("Pale Ale"); }));
+    EXPECT_FALSE(RunShowingErrors(outside.messages, [&] { shell.Recipes().OpenByName("Pale Ale"); }));
     EXPECT_EQ(outside.messages.log, Strings{"[Error] disk gone (10)"});
-    EXPECT_TRUE(shell.Documents().empty());
-    EXPECT_EQ(shell.ActiveDocument(), nullptr);
+    EXPECT_TRUE(shell.Documents().All().empty());
+    EXPECT_EQ(shell.Documents().Active(), nullptr);
 }
 
 TEST_F(ShellTest, ACleanDocumentClosesWithoutAQuestion) {
-    RecipeDocument& document = shell.CreateDocumentWindow("");
+    RecipeDocument& document = shell.Recipes().Create("");
     view.log.clear();
-    EXPECT_TRUE(shell.CloseDocument(document));
-    EXPECT_TRUE(shell.Documents().empty());
+    EXPECT_TRUE(shell.Saver().Close(document));
+    EXPECT_TRUE(shell.Documents().All().empty());
     EXPECT_EQ(outside.messages.log, Strings{});
     EXPECT_EQ(view.log, (Strings{"closing 0", "activated none"}));
 }
 
 TEST_F(ShellTest, AChangedDocumentBecomesActiveAndAsks) {
     RecipeDocument& first = NewNamed(" Joe's Ale ");
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     RecipeDocument* activeDuringQuestion = nullptr;
-    outside.messages.whileAsking = [&] { activeDuringQuestion = shell.ActiveDocument(); };
-    EXPECT_FALSE(shell.CloseDocument(first));
+    outside.messages.whileAsking = [&] { activeDuringQuestion = shell.Documents().Active(); };
+    EXPECT_FALSE(shell.Saver().Close(first));
     EXPECT_EQ(outside.messages.log, Strings{Unsaved(" Joe's Ale ", "Cancel")});
     EXPECT_EQ(activeDuringQuestion, &first);
-    EXPECT_EQ(shell.Documents().size(), 2u);
+    EXPECT_EQ(shell.Documents().All().size(), 2u);
     EXPECT_TRUE(first.Changed());
 }
 
 TEST_F(ShellTest, NoDropsTheChanges) {
     RecipeDocument& document = NewNamed("Pale Ale");
     outside.messages.answers = {Answer::No};
-    EXPECT_TRUE(shell.CloseDocument(document));
-    EXPECT_TRUE(shell.Documents().empty());
+    EXPECT_TRUE(shell.Saver().Close(document));
+    EXPECT_TRUE(shell.Documents().All().empty());
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
 }
 
@@ -129,7 +130,7 @@ TEST_F(ShellTest, YesSavesAStoredRecipeAndCloses) {
     RecipeDocument& document = NewSaved("Pale Ale");
     document.Fields().SetText(document.Record().txtNotes, "More hops.");
     outside.messages.answers = {Answer::Yes};
-    EXPECT_TRUE(shell.CloseDocument(document));
+    EXPECT_TRUE(shell.Saver().Close(document));
     Recordset row = shell.DB()->OpenRecordset("SELECT NOTES FROM RECIPES WHERE NAME = 'Pale Ale'");
     ASSERT_FALSE(row.AtEnd());
     EXPECT_EQ(row.Fields(0).Text(), "More hops.");
@@ -138,9 +139,9 @@ TEST_F(ShellTest, YesSavesAStoredRecipeAndCloses) {
 TEST_F(ShellTest, YesWithACancelledNameDialogKeepsTheDocument) {
     RecipeDocument& document = NewNamed("Pale Ale");
     outside.messages.answers = {Answer::Yes};
-    EXPECT_FALSE(shell.CloseDocument(document));
+    EXPECT_FALSE(shell.Saver().Close(document));
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmOpenSave"});
-    EXPECT_EQ(shell.Documents().size(), 1u);
+    EXPECT_EQ(shell.Documents().All().size(), 1u);
     EXPECT_TRUE(document.Changed());
 }
 
@@ -151,7 +152,7 @@ TEST_F(ShellTest, YesWithAFailingSaveKeepsTheDocument) {
         if (sql.starts_with("INSERT INTO RECIPES")) throw Error("Database", "disk full", 13);
     });
     outside.messages.answers = {Answer::Yes};
-    EXPECT_FALSE(shell.CloseDocument(document));
+    EXPECT_FALSE(shell.Saver().Close(document));
     EXPECT_EQ(outside.messages.log,
               (Strings{Unsaved("Pale Ale", "Yes"), "[Error] Error during save:\r\ndisk full (13)"}));
     EXPECT_TRUE(document.Changed());
@@ -167,9 +168,9 @@ TEST_F(ShellTest, YesWithASaveThatLosesItsRowKeepsTheDocument) {
         database.Execute("DELETE FROM RECIPES WHERE NAME = 'Pale Ale'");
     });
     outside.messages.answers = {Answer::Yes};
-    EXPECT_FALSE(shell.CloseDocument(document));
+    EXPECT_FALSE(shell.Saver().Close(document));
     EXPECT_EQ(outside.messages.log.back(), "[UNKNOWN ERROR] Error saving recipe to database!");
-    EXPECT_EQ(shell.Documents().size(), 1u);
+    EXPECT_EQ(shell.Documents().All().size(), 1u);
 }
 
 class PendingEntry : public DocumentView {
@@ -185,20 +186,20 @@ class PendingEntry : public DocumentView {
 };
 
 TEST_F(ShellTest, AnEntryStillBeingTypedCountsWhenClosing) {
-    RecipeDocument& document = shell.CreateDocumentWindow("");
+    RecipeDocument& document = shell.Recipes().Create("");
     PendingEntry entry([&] { document.Fields().SetText(document.Record().txtNotes, "typed"); });
     document.SetView(&entry);
-    EXPECT_FALSE(shell.CloseDocument(document));
+    EXPECT_FALSE(shell.Saver().Close(document));
     EXPECT_EQ(outside.messages.log, Strings{Unsaved("", "Cancel")});
 }
 
 TEST_F(ShellTest, AFaultInThePendingEntryCallsTheClosingOff) {
-    RecipeDocument& document = shell.CreateDocumentWindow("");
+    RecipeDocument& document = shell.Recipes().Create("");
     PendingEntry entry([] { RaiseDivisionByZero(); });
     document.SetView(&entry);
     EXPECT_FALSE(shell.RequestExit());
     EXPECT_EQ(outside.messages.log, Strings{"[Error] Division by zero (11)"});
-    EXPECT_EQ(shell.Documents().size(), 1u);
+    EXPECT_EQ(shell.Documents().All().size(), 1u);
 }
 
 TEST_F(ShellTest, ARefusalOnTheSecondOfThreeKeepsTheSecondAndTheThird) {
@@ -209,15 +210,15 @@ TEST_F(ShellTest, ARefusalOnTheSecondOfThreeKeepsTheSecondAndTheThird) {
     EXPECT_FALSE(shell.RequestExit());
     EXPECT_EQ(Captions(), (Strings{"Two", "Three"}));
     EXPECT_EQ(outside.messages.log, (Strings{Unsaved("One", "No"), Unsaved("Two", "Cancel")}));
-    EXPECT_EQ(shell.ActiveDocument()->Caption(), "Two");
+    EXPECT_EQ(shell.Documents().Active()->Caption(), "Two");
 }
 
 TEST_F(ShellTest, ExitClosesEveryDocumentAndThenTheMainWindow) {
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     NewNamed("Two");
     outside.messages.answers = {Answer::No};
     EXPECT_TRUE(shell.RunMenu("mnuFileExit"));
-    EXPECT_TRUE(shell.Documents().empty());
+    EXPECT_TRUE(shell.Documents().All().empty());
     EXPECT_EQ(view.log.back(), "close main window");
 }
 
@@ -228,14 +229,14 @@ TEST_F(ShellTest, ARefusedExitKeepsTheMainWindow) {
 }
 
 TEST_F(ShellTest, AfterAClosingTheDocumentUsedBeforeIsActive) {
-    RecipeDocument& first = shell.CreateDocumentWindow("");
-    RecipeDocument& second = shell.CreateDocumentWindow("");
-    RecipeDocument& third = shell.CreateDocumentWindow("");
-    shell.Activate(first);
-    EXPECT_TRUE(shell.CloseDocument(first));
-    EXPECT_EQ(shell.ActiveDocument(), &third);
-    EXPECT_TRUE(shell.CloseDocument(second));
-    EXPECT_EQ(shell.ActiveDocument(), &third);
+    RecipeDocument& first = shell.Recipes().Create("");
+    RecipeDocument& second = shell.Recipes().Create("");
+    RecipeDocument& third = shell.Recipes().Create("");
+    shell.Documents().Activate(first);
+    EXPECT_TRUE(shell.Saver().Close(first));
+    EXPECT_EQ(shell.Documents().Active(), &third);
+    EXPECT_TRUE(shell.Saver().Close(second));
+    EXPECT_EQ(shell.Documents().Active(), &third);
 }
 
 TEST_F(ShellTest, SavingANewRecipeGoesThroughTheNameDialog) {
@@ -245,7 +246,7 @@ TEST_F(ShellTest, SavingANewRecipeGoesThroughTheNameDialog) {
         dialog.SetControl("txtName", " Amber ");
         dialog.Press("cmdOK");
     });
-    EXPECT_TRUE(shell.SaveRecipe(document, false));
+    EXPECT_TRUE(shell.Saver().Save(document, false));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Amber"});
     EXPECT_EQ(document.OrigName(), "Amber");
     EXPECT_EQ(document.FolderID(), 0);
@@ -254,10 +255,10 @@ TEST_F(ShellTest, SavingANewRecipeGoesThroughTheNameDialog) {
 }
 
 TEST_F(ShellTest, TheNameDialogOffersTheCaptionOfAnUntitledDocument) {
-    RecipeDocument& document = shell.CreateDocumentWindow("");
+    RecipeDocument& document = shell.Recipes().Create("");
     outside.dialogs.scripts.push_back(
         [](DialogModel& dialog) { EXPECT_EQ(dialog.Controls()[2].text, "Untitled 1"); });
-    EXPECT_FALSE(shell.SaveRecipeAs(document));
+    EXPECT_FALSE(shell.Saver().SaveAs(document));
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmOpenSave"});
 }
 
@@ -266,7 +267,7 @@ TEST_F(ShellTest, TheNameDialogsOverwriteQuestionIsTheOnlyOne) {
     RecipeDocument& document = NewNamed("Pale Ale");
     outside.messages.answers = {Answer::Yes};
     outside.dialogs.scripts.push_back([](DialogModel& dialog) { dialog.Press("cmdOK"); });
-    EXPECT_TRUE(shell.SaveRecipe(document, false));
+    EXPECT_TRUE(shell.Saver().Save(document, false));
     EXPECT_EQ(outside.messages.log,
               Strings{"[Overwrite existing recipe?] A recipe named 'Pale Ale' already exists.\r\n"
                       "Overwrite it? -> Yes"});
@@ -275,9 +276,9 @@ TEST_F(ShellTest, TheNameDialogsOverwriteQuestionIsTheOnlyOne) {
 
 TEST_F(ShellTest, AnOverwrittenRecipesWindowStaysDetached) {
     RecipeDocument& overwritten = NewSaved("Pale Ale");
-    RecipeDocument& document = shell.CreateDocumentWindow("");
-    EXPECT_TRUE(shell.SaveRecipeUnder(document, "pale ale", 0, true));
-    EXPECT_EQ(shell.Documents().size(), 2u);
+    RecipeDocument& document = shell.Recipes().Create("");
+    EXPECT_TRUE(shell.Saver().SaveUnder(document, "pale ale", 0, true));
+    EXPECT_EQ(shell.Documents().All().size(), 2u);
     EXPECT_EQ(overwritten.OrigName(), "");
     EXPECT_EQ(overwritten.FolderID(), -1);
     EXPECT_TRUE(overwritten.Changed());
@@ -287,7 +288,7 @@ TEST_F(ShellTest, SavingUnderAnotherRecipesNameAsksAndARefusalChangesNothing) {
     NewSaved("Pale Ale");
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtName, "Pale Ale");
-    EXPECT_FALSE(shell.SaveRecipe(document, false));
+    EXPECT_FALSE(shell.Saver().Save(document, false));
     EXPECT_EQ(outside.messages.log,
               Strings{"[Overwrite existing recipe?] Another recipe named 'Pale Ale' already exists.\r\n"
                       "Overwrite it? -> No"});
@@ -296,7 +297,7 @@ TEST_F(ShellTest, SavingUnderAnotherRecipesNameAsksAndARefusalChangesNothing) {
 
 TEST_F(ShellTest, ASilentSavePassesANewDocumentOver) {
     RecipeDocument& document = NewNamed("Pale Ale");
-    EXPECT_FALSE(shell.SaveRecipe(document, true));
+    EXPECT_FALSE(shell.Saver().Save(document, true));
     EXPECT_TRUE(document.Changed());
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
     EXPECT_TRUE(outside.dialogs.shown.empty());
@@ -306,7 +307,7 @@ TEST_F(ShellTest, ASilentSavePassesADocumentOverWhoseNameIsAnotherRecipes) {
     NewSaved("Pale Ale");
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtName, " PALE ALE ");
-    EXPECT_FALSE(shell.SaveRecipe(document, true));
+    EXPECT_FALSE(shell.Saver().Save(document, true));
     EXPECT_TRUE(document.Changed());
     EXPECT_EQ(document.OrigName(), "Stout");
     EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Pale Ale", "Stout"}));
@@ -316,14 +317,14 @@ TEST_F(ShellTest, ASilentSavePassesADocumentOverWhoseNameIsAnotherRecipes) {
 TEST_F(ShellTest, ASilentSaveTakesAnEditedNameThatIsFree) {
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtName, "Dry Stout");
-    EXPECT_TRUE(shell.SaveRecipe(document, true));
+    EXPECT_TRUE(shell.Saver().Save(document, true));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Dry Stout"});
     EXPECT_EQ(outside.messages.log, Strings{});
 }
 
 TEST_F(ShellTest, ASilentSaveWithoutAnyEditSaves) {
     RecipeDocument& document = NewSaved("Stout");
-    EXPECT_TRUE(shell.SaveRecipe(document, true));
+    EXPECT_TRUE(shell.Saver().Save(document, true));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Stout"});
 }
 
@@ -333,8 +334,8 @@ TEST_F(ShellTest, AnErrorDuringSaveIsShownAndReportedAsNotSaved) {
     shell.DB()->SetStatementHook([](std::string_view sql) {
         if (sql.starts_with("UPDATE RECIPES")) throw Error("Database", "disk full", 13);
     });
-    EXPECT_FALSE(shell.SaveRecipe(document, false));
-    EXPECT_FALSE(shell.SaveRecipeUnder(document, "Porter", 0, true));
+    EXPECT_FALSE(shell.Saver().Save(document, false));
+    EXPECT_FALSE(shell.Saver().SaveUnder(document, "Porter", 0, true));
     EXPECT_EQ(outside.messages.log, (Strings{"[Error] Error during save:\r\ndisk full (13)",
                                              "[Error] Error during save:\r\ndisk full (13)"}));
     EXPECT_TRUE(document.Changed());
@@ -351,44 +352,44 @@ TEST_F(ShellTest, AFullDiskDuringSaveIsToldByItsOwnError) {
         shell.DB()->ExecuteNative("ROLLBACK");
         throw Error("Database", "database or disk is full", 13);
     });
-    EXPECT_FALSE(shell.SaveRecipe(document, false));
+    EXPECT_FALSE(shell.Saver().Save(document, false));
     shell.DB()->SetStatementHook(nullptr);
     EXPECT_EQ(outside.messages.log, Strings{"[Error] Error during save:\r\ndatabase or disk is full (13)"});
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Stout"});
-    EXPECT_TRUE(shell.Tree().NodeExists("R:1:0"));
+    EXPECT_TRUE(shell.Data().tree.NodeExists("R:1:0"));
     EXPECT_TRUE(document.Changed());
     EXPECT_TRUE(Lit("mnuFileOpen"));
-    EXPECT_TRUE(shell.SaveRecipe(document, false));
+    EXPECT_TRUE(shell.Saver().Save(document, false));
 }
 
 TEST_F(ShellTest, ADiskThatStaysDeadLeavesTheListsAndSaysThatTheyAreOld) {
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtNotes, "x");
-    ExplorerModel explorer(shell.Access(), {});
+    ExplorerModel explorer(shell.Data().Access(), {});
     view.log.clear();
     shell.DB()->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
-    EXPECT_FALSE(shell.SaveRecipe(document, false));
-    EXPECT_FALSE(shell.SaveRecipe(document, false));
+    EXPECT_FALSE(shell.Saver().Save(document, false));
+    EXPECT_FALSE(shell.Saver().Save(document, false));
     EXPECT_EQ(outside.messages.log.size(), 2u);
-    EXPECT_TRUE(shell.Tree().NodeExists("R:1:0"));
+    EXPECT_TRUE(shell.Data().tree.NodeExists("R:1:0"));
     const std::string old = "notice: The lists are not up to date: the database cannot be read.";
     EXPECT_EQ(std::ranges::count(view.log, old), 1);
     EXPECT_EQ(explorer.Status(), "Not up to date: the database cannot be read.");
     shell.DB()->SetStatementHook(nullptr);
-    EXPECT_TRUE(shell.SaveRecipe(document, false));
+    EXPECT_TRUE(shell.Saver().Save(document, false));
     EXPECT_EQ(std::ranges::count(view.log, "notice: "), 1);
     EXPECT_EQ(explorer.Status(), "1 object");
-    EXPECT_TRUE(shell.Tree().IsUpToDate());
+    EXPECT_TRUE(shell.Data().tree.IsUpToDate());
 }
 
 TEST_F(ShellTest, OldListsAreReadAgainWhenTheyAreLookedAt) {
     NewSaved("Stout");
     shell.DB()->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
-    EXPECT_FALSE(shell.Objects().RenameRecipe(1, "Porter", true));
+    EXPECT_FALSE(shell.Data().objects.RenameRecipe(1, "Porter", true));
     shell.DB()->SetStatementHook(nullptr);
-    EXPECT_FALSE(shell.Tree().IsUpToDate());
+    EXPECT_FALSE(shell.Data().tree.IsUpToDate());
     EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));
-    EXPECT_TRUE(shell.Tree().IsUpToDate());
+    EXPECT_TRUE(shell.Data().tree.IsUpToDate());
     EXPECT_EQ(view.log.back(), "notice: ");
 }
 
@@ -412,7 +413,7 @@ TEST_F(ShellTest, SaveAllSavesEveryDocumentAndGoesOnAfterAFailure) {
 TEST_F(ShellTest, ADeletedRecipeLeavesTheRecentListAndDetachesItsWindow) {
     RecipeDocument& document = NewSaved("Pale Ale");
     RecipeDocument& other = NewSaved("Stout");
-    shell.DeleteRecipe("  pale ALE ");
+    shell.Services().DeleteRecipe("  pale ALE ");
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Stout"});
     EXPECT_EQ(shell.Recent().Captions(), Strings{"&1 Stout"});
     EXPECT_EQ(document.OrigName(), "");
@@ -438,7 +439,7 @@ TEST_F(ShellTest, TheRecentListIsUpToDateBeforeTheDocumentsHear) {
     } watcher(shell, during);
     during = {"not called"};
     shell.Bar().SetObserver(&watcher);
-    shell.NotifyRecipeDeleted("Pale Ale");
+    shell.Notices().NotifyRecipeDeleted("Pale Ale");
     shell.Bar().SetObserver(nullptr);
     EXPECT_EQ(during, Strings{});
 }

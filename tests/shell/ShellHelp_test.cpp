@@ -20,12 +20,12 @@ class ShellHelp : public ShellTest {
                          " ('frmDocument', 'Tab4', 'hops.html');"
                          "INSERT INTO HELP_CONTENTS VALUES (1, 'Welcome', 'home.html', -1);");
         files.files[folder.Path().string() + "/index_template.dat"] = "$START_PAGE";
-        shell.SetHelp(&help);
+        shell.Environment().help = &help;
         shell.SetView(&view);
     }
     void TearDown() override {
         shell.SetView(nullptr);
-        shell.SetHelp(nullptr);
+        shell.Environment().help = nullptr;
     }
     // The page that the browser was given, empty for none.
     std::string TakePage() {
@@ -42,10 +42,10 @@ class ShellHelp : public ShellTest {
 };
 
 TEST_F(ShellHelp, IsAboutTheTabInFront) {
-    shell.CreateDocumentWindow("").Focus().SetTab(Tab::Hops);
+    shell.Recipes().Create("").Focus().SetTab(Tab::Hops);
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "hops.html");
-    shell.ActiveDocument()->Focus().SetTab(Tab::General);
+    shell.Documents().Active()->Focus().SetTab(Tab::General);
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "general.html");
 }
@@ -53,14 +53,14 @@ TEST_F(ShellHelp, IsAboutTheTabInFront) {
 TEST_F(ShellHelp, IsTheHomePageWithoutADocumentOrWithAMinimisedOne) {
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "home");
-    shell.CreateDocumentWindow("").Focus().SetTab(Tab::Hops);
+    shell.Recipes().Create("").Focus().SetTab(Tab::Hops);
     view.minimized = true;
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "home");
 }
 
 TEST_F(ShellHelp, ATabWithoutAPageIsTold) {
-    shell.CreateDocumentWindow("").Focus().SetTab(Tab::Notes);
+    shell.Recipes().Create("").Focus().SetTab(Tab::Notes);
     shell.RunMenu("mnuHelpAuto");
     EXPECT_EQ(outside.messages.log, Strings{"[Error Loading Help Topic] Error: Topic Not Found"});
     EXPECT_EQ(TakePage(), "");
@@ -68,9 +68,9 @@ TEST_F(ShellHelp, ATabWithoutAPageIsTold) {
 
 TEST_F(ShellHelp, AMissingDatabaseIsToldAndTheProgramGoesOn) {
     std::filesystem::remove(folder.Path() / "help.mdb");
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
-    shell.ShowContextHelp("frmAbout", "?");
+    shell.Helping().ShowContextHelp("frmAbout", "?");
     const std::string box = "[Error] Could not find file '" + help.DatabasePath() + "'. (14)";
     EXPECT_EQ(outside.messages.log, (Strings{box, box}));
 }
@@ -83,10 +83,10 @@ TEST_F(ShellHelp, TheContentsComeUpAndShowPages) {
 }
 
 TEST_F(ShellHelp, WithoutPagesNothingIsShown) {
-    shell.SetHelp(nullptr);
+    shell.Environment().help = nullptr;
     shell.RunMenu("mnuHelpAuto");
     shell.RunMenu("mnuHelpContents");
-    shell.ShowContextHelp("frmAbout", "?");
+    shell.Helping().ShowContextHelp("frmAbout", "?");
     EXPECT_EQ(outside.messages.log, Strings{});
     EXPECT_EQ(outside.dialogs.shown, Strings{});
 }
@@ -97,7 +97,7 @@ TEST_F(ShellHelp, TheAssistantsLinkRunsOnceItsWindowIsClosed) {
         assistant = &dialog;
         dialog.SetControl("chkShowAtStartup", "no");
         dialog.Press("lblNew");
-        EXPECT_TRUE(shell.Documents().empty());
+        EXPECT_TRUE(shell.Documents().All().empty());
     });
     EXPECT_TRUE(shell.RunMenu("mnuToolsAssistant"));
     EXPECT_NE(assistant, nullptr);

@@ -18,8 +18,8 @@ class ShellPrintTest : public ShellTest {
   protected:
     void SetUp() override {
         ShellTest::SetUp();
-        shell.SetPrinter(&printer);
-        shell.SetSaveFiles(&files);
+        shell.Environment().printer = &printer;
+        shell.Environment().saveFiles = &files;
     }
     void ExpectCommandsToWaitForTheJob() {
         DDEService& outsideCommands = shell.DDE();
@@ -29,7 +29,7 @@ class ShellPrintTest : public ShellTest {
             outsideCommands.TickDDE();
             waiting = outsideCommands.DDECommandCount();
         };
-        shell.PrintActiveDocument(false);
+        shell.Paper().PrintActive(false);
         EXPECT_EQ(waiting, 1);
         outsideCommands.TickDDE();
         EXPECT_EQ(outsideCommands.DDECommandCount(), 0);
@@ -119,9 +119,9 @@ TEST_F(ShellPrintTest, AFailureOfTheJobIsToldAndTheJobDropped) {
 // Intended: a first recipe lights Print while no document is open; it finds nothing to print then.
 TEST_F(ShellPrintTest, WithoutADocumentThereIsNothingToPrint) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    shell.CheckEnableDelete();
+    shell.States().CheckEnableDelete();
     EXPECT_TRUE(shell.RunMenu("mnuFilePrint"));
-    shell.PreviewActiveDocument();
+    shell.Paper().PreviewActive();
     EXPECT_TRUE(printer.log.empty());
     EXPECT_TRUE(outside.dialogs.shown.empty());
 }
@@ -175,16 +175,16 @@ TEST(ShellPrint, ThePdfFileNeverTakesThePlaceOfTheDatabase) {
     RecordingPlatform outside;
     RecordingPrinter printer;
     RecordingSaveFile files;
-    Shell shell(outside.platform);
-    shell.SetPrinter(&printer);
-    shell.SetSaveFiles(&files);
+    Shell shell({outside.platform});
+    shell.Environment().printer = &printer;
+    shell.Environment().saveFiles = &files;
     ASSERT_TRUE(shell.PerformSplashScreenInit(path));
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     printer.result = Result::NoPrinter;
     for (const char* name : {"Tunwright.mdb", "Tunwright.mdb-journal", "link.pdf"}) {
         files.answer = folder.File(name);
         outside.dialogs.scripts = {[](DialogModel& dialog) { EXPECT_TRUE(dialog.Press("cmdPDF")); }};
-        shell.PrintActiveDocument(false);
+        shell.Paper().PrintActive(false);
         EXPECT_EQ(outside.messages.TakeLog(),
                   Strings{"[Error] Could not create PDF file \"" + folder.File(name) + "\""});
         EXPECT_TRUE(outside.messages.advice.ends_with(" Please choose another name."));
@@ -242,7 +242,7 @@ TEST_F(ShellPrintTest, ThePreviewShowsSavesAndPrints) {
         printer.fails = false;
         EXPECT_TRUE(dialog.Press("cmdPrint"));
     });
-    shell.PreviewActiveDocument();
+    shell.Paper().PreviewActive();
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintPreview"}));
     EXPECT_EQ(outside.messages.log, (Strings{"[Error] Could not create PDF file \"/full/Porter.pdf\""}));
     EXPECT_EQ(printer.log.front(), "hourglass");
@@ -264,16 +264,16 @@ TEST_F(ShellPrintTest, FromThePreviewThePrinterDialogLeadsBackToIt) {
         EXPECT_TRUE(dialog.Press("cmdPrint"));
         EXPECT_TRUE(dialog.IsOpen());
     });
-    shell.PreviewActiveDocument();
+    shell.Paper().PreviewActive();
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintPreview"}));
     EXPECT_EQ(printer.log, (Strings{"new"}));
 }
 
 TEST_F(ShellPrintTest, WithoutAPortNothingIsPrinted) {
     NewNamed("Porter");
-    shell.SetPrinter(nullptr);
+    shell.Environment().printer = nullptr;
     EXPECT_TRUE(shell.RunMenu("mnuFilePrint"));
-    shell.PreviewActiveDocument();
+    shell.Paper().PreviewActive();
     EXPECT_TRUE(outside.dialogs.shown.empty());
 }
 
@@ -284,7 +284,7 @@ TEST_F(ShellPrintTest, TheWizardStaysBehindItsHiddenItem) {
     outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         EXPECT_EQ(dynamic_cast<PrintWizardModel&>(dialog).Type(), ReportType::Html);
     });
-    shell.ShowReportWizard();
+    shell.Paper().ShowReportWizard(shell.CurrentSettings().reportType);
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintWizard"}));
 }
 

@@ -14,47 +14,47 @@ class ShellSetup : public testing::Test {
     void Next(std::function<void(DialogModel&)> work) { outside.dialogs.scripts.push_back(std::move(work)); }
     // Whether the active document's list of styles holds the name.
     bool Offers(const std::string& name) {
-        for (const auto& entry : shell.ActiveDocument()->Record().cmbStyle.Entries())
+        for (const auto& entry : shell.Documents().Active()->Record().cmbStyle.Entries())
             if (entry.text == name) return true;
         return false;
     }
 
     RecordingPlatform outside;
-    Shell shell{outside.platform};
+    Shell shell{{outside.platform}};
 };
 
 TEST_F(ShellSetup, AStyleIsMadeInAFolderForOthers) {
-    shell.CreateDocumentWindow("");
-    const std::int64_t dark = shell.Objects().CreateStyleFolder(0, "Dark", true);
+    shell.Recipes().Create("");
+    const std::int64_t dark = shell.Data().objects.CreateStyleFolder(0, "Dark", true);
     Next([](DialogModel& editor) {
         EXPECT_EQ(editor.FormName(), "frmStyle");
         editor.SetControl("Text1", " Stout ");
         editor.Press("cmdOK");
     });
-    EXPECT_EQ(shell.EditStyle("", dark), "Stout");
-    EXPECT_TRUE(shell.Tree().NodeExists("S:1:1"));
+    EXPECT_EQ(shell.Catalogue().EditStyle("", dark), "Stout");
+    EXPECT_TRUE(shell.Data().tree.NodeExists("S:1:1"));
     EXPECT_TRUE(Offers("Stout"));
 }
 
 TEST_F(ShellSetup, AnEditedStyleGivesItsNameAndACancelledOneNothing) {
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
-    shell.Objects().AddStyleNodesByName("Stout");
+    shell.Data().objects.AddStyleNodesByName("Stout");
     Next([](DialogModel& editor) {
         EXPECT_EQ(editor.Controls().front().text, "Stout");
         editor.SetControl("Text1", "Dry Stout");
         editor.Press("cmdOK");
     });
-    EXPECT_EQ(shell.EditStyle("stout", 0), "Dry Stout");
+    EXPECT_EQ(shell.Catalogue().EditStyle("stout", 0), "Dry Stout");
     EXPECT_TRUE(Offers("Dry Stout"));
     EXPECT_FALSE(Offers("Stout"));
     Next([](DialogModel& editor) { editor.Press("cmdCancel"); });
-    EXPECT_EQ(shell.EditStyle("Dry Stout", 0), std::nullopt);
+    EXPECT_EQ(shell.Catalogue().EditStyle("Dry Stout", 0), std::nullopt);
 }
 
 // Whatever the editor's window is closed with afterwards.
 TEST_F(ShellSetup, AnAppliedStyleIsInTheListsAtOnce) {
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     Next([&](DialogModel& editor) {
         editor.SetControl("Text1", "Stout");
         editor.Press("cmdApply");
@@ -63,17 +63,17 @@ TEST_F(ShellSetup, AnAppliedStyleIsInTheListsAtOnce) {
         editor.Press("cmdApply");
         EXPECT_TRUE(Offers("Dry Stout"));
         EXPECT_FALSE(Offers("Stout"));
-        shell.ActiveDocument()->Style().Style().ChangeStyle("Dry Stout");
+        shell.Documents().Active()->Style().ChangeStyle("Dry Stout");
         editor.SetControl("gridInfo(0,0)", "1.040");
         editor.Press("cmdApply");
-        EXPECT_EQ(shell.ActiveDocument()->Record().lblOGStyle.Text(), ">= 1.040");
+        EXPECT_EQ(shell.Documents().Active()->Record().lblOGStyle.Text(), ">= 1.040");
         editor.Press("cmdCancel");
     });
-    shell.EditStyle("", 0);
+    shell.Catalogue().EditStyle("", 0);
 }
 
 TEST_F(ShellSetup, TheDocumentsFollowWhenDatabaseSetupCloses) {
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     Next([&](DialogModel& setup) {
         shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
         EXPECT_FALSE(Offers("Stout"));
@@ -85,8 +85,8 @@ TEST_F(ShellSetup, TheDocumentsFollowWhenDatabaseSetupCloses) {
 
 TEST_F(ShellSetup, TheRangesBesideTheFiguresFollowTheStyleWithoutAChange) {
     shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID, IBU_LO) VALUES ('Stout', 0, 20)");
-    RecipeDocument& document = shell.CreateDocumentWindow("");
-    ASSERT_TRUE(document.Style().Style().ChangeStyle("Stout"));
+    RecipeDocument& document = shell.Recipes().Create("");
+    ASSERT_TRUE(document.Style().ChangeStyle("Stout"));
     bool saved = false;
     saved = document.Storage().SaveUnder("Mine", 0, Asking::Quietly);
     ASSERT_TRUE(saved);
@@ -94,13 +94,13 @@ TEST_F(ShellSetup, TheRangesBesideTheFiguresFollowTheStyleWithoutAChange) {
         editor.SetControl("gridInfo(4,1)", "40");
         editor.Press("cmdOK");
     });
-    shell.EditStyle("Stout", 0);
+    shell.Catalogue().EditStyle("Stout", 0);
     EXPECT_EQ(document.Record().lblIBUStyle.Text(), "20 - 40");
     EXPECT_FALSE(document.Changed());
 }
 
 TEST_F(ShellSetup, AnErrorInDatabaseSetupIsShownAndTheDocumentsFollow) {
-    shell.CreateDocumentWindow("");
+    shell.Recipes().Create("");
     Next([&](DialogModel&) {
         shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
         throw Error("Database", "The disk is full.", 13);

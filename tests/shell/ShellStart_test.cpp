@@ -22,12 +22,12 @@ class ShellStartTest : public testing::Test {
 };
 
 TEST_F(ShellStartTest, ComesUpWithoutADocument) {
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     EXPECT_EQ(shell.DB(), nullptr);
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
     EXPECT_NE(shell.DB(), nullptr);
-    EXPECT_TRUE(shell.Documents().empty());
-    EXPECT_EQ(shell.ActiveDocument(), nullptr);
+    EXPECT_TRUE(shell.Documents().All().empty());
+    EXPECT_EQ(shell.Documents().Active(), nullptr);
     EXPECT_EQ(outside.messages.log, Strings{});
 }
 
@@ -39,12 +39,12 @@ TEST_F(ShellStartTest, TheDatabaseLiesInTheProgramsFolder) {
 
 TEST_F(ShellStartTest, AMissingDatabaseIsFatal) {
     const ScratchFolder folder;
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     shell.SetView(&view);
     EXPECT_FALSE(shell.PerformSplashScreenInit(folder.File("Tunwright.mdb")));
     EXPECT_EQ(shell.DB(), nullptr);
     // The timer may tick while the box stands open.
-    shell.SetDoAutoSave(true);
+    shell.SettingsNow().SetDoAutoSave(true);
     view.log.pop_back();
     shell.TickAutoSave();
     ASSERT_EQ(outside.messages.log.size(), 1u);
@@ -59,7 +59,7 @@ TEST_F(ShellStartTest, AMissingDatabaseIsFatal) {
 TEST_F(ShellStartTest, ATextFileIsFatal) {
     const ScratchFolder folder;
     std::ofstream(folder.File("Tunwright.mdb")) << std::string(2000, 'x');
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     EXPECT_FALSE(shell.PerformSplashScreenInit(folder.File("Tunwright.mdb")));
     EXPECT_EQ(outside.messages.log.size(), 1u);
 }
@@ -70,9 +70,9 @@ TEST_F(ShellStartTest, AWriteProtectedDatabaseIsToldOnceAndCanBeRead) {
     CreateSchema(*Database::CreateDatabase(path, ""));
     AddRecipeRow(*Database::OpenDatabase(path, false), "Stout");
     std::filesystem::permissions(path, std::filesystem::perms::owner_read);
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     shell.SetView(&view);
-    shell.SetRecoveryFolder(folder.File("unsaved"));
+    shell.Environment().recoveryFolder = folder.File("unsaved");
     ASSERT_TRUE(shell.PerformSplashScreenInit(path));
     EXPECT_EQ(
         outside.messages.TakeLog(),
@@ -80,20 +80,20 @@ TEST_F(ShellStartTest, AWriteProtectedDatabaseIsToldOnceAndCanBeRead) {
                 "\r\nRecipes can be read and printed, but not saved.\r\nAllow writing to this file and to "
                 "its folder, then start Tunwright again."});
     EXPECT_EQ(view.log.back(), "notice: Write-protected: recipes cannot be saved.");
-    shell.OpenByName("Stout");
-    ASSERT_NE(shell.ActiveDocument(), nullptr);
-    RecipeDocument& stout = *shell.ActiveDocument();
+    shell.Recipes().OpenByName("Stout");
+    ASSERT_NE(shell.Documents().Active(), nullptr);
+    RecipeDocument& stout = *shell.Documents().Active();
     stout.Fields().SetText(stout.Record().txtNotes, "kept all the same");
-    shell.KeepUnsavedWork();
-    EXPECT_FALSE(shell.SaveRecipe(stout, false));
+    shell.Unsaved().Keep();
+    EXPECT_FALSE(shell.Saver().Save(stout, false));
     EXPECT_EQ(
         outside.messages.TakeLog(),
         Strings{"[Error] Error during save:\r\nThe database is write-protected: nothing can be saved in "
                 "it. (8)"});
-    EXPECT_TRUE(shell.Tree().NodeExists("R:1:0"));
+    EXPECT_TRUE(shell.Data().tree.NodeExists("R:1:0"));
     // Autosave does not say so every few minutes.
     shell.CurrentSettings().doAutoSaveEvery = 1;
-    shell.SetDoAutoSave(true);
+    shell.SettingsNow().SetDoAutoSave(true);
     shell.TickAutoSave();
     EXPECT_EQ(outside.messages.log, Strings{});
     EXPECT_EQ(outside.dialogs.shown, Strings{});
@@ -102,7 +102,7 @@ TEST_F(ShellStartTest, AWriteProtectedDatabaseIsToldOnceAndCanBeRead) {
 TEST_F(ShellStartTest, ADatabaseWithoutTheTablesIsFatal) {
     const ScratchFolder folder;
     { const auto empty = Database::CreateDatabase(folder.File("Tunwright.mdb"), ""); }
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     EXPECT_FALSE(shell.PerformSplashScreenInit(folder.File("Tunwright.mdb")));
     EXPECT_EQ(outside.messages.log.size(), 1u);
 }
@@ -110,7 +110,7 @@ TEST_F(ShellStartTest, ADatabaseWithoutTheTablesIsFatal) {
 TEST_F(ShellStartTest, AfterAFatalErrorNoCommandRunsAndTheSettingsAreWrittenBack) {
     outside.settings.Put("Settings", "BoilVol", "7 gal");
     outside.settings.Put("MRU", "File0", "Pale Ale");
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     EXPECT_FALSE(shell.PerformSplashScreenInit("/nowhere/at/all/Tunwright.mdb"));
     EXPECT_FALSE(shell.RunMenu("mnuFileNew"));
     EXPECT_FALSE(shell.RunMenu("mnuFileOpen"));
@@ -124,17 +124,17 @@ TEST_F(ShellStartTest, AfterAFatalErrorNoCommandRunsAndTheSettingsAreWrittenBack
 TEST_F(ShellStartTest, ASecondShellCannotShareTheFile) {
     const ScratchFolder folder;
     MakeDatabase(folder.File("Tunwright.mdb"), {});
-    Shell first(outside.platform);
+    Shell first({outside.platform});
     ASSERT_TRUE(first.PerformSplashScreenInit(folder.File("Tunwright.mdb")));
-    Shell second(outside.platform);
+    Shell second({outside.platform});
     EXPECT_FALSE(second.PerformSplashScreenInit(folder.File("Tunwright.mdb")));
     first.Unload(false);
-    Shell third(outside.platform);
+    Shell third({outside.platform});
     EXPECT_TRUE(third.PerformSplashScreenInit(folder.File("Tunwright.mdb")));
 }
 
 TEST_F(ShellStartTest, AnEmptyDatabaseKeepsTheRecipeCommandsOff) {
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
     for (const char* item : {"mnuFileOpen", "mnuFileDelete", "mnuFilePrint", "mnuFileExport"}) {
         EXPECT_FALSE(shell.Bar().FindItem(item)->enabled) << item;
@@ -147,7 +147,7 @@ TEST_F(ShellStartTest, AnEmptyDatabaseKeepsTheRecipeCommandsOff) {
 TEST_F(ShellStartTest, WithRecipesPrintStaysOffAtTheStart) {
     const ScratchFolder folder;
     MakeDatabase(folder.File("Tunwright.mdb"), {"Pale Ale"});
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     ASSERT_TRUE(shell.PerformSplashScreenInit(folder.File("Tunwright.mdb")));
     EXPECT_TRUE(Lit(shell, "mnuFileOpen"));
     EXPECT_TRUE(shell.Bar().FindItem("mnuFileDelete")->enabled);
@@ -158,7 +158,7 @@ TEST_F(ShellStartTest, WithRecipesPrintStaysOffAtTheStart) {
 TEST_F(ShellStartTest, TheWindowsSettingsComeFirst) {
     outside.settings.Put("Settings", "MainWidth", "9000");
     outside.settings.Put("Settings", "HopForm", "2");
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     shell.LoadWindowSettings();
     EXPECT_EQ(shell.CurrentSettings().mainWidth, 9000);
     EXPECT_EQ(shell.CurrentSettings().hopForm, 0);
@@ -168,38 +168,38 @@ TEST_F(ShellStartTest, TheWindowsSettingsComeFirst) {
 
 TEST_F(ShellStartTest, TheAppendFlagIsRestoredAndStored) {
     outside.settings.Put("Settings", "AppendRows", "1");
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
     EXPECT_TRUE(shell.Bar().FindItem("mnuEditAppendFlag")->checked);
-    shell.SetAppendRows(false);
+    shell.SettingsNow().SetAppendRows(false);
     shell.Unload(false);
     EXPECT_EQ(outside.settings.Read(SettingsPort::Layer::User, "Settings", "AppendRows"), "0");
 }
 
 TEST_F(ShellStartTest, TheLowerSeparatorFollowsTheListAtTheStartAlone) {
     {
-        Shell shell(outside.platform);
+        Shell shell({outside.platform});
         ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
         EXPECT_FALSE(Visible(shell, "mnuFileBar7"));
-        shell.AddToMRU("Pale Ale");
+        shell.Recent().Add("Pale Ale");
         EXPECT_TRUE(Visible(shell, "mnuFileBar5"));
         EXPECT_FALSE(Visible(shell, "mnuFileBar7"));
         shell.Unload(false);
     }
-    Shell next(outside.platform);
+    Shell next({outside.platform});
     ASSERT_TRUE(next.PerformSplashScreenInit(":memory:"));
     EXPECT_TRUE(Visible(next, "mnuFileBar7"));
     EXPECT_EQ(next.Recent().Captions(), Strings{"&1 Pale Ale"});
-    next.NotifyRecipeDeleted("Pale Ale");
+    next.Notices().NotifyRecipeDeleted("Pale Ale");
     EXPECT_FALSE(Visible(next, "mnuFileBar5"));
     EXPECT_TRUE(Visible(next, "mnuFileBar7"));
 }
 
 TEST_F(ShellStartTest, ShutDownWritesGeometryThenSettingsThenTheRecentList) {
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     shell.LoadWindowSettings();
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
-    shell.AddToMRU("Pale Ale");
+    shell.Recent().Add("Pale Ale");
     Settings& s = shell.CurrentSettings();
     s.gridReadOnlyBg = 65535, s.gridTotalBg = 65280, s.gridReadOnlyFg = 1, s.gridTotalFg = 1;
     ASSERT_TRUE(shell.RequestExit());
@@ -216,7 +216,7 @@ TEST_F(ShellStartTest, ShutDownWritesGeometryThenSettingsThenTheRecentList) {
 
 TEST_F(ShellStartTest, AMinimisedWindowKeepsThePreviousGeometry) {
     outside.settings.Put("Settings", "MainLeft", "77");
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
     shell.CurrentSettings().mainLeft = -32000;
     shell.Unload(false);
@@ -224,26 +224,26 @@ TEST_F(ShellStartTest, AMinimisedWindowKeepsThePreviousGeometry) {
 }
 
 TEST_F(ShellStartTest, AStoredSettingActsAtOnce) {
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
-    shell.StoreSetting("Settings", "BoilVol", "7 gal");
-    shell.StoreSetting("Settings", "AppendRows", "1");
-    shell.StoreSetting("MRU", "BoilVol", "8 gal");
+    shell.SettingsNow().Store("Settings", "BoilVol", "7 gal");
+    shell.SettingsNow().Store("Settings", "AppendRows", "1");
+    shell.SettingsNow().Store("MRU", "BoilVol", "8 gal");
     EXPECT_EQ(outside.settings.Read(SettingsPort::Layer::User, "Settings", "BoilVol"), "7 gal");
     EXPECT_EQ(outside.settings.Read(SettingsPort::Layer::User, "MRU", "BoilVol"), "8 gal");
-    EXPECT_EQ(shell.Defaults().boilVol, "7 gal");
-    EXPECT_TRUE(shell.AppendRows());
-    EXPECT_EQ(shell.CreateDocumentWindow("").Record().txtBoilVol.Text(), "7 gal");
+    EXPECT_EQ(shell.SettingsNow().Defaults().boilVol, "7 gal");
+    EXPECT_TRUE(shell.SettingsNow().AppendRows());
+    EXPECT_EQ(shell.Recipes().Create("").Record().txtBoilVol.Text(), "7 gal");
 }
 
 TEST_F(ShellStartTest, AChoiceThatDoesNotExistCountsAsTheFirst) {
     for (const char* key : {"HopForm", "IBUMethod"}) outside.settings.Put("Settings", key, "3");
     outside.settings.Put("Settings", "Packaging", "-1");
-    Shell shell(outside.platform);
+    Shell shell({outside.platform});
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
-    EXPECT_EQ(shell.Defaults().hopForm, 0);
-    EXPECT_EQ(shell.Defaults().ibuMethod, 0);
-    EXPECT_EQ(shell.Defaults().packaging, 0);
+    EXPECT_EQ(shell.SettingsNow().Defaults().hopForm, 0);
+    EXPECT_EQ(shell.SettingsNow().Defaults().ibuMethod, 0);
+    EXPECT_EQ(shell.SettingsNow().Defaults().packaging, 0);
     EXPECT_EQ(shell.CurrentSettings().hopForm, 3);
 }
 

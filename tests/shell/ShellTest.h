@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/ErrorBox.h"
 #include "shell/Shell.h"
 #include "support/RecordingPlatform.h"
 
@@ -86,26 +87,26 @@ class ShellTest : public testing::Test {
 
     std::vector<std::string> Captions() const {
         std::vector<std::string> captions;
-        for (const auto& document : shell.Documents()) captions.push_back(document->Caption());
+        for (const auto& document : shell.Documents().All()) captions.push_back(document->Caption());
         return captions;
     }
 
     // A document with that name typed in, changed.
     RecipeDocument& NewNamed(std::string_view name) {
-        RecipeDocument& document = shell.CreateDocumentWindow("");
+        RecipeDocument& document = shell.Recipes().Create("");
         document.Fields().SetText(document.Record().txtName, name);
         return document;
     }
     // A document that has been saved under that name.
     RecipeDocument& NewSaved(std::string_view name) {
-        RecipeDocument& document = shell.CreateDocumentWindow("");
-        EXPECT_TRUE(shell.SaveRecipeUnder(document, name, 0, true));
+        RecipeDocument& document = shell.Recipes().Create("");
+        EXPECT_TRUE(shell.Saver().SaveUnder(document, name, 0, true));
         return document;
     }
 
     RecordingPlatform outside;
     RecordingView view;
-    Shell shell{outside.platform};
+    Shell shell{{outside.platform}};
 };
 
 using Strings = std::vector<std::string>;

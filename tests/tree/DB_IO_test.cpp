@@ -27,13 +27,12 @@ StoredRecipe TwoLines(const std::string& name) {
     r.name = name;
     r.folderId = 3;
     for (int i = 1; i >= 0; --i) {
-        r.grains.push_back({i, "Pale malt", {"8 lb", 8}, {"36.5", 36.5}, {"2.2", 2.2}});
-        r.extracts.push_back({i, "Light extract", {"1 lb", 1}, {"44", 44}, {"5", 5}});
-        r.hops.push_back({i, "Goldings", 2, true, false, {"1 oz", 1}, {"5.2%", 5.2}, {"60 min", 60}});
-        r.salts.push_back({i, "Gypsum", {"3 grams", 3}, {61.5, 0, 0, 0, 0, 147.4}});
-        r.sugars.push_back({i, "Corn sugar", {"100%", 100}, {"4 oz", 4}});
-        r.adjuncts.push_back({i, "Irish moss", "1 tsp", "15 min", "Boil"});
-        r.log.push_back({i, "02/28/2024", "Pitched Yeast", "London ale"});
+        for (const GridId grid : {GridId::Grain, GridId::Extract, GridId::Hops, GridId::Treatment,
+                                  GridId::Priming, GridId::Adjuncts, GridId::Log}) {
+            StoredLine line = EmptyLine(grid, i);
+            line.cells.front().text = "Line " + std::to_string(i);
+            r[grid].push_back(std::move(line));
+        }
     }
     return r;
 }

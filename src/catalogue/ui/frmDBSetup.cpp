@@ -57,7 +57,7 @@ void frmDBSetup::AddHead(QBoxLayout& column) {
     catalogues_->setObjectName(QStringLiteral("Combo1"));
     catalogues_->setAccessibleName(tr("Catalogue"));
     for (const std::string& entry : DBSetupModel::Entries()) catalogues_->addItem(ToQt(entry));
-    catalogues_->setMaxVisibleItems(kCatalogues);
+    catalogues_->setMaxVisibleItems(kCatalogueKinds);
     catalogues_->installEventFilter(this);
     connect(catalogues_, &QComboBox::currentTextChanged, this,
             [this](const QString& entry) { model_.SetControl("Combo1", FromQt(entry)); });

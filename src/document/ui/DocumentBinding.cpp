@@ -8,7 +8,7 @@
 #include <utility>
 
 #include "document/ui/GridView.h"
-#include "platform/qt/ErrorBox.h"
+#include "platform/ErrorBox.h"
 
 namespace tw {
 namespace {

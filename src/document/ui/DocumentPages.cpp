@@ -81,7 +81,7 @@ void BuildWater(PageBuilder& b) {
     column->addWidget(b.GridOf(r.gridWater, {}), 1);
     auto* treat = b.CommandButton(r.cmdCalcTreatment, Tr("Calculate Treat&ment"),
                                   Tr("Works out the salts that turn the source water into the target water"),
-                                  [](RecipeDocument& document) { document.Water().Water().CalcTreatment(); });
+                                  [](RecipeDocument& document) { document.Water().CalcTreatment(); });
     treat->setAccessibleName(Tr("Calculate Treatment"));
     column->addLayout(RowOf(b, {treat}));
     column->addWidget(

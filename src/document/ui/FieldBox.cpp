@@ -90,7 +90,7 @@ void FieldBox::changeEvent(QEvent* event) {
 
 bool FieldBox::Commit() {
     bool accepted = true;
-    binding_.Run([&](RecipeDocument& document) { accepted = document.Fields().Fields().CommitField(box_); });
+    binding_.Run([&](RecipeDocument& document) { accepted = document.Fields().CommitField(box_); });
     if (!accepted) selectAll();
     return accepted;
 }
@@ -127,7 +127,7 @@ void FieldBox::keyPressEvent(QKeyEvent* event) {
             if (Commit()) selectAll();
             return;
         case Qt::Key_Escape:
-            binding_.Run([this](RecipeDocument& document) { document.Fields().Fields().RestoreField(box_); });
+            binding_.Run([this](RecipeDocument& document) { document.Fields().RestoreField(box_); });
             selectAll();
             return;
         default:

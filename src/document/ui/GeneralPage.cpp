@@ -64,7 +64,7 @@ QGridLayout* MakeSizes(PageBuilder& b) {
     browse->setAutoDefault(false);
     DocumentBinding& binding = b.Binding();
     QObject::connect(browse, &QPushButton::clicked, browse, [&binding] {
-        if (binding.Flush()) binding.Run([](RecipeDocument& document) { document.Picks().Picks().BrowseStyles(); });
+        if (binding.Flush()) binding.Run([](RecipeDocument& document) { document.Picks().BrowseStyles(); });
     });
     grid->addWidget(browse, row, 2);
     add(b.Field(r.txtNumBatches, kVolumeDigits));

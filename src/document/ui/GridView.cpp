@@ -282,7 +282,7 @@ void GridView::commitData(QWidget* editor) {
     committing_ = true;
     // An arithmetic error leaves the cell as it was; the editor closes then.
     binding_.Run(
-        [&](RecipeDocument& document) { accepted = document.Cells().Cells().EditCell(*grid_, row, col, text); });
+        [&](RecipeDocument& document) { accepted = document.Cells().EditCell(*grid_, row, col, text); });
     committing_ = false;
     refused_ = !accepted;
 }
@@ -325,7 +325,7 @@ void GridView::currentChanged(const QModelIndex& current, const QModelIndex& pre
 void GridView::TellSelection() {
     const std::optional<GridRange> range = SelectedRange();
     if (following_ || !range || *range == grid_->Selection()) return;
-    binding_.Run([&](RecipeDocument& document) { document.Focus().Focus().SelectCells(*grid_, *range); });
+    binding_.Run([&](RecipeDocument& document) { document.Focus().SelectCells(*grid_, *range); });
 }
 
 bool GridView::IsCurrentCell(const QModelIndex& cell) const {
@@ -348,13 +348,13 @@ void GridView::BrowseSoon() {
 
 void GridView::BrowseCatalogue() {
     if (!grid_ || !binding_.Flush()) return;
-    binding_.Run([this](RecipeDocument& document) { document.Picks().Picks().BrowseCell(*grid_); });
+    binding_.Run([this](RecipeDocument& document) { document.Picks().BrowseCell(*grid_); });
 }
 
 void GridView::SortBy(int col) {
     if (!grid_ || !grid_->RowsCanChange() || col < 0) return;
     sorting_ = true;
-    binding_.Run([&](RecipeDocument& document) { document.Lines().Lines().ClickHeader(*grid_, col); });
+    binding_.Run([&](RecipeDocument& document) { document.Lines().ClickHeader(*grid_, col); });
     sorting_ = false;
     // The document has one sort column for all its grids.
     binding_.ForEachGrid([&](GridView& view) { view.ShowSortMark(&view == this ? col : -1); });
@@ -362,7 +362,7 @@ void GridView::SortBy(int col) {
 
 void GridView::ShowSortMark(int col) {
     const RecipeDocument* document = binding_.Document();
-    const bool descending = document && document->Lines().Lines().SortDescending();
+    const bool descending = document && document->Lines().SortDescending();
     horizontalHeader()->setSortIndicator(col, descending ? Qt::DescendingOrder : Qt::AscendingOrder);
     horizontalHeader()->setSortIndicatorShown(col >= 0);
 }

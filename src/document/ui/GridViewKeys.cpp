@@ -37,7 +37,7 @@ void GridView::MoveTo(int row, int col, bool extends) {
     const Place end{std::clamp(row, Grid::FixedRows(), grid_->TotalsRow()),
                     std::clamp(col, 0, grid_->Cols() - 1)};
     block_ = {extends ? SelectedBlock().anchor : end, end};
-    binding_.Run([&](RecipeDocument& document) { document.Focus().Focus().SelectCells(*grid_, block_.Range()); });
+    binding_.Run([&](RecipeDocument& document) { document.Focus().SelectCells(*grid_, block_.Range()); });
     ShowColumn(end.col);
 }
 

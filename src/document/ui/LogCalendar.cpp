@@ -45,7 +45,7 @@ void LogCalendar::Pick(const QDate& day) {
     picked.year = day.year();
     picked.month = day.month();
     picked.day = day.day();
-    binding_.Run([&](RecipeDocument& document) { document.Cells().Cells().PickLogDate(picked); });
+    binding_.Run([&](RecipeDocument& document) { document.Cells().PickLogDate(picked); });
     log_.setFocus();
 }
 

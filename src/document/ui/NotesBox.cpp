@@ -78,7 +78,7 @@ void NotesBox::TellSelection() {
 
 bool NotesBox::Commit() {
     bool accepted = true;
-    binding_.Run([&](RecipeDocument& document) { accepted = document.Fields().Fields().CommitField(box_); });
+    binding_.Run([&](RecipeDocument& document) { accepted = document.Fields().CommitField(box_); });
     return accepted;
 }
 
@@ -95,7 +95,7 @@ void NotesBox::focusOutEvent(QFocusEvent* event) {
 void NotesBox::keyPressEvent(QKeyEvent* event) {
     if (binding_.HandleEditKey(*event)) return;
     if (event->key() == Qt::Key_Escape) {
-        binding_.Run([this](RecipeDocument& document) { document.Fields().Fields().RestoreField(box_); });
+        binding_.Run([this](RecipeDocument& document) { document.Fields().RestoreField(box_); });
         moveCursor(QTextCursor::End);
         return;
     }

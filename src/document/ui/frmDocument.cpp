@@ -141,7 +141,7 @@ void frmDocument::FocusMoved(QWidget* now) {
         if (const auto* notes = qobject_cast<NotesBox*>(control))
             return document->Focus().FocusOn(notes->Box());
     }
-    document->Focus().Focus().FocusElsewhere();
+    document->Focus().FocusElsewhere();
 }
 
 QWidget* frmDocument::FirstField() const {
@@ -156,11 +156,11 @@ bool frmDocument::IsEditing(const QWidget& control) const {
 
 void frmDocument::FocusRow() {
     RecipeDocument* document = binding_.Document();
-    Grid* grid = document ? document->Focus().Focus().GridOfTab(static_cast<Tab>(shown_)) : nullptr;
+    Grid* grid = document ? document->Focus().GridOfTab(static_cast<Tab>(shown_)) : nullptr;
     GridView* view = grid ? binding_.ViewOf(*grid) : nullptr;
     if (!view || !view->isVisible()) return;
     view->setFocus();
-    binding_.Run([grid](RecipeDocument& d) { d.Focus().Focus().SetCurrentCell(*grid, grid->CurrentRow(), 0); });
+    binding_.Run([grid](RecipeDocument& d) { d.Focus().SetCurrentCell(*grid, grid->CurrentRow(), 0); });
 }
 
 void frmDocument::GridColorsChanged() {

@@ -10,6 +10,7 @@
 #include <QToolBar>
 
 #include "document/ui/frmDocument.h"
+#include "platform/ErrorBox.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/ElidedLabel.h"
 #include "platform/qt/QtText.h"
@@ -58,19 +59,21 @@ frmMain::frmMain(Shell& shell, Platform& platform)
     autoSaveTimer_->setObjectName(QStringLiteral("tmrAutoSave"));
     autoSaveTimer_->setInterval(kAutoSaveTickMilliseconds);
     connect(autoSaveTimer_, &QTimer::timeout, this,
-            [this] { shell_.Guard([this] { shell_.TickAutoSave(); }); });
+            [this] { RunShowingErrors(platform_.messages, [this] { shell_.TickAutoSave(); }); });
     keepTimer_->setObjectName(QStringLiteral("tmrKeepUnsaved"));
     keepTimer_->setInterval(kKeepMilliseconds);
     keepTimer_->setSingleShot(true);
-    connect(keepTimer_, &QTimer::timeout, this, [this] { shell_.KeepUnsavedWork(); });
-    new FileDrop(*this, [this](const QString& file) { shell_.ImportFromPath(FromQt(file)); });
+    connect(keepTimer_, &QTimer::timeout, this, [this] { shell_.Unsaved().Keep(); });
+    new FileDrop(*this, [this](const QString& file) {
+        if (shell_.DB()) shell_.Files().ImportFromPath(FromQt(file));
+    });
     ddeTimer_->setObjectName(QStringLiteral("tmrProcessDDE"));
     ddeTimer_->setInterval(kDDETickMilliseconds);
     connect(ddeTimer_, &QTimer::timeout, this, &frmMain::TickDDE);
     shell_.SetView(this);
     shell_.LoadWindowSettings();
-    shell_.ChangeToolbarIcons();
-    shell_.ChangeToolbarButtonStyle();
+    shell_.SettingsNow().ShowIcons();
+    shell_.SettingsNow().ShowButtonStyle();
     setMinimumSize(kLeastUnits * Unit(*this));
     ApplyGeometry(*this, shell_.CurrentSettings(), shell_.Store());
 
@@ -78,11 +81,12 @@ frmMain::frmMain(Shell& shell, Platform& platform)
         auto* frame = qobject_cast<DocumentSubWindow*>(window);
         if (changing_ || !frame || !frame->Document().Document()) return;
         RecipeDocument& document = *frame->Document().Document();
-        if (shell_.ActiveDocument() != &document) shell_.Guard([&] { shell_.Activate(document); });
+        if (shell_.Documents().Active() != &document)
+            RunShowingErrors(platform_.messages, [&] { shell_.Documents().Activate(document); });
     });
     connect(menus_->Menu(TopMenu::Window), &QMenu::aboutToShow, this, &frmMain::FillWindowMenu);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
-            [this] { shell_.ReapplyPasteState(); });
+            [this] { shell_.States().ReapplyPaste(); });
 }
 
 frmMain::~frmMain() {
@@ -106,10 +110,10 @@ bool frmMain::StartUp(const std::string& databasePath, const std::string& file) 
     splash.hide();
     if (!opened) return false;
     ShowWelcome();
-    shell_.ReapplyPasteState();
-    shell_.Guard([this] { shell_.OfferRecovery(); });
-    if (!IsBlank(file)) shell_.ImportFromPath(Trim(file));
-    shell_.EnableDDETimer(true);
+    shell_.States().ReapplyPaste();
+    RunShowingErrors(platform_.messages, [this] { shell_.Unsaved().Offer(); });
+    if (!IsBlank(file)) shell_.Files().ImportFromPath(Trim(file));
+    shell_.DDE().SetTicking(true);
     return true;
 }
 
@@ -120,7 +124,7 @@ void frmMain::ShowWelcome() {
 }
 
 frmDocument* frmMain::ActiveWindow() const {
-    const RecipeDocument* document = shell_.ActiveDocument();
+    const RecipeDocument* document = shell_.Documents().Active();
     DocumentSubWindow* window = document ? WindowOf(*document) : nullptr;
     return window ? &window->Document() : nullptr;
 }
@@ -142,7 +146,7 @@ void frmMain::DocumentOpened(RecipeDocument& document) {
     RecipeDocument* opened = &document;
     connect(window, &DocumentSubWindow::CloseRequested, this, [this, window, opened] {
         if (!window->Document().Document() || !window->Document().Flush()) return;
-        shell_.Guard([&] { shell_.CloseDocument(*opened); });
+        RunShowingErrors(platform_.messages, [&] { shell_.Saver().Close(*opened); });
     });
     connect(window, &QMdiSubWindow::windowStateChanged, this, [this](Qt::WindowStates, Qt::WindowStates now) {
         // A minimised window is never what the next one starts as.
@@ -244,7 +248,7 @@ void frmMain::OutsideCommandsWait() {
 }
 
 void frmMain::TickDDE() {
-    shell_.Guard([this] { shell_.DDE().TickDDE(); });
+    RunShowingErrors(platform_.messages, [this] { shell_.DDE().TickDDE(); });
     if (shell_.DDE().DDECommandCount() == 0) ddeTimer_->stop();
 }
 
@@ -286,7 +290,7 @@ bool frmMain::RunCommand(CommandId command) {
     // A refused entry has had its message; the key or click is used up.
     if (!FlushBefore(command)) return true;
     bool ran = false;
-    shell_.Guard([&] { ran = shell_.RunCommand(command); });
+    RunShowingErrors(platform_.messages, [&] { ran = shell_.RunCommand(command); });
     FocusAfter(command);
     return ran;
 }
@@ -294,7 +298,7 @@ bool frmMain::RunCommand(CommandId command) {
 void frmMain::PressButton(CommandId command) {
     const ToolButton* button = shell_.Bar().ButtonOf(command);
     if (!button || !button->enabled || !FlushBefore(command)) return;
-    shell_.Guard([&] { shell_.PressButton(command); });
+    RunShowingErrors(platform_.messages, [&] { shell_.PressButton(command); });
     FocusAfter(command);
 }
 
@@ -337,7 +341,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     event->ignore();
     if (!exitGranted_) {
         if (!FlushBefore(CommandId::FileExit)) return;
-        shell_.Guard([this] { exitGranted_ = shell_.RequestExit(); });
+        RunShowingErrors(platform_.messages, [this] { exitGranted_ = shell_.RequestExit(); });
         if (!exitGranted_) return;
     }
     if (!isMinimized()) KeepGeometry(*this, shell_.CurrentSettings(), shell_.Store());
@@ -348,7 +352,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
 void frmMain::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() == QEvent::ActivationChange && isActiveWindow() && shell_.DB())
-        shell_.ReapplyPasteState();
+        shell_.States().ReapplyPaste();
 }
 
 }  // namespace tw

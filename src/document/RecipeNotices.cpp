@@ -1,18 +1,18 @@
-#include "document/DatabaseNotices.h"
+#include "document/RecipeNotices.h"
 
 #include "values/Text.h"
 
 namespace tw {
 
-void DatabaseNotices::NotifyRecipeMoved(std::string_view name, std::int64_t folderId) {
+void RecipeNotices::NotifyRecipeMoved(std::string_view name, std::int64_t folderId) {
     if (storage_.IsStoredAs(name)) recipe_.place.folderId = folderId;
 }
 
-void DatabaseNotices::NotifyRecipeNewStyle(std::string_view name, std::int64_t styleId) {
+void RecipeNotices::NotifyRecipeNewStyle(std::string_view name, std::int64_t styleId) {
     if (storage_.IsStoredAs(name)) style_.SetId(styleId);
 }
 
-void DatabaseNotices::NotifyRecipeRenamed(std::string_view oldName, std::string_view newName) {
+void RecipeNotices::NotifyRecipeRenamed(std::string_view oldName, std::string_view newName) {
     if (!storage_.IsStoredAs(oldName)) return;
     recipe_.place.origName = Trim(newName);
     TextBox& name = recipe_.record.txtName;
@@ -24,26 +24,26 @@ void DatabaseNotices::NotifyRecipeRenamed(std::string_view oldName, std::string_
 }
 
 // Every recipe lists all styles, so that a notice about any of them is for all recipes.
-void DatabaseNotices::NotifyStyleRenamed(std::int64_t, std::string_view) {
+void RecipeNotices::NotifyStyleRenamed(std::int64_t, std::string_view) {
     style_.Reload();
 }
 
-void DatabaseNotices::NotifyRecipeDeleted(std::string_view name) {
+void RecipeNotices::NotifyRecipeDeleted(std::string_view name) {
     if (storage_.IsStoredAs(name)) storage_.Detach();
 }
 
-void DatabaseNotices::NotifyRecipeFolderDeleted(std::int64_t folderId) {
+void RecipeNotices::NotifyRecipeFolderDeleted(std::int64_t folderId) {
     if (recipe_.place.folderId == folderId) storage_.Detach();
 }
 
-void DatabaseNotices::NotifyStyleDeleted(std::int64_t styleId) {
+void RecipeNotices::NotifyStyleDeleted(std::int64_t styleId) {
     if (style_.Id() == styleId)
         style_.SetId(0);
     else
         style_.Reload();
 }
 
-void DatabaseNotices::DBChanged() {
+void RecipeNotices::DBChanged() {
     // The ranges beside the figures may have changed, too.
     style_.SetId(style_.Id());
 }

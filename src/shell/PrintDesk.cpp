@@ -1,4 +1,5 @@
-// Printing, its preview, and the report wizard.
+#include "shell/PrintDesk.h"
+
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -7,7 +8,6 @@
 #include "reports/PrintPreviewModel.h"
 #include "reports/PrintWizardModel.h"
 #include "reports/PrintedRecipe.h"
-#include "shell/Shell.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -61,18 +61,28 @@ std::string PdfName(std::string_view recipe) {
 
 }  // namespace
 
-void Shell::PrintActiveDocument(bool quick) {
-    if (!active_ || !printer_) return;
+PrintDesk::PrintDesk(const ShellEnvironment& environment, DDEService& outside, OpenedDatabase& data,
+                     const DocumentManager& documents, SettingsStore& store, OwnFiles& own)
+    : environment_(environment),
+      platform_(environment.platform),
+      outside_(outside),
+      data_(data),
+      documents_(documents),
+      store_(store),
+      own_(own) {}
+
+void PrintDesk::PrintActive(bool quick) {
+    if (documents_.Active() == nullptr || environment_.printer == nullptr) return;
     const PrinterAnswer::Result result = PrintThroughDialog(quick);
-    if (result == PrinterAnswer::Result::Preview) PreviewActiveDocument();
+    if (result == PrinterAnswer::Result::Preview) PreviewActive();
     if (result == PrinterAnswer::Result::NoPrinter) OfferOtherPaper();
 }
 
-PrinterAnswer::Result Shell::PrintThroughDialog(bool quick) {
-    const OutsideCommandsPaused pause(dde_);
+PrinterAnswer::Result PrintDesk::PrintThroughDialog(bool quick) {
+    const OutsideCommandsPaused pause(outside_);
     PrinterAnswer answer;
     try {
-        answer = printer_->ShowPrinterDialog(printerConfigured_, quick);
+        answer = Printer().ShowPrinterDialog(printerConfigured_, quick);
         if (answer.result == PrinterAnswer::Result::Failed)
             throw Error("Show Printer Dialog", "Unknown Error", answer.error);
         if (answer.result == PrinterAnswer::Result::Chosen) {
@@ -91,30 +101,30 @@ PrinterAnswer::Result Shell::PrintThroughDialog(bool quick) {
     return answer.result;
 }
 
-void Shell::PrintOn(std::unique_ptr<PrinterDevice> device) {
+void PrintDesk::PrintOn(std::unique_ptr<PrinterDevice> device) {
     try {
-        const Hourglass hourglass(*printer_);
-        PrintRecipe(active_->Record(), std::move(device));
+        const Hourglass hourglass(Printer());
+        PrintRecipe(documents_.Active()->Record(), std::move(device));
     } catch (const Error& error) {
         platform_.messages.ShowMessage("Error During Print Job", "Error:\r\n" + error.WithNumber());
     }
 }
 
-void Shell::PreviewActiveDocument() {
-    if (!active_ || !printer_) return;
-    const RecipeRecord& recipe = active_->Record();
+void PrintDesk::PreviewActive() {
+    if (documents_.Active() == nullptr || environment_.printer == nullptr) return;
+    const RecipeRecord& recipe = documents_.Active()->Record();
     PrintPreviewModel preview(
-        {[&](PrintSize area) { return LayOutRecipe(recipe, area, printer_->Measure()); },
+        {[&](PrintSize area) { return LayOutRecipe(recipe, area, Printer().Measure()); },
          // The dialog's own way to the preview leads back to this one.
          [this] {
              if (PrintThroughDialog(false) == PrinterAnswer::Result::NoPrinter) OfferPdf();
          },
          [this](const PrintSteps& steps, Paper paper) { SaveAsPdf(steps, paper); }},
-        printer_->UsualPaper());
+        Printer().UsualPaper());
     platform_.dialogs.ShowModal(preview);
 }
 
-void Shell::OfferPdf() {
+void PrintDesk::OfferPdf() {
     const Answer answer = platform_.messages.Ask(
         "Print",
         "There is no printer on this computer.\r\nDo you want to save the recipe as a PDF file instead?",
@@ -122,27 +132,28 @@ void Shell::OfferPdf() {
     if (answer == Answer::Yes) SaveActiveAsPdf();
 }
 
-void Shell::OfferOtherPaper() {
+void PrintDesk::OfferOtherPaper() {
     NoPrinterModel offer;
     platform_.dialogs.ShowModal(offer);
-    if (offer.Chosen() == NoPrinterModel::Choice::Preview) PreviewActiveDocument();
+    if (offer.Chosen() == NoPrinterModel::Choice::Preview) PreviewActive();
     if (offer.Chosen() == NoPrinterModel::Choice::Pdf) SaveActiveAsPdf();
 }
 
-void Shell::SaveActiveAsPdf() {
-    const Paper paper = printer_->UsualPaper();
-    SaveAsPdf(LayOutRecipe(active_->Record(), PrintableArea(paper), printer_->Measure()), paper);
+void PrintDesk::SaveActiveAsPdf() {
+    const Paper paper = Printer().UsualPaper();
+    SaveAsPdf(LayOutRecipe(documents_.Active()->Record(), PrintableArea(paper), Printer().Measure()), paper);
 }
 
-void Shell::SaveAsPdf(const PrintSteps& steps, Paper paper) {
-    if (!saveFiles_) return;
+void PrintDesk::SaveAsPdf(const PrintSteps& steps, Paper paper) {
+    SaveFilePort* const files = environment_.saveFiles;
+    if (files == nullptr) return;
     const auto path =
-        saveFiles_->AskSaveFile({"Save as PDF", "pdf", "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*||",
-                                 PdfName(steps.title), store_.GetSetting(kPrintSection, kPdfFolderKey, "")});
+        files->AskSaveFile({"Save as PDF", "pdf", "PDF Files (*.pdf)|*.pdf|All Files (*.*)|*.*||",
+                            PdfName(steps.title), store_.GetSetting(kPrintSection, kPdfFolderKey, "")});
     if (!path) return;
     try {
-        const Hourglass hourglass(*printer_);
-        PlaySteps(steps, printer_->MakePdf(TargetFile(*path, own_), paper));
+        const Hourglass hourglass(Printer());
+        PlaySteps(steps, Printer().MakePdf(TargetFile(*path, own_), paper));
         store_.SaveSetting(kPrintSection, kPdfFolderKey, std::filesystem::path(*path).parent_path().string(),
                            false);
     } catch (const Error& error) {
@@ -151,10 +162,10 @@ void Shell::SaveAsPdf(const PrintSteps& steps, Paper paper) {
     }
 }
 
-void Shell::ShowReportWizard() {
-    PrintWizardModel wizard(
-        {*database_, *tree_, store_, platform_.messages, platform_.dialogs, saveFiles_, own_},
-        settings_.reportType);
+void PrintDesk::ShowReportWizard(int reportType) {
+    PrintWizardModel wizard({*data_.database, data_.tree, store_, platform_.messages, platform_.dialogs,
+                             environment_.saveFiles, own_},
+                            reportType);
     platform_.dialogs.ShowModal(wizard);
 }
 

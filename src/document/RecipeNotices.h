@@ -11,9 +11,9 @@
 
 namespace tw {
 
-class DatabaseNotices {
+class RecipeNotices {
   public:
-    DatabaseNotices(OpenRecipe& recipe, RecipeStyle& style, RecipeStorage& storage)
+    RecipeNotices(OpenRecipe& recipe, RecipeStyle& style, RecipeStorage& storage)
         : recipe_(recipe), style_(style), storage_(storage) {}
 
     void NotifyRecipeMoved(std::string_view name, std::int64_t folderId);

@@ -1,0 +1,30 @@
+#include "shell/AutoSaver.h"
+
+#include "platform/ErrorBox.h"
+
+namespace tw {
+
+void AutoSaver::Tick() {
+    // The time that saving takes is not counted. A save within the one unit of an import would be lost with
+    // it.
+    if (!settings_.doAutoSave || saving_ || files_.IsRunning() || data_.database->ReadOnly()) return;
+    if (!minutes_.Tick(!documents_.All().empty(), settings_.doAutoSaveEvery)) return;
+    Run();
+    minutes_.Reset();
+}
+
+void AutoSaver::Run() {
+    if (documents_.All().empty() || saving_) return;
+    saving_ = true;
+    AutoSaveModel progress = Progress();
+    RunShowingErrors(data_.platform.messages, [&] { data_.platform.dialogs.ShowModal(progress); });
+    saving_ = false;
+}
+
+AutoSaveModel AutoSaver::Progress() {
+    return {documents_, [this](RecipeDocument& document) {
+                RunShowingErrors(data_.platform.messages, [&] { saver_.Save(document, true); });
+            }};
+}
+
+}  // namespace tw

@@ -1,0 +1,70 @@
+#include "shell/ExchangeDesk.h"
+
+#include "platform/ErrorBox.h"
+#include "shell/ImportPath.h"
+#include "shell/RecipeExchange.h"
+
+namespace tw {
+
+void ExchangeDesk::RebuildTree() {
+    struct UpdateAtEnd {
+        StatusNotice& notice;
+        ~UpdateAtEnd() { notice.Update(); }
+    };
+    const UpdateAtEnd update{notice_};
+    data_.tree.Reload();
+    states_.CheckEnableDelete();
+    // The empty main window tells what can be done next.
+    if (documents_.Active() == nullptr) view_->DocumentActivated(nullptr);
+}
+
+void ExchangeDesk::Run(const std::function<void(RecipeExchange&)>& operation) {
+    if (running_) return;
+    RecipeExchange files(data_.platform, *data_.database, data_.objects, data_.tree, own_,
+                         [this] { RebuildTree(); });
+    struct End {
+        bool& running;
+        ~End() { running = false; }
+    };
+    running_ = true;
+    const End end{running_};
+    operation(files);
+}
+
+void ExchangeDesk::Import() {
+    Run([](RecipeExchange& files) { files.Import(); });
+}
+
+void ExchangeDesk::Export() {
+    Run([](RecipeExchange& files) { files.Export(); });
+}
+
+void ExchangeDesk::ImportFile(const std::string& path) {
+    Run([&](RecipeExchange& files) { files.ImportFile(path); });
+}
+
+void ExchangeDesk::ImportRecipes(const std::string& path, std::int64_t folderId,
+                                 const std::optional<std::vector<std::string>>& names) {
+    Run([&](RecipeExchange& files) { files.ImportFrom(path, folderId, names); });
+}
+
+void ExchangeDesk::ExportRecipes(const std::string& path, bool append,
+                                 const std::vector<std::string>& names) {
+    Run([&](RecipeExchange& files) { files.ExportTo(path, append, names); });
+}
+
+void ExchangeDesk::ImportFromPath(std::string_view path) {
+    RunShowingErrors(data_.platform.messages, [&] {
+        const std::string asGiven(path);
+        if (IsFile(asGiven)) return ImportFile(asGiven);
+        // Only a path that began with a quote is worth a box: this asymmetry is intended.
+        if (!path.starts_with('"')) return;
+        const std::string file(Unquoted(path));
+        if (IsFile(file)) return ImportFile(file);
+        data_.platform.messages.ShowMessage(
+            "Invalid Import File",
+            "An error occurred trying to import a file:\r\n  " + file + "\r\nThis file could not be found.");
+    });
+}
+
+}  // namespace tw

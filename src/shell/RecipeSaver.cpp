@@ -1,0 +1,105 @@
+#include "shell/RecipeSaver.h"
+
+#include <memory>
+#include <string>
+
+#include "platform/ErrorBox.h"
+#include "store/RecipeRows.h"
+#include "values/Text.h"
+
+namespace tw {
+
+bool RecipeSaver::Try(const std::function<bool()>& save) {
+    bool saved = false;
+    try {
+        saved = save();
+    } catch (const Error& error) {
+        data_.treeObjects.Reload();
+        notices_.DeletionEnded();
+        data_.platform.messages.ShowMessage("Error", "Error during save:\r\n" + error.WithNumber());
+        return false;
+    }
+    data_.treeObjects.CatchUp();
+    return saved;
+}
+
+bool RecipeSaver::Save(RecipeDocument& document, bool silent) {
+    if (IsBlank(document.BeerName()) || document.FolderID() < 0) return !silent && SaveAs(document);
+    return Try([&] {
+        if (silent)
+            document.Focus().FlushEditsQuietly();
+        else
+            document.Focus().FlushEdits();
+        const bool renamed = !SameName(document.BeerName(), document.OrigName());
+        if (silent && renamed && RecipeExists(*data_.database, document.BeerName())) return false;
+        const bool saved = document.Storage().Save(tw::SaveAs::No, silent ? Asking::Quietly : Asking::Aloud);
+        FollowUnfinished(document, saved);
+        return saved;
+    });
+}
+
+bool RecipeSaver::SaveAs(RecipeDocument& document) {
+    std::unique_ptr<OpenSaveModel> dialog;
+    const bool shown = Try([&] {
+        document.Focus().FlushEdits();
+        dialog = std::make_unique<OpenSaveModel>(OpenSaveModel::Style::Save, data_.Access(), browse_);
+        dialog->SetRecipe(document.Caption(), document.FolderID());
+        data_.platform.dialogs.ShowModal(*dialog);
+        return true;
+    });
+    if (!shown || dialog->Cancelled()) return false;
+    browse_ = dialog->Fields();
+    return SaveUnder(document, dialog->BeerName(), dialog->FolderID(), true);
+}
+
+bool RecipeSaver::SaveUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId,
+                            bool silent) {
+    return Try([&] {
+        document.Focus().FlushEdits();
+        const bool saved =
+            document.Storage().SaveUnder(name, folderId, silent ? Asking::Quietly : Asking::Aloud);
+        FollowUnfinished(document, saved);
+        return saved;
+    });
+}
+
+void RecipeSaver::FollowUnfinished(const RecipeDocument& document, bool saved) {
+    if (saved && document.Changed()) data_.treeObjects.Reload();
+}
+
+void RecipeSaver::SaveAll() {
+    for (std::size_t i = 0; i < documents_.All().size(); ++i) {
+        RunShowingErrors(data_.platform.messages, [&] {
+            documents_.All()[i]->Focus().FlushEdits();
+            Save(*documents_.All()[i], false);
+        });
+    }
+}
+
+bool RecipeSaver::Close(RecipeDocument& document) {
+    // An entry that is still being typed counts, so that it is asked about.
+    if (!RunShowingErrors(data_.platform.messages, [&] { document.Focus().FlushEdits(); })) return false;
+    if (document.Changed()) {
+        documents_.Activate(document);
+        const std::string question =
+            "Recipe '" + document.BeerName() + "' has changed. Do you wish to save your changes?";
+        const Answer answer = data_.platform.messages.Ask("Unsaved Changes", question, Question::YesNoCancel);
+        if (answer == Answer::Yes) {
+            // A save that could not write its rows reports success and leaves the document changed.
+            if (!Save(document, false) || document.Changed()) return false;
+        } else if (answer != Answer::No) {
+            return false;
+        }
+    }
+    documents_.Remove(document);
+    return true;
+}
+
+bool RecipeSaver::CloseAll() {
+    while (!documents_.All().empty()) {
+        if (!Close(*documents_.All().front())) return false;
+    }
+    return true;
+}
+
+}  // namespace tw

@@ -1,0 +1,22 @@
+#include "shell/RecipeServices.h"
+
+#include "values/Text.h"
+
+namespace tw {
+
+void RecipeServices::DeleteRecipe(std::string_view name) {
+    to_.data.objects.DeleteRecipeByName(Trim(name));
+}
+
+void RecipeServices::RecipeStored(std::string_view name) {
+    to_.data.objects.AddRecipeNodesByName(name);
+    to_.states.CheckEnableDelete();
+}
+
+void RecipeServices::DocumentRenamed(const RecipeDocument& document) {
+    to_.states.CheckEnableSaveAll();
+    if (!document.Changed()) to_.unsaved.Forget(document);
+    to_.view->DocumentRenamed(document);
+}
+
+}  // namespace tw

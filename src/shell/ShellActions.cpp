@@ -1,0 +1,202 @@
+#include "shell/ShellActions.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "help/AssistantModel.h"
+#include "platform/ErrorBox.h"
+#include "shell/AboutModel.h"
+#include "shell/OptionsModel.h"
+#include "tools/ColorScaleModel.h"
+#include "tools/ConvertUnitsModel.h"
+#include "tools/HopUtilModel.h"
+#include "tools/HydrometerModel.h"
+
+namespace tw {
+namespace {
+
+using On = const ShellActions::Parts&;
+
+RecipeDocument& Active(On on) {
+    return *on.documents.Active();
+}
+
+// Without an open recipe the commands of the File menu do nothing.
+void CloseActive(On on) {
+    if (RecipeDocument* const active = on.documents.Active()) on.saver.Close(*active);
+}
+
+void SaveActive(On on) {
+    if (RecipeDocument* const active = on.documents.Active()) on.saver.Save(*active, false);
+}
+
+void SaveActiveAs(On on) {
+    if (RecipeDocument* const active = on.documents.Active()) on.saver.SaveAs(*active);
+}
+
+// With the main window the database is closed and its parts go, among them the one that runs this: nothing of
+// it is used behind that.
+void Exit(On on) {
+    if (on.saver.CloseAll()) on.view->CloseMainWindow();
+}
+
+void Cut(On on) {
+    Active(on).Edit().Cut();
+    on.states.ReapplyPaste();
+}
+
+void Copy(On on) {
+    try {
+        Active(on).Edit().Copy();
+    } catch (const Error& error) {
+        on.platform.messages.ShowMessage("Error", "Error during copy:\r\n" + error.WithNumber());
+    }
+    on.states.ReapplyPaste();
+}
+
+// Asks for another figure of the active recipe and scales it to that; nothing while it has none.
+void ShowScaling(On on, Scaling what) {
+    if (on.documents.Active() == nullptr || !Active(on).Focus().FlushEdits()) return;
+    RecipeDocument& document = Active(on);
+    const std::optional<std::string> current = CurrentFigure(document, what);
+    if (!current) return;
+    ScalingModel dialog(what, *current, on.platform.messages);
+    dialog.SetSizeCheck([&document](double gallons) { return document.Scaling().RefusalOfSize(gallons); });
+    on.platform.dialogs.ShowModal(dialog);
+    if (!dialog.Cancelled()) Scale(document, dialog);
+}
+
+void ConvertUnits(On on) {
+    ConvertUnitsModel converter(on.platform.messages);
+    on.platform.dialogs.ShowModal(converter);
+}
+
+void CalibrateHydrometer(On on) {
+    HydrometerModel hydrometer(on.platform.messages);
+    on.platform.dialogs.ShowModal(hydrometer);
+}
+
+void ShowColorScales(On on) {
+    ColorScaleModel scales;
+    on.platform.dialogs.ShowModal(scales);
+}
+
+void ShowHopUtilization(On on) {
+    std::optional<std::string> boilGravity;
+    if (on.documents.Active() != nullptr) boilGravity = Active(on).Record().txtBG.Text();
+    HopUtilModel explorer(boilGravity);
+    on.platform.dialogs.ShowModal(explorer);
+}
+
+void ShowOptions(On on) {
+    OptionsModel options(on.settings, *on.data.database, on.platform.messages);
+    on.platform.dialogs.ShowModal(options);
+}
+
+void ShowAbout(On on) {
+    AboutModel about;
+    on.platform.dialogs.ShowModal(about);
+}
+
+}  // namespace
+
+// Commands that need a recipe run with an active one alone.
+const ShellActions::Row ShellActions::kRows[] = {
+    {CommandId::FileNew, [](On on) { on.recipes.Create(""); }},
+    {CommandId::FileOpen, [](On on) { on.recipes.ShowOpenDialog(); }},
+    {CommandId::FileClose, CloseActive},
+    {CommandId::FileCloseAll, [](On on) { on.saver.CloseAll(); }},
+    {CommandId::FileSave, SaveActive},
+    {CommandId::FileSaveAs, SaveActiveAs},
+    {CommandId::FileSaveAll, [](On on) { on.saver.SaveAll(); }},
+    {CommandId::FileImport, [](On on) { on.files.Import(); }},
+    {CommandId::FileExport, [](On on) { on.files.Export(); }},
+    {CommandId::FileDelete, [](On on) { on.recipes.ShowDeleteDialog(); }},
+    {CommandId::FilePrint, [](On on) { on.paper.PrintActive(false); },
+     [](On on) { on.paper.PrintActive(on.settings.Values().quickPrintFromToolbar); }},
+    {CommandId::FilePreview, [](On on) { on.paper.PreviewActive(); }},
+    {CommandId::FileReport, [](On on) { on.paper.ShowReportWizard(on.settings.Values().reportType); }},
+    {CommandId::FileExit, Exit},
+    {CommandId::EditUndo, [](On on) { Active(on).Replay().Undo(); }},
+    {CommandId::EditRedo, [](On on) { Active(on).Replay().Redo(); }},
+    {CommandId::EditCut, Cut},
+    {CommandId::EditCopy, Copy},
+    {CommandId::EditPaste, [](On on) { Active(on).Edit().Paste(); }},
+    {CommandId::EditClear, [](On on) { Active(on).Edit().Clear(); }},
+    {CommandId::EditSelectAll, [](On on) { Active(on).Edit().SelectAll(); }},
+    {CommandId::EditInsert, [](On on) { Active(on).Lines().InsertRow(); }},
+    {CommandId::EditDelete, [](On on) { Active(on).Lines().DeleteRow(); }},
+    {CommandId::EditAppendFlag, [](On on) { on.settings.SetAppendRows(!on.settings.AppendRows()); }},
+    {CommandId::ToolsDataSetup, [](On on) { on.catalogue.ShowSetup(); }},
+    {CommandId::ToolsExplorer, [](On on) { on.recipes.ShowExplorer(); }},
+    {CommandId::ToolsResizeRecipe, [](On on) { ShowScaling(on, Scaling::Size); }},
+    {CommandId::ToolsChangeStrength, [](On on) { ShowScaling(on, Scaling::Strength); }},
+    {CommandId::ToolsChangeBitterness, [](On on) { ShowScaling(on, Scaling::Bitterness); }},
+    {CommandId::ToolsChangeCO2, [](On on) { ShowScaling(on, Scaling::Carbonation); }},
+    {CommandId::ToolsUnits, ConvertUnits},
+    {CommandId::ToolsHydrometer, CalibrateHydrometer},
+    {CommandId::ToolsColorScale, ShowColorScales},
+    {CommandId::ToolsHopUtil, ShowHopUtilization},
+    {CommandId::ToolsOptions, ShowOptions},
+    {CommandId::WindowCascade, [](On on) { on.view->ArrangeDocuments(Arrangement::Cascade); }},
+    {CommandId::WindowTileHorizontal, [](On on) { on.view->ArrangeDocuments(Arrangement::TileHorizontal); }},
+    {CommandId::WindowTileVertical, [](On on) { on.view->ArrangeDocuments(Arrangement::TileVertical); }},
+    {CommandId::HelpContents, [](On on) { on.help.ShowContents(); }},
+    {CommandId::HelpAuto, [](On on) { on.help.ShowForActive(); }},
+    {CommandId::HelpAbout, ShowAbout},
+};
+
+const ShellActions::Row* ShellActions::RowFor(CommandId command) {
+    const auto* const row = std::ranges::find(kRows, command, &Row::command);
+    return row == std::end(kRows) ? nullptr : row;
+}
+
+bool ShellActions::Carry(CommandId command, Action action) {
+    if (RowOf(command).needs == Needs::ActiveRecipe && on_.documents.Active() == nullptr) return true;
+    RunShowingErrors(on_.platform.messages, [&] { action(on_); });
+    return true;
+}
+
+bool ShellActions::Carry(CommandId command) {
+    const int slot = static_cast<int>(command) - static_cast<int>(RecentCommand(0));
+    if (slot >= 0 && slot < kRecentSlots) {
+        RunShowingErrors(on_.platform.messages, [&] { on_.recipes.OpenByName(on_.recent.NameOf(slot)); });
+        return true;
+    }
+    // The assistant runs other commands, which no action can.
+    if (command == CommandId::ToolsAssistant) {
+        RunShowingErrors(on_.platform.messages, [this] { ShowAssistant(); });
+        return true;
+    }
+    const Row* const row = RowFor(command);
+    return row != nullptr && Carry(command, row->run);
+}
+
+bool ShellActions::Run(CommandId command) {
+    const MenuItem& item = on_.bar.Item(command);
+    return item.enabled && item.visible && Carry(command);
+}
+
+bool ShellActions::Press(CommandId command) {
+    const ToolButton* const button = on_.bar.ButtonOf(command);
+    if (button == nullptr || !button->enabled) return false;
+    const Row* const row = RowFor(command);
+    if (row != nullptr && row->pressed != nullptr) return Carry(command, row->pressed);
+    return Carry(command);
+}
+
+void ShellActions::ShowAssistantAtStartup() {
+    if (on_.settings.Values().showAssistantAtStartup) ShowAssistant();
+}
+
+void ShellActions::ShowAssistant() {
+    Settings& settings = on_.settings.Values();
+    AssistantModel assistant(settings.showAssistantAtStartup);
+    on_.platform.dialogs.ShowModal(assistant);
+    settings.showAssistantAtStartup = assistant.ShowAtStartup();
+    // A link does what its menu item does, even where that is disabled for want of a recipe.
+    if (const auto chosen = assistant.Chosen()) Carry(*chosen);
+}
+
+}  // namespace tw
