@@ -15,9 +15,11 @@ namespace {
 void Save(Database& database, const StoredRecipe& recipe) {
     UnitOfWork unit(database);
     const std::int64_t old = IdByName(database, "RECIPES", recipe.name);
-    database.Execute("DELETE FROM RECIPES WHERE ID = ?", {old});
-    for (const std::string lines : {"RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_ADJUNCTS", "RECIPE_LOG"})
-        database.Execute("DELETE FROM " + lines + " WHERE RECIPE_ID = ?", {old});
+    if (NameById(database, "RECIPES", old)) {
+        database.Execute("DELETE FROM RECIPES WHERE ID = ?", {old});
+        for (const std::string lines : {"RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_ADJUNCTS", "RECIPE_LOG"})
+            database.Execute("DELETE FROM " + lines + " WHERE RECIPE_ID = ?", {old});
+    }
     InsertRecipe(database, recipe);
     unit.Commit();
 }

@@ -26,6 +26,7 @@ StoredRecipe TwoLines(const std::string& name) {
     StoredRecipe r;
     r.name = name;
     r.folderId = 3;
+    r.createdWhen = DateTime{2024, 1, 31, 12, 0, 5};
     for (int i = 1; i >= 0; --i) {
         for (const GridId grid : {GridId::Grain, GridId::Extract, GridId::Hops, GridId::Treatment,
                                   GridId::Priming, GridId::Adjuncts, GridId::Log}) {
