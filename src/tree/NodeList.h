@@ -65,8 +65,7 @@ class NodeList {
     // Shows the recipes that hold every word of text, of all folders, each with its folder; a text without a
     // word brings the entry's children back.
     void Find(std::string_view text);
-    // The text of the search; empty without one.
-    const std::string& FindText() const { return findText_; }
+    // True while a search is shown.
     bool IsFinding() const { return !findText_.empty(); }
     // Fills the list as it stands in the tree now. The rows of the same keys stay chosen.
     void Refill();

@@ -44,7 +44,6 @@ class WordIndex {
 
     // The texts in which one word or more holds part. REQUIRES: part is in upper case and holds no blank.
     BitSet Find(std::string_view part) const;
-    std::uint32_t TextCount() const { return texts_; }
 
   private:
     struct Entry {

@@ -104,7 +104,7 @@ TEST_F(NodeLists, ShowingAFolderEndsTheSearch) {
     list.Show("F:0", false);
     list.Find("stout");
     list.Show("F:0", false);
-    EXPECT_EQ(list.FindText(), "");
+    EXPECT_FALSE(list.IsFinding());
     EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
 }
 

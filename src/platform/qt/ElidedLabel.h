@@ -10,7 +10,6 @@ class ElidedLabel final : public QLabel {
     explicit ElidedLabel(QWidget* parent);
     // A line break shows as a blank.
     void SetFullText(const QString& text);
-    const QString& FullText() const { return full_; }
 
   protected:
     void resizeEvent(QResizeEvent* event) override;
