@@ -19,7 +19,7 @@ bool HasUnfinishedWork(const std::filesystem::path& journal);
 struct DatabaseState {
     std::uint32_t changeCounter = 0;  // counts the states
     std::uint32_t pageCount = 0;
-    std::int64_t pageSize = 0;
+    std::int64_t pageSize = 0;  // bytes
 };
 
 // A journal with unfinished work in the database's folder whose own database is no longer there, and which
