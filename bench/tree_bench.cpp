@@ -190,13 +190,12 @@ BENCHMARK(BM_TreeMemory)->Arg(10000)->Arg(100000)->Iterations(1)->Unit(benchmark
 
 // All four copies, in the tree alone.
 void Rename(TWTree& tree, int recipe, const std::string& name) {
-    for (int copy = 0; copy < 4; ++copy)
-        tree.Nodes("R:" + std::to_string(recipe) + ":" + std::to_string(copy))->SetName(name);
+    for (int copy = 0; copy < kRecipeCopies; ++copy) tree.Nodes(RecipeKey(recipe, copy))->SetName(name);
 }
 
 void Move(TWTree& tree, int recipe, int folder) {
-    TWNode* const node = tree.Nodes("R:" + std::to_string(recipe) + ":3");
-    tree.Nodes("F:" + std::to_string(folder))
+    TWNode* const node = tree.Nodes(RecipeKey(recipe, kCopyInFolder));
+    tree.Nodes(RecipeFolderKey(folder))
         ->Children()
         .AddNode(node->Parent()->Children().RemoveNode(*node, true));
 }

@@ -140,7 +140,8 @@ bool SaveTools(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
 // The pickers and choosers.
 bool SaveChoosers(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     bool ok = true;
-    for (const CatalogueKind list : {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Yeast, CatalogueKind::Water}) {
+    for (const CatalogueKind list :
+         {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Yeast, CatalogueKind::Water}) {
         LvShowModel picker(list, *shell.DB(), shell.Data().tree, "");
         ok &= SaveDialog(dialogs, picker, parent,
                          QStringLiteral("%1pick-%2.png").arg(prefix).arg(static_cast<int>(list)));
@@ -270,7 +271,7 @@ bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     OpenSaveModel open(OpenSaveModel::Style::Open, shell.Data().Access(), {});
     ok &= SaveDialog(dialogs, open, parent, prefix + QStringLiteral("open.png"));
     OpenSaveModel save(OpenSaveModel::Style::Save, shell.Data().Access(),
-                       {"F:0", {ListViewType::Details, 0, false}});
+                       {std::string(kRecipeFoldersKey), {ListViewType::Details, 0, false}});
     save.SetRecipe("Harvest Ale", 0);
     return SaveDialog(dialogs, save, parent, prefix + QStringLiteral("save-as.png")) && ok;
 }
