@@ -37,10 +37,13 @@ std::string Changed(std::string_view text) {
     std::string changed;
     changed.reserve(text.size() + 4);
     while (!text.empty()) {
-        const CodePoint front = FrontCodePoint(text);
-        if (IsAscii(text.front()))
+        if (IsAscii(text.front())) {
             changed.push_back(ChangeAscii(text.front()));
-        else if (front.value == kNoCodePoint)
+            text.remove_prefix(1);
+            continue;
+        }
+        const CodePoint front = FrontCodePoint(text);
+        if (front.value == kNoCodePoint)
             changed.push_back(text.front());
         else
             AppendCodePoint(changed, Change(front.value));
