@@ -176,8 +176,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
     // Database setup, and the editor of each catalogue, to be filled and to be read.
     void ForEachEditor(const std::function<void(QWidget&)>& visit) {
         const CatalogueContext context = shell.Catalogue().Context();
-        for (int i = 0; i < kCatalogues; ++i) {
-            const auto catalogue = static_cast<Catalogue>(i);
+        for (const CatalogueKind catalogue : kSetupOrder) {
             DBSetupModel setup(context);
             setup.Choose(catalogue);
             frmDBSetup setupWindow(setup, nullptr);
