@@ -37,8 +37,8 @@ Session::~Session() {
 
 Shell& Session::Program() {
     if (shell_) return *shell_;
-    auto shell =
-        std::make_unique<Shell>(ShellEnvironment{platform_, programFolder_, {}, &HelpPages(), &printer_});
+    auto shell = std::make_unique<Shell>(ShellEnvironment{
+        .platform = platform_, .programFolder = programFolder_, .help = &HelpPages(), .printer = &printer_});
     shell->SetView(this);
     shell->LoadWindowSettings();
     if (!shell->PerformSplashScreenInit(databasePath_)) {

@@ -15,6 +15,23 @@ std::string InFolder(std::string_view folder, std::string_view name) {
     return path.append(name);
 }
 
+void FollowCatalogue(const ShellEnvironment& environment, Database& database) {
+    try {
+        UpdateCatalogue(InFolder(environment.programFolder, "catalogue"), database,
+                        environment.platform.clock.Now());
+    } catch (const Error&) {
+        // The recipes matter more than a newer catalogue: the start goes on, and the next one tries again.
+        return;
+    }
+}
+
+void TellReadOnly(MessagePort& messages, const Database& database) {
+    messages.ShowMessage(
+        "Tunwright", "The database of your recipes is write-protected:\r\n  " + database.Path() +
+                         "\r\nRecipes can be read and printed, but not saved.\r\nAllow writing to this file "
+                         "and to its folder, then start Tunwright again.");
+}
+
 }  // namespace
 
 Shell::OpenParts::OpenParts(Shell& shell, std::unique_ptr<Database> database)
@@ -64,7 +81,7 @@ bool Shell::PerformSplashScreenInit(const std::string& databasePath) {
     OpenedDatabase& data = open_->data;
     // A database that is damaged in parts still opens what can be read.
     RunShowingErrors(environment_.platform.messages, [&] { data.tree.InitFromDatabase(); });
-    if (data.database->ReadOnly()) TellReadOnly();
+    if (data.database->ReadOnly()) TellReadOnly(environment_.platform.messages, *data.database);
     notice_.Update();
     return true;
 }
@@ -81,29 +98,13 @@ bool Shell::OpenDatabase(const std::string& path) {
     }
     const bool inFile = !OpenedDatabase::IsInMemory(path);
     if (inFile) own_.AddDatabase(path);
-    if (inFile && !environment_.programFolder.empty() && !database->ReadOnly()) FollowCatalogue(*database);
+    if (inFile && !environment_.programFolder.empty() && !database->ReadOnly())
+        FollowCatalogue(environment_, *database);
     open_ = std::make_unique<OpenParts>(*this, std::move(database));
     notice_.Watch(&open_->data);
     if (inFile && !environment_.recoveryFolder.empty())
         unsaved_.Start(environment_.recoveryFolder, path, *open_->data.database);
     return true;
-}
-
-void Shell::FollowCatalogue(Database& database) {
-    try {
-        UpdateCatalogue(InFolder(environment_.programFolder, "catalogue"), database,
-                        environment_.platform.clock.Now());
-    } catch (const Error&) {
-        // The recipes matter more than a newer catalogue: the start goes on, and the next one tries again.
-        return;
-    }
-}
-
-void Shell::TellReadOnly() {
-    environment_.platform.messages.ShowMessage(
-        "Tunwright", "The database of your recipes is write-protected:\r\n  " + DB()->Path() +
-                         "\r\nRecipes can be read and printed, but not saved.\r\nAllow writing to this file "
-                         "and to its folder, then start Tunwright again.");
 }
 
 std::string Shell::DatabasePath(std::string_view programFolder) {

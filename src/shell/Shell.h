@@ -77,7 +77,6 @@ class Shell final : private DDEHost {
     CommandStates& States() { return states_; }
     RecentList& Recent() { return recent_; }
     DocumentManager& Documents() { return documents_; }
-    const DocumentManager& Documents() const { return documents_; }
     UnsavedWork& Unsaved() { return unsaved_; }
     HelpDesk& Helping() { return help_; }
     // The one program on a desktop, and the commands that reach it from outside. They wait while its ticking
@@ -122,8 +121,6 @@ class Shell final : private DDEHost {
     void ImportFromPath(std::string_view path) override;
 
     bool OpenDatabase(const std::string& path);
-    void FollowCatalogue(Database& database);
-    void TellReadOnly();
 
     ShellEnvironment environment_;
     ViewSlot view_;

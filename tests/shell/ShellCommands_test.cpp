@@ -287,5 +287,26 @@ TEST_F(ShellTest, TheAboutWindowTellsTitleAndVersion) {
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmAbout"});
 }
 
+// A row in the table is half a command: the other half is what it does.
+TEST_F(ShellTest, EveryCommandThatCanBeSeenDoesSomething) {
+    shell.Recipes().Create("");
+    for (const CommandRow& row : AllCommandRows()) {
+        if (row.caption == kSeparator || row.start == Start::Hidden || row.id == CommandId::FileExit)
+            continue;
+        shell.Bar().SetEnabled(row.id, true);
+        EXPECT_TRUE(shell.RunCommand(row.id)) << row.name;
+        if (shell.Documents().All().empty()) shell.Recipes().Create("");
+    }
+}
+
+TEST_F(ShellTest, WithoutADatabaseNoCommandRuns) {
+    Shell closed({outside.platform});
+    EXPECT_FALSE(closed.RunCommand(CommandId::FileNew));
+    EXPECT_FALSE(closed.PressButton(CommandId::FileNew));
+    EXPECT_FALSE(closed.RunMenu("mnuHelpAbout"));
+    EXPECT_TRUE(closed.RequestExit());
+    EXPECT_EQ(outside.dialogs.shown, Strings{});
+}
+
 }  // namespace
 }  // namespace tw::test

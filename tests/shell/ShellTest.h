@@ -85,7 +85,7 @@ class ShellTest : public testing::Test {
     const ToolButton& Button(std::string_view key) const { return *bar().FindButton(key); }
     const CommandBar& bar() const { return const_cast<Shell&>(shell).Bar(); }
 
-    std::vector<std::string> Captions() const {
+    std::vector<std::string> Captions() {
         std::vector<std::string> captions;
         for (const auto& document : shell.Documents().All()) captions.push_back(document->Caption());
         return captions;
