@@ -38,8 +38,8 @@ Offences KnownOffences(std::string_view rule) {
     return known;
 }
 
-// The table of the commands.
-constexpr std::string_view kCommandTable = "src/shell/CommandBar.cpp";
+// The tables of the commands.
+constexpr std::string_view kCommandTables = "src/commands/";
 
 // The sources below a folder of the checkout, by their paths from its root.
 std::map<std::string, std::string> SourcesBelow(const std::string& folder) {
@@ -110,9 +110,9 @@ TEST(Rooms, NoAddressTellsWhatAControlIs) {
 
 TEST(Rooms, CommandsAreNamedInTheirTableAlone) {
     Offences named = FilesWith("\"mnu", WithoutComments);
-    named.erase(std::string(kCommandTable));
+    std::erase_if(named, [](const auto& place) { return place.first.starts_with(kCommandTables); });
     ExpectKnown(named, KnownOffences("command-name"),
-                "a command is named by its id; its name stands in the table of commands");
+                "a command is named by its id; its name stands in src/commands");
 }
 
 }  // namespace
