@@ -1,6 +1,7 @@
 // A dialog declared as a table. A model derives from FormModel and states its rows once, in its constructor:
 //
-//     ResizeModel::ResizeModel(std::string current) : FormModel("frmResize"), current_(std::move(current)) {
+//     ResizeModel::ResizeModel(std::string current) : FormModel("frmResizeRecipe"),
+//     current_(std::move(current)) {
 //         AddControls({
 //             {"lblCurrent", [this] { return current_; }},  // it only shows
 //             TextEntry("txtNewSize", newSize_),

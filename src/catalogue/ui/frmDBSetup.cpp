@@ -123,7 +123,7 @@ void frmDBSetup::Press(const char* button) {
 }
 
 void frmDBSetup::ShowState() {
-    catalogues_->setCurrentIndex(static_cast<int>(model_.Chosen()));
+    catalogues_->setCurrentText(ToQt(std::string(WordsOf(model_.Chosen()).plural)));
     edit_->setEnabled(model_.EditEnabled());
     delete_->setEnabled(model_.DeleteEnabled());
     guides_->Show(model_.Guides());
