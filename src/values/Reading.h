@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 #include <utility>
-#include <variant>
 
 #include "platform/Ports.h"
 
@@ -31,20 +30,21 @@ inline void ShowRefusal(MessagePort& messages, const Refusal& refusal) {
 template <class T>
 class [[nodiscard]] Reading {
   public:
-    Reading(T value) : outcome_(std::move(value)) {}
-    Reading(Refusal refusal) : outcome_(std::move(refusal)) {}
+    Reading(T value) : value_(std::move(value)) {}
+    Reading(Refusal refusal) : refusal_(std::move(refusal)) {}
 
-    bool Accepted() const { return std::holds_alternative<T>(outcome_); }
+    bool Accepted() const { return value_.has_value(); }
     explicit operator bool() const { return Accepted(); }
     // REQUIRES: Accepted().
-    const T& operator*() const { return *std::get_if<T>(&outcome_); }
-    const T* operator->() const { return std::get_if<T>(&outcome_); }
-    T ValueOr(T other) const { return Accepted() ? **this : std::move(other); }
+    const T& operator*() const { return *value_; }
+    const T* operator->() const { return &*value_; }
+    T ValueOr(T other) const { return value_.value_or(std::move(other)); }
     // REQUIRES: not Accepted().
-    const Refusal& Why() const { return *std::get_if<Refusal>(&outcome_); }
+    const Refusal& Why() const { return refusal_; }
 
   private:
-    std::variant<T, Refusal> outcome_;
+    std::optional<T> value_;
+    Refusal refusal_;
 };
 
 // Whether an entry was taken, and if not, why.
