@@ -69,9 +69,6 @@ struct EditorForm {
     std::span<const FormColumn> columns;
     std::span<const RangeRow> rows;
     BlankCell blank;
-
-    // A form of single values has one value column.
-    bool HasRanges() const { return !rows.front().high.empty(); }
 };
 
 const EditorForm& FormOf(CatalogueKind catalogue);

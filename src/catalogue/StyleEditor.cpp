@@ -1,5 +1,6 @@
 #include "catalogue/StyleEditor.h"
 
+#include "values/NumberText.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -27,14 +28,6 @@ void StyleEditor::ReadOwn(const Recordset& row) {
     folders_.SetFolderID(loadedFolder_);
 }
 
-std::optional<std::string> StyleEditor::FolderText() const {
-    return std::to_string(folders_.FolderID());
-}
-
-bool StyleEditor::EnterFolder(std::string_view text) {
-    return folders_.Choose(StyleFolderKey(Trim(text)));
-}
-
 bool StyleEditor::Write(const std::string& name) {
     const std::string now = DateText(Context().clock.Now());
     if (LoadedName().empty())
@@ -51,7 +44,7 @@ void StyleEditor::InsertStyle(const std::string& name, const std::string& now) {
     ColumnValues values = {
         {"NAME", name}, {"FOLDER_ID", folders_.FolderID()}, {"CREATED_WHEN", now}, {"MODIFIED_WHEN", now}};
     for (auto& value : Values(name)) values.push_back(std::move(value));
-    Insert(values);
+    InsertRow(Store(), Form().table, values);
     Context().objects.AddStyleNodesByName(name);
 }
 

@@ -21,8 +21,6 @@ class StyleEditor final : public CatalogueEditor {
   private:
     void ClearOwn() override;
     void ReadOwn(const Recordset& row) override;
-    std::optional<std::string> FolderText() const override;
-    bool EnterFolder(std::string_view text) override;
     bool Write(const std::string& name) override;
     void InsertStyle(const std::string& name, const std::string& now);
     bool UpdateStyle(const std::string& name, const std::string& now);

@@ -52,12 +52,6 @@ DetailsModel::DetailsModel(std::string formName, std::vector<DialogControl> labe
     AddButtons({{"cmdClose", [this] { Close(); }}});
 }
 
-std::string DetailsModel::Text(std::string_view label) const {
-    for (const DialogControl& shown : Controls())
-        if (shown.name == label) return shown.text;
-    return {};
-}
-
 DetailsModel StrengthDetails(double og, double fg) {
     const auto alcohol = [=] { return ComputeAlcohol(og, fg); };
     std::vector<DialogControl> labels{

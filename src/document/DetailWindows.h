@@ -17,8 +17,6 @@ class DetailsModel final : public FormModel {
     // slider: the position of sliderBalance, 0 to 1000; 0 for a window without one.
     DetailsModel(std::string formName, std::vector<DialogControl> labels, int slider = 0);
 
-    // The text of a label, empty for an unknown one.
-    std::string Text(std::string_view label) const;
     int SliderBalance() const { return slider_; }
 
   private:

@@ -84,9 +84,19 @@ std::vector<DialogControl> FormModel::Controls() const {
     return shown;
 }
 
+const FormControl* FormModel::Find(std::string_view control) const {
+    const auto found = std::ranges::find(controls_, control, &FormControl::name);
+    return found != controls_.end() && IsThere(*found) ? &*found : nullptr;
+}
+
+std::string FormModel::Text(std::string_view control) const {
+    const FormControl* const found = Find(control);
+    return found != nullptr && found->show ? found->show() : std::string();
+}
+
 bool FormModel::SetControl(std::string_view name, std::string_view text) {
-    const auto found = std::ranges::find(controls_, name, &FormControl::name);
-    return found != controls_.end() && found->take && IsThere(*found) && found->take(text);
+    const FormControl* const found = Find(name);
+    return found != nullptr && found->take && found->take(text);
 }
 
 void FormModel::Accept() {

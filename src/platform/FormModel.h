@@ -78,6 +78,8 @@ class FormModel : public DialogModel {
 
     // True until the dialog has been accepted, and for good when it was closed in any other way.
     bool Cancelled() const { return !accepted_; }
+    // What a control shows; empty for one that shows nothing or is not there.
+    std::string Text(std::string_view control) const;
     // Whether a press does something now. False also for a button that the form does not have.
     bool IsEnabled(std::string_view button) const { return buttons_.IsEnabled(button); }
 
@@ -101,6 +103,9 @@ class FormModel : public DialogModel {
     void Accept();
 
   private:
+    // nullptr for a control that is not there.
+    const FormControl* Find(std::string_view control) const;
+
     std::string formName_;
     std::vector<FormControl> controls_;
     FormButtons buttons_;

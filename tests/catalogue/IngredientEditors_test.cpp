@@ -49,9 +49,9 @@ TEST_F(Ingredients, ARangeWithItsHighEndAloneHasItAtBoth) {
 TEST_F(Ingredients, AReversedRangeIsStoredAsItIsAndHintedAt) {
     const auto editor = Open(CatalogueKind::Hop);
     editor->SetControl("gridInfo(0,0)", "9");
-    EXPECT_EQ(editor->RangeHint(), "");
+    EXPECT_EQ(editor->Cells().RangeHint(), "");
     editor->SetControl("gridInfo(0,1)", "4");
-    EXPECT_EQ(editor->RangeHint(), "Alpha Acids %: the low value is above the high one.");
+    EXPECT_EQ(editor->Cells().RangeHint(), "Alpha Acids %: the low value is above the high one.");
     Save(*editor, {{"Text1", "Odd"}});
     EXPECT_THAT(Boxes(), IsEmpty());
     EXPECT_THAT(Select("SELECT AA_LO, AA_HI FROM HOPS"), ElementsAre("9|4"));
@@ -109,12 +109,12 @@ TEST_F(Ingredients, ARefusedCellKeepsItsLastGoodText) {
     const auto editor = Open(CatalogueKind::Yeast);
     editor->SetControl("gridInfo(0,0)", "75%");
     editor->SetControl("gridInfo(0,0)", "three");
-    EXPECT_EQ(editor->CellText(0, 0), "75%");
+    EXPECT_EQ(editor->Cells().Text(0, 0), "75%");
     editor->SetControl("gridInfo(0,0)", "100.1");
     editor->SetControl("gridInfo(1,0)", "cold");
     editor->SetControl("gridInfo(1,0)", "213");
-    EXPECT_EQ(editor->CellText(1, 0), "");
-    EXPECT_EQ(editor->CellValue(0, 0), 75);
+    EXPECT_EQ(editor->Cells().Text(1, 0), "");
+    EXPECT_EQ(editor->Cells().Value(0, 0), 75);
     EXPECT_THAT(Boxes(), ElementsAre("[Invalid Entry] Please enter a valid percentage",
                                      "[Invalid Entry] Please enter a percentage (0 to 100)",
                                      "[Invalid Entry] Please enter a valid temperature",
@@ -136,7 +136,7 @@ TEST_F(Ingredients, AZeroDenominatorHasItsBox) {
     const auto editor = Open(CatalogueKind::Yeast);
     editor->SetControl("gridInfo(1,0)", "1/0");
     EXPECT_THAT(Boxes(), ElementsAre("[Error] Division by zero (11)"));
-    EXPECT_EQ(editor->CellText(1, 0), "");
+    EXPECT_EQ(editor->Cells().Text(1, 0), "");
 }
 
 TEST_F(Ingredients, ANameMustBeThereAndBeItsOwn) {
@@ -244,7 +244,7 @@ TEST_F(Ingredients, AReadOnlyFormTakesAndStoresNothing) {
     EXPECT_FALSE(editor->SetControl("Text1", "Hercules"));
     EXPECT_FALSE(editor->SetControl("gridInfo(0,0)", "1"));
     editor->TypeCell(0, 0, "1");
-    EXPECT_EQ(editor->CellText(0, 0), "");
+    EXPECT_EQ(editor->Cells().Text(0, 0), "");
     EXPECT_THAT(StatementsOf([&] {
                     editor->Press("cmdApply");
                     editor->Press("cmdOK");
@@ -269,7 +269,7 @@ TEST_F(Ingredients, AStepShowsTheNextRowAndDropsWhatWasNotApplied) {
     editor->TypeCell(0, 0, "not checked");
     editor->Press("cmdNext");
     EXPECT_EQ(editor->LoadedName(), "B");
-    EXPECT_EQ(editor->CellText(0, 0), "");
+    EXPECT_EQ(editor->Cells().Text(0, 0), "");
     EXPECT_FALSE(editor->ApplyEnabled());
     // Behind the last there is none: the form stays.
     editor->SetControl("Text2", "kept");
@@ -297,12 +297,12 @@ TEST_F(Ingredients, OnlyTheFormsOwnControlsAndEntriesAreTaken) {
 
 TEST_F(Ingredients, AMaltHasTheMiddleOfItsColours) {
     const auto grain = Open(CatalogueKind::Grain);
-    EXPECT_FALSE(grain->ColorHcu());
+    EXPECT_FALSE(grain->Cells().ColorHcu());
     grain->SetControl("gridInfo(1,0)", "10");
-    EXPECT_EQ(grain->ColorHcu(), 10);
+    EXPECT_EQ(grain->Cells().ColorHcu(), 10);
     grain->SetControl("gridInfo(1,1)", "14");
-    EXPECT_EQ(grain->ColorHcu(), 12);
-    EXPECT_FALSE(Open(CatalogueKind::Hop)->ColorHcu());
+    EXPECT_EQ(grain->Cells().ColorHcu(), 12);
+    EXPECT_FALSE(Open(CatalogueKind::Hop)->Cells().ColorHcu());
 }
 
 class Grains : public EditorTest {};
@@ -441,7 +441,7 @@ TEST_F(Grains, EachCellHasItsWords) {
                                      "[Invalid Entry] Please enter a valid Color value",
                                      "[Invalid Entry] Please enter a valid Color value"));
     editor->SetControl("gridInfo(0,0)", "0");
-    EXPECT_EQ(editor->CellValue(0, 0), 0);
+    EXPECT_EQ(editor->Cells().Value(0, 0), 0);
 }
 
 }  // namespace

@@ -166,8 +166,8 @@ TEST_F(Styles, AGravityMayBeTypedInDegreesPlato) {
     StyleEditor& style = OpenStyle();
     style.SetControl("gridInfo(0,0)", "12 P");
     // 1 + 0.0038661 * 12 + 1.3488e-5 * 144 + 4.3074e-8 * 1728
-    EXPECT_NEAR(style.CellValue(0, 0).value_or(0), 1.04840990, 1e-8);
-    EXPECT_EQ(style.CellText(0, 0), "12 P");
+    EXPECT_NEAR(style.Cells().Value(0, 0).value_or(0), 1.04840990, 1e-8);
+    EXPECT_EQ(style.Cells().Text(0, 0), "12 P");
 }
 
 TEST_F(Styles, AnErrorIsShownAndTheFormStays) {

@@ -65,6 +65,16 @@ TEST(FormModel, HasAControlOnlyWhileItIsThere) {
     EXPECT_EQ(form.Controls().back().text, "new");
 }
 
+TEST(FormModel, GivesTheTextOfOneControl) {
+    SampleModel form;
+    EXPECT_EQ(form.Text("txtName"), "Pils");
+    EXPECT_EQ(form.Text("txtNote"), "");
+    EXPECT_EQ(form.Text("txtFind"), "");
+    EXPECT_EQ(form.Text("txtOther"), "");
+    form.SetControl("optLarge", "yes");
+    EXPECT_EQ(form.Text("txtNote"), "old");
+}
+
 TEST(FormModel, RefusesWhatAControlDoesNotTake) {
     SampleModel form;
     EXPECT_FALSE(form.SetControl("lblCount", "7"));

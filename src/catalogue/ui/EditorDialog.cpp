@@ -163,7 +163,7 @@ QLineEdit* EditorDialog::CellBox(int row, int col) {
     auto* cell = new QLineEdit(this);
     cell->setObjectName(QStringLiteral("gridInfo(%1,%2)").arg(row).arg(col));
     QString name = ToQt(range.caption);
-    if (model_.Cols() > 1) name += col == 0 ? tr(", low") : tr(", high");
+    if (model_.Cells().Cols() > 1) name += col == 0 ? tr(", low") : tr(", high");
     cell->setAccessibleName(name);
     cell->setToolTip(tr(HintOf(range.check)));
     cell->setAlignment(Qt::AlignRight);
@@ -179,13 +179,13 @@ QLineEdit* EditorDialog::CellBox(int row, int col) {
 }
 
 QLineEdit* EditorDialog::CellAt(int row, int col) const {
-    const int index = row * model_.Cols() + col;
+    const int index = row * model_.Cells().Cols() + col;
     return cells_[static_cast<std::size_t>(index)];
 }
 
 QString EditorDialog::ShownIn(int row, int col) const {
-    const std::string& text = model_.CellText(row, col);
-    const std::optional<double> value = model_.CellValue(row, col);
+    const std::string& text = model_.Cells().Text(row, col);
+    const std::optional<double> value = model_.Cells().Value(row, col);
     if (model_.Form().rows[static_cast<std::size_t>(row)].check != CellCheck::Gravity || !value ||
         text != NumberText(*value))
         return ToQt(text);
@@ -199,23 +199,24 @@ void EditorDialog::AddRanges(QBoxLayout& column) {
     column.addWidget(new FancyLabel(ToQt(form.ranges), this));
     auto* grid = new QGridLayout;
     grid->setSpacing(Unit(*this) * kGapUnits);
-    for (int col = 0; model_.Cols() > 1 && col < model_.Cols(); ++col) {
+    for (int col = 0; model_.Cells().Cols() > 1 && col < model_.Cells().Cols(); ++col) {
         auto* heading = new QLabel(col == 0 ? tr("Low") : tr("High"), this);
         heading->setFont(BoldFont(font()));
         heading->setAlignment(Qt::AlignRight);
         grid->addWidget(heading, 0, col + 1);
     }
-    for (int row = 0; row < model_.Rows(); ++row) {
+    for (int row = 0; row < model_.Cells().Rows(); ++row) {
         const RangeRow& range = form.rows[static_cast<std::size_t>(row)];
         auto* label = new QLabel(Caption(range.caption), this);
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         grid->addWidget(label, row + 1, 0);
-        for (int col = 0; col < model_.Cols(); ++col) grid->addWidget(CellBox(row, col), row + 1, col + 1);
+        for (int col = 0; col < model_.Cells().Cols(); ++col)
+            grid->addWidget(CellBox(row, col), row + 1, col + 1);
         label->setBuddy(CellAt(row, 0));
         if (!range.unit.empty()) {
             auto* unit = new QLabel(ToQt(range.unit), this);
             unit->setForegroundRole(QPalette::PlaceholderText);
-            grid->addWidget(unit, row + 1, model_.Cols() + 1);
+            grid->addWidget(unit, row + 1, model_.Cells().Cols() + 1);
         }
         if (range.color == RangeRow::Color::None) continue;
         swatch_ = new ColorSwatch(this);
@@ -224,9 +225,9 @@ void EditorDialog::AddRanges(QBoxLayout& column) {
         QSizePolicy policy = swatch_->sizePolicy();
         policy.setRetainSizeWhenHidden(true);
         swatch_->setSizePolicy(policy);
-        grid->addWidget(swatch_, row + 1, model_.Cols() + 1);
+        grid->addWidget(swatch_, row + 1, model_.Cells().Cols() + 1);
     }
-    grid->setColumnStretch(model_.Cols() + 2, 1);
+    grid->setColumnStretch(model_.Cells().Cols() + 2, 1);
     column.addLayout(grid);
     hint_ = new QLabel(this);
     hint_->setObjectName(QStringLiteral("lblHint"));
@@ -325,8 +326,8 @@ void EditorDialog::ShowModel() {
         if (auto* box = findChild<QLineEdit*>(QLatin1String(name)))
             box->setText(ToQt(model_.List(name).text));
     }
-    for (int row = 0; row < model_.Rows(); ++row)
-        for (int col = 0; col < model_.Cols(); ++col) CellAt(row, col)->setText(ShownIn(row, col));
+    for (int row = 0; row < model_.Cells().Rows(); ++row)
+        for (int col = 0; col < model_.Cells().Cols(); ++col) CellAt(row, col)->setText(ShownIn(row, col));
     if (description_->toPlainText() != Lines(model_.Text("txtDesc")))
         description_->setPlainText(Lines(model_.Text("txtDesc")));
     if (folders_ != nullptr) folders_->ShowState();
@@ -352,9 +353,9 @@ void EditorDialog::ShowList(QComboBox& box, const EditorList& list) {
 void EditorDialog::ShowState() {
     apply_->setEnabled(model_.ApplyEnabled());
     steps_->ShowState();
-    hint_->setText(ToQt(model_.RangeHint()));
+    hint_->setText(ToQt(model_.Cells().RangeHint()));
     if (swatch_ == nullptr) return;
-    const std::optional<double> hcu = model_.ColorHcu();
+    const std::optional<double> hcu = model_.Cells().ColorHcu();
     swatch_->setVisible(hcu.has_value());
     if (hcu) swatch_->SetColor(colors_.HCUToColor(*hcu));
 }
@@ -395,8 +396,8 @@ bool EditorDialog::eventFilter(QObject* object, QEvent* event) {
     if (event->type() != QEvent::FocusOut || refusing_ || !model_.IsOpen() ||
         !IsMove(*static_cast<QFocusEvent*>(event)))
         return QDialog::eventFilter(object, event);
-    for (int row = 0; row < model_.Rows(); ++row)
-        for (int col = 0; col < model_.Cols(); ++col) {
+    for (int row = 0; row < model_.Cells().Rows(); ++row)
+        for (int col = 0; col < model_.Cells().Cols(); ++col) {
             QLineEdit* const cell = CellAt(row, col);
             if (cell != object) continue;
             // The box of a refusal takes the focus too; that is no move.
