@@ -40,13 +40,13 @@ ColorTable::ColorTable()
                {175, {0, 18}},  {200, {0, 14}},    {225, {0, 11}}, {250, {0, 7}},  {275, {0, 3}},
                {288, {0, 1}},   {kLastKey, {0, 0}}} {}
 
-ColorTable::Entry ColorTable::LookupColorEntry(int key) const {
-    if (key < 1) return kBelowTable;
-    if (key > kLastKey) return kAboveTable;
-    const auto upper = entries_.lower_bound(key);
-    if (upper->first == key) return upper->second;
+ColorTable::Entry ColorTable::LookupColorEntry(int hcu) const {
+    if (hcu < 1) return kBelowTable;
+    if (hcu > kLastKey) return kAboveTable;
+    const auto upper = entries_.lower_bound(hcu);
+    if (upper->first == hcu) return upper->second;
     const auto lower = std::prev(upper);
-    const double fraction = static_cast<double>(key - lower->first) / (upper->first - lower->first);
+    const double fraction = static_cast<double>(hcu - lower->first) / (upper->first - lower->first);
     return {Between(lower->second.hue, upper->second.hue, fraction),
             Between(lower->second.lightness, upper->second.lightness, fraction)};
 }
@@ -87,12 +87,12 @@ Rgb HSLToRGB(double hue, double lightness, double saturation) {
             ToByte(HueToChannel(m1, m2, h - 120) * 255)};
 }
 
-double HueToChannel(double m1, double m2, double h) {
-    if (h > 360) h -= 360;
-    if (h < 0) h += 360;
-    if (h < 60) return m1 + (m2 - m1) * h / 60;
-    if (h < 180) return m2;
-    if (h < 240) return m1 + (m2 - m1) * (240 - h) / 60;
+double HueToChannel(double m1, double m2, double degrees) {
+    if (degrees > 360) degrees -= 360;
+    if (degrees < 0) degrees += 360;
+    if (degrees < 60) return m1 + (m2 - m1) * degrees / 60;
+    if (degrees < 180) return m2;
+    if (degrees < 240) return m1 + (m2 - m1) * (240 - degrees) / 60;
     return m1;
 }
 

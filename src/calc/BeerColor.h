@@ -8,25 +8,27 @@
 
 namespace tw {
 
-// SRM of homebrew colour units (degrees Lovibond times pounds per gallon): 1.4922 * HCU^0.6859, the Morey
-// equation.
+// SRM of homebrew colour units (degrees Lovibond times pounds per US gallon): 1.4922 * HCU^0.6859, Dan
+// Morey's equation (1995), which holds to about 50 SRM and goes on above. Raises "Overflow" for a negative
+// HCU, whose power is no number.
 double HCUToSRM(double hcu);
-// The way back. REQUIRES: srm >= 0.
+// HCUToSRM solved for the colour units. REQUIRES: srm >= 0.
 double SRMToHCU(double srm);
 
-// Hue and lightness on the 0 to 240 scale of a colour dialog, keyed by whole HCU. Built once at start.
+// Hue and lightness on the 0 to 240 scale of a colour dialog, keyed by whole HCU: the program's own table,
+// from 1 to 294. Built once at start.
 class ColorTable {
   public:
     struct Entry {
-        double hue;
-        double lightness;
+        double hue;        // 0 to 240
+        double lightness;  // 0 to 240
     };
 
     // Fills the table (the program's LoadColorTable).
     ColorTable();
 
     // Of a whole HCU number; between the keys of the table interpolated, below 1 and above 294 the ends.
-    Entry LookupColorEntry(int key) const;
+    Entry LookupColorEntry(int hcu) const;
     // Of any HCU, interpolated between the whole numbers around it; saturation is always 240. REQUIRES: hcu
     // >= 0.
     void HCUToHSL(double hcu, double& hue, double& lightness, double& saturation) const;
@@ -37,9 +39,11 @@ class ColorTable {
     std::map<int, Entry> entries_;
 };
 
-// From hue, lightness and saturation on the 0 to 240 scale.
+// From hue, lightness and saturation, each from 0 to 240: the HLS model of Foley, van Dam, Feiner and Hughes
+// (Computer Graphics: Principles and Practice, 1990). Channels outside 0 to 255 become the ends.
 Rgb HSLToRGB(double hue, double lightness, double saturation);
-// One channel, 0 to 1, at an angle in degrees.
-double HueToChannel(double m1, double m2, double h);
+// One channel of that model, 0 to 1, between its two bounds m1 and m2, also 0 to 1. The angle is taken round
+// the circle once, so that it may be from -360 to 720.
+double HueToChannel(double m1, double m2, double degrees);
 
 }  // namespace tw

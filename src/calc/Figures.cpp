@@ -16,25 +16,25 @@ double PressureWithoutGas(double fahrenheit) {
 
 }  // namespace
 
-AlcoholFigures ComputeAlcohol(double og, double fg) {
+AlcoholFigures ComputeAlcohol(double originalSG, double finalSG) {
     AlcoholFigures f{};
-    f.originalExtract = SGToPlato(og);
-    f.apparentExtract = SGToPlato(fg);
+    f.originalExtract = SGToPlato(originalSG);
+    f.apparentExtract = SGToPlato(finalSG);
     const double q = 0.22 + 0.001 * f.originalExtract;
     f.realExtract = Divide(q * f.originalExtract + f.apparentExtract, 1 + q);
     f.byWeight = Divide(f.originalExtract - f.realExtract, 2.0665 - 0.010655 * f.originalExtract);
-    f.byVolume = Finite(f.byWeight * fg / 0.794);
+    f.byVolume = Finite(f.byWeight * finalSG / 0.794);
     return f;
 }
 
-double AttenuatedGravity(double og, double attenuationPercent) {
+double AttenuatedGravity(double originalSG, double attenuationPercent) {
     const double attenuation = attenuationPercent / 100;
-    const double originalExtract = SGToPlato(og);
+    const double originalExtract = SGToPlato(originalSG);
     return Finite(PlatoToSG(originalExtract - attenuation * originalExtract));
 }
 
-double CaloriesPer12FlOz(double realExtract, double alcoholByWeight, double fg) {
-    return Finite((realExtract * 4.08 + alcoholByWeight * 7.1) * fg * 3.55);
+double CaloriesPer12FlOz(double realExtractPlato, double alcoholPercentByWeight, double finalSG) {
+    return Finite((realExtractPlato * 4.08 + alcoholPercentByWeight * 7.1) * finalSG * 3.55);
 }
 
 double ResidualCO2(double fahrenheit) {

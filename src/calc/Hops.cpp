@@ -45,8 +45,8 @@ double Interpolate(std::span<const Point> table, double minutes) {
     return 0;
 }
 
-double Bigness(double boilGravity) {
-    return 1.65 * std::pow(0.000125, boilGravity - 1);
+double Bigness(double boilSG) {
+    return 1.65 * std::pow(0.000125, boilSG - 1);
 }
 double BoilTimeFactor(double minutes) {
     return (1 - std::exp(-0.04 * minutes)) / 4.15;
@@ -54,8 +54,8 @@ double BoilTimeFactor(double minutes) {
 
 }  // namespace
 
-double TinsethUtilisation(double boilGravity, double minutes) {
-    return Finite(Bigness(boilGravity) * BoilTimeFactor(minutes));
+double TinsethUtilisation(double boilSG, double minutes) {
+    return Finite(Bigness(boilSG) * BoilTimeFactor(minutes));
 }
 
 double RagerTableUtilisation(double minutes) {
@@ -68,8 +68,8 @@ double GaretzTableUtilisation(double minutes) {
     return Interpolate(kGaretz, minutes);
 }
 
-double GravityAdjustment(double boilGravity) {
-    return boilGravity > 1.05 ? 1 + (boilGravity - 1.05) / 0.2 : 1;
+double GravityAdjustment(double boilSG) {
+    return boilSG > 1.05 ? 1 + (boilSG - 1.05) / 0.2 : 1;
 }
 
 double HopBitterness(IbuMethod method, const HopAddition& hop, const HopKettle& kettle) {
@@ -85,9 +85,9 @@ double HopBitterness(IbuMethod method, const HopAddition& hop, const HopKettle& 
                   GravityAdjustment(kettle.boilGravity) * kettle.totalVolume);
 }
 
-UtilisationFigures UtilisationAt(double gravity, double minutes) {
-    const double adjustment = GravityAdjustment(gravity);
-    return {Finite(Bigness(gravity) * (1 - std::exp(-0.04 * minutes)) / 4.15 * 100),
+UtilisationFigures UtilisationAt(double boilSG, double minutes) {
+    const double adjustment = GravityAdjustment(boilSG);
+    return {Finite(Bigness(boilSG) * (1 - std::exp(-0.04 * minutes)) / 4.15 * 100),
             RagerTableUtilisation(minutes) * 100 / adjustment,
             GaretzTableUtilisation(minutes) * 100 / adjustment};
 }

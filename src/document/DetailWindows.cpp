@@ -37,6 +37,8 @@ std::string Attenuation(double original, double left) {
     return FormatNumber(Divide((original - left) * 100, whole), "0.#0") + "%";
 }
 
+// A linear fit of the program's own, in degrees C below 0: 0.42 for a percent of alcohol by weight, 0.04 for
+// a degree Plato of original extract. Holds for beers; nothing is limited.
 std::string FreezingPoint(const AlcoholFigures& f) {
     const double fahrenheit = 32 - (f.byWeight * 0.42 + f.originalExtract * 0.04) * 1.8;
     return FormatNumber(fahrenheit, "0.0° F") + " (" + FormatNumber((fahrenheit - 32) * 5 / 9, "0.0° C") +
@@ -52,11 +54,11 @@ DetailsModel::DetailsModel(std::string formName, std::vector<DialogControl> labe
     AddButtons({{"cmdClose", [this] { Close(); }}});
 }
 
-DetailsModel StrengthDetails(double og, double fg) {
-    const auto alcohol = [=] { return ComputeAlcohol(og, fg); };
+DetailsModel StrengthDetails(double originalSG, double finalSG) {
+    const auto alcohol = [=] { return ComputeAlcohol(originalSG, finalSG); };
     std::vector<DialogControl> labels{
-        {"lblOE", Show([&] { return PlatoWithGravity(alcohol().originalExtract, og); })},
-        {"lblAE", Show([&] { return PlatoWithGravity(alcohol().apparentExtract, fg); })},
+        {"lblOE", Show([&] { return PlatoWithGravity(alcohol().originalExtract, originalSG); })},
+        {"lblAE", Show([&] { return PlatoWithGravity(alcohol().apparentExtract, finalSG); })},
         {"lblRE", Show([&] {
              const double re = alcohol().realExtract;
              return PlatoWithGravity(re, Finite(PlatoToSG(re)));
@@ -66,7 +68,7 @@ DetailsModel StrengthDetails(double og, double fg) {
         {"lblAW", Show([&] { return FormatNumber(alcohol().byWeight, "0.0") + "%"; })},
         {"lblAV", Show([&] { return FormatNumber(alcohol().byVolume, "0.0") + "%"; })},
         {"lblCC", Show([&] {
-             return FormatNumber(CaloriesPer12FlOz(alcohol().realExtract, alcohol().byWeight, fg),
+             return FormatNumber(CaloriesPer12FlOz(alcohol().realExtract, alcohol().byWeight, finalSG),
                                  "0 per 12 fl.oz.");
          })},
         {"lblFP", Show([&] { return FreezingPoint(alcohol()); })}};
@@ -107,8 +109,8 @@ int BalancePosition(double ratio) {
     return static_cast<int>(std::min(std::pow(above * 0.93366, 0.66047), 1.0) * 1000);
 }
 
-DetailsModel HopDetails(double og, double ibu) {
-    const double gravityUnits = (og - 1) * 1000;
+DetailsModel HopDetails(double originalSG, double ibu) {
+    const double gravityUnits = (originalSG - 1) * 1000;
     int slider = 0;
     std::vector<DialogControl> labels{{"lblBU", FormatNumber(ibu, "0.0")},
                                       {"lblGU", FormatNumber(gravityUnits, "0.0")},

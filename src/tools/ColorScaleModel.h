@@ -19,8 +19,8 @@ std::string_view ScaleName(ColorScale scale);
 
 // One label along the picture.
 struct ScaleMark {
-    double fraction;  // of the picture's length
-    int value;
+    double fraction;  // of the picture's length, 0 to 1
+    int value;        // in the unit of its column: SRM or HCU
 };
 // A column of labels beside the picture; its first mark is the picture's start.
 struct ScaleColumn {
@@ -30,8 +30,10 @@ struct ScaleColumn {
 ScaleColumn LeftColumn(ColorScale scale);
 ScaleColumn RightColumn(ColorScale scale);
 
-// Homebrew colour units at a fraction of the picture, 0 to 1: what the left column's marks say there. The
-// picture has the colour of that figure, so that a mark stands beside its own colour in every scale.
+// Homebrew colour units at a fraction of the picture, 0 to 1: what the left column's marks say there, linear
+// between them; outside 0 to 1 the figure of the nearer end. The marks are the program's own, SRM become
+// colour units by SRMToHCU (calc/BeerColor.h). The picture has the colour of that figure, so that a mark
+// stands beside its own colour in every scale.
 double ScaleHcu(ColorScale scale, double fraction);
 // An HCU figure as recipes show it: "12 SRM (21 HCU)", ">50 SRM (250 HCU)".
 std::string ColorReading(double hcu);
@@ -53,7 +55,7 @@ class ColorScaleModel final : public FormModel {
     int Pointer() const { return pointer_; }
     // Clamped to the picture's ends.
     void MovePointer(int step);
-    // The figure under the pointer.
+    // The figure under the pointer, in homebrew colour units.
     double PointerHcu() const;
 
   private:

@@ -12,7 +12,7 @@
 
 namespace tw {
 
-// Positions of Slider1: the first stands for 1.250, the last for 1.000.
+// Positions of Slider1, of which the first stands for a specific gravity of 1.250, the last for 1.000.
 inline constexpr int kSliderEnd = 250;
 
 // Slider1 takes its position, a whole number from 0 to kSliderEnd; lblGraph; cmdClose.
@@ -25,7 +25,7 @@ class HopUtilModel final : public FormModel {
     int Position() const { return position_; }
     // Clamped to the slider's ends.
     void MoveSlider(int position);
-    // 1 + (250 - position) / 1000.
+    // The specific gravity that the slider stands for: 1 + (250 - position) / 1000.
     double Gravity() const;
     // lblGraph: "Hop Utilization for SG = 1.100".
     std::string GraphText() const;

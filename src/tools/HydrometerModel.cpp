@@ -17,7 +17,8 @@ constexpr std::string_view kResult = "txtCalRead";
 
 }  // namespace
 
-double WaterDensity(double t) {
+double WaterDensity(double fahrenheit) {
+    const double t = fahrenheit;
     return 1.00130346 - 0.000134722124 * t + 2.04052596e-6 * t * t - 2.32820948e-9 * t * t * t;
 }
 

@@ -12,9 +12,10 @@
 
 namespace tw {
 
-// The relative density of water at t degrees Fahrenheit, as hydrometers see it: a cubic fit for 0 to 212,
-// 1.000063 at 60.
-double WaterDensity(double t);
+// The factor by which a hydrometer's reading is corrected at a temperature, relative to the factor of the one
+// that it is calibrated for: a cubic fit of the program's own, without a unit, for 0 to 212 degrees
+// F; 1.000063 at 60. Nothing is limited outside.
+double WaterDensity(double fahrenheit);
 
 // txtActRead, txtActTemp and cmbCalTemp take any text and are left then; txtCalRead shows the result.
 class HydrometerModel final : public FormModel {

@@ -21,10 +21,12 @@ std::span<const std::string_view> UnitsOf(QuantityKind kind);
 // A unit's name on one line, its lines joined by a blank.
 std::string UnitName(std::string_view unit);
 
-// value in every unit of its kind, in the order of UnitsOf; the entry of its own unit is value itself. Each
-// is converted directly, by the factors of values/Converter.h, so that two ways round may differ in the last
-// digits. Raises "Overflow" for a result beyond the range of a double. REQUIRES: from is an index into
-// UnitsOf(kind).
+// value, which is in the unit from, in every unit of its kind, in the order of UnitsOf; the entry of its own
+// unit is value itself. Each is converted directly, so that two ways round may differ in the last digits:
+// weights, volumes and pressures by the rounded factors of values/Converter.h, temperatures by their
+// definitions (0 C = 32 F = 273.15 K), gravities by the two fits of values/Converter.h, which hold to about
+// 30 degrees Plato and go on above. No range is checked: a negative weight is converted as any other number.
+// Raises "Overflow" for a result beyond the range of a double. REQUIRES: from is an index into UnitsOf(kind).
 std::vector<double> ConvertToAllUnits(QuantityKind kind, int from, double value);
 
 }  // namespace tw

@@ -13,11 +13,11 @@ int Scaled(double value, int whole, int length) {
 
 }  // namespace
 
-std::array<Curve, kMethods> UtilisationCurves(double gravity) {
+std::array<Curve, kMethods> UtilisationCurves(double boilSG) {
     std::array<Curve, kMethods> curves;
     for (int i = 0; i <= kCurveSegments; ++i) {
         const double minutes = static_cast<double>(kGraphMinutes) / kCurveSegments * i;
-        const UtilisationFigures figures = UtilisationAt(gravity, minutes);
+        const UtilisationFigures figures = UtilisationAt(boilSG, minutes);
         for (int method = 0; method < kMethods; ++method)
             curves[static_cast<std::size_t>(method)].push_back(
                 {minutes, FigureOf(figures, static_cast<IbuMethod>(method))});

@@ -8,24 +8,26 @@
 
 namespace tw {
 
-inline constexpr int kGraphMinutes = 90;      // the horizontal scale runs from 0
-inline constexpr int kGraphPercent = 40;      // the vertical one too
+inline constexpr int kGraphMinutes = 90;      // end of the horizontal scale, which runs from 0: boil time
+inline constexpr int kGraphPercent = 40;      // end of the vertical scale, which runs from 0: utilisation
 inline constexpr int kGraphMinutesStep = 15;  // between the labelled marks
-inline constexpr int kGraphPercentStep = 10;
-inline constexpr int kCurveSegments = 30;
+inline constexpr int kGraphPercentStep = 10;  // between the labelled marks
+inline constexpr int kCurveSegments = 30;     // of equal boil time
 inline constexpr int kMethods = 3;
 
 struct CurvePoint {
-    double minutes;
-    double percent;
+    double minutes;  // of boil time
+    double percent;  // of the alpha acid used
 };
 // kCurveSegments + 1 points, from 0 to kGraphMinutes.
 using Curve = std::vector<CurvePoint>;
 
-// The curves of Tinseth, Rager and Garetz, in this order. gravity: specific gravity of the boil.
-std::array<Curve, kMethods> UtilisationCurves(double gravity);
+// The curves of Tinseth, Rager and Garetz, in this order; sources and ranges stand at the formulas in
+// calc/Hops.h.
+std::array<Curve, kMethods> UtilisationCurves(double boilSG);
 // "Tinseth", "Rager", "Garetz".
 const char* MethodName(IbuMethod method);
+// Percent.
 double FigureOf(const UtilisationFigures& figures, IbuMethod method);
 
 // The area of the curves in a picture, in pixels from its top left corner.
