@@ -119,6 +119,6 @@ class CatalogueEditor : public FormModel {
 };
 
 // The editor of that catalogue, on a blank form.
-std::unique_ptr<CatalogueEditor> MakeEditor(Catalogue catalogue, const CatalogueContext& context);
+std::unique_ptr<CatalogueEditor> MakeEditor(CatalogueKind catalogue, const CatalogueContext& context);
 
 }  // namespace tw

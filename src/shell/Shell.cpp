@@ -107,6 +107,10 @@ bool Shell::OpenDatabase(const std::string& path) {
     return true;
 }
 
+Database* Shell::DB() {
+    return open_ ? open_->data.database.get() : nullptr;
+}
+
 std::string Shell::DatabasePath(std::string_view programFolder) {
     return InFolder(programFolder, "Tunwright.mdb");
 }

@@ -86,7 +86,7 @@ class Shell final : private DDEHost {
     const OpenSaveFields& BrowseFields() const { return browse_; }
 
     // nullptr while the database is not open.
-    Database* DB() { return open_ ? open_->data.database.get() : nullptr; }
+    Database* DB();
     // The parts that stand on the database. REQUIRES: it is open.
     OpenedDatabase& Data() { return open_->data; }
     DatabaseNotices& Notices() { return open_->notices; }

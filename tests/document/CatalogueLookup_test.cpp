@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 #include <memory>
 
-#include "store/Schema.h"
-
 namespace tw::test {
 namespace {
 
@@ -15,7 +13,6 @@ using testing::IsEmpty;
 class Lookup : public testing::Test {
   protected:
     Lookup() {
-        CreateSchema(*db);
         for (const char* const row :
              {"INTO GRAINS (GRAIN, NAME, PPG_LO, PPG_HI, COLOR_LO, COLOR_HI) VALUES (TRUE, 'Pale Malt', 35, "
               "37, 2, 3)",
