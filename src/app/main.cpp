@@ -7,20 +7,14 @@
 #include <string_view>
 
 #include "app/Application.h"
+#include "app/DialogWindows.h"
 #include "app/Pictures.h"
 #include "app/PrintedMessages.h"
 #include "app/ProgramOptions.h"
-#include "catalogue/ui/EditorDialog.h"
-#include "catalogue/ui/frmDBSetup.h"
-#include "document/ui/CannotUndoDialog.h"
-#include "document/ui/DetailsDialog.h"
 #include "document/ui/RangeBar.h"
-#include "document/ui/ScalingDialog.h"
 #include "document/ui/frmDocument.h"
 #include "help/SystemTextFiles.h"
 #include "help/qt/QtBrowser.h"
-#include "help/ui/frmAssistant.h"
-#include "help/ui/frmHelpContents.h"
 #include "platform/ErrorBox.h"
 #include "platform/SettingsFile.h"
 #include "platform/SystemClock.h"
@@ -35,64 +29,13 @@
 #include "platform/qt/QtSettings.h"
 #include "platform/qt/QtText.h"
 #include "reports/qt/QtPrinters.h"
-#include "reports/ui/NoPrinterDialog.h"
-#include "reports/ui/frmChooseFont.h"
-#include "reports/ui/frmPrintFmtOptions.h"
-#include "reports/ui/frmPrintPreview.h"
-#include "reports/ui/frmPrintWizard.h"
 #include "shell/Shell.h"
-#include "shell/ui/AboutDialog.h"
-#include "shell/ui/ExchangeForms.h"
 #include "shell/ui/Icons.h"
-#include "shell/ui/OpenSaveDialog.h"
-#include "shell/ui/RecoveryDialog.h"
-#include "shell/ui/frmAutoSave.h"
 #include "shell/ui/frmMain.h"
-#include "shell/ui/frmOptions.h"
 #include "tools/ui/ToolAccessibility.h"
-#include "tools/ui/frmColor.h"
-#include "tools/ui/frmConvertUnits.h"
-#include "tools/ui/frmHopUtil.h"
-#include "tools/ui/frmHydrometer.h"
-#include "tree/ui/frmChooseFolder.h"
-#include "tree/ui/frmExplorer.h"
-#include "tree/ui/frmLvShow.h"
-#include "tree/ui/frmProgress.h"
 
 namespace tw {
 namespace {
-
-void RegisterForms(QtDialogs& dialogs, ColorChooser& colors) {
-    for (const char* form : {"frmStrengthDetails", "frmFinalVolDetails", "frmHopDetails"})
-        dialogs.Register(form, &DetailsDialog::Make);
-    for (const char* form : {"frmResizeRecipe", "frmChangeOG", "frmChangeIBU", "frmChangeCO2"})
-        dialogs.Register(form, &ScalingDialog::Make);
-    dialogs.Register("frmAbout", &AboutDialog::Make);
-    dialogs.Register("frmHelpContents", &frmHelpContents::Make);
-    dialogs.Register("frmAssistant", &frmAssistant::Make);
-    dialogs.Register("frmCannotUndo", &CannotUndoDialog::Make);
-    dialogs.Register("frmAutoSave", &frmAutoSave::Make);
-    dialogs.Register("frmOpenSave", &OpenSaveDialog::Make);
-    dialogs.Register("frmRecovery", &RecoveryDialog::Make);
-    dialogs.Register("frmOptions", frmOptions::Factory(colors));
-    dialogs.Register("frmNoPrinter", &NoPrinterDialog::Make);
-    dialogs.Register("frmPrintPreview", &frmPrintPreview::Make);
-    dialogs.Register("frmPrintWizard", &frmPrintWizard::Make);
-    dialogs.Register("frmPrintFmtOptions", frmPrintFmtOptions::Factory(colors));
-    dialogs.Register("frmChooseFont", frmChooseFont::Factory(colors));
-    dialogs.Register("frmConvertUnits", &frmConvertUnits::Make);
-    dialogs.Register("frmHydrometer", &frmHydrometer::Make);
-    dialogs.Register("frmHopUtil", &frmHopUtil::Make);
-    dialogs.Register("frmColor", &frmColor::Make);
-    for (const char* form : {"frmStyle", "frmGrain", "frmHop", "frmYeast", "frmPrimingSugar", "frmWater"})
-        dialogs.Register(form, &EditorDialog::Make);
-    dialogs.Register("frmDBSetup", &frmDBSetup::Make);
-    dialogs.Register("frmLvShow", &frmLvShow::Make);
-    dialogs.Register("frmChooseFolder", &frmChooseFolder::Make);
-    RegisterExchangeForms(dialogs);
-    dialogs.Register("frmExplorer", &frmExplorer::Make);
-    dialogs.Register("frmProgress", &frmProgress::Make);
-}
 
 std::string DatabaseOf(const ProgramOptions& options) {
     if (!options.database.isEmpty()) return FromQt(options.database);
@@ -176,7 +119,7 @@ int Run(int argc, char** argv) {
         options.settings.isEmpty() ? QtSettings::OfUser() : QtSettings::OfFile(FromQt(options.settings));
     QtDialogs dialogs(*settings);
     QtColorChooser colorChooser;
-    RegisterForms(dialogs, colorChooser);
+    RegisterDialogWindows(dialogs, colorChooser);
     SystemClock clock;
     QtClipboard clipboard;
     Platform platform{messages, dialogs, *settings, clock, clipboard};

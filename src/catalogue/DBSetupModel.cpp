@@ -4,7 +4,7 @@
 
 #include "catalogue/CatalogueEditor.h"
 #include "catalogue/GrainEditor.h"
-#include "catalogue/StyleEditor.h"
+#include "tree/FolderChooser.h"
 #include "tree/NodeKey.h"
 #include "tree/RowFacts.h"
 #include "tree/TWNodes.h"
@@ -172,7 +172,7 @@ void DBSetupModel::OpenEditor(const std::string& name) {
     const std::unique_ptr<CatalogueEditor> editor = MakeEditor(catalogue_, context_);
     ObjectNavigator navigator(items_);
     if (name.empty()) {
-        if (auto* const style = dynamic_cast<StyleEditor*>(editor.get())) style->StartInFolder(folderId_);
+        if (FolderChooser* const folders = editor->Folders()) folders->SetFolderID(folderId_);
     } else {
         if (editor->Folders() == nullptr) editor->SetNavigator(navigator);
         editor->SetName(name);

@@ -76,13 +76,12 @@ void PickFrom(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
     session.Dialogs().AnswerNextWith([&](DialogModel& dialog) {
-        auto& picker = dynamic_cast<LvShowModel&>(dialog);
-        session.Out().Text(picker.Items().SelectedText());
-        const bool isOff =
-            (button == "cmdOK" && !picker.OkEnabled()) || (button == "cmdView" && !picker.ViewEnabled());
-        if (isOff) return session.Out().Line("off");
-        if (button == "Close") return picker.CloseBox();
-        if (!picker.Press(button)) throw ScriptError("the picker has no button '" + button + "'");
+        for (const DialogControl& control : dialog.Controls())
+            if (control.name == "lvItems") session.Out().Text(control.text);
+        if (button == "Close") return dialog.CloseBox();
+        const bool isOff = !dialog.IsEnabled(button);
+        if (!dialog.Press(button)) throw ScriptError("the picker has no button '" + button + "'");
+        if (isOff) session.Out().Line("off");
     });
     session.Program().Services().PickFromCatalogue(document, type, name);
 }

@@ -12,12 +12,12 @@ struct Entry {
 };
 
 // Shows the dialog of a menu item with the entry and OK. One that is refused counts as cancelled.
-void RunDialog(Session& session, CommandId command, const Entry& entry) {
+void RunDialog(Session& session, CommandId command, Scaling what, const Entry& entry) {
     session.Document();
-    session.Dialogs().AnswerNextWith([&entry](DialogModel& dialog) {
+    session.Dialogs().AnswerNextWith([&entry, what](DialogModel& dialog) {
         if (entry.scaleBoilVol) dialog.SetControl("chkScaleBV", "yes");
         if (entry.preserveIBU) dialog.SetControl("chkPreserveIBU", "yes");
-        dialog.SetControl(dynamic_cast<const ScalingModel&>(dialog).BoxName(), entry.text);
+        dialog.SetControl(ScalingModel::BoxOf(what), entry.text);
         dialog.Press("OKButton");
     });
     const bool ran = session.Program().RunCommand(command);
@@ -35,22 +35,22 @@ void Resize(Session& session, Arguments& arguments) {
         more = boil || ibu;
     }
     entry.text = arguments.LastName("SIZE");
-    RunDialog(session, CommandId::ToolsResizeRecipe, entry);
+    RunDialog(session, CommandId::ToolsResizeRecipe, Scaling::Size, entry);
 }
 
 void Strength(Session& session, Arguments& arguments) {
     Entry entry;
     entry.preserveIBU = arguments.TakeWord("ibu");
     entry.text = arguments.LastName("GRAVITY");
-    RunDialog(session, CommandId::ToolsChangeStrength, entry);
+    RunDialog(session, CommandId::ToolsChangeStrength, Scaling::Strength, entry);
 }
 
 void Bitterness(Session& session, Arguments& arguments) {
-    RunDialog(session, CommandId::ToolsChangeBitterness, {arguments.LastName("IBU")});
+    RunDialog(session, CommandId::ToolsChangeBitterness, Scaling::Bitterness, {arguments.LastName("IBU")});
 }
 
 void Carbonation(Session& session, Arguments& arguments) {
-    RunDialog(session, CommandId::ToolsChangeCO2, {arguments.LastName("VOLUMES")});
+    RunDialog(session, CommandId::ToolsChangeCO2, Scaling::Carbonation, {arguments.LastName("VOLUMES")});
 }
 
 void Treat(Session& session, Arguments& arguments) {

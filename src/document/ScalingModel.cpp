@@ -61,8 +61,8 @@ std::string_view ScalingModel::LabelName() const {
     return FormOf(what_).label;
 }
 
-std::string_view ScalingModel::BoxName() const {
-    return FormOf(what_).box;
+std::string_view ScalingModel::BoxOf(Scaling what) {
+    return FormOf(what).box;
 }
 
 bool ScalingModel::LeaveBox() {

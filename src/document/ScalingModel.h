@@ -35,7 +35,9 @@ class ScalingModel final : public FormModel {
     const std::string& Current() const { return current_; }
     // The names of the label with the present figure and of the entry box, such as "lblCurSize".
     std::string_view LabelName() const;
-    std::string_view BoxName() const;
+    std::string_view BoxName() const { return BoxOf(what_); }
+    // The entry box of the form for that scaling.
+    static std::string_view BoxOf(Scaling what);
     // What the entry box shows.
     const std::string& Entry() const { return entry_; }
     // The box loses the focus. A bad entry has had its message: the last good text stands there again, and

@@ -32,6 +32,8 @@ class DialogModel {
     virtual bool SetControl(std::string_view name, std::string_view text) = 0;
     // Presses a button by its control name. False when the form has no such button. The dialog may stay open.
     virtual bool Press(std::string_view button) = 0;
+    // Whether a press of that button does something now. Press takes a disabled button too, and does nothing.
+    virtual bool IsEnabled(std::string_view /*button*/) const { return true; }
     // The window's close box.
     virtual void CloseBox() = 0;
     // Runs once, when the window first comes to the front. A window that works by itself does its work here

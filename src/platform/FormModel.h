@@ -80,13 +80,13 @@ class FormModel : public DialogModel {
     bool Cancelled() const { return !accepted_; }
     // What a control shows; empty for one that shows nothing or is not there.
     std::string Text(std::string_view control) const;
-    // Whether a press does something now. False also for a button that the form does not have.
-    bool IsEnabled(std::string_view button) const { return buttons_.IsEnabled(button); }
 
     std::string FormName() const final { return formName_; }
     std::vector<DialogControl> Controls() const final;
     bool SetControl(std::string_view name, std::string_view text) final;
     bool Press(std::string_view button) final { return buttons_.Press(button); }
+    // False also for a button that the form does not have.
+    bool IsEnabled(std::string_view button) const final { return buttons_.IsEnabled(button); }
     void CloseBox() override { Close(); }
     bool IsOpen() const final { return open_; }
 

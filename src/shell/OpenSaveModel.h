@@ -58,7 +58,7 @@ class OpenSaveModel final : public DialogModel {
     std::vector<FolderEntry> Folders() const;
     const std::string& NameText() const { return text_; }
     // Whether a button or menu item is enabled, by its control name; true for any other name.
-    bool IsEnabled(std::string_view control) const;
+    bool IsEnabled(std::string_view control) const override;
     bool IsEnabled(PopupCommand command) const;
 
     // What the brewer does.

@@ -40,6 +40,7 @@ Offences KnownOffences(std::string_view rule) {
 
 // The tables of the commands.
 constexpr std::string_view kCommandTables = "src/commands/";
+constexpr std::string_view kDialogTable = "src/platform/qt/QtDialogs.h";
 
 // The sources below a folder of the checkout, by their paths from its root.
 std::map<std::string, std::string> SourcesBelow(const std::string& folder) {
@@ -106,6 +107,16 @@ TEST(Rooms, NoAddressTellsWhatAControlIs) {
         FilesWith(R"(&\w+(\.|->)?\w*\s*[!=]=\s*&\w|[!=]=\s*&(r|r_|record_|record)\.\w)", CodeWithControls),
         KnownOffences("compared-address"),
         "ask the control for its id, and the tables of fields and cells for the rest");
+}
+
+std::string CodeWithCasts(std::string_view source) {
+    return source.find("dynamic_cast") == std::string_view::npos ? std::string() : CodeOf(source);
+}
+
+TEST(Rooms, WindowsAreMadeFromModelsInOnePlace) {
+    Offences casts = FilesWith(R"(dynamic_cast<\s*(const )?\w*(Model|Editor)\s*[&*])", CodeWithCasts);
+    casts.erase(std::string(kDialogTable));
+    ExpectKnown(casts, {}, "the table of dialog windows says what a model is; elsewhere ask the model");
 }
 
 TEST(Rooms, CommandsAreNamedInTheirTableAlone) {

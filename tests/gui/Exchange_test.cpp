@@ -5,10 +5,11 @@
 #include <fstream>
 
 #include "GuiTest.h"
+#include "app/DialogWindows.h"
 #include "app/ProgramOptions.h"
+#include "platform/qt/ColorChooser.h"
 #include "platform/qt/FileDialog.h"
 #include "platform/qt/QtDialogs.h"
-#include "shell/ui/ExchangeForms.h"
 #include "shell/ui/frmImportExport.h"
 #include "shell/ui/frmNameConflict.h"
 #include "shell/ui/frmStylesNotImported.h"
@@ -150,7 +151,8 @@ TEST_F(Exchange, UnknownStylesAreListedAndEnterClosesTheList) {
 
 TEST_F(Exchange, EveryDialogHasAWindowOfItsOwn) {
     QtDialogs dialogs(outside.settings);
-    RegisterExchangeForms(dialogs);
+    QtColorChooser colors;
+    RegisterDialogWindows(dialogs, colors);
     ImportExportModel recipes(shell.Data().tree, true);
     NameConflictModel conflict("Mild", true, outside.messages);
     StylesNotImportedModel styles({});

@@ -224,8 +224,8 @@ class HelpKey : public GuiTest {
     Strings Asked(DialogModel& model, const Action& action) {
         Strings asked;
         QtDialogs dialogs(outside.settings);
-        dialogs.Register("frmAbout", &AboutDialog::Make);
-        dialogs.Register("frmOptions", frmOptions::Factory(colors));
+        dialogs.Register<DialogModel, AboutDialog>("frmAbout");
+        dialogs.Register<OptionsModel, frmOptions>("frmOptions", colors);
         dialogs.SetHelp(
             [&](const std::string& form, int tab) { asked.push_back(form + " " + std::to_string(tab)); });
         QTimer::singleShot(0, &window, [&] {

@@ -126,7 +126,7 @@ TEST_F(MainWindow, DialogsComeUpInTheSizeTheyWereLeftIn) {
     QtDialogs dialogs(outside.settings);
     QSize left, found;
     dialogs.Register("frmAbout", [&](DialogModel& model, QWidget* parent) {
-        auto dialog = AboutDialog::Make(model, parent);
+        std::unique_ptr<QDialog> dialog = std::make_unique<AboutDialog>(model, parent);
         QTimer::singleShot(0, dialog.get(), [&, dialog = dialog.get()] {
             found = dialog->size();
             dialog->resize(found + QSize(30, 15));

@@ -61,7 +61,7 @@ TEST_F(ProgressWindow, StopsBetweenTwoObjects) {
     class Windows final : public DialogPort {
       public:
         void ShowModal(DialogModel& dialog) override {
-            const std::unique_ptr<QDialog> shown = frmProgress::Make(dialog, nullptr);
+            const auto shown = std::make_unique<frmProgress>(dynamic_cast<ProgressModel&>(dialog), nullptr);
             QMetaObject::invokeMethod(shown->findChild<QPushButton*>(QStringLiteral("cmdCancel")), "click",
                                       Qt::QueuedConnection);
             shown->exec();

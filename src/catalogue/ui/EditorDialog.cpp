@@ -83,10 +83,6 @@ EditorDialog::EditorDialog(CatalogueEditor& model, QWidget* parent) : QDialog(pa
     name->selectAll();
 }
 
-std::unique_ptr<QDialog> EditorDialog::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<EditorDialog>(dynamic_cast<CatalogueEditor&>(model), parent);
-}
-
 QString EditorDialog::Caption(std::string_view text) {
     QString caption = ToQt(text) + QLatin1Char(':');
     // The beginnings of words first, then any letter.

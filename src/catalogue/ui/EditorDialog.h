@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 #include <vector>
 
 #include "calc/BeerColor.h"
@@ -26,8 +25,6 @@ class EditorDialog final : public QDialog {
     Q_OBJECT
   public:
     EditorDialog(CatalogueEditor& model, QWidget* parent);
-    // The window of a CatalogueEditor. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     bool eventFilter(QObject* object, QEvent* event) override;

@@ -46,10 +46,6 @@ frmDBSetup::frmDBSetup(DBSetupModel& model, QWidget* parent)
     ShowState();
 }
 
-std::unique_ptr<QDialog> frmDBSetup::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmDBSetup>(dynamic_cast<DBSetupModel&>(model), parent);
-}
-
 void frmDBSetup::AddHead(QBoxLayout& column) {
     auto* row = new QHBoxLayout;
     row->setSpacing(Unit(*this) * kGapUnits);

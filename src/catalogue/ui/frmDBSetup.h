@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "catalogue/DBSetupModel.h"
 
@@ -19,8 +18,6 @@ class frmDBSetup final : public QDialog {
     Q_OBJECT
   public:
     frmDBSetup(DBSetupModel& model, QWidget* parent);
-    // The window of a DBSetupModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     // Insert and Delete, wherever the focus is; a box of text keeps its Delete.

@@ -49,10 +49,6 @@ CannotUndoDialog::CannotUndoDialog(DialogModel& model, QWidget* parent) : QDialo
     column->addLayout(buttons);
 }
 
-std::unique_ptr<QDialog> CannotUndoDialog::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<CannotUndoDialog>(model, parent);
-}
-
 void CannotUndoDialog::Press(const char* button) {
     model_.Press(button);
     QDialog::accept();

@@ -78,10 +78,6 @@ DetailsDialog::DetailsDialog(DetailsModel& model, QWidget* parent) : QDialog(par
     column->addWidget(buttons);
 }
 
-std::unique_ptr<QDialog> DetailsDialog::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<DetailsDialog>(dynamic_cast<DetailsModel&>(model), parent);
-}
-
 void DetailsDialog::AddFigures(QVBoxLayout& column) {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(Unit(*this) * kMarginUnits);

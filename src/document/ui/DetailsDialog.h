@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "document/DetailWindows.h"
 
@@ -14,9 +13,6 @@ class DetailsDialog final : public QDialog {
     Q_OBJECT
   public:
     DetailsDialog(DetailsModel& model, QWidget* parent);
-
-    // The window of a details model. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

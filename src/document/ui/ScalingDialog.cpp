@@ -74,10 +74,6 @@ ScalingDialog::ScalingDialog(ScalingModel& model, QWidget* parent)
     box_->setFocus();
 }
 
-std::unique_ptr<QDialog> ScalingDialog::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<ScalingDialog>(dynamic_cast<ScalingModel&>(model), parent);
-}
-
 void ScalingDialog::AddFigures(QGridLayout& grid) {
     const Texts& texts = kTexts[static_cast<std::size_t>(model_.What())];
     auto* currentName = new QLabel(tr(texts.current), this);

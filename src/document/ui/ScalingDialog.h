@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "document/ScalingModel.h"
 
@@ -16,9 +15,6 @@ class ScalingDialog final : public QDialog {
     Q_OBJECT
   public:
     ScalingDialog(ScalingModel& model, QWidget* parent);
-
-    // The window of a scaling model. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

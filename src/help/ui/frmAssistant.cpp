@@ -45,10 +45,6 @@ frmAssistant::~frmAssistant() {
     for (AssistantLinkButton* link : links_) link->disconnect(this);
 }
 
-std::unique_ptr<QDialog> frmAssistant::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmAssistant>(dynamic_cast<AssistantModel&>(model), parent);
-}
-
 void frmAssistant::AddLinks(QBoxLayout& column) {
     for (const AssistantLink& link : kAssistantLinks) {
         auto* button = new AssistantLinkButton(PictureOf(link), ToQt(link.caption), this);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 #include <vector>
 
 #include "help/AssistantModel.h"
@@ -19,8 +18,6 @@ class frmAssistant final : public QDialog {
     // The model must outlive the dialog.
     frmAssistant(AssistantModel& model, QWidget* parent);
     ~frmAssistant() override;
-    // The window of an AssistantModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -42,10 +42,6 @@ frmHelpContents::frmHelpContents(HelpContentsModel& model, QWidget* parent)
     tree_->setFocus();
 }
 
-std::unique_ptr<QDialog> frmHelpContents::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmHelpContents>(dynamic_cast<HelpContentsModel&>(model), parent);
-}
-
 void frmHelpContents::Fill() {
     const std::vector<HelpTopic>& topics = model_.Topics();
     std::vector<QTreeWidgetItem*> items;

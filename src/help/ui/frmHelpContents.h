@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "help/HelpContentsModel.h"
 
@@ -17,8 +16,6 @@ class frmHelpContents final : public QDialog {
   public:
     // The model must outlive the dialog.
     frmHelpContents(HelpContentsModel& model, QWidget* parent);
-    // The window of a HelpContentsModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

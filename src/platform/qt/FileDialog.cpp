@@ -19,8 +19,4 @@ FileDialog::FileDialog(FileDialogModel& model, QWidget* parent) : QFileDialog(pa
     });
 }
 
-std::unique_ptr<QDialog> FileDialog::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<FileDialog>(dynamic_cast<FileDialogModel&>(model), parent);
-}
-
 }  // namespace tw

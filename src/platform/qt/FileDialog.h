@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QFileDialog>
-#include <memory>
 
 #include "platform/FileDialogModel.h"
 
@@ -12,8 +11,6 @@ class FileDialog final : public QFileDialog {
     Q_OBJECT
   public:
     FileDialog(FileDialogModel& model, QWidget* parent);
-    // The window of a FileDialogModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 };
 
 }  // namespace tw

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/DialogModel.h"
 #include "platform/Ports.h"
@@ -26,6 +27,15 @@ class QtDialogs final : public DialogPort {
 
     // Makes the windows of that form by factory from now on.
     void Register(std::string formName, Factory factory);
+    // The same for a Window that is made from the form's Model, services and a parent. REQUIRES: every model
+    // of that form is a Model; services outlive the windows.
+    template <class Model, class Window, class... Services>
+    void Register(std::string formName, Services&... services) {
+        // The one place where a model is taken for what it is.
+        Register(std::move(formName), [&services...](DialogModel& model, QWidget* parent) {
+            return std::make_unique<Window>(dynamic_cast<Model&>(model), services..., parent);
+        });
+    }
     // What F1 does in every window from now on; nothing before.
     void SetHelp(HelpOpener open) { help_ = std::move(open); }
     // Returns when the window has been closed; the model is closed then, too.

@@ -41,10 +41,6 @@ NoPrinterDialog::NoPrinterDialog(DialogModel& model, QWidget* parent) : QDialog(
     column->addLayout(buttons);
 }
 
-std::unique_ptr<QDialog> NoPrinterDialog::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<NoPrinterDialog>(model, parent);
-}
-
 void NoPrinterDialog::Press(const char* button) {
     model_.Press(button);
     QDialog::accept();

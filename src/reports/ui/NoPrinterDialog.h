@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "platform/DialogModel.h"
 
@@ -13,7 +12,6 @@ class NoPrinterDialog final : public QDialog {
   public:
     // The model must outlive the window.
     NoPrinterDialog(DialogModel& model, QWidget* parent);
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -50,12 +50,6 @@ frmChooseFont::frmChooseFont(ChooseFontModel& model, ColorChooser& colors, QWidg
     findChild<QComboBox*>(QStringLiteral("cmbFontName"))->setFocus();
 }
 
-std::function<std::unique_ptr<QDialog>(DialogModel&, QWidget*)> frmChooseFont::Factory(ColorChooser& colors) {
-    return [&colors](DialogModel& model, QWidget* parent) {
-        return std::make_unique<frmChooseFont>(dynamic_cast<ChooseFontModel&>(model), colors, parent);
-    };
-}
-
 void frmChooseFont::AddList(QComboBox& list, const char* name, const QString& caption, QGridLayout& grid,
                             int row) {
     list.setObjectName(QLatin1String(name));

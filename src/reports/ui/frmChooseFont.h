@@ -2,8 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <functional>
-#include <memory>
 
 #include "platform/qt/ColorChooser.h"
 #include "reports/ChooseFontModel.h"
@@ -22,8 +20,6 @@ class frmChooseFont final : public QDialog {
   public:
     // Both must outlive the dialog.
     frmChooseFont(ChooseFontModel& model, ColorChooser& colors, QWidget* parent);
-    // Makes the windows of ChooseFontModels.
-    static std::function<std::unique_ptr<QDialog>(DialogModel&, QWidget*)> Factory(ColorChooser& colors);
 
   protected:
     void reject() override;

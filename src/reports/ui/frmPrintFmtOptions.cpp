@@ -70,14 +70,6 @@ frmPrintFmtOptions::frmPrintFmtOptions(PrintFmtOptionsModel& model, ColorChooser
     if (auto* width = findChild<QLineEdit*>(QStringLiteral("txtCols"))) width->selectAll();
 }
 
-std::function<std::unique_ptr<QDialog>(DialogModel&, QWidget*)> frmPrintFmtOptions::Factory(
-    ColorChooser& colors) {
-    return [&colors](DialogModel& model, QWidget* parent) {
-        return std::make_unique<frmPrintFmtOptions>(dynamic_cast<PrintFmtOptionsModel&>(model), colors,
-                                                    parent);
-    };
-}
-
 void frmPrintFmtOptions::AddWidth(QGridLayout& grid) {
     auto* label = new QLabel(tr("&Width in Columns:"), this);
     auto* box = new QLineEdit(this);

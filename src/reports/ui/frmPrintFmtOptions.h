@@ -2,8 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <functional>
-#include <memory>
 
 #include "platform/qt/ColorChooser.h"
 #include "reports/PrintFmtOptionsModel.h"
@@ -17,8 +15,6 @@ class frmPrintFmtOptions final : public QDialog {
   public:
     // Both must outlive the dialog.
     frmPrintFmtOptions(PrintFmtOptionsModel& model, ColorChooser& colors, QWidget* parent);
-    // Makes the windows of PrintFmtOptionsModels.
-    static std::function<std::unique_ptr<QDialog>(DialogModel&, QWidget*)> Factory(ColorChooser& colors);
 
   protected:
     void reject() override;

@@ -52,10 +52,6 @@ frmPrintPreview::~frmPrintPreview() {
     pageNumber_->disconnect(this);
 }
 
-std::unique_ptr<QDialog> frmPrintPreview::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmPrintPreview>(dynamic_cast<PrintPreviewModel&>(model), parent);
-}
-
 QBoxLayout* frmPrintPreview::ToolRow() {
     auto* row = new QHBoxLayout;
     row->setSpacing(Unit(*this) * kGapUnits);

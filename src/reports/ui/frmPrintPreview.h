@@ -3,7 +3,6 @@
 
 #include <QDialog>
 #include <QHash>
-#include <memory>
 
 #include "reports/PrintPreviewModel.h"
 
@@ -24,8 +23,6 @@ class frmPrintPreview final : public QDialog {
     // The model must outlive the dialog.
     frmPrintPreview(PrintPreviewModel& model, QWidget* parent);
     ~frmPrintPreview() override;
-    // Makes the windows of PrintPreviewModels.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -36,10 +36,6 @@ frmPrintWizard::frmPrintWizard(PrintWizardModel& model, QWidget* parent) : QDial
     FocusPage();
 }
 
-std::unique_ptr<QDialog> frmPrintWizard::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmPrintWizard>(dynamic_cast<PrintWizardModel&>(model), parent);
-}
-
 QWidget* frmPrintWizard::AddPage() {
     auto* page = new QWidget(pages_);
     const int index = pages_->addWidget(page);

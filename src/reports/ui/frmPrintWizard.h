@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "reports/PrintWizardModel.h"
 
@@ -20,8 +19,6 @@ class frmPrintWizard final : public QDialog {
   public:
     // The model must outlive the dialog.
     frmPrintWizard(PrintWizardModel& model, QWidget* parent);
-    // Makes the windows of PrintWizardModels.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -41,10 +41,6 @@ AboutDialog::AboutDialog(DialogModel& model, QWidget* parent) : QDialog(parent),
     grid->addWidget(buttons, row + 1, 0, 1, 2);
 }
 
-std::unique_ptr<QDialog> AboutDialog::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<AboutDialog>(model, parent);
-}
-
 void AboutDialog::reject() {
     model_.CloseBox();
     QDialog::reject();

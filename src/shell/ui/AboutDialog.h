@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "platform/DialogModel.h"
 
@@ -12,7 +11,6 @@ class AboutDialog final : public QDialog {
     Q_OBJECT
   public:
     AboutDialog(DialogModel& model, QWidget* parent);
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -64,10 +64,6 @@ OpenSaveDialog::OpenSaveDialog(OpenSaveModel& model, QWidget* parent)
     name_->setFocus();
 }
 
-std::unique_ptr<QDialog> OpenSaveDialog::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<OpenSaveDialog>(dynamic_cast<OpenSaveModel&>(model), parent);
-}
-
 QLayout* OpenSaveDialog::MakeFolderRow() {
     auto* row = new QHBoxLayout;
     SetSpacing(*row, *this, false);

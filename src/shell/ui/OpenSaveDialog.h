@@ -3,7 +3,6 @@
 
 #include <QDialog>
 #include <map>
-#include <memory>
 #include <string>
 
 #include "shell/OpenSaveModel.h"
@@ -21,8 +20,6 @@ class OpenSaveDialog final : public QDialog {
     Q_OBJECT
   public:
     OpenSaveDialog(OpenSaveModel& model, QWidget* parent);
-    // The window of an OpenSaveModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -59,10 +59,6 @@ RecoveryDialog::RecoveryDialog(RecoveryModel& model, QWidget* parent)
     connect(list_, &QListWidget::itemDoubleClicked, this, [this] { Press(QStringLiteral("cmdRestore")); });
 }
 
-std::unique_ptr<QDialog> RecoveryDialog::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<RecoveryDialog>(dynamic_cast<RecoveryModel&>(model), parent);
-}
-
 void RecoveryDialog::ShowEntries() {
     const QSignalBlocker blocker(list_);
     list_->clear();

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "shell/RecoveryModel.h"
 
@@ -14,7 +13,6 @@ class RecoveryDialog final : public QDialog {
     Q_OBJECT
   public:
     RecoveryDialog(RecoveryModel& model, QWidget* parent);
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

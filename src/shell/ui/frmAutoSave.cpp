@@ -54,10 +54,6 @@ frmAutoSave::~frmAutoSave() {
     model_.SetObserver({});
 }
 
-std::unique_ptr<QDialog> frmAutoSave::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmAutoSave>(dynamic_cast<AutoSaveModel&>(model), parent);
-}
-
 void frmAutoSave::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (!event->spontaneous()) QMetaObject::invokeMethod(this, &frmAutoSave::Run, Qt::QueuedConnection);

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "shell/AutoSave.h"
 
@@ -17,7 +16,6 @@ class frmAutoSave final : public QDialog {
   public:
     frmAutoSave(AutoSaveModel& model, QWidget* parent);
     ~frmAutoSave() override;
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void showEvent(QShowEvent* event) override;

@@ -50,10 +50,6 @@ frmImportExport::frmImportExport(ImportExportModel& model, QWidget* parent)
     recipes->findChild<TreePane*>()->setFocus();
 }
 
-std::unique_ptr<QDialog> frmImportExport::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmImportExport>(dynamic_cast<ImportExportModel&>(model), parent);
-}
-
 void frmImportExport::ShowButtons() {
     next_->setEnabled(model_.NextEnabled());
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "shell/ImportExportModel.h"
 
@@ -14,8 +13,6 @@ class frmImportExport final : public QDialog {
     Q_OBJECT
   public:
     frmImportExport(ImportExportModel& model, QWidget* parent);
-    // The window of an ImportExportModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -47,10 +47,6 @@ frmNameConflict::frmNameConflict(NameConflictModel& model, QWidget* parent)
     newName_->selectAll();
 }
 
-std::unique_ptr<QDialog> frmNameConflict::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmNameConflict>(dynamic_cast<NameConflictModel&>(model), parent);
-}
-
 QPushButton* frmNameConflict::AddChoice(QGridLayout& grid, const char* button, const QString& caption,
                                         const char* label, const QString& text) {
     const int row = grid.rowCount();

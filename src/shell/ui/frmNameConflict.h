@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "shell/NameConflictModel.h"
 
@@ -17,8 +16,6 @@ class frmNameConflict final : public QDialog {
     Q_OBJECT
   public:
     frmNameConflict(NameConflictModel& model, QWidget* parent);
-    // The window of a NameConflictModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

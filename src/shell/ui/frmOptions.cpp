@@ -53,12 +53,6 @@ frmOptions::frmOptions(OptionsModel& model, ColorChooser& colors, QWidget* paren
     findChild<QComboBox*>(QStringLiteral("cmbHopForm"))->setFocus();
 }
 
-std::function<std::unique_ptr<QDialog>(DialogModel&, QWidget*)> frmOptions::Factory(ColorChooser& colors) {
-    return [&colors](DialogModel& model, QWidget* parent) {
-        return std::make_unique<frmOptions>(dynamic_cast<OptionsModel&>(model), colors, parent);
-    };
-}
-
 QPushButton* frmOptions::DialogButton(const char* name, const QString& caption) {
     auto* button = new QPushButton(caption, this);
     button->setObjectName(QLatin1String(name));

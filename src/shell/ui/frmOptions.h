@@ -3,8 +3,6 @@
 
 #include <QDialog>
 #include <QHash>
-#include <functional>
-#include <memory>
 
 #include "platform/qt/CellColors.h"
 #include "platform/qt/ColorChooser.h"
@@ -30,8 +28,6 @@ class frmOptions final : public QDialog {
   public:
     // Both must outlive the dialog.
     frmOptions(OptionsModel& model, ColorChooser& colors, QWidget* parent);
-    // Makes the windows of OptionsModels.
-    static std::function<std::unique_ptr<QDialog>(DialogModel&, QWidget*)> Factory(ColorChooser& colors);
 
   protected:
     void reject() override;

@@ -36,10 +36,6 @@ frmStylesNotImported::frmStylesNotImported(StylesNotImportedModel& model, QWidge
     ok->setFocus();
 }
 
-std::unique_ptr<QDialog> frmStylesNotImported::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmStylesNotImported>(dynamic_cast<StylesNotImportedModel&>(model), parent);
-}
-
 QWidget* frmStylesNotImported::MakeGrid() {
     auto* grid = new QTreeWidget(this);
     grid->setObjectName(QStringLiteral("grdEffected"));

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "shell/StylesNotImportedModel.h"
 
@@ -12,8 +11,6 @@ class frmStylesNotImported final : public QDialog {
     Q_OBJECT
   public:
     frmStylesNotImported(StylesNotImportedModel& model, QWidget* parent);
-    // The window of a StylesNotImportedModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

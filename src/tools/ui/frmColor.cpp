@@ -38,10 +38,6 @@ frmColor::frmColor(ColorScaleModel& model, QWidget* parent)
     ShowReading();
 }
 
-std::unique_ptr<QDialog> frmColor::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmColor>(dynamic_cast<ColorScaleModel&>(model), parent);
-}
-
 void frmColor::AddScales(QBoxLayout& column) {
     auto* row = new QHBoxLayout;
     row->setSpacing(Unit(*this) * kMarginUnits);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "tools/ColorScaleModel.h"
 
@@ -19,8 +18,6 @@ class frmColor final : public QDialog {
   public:
     // The model must outlive the dialog.
     frmColor(ColorScaleModel& model, QWidget* parent);
-    // The window of a ColorScaleModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -58,10 +58,6 @@ frmConvertUnits::frmConvertUnits(ConvertUnitsModel& model, QWidget* parent) : QD
     rows_[0].box->setFocus();
 }
 
-std::unique_ptr<QDialog> frmConvertUnits::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmConvertUnits>(dynamic_cast<ConvertUnitsModel&>(model), parent);
-}
-
 void frmConvertUnits::AddTypes(QGridLayout& rows) {
     types_ = new QComboBox(this);
     types_->setObjectName(QStringLiteral("cmbType"));

@@ -3,7 +3,6 @@
 
 #include <QDialog>
 #include <array>
-#include <memory>
 
 #include "tools/ConvertUnitsModel.h"
 
@@ -19,8 +18,6 @@ class frmConvertUnits final : public QDialog {
   public:
     // The model must outlive the dialog.
     frmConvertUnits(ConvertUnitsModel& model, QWidget* parent);
-    // The window of a ConvertUnitsModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

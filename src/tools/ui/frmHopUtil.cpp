@@ -56,10 +56,6 @@ frmHopUtil::frmHopUtil(HopUtilModel& model, QWidget* parent)
     slider_->setFocus();
 }
 
-std::unique_ptr<QDialog> frmHopUtil::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmHopUtil>(dynamic_cast<HopUtilModel&>(model), parent);
-}
-
 QLayout* frmHopUtil::SliderColumn() {
     slider_ = new QSlider(Qt::Vertical, this);
     slider_->setObjectName(QStringLiteral("Slider1"));

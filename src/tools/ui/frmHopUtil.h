@@ -4,7 +4,6 @@
 
 #include <QDialog>
 #include <array>
-#include <memory>
 
 #include "tools/HopUtilModel.h"
 
@@ -21,8 +20,6 @@ class frmHopUtil final : public QDialog {
   public:
     // The model must outlive the dialog.
     frmHopUtil(HopUtilModel& model, QWidget* parent);
-    // The window of a HopUtilModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -54,10 +54,6 @@ frmHydrometer::frmHydrometer(HydrometerModel& model, QWidget* parent) : QDialog(
     EditOf(QStringLiteral("txtActRead"))->setFocus();
 }
 
-std::unique_ptr<QDialog> frmHydrometer::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmHydrometer>(dynamic_cast<HydrometerModel&>(model), parent);
-}
-
 void frmHydrometer::AddRow(QGridLayout& rows, const QString& caption, QWidget* control) {
     control->setAccessibleName(PlainCaption(caption));
     auto* label = new QLabel(caption, this);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "tools/HydrometerModel.h"
 
@@ -17,8 +16,6 @@ class frmHydrometer final : public QDialog {
   public:
     // The model must outlive the dialog.
     frmHydrometer(HydrometerModel& model, QWidget* parent);
-    // The window of a HydrometerModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -35,10 +35,6 @@ frmChooseFolder::frmChooseFolder(ChooseFolderModel& model, QWidget* parent) : QD
     chooser->setFocus();
 }
 
-std::unique_ptr<QDialog> frmChooseFolder::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmChooseFolder>(dynamic_cast<ChooseFolderModel&>(model), parent);
-}
-
 void frmChooseFolder::reject() {
     model_.CloseBox();
     QDialog::reject();

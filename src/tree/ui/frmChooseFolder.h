@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "tree/ChooseFolderModel.h"
 
@@ -12,8 +11,6 @@ class frmChooseFolder final : public QDialog {
     Q_OBJECT
   public:
     frmChooseFolder(ChooseFolderModel& model, QWidget* parent);
-    // The window of a ChooseFolderModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

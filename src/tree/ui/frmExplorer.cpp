@@ -50,10 +50,6 @@ frmExplorer::frmExplorer(ExplorerModel& model, QWidget* parent)
     Shown().tree->setFocus();
 }
 
-std::unique_ptr<QDialog> frmExplorer::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmExplorer>(dynamic_cast<ExplorerModel&>(model), parent);
-}
-
 QRadioButton* frmExplorer::AddOption(QBoxLayout& row, const char* name, const QString& caption, Page page) {
     auto* option = new QRadioButton(caption, this);
     option->setObjectName(QLatin1String(name));

@@ -4,7 +4,6 @@
 #include <QDialog>
 #include <array>
 #include <map>
-#include <memory>
 #include <string>
 
 #include "tree/ExplorerModel.h"
@@ -27,8 +26,6 @@ class frmExplorer final : public QDialog {
   public:
     frmExplorer(ExplorerModel& model, QWidget* parent);
     ~frmExplorer() override;
-    // The window of an ExplorerModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

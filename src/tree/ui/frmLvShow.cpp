@@ -55,10 +55,6 @@ frmLvShow::frmLvShow(LvShowModel& model, QWidget* parent) : QDialog(parent), mod
     ShowButtons();
 }
 
-std::unique_ptr<QDialog> frmLvShow::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmLvShow>(dynamic_cast<LvShowModel&>(model), parent);
-}
-
 // All columns are in sight from the first.
 int frmLvShow::FirstWidth() const {
     const int list = std::clamp(items_->WantedWidth() + Unit(*this) * 2 * kMarginUnits,

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QDialog>
-#include <memory>
 
 #include "tree/LvShowModel.h"
 
@@ -17,8 +16,6 @@ class frmLvShow final : public QDialog {
     Q_OBJECT
   public:
     frmLvShow(LvShowModel& model, QWidget* parent);
-    // The window of a LvShowModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
   protected:
     void reject() override;

@@ -50,10 +50,6 @@ frmProgress::~frmProgress() {
     model_.SetObserver({});
 }
 
-std::unique_ptr<QDialog> frmProgress::Make(DialogModel& model, QWidget* parent) {
-    return std::make_unique<frmProgress>(dynamic_cast<ProgressModel&>(model), parent);
-}
-
 int frmProgress::exec() {
     model_.FirstShown();
     QDialog::accept();

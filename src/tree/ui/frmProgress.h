@@ -3,7 +3,6 @@
 
 #include <QDialog>
 #include <QElapsedTimer>
-#include <memory>
 
 #include "tree/ProgressModel.h"
 
@@ -18,8 +17,6 @@ class frmProgress final : public QDialog {
   public:
     frmProgress(ProgressModel& model, QWidget* parent);
     ~frmProgress() override;
-    // The window of a ProgressModel. REQUIRES: model is one.
-    static std::unique_ptr<QDialog> Make(DialogModel& model, QWidget* parent);
 
     // Works, and returns when the work is done or called off. An error that rises from the work goes through.
     int exec() override;
