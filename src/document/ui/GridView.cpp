@@ -44,7 +44,11 @@ std::vector<int> FitColumns(std::vector<int> autoWidths, int clientWidth) {
 }
 
 GridView::GridView(DocumentBinding& binding, Grid& grid, const QString& name, QWidget* parent)
-    : QTableView(parent), binding_(binding), grid_(&grid) {
+    : QTableView(parent),
+      binding_(binding),
+      grid_(&grid),
+      model_(new GridModel(binding, grid, GridModel::Part::Data, this)),
+      cursor_(*this, *model_, binding, grid) {
     setObjectName(ToQt(grid.Name()));
     setAccessibleName(name);
     setFrameShape(QFrame::NoFrame);
@@ -55,7 +59,6 @@ GridView::GridView(DocumentBinding& binding, Grid& grid, const QString& name, QW
     // The delegate draws the hairlines: the styles differ in theirs, and some vanish on a dark ground.
     setShowGrid(false);
     setCornerButtonEnabled(false);
-    model_ = new GridModel(binding, grid, GridModel::Part::Data, this);
     setModel(model_);
     setItemDelegate(new GridDelegate(*this, this));
     BuildHeader();
@@ -92,6 +95,11 @@ void GridView::Connect() {
     connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
         if (totals_) totals_->horizontalScrollBar()->setValue(value);
     });
+}
+
+void GridView::SetTotals(TotalsView* totals) {
+    totals_ = totals;
+    cursor_.SetHasTotals(totals != nullptr);
 }
 
 int GridView::RowHeight() const {
@@ -171,7 +179,7 @@ void GridView::ShowCurrentCell() {
     }
     if (totals_) SelectIn(*totals_, range);
     following_ = false;
-    if (InTotals() && hasFocus())
+    if (cursor_.InTotals() && hasFocus())
         totals_->Announce(
             totals_->Model().index(totals_->Model().ModelRow(grid_->CurrentRow()), grid_->CurrentCol()));
     ShowFocus();
@@ -196,6 +204,7 @@ void GridView::ShowColors() {
 void GridView::Detach() {
     if (!grid_) return;
     grid_ = nullptr;
+    cursor_.Detach();
     refused_ = false;
     model_->Detach();
     if (totals_) totals_->Model().Detach();
@@ -299,7 +308,7 @@ void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint h
     if (hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem)
         focusNextPrevChild(hint == QAbstractItemDelegate::EditNextItem);
     else if (hint == QAbstractItemDelegate::SubmitModelCache)
-        StepDown();
+        cursor_.StepDown();
 }
 
 // The editor of a refused entry stays open, with its text selected.
@@ -371,11 +380,11 @@ void GridView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
     const bool byTab = event->reason() == Qt::TabFocusReason;
     // Whoever comes by key wants to type, and that is not among the totals.
-    if (byTab && InTotals()) TellSelection();
+    if (byTab && cursor_.InTotals()) TellSelection();
     ShowCurrentCell();
-    if (!currentIndex().isValid() && model_->rowCount() > 0 && !InTotals())
+    if (!currentIndex().isValid() && model_->rowCount() > 0 && !cursor_.InTotals())
         setCurrentIndex(model_->index(0, 0));
-    if (byTab && !model_->CanEdit(currentIndex())) Step(1);
+    if (byTab && !model_->CanEdit(currentIndex())) cursor_.Step(1);
     ShowFocus();
 }
 
@@ -414,7 +423,7 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 QPoint GridView::PlaceOfCurrentCell() const {
-    if (!InTotals()) return viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
+    if (!cursor_.InTotals()) return viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
     const GridModel& model = totals_->Model();
     const QModelIndex cell = model.index(model.ModelRow(grid_->CurrentRow()), grid_->CurrentCol());
     return totals_->viewport()->mapToGlobal(totals_->visualRect(cell).bottomLeft());

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "document/ui/DocumentBinding.h"
+#include "document/ui/GridCursor.h"
 #include "document/ui/GridModel.h"
 
 namespace tw {
@@ -36,9 +37,9 @@ class GridView final : public QTableView {
     // The width of all columns.
     int ContentWidth() const;
     // The rows behind the data, whose columns follow these; nullptr for none.
-    void SetTotals(TotalsView* totals) { totals_ = totals; }
+    void SetTotals(TotalsView* totals);
     // Makes a cell of the grid, one of the totals too, the current one, or the end of the selected block.
-    void MoveTo(int row, int col, bool extends);
+    void MoveTo(int row, int col, bool extends) { cursor_.MoveTo(row, col, extends); }
     // Lets the brewer choose the current cell's name from its catalogue, if it has one, as soon as the
     // present event is over. An open editor is committed first.
     void BrowseSoon();
@@ -100,31 +101,8 @@ class GridView final : public QTableView {
     void BrowseCatalogue();
     void SortBy(int col);
     void ShowSortMark(int col);
-    // The keys and ways of the current cell (GridViewKeys.cpp).
-    struct Place {
-        int row, col;
-    };
-    // The corners of a selected block: the one that stays and the one that moves.
-    struct Block {
-        Place anchor, end;
-        GridRange Range() const;
-    };
-    Block SelectedBlock() const;
-    // Whether the current cell is one of the totals.
-    bool InTotals() const;
-    // The arrows over the border between rows and totals and among the totals. False for any other key.
-    bool MoveThroughTotals(const QKeyEvent& key);
     // True when the key has been used up.
     bool HandleOwnKey(const QKeyEvent& key);
-    // To the next (+1) or previous (-1) cell that takes an entry, or to the next total; false when there is
-    // none.
-    bool Step(int direction);
-    // The same from a place among the data rows, whose cells count from 0.
-    bool StepFrom(int place, int direction);
-    // To the cell below.
-    void StepDown();
-    // Brings the column into sight.
-    void ShowColumn(int col);
     void ShowFocus();
     // The lower left corner of the current cell on the screen.
     QPoint PlaceOfCurrentCell() const;
@@ -141,7 +119,7 @@ class GridView final : public QTableView {
     Grid* grid_;
     GridModel* model_;
     TotalsView* totals_ = nullptr;
-    Block block_{};  // the last one that reached into the totals
+    GridCursor cursor_;
     QPointer<QWidget> editor_;
     QPersistentModelIndex editedCell_;
     bool committing_ = false;  // the entry is being validated
