@@ -10,12 +10,12 @@ namespace {
 
 using testing::IsEmpty;
 
-CellGrid GridOf(Catalogue catalogue) {
+CellGrid GridOf(CatalogueKind catalogue) {
     return CellGrid(FormOf(catalogue).rows);
 }
 
 TEST(CellGrid, HasAColumnForEachEndOfARange) {
-    const CellGrid styles = GridOf(Catalogue::Styles), waters = GridOf(Catalogue::WaterProfiles);
+    const CellGrid styles = GridOf(CatalogueKind::Style), waters = GridOf(CatalogueKind::Water);
     EXPECT_EQ(styles.Rows(), 6);
     EXPECT_EQ(styles.Cols(), 2);
     EXPECT_EQ(waters.Cols(), 1);
@@ -23,7 +23,7 @@ TEST(CellGrid, HasAColumnForEachEndOfARange) {
 }
 
 TEST(CellGrid, AnEntryCountsOnceItIsLeft) {
-    CellGrid hops = GridOf(Catalogue::Hops);
+    CellGrid hops = GridOf(CatalogueKind::Hop);
     MessageRecorder messages;
     EXPECT_TRUE(hops.Type(0, 0, "4.5"));
     EXPECT_FALSE(hops.Type(0, 0, "4.5"));
@@ -37,7 +37,7 @@ TEST(CellGrid, AnEntryCountsOnceItIsLeft) {
 }
 
 TEST(CellGrid, ARefusedEntryGivesWayToTheLastGoodOne) {
-    CellGrid waters = GridOf(Catalogue::WaterProfiles);
+    CellGrid waters = GridOf(CatalogueKind::Water);
     MessageRecorder messages;
     waters.Load(0, 0, 52);
     waters.Type(0, 0, "much");
@@ -51,7 +51,7 @@ TEST(CellGrid, ARefusedEntryGivesWayToTheLastGoodOne) {
 }
 
 TEST(CellGrid, ALoadedNumberKeepsAllItsDigits) {
-    CellGrid waters = GridOf(Catalogue::WaterProfiles);
+    CellGrid waters = GridOf(CatalogueKind::Water);
     MessageRecorder messages;
     waters.Load(2, 0, 0.1 + 0.2);
     EXPECT_TRUE(waters.Leave(2, 0, messages));
