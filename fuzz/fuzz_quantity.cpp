@@ -42,8 +42,7 @@ Outcome Run(Call call, double& value) {
 
 void CheckNumberText(double value) {
     const std::string text = NumberText(value);
-    double read = kUntouched;
-    Require(ReadNumber(text, read) && read == value);
+    Require(ReadNumber(text) == value);
     double rounded = value;
     Require(FormatQuantity(rounded, 3) == NumberText(rounded));
     for (const std::string_view pattern : {"0", "0.#0", "#.0", "0.0% abv", "000000000000.000000000000"})

@@ -47,8 +47,8 @@ void ReadCell(CellGrid& cells, int row, int col, const Field& number) {
 SqlValue TypeNumber(std::string_view word) {
     for (std::size_t i = 0; i < TypeNames().size(); ++i)
         if (SameName(TypeNames()[i], word)) return i;
-    double number = 0;
-    return ReadNumber(word, number) ? SqlValue(number) : SqlValue(Null());
+    const std::optional<double> number = ReadNumber(word);
+    return number ? SqlValue(*number) : SqlValue(Null());
 }
 
 void AddCells(const CellGrid& cells, BlankCell blankCell, ColumnValues& values) {

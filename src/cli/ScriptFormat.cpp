@@ -10,8 +10,7 @@ namespace {
 
 std::string LeadingNumber(std::string_view text) {
     const std::size_t end = std::min(text.find_first_not_of("-0123456789."), text.size());
-    double number = 0;
-    return ReadNumber(text.substr(0, end), number) ? NumberText(number) : "0";
+    return NumberText(ReadNumber(text.substr(0, end)).value_or(0));
 }
 
 }  // namespace

@@ -136,9 +136,8 @@ std::string Arguments::Text() {
 
 double Arguments::Number(std::string_view what) {
     const std::string word = Word(what);
-    double number = 0;
     try {
-        if (ReadNumber(word, number)) return number;
+        if (const std::optional<double> number = ReadNumber(word)) return *number;
     } catch (const Error&) {
         throw ScriptError(std::string(what) + " is too large a number");
     }
@@ -147,17 +146,16 @@ double Arguments::Number(std::string_view what) {
 
 int Arguments::Integer(std::string_view what, int least, int most) {
     const std::string word = Word(what);
-    double number = 0;
-    bool whole = false;
+    std::optional<double> number;
     try {
-        whole = word.find('.') == std::string::npos && ReadNumber(word, number);
+        if (word.find('.') == std::string::npos) number = ReadNumber(word);
     } catch (const Error&) {
-        whole = false;
+        // Beyond all bounds.
     }
-    if (!whole || number < least || number > most)
+    if (!number || *number < least || *number > most)
         throw ScriptError(std::string(what) + " must be a whole number from " + std::to_string(least) +
                           " to " + std::to_string(most) + ", not '" + word + "'");
-    return static_cast<int>(number);
+    return static_cast<int>(*number);
 }
 
 bool Arguments::Choice(std::string_view what, std::string_view yes, std::string_view no) {

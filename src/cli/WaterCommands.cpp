@@ -27,9 +27,8 @@ std::string_view CutAt(std::string_view& text, char mark) {
 }
 
 double NumberOf(std::string_view text) {
-    double number = 0;
     try {
-        if (ReadNumber(text, number)) return number;
+        if (const std::optional<double> number = ReadNumber(text)) return *number;
     } catch (const Error&) {
         throw ScriptError("'" + std::string(text) + "' is too large a number");
     }

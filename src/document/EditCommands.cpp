@@ -38,8 +38,7 @@ std::string CellCopy(const Grid& grid, int row, int col) {
 }
 
 bool MeansChecked(std::string_view text) {
-    double number = 0;
-    return text == kChecked || (ReadNumber(text, number) && number == 1);
+    return text == kChecked || ReadNumber(text) == 1;
 }
 
 // The block's cell for a place of the target; the block repeats.

@@ -12,10 +12,9 @@ namespace {
 
 double SortNumber(const Grid& grid, int row, int col) {
     if (grid.IsCheckBox(row, col)) return grid.Checked(row, col) ? 1 : 0;
-    double shown = 0;
+    if (!grid.ColumnAt(col).readOnly) return grid.Number(row, col);
     // A computed cell counts by the number that its text shows.
-    if (grid.ColumnAt(col).readOnly && ReadNumber(grid.Text(row, col), shown)) return shown;
-    return grid.Number(row, col);
+    return ReadNumber(grid.Text(row, col)).value_or(grid.Number(row, col));
 }
 
 // The place of each row in the order, so that the inverse puts the rows back.

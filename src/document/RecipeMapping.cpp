@@ -85,10 +85,10 @@ void FillQuantity(Grid& grid, int row, int col, const StoredValue& stored) {
 
 // A text that must be a number; any other one, or none, empties the cell.
 void FillBareText(Grid& grid, int row, int col, const StoredValue& stored) {
-    double number = 0;
-    if (stored.text && ReadNumber(*stored.text, number)) {
+    const std::optional<double> number = stored.text ? ReadNumber(*stored.text) : std::nullopt;
+    if (number) {
         grid.SetText(row, col, *stored.text);
-        grid.SetValue(row, col, CellValue::Of(number));
+        grid.SetValue(row, col, CellValue::Of(*number));
     } else {
         grid.Clear(row, col);
     }

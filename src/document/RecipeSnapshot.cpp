@@ -96,13 +96,13 @@ class Reader {
     }
     double Number() { return NumberOf(Word()); }
     static double NumberOf(std::string_view word) {
-        double number = 0;
         try {
-            Require(ReadNumber(word, number));
+            const std::optional<double> number = ReadNumber(word);
+            Require(number.has_value());
+            return number.value_or(0);
         } catch (const Error&) {
             throw BadText();
         }
-        return number;
     }
     std::int64_t Integer() {
         const std::string word = Word();

@@ -36,13 +36,12 @@ ChooseFontModel::ChooseFontModel(const ReportFont& font, int bgColor, bool showF
 
 FormControl ChooseFontModel::ColorBox(std::string name, int& color) {
     return {std::move(name), [&color] { return std::to_string(color); },
-            [&color](std::string_view text) { return ReadWhole(text, 0, kWhite, color); }};
+            [&color](std::string_view text) { return TakeInto(color, ReadWhole(text, 0, kWhite)); }};
 }
 
 bool ChooseFontModel::EnterSize(std::string_view text) {
     size_ = text;
-    double points = 0;
-    if (ReadReal(text, points) && points > 0) font_.points = points;
+    if (const std::optional<double> points = ReadReal(text); points.value_or(0) > 0) font_.points = *points;
     return true;
 }
 
@@ -53,8 +52,7 @@ std::vector<std::string> ChooseFontModel::Sizes() {
 }
 
 bool ChooseFontModel::CanAccept() const {
-    double points = 0;
-    return !IsBlank(font_.face) && ReadReal(size_, points) && points > 0;
+    return !IsBlank(font_.face) && ReadReal(size_).value_or(0) > 0;
 }
 
 }  // namespace tw

@@ -26,9 +26,10 @@ PrintFmtOptionsModel::PrintFmtOptionsModel(ReportType mode, const SettingsStore&
       options_(LoadReportOptions(store, mode)) {
     if (mode == ReportType::Text) AddControls({TextEntry("txtCols", options_.numColumns)});
     if (mode == ReportType::Html)
-        AddControls(
-            {{"pbBGColor", [this] { return std::to_string(options_.bgColor); },
-              [this](std::string_view text) { return ReadWhole(text, 0, kWhite, options_.bgColor); }}});
+        AddControls({{"pbBGColor", [this] { return std::to_string(options_.bgColor); },
+                      [this](std::string_view text) {
+                          return TakeInto(options_.bgColor, ReadWhole(text, 0, kWhite));
+                      }}});
     if (mode != ReportType::Text) AddFonts();
     AddControls(
         {CheckBox("chkOne", mode == ReportType::Html ? options_.horizontalRulers : options_.pageBreak)});

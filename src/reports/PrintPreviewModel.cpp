@@ -27,7 +27,7 @@ PrintPreviewModel::PrintPreviewModel(Actions actions, Paper paper)
         {"cmbZoom", [this] { return ZoomName(Zoom()); },
          [this](std::string_view name) { return ChooseZoom(name); }},
         {"txtPage", [this] { return std::to_string(page_); },
-         [this](std::string_view text) { return ReadWhole(text, 1, Pages(), page_); }},
+         [this](std::string_view text) { return TakeInto(page_, ReadWhole(text, 1, Pages())); }},
         {"lblPages", [this] { return "of " + std::to_string(Pages()); }},
     });
     const auto before = [this] { return page_ > 1; };

@@ -79,10 +79,11 @@ bool Read(Owner& owner, const Entry<Owner>& row, std::string_view text) {
         owner.** field = text;
         return true;
     }
-    if (const auto* field = std::get_if<double Owner::*>(&row.field)) return ReadReal(text, owner.**field);
+    if (const auto* field = std::get_if<double Owner::*>(&row.field))
+        return TakeInto(owner.**field, ReadReal(text));
     if (const auto* field = std::get_if<int Owner::*>(&row.field))
-        return ReadWhole(text, kLeast, kMost, owner.**field);
-    return ReadFlag(text, owner.*std::get<bool Owner::*>(row.field));
+        return TakeInto(owner.**field, ReadWhole(text, kLeast, kMost));
+    return TakeInto(owner.*std::get<bool Owner::*>(row.field), ReadFlag(text));
 }
 
 template <class Owner>
@@ -112,9 +113,7 @@ std::string_view ReportExtension(ReportType type) {
 }
 
 int ReportOptions::Columns() const {
-    int columns = 0;
-    ReadWhole(numColumns, kLeast, kMost, columns);
-    return columns;
+    return ReadWhole(numColumns, kLeast, kMost).value_or(0);
 }
 
 ReportOptions LoadReportOptions(const SettingsStore& store, ReportType type) {

@@ -70,10 +70,9 @@ std::string ReportUnits::Alcohol(const std::optional<std::string>& abv,
     if (!abv) return {};
     if (IsChosen("optAlcBV")) return std::string(Trim(*abv));
     if (!finalGravity) return {};
-    double percent = 0;
-    if (!ReadReal(std::string_view(*abv).substr(0, abv->find('%')), percent) || *finalGravity == 0)
-        return "?";
-    return FormatNumber(percent * kAlcoholDensity / *finalGravity, "0.0") + "% abw";
+    const std::optional<double> percent = ReadReal(std::string_view(*abv).substr(0, abv->find('%')));
+    if (!percent || *finalGravity == 0) return "?";
+    return FormatNumber(*percent * kAlcoholDensity / *finalGravity, "0.0") + "% abw";
 }
 
 std::string ReportUnits::Volume(const std::optional<std::string>& text, std::optional<double> gallons) const {

@@ -99,18 +99,16 @@ struct Reader {
     Settings& settings;
     std::string_view text;
 
-    bool operator()(const Real& real) const { return ReadReal(text, settings.*real.field); }
+    bool operator()(const Real& real) const { return TakeInto(settings.*real.field, ReadReal(text)); }
     bool operator()(const Integer& integer) const {
-        return ReadWhole(text, integer.least, integer.most, settings.*integer.field);
+        return TakeInto(settings.*integer.field, ReadWhole(text, integer.least, integer.most));
     }
     bool operator()(const Color& color) const {
-        int value = 0;
-        const bool read = ReadWhole(text, std::numeric_limits<std::int32_t>::min(),
-                                    std::numeric_limits<std::int32_t>::max(), value);
-        settings.*color.field = read ? std::optional(value) : std::nullopt;
+        settings.*color.field = ReadWhole(text, std::numeric_limits<std::int32_t>::min(),
+                                          std::numeric_limits<std::int32_t>::max());
         return true;
     }
-    bool operator()(const Flag& flag) const { return ReadFlag(text, settings.*flag.field); }
+    bool operator()(const Flag& flag) const { return TakeInto(settings.*flag.field, ReadFlag(text)); }
     bool operator()(const TextValue& value) const {
         settings.*value.field = text;
         return true;

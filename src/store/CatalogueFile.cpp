@@ -120,17 +120,13 @@ class Reader {
 
     void CheckNumber(const CatalogueColumn& column, const std::string& cell, std::optional<double>& number) {
         const std::string start = std::string(column.header) + " " + Quoted(cell);
-        double value = 0;
         try {
-            if (!ReadNumber(cell, value)) {
-                Report(start + " is not a number");
-                return;
-            }
+            number = ReadNumber(cell);
+            if (!number) return Report(start + " is not a number");
         } catch (const Error& overflow) {
-            Report(start + " is not a number: " + overflow.Description());
-            return;
+            return Report(start + " is not a number: " + overflow.Description());
         }
-        number = value;
+        const double value = *number;
         if (value < column.least || value > column.most) {
             Report(start + " is not between " + NumberText(column.least) + " and " + NumberText(column.most));
         }

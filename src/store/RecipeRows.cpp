@@ -30,9 +30,8 @@ StoredValue ValueOf(const RecipeColumn& column, const StoredRecipe& recipe, cons
 // A cell's text, bare; NULL for a blank one.
 void AppendBare(std::string& sql, std::string_view cell) {
     sql.append(cell.empty() ? "NULL" : cell);
-    double number = 0;
     // Between the words of the statement any other text would be read as a part of it.
-    if (!cell.empty() && !ReadNumber(cell, number))
+    if (!cell.empty() && !ReadNumber(cell))
         throw Error("Database", "'" + std::string(cell) + "' is no number.", SQLITE_MISMATCH);
 }
 

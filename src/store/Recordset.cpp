@@ -105,8 +105,7 @@ std::string Field::Text() const {
 double Field::Number() const {
     const int storage = sqlite3_column_type(statement_, column_);
     if (IsNumeric(storage)) return Finite(sqlite3_column_double(statement_, column_));
-    double number = 0;
-    return ReadNumber(ColumnText(statement_, column_), number) ? number : 0;
+    return ReadNumber(ColumnText(statement_, column_)).value_or(0);
 }
 
 std::int64_t Field::Integer() const {

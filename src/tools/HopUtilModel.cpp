@@ -14,13 +14,11 @@ constexpr double kHeaviest = 1.25;
 
 // The number that a text is as a whole; nothing for another text.
 std::optional<double> NumberOf(std::string_view text) {
-    double value = 0;
     try {
-        if (ReadNumber(text, value)) return value;
+        return ReadNumber(text);
     } catch (const Error&) {
-        // Digits beyond all bounds are no gravity either.
+        return std::nullopt;  // digits beyond all bounds are no gravity either
     }
-    return std::nullopt;
 }
 
 }  // namespace

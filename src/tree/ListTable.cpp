@@ -36,14 +36,13 @@ enum Rank { kBlank, kFigure, kText };
 std::optional<double> TakeNumber(std::string_view& text) {
     std::size_t end = text.starts_with('-') ? 1 : 0;
     end = std::min(text.find_first_not_of("0123456789.", end), text.size());
-    double number = 0;
     try {
-        if (!ReadNumber(text.substr(0, end), number)) return std::nullopt;
+        const std::optional<double> number = ReadNumber(text.substr(0, end));
+        if (number) text.remove_prefix(end);
+        return number;
     } catch (const Error&) {
         return std::nullopt;  // beyond the range of a double
     }
-    text.remove_prefix(end);
-    return number;
 }
 
 SortKey::Value ValueOf(std::string_view cell, ListColumnKind kind) {

@@ -74,7 +74,7 @@ std::string FormatQuantity(double& value, int decimals) {
     std::string text;
     if (digits.IsNegative()) text.push_back('-');
     digits.AppendMagnitude(text, 1, 0);
-    ReadNumber(text, value);
+    value = ReadNumber(text).value_or(value);
     return digits.Count() <= kAlwaysShortestDigits ? text : NumberText(value);
 }
 

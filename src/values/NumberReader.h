@@ -7,9 +7,12 @@ namespace tw {
 
 enum class Numeric { No, Whole, Real };
 
+struct NumericText {
+    Numeric kind = Numeric::No;
+    double value = 0;
+};
 // Whole for an optional "-" and digits; Real when the text holds a "." too (and at least one digit); No for
-// anything else, and value is untouched then. Raises "Overflow" for digits beyond the range of a double;
-// digits too small for it are zero.
-Numeric ReadNumeric(std::string_view text, double& value);
+// anything else. Raises "Overflow" for digits beyond the range of a double; digits too small for it are zero.
+NumericText ReadNumeric(std::string_view text);
 
 }  // namespace tw

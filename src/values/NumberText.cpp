@@ -96,21 +96,19 @@ double ReadLong(std::string_view text, const Scan& scan) {
 
 }  // namespace
 
-Numeric ReadNumeric(std::string_view text, double& value) {
+NumericText ReadNumeric(std::string_view text) {
     const Scan scan = ScanNumber(text);
-    if (scan.kind == Numeric::No) return Numeric::No;
-    if (scan.digits <= kMantissaDigits) {
-        // Both numbers are exact, so their quotient is the double nearest to the text.
-        const double magnitude = static_cast<double>(scan.mantissa) / kPowersOfTen[scan.places];
-        value = scan.negative ? -magnitude : magnitude;
-    } else {
-        value = ReadLong(text, scan);
-    }
-    return scan.kind;
+    if (scan.kind == Numeric::No) return {};
+    if (scan.digits > kMantissaDigits) return {scan.kind, ReadLong(text, scan)};
+    // Both numbers are exact, so their quotient is the double nearest to the text.
+    const double magnitude = static_cast<double>(scan.mantissa) / kPowersOfTen[scan.places];
+    return {scan.kind, scan.negative ? -magnitude : magnitude};
 }
 
-bool ReadNumber(std::string_view text, double& value) {
-    return ReadNumeric(text, value) != Numeric::No;
+std::optional<double> ReadNumber(std::string_view text) {
+    const NumericText read = ReadNumeric(text);
+    if (read.kind == Numeric::No) return std::nullopt;
+    return read.value;
 }
 
 std::string NumberText(double value) {

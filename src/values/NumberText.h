@@ -2,6 +2,7 @@
 // in the program reads or writes numbers by the user's locale.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,10 +15,10 @@ std::string NumberText(double value);
 // Writes the same text to the end of out.
 void AppendNumberText(std::string& out, double value);
 
-// True when text as a whole is a number: an optional leading "-", digits, at most one ".", at least one
-// digit, nothing else (no blanks, no "+", no exponent). Then value holds it; otherwise value is untouched.
-// Raises "Overflow" for digits beyond the range of a double.
-bool ReadNumber(std::string_view text, double& value);
+// The number that text is as a whole: an optional leading "-", digits, at most one ".", at least one digit,
+// nothing else (no blanks, no "+", no exponent). Nothing for any other text. Raises "Overflow" for digits
+// beyond the range of a double.
+std::optional<double> ReadNumber(std::string_view text);
 
 // value in a number pattern: "0" a digit that is always shown, "#" one shown if needed, "." the decimal mark,
 // a "%" in the text behind scales by 100, and all other text before and behind the digits stands as it is. A

@@ -8,35 +8,29 @@
 
 namespace tw {
 
-bool ReadReal(std::string_view text, double& value) {
+std::optional<double> ReadReal(std::string_view text) {
     try {
-        return ReadNumber(Trim(text), value);
+        return ReadNumber(Trim(text));
     } catch (const Error&) {
         // More digits than a number can hold.
-        return false;
+        return std::nullopt;
     }
 }
 
-bool ReadFlag(std::string_view text, bool& value) {
-    double number = 0;
-    if (SameName(text, "True"))
-        value = true;
-    else if (SameName(text, "False"))
-        value = false;
-    else if (ReadReal(text, number))
-        value = number != 0;
-    else
-        return false;
-    return true;
+std::optional<bool> ReadFlag(std::string_view text) {
+    if (SameName(text, "True")) return true;
+    if (SameName(text, "False")) return false;
+    const std::optional<double> number = ReadReal(text);
+    if (!number) return std::nullopt;
+    return *number != 0;
 }
 
-bool ReadWhole(std::string_view text, int least, int most, int& value) {
-    double number = 0;
-    if (!ReadReal(text, number)) return false;
-    number = std::round(number);
-    if (number < least || number > most) return false;
-    value = static_cast<int>(number);
-    return true;
+std::optional<int> ReadWhole(std::string_view text, int least, int most) {
+    const std::optional<double> number = ReadReal(text);
+    if (!number) return std::nullopt;
+    const double whole = std::round(*number);
+    if (whole < least || whole > most) return std::nullopt;
+    return static_cast<int>(whole);
 }
 
 }  // namespace tw

@@ -1,6 +1,7 @@
 // Tokens and plain numbers: the lower layer of ParserValidater.
 #include "platform/Error.h"
 #include "values/NumberReader.h"
+#include "values/NumberText.h"
 #include "values/ParserValidater.h"
 #include "values/Text.h"
 
@@ -62,15 +63,13 @@ std::string_view GetToken(std::string_view& text) {
 }
 
 std::optional<double> ParseReal(std::string_view text) {
-    double value = 0;
-    if (ReadNumeric(text, value) == Numeric::No) return std::nullopt;
-    return value;
+    return ReadNumber(text);
 }
 
 std::optional<double> ParseWholeNumber(std::string_view text) {
-    double value = 0;
-    if (ReadNumeric(text, value) != Numeric::Whole) return std::nullopt;
-    return value;
+    const NumericText read = ReadNumeric(text);
+    if (read.kind != Numeric::Whole) return std::nullopt;
+    return read.value;
 }
 
 std::optional<double> ParseFraction(std::string_view text) {
@@ -84,17 +83,10 @@ std::optional<double> ParseFraction(std::string_view text) {
 }
 
 std::optional<double> ParseMixedNumber(std::string_view token, std::string_view& rest) {
-    double value = 0;
-    switch (ReadNumeric(token, value)) {
-        case Numeric::No:
-            return ParseFraction(token);
-        case Numeric::Whole:
-            TakeFraction(rest, value);
-            break;
-        case Numeric::Real:
-            break;
-    }
-    return value;
+    NumericText read = ReadNumeric(token);
+    if (read.kind == Numeric::No) return ParseFraction(token);
+    if (read.kind == Numeric::Whole) TakeFraction(rest, read.value);
+    return read.value;
 }
 
 }  // namespace tw

@@ -67,11 +67,10 @@ void RandomGrains::Store(const std::string& opened) {
          {std::pair("gridInfo(0,0)", &grain.low), std::pair("gridInfo(0,1)", &grain.high)}) {
         const std::string figure = OneOf(kFigures);
         editor->SetControl(control, figure);
-        double number = 0;
         if (IsBlank(figure))
             *end = "NULL";
-        else if (ReadNumber(figure, number) && number >= 0)
-            *end = NumberText(number);
+        else if (const std::optional<double> number = ReadNumber(figure); number && *number >= 0)
+            *end = NumberText(*number);
     }
     editor->Press("cmdOK");
     const std::string trimmed(Trim(name)), key = Upper(trimmed);

@@ -6,32 +6,30 @@ namespace tw::test {
 namespace {
 
 TEST(SettingText, FlagsAreWordsOrNumbers) {
-    bool value = false;
-    EXPECT_TRUE(ReadFlag("true", value));
-    EXPECT_TRUE(value);
-    EXPECT_TRUE(ReadFlag("False", value));
-    EXPECT_FALSE(value);
-    EXPECT_TRUE(ReadFlag("-1", value));
-    EXPECT_TRUE(value);
-    EXPECT_TRUE(ReadFlag("0", value));
-    EXPECT_FALSE(value);
-    EXPECT_FALSE(ReadFlag("yes", value));
-    EXPECT_FALSE(ReadFlag("", value));
+    EXPECT_EQ(ReadFlag("true"), true);
+    EXPECT_EQ(ReadFlag("False"), false);
+    EXPECT_EQ(ReadFlag("-1"), true);
+    EXPECT_EQ(ReadFlag("0"), false);
+    EXPECT_EQ(ReadFlag("yes"), std::nullopt);
+    EXPECT_EQ(ReadFlag(""), std::nullopt);
 }
 
 TEST(SettingText, WholeNumbersStayWithinTheirRange) {
-    int value = 7;
-    EXPECT_FALSE(ReadWhole("61", 1, 60, value));
-    EXPECT_FALSE(ReadWhole("x", 1, 60, value));
-    EXPECT_EQ(value, 7);
-    EXPECT_TRUE(ReadWhole(" 59.5 ", 1, 60, value));
-    EXPECT_EQ(value, 60);
+    EXPECT_EQ(ReadWhole("61", 1, 60), std::nullopt);
+    EXPECT_EQ(ReadWhole("x", 1, 60), std::nullopt);
+    EXPECT_EQ(ReadWhole(" 59.5 ", 1, 60), 60);
 }
 
 TEST(SettingText, MoreDigitsThanANumberHoldsAreNoNumber) {
-    double value = 7;
-    EXPECT_FALSE(ReadReal(std::string(400, '9'), value));
-    EXPECT_EQ(value, 7);
+    EXPECT_EQ(ReadReal(std::string(400, '9')), std::nullopt);
+}
+
+TEST(SettingText, WhatWasNotReadLeavesItsField) {
+    int field = 7;
+    EXPECT_FALSE(TakeInto(field, ReadWhole("x", 1, 60)));
+    EXPECT_EQ(field, 7);
+    EXPECT_TRUE(TakeInto(field, ReadWhole("8", 1, 60)));
+    EXPECT_EQ(field, 8);
 }
 
 }  // namespace

@@ -186,8 +186,7 @@ QString EditorDialog::ShownIn(int row, int col) const {
         text != NumberText(*value))
         return ToQt(text);
     std::string shown = FormatNumber(*value, kGravityPattern);
-    double read = 0;
-    return ToQt(ReadNumber(shown, read) && read == *value ? shown : text);
+    return ToQt(ReadNumber(shown) == *value ? shown : text);
 }
 
 void EditorDialog::AddRanges(QBoxLayout& column) {
