@@ -1,0 +1,61 @@
+// Recipes, styles and folders by their names and ids, as the operations on them look them up.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "store/Database.h"
+#include "tree/TreeObjects.h"
+
+namespace tw {
+
+enum class FolderKind : std::uint8_t { Recipes, Styles };
+
+// Returns the key of that folder's entry in the tree.
+std::string FolderKey(FolderKind kind, std::int64_t id);
+// Returns "recipe folder" or "style folder".
+std::string FolderWord(FolderKind kind);
+// Returns the SQL condition that tells the rows of these folders in FOLDERS from the others.
+std::string FolderCondition(FolderKind kind);
+
+class ObjectLookup {
+  public:
+    // REQUIRES: both live for as long.
+    ObjectLookup(Database& database, TreeObjects& tree) : database_(database), tree_(tree) {}
+
+    // In the database. Names are trimmed.
+
+    // ID of the row of that name in the table, 0 when there is none.
+    std::int64_t IdByName(std::string_view name, std::string_view table) const;
+    // NAME of the row of that id, empty when there is none.
+    std::string NameById(std::int64_t id, std::string_view table) const;
+    // True if the table has a row of that name.
+    bool NameExists(std::string_view name, std::string_view table) const;
+    // True if a folder directly below that one has the name.
+    bool FolderNameExists(FolderKind kind, std::int64_t parentId, std::string_view name) const;
+    // The first column of all rows.
+    std::vector<std::int64_t> Ids(const std::string& sql, const SqlValues& values) const;
+    std::vector<std::int64_t> RecipesOfStyle(std::int64_t styleId) const;
+
+    // In the tree.
+
+    // The name in the tree, else in the table; nothing when neither holds the object.
+    std::optional<std::string> RecipeName(std::int64_t id) const;
+    std::optional<std::string> StyleName(std::int64_t id) const;
+    // True if the tree shows that folder; the root, 0, is one too.
+    bool IsFolder(FolderKind kind, std::int64_t id) const;
+    // True if dest is source or stands somewhere below it.
+    bool IsSubFolder(std::string_view sourceKey, std::string_view destKey) const;
+
+  private:
+    std::optional<std::string> ObjectName(const std::string& key, std::string_view table,
+                                          std::int64_t id) const;
+
+    Database& database_;
+    TreeObjects& tree_;
+};
+
+}  // namespace tw
