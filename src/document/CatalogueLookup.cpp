@@ -58,45 +58,45 @@ std::vector<std::string> CatalogueLookup::Names(CellNames list) const {
 }
 
 // The name of the row that a typed text stands for; the text itself when there is none.
-std::string CatalogueLookup::RowLiteral(CatalogueKind kind, std::string_view typed) const {
-    return SqlText(CatalogueNames(database_).RowOf(kind, typed).value_or(std::string(typed)));
+std::string CatalogueLookup::RowName(CatalogueKind kind, std::string_view typed) const {
+    return CatalogueNames(database_).RowOf(kind, typed).value_or(std::string(typed));
 }
 
 std::optional<FermentableFigures> CatalogueLookup::Fermentable(CatalogueKind kind,
                                                                std::string_view name) const {
-    const Recordset row = database_.OpenRecordset(
-        "SELECT NAME, (PPG_LO+PPG_HI)/2, (COLOR_LO+COLOR_HI)/2 FROM GRAINS WHERE NAME = " +
-        RowLiteral(kind, name) + (kind == CatalogueKind::Grain ? " AND GRAIN" : " AND NOT GRAIN"));
+    std::string sql = "SELECT NAME, (PPG_LO+PPG_HI)/2, (COLOR_LO+COLOR_HI)/2 FROM GRAINS WHERE NAME = ?";
+    sql.append(kind == CatalogueKind::Grain ? " AND GRAIN" : " AND NOT GRAIN");
+    const Recordset row = database_.OpenRecordset(sql, {RowName(kind, name)});
     if (row.AtEnd()) return std::nullopt;
     return FermentableFigures{NumberOf(row.Fields(1)), NumberOf(row.Fields(2))};
 }
 
 std::optional<HopFigures> CatalogueLookup::Hop(std::string_view name) const {
-    const Recordset row = database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM HOPS WHERE NAME = " +
-                                                  RowLiteral(CatalogueKind::Hop, name));
+    const Recordset row = database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM HOPS WHERE NAME = ?",
+                                                  {RowName(CatalogueKind::Hop, name)});
     if (row.AtEnd()) return std::nullopt;
     return HopFigures{NumberOf(row.Fields(1))};
 }
 
 std::optional<SugarFigures> CatalogueLookup::Sugar(std::string_view name) const {
     const Recordset row =
-        database_.OpenRecordset("SELECT NAME, (FERMENT_LO+FERMENT_HI)/2 FROM SUGARS WHERE NAME = " +
-                                RowLiteral(CatalogueKind::Sugar, name));
+        database_.OpenRecordset("SELECT NAME, (FERMENT_LO+FERMENT_HI)/2 FROM SUGARS WHERE NAME = ?",
+                                {RowName(CatalogueKind::Sugar, name)});
     if (row.AtEnd()) return std::nullopt;
     return SugarFigures{NumberOf(row.Fields(1))};
 }
 
 std::optional<YeastFigures> CatalogueLookup::Yeast(std::string_view name) const {
-    const Recordset row = database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM YEAST WHERE NAME = " +
-                                                  RowLiteral(CatalogueKind::Yeast, name));
+    const Recordset row = database_.OpenRecordset("SELECT NAME, (AA_LO+AA_HI)/2 FROM YEAST WHERE NAME = ?",
+                                                  {RowName(CatalogueKind::Yeast, name)});
     if (row.AtEnd()) return std::nullopt;
     return YeastFigures{NumberOf(row.Fields(1))};
 }
 
 std::optional<Ions> CatalogueLookup::IonsOf(CatalogueKind kind, std::string_view name) const {
     std::string sql = "SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM ";
-    sql.append(TableOf(kind)).append(" WHERE NAME = ").append(RowLiteral(kind, name));
-    const Recordset row = database_.OpenRecordset(sql);
+    sql.append(TableOf(kind)).append(" WHERE NAME = ?");
+    const Recordset row = database_.OpenRecordset(sql, {RowName(kind, name)});
     if (row.AtEnd()) return std::nullopt;
     return IonsIn(row);
 }
@@ -127,8 +127,7 @@ std::vector<StyleName> CatalogueLookup::Styles() const {
 
 std::optional<StyleFigures> CatalogueLookup::Style(std::int64_t id) const {
     // Even a row of the id 0 would be no style.
-    const Recordset row =
-        database_.OpenRecordset("SELECT * FROM STYLES WHERE ID <> 0 AND ID = " + std::to_string(id));
+    const Recordset row = database_.OpenRecordset("SELECT * FROM STYLES WHERE ID <> 0 AND ID = ?", {id});
     if (row.AtEnd()) return std::nullopt;
     StyleFigures style{RangeIn(row, "OG_LO", "OG_HI"),
                        RangeIn(row, "FG_LO", "FG_HI"),

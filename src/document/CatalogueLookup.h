@@ -80,7 +80,7 @@ class CatalogueLookup {
     std::optional<std::string> StyleNamed(std::string_view typed) const;
 
   private:
-    std::string RowLiteral(CatalogueKind kind, std::string_view typed) const;
+    std::string RowName(CatalogueKind kind, std::string_view typed) const;
     std::optional<Ions> IonsOf(CatalogueKind kind, std::string_view name) const;
 
     Database& database_;

@@ -11,8 +11,7 @@ namespace {
 
 bool FolderExists(Database& database, std::int64_t id) {
     return id == 0 ||
-           !database.OpenRecordset("SELECT ID FROM FOLDERS WHERE NOT STYLE AND ID = " + std::to_string(id))
-                .AtEnd();
+           !database.OpenRecordset("SELECT ID FROM FOLDERS WHERE NOT STYLE AND ID = ?", {id}).AtEnd();
 }
 
 // The figures look a hop's form up by its number.

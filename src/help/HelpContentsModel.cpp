@@ -17,8 +17,9 @@ void AppendChildren(Database& database, int parent, std::vector<HelpTopic>& topi
     const std::int64_t parentId =
         parent == HelpTopic::kTop ? kNoParent : topics[static_cast<std::size_t>(parent)].id;
     Recordset rows = database.OpenRecordset(
-        "SELECT TOPIC_NAME, TOPIC_ID, TOPIC_HELP_URL FROM HELP_CONTENTS WHERE PARENT_TOPIC_ID = " +
-        std::to_string(parentId) + " ORDER BY TOPIC_ID");
+        "SELECT TOPIC_NAME, TOPIC_ID, TOPIC_HELP_URL FROM HELP_CONTENTS"
+        " WHERE PARENT_TOPIC_ID = ? ORDER BY TOPIC_ID",
+        {parentId});
     for (; !rows.AtEnd(); rows.MoveNext()) {
         const std::int64_t id = rows.Fields("TOPIC_ID").Integer();
         // Two nodes of one key cannot stand in a tree; without this a ring of topics would have no end.

@@ -212,24 +212,24 @@ class Batch {
 
     void Read(Database& database, std::vector<ListRow>& rows) const {
         constexpr std::size_t kIdsInAStatement = 500;
-        std::string ids;
-        std::size_t count = 0, left = rows_.size();
+        SqlValues ids;
+        std::size_t left = rows_.size();
         for (const auto& [id, row] : rows_) {
-            ids.append(ids.empty() ? "" : ",").append(std::to_string(id));
+            ids.emplace_back(id);
             --left;
-            if (++count < kIdsInAStatement && left > 0) continue;
+            if (ids.size() < kIdsInAStatement && left > 0) continue;
             ReadSome(database, ids, rows);
             ids.clear();
-            count = 0;
         }
     }
 
   private:
-    void ReadSome(Database& database, const std::string& ids, std::vector<ListRow>& rows) const {
+    void ReadSome(Database& database, const SqlValues& ids, std::vector<ListRow>& rows) const {
         std::string sql = "SELECT ID";
         for (const std::string_view name : names_) sql.append(", ").append(name);
-        sql.append(" FROM ").append(table_).append(" WHERE ID IN (").append(ids).append(")");
-        Recordset objects = database.OpenRecordset(sql.append(condition_));
+        sql.append(" FROM ").append(table_).append(" WHERE ID IN (?");
+        for (std::size_t id = 1; id < ids.size(); ++id) sql.append(",?");
+        Recordset objects = database.OpenRecordset(sql.append(")").append(condition_), ids);
         if (objects.AtEnd()) return;
         const ShownFields<kCount> fields(objects, names_);
         for (; !objects.AtEnd(); objects.MoveNext()) {
