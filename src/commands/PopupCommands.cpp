@@ -44,12 +44,4 @@ std::string NameOf(PopupChoice choice) {
     return name;
 }
 
-std::optional<PopupChoice> FindPopupCommand(std::string_view name, int columns) {
-    for (const PopupRow& row : kPopupCommands)
-        if (row.id != PopupCommand::ArrangeBy && row.name == name) return row.id;
-    for (int column = 0; column < columns; ++column)
-        if (const PopupChoice choice(PopupCommand::ArrangeBy, column); NameOf(choice) == name) return choice;
-    return std::nullopt;
-}
-
 }  // namespace tw

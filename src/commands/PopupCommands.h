@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -52,11 +51,12 @@ inline constexpr const char* kOpenSavePopup = "mnuPopup";  // of the open and sa
 inline constexpr const char* kViewMenu = "mnuView";        // a sub-menu of both
 inline constexpr const char* kArrangeMenu = "mnuArrange";  // likewise
 
+// NewFolder in the menu of the open and save dialog: no "New Style" stands beside it there, so that N is its
+// access key.
+inline constexpr const char* kOpenSaveNewFolderCaption = "&New Folder";
+
 const PopupRow& RowOf(PopupCommand id);
 // The control name of the item, such as that of ArrangeBy with its column as the index.
 std::string NameOf(PopupChoice choice);
-// The command of that control name, for scripts; nothing for an unknown name. columns is the number of
-// columns that can be arranged by.
-std::optional<PopupChoice> FindPopupCommand(std::string_view name, int columns = 0);
 
 }  // namespace tw

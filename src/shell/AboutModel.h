@@ -1,28 +1,14 @@
-// The about window (frmAbout): labels and one button.
+// The about window (frmAbout).
 #pragma once
 
-#include <string>
-#include <string_view>
-#include <vector>
-
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 
 namespace tw {
 
-class AboutModel final : public DialogModel {
+// lblTitle, the program's title; lblVersion, "Version major.minor.revision"; cmdOK, which closes the window.
+class AboutModel final : public FormModel {
   public:
-    std::string FormName() const override { return "frmAbout"; }
-    // lblTitle, the program's title, and lblVersion, "Version major.minor.revision".
-    std::vector<DialogControl> Controls() const override;
-    // Nothing can be entered: always false.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdOK closes the window.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
-  private:
-    bool open_ = true;
+    AboutModel();
 };
 
 }  // namespace tw

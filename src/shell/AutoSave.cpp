@@ -1,6 +1,8 @@
 #include "shell/AutoSave.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "shell/DocumentManager.h"
 
@@ -15,24 +17,18 @@ bool AutoSaveMinutes::Tick(bool anyDocument, int every) {
     return minutes_ >= every;
 }
 
-std::vector<DialogControl> AutoSaveModel::Controls() const {
-    return {{"lblRecipe", recipeName_}, {"ProgressBar1", std::to_string(done_)}};
-}
-
-bool AutoSaveModel::SetControl(std::string_view, std::string_view) {
-    return false;
-}
-
-bool AutoSaveModel::Press(std::string_view) {
-    return false;
+AutoSaveModel::AutoSaveModel(const DocumentManager& documents, std::function<void(RecipeDocument&)> save)
+    : FormModel("frmAutoSave"), documents_(documents), save_(std::move(save)) {
+    AddControls({{"lblRecipe", [this] { return recipeName_; }},
+                 {"ProgressBar1", [this] { return std::to_string(done_); }}});
 }
 
 void AutoSaveModel::CloseBox() {
-    if (!running_) open_ = false;
+    if (!running_) Close();
 }
 
 void AutoSaveModel::FirstShown() {
-    if (!open_ || running_) return;
+    if (!IsOpen() || running_) return;
     running_ = true;
     // Events that run in between may close a document, so they are kept by key.
     std::vector<std::string> keys;
@@ -40,7 +36,7 @@ void AutoSaveModel::FirstShown() {
     total_ = static_cast<int>(keys.size());
     for (const std::string& key : keys) SaveOne(key);
     running_ = false;
-    open_ = false;
+    Close();
 }
 
 void AutoSaveModel::SaveOne(const std::string& key) {

@@ -4,11 +4,8 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
-#include <utility>
-#include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 
 namespace tw {
 
@@ -33,23 +30,16 @@ class AutoSaveMinutes {
 
 // The progress window: as soon as it is shown it saves each document silently, in the order of their opening,
 // changed or not, and closes. A document that has never been saved is passed over and counts in the progress.
-class AutoSaveModel final : public DialogModel {
+// lblRecipe, the name of the recipe being saved; ProgressBar1, the number of documents done.
+class AutoSaveModel final : public FormModel {
   public:
     // save saves a document silently and shows its own errors. Both must outlive the object.
-    AutoSaveModel(const DocumentManager& documents, std::function<void(RecipeDocument&)> save)
-        : documents_(documents), save_(std::move(save)) {}
+    AutoSaveModel(const DocumentManager& documents, std::function<void(RecipeDocument&)> save);
     // Called after each change of what the window shows: it paints, and lets waiting events run.
     void SetObserver(std::function<void()> observer) { observer_ = std::move(observer); }
 
-    std::string FormName() const override { return "frmAutoSave"; }
-    // lblRecipe, the name of the recipe being saved, and ProgressBar1, the number of documents done.
-    std::vector<DialogControl> Controls() const override;
-    // Nothing can be entered or pressed: always false.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    bool Press(std::string_view button) override;
     // The run cannot be stopped; before it the close box closes the window.
     void CloseBox() override;
-    bool IsOpen() const override { return open_; }
     // Saves and closes. An error in one save has had its box and does not keep the others from theirs.
     void FirstShown() override;
 
@@ -67,7 +57,6 @@ class AutoSaveModel final : public DialogModel {
     std::string recipeName_;
     int done_ = 0;
     int total_ = 0;
-    bool open_ = true;
     bool running_ = false;
 };
 

@@ -31,7 +31,7 @@ void DatabaseNotices::NotifyRecipeDeleted(const std::string& name) {
 }
 
 void DatabaseNotices::NotifyRecipeFolderDeleted(std::int64_t folderId) {
-    if (browse_.nodeKey == "F:" + std::to_string(folderId)) browse_.nodeKey = kRecipeFoldersKey;
+    if (browse_.nodeKey == RecipeFolderKey(folderId)) browse_.nodeKey = kRecipeFoldersKey;
     documents_.ForEach(
         [&](RecipeDocument& document) { document.Notices().NotifyRecipeFolderDeleted(folderId); });
 }

@@ -6,6 +6,27 @@
 
 namespace tw {
 
+NameConflictModel::NameConflictModel(std::string recipeName, bool dirIn, MessagePort& messages)
+    : FormModel("frmNameConflict"),
+      recipeName_(std::move(recipeName)),
+      newName_(recipeName_),
+      dirIn_(dirIn),
+      messages_(messages) {
+    AddControls({
+        {"lblName", [this] { return recipeName_; }},
+        TextEntry("txtNewName", newName_),
+        {"lblRename", [this] { return RenameText(); }},
+        {"lblSkip", [this] { return SkipText(); }},
+        {"lblAbort", [this] { return AbortText(); }},
+    });
+    AddButtons({
+        {"cmdOverwrite", [this] { EndWith(ConflictResponse::Overwrite); }},
+        {"cmdAbort", [this] { EndWith(ConflictResponse::Abort); }},
+        {"cmdSkip", [this] { EndWith(ConflictResponse::Skip); }},
+        {"cmdRename", [this] { Rename(); }},
+    });
+}
+
 std::string NameConflictModel::RenameText() const {
     return Word() + " the recipe with a different name";
 }
@@ -18,35 +39,6 @@ std::string NameConflictModel::AbortText() const {
     return "Abort the " + SmallWord() + " process";
 }
 
-std::vector<DialogControl> NameConflictModel::Controls() const {
-    return {{"lblName", recipeName_},
-            {"txtNewName", newName_},
-            {"lblRename", RenameText()},
-            {"lblSkip", SkipText()},
-            {"lblAbort", AbortText()}};
-}
-
-bool NameConflictModel::SetControl(std::string_view name, std::string_view text) {
-    if (name != "txtNewName") return false;
-    newName_ = text;
-    return true;
-}
-
-bool NameConflictModel::Press(std::string_view button) {
-    if (button == "cmdRename") {
-        Rename();
-        return true;
-    }
-    for (const auto& [name, response] :
-         {std::pair("cmdOverwrite", ConflictResponse::Overwrite),
-          std::pair("cmdAbort", ConflictResponse::Abort), std::pair("cmdSkip", ConflictResponse::Skip)}) {
-        if (button != name) continue;
-        Close(response);
-        return true;
-    }
-    return false;
-}
-
 void NameConflictModel::Rename() {
     if (IsBlank(newName_)) {
         messages_.ShowMessage("No Name", "To rename you must enter a recipe name");
@@ -54,13 +46,13 @@ void NameConflictModel::Rename() {
         messages_.ShowMessage("Same Name", "To rename you must enter a different recipe name");
     } else {
         answer_.newName = newName_;
-        Close(ConflictResponse::Rename);
+        EndWith(ConflictResponse::Rename);
     }
 }
 
-void NameConflictModel::Close(ConflictResponse response) {
+void NameConflictModel::EndWith(ConflictResponse response) {
     answer_.response = response;
-    open_ = false;
+    Close();
 }
 
 }  // namespace tw

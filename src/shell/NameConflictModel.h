@@ -2,22 +2,20 @@
 #pragma once
 
 #include <string>
-#include <string_view>
-#include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "platform/Ports.h"
 #include "store/RecipeCopy.h"
 
 namespace tw {
 
-class NameConflictModel final : public DialogModel {
+// lblName; txtNewName; lblRename, lblSkip and lblAbort; cmdOverwrite, cmdAbort, cmdSkip, and cmdRename, which
+// stays open for a blank name and for the old one. The close box aborts.
+class NameConflictModel final : public FormModel {
   public:
     // dirIn tells an import from an export. messages must outlive the dialog.
-    NameConflictModel(std::string recipeName, bool dirIn, MessagePort& messages)
-        : recipeName_(std::move(recipeName)), newName_(recipeName_), dirIn_(dirIn), messages_(messages) {}
+    NameConflictModel(std::string recipeName, bool dirIn, MessagePort& messages);
 
-    // The close box aborts.
     const ConflictAnswer& Result() const { return answer_; }
     const std::string& RecipeName() const { return recipeName_; }
     // The text of txtNewName.
@@ -26,21 +24,13 @@ class NameConflictModel final : public DialogModel {
     std::string SkipText() const;
     std::string AbortText() const;
 
-    std::string FormName() const override { return "frmNameConflict"; }
-    // lblName, txtNewName, lblRename, lblSkip, lblAbort.
-    std::vector<DialogControl> Controls() const override;
-    // txtNewName.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdOverwrite, cmdAbort, cmdSkip, cmdRename; the last one stays open for a blank name and for the old
-    // one.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { Close(ConflictResponse::Abort); }
-    bool IsOpen() const override { return open_; }
+    void CloseBox() override { EndWith(ConflictResponse::Abort); }
 
   private:
     std::string Word() const { return dirIn_ ? "Import" : "Export"; }
     std::string SmallWord() const { return dirIn_ ? "import" : "export"; }
-    void Close(ConflictResponse response);
+    // Closes the dialog with that answer.
+    void EndWith(ConflictResponse response);
     void Rename();
 
     std::string recipeName_;
@@ -48,7 +38,6 @@ class NameConflictModel final : public DialogModel {
     bool dirIn_;
     MessagePort& messages_;
     ConflictAnswer answer_;
-    bool open_ = true;
 };
 
 }  // namespace tw

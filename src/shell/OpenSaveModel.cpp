@@ -14,30 +14,73 @@ namespace {
 
 constexpr std::array<std::string_view, 3> kOkCaptions = {"&Open", "&Save", "&Delete"};
 
-bool IsFolderKey(std::string_view key) {
-    return key.starts_with("F:");
-}
-
-// The command of a button or of a menu item.
-std::optional<PopupChoice> CommandOf(std::string_view control) {
-    if (control == "cmdNewFolder") return PopupCommand::NewFolder;
-    if (control == "cmdList") return PopupCommand::List;
-    if (control == "cmdDetails") return PopupCommand::Details;
-    return FindListCommand(control);
-}
-
 }  // namespace
 
 OpenSaveModel::OpenSaveModel(Style style, const ObjectAccess& access, const OpenSaveFields& fields)
-    : style_(style), access_(access), look_(fields.look), list_(access, look_, false) {
+    : FormModel("frmOpenSave"),
+      style_(style),
+      access_(access),
+      look_(fields.look),
+      list_(access, look_, false) {
+    DeclareControls();
+    DeclareButtons();
     const std::string_view first = style == Style::Save ? kRecipeFoldersKey : kAllRecipesKey;
     GoTo(style == Style::Open && HasFolder(fields.nodeKey) ? std::string_view(fields.nodeKey) : first);
+}
+
+void OpenSaveModel::DeclareControls() {
+    AddControls({
+        {"icmbFolder", [this] { return FolderName(); },
+         [this](std::string_view text) { return ChooseFolder(text); }},
+        {"lvNames", [this] { return list_.Rows().SelectedText(); },
+         [this](std::string_view name) { return ChooseRow(name); }},
+        {"txtName", [this] { return text_; }, [this](std::string_view name) { return TypeName(name); }},
+    });
+    FormControl folderId{"FolderID", [this] { return std::to_string(FolderID()); },
+                         [this](std::string_view id) { return EnterFolderId(id); }};
+    if (style_ != Style::Save) folderId.show = {};
+    AddControls({
+        std::move(folderId),
+        {"txtFind",
+         {},
+         [this](std::string_view text) {
+             Find(text);
+             return true;
+         }},
+        {"txtLabel", {}, [this](std::string_view name) { return EnterLabel(name); }},
+    });
+}
+
+void OpenSaveModel::DeclareButtons() {
+    // A save under the open dialog has given rows new keys.
+    const auto run = [this](auto command) {
+        return [this, command] {
+            list_.FollowSaves();
+            command();
+        };
+    };
+    const auto newFolder = run([this] { NewFolder(); });
+    const auto canAddFolder = [this] { return CanHoldFolders(NodeKey()); };
+    AddButtons({
+        {"cmdOK", [this] { Ok(); }},
+        {"cmdCancel", [this] { CloseBox(); }},
+        {"cmdBack", run([this] { GoBack(); }), [this] { return !history_.empty(); }},
+        {"cmdUp", run([this] { GoUp(); }), [this] { return CanGoUp(); }},
+        {"cmdNewFolder", newFolder, canAddFolder},
+        {"cmdList", [this] { Run(PopupCommand::List); }},
+        {"cmdDetails", [this] { Run(PopupCommand::Details); }},
+        {NameOf(PopupCommand::NewFolder), newFolder, canAddFolder},
+        {NameOf(PopupCommand::Rename), run([this] { list_.BeginEdit(list_.Rows().Selected()); }),
+         [this] { return list_.CanRename(list_.Rows().Selected()); }},
+        {NameOf(PopupCommand::LineUp), run([this] { list_.Sort(); }), [this] { return ShowsIcons(); }},
+    });
+    AddButtons(LookButtons(look_, [this] { list_.Sort(); }));
 }
 
 void OpenSaveModel::SetRecipe(std::string_view name, std::int64_t folderId) {
     text_ = name;
     recipe_ = Trim(name);
-    const std::string key = "F:" + std::to_string(folderId);
+    const std::string key = RecipeFolderKey(folderId);
     GoTo(folderId >= 0 && HasFolder(key) ? std::string_view(key) : kRecipeFoldersKey);
 }
 
@@ -52,11 +95,11 @@ std::string OpenSaveModel::OkCaption() const {
 }
 
 std::int64_t OpenSaveModel::FolderID() const {
-    return IsFolderKey(NodeKey()) ? IdOfKey(NodeKey()) : -1;
+    return IsRecipeFolderKey(NodeKey()) ? IdOfKey(NodeKey()) : -1;
 }
 
 bool OpenSaveModel::HasFolder(std::string_view key) const {
-    return (IsFolderKey(key) || key == kDatabaseKey) && access_.tree.NodeExists(key);
+    return (IsRecipeFolderKey(key) || key == kDatabaseKey) && access_.tree.NodeExists(key);
 }
 
 void OpenSaveModel::GoTo(std::string_view key) {
@@ -79,9 +122,18 @@ void OpenSaveModel::GoBack() {
     }
 }
 
-void OpenSaveModel::GoUp() {
+bool OpenSaveModel::CanGoUp() const {
     const TWNode* const node = access_.tree.Nodes(NodeKey());
-    if (node && node->Parent()) EnterFolder(node->Parent()->Key());
+    return node && node->Parent();
+}
+
+void OpenSaveModel::GoUp() {
+    if (CanGoUp()) EnterFolder(access_.tree.Nodes(NodeKey())->Parent()->Key());
+}
+
+std::string OpenSaveModel::FolderName() const {
+    const TWNode* const folder = access_.tree.Nodes(NodeKey());
+    return folder ? std::string(folder->Name()) : std::string();
 }
 
 std::vector<OpenSaveModel::FolderEntry> OpenSaveModel::Folders() const {
@@ -94,32 +146,13 @@ std::vector<OpenSaveModel::FolderEntry> OpenSaveModel::Folders() const {
     return folders;
 }
 
-bool OpenSaveModel::IsEnabled(std::string_view control) const {
-    if (control == "cmdBack") return !history_.empty();
-    if (control == "cmdUp") {
-        const TWNode* const node = access_.tree.Nodes(NodeKey());
-        return node && node->Parent();
-    }
-    const std::optional<PopupChoice> choice = CommandOf(control);
-    return !choice || IsEnabled(choice->command);
-}
-
-bool OpenSaveModel::IsEnabled(PopupCommand command) const {
-    switch (command) {
-        case PopupCommand::NewFolder:
-            return CanHoldFolders(NodeKey());
-        case PopupCommand::Rename:
-            return list_.CanRename(list_.Rows().Selected());
-        case PopupCommand::LineUp:
-            return look_.viewType == ListViewType::LargeIcons || look_.viewType == ListViewType::SmallIcons;
-        default:
-            return true;
-    }
+bool OpenSaveModel::ShowsIcons() const {
+    return look_.viewType == ListViewType::LargeIcons || look_.viewType == ListViewType::SmallIcons;
 }
 
 void OpenSaveModel::RowChosen() {
     nameTouched_ = false;
-    if (list_.SelectedKey().starts_with("R:")) text_ = list_.Rows().SelectedText();
+    if (IsRecipeKey(list_.SelectedKey())) text_ = list_.Rows().SelectedText();
 }
 
 void OpenSaveModel::OpenRow() {
@@ -143,7 +176,7 @@ bool OpenSaveModel::RenameRow(std::string_view newName) {
 }
 
 bool OpenSaveModel::CanDrop(const std::vector<std::string>& keys, std::string_view targetKey) const {
-    return IsFolderKey(targetKey) && !keys.empty() &&
+    return IsRecipeFolderKey(targetKey) && !keys.empty() &&
            std::ranges::all_of(keys, [&](const std::string& key) { return CanDropOn(key, targetKey); });
 }
 
@@ -160,8 +193,7 @@ void OpenSaveModel::AcceptName() {
     const std::string name(Trim(text_));
     if (style_ == Style::Save ? !AcceptsToSave(name) : !AcceptsToOpen(name)) return;
     beerName_ = name;
-    cancelled_ = false;
-    open_ = false;
+    Accept();
 }
 
 bool OpenSaveModel::AcceptsToOpen(const std::string& name) {
@@ -192,90 +224,46 @@ bool OpenSaveModel::AcceptsToSave(const std::string& name) {
                         Question::YesNo) == Answer::Yes;
 }
 
-std::vector<DialogControl> OpenSaveModel::Controls() const {
-    const TWNode* const folder = access_.tree.Nodes(NodeKey());
-    std::vector<DialogControl> controls{{"icmbFolder", folder ? std::string(folder->Name()) : std::string()},
-                                        {"lvNames", list_.Rows().SelectedText()},
-                                        {"txtName", text_}};
-    if (style_ == Style::Save) controls.push_back({"FolderID", std::to_string(FolderID())});
-    return controls;
+bool OpenSaveModel::ChooseFolder(std::string_view text) {
+    for (const FolderEntry& folder : Folders())
+        if (SameName(folder.name, text)) return EnterFolder(folder.key);
+    return EnterFolder(text);
 }
 
-bool OpenSaveModel::SetControl(std::string_view name, std::string_view text) {
-    if (name == "txtName") {
-        text_ = text;
-        nameTouched_ = true;
-        return true;
-    }
-    if (name == "lvNames") {
-        if (!list_.ChooseByText(text)) return false;
-        RowChosen();
-        return true;
-    }
-    if (name == "icmbFolder") {
-        for (const FolderEntry& folder : Folders())
-            if (SameName(folder.name, text)) return EnterFolder(folder.key);
-        return EnterFolder(text);
-    }
-    if (name == "FolderID") {
-        std::int64_t id = 0;
-        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
-        const bool isNumber = error == std::errc() && end == text.data() + text.size();
-        return isNumber && EnterFolder("F:" + std::to_string(id));
-    }
-    if (name == "txtFind") {
-        Find(text);
-        return true;
-    }
-    if (name != "txtLabel" || list_.EditedRow() == ListTable::kNoRow) return false;
-    RenameRow(text);
+bool OpenSaveModel::EnterFolderId(std::string_view text) {
+    std::int64_t id = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
+    const bool isNumber = error == std::errc() && end == text.data() + text.size();
+    return isNumber && EnterFolder(RecipeFolderKey(id));
+}
+
+bool OpenSaveModel::ChooseRow(std::string_view name) {
+    if (!list_.ChooseByText(name)) return false;
+    RowChosen();
     return true;
 }
 
-bool OpenSaveModel::Run(PopupChoice choice) {
-    if (!IsEnabled(choice.command)) return true;
-    if (TakeLookCommand(look_, choice)) {
-        list_.Sort();
-        return true;
-    }
-    list_.FollowSaves();
-    switch (choice.command) {
-        case PopupCommand::NewFolder:
-            NewFolder();
-            return true;
-        case PopupCommand::Rename:
-            list_.BeginEdit(list_.Rows().Selected());
-            return true;
-        case PopupCommand::LineUp:
-            list_.Sort();
-            return true;
-        default:
-            return false;
-    }
+bool OpenSaveModel::TypeName(std::string_view name) {
+    text_ = name;
+    nameTouched_ = true;
+    return true;
 }
 
-bool OpenSaveModel::Press(std::string_view button) {
-    if (button == "cmdCancel") {
-        CloseBox();
-        return true;
-    }
-    if (button == "cmdOK") {
-        // A folder that was chosen without a name being typed is entered.
-        const std::string key = list_.SelectedKey();
-        if (nameTouched_ || !EnterFolder(key)) AcceptName();
-        return true;
-    }
-    if (const std::optional<PopupChoice> choice = CommandOf(button)) return Run(*choice);
-    if (button != "cmdBack" && button != "cmdUp") return false;
-    if (!IsEnabled(button)) return true;
-    list_.FollowSaves();
-    button == "cmdBack" ? GoBack() : GoUp();
+bool OpenSaveModel::EnterLabel(std::string_view newName) {
+    if (list_.EditedRow() == ListTable::kNoRow) return false;
+    RenameRow(newName);
     return true;
+}
+
+void OpenSaveModel::Ok() {
+    // A folder that was chosen without a name being typed is entered.
+    const std::string key = list_.SelectedKey();
+    if (nameTouched_ || !EnterFolder(key)) AcceptName();
 }
 
 void OpenSaveModel::CloseBox() {
     beerName_.clear();
-    open_ = false;
+    Close();
 }
 
 }  // namespace tw

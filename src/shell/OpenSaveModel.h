@@ -7,18 +7,24 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
+#include "tree/NodeKey.h"
 #include "tree/NodeList.h"
 
 namespace tw {
 
 // What the shell keeps of the dialog from one use to the next.
 struct OpenSaveFields {
-    std::string nodeKey = "F:0";  // of the folder shown last
+    std::string nodeKey{kRecipeFoldersKey};  // of the folder shown last
     ListLook look;
 };
 
-class OpenSaveModel final : public DialogModel {
+// icmbFolder shows the name of the current folder and takes a folder's key, or the name of one that it lists;
+// lvNames shows and takes the name of the chosen row; txtName; FolderID, which shows only when the dialog
+// saves, takes the id of a recipe folder, -1 for all recipes; txtFind takes what to look for; txtLabel takes
+// the new name of the row that is being edited, which ends the edit. The buttons, and the items of the menu
+// by their control names; cmdOK stays open for what it refuses.
+class OpenSaveModel final : public FormModel {
   public:
     enum class Style : int { Open, Save, Delete };
 
@@ -43,8 +49,6 @@ class OpenSaveModel final : public DialogModel {
     // "&Open", "&Save" or "&Delete".
     std::string OkCaption() const;
 
-    // True until cmdOK has accepted a name.
-    bool Cancelled() const { return cancelled_; }
     // The accepted name, trimmed; empty when cancelled.
     const std::string& BeerName() const { return beerName_; }
     // Of the current folder; negative for one that holds no recipe of its own.
@@ -57,14 +61,13 @@ class OpenSaveModel final : public DialogModel {
     const ListLook& Look() const { return look_; }
     std::vector<FolderEntry> Folders() const;
     const std::string& NameText() const { return text_; }
-    // Whether a button or menu item is enabled, by its control name; true for any other name.
-    bool IsEnabled(std::string_view control) const override;
-    bool IsEnabled(PopupCommand command) const;
+    using FormModel::IsEnabled;
+    bool IsEnabled(PopupCommand command) const { return IsEnabled(NameOf(command)); }
 
     // What the brewer does.
 
     // Does what the item of the menu does; nothing while it is disabled. False for one of another window.
-    bool Run(PopupChoice choice);
+    bool Run(PopupChoice choice) { return Press(NameOf(choice)); }
     // Enters a folder that the dialog shows; the way back leads here. False for any other key.
     bool EnterFolder(std::string_view key);
     // A row has been chosen: a recipe's name goes into the box.
@@ -79,26 +82,25 @@ class OpenSaveModel final : public DialogModel {
     bool CanDrop(const std::vector<std::string>& keys, std::string_view targetKey) const;
     // Moves them, in their order, until one is refused; those moved leave the list.
     void Drop(const std::vector<std::string>& keys, std::string_view targetKey);
-
-    std::string FormName() const override { return "frmOpenSave"; }
-    // icmbFolder, the current folder's name; lvNames, the chosen row's; txtName; FolderID when it saves.
-    std::vector<DialogControl> Controls() const override;
-    // icmbFolder takes a folder's key, or the name of one that it lists; lvNames the name of a row; FolderID
-    // the id of a recipe folder, -1 for all recipes; txtFind what to look for; txtLabel the new name of the
-    // row that is being edited, which ends the edit.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // The buttons, and the items of the menu by their control names, see Run. cmdOK stays open for what it
-    // refuses. A disabled one does nothing.
-    bool Press(std::string_view button) override;
     void CloseBox() override;
-    bool IsOpen() const override { return open_; }
 
   private:
+    void DeclareControls();
+    void DeclareButtons();
+    std::string FolderName() const;
+    bool ChooseFolder(std::string_view text);
+    bool EnterFolderId(std::string_view text);
+    bool ChooseRow(std::string_view name);
+    bool TypeName(std::string_view name);
+    bool EnterLabel(std::string_view newName);
     bool HasFolder(std::string_view key) const;
     void GoTo(std::string_view key);
     void GoBack();
+    bool CanGoUp() const;
     void GoUp();
+    bool ShowsIcons() const;
     void NewFolder();
+    void Ok();
     void AcceptName();
     bool AcceptsToOpen(const std::string& name);
     bool AcceptsToSave(const std::string& name);
@@ -112,8 +114,6 @@ class OpenSaveModel final : public DialogModel {
     std::string recipe_;                // name of the recipe that is being saved
     std::string beerName_;
     bool nameTouched_ = false;  // typed in since a row was chosen
-    bool cancelled_ = true;
-    bool open_ = true;
 };
 
 }  // namespace tw

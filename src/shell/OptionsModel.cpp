@@ -56,10 +56,16 @@ std::optional<double> ReadWhole(std::string_view text) {
 }  // namespace
 
 OptionsModel::OptionsModel(SettingsInUse& settings, Database& database, MessagePort& messages)
-    : settings_(settings), database_(database), messages_(messages) {
+    : FormModel("frmOptions"), settings_(settings), database_(database), messages_(messages) {
     FillDefaultsTab();
     FillSettingsTab();
     FillAppearanceTab();
+    AddControls({{"UpDown1", {}, [this](std::string_view direction) { return PressUpDown(direction); }}});
+    AddButtons({
+        {NameOf(PopupCommand::ResetColors), [this] { ResetColors(); }},
+        {"cmdOK", [this] { Ok(); }},
+        {"cmdCancel", [this] { Close(); }},
+    });
 }
 
 void OptionsModel::FillDefaultsTab() {
@@ -93,33 +99,40 @@ void OptionsModel::FillAppearanceTab() {
     const int buttons = s.buttonStyle == 0 ? 0 : 1;
     int index = 0;
     for (const std::string_view name : kIconOptions)
-        controls_.push_back({Kind::Option, std::string(name), YesNo(index++ == icons)});
+        Add({Kind::Option, std::string(name), YesNo(index++ == icons)});
     index = 0;
     for (const std::string_view name : kButtonOptions)
-        controls_.push_back({Kind::Option, std::string(name), YesNo(index++ == buttons)});
+        Add({Kind::Option, std::string(name), YesNo(index++ == buttons)});
     for (const ColorRow& row : kColors) {
         const std::optional<int>& color = s.*row.field;
-        controls_.push_back({Kind::Color,
-                             std::string(row.picture),
-                             color ? std::to_string(*color) : row.Default(),
-                             {},
-                             color.has_value()});
+        Add({Kind::Color,
+             std::string(row.picture),
+             color ? std::to_string(*color) : row.Default(),
+             {},
+             color.has_value()});
     }
+}
+
+void OptionsModel::Add(Control entry) {
+    const std::string& name = entry.name;
+    AddControls({{name, [this, name] { return Text(name); },
+                  [this, name](std::string_view text) { return TakeEntry(name, text); }}});
+    options_.push_back(std::move(entry));
 }
 
 void OptionsModel::AddList(std::string_view name, std::vector<std::string> entries, int index) {
     // A stored number that names no entry counts as the first.
     const bool known = index >= 0 && index < static_cast<int>(entries.size());
     std::string text = entries[known ? static_cast<std::size_t>(index) : 0];
-    controls_.push_back({Kind::List, std::string(name), std::move(text), std::move(entries)});
+    Add({Kind::List, std::string(name), std::move(text), std::move(entries)});
 }
 
 void OptionsModel::AddCheck(std::string_view name, bool checked) {
-    controls_.push_back({Kind::Check, std::string(name), YesNo(checked)});
+    Add({Kind::Check, std::string(name), YesNo(checked)});
 }
 
 void OptionsModel::AddText(std::string_view name, std::string_view text) {
-    controls_.push_back({Kind::Text, std::string(name), std::string(text)});
+    Add({Kind::Text, std::string(name), std::string(text)});
 }
 
 void OptionsModel::PopulateWaterProfiles() {
@@ -134,20 +147,15 @@ void OptionsModel::PopulateWaterProfiles() {
     }
 }
 
-const OptionsModel::Control* OptionsModel::TryFind(std::string_view name) const {
-    const auto found = std::ranges::find(controls_, name, &Control::name);
-    return found == controls_.end() ? nullptr : &*found;
-}
-
 const OptionsModel::Control& OptionsModel::Find(std::string_view name) const {
-    const Control* control = TryFind(name);
-    assert(control);
-    return *control;
+    const auto found = std::ranges::find(options_, name, &Control::name);
+    assert(found != options_.end());
+    return *found;
 }
 
 OptionsModel::Control& OptionsModel::Find(std::string_view name) {
-    const auto found = std::ranges::find(controls_, name, &Control::name);
-    assert(found != controls_.end());
+    const auto found = std::ranges::find(options_, name, &Control::name);
+    assert(found != options_.end());
     return *found;
 }
 
@@ -241,20 +249,13 @@ void OptionsModel::StepSaveInc(int by) {
     field.text = std::to_string(static_cast<int>(value));
 }
 
-std::vector<DialogControl> OptionsModel::Controls() const {
-    std::vector<DialogControl> controls;
-    controls.reserve(controls_.size());
-    for (const Control& control : controls_) controls.push_back({control.name, control.text});
-    return controls;
+bool OptionsModel::PressUpDown(std::string_view direction) {
+    if (direction != "up" && direction != "down") return false;
+    StepSaveInc(direction == "up" ? 1 : -1);
+    return true;
 }
 
-bool OptionsModel::SetControl(std::string_view name, std::string_view text) {
-    if (name == "UpDown1") {
-        if (text != "up" && text != "down") return false;
-        StepSaveInc(text == "up" ? 1 : -1);
-        return true;
-    }
-    if (!TryFind(name)) return false;
+bool OptionsModel::TakeEntry(std::string_view name, std::string_view text) {
     if (focused_ != name) {
         // A refused field has its old text again and can be left.
         LeaveField();
@@ -297,21 +298,9 @@ bool OptionsModel::Enter(Control& control, std::string_view text) {
 }
 
 void OptionsModel::ChooseOption(Control& option) {
-    for (Control& other : controls_)
+    for (Control& other : options_)
         if (other.kind == Kind::Option && GroupOf(other.name) == GroupOf(option.name)) other.text = "no";
     option.text = "yes";
-}
-
-bool OptionsModel::Press(std::string_view button) {
-    if (button == "cmdCancel")
-        CloseBox();
-    else if (button == RowOf(PopupCommand::ResetColors).name)
-        ResetColors();
-    else if (button == "cmdOK")
-        Ok();
-    else
-        return false;
-    return true;
 }
 
 void OptionsModel::ResetColors() {
@@ -334,7 +323,7 @@ void OptionsModel::Ok() {
     ApplyDefaults();
     ApplySettings();
     ApplyAppearance();
-    open_ = false;
+    Accept();
 }
 
 void OptionsModel::ApplyDefaults() {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "platform/Ports.h"
 
 namespace tw {
@@ -16,7 +16,14 @@ namespace tw {
 class Database;
 class SettingsInUse;
 
-class OptionsModel final : public DialogModel {
+// The controls stand in the order of the tabs. Lists show the text of their choice and take one of their
+// entries; check boxes and option buttons show "yes" or "no"; the color pictures show decimal numbers and
+// take one from 0 to 16777215, of which 0 (black) is kept as 1, since 0 stands for no color; UpDown1 takes
+// "up" or "down". An entry moves the focus to its control, so that the field left behind is checked; a
+// disabled control takes its entry all the same, so that a script can name the controls in any order. cmdOK
+// stays open when the field with the focus is refused; cmdCancel; mnuResetColors sets the four pictures back
+// to their defaults, as if no color had ever been chosen.
+class OptionsModel final : public FormModel {
   public:
     // Fills the controls from the settings, and the list of water profiles from the database. All must
     // outlive the dialog.
@@ -26,7 +33,7 @@ class OptionsModel final : public DialogModel {
     // exists selects nothing.
     void PopulateWaterProfiles();
 
-    // What a control shows, in the form that Controls gives. REQUIRES: the control exists.
+    // What a control shows, in the form of Controls. REQUIRES: the control exists.
     const std::string& Text(std::string_view name) const { return Find(name).text; }
     // The entries of a list. REQUIRES: the list exists.
     const std::vector<std::string>& Entries(std::string_view list) const { return Find(list).entries; }
@@ -52,21 +59,6 @@ class OptionsModel final : public DialogModel {
     // An arrow of UpDown1: one minute up or down, or a beep at 1 and 60. Nothing while it is off.
     void StepSaveInc(int by);
 
-    std::string FormName() const override { return "frmOptions"; }
-    // In the order of the tabs. Lists show the text of their choice, check boxes and option buttons "yes" or
-    // "no", the colour pictures decimal numbers.
-    std::vector<DialogControl> Controls() const override;
-    // Lists take one of their entries, option buttons "yes", pictures a number from 0 to 16777215 of which 0
-    // (black) is kept as 1, since 0 stands for no colour. UpDown1 takes "up" or "down". Entering a control
-    // moves the focus to it, so that the field left behind is checked; one that is off takes its entry all
-    // the same, so that a script can name its controls in any order.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdOK stays open when the field with the focus is refused; cmdCancel; mnuResetColors sets the four
-    // pictures back to their defaults, as if no colour had ever been chosen.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
     enum class Kind { List, Check, Text, Option, Color };
     struct Control {
@@ -80,16 +72,18 @@ class OptionsModel final : public DialogModel {
     void FillDefaultsTab();
     void FillSettingsTab();
     void FillAppearanceTab();
+    void Add(Control entry);
     void AddList(std::string_view name, std::vector<std::string> entries, int index);
     void AddCheck(std::string_view name, bool checked);
     void AddText(std::string_view name, std::string_view text);
 
-    const Control* TryFind(std::string_view name) const;
     const Control& Find(std::string_view name) const;
     Control& Find(std::string_view name);
     bool Checked(std::string_view name) const { return Text(name) == "yes"; }
     int IndexOf(std::string_view list) const;
 
+    bool PressUpDown(std::string_view direction);
+    bool TakeEntry(std::string_view name, std::string_view text);
     bool Enter(Control& control, std::string_view text);
     void ChooseOption(Control& option);
     bool AcceptsText(const Control& field);
@@ -106,10 +100,9 @@ class OptionsModel final : public DialogModel {
     SettingsInUse& settings_;
     Database& database_;
     MessagePort& messages_;
-    std::vector<Control> controls_;
+    std::vector<Control> options_;
     std::string focused_;
     std::string remembered_;  // the text of the focused field when it got the focus
-    bool open_ = true;
 };
 
 }  // namespace tw

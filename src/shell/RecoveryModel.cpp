@@ -22,7 +22,19 @@ std::string TwoDigits(int number) {
 }  // namespace
 
 RecoveryModel::RecoveryModel(LostRecipes& recipes, MessagePort& messages, std::vector<LostRecipe> lost)
-    : recipes_(recipes), messages_(messages), lost_(std::move(lost)), open_(!lost_.empty()) {}
+    : FormModel("frmRecovery"), recipes_(recipes), messages_(messages), lost_(std::move(lost)) {
+    AddControls({{"lstRecipes", [this] { return SelectedEntry(); },
+                  [this](std::string_view entry) { return SelectEntry(entry); }}});
+    const auto isOpen = [this] { return IsOpen(); };
+    AddButtons({
+        {"cmdRestore", [this] { RestoreSelected(); }, isOpen},
+        {"cmdRestoreAll", [this] { RestoreAll(); }, isOpen},
+        {"cmdDiscard", [this] { DiscardSelected(); }, isOpen},
+        {"cmdDiscardAll", [this] { DiscardAll(); }, isOpen},
+        {"cmdClose", [this] { Close(); }},
+    });
+    if (lost_.empty()) Close();
+}
 
 std::vector<std::string> RecoveryModel::Entries() const {
     std::vector<std::string> entries;
@@ -36,41 +48,22 @@ void RecoveryModel::Select(int index) {
     if (index >= 0 && index < static_cast<int>(lost_.size())) selected_ = index;
 }
 
-std::vector<DialogControl> RecoveryModel::Controls() const {
-    return {{"lstRecipes", lost_.empty() ? std::string() : Entries()[static_cast<std::size_t>(selected_)]}};
+std::string RecoveryModel::SelectedEntry() const {
+    return lost_.empty() ? std::string() : Entries()[static_cast<std::size_t>(selected_)];
 }
 
-bool RecoveryModel::SetControl(std::string_view name, std::string_view text) {
+bool RecoveryModel::SelectEntry(std::string_view entry) {
     const std::vector<std::string> entries = Entries();
-    const auto found = std::ranges::find(entries, text);
-    if (name != "lstRecipes" || found == entries.end()) return false;
+    const auto found = std::ranges::find(entries, entry);
+    if (found == entries.end()) return false;
     Select(static_cast<int>(found - entries.begin()));
-    return true;
-}
-
-bool RecoveryModel::Press(std::string_view button) {
-    if (button == "cmdClose") {
-        open_ = false;
-        return true;
-    }
-    struct Row {
-        std::string_view name;
-        void (RecoveryModel::*action)();
-    };
-    static constexpr Row kRows[] = {{"cmdRestore", &RecoveryModel::RestoreSelected},
-                                    {"cmdRestoreAll", &RecoveryModel::RestoreAll},
-                                    {"cmdDiscard", &RecoveryModel::DiscardSelected},
-                                    {"cmdDiscardAll", &RecoveryModel::DiscardAll}};
-    const auto found = std::ranges::find(kRows, button, &Row::name);
-    if (found == std::end(kRows)) return false;
-    if (open_) (this->*found->action)();
     return true;
 }
 
 void RecoveryModel::Drop(int index) {
     lost_.erase(lost_.begin() + index);
     selected_ = std::clamp(selected_, 0, std::max(0, static_cast<int>(lost_.size()) - 1));
-    if (lost_.empty()) open_ = false;
+    if (lost_.empty()) Close();
 }
 
 // One that cannot be restored has been reported and is offered no more.
@@ -81,7 +74,7 @@ void RecoveryModel::RestoreSelected() {
 
 void RecoveryModel::RestoreAll() {
     selected_ = 0;
-    while (open_ && RunShowingErrors(messages_, [&] { recipes_.Restore(lost_.front()); })) Drop(0);
+    while (IsOpen() && RunShowingErrors(messages_, [&] { recipes_.Restore(lost_.front()); })) Drop(0);
 }
 
 void RecoveryModel::DiscardSelected() {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/DialogModel.h"
+#include "platform/FormModel.h"
 #include "platform/Ports.h"
 #include "shell/Recovery.h"
 
@@ -24,7 +24,10 @@ class LostRecipes {
     virtual void Discard(const LostRecipe& lost) = 0;
 };
 
-class RecoveryModel final : public DialogModel {
+// lstRecipes shows the selected entry and takes the text of one. cmdRestore and cmdDiscard act on the
+// selected recipe, cmdRestoreAll and cmdDiscardAll on all of them; throwing away asks first. cmdClose leaves
+// the rest for later.
+class RecoveryModel final : public FormModel {
   public:
     // recipes and messages must outlive the object. It is open while lost is not empty.
     RecoveryModel(LostRecipes& recipes, MessagePort& messages, std::vector<LostRecipe> lost);
@@ -35,18 +38,10 @@ class RecoveryModel final : public DialogModel {
     // Nothing happens for an index without an entry.
     void Select(int index);
 
-    std::string FormName() const override { return "frmRecovery"; }
-    // lstRecipes: the selected entry.
-    std::vector<DialogControl> Controls() const override;
-    // lstRecipes selects the entry of that text. False for another control and for a text that is none.
-    bool SetControl(std::string_view name, std::string_view text) override;
-    // cmdRestore and cmdDiscard act on the selected recipe, cmdRestoreAll and cmdDiscardAll on all of them;
-    // throwing away asks first. cmdClose leaves the rest for later.
-    bool Press(std::string_view button) override;
-    void CloseBox() override { open_ = false; }
-    bool IsOpen() const override { return open_; }
-
   private:
+    // Empty when the list is.
+    std::string SelectedEntry() const;
+    bool SelectEntry(std::string_view entry);
     void RestoreSelected();
     void RestoreAll();
     void DiscardSelected();
@@ -57,7 +52,6 @@ class RecoveryModel final : public DialogModel {
     MessagePort& messages_;
     std::vector<LostRecipe> lost_;
     int selected_ = 0;
-    bool open_ = true;
 };
 
 }  // namespace tw

@@ -2,16 +2,16 @@
 
 namespace tw {
 
-std::vector<DialogControl> StylesNotImportedModel::Controls() const {
-    std::string rows = std::string(kHeaders[0]) + "\t" + std::string(kHeaders[1]) + "\n";
-    for (const StyleNotImported& row : styles_) rows += row.recipe + "\t" + row.style + "\n";
-    return {{"grdEffected", rows}};
+StylesNotImportedModel::StylesNotImportedModel(StylesNotImported styles)
+    : FormModel("frmStylesNotImported"), styles_(std::move(styles)) {
+    AddControls({{"grdEffected", [this] { return Rows(); }}});
+    AddButtons({{"cmdOK", [this] { Close(); }}});
 }
 
-bool StylesNotImportedModel::Press(std::string_view button) {
-    if (button != "cmdOK") return false;
-    CloseBox();
-    return true;
+std::string StylesNotImportedModel::Rows() const {
+    std::string rows = std::string(kHeaders[0]) + "\t" + std::string(kHeaders[1]) + "\n";
+    for (const StyleNotImported& row : styles_) rows += row.recipe + "\t" + row.style + "\n";
+    return rows;
 }
 
 }  // namespace tw

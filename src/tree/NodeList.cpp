@@ -210,11 +210,6 @@ bool TakeLookCommand(ListLook& look, PopupChoice choice) {
     return true;
 }
 
-std::optional<PopupChoice> FindListCommand(std::string_view name) {
-    // While a search is shown, the column of the folder stands behind the explorer's.
-    return FindPopupCommand(name, ExplorerColumns() + 1);
-}
-
 std::vector<FormButton> LookButtons(ListLook& look, const std::function<void()>& changed) {
     std::vector<PopupChoice> choices = {PopupCommand::LargeIcons, PopupCommand::SmallIcons,
                                         PopupCommand::List, PopupCommand::Details};

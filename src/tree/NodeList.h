@@ -118,8 +118,6 @@ class NodeList {
 // Takes a command of the menus "View" and "Arrange" into the look; the column that is sorted by already turns
 // its order round. False for any other command.
 bool TakeLookCommand(ListLook& look, PopupChoice choice);
-// The command of that control name, as the console and the tests press it; nothing for an unknown name.
-std::optional<PopupChoice> FindListCommand(std::string_view name);
 // These commands as buttons of a form, which runs changed after each. REQUIRES: look lives for as long.
 std::vector<FormButton> LookButtons(ListLook& look, const std::function<void()>& changed);
 

@@ -192,20 +192,26 @@ TEST_F(NodeLists, AStyleWithoutRecipesIsNoFolder) {
 
 TEST(ListLook, TakesTheCommandsOfViewAndArrange) {
     ListLook look;
+    int changes = 0;
+    FormButtons buttons;
+    buttons.Add(LookButtons(look, [&changes] { ++changes; }));
     EXPECT_EQ(look.viewType, ListViewType::List);
-    EXPECT_TRUE(TakeLookCommand(look, *FindListCommand("mnuDetails")));
+    EXPECT_TRUE(buttons.Press("mnuDetails"));
     EXPECT_EQ(look.viewType, ListViewType::Details);
-    EXPECT_TRUE(TakeLookCommand(look, *FindListCommand("mnuLargeIcons")));
+    EXPECT_TRUE(buttons.Press("mnuLargeIcons"));
     EXPECT_EQ(look.viewType, ListViewType::LargeIcons);
-    EXPECT_TRUE(TakeLookCommand(look, *FindListCommand("mnuArrangeBy(2)")));
+    EXPECT_TRUE(buttons.Press("mnuArrangeBy(2)"));
     EXPECT_EQ(look.arrangeKey, 2);
     EXPECT_FALSE(look.descending);
-    EXPECT_TRUE(TakeLookCommand(look, *FindListCommand("mnuArrangeBy(2)")));
+    EXPECT_TRUE(buttons.Press("mnuArrangeBy(2)"));
     EXPECT_TRUE(look.descending);
-    EXPECT_TRUE(TakeLookCommand(look, *FindListCommand("mnuArrangeBy(3)")));
+    EXPECT_TRUE(buttons.Press("mnuArrangeBy(3)"));
     EXPECT_FALSE(look.descending);
-    for (const char* command : {"mnuView", "mnuArrangeBy", "mnuArrangeBy(-1)", "mnuArrangeBy(15)", ""})
-        EXPECT_EQ(FindListCommand(command), std::nullopt) << command;
+    EXPECT_EQ(changes, 5);
+    for (const char* command :
+         {"mnuView", "mnuArrangeBy", "mnuArrangeBy(-1)", "mnuArrangeBy()", "mnuArrangeBy(15)", ""})
+        EXPECT_FALSE(buttons.Press(command)) << command;
+    EXPECT_EQ(changes, 5);
     EXPECT_FALSE(TakeLookCommand(look, PopupCommand::LineUp));
 }
 

@@ -235,8 +235,8 @@ void OpenSaveDialog::ShowPopup(const QPoint& place) {
     const RunPopup run = [this](PopupChoice choice) { Run(choice); };
     AddLookMenus(*menu, model_.Look(), model_.List().Rows(), model_.IsEnabled(PopupCommand::LineUp), run);
     menu->addSeparator();
-    AddCommand(*menu, PopupCommand::NewFolder, tr("&New Folder"), model_.IsEnabled(PopupCommand::NewFolder),
-               run);
+    AddCommand(*menu, PopupCommand::NewFolder, tr(kOpenSaveNewFolderCaption),
+               model_.IsEnabled(PopupCommand::NewFolder), run);
     AddCommand(*menu, PopupCommand::Rename, model_.IsEnabled(PopupCommand::Rename), run);
     menu->popup(place);
 }
