@@ -4,23 +4,12 @@
 
 #include "document/RecipeMapping.h"
 #include "document/UnusableNumbers.h"
+#include "platform/ScopeGuard.h"
 #include "record/Entries.h"
 #include "values/Text.h"
 
 namespace tw {
 namespace {
-
-// Sets a flag for the time of a scope, even if an error ends it.
-class ScopedFlag {
-  public:
-    explicit ScopedFlag(bool& flag) : flag_(flag) { flag = true; }
-    ~ScopedFlag() { flag_ = false; }
-    ScopedFlag(const ScopedFlag&) = delete;
-    ScopedFlag& operator=(const ScopedFlag&) = delete;
-
-  private:
-    bool& flag_;
-};
 
 // What happens to the record for the time of a scope is no edit: nothing is recorded.
 class Filling {
@@ -51,7 +40,7 @@ bool RecipeStorage::AskOverwrite() {
 }
 
 void RecipeStorage::DeleteOwnRow() {
-    const ScopedFlag guard(savingOver_);
+    const ScopedValue savingOver(savingOver_, true);
     recipe_.host.DeleteRecipe(std::string(recipe_.place.origName));
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/ScopeGuard.h"
 #include "shell/DocumentManager.h"
 
 namespace tw {
@@ -29,13 +30,12 @@ void AutoSaveModel::CloseBox() {
 
 void AutoSaveModel::FirstShown() {
     if (!IsOpen() || running_) return;
-    running_ = true;
+    const ScopedValue running(running_, true);
     // Events that run in between may close a document, so they are kept by key.
     std::vector<std::string> keys;
     for (const auto& document : documents_.All()) keys.push_back(document->Key());
     total_ = static_cast<int>(keys.size());
     for (const std::string& key : keys) SaveOne(key);
-    running_ = false;
     Close();
 }
 

@@ -1,6 +1,7 @@
 #include "shell/AutoSaver.h"
 
 #include "platform/ErrorBox.h"
+#include "platform/ScopeGuard.h"
 
 namespace tw {
 
@@ -15,10 +16,9 @@ void AutoSaver::Tick() {
 
 void AutoSaver::Run() {
     if (documents_.All().empty() || saving_) return;
-    saving_ = true;
+    const ScopedValue saving(saving_, true);
     AutoSaveModel progress = Progress();
     RunShowingErrors(data_.platform.messages, [&] { data_.platform.dialogs.ShowModal(progress); });
-    saving_ = false;
 }
 
 AutoSaveModel AutoSaver::Progress() {

@@ -3,26 +3,13 @@
 #include <utility>
 
 #include "platform/Error.h"
+#include "values/Split.h"
 #include "values/Text.h"
 
 namespace tw {
 namespace {
 
 constexpr int kSubscriptOutOfRange = 9;
-
-// The parts of text between the separators, the empty ones too. An empty text has no parts.
-std::vector<std::string_view> Split(std::string_view text, char separator) {
-    std::vector<std::string_view> parts;
-    while (!text.empty()) {
-        const std::size_t end = text.find(separator);
-        parts.push_back(text.substr(0, end));
-        if (end == text.npos) break;
-        text.remove_prefix(end + 1);
-        // A separator at the end has an empty part behind it.
-        if (text.empty()) parts.emplace_back();
-    }
-    return parts;
-}
 
 DDECommand ReadPiece(std::string_view piece) {
     if (piece.ends_with(']')) piece.remove_suffix(1);
@@ -32,6 +19,8 @@ DDECommand ReadPiece(std::string_view piece) {
     if (split == piece.npos) return command;
     std::string_view rest = piece.substr(split + 1);
     if (rest.ends_with(')')) rest.remove_suffix(1);
+    // Nothing behind the verb is no parameter, where an empty text has one part.
+    if (rest.empty()) return command;
     for (const std::string_view part : Split(rest, ',')) command.AddParameter(part);
     return command;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/ScopeGuard.h"
 #include "shell/ImportPath.h"
 #include "values/Text.h"
 
@@ -22,18 +23,6 @@ std::size_t BytesOf(const DDECommand& command) {
         bytes += command.ParameterAsSent(i).size() + command.Parameters(i).size();
     return bytes;
 }
-
-// Switches the ticks off for as long as it lives.
-class NoTicks {
-  public:
-    explicit NoTicks(bool& ticking) : ticking_(ticking) { ticking_ = false; }
-    ~NoTicks() { ticking_ = true; }
-    NoTicks(const NoTicks&) = delete;
-    NoTicks& operator=(const NoTicks&) = delete;
-
-  private:
-    bool& ticking_;
-};
 
 }  // namespace
 
@@ -141,7 +130,7 @@ bool DDEService::Queue(std::vector<DDECommand> commands) {
 
 void DDEService::TickDDE() {
     if (!ticking_ || commands_.empty() || host_.IsDialogOpen()) return;
-    const NoTicks off(ticking_);
+    const ScopedValue ticking(ticking_, false);
     waiting_ = waitingBytes_ = 0;
     for (const DDECommand& command : std::exchange(commands_, {})) Carry(command);
 }

@@ -1,17 +1,14 @@
 #include "shell/ExchangeDesk.h"
 
 #include "platform/ErrorBox.h"
+#include "platform/ScopeGuard.h"
 #include "shell/ImportPath.h"
 #include "shell/RecipeExchange.h"
 
 namespace tw {
 
 void ExchangeDesk::RebuildTree() {
-    struct UpdateAtEnd {
-        StatusNotice& notice;
-        ~UpdateAtEnd() { notice.Update(); }
-    };
-    const UpdateAtEnd update{notice_};
+    const ScopeGuard update([this] { notice_.Update(); });
     data_.tree.Reload();
     states_.CheckEnableDelete();
     // The empty main window tells what can be done next.
@@ -22,12 +19,7 @@ void ExchangeDesk::Run(const std::function<void(RecipeExchange&)>& operation) {
     if (running_) return;
     RecipeExchange files(data_.platform, *data_.database, data_.objects, data_.tree, own_,
                          [this] { RebuildTree(); });
-    struct End {
-        bool& running;
-        ~End() { running = false; }
-    };
-    running_ = true;
-    const End end{running_};
+    const ScopedValue running(running_, true);
     operation(files);
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "platform/ScopeGuard.h"
 #include "reports/NoPrinterModel.h"
 #include "reports/PrintPreviewModel.h"
 #include "reports/PrintWizardModel.h"
@@ -13,32 +14,18 @@
 namespace tw {
 namespace {
 
-// For the time of a scope.
-class Hourglass {
-  public:
-    explicit Hourglass(PrinterPort& printer) : printer_(printer) { printer_.ShowHourglass(true); }
-    ~Hourglass() { printer_.ShowHourglass(false); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-
-  private:
-    PrinterPort& printer_;
-};
+// Shows the hourglass for the time of a scope.
+auto Hourglass(PrinterPort& printer) {
+    printer.ShowHourglass(true);
+    return ScopeGuard([&printer] { printer.ShowHourglass(false); });
+}
 
 // For the time of a scope tmrProcessDDE is off: no command that another program has sent runs in the middle
 // of a job.
-class OutsideCommandsPaused {
-  public:
-    explicit OutsideCommandsPaused(DDEService& commands) : commands_(commands) {
-        commands_.SetTicking(false);
-    }
-    ~OutsideCommandsPaused() { commands_.SetTicking(true); }
-    OutsideCommandsPaused(const OutsideCommandsPaused&) = delete;
-    OutsideCommandsPaused& operator=(const OutsideCommandsPaused&) = delete;
-
-  private:
-    DDEService& commands_;
-};
+auto PauseOutsideCommands(DDEService& commands) {
+    commands.SetTicking(false);
+    return ScopeGuard([&commands] { commands.SetTicking(true); });
+}
 
 // Where PDF files were saved last; nothing is stored before the first one.
 constexpr std::string_view kPrintSection = "Print", kPdfFolderKey = "PDFFolder";
@@ -79,7 +66,7 @@ void PrintDesk::PrintActive(bool quick) {
 }
 
 PrinterAnswer::Result PrintDesk::PrintThroughDialog(bool quick) {
-    const OutsideCommandsPaused pause(outside_);
+    const auto pause = PauseOutsideCommands(outside_);
     PrinterAnswer answer;
     try {
         answer = Printer().ShowPrinterDialog(printerConfigured_, quick);
@@ -103,7 +90,7 @@ PrinterAnswer::Result PrintDesk::PrintThroughDialog(bool quick) {
 
 void PrintDesk::PrintOn(std::unique_ptr<PrinterDevice> device) {
     try {
-        const Hourglass hourglass(Printer());
+        const auto hourglass = Hourglass(Printer());
         PrintRecipe(documents_.Active()->Record(), std::move(device));
     } catch (const Error& error) {
         platform_.messages.ShowMessage("Error During Print Job", "Error:\r\n" + error.WithNumber());
@@ -152,7 +139,7 @@ void PrintDesk::SaveAsPdf(const PrintSteps& steps, Paper paper) {
                             PdfName(steps.title), store_.GetSetting(kPrintSection, kPdfFolderKey, "")});
     if (!path) return;
     try {
-        const Hourglass hourglass(Printer());
+        const auto hourglass = Hourglass(Printer());
         PlaySteps(steps, Printer().MakePdf(TargetFile(*path, own_), paper));
         store_.SaveSetting(kPrintSection, kPdfFolderKey, std::filesystem::path(*path).parent_path().string(),
                            false);

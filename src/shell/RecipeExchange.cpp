@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "platform/FileDialogModel.h"
+#include "platform/ScopeGuard.h"
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
 #include "shell/StylesNotImportedModel.h"
@@ -41,6 +42,12 @@ std::vector<std::string> AllRecipesOf(const TWTree& tree) {
     return names;
 }
 
+// For the time of a scope, in which a window asks, the progress stands still.
+auto Pause(ProgressModel& progress) {
+    progress.SetBusy(false);
+    return ScopeGuard([&progress] { progress.SetBusy(true); });
+}
+
 }  // namespace
 
 // Asks by the dialogs, behind which the progress stands still.
@@ -58,17 +65,14 @@ class RecipeExchange::Host final : public CopyHost {
 
     ConflictAnswer ResolveConflict(const std::string& name) override {
         NameConflictModel dialog(name, isImport_, platform_.messages);
-        progress_.SetBusy(false);
+        const auto pause = Pause(progress_);
         platform_.dialogs.ShowModal(dialog);
-        progress_.SetBusy(true);
         return dialog.Result();
     }
 
     bool ContinueAfter(const std::string& text) override {
-        progress_.SetBusy(false);
-        const bool goOn = platform_.messages.Ask("Error", text, Question::OkCancel) == Answer::Ok;
-        progress_.SetBusy(true);
-        return goOn;
+        const auto pause = Pause(progress_);
+        return platform_.messages.Ask("Error", text, Question::OkCancel) == Answer::Ok;
     }
 
     void DebugText(const std::string& text) override { std::clog << text << '\n'; }
@@ -202,11 +206,7 @@ void RecipeExchange::ImportChosen(const std::string& path, const Chooser& choose
 void RecipeExchange::CopyWatched(Database& file, const Choice& choice, ProgressModel& progress,
                                  StylesNotImported& stylesNotImported) {
     Host host(platform_, progress, true);
-    struct Watch {
-        Database& file;
-        ~Watch() { file.SetWatch({}); }
-    };
-    const Watch end{file};
+    const ScopeGuard end([&file] { file.SetWatch({}); });
     const int total = static_cast<int>(choice.names.size());
     file.SetWatch([&] { return progress.Show(progress.Name(), progress.Done(), total) || host.HasBegun(); });
     try {
@@ -222,9 +222,8 @@ void RecipeExchange::CopyIn(Database& file, const Choice& choice, ProgressModel&
     const bool copied = Trap([&] { CopyWatched(file, choice, progress, unknown); });
     if (copied && !unknown.empty()) {
         StylesNotImportedModel dialog(std::move(unknown));
-        progress.SetBusy(false);
+        const auto pause = Pause(progress);
         platform_.dialogs.ShowModal(dialog);
-        progress.SetBusy(true);
     }
     // After an error too, so that the tree shows what has been copied before it.
     Trap(rebuildTree_);

@@ -1,7 +1,7 @@
 #include "tools/ConvertUnitsModel.h"
 
 #include "platform/Error.h"
-#include "tools/FlagGuard.h"
+#include "platform/ScopeGuard.h"
 #include "values/NumberText.h"
 #include "values/ParserValidater.h"
 #include "values/Text.h"
@@ -64,7 +64,7 @@ void ConvertUnitsModel::SetKind(QuantityKind kind) {
 
 bool ConvertUnitsModel::ConvertFromBox(int box) {
     if (converting_) return true;
-    const FlagGuard guard(converting_);
+    const ScopedValue converting(converting_, true);
     const std::string& text = Text(box);
     try {
         if (IsBlank(text)) {

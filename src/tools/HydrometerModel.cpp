@@ -4,7 +4,7 @@
 #include <cassert>
 
 #include "platform/Error.h"
-#include "tools/FlagGuard.h"
+#include "platform/ScopeGuard.h"
 #include "values/Converter.h"
 #include "values/NumberText.h"
 #include "values/ParserValidater.h"
@@ -76,7 +76,7 @@ std::optional<double> HydrometerModel::Take(std::string_view name, Validator val
 std::string HydrometerModel::UpdateCorrection() {
     std::string refused;
     if (updating_) return refused;
-    const FlagGuard guard(updating_);
+    const ScopedValue updating(updating_, true);
     const auto sample = Take("txtActTemp", ValidateTemperature, refused);
     const auto reading = sample ? Take("txtActRead", ValidateGravity, refused) : std::nullopt;
     const auto calibration = reading ? Take("cmbCalTemp", ValidateTemperature, refused) : std::nullopt;

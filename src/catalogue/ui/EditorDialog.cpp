@@ -12,6 +12,7 @@
 #include "document/ui/ColorSwatch.h"
 #include "document/ui/FancyLabel.h"
 #include "document/ui/PageBuilder.h"
+#include "platform/ScopeGuard.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/FocusMoves.h"
 #include "platform/qt/QtText.h"
@@ -311,8 +312,8 @@ void EditorDialog::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange && description_ != nullptr) LookReadOnly();
 }
 
-void EditorDialog::ShowModel() {
-    showing_ = true;
+void EditorDialog::ShowTexts() {
+    const ScopedValue showing(showing_, true);
     setWindowTitle(ToQt(model_.Form().title));
     for (const char* name : {"Text1", "Text2"})
         if (auto* box = findChild<QLineEdit*>(QLatin1String(name))) box->setText(ToQt(model_.Text(name)));
@@ -326,7 +327,10 @@ void EditorDialog::ShowModel() {
     if (description_->toPlainText() != Lines(model_.Text("txtDesc")))
         description_->setPlainText(Lines(model_.Text("txtDesc")));
     if (folders_ != nullptr) folders_->ShowState();
-    showing_ = false;
+}
+
+void EditorDialog::ShowModel() {
+    ShowTexts();
     ShowState();
 }
 
@@ -362,9 +366,10 @@ void EditorDialog::Enter(const char* control, const QString& text) {
 }
 
 void EditorDialog::Press(const char* button) {
-    refusing_ = true;
-    model_.Press(button);
-    refusing_ = false;
+    {
+        const ScopedValue refusing(refusing_, true);
+        model_.Press(button);
+    }
     if (!model_.IsOpen()) {
         QDialog::done(model_.Cancelled() ? Rejected : Accepted);
         return;
@@ -387,6 +392,12 @@ void EditorDialog::GoBackTo(QLineEdit& cell) {
         Qt::QueuedConnection);
 }
 
+bool EditorDialog::LeaveCell(int row, int col) {
+    // The box of a refusal takes the focus too; that is no move.
+    const ScopedValue refusing(refusing_, true);
+    return model_.LeaveCell(row, col);
+}
+
 bool EditorDialog::eventFilter(QObject* object, QEvent* event) {
     if (event->type() != QEvent::FocusOut || refusing_ || !model_.IsOpen() ||
         !IsMove(*static_cast<QFocusEvent*>(event)))
@@ -395,10 +406,7 @@ bool EditorDialog::eventFilter(QObject* object, QEvent* event) {
         for (int col = 0; col < model_.Cells().Cols(); ++col) {
             QLineEdit* const cell = CellAt(row, col);
             if (cell != object) continue;
-            // The box of a refusal takes the focus too; that is no move.
-            refusing_ = true;
-            const bool accepted = model_.LeaveCell(row, col);
-            refusing_ = false;
+            const bool accepted = LeaveCell(row, col);
             cell->setText(ShownIn(row, col));
             ShowState();
             if (!accepted) GoBackTo(*cell);

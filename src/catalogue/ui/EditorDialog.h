@@ -50,11 +50,14 @@ class EditorDialog final : public QDialog {
     // Boxes that are only read have the ground of the window.
     void LookReadOnly();
     void ShowModel();
+    void ShowTexts();
     void ShowList(QComboBox& box, const EditorList& list);
     // What follows from the entries: buttons, colour, hint.
     void ShowState();
     void Enter(const char* control, const QString& text);
     void Press(const char* button);
+    // False when the model refuses the cell's text, which has been told.
+    bool LeaveCell(int row, int col);
     // The focus goes back to a refused cell, once the event that took it away is over.
     void GoBackTo(QLineEdit& cell);
 

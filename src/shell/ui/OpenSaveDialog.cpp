@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "platform/ScopeGuard.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/SvgIcon.h"
@@ -214,7 +215,7 @@ void OpenSaveDialog::ShowFolders() {
 void OpenSaveDialog::ShowState() {
     if (!model_.IsOpen()) return QDialog::done(model_.Cancelled() ? Rejected : Accepted);
     if (showing_) return;
-    showing_ = true;
+    const ScopedValue showing(showing_, true);
     ShowFolders();
     for (const auto& [name, button] : buttons_) button->setEnabled(model_.IsEnabled(name));
     buttons_["cmdList"]->setChecked(model_.Look().viewType == ListViewType::List);
@@ -225,7 +226,6 @@ void OpenSaveDialog::ShowState() {
     if (!model_.List().IsFinding() && !find_->text().trimmed().isEmpty()) find_->clear();
     list_->SetView(model_.Look().viewType);
     list_->ShowState();
-    showing_ = false;
 }
 
 void OpenSaveDialog::ShowPopup(const QPoint& place) {

@@ -11,6 +11,7 @@
 
 #include "document/ui/frmDocument.h"
 #include "platform/ErrorBox.h"
+#include "platform/ScopeGuard.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/ElidedLabel.h"
 #include "platform/qt/QtText.h"
@@ -140,9 +141,10 @@ DocumentSubWindow* frmMain::WindowOf(const RecipeDocument& document) const {
 void frmMain::DocumentOpened(RecipeDocument& document) {
     auto* window = new DocumentSubWindow(new frmDocument(document, platform_, *this), area_);
     window->setWindowTitle(ToQt(document.Caption()));
-    changing_ = true;
-    area_->addSubWindow(window);
-    changing_ = false;
+    {
+        const ScopedValue changing(changing_, true);
+        area_->addSubWindow(window);
+    }
     RecipeDocument* opened = &document;
     connect(window, &DocumentSubWindow::CloseRequested, this, [this, window, opened] {
         if (!window->Document().Document() || !window->Document().Flush()) return;
@@ -158,7 +160,7 @@ void frmMain::DocumentOpened(RecipeDocument& document) {
 }
 
 void frmMain::PlaceSubWindow(DocumentSubWindow& window) {
-    changing_ = true;
+    const ScopedValue changing(changing_, true);
     if (shell_.CurrentSettings().childState == kStateMaximized) {
         window.showMaximized();
     } else {
@@ -166,16 +168,16 @@ void frmMain::PlaceSubWindow(DocumentSubWindow& window) {
         area_->PlaceAt(window, static_cast<int>(area_->subWindowList().size()) - 1);
         window.show();
     }
-    changing_ = false;
 }
 
 void frmMain::DocumentClosing(RecipeDocument& document) {
     DocumentSubWindow* window = WindowOf(document);
     if (!window) return;
     window->Document().Detach();
-    changing_ = true;
-    area_->removeSubWindow(window);
-    changing_ = false;
+    {
+        const ScopedValue changing(changing_, true);
+        area_->removeSubWindow(window);
+    }
     window->hide();
     // It may be this window's own close button that we are in.
     window->deleteLater();

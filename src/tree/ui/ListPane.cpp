@@ -7,6 +7,7 @@
 #include <cmath>
 #include <numeric>
 
+#include "platform/ScopeGuard.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/GridHeader.h"
 #include "platform/qt/QtText.h"
@@ -105,12 +106,11 @@ void ListPane::SortBy(int column) {
 void ListPane::FitColumns() {
     // Within it a scroll bar comes or goes, and the resized view asks again.
     if (fitting_ || !isVisible() || model_->columnCount() == 0) return;
-    fitting_ = true;
+    const ScopedValue fitting(fitting_, true);
     for (int tries = 0, width = -1; tries < 2 && width != viewport()->width(); ++tries) {
         width = viewport()->width();
         FitColumnsInto(width);
     }
-    fitting_ = false;
 }
 
 std::vector<int> ListPane::WantedWidths() const {

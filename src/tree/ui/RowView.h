@@ -74,9 +74,10 @@ class RowView : public View, protected ListTableObserver {
     virtual void ShowRows() {}
 
     void ListChanged() override {
-        following_ = true;
-        model_->Reset();
-        following_ = false;
+        {
+            const ScopedValue following(following_, true);
+            model_->Reset();
+        }
         ShowRows();
         ShowSelection();
     }

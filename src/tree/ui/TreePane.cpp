@@ -147,10 +147,8 @@ TreePane::TreePane(TreeItems& items, const QString& name, QWidget* parent)
 }
 
 void TreePane::ShowAll() {
-    following_ = true;
     for (int item = 0; item < items_.Count(); ++item)
-        if (items_.IsExpanded(item)) setExpanded(model_->IndexOf(item), true);
-    following_ = false;
+        if (items_.IsExpanded(item)) ShowExpanded(item);
     ShowSelection();
 }
 

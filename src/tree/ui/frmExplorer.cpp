@@ -13,6 +13,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "platform/ScopeGuard.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
 #include "tree/ui/LookMenu.h"
@@ -275,7 +276,7 @@ void frmExplorer::SearchFor(const QString& text) {
 void frmExplorer::ShowState() {
     if (!model_.IsOpen()) return QDialog::accept();
     if (showing_) return;
-    showing_ = true;
+    const ScopedValue showing(showing_, true);
     const Page page = model_.Shown();
     const bool rows = AboutRows();
     recipes_->setChecked(page == Page::Recipes);
@@ -296,7 +297,6 @@ void frmExplorer::ShowState() {
     status_->setText(ToQt(model_.Status()));
     Shown().list->ShowState();
     if (model_.EditedNode() != TreeItems::kNone) Shown().tree->EditSelected();
-    showing_ = false;
 }
 
 void frmExplorer::ShowListPopup(const QPoint& place) {
