@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "values/NumberText.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 
 namespace {
 

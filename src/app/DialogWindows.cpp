@@ -1,77 +1,81 @@
 #include "app/DialogWindows.h"
 
+#include "catalogue/EditorForm.h"
+#include "catalogue/ui/DatabaseSetupDialog.h"
 #include "catalogue/ui/EditorDialog.h"
-#include "catalogue/ui/frmDBSetup.h"
+#include "document/CannotUndo.h"
 #include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
 #include "document/ui/ScalingDialog.h"
-#include "help/ui/frmAssistant.h"
-#include "help/ui/frmHelpContents.h"
+#include "help/ui/AssistantDialog.h"
+#include "help/ui/HelpContentsDialog.h"
 #include "platform/qt/FileDialog.h"
 #include "platform/qt/QtDialogs.h"
+#include "reports/NoPrinterModel.h"
+#include "reports/ui/ChooseFontDialog.h"
 #include "reports/ui/NoPrinterDialog.h"
-#include "reports/ui/frmChooseFont.h"
-#include "reports/ui/frmPrintFmtOptions.h"
-#include "reports/ui/frmPrintPreview.h"
-#include "reports/ui/frmPrintWizard.h"
+#include "reports/ui/PrintFormatDialog.h"
+#include "reports/ui/PrintPreviewDialog.h"
+#include "reports/ui/PrintWizardDialog.h"
+#include "shell/AboutModel.h"
 #include "shell/ui/AboutDialog.h"
+#include "shell/ui/AutoSaveDialog.h"
+#include "shell/ui/ImportExportDialog.h"
+#include "shell/ui/NameConflictDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
+#include "shell/ui/OptionsDialog.h"
 #include "shell/ui/RecoveryDialog.h"
-#include "shell/ui/frmAutoSave.h"
-#include "shell/ui/frmImportExport.h"
-#include "shell/ui/frmNameConflict.h"
-#include "shell/ui/frmOptions.h"
-#include "shell/ui/frmStylesNotImported.h"
-#include "tools/ui/frmColor.h"
-#include "tools/ui/frmConvertUnits.h"
-#include "tools/ui/frmHopUtil.h"
-#include "tools/ui/frmHydrometer.h"
-#include "tree/ui/frmChooseFolder.h"
-#include "tree/ui/frmExplorer.h"
-#include "tree/ui/frmLvShow.h"
-#include "tree/ui/frmProgress.h"
+#include "shell/ui/StylesNotImportedDialog.h"
+#include "tools/ui/ColorScaleDialog.h"
+#include "tools/ui/ConvertUnitsDialog.h"
+#include "tools/ui/HopUtilisationDialog.h"
+#include "tools/ui/HydrometerDialog.h"
+#include "tree/ui/CataloguePickerDialog.h"
+#include "tree/ui/ChooseFolderDialog.h"
+#include "tree/ui/ExplorerWindow.h"
+#include "tree/ui/ProgressDialog.h"
 
 namespace tw {
 
 void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors) {
     // Recipes.
-    for (const char* form : {"frmStrengthDetails", "frmFinalVolDetails", "frmHopDetails"})
-        dialogs.Register<DetailsModel, DetailsDialog>(form);
-    for (const char* form : {"frmResizeRecipe", "frmChangeOG", "frmChangeIBU", "frmChangeCO2"})
-        dialogs.Register<ScalingModel, ScalingDialog>(form);
-    dialogs.Register<DialogModel, CannotUndoDialog>("frmCannotUndo");
-    dialogs.Register<LvShowModel, frmLvShow>("frmLvShow");
-    dialogs.Register<ExplorerModel, frmExplorer>("frmExplorer");
-    dialogs.Register<ChooseFolderModel, frmChooseFolder>("frmChooseFolder");
-    dialogs.Register<ProgressModel, frmProgress>("frmProgress");
+    for (const char* form :
+         {DetailsModel::kStrengthForm, DetailsModel::kFinalVolForm, DetailsModel::kHopForm})
+        dialogs.RegisterForm<DetailsModel, DetailsDialog>(form);
+    for (const char* form : ScalingModel::kFormNames) dialogs.RegisterForm<ScalingModel, ScalingDialog>(form);
+    dialogs.Register<CannotUndoModel, CannotUndoDialog>();
+    dialogs.Register<CataloguePickerModel, CataloguePickerDialog>();
+    dialogs.Register<ExplorerModel, ExplorerWindow>();
+    dialogs.Register<ChooseFolderModel, ChooseFolderDialog>();
+    dialogs.Register<ProgressModel, ProgressDialog>();
     // The catalogue.
-    for (const char* form : {"frmStyle", "frmGrain", "frmHop", "frmYeast", "frmPrimingSugar", "frmWater"})
-        dialogs.Register<CatalogueEditor, EditorDialog>(form);
-    dialogs.Register<DBSetupModel, frmDBSetup>("frmDBSetup");
+    for (const EditorForm& form : EditorForms())
+        dialogs.RegisterForm<CatalogueEditor, EditorDialog>(std::string(form.formName));
+    dialogs.Register<DatabaseSetupModel, DatabaseSetupDialog>();
     // Paper.
-    dialogs.Register<DialogModel, NoPrinterDialog>("frmNoPrinter");
-    dialogs.Register<PrintPreviewModel, frmPrintPreview>("frmPrintPreview");
-    dialogs.Register<PrintWizardModel, frmPrintWizard>("frmPrintWizard");
-    dialogs.Register<PrintFmtOptionsModel, frmPrintFmtOptions>("frmPrintFmtOptions", colors);
-    dialogs.Register<ChooseFontModel, frmChooseFont>("frmChooseFont", colors);
+    dialogs.Register<NoPrinterModel, NoPrinterDialog>();
+    dialogs.Register<PrintPreviewModel, PrintPreviewDialog>();
+    dialogs.Register<PrintWizardModel, PrintWizardDialog>();
+    dialogs.Register<PrintFormatModel, PrintFormatDialog>(colors);
+    dialogs.Register<ChooseFontModel, ChooseFontDialog>(colors);
     // Help and tools.
-    dialogs.Register<HelpContentsModel, frmHelpContents>("frmHelpContents");
-    dialogs.Register<AssistantModel, frmAssistant>("frmAssistant");
-    dialogs.Register<ConvertUnitsModel, frmConvertUnits>("frmConvertUnits");
-    dialogs.Register<HydrometerModel, frmHydrometer>("frmHydrometer");
-    dialogs.Register<HopUtilModel, frmHopUtil>("frmHopUtil");
-    dialogs.Register<ColorScaleModel, frmColor>("frmColor");
+    dialogs.Register<HelpContentsModel, HelpContentsDialog>();
+    dialogs.Register<AssistantModel, AssistantDialog>();
+    dialogs.Register<ConvertUnitsModel, ConvertUnitsDialog>();
+    dialogs.Register<HydrometerModel, HydrometerDialog>();
+    dialogs.Register<HopUtilisationModel, HopUtilisationDialog>();
+    dialogs.Register<ColorScaleModel, ColorScaleDialog>();
     // The program.
-    dialogs.Register<DialogModel, AboutDialog>("frmAbout");
-    dialogs.Register<OptionsModel, frmOptions>("frmOptions", colors);
-    dialogs.Register<OpenSaveModel, OpenSaveDialog>("frmOpenSave");
-    dialogs.Register<AutoSaveModel, frmAutoSave>("frmAutoSave");
-    dialogs.Register<RecoveryModel, RecoveryDialog>("frmRecovery");
+    dialogs.Register<AboutModel, AboutDialog>();
+    dialogs.Register<OptionsModel, OptionsDialog>(colors);
+    dialogs.Register<OpenSaveModel, OpenSaveDialog>();
+    dialogs.Register<AutoSaveModel, AutoSaveDialog>();
+    dialogs.Register<RecoveryModel, RecoveryDialog>();
     // Import and export.
-    dialogs.Register<FileDialogModel, FileDialog>("CommonDialog");
-    dialogs.Register<ImportExportModel, frmImportExport>("frmImportExport");
-    dialogs.Register<NameConflictModel, frmNameConflict>("frmNameConflict");
-    dialogs.Register<StylesNotImportedModel, frmStylesNotImported>("frmStylesNotImported");
+    dialogs.Register<FileDialogModel, FileDialog>();
+    dialogs.Register<ImportExportModel, ImportExportDialog>();
+    dialogs.Register<NameConflictModel, NameConflictDialog>();
+    dialogs.Register<StylesNotImportedModel, StylesNotImportedDialog>();
 }
 
 }  // namespace tw

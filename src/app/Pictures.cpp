@@ -10,11 +10,11 @@
 
 #include "app/PrintedMessages.h"
 #include "catalogue/CatalogueEditor.h"
-#include "catalogue/DBSetupModel.h"
+#include "catalogue/DatabaseSetupModel.h"
 #include "document/CannotUndo.h"
 #include "document/DetailWindows.h"
 #include "document/ScalingModel.h"
-#include "document/ui/frmDocument.h"
+#include "document/ui/RecipeWindow.h"
 #include "help/AssistantModel.h"
 #include "help/HelpContentsModel.h"
 #include "help/SystemTextFiles.h"
@@ -25,7 +25,7 @@
 #include "platform/qt/QtText.h"
 #include "reports/ChooseFontModel.h"
 #include "reports/NoPrinterModel.h"
-#include "reports/PrintFmtOptionsModel.h"
+#include "reports/PrintFormatModel.h"
 #include "reports/PrintPreviewModel.h"
 #include "reports/PrintWizardModel.h"
 #include "reports/PrintedRecipe.h"
@@ -38,14 +38,14 @@
 #include "shell/Shell.h"
 #include "shell/StylesNotImportedModel.h"
 #include "shell/ui/MainGeometry.h"
-#include "shell/ui/frmMain.h"
+#include "shell/ui/MainWindow.h"
 #include "tools/ColorScaleModel.h"
 #include "tools/ConvertUnitsModel.h"
-#include "tools/HopUtilModel.h"
+#include "tools/HopUtilisationModel.h"
 #include "tools/HydrometerModel.h"
+#include "tree/CataloguePickerModel.h"
 #include "tree/ChooseFolderModel.h"
 #include "tree/ExplorerModel.h"
-#include "tree/LvShowModel.h"
 #include "tree/ProgressModel.h"
 #include "tree/RecipeChooser.h"
 #include "tree/ui/RecipeChooserView.h"
@@ -126,7 +126,7 @@ bool SaveTools(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
     hydrometer.TypeInto("txtActTemp", "80 F");
     hydrometer.UpdateCorrection();
     ok &= SaveDialog(dialogs, hydrometer, parent, prefix + QStringLiteral("hydrometer.png"));
-    HopUtilModel explorer("1.050");
+    HopUtilisationModel explorer("1.050");
     ok &= SaveDialog(dialogs, explorer, parent, prefix + QStringLiteral("hop-utilization.png"));
     for (int scale = 0; scale < kColorScales; ++scale) {
         ColorScaleModel scales;
@@ -142,7 +142,7 @@ bool SaveChoosers(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     bool ok = true;
     for (const CatalogueKind list :
          {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Yeast, CatalogueKind::Water}) {
-        LvShowModel picker(list, *shell.DB(), shell.Data().tree, "");
+        CataloguePickerModel picker(list, *shell.DB(), shell.Data().tree, "");
         ok &= SaveDialog(dialogs, picker, parent,
                          QStringLiteral("%1pick-%2.png").arg(prefix).arg(static_cast<int>(list)));
     }
@@ -198,7 +198,7 @@ bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStr
     bool ok = true;
     for (int i = 0; i < kCatalogueKinds; ++i) {
         const auto catalogue = kSetupOrder[static_cast<std::size_t>(i)];
-        DBSetupModel setup(context);
+        DatabaseSetupModel setup(context);
         setup.Choose(catalogue);
         ok &= SaveDialog(dialogs, setup, parent, QStringLiteral("%1setup-%2.png").arg(prefix).arg(i));
         ObjectNavigator navigator(setup.Items());
@@ -238,7 +238,7 @@ bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
         wizard.Press("cmdNext");
     }
     for (const ReportType type : {ReportType::Text, ReportType::Html, ReportType::RichText}) {
-        PrintFmtOptionsModel options(type, shell.Store(), dialogs);
+        PrintFormatModel options(type, shell.Store(), dialogs);
         ok &= SaveDialog(dialogs, options, parent,
                          QStringLiteral("%1report-options-%2.png").arg(prefix).arg(static_cast<int>(type)));
     }
@@ -287,7 +287,7 @@ bool SaveRecovery(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     return SaveDialog(dialogs, recovery, parent, prefix + QStringLiteral("recovery.png"));
 }
 
-bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
+bool SaveDialogs(MainWindow& window, Shell& shell, QtDialogs& dialogs, const QString& prefix) {
     AboutModel about;
     bool ok = SaveDialog(dialogs, about, window, prefix + QStringLiteral("about.png"));
     CannotUndoModel cannotUndo;
@@ -315,18 +315,18 @@ bool SaveDialogs(frmMain& window, Shell& shell, QtDialogs& dialogs, const QStrin
 }  // namespace
 
 // A picture does not depend on the screen it is taken at, or on the sizes that somebody has stored.
-void TakeSize(frmMain& window, const QSize& size) {
+void TakeSize(MainWindow& window, const QSize& size) {
     window.setWindowState(Qt::WindowNoState);
     window.resize(size.isEmpty() ? FirstSize(window) : size);
     QApplication::processEvents();
-    if (frmDocument* document = window.ActiveWindow()) document->parentWidget()->showMaximized();
+    if (RecipeWindow* document = window.ActiveWindow()) document->parentWidget()->showMaximized();
 }
 
-bool TakePicture(frmMain& window, Shell& shell, const QString& file) {
+bool TakePicture(MainWindow& window, Shell& shell, const QString& file) {
     return !IsOwn(shell.Own(), file) && SaveWidget(window, file);
 }
 
-bool TakeAllPictures(frmMain& window, Shell& shell, QtDialogs& dialogs, const QString& folder) {
+bool TakeAllPictures(MainWindow& window, Shell& shell, QtDialogs& dialogs, const QString& folder) {
     bool ok = QDir().mkpath(folder);
     // A folder of links to the recipes is odd, and must not cost them.
     for (const QFileInfo& there : QDir(folder).entryInfoList({QStringLiteral("*.png")}, QDir::Files))
@@ -335,7 +335,7 @@ bool TakeAllPictures(frmMain& window, Shell& shell, QtDialogs& dialogs, const QS
     for (const bool dark : {false, true}) {
         QApplication::setPalette(dark ? DarkPalette() : LightPalette());
         const QString prefix = folder + (dark ? QStringLiteral("/dark-") : QStringLiteral("/light-"));
-        frmDocument* document = window.ActiveWindow();
+        RecipeWindow* document = window.ActiveWindow();
         if (!document) ok &= SaveWidget(window, prefix + QStringLiteral("empty.png"));
         for (int tab = 0; document && tab < kTabs; ++tab) {
             document->ShowTab(static_cast<Tab>(tab));

@@ -12,7 +12,7 @@
 #include "app/PrintedMessages.h"
 #include "app/ProgramOptions.h"
 #include "document/ui/RangeBar.h"
-#include "document/ui/frmDocument.h"
+#include "document/ui/RecipeWindow.h"
 #include "help/SystemTextFiles.h"
 #include "help/qt/QtBrowser.h"
 #include "platform/ErrorBox.h"
@@ -31,7 +31,7 @@
 #include "reports/qt/QtPrinters.h"
 #include "shell/Shell.h"
 #include "shell/ui/Icons.h"
-#include "shell/ui/frmMain.h"
+#include "shell/ui/MainWindow.h"
 #include "tools/ui/ToolAccessibility.h"
 
 namespace tw {
@@ -54,15 +54,15 @@ bool SettingsFileIsFine(const ProgramOptions& options, MessagePort& messages) {
     }
 }
 
-void OpenRecipes(frmMain& window, Shell& shell, MessagePort& messages, const ProgramOptions& options) {
+void OpenRecipes(MainWindow& window, Shell& shell, MessagePort& messages, const ProgramOptions& options) {
     for (const QString& name : options.open)
         RunShowingErrors(messages, [&] { shell.Recipes().OpenByName(FromQt(name)); });
-    frmDocument* document = window.ActiveWindow();
+    RecipeWindow* document = window.ActiveWindow();
     if (document && options.tab >= 0 && options.tab < kTabs) document->ShowTab(static_cast<Tab>(options.tab));
 }
 
 // The exit code of a run that only takes pictures.
-int Photograph(frmMain& window, Shell& shell, QtDialogs& dialogs, const ProgramOptions& options) {
+int Photograph(MainWindow& window, Shell& shell, QtDialogs& dialogs, const ProgramOptions& options) {
     bool ok = true;
     TakeSize(window, options.size);
     if (!options.picture.isEmpty()) ok &= TakePicture(window, shell, options.picture);
@@ -143,7 +143,7 @@ int Run(int argc, char** argv) {
     shell.Environment().help = &help;
     shell.Environment().printer = &printers;
     shell.Environment().saveFiles = &saveFiles;
-    frmMain window(shell, platform);
+    MainWindow window(shell, platform);
     DesktopColors colors;
     window.show();
     if (!window.StartUp(DatabaseOf(options), FromQt(options.file)))

@@ -4,7 +4,7 @@
 
 #include "platform/Error.h"
 #include "values/Converter.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/Text.h"
 
 namespace tw {

@@ -92,4 +92,8 @@ const EditorForm& FormOf(CatalogueKind catalogue) {
     return kForms[static_cast<std::size_t>(catalogue)];
 }
 
+std::span<const EditorForm> EditorForms() {
+    return kForms;
+}
+
 }  // namespace tw

@@ -72,5 +72,7 @@ struct EditorForm {
 };
 
 const EditorForm& FormOf(CatalogueKind catalogue);
+// One for each catalogue; two catalogues may share a form.
+std::span<const EditorForm> EditorForms();
 
 }  // namespace tw

@@ -2,7 +2,7 @@
 #include <algorithm>
 
 #include "catalogue/CatalogueEditor.h"
-#include "catalogue/DBSetupModel.h"
+#include "catalogue/DatabaseSetupModel.h"
 #include "cli/Command.h"
 #include "cli/ScriptFormat.h"
 #include "values/Text.h"
@@ -47,7 +47,7 @@ void Drop(Session& session, Arguments& arguments) {
     const std::string name = arguments.LastName("NAME");
     Shell& program = session.Program();
     const CatalogueContext context = program.Catalogue().Context();
-    DBSetupModel setup(context);
+    DatabaseSetupModel setup(context);
     setup.Choose(catalogue);
     if (!setup.ShowName(name))
         throw ScriptError("there is no " + std::string(WordOf(catalogue)) + " '" + name + "'");
@@ -73,7 +73,7 @@ void Navigate(Session& session, Arguments& arguments) {
     const auto step = std::ranges::find(kSteps, word, &StepRow::word);
     if (step == std::end(kSteps)) throw ScriptError("there is no step '" + word + "'");
     const CatalogueContext context = session.Program().Catalogue().Context();
-    DBSetupModel setup(context);
+    DatabaseSetupModel setup(context);
     setup.Choose(catalogue);
     if (!setup.ShowName(name))
         throw ScriptError("there is no " + std::string(WordOf(catalogue)) + " '" + name + "'");

@@ -4,7 +4,7 @@
 
 #include "cli/Command.h"
 #include "cli/ScriptFormat.h"
-#include "tree/LvShowModel.h"
+#include "tree/CataloguePickerModel.h"
 #include "tree/lvFiller.h"
 #include "values/Text.h"
 

@@ -8,7 +8,7 @@
 #include "cli/ScriptFormat.h"
 #include "values/Converter.h"
 #include "values/NumberText.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 
 namespace tw {
 namespace {

@@ -2,7 +2,7 @@
 
 namespace tw {
 
-CannotUndoModel::CannotUndoModel() : FormModel("frmCannotUndo") {
+CannotUndoModel::CannotUndoModel() : FormModel(kFormName) {
     AddControls({CheckBox("chkDontShow", dontShow_)});
     AddButtons({{"cmdYes", [this] { Accept(); }}, {"cmdNo", [this] { Close(); }}});
 }

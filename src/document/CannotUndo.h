@@ -10,6 +10,8 @@ namespace tw {
 // chkDontShow; cmdYes and cmdNo. The close box leaves the answer at No.
 class CannotUndoModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmCannotUndo";
+
     static constexpr std::string_view kTitle = "Cannot Undo Change - Continue?";
     static constexpr std::string_view kWarning = "The change you are about to make cannot be undone.";
     static constexpr std::string_view kQuestion = "Do you wish to continue with the change anyway?";

@@ -72,7 +72,7 @@ DetailsModel StrengthDetails(double originalSG, double finalSG) {
                                  "0 per 12 fl.oz.");
          })},
         {"lblFP", Show([&] { return FreezingPoint(alcohol()); })}};
-    return {"frmStrengthDetails", std::move(labels)};
+    return {DetailsModel::kStrengthForm, std::move(labels)};
 }
 
 DetailsModel FinalVolDetails(const FinalVolInput& in) {
@@ -101,7 +101,7 @@ DetailsModel FinalVolDetails(const FinalVolInput& in) {
                  CaloriesPer12FlOz(alcohol().realExtract, alcohol().byWeight, in.fg) * share(),
                  "0 per 12 fl.oz.");
          })}};
-    return {"frmFinalVolDetails", std::move(labels)};
+    return {DetailsModel::kFinalVolForm, std::move(labels)};
 }
 
 int BalancePosition(double ratio) {
@@ -119,7 +119,7 @@ DetailsModel HopDetails(double originalSG, double ibu) {
                                            slider = BalancePosition(ratio);
                                            return FormatNumber(ratio, "0.##0");
                                        })}};
-    return {"frmHopDetails", std::move(labels), slider};
+    return {DetailsModel::kHopForm, std::move(labels), slider};
 }
 
 DetailsModel StrengthDetailsOf(const RecipeDocument& document) {

@@ -14,6 +14,10 @@ namespace tw {
 // A modal window of labels with one button, cmdClose.
 class DetailsModel final : public FormModel {
   public:
+    static constexpr const char* kStrengthForm = "frmStrengthDetails";
+    static constexpr const char* kFinalVolForm = "frmFinalVolDetails";
+    static constexpr const char* kHopForm = "frmHopDetails";
+
     // slider: the position of sliderBalance, 0 to 1000; 0 for a window without one.
     DetailsModel(std::string formName, std::vector<DialogControl> labels, int slider = 0);
 

@@ -8,7 +8,6 @@
 
 #include "document/CatalogueLookup.h"
 #include "document/CataloguePicks.h"
-#include "document/RecipeNotices.h"
 #include "document/EditCommands.h"
 #include "document/EditReplay.h"
 #include "document/OpenRecipe.h"
@@ -16,6 +15,7 @@
 #include "document/RecipeFields.h"
 #include "document/RecipeFocus.h"
 #include "document/RecipeLines.h"
+#include "document/RecipeNotices.h"
 #include "document/RecipeOptions.h"
 #include "document/RecipeScaling.h"
 #include "document/RecipeStorage.h"
@@ -26,6 +26,9 @@ namespace tw {
 
 class RecipeDocument {
   public:
+    // The name of its window.
+    static constexpr const char* kFormName = "frmDocument";
+
     // A new recipe with the defaults of the settings, not changed. All references must outlive the document.
     // number is shown in the caption of a document without a name; 0 is none.
     RecipeDocument(DocumentHost& host, Platform& platform, Database& database, const ColorTable& colors,

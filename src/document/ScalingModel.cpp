@@ -1,24 +1,23 @@
 #include "document/ScalingModel.h"
 
-#include <array>
-
 #include "document/RecipeDocument.h"
 #include "platform/Error.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/Text.h"
 
 namespace tw {
 namespace {
 
 struct Form {
-    std::string_view name, label, box;
+    std::string_view label, box;
     bool scalesBoilVol, preservesIBU;
 };
 
-constexpr std::array<Form, 4> kForms{{{"frmResizeRecipe", "lblCurSize", "txtNewSize", true, true},
-                                      {"frmChangeOG", "lblCurOG", "txtNewOG", false, true},
-                                      {"frmChangeIBU", "lblCurIBU", "txtNewIBU", false, false},
-                                      {"frmChangeCO2", "lblCurCO2", "txtNewCO2", false, false}}};
+// As ScalingModel::kFormNames.
+constexpr std::array<Form, 4> kForms{{{"lblCurSize", "txtNewSize", true, true},
+                                      {"lblCurOG", "txtNewOG", false, true},
+                                      {"lblCurIBU", "txtNewIBU", false, false},
+                                      {"lblCurCO2", "txtNewCO2", false, false}}};
 
 const Form& FormOf(Scaling what) {
     return kForms[static_cast<std::size_t>(what)];
@@ -34,7 +33,7 @@ Reading<double> NotNegative(std::optional<double> number, const std::string& kin
 }  // namespace
 
 ScalingModel::ScalingModel(Scaling what, std::string current, MessagePort& messages)
-    : FormModel(std::string(FormOf(what).name)),
+    : FormModel(kFormNames[static_cast<std::size_t>(what)]),
       what_(what),
       current_(std::move(current)),
       messages_(messages) {

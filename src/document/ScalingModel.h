@@ -2,6 +2,7 @@
 // frmChangeCO2. Each shows the present figure and takes the new one.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <string>
@@ -25,6 +26,9 @@ enum class Scaling { Size, Strength, Bitterness, Carbonation };
 // CancelButton.
 class ScalingModel final : public FormModel {
   public:
+    // In the order of Scaling.
+    static constexpr std::array kFormNames{"frmResizeRecipe", "frmChangeOG", "frmChangeIBU", "frmChangeCO2"};
+
     // current: the present figure as the recipe shows it. messages must outlive the dialog.
     ScalingModel(Scaling what, std::string current, MessagePort& messages);
 

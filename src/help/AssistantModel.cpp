@@ -13,8 +13,7 @@ std::string WithoutMark(std::string_view caption) {
 
 }  // namespace
 
-AssistantModel::AssistantModel(bool showAtStartup)
-    : FormModel("frmAssistant"), showAtStartup_(showAtStartup) {
+AssistantModel::AssistantModel(bool showAtStartup) : FormModel(kFormName), showAtStartup_(showAtStartup) {
     AddControls({CheckBox("chkShowAtStartup", showAtStartup_)});
     for (const AssistantLink& link : kAssistantLinks) {
         const std::string name(link.name);

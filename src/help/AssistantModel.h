@@ -29,6 +29,8 @@ inline constexpr AssistantLink kAssistantLinks[] = {
 // window.
 class AssistantModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmAssistant";
+
     explicit AssistantModel(bool showAtStartup);
 
     static constexpr std::string_view kTitle = "Tunwright Assistant";

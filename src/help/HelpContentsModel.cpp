@@ -43,8 +43,7 @@ void ReadHelpTopics(const Help& help, std::vector<HelpTopic>& topics) {
         AppendChildren(*database, topic, topics, seen);
 }
 
-HelpContentsModel::HelpContentsModel(Help& help, MessagePort& messages)
-    : FormModel("frmHelpContents"), help_(help) {
+HelpContentsModel::HelpContentsModel(Help& help, MessagePort& messages) : FormModel(kFormName), help_(help) {
     AddControls({
         {"TreeView1", [this] { return SelectedName(); },
          [this](std::string_view name) { return SelectNamed(name); }},

@@ -32,6 +32,8 @@ void ReadHelpTopics(const Help& help, std::vector<HelpTopic>& topics);
 // double click. lblSel.
 class HelpContentsModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmHelpContents";
+
     // Reads the topics; a failure is shown in a box, and the tree holds what was read before it. The first
     // topic is selected. REQUIRES: both outlive the object.
     HelpContentsModel(Help& help, MessagePort& messages);

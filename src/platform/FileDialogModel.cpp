@@ -5,7 +5,7 @@
 namespace tw {
 
 FileDialogModel::FileDialogModel(Options options, MessagePort& messages)
-    : FormModel("CommonDialog"), options_(std::move(options)), messages_(messages) {
+    : FormModel(kFormName), options_(std::move(options)), messages_(messages) {
     AddControls({TextEntry("FileName", text_)});
     AddButtons({{"cmdOK", [this] { Ok(); }}, {"cmdCancel", [this] { Close(); }}});
 }

@@ -14,6 +14,8 @@ namespace tw {
 // for one that is not to be replaced.
 class FileDialogModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "CommonDialog";
+
     enum class Kind { Open, Save };
     struct Options {
         Kind kind = Kind::Open;

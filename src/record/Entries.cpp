@@ -6,7 +6,7 @@
 #include "platform/Error.h"
 #include "record/CellRules.h"
 #include "record/FieldRules.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/Text.h"
 
 namespace tw {

@@ -12,7 +12,7 @@ constexpr int kSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 
 }  // namespace
 
 ChooseFontModel::ChooseFontModel(const ReportFont& font, int bgColor, bool showFontBColor)
-    : FormModel("frmChooseFont"),
+    : FormModel(kFormName),
       font_(font),
       size_(NumberText(font.points)),
       bgColor_(bgColor),

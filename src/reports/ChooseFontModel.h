@@ -15,6 +15,8 @@ namespace tw {
 // cmdOK, cmdCancel.
 class ChooseFontModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmChooseFont";
+
     // Starts on that font. bgColor is the ground of the sample; showFontBColor offers the colour behind the
     // text too.
     ChooseFontModel(const ReportFont& font, int bgColor, bool showFontBColor);

@@ -2,7 +2,7 @@
 
 namespace tw {
 
-NoPrinterModel::NoPrinterModel() : FormModel("frmNoPrinter") {
+NoPrinterModel::NoPrinterModel() : FormModel(kFormName) {
     AddButtons({
         {"cmdPreview", [this] { Choose(Choice::Preview); }},
         {"cmdPDF", [this] { Choose(Choice::Pdf); }},

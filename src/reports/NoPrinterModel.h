@@ -10,6 +10,8 @@ namespace tw {
 // cmdPreview, cmdPDF and cmdCancel; each closes the window.
 class NoPrinterModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmNoPrinter";
+
     static constexpr std::string_view kTitle = "Print";
     static constexpr std::string_view kText =
         "There is no printer on this computer.\r\nYou can look at the pages, or save them as a PDF file.";

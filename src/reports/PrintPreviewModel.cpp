@@ -20,7 +20,7 @@ std::string ZoomName(int zoom) {
 }  // namespace
 
 PrintPreviewModel::PrintPreviewModel(Actions actions, Paper paper)
-    : FormModel("frmPrintPreview"), actions_(std::move(actions)), paper_(paper) {
+    : FormModel(kFormName), actions_(std::move(actions)), paper_(paper) {
     AddControls({
         {"cmbPaper", [this] { return std::string(kPaperNames[static_cast<std::size_t>(paper_)]); },
          [this](std::string_view name) { return ChoosePaper(name); }},

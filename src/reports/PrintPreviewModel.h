@@ -18,6 +18,8 @@ namespace tw {
 // cmdZoomOut at the last step.
 class PrintPreviewModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmPrintPreview";
+
     // What the preview asks of its program.
     struct Actions {
         // The pages for a printable area.

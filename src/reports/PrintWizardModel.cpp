@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "reports/PrintFmtOptionsModel.h"
+#include "reports/PrintFormatModel.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -20,7 +20,7 @@ std::string_view PrintWizardModel::PageTitle(int page) {
 }
 
 PrintWizardModel::PrintWizardModel(const Context& context, int reportType)
-    : FormModel("frmPrintWizard"), context_(context) {
+    : FormModel(kFormName), context_(context) {
     if (reportType > 0 && reportType < static_cast<int>(kReportTypeNames.size()))
         request_.type = static_cast<ReportType>(reportType);
     recipes_.SetTree(&context_.tree);
@@ -89,7 +89,7 @@ void PrintWizardModel::Finish() {
 }
 
 void PrintWizardModel::Configure() {
-    PrintFmtOptionsModel options(request_.type, context_.store, context_.dialogs);
+    PrintFormatModel options(request_.type, context_.store, context_.dialogs);
     context_.dialogs.ShowModal(options);
 }
 

@@ -21,6 +21,8 @@ namespace tw {
 // buttons of the chooser.
 class PrintWizardModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmPrintWizard";
+
     enum Page : int { Units, Recipes, Output };
     static constexpr int kPages = 3;
     // Captions of the pages.

@@ -4,7 +4,7 @@
 
 namespace tw {
 
-AboutModel::AboutModel() : FormModel("frmAbout") {
+AboutModel::AboutModel() : FormModel(kFormName) {
     AddControls({{"lblTitle", [] { return std::string(kProgramTitle); }},
                  {"lblVersion", [] { return "Version " + std::string(kProgramVersion); }}});
     AddButtons({{"cmdOK", [this] { Close(); }}});

@@ -8,6 +8,8 @@ namespace tw {
 // lblTitle, the program's title; lblVersion, "Version major.minor.revision"; cmdOK, which closes the window.
 class AboutModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmAbout";
+
     AboutModel();
 };
 

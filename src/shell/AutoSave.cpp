@@ -19,7 +19,7 @@ bool AutoSaveMinutes::Tick(bool anyDocument, int every) {
 }
 
 AutoSaveModel::AutoSaveModel(const DocumentManager& documents, std::function<void(RecipeDocument&)> save)
-    : FormModel("frmAutoSave"), documents_(documents), save_(std::move(save)) {
+    : FormModel(kFormName), documents_(documents), save_(std::move(save)) {
     AddControls({{"lblRecipe", [this] { return recipeName_; }},
                  {"ProgressBar1", [this] { return std::to_string(done_); }}});
 }

@@ -33,6 +33,8 @@ class AutoSaveMinutes {
 // lblRecipe, the name of the recipe being saved; ProgressBar1, the number of documents done.
 class AutoSaveModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmAutoSave";
+
     // save saves a document silently and shows its own errors. Both must outlive the object.
     AutoSaveModel(const DocumentManager& documents, std::function<void(RecipeDocument&)> save);
     // Called after each change of what the window shows: it paints, and lets waiting events run.

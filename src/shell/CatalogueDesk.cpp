@@ -1,10 +1,10 @@
 #include "shell/CatalogueDesk.h"
 
 #include "catalogue/CatalogueEditor.h"
-#include "catalogue/DBSetupModel.h"
+#include "catalogue/DatabaseSetupModel.h"
 #include "catalogue/StyleEditor.h"
 #include "platform/ErrorBox.h"
-#include "tree/LvShowModel.h"
+#include "tree/CataloguePickerModel.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -16,7 +16,7 @@ CatalogueContext CatalogueDesk::Context() {
 
 void CatalogueDesk::ShowSetup() {
     const CatalogueContext context = Context();
-    DBSetupModel setup(context);
+    DatabaseSetupModel setup(context);
     // The documents follow even if an error ends the window.
     RunShowingErrors(context.messages, [&] { context.dialogs.ShowModal(setup); });
     documents_.CatalogueChanged();
@@ -36,7 +36,7 @@ std::optional<std::string> CatalogueDesk::EditStyle(std::string_view name, std::
 }
 
 void CatalogueDesk::Pick(RecipeDocument& document, CatalogueKind list, const std::string& name) {
-    LvShowModel picker(list, *data_.database, data_.tree, name);
+    CataloguePickerModel picker(list, *data_.database, data_.tree, name);
     picker.SetViewer([this](CatalogueKind type, ListTable& items) { ViewRow(type, items); });
     data_.platform.dialogs.ShowModal(picker);
     if (!picker.Cancelled()) document.Picks().Take(list, picker.Answer());

@@ -14,7 +14,8 @@ void HelpDesk::ShowContextHelp(std::string_view formName, std::string_view conte
 void HelpDesk::ShowForActive() {
     const RecipeDocument* const active = documents_.Active();
     if (active != nullptr && !view_->IsMinimized(*active))
-        ShowContextHelp("frmDocument", TabContext(static_cast<int>(active->Focus().CurrentTab()) + 1));
+        ShowContextHelp(RecipeDocument::kFormName,
+                        TabContext(static_cast<int>(active->Focus().CurrentTab()) + 1));
     else
         ShowContextHelp("", kWholeWindow);
 }

@@ -7,7 +7,7 @@
 namespace tw {
 
 ImportExportModel::ImportExportModel(const TWTree& tree, bool isImport)
-    : FormModel("frmImportExport"), isImport_(isImport), append_(!isImport) {
+    : FormModel(kFormName), isImport_(isImport), append_(!isImport) {
     recipes_.SetTree(&tree);
     recipes_.SetAction(isImport ? "Import" : "Export");
     if (isImport) recipes_.SetRootName("Import File");

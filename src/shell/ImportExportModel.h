@@ -14,6 +14,8 @@ namespace tw {
 // while nothing is picked; cmdCancel; the buttons of the chooser.
 class ImportExportModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmImportExport";
+
     // Picks from the recipes of that tree: of the main database for an export, of a recipe file for an
     // import. Its folders, or all recipes of the file, are chosen in it. REQUIRES: the tree lives for as
     // long.

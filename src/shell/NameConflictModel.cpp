@@ -7,7 +7,7 @@
 namespace tw {
 
 NameConflictModel::NameConflictModel(std::string recipeName, bool dirIn, MessagePort& messages)
-    : FormModel("frmNameConflict"),
+    : FormModel(kFormName),
       recipeName_(std::move(recipeName)),
       newName_(recipeName_),
       dirIn_(dirIn),

@@ -13,6 +13,8 @@ namespace tw {
 // stays open for a blank name and for the old one. The close box aborts.
 class NameConflictModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmNameConflict";
+
     // dirIn tells an import from an export. messages must outlive the dialog.
     NameConflictModel(std::string recipeName, bool dirIn, MessagePort& messages);
 

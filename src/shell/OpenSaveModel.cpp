@@ -17,11 +17,7 @@ constexpr std::array<std::string_view, 3> kOkCaptions = {"&Open", "&Save", "&Del
 }  // namespace
 
 OpenSaveModel::OpenSaveModel(Style style, const ObjectAccess& access, const OpenSaveFields& fields)
-    : FormModel("frmOpenSave"),
-      style_(style),
-      access_(access),
-      look_(fields.look),
-      list_(access, look_, false) {
+    : FormModel(kFormName), style_(style), access_(access), look_(fields.look), list_(access, look_, false) {
     DeclareControls();
     DeclareButtons();
     const std::string_view first = style == Style::Save ? kRecipeFoldersKey : kAllRecipesKey;

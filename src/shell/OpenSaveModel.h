@@ -26,6 +26,8 @@ struct OpenSaveFields {
 // by their control names; cmdOK stays open for what it refuses.
 class OpenSaveModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmOpenSave";
+
     enum class Style : int { Open, Save, Delete };
 
     // An entry of icmbFolder: the folders from the root down to the current one.

@@ -9,7 +9,7 @@
 #include "platform/Error.h"
 #include "shell/SettingsInUse.h"
 #include "store/Database.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -56,7 +56,7 @@ std::optional<double> ReadWhole(std::string_view text) {
 }  // namespace
 
 OptionsModel::OptionsModel(SettingsInUse& settings, Database& database, MessagePort& messages)
-    : FormModel("frmOptions"), settings_(settings), database_(database), messages_(messages) {
+    : FormModel(kFormName), settings_(settings), database_(database), messages_(messages) {
     FillDefaultsTab();
     FillSettingsTab();
     FillAppearanceTab();

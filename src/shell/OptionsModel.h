@@ -25,6 +25,8 @@ class SettingsInUse;
 // to their defaults, as if no color had ever been chosen.
 class OptionsModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmOptions";
+
     // Fills the controls from the settings, and the list of water profiles from the database. All must
     // outlive the dialog.
     OptionsModel(SettingsInUse& settings, Database& database, MessagePort& messages);

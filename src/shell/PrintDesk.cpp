@@ -22,7 +22,7 @@ auto Hourglass(PrinterPort& printer) {
 
 // For the time of a scope tmrProcessDDE is off: no command that another program has sent runs in the middle
 // of a job.
-auto PauseOutsideCommands(DDEService& commands) {
+auto PauseOutsideCommands(InstanceService& commands) {
     commands.SetTicking(false);
     return ScopeGuard([&commands] { commands.SetTicking(true); });
 }
@@ -48,7 +48,7 @@ std::string PdfName(std::string_view recipe) {
 
 }  // namespace
 
-PrintDesk::PrintDesk(const ShellEnvironment& environment, DDEService& outside, OpenedDatabase& data,
+PrintDesk::PrintDesk(const ShellEnvironment& environment, InstanceService& outside, OpenedDatabase& data,
                      const DocumentManager& documents, SettingsStore& store, OwnFiles& own)
     : environment_(environment),
       platform_(environment.platform),

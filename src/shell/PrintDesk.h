@@ -7,8 +7,8 @@
 #include "platform/OwnFiles.h"
 #include "platform/SettingsStore.h"
 #include "reports/PrinterPort.h"
-#include "shell/DDEService.h"
 #include "shell/DocumentManager.h"
+#include "shell/InstanceService.h"
 #include "shell/OpenedDatabase.h"
 #include "shell/ShellEnvironment.h"
 
@@ -17,7 +17,7 @@ namespace tw {
 class PrintDesk {
   public:
     // outside is held while a print job runs. All must outlive the object.
-    PrintDesk(const ShellEnvironment& environment, DDEService& outside, OpenedDatabase& data,
+    PrintDesk(const ShellEnvironment& environment, InstanceService& outside, OpenedDatabase& data,
               const DocumentManager& documents, SettingsStore& store, OwnFiles& own);
 
     // Prints the active document, nothing without one; quick takes the default printer without a dialog.
@@ -41,7 +41,7 @@ class PrintDesk {
 
     const ShellEnvironment& environment_;
     Platform& platform_;
-    DDEService& outside_;
+    InstanceService& outside_;
     OpenedDatabase& data_;
     const DocumentManager& documents_;
     SettingsStore& store_;

@@ -22,7 +22,7 @@ std::string TwoDigits(int number) {
 }  // namespace
 
 RecoveryModel::RecoveryModel(LostRecipes& recipes, MessagePort& messages, std::vector<LostRecipe> lost)
-    : FormModel("frmRecovery"), recipes_(recipes), messages_(messages), lost_(std::move(lost)) {
+    : FormModel(kFormName), recipes_(recipes), messages_(messages), lost_(std::move(lost)) {
     AddControls({{"lstRecipes", [this] { return SelectedEntry(); },
                   [this](std::string_view entry) { return SelectEntry(entry); }}});
     const auto isOpen = [this] { return IsOpen(); };

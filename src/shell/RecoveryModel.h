@@ -29,6 +29,8 @@ class LostRecipes {
 // the rest for later.
 class RecoveryModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmRecovery";
+
     // recipes and messages must outlive the object. It is open while lost is not empty.
     RecoveryModel(LostRecipes& recipes, MessagePort& messages, std::vector<LostRecipe> lost);
 

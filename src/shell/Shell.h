@@ -13,11 +13,11 @@
 #include "shell/CatalogueDesk.h"
 #include "shell/CommandBar.h"
 #include "shell/CommandStates.h"
-#include "shell/DDEService.h"
 #include "shell/DatabaseNotices.h"
 #include "shell/DocumentManager.h"
 #include "shell/ExchangeDesk.h"
 #include "shell/HelpDesk.h"
+#include "shell/InstanceService.h"
 #include "shell/OpenSaveModel.h"
 #include "shell/OpenedDatabase.h"
 #include "shell/PrintDesk.h"
@@ -34,7 +34,7 @@
 
 namespace tw {
 
-class Shell final : private DDEHost {
+class Shell final : private InstanceHost {
   public:
     explicit Shell(ShellEnvironment environment);
     ~Shell() override;
@@ -81,7 +81,7 @@ class Shell final : private DDEHost {
     HelpDesk& Helping() { return help_; }
     // The one program on a desktop, and the commands that reach it from outside. They wait while its ticking
     // is off: until the start is over, and while a print job runs.
-    DDEService& DDE() { return dde_; }
+    InstanceService& DDE() { return dde_; }
     // What the open and save dialog and the explorer showed last.
     const OpenSaveFields& BrowseFields() const { return browse_; }
 
@@ -114,7 +114,7 @@ class Shell final : private DDEHost {
         ShellActions actions;
     };
 
-    // DDEHost
+    // InstanceHost
     bool IsDialogOpen() const override { return view_->IsDialogOpen(); }
     void BringToFront() override { view_->BringToFront(); }
     void CommandsWait() override { view_->OutsideCommandsWait(); }
@@ -124,7 +124,7 @@ class Shell final : private DDEHost {
 
     ShellEnvironment environment_;
     ViewSlot view_;
-    DDEService dde_;
+    InstanceService dde_;
     SettingsStore store_;
     OpenSaveFields browse_;
     OwnFiles own_;

@@ -10,7 +10,7 @@
 #include "shell/OptionsModel.h"
 #include "tools/ColorScaleModel.h"
 #include "tools/ConvertUnitsModel.h"
-#include "tools/HopUtilModel.h"
+#include "tools/HopUtilisationModel.h"
 #include "tools/HydrometerModel.h"
 
 namespace tw {
@@ -85,7 +85,7 @@ void ShowColorScales(On on) {
 void ShowHopUtilization(On on) {
     std::optional<std::string> boilGravity;
     if (on.documents.Active() != nullptr) boilGravity = Active(on).Record().txtBG.Text();
-    HopUtilModel explorer(boilGravity);
+    HopUtilisationModel explorer(boilGravity);
     on.platform.dialogs.ShowModal(explorer);
 }
 

@@ -42,8 +42,8 @@ class ShellView {
     virtual bool IsDialogOpen() const { return false; }
     // The main window is to stand before all others, with the dialog that is open in it.
     virtual void BringToFront() {}
-    // Commands from outside are queued: DDEService::TickDDE is due every kDDETickMilliseconds until none is
-    // left.
+    // Commands from outside are queued: InstanceService::TickDDE is due every kDDETickMilliseconds until none
+    // is left.
     virtual void OutsideCommandsWait() {}
     // Ends the program (the close request has been granted, or the database could not be opened).
     virtual void CloseMainWindow() {}

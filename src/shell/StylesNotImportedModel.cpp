@@ -3,7 +3,7 @@
 namespace tw {
 
 StylesNotImportedModel::StylesNotImportedModel(StylesNotImported styles)
-    : FormModel("frmStylesNotImported"), styles_(std::move(styles)) {
+    : FormModel(kFormName), styles_(std::move(styles)) {
     AddControls({{"grdEffected", [this] { return Rows(); }}});
     AddButtons({{"cmdOK", [this] { Close(); }}});
 }

@@ -12,6 +12,8 @@ namespace tw {
 // grdEffected: its rows, the headers first, each ended by a line feed, cells separated by a tab; cmdOK.
 class StylesNotImportedModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmStylesNotImported";
+
     // "Effected" is to be kept as it stands.
     static constexpr std::string_view kHeaders[] = {"Effected Recipe", "Unrecognized Style"};
 

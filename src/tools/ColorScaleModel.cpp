@@ -65,7 +65,7 @@ std::string ColorReading(double hcu) {
     return (srm <= 50 ? FormatNumber(srm, "0") : std::string(">50")) + " SRM (" + FormatNumber(hcu, "0 HCU)");
 }
 
-ColorScaleModel::ColorScaleModel() : FormModel("frmColor") {
+ColorScaleModel::ColorScaleModel() : FormModel(kFormName) {
     for (int i = 0; i < kColorScales; ++i) {
         const auto scale = static_cast<ColorScale>(i);
         AddControls({OptionButton(

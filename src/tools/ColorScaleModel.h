@@ -42,6 +42,8 @@ std::string ColorReading(double hcu);
 // right one from 12; Label1(0) and (1); cmdClose.
 class ColorScaleModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmColor";
+
     ColorScaleModel();
 
     // Steps of the pointer along the picture.

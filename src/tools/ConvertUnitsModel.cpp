@@ -3,7 +3,7 @@
 #include "platform/Error.h"
 #include "platform/ScopeGuard.h"
 #include "values/NumberText.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -38,8 +38,7 @@ std::optional<QuantityKind> FindKind(std::string_view name) {
     return std::nullopt;
 }
 
-ConvertUnitsModel::ConvertUnitsModel(MessagePort& messages)
-    : FormModel("frmConvertUnits"), messages_(messages) {
+ConvertUnitsModel::ConvertUnitsModel(MessagePort& messages) : FormModel(kFormName), messages_(messages) {
     AddControls({
         {"cmbType", [this] { return std::string(KindName(kind_)); },
          [this](std::string_view name) { return ChooseKind(name); }},

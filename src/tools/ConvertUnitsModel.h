@@ -17,6 +17,8 @@ namespace tw {
 // which they convert; cmdClose.
 class ConvertUnitsModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmConvertUnits";
+
     // The most boxes that a kind needs.
     static constexpr int kBoxes = 9;
 

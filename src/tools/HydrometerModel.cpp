@@ -7,7 +7,7 @@
 #include "platform/ScopeGuard.h"
 #include "values/Converter.h"
 #include "values/NumberText.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -22,7 +22,7 @@ double WaterDensity(double fahrenheit) {
     return 1.00130346 - 0.000134722124 * t + 2.04052596e-6 * t * t - 2.32820948e-9 * t * t * t;
 }
 
-HydrometerModel::HydrometerModel(MessagePort& messages) : FormModel("frmHydrometer"), messages_(messages) {
+HydrometerModel::HydrometerModel(MessagePort& messages) : FormModel(kFormName), messages_(messages) {
     AddControls({
         Entry("txtActRead"),
         Entry("txtActTemp"),

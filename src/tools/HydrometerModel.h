@@ -8,7 +8,7 @@
 
 #include "platform/FormModel.h"
 #include "platform/Ports.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 
 namespace tw {
 
@@ -20,6 +20,8 @@ double WaterDensity(double fahrenheit);
 // txtActRead, txtActTemp and cmbCalTemp take any text and are left then; txtCalRead shows the result.
 class HydrometerModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmHydrometer";
+
     // messages must outlive the dialog.
     explicit HydrometerModel(MessagePort& messages);
 

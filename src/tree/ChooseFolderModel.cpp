@@ -3,7 +3,7 @@
 namespace tw {
 
 ChooseFolderModel::ChooseFolderModel(const TWTree& tree, DB_IO& objects)
-    : FormModel("frmChooseFolder"), chooser_(tree, objects) {
+    : FormModel(kFormName), chooser_(tree, objects) {
     AddControls({{"FolderChooser1", [this] { return std::to_string(chooser_.FolderID()); },
                   [this](std::string_view id) { return ChooseFolder(id); }}});
     AddButtons({{"cmdOK", [this] { Ok(); }}, {"cmdCancel", [this] { Close(); }}});

@@ -12,6 +12,8 @@ namespace tw {
 // FolderChooser1 shows and takes the id of its folder; cmdOK takes the folder; cmdCancel.
 class ChooseFolderModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmChooseFolder";
+
     // REQUIRES: both live for as long; objects changes that tree.
     ChooseFolderModel(const TWTree& tree, DB_IO& objects);
 

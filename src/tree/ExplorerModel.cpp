@@ -44,7 +44,7 @@ std::string Counted(std::size_t count) {
 }  // namespace
 
 ExplorerModel::ExplorerModel(const ObjectAccess& access, Hooks hooks)
-    : FormModel("frmExplorer"),
+    : FormModel(kFormName),
       access_(access),
       hooks_(std::move(hooks)),
       pages_{PageState(access, look_, false), PageState(access, look_, true)} {

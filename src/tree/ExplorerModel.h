@@ -28,6 +28,8 @@ using StyleEditing =
 // on for its array, and cmdClose. An error of a deletion rises when what is left is shown.
 class ExplorerModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmExplorer";
+
     enum class Page : int { Recipes, Styles };
     struct Hooks {
         // Opens the stored recipe of that name as a document.

@@ -5,7 +5,7 @@
 namespace tw {
 
 ProgressModel::ProgressModel(std::string title, Work work)
-    : FormModel("frmProgress"), title_(std::move(title)), work_(std::move(work)) {
+    : FormModel(kFormName), title_(std::move(title)), work_(std::move(work)) {
     AddControls({
         {"lblObject", [this] { return name_; }},
         {"ProgressBar1", [this] { return std::to_string(done_); }},

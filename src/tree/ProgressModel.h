@@ -16,6 +16,8 @@ namespace tw {
 // lblObject, the name of the object being worked on; ProgressBar1, the number of those done; cmdCancel.
 class ProgressModel final : public FormModel {
   public:
+    static constexpr const char* kFormName = "frmProgress";
+
     using Work = std::function<void(ProgressModel&)>;
     // So many objects are done before a window would be read.
     static constexpr int kWithoutWindow = 10;

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 
 namespace tw {
 namespace {

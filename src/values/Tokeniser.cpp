@@ -1,8 +1,8 @@
-// Tokens and plain numbers: the lower layer of ParserValidater.
+// Tokens and plain numbers: the lower layer of QuantityParsers.
 #include "platform/Error.h"
 #include "values/NumberReader.h"
 #include "values/NumberText.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/Text.h"
 
 namespace tw {

@@ -1,7 +1,7 @@
-// The unit parsers: the middle layer of ParserValidater.
+// The unit parsers: the middle layer of QuantityParsers.
 #include "platform/Error.h"
 #include "values/Converter.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/UnitReader.h"
 
 namespace tw {

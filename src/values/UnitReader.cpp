@@ -1,6 +1,6 @@
 #include "values/UnitReader.h"
 
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/Text.h"
 
 namespace tw {

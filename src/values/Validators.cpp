@@ -1,10 +1,10 @@
-// The validators: the upper layer of ParserValidater. Each tries its units in a fixed order, which settles
+// The validators: the upper layer of QuantityParsers. Each tries its units in a fixed order, which settles
 // what a word of two meanings means here, and converts to the canonical unit.
 #include <span>
 
 #include "platform/Error.h"
 #include "values/Converter.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/Text.h"
 #include "values/UnitReader.h"
 

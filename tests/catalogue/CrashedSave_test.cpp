@@ -3,7 +3,7 @@
 #include <unistd.h>
 
 #include "EditorTest.h"
-#include "catalogue/DBSetupModel.h"
+#include "catalogue/DatabaseSetupModel.h"
 #include "store/Schema.h"
 #include "support/DiesIn.h"
 
@@ -86,7 +86,7 @@ TEST_F(CrashedSave, OfARenamedGrainLeavesTheOldRow) {
 
 TEST_F(CrashedSave, OfADeletedGrainLeavesIt) {
     ExpectWhole(4, [](const CatalogueContext& context, const auto& arm) {
-        DBSetupModel setup(context);
+        DatabaseSetupModel setup(context);
         setup.Choose(CatalogueKind::Grain);
         arm();
         setup.Press("cmdDelete");

@@ -3,7 +3,7 @@
 #include <random>
 
 #include "EditorTest.h"
-#include "catalogue/DBSetupModel.h"
+#include "catalogue/DatabaseSetupModel.h"
 #include "values/NumberText.h"
 #include "values/Text.h"
 
@@ -86,7 +86,7 @@ void RandomGrains::Store(const std::string& opened) {
 }
 
 void RandomGrains::Drop(const std::string& name) {
-    DBSetupModel setup(context);
+    DatabaseSetupModel setup(context);
     setup.Choose(CatalogueKind::Grain);
     ASSERT_EQ(setup.ShowName(name), plain.contains(Upper(name)));
     if (!plain.contains(Upper(name))) return;
@@ -95,7 +95,7 @@ void RandomGrains::Drop(const std::string& name) {
     plain.erase(Upper(name));
     DropUnusedTypes();
     // The list without the row is the one that is read anew.
-    DBSetupModel fresh(context);
+    DatabaseSetupModel fresh(context);
     fresh.Choose(CatalogueKind::Grain);
     ASSERT_EQ(setup.Items().Count(), fresh.Items().Count());
     for (int row = 0; row < fresh.Items().Count(); ++row)

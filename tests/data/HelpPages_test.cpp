@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "store/Database.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 
 namespace tw::test {
 namespace {

@@ -6,7 +6,7 @@
 #include "platform/Error.h"
 #include "values/Converter.h"
 #include "values/NumberText.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/Text.h"
 
 namespace tw::test {

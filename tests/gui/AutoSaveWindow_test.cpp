@@ -5,8 +5,8 @@
 #include "GuiTest.h"
 #include "platform/qt/QtDialogs.h"
 #include "shell/RecoveryModel.h"
+#include "shell/ui/AutoSaveDialog.h"
 #include "shell/ui/RecoveryDialog.h"
-#include "shell/ui/frmAutoSave.h"
 
 namespace tw::test {
 namespace {
@@ -31,7 +31,7 @@ class AutoSaveWindow : public GuiTest {
     // Shows the real window of autosave in place of the recorder's.
     void RunAutoSave() {
         AutoSaveModel model = shell.AutoSaving().Progress();
-        frmAutoSave progress(model, &window);
+        AutoSaveDialog progress(model, &window);
         progress.exec();
         EXPECT_FALSE(model.IsOpen());
     }
@@ -73,7 +73,7 @@ TEST_F(AutoSaveWindow, ShowsTheRecipeAndHowFarItIs) {
     Stored("Stout");
     Stored("Porter");
     AutoSaveModel model = shell.AutoSaving().Progress();
-    frmAutoSave progress(model, &window);
+    AutoSaveDialog progress(model, &window);
     EXPECT_EQ(progress.findChild<QLabel*>(QStringLiteral("lblRecipe"))->text(), QString());
     progress.exec();
     auto* bar = progress.findChild<QProgressBar*>(QStringLiteral("ProgressBar1"));
@@ -85,7 +85,7 @@ TEST_F(AutoSaveWindow, ShowsTheRecipeAndHowFarItIs) {
 
 TEST_F(AutoSaveWindow, SaysWhatItIsSaving) {
     AutoSaveModel model = shell.AutoSaving().Progress();
-    const frmAutoSave progress(model, &window);
+    const AutoSaveDialog progress(model, &window);
     for (const auto& [name, text] :
          {std::pair("Label1", "Saving your open recipes."), std::pair("Label2", "Recipe:")}) {
         const auto* label = progress.findChild<QLabel*>(QLatin1String(name));
@@ -126,7 +126,7 @@ TEST_F(AutoSaveWindow, EditsAreKeptSomeSecondsLater) {
     shell.DB()->ExecuteNative("VACUUM INTO " + SqlText(FromQt(database)));
     Shell second({outside.platform});
     second.Environment().recoveryFolder = FromQt(folder.filePath(QStringLiteral("unsaved")));
-    frmMain other(second, outside.platform);
+    MainWindow other(second, outside.platform);
     ASSERT_TRUE(other.StartUp(FromQt(database)));
     EXPECT_TRUE(outside.dialogs.shown.empty());
     auto* timer = other.findChild<QTimer*>(QStringLiteral("tmrKeepUnsaved"));
@@ -152,7 +152,7 @@ TEST_F(AutoSaveWindow, TheStatusBarSaysWhileWorkIsNotKept) {
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     Shell second({outside.platform});
     second.Environment().recoveryFolder = FromQt(unsaved);
-    frmMain other(second, outside.platform);
+    MainWindow other(second, outside.platform);
     other.resize(900, 600);
     other.show();
     ASSERT_TRUE(other.StartUp(FromQt(database)));
@@ -202,7 +202,7 @@ TEST_F(AutoSaveWindow, TheRecoveryWindowRestoresWhatIsChosen) {
     }
     Shell next({outside.platform});
     next.Environment().recoveryFolder = root;
-    frmMain other(next, outside.platform);
+    MainWindow other(next, outside.platform);
     outside.dialogs.scripts.push_back([&](DialogModel& model) {
         RecoveryDialog dialog(dynamic_cast<RecoveryModel&>(model), &other);
         dialog.show();

@@ -3,15 +3,15 @@
 #include <gmock/gmock.h>
 
 #include "GuiTest.h"
-#include "catalogue/DBSetupModel.h"
+#include "catalogue/DatabaseSetupModel.h"
+#include "catalogue/ui/DatabaseSetupDialog.h"
 #include "catalogue/ui/EditorDialog.h"
 #include "catalogue/ui/ObjectNavigatorView.h"
-#include "catalogue/ui/frmDBSetup.h"
-#include "tree/LvShowModel.h"
+#include "tree/CataloguePickerModel.h"
+#include "tree/ui/CataloguePickerDialog.h"
 #include "tree/ui/ListFilterBox.h"
 #include "tree/ui/ListPane.h"
 #include "tree/ui/TreePane.h"
-#include "tree/ui/frmLvShow.h"
 
 namespace tw::test {
 namespace {
@@ -121,7 +121,7 @@ TEST_F(CatalogueWindows, ABlankNameIsToldAndTakesTheFocus) {
 }
 
 TEST_F(CatalogueWindows, StepsShowOtherRowsAndDropWhatIsTyped) {
-    DBSetupModel setup(*context);
+    DatabaseSetupModel setup(*context);
     setup.Choose(CatalogueKind::Hop);
     ObjectNavigator navigator(setup.Items());
     const auto model = MakeEditor(CatalogueKind::Hop, *context);
@@ -243,8 +243,8 @@ TEST_F(CatalogueWindows, AFormToBeReadHasOneButton) {
 }
 
 TEST_F(CatalogueWindows, SetupDeletesAndAddsByItsKeys) {
-    DBSetupModel model(*context);
-    frmDBSetup setup(model, nullptr);
+    DatabaseSetupModel model(*context);
+    DatabaseSetupDialog setup(model, nullptr);
     Up(setup);
     EXPECT_EQ(Focus(), "lvItems");
     In<QComboBox>(setup, "Combo1").setCurrentText(QStringLiteral("Hop Varieties"));
@@ -266,9 +266,9 @@ TEST_F(CatalogueWindows, SetupDeletesAndAddsByItsKeys) {
 }
 
 TEST_F(CatalogueWindows, SetupIsWalkedThroughInReadingOrder) {
-    DBSetupModel model(*context);
+    DatabaseSetupModel model(*context);
     model.Choose(CatalogueKind::Hop);
-    frmDBSetup setup(model, nullptr);
+    DatabaseSetupDialog setup(model, nullptr);
     Up(setup);
     In<QComboBox>(setup, "Combo1").setFocus();
     for (const char* next : {"txtFilter", "lvItems", "cmdNew", "cmdEdit", "cmdDelete", "cmdClose"}) {
@@ -278,8 +278,8 @@ TEST_F(CatalogueWindows, SetupIsWalkedThroughInReadingOrder) {
 }
 
 TEST_F(CatalogueWindows, SetupTakesItsKeysAlsoBesideTheList) {
-    DBSetupModel model(*context);
-    frmDBSetup setup(model, nullptr);
+    DatabaseSetupModel model(*context);
+    DatabaseSetupDialog setup(model, nullptr);
     Up(setup);
     auto& catalogues = In<QComboBox>(setup, "Combo1");
     catalogues.setCurrentText(QStringLiteral("Hop Varieties"));
@@ -306,8 +306,8 @@ TEST_F(CatalogueWindows, SetupTakesItsKeysAlsoBesideTheList) {
 TEST_F(CatalogueWindows, SetupIsOffOnAFolderAndEntersIt) {
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0");
     shell.Data().objects.CreateStyleFolder(0, "Dark", true);
-    DBSetupModel model(*context);
-    frmDBSetup setup(model, nullptr);
+    DatabaseSetupModel model(*context);
+    DatabaseSetupDialog setup(model, nullptr);
     Up(setup);
     EXPECT_FALSE(In<QPushButton>(setup, "cmdEdit").isEnabled());
     EXPECT_FALSE(In<QPushButton>(setup, "cmdDelete").isEnabled());
@@ -325,8 +325,8 @@ TEST_F(CatalogueWindows, AFolderOfStylesShowsItsColumnsInFull) {
     for (int i = 0; i < 60; ++i)
         shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), true);
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1");
-    DBSetupModel model(*context);
-    frmDBSetup setup(model, nullptr);
+    DatabaseSetupModel model(*context);
+    DatabaseSetupDialog setup(model, nullptr);
     Up(setup);
     auto& list = In<ListPane>(setup, "lvItems");
     EXPECT_EQ(list.header()->length(), list.viewport()->width());
@@ -339,7 +339,7 @@ TEST_F(CatalogueWindows, AFolderOfStylesShowsItsColumnsInFull) {
 
 TEST_F(CatalogueWindows, AStepLeavesTheFocusWhereItIs) {
     shell.DB()->Execute("INSERT INTO GRAINS (NAME, GRAIN) VALUES ('Wheat', TRUE)");
-    DBSetupModel setup(*context);
+    DatabaseSetupModel setup(*context);
     setup.Choose(CatalogueKind::Grain);
     ObjectNavigator navigator(setup.Items());
     const auto model = MakeEditor(CatalogueKind::Grain, *context);
@@ -355,9 +355,9 @@ TEST_F(CatalogueWindows, AStepLeavesTheFocusWhereItIs) {
 }
 
 TEST_F(CatalogueWindows, TheFilterLeavesWhatHoldsItsWords) {
-    DBSetupModel model(*context);
+    DatabaseSetupModel model(*context);
     model.Choose(CatalogueKind::Hop);
-    frmDBSetup setup(model, nullptr);
+    DatabaseSetupDialog setup(model, nullptr);
     Up(setup);
     Key(Qt::Key_F, Qt::ControlModifier);
     EXPECT_EQ(Focus(), "txtFilter");

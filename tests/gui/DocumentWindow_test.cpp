@@ -233,7 +233,7 @@ TEST_F(DocumentWindow, AsksBeforeItsChangesAreLost) {
 TEST_F(DocumentWindow, FallsSilentOnceItsRecipeIsClosed) {
     NewRecipe();
     BuildAllTabs();
-    const QPointer<frmDocument> closed = window.ActiveWindow();
+    const QPointer<RecipeWindow> closed = window.ActiveWindow();
     auto& box = Find<QLineEdit>("txtBoilVol");
     auto& styles = Find<QComboBox>("cmbStyle");
     auto& hops = Find<GridView>("gridHops");

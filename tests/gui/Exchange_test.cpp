@@ -10,9 +10,9 @@
 #include "platform/qt/ColorChooser.h"
 #include "platform/qt/FileDialog.h"
 #include "platform/qt/QtDialogs.h"
-#include "shell/ui/frmImportExport.h"
-#include "shell/ui/frmNameConflict.h"
-#include "shell/ui/frmStylesNotImported.h"
+#include "shell/ui/ImportExportDialog.h"
+#include "shell/ui/NameConflictDialog.h"
+#include "shell/ui/StylesNotImportedDialog.h"
 #include "tree/ui/TreePane.h"
 
 namespace tw::test {
@@ -48,7 +48,7 @@ class Exchange : public GuiTest {
 
 TEST_F(Exchange, RecipesArePickedAndTakenOnWithTheKeyboardAlone) {
     ImportExportModel model(shell.Data().tree, false);
-    frmImportExport dialog(model, nullptr);
+    ImportExportDialog dialog(model, nullptr);
     Show(dialog);
     EXPECT_EQ(FromQt(dialog.windowTitle()), "Export Recipes");
     EXPECT_EQ(Focus(), "treeRecipes");
@@ -67,7 +67,7 @@ TEST_F(Exchange, RecipesArePickedAndTakenOnWithTheKeyboardAlone) {
 
 TEST_F(Exchange, NextGoesDarkWhenTheLastRecipeIsTakenOut) {
     ImportExportModel model(shell.Data().tree, true);
-    frmImportExport dialog(model, nullptr);
+    ImportExportDialog dialog(model, nullptr);
     Show(dialog);
     EXPECT_EQ(FromQt(dialog.windowTitle()), "Import Recipes");
     EXPECT_EQ(dialog.findChild<QCheckBox*>(QStringLiteral("chkAppend")), nullptr);
@@ -83,7 +83,7 @@ TEST_F(Exchange, NextGoesDarkWhenTheLastRecipeIsTakenOut) {
 
 TEST_F(Exchange, ANewNameIsTypedOverTheOldOneAndTakenWithEnter) {
     NameConflictModel model("Mild", true, outside.messages);
-    frmNameConflict dialog(model, nullptr);
+    NameConflictDialog dialog(model, nullptr);
     Show(dialog);
     EXPECT_EQ(Focus(), "txtNewName");
     // The old name is no new one; it stays to be typed over.
@@ -105,7 +105,7 @@ TEST_F(Exchange, ANewNameIsTypedOverTheOldOneAndTakenWithEnter) {
 TEST_F(Exchange, EachAnswerToATakenNameHasItsKey) {
     const auto answerTo = [&](const char* button, Qt::Key key) {
         NameConflictModel model("Mild", false, outside.messages);
-        frmNameConflict dialog(model, nullptr);
+        NameConflictDialog dialog(model, nullptr);
         Show(dialog);
         if (key == Qt::Key_Escape)
             Key(key);
@@ -122,7 +122,7 @@ TEST_F(Exchange, EachAnswerToATakenNameHasItsKey) {
 
 TEST_F(Exchange, TheLabelsOfATakenNameSayWhichWayItGoes) {
     NameConflictModel model(std::string(10000, 'x'), false, outside.messages);
-    frmNameConflict dialog(model, nullptr);
+    NameConflictDialog dialog(model, nullptr);
     Show(dialog);
     const auto text = [&](const char* name) {
         return FromQt(dialog.findChild<QLabel*>(QLatin1String(name))->text());
@@ -136,7 +136,7 @@ TEST_F(Exchange, TheLabelsOfATakenNameSayWhichWayItGoes) {
 
 TEST_F(Exchange, UnknownStylesAreListedAndEnterClosesTheList) {
     StylesNotImportedModel model({{"Mild", "English Mild"}, {"Ale", "Old"}});
-    frmStylesNotImported dialog(model, nullptr);
+    StylesNotImportedDialog dialog(model, nullptr);
     Show(dialog);
     auto& grid = *dialog.findChild<QTreeWidget*>(QStringLiteral("grdEffected"));
     EXPECT_EQ(FromQt(grid.headerItem()->text(0)), "Effected Recipe");
@@ -157,9 +157,9 @@ TEST_F(Exchange, EveryDialogHasAWindowOfItsOwn) {
     NameConflictModel conflict("Mild", true, outside.messages);
     StylesNotImportedModel styles({});
     FileDialogModel file({}, outside.messages);
-    EXPECT_NE(dynamic_cast<frmImportExport*>(dialogs.Make(recipes, nullptr).get()), nullptr);
-    EXPECT_NE(dynamic_cast<frmNameConflict*>(dialogs.Make(conflict, nullptr).get()), nullptr);
-    EXPECT_NE(dynamic_cast<frmStylesNotImported*>(dialogs.Make(styles, nullptr).get()), nullptr);
+    EXPECT_NE(dynamic_cast<ImportExportDialog*>(dialogs.Make(recipes, nullptr).get()), nullptr);
+    EXPECT_NE(dynamic_cast<NameConflictDialog*>(dialogs.Make(conflict, nullptr).get()), nullptr);
+    EXPECT_NE(dynamic_cast<StylesNotImportedDialog*>(dialogs.Make(styles, nullptr).get()), nullptr);
     EXPECT_NE(dynamic_cast<FileDialog*>(dialogs.Make(file, nullptr).get()), nullptr);
 }
 
@@ -222,7 +222,7 @@ TEST_F(ExchangeFiles, EscapeInTheFileDialogTakesNone) {
 // Sends the events of a drag with that data to the main window.
 class Drag {
   public:
-    Drag(frmMain& target, const QMimeData& mime) : window_(target), mime_(mime) {
+    Drag(MainWindow& target, const QMimeData& mime) : window_(target), mime_(mime) {
         QDragEnterEvent enter({50, 50}, Qt::CopyAction | Qt::MoveAction, &mime_, Qt::LeftButton, {});
         enter.setAccepted(false);
         QApplication::sendEvent(&window_, &enter);
@@ -244,7 +244,7 @@ class Drag {
     bool canDrop = false;
 
   private:
-    frmMain& window_;
+    MainWindow& window_;
     const QMimeData& mime_;
 };
 

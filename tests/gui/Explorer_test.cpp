@@ -2,15 +2,15 @@
 #include <gmock/gmock.h>
 
 #include "BrowseTest.h"
+#include "tree/ui/ExplorerWindow.h"
 #include "tree/ui/NodePictures.h"
-#include "tree/ui/frmExplorer.h"
 
 namespace tw::test {
 namespace {
 
 using Page = ExplorerModel::Page;
 
-class ExplorerWindow : public BrowseTest {
+class ExplorerWindowTest : public BrowseTest {
   protected:
     void SetUp() override {
         BrowseTest::SetUp();
@@ -21,7 +21,7 @@ class ExplorerWindow : public BrowseTest {
                                      edited.push_back(name);
                                      return std::optional<std::string>();
                                  }});
-        dialog = std::make_unique<frmExplorer>(*model, nullptr);
+        dialog = std::make_unique<ExplorerWindow>(*model, nullptr);
         Front(*dialog);
     }
     TreePane& Tree() { return Shown<TreePane>("treeFolders"); }
@@ -48,10 +48,10 @@ class ExplorerWindow : public BrowseTest {
 
     Strings opened, edited;
     std::unique_ptr<ExplorerModel> model;
-    std::unique_ptr<frmExplorer> dialog;
+    std::unique_ptr<ExplorerWindow> dialog;
 };
 
-TEST_F(ExplorerWindow, StartsInTheTreeOnTheRecipes) {
+TEST_F(ExplorerWindowTest, StartsInTheTreeOnTheRecipes) {
     EXPECT_TRUE(Tree().hasFocus());
     EXPECT_EQ(FromQt(Tree().currentIndex().data().toString()), "My Recipe Folders");
     EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "mild"}));
@@ -59,7 +59,7 @@ TEST_F(ExplorerWindow, StartsInTheTreeOnTheRecipes) {
     EXPECT_FALSE(Button("cmdNewStyle").isVisible());
 }
 
-TEST_F(ExplorerWindow, TheKeysWalkThroughTheFolders) {
+TEST_F(ExplorerWindowTest, TheKeysWalkThroughTheFolders) {
     QTest::keyClick(&Tree(), Qt::Key_Down);
     EXPECT_EQ(Rows(List()), (Strings{"Dark", "Porter"}));
     QTest::keyClick(&Tree(), Qt::Key_Right);
@@ -68,7 +68,7 @@ TEST_F(ExplorerWindow, TheKeysWalkThroughTheFolders) {
     EXPECT_EQ(Rows(List()), Strings{});
 }
 
-TEST_F(ExplorerWindow, EnterAndADoubleClickOpen) {
+TEST_F(ExplorerWindowTest, EnterAndADoubleClickOpen) {
     Click(List(), RowOf(List(), "mild"));
     QTest::keyClick(&List(), Qt::Key_Return);
     EXPECT_EQ(opened, Strings{"mild"});
@@ -78,13 +78,13 @@ TEST_F(ExplorerWindow, EnterAndADoubleClickOpen) {
     EXPECT_TRUE(dialog->isVisible());
 }
 
-TEST_F(ExplorerWindow, TypingFindsARow) {
+TEST_F(ExplorerWindowTest, TypingFindsARow) {
     List().setFocus();
     QTest::keyClicks(&List(), QStringLiteral("mi"));
     EXPECT_EQ(model->List(Page::Recipes).Rows().SelectedText(), "mild");
 }
 
-TEST_F(ExplorerWindow, F2EditsANameInTheList) {
+TEST_F(ExplorerWindowTest, F2EditsANameInTheList) {
     for (const char* view : {"mnuList", "mnuDetails"}) {
         Press(view);
         Click(List(), RowOf(List(), "mild"));
@@ -102,7 +102,7 @@ TEST_F(ExplorerWindow, F2EditsANameInTheList) {
     EXPECT_EQ(opened, Strings{});
 }
 
-TEST_F(ExplorerWindow, ARefusedNameIsTakenBackAfterOneBox) {
+TEST_F(ExplorerWindowTest, ARefusedNameIsTakenBackAfterOneBox) {
     Click(List(), RowOf(List(), "mild"));
     QTest::keyClick(&List(), Qt::Key_F2);
     TypeName(List(), "ale");
@@ -112,7 +112,7 @@ TEST_F(ExplorerWindow, ARefusedNameIsTakenBackAfterOneBox) {
 }
 
 // On a desktop a box takes the activation of the window below, which has it again a while after the box.
-TEST_F(ExplorerWindow, ARefusedNameLeavesTheFocusWhereItWas) {
+TEST_F(ExplorerWindowTest, ARefusedNameLeavesTheFocusWhereItWas) {
     outside.messages.whileShowing = [] { QApplication::setActiveWindow(nullptr); };
     const auto refuse = [&](QAbstractItemView& view, const char* name) {
         QTest::keyClick(&view, Qt::Key_F2);
@@ -146,7 +146,7 @@ TEST_F(ExplorerWindow, ARefusedNameLeavesTheFocusWhereItWas) {
     EXPECT_EQ(model->NodeKey(), "F:0");
 }
 
-TEST_F(ExplorerWindow, ANameRefusedByAClickElsewhereLeavesTheFocusThere) {
+TEST_F(ExplorerWindowTest, ANameRefusedByAClickElsewhereLeavesTheFocusThere) {
     Click(List(), RowOf(List(), "mild"));
     QTest::keyClick(&List(), Qt::Key_F2);
     ASSERT_NE(Editor(List()), nullptr);
@@ -157,7 +157,7 @@ TEST_F(ExplorerWindow, ANameRefusedByAClickElsewhereLeavesTheFocusThere) {
     EXPECT_TRUE(FindBox().hasFocus());
 }
 
-TEST_F(ExplorerWindow, EscapeGivesAnEditUpAndLeavesTheWindow) {
+TEST_F(ExplorerWindowTest, EscapeGivesAnEditUpAndLeavesTheWindow) {
     Click(List(), RowOf(List(), "mild"));
     QTest::keyClick(&List(), Qt::Key_F2);
     ASSERT_NE(Editor(List()), nullptr);
@@ -170,7 +170,7 @@ TEST_F(ExplorerWindow, EscapeGivesAnEditUpAndLeavesTheWindow) {
     EXPECT_EQ(model->List(Page::Recipes).EditedRow(), ListTable::kNoRow);
 }
 
-TEST_F(ExplorerWindow, AFolderIsMadeAndNamedInTheTree) {
+TEST_F(ExplorerWindowTest, AFolderIsMadeAndNamedInTheTree) {
     QTest::keyClick(&Tree(), Qt::Key_Insert);
     TypeName(Tree(), "Autumn");
     EXPECT_EQ(model->NodeKey(), "F:4");
@@ -185,7 +185,7 @@ TEST_F(ExplorerWindow, AFolderIsMadeAndNamedInTheTree) {
     EXPECT_EQ(shell.Data().tree.Nodes("F:5")->Name(), "Later");
 }
 
-TEST_F(ExplorerWindow, KeysThatEditANameMakeNoFolder) {
+TEST_F(ExplorerWindowTest, KeysThatEditANameMakeNoFolder) {
     Click(List(), RowOf(List(), "mild"));
     QTest::keyClick(&List(), Qt::Key_F2);
     ASSERT_NE(Editor(List()), nullptr);
@@ -196,7 +196,7 @@ TEST_F(ExplorerWindow, KeysThatEditANameMakeNoFolder) {
     EXPECT_NE(Editor(List()), nullptr);
 }
 
-TEST_F(ExplorerWindow, SeveralRowsAreChosenAndDeletedByKey) {
+TEST_F(ExplorerWindowTest, SeveralRowsAreChosenAndDeletedByKey) {
     Click(List(), RowOf(List(), "Ale"));
     Click(List(), RowOf(List(), "mild"), Qt::ControlModifier);
     EXPECT_EQ(model->List(Page::Recipes).ChosenKeys(), (Strings{"R:1:3", "R:2:3"}));
@@ -209,7 +209,7 @@ TEST_F(ExplorerWindow, SeveralRowsAreChosenAndDeletedByKey) {
     EXPECT_EQ(model->List(Page::Recipes).ChosenKeys(), Strings{"F:1"});
 }
 
-TEST_F(ExplorerWindow, ShiftChoosesARangeInEveryView) {
+TEST_F(ExplorerWindowTest, ShiftChoosesARangeInEveryView) {
     for (const char* view : {"mnuLargeIcons", "mnuSmallIcons", "mnuList", "mnuDetails"}) {
         Press(view);
         Click(List(), RowOf(List(), "Winter"));
@@ -220,7 +220,7 @@ TEST_F(ExplorerWindow, ShiftChoosesARangeInEveryView) {
     }
 }
 
-TEST_F(ExplorerWindow, AFolderOfTheTreeIsDeletedByKey) {
+TEST_F(ExplorerWindowTest, AFolderOfTheTreeIsDeletedByKey) {
     QTest::keyClick(&Tree(), Qt::Key_Down);
     outside.messages.answers = {Answer::Yes};
     QTest::keyClick(&Tree(), Qt::Key_Delete);
@@ -231,7 +231,7 @@ TEST_F(ExplorerWindow, AFolderOfTheTreeIsDeletedByKey) {
     EXPECT_EQ(Boxes(), Strings{});
 }
 
-TEST_F(ExplorerWindow, ObjectsAreDraggedFromListToTree) {
+TEST_F(ExplorerWindowTest, ObjectsAreDraggedFromListToTree) {
     EXPECT_TRUE(Drop(Tree(), Node("F:1"), {"R:1:3", "R:2:3"}));
     EXPECT_EQ(Rows(List()), Strings{"Winter"});
     EXPECT_TRUE(Tree().isExpanded(Node("F:1")));
@@ -241,7 +241,7 @@ TEST_F(ExplorerWindow, ObjectsAreDraggedFromListToTree) {
     EXPECT_EQ(shell.Data().tree.Nodes("R:1:3")->Parent()->Key(), "F:1");
 }
 
-TEST_F(ExplorerWindow, ObjectsAreDraggedOnFoldersOfTheList) {
+TEST_F(ExplorerWindowTest, ObjectsAreDraggedOnFoldersOfTheList) {
     for (const char* view : {"mnuDetails", "mnuLargeIcons", "mnuList"}) {
         Press(view);
         EXPECT_TRUE(Drop(List(), RowOf(List(), "Winter"), {"R:1:3"})) << view;
@@ -253,7 +253,7 @@ TEST_F(ExplorerWindow, ObjectsAreDraggedOnFoldersOfTheList) {
 }
 
 // As pictures, for an icon has no name.
-TEST_F(ExplorerWindow, OnlyTheChosenFolderIsShownOpen) {
+TEST_F(ExplorerWindowTest, OnlyTheChosenFolderIsShownOpen) {
     const auto shown = [&](const char* key) {
         return Node(key).data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
     };
@@ -271,7 +271,7 @@ TEST_F(ExplorerWindow, OnlyTheChosenFolderIsShownOpen) {
     EXPECT_EQ(shown("F:2"), closed);
 }
 
-TEST_F(ExplorerWindow, AFolderDroppedOnItsOwnChildIsToldOf) {
+TEST_F(ExplorerWindowTest, AFolderDroppedOnItsOwnChildIsToldOf) {
     Tree().expandAll();
     EXPECT_TRUE(Drop(Tree(), Node("F:2"), {"F:1"}));
     EXPECT_EQ(Boxes(), Strings{"[Could not move folder] The destination folder is a sub-folder of the source "
@@ -279,7 +279,7 @@ TEST_F(ExplorerWindow, AFolderDroppedOnItsOwnChildIsToldOf) {
     EXPECT_EQ(shell.Data().tree.Nodes("F:1")->Parent()->Key(), "F:0");
 }
 
-TEST_F(ExplorerWindow, AStrangerIsNotTaken) {
+TEST_F(ExplorerWindowTest, AStrangerIsNotTaken) {
     QMimeData text;
     text.setText(QStringLiteral("R:1:3"));
     const QPoint place = Tree().visualRect(Node("F:1")).center();
@@ -290,7 +290,7 @@ TEST_F(ExplorerWindow, AStrangerIsNotTaken) {
     EXPECT_TRUE(KeysOf(nullptr).empty());
 }
 
-TEST_F(ExplorerWindow, OnlyWhatCanBeMovedIsDragged) {
+TEST_F(ExplorerWindowTest, OnlyWhatCanBeMovedIsDragged) {
     EXPECT_TRUE(RowOf(List(), "Ale").flags().testFlag(Qt::ItemIsDragEnabled));
     EXPECT_FALSE(Node("F:0").flags().testFlag(Qt::ItemIsDragEnabled));
     EXPECT_TRUE(Node("F:1").flags().testFlag(Qt::ItemIsDragEnabled));
@@ -298,7 +298,7 @@ TEST_F(ExplorerWindow, OnlyWhatCanBeMovedIsDragged) {
     EXPECT_FALSE(RowOf(List(), "(None)").flags().testFlag(Qt::ItemIsDragEnabled));
 }
 
-TEST_F(ExplorerWindow, TheMenuOfARowIsLitByItsKey) {
+TEST_F(ExplorerWindowTest, TheMenuOfARowIsLitByItsKey) {
     QMenu* menu = MenuAt(*dialog, List(), RowOf(List(), "Ale"), "mnuPopupList");
     EXPECT_EQ(model->List(Page::Recipes).SelectedKey(), "R:1:3");
     EXPECT_EQ(LitItems(*menu),
@@ -315,7 +315,7 @@ TEST_F(ExplorerWindow, TheMenuOfARowIsLitByItsKey) {
     EXPECT_EQ(shell.Data().tree.Nodes("R:1:3")->Name(), "Bitter");
 }
 
-TEST_F(ExplorerWindow, TheMenuOfAnEntryOfTheTreeIsLitByItsKey) {
+TEST_F(ExplorerWindowTest, TheMenuOfAnEntryOfTheTreeIsLitByItsKey) {
     QMenu* menu = MenuAt(*dialog, Tree(), Node("F:1"), "mnuPopupTree");
     EXPECT_EQ(model->NodeKey(), "F:1");
     EXPECT_EQ(LitItems(*menu), (Strings{"mnuRenameFolder", "mnuDeleteFolder", "mnuNewFolder"}));
@@ -325,7 +325,7 @@ TEST_F(ExplorerWindow, TheMenuOfAnEntryOfTheTreeIsLitByItsKey) {
     Close(menu);
 }
 
-TEST_F(ExplorerWindow, NoneIsLeftAloneOnThePageOfStyles) {
+TEST_F(ExplorerWindowTest, NoneIsLeftAloneOnThePageOfStyles) {
     Button("optStyles").click();
     EXPECT_EQ(Rows(List()), (Strings{"British", "(None)", "Stout"}));
     EXPECT_TRUE(Button("cmdNewStyle").isVisible());
@@ -343,7 +343,7 @@ TEST_F(ExplorerWindow, NoneIsLeftAloneOnThePageOfStyles) {
     EXPECT_EQ(edited, (Strings{"Stout", ""}));
 }
 
-TEST_F(ExplorerWindow, ARecipeIsDraggedToAnotherStyle) {
+TEST_F(ExplorerWindowTest, ARecipeIsDraggedToAnotherStyle) {
     Button("optStyles").click();
     Click(Tree(), Node("S:0:1"));
     EXPECT_EQ(Rows(List()), (Strings{"Ale", "mild", "Porter"}));
@@ -353,7 +353,7 @@ TEST_F(ExplorerWindow, ARecipeIsDraggedToAnotherStyle) {
     EXPECT_EQ(shell.Data().tree.Nodes("R:3:1")->Parent()->Key(), "S:1:0");
 }
 
-TEST_F(ExplorerWindow, EachPageKeepsItsPlace) {
+TEST_F(ExplorerWindowTest, EachPageKeepsItsPlace) {
     Click(Tree(), Node("F:1"));
     Button("optStyles").click();
     EXPECT_EQ(model->NodeKey(), "G:0");
@@ -363,7 +363,7 @@ TEST_F(ExplorerWindow, EachPageKeepsItsPlace) {
     EXPECT_TRUE(FindBox().isEnabled());
 }
 
-TEST_F(ExplorerWindow, TheStylesOpenWithTheirFirstRowsInSight) {
+TEST_F(ExplorerWindowTest, TheStylesOpenWithTheirFirstRowsInSight) {
     for (int i = 0; i < 60; ++i)
         shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), true);
     model->Settle();
@@ -381,14 +381,14 @@ TEST_F(ExplorerWindow, TheStylesOpenWithTheirFirstRowsInSight) {
     EXPECT_EQ(Tree().verticalScrollBar()->value(), end);
 }
 
-TEST_F(ExplorerWindow, TheTreeTellsInATipWhatItCuts) {
+TEST_F(ExplorerWindowTest, TheTreeTellsInATipWhatItCuts) {
     EXPECT_EQ(FromQt(Node("F:1").data(Qt::ToolTipRole).toString()), "Winter");
     shell.Data().objects.RenameObject("F:1", "<b>Winter</b>", true);
     model->Settle();
     EXPECT_THAT(FromQt(Node("F:1").data(Qt::ToolTipRole).toString()), testing::HasSubstr("&lt;b&gt;"));
 }
 
-TEST_F(ExplorerWindow, AClickOnAHeaderSortsBothLists) {
+TEST_F(ExplorerWindowTest, AClickOnAHeaderSortsBothLists) {
     Press("mnuDetails");
     auto& pane = dynamic_cast<ListPane&>(List());
     QHeaderView* header = pane.header();
@@ -400,7 +400,7 @@ TEST_F(ExplorerWindow, AClickOnAHeaderSortsBothLists) {
     EXPECT_EQ(Rows(List()), (Strings{"British", "Stout", "(None)"}));
 }
 
-TEST_F(ExplorerWindow, TheButtonsAreAboutTheRowsOrTheEntry) {
+TEST_F(ExplorerWindowTest, TheButtonsAreAboutTheRowsOrTheEntry) {
     EXPECT_FALSE(Button("cmdDelete").isEnabled());
     Click(Tree(), Node("F:1"));
     EXPECT_TRUE(Button("cmdDelete").isEnabled());
@@ -418,7 +418,7 @@ TEST_F(ExplorerWindow, TheButtonsAreAboutTheRowsOrTheEntry) {
     EXPECT_TRUE(Button("cmdDelete").isEnabled());
 }
 
-TEST_F(ExplorerWindow, TheBorderMovesAndBothPanesStay) {
+TEST_F(ExplorerWindowTest, TheBorderMovesAndBothPanesStay) {
     auto& splitter = Shown<QSplitter>("Splitter");
     const int before = Tree().width();
     splitter.setSizes({splitter.sizes()[0] + 60, splitter.sizes()[1] - 60});
@@ -431,7 +431,7 @@ TEST_F(ExplorerWindow, TheBorderMovesAndBothPanesStay) {
     EXPECT_EQ(List().width(), list + 100);
 }
 
-TEST_F(ExplorerWindow, TheFindBoxFiltersAndEscapeFirstClearsIt) {
+TEST_F(ExplorerWindowTest, TheFindBoxFiltersAndEscapeFirstClearsIt) {
     Press("mnuDetails");
     FindBox().setFocus();
     QTest::keyClicks(&FindBox(), QStringLiteral("por"));
@@ -457,7 +457,7 @@ TEST_F(ExplorerWindow, TheFindBoxFiltersAndEscapeFirstClearsIt) {
     EXPECT_FALSE(model->IsOpen());
 }
 
-TEST_F(ExplorerWindow, ChoosingAFolderEndsTheSearch) {
+TEST_F(ExplorerWindowTest, ChoosingAFolderEndsTheSearch) {
     FindBox().setText(QStringLiteral("ale"));
     Click(Tree(), Node("F:1"));
     EXPECT_EQ(FromQt(FindBox().text()), "");
@@ -468,9 +468,9 @@ TEST_F(ExplorerWindow, ChoosingAFolderEndsTheSearch) {
     EXPECT_EQ(Rows(List()), (Strings{"Dark", "Porter"}));
 }
 
-TEST_F(ExplorerWindow, ARecipeOpensBehindItInTheMainWindow) {
+TEST_F(ExplorerWindowTest, ARecipeOpensBehindItInTheMainWindow) {
     outside.dialogs.scripts.push_back([](DialogModel& explorer) {
-        frmExplorer explorerWindow(dynamic_cast<ExplorerModel&>(explorer), nullptr);
+        ExplorerWindow explorerWindow(dynamic_cast<ExplorerModel&>(explorer), nullptr);
         explorerWindow.show();
         explorer.SetControl("lvNames", "Ale");
         explorerWindow.findChild<QPushButton*>(QStringLiteral("cmdOpen"))->click();

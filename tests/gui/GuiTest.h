@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "document/ui/GridView.h"
-#include "document/ui/frmDocument.h"
+#include "document/ui/RecipeWindow.h"
 #include "platform/qt/QtText.h"
 #include "shell/Shell.h"
-#include "shell/ui/frmMain.h"
+#include "shell/ui/MainWindow.h"
 #include "support/RecordingPlatform.h"
 
 namespace tw::test {
@@ -31,7 +31,7 @@ class GuiTest : public testing::Test {
     }
 
     // A new recipe in front.
-    frmDocument& NewRecipe() {
+    RecipeWindow& NewRecipe() {
         EXPECT_TRUE(window.RunCommand(CommandId::FileNew));
         return *window.ActiveWindow();
     }
@@ -76,7 +76,7 @@ class GuiTest : public testing::Test {
 
     RecordingPlatform outside;
     Shell shell{{outside.platform}};
-    frmMain window{shell, outside.platform};
+    MainWindow window{shell, outside.platform};
 };
 
 using Strings = std::vector<std::string>;

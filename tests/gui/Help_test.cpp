@@ -5,15 +5,15 @@
 
 #include "GuiTest.h"
 #include "help/qt/QtBrowser.h"
+#include "help/ui/AssistantDialog.h"
 #include "help/ui/AssistantLinkButton.h"
-#include "help/ui/frmAssistant.h"
-#include "help/ui/frmHelpContents.h"
+#include "help/ui/HelpContentsDialog.h"
 #include "platform/qt/HelpKey.h"
 #include "platform/qt/QtDialogs.h"
 #include "shell/AboutModel.h"
 #include "shell/OptionsModel.h"
 #include "shell/ui/AboutDialog.h"
-#include "shell/ui/frmOptions.h"
+#include "shell/ui/OptionsDialog.h"
 #include "support/RecordingHelp.h"
 #include "tools/ConvertUnitsModel.h"
 
@@ -53,7 +53,7 @@ class HelpContentsWindow : public HelpWindows {
                          " (4, 'Tools', 'tools.html', -1);");
         files.files[folder.Path().string() + "/index_template.dat"] = "$START_PAGE";
         model = std::make_unique<HelpContentsModel>(help, messages);
-        window = std::make_unique<frmHelpContents>(*model, nullptr);
+        window = std::make_unique<HelpContentsDialog>(*model, nullptr);
         BringUp(*window);
     }
     QTreeWidget& Tree() { return *window->findChild<QTreeWidget*>(QStringLiteral("TreeView1")); }
@@ -68,7 +68,7 @@ class HelpContentsWindow : public HelpWindows {
     MemoryFiles files;
     Help help{folder.Path().string(), messages, browser, files};
     std::unique_ptr<HelpContentsModel> model;
-    std::unique_ptr<frmHelpContents> window;
+    std::unique_ptr<HelpContentsDialog> window;
 };
 
 TEST_F(HelpContentsWindow, OpensOnTheFirstTopicWithItsBranchOpen) {
@@ -141,7 +141,7 @@ class AssistantWindow : public HelpWindows {
     }
 
     AssistantModel model{true};
-    frmAssistant window{model, nullptr};
+    AssistantDialog window{model, nullptr};
 };
 
 TEST_F(AssistantWindow, IsNamedAndOffersFiveLinks) {
@@ -174,7 +174,7 @@ TEST_F(AssistantWindow, AClickFollowsALink) {
 TEST_F(AssistantWindow, EnterAndSpaceFollowTheLinkWithTheFocus) {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
         AssistantModel other(true);
-        frmAssistant dialog(other, nullptr);
+        AssistantDialog dialog(other, nullptr);
         BringUp(dialog);
         Key(Qt::Key_Tab);
         Key(key);
@@ -224,8 +224,8 @@ class HelpKey : public GuiTest {
     Strings Asked(DialogModel& model, const Action& action) {
         Strings asked;
         QtDialogs dialogs(outside.settings);
-        dialogs.Register<DialogModel, AboutDialog>("frmAbout");
-        dialogs.Register<OptionsModel, frmOptions>("frmOptions", colors);
+        dialogs.Register<AboutModel, AboutDialog>();
+        dialogs.Register<OptionsModel, OptionsDialog>(colors);
         dialogs.SetHelp(
             [&](const std::string& form, int tab) { asked.push_back(form + " " + std::to_string(tab)); });
         QTimer::singleShot(0, &window, [&] {

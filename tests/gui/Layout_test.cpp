@@ -5,42 +5,42 @@
 #include <set>
 
 #include "GuiTest.h"
-#include "catalogue/DBSetupModel.h"
+#include "catalogue/DatabaseSetupModel.h"
+#include "catalogue/ui/DatabaseSetupDialog.h"
 #include "catalogue/ui/EditorDialog.h"
-#include "catalogue/ui/frmDBSetup.h"
 #include "document/CannotUndo.h"
 #include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
 #include "document/ui/FancyLabel.h"
 #include "document/ui/ScalingDialog.h"
-#include "help/ui/frmAssistant.h"
-#include "help/ui/frmHelpContents.h"
+#include "help/ui/AssistantDialog.h"
+#include "help/ui/HelpContentsDialog.h"
 #include "platform/qt/Appearance.h"
 #include "reports/NoPrinterModel.h"
+#include "reports/ui/ChooseFontDialog.h"
 #include "reports/ui/NoPrinterDialog.h"
-#include "reports/ui/frmChooseFont.h"
-#include "reports/ui/frmPrintFmtOptions.h"
-#include "reports/ui/frmPrintPreview.h"
-#include "reports/ui/frmPrintWizard.h"
+#include "reports/ui/PrintFormatDialog.h"
+#include "reports/ui/PrintPreviewDialog.h"
+#include "reports/ui/PrintWizardDialog.h"
 #include "shell/AboutModel.h"
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
 #include "shell/ui/AboutDialog.h"
+#include "shell/ui/ImportExportDialog.h"
+#include "shell/ui/NameConflictDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
-#include "shell/ui/frmImportExport.h"
-#include "shell/ui/frmNameConflict.h"
-#include "shell/ui/frmOptions.h"
-#include "shell/ui/frmStylesNotImported.h"
+#include "shell/ui/OptionsDialog.h"
+#include "shell/ui/StylesNotImportedDialog.h"
 #include "support/RecordingHelp.h"
-#include "tools/ui/frmColor.h"
-#include "tools/ui/frmConvertUnits.h"
-#include "tools/ui/frmHopUtil.h"
-#include "tools/ui/frmHydrometer.h"
+#include "tools/ui/ColorScaleDialog.h"
+#include "tools/ui/ConvertUnitsDialog.h"
+#include "tools/ui/HopUtilisationDialog.h"
+#include "tools/ui/HydrometerDialog.h"
+#include "tree/ui/CataloguePickerDialog.h"
+#include "tree/ui/ChooseFolderDialog.h"
+#include "tree/ui/ExplorerWindow.h"
+#include "tree/ui/ProgressDialog.h"
 #include "tree/ui/RecipeChooserView.h"
-#include "tree/ui/frmChooseFolder.h"
-#include "tree/ui/frmExplorer.h"
-#include "tree/ui/frmLvShow.h"
-#include "tree/ui/frmProgress.h"
 
 namespace tw::test {
 namespace {
@@ -74,7 +74,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         DetailsDialog strengthWindow(strength, nullptr), hopsWindow(hops, nullptr),
             volumeWindow(volume, nullptr);
         OpenSaveDialog openSaveWindow(openSave, nullptr);
-        frmExplorer recipesWindow(recipes, nullptr), stylesWindow(styles, nullptr);
+        ExplorerWindow recipesWindow(recipes, nullptr), stylesWindow(styles, nullptr);
         for (QDialog* dialog :
              {static_cast<QDialog*>(&aboutWindow), static_cast<QDialog*>(&strengthWindow),
               static_cast<QDialog*>(&hopsWindow), static_cast<QDialog*>(&volumeWindow),
@@ -100,7 +100,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         }
         OptionsModel options(shell.SettingsNow(), *shell.DB(), outside.messages);
         QtColorChooser colors;
-        frmOptions optionsWindow(options, colors, nullptr);
+        OptionsDialog optionsWindow(options, colors, nullptr);
         optionsWindow.show();
         auto* optionTabs = optionsWindow.findChild<QTabWidget*>();
         for (int tab = 0; tab < optionTabs->count(); ++tab) {
@@ -119,8 +119,8 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         Help help(folder.Path().string(), outside.messages, browser, files);
         HelpContentsModel contents(help, outside.messages);
         AssistantModel assistant(true);
-        frmHelpContents contentsWindow(contents, nullptr);
-        frmAssistant assistantWindow(assistant, nullptr);
+        HelpContentsDialog contentsWindow(contents, nullptr);
+        AssistantDialog assistantWindow(assistant, nullptr);
         for (QDialog* dialog :
              {static_cast<QDialog*>(&contentsWindow), static_cast<QDialog*>(&assistantWindow)}) {
             dialog->show();
@@ -131,15 +131,16 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
 
     // The pickers, and what recipes and folders are chosen with.
     void ForEachChooser(const std::function<void(QWidget&)>& visit) {
-        for (const CatalogueKind list : {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Hop, CatalogueKind::Yeast}) {
-            LvShowModel picker(list, *shell.DB(), shell.Data().tree, "");
-            frmLvShow pickerWindow(picker, nullptr);
+        for (const CatalogueKind list :
+             {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Hop, CatalogueKind::Yeast}) {
+            CataloguePickerModel picker(list, *shell.DB(), shell.Data().tree, "");
+            CataloguePickerDialog pickerWindow(picker, nullptr);
             pickerWindow.show();
             QApplication::processEvents();
             visit(pickerWindow);
         }
         ChooseFolderModel folders(shell.Data().tree, shell.Data().objects);
-        frmChooseFolder folderWindow(folders, nullptr);
+        ChooseFolderDialog folderWindow(folders, nullptr);
         RecipeChooser recipes;
         recipes.SetTree(&shell.Data().tree);
         recipes.SetAction("Export");
@@ -160,10 +161,10 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         StylesNotImportedModel styles({{name, "Stout"}});
         ProgressModel progress("Importing Recipes", {});
         progress.Show(name, 1, 100);
-        frmImportExport inWindow(in, nullptr), outWindow(out, nullptr);
-        frmNameConflict conflictWindow(conflict, nullptr);
-        frmStylesNotImported stylesWindow(styles, nullptr);
-        frmProgress progressWindow(progress, nullptr);
+        ImportExportDialog inWindow(in, nullptr), outWindow(out, nullptr);
+        NameConflictDialog conflictWindow(conflict, nullptr);
+        StylesNotImportedDialog stylesWindow(styles, nullptr);
+        ProgressDialog progressWindow(progress, nullptr);
         for (QDialog* dialog : {static_cast<QDialog*>(&inWindow), static_cast<QDialog*>(&outWindow),
                                 static_cast<QDialog*>(&conflictWindow), static_cast<QDialog*>(&stylesWindow),
                                 static_cast<QDialog*>(&progressWindow)}) {
@@ -177,9 +178,9 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
     void ForEachEditor(const std::function<void(QWidget&)>& visit) {
         const CatalogueContext context = shell.Catalogue().Context();
         for (const CatalogueKind catalogue : kSetupOrder) {
-            DBSetupModel setup(context);
+            DatabaseSetupModel setup(context);
             setup.Choose(catalogue);
-            frmDBSetup setupWindow(setup, nullptr);
+            DatabaseSetupDialog setupWindow(setup, nullptr);
             ObjectNavigator navigator(setup.Items());
             const auto entry = MakeEditor(catalogue, context), shown = MakeEditor(catalogue, context);
             entry->SetNavigator(navigator);
@@ -208,7 +209,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
                                    [] {}, [](const PrintSteps&, Paper) {}},
                                   Paper::A4);
         preview.SetControl("txtPage", "11");
-        frmPrintPreview previewWindow(preview, nullptr);
+        PrintPreviewDialog previewWindow(preview, nullptr);
         show(previewWindow);
         NoPrinterModel noPrinter;
         NoPrinterDialog noPrinterWindow(noPrinter, nullptr);
@@ -218,30 +219,30 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
                                 0);
         wizard.Chooser().Add("F:-1");
         for (int page = 0; page < PrintWizardModel::kPages; ++page) {
-            frmPrintWizard wizardWindow(wizard, nullptr);
+            PrintWizardDialog wizardWindow(wizard, nullptr);
             show(wizardWindow);
             wizard.Press("cmdNext");
         }
         for (const ReportType type : {ReportType::Text, ReportType::Html, ReportType::RichText}) {
-            PrintFmtOptionsModel options(type, shell.Store(), outside.dialogs);
-            frmPrintFmtOptions optionsWindow(options, colors, nullptr);
+            PrintFormatModel options(type, shell.Store(), outside.dialogs);
+            PrintFormatDialog optionsWindow(options, colors, nullptr);
             show(optionsWindow);
         }
         ChooseFontModel font(ReportFont{}, kWhite, true);
-        frmChooseFont fontWindow(font, colors, nullptr);
+        ChooseFontDialog fontWindow(font, colors, nullptr);
         show(fontWindow);
     }
 
     // The unit converter with each of its kinds.
     void ForEachTool(const std::function<void(QWidget&)>& visit) {
         HydrometerModel hydrometer(outside.messages);
-        HopUtilModel explorer(std::nullopt);
+        HopUtilisationModel explorer(std::nullopt);
         ColorScaleModel scales;
         ConvertUnitsModel converter(outside.messages);
-        frmHydrometer hydrometerWindow(hydrometer, nullptr);
-        frmHopUtil explorerWindow(explorer, nullptr);
-        frmColor scalesWindow(scales, nullptr);
-        frmConvertUnits converterWindow(converter, nullptr);
+        HydrometerDialog hydrometerWindow(hydrometer, nullptr);
+        HopUtilisationDialog explorerWindow(explorer, nullptr);
+        ColorScaleDialog scalesWindow(scales, nullptr);
+        ConvertUnitsDialog converterWindow(converter, nullptr);
         for (QDialog* dialog :
              {static_cast<QDialog*>(&hydrometerWindow), static_cast<QDialog*>(&explorerWindow),
               static_cast<QDialog*>(&scalesWindow), static_cast<QDialog*>(&converterWindow)}) {

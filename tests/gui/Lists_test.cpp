@@ -3,13 +3,13 @@
 #include "document/ui/ListField.h"
 #include "platform/qt/Appearance.h"
 #include "support/OtherNames.h"
+#include "tree/ui/CataloguePickerDialog.h"
+#include "tree/ui/ChooseFolderDialog.h"
 #include "tree/ui/FolderChooserView.h"
 #include "tree/ui/ListPane.h"
 #include "tree/ui/NodePictures.h"
 #include "tree/ui/RecipeChooserView.h"
 #include "tree/ui/TreePane.h"
-#include "tree/ui/frmChooseFolder.h"
-#include "tree/ui/frmLvShow.h"
 
 namespace tw::test {
 namespace {
@@ -187,7 +187,7 @@ class Choosers : public GuiTest {
     // The next picker: what it starts on is noted, then lvItems and the button are worked.
     void Answer(const std::string& name, const std::string& button = "cmdOK") {
         outside.dialogs.scripts.push_back([this, name, button](DialogModel& dialog) {
-            auto& picker = dynamic_cast<LvShowModel&>(dialog);
+            auto& picker = dynamic_cast<CataloguePickerModel&>(dialog);
             started = picker.Title() + ": " + picker.Items().SelectedText();
             EXPECT_TRUE(dialog.SetControl("lvItems", name));
             EXPECT_TRUE(dialog.Press(button));
@@ -230,8 +230,8 @@ TEST_F(Choosers, TheStyleBoxTakesACode) {
 
 TEST_F(Choosers, TheStylePickerNamesTheGuidesOfItsCodes) {
     const auto guides = [this] {
-        LvShowModel model(CatalogueKind::Style, *shell.DB(), shell.Data().tree, "");
-        frmLvShow picker(model, nullptr);
+        CataloguePickerModel model(CatalogueKind::Style, *shell.DB(), shell.Data().tree, "");
+        CataloguePickerDialog picker(model, nullptr);
         picker.show();
         auto* label = picker.findChild<QLabel*>(QStringLiteral("lblGuides"));
         return label && label->isVisible() ? FromQt(label->text()) : std::string();
@@ -282,8 +282,8 @@ TEST_F(Choosers, ADoubleClickElsewhereOpensTheEditor) {
 }
 
 TEST_F(Choosers, ThePickerOpensOnItsNameAndEnterTakesIt) {
-    LvShowModel model(CatalogueKind::Hop, *shell.DB(), shell.Data().tree, "saaz");
-    frmLvShow picker(model, nullptr);
+    CataloguePickerModel model(CatalogueKind::Hop, *shell.DB(), shell.Data().tree, "saaz");
+    CataloguePickerDialog picker(model, nullptr);
     picker.show();
     QApplication::setActiveWindow(&picker);
     auto* list = picker.findChild<ListPane*>(QStringLiteral("lvItems"));
@@ -298,8 +298,8 @@ TEST_F(Choosers, ThePickerOpensOnItsNameAndEnterTakesIt) {
 }
 
 TEST_F(Choosers, AnEmptyPickerOffersNothing) {
-    LvShowModel model(CatalogueKind::Sugar, *shell.DB(), shell.Data().tree, "Corn");
-    frmLvShow picker(model, nullptr);
+    CataloguePickerModel model(CatalogueKind::Sugar, *shell.DB(), shell.Data().tree, "Corn");
+    CataloguePickerDialog picker(model, nullptr);
     picker.show();
     EXPECT_FALSE(picker.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled());
     QTest::keyClick(&picker, Qt::Key_Escape);
@@ -315,8 +315,8 @@ TEST_F(Choosers, AYeastShowsItsFiguresFromTheFirst) {
         "the Long Street WLP099 Super High Gravity Ale Yeast', 'Ferments a strong wort dry and leaves it "
         "clean "
         "of nearly everything', 4, 'Very High', 65, 100.5, 61.5, 68.5)");
-    LvShowModel model(CatalogueKind::Yeast, *shell.DB(), shell.Data().tree, "");
-    frmLvShow picker(model, nullptr);
+    CataloguePickerModel model(CatalogueKind::Yeast, *shell.DB(), shell.Data().tree, "");
+    CataloguePickerDialog picker(model, nullptr);
     picker.show();
     QApplication::processEvents();
     auto& list = *picker.findChild<ListPane*>();
@@ -336,8 +336,8 @@ TEST_F(Choosers, AYeastShowsItsFiguresFromTheFirst) {
 TEST_F(Choosers, TheStyleListFollowsTheFolderByKey) {
     shell.Data().objects.CreateStyleFolder(0, "Dark", true);
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1 WHERE NAME = 'Bock'");
-    LvShowModel model(CatalogueKind::Style, *shell.DB(), shell.Data().tree, "");
-    frmLvShow picker(model, nullptr);
+    CataloguePickerModel model(CatalogueKind::Style, *shell.DB(), shell.Data().tree, "");
+    CataloguePickerDialog picker(model, nullptr);
     picker.show();
     QApplication::setActiveWindow(&picker);
     auto* folders = picker.findChild<TreePane*>(QStringLiteral("treeFolders"));
@@ -351,7 +351,7 @@ TEST_F(Choosers, TheStyleListFollowsTheFolderByKey) {
 
 TEST_F(Choosers, AFolderIsMadeAndNamedInPlace) {
     ChooseFolderModel model(shell.Data().tree, shell.Data().objects);
-    frmChooseFolder dialog(model, nullptr);
+    ChooseFolderDialog dialog(model, nullptr);
     dialog.show();
     QApplication::setActiveWindow(&dialog);
     dialog.findChild<QPushButton*>(QStringLiteral("cmdNewFolder"))->click();

@@ -152,7 +152,7 @@ class Monkey : public testing::Test {
         window_.showNormal();
         window_.resize(100 + Below(random_, 1500), 100 + Below(random_, 1000));
     }
-    void CheckDocument(const frmDocument& view, RecipeDocument& document);
+    void CheckDocument(const RecipeWindow& view, RecipeDocument& document);
     void CheckGrid(const GridView& view, const Grid& grid);
 
     RecordingPlatform outside_;
@@ -166,7 +166,7 @@ class Monkey : public testing::Test {
 
   protected:
     Shell shell_{{platform_}};
-    frmMain window_{shell_, platform_};
+    MainWindow window_{shell_, platform_};
 };
 
 void Monkey::CheckGrid(const GridView& view, const Grid& grid) {
@@ -189,7 +189,7 @@ void Monkey::CheckGrid(const GridView& view, const Grid& grid) {
                       grid.Shown(row + Grid::FixedRows(), col));
 }
 
-void Monkey::CheckDocument(const frmDocument& view, RecipeDocument& document) {
+void Monkey::CheckDocument(const RecipeWindow& view, RecipeDocument& document) {
     const RecipeRecord& record = document.Record();
     EXPECT_EQ(FromQt(view.parentWidget()->windowTitle()), document.Caption());
     for (const TextBox* box : record.TextBoxes()) {
@@ -221,7 +221,7 @@ void Monkey::Check() {
     const auto* area = window_.findChild<DocumentArea*>();
     std::size_t open = 0;
     for (const QMdiSubWindow* frame : area->subWindowList()) {
-        const auto* view = qobject_cast<frmDocument*>(frame->widget());
+        const auto* view = qobject_cast<RecipeWindow*>(frame->widget());
         ASSERT_NE(view, nullptr);
         ASSERT_NE(view->Document(), nullptr);
         ++open;

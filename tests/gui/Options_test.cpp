@@ -6,8 +6,8 @@
 #include "platform/qt/CellColors.h"
 #include "platform/qt/ColorButton.h"
 #include "shell/ui/Icons.h"
+#include "shell/ui/OptionsDialog.h"
 #include "shell/ui/UpDown.h"
-#include "shell/ui/frmOptions.h"
 
 namespace tw::test {
 namespace {
@@ -31,7 +31,7 @@ class OptionsWindow : public GuiTest {
     void Open() {
         dialog.reset();
         model = std::make_unique<OptionsModel>(shell.SettingsNow(), *shell.DB(), outside.messages);
-        dialog = std::make_unique<frmOptions>(*model, colors, nullptr);
+        dialog = std::make_unique<OptionsDialog>(*model, colors, nullptr);
         dialog->show();
         QApplication::setActiveWindow(dialog.get());
         QApplication::processEvents();
@@ -58,7 +58,7 @@ class OptionsWindow : public GuiTest {
 
     ChosenColors colors;
     std::unique_ptr<OptionsModel> model;
-    std::unique_ptr<frmOptions> dialog;
+    std::unique_ptr<OptionsDialog> dialog;
 };
 
 TEST_F(OptionsWindow, IsWorkedByKeysAlone) {

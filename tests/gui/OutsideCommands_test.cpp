@@ -89,7 +89,7 @@ TEST_F(OutsideCommands, AreDroppedWhenTheProgramEnds) {
 TEST(StartWithAFile, ImportsItAndThenTakesWhatCameFromOutside) {
     RecordingPlatform outside;
     Shell shell({outside.platform});
-    frmMain window(shell, outside.platform);
+    MainWindow window(shell, outside.platform);
     shell.DDE().Receive(ChannelMessage::Commands, "[IMPORT(\"/no/b\")]");
     shell.DDE().TickDDE();
     EXPECT_EQ(outside.messages.TakeLog(), Strings{});
@@ -120,7 +120,7 @@ TEST(SecondStart, EndsBeforeItTouchesAnything) {
     RecordingPlatform outside;
     BusyChannel channel;
     Shell shell({outside.platform});
-    frmMain window(shell, outside.platform);
+    MainWindow window(shell, outside.platform);
     window.show();
     shell.DDE().SetChannel(&channel);
     EXPECT_FALSE(window.StartUp("/no/such/database.mdb"));

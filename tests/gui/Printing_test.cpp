@@ -14,12 +14,12 @@
 #include "reports/qt/PaperPainter.h"
 #include "reports/qt/QtPrinterDevice.h"
 #include "reports/qt/QtPrinters.h"
+#include "reports/ui/ChooseFontDialog.h"
 #include "reports/ui/NoPrinterDialog.h"
 #include "reports/ui/PreviewPage.h"
-#include "reports/ui/frmChooseFont.h"
-#include "reports/ui/frmPrintFmtOptions.h"
-#include "reports/ui/frmPrintPreview.h"
-#include "reports/ui/frmPrintWizard.h"
+#include "reports/ui/PrintFormatDialog.h"
+#include "reports/ui/PrintPreviewDialog.h"
+#include "reports/ui/PrintWizardDialog.h"
 #include "support/LongRecipe.h"
 #include "support/RecordingPrinter.h"
 
@@ -81,7 +81,7 @@ class PreviewTest : public testing::Test {
         {[this](PrintSize area) { return LayOutRecipe(recipe.record, area, measure); }, [this] { ++prints; },
          [this](const PrintSteps&, Paper paper) { pdfs.push_back(paper); }},
         Paper::A4};
-    frmPrintPreview window{model, nullptr};
+    PrintPreviewDialog window{model, nullptr};
 };
 
 TEST_F(PreviewTest, TheKeysTurnThePages) {
@@ -149,7 +149,7 @@ TEST_F(PreviewTest, IsTitledByTheRecipeAsFarAsThatHasAName) {
     recipe.record.txtName.SetText(" ");
     PrintPreviewModel unnamed{
         {[this](PrintSize area) { return LayOutRecipe(recipe.record, area, measure); }, {}, {}}, Paper::A4};
-    EXPECT_EQ(frmPrintPreview(unnamed, nullptr).windowTitle(), QStringLiteral("Print Preview"));
+    EXPECT_EQ(PrintPreviewDialog(unnamed, nullptr).windowTitle(), QStringLiteral("Print Preview"));
 }
 
 TEST_F(PreviewTest, EscapeCloses) {
@@ -331,7 +331,7 @@ TEST_F(GuiTest, TheReportWizardGoesByTheKeyboard) {
     RecordingSaveFile files;
     PrintWizardModel model(
         {*shell.DB(), tree, shell.Store(), outside.messages, outside.dialogs, &files, shell.Own()}, 1);
-    frmPrintWizard wizard(model, nullptr);
+    PrintWizardDialog wizard(model, nullptr);
     wizard.show();
     QApplication::setActiveWindow(&wizard);
     EXPECT_EQ(Focus(), "optVolAsIs");
@@ -365,8 +365,8 @@ TEST_F(GuiTest, TheReportWizardGoesByTheKeyboard) {
 
 TEST_F(GuiTest, TheFormatOptionsShowWhatTheyAreAbout) {
     OneColor color;
-    PrintFmtOptionsModel model(ReportType::Html, shell.Store(), outside.dialogs);
-    frmPrintFmtOptions options(model, color, nullptr);
+    PrintFormatModel model(ReportType::Html, shell.Store(), outside.dialogs);
+    PrintFormatDialog options(model, color, nullptr);
     options.show();
     EXPECT_EQ(FromQt(options.windowTitle()), "HTML File Options");
     Click(options, "cmdBGColor");
@@ -387,7 +387,7 @@ TEST_F(GuiTest, TheFormatOptionsShowWhatTheyAreAbout) {
 TEST_F(GuiTest, TheFontDialogShowsItsSample) {
     OneColor color;
     ChooseFontModel model(ReportFont{}, 0xFFFFFF, true);
-    frmChooseFont dialog(model, color, nullptr);
+    ChooseFontDialog dialog(model, color, nullptr);
     dialog.show();
     Click(dialog, "chkBold");
     Click(dialog, "picFontBColor");

@@ -1,7 +1,7 @@
 // The window of an operation on many objects.
 #include "GuiTest.h"
 #include "platform/Error.h"
-#include "tree/ui/frmProgress.h"
+#include "tree/ui/ProgressDialog.h"
 
 namespace tw::test {
 namespace {
@@ -19,7 +19,7 @@ TEST_F(ProgressWindow, ShortWorkShowsTheHourglassAlone) {
         EXPECT_EQ(QApplication::overrideCursor(), nullptr);
         progress.SetBusy(true);
     });
-    frmProgress dialog(model, &window);
+    ProgressDialog dialog(model, &window);
     dialog.exec();
     EXPECT_FALSE(model.IsOpen());
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
@@ -39,7 +39,7 @@ TEST_F(ProgressWindow, LongWorkShowsItsObjectAndIsCalledOffByCancel) {
         EXPECT_TRUE(shown->isVisible());
         if (progress.Show("Ale", 1, total)) ++done;
     });
-    frmProgress dialog(model, &window);
+    ProgressDialog dialog(model, &window);
     dialog.exec();
     EXPECT_EQ(done, 0);
     EXPECT_FALSE(dialog.isVisible());
@@ -50,7 +50,7 @@ TEST_F(ProgressWindow, AnErrorInTheWorkGivesThePointerBack) {
     {
         ProgressModel model("Importing Recipes",
                             [](ProgressModel&) { throw Error("Copy", "It is broken", 7); });
-        frmProgress dialog(model, &window);
+        ProgressDialog dialog(model, &window);
         EXPECT_THROW(dialog.exec(), Error);
     }
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
@@ -61,7 +61,8 @@ TEST_F(ProgressWindow, StopsBetweenTwoObjects) {
     class Windows final : public DialogPort {
       public:
         void ShowModal(DialogModel& dialog) override {
-            const auto shown = std::make_unique<frmProgress>(dynamic_cast<ProgressModel&>(dialog), nullptr);
+            const auto shown =
+                std::make_unique<ProgressDialog>(dynamic_cast<ProgressModel&>(dialog), nullptr);
             QMetaObject::invokeMethod(shown->findChild<QPushButton*>(QStringLiteral("cmdCancel")), "click",
                                       Qt::QueuedConnection);
             shown->exec();

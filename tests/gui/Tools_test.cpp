@@ -1,12 +1,12 @@
 // The tools under the hands of a brewer: keys, focus, boxes, and pictures that follow.
 #include "GuiTest.h"
 #include "platform/qt/Appearance.h"
+#include "tools/ui/ColorScaleDialog.h"
 #include "tools/ui/ColorScaleView.h"
+#include "tools/ui/ConvertUnitsDialog.h"
+#include "tools/ui/HopUtilisationDialog.h"
+#include "tools/ui/HydrometerDialog.h"
 #include "tools/ui/UtilisationGraphView.h"
-#include "tools/ui/frmColor.h"
-#include "tools/ui/frmConvertUnits.h"
-#include "tools/ui/frmHopUtil.h"
-#include "tools/ui/frmHydrometer.h"
 
 namespace tw::test {
 namespace {
@@ -60,7 +60,7 @@ class ToolTest : public testing::Test {
     std::unique_ptr<Window> dialog;
 };
 
-class ConverterWindow : public ToolTest<ConvertUnitsModel, frmConvertUnits> {
+class ConverterWindow : public ToolTest<ConvertUnitsModel, ConvertUnitsDialog> {
   protected:
     void SetUp() override { Open(messages); }
     int ShownBoxes() const {
@@ -149,7 +149,7 @@ TEST_F(ConverterWindow, ClosingIsNoLeaving) {
     EXPECT_EQ(messages.log, Strings{});
 }
 
-class HydrometerWindow : public ToolTest<HydrometerModel, frmHydrometer> {
+class HydrometerWindow : public ToolTest<HydrometerModel, HydrometerDialog> {
   protected:
     void SetUp() override { Open(messages); }
 };
@@ -261,7 +261,7 @@ TEST_F(HydrometerWindow, TheResultCanBeCopiedButNotTyped) {
     EXPECT_EQ(Text("txtCalRead"), "");
 }
 
-class HopUtilWindow : public ToolTest<HopUtilModel, frmHopUtil> {
+class HopUtilWindow : public ToolTest<HopUtilisationModel, HopUtilisationDialog> {
   protected:
     void SetUp() override { Open(std::string("1.050")); }
 };
@@ -353,7 +353,7 @@ TEST_F(HopUtilWindow, EnterAndEscapeClose) {
     }
 }
 
-class ColorWindow : public ToolTest<ColorScaleModel, frmColor> {
+class ColorWindow : public ToolTest<ColorScaleModel, ColorScaleDialog> {
   protected:
     void SetUp() override { Open(); }
     QColor Painted(double fraction) {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "reports/ChooseFontModel.h"
-#include "reports/PrintFmtOptionsModel.h"
+#include "reports/PrintFormatModel.h"
 #include "reports/PrintPreviewModel.h"
 #include "reports/PrintWizardModel.h"
 #include "support/RecordingPlatform.h"
@@ -142,7 +142,7 @@ TEST_F(PrintWizardTest, BrowsesByTheTypesFilter) {
 TEST_F(PrintWizardTest, ConfiguresTheTypeThatIsChosen) {
     PrintWizardModel wizard = Make(2);
     outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
-        EXPECT_EQ(dynamic_cast<PrintFmtOptionsModel&>(dialog).Mode(), ReportType::RichText);
+        EXPECT_EQ(dynamic_cast<PrintFormatModel&>(dialog).Mode(), ReportType::RichText);
     });
     wizard.Press("cmdConfigure");
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintFmtOptions"}));
@@ -196,7 +196,7 @@ TEST_F(PrintWizardTest, CancelAndTheCloseBoxEndIt) {
 TEST(PrintFmtOptions, EachTypeHasItsTitleAndControls) {
     RecordingPlatform outside;
     const SettingsStore store(outside.settings);
-    const auto make = [&](ReportType type) { return PrintFmtOptionsModel(type, store, outside.dialogs); };
+    const auto make = [&](ReportType type) { return PrintFormatModel(type, store, outside.dialogs); };
     EXPECT_EQ(make(ReportType::Text).Title(), "Text File Options");
     EXPECT_EQ(NamesOf(make(ReportType::Text)), (Strings{"txtCols", "chkOne", "chkTwo"}));
     EXPECT_EQ(make(ReportType::Html).Title(), "HTML File Options");
@@ -210,12 +210,12 @@ TEST(PrintFmtOptions, EachTypeHasItsTitleAndControls) {
 TEST(PrintFmtOptions, OkStoresAndCancelDoesNot) {
     RecordingPlatform outside;
     const SettingsStore store(outside.settings);
-    PrintFmtOptionsModel cancelled(ReportType::Text, store, outside.dialogs);
+    PrintFormatModel cancelled(ReportType::Text, store, outside.dialogs);
     EXPECT_TRUE(cancelled.SetControl("txtCols", "40"));
     EXPECT_TRUE(cancelled.Press("cmdCancel"));
     EXPECT_FALSE(cancelled.IsOpen());
     EXPECT_TRUE(outside.settings.written.empty());
-    PrintFmtOptionsModel options(ReportType::Text, store, outside.dialogs);
+    PrintFormatModel options(ReportType::Text, store, outside.dialogs);
     EXPECT_EQ(TextOf(options, "txtCols"), "75");
     EXPECT_TRUE(options.SetControl("txtCols", "wide"));
     EXPECT_TRUE(options.SetControl("chkOne", "no"));
@@ -227,14 +227,14 @@ TEST(PrintFmtOptions, OkStoresAndCancelDoesNot) {
 TEST(PrintFmtOptions, TheOneSwitchIsTheRuleOfHtmlAndThePageBreakOfTheOthers) {
     RecordingPlatform outside;
     const SettingsStore store(outside.settings);
-    PrintFmtOptionsModel html(ReportType::Html, store, outside.dialogs);
+    PrintFormatModel html(ReportType::Html, store, outside.dialogs);
     EXPECT_TRUE(html.SetControl("chkOne", "no"));
     EXPECT_FALSE(html.Options().horizontalRulers);
     EXPECT_TRUE(html.Options().pageBreak);
     EXPECT_TRUE(html.SetControl("pbBGColor", "255"));
     EXPECT_EQ(html.Options().bgColor, 255);
     EXPECT_FALSE(html.SetControl("pbBGColor", "16777216"));
-    PrintFmtOptionsModel rich(ReportType::RichText, store, outside.dialogs);
+    PrintFormatModel rich(ReportType::RichText, store, outside.dialogs);
     EXPECT_TRUE(rich.SetControl("chkOne", "no"));
     EXPECT_FALSE(rich.Options().pageBreak);
     EXPECT_FALSE(rich.SetControl("chkTwo", "yes"));
@@ -247,7 +247,7 @@ TEST(PrintFmtOptions, TheOneSwitchIsTheRuleOfHtmlAndThePageBreakOfTheOthers) {
 TEST(PrintFmtOptions, AFontIsTakenUnlessItsDialogWasCancelled) {
     RecordingPlatform outside;
     const SettingsStore store(outside.settings);
-    PrintFmtOptionsModel options(ReportType::RichText, store, outside.dialogs);
+    PrintFormatModel options(ReportType::RichText, store, outside.dialogs);
     outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         EXPECT_TRUE(dialog.SetControl("cmbFontName", "Arial"));
         EXPECT_TRUE(dialog.Press("cmdCancel"));
@@ -263,7 +263,7 @@ TEST(PrintFmtOptions, AFontIsTakenUnlessItsDialogWasCancelled) {
     EXPECT_EQ(options.Options().label.face, "Arial");
     EXPECT_EQ(options.Options().label.backColor, 65535);
     EXPECT_EQ(options.Options().text.face, "MS Sans Serif");
-    PrintFmtOptionsModel text(ReportType::Text, store, outside.dialogs);
+    PrintFormatModel text(ReportType::Text, store, outside.dialogs);
     EXPECT_FALSE(text.Press("cmdTitles"));
 }
 

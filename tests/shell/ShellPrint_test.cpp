@@ -22,7 +22,7 @@ class ShellPrintTest : public ShellTest {
         shell.Environment().saveFiles = &files;
     }
     void ExpectCommandsToWaitForTheJob() {
-        DDEService& outsideCommands = shell.DDE();
+        InstanceService& outsideCommands = shell.DDE();
         outsideCommands.ParseDDECommand("[Import(/no/such/file)]");
         int waiting = 0;
         printer.whileShown = [&] {

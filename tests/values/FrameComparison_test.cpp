@@ -6,7 +6,7 @@
 
 #include "platform/Error.h"
 #include "values/FrameTranscription.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/RecordingMessages.h"
 
 namespace tw::test {

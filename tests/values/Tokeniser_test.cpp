@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/Error.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 
 namespace tw {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "platform/Error.h"
 #include "values/Converter.h"
-#include "values/ParserValidater.h"
+#include "values/QuantityParsers.h"
 #include "values/RecordingMessages.h"
 
 namespace tw {

@@ -50,8 +50,8 @@ QString CaptionOf(const std::string& name) {
 }
 
 QString TitleOf(const std::string& form) {
-    if (form == "frmStrengthDetails") return DetailsDialog::tr("Strength Details");
-    if (form == "frmFinalVolDetails") return DetailsDialog::tr("Final Volume Details");
+    if (form == DetailsModel::kStrengthForm) return DetailsDialog::tr("Strength Details");
+    if (form == DetailsModel::kFinalVolForm) return DetailsDialog::tr("Final Volume Details");
     return DetailsDialog::tr("Bitterness Details");
 }
 
@@ -63,7 +63,7 @@ DetailsDialog::DetailsDialog(DetailsModel& model, QWidget* parent) : QDialog(par
     auto* column = new QVBoxLayout(this);
     SetSpacing(*column, *this, true);
     AddFigures(*column);
-    if (model.FormName() == "frmHopDetails") AddBalance(*column);
+    if (model.FormName() == DetailsModel::kHopForm) AddBalance(*column);
     column->addSpacing(Unit(*this));
     column->addStretch();
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);

@@ -27,14 +27,19 @@ class QtDialogs final : public DialogPort {
 
     // Makes the windows of that form by factory from now on.
     void Register(std::string formName, Factory factory);
-    // The same for a Window that is made from the form's Model, services and a parent. REQUIRES: every model
-    // of that form is a Model; services outlive the windows.
+    // Makes Windows for the Models of that form; a Window is constructed from the model, services and a
+    // parent. REQUIRES: every model of that form is a Model; services outlive the windows.
     template <class Model, class Window, class... Services>
-    void Register(std::string formName, Services&... services) {
+    void RegisterForm(std::string formName, Services&... services) {
         // The one place where a model is taken for what it is.
         Register(std::move(formName), [&services...](DialogModel& model, QWidget* parent) {
             return std::make_unique<Window>(dynamic_cast<Model&>(model), services..., parent);
         });
+    }
+    // The same for a Model with a form name of its own.
+    template <class Model, class Window, class... Services>
+    void Register(Services&... services) {
+        RegisterForm<Model, Window>(Model::kFormName, services...);
     }
     // What F1 does in every window from now on; nothing before.
     void SetHelp(HelpOpener open) { help_ = std::move(open); }

@@ -3,7 +3,7 @@
 #include <QCloseEvent>
 #include <QPainter>
 
-#include "document/ui/frmDocument.h"
+#include "document/ui/RecipeWindow.h"
 #include "platform/qt/Appearance.h"
 #include "shell/ui/Icons.h"
 
@@ -101,7 +101,7 @@ void DocumentArea::Tile(Qt::Orientation stacked) {
     }
 }
 
-DocumentSubWindow::DocumentSubWindow(frmDocument* document, QWidget* parent)
+DocumentSubWindow::DocumentSubWindow(RecipeWindow* document, QWidget* parent)
     : QMdiSubWindow(parent), document_(document) {
     setWidget(document);
     setWindowIcon(ProgramIcon());

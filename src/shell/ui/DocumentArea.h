@@ -6,7 +6,7 @@
 
 namespace tw {
 
-class frmDocument;
+class RecipeWindow;
 
 class DocumentArea final : public QMdiArea {
     Q_OBJECT
@@ -38,8 +38,8 @@ class DocumentArea final : public QMdiArea {
 class DocumentSubWindow final : public QMdiSubWindow {
     Q_OBJECT
   public:
-    DocumentSubWindow(frmDocument* document, QWidget* parent);
-    frmDocument& Document() const { return *document_; }
+    DocumentSubWindow(RecipeWindow* document, QWidget* parent);
+    RecipeWindow& Document() const { return *document_; }
 
   signals:
     void CloseRequested();
@@ -48,7 +48,7 @@ class DocumentSubWindow final : public QMdiSubWindow {
     void closeEvent(QCloseEvent* event) override;
 
   private:
-    frmDocument* document_;
+    RecipeWindow* document_;
 };
 
 }  // namespace tw

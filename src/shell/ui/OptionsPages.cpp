@@ -16,8 +16,8 @@
 #include "platform/qt/ColorButton.h"
 #include "platform/qt/QtText.h"
 #include "shell/ui/IconStrip.h"
+#include "shell/ui/OptionsDialog.h"
 #include "shell/ui/UpDown.h"
-#include "shell/ui/frmOptions.h"
 
 namespace tw {
 namespace {
@@ -45,7 +45,7 @@ void AddHeading(QBoxLayout& column, const QString& caption, QWidget* page) {
 
 }  // namespace
 
-QWidget* frmOptions::AddPage(const QString& caption) {
+QWidget* OptionsDialog::AddPage(const QString& caption) {
     auto* page = new QWidget(tabs_);
     page->setObjectName(QStringLiteral("ContainerBox(%1)").arg(tabs_->count()));
     page->setAccessibleName(caption);
@@ -53,7 +53,7 @@ QWidget* frmOptions::AddPage(const QString& caption) {
     return page;
 }
 
-void frmOptions::BuildDefaultsPage() {
+void OptionsDialog::BuildDefaultsPage() {
     QWidget* page = AddPage(tr("Brewhouse Defaults"));
     QVBoxLayout* column = ColumnOf(*page);
     auto* rows = new QGridLayout;
@@ -82,7 +82,7 @@ void frmOptions::BuildDefaultsPage() {
     column->addStretch();
 }
 
-void frmOptions::BuildSettingsPage() {
+void OptionsDialog::BuildSettingsPage() {
     QWidget* page = AddPage(tr("Settings"));
     QVBoxLayout* column = ColumnOf(*page);
     auto* row = new QGridLayout;
@@ -103,7 +103,7 @@ void frmOptions::BuildSettingsPage() {
     column->addStretch();
 }
 
-QWidget* frmOptions::AutoSaveRow(QWidget* page) {
+QWidget* OptionsDialog::AutoSaveRow(QWidget* page) {
     auto* holder = new QWidget(page);
     auto* row = RowIn(*holder);
     row->setContentsMargins(0, 0, 0, 0);
@@ -130,7 +130,7 @@ QWidget* frmOptions::AutoSaveRow(QWidget* page) {
     return holder;
 }
 
-void frmOptions::BuildAppearancePage() {
+void OptionsDialog::BuildAppearancePage() {
     QWidget* page = AddPage(tr("Appearance"));
     QVBoxLayout* column = ColumnOf(*page);
     AddIconChoices(page, *column);
@@ -144,7 +144,7 @@ void frmOptions::BuildAppearancePage() {
     connect(reset, &QAction::triggered, this, [this] { Press(NameOf(PopupCommand::ResetColors).c_str()); });
 }
 
-void frmOptions::AddIconChoices(QWidget* page, QBoxLayout& column) {
+void OptionsDialog::AddIconChoices(QWidget* page, QBoxLayout& column) {
     AddHeading(column, tr("Toolbar Icons"), page);
     auto* group = new QButtonGroup(page);
     int style = 0;
@@ -160,7 +160,7 @@ void frmOptions::AddIconChoices(QWidget* page, QBoxLayout& column) {
     }
 }
 
-void frmOptions::AddButtonChoices(QWidget* page, QBoxLayout& column) {
+void OptionsDialog::AddButtonChoices(QWidget* page, QBoxLayout& column) {
     AddHeading(column, tr("Toolbar Buttons"), page);
     auto* group = new QButtonGroup(page);
     auto* row = RowIn(*page);
@@ -175,7 +175,7 @@ void frmOptions::AddButtonChoices(QWidget* page, QBoxLayout& column) {
     column.addLayout(row);
 }
 
-QWidget* frmOptions::ColorGroup(QWidget* page) {
+QWidget* OptionsDialog::ColorGroup(QWidget* page) {
     colorGroup_ = new QWidget(page);
     colorGroup_->setObjectName(QStringLiteral("GridColors"));
     colorGroup_->setAccessibleName(tr("Grid Colors"));
@@ -201,7 +201,7 @@ QWidget* frmOptions::ColorGroup(QWidget* page) {
     return colorGroup_;
 }
 
-void frmOptions::AddRow(QGridLayout& rows, const QString& caption, QWidget* control) {
+void OptionsDialog::AddRow(QGridLayout& rows, const QString& caption, QWidget* control) {
     auto* label = new QLabel(caption, control->parentWidget());
     label->setBuddy(control);
     const int row = rows.rowCount();
@@ -209,7 +209,7 @@ void frmOptions::AddRow(QGridLayout& rows, const QString& caption, QWidget* cont
     rows.addWidget(control, row, 1);
 }
 
-QComboBox* frmOptions::List(const char* name, const QString& caption, QWidget* page) {
+QComboBox* OptionsDialog::List(const char* name, const QString& caption, QWidget* page) {
     auto* list = new QComboBox(page);
     list->setObjectName(QLatin1String(name));
     list->setAccessibleName(PlainCaption(caption));
@@ -221,7 +221,7 @@ QComboBox* frmOptions::List(const char* name, const QString& caption, QWidget* p
     return list;
 }
 
-QLineEdit* frmOptions::Field(const char* name, const QString& caption, int digits, QWidget* page) {
+QLineEdit* OptionsDialog::Field(const char* name, const QString& caption, int digits, QWidget* page) {
     auto* field = new QLineEdit(page);
     field->setObjectName(QLatin1String(name));
     field->setAccessibleName(PlainCaption(caption));
@@ -233,7 +233,7 @@ QLineEdit* frmOptions::Field(const char* name, const QString& caption, int digit
     return field;
 }
 
-QCheckBox* frmOptions::Check(const char* name, const QString& caption, QWidget* page) {
+QCheckBox* OptionsDialog::Check(const char* name, const QString& caption, QWidget* page) {
     auto* box = new QCheckBox(caption, page);
     box->setObjectName(QLatin1String(name));
     connect(box, &QCheckBox::clicked, this, [this, box](bool on) {
@@ -242,21 +242,21 @@ QCheckBox* frmOptions::Check(const char* name, const QString& caption, QWidget* 
     return box;
 }
 
-void frmOptions::AddOption(const QString& name, const QString& caption, QWidget* page, QBoxLayout& row) {
+void OptionsDialog::AddOption(const QString& name, const QString& caption, QWidget* page, QBoxLayout& row) {
     auto* option = new QRadioButton(caption, page);
     option->setObjectName(name);
     connect(option, &QRadioButton::clicked, this, [this, name] { Enter(name, QStringLiteral("yes")); });
     row.addWidget(option);
 }
 
-ColorButton* frmOptions::Picture(const char* name, const QString& caption, QWidget* page) {
+ColorButton* OptionsDialog::Picture(const char* name, const QString& caption, QWidget* page) {
     auto* picture = new ColorButton(caption, page);
     picture->setObjectName(QLatin1String(name));
     connect(picture, &ColorButton::clicked, this, [this, picture] { ChooseColor(picture->objectName()); });
     return picture;
 }
 
-QLabel* frmOptions::Sample(const char* name, const QString& caption, QWidget* page) {
+QLabel* OptionsDialog::Sample(const char* name, const QString& caption, QWidget* page) {
     auto* sample = new QLabel(tr("Sample"), page);
     sample->setObjectName(QLatin1String(name));
     sample->setAccessibleName(tr("Sample of %1").arg(caption));

@@ -72,7 +72,7 @@ void PaintCurveSample(QPainter& painter, IbuMethod method, const QPalette& palet
     PaintMark(painter, method, palette, line.center(), unit);
 }
 
-UtilisationGraphView::UtilisationGraphView(HopUtilModel& model, QWidget* parent)
+UtilisationGraphView::UtilisationGraphView(HopUtilisationModel& model, QWidget* parent)
     : QWidget(parent), model_(model) {
     setObjectName(QStringLiteral("picGraph"));
     setAccessibleName(tr("Graph of hop utilization against boil time"));

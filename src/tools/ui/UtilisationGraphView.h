@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-#include "tools/HopUtilModel.h"
+#include "tools/HopUtilisationModel.h"
 
 namespace tw {
 
@@ -16,7 +16,7 @@ class UtilisationGraphView final : public QWidget {
     Q_OBJECT
   public:
     // The model must outlive the view, which reads it and moves its boil time.
-    UtilisationGraphView(HopUtilModel& model, QWidget* parent);
+    UtilisationGraphView(HopUtilisationModel& model, QWidget* parent);
 
     // The curves of the model's gravity.
     void ShowModel();
@@ -43,7 +43,7 @@ class UtilisationGraphView final : public QWidget {
     void PaintNames(QPainter& painter, const GraphArea& area) const;
     void PaintTime(QPainter& painter, const GraphArea& area) const;
 
-    HopUtilModel& model_;
+    HopUtilisationModel& model_;
     std::array<Curve, kMethods> curves_;
 };
 

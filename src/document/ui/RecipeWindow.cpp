@@ -1,0 +1,179 @@
+#include "document/ui/RecipeWindow.h"
+
+#include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include "document/TabRules.h"
+#include "document/ui/DocumentPages.h"
+#include "document/ui/FieldBox.h"
+#include "document/ui/GridPanel.h"
+#include "document/ui/NotesBox.h"
+#include "document/ui/PageBuilder.h"
+#include "platform/qt/Appearance.h"
+#include "platform/qt/QtText.h"
+
+namespace tw {
+
+RecipeWindow::RecipeWindow(RecipeDocument& document, Platform& platform, DocumentFrame& frame,
+                           QWidget* parent)
+    : QWidget(parent), binding_(document, platform, frame), tabs_(new QTabWidget(this)) {
+    setObjectName(QLatin1String(RecipeDocument::kFormName));
+    setAccessibleName(tr("Recipe"));
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(tabs_);
+    tabs_->setObjectName(QStringLiteral("SSTab1"));
+    tabs_->setAccessibleName(tr("Parts of the recipe"));
+    tabs_->setDocumentMode(true);
+    tabs_->tabBar()->setAccessibleName(tabs_->accessibleName());
+    tabs_->tabBar()->setElideMode(Qt::ElideNone);
+    for (int i = 0; i < kTabs; ++i) {
+        auto* page = new QScrollArea(tabs_);
+        page->setFrameShape(QFrame::NoFrame);
+        page->setWidgetResizable(true);
+        page->setFocusPolicy(Qt::NoFocus);
+        page->verticalScrollBar()->setObjectName(QStringLiteral("VScroll1"));
+        pages_[static_cast<std::size_t>(i)] = page;
+        tabs_->addTab(page, tr(RuleOf(static_cast<Tab>(i)).caption));
+    }
+    BuildTab(0);
+    setFocusProxy(FirstField());
+    document.SetView(this);
+    connect(tabs_, &QTabWidget::currentChanged, this, &RecipeWindow::TabChosen);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { FocusMoved(now); });
+    AddTabKeys();
+}
+
+// They work wherever the focus is in the recipe, and nowhere else.
+void RecipeWindow::AddTabKeys() {
+    const auto add = [this](const QKeySequence& key, std::function<void()> run) {
+        auto* shortcut = new QShortcut(key, this);
+        shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, this, std::move(run));
+    };
+    add(Qt::CTRL | Qt::Key_PageDown, [this] { StepTab(1); });
+    add(Qt::CTRL | Qt::Key_PageUp, [this] { StepTab(-1); });
+    for (int i = 0; i < kTabs; ++i) {
+        const QKeySequence key(Qt::ALT | static_cast<Qt::Key>(Qt::Key_1 + i));
+        add(key, [this, i] { ShowTab(static_cast<Tab>(i)); });
+        tabs_->setTabToolTip(i, key.toString(QKeySequence::NativeText));
+    }
+}
+
+void RecipeWindow::StepTab(int step) {
+    const int to = tabs_->currentIndex() + step;
+    if (to >= 0 && to < kTabs) ShowTab(static_cast<Tab>(to));
+}
+
+RecipeWindow::~RecipeWindow() {
+    Detach();
+    // The controls refer to the binding and go before it.
+    delete tabs_;
+}
+
+void RecipeWindow::Detach() {
+    if (!binding_.Document()) return;
+    binding_.Document()->SetView(nullptr);
+    binding_.Detach();
+}
+
+void RecipeWindow::BuildTab(int index) {
+    QScrollArea& area = *pages_[static_cast<std::size_t>(index)];
+    if (area.widget() || !binding_.Document()) return;
+    auto* page = new QWidget;
+    page->setObjectName(QStringLiteral("ContainerBox(%1)").arg(index));
+    PageBuilder builder(binding_, *page);
+    BuildPage(static_cast<Tab>(index), builder);
+    area.setWidget(page);
+}
+
+void RecipeWindow::ShowTab(Tab tab) {
+    if (binding_.Flush()) tabs_->setCurrentIndex(static_cast<int>(tab));
+}
+
+void RecipeWindow::TabChosen(int index) {
+    if (index == shown_) return;
+    if (!binding_.Flush()) {
+        tabs_->setCurrentIndex(shown_);
+        return;
+    }
+    shown_ = index;
+    BuildTab(index);
+    binding_.Run([index](RecipeDocument& document) { document.Focus().SetTab(static_cast<Tab>(index)); });
+    QWidget* first = FirstField();
+    setFocusProxy(first);
+    if (first) first->setFocus(Qt::TabFocusReason);
+}
+
+void RecipeWindow::TabWanted(Tab tab) {
+    shown_ = static_cast<int>(tab);
+    BuildTab(shown_);
+    tabs_->setCurrentIndex(shown_);
+    setFocusProxy(FirstField());
+}
+
+void RecipeWindow::ControlWanted(const std::string& name) {
+    const QWidget* page = pages_[static_cast<std::size_t>(shown_)]->widget();
+    auto* control = page ? page->findChild<QWidget*>(ToQt(name)) : nullptr;
+    if (control && !control->hasFocus()) control->setFocus(Qt::OtherFocusReason);
+}
+
+void RecipeWindow::HoldRedraw(bool hold) {
+    if (hold && !binding_.IsHeld()) setUpdatesEnabled(false);
+    binding_.HoldRedraw(hold);
+    if (!binding_.IsHeld()) setUpdatesEnabled(true);
+}
+
+void RecipeWindow::FocusMoved(QWidget* now) {
+    RecipeDocument* document = binding_.Document();
+    // Menus and dialogs come and go; the edit commands stay with what they were about.
+    if (!document || !now || !isAncestorOf(now)) return;
+    binding_.FocusIsIn(*now);
+    for (QWidget* control = now; control != this; control = control->parentWidget()) {
+        const auto* panel = qobject_cast<GridPanel*>(control);
+        if (panel && panel->View().TheGrid()) return document->Focus().FocusOn(*panel->View().TheGrid());
+        if (const auto* field = qobject_cast<FieldBox*>(control))
+            return document->Focus().FocusOn(field->Box());
+        if (const auto* notes = qobject_cast<NotesBox*>(control))
+            return document->Focus().FocusOn(notes->Box());
+    }
+    document->Focus().FocusElsewhere();
+}
+
+QWidget* RecipeWindow::FirstField() const {
+    const QString name = ToQt(FirstControlOf(static_cast<Tab>(shown_)));
+    return pages_[static_cast<std::size_t>(shown_)]->findChild<QWidget*>(name);
+}
+
+bool RecipeWindow::IsEditing(const QWidget& control) const {
+    const QWidget* page = pages_[static_cast<std::size_t>(shown_)]->widget();
+    return page && page->isAncestorOf(&control);
+}
+
+void RecipeWindow::FocusRow() {
+    RecipeDocument* document = binding_.Document();
+    Grid* grid = document ? document->Focus().GridOfTab(static_cast<Tab>(shown_)) : nullptr;
+    GridView* view = grid ? binding_.ViewOf(*grid) : nullptr;
+    if (!view || !view->isVisible()) return;
+    view->setFocus();
+    binding_.Run([grid](RecipeDocument& d) { d.Focus().SetCurrentCell(*grid, grid->CurrentRow(), 0); });
+}
+
+void RecipeWindow::GridColorsChanged() {
+    binding_.ForEachGrid([](GridView& view) { view.ShowColors(); });
+}
+
+QSize RecipeWindow::sizeHint() const {
+    // All tabs side by side, and the first one without scrolling.
+    const QWidget* general = pages_[0]->widget();
+    const QSize page = general ? general->sizeHint() : QSize();
+    const int tabs = tabs_->tabBar()->sizeHint().width();
+    return {qMax(page.width(), tabs) + Unit(*this), page.height() + tabs_->tabBar()->sizeHint().height()};
+}
+
+}  // namespace tw

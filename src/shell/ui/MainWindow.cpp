@@ -1,0 +1,360 @@
+#include "shell/ui/MainWindow.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QDir>
+#include <QMenu>
+#include <QStatusBar>
+#include <QToolBar>
+
+#include "document/ui/RecipeWindow.h"
+#include "platform/ErrorBox.h"
+#include "platform/ScopeGuard.h"
+#include "platform/qt/Appearance.h"
+#include "platform/qt/ElidedLabel.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/StoredColor.h"
+#include "shell/ui/CommandMenus.h"
+#include "shell/ui/DocumentArea.h"
+#include "shell/ui/FileDrop.h"
+#include "shell/ui/Icons.h"
+#include "shell/ui/MainGeometry.h"
+#include "shell/ui/SplashWindow.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+constexpr QSize kLeastUnits(84, 60);
+constexpr int kStateMaximized = 2;
+constexpr int kStateNormal = 0;
+// How long an edit may be kept nowhere but in the window.
+constexpr int kKeepMilliseconds = 3000;
+constexpr int kNewsMilliseconds = 10000;
+
+}  // namespace
+
+MainWindow::MainWindow(Shell& shell, Platform& platform)
+    : shell_(shell),
+      platform_(platform),
+      area_(new DocumentArea(this)),
+      autoSaveTimer_(new QTimer(this)),
+      keepTimer_(new QTimer(this)),
+      ddeTimer_(new QTimer(this)),
+      notice_(new ElidedLabel(this)) {
+    setObjectName(QLatin1String(kFormName));
+    setWindowTitle(QStringLiteral("Tunwright"));
+    setWindowIcon(ProgramIcon());
+    setAccessibleName(windowTitle());
+    menus_ = new CommandMenus(
+        shell.Bar(), *this, [this](CommandId command) { RunCommand(command); },
+        [this](CommandId command) { PressButton(command); });
+    setCentralWidget(area_);
+    statusBar()->setObjectName(QStringLiteral("sbStatusBar"));
+    statusBar()->setAccessibleName(tr("Status"));
+    notice_->setObjectName(QStringLiteral("lblNotice"));
+    // A sentence on a command stands before it for as long as it is shown.
+    statusBar()->addWidget(notice_, 1);
+    autoSaveTimer_->setObjectName(QStringLiteral("tmrAutoSave"));
+    autoSaveTimer_->setInterval(kAutoSaveTickMilliseconds);
+    connect(autoSaveTimer_, &QTimer::timeout, this,
+            [this] { RunShowingErrors(platform_.messages, [this] { shell_.TickAutoSave(); }); });
+    keepTimer_->setObjectName(QStringLiteral("tmrKeepUnsaved"));
+    keepTimer_->setInterval(kKeepMilliseconds);
+    keepTimer_->setSingleShot(true);
+    connect(keepTimer_, &QTimer::timeout, this, [this] { shell_.Unsaved().Keep(); });
+    new FileDrop(*this, [this](const QString& file) {
+        if (shell_.DB()) shell_.Files().ImportFromPath(FromQt(file));
+    });
+    ddeTimer_->setObjectName(QStringLiteral("tmrProcessDDE"));
+    ddeTimer_->setInterval(kDDETickMilliseconds);
+    connect(ddeTimer_, &QTimer::timeout, this, &MainWindow::TickDDE);
+    shell_.SetView(this);
+    shell_.LoadWindowSettings();
+    shell_.SettingsNow().ShowIcons();
+    shell_.SettingsNow().ShowButtonStyle();
+    setMinimumSize(kLeastUnits * Unit(*this));
+    ApplyGeometry(*this, shell_.CurrentSettings(), shell_.Store());
+
+    connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* window) {
+        auto* frame = qobject_cast<DocumentSubWindow*>(window);
+        if (changing_ || !frame || !frame->Document().Document()) return;
+        RecipeDocument& document = *frame->Document().Document();
+        if (shell_.Documents().Active() != &document)
+            RunShowingErrors(platform_.messages, [&] { shell_.Documents().Activate(document); });
+    });
+    connect(menus_->Menu(TopMenu::Window), &QMenu::aboutToShow, this, &MainWindow::FillWindowMenu);
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
+            [this] { shell_.States().ReapplyPaste(); });
+}
+
+MainWindow::~MainWindow() {
+    shell_.SetView(nullptr);
+    // The windows of recipes refer to documents of the shell and let go of them first.
+    delete area_;
+    delete menus_;
+}
+
+bool MainWindow::StartUp(const std::string& databasePath, const std::string& file) {
+    SplashWindow splash(this);
+    splash.show();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (shell_.DDE().InitDDE(file) != StartTest::OnlyInstance) {
+        hide();
+        return false;
+    }
+    // No folder of the brewer's stays in use by the program that was started in it.
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
+    const bool opened = shell_.PerformSplashScreenInit(databasePath);
+    splash.hide();
+    if (!opened) return false;
+    ShowWelcome();
+    shell_.States().ReapplyPaste();
+    RunShowingErrors(platform_.messages, [this] { shell_.Unsaved().Offer(); });
+    if (!IsBlank(file)) shell_.Files().ImportFromPath(Trim(file));
+    shell_.DDE().SetTicking(true);
+    return true;
+}
+
+void MainWindow::ShowWelcome() {
+    area_->SetWelcome(shell_.Bar().Item(CommandId::FileOpen).enabled
+                          ? tr("No recipe is open. Ctrl+N starts a new one, Ctrl+O opens one.")
+                          : tr("No recipe is here yet. Ctrl+N starts your first one."));
+}
+
+RecipeWindow* MainWindow::ActiveWindow() const {
+    const RecipeDocument* document = shell_.Documents().Active();
+    DocumentSubWindow* window = document ? WindowOf(*document) : nullptr;
+    return window ? &window->Document() : nullptr;
+}
+
+DocumentSubWindow* MainWindow::WindowOf(const RecipeDocument& document) const {
+    for (QMdiSubWindow* window : area_->subWindowList()) {
+        auto* frame = qobject_cast<DocumentSubWindow*>(window);
+        if (frame && frame->Document().Document() == &document) return frame;
+    }
+    return nullptr;
+}
+
+void MainWindow::DocumentOpened(RecipeDocument& document) {
+    auto* window = new DocumentSubWindow(new RecipeWindow(document, platform_, *this), area_);
+    window->setWindowTitle(ToQt(document.Caption()));
+    {
+        const ScopedValue changing(changing_, true);
+        area_->addSubWindow(window);
+    }
+    RecipeDocument* opened = &document;
+    connect(window, &DocumentSubWindow::CloseRequested, this, [this, window, opened] {
+        if (!window->Document().Document() || !window->Document().Flush()) return;
+        RunShowingErrors(platform_.messages, [&] { shell_.Saver().Close(*opened); });
+    });
+    connect(window, &QMdiSubWindow::windowStateChanged, this, [this](Qt::WindowStates, Qt::WindowStates now) {
+        // A minimised window is never what the next one starts as.
+        if (changing_ || now.testFlag(Qt::WindowMinimized)) return;
+        shell_.CurrentSettings().childState =
+            now.testFlag(Qt::WindowMaximized) ? kStateMaximized : kStateNormal;
+    });
+    PlaceSubWindow(*window);
+}
+
+void MainWindow::PlaceSubWindow(DocumentSubWindow& window) {
+    const ScopedValue changing(changing_, true);
+    if (shell_.CurrentSettings().childState == kStateMaximized) {
+        window.showMaximized();
+    } else {
+        // Each a step further in, with its whole frame in sight.
+        area_->PlaceAt(window, static_cast<int>(area_->subWindowList().size()) - 1);
+        window.show();
+    }
+}
+
+void MainWindow::DocumentClosing(RecipeDocument& document) {
+    DocumentSubWindow* window = WindowOf(document);
+    if (!window) return;
+    window->Document().Detach();
+    {
+        const ScopedValue changing(changing_, true);
+        area_->removeSubWindow(window);
+    }
+    window->hide();
+    // It may be this window's own close button that we are in.
+    window->deleteLater();
+}
+
+void MainWindow::DocumentActivated(RecipeDocument* document) {
+    if (!document) {
+        ShowWelcome();
+        return;
+    }
+    DocumentSubWindow* window = WindowOf(*document);
+    if (!window) return;
+    if (window->isMinimized())
+        shell_.CurrentSettings().childState == kStateMaximized ? window->showMaximized()
+                                                               : window->showNormal();
+    if (area_->activeSubWindow() != window) area_->setActiveSubWindow(window);
+    // Qt gives the focus to the frame or to the tabs at first.
+    const QWidget* focus = QApplication::focusWidget();
+    if (!focus || !window->Document().IsEditing(*focus)) window->Document().setFocus();
+}
+
+void MainWindow::DocumentRenamed(const RecipeDocument& document) {
+    if (DocumentSubWindow* window = WindowOf(document)) window->setWindowTitle(ToQt(document.Caption()));
+}
+
+void MainWindow::AutoSaveSwitched(bool on) {
+    on ? autoSaveTimer_->start() : autoSaveTimer_->stop();
+}
+
+// Not started anew by each key, so that steady typing is kept too.
+void MainWindow::UnsavedWorkWaits() {
+    if (!keepTimer_->isActive()) keepTimer_->start();
+}
+
+void MainWindow::NoticeChanged(const std::string& notice) {
+    notice_->SetFullText(ToQt(notice));
+    QAccessibleEvent told(notice_, QAccessible::Alert);
+    if (!notice.empty()) QAccessible::updateAccessibility(&told);
+}
+
+void MainWindow::SayBriefly(const std::string& text) {
+    statusBar()->showMessage(ToQt(text), kNewsMilliseconds);
+}
+
+bool MainWindow::IsMinimized(const RecipeDocument& document) const {
+    const DocumentSubWindow* window = WindowOf(document);
+    return window && window->isMinimized();
+}
+
+bool MainWindow::IsDialogOpen() const {
+    const QWidget* const active = QApplication::activeWindow();
+    return QApplication::activeModalWidget() != nullptr || QApplication::activePopupWidget() != nullptr ||
+           (active != nullptr && active != this);
+}
+
+void MainWindow::BringToFront() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    QWidget* const dialog = QApplication::activeModalWidget();
+    QWidget* const front = dialog != nullptr ? dialog : this;
+    front->raise();
+    front->activateWindow();
+    // A desktop that lets no program take the focus shows its button as waiting.
+    QApplication::alert(front);
+}
+
+void MainWindow::OutsideCommandsWait() {
+    if (!ddeTimer_->isActive()) ddeTimer_->start();
+}
+
+void MainWindow::TickDDE() {
+    RunShowingErrors(platform_.messages, [this] { shell_.DDE().TickDDE(); });
+    if (shell_.DDE().DDECommandCount() == 0) ddeTimer_->stop();
+}
+
+void MainWindow::CloseMainWindow() {
+    exitGranted_ = true;
+    close();
+}
+
+void MainWindow::ArrangeDocuments(Arrangement arrangement) {
+    if (arrangement == Arrangement::Cascade)
+        area_->Cascade();
+    else if (arrangement == Arrangement::TileHorizontal)
+        area_->TileHorizontally();
+    else
+        area_->TileVertically();
+}
+
+void MainWindow::ToolbarIconsChanged() {
+    menus_->SetIconStyle(shell_.CurrentSettings().iconStyle);
+}
+
+void MainWindow::ToolbarButtonStyleChanged() {
+    menus_->SetFlat(shell_.CurrentSettings().buttonStyle != 0);
+}
+
+void MainWindow::GridColorsChanged(const RecipeDocument& document) {
+    if (DocumentSubWindow* window = WindowOf(document)) window->Document().GridColorsChanged();
+}
+
+bool MainWindow::FlushBefore(CommandId command) {
+    RecipeWindow* window = ActiveWindow();
+    if (!window || !RowOf(command).commitsEntry) return true;
+    return window->Flush();
+}
+
+bool MainWindow::RunCommand(CommandId command) {
+    const MenuItem& item = shell_.Bar().Item(command);
+    if (!item.enabled || !item.visible) return false;
+    // A refused entry has had its message; the key or click is used up.
+    if (!FlushBefore(command)) return true;
+    bool ran = false;
+    RunShowingErrors(platform_.messages, [&] { ran = shell_.RunCommand(command); });
+    FocusAfter(command);
+    return ran;
+}
+
+void MainWindow::PressButton(CommandId command) {
+    const ToolButton* button = shell_.Bar().ButtonOf(command);
+    if (!button || !button->enabled || !FlushBefore(command)) return;
+    RunShowingErrors(platform_.messages, [&] { shell_.PressButton(command); });
+    FocusAfter(command);
+}
+
+// A new row is there to be typed into.
+void MainWindow::FocusAfter(CommandId command) {
+    RecipeWindow* window = ActiveWindow();
+    if (window && command == CommandId::EditInsert) window->FocusRow();
+}
+
+void MainWindow::ShowEditMenu(const QPoint& globalPosition) {
+    menus_->Menu(TopMenu::Edit)->popup(globalPosition);
+}
+
+GridColors MainWindow::Colors() const {
+    const Settings& settings = shell_.CurrentSettings();
+    return {{ColorOf(settings.gridReadOnlyBg), ColorOf(settings.gridReadOnlyFg)},
+            {ColorOf(settings.gridTotalBg), ColorOf(settings.gridTotalFg)}};
+}
+
+void MainWindow::FillWindowMenu() {
+    QMenu& menu = *menus_->Menu(TopMenu::Window);
+    for (QAction* action : menu.actions())
+        if (action->property("openRecipe").toBool()) delete action;
+    int number = 0;
+    for (QMdiSubWindow* window : area_->subWindowList(QMdiArea::CreationOrder)) {
+        if (number == 0) menu.addSeparator()->setProperty("openRecipe", true);
+        ++number;
+        QString title = window->windowTitle();
+        title.replace(QLatin1Char('&'), QStringLiteral("&&"));
+        QAction* action =
+            menu.addAction(number < 10 ? QStringLiteral("&%1 %2").arg(number).arg(title) : title);
+        action->setProperty("openRecipe", true);
+        action->setCheckable(true);
+        action->setChecked(window == area_->activeSubWindow());
+        connect(action, &QAction::triggered, window, [this, window] { area_->setActiveSubWindow(window); });
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    if (!exitGranted_) {
+        if (!FlushBefore(CommandId::FileExit)) return;
+        RunShowingErrors(platform_.messages, [this] { exitGranted_ = shell_.RequestExit(); });
+        if (!exitGranted_) return;
+    }
+    if (!isMinimized()) KeepGeometry(*this, shell_.CurrentSettings(), shell_.Store());
+    shell_.Unload(!isMinimized());
+    event->accept();
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && shell_.DB())
+        shell_.States().ReapplyPaste();
+}
+
+}  // namespace tw

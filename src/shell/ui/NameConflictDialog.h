@@ -1,0 +1,34 @@
+// The window that asks what to do with a recipe whose name is taken.
+#pragma once
+
+#include <QDialog>
+
+#include "shell/NameConflictModel.h"
+
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace tw {
+
+class NameConflictDialog final : public QDialog {
+    Q_OBJECT
+  public:
+    NameConflictDialog(NameConflictModel& model, QWidget* parent);
+
+  protected:
+    void reject() override;
+
+  private:
+    // A button and, behind it, what it does.
+    QPushButton* AddChoice(QGridLayout& grid, const char* button, const QString& caption, const char* label,
+                           const QString& text);
+    void AddNewName(QGridLayout& grid);
+    void Press(const char* button);
+
+    NameConflictModel& model_;
+    QLineEdit* newName_;
+};
+
+}  // namespace tw

@@ -1,0 +1,76 @@
+// The window of the explorer: a tree and a list beside it for the recipes, and another pair for the styles.
+#pragma once
+
+#include <QDialog>
+#include <array>
+#include <map>
+#include <string>
+
+#include "tree/ExplorerModel.h"
+
+class QBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QSplitter;
+class QStackedWidget;
+
+namespace tw {
+
+class NodeListPane;
+class TreePane;
+
+class ExplorerWindow final : public QDialog {
+    Q_OBJECT
+  public:
+    ExplorerWindow(ExplorerModel& model, QWidget* parent);
+    ~ExplorerWindow() override;
+
+  protected:
+    void reject() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    using Page = ExplorerModel::Page;
+    struct PageWidgets {
+        QSplitter* splitter = nullptr;
+        TreePane* tree = nullptr;
+        NodeListPane* list = nullptr;
+    };
+
+    QLayout* MakePageRow();
+    QLayout* MakeCommandRow();
+    QLayout* MakeBottomRow();
+    void MakePage(Page page);
+    void ConnectTree(Page page, PageWidgets& widgets);
+    void ConnectList(PageWidgets& widgets);
+    QRadioButton* AddOption(QBoxLayout& row, const char* name, const QString& caption, Page page);
+    void AddKey(QWidget& widget, const QKeySequence& key, PopupCommand command);
+    PageWidgets& Shown() { return pages_[static_cast<std::size_t>(model_.Shown())]; }
+
+    void ShowPage(Page page);
+    void Run(PopupChoice choice);
+    bool AboutRows();
+    void DeleteOrRename(PopupCommand listCommand, PopupCommand treeCommand);
+    // When the editor of a name has closed.
+    void EndEdit();
+    // The window as the model is now; closes when it is done.
+    void ShowState();
+    void ShowListPopup(const QPoint& place);
+    void ShowTreePopup(const QPoint& place);
+    void SearchFor(const QString& text);
+
+    ExplorerModel& model_;
+    std::array<PageWidgets, 2> pages_;
+    QStackedWidget* stack_;
+    QRadioButton* recipes_ = nullptr;
+    QRadioButton* styles_ = nullptr;
+    QLineEdit* find_;
+    QLabel* status_;
+    std::map<std::string, QPushButton*> buttons_;
+    bool showing_ = false;
+};
+
+}  // namespace tw
