@@ -69,7 +69,7 @@ bool StyleEditor::UpdateStyle(const std::string& name, const std::string& now) {
         ForgetLoadedName();
         return false;
     }
-    if (folder != loadedFolder_) Context().objects.MoveStyleToFolder(id, folder, false);
+    if (folder != loadedFolder_) Context().objects.MoveStyleToFolder(id, folder);
     if (name != LoadedName()) Context().objects.RenameStyleNodes(id, name);
     return true;
 }

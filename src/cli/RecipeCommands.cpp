@@ -23,14 +23,14 @@ void Open(Session& session, Arguments& arguments) {
 void Save(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
-    session.Program().Saver().Save(document, false);
+    session.Program().Saver().Save(document);
 }
 
 void SaveAs(Session& session, Arguments& arguments) {
     const int folder = arguments.Integer("FOLDERID", 0, std::numeric_limits<int>::max());
     const std::string name = arguments.LastName("NAME");
     RecipeDocument& document = session.Document();
-    session.Program().Saver().SaveUnder(document, name, folder, false);
+    session.Program().Saver().SaveUnder(document, name, folder);
 }
 
 void Close(Session& session, Arguments& arguments) {

@@ -39,7 +39,7 @@ void PrintTree(Session& session, Arguments& arguments) {
 void CreateFolder(Session& session, Arguments& arguments) {
     const std::string parentKey = arguments.Word("PARENTKEY");
     const std::string name = arguments.Text();
-    const std::string key = session.Program().Data().objects.CreateFolderObject(parentKey, name, false);
+    const std::string key = session.Program().Data().objects.CreateFolderObject(parentKey, name);
     if (!key.empty()) session.Out().Line(key);
 }
 
@@ -47,13 +47,13 @@ void Move(Session& session, Arguments& arguments) {
     const std::string source = arguments.Word("the KEY to move");
     const std::string dest = arguments.Word("the KEY to move to");
     arguments.End();
-    session.Program().Data().objects.MoveObject(source, dest, false);
+    session.Program().Data().objects.MoveObject(source, dest);
 }
 
 void Rename(Session& session, Arguments& arguments) {
     const std::string key = arguments.Word("KEY");
     const std::string name = arguments.LastName("NAME");
-    session.Program().Data().objects.RenameObject(key, name, false);
+    session.Program().Data().objects.RenameObject(key, name);
 }
 
 void Remove(Session& session, Arguments& arguments) {

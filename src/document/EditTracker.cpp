@@ -125,7 +125,7 @@ std::string EditTracker::GetControlID() const {
 
 TextSpan ChangedSpan(std::string_view oldText, std::string_view newText) {
     const auto inCharacter = [](std::string_view text, std::size_t at) {
-        return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
+        return at < text.size() && IsContinuationByte(text[at]);
     };
     const std::size_t common = std::min(oldText.size(), newText.size());
     std::size_t begin = 0;

@@ -20,9 +20,6 @@ namespace tw {
 
 class RecipeDocument;
 
-// Whether the brewer hears of a refused entry.
-enum class Asking : std::uint8_t { Aloud, Quietly };
-
 // Where a recipe stands in the database.
 struct RecipePlace {
     std::string origName;        // the stored recipe's name, trimmed; empty for one that was never saved
@@ -65,9 +62,12 @@ class OpenRecipe {
     // Sets the commands of undo and redo by the history.
     void RefreshUndoCommands();
 
-    // The one place from which a recipe's messages are shown. Nothing for a refusal without a text.
+    // The one place from which a recipe's message boxes are shown. Nothing for a refusal without a text.
     void Tell(const Refusal& refusal) { ShowRefusal(platform.messages, refusal); }
     void Tell(std::string_view title, std::string_view text) { platform.messages.ShowMessage(title, text); }
+    bool AnswersYes(std::string_view title, std::string_view text, Question kind) {
+        return platform.messages.Ask(title, text, kind) == Answer::Yes;
+    }
 
     DocumentHost& host;
     Platform& platform;

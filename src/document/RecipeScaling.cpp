@@ -31,12 +31,11 @@ void RecipeScaling::ChangeForGood(const std::function<bool()>& change) {
 
 bool RecipeScaling::MayKeepCarbonation() {
     if (!recipe_.host.AskBeforeNonUndoableChange()) return true;
-    return recipe_.platform.messages.Ask(
-               "Keep the Carbonation?",
-               "Keep the carbonation of " + recipe_.record.txtCO2.Text() +
-                   "?\r\nYes changes the priming sugar or the pressure with the size; "
-                   "No leaves them as they are.",
-               Question::YesIsUsual) == Answer::Yes;
+    return recipe_.AnswersYes("Keep the Carbonation?",
+                              "Keep the carbonation of " + recipe_.record.txtCO2.Text() +
+                                  "?\r\nYes changes the priming sugar or the pressure with the size; "
+                                  "No leaves them as they are.",
+                              Question::YesIsUsual);
 }
 
 std::string RecipeScaling::RefusalOfSize(double gallons) const {

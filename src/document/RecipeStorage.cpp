@@ -33,10 +33,9 @@ class Filling {
 
 bool RecipeStorage::AskOverwrite() {
     const std::string name(Trim(recipe_.record.txtName.Text()));
-    return recipe_.platform.messages.Ask(
-               "Overwrite existing recipe?",
-               "Another recipe named '" + name + "' already exists.\r\nOverwrite it?",
-               Question::YesNo) == Answer::Yes;
+    return recipe_.AnswersYes("Overwrite existing recipe?",
+                              "Another recipe named '" + name + "' already exists.\r\nOverwrite it?",
+                              Question::YesNo);
 }
 
 void RecipeStorage::DeleteOwnRow() {

@@ -17,6 +17,9 @@ enum class Answer { Ok, Yes, No, Cancel };
 // YesIsUsual is a YesNo whose Enter key says Yes: neither answer deletes or overwrites anything.
 enum class Question { YesNo, YesIsUsual, YesNoCancel, OkCancel };
 
+// Whether an operation shows message boxes: a refusal, an error, a question before it goes on.
+enum class Asking { Aloud, Quietly };
+
 // What closing the box of a question by any other way answers.
 inline Answer ClosingAnswer(Question kind) {
     return kind == Question::YesNo || kind == Question::YesIsUsual ? Answer::No : Answer::Cancel;

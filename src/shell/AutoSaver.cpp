@@ -23,7 +23,7 @@ void AutoSaver::Run() {
 
 AutoSaveModel AutoSaver::Progress() {
     return {documents_, [this](RecipeDocument& document) {
-                RunShowingErrors(data_.platform.messages, [&] { saver_.Save(document, true); });
+                RunShowingErrors(data_.platform.messages, [&] { saver_.Save(document, Asking::Quietly); });
             }};
 }
 

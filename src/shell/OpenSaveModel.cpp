@@ -159,7 +159,7 @@ void OpenSaveModel::OpenRow() {
 }
 
 void OpenSaveModel::NewFolder() {
-    const std::string key = access_.objects.CreateFolderObject(NodeKey(), "", false);
+    const std::string key = access_.objects.CreateFolderObject(NodeKey(), "");
     if (key.empty()) return;
     list_.AddFolder(key);
     RowChosen();
@@ -180,7 +180,7 @@ void OpenSaveModel::Drop(const std::vector<std::string>& keys, std::string_view 
     const std::string target(targetKey);
     if (!CanDrop(keys, target)) return;
     for (const std::string& key : keys) {
-        if (!access_.objects.MoveObject(key, target, false)) return;
+        if (!access_.objects.MoveObject(key, target)) return;
         list_.Remove(key);
     }
 }

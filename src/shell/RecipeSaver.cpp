@@ -23,16 +23,18 @@ bool RecipeSaver::Try(const std::function<bool()>& save) {
     return saved;
 }
 
-bool RecipeSaver::Save(RecipeDocument& document, bool silent) {
-    if (IsBlank(document.BeerName()) || document.FolderID() < 0) return !silent && SaveAs(document);
+bool RecipeSaver::Save(RecipeDocument& document, Asking asking) {
+    if (IsBlank(document.BeerName()) || document.FolderID() < 0)
+        return asking == Asking::Aloud && SaveAs(document);
     return Try([&] {
-        if (silent)
+        if (asking == Asking::Quietly)
             document.Focus().FlushEditsQuietly();
         else
             document.Focus().FlushEdits();
         const bool renamed = !SameName(document.BeerName(), document.OrigName());
-        if (silent && renamed && RecipeExists(*data_.database, document.BeerName())) return false;
-        const bool saved = document.Storage().Save(tw::SaveAs::No, silent ? Asking::Quietly : Asking::Aloud);
+        if (asking == Asking::Quietly && renamed && RecipeExists(*data_.database, document.BeerName()))
+            return false;
+        const bool saved = document.Storage().Save(tw::SaveAs::No, asking);
         FollowUnfinished(document, saved);
         return saved;
     });
@@ -49,15 +51,14 @@ bool RecipeSaver::SaveAs(RecipeDocument& document) {
     });
     if (!shown || dialog->Cancelled()) return false;
     browse_ = dialog->Fields();
-    return SaveUnder(document, dialog->BeerName(), dialog->FolderID(), true);
+    return SaveUnder(document, dialog->BeerName(), dialog->FolderID(), Asking::Quietly);
 }
 
 bool RecipeSaver::SaveUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId,
-                            bool silent) {
+                            Asking asking) {
     return Try([&] {
         document.Focus().FlushEdits();
-        const bool saved =
-            document.Storage().SaveUnder(name, folderId, silent ? Asking::Quietly : Asking::Aloud);
+        const bool saved = document.Storage().SaveUnder(name, folderId, asking);
         FollowUnfinished(document, saved);
         return saved;
     });
@@ -71,7 +72,7 @@ void RecipeSaver::SaveAll() {
     for (std::size_t i = 0; i < documents_.All().size(); ++i) {
         RunShowingErrors(data_.platform.messages, [&] {
             documents_.All()[i]->Focus().FlushEdits();
-            Save(*documents_.All()[i], false);
+            Save(*documents_.All()[i]);
         });
     }
 }
@@ -86,7 +87,7 @@ bool RecipeSaver::Close(RecipeDocument& document) {
         const Answer answer = data_.platform.messages.Ask("Unsaved Changes", question, Question::YesNoCancel);
         if (answer == Answer::Yes) {
             // A save that could not write its rows reports success and leaves the document changed.
-            if (!Save(document, false) || document.Changed()) return false;
+            if (!Save(document) || document.Changed()) return false;
         } else if (answer != Answer::No) {
             return false;
         }

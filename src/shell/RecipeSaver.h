@@ -20,13 +20,14 @@ class RecipeSaver {
                 OpenSaveFields& browse)
         : data_(data), documents_(documents), notices_(notices), browse_(browse) {}
 
-    // These three give whether the recipe was saved. An error is shown in a box titled "Error". silent asks
+    // These three give whether the recipe was saved. An error is shown in a box titled "Error". Quietly asks
     // nothing: a document that was never saved, or whose edited name is another recipe's, is passed over.
-    bool Save(RecipeDocument& document, bool silent);
+    bool Save(RecipeDocument& document, Asking asking = Asking::Aloud);
     // Asks for the name and the folder.
     bool SaveAs(RecipeDocument& document);
     // SaveAs with the answer of the dialog given.
-    bool SaveUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId, bool silent);
+    bool SaveUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId,
+                   Asking asking = Asking::Aloud);
     // Each in the order of their opening. One that cannot be saved does not keep the others from it.
     void SaveAll();
 

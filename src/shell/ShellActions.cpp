@@ -28,7 +28,7 @@ void CloseActive(On on) {
 }
 
 void SaveActive(On on) {
-    if (RecipeDocument* const active = on.documents.Active()) on.saver.Save(*active, false);
+    if (RecipeDocument* const active = on.documents.Active()) on.saver.Save(*active);
 }
 
 void SaveActiveAs(On on) {

@@ -54,26 +54,26 @@ DB_IO::DB_IO(Database& database, TreeObjects& tree, MessagePort& messages, Clock
       newFolders_(services_),
       deletions_(services_, moves_) {}
 
-bool DB_IO::MoveObject(std::string_view sourceKey, std::string_view destKey, bool silent) {
-    if (IsSubFolder(sourceKey, destKey)) return runner_.RefuseSubFolder(silent);
+bool DB_IO::MoveObject(std::string_view sourceKey, std::string_view destKey, Asking asking) {
+    if (IsSubFolder(sourceKey, destKey)) return runner_.RefuseSubFolder(asking);
     if (!CanDropOn(sourceKey, destKey))
-        return runner_.Refuse("Could not move object", "Invalid Destination", silent);
+        return runner_.Refuse("Could not move object", "Invalid Destination", asking);
     const std::int64_t source = IdOfKey(sourceKey);
     const std::int64_t dest = IdOfKey(destKey);
-    if (IsRecipeFolderKey(sourceKey)) return MoveRecipeFolder(source, dest, silent);
-    if (IsStyleFolderKey(sourceKey)) return MoveStyleFolder(source, dest, silent);
-    if (IsStyleKey(sourceKey)) return MoveStyleToFolder(source, dest, silent);
-    return IsStyleKey(destKey) ? MoveRecipeToStyle(source, dest, silent)
-                               : MoveRecipeToFolder(source, dest, silent);
+    if (IsRecipeFolderKey(sourceKey)) return MoveRecipeFolder(source, dest, asking);
+    if (IsStyleFolderKey(sourceKey)) return MoveStyleFolder(source, dest, asking);
+    if (IsStyleKey(sourceKey)) return MoveStyleToFolder(source, dest, asking);
+    return IsStyleKey(destKey) ? MoveRecipeToStyle(source, dest, asking)
+                               : MoveRecipeToFolder(source, dest, asking);
 }
 
-bool DB_IO::RenameObject(std::string_view key, std::string_view newName, bool silent) {
-    if (!CanRenameNode(key)) return runner_.Refuse("Could not rename object", "Invalid Object", silent);
+bool DB_IO::RenameObject(std::string_view key, std::string_view newName, Asking asking) {
+    if (!CanRenameNode(key)) return runner_.Refuse("Could not rename object", "Invalid Object", asking);
     const std::int64_t id = IdOfKey(key);
-    if (IsRecipeFolderKey(key)) return RenameRecipeFolder(id, newName, silent);
-    if (IsStyleFolderKey(key)) return RenameStyleFolder(id, newName, silent);
-    if (IsStyleKey(key)) return RenameStyle(id, newName, silent);
-    return RenameRecipe(id, newName, silent);
+    if (IsRecipeFolderKey(key)) return RenameRecipeFolder(id, newName, asking);
+    if (IsStyleFolderKey(key)) return RenameStyleFolder(id, newName, asking);
+    if (IsStyleKey(key)) return RenameStyle(id, newName, asking);
+    return RenameRecipe(id, newName, asking);
 }
 
 void DB_IO::DeleteObject(std::string_view key) {
@@ -85,13 +85,13 @@ void DB_IO::DeleteObject(std::string_view key) {
     DeleteRecipeById(id);
 }
 
-std::string DB_IO::CreateFolderObject(std::string_view parentKey, std::string_view name, bool silent) {
+std::string DB_IO::CreateFolderObject(std::string_view parentKey, std::string_view name, Asking asking) {
     if (!CanHoldFolders(parentKey)) {
-        runner_.Refuse("Could not create new folder", "Invalid Parent Object", silent);
+        runner_.Refuse("Could not create new folder", "Invalid Parent Object", asking);
         return {};
     }
     const FolderKind kind = IsRecipeFolderKey(parentKey) ? FolderKind::Recipes : FolderKind::Styles;
-    const std::int64_t id = newFolders_.CreateFolder(kind, IdOfKey(parentKey), name, silent);
+    const std::int64_t id = newFolders_.CreateFolder(kind, IdOfKey(parentKey), name, asking);
     return id < 0 ? std::string() : FolderKey(kind, id);
 }
 

@@ -27,10 +27,10 @@ bool CanHoldFolders(std::string_view key);
 // Whether one may be moved onto the other. A recipe may be dropped on "(None)".
 bool CanDropOn(std::string_view sourceKey, std::string_view destKey);
 
-// Every operation is one unit on the disk. silent shows no message. Those that move, rename and create show a
-// store's error in a box of their own and end with false, -1 or an empty key; from those that delete it
-// rises. Either way what was done before the error stays, and the tree is read anew to show just that.
-// A folder that the tree does not show, such as one of a ring of folders, is no folder here.
+// Every operation is one unit on the disk. Asked Quietly it shows no message. Those that move, rename and
+// create show a store's error in a box of their own and end with false, -1 or an empty key; from those that
+// delete it rises. Either way what was done before the error stays, and the tree is read anew to show just
+// that. A folder that the tree does not show, such as one of a ring of folders, is no folder here.
 class DB_IO {
   public:
     // REQUIRES: all of them live for as long.
@@ -42,13 +42,14 @@ class DB_IO {
     // By keys.
 
     // False, and nothing is changed, when it is there already.
-    bool MoveObject(std::string_view sourceKey, std::string_view destKey, bool silent);
-    bool RenameObject(std::string_view key, std::string_view newName, bool silent);
+    bool MoveObject(std::string_view sourceKey, std::string_view destKey, Asking asking = Asking::Aloud);
+    bool RenameObject(std::string_view key, std::string_view newName, Asking asking = Asking::Aloud);
     // Asks nothing; does nothing for a key that CanDeleteNode refuses and for no object.
     void DeleteObject(std::string_view key);
     // The key of the new folder, empty when it was refused. For a blank name it takes the next free one of
     // "New Folder", "New Folder (2)", ...
-    std::string CreateFolderObject(std::string_view parentKey, std::string_view name, bool silent);
+    std::string CreateFolderObject(std::string_view parentKey, std::string_view name,
+                                   Asking asking = Asking::Aloud);
     // Whether dest is source or stands somewhere below it in the tree.
     bool IsSubFolder(std::string_view sourceKey, std::string_view destKey) const {
         return lookup_.IsSubFolder(sourceKey, destKey);
@@ -77,40 +78,41 @@ class DB_IO {
 
     // By ids.
 
-    bool MoveRecipeFolder(std::int64_t folderId, std::int64_t destFolderId, bool silent) {
-        return moves_.MoveFolder(FolderKind::Recipes, folderId, destFolderId, silent);
+    bool MoveRecipeFolder(std::int64_t folderId, std::int64_t destFolderId, Asking asking = Asking::Aloud) {
+        return moves_.MoveFolder(FolderKind::Recipes, folderId, destFolderId, asking);
     }
-    bool MoveStyleFolder(std::int64_t folderId, std::int64_t destFolderId, bool silent) {
-        return moves_.MoveFolder(FolderKind::Styles, folderId, destFolderId, silent);
+    bool MoveStyleFolder(std::int64_t folderId, std::int64_t destFolderId, Asking asking = Asking::Aloud) {
+        return moves_.MoveFolder(FolderKind::Styles, folderId, destFolderId, asking);
     }
     // Touches the old folder and the new one, as MoveStyleToFolder.
-    bool MoveRecipeToFolder(std::int64_t recipeId, std::int64_t folderId, bool silent) {
-        return moves_.MoveRecipeToFolder(recipeId, folderId, silent);
+    bool MoveRecipeToFolder(std::int64_t recipeId, std::int64_t folderId, Asking asking = Asking::Aloud) {
+        return moves_.MoveRecipeToFolder(recipeId, folderId, asking);
     }
     // Style 0 is none. Touches nothing.
-    bool MoveRecipeToStyle(std::int64_t recipeId, std::int64_t styleId, bool silent) {
-        return moves_.MoveRecipeToStyle(recipeId, styleId, silent);
+    bool MoveRecipeToStyle(std::int64_t recipeId, std::int64_t styleId, Asking asking = Asking::Aloud) {
+        return moves_.MoveRecipeToStyle(recipeId, styleId, asking);
     }
-    bool MoveStyleToFolder(std::int64_t styleId, std::int64_t folderId, bool silent) {
-        return moves_.MoveStyleToFolder(styleId, folderId, silent);
+    bool MoveStyleToFolder(std::int64_t styleId, std::int64_t folderId, Asking asking = Asking::Aloud) {
+        return moves_.MoveStyleToFolder(styleId, folderId, asking);
     }
-    bool MoveStyleToFolderByName(std::string_view name, std::int64_t folderId, bool silent) {
-        return moves_.MoveStyleToFolderByName(name, folderId, silent);
+    bool MoveStyleToFolderByName(std::string_view name, std::int64_t folderId,
+                                 Asking asking = Asking::Aloud) {
+        return moves_.MoveStyleToFolderByName(name, folderId, asking);
     }
 
     // A change of case alone is allowed. The database takes the name trimmed, the tree as it is typed, until
     // the next start: intended.
-    bool RenameRecipeFolder(std::int64_t id, std::string_view newName, bool silent) {
-        return renames_.RenameFolder(FolderKind::Recipes, id, newName, silent);
+    bool RenameRecipeFolder(std::int64_t id, std::string_view newName, Asking asking = Asking::Aloud) {
+        return renames_.RenameFolder(FolderKind::Recipes, id, newName, asking);
     }
-    bool RenameStyleFolder(std::int64_t id, std::string_view newName, bool silent) {
-        return renames_.RenameFolder(FolderKind::Styles, id, newName, silent);
+    bool RenameStyleFolder(std::int64_t id, std::string_view newName, Asking asking = Asking::Aloud) {
+        return renames_.RenameFolder(FolderKind::Styles, id, newName, asking);
     }
-    bool RenameRecipe(std::int64_t id, std::string_view newName, bool silent) {
-        return renames_.RenameRecipe(id, newName, silent);
+    bool RenameRecipe(std::int64_t id, std::string_view newName, Asking asking = Asking::Aloud) {
+        return renames_.RenameRecipe(id, newName, asking);
     }
-    bool RenameStyle(std::int64_t id, std::string_view newName, bool silent) {
-        return renames_.RenameStyle(id, newName, silent);
+    bool RenameStyle(std::int64_t id, std::string_view newName, Asking asking = Asking::Aloud) {
+        return renames_.RenameStyle(id, newName, asking);
     }
 
     // With all folders and recipes below. The folder above is not touched, by any deletion.
@@ -125,11 +127,13 @@ class DB_IO {
     void DeleteStyleById(std::int64_t id) { deletions_.DeleteStyleById(id); }
 
     // The new id, -1 when it was refused. The parent is not touched.
-    std::int64_t CreateRecipeFolder(std::int64_t parentId, std::string_view name, bool silent) {
-        return newFolders_.CreateFolder(FolderKind::Recipes, parentId, name, silent);
+    std::int64_t CreateRecipeFolder(std::int64_t parentId, std::string_view name,
+                                    Asking asking = Asking::Aloud) {
+        return newFolders_.CreateFolder(FolderKind::Recipes, parentId, name, asking);
     }
-    std::int64_t CreateStyleFolder(std::int64_t parentId, std::string_view name, bool silent) {
-        return newFolders_.CreateFolder(FolderKind::Styles, parentId, name, silent);
+    std::int64_t CreateStyleFolder(std::int64_t parentId, std::string_view name,
+                                   Asking asking = Asking::Aloud) {
+        return newFolders_.CreateFolder(FolderKind::Styles, parentId, name, asking);
     }
 
     // Bring the tree in step with a row that has just been written, and touch its folder. ByName looks the

@@ -250,7 +250,7 @@ void ExplorerModel::NewStyle() {
 }
 
 void ExplorerModel::NewFolder() {
-    const std::string key = access_.objects.CreateFolderObject(NodeKey(), "", false);
+    const std::string key = access_.objects.CreateFolderObject(NodeKey(), "");
     if (key.empty()) return;
     Settle();
     if (ChooseNode(key)) At(shown_).editedKey = key;
@@ -300,7 +300,7 @@ void ExplorerModel::Drop(const std::vector<std::string>& keys, std::string_view 
     const std::vector<std::string> names = NamesOf(keys);
     Change([&] {
         RunSteps(access_.platform.dialogs, "Moving", names, [&](std::size_t i) {
-            return access_.objects.MoveObject(KeyNow(access_, keys[i], names[i]), target, false);
+            return access_.objects.MoveObject(KeyNow(access_, keys[i], names[i]), target);
         });
     });
     TreeItems& tree = At(shown_).tree;
@@ -327,7 +327,7 @@ bool ExplorerModel::RenameNode(std::string_view newName) {
     if (item == TreeItems::kNone) return false;
     if (newName == tree.Text(item)) return true;
     const std::string key = tree.Key(item);
-    if (!access_.objects.RenameObject(key, newName, false)) return false;
+    if (!access_.objects.RenameObject(key, newName)) return false;
     const int place = tree.Find(key);
     if (place != TreeItems::kNone) tree.SetText(place, newName);
     return true;

@@ -56,7 +56,7 @@ bool FolderChooser::Choose(std::string_view key) {
 
 bool FolderChooser::CreateFolder() {
     if (locked_ || objects_ == nullptr) return false;
-    const std::string key = objects_->CreateFolderObject(items_.SelectedKey(), "", false);
+    const std::string key = objects_->CreateFolderObject(items_.SelectedKey(), "");
     if (key.empty()) return false;
     FillTheTree();
     return items_.SelectKey(key);
@@ -68,7 +68,7 @@ bool FolderChooser::CanRename() const {
 
 bool FolderChooser::Rename(std::string_view newName) {
     if (!CanRename()) return false;
-    if (!objects_->RenameObject(items_.SelectedKey(), newName, false)) return false;
+    if (!objects_->RenameObject(items_.SelectedKey(), newName)) return false;
     items_.SetText(items_.Selected(), newName);
     return true;
 }

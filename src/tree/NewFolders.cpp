@@ -8,17 +8,17 @@
 namespace tw {
 
 std::int64_t NewFolders::CreateFolder(FolderKind kind, std::int64_t parentId, std::string_view name,
-                                      bool silent) {
+                                      Asking asking) {
     const std::string word = FolderWord(kind);
     const std::string errorTitle = "Error creating new " + word;
     std::int64_t id = -1;
-    const bool created = to_.runner.Trap(errorTitle, silent, [&] {
-        if (!to_.lookup.IsFolder(kind, parentId)) return to_.runner.RefuseMissing(errorTitle, word, silent);
+    const bool created = to_.runner.Trap(errorTitle, asking, [&] {
+        if (!to_.lookup.IsFolder(kind, parentId)) return to_.runner.RefuseMissing(errorTitle, word, asking);
         const std::string parentKey = FolderKey(kind, parentId);
         const std::string text = IsBlank(name) ? NextNewFolderName(parentKey) : std::string(Trim(name));
         if (to_.lookup.FolderNameExists(kind, parentId, text))
             return to_.runner.Refuse("Could not create new " + word, "A folder with that name already exists",
-                                     silent);
+                                     asking);
         id = InsertFolder(kind, parentId, text);
         to_.tree.Place(FolderKey(kind, id), parentKey, text);
         return true;

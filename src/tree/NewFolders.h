@@ -13,9 +13,9 @@ class NewFolders {
   public:
     explicit NewFolders(const ObjectServices& services) : to_(services) {}
 
-    // The new id, -1 when it was refused, which has been shown unless silent. For a blank name it takes the
-    // next free one of "New Folder", "New Folder (2)", ... The parent is not touched.
-    std::int64_t CreateFolder(FolderKind kind, std::int64_t parentId, std::string_view name, bool silent);
+    // The new id, -1 when it was refused, which has been shown unless asking is Quietly. For a blank name it
+    // takes the next free one of "New Folder", "New Folder (2)", ... The parent is not touched.
+    std::int64_t CreateFolder(FolderKind kind, std::int64_t parentId, std::string_view name, Asking asking);
 
   private:
     std::int64_t InsertFolder(FolderKind kind, std::int64_t parentId, const std::string& name);

@@ -179,7 +179,7 @@ bool NodeList::EndEdit(std::string_view newName) {
     CancelEdit();
     if (row == ListTable::kNoRow) return false;
     if (newName == rows_.Row(row).cells.front()) return true;
-    if (!access_.objects.RenameObject(key, newName, false)) return false;
+    if (!access_.objects.RenameObject(key, newName)) return false;
     // A failure in the store may have read the tree anew meanwhile, a box may have let others work.
     const int place = rows_.FindKey(key);
     if (place != ListTable::kNoRow) rows_.SetCell(place, 0, newName);

@@ -6,22 +6,22 @@
 
 namespace tw {
 
-bool ObjectMoves::MoveFolder(FolderKind kind, std::int64_t id, std::int64_t destId, bool silent) {
+bool ObjectMoves::MoveFolder(FolderKind kind, std::int64_t id, std::int64_t destId, Asking asking) {
     const std::string word = FolderWord(kind);
     const std::string errorTitle = "Error moving " + word;
-    return to_.runner.Trap(errorTitle, silent, [&] {
+    return to_.runner.Trap(errorTitle, asking, [&] {
         const std::string key = FolderKey(kind, id);
         const std::string destKey = FolderKey(kind, destId);
         if (id == 0 || !to_.lookup.IsFolder(kind, id) || !to_.lookup.IsFolder(kind, destId))
-            return to_.runner.RefuseMissing(errorTitle, word, silent);
+            return to_.runner.RefuseMissing(errorTitle, word, asking);
         if (to_.tree.ParentOf(key) == destKey) return false;
         // A folder below itself would be a ring that nobody could reach.
-        if (to_.lookup.IsSubFolder(key, destKey)) return to_.runner.RefuseSubFolder(silent);
+        if (to_.lookup.IsSubFolder(key, destKey)) return to_.runner.RefuseSubFolder(asking);
         const std::string name = to_.tree.NameOf(key).value_or("");
         if (to_.lookup.FolderNameExists(kind, destId, name))
             return to_.runner.Refuse("Could not move " + word,
                                      "The destination folder already contains a folder with that name",
-                                     silent);
+                                     asking);
         UnitOfWork unit(to_.database);
         to_.database.Execute(
             "UPDATE FOLDERS SET PARENT_ID = ? WHERE " + FolderCondition(kind) + " AND ID = ?", {destId, id});
@@ -33,13 +33,13 @@ bool ObjectMoves::MoveFolder(FolderKind kind, std::int64_t id, std::int64_t dest
     });
 }
 
-bool ObjectMoves::MoveRecipeToFolder(std::int64_t recipeId, std::int64_t folderId, bool silent) {
+bool ObjectMoves::MoveRecipeToFolder(std::int64_t recipeId, std::int64_t folderId, Asking asking) {
     const std::string errorTitle = "Error moving recipe to folder";
-    return to_.runner.Trap(errorTitle, silent, [&] {
+    return to_.runner.Trap(errorTitle, asking, [&] {
         const std::optional<std::string> name = to_.lookup.RecipeName(recipeId);
-        if (!name) return to_.runner.RefuseMissing(errorTitle, "recipe", silent);
+        if (!name) return to_.runner.RefuseMissing(errorTitle, "recipe", asking);
         if (!to_.lookup.IsFolder(FolderKind::Recipes, folderId))
-            return to_.runner.RefuseMissing(errorTitle, "recipe folder", silent);
+            return to_.runner.RefuseMissing(errorTitle, "recipe folder", asking);
         const std::string key = RecipeKey(recipeId, kCopyInFolder);
         const std::string folderKey = FolderKey(FolderKind::Recipes, folderId);
         if (to_.tree.ParentOf(key) == folderKey) return false;
@@ -54,13 +54,13 @@ bool ObjectMoves::MoveRecipeToFolder(std::int64_t recipeId, std::int64_t folderI
     });
 }
 
-bool ObjectMoves::MoveRecipeToStyle(std::int64_t recipeId, std::int64_t styleId, bool silent) {
+bool ObjectMoves::MoveRecipeToStyle(std::int64_t recipeId, std::int64_t styleId, Asking asking) {
     const std::string errorTitle = "Error moving recipe to style";
-    return to_.runner.Trap(errorTitle, silent, [&] {
+    return to_.runner.Trap(errorTitle, asking, [&] {
         const std::optional<std::string> name = to_.lookup.RecipeName(recipeId);
-        if (!name) return to_.runner.RefuseMissing(errorTitle, "recipe", silent);
+        if (!name) return to_.runner.RefuseMissing(errorTitle, "recipe", asking);
         if (styleId != 0 && !to_.lookup.StyleName(styleId))
-            return to_.runner.RefuseMissing(errorTitle, "style", silent);
+            return to_.runner.RefuseMissing(errorTitle, "style", asking);
         ChangeStyle(recipeId, *name, styleId);
         return true;
     });
@@ -73,13 +73,13 @@ void ObjectMoves::ChangeStyle(std::int64_t recipeId, const std::string& name, st
     to_.listener.NotifyRecipeNewStyle(name, styleId);
 }
 
-bool ObjectMoves::MoveStyleToFolder(std::int64_t styleId, std::int64_t folderId, bool silent) {
+bool ObjectMoves::MoveStyleToFolder(std::int64_t styleId, std::int64_t folderId, Asking asking) {
     const std::string errorTitle = "Error moving style";
-    return to_.runner.Trap(errorTitle, silent, [&] {
+    return to_.runner.Trap(errorTitle, asking, [&] {
         const std::optional<std::string> name = to_.lookup.StyleName(styleId);
-        if (!name) return to_.runner.RefuseMissing(errorTitle, "style", silent);
+        if (!name) return to_.runner.RefuseMissing(errorTitle, "style", asking);
         if (!to_.lookup.IsFolder(FolderKind::Styles, folderId))
-            return to_.runner.RefuseMissing(errorTitle, "style folder", silent);
+            return to_.runner.RefuseMissing(errorTitle, "style folder", asking);
         const std::string key = StyleKey(styleId, kStyleInFolder);
         const std::string folderKey = FolderKey(FolderKind::Styles, folderId);
         const bool wasNowhere = !to_.tree.NameOf(key);
@@ -101,13 +101,13 @@ void ObjectMoves::ShowRecipesInFolderOf(std::int64_t styleId) {
                        to_.lookup.RecipeName(recipe).value_or(""));
 }
 
-bool ObjectMoves::MoveStyleToFolderByName(std::string_view name, std::int64_t folderId, bool silent) {
+bool ObjectMoves::MoveStyleToFolderByName(std::string_view name, std::int64_t folderId, Asking asking) {
     std::int64_t id = 0;
-    const bool lookedUp = to_.runner.Trap("Error moving style", silent, [&] {
+    const bool lookedUp = to_.runner.Trap("Error moving style", asking, [&] {
         id = to_.lookup.IdByName(name, "STYLES");
         return true;
     });
-    return lookedUp && MoveStyleToFolder(id, folderId, silent);
+    return lookedUp && MoveStyleToFolder(id, folderId, asking);
 }
 
 }  // namespace tw

@@ -4,14 +4,14 @@
 
 namespace tw {
 
-bool OperationRunner::Trap(const std::string& title, bool silent, const std::function<bool()>& operation) {
+bool OperationRunner::Trap(const std::string& title, Asking asking, const std::function<bool()>& operation) {
     try {
         const bool done = operation();
         tree_.CatchUp();
         return done;
     } catch (const Error& error) {
         ShowWhatIsLeft(false);
-        return Refuse(title, error.WithSource(), silent);
+        return Refuse(title, error.WithSource(), asking);
     }
 }
 
@@ -28,19 +28,19 @@ void OperationRunner::RunDeletion(const std::function<void()>& deletion) {
     listener_.DeletionEnded();
 }
 
-bool OperationRunner::Refuse(std::string_view title, std::string_view text, bool silent) {
-    if (!silent) messages_.ShowMessage(title, text);
+bool OperationRunner::Refuse(std::string_view title, std::string_view text, Asking asking) {
+    if (asking == Asking::Aloud) messages_.ShowMessage(title, text);
     return false;
 }
 
-bool OperationRunner::RefuseSubFolder(bool silent) {
+bool OperationRunner::RefuseSubFolder(Asking asking) {
     return Refuse("Could not move folder", "The destination folder is a sub-folder of the source folder",
-                  silent);
+                  asking);
 }
 
-bool OperationRunner::RefuseMissing(std::string_view title, std::string_view object, bool silent) {
+bool OperationRunner::RefuseMissing(std::string_view title, std::string_view object, Asking asking) {
     const Error error("DB_IO", "There is no such " + std::string(object) + ".", kMissingNumber);
-    return Refuse(title, error.WithSource(), silent);
+    return Refuse(title, error.WithSource(), asking);
 }
 
 void OperationRunner::ShowWhatIsLeft(bool deletion) {

@@ -21,16 +21,17 @@ class OperationRunner {
     OperationRunner(Database& database, TreeObjects& tree, MessagePort& messages, ObjectListener& listener)
         : database_(database), tree_(tree), messages_(messages), listener_(listener) {}
 
-    // Runs the operation, and returns what it does; an error in it is shown, unless silent, and gives false.
-    bool Trap(const std::string& title, bool silent, const std::function<bool()>& operation);
+    // Runs the operation, and returns what it does; an error in it is shown, unless asking is Quietly, and
+    // gives false.
+    bool Trap(const std::string& title, Asking asking, const std::function<bool()>& operation);
     // Runs a deletion as one unit. An error in it rises.
     void RunDeletion(const std::function<void()>& deletion);
 
-    // Shows the message unless silent. Returns false.
-    bool Refuse(std::string_view title, std::string_view text, bool silent);
-    bool RefuseSubFolder(bool silent);
+    // Shows the message unless asking is Quietly. Returns false.
+    bool Refuse(std::string_view title, std::string_view text, Asking asking);
+    bool RefuseSubFolder(Asking asking);
     // Refuses in the form of an error: there is no such object.
-    bool RefuseMissing(std::string_view title, std::string_view object, bool silent);
+    bool RefuseMissing(std::string_view title, std::string_view object, Asking asking);
 
   private:
     // Shows what an error has left. Within a unit of the caller's that is known behind its end.

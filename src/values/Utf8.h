@@ -27,6 +27,10 @@ constexpr bool IsAscii(std::string_view text) {
     for (const char c : text) all = static_cast<unsigned char>(all | static_cast<unsigned char>(c));
     return all < 0x80;
 }
+// True for a byte that does not begin a code point of valid UTF-8.
+constexpr bool IsContinuationByte(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
 
 // Returns the code point at the front of text. REQUIRES: text is not empty.
 CodePoint FrontCodePoint(std::string_view text);

@@ -167,8 +167,8 @@ TEST_F(Setup, TheNavigatorFollowsARenameThatWasApplied) {
 }
 
 TEST_F(Setup, FoldersOfStylesAreEnteredAndLeft) {
-    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", true);
-    const std::int64_t darker = io.CreateStyleFolder(dark, "Darker", true);
+    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", Asking::Quietly);
+    const std::int64_t darker = io.CreateStyleFolder(dark, "Darker", Asking::Quietly);
     Style("Bock", darker);
     Style("Alt", 0);
     DatabaseSetupModel& setup = Show(CatalogueKind::Style);
@@ -195,7 +195,7 @@ TEST_F(Setup, FoldersOfStylesAreEnteredAndLeft) {
 }
 
 TEST_F(Setup, ANewStyleStandsInTheFolderThatIsShown) {
-    io.CreateStyleFolder(0, "Dark", true);
+    io.CreateStyleFolder(0, "Dark", Asking::Quietly);
     DatabaseSetupModel& setup = Show(CatalogueKind::Style);
     setup.Press("lvItems");
     Next([](DialogModel& editor) {
@@ -224,7 +224,7 @@ TEST_F(Setup, AFolderThatWasMadeInACancelledEditorIsShown) {
 }
 
 TEST_F(Setup, AFilterFindsTheStylesOfAllFolders) {
-    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", true);
+    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", Asking::Quietly);
     Style("Dry Stout", dark);
     Style("Bock", 0);
     DatabaseSetupModel& setup = Show(CatalogueKind::Style);

@@ -86,8 +86,8 @@ TEST_F(Styles, ARenameReachesTheRightNodes) {
 }
 
 TEST_F(Styles, AnotherFolderMovesTheStyleAndTouchesBoth) {
-    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", true),
-                       pale = io.CreateStyleFolder(0, "Pale", true);
+    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", Asking::Quietly),
+                       pale = io.CreateStyleFolder(0, "Pale", Asking::Quietly);
     db->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', " + std::to_string(pale) + ")");
     io.AddStyleNodesByName("Stout");
     db->Execute("UPDATE FOLDERS SET MODIFIED_WHEN = NULL");
@@ -103,7 +103,7 @@ TEST_F(Styles, AnotherFolderMovesTheStyleAndTouchesBoth) {
 }
 
 TEST_F(Styles, ApplyStoresAndTheNextOneGoesOnFromThere) {
-    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", true);
+    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", Asking::Quietly);
     StyleEditor& style = OpenStyle();
     EXPECT_FALSE(style.ApplyEnabled());
     style.SetControl("Text1", "Stout");
@@ -136,7 +136,7 @@ TEST_F(Styles, AStyleOfAMissingFolderComesBackIntoSightWhenItIsStored) {
 }
 
 TEST_F(Styles, ANewStyleStartsInTheFolderThatItIsMadeIn) {
-    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", true);
+    const std::int64_t dark = io.CreateStyleFolder(0, "Dark", Asking::Quietly);
     StyleEditor& style = OpenStyle();
     style.StartInFolder(dark);
     Save(style, {{"Text1", "Stout"}});
@@ -182,7 +182,7 @@ TEST_F(Styles, AnErrorIsShownAndTheFormStays) {
 }
 
 TEST_F(Styles, AReadOnlyStyleIsLockedWithItsFolder) {
-    io.CreateStyleFolder(0, "Dark", true);
+    io.CreateStyleFolder(0, "Dark", Asking::Quietly);
     db->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
     StyleEditor& style = OpenStyle("Stout");
     style.SetReadOnly();

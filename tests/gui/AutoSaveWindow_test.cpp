@@ -22,7 +22,7 @@ class AutoSaveWindow : public GuiTest {
     RecipeDocument& Stored(const char* name) {
         NewRecipe();
         RecipeDocument& document = *shell.Documents().Active();
-        EXPECT_TRUE(shell.Saver().SaveUnder(document, name, 0, true));
+        EXPECT_TRUE(shell.Saver().SaveUnder(document, name, 0, Asking::Quietly));
         return document;
     }
     std::string StoredNotes() {

@@ -16,9 +16,9 @@ class BrowseTest : public GuiTest {
     void SetUp() override {
         GuiTest::SetUp();
         DB_IO& objects = shell.Data().objects;
-        objects.CreateRecipeFolder(0, "Winter", true);
-        objects.CreateRecipeFolder(1, "Dark", true);
-        objects.CreateStyleFolder(0, "British", true);
+        objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
+        objects.CreateRecipeFolder(1, "Dark", Asking::Quietly);
+        objects.CreateStyleFolder(0, "British", Asking::Quietly);
         shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0");
         objects.AddStyleNodesByName("Stout");
         for (const char* values : {"'Ale', 0", "'mild', 0", "'Porter', 1"})

@@ -144,7 +144,7 @@ TEST_F(CatalogueWindows, StepsShowOtherRowsAndDropWhatIsTyped) {
 }
 
 TEST_F(CatalogueWindows, AStyleHasItsListsItsFolderAndItsColour) {
-    shell.Data().objects.CreateStyleFolder(0, "Dark", true);
+    shell.Data().objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
     shell.DB()->Execute("INSERT INTO WATER_PROFILES (NAME) VALUES ('Dublin')");
     const auto model = MakeEditor(CatalogueKind::Style, *context);
     model->SetName("Stout");
@@ -305,7 +305,7 @@ TEST_F(CatalogueWindows, SetupTakesItsKeysAlsoBesideTheList) {
 
 TEST_F(CatalogueWindows, SetupIsOffOnAFolderAndEntersIt) {
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0");
-    shell.Data().objects.CreateStyleFolder(0, "Dark", true);
+    shell.Data().objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
     DatabaseSetupModel model(*context);
     DatabaseSetupDialog setup(model, nullptr);
     Up(setup);
@@ -323,7 +323,7 @@ TEST_F(CatalogueWindows, AFolderOfStylesShowsItsColumnsInFull) {
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0, TYPE = 0");
     // So many that a scroll bar stands beside them, and goes within the folder.
     for (int i = 0; i < 60; ++i)
-        shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), true);
+        shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), Asking::Quietly);
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1");
     DatabaseSetupModel model(*context);
     DatabaseSetupDialog setup(model, nullptr);

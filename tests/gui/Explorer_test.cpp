@@ -95,7 +95,7 @@ TEST_F(ExplorerWindowTest, F2EditsANameInTheList) {
         EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "Brown"}));
         EXPECT_TRUE(List().hasFocus());
         EXPECT_TRUE(dialog->isVisible());
-        shell.Data().objects.RenameObject("R:2:3", "mild", true);
+        shell.Data().objects.RenameObject("R:2:3", "mild", Asking::Quietly);
         model->Settle();
     }
     EXPECT_EQ(Boxes(), Strings{});
@@ -134,7 +134,7 @@ TEST_F(ExplorerWindowTest, ARefusedNameLeavesTheFocusWhereItWas) {
         Key(Qt::Key_Home);
         EXPECT_EQ(model->List(Page::Recipes).SelectedKey(), "F:1") << look;
     }
-    shell.Data().objects.CreateRecipeFolder(0, "Zwickl", true);
+    shell.Data().objects.CreateRecipeFolder(0, "Zwickl", Asking::Quietly);
     model->Settle();
     Click(Tree(), Node("F:1"));
     refuse(Tree(), "zwickl");
@@ -247,7 +247,7 @@ TEST_F(ExplorerWindowTest, ObjectsAreDraggedOnFoldersOfTheList) {
         EXPECT_TRUE(Drop(List(), RowOf(List(), "Winter"), {"R:1:3"})) << view;
         EXPECT_EQ(shell.Data().tree.Nodes("R:1:3")->Parent()->Key(), "F:1");
         EXPECT_FALSE(Drop(List(), RowOf(List(), "mild"), {"F:2"}));
-        shell.Data().objects.MoveObject("R:1:3", "F:0", true);
+        shell.Data().objects.MoveObject("R:1:3", "F:0", Asking::Quietly);
         model->Settle();
     }
 }
@@ -365,7 +365,7 @@ TEST_F(ExplorerWindowTest, EachPageKeepsItsPlace) {
 
 TEST_F(ExplorerWindowTest, TheStylesOpenWithTheirFirstRowsInSight) {
     for (int i = 0; i < 60; ++i)
-        shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), true);
+        shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), Asking::Quietly);
     model->Settle();
     Button("optStyles").click();
     QApplication::processEvents();
@@ -383,7 +383,7 @@ TEST_F(ExplorerWindowTest, TheStylesOpenWithTheirFirstRowsInSight) {
 
 TEST_F(ExplorerWindowTest, TheTreeTellsInATipWhatItCuts) {
     EXPECT_EQ(FromQt(Node("F:1").data(Qt::ToolTipRole).toString()), "Winter");
-    shell.Data().objects.RenameObject("F:1", "<b>Winter</b>", true);
+    shell.Data().objects.RenameObject("F:1", "<b>Winter</b>", Asking::Quietly);
     model->Settle();
     EXPECT_THAT(FromQt(Node("F:1").data(Qt::ToolTipRole).toString()), testing::HasSubstr("&lt;b&gt;"));
 }

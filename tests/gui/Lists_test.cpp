@@ -334,7 +334,7 @@ TEST_F(Choosers, AYeastShowsItsFiguresFromTheFirst) {
 }
 
 TEST_F(Choosers, TheStyleListFollowsTheFolderByKey) {
-    shell.Data().objects.CreateStyleFolder(0, "Dark", true);
+    shell.Data().objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1 WHERE NAME = 'Bock'");
     CataloguePickerModel model(CatalogueKind::Style, *shell.DB(), shell.Data().tree, "");
     CataloguePickerDialog picker(model, nullptr);
@@ -372,8 +372,8 @@ TEST_F(Choosers, AFolderIsMadeAndNamedInPlace) {
 }
 
 TEST_F(Choosers, ARefusedNameOfAFolderIsTakenBackAfterOneBox) {
-    shell.Data().objects.CreateRecipeFolder(0, "Winter", true);
-    shell.Data().objects.CreateRecipeFolder(0, "Autumn", true);
+    shell.Data().objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
+    shell.Data().objects.CreateRecipeFolder(0, "Autumn", Asking::Quietly);
     FolderChooser chooser(shell.Data().tree, shell.Data().objects);
     FolderChooserView view(chooser, nullptr);
     view.show();
@@ -394,7 +394,7 @@ TEST_F(Choosers, ARefusedNameOfAFolderIsTakenBackAfterOneBox) {
 }
 
 TEST_F(Choosers, ALockedFolderStaysChosen) {
-    shell.Data().objects.CreateRecipeFolder(0, "Winter", true);
+    shell.Data().objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
     FolderChooser chooser(shell.Data().tree, shell.Data().objects);
     chooser.SetFolderID(1);
     chooser.SetLocked(true);

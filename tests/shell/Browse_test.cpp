@@ -9,7 +9,7 @@ class Browsing : public ShellTest {
   protected:
     void SetUp() override {
         ShellTest::SetUp();
-        shell.Data().objects.CreateRecipeFolder(0, "Winter", true);
+        shell.Data().objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
     }
     // The next dialog fills its controls and presses a button.
     void AnswerWith(const std::vector<DialogControl>& controls, const std::string& button) {
@@ -89,7 +89,7 @@ TEST_F(Browsing, SavingKeepsFolderAndViewToo) {
 
 TEST_F(Browsing, ADeletedFolderIsNotTheOneToStartIn) {
     NewSaved("Ale");
-    shell.Data().objects.CreateRecipeFolder(1, "Dark", true);
+    shell.Data().objects.CreateRecipeFolder(1, "Dark", Asking::Quietly);
     AnswerWith({{"icmbFolder", "F:2"}, {"txtName", "Ale"}}, "cmdOK");
     shell.RunMenu("mnuFileOpen");
     EXPECT_EQ(shell.BrowseFields().nodeKey, "F:2");
@@ -133,10 +133,10 @@ TEST_F(Browsing, AnAutosaveMeanwhileGivesTheRowsTheirNewKeys) {
     RecipeDocument& ale = NewSaved("Ale");
     outside.dialogs.scripts.push_back([&](DialogModel& dialog) {
         dialog.SetControl("lvNames", "Ale");
-        EXPECT_TRUE(shell.Saver().Save(ale, true));  // R:2:3 from now on
+        EXPECT_TRUE(shell.Saver().Save(ale, Asking::Quietly));  // R:2:3 from now on
         dialog.Press("mnuRename");
         EXPECT_TRUE(dialog.SetControl("txtLabel", "Bitter"));
-        EXPECT_TRUE(shell.Saver().Save(ale, true));
+        EXPECT_TRUE(shell.Saver().Save(ale, Asking::Quietly));
         EXPECT_EQ(dialog.Controls()[3].text, "Bitter");
         dialog.Press("mnuDelete");
     });

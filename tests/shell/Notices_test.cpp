@@ -70,7 +70,7 @@ TEST_F(Notices, ANameThatTheBrewerHasEditedStaysAndIsSavedOverTheRenamedRecipe) 
     shell.DB()->Execute("UPDATE RECIPES SET NAME = 'Dark Mild'");
     shell.Notices().NotifyRecipeRenamed("Mild", "Dark Mild");
     EXPECT_EQ(mild.BeerName(), "Best Mild");
-    EXPECT_TRUE(shell.Saver().Save(mild, false));
+    EXPECT_TRUE(shell.Saver().Save(mild));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Best Mild"});
     EXPECT_EQ(outside.messages.log, Strings{});
 }
@@ -103,7 +103,7 @@ TEST_F(Notices, ADeletedStyleLeavesNoneAndNoRanges) {
 TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
     shell.DB()->Execute("INSERT INTO STYLES (ID, NAME, FOLDER_ID) VALUES (8, 'Porter', 0)");
     for (const char* style : {"Stout", "Porter"}) shell.Data().objects.AddStyleNodesByName(style);
-    const std::int64_t dark = shell.Data().objects.CreateStyleFolder(0, "Dark", true);
+    const std::int64_t dark = shell.Data().objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
     RecipeDocument& stout = NewSaved("Mild");
     stout.Style().SetId(7);
     RecipeDocument& none = NewSaved("Bitter");
@@ -117,9 +117,9 @@ TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
         }
         return names;
     };
-    ASSERT_TRUE(shell.Data().objects.RenameStyle(8, "Baltic Porter", true));
+    ASSERT_TRUE(shell.Data().objects.RenameStyle(8, "Baltic Porter", Asking::Quietly));
     EXPECT_EQ(lists(), Strings(2, "(None); Baltic Porter; Stout; "));
-    ASSERT_TRUE(shell.Data().objects.MoveStyleToFolder(8, dark, true));
+    ASSERT_TRUE(shell.Data().objects.MoveStyleToFolder(8, dark, Asking::Quietly));
     shell.Data().objects.DeleteStyleFolder(dark);
     EXPECT_EQ(lists(), Strings(2, "(None); Stout; "));
     EXPECT_EQ(stout.BeerStyle(), "Stout");

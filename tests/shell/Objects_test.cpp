@@ -32,10 +32,10 @@ TEST_F(ShellObjects, TheTreeHoldsTheDatabaseFromTheStart) {
 TEST_F(ShellObjects, ASaveGivesTheRecipeNewEntries) {
     RecipeDocument& mild = NewSaved("Mild");
     EXPECT_EQ(Keys(), (Strings{"R:1:0", "R:1:3"}));
-    EXPECT_TRUE(shell.Saver().Save(mild, false));
+    EXPECT_TRUE(shell.Saver().Save(mild));
     EXPECT_EQ(Keys(), (Strings{"R:2:0", "R:2:3"}));
     mild.Fields().SetText(mild.Record().txtName, "Best");
-    EXPECT_TRUE(shell.Saver().Save(mild, false));
+    EXPECT_TRUE(shell.Saver().Save(mild));
     EXPECT_EQ(Keys(), (Strings{"R:3:0", "R:3:3"}));
     EXPECT_EQ(shell.Data().tree.Nodes("R:3:0")->Name(), "Best");
 }
@@ -46,7 +46,7 @@ TEST_F(ShellObjects, ASaveThatFailsLeavesTheTreeAsTheDatabase) {
     shell.DB()->SetStatementHook([](std::string_view sql) {
         if (sql.starts_with("UPDATE RECIPES")) throw Error("Test", "the disk is on fire", 7);
     });
-    EXPECT_FALSE(shell.Saver().Save(mild, false));
+    EXPECT_FALSE(shell.Saver().Save(mild));
     shell.DB()->SetStatementHook(nullptr);
     // The new row is there, written in part.
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Mild"});
@@ -57,16 +57,16 @@ TEST_F(ShellObjects, ASaveThatCannotFindItsRowLeavesTheTreeAsTheDatabase) {
     RecipeDocument& mild = NewSaved("Mild");
     shell.DB()->ExecuteNative(
         "CREATE TRIGGER VANISH BEFORE UPDATE ON RECIPES BEGIN SELECT RAISE(IGNORE); END");
-    EXPECT_TRUE(shell.Saver().SaveUnder(mild, "Best", 0, true));
+    EXPECT_TRUE(shell.Saver().SaveUnder(mild, "Best", 0, Asking::Quietly));
     EXPECT_EQ(outside.messages.log, Strings{"[UNKNOWN ERROR] Error saving recipe to database!"});
     EXPECT_EQ(Keys(), (Strings{"R:1:0", "R:1:3", "R:2:0", "R:2:3"}));
 }
 
 TEST_F(ShellObjects, DeletingAFolderDetachesTheWindowsOfItsRecipes) {
-    ASSERT_EQ(shell.Data().objects.CreateFolderObject("F:0", "Dark", false), "F:1");
+    ASSERT_EQ(shell.Data().objects.CreateFolderObject("F:0", "Dark"), "F:1");
     RecipeDocument& mild = NewSaved("Mild");
     RecipeDocument& other = NewSaved("Other");
-    ASSERT_TRUE(shell.Data().objects.MoveObject("R:1:0", "F:1", false));
+    ASSERT_TRUE(shell.Data().objects.MoveObject("R:1:0", "F:1"));
     EXPECT_EQ(mild.FolderID(), 1);
     shell.Data().objects.DeleteObject("F:1");
     EXPECT_TRUE(mild.Changed());

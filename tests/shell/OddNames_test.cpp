@@ -33,14 +33,14 @@ class OddNamesTest : public ShellTest {
 };
 
 TEST_F(OddNamesTest, KeepTheirLettersFromSavingToOpening) {
-    const std::int64_t folder = shell.Data().objects.CreateRecipeFolder(0, "Odd", true);
+    const std::int64_t folder = shell.Data().objects.CreateRecipeFolder(0, "Odd", Asking::Quietly);
     const std::string folderKey = "F:" + std::to_string(folder);
     RecipeFinder finder(*shell.DB());
     for (const std::string& name : OddNames()) {
         shell.Documents().Remove(NewSaved(name));
         EXPECT_EQ(List("F:0"), (Strings{"Odd", name}));
         const std::string key = "R:" + std::to_string(shell.Data().objects.IdByName(name, "RECIPES"));
-        EXPECT_TRUE(shell.Data().objects.MoveObject(key + ":3", folderKey, false));
+        EXPECT_TRUE(shell.Data().objects.MoveObject(key + ":3", folderKey));
         EXPECT_EQ(List(folderKey), Strings{name});
         ASSERT_EQ(finder.Find(name.substr(0, name.find_first_of(" \t"))).size(), 1U);
         EXPECT_EQ(finder.Find("")[0].name, name);
@@ -50,11 +50,11 @@ TEST_F(OddNamesTest, KeepTheirLettersFromSavingToOpening) {
         RecipeDocument& document = *shell.Documents().Active();
         EXPECT_EQ(document.BeerName(), name);
         document.Fields().SetText(document.Record().txtNotes, "changed");
-        EXPECT_TRUE(shell.Saver().Save(document, false));
+        EXPECT_TRUE(shell.Saver().Save(document));
         EXPECT_EQ(RecipeNames(*shell.DB()), Strings{name});
 
         const std::string saved = "R:" + std::to_string(shell.Data().objects.IdByName(name, "RECIPES"));
-        EXPECT_TRUE(shell.Data().objects.RenameObject(saved + ":0", name + "2", false));
+        EXPECT_TRUE(shell.Data().objects.RenameObject(saved + ":0", name + "2"));
         EXPECT_EQ(document.BeerName(), name + "2");
         EXPECT_EQ(List("F:-1"), Strings{name + "2"});
         shell.Documents().Remove(document);
@@ -70,7 +70,7 @@ TEST_F(OddNamesTest, OfRowsWithoutANameCanBeListedRenamedAndDeleted) {
     shell.Data().objects.AddRecipeNodes(1, "", 0, 0);
     shell.Data().objects.AddRecipeNodes(2, "", 0, 0);
     EXPECT_EQ(List("F:0"), (Strings{"  ", "  "}));
-    EXPECT_TRUE(shell.Data().objects.RenameObject("R:2:0", "Found", false));
+    EXPECT_TRUE(shell.Data().objects.RenameObject("R:2:0", "Found"));
     EXPECT_EQ(List("F:0"), (Strings{"  ", "Found"}));
     shell.Data().objects.DeleteObject("R:1:3");
     EXPECT_EQ(List("F:0"), Strings{"Found"});

@@ -13,8 +13,8 @@ class OpenSaveTest : public ShellTest {
     // F:1 Winter with F:2 Dark and Stout; amber and Joe's Ale at the root; Lost in a folder that is gone.
     void SetUp() override {
         ShellTest::SetUp();
-        shell.Data().objects.CreateRecipeFolder(0, "Winter", true);
-        shell.Data().objects.CreateRecipeFolder(1, "Dark", true);
+        shell.Data().objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
+        shell.Data().objects.CreateRecipeFolder(1, "Dark", Asking::Quietly);
         Add("Stout", 1);
         Add("amber", 0);
         Add("Joe's Ale", 0);
@@ -339,7 +339,7 @@ TEST_F(OpenSaveTest, ARowDroppedOnAFolderLeavesTheList) {
 }
 
 TEST_F(OpenSaveTest, ARefusedDropLeavesTheRow) {
-    shell.Data().objects.CreateRecipeFolder(0, "Dark", true);  // as one in Winter
+    shell.Data().objects.CreateRecipeFolder(0, "Dark", Asking::Quietly);  // as one in Winter
     Open(Style::Open);
     model->Drop({"F:3"}, "F:1");
     EXPECT_EQ(Boxes(), Strings{"[Could not move recipe folder] The destination folder already contains a "

@@ -94,7 +94,7 @@ TEST_F(RecoveryTest, AFileComesSomeTimeAfterAnEditAndGoesWithTheSave) {
     EXPECT_THAT(Files(), IsEmpty());
     run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
-    EXPECT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, true));
+    EXPECT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, Asking::Quietly));
     EXPECT_THAT(Files(), IsEmpty());
     run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), IsEmpty());
@@ -120,7 +120,7 @@ TEST_F(RecoveryTest, EachChangedDocumentHasAFileAndAnUnchangedOneNone) {
 TEST_F(RecoveryTest, TheNextStartRestoresAllOfIt) {
     auto run = Start();
     RecipeDocument& stored = run->New("Stout", "stored");
-    ASSERT_TRUE(run->shell.Saver().SaveUnder(stored, "Stout", 0, true));
+    ASSERT_TRUE(run->shell.Saver().SaveUnder(stored, "Stout", 0, Asking::Quietly));
     stored.Cells().EditCell(stored.Record().gridGrain, 1, 0, "Pale Malt");
     run->New("", "never saved");
     run->shell.Unsaved().Keep();
@@ -154,7 +154,7 @@ TEST_F(RecoveryTest, ARestoredRecipeSurvivesTheNextCrashTooAndGoesWithItsSave) {
     run = nullptr;
     run = Start();
     EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));
-    EXPECT_TRUE(run->shell.Saver().SaveUnder(*run->shell.Documents().Active(), "Stout", 0, true));
+    EXPECT_TRUE(run->shell.Saver().SaveUnder(*run->shell.Documents().Active(), "Stout", 0, Asking::Quietly));
     EXPECT_THAT(Files(), IsEmpty());
 }
 
@@ -345,7 +345,7 @@ TEST_F(RecoveryTest, NothingIsLeftToKeepOnceItIsSaved) {
     RecipeDocument& stout = run->New("Stout", "one");
     run->shell.Unsaved().Keep();
     run->view.log.clear();
-    EXPECT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, true));
+    EXPECT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, Asking::Quietly));
     EXPECT_THAT(run->view.log, testing::Contains("notice: "));
     EXPECT_THAT(run->view.log, testing::Not(testing::Contains(testing::StartsWith("news"))));
 }
@@ -478,12 +478,12 @@ TEST_F(RecoveryTest, ADatabaseInMemoryKeepsNothing) {
 TEST_F(RecoveryTest, AFailedSaveLeavesTheFile) {
     auto run = Start();
     RecipeDocument& stout = run->New("Stout", "stored");
-    ASSERT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, true));
+    ASSERT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, Asking::Quietly));
     stout.Fields().SetText(stout.Record().txtNotes, "edited");
     run->shell.Unsaved().Keep();
     run->shell.DB()->ExecuteNative(
         "CREATE TRIGGER refuse BEFORE INSERT ON RECIPES BEGIN SELECT RAISE(ABORT, 'no'); END");
-    EXPECT_FALSE(run->shell.Saver().Save(stout, false));
+    EXPECT_FALSE(run->shell.Saver().Save(stout));
     run = nullptr;
     run = Start();
     EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));

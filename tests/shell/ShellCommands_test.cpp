@@ -142,7 +142,7 @@ TEST_F(ShellTest, SaveAllIsOnExactlyWhileSomeDocumentIsChanged) {
     EXPECT_TRUE(Lit("mnuFileSave"));
     shell.Documents().Activate(second);
     EXPECT_FALSE(Lit("mnuFileSave"));
-    EXPECT_TRUE(shell.Saver().Save(first, false));
+    EXPECT_TRUE(shell.Saver().Save(first));
     EXPECT_FALSE(Lit("mnuFileSaveAll"));
 }
 

@@ -246,7 +246,7 @@ TEST_F(ShellTest, SavingANewRecipeGoesThroughTheNameDialog) {
         dialog.SetControl("txtName", " Amber ");
         dialog.Press("cmdOK");
     });
-    EXPECT_TRUE(shell.Saver().Save(document, false));
+    EXPECT_TRUE(shell.Saver().Save(document));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Amber"});
     EXPECT_EQ(document.OrigName(), "Amber");
     EXPECT_EQ(document.FolderID(), 0);
@@ -267,7 +267,7 @@ TEST_F(ShellTest, TheNameDialogsOverwriteQuestionIsTheOnlyOne) {
     RecipeDocument& document = NewNamed("Pale Ale");
     outside.messages.answers = {Answer::Yes};
     outside.dialogs.scripts.push_back([](DialogModel& dialog) { dialog.Press("cmdOK"); });
-    EXPECT_TRUE(shell.Saver().Save(document, false));
+    EXPECT_TRUE(shell.Saver().Save(document));
     EXPECT_EQ(outside.messages.log,
               Strings{"[Overwrite existing recipe?] A recipe named 'Pale Ale' already exists.\r\n"
                       "Overwrite it? -> Yes"});
@@ -277,7 +277,7 @@ TEST_F(ShellTest, TheNameDialogsOverwriteQuestionIsTheOnlyOne) {
 TEST_F(ShellTest, AnOverwrittenRecipesWindowStaysDetached) {
     RecipeDocument& overwritten = NewSaved("Pale Ale");
     RecipeDocument& document = shell.Recipes().Create("");
-    EXPECT_TRUE(shell.Saver().SaveUnder(document, "pale ale", 0, true));
+    EXPECT_TRUE(shell.Saver().SaveUnder(document, "pale ale", 0, Asking::Quietly));
     EXPECT_EQ(shell.Documents().All().size(), 2u);
     EXPECT_EQ(overwritten.OrigName(), "");
     EXPECT_EQ(overwritten.FolderID(), -1);
@@ -288,7 +288,7 @@ TEST_F(ShellTest, SavingUnderAnotherRecipesNameAsksAndARefusalChangesNothing) {
     NewSaved("Pale Ale");
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtName, "Pale Ale");
-    EXPECT_FALSE(shell.Saver().Save(document, false));
+    EXPECT_FALSE(shell.Saver().Save(document));
     EXPECT_EQ(outside.messages.log,
               Strings{"[Overwrite existing recipe?] Another recipe named 'Pale Ale' already exists.\r\n"
                       "Overwrite it? -> No"});
@@ -297,7 +297,7 @@ TEST_F(ShellTest, SavingUnderAnotherRecipesNameAsksAndARefusalChangesNothing) {
 
 TEST_F(ShellTest, ASilentSavePassesANewDocumentOver) {
     RecipeDocument& document = NewNamed("Pale Ale");
-    EXPECT_FALSE(shell.Saver().Save(document, true));
+    EXPECT_FALSE(shell.Saver().Save(document, Asking::Quietly));
     EXPECT_TRUE(document.Changed());
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
     EXPECT_TRUE(outside.dialogs.shown.empty());
@@ -307,7 +307,7 @@ TEST_F(ShellTest, ASilentSavePassesADocumentOverWhoseNameIsAnotherRecipes) {
     NewSaved("Pale Ale");
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtName, " PALE ALE ");
-    EXPECT_FALSE(shell.Saver().Save(document, true));
+    EXPECT_FALSE(shell.Saver().Save(document, Asking::Quietly));
     EXPECT_TRUE(document.Changed());
     EXPECT_EQ(document.OrigName(), "Stout");
     EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Pale Ale", "Stout"}));
@@ -317,14 +317,14 @@ TEST_F(ShellTest, ASilentSavePassesADocumentOverWhoseNameIsAnotherRecipes) {
 TEST_F(ShellTest, ASilentSaveTakesAnEditedNameThatIsFree) {
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtName, "Dry Stout");
-    EXPECT_TRUE(shell.Saver().Save(document, true));
+    EXPECT_TRUE(shell.Saver().Save(document, Asking::Quietly));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Dry Stout"});
     EXPECT_EQ(outside.messages.log, Strings{});
 }
 
 TEST_F(ShellTest, ASilentSaveWithoutAnyEditSaves) {
     RecipeDocument& document = NewSaved("Stout");
-    EXPECT_TRUE(shell.Saver().Save(document, true));
+    EXPECT_TRUE(shell.Saver().Save(document, Asking::Quietly));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Stout"});
 }
 
@@ -334,8 +334,8 @@ TEST_F(ShellTest, AnErrorDuringSaveIsShownAndReportedAsNotSaved) {
     shell.DB()->SetStatementHook([](std::string_view sql) {
         if (sql.starts_with("UPDATE RECIPES")) throw Error("Database", "disk full", 13);
     });
-    EXPECT_FALSE(shell.Saver().Save(document, false));
-    EXPECT_FALSE(shell.Saver().SaveUnder(document, "Porter", 0, true));
+    EXPECT_FALSE(shell.Saver().Save(document));
+    EXPECT_FALSE(shell.Saver().SaveUnder(document, "Porter", 0, Asking::Quietly));
     EXPECT_EQ(outside.messages.log, (Strings{"[Error] Error during save:\r\ndisk full (13)",
                                              "[Error] Error during save:\r\ndisk full (13)"}));
     EXPECT_TRUE(document.Changed());
@@ -352,14 +352,14 @@ TEST_F(ShellTest, AFullDiskDuringSaveIsToldByItsOwnError) {
         shell.DB()->ExecuteNative("ROLLBACK");
         throw Error("Database", "database or disk is full", 13);
     });
-    EXPECT_FALSE(shell.Saver().Save(document, false));
+    EXPECT_FALSE(shell.Saver().Save(document));
     shell.DB()->SetStatementHook(nullptr);
     EXPECT_EQ(outside.messages.log, Strings{"[Error] Error during save:\r\ndatabase or disk is full (13)"});
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Stout"});
     EXPECT_TRUE(shell.Data().tree.NodeExists("R:1:0"));
     EXPECT_TRUE(document.Changed());
     EXPECT_TRUE(Lit("mnuFileOpen"));
-    EXPECT_TRUE(shell.Saver().Save(document, false));
+    EXPECT_TRUE(shell.Saver().Save(document));
 }
 
 TEST_F(ShellTest, ADiskThatStaysDeadLeavesTheListsAndSaysThatTheyAreOld) {
@@ -368,15 +368,15 @@ TEST_F(ShellTest, ADiskThatStaysDeadLeavesTheListsAndSaysThatTheyAreOld) {
     ExplorerModel explorer(shell.Data().Access(), {});
     view.log.clear();
     shell.DB()->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
-    EXPECT_FALSE(shell.Saver().Save(document, false));
-    EXPECT_FALSE(shell.Saver().Save(document, false));
+    EXPECT_FALSE(shell.Saver().Save(document));
+    EXPECT_FALSE(shell.Saver().Save(document));
     EXPECT_EQ(outside.messages.log.size(), 2u);
     EXPECT_TRUE(shell.Data().tree.NodeExists("R:1:0"));
     const std::string old = "notice: The lists are not up to date: the database cannot be read.";
     EXPECT_EQ(std::ranges::count(view.log, old), 1);
     EXPECT_EQ(explorer.Status(), "Not up to date: the database cannot be read.");
     shell.DB()->SetStatementHook(nullptr);
-    EXPECT_TRUE(shell.Saver().Save(document, false));
+    EXPECT_TRUE(shell.Saver().Save(document));
     EXPECT_EQ(std::ranges::count(view.log, "notice: "), 1);
     EXPECT_EQ(explorer.Status(), "1 object");
     EXPECT_TRUE(shell.Data().tree.IsUpToDate());
@@ -385,7 +385,7 @@ TEST_F(ShellTest, ADiskThatStaysDeadLeavesTheListsAndSaysThatTheyAreOld) {
 TEST_F(ShellTest, OldListsAreReadAgainWhenTheyAreLookedAt) {
     NewSaved("Stout");
     shell.DB()->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
-    EXPECT_FALSE(shell.Data().objects.RenameRecipe(1, "Porter", true));
+    EXPECT_FALSE(shell.Data().objects.RenameRecipe(1, "Porter", Asking::Quietly));
     shell.DB()->SetStatementHook(nullptr);
     EXPECT_FALSE(shell.Data().tree.IsUpToDate());
     EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));

@@ -92,7 +92,7 @@ TEST_F(ShellExchangeTest, CancelInEitherDialogOfAnExportEndsIt) {
 }
 
 TEST_F(ShellExchangeTest, TheMenuImportsThePickedRecipesIntoTheFolderChosen) {
-    shell.Data().objects.CreateRecipeFolder(0, "Ales", true);
+    shell.Data().objects.CreateRecipeFolder(0, "Ales", Asking::Quietly);
     MakeFile({"Mild", "Bock"});
     GiveFile(folder.File("Ales"));
     PickAll();

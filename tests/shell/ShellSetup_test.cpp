@@ -25,7 +25,7 @@ class ShellSetup : public testing::Test {
 
 TEST_F(ShellSetup, AStyleIsMadeInAFolderForOthers) {
     shell.Recipes().Create("");
-    const std::int64_t dark = shell.Data().objects.CreateStyleFolder(0, "Dark", true);
+    const std::int64_t dark = shell.Data().objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
     Next([](DialogModel& editor) {
         EXPECT_EQ(editor.FormName(), "frmStyle");
         editor.SetControl("Text1", " Stout ");

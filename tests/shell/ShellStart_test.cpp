@@ -85,7 +85,7 @@ TEST_F(ShellStartTest, AWriteProtectedDatabaseIsToldOnceAndCanBeRead) {
     RecipeDocument& stout = *shell.Documents().Active();
     stout.Fields().SetText(stout.Record().txtNotes, "kept all the same");
     shell.Unsaved().Keep();
-    EXPECT_FALSE(shell.Saver().Save(stout, false));
+    EXPECT_FALSE(shell.Saver().Save(stout));
     EXPECT_EQ(
         outside.messages.TakeLog(),
         Strings{"[Error] Error during save:\r\nThe database is write-protected: nothing can be saved in "

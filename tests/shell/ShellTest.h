@@ -100,7 +100,7 @@ class ShellTest : public testing::Test {
     // A document that has been saved under that name.
     RecipeDocument& NewSaved(std::string_view name) {
         RecipeDocument& document = shell.Recipes().Create("");
-        EXPECT_TRUE(shell.Saver().SaveUnder(document, name, 0, true));
+        EXPECT_TRUE(shell.Saver().SaveUnder(document, name, 0, Asking::Quietly));
         return document;
     }
 

@@ -82,7 +82,7 @@ TEST_F(Explorer, TheTreeOfStylesKnowsTheirCodes) {
     EXPECT_EQ(tree.Code(tree.Find("S:1:1")), "15B");
     EXPECT_EQ(tree.Code(tree.Find("S:2:1")), "");
     // A renamed style is the brewer's own.
-    ASSERT_TRUE(io.RenameObject("S:1:1", "My Stout", false));
+    ASSERT_TRUE(io.RenameObject("S:1:1", "My Stout"));
     model->Settle();
     EXPECT_EQ(tree.Code(tree.Find("S:1:1")), "");
 }
@@ -200,7 +200,7 @@ TEST_F(Explorer, AStyleIsOpenedInItsEditor) {
     model->Show(Page::Styles);
     Choose("Bock");
     edit = [this]() -> std::optional<std::string> {
-        io.RenameStyle(2, "Doppelbock", true);
+        io.RenameStyle(2, "Doppelbock", Asking::Quietly);
         return "Doppelbock";
     };
     Press("mnuOpen");

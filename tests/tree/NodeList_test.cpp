@@ -110,7 +110,7 @@ TEST_F(NodeLists, ShowingAFolderEndsTheSearch) {
 
 TEST_F(NodeLists, ASearchFollowsTheDatabase) {
     list.Find("stout");
-    io.MoveObject("R:1:0", "F:1", false);
+    io.MoveObject("R:1:0", "F:1");
     list.Refill();
     EXPECT_THAT(Shown("Folder"), ElementsAre("My Recipe Folders / Winter"));
     io.DeleteObject("R:1:0");
@@ -158,7 +158,7 @@ TEST_F(NodeLists, SystemFoldersCannotBeRenamed) {
 
 TEST_F(NodeLists, ANewFolderStandsBehindTheOthersWithItsNameToEdit) {
     list.Show("F:0", false);
-    list.AddFolder(io.CreateFolderObject("F:0", "", false));
+    list.AddFolder(io.CreateFolderObject("F:0", ""));
     EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild", "New Folder"));
     EXPECT_THAT(Shown("Size"), ElementsAre("1", "  ", "  ", "0"));
     EXPECT_EQ(Shown("Type").back(), "Recipe Folder");
@@ -171,7 +171,7 @@ TEST_F(NodeLists, ANewFolderStandsBehindTheOthersWithItsNameToEdit) {
 TEST_F(NodeLists, AnEmptyListTellsWhatToDo) {
     list.Show("F:0", false);
     EXPECT_EQ(list.Hint(), "");
-    list.AddFolder(io.CreateFolderObject("F:0", "Empty", false));
+    list.AddFolder(io.CreateFolderObject("F:0", "Empty"));
     list.Show("F:3", false);
     EXPECT_EQ(list.Hint(), "This folder is empty.");
     for (const char* key : {"R:1:0", "R:2:0", "R:3:0"}) io.DeleteObject(key);

@@ -160,11 +160,11 @@ TEST_F(Objects, OfIdsThatTheProgramNeverGivesCanBeMovedRenamedAndDeleted) {
     main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (0, 'Nought', 0, 0)");
     main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (12, 'Mild', 0, 0)");
     main.tree.InitFromDatabase();
-    EXPECT_TRUE(io.RenameObject("F:-4", "Barn", false));
-    EXPECT_TRUE(io.MoveObject("R:12:0", "F:-4", false));
-    EXPECT_TRUE(io.MoveObject("R:12:0", "S:-3:0", false));
-    EXPECT_TRUE(io.RenameObject("R:0:0", "Zero", false));
-    const std::string folder = io.CreateFolderObject("F:-4", "Shelf", false);
+    EXPECT_TRUE(io.RenameObject("F:-4", "Barn"));
+    EXPECT_TRUE(io.MoveObject("R:12:0", "F:-4"));
+    EXPECT_TRUE(io.MoveObject("R:12:0", "S:-3:0"));
+    EXPECT_TRUE(io.RenameObject("R:0:0", "Zero"));
+    const std::string folder = io.CreateFolderObject("F:-4", "Shelf");
     EXPECT_TRUE(main.tree.NodeExists(folder));
     ExpectInStep();
     io.DeleteObject("R:-5:0");
@@ -287,25 +287,24 @@ TEST_F(Failure, OfAnyOtherOperationIsShownAndLeavesTheTreeAsTheDatabase) {
             }
         });
     };
-    fails("Error moving recipe folder", [&] { return io.MoveObject("F:2", "F:4", false); });
-    fails("Error moving style folder", [&] { return io.MoveObject("G:6", "G:0", false); });
-    fails("Error moving recipe to folder", [&] { return io.MoveObject("R:1:0", "F:4", false); });
-    fails("Error moving recipe to style", [&] { return io.MoveObject("R:1:0", "S:2:0", false); });
-    fails("Error moving style", [&] { return io.MoveObject("S:1:0", "G:5", false); });
-    fails("Error moving style", [&] { return io.MoveStyleToFolderByName("Porter", 5, false); });
-    fails("Error renaming recipe folder", [&] { return io.RenameObject("F:2", "A", false); });
-    fails("Error renaming style folder", [&] { return io.RenameObject("G:6", "A", false); });
-    fails("Error renaming recipe", [&] { return io.RenameObject("R:1:0", "A", false); });
-    fails("Error renaming style", [&] { return io.RenameObject("S:1:0", "A", false); });
-    fails("Error creating new recipe folder",
-          [&] { return !io.CreateFolderObject("F:1", "", false).empty(); });
-    fails("Error creating new style folder", [&] { return io.CreateStyleFolder(5, "A", false) > 0; });
+    fails("Error moving recipe folder", [&] { return io.MoveObject("F:2", "F:4"); });
+    fails("Error moving style folder", [&] { return io.MoveObject("G:6", "G:0"); });
+    fails("Error moving recipe to folder", [&] { return io.MoveObject("R:1:0", "F:4"); });
+    fails("Error moving recipe to style", [&] { return io.MoveObject("R:1:0", "S:2:0"); });
+    fails("Error moving style", [&] { return io.MoveObject("S:1:0", "G:5"); });
+    fails("Error moving style", [&] { return io.MoveStyleToFolderByName("Porter", 5); });
+    fails("Error renaming recipe folder", [&] { return io.RenameObject("F:2", "A"); });
+    fails("Error renaming style folder", [&] { return io.RenameObject("G:6", "A"); });
+    fails("Error renaming recipe", [&] { return io.RenameObject("R:1:0", "A"); });
+    fails("Error renaming style", [&] { return io.RenameObject("S:1:0", "A"); });
+    fails("Error creating new recipe folder", [&] { return !io.CreateFolderObject("F:1", "").empty(); });
+    fails("Error creating new style folder", [&] { return io.CreateStyleFolder(5, "A") > 0; });
 }
 
 TEST_F(Failure, OfADiskThatStaysDeadLeavesTheTreeUntilTheDiskIsBack) {
     const Lines before = Tree("X:DB");
     main.db->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
-    EXPECT_FALSE(io.RenameRecipe(1, "Other", false));
+    EXPECT_FALSE(io.RenameRecipe(1, "Other"));
     EXPECT_EQ(Boxes(), Lines{"[Error renaming recipe] Database\r\ndisk I/O error (10)"});
     EXPECT_EQ(Tree("X:DB"), before);
     EXPECT_FALSE(main.tree.IsUpToDate());
@@ -314,7 +313,7 @@ TEST_F(Failure, OfADiskThatStaysDeadLeavesTheTreeUntilTheDiskIsBack) {
     main.db->SetStatementHook(nullptr);
     // Behind the tree's back, as what an operation had done before its error.
     main.Execute("UPDATE RECIPES SET NAME = 'Changed' WHERE ID = 2");
-    EXPECT_GE(io.CreateRecipeFolder(0, "New", false), 0);
+    EXPECT_GE(io.CreateRecipeFolder(0, "New"), 0);
     EXPECT_TRUE(main.tree.IsUpToDate());
     EXPECT_EQ(main.tree.Nodes("R:2:0")->Name(), "Changed");
     ExpectInStep();
@@ -346,10 +345,10 @@ TEST_F(Failure, WithinAUnitOfTheCallersIsShownBehindIt) {
 
 TEST_F(Failure, IsSilentWhenAskedTo) {
     main.db->SetStatementHook([](std::string_view) { throw Error("Test", "the disk is on fire", 7); });
-    EXPECT_FALSE(io.MoveObject("F:2", "F:4", true));
-    EXPECT_FALSE(io.RenameObject("R:1:0", "A", true));
-    EXPECT_EQ(io.CreateFolderObject("F:1", "", true), "");
-    EXPECT_EQ(io.CreateRecipeFolder(1, "", true), -1);
+    EXPECT_FALSE(io.MoveObject("F:2", "F:4", Asking::Quietly));
+    EXPECT_FALSE(io.RenameObject("R:1:0", "A", Asking::Quietly));
+    EXPECT_EQ(io.CreateFolderObject("F:1", "", Asking::Quietly), "");
+    EXPECT_EQ(io.CreateRecipeFolder(1, "", Asking::Quietly), -1);
     EXPECT_THAT(Boxes(), IsEmpty());
     main.db->SetStatementHook(nullptr);
 }

@@ -111,36 +111,36 @@ class ObjectModel : public Objects {
         model.typed.clear();
     }
 
-    // One operation on both. A silent one says nothing, and does the same.
+    // One operation on both. A quiet one says nothing, and does the same.
     std::string Operate() {
-        const bool silent = OneIn(3);
+        const Asking asking = OneIn(3) ? Asking::Quietly : Asking::Aloud;
         const std::string key = AnyKey();
         switch (Below(8)) {
             case 0: {
                 const std::string name = AnyName();
-                EXPECT_EQ(io.CreateFolderObject(key, name, silent), model.Create(key, name));
-                return Done("folder " + key + " " + name, silent);
+                EXPECT_EQ(io.CreateFolderObject(key, name, asking), model.Create(key, name));
+                return Done("folder " + key + " " + name, asking);
             }
             case 1:
                 if (!OneIn(3)) break;
                 io.DeleteObject(key);
                 model.Remove(key);
-                return Done("remove " + key, false);
+                return Done("remove " + key, Asking::Aloud);
             case 2:
             case 3: {
                 const std::string name = AnyName();
-                EXPECT_EQ(io.RenameObject(key, name, silent), model.Rename(key, name));
-                return Done("rename " + key + " " + name, silent);
+                EXPECT_EQ(io.RenameObject(key, name, asking), model.Rename(key, name));
+                return Done("rename " + key + " " + name, asking);
             }
             default:
                 break;
         }
         const std::string dest = AnyKey();
-        EXPECT_EQ(io.MoveObject(key, dest, silent), model.Move(key, dest));
-        return Done("move " + key + " " + dest, silent);
+        EXPECT_EQ(io.MoveObject(key, dest, asking), model.Move(key, dest));
+        return Done("move " + key + " " + dest, asking);
     }
-    std::string Done(std::string what, bool silent) {
-        if (silent) model.boxes.clear();
+    std::string Done(std::string what, Asking asking) {
+        if (asking == Asking::Quietly) model.boxes.clear();
         return what.substr(0, 100);
     }
 

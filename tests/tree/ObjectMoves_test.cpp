@@ -29,7 +29,7 @@ class Moves : public Objects {
 };
 
 TEST_F(Moves, PutAFolderBelowAnotherAndTouchBoth) {
-    EXPECT_TRUE(io.MoveObject("F:2", "F:3", false));
+    EXPECT_TRUE(io.MoveObject("F:2", "F:3"));
     EXPECT_EQ(Tree("F:0"), (Lines{"F:1 Ales", "F:3 Lagers", "  F:2 Stouts", "    R:1:3 Dry", "R:2:3 Mild"}));
     EXPECT_THAT(Select("SELECT PARENT_ID FROM FOLDERS WHERE ID = 2"), ElementsAre("3"));
     EXPECT_THAT(Touched(), ElementsAre("1", "3"));
@@ -40,24 +40,24 @@ TEST_F(Moves, PutAFolderBelowAnotherAndTouchBoth) {
 
 TEST_F(Moves, RunTheDesignedStatements) {
     EXPECT_THAT(
-        ChangesOf([&] { io.MoveRecipeFolder(2, 0, false); }),
+        ChangesOf([&] { io.MoveRecipeFolder(2, 0); }),
         ElementsAre("UPDATE FOLDERS SET PARENT_ID = 0 WHERE NOT STYLE AND ID = 2",
                     "UPDATE FOLDERS SET MODIFIED_WHEN = '03/09/2024 14:05:07' WHERE NOT STYLE AND ID = 1",
                     "UPDATE FOLDERS SET MODIFIED_WHEN = '03/09/2024 14:05:07' WHERE NOT STYLE AND ID = 0"));
     EXPECT_THAT(
-        ChangesOf([&] { io.MoveStyleFolder(5, 6, false); }),
+        ChangesOf([&] { io.MoveStyleFolder(5, 6); }),
         ElementsAre("UPDATE FOLDERS SET PARENT_ID = 6 WHERE STYLE AND ID = 5",
                     "UPDATE FOLDERS SET MODIFIED_WHEN = '03/09/2024 14:05:07' WHERE STYLE AND ID = 4",
                     "UPDATE FOLDERS SET MODIFIED_WHEN = '03/09/2024 14:05:07' WHERE STYLE AND ID = 6"));
     EXPECT_THAT(
-        ChangesOf([&] { io.MoveRecipeToFolder(1, 3, false); }),
+        ChangesOf([&] { io.MoveRecipeToFolder(1, 3); }),
         ElementsAre("UPDATE RECIPES SET FOLDER_ID = 3 WHERE ID = 1",
                     "UPDATE FOLDERS SET MODIFIED_WHEN = '03/09/2024 14:05:07' WHERE NOT STYLE AND ID = 2",
                     "UPDATE FOLDERS SET MODIFIED_WHEN = '03/09/2024 14:05:07' WHERE NOT STYLE AND ID = 3"));
-    EXPECT_THAT(ChangesOf([&] { io.MoveRecipeToStyle(1, 2, false); }),
+    EXPECT_THAT(ChangesOf([&] { io.MoveRecipeToStyle(1, 2); }),
                 ElementsAre("UPDATE RECIPES SET STYLE_ID = 2 WHERE ID = 1"));
     EXPECT_THAT(
-        ChangesOf([&] { io.MoveStyleToFolder(1, 5, false); }),
+        ChangesOf([&] { io.MoveStyleToFolder(1, 5); }),
         ElementsAre("UPDATE STYLES SET FOLDER_ID = 5 WHERE ID = 1",
                     "UPDATE FOLDERS SET MODIFIED_WHEN = '03/09/2024 14:05:07' WHERE STYLE AND ID = 4",
                     "UPDATE FOLDERS SET MODIFIED_WHEN = '03/09/2024 14:05:07' WHERE STYLE AND ID = 5"));
@@ -65,7 +65,7 @@ TEST_F(Moves, RunTheDesignedStatements) {
 }
 
 TEST_F(Moves, PutAStyleFolderBelowAnother) {
-    EXPECT_TRUE(io.MoveObject("G:5", "G:0", false));
+    EXPECT_TRUE(io.MoveObject("G:5", "G:0"));
     EXPECT_EQ(Tree("G:0"), (Lines{"G:4 British", "  S:1:1 Porter", "    R:1:2 Dry", "G:5 Dark", "G:6 German",
                                   "  S:2:1 Bock", "S:0:1 (None)", "  R:2:2 Mild"}));
     EXPECT_THAT(Touched(), ElementsAre("4"));
@@ -74,11 +74,11 @@ TEST_F(Moves, PutAStyleFolderBelowAnother) {
 
 TEST_F(Moves, OntoWhereItIsChangesNothingAndSaysNothing) {
     EXPECT_THAT(ChangesOf([&] {
-                    EXPECT_FALSE(io.MoveObject("F:2", "F:1", false));
-                    EXPECT_FALSE(io.MoveObject("F:1", "F:0", false));
-                    EXPECT_FALSE(io.MoveObject("G:5", "G:4", false));
-                    EXPECT_FALSE(io.MoveObject("R:1:0", "F:2", false));
-                    EXPECT_FALSE(io.MoveObject("S:1:0", "G:4", false));
+                    EXPECT_FALSE(io.MoveObject("F:2", "F:1"));
+                    EXPECT_FALSE(io.MoveObject("F:1", "F:0"));
+                    EXPECT_FALSE(io.MoveObject("G:5", "G:4"));
+                    EXPECT_FALSE(io.MoveObject("R:1:0", "F:2"));
+                    EXPECT_FALSE(io.MoveObject("S:1:0", "G:4"));
                 }),
                 IsEmpty());
     EXPECT_THAT(Boxes(), IsEmpty());
@@ -86,13 +86,13 @@ TEST_F(Moves, OntoWhereItIsChangesNothingAndSaysNothing) {
 }
 
 TEST_F(Moves, RefuseAFolderOntoWhatLiesInIt) {
-    EXPECT_FALSE(io.MoveObject("F:1", "F:2", false));
-    EXPECT_FALSE(io.MoveObject("F:1", "F:1", false));
-    EXPECT_FALSE(io.MoveObject("G:4", "G:5", false));
-    EXPECT_FALSE(io.MoveRecipeFolder(1, 2, false));
+    EXPECT_FALSE(io.MoveObject("F:1", "F:2"));
+    EXPECT_FALSE(io.MoveObject("F:1", "F:1"));
+    EXPECT_FALSE(io.MoveObject("G:4", "G:5"));
+    EXPECT_FALSE(io.MoveRecipeFolder(1, 2));
     EXPECT_THAT(Boxes(), ElementsAre(kSubFolder, kSubFolder, kSubFolder, kSubFolder));
-    EXPECT_FALSE(io.MoveObject("F:1", "F:2", true));
-    EXPECT_FALSE(io.MoveStyleFolder(4, 5, true));
+    EXPECT_FALSE(io.MoveObject("F:1", "F:2", Asking::Quietly));
+    EXPECT_FALSE(io.MoveStyleFolder(4, 5, Asking::Quietly));
     EXPECT_THAT(Boxes(), IsEmpty());
     EXPECT_THAT(Touched(), IsEmpty());
     ExpectInStep();
@@ -102,14 +102,14 @@ TEST_F(Moves, RefuseASecondFolderOfTheName) {
     Folder(3, "STOUTS");
     StyleFolder(6, "dark");
     Touched();
-    EXPECT_FALSE(io.MoveObject("F:2", "F:3", false));
-    EXPECT_FALSE(io.MoveObject("G:5", "G:6", false));
+    EXPECT_FALSE(io.MoveObject("F:2", "F:3"));
+    EXPECT_FALSE(io.MoveObject("G:5", "G:6"));
     EXPECT_THAT(Boxes(),
                 ElementsAre("[Could not move recipe folder] The destination folder already contains a folder "
                             "with that name",
                             "[Could not move style folder] The destination folder already contains a folder "
                             "with that name"));
-    EXPECT_FALSE(io.MoveObject("F:2", "F:3", true));
+    EXPECT_FALSE(io.MoveObject("F:2", "F:3", Asking::Quietly));
     EXPECT_THAT(Boxes(), IsEmpty());
     EXPECT_THAT(Touched(), IsEmpty());
     ExpectInStep();
@@ -118,28 +118,28 @@ TEST_F(Moves, RefuseASecondFolderOfTheName) {
 // A recipe folder and a style folder of one name do not meet, nor do a folder and a recipe.
 TEST_F(Moves, CompareNamesOfFoldersOfOneKindAlone) {
     Recipe("Stouts", 3);
-    EXPECT_TRUE(io.MoveObject("F:2", "F:3", false));
+    EXPECT_TRUE(io.MoveObject("F:2", "F:3"));
     ExpectInStep();
 }
 
 TEST_F(Moves, PutARecipeIntoAFolder) {
-    EXPECT_TRUE(io.MoveObject("R:1:0", "F:3", false));
+    EXPECT_TRUE(io.MoveObject("R:1:0", "F:3"));
     EXPECT_EQ(Tree("F:0"), (Lines{"F:1 Ales", "  F:2 Stouts", "F:3 Lagers", "  R:1:3 Dry", "R:2:3 Mild"}));
     EXPECT_THAT(Touched(), ElementsAre("2", "3"));
     EXPECT_THAT(Notices(), ElementsAre("moved Dry 3"));
-    EXPECT_TRUE(io.MoveObject("R:1:2", "F:0", true));
+    EXPECT_TRUE(io.MoveObject("R:1:2", "F:0", Asking::Quietly));
     EXPECT_THAT(Touched(), ElementsAre("3"));
     EXPECT_THAT(Notices(), ElementsAre("moved Dry 0"));
     ExpectInStep();
 }
 
 TEST_F(Moves, GiveARecipeAStyleAndTakeItAway) {
-    EXPECT_TRUE(io.MoveObject("R:2:3", "S:2:1", false));
+    EXPECT_TRUE(io.MoveObject("R:2:3", "S:2:1"));
     EXPECT_EQ(Tree("S:2:0"), Lines{"R:2:1 Mild"});
     EXPECT_EQ(Tree("S:2:1"), Lines{"R:2:2 Mild"});
     EXPECT_EQ(Tree("S:0:0"), Lines{});
     ExpectInStep();
-    EXPECT_TRUE(io.MoveObject("R:2:1", "S:0:0", false));
+    EXPECT_TRUE(io.MoveObject("R:2:1", "S:0:0"));
     EXPECT_EQ(Tree("S:0:0"), Lines{"R:2:1 Mild"});
     EXPECT_EQ(Tree("S:0:1"), Lines{"R:2:2 Mild"});
     EXPECT_THAT(Notices(), ElementsAre("new style Mild 2", "new style Mild 0"));
@@ -149,14 +149,14 @@ TEST_F(Moves, GiveARecipeAStyleAndTakeItAway) {
 }
 
 TEST_F(Moves, PutAStyleWithItsRecipesIntoAFolder) {
-    EXPECT_TRUE(io.MoveObject("S:1:0", "G:5", false));
+    EXPECT_TRUE(io.MoveObject("S:1:0", "G:5"));
     EXPECT_EQ(Tree("G:0"), (Lines{"G:4 British", "  G:5 Dark", "    S:1:1 Porter", "      R:1:2 Dry",
                                   "G:6 German", "  S:2:1 Bock", "S:0:1 (None)", "  R:2:2 Mild"}));
     EXPECT_THAT(Touched(), ElementsAre("4", "5"));
-    EXPECT_TRUE(io.MoveStyleToFolderByName(" PORTER ", 0, false));
+    EXPECT_TRUE(io.MoveStyleToFolderByName(" PORTER ", 0));
     EXPECT_THAT(Touched(), ElementsAre("5"));
     EXPECT_THAT(Notices(), IsEmpty());
-    EXPECT_FALSE(io.MoveStyleToFolderByName("Nothing", 0, true));
+    EXPECT_FALSE(io.MoveStyleToFolderByName("Nothing", 0, Asking::Quietly));
     ExpectInStep();
 }
 
@@ -186,24 +186,24 @@ TEST_F(Moves, RefuseEveryOtherPair) {
                                                          {"G:-1", "G:4"},
                                                          {"F:0", "F:-1"}};
     for (const auto& [source, dest] : pairs) {
-        EXPECT_FALSE(io.MoveObject(source, dest, false));
+        EXPECT_FALSE(io.MoveObject(source, dest));
         EXPECT_THAT(Boxes(), ElementsAre("[Could not move object] Invalid Destination"))
             << source << " onto " << dest;
-        EXPECT_FALSE(io.MoveObject(source, dest, true));
+        EXPECT_FALSE(io.MoveObject(source, dest, Asking::Quietly));
         EXPECT_THAT(Boxes(), IsEmpty());
     }
     ExpectInStep();
 }
 
 TEST_F(Moves, TellWhatIsMissing) {
-    EXPECT_FALSE(io.MoveObject("F:99", "F:1", false));
-    EXPECT_FALSE(io.MoveObject("F:1", "F:99", false));
-    EXPECT_FALSE(io.MoveObject("G:1", "G:4", false));
-    EXPECT_FALSE(io.MoveObject("R:99:0", "F:1", false));
-    EXPECT_FALSE(io.MoveObject("R:1:0", "F:4", false));
-    EXPECT_FALSE(io.MoveObject("R:1:0", "S:99:0", false));
-    EXPECT_FALSE(io.MoveObject("S:99:0", "G:0", false));
-    EXPECT_FALSE(io.MoveObject("S:1:0", "G:x", false));
+    EXPECT_FALSE(io.MoveObject("F:99", "F:1"));
+    EXPECT_FALSE(io.MoveObject("F:1", "F:99"));
+    EXPECT_FALSE(io.MoveObject("G:1", "G:4"));
+    EXPECT_FALSE(io.MoveObject("R:99:0", "F:1"));
+    EXPECT_FALSE(io.MoveObject("R:1:0", "F:4"));
+    EXPECT_FALSE(io.MoveObject("R:1:0", "S:99:0"));
+    EXPECT_FALSE(io.MoveObject("S:99:0", "G:0"));
+    EXPECT_FALSE(io.MoveObject("S:1:0", "G:x"));
     EXPECT_THAT(Boxes(),
                 ElementsAre("[Error moving recipe folder] DB_IO\r\nThere is no such recipe folder. (5)",
                             "[Error moving recipe folder] DB_IO\r\nThere is no such recipe folder. (5)",
@@ -213,7 +213,7 @@ TEST_F(Moves, TellWhatIsMissing) {
                             "[Error moving recipe to style] DB_IO\r\nThere is no such style. (5)",
                             "[Error moving style] DB_IO\r\nThere is no such style. (5)",
                             "[Error moving style] DB_IO\r\nThere is no such style folder. (5)"));
-    EXPECT_FALSE(io.MoveObject("R:99:0", "F:1", true));
+    EXPECT_FALSE(io.MoveObject("R:99:0", "F:1", Asking::Quietly));
     EXPECT_THAT(Boxes(), IsEmpty());
     ExpectInStep();
 }
@@ -224,7 +224,7 @@ TEST_F(Moves, TellTheNoticeAfterTheDatabaseAndTheTree) {
         seen = Select("SELECT FOLDER_ID FROM RECIPES WHERE ID = 1");
         seen.push_back(main.tree.Nodes("R:1:3")->Parent()->Key());
     };
-    io.MoveRecipeToFolder(1, 3, false);
+    io.MoveRecipeToFolder(1, 3);
     EXPECT_THAT(seen, ElementsAre("3", "F:3"));
 }
 
@@ -232,7 +232,7 @@ TEST_F(Moves, BringARecipeOfNoFolderBackIntoSight) {
     main.Execute("UPDATE RECIPES SET FOLDER_ID = 77 WHERE ID = 1");
     main.tree.InitFromDatabase();
     ASSERT_FALSE(main.tree.NodeExists("R:1:3"));
-    EXPECT_TRUE(io.MoveObject("R:1:0", "F:1", false));
+    EXPECT_TRUE(io.MoveObject("R:1:0", "F:1"));
     EXPECT_THAT(Touched(), ElementsAre("1"));
     ExpectInStep();
 }
@@ -241,9 +241,9 @@ TEST_F(Moves, BringAStyleOfNoFolderBackWithItsRecipes) {
     main.Execute("UPDATE STYLES SET FOLDER_ID = 77 WHERE ID = 1");
     main.tree.InitFromDatabase();
     ASSERT_FALSE(main.tree.NodeExists("R:1:2"));
-    EXPECT_TRUE(io.MoveObject("R:2:0", "S:1:0", false));
+    EXPECT_TRUE(io.MoveObject("R:2:0", "S:1:0"));
     ExpectInStep();
-    EXPECT_TRUE(io.MoveObject("S:1:0", "G:6", false));
+    EXPECT_TRUE(io.MoveObject("S:1:0", "G:6"));
     EXPECT_EQ(Tree("S:1:1"), (Lines{"R:1:2 Dry", "R:2:2 Mild"}));
     ExpectInStep();
 }

@@ -25,7 +25,7 @@ class Names : public Objects {
 };
 
 TEST_F(Names, OfARecipeChangeOnAllItsEntries) {
-    EXPECT_TRUE(io.RenameObject("R:1:0", "Zwickel", false));
+    EXPECT_TRUE(io.RenameObject("R:1:0", "Zwickel"));
     for (const char* key : {"R:1:0", "R:1:1", "R:1:2", "R:1:3"})
         EXPECT_EQ(main.tree.Nodes(key)->Name(), "Zwickel") << key;
     EXPECT_EQ(Tree("F:-1"), (Lines{"R:2:0 Mild", "R:1:0 Zwickel"}));
@@ -36,7 +36,7 @@ TEST_F(Names, OfARecipeChangeOnAllItsEntries) {
 }
 
 TEST_F(Names, OfAStyleChangeOnBothItsEntries) {
-    EXPECT_TRUE(io.RenameObject("S:1:0", "Stout", false));
+    EXPECT_TRUE(io.RenameObject("S:1:0", "Stout"));
     EXPECT_EQ(main.tree.Nodes("S:1:0")->Name(), "Stout");
     EXPECT_EQ(main.tree.Nodes("S:1:1")->Name(), "Stout");
     EXPECT_THAT(Touched(), ElementsAre("5"));
@@ -45,11 +45,11 @@ TEST_F(Names, OfAStyleChangeOnBothItsEntries) {
 }
 
 TEST_F(Names, OfFoldersChangeAndTheFolderAboveIsTouched) {
-    EXPECT_TRUE(io.RenameObject("F:2", "Dark ales", false));
+    EXPECT_TRUE(io.RenameObject("F:2", "Dark ales"));
     EXPECT_THAT(Touched(), ElementsAre("1"));
-    EXPECT_TRUE(io.RenameObject("G:5", "Black", false));
+    EXPECT_TRUE(io.RenameObject("G:5", "Black"));
     EXPECT_THAT(Touched(), ElementsAre("4"));
-    EXPECT_TRUE(io.RenameObject("F:1", "Top", false));
+    EXPECT_TRUE(io.RenameObject("F:1", "Top"));
     EXPECT_THAT(Touched(), IsEmpty());
     EXPECT_THAT(Notices(), IsEmpty());
     EXPECT_EQ(Tree("F:0"),
@@ -59,22 +59,22 @@ TEST_F(Names, OfFoldersChangeAndTheFolderAboveIsTouched) {
 
 TEST_F(Names, RunTheDesignedStatements) {
     const std::string now = "UPDATE FOLDERS SET MODIFIED_WHEN = '03/09/2024 14:05:07' WHERE ";
-    EXPECT_THAT(ChangesOf([&] { io.RenameRecipeFolder(2, " Smith's ", false); }),
+    EXPECT_THAT(ChangesOf([&] { io.RenameRecipeFolder(2, " Smith's "); }),
                 ElementsAre("UPDATE FOLDERS SET NAME = 'Smith''s' WHERE NOT STYLE AND ID = 2",
                             now + "NOT STYLE AND ID = 1"));
     EXPECT_THAT(
-        ChangesOf([&] { io.RenameStyleFolder(4, "B", false); }),
+        ChangesOf([&] { io.RenameStyleFolder(4, "B"); }),
         ElementsAre("UPDATE FOLDERS SET NAME = 'B' WHERE STYLE AND ID = 4", now + "STYLE AND ID = 0"));
-    EXPECT_THAT(ChangesOf([&] { io.RenameRecipe(1, "B", false); }),
+    EXPECT_THAT(ChangesOf([&] { io.RenameRecipe(1, "B"); }),
                 ElementsAre("UPDATE RECIPES SET NAME = 'B' WHERE ID = 1", now + "NOT STYLE AND ID = 2"));
-    EXPECT_THAT(ChangesOf([&] { io.RenameStyle(1, "B", false); }),
+    EXPECT_THAT(ChangesOf([&] { io.RenameStyle(1, "B"); }),
                 ElementsAre("UPDATE STYLES SET NAME = 'B' WHERE ID = 1", now + "STYLE AND ID = 5"));
 }
 
 TEST_F(Names, MustNotBeBlank) {
     for (const char* key : {"F:2", "G:5", "R:1:3", "S:1:1"}) {
-        EXPECT_FALSE(io.RenameObject(key, "   ", false));
-        EXPECT_FALSE(io.RenameObject(key, "", true));
+        EXPECT_FALSE(io.RenameObject(key, "   "));
+        EXPECT_FALSE(io.RenameObject(key, "", Asking::Quietly));
     }
     EXPECT_THAT(Boxes(), ElementsAre("[Could not rename recipe folder] You must type a name",
                                      "[Could not rename style folder] You must type a name",
@@ -91,8 +91,8 @@ TEST_F(Names, MustNotBeTaken) {
     const std::pair<const char*, const char*> renames[] = {
         {"F:2", " BITTERS "}, {"G:5", "pale"}, {"R:1:0", "mild"}, {"S:1:0", " pils"}};
     for (const auto& [key, name] : renames) {
-        EXPECT_FALSE(io.RenameObject(key, name, false));
-        EXPECT_FALSE(io.RenameObject(key, name, true));
+        EXPECT_FALSE(io.RenameObject(key, name));
+        EXPECT_FALSE(io.RenameObject(key, name, Asking::Quietly));
     }
     EXPECT_THAT(Boxes(),
                 ElementsAre("[Could not rename recipe folder] A folder with that name already exists",
@@ -105,17 +105,17 @@ TEST_F(Names, MustNotBeTaken) {
 }
 
 TEST_F(Names, OfFoldersMayBeTakenElsewhere) {
-    EXPECT_TRUE(io.RenameObject("F:2", "Ales", false));
-    EXPECT_TRUE(io.RenameObject("F:3", "British", false));
+    EXPECT_TRUE(io.RenameObject("F:2", "Ales"));
+    EXPECT_TRUE(io.RenameObject("F:3", "British"));
     EXPECT_THAT(Boxes(), IsEmpty());
     ExpectInStep();
 }
 
 TEST_F(Names, MayChangeTheirCaseAlone) {
-    EXPECT_TRUE(io.RenameObject("R:1:0", "DRY", false));
-    EXPECT_TRUE(io.RenameObject("S:1:0", "porTER", false));
-    EXPECT_TRUE(io.RenameObject("F:2", "stouts", false));
-    EXPECT_TRUE(io.RenameObject("G:5", "DARK", false));
+    EXPECT_TRUE(io.RenameObject("R:1:0", "DRY"));
+    EXPECT_TRUE(io.RenameObject("S:1:0", "porTER"));
+    EXPECT_TRUE(io.RenameObject("F:2", "stouts"));
+    EXPECT_TRUE(io.RenameObject("G:5", "DARK"));
     EXPECT_THAT(Notices(), ElementsAre("renamed Dry to DRY", "style renamed 1 to porTER"));
     EXPECT_THAT(Boxes(), IsEmpty());
     ExpectInStep();
@@ -123,30 +123,29 @@ TEST_F(Names, MayChangeTheirCaseAlone) {
 
 // Intended: until the next start.
 TEST_F(Names, AreTrimmedInTheDatabaseAndStandAsTypedInTheTree) {
-    EXPECT_TRUE(io.RenameObject("R:1:0", "  Best ", false));
-    EXPECT_TRUE(io.RenameObject("F:2", " Best ", false));
+    EXPECT_TRUE(io.RenameObject("R:1:0", "  Best "));
+    EXPECT_TRUE(io.RenameObject("F:2", " Best "));
     EXPECT_EQ(main.tree.Nodes("R:1:2")->Name(), "  Best ");
     EXPECT_EQ(main.tree.Nodes("F:2")->Name(), " Best ");
     EXPECT_THAT(Select("SELECT NAME FROM RECIPES WHERE ID = 1"), ElementsAre("Best"));
     EXPECT_THAT(Notices(), ElementsAre("renamed Dry to   Best "));
     // The blanks do not hide it from the next operation.
-    EXPECT_TRUE(io.RenameObject("R:1:0", "BEST", false));
-    EXPECT_FALSE(io.RenameObject("F:3", "best", true));
+    EXPECT_TRUE(io.RenameObject("R:1:0", "BEST"));
+    EXPECT_FALSE(io.RenameObject("F:3", "best", Asking::Quietly));
 }
 
 TEST_F(Names, OfWhatTheProgramMakesStay) {
     for (const char* key : {"F:0", "F:-1", "G:0", "G:-1", "S:0:0", "S:0:1", "X:DB", "X:STYLE", "", "Q:1"}) {
-        EXPECT_FALSE(io.RenameObject(key, "Mine", false));
+        EXPECT_FALSE(io.RenameObject(key, "Mine"));
         EXPECT_THAT(Boxes(), ElementsAre("[Could not rename object] Invalid Object")) << key;
-        EXPECT_FALSE(io.RenameObject(key, "Mine", true));
+        EXPECT_FALSE(io.RenameObject(key, "Mine", Asking::Quietly));
         EXPECT_THAT(Boxes(), IsEmpty());
     }
     ExpectInStep();
 }
 
 TEST_F(Names, OfWhatIsMissingCannotChange) {
-    for (const char* key : {"F:99", "G:1", "R:99:0", "S:x:0"})
-        EXPECT_FALSE(io.RenameObject(key, "Mine", false));
+    for (const char* key : {"F:99", "G:1", "R:99:0", "S:x:0"}) EXPECT_FALSE(io.RenameObject(key, "Mine"));
     EXPECT_THAT(Boxes(),
                 ElementsAre("[Error renaming recipe folder] DB_IO\r\nThere is no such recipe folder. (5)",
                             "[Error renaming style folder] DB_IO\r\nThere is no such style folder. (5)",
@@ -160,10 +159,10 @@ TEST_F(Names, OfAnyCharactersComeThrough) {
                                     std::string("\xD7\xA9\xD7\x9B\xD7\xA8 \xE2\x80\xAE"
                                                 "abc"),
                                     std::string("\xFF\xFE"), std::string("a\0b", 3)}) {
-        EXPECT_TRUE(io.RenameObject("R:1:0", name, false));
-        EXPECT_TRUE(io.RenameObject("F:2", name, false));
-        EXPECT_TRUE(io.RenameObject("G:5", name, false));
-        EXPECT_TRUE(io.RenameObject("S:1:0", name, false));
+        EXPECT_TRUE(io.RenameObject("R:1:0", name));
+        EXPECT_TRUE(io.RenameObject("F:2", name));
+        EXPECT_TRUE(io.RenameObject("G:5", name));
+        EXPECT_TRUE(io.RenameObject("S:1:0", name));
         EXPECT_THAT(Select("SELECT NAME FROM RECIPES WHERE ID = 1"), ElementsAre(name));
         EXPECT_TRUE(io.RecipeNameExists(name));
         ExpectInStep();
@@ -202,10 +201,10 @@ TEST_F(Names, AreLookedUp) {
 
 TEST_F(Names, OfANewFolderAreTrimmedAndTheFolderAboveIsNotTouched) {
     EXPECT_THAT(
-        ChangesOf([&] { EXPECT_EQ(io.CreateFolderObject("F:1", "  Smith's ", false), "F:6"); }),
+        ChangesOf([&] { EXPECT_EQ(io.CreateFolderObject("F:1", "  Smith's "), "F:6"); }),
         ElementsAre("INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE, CREATED_WHEN, MODIFIED_WHEN) VALUES (1, "
                     "'Smith''s', FALSE, '03/09/2024 14:05:07', '03/09/2024 14:05:07')"));
-    EXPECT_EQ(io.CreateFolderObject("G:0", "Smith's", false), "G:7");
+    EXPECT_EQ(io.CreateFolderObject("G:0", "Smith's"), "G:7");
     EXPECT_EQ(main.tree.Nodes("F:6")->Name(), "Smith's");
     EXPECT_EQ(main.tree.Nodes("F:6")->IconOpen(), "folder open");
     EXPECT_EQ(main.tree.Nodes("F:6")->IconClosed(), "folder closed");
@@ -216,14 +215,14 @@ TEST_F(Names, OfANewFolderAreTrimmedAndTheFolderAboveIsNotTouched) {
 }
 
 TEST_F(Names, OfNewFoldersCount) {
-    EXPECT_EQ(io.CreateFolderObject("F:1", "", false), "F:6");
-    EXPECT_EQ(io.CreateFolderObject("F:1", "", false), "F:7");
-    EXPECT_EQ(io.CreateFolderObject("F:1", "   ", false), "F:8");
-    EXPECT_EQ(io.CreateFolderObject("G:4", "", false), "G:9");
+    EXPECT_EQ(io.CreateFolderObject("F:1", ""), "F:6");
+    EXPECT_EQ(io.CreateFolderObject("F:1", ""), "F:7");
+    EXPECT_EQ(io.CreateFolderObject("F:1", "   "), "F:8");
+    EXPECT_EQ(io.CreateFolderObject("G:4", ""), "G:9");
     EXPECT_EQ(Tree("F:1"), (Lines{"F:3 Bitters", "F:6 New Folder", "F:7 New Folder (2)", "F:8 New Folder (3)",
                                   "F:2 Stouts", "  R:1:3 Dry"}));
     io.DeleteObject("F:7");
-    EXPECT_EQ(io.CreateFolderObject("F:1", "", false), "F:10");
+    EXPECT_EQ(io.CreateFolderObject("F:1", ""), "F:10");
     EXPECT_EQ(main.tree.Nodes("F:10")->Name(), "New Folder (2)");
     ExpectInStep();
 }
@@ -231,40 +230,40 @@ TEST_F(Names, OfNewFoldersCount) {
 // Every entry in the folder counts, a recipe too.
 TEST_F(Names, OfNewFoldersPassOverRecipes) {
     Recipe("New Folder", 1);
-    EXPECT_EQ(io.CreateFolderObject("F:1", "", false), "F:6");
+    EXPECT_EQ(io.CreateFolderObject("F:1", ""), "F:6");
     EXPECT_EQ(main.tree.Nodes("F:6")->Name(), "New Folder (2)");
 }
 
 // Intended: the name is made with regard to case, and the check behind it finds it taken.
 TEST_F(Names, OfNewFoldersMeetOneOfAnotherCase) {
     Folder(1, "NEW FOLDER");
-    EXPECT_EQ(io.CreateFolderObject("F:1", "", false), "");
+    EXPECT_EQ(io.CreateFolderObject("F:1", ""), "");
     EXPECT_THAT(Boxes(),
                 ElementsAre("[Could not create new recipe folder] A folder with that name already exists"));
-    EXPECT_EQ(io.CreateFolderObject("F:1", "", true), "");
+    EXPECT_EQ(io.CreateFolderObject("F:1", "", Asking::Quietly), "");
     EXPECT_THAT(Boxes(), IsEmpty());
     ExpectInStep();
 }
 
 TEST_F(Names, OfNewFoldersMustNotBeTaken) {
-    EXPECT_EQ(io.CreateRecipeFolder(1, " STOUTS ", false), -1);
-    EXPECT_EQ(io.CreateStyleFolder(4, "dark", false), -1);
+    EXPECT_EQ(io.CreateRecipeFolder(1, " STOUTS "), -1);
+    EXPECT_EQ(io.CreateStyleFolder(4, "dark"), -1);
     EXPECT_THAT(Boxes(),
                 ElementsAre("[Could not create new recipe folder] A folder with that name already exists",
                             "[Could not create new style folder] A folder with that name already exists"));
-    EXPECT_EQ(io.CreateStyleFolder(4, "dark", true), -1);
+    EXPECT_EQ(io.CreateStyleFolder(4, "dark", Asking::Quietly), -1);
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
 TEST_F(Names, NewFoldersNeedAFolder) {
     for (const char* key : {"R:1:3", "S:1:1", "X:DB", "X:STYLE", "F:-1", "G:-1", "", "Q:1"}) {
-        EXPECT_EQ(io.CreateFolderObject(key, "Mine", false), "");
+        EXPECT_EQ(io.CreateFolderObject(key, "Mine"), "");
         EXPECT_THAT(Boxes(), ElementsAre("[Could not create new folder] Invalid Parent Object")) << key;
-        EXPECT_EQ(io.CreateFolderObject(key, "Mine", true), "");
+        EXPECT_EQ(io.CreateFolderObject(key, "Mine", Asking::Quietly), "");
         EXPECT_THAT(Boxes(), IsEmpty());
     }
-    for (const char* key : {"F:99", "F:4", "F:"}) EXPECT_EQ(io.CreateFolderObject(key, "Mine", false), "");
-    EXPECT_EQ(io.CreateFolderObject("G:1", "Mine", false), "");
+    for (const char* key : {"F:99", "F:4", "F:"}) EXPECT_EQ(io.CreateFolderObject(key, "Mine"), "");
+    EXPECT_EQ(io.CreateFolderObject("G:1", "Mine"), "");
     EXPECT_THAT(Boxes(),
                 ElementsAre("[Error creating new recipe folder] DB_IO\r\nThere is no such recipe folder. (5)",
                             "[Error creating new recipe folder] DB_IO\r\nThere is no such recipe folder. (5)",

@@ -95,17 +95,17 @@ TEST_F(Units, ADeletedStyleFolderGoesWholeOrNotAtAll) {
 
 // A check, the change, two touches.
 TEST_F(Units, AMovedFolderIsThereOrHere) {
-    ExpectWhole(1 + 1 + 2, [](DB_IO& io) { io.MoveObject("F:2", "F:0", true); });
+    ExpectWhole(1 + 1 + 2, [](DB_IO& io) { io.MoveObject("F:2", "F:0", Asking::Quietly); });
 }
 
 // A check, the change, one touch.
 TEST_F(Units, ANewNameComesWithItsTouch) {
-    ExpectWhole(3, [](DB_IO& io) { io.RenameObject("R:1:0", "Wet", true); });
+    ExpectWhole(3, [](DB_IO& io) { io.RenameObject("R:1:0", "Wet", Asking::Quietly); });
 }
 
 // A check, the row, its id.
 TEST_F(Units, ANewFolderIsThereOrNot) {
-    ExpectWhole(3, [](DB_IO& io) { io.CreateFolderObject("F:1", "", true); });
+    ExpectWhole(3, [](DB_IO& io) { io.CreateFolderObject("F:1", "", Asking::Quietly); });
 }
 
 }  // namespace

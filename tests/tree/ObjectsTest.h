@@ -55,10 +55,10 @@ class Objects : public testing::Test {
 
     // Rows that stand in the tree too.
     std::int64_t Folder(std::int64_t parent, const std::string& name) {
-        return io.CreateRecipeFolder(parent, name, true);
+        return io.CreateRecipeFolder(parent, name, Asking::Quietly);
     }
     std::int64_t StyleFolder(std::int64_t parent, const std::string& name) {
-        return io.CreateStyleFolder(parent, name, true);
+        return io.CreateStyleFolder(parent, name, Asking::Quietly);
     }
     void Recipe(const std::string& name, std::int64_t folder = 0, std::int64_t style = 0) {
         main.Execute("INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES (" + SqlText(name) + ", " +
