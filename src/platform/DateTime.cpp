@@ -16,7 +16,7 @@ bool IsCalendarDay(const DateTime& d) {
                .ok();
 }
 
-// Reads digits (at least one, at most `most`) from the front of text.
+// Reads least to most digits from the front of text and removes them. False if there are fewer than least.
 bool TakeNumber(std::string_view& text, std::size_t least, std::size_t most, int& value) {
     std::size_t n = 0;
     while (n < text.size() && n < most && text[n] >= '0' && text[n] <= '9') ++n;

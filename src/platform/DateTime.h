@@ -1,4 +1,4 @@
-// Dates as the program keeps them: the wall clock of the user's machine, to the second, without a time zone.
+// Dates as the program stores them: the local wall-clock time, to the second, without a time zone.
 #pragma once
 
 #include <compare>
@@ -19,13 +19,13 @@ struct DateTime {
     auto operator<=>(const DateTime&) const = default;
 };
 
-// "MM/DD/YYYY HH:MM:SS" with a 24-hour clock, the form of dates in SQL text.
+// Returns "MM/DD/YYYY HH:MM:SS" with a 24-hour clock, the form of dates in SQL text.
 std::string DateText(const DateTime& when);
-// Reads the form of DateText; nothing when the text is of another form or names no day of the calendar.
+// Reads the form that DateText writes; nullopt if the text has another form or is not a date of the calendar.
 std::optional<DateTime> ParseDateText(std::string_view text);
-// "M/D/YYYY", the date that a brew log cell takes from the calendar.
+// Returns "M/D/YYYY", the form in which the calendar enters a date into a brew log cell.
 std::string ShortDate(const DateTime& when);
-// Reads "M/D/YYYY" (also with leading zeros); nothing for any other text.
+// Reads "M/D/YYYY", with or without leading zeros; nullopt for any other text.
 std::optional<DateTime> ParseShortDate(std::string_view text);
 
 }  // namespace tw

@@ -1,4 +1,4 @@
-// An open file or socket of the system.
+// An open file or socket descriptor of the operating system.
 #pragma once
 
 #include <unistd.h>
@@ -6,7 +6,7 @@
 
 namespace tw {
 
-// Closes the descriptor when it goes. One below 0 is none.
+// Owns a descriptor and closes it on destruction. A negative number means that there is none.
 class Descriptor {
   public:
     explicit Descriptor(int number = -1) : number_(number) {}
@@ -20,7 +20,7 @@ class Descriptor {
 
     bool IsOpen() const { return number_ >= 0; }
     int Number() const { return number_; }
-    // Gives the descriptor away; the caller closes it.
+    // Gives up ownership and returns the descriptor, which the caller must close.
     int Release() { return std::exchange(number_, -1); }
     void Close() {
         if (IsOpen()) close(Release());

@@ -1,5 +1,5 @@
-// A modal dialog apart from its window: named controls that hold texts, and named buttons. The windows bind
-// to a particular model, the console drives any model by the names of its controls.
+// A modal dialog without its window: named controls that hold texts, and named buttons. Each window binds to
+// one kind of model; the console drives any model by the names of its controls.
 #pragma once
 
 #include <optional>
@@ -11,10 +11,10 @@ namespace tw {
 
 struct DialogControl {
     std::string name;
-    std::string text;  // what the control shows; "yes" or "no" for a check box
+    std::string text;  // the text shown; "yes" or "no" for a check box
 };
 
-// A dialog that only asks, as a box would show it; its buttons are cmdYes and cmdNo.
+// A dialog that only asks a question, as a message box would show it; its buttons are cmdYes and cmdNo.
 struct PlainQuestion {
     std::string title, text;
 };
@@ -23,25 +23,25 @@ class DialogModel {
   public:
     virtual ~DialogModel() = default;
 
-    // The form's name, such as "frmStrengthDetails".
+    // The name of the form, such as "frmStrengthDetails".
     virtual std::string FormName() const = 0;
-    // The controls that show something, in the order of the form.
+    // The controls that show something, in the order in which the form has them.
     virtual std::vector<DialogControl> Controls() const = 0;
-    // Enters a text (or "yes"/"no" for a check box). False when the form has no such control that takes an
-    // entry.
+    // Enters a text ("yes" or "no" for a check box). False if the form has no control of that name that
+    // accepts this text.
     virtual bool SetControl(std::string_view name, std::string_view text) = 0;
-    // Presses a button by its control name. False when the form has no such button. The dialog may stay open.
+    // Presses the button of that name. False if the form has no such button. The dialog may stay open.
     virtual bool Press(std::string_view button) = 0;
-    // Whether a press of that button does something now. Press takes a disabled button too, and does nothing.
+    // True if pressing the button would do something now. Pressing a disabled button does nothing.
     virtual bool IsEnabled(std::string_view /*button*/) const { return true; }
-    // The window's close box.
+    // Does what the close box of the window does.
     virtual void CloseBox() = 0;
-    // Runs once, when the window first comes to the front. A window that works by itself does its work here
-    // and is closed afterwards; it takes no entry then.
+    // Called once, when the window is first shown. A dialog that works without input does its work here and
+    // is closed afterwards; it accepts no input meanwhile.
     virtual void FirstShown() {}
-    // For a dialog that a box could ask as well.
+    // The question, for a dialog that a message box could ask as well; nullopt for any other.
     virtual std::optional<PlainQuestion> AsQuestion() const { return std::nullopt; }
-    // False once the dialog is done.
+    // False once the dialog has finished.
     virtual bool IsOpen() const = 0;
 };
 

@@ -1,5 +1,5 @@
-// The one exception type of the program. What no routine traps rises to the event loop of the program, which
-// shows it in a box and goes on; an entry of the brewer never ends the process.
+// The one exception type of the program. An error that no routine catches reaches the event loop, which shows
+// it in a message box and continues; nothing that the brewer enters ever ends the process.
 #pragma once
 
 #include <stdexcept>
@@ -7,7 +7,7 @@
 
 namespace tw {
 
-// An error that carries where it came from, what happened and a number.
+// An error with its source, a description and a number.
 class Error : public std::runtime_error {
   public:
     // what() is the description.
@@ -18,9 +18,9 @@ class Error : public std::runtime_error {
     std::string Description() const { return what(); }
     int Number() const { return number_; }
 
-    // "{description} ({number})", the form of most error boxes.
+    // Returns "{description} ({number})", the form of most error boxes.
     std::string WithNumber() const { return Description() + " (" + std::to_string(number_) + ")"; }
-    // "{source}\r\n{description} ({number})", the form of the boxes of store operations.
+    // Returns "{source}\r\n{description} ({number})", the form of the error boxes of store operations.
     std::string WithSource() const { return source_ + "\r\n" + WithNumber(); }
 
   private:
@@ -36,10 +36,10 @@ inline constexpr int kDivisionByZeroNumber = 11;
 // Raises the arithmetic error "Overflow", number 6.
 [[noreturn]] void RaiseOverflow();
 
-// numerator / denominator. Raises "Division by zero" for a zero denominator and "Overflow" for a result that
-// is not finite, so that no figure ever holds infinity or NaN.
+// Returns numerator / denominator. Raises "Division by zero" if denominator is zero and "Overflow" if the
+// result is not finite, so that no figure ever holds infinity or NaN.
 double Divide(double numerator, double denominator);
-// value itself; raises "Overflow" when it is infinite or NaN.
+// Returns value. Raises "Overflow" if it is infinite or NaN.
 double Finite(double value);
 
 }  // namespace tw

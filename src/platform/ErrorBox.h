@@ -1,4 +1,4 @@
-// Errors that no routine of the core has trapped end here: in a box, and the program goes on.
+// Shows errors that no routine of the core has caught in a message box, after which the program continues.
 #pragma once
 
 #include <exception>
@@ -9,8 +9,8 @@
 
 namespace tw {
 
-// Runs an operation. False when an error rose from it, which has been shown then in a box titled "Error":
-// "{description} ({number})", or the bare description of any other exception.
+// Runs an operation. Returns false if it raised an exception, after showing that in a box titled "Error":
+// "{description} ({number})" for an Error, the bare description of any other exception.
 template <class Operation>
 bool RunShowingErrors(MessagePort& messages, Operation operation) {
     std::string text;

@@ -23,7 +23,7 @@ void FileDialogModel::Ok() {
 std::string FileDialogModel::WithExtension() const {
     const std::filesystem::path path(text_);
     if (path.has_extension() || !path.has_filename()) return text_;
-    // A file to open that is there under just that name is meant.
+    // To open: a file that exists under exactly the name typed, without an extension, is meant.
     std::error_code ignored;
     if (options_.kind == Kind::Open && std::filesystem::is_regular_file(path, ignored)) return text_;
     return text_ + "." + options_.extension;

@@ -1,5 +1,5 @@
-// The common dialog that asks for the name of a file, to open or to save. The windows show the desktop's own;
-// its checks then take the place of those here.
+// The common dialog that asks for the name of a file to open or to save. The windows show the desktop's own
+// file dialog instead, whose checks then replace the ones made here.
 #pragma once
 
 #include <string>
@@ -10,8 +10,8 @@
 
 namespace tw {
 
-// FileName takes the name; cmdOK stays open for a blank name, for a folder, for a missing file to open and
-// for one that is not to be replaced.
+// FileName is the control for the name. cmdOK leaves the dialog open if the name is blank or a folder, if a
+// file to open is missing, or if the brewer answers No when asked to replace an existing file.
 class FileDialogModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "CommonDialog";
@@ -20,19 +20,19 @@ class FileDialogModel final : public FormModel {
     struct Options {
         Kind kind = Kind::Open;
         std::string title;
-        std::string extension;     // without a dot; given to a name without one
+        std::string extension;     // without a dot; added to a name that has none
         std::string filterName;    // "Tunwright Recipes (*.TWR)"
         std::string filter;        // "*.TWR"
-        bool askToReplace = true;  // Save: asks before it takes a file that exists
+        bool askToReplace = true;  // when saving: asks before an existing file is chosen
     };
 
     // messages must outlive the dialog.
     FileDialogModel(Options options, MessagePort& messages);
 
     const Options& Settings() const { return options_; }
-    // The name taken, with its extension.
+    // The name chosen, with its extension; empty until the dialog has been accepted.
     const std::string& FileName() const { return fileName_; }
-    // Takes a name that the desktop's dialog has checked, and closes.
+    // Accepts a name that the desktop's dialog has checked, and closes the dialog.
     void Take(std::string_view fileName);
 
   private:

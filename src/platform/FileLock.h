@@ -1,5 +1,5 @@
-// A lock between processes, on a file. The system takes it away from a process that ends, however it ends, so
-// that no lock is ever left behind. The file stays.
+// A lock between processes, held on a file. The system releases the lock of a process that ends, however it
+// ends, so that no stale lock is ever left behind. The file itself stays.
 #pragma once
 
 #include <string>
@@ -10,11 +10,12 @@ namespace tw {
 
 class FileLock {
   public:
-    // Makes the file if it is missing, for this user alone. False when it cannot be opened.
+    // Creates the file if it is missing, accessible to this user only. False if it cannot be opened.
     bool Open(const std::string& path);
-    // Both are true when this object has the lock. TryTake is false at once while another has it, or when the
-    // file is not open. Take waits without end; it is false when the system gives no locks.
+    // Returns true if this object now holds the lock; false at once if another
+    // holds it or if no file is open.
     bool TryTake();
+    // Waits for the lock without a time limit. False if the system cannot lock the file.
     bool Take();
     void Release();
 

@@ -1,9 +1,9 @@
-// A dialog declared as a table. A model derives from FormModel and states its rows once, in its constructor:
+// A dialog declared as a table. A model derives from FormModel and lists its rows once, in its constructor:
 //
 //     ResizeModel::ResizeModel(std::string current) : FormModel("frmResizeRecipe"),
 //     current_(std::move(current)) {
 //         AddControls({
-//             {"lblCurrent", [this] { return current_; }},  // it only shows
+//             {"lblCurrent", [this] { return current_; }},  // display only
 //             TextEntry("txtNewSize", newSize_),
 //             CheckBox("chkScaleBoil", scaleBoil_),
 //         });
@@ -13,8 +13,8 @@
 //         });
 //     }
 //
-// What the console and the generic window ask of a DialogModel follows from the rows. A window of its own
-// binds to the model's own functions.
+// The rows answer everything that the console and the generic window ask of a DialogModel. A window written
+// for one model binds to that model's own functions instead.
 #pragma once
 
 #include <functional>
@@ -26,43 +26,43 @@
 
 namespace tw {
 
-// A control of a form.
+// One control of a form.
 struct FormControl {
     std::string name;
-    // What it shows. None: the control is left out of what the form shows, but takes its entry.
+    // Returns what the control shows. Null: Controls() omits the control, but it still accepts an entry.
     std::function<std::string()> show = {};
-    // Takes an entry. False for a text that is refused, which leaves everything as it was. None: takes no
-    // entry.
+    // Enters a text. Returns false to refuse the text, which must then leave everything unchanged. Null: the
+    // control accepts no entry.
     std::function<bool(std::string_view text)> take = {};
-    // Whether the form has the control now. None: always.
+    // True if the form has the control at present. Null: always.
     std::function<bool()> isThere = {};
 };
 
-// A box that takes any text.
+// A text box that accepts any text. text must outlive the row.
 FormControl TextEntry(std::string name, std::string& text);
-// A check box: takes "yes" and "no".
+// A check box; accepts "yes" and "no". checked must outlive the row.
 FormControl CheckBox(std::string name, bool& checked);
-// One of several choices of which one holds: takes "yes", which chooses it.
+// One of several choices, exactly one of which is set; accepts only "yes", which chooses it.
 FormControl OptionButton(std::string name, std::function<bool()> isChosen, std::function<void()> choose);
 
-// A button, or a control that is clicked as one.
+// A button, or another control that is clicked like one.
 struct FormButton {
     std::string name;
     std::function<void()> press;
-    // None: always enabled.
+    // Null: always enabled.
     std::function<bool()> isEnabled = {};
 };
 
-// Buttons by their names; a form has one such list, and so may a part that several forms share.
+// Buttons by name. A form has one such list, and so may a part that several forms share.
 class FormButtons {
   public:
-    // REQUIRES: no button has a name twice.
+    // REQUIRES: no two buttons have the same name.
     void Add(std::vector<FormButton> buttons);
-    // False when there is no such button. A disabled one does nothing.
+    // Presses a button. False if there is none of that name. Pressing a disabled button does nothing.
     bool Press(std::string_view name) const;
-    // False also for a button that is not there.
+    // False if the button is disabled or missing.
     bool IsEnabled(std::string_view name) const;
-    // For the form that the part belongs to.
+    // All buttons, for the form that contains the shared part.
     const std::vector<FormButton>& All() const { return buttons_; }
 
   private:
@@ -76,16 +76,16 @@ class FormModel : public DialogModel {
     FormModel(const FormModel&) = delete;  // the rows refer to this object
     FormModel& operator=(const FormModel&) = delete;
 
-    // True until the dialog has been accepted, and for good when it was closed in any other way.
+    // True unless the dialog has been accepted: while it is open, and after it was closed in any other way.
     bool Cancelled() const { return !accepted_; }
-    // What a control shows; empty for one that shows nothing or is not there.
+    // Returns what a control shows; empty if it shows nothing or is missing.
     std::string Text(std::string_view control) const;
 
     std::string FormName() const final { return formName_; }
     std::vector<DialogControl> Controls() const final;
     bool SetControl(std::string_view name, std::string_view text) final;
     bool Press(std::string_view button) final { return buttons_.Press(button); }
-    // False also for a button that the form does not have.
+    // False if the button is disabled, or if the form does not have it.
     bool IsEnabled(std::string_view button) const final { return buttons_.IsEnabled(button); }
     void CloseBox() override { Close(); }
     bool IsOpen() const final { return open_; }
@@ -93,17 +93,18 @@ class FormModel : public DialogModel {
   protected:
     explicit FormModel(std::string formName) : formName_(std::move(formName)) {}
 
-    // The rows in the order of the form, behind those already there. REQUIRES: no control has a name twice.
+    // Append rows, in the order of the form. REQUIRES: no two controls, and no two
+    // buttons, have the same name.
     void AddControls(std::vector<FormControl> controls);
     void AddButtons(std::vector<FormButton> buttons) { buttons_.Add(std::move(buttons)); }
 
-    // Ends the dialog.
+    // Closes the dialog.
     void Close() { open_ = false; }
-    // Ends it as the brewer wanted it; Cancelled is false from now on.
+    // Closes the dialog as accepted: Cancelled() is false from now on.
     void Accept();
 
   private:
-    // nullptr for a control that is not there.
+    // Returns nullptr if the control is missing.
     const FormControl* Find(std::string_view control) const;
 
     std::string formName_;

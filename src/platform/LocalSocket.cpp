@@ -24,7 +24,8 @@ bool IsOwn(const Descriptor& folder, struct stat& info) {
     return folder.IsOpen() && fstat(folder.Number(), &info) == 0 && info.st_uid == geteuid();
 }
 
-// "tunwright" below parent; empty when it belongs to somebody else, or cannot be made.
+// Returns the folder "tunwright" below parent, creating it if needed; empty if it belongs to another user or
+// cannot be created.
 std::string PrivateFolderIn(const std::string& parent) {
     struct stat info {};
     if (!parent.starts_with('/') || !IsOwn(OpenFolder(parent), info)) return {};
@@ -44,7 +45,7 @@ std::string CacheFolder() {
     return path;
 }
 
-// False when the name does not fit.
+// False if the path is too long for a socket address.
 bool MakeAddress(const Descriptor& folder, std::string_view name, sockaddr_un& address) {
     std::string path = "/proc/self/fd/" + std::to_string(folder.Number()) + "/";
     path += name;
@@ -85,7 +86,7 @@ Descriptor ConnectTo(const Descriptor& folder, std::string_view name, int timeou
     sockaddr_un address{};
     if (!MakeAddress(folder, name, address)) return Descriptor();
     Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    // A time of 0 would wait for ever.
+    // A timeout of 0 would mean to wait forever.
     const int milliseconds = timeoutMilliseconds > 0 ? timeoutMilliseconds : 1;
     const timeval limit{milliseconds / 1000, milliseconds % 1000 * 1000L};
     setsockopt(socket.Number(), SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);

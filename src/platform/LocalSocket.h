@@ -1,4 +1,4 @@
-// Sockets between the programs of one user on one machine.
+// Sockets between programs that one user runs on one machine.
 #pragma once
 
 #include <string>
@@ -8,21 +8,22 @@
 
 namespace tw {
 
-// The folder for the sockets and locks of this user's programs: "tunwright" below XDG_RUNTIME_DIR or, where
-// the session has none of its own, below the cache folder. It is made if it is missing, belongs to the user
-// and can be entered by nobody else. Empty when there is no such folder.
+// Returns the folder for the sockets and locks of this user's programs: "tunwright" below XDG_RUNTIME_DIR or,
+// if the user has no such directory, below the cache folder. The folder is created if it is missing, belongs
+// to the user, and is closed to all other users. Empty if there is no such folder.
 std::string RuntimeFolder();
 
-// A socket that listens under name in folder; what was there before goes. Not open when that fails. REQUIRES:
-// nobody else listens there.
+// Returns a socket that listens under name in folder; a leftover file of that name is deleted. The descriptor
+// is not open if this fails. REQUIRES: no other process is listening there.
 Descriptor ListenAt(const Descriptor& folder, std::string_view name);
-// A conversation with the one who listens there. Not open when nobody does, or when it has not been let in
-// after that time.
+// Connects to the process that listens under name in folder. The descriptor is not open if no process listens
+// there, or if the connection is not accepted within the timeout.
 Descriptor ConnectTo(const Descriptor& folder, std::string_view name, int timeoutMilliseconds);
-// True when the program at the other end of socket runs for the same user as this one.
+// True if the process at the other end of socket runs as the same user as this one.
 bool IsSameUser(int socket);
 
-// The folder itself, opened; the other functions go through it, since a socket's own path has to be short.
+// Opens the folder itself. The other functions reach their socket through this descriptor, because the path
+// of a socket must be short.
 Descriptor OpenFolder(const std::string& path);
 
 }  // namespace tw

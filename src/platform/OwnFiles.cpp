@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// As many as the system itself follows.
+// The number of links that the operating system follows, too.
 constexpr int kMostLinks = 40;
 
 bool SameFile(const std::string& a, const std::string& b) {
@@ -20,7 +20,7 @@ bool SameFile(const std::string& a, const std::string& b) {
     return first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
-// path, or a folder above it, is that folder.
+// True if path, or a folder above it, is folder.
 bool IsWithin(const fs::path& path, const std::string& folder) {
     for (fs::path at = path;; at = at.parent_path()) {
         if (SameFile(at.string(), folder)) return true;
@@ -44,7 +44,7 @@ std::string FollowLinks(const std::string& path) {
 
 void OwnFiles::AddDatabase(const std::string& path) {
     AddFile(path, "is the database of the recipes themselves");
-    // SQLite names them after the file that a link stands for.
+    // SQLite names these files after the target of a link, not after the link.
     for (const std::string& name : {path, FollowLinks(path)})
         for (const char* suffix : {"-journal", "-wal", "-shm"})
             AddFile(name + suffix, "belongs to the database of the recipes");

@@ -1,6 +1,6 @@
-// The files that the program itself lives on: the database with its journals, the settings, unsaved work.
-// Whatever the brewer has written (a report, a PDF file, an export, a picture) asks here first, so that none
-// of them ever takes the place of the recipes.
+// The files that the program itself depends on: the database with its journals, the settings, unsaved work.
+// Every file that the brewer asks for (a report, a PDF file, an export, a picture) is checked here before it
+// is written, so that it can never overwrite one of them.
 #pragma once
 
 #include <string>
@@ -12,7 +12,7 @@
 
 namespace tw {
 
-// The refusal of a file of the program's own.
+// Raised when one of the program's own files would be overwritten.
 class OwnFileError : public Error {
   public:
     OwnFileError(const std::string& path, std::string_view what)
@@ -20,19 +20,20 @@ class OwnFileError : public Error {
     static constexpr int kNumber = 5;  // SQLite's number for a file in use
 };
 
-// A file is the same by any path: through links of both kinds, ".." and other names of its folders.
+// The set of the program's own files. A file is recognised by any path that leads to it: through symbolic or
+// hard links, through "..", and through other names of its folders.
 class OwnFiles {
   public:
-    // The file and what the store keeps beside it, there or not.
+    // Adds the file and the journal files that SQLite keeps beside it, whether they exist or not.
     void AddDatabase(const std::string& path);
-    // what says what it is, as "is the file of the settings".
+    // Adds one file. what completes the sentence "'{path}' ... .", as in "is the file of the settings".
     void AddFile(const std::string& path, std::string_view what);
-    // Everything below the folder, which need not exist yet.
+    // Adds everything below the folder, which need not exist yet.
     void AddFolder(const std::string& path, std::string_view what);
-    // Takes back the last AddFile of just that path.
+    // Undoes the latest AddFile of exactly that path.
     void RemoveFile(const std::string& path);
 
-    // Raises OwnFileError, "'{path}' {what}.", when path is one of them.
+    // Raises OwnFileError, "'{path}' {what}.", if path is one of these files.
     void Check(const std::string& path) const;
 
   private:
@@ -44,7 +45,7 @@ class OwnFiles {
     std::vector<Entry> entries_;
 };
 
-// A file counts among the program's own for the time of a scope. REQUIRES: own outlives it.
+// Adds a file to the program's own files until the end of a scope. REQUIRES: own outlives it.
 class FileInUse {
   public:
     FileInUse(OwnFiles& own, std::string path, std::string_view what) : own_(own), path_(std::move(path)) {
@@ -59,11 +60,11 @@ class FileInUse {
     std::string path_;
 };
 
-// The absolute path that path stands for, every link followed, also one whose target is missing.
+// Returns the absolute path to which path leads after following every link, even one whose target is missing.
 std::string FollowLinks(const std::string& path);
 
-// What a window says below a message about a file that could not be written: the reason, and for a file of
-// the program's own what to do instead.
+// Returns the text below a message about a file that could not be written: the reason and, for one of the
+// program's own files, what to do instead.
 std::string FileAdvice(const Error& error);
 
 }  // namespace tw

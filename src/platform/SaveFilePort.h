@@ -1,4 +1,4 @@
-// The port to the dialog in which the brewer says where a file is to be saved.
+// The port to the dialog in which the brewer chooses where to save a file.
 #pragma once
 
 #include <optional>
@@ -8,17 +8,18 @@ namespace tw {
 
 struct SaveFileRequest {
     std::string title;
-    std::string extension;  // for a name typed without one, without the dot
-    // Kinds of files and their patterns in turn: "Text Files (*.TXT)|*.TXT|All Files (*.*)|*.*||".
+    std::string extension;  // without the dot; added to a name typed without one
+    // Kinds of files, each followed by its patterns: "Text Files (*.TXT)|*.TXT|All Files (*.*)|*.*||".
     std::string filter;
-    std::string name;         // the file to start on; may be empty
-    std::string folder = {};  // the folder to start in; the user's documents when it is empty or gone
+    std::string name;         // the file selected at first; may be empty
+    std::string folder = {};  // the folder shown at first; the user's documents if it is empty or missing
 };
 
 class SaveFilePort {
   public:
     virtual ~SaveFilePort() = default;
-    // The path chosen; nothing when it was called off. An existing file has been asked about.
+    // Returns the path chosen; nullopt if the brewer cancelled. Replacing an existing file
+    // has already been confirmed.
     virtual std::optional<std::string> AskSaveFile(const SaveFileRequest& request) = 0;
 };
 

@@ -1,4 +1,4 @@
-// What ends with a scope, even if an exception ends it.
+// Guards that act at the end of a scope, even if an exception ends it.
 #pragma once
 
 #include <utility>
@@ -18,7 +18,7 @@ class [[nodiscard]] ScopeGuard {
     Action action_;
 };
 
-// Gives a variable a value for the time of a scope, and then the one that it had before.
+// Sets a variable to a value for the duration of a scope, and then back to the value that it had before.
 template <typename Value>
 class [[nodiscard]] ScopedValue {
   public:

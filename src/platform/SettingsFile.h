@@ -1,13 +1,13 @@
-// The file that the brewer names for the settings when the program starts.
+// The check of a settings file that the brewer names when starting the program.
 #pragma once
 
 #include <string>
 
 namespace tw {
 
-// Raises an Error that says why and what to do when that file cannot hold the settings: it is the database, a
-// file of that one or any other database, a folder, a device or pipe. A missing file is fine. database is
-// what the program will open.
+// Raises Error, with the reason and the advice to choose another file, if settings cannot be used as the
+// settings file: it is the database or one of its journals, any other database, a folder, a device or a pipe.
+// A missing file is fine. database is the path that the program will open.
 void CheckSettingsFile(const std::string& settings, const std::string& database);
 
 }  // namespace tw

@@ -5,7 +5,7 @@
 namespace tw {
 namespace {
 
-// A value is read into 256 bytes that hold its terminator too.
+// Values are read into a buffer of 256 bytes that includes the terminator.
 constexpr std::size_t kLongestValue = 255;
 
 }  // namespace

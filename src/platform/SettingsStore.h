@@ -1,4 +1,4 @@
-// The store of settings: text values by section and key, the user's layer over the machine's.
+// The settings: texts by section and key, the user's layer over the machine's.
 #pragma once
 
 #include <string>
@@ -10,16 +10,17 @@ namespace tw {
 
 class SettingsStore {
   public:
+    // port must outlive the store.
     explicit SettingsStore(SettingsPort& port) : port_(port) {}
 
-    // The stored text, the user's before the machine's, or fallback. A value of over 255 bytes reads as not
-    // present.
+    // Returns the user's text, else the machine's, else fallback. A value of more than
+    // 255 bytes counts as missing.
     std::string GetSetting(std::string_view section, std::string_view key, std::string_view fallback) const;
-    // Stores the text for the user; with machineWide for the machine and, if that fails, for the user. A
-    // store that cannot be written ends silently.
+    // Stores the text for the user or, if machineWide, for the machine and only if that fails for the user.
+    // Reports no error if nothing could be written.
     void SaveSetting(std::string_view section, std::string_view key, std::string_view value,
                      bool machineWide) const;
-    // Forgets the user's text, so that the machine's or the default counts again.
+    // Deletes the user's text, so that the machine's text or the default applies again.
     void ForgetSetting(std::string_view section, std::string_view key) const;
 
   private:

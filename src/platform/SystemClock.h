@@ -1,4 +1,4 @@
-// The machine's own clock behind the clock port.
+// The clock port on the machine's own clock.
 #pragma once
 
 #include "platform/Ports.h"

@@ -17,13 +17,14 @@ namespace tw {
 namespace {
 
 constexpr mode_t kPermissions = 0777, kWriteBits = 0222, kUsual = 0666, kOwnerAlone = 0600;
-constexpr std::size_t kLongestName = 255;  // in bytes, of most file systems
+constexpr std::size_t kLongestName = 255;  // bytes, the limit of most file systems
 
 [[noreturn]] void Refuse(const std::string& name, const std::string& what, int number) {
     throw Error("TargetFile", "'" + name + "' " + what, number);
 }
 
-// What the system says of a file; nothing when it is missing. Other failures leave errno behind 0.
+// Returns the status of a file; nullopt if there is none. A missing file sets errno to 0, any other failure
+// leaves its reason there.
 std::optional<struct stat> StatusOf(const std::string& path) {
     struct stat status {};
     errno = 0;
@@ -44,7 +45,7 @@ std::string FolderOf(const std::string& path) {
     return slash == std::string::npos ? "." : path.substr(0, slash + 1);
 }
 
-// A fixed name, so that the next write of the same file finds what a killed one has left.
+// The name is fixed, so that the next write to the same target finds what a killed writer left behind.
 std::string BesideName(const std::string& path) {
     const std::string folder = FolderOf(path);
     std::string name = "." + path.substr(folder == "." ? 0 : folder.size()) + std::string(kUnderWay);
@@ -53,8 +54,8 @@ std::string BesideName(const std::string& path) {
     return folder + (folder == "." ? "/" : "") + name;
 }
 
-// The new file while it grows. It goes when it was not put in place. Every operation gives false when it
-// fails and leaves the reason in errno.
+// The new file while it is being written; deleted unless PutInPlace succeeded. Every operation returns false
+// if it fails, with the reason in errno.
 class BesideFile {
   public:
     explicit BesideFile(const std::string& target) : path_(BesideName(target)) {}
@@ -64,8 +65,8 @@ class BesideFile {
     BesideFile(const BesideFile&) = delete;
     BesideFile& operator=(const BesideFile&) = delete;
 
-    // Locks the file, so that a second writer of the same file knows a living one from what a killed one
-    // left.
+    // Creates the file and locks it, so that a second writer to the same target can tell a file still being
+    // written from the leftover of a killed writer.
     bool Make(mode_t mode) {
         for (int tries = 0; tries < kTries; ++tries) {
             Descriptor file(open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
@@ -73,7 +74,8 @@ class BesideFile {
                 if (errno != EEXIST || !RemoveLeftover()) return false;
                 continue;
             }
-            // A file system without locks gives none to the others either.
+            // A file system without locks refuses them to every writer, so only
+            // EWOULDBLOCK means another writer.
             const bool taken = flock(file.Number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
             if (taken || !IsFileAt(file.Number(), path_)) continue;
             file_ = std::move(file);
@@ -83,11 +85,11 @@ class BesideFile {
         return false;
     }
 
-    // The owner and the mode of the file that it replaces, as far as this user may give them.
+    // Copies owner and mode of the file to be replaced, where this user is permitted to.
     void TakeAfter(const struct stat& old) {
         if (fchown(file_.Number(), old.st_uid, old.st_gid) != 0 &&
             fchown(file_.Number(), static_cast<uid_t>(-1), old.st_gid) != 0)
-            errno = 0;  // the file is this user's then
+            errno = 0;  // the file then belongs to this user
         if (fchmod(file_.Number(), old.st_mode & kPermissions) != 0) errno = 0;  // a disk without modes
     }
 
@@ -102,7 +104,7 @@ class BesideFile {
         return true;
     }
 
-    // All of the file at path.
+    // Appends all of the file at path.
     bool Copy(const std::string& path) {
         const Descriptor from(open(path.c_str(), O_RDONLY | O_CLOEXEC));
         if (!from.IsOpen()) return false;
@@ -116,8 +118,8 @@ class BesideFile {
     }
 
     bool PutInPlace(const std::string& target) {
-        // Without the first sync a loss of power could leave the name with an empty file behind it, without
-        // the second one the old file under it.
+        // Without the first sync, a loss of power could leave an empty file under the name; without the
+        // second, the old file.
         if (!Sync(file_) || rename(path_.c_str(), target.c_str()) != 0) return false;
         file_.Close();
         const Descriptor folder(open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -127,12 +129,13 @@ class BesideFile {
   private:
     static constexpr int kTries = 10;
 
-    // A disk that knows no sync is as safe as it gets.
+    // A file system that does not support sync counts as synced: nothing safer is possible.
     static bool Sync(const Descriptor& file) {
         return fsync(file.Number()) == 0 || errno == EINVAL || errno == ENOTSUP;
     }
 
-    // False, with a reason, for what is not a leftover of this user, and while its writer lives.
+    // Deletes what a killed writer left behind. False, with the reason in errno, if the file is not this
+    // user's regular file or if its writer is still alive.
     bool RemoveLeftover() {
         const Descriptor old(open(path_.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
         if (!old.IsOpen()) return errno == ENOENT;
@@ -146,7 +149,7 @@ class BesideFile {
             errno = EBUSY;
             return false;
         }
-        // Its writer may have put it in place, and another one begun, since it was opened.
+        // Since the file was opened, its writer may have put it in place and another writer may have begun.
         return !IsFileAt(old.Number(), path_) || unlink(path_.c_str()) == 0;
     }
 
@@ -166,9 +169,10 @@ TargetFile::TargetFile(const std::string& path, const OwnFiles& own, Readers rea
         Refuse(path, std::string("cannot be written: ") + std::strerror(errno) + ".", errno);
     if (path.back() == '/' || (old && S_ISDIR(old->st_mode))) Refuse(path, "is a folder.", EISDIR);
     if (!old) return;
-    // Never opened to find out: that would wait for the other end of a pipe.
+    // Checked without opening: opening a pipe would wait for its other end.
     if (!S_ISREG(old->st_mode)) Refuse(path, "is not a file.", EINVAL);
-    // An administrator's process may write a file that its owner has locked against changes.
+    // Both checks are needed: access alone lets an administrator's process write a file
+    // that its owner has protected.
     if ((old->st_mode & kWriteBits) == 0 || faccessat(AT_FDCWD, path_.c_str(), W_OK, AT_EACCESS) != 0)
         Refuse(path, "is write-protected.", EACCES);
 }
@@ -183,7 +187,8 @@ void TargetFile::Append(std::string_view content) const {
 
 void TargetFile::Write(bool append, std::string_view content) const {
     const std::optional<struct stat> old = StatusOf(path_);
-    // Nobody reads what is to replace a private file before it has the mode of that.
+    // Until the new file has the mode of the file it replaces, only its owner may read it:
+    // the old one may be private.
     const mode_t mode = old || readers_ == Readers::OwnerAlone ? kOwnerAlone : kUsual;
     BesideFile file(path_);
     bool written = file.Make(mode);

@@ -1,5 +1,5 @@
-// A file that the program writes. The one way in which files come onto the disk, so that a crash, a full disk
-// or a loss of power leaves the old file or the new one, whole, and never a part of one under its name.
+// A file that the program writes. All files are written here, so that after a crash, a full disk or a loss of
+// power the old file or the new one is there, complete, and never a part of one under its name.
 #pragma once
 
 #include <string>
@@ -9,30 +9,31 @@
 
 namespace tw {
 
-// The end of the name of a file under way. What a killed program has left of one is written over by the next
-// write of the same file; it is hidden, and nothing else reads it.
+// The suffix of a file that is being written. A leftover of a killed program is replaced by the next write to
+// the same target; it is hidden, and nothing else reads it.
 inline constexpr std::string_view kUnderWay = ".tunwright.new";
 
 class TargetFile {
   public:
-    // Who may read a file that is made anew. An older one keeps its mode.
+    // Who may read a newly created file. An existing file keeps its mode.
     enum class Readers { AsUsual, OwnerAlone };
 
-    // Changes nothing on the disk. A link is followed and stays one. Raises OwnFileError for a file of the
-    // program's own, and an Error that names the file for one that is not to be written: an empty name, a
-    // folder, a device or pipe, a file that is write-protected.
+    // Changes nothing on the disk. A symbolic link is followed and remains a link. Raises OwnFileError for
+    // one of the program's own files, and an Error that names the file if it cannot be written: an empty
+    // name, a folder, a device or pipe, a write-protected file.
     TargetFile(const std::string& path, const OwnFiles& own, Readers readers = Readers::AsUsual);
 
-    // As it was given.
+    // The path as given to the constructor.
     const std::string& Name() const { return name_; }
-    // Behind all links.
+    // The absolute path, with all links followed.
     const std::string& Path() const { return path_; }
 
-    // Both write a file beside the old one, bring it onto the disk and then give it the name. Raise an Error,
-    // "'{name}' cannot be written: {reason}.", with the number of the system; the old file, or none, is there
-    // then, unless the folder alone could not be brought onto the disk.
+    // Replaces the content, creating the file if it is missing: writes a new file beside the old one,
+    // syncs it to the disk, then renames it. Raises Error, "'{name}' cannot be written: {reason}.",
+    // with the system's error number; the old file (or none) is then still there, unless only the
+    // sync of the folder failed.
     void Replace(std::string_view content) const;
-    // Adds to what the file holds; to nothing when it is missing.
+    // Appends to the content, creating the file if it is missing; otherwise as Replace.
     void Append(std::string_view content) const;
 
   private:

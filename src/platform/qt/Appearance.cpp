@@ -61,7 +61,7 @@ QFont FigureFont(QFont font) {
         font.setPointSizeF(font.pointSizeF() * kFigureSize);
     else
         font.setPixelSize(static_cast<int>(std::lround(font.pixelSize() * kFigureSize)));
-    // Digits of one width stand under each other; kerning would move them.
+    // Digits are equally wide and so line up in columns; kerning would shift them.
     font.setKerning(false);
     return font;
 }

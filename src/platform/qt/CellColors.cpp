@@ -5,7 +5,7 @@
 namespace tw {
 namespace {
 
-// How much of the text's colour a tint holds. A dark ground needs more of it to be seen.
+// The part of the text colour in a tint. A dark background needs more of it for the tint to be visible.
 constexpr double kCalculatedOnLight = 0.05, kCalculatedOnDark = 0.08;
 constexpr double kTotalOnLight = 0.10, kTotalOnDark = 0.16;
 constexpr double kReadable = 4.5;

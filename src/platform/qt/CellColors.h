@@ -1,5 +1,5 @@
-// The colours of the cells of a grid that are calculated: the brewer's own, and what stands for them until
-// they are chosen.
+// The colours of calculated cells in a grid: those that the brewer chose, or defaults in
+// place of colours never chosen.
 #pragma once
 
 #include <QColor>
@@ -7,13 +7,14 @@
 
 namespace tw {
 
-// Of a kind of cells. An invalid colour is one that the brewer never chose.
+// The background and text colour of one kind of cell. An invalid colour was never chosen by the brewer.
 struct CellColors {
     QColor ground, ink;
 };
 
-// How such cells are painted: a chosen colour exactly, in place of another a quiet tint of the palette, or
-// the text colour that can be read on a chosen ground. Both are valid.
+// Return the colours to paint with, both valid. A chosen colour is used exactly. A missing background becomes
+// a subtle tint of the palette; a missing text colour becomes the palette's, or black or white if that is not
+// readable on the background.
 CellColors CalculatedColors(const CellColors& chosen, const QPalette& palette);
 CellColors TotalColors(const CellColors& chosen, const QPalette& palette);
 

@@ -27,7 +27,7 @@ QSize ColorButton::sizeHint() const {
 void ColorButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // The focus ring stands clear of the colour, whatever that is.
+    // A gap separates the focus ring from the colour, so that it is visible beside any colour.
     const double ring = 2, gap = 2;
     if (hasFocus()) {
         painter.setPen(QPen(palette().color(QPalette::Highlight), ring));

@@ -1,4 +1,4 @@
-// A button that shows a colour and is pressed to choose another.
+// A button that shows a colour; the brewer presses it to choose another.
 #pragma once
 
 #include <QColor>
@@ -9,7 +9,7 @@ namespace tw {
 class ColorButton final : public QPushButton {
     Q_OBJECT
   public:
-    // what: the accessible name; the colour is its description.
+    // what is the accessible name; the accessible description is the colour.
     ColorButton(const QString& what, QWidget* parent);
 
     const QColor& Shown() const { return color_; }

@@ -1,4 +1,4 @@
-// The dialog in which a colour is chosen.
+// The dialog for choosing a colour.
 #pragma once
 
 #include <QColor>
@@ -12,7 +12,8 @@ namespace tw {
 class ColorChooser {
   public:
     virtual ~ColorChooser() = default;
-    // Starts on current. The colour chosen, or nothing when the dialog was cancelled.
+    // Shows the dialog with current selected. Returns the colour chosen, or nullopt
+    // if the dialog was cancelled.
     virtual std::optional<QColor> Choose(const QColor& current, const QString& title, QWidget* parent) = 0;
 };
 

@@ -58,7 +58,7 @@ void DesktopColors::SettingChanged(const QString& group, const QString& key, con
 void DesktopColors::Apply(bool dark) {
     if (themed_ || dark == dark_) return;
     dark_ = dark;
-    // An empty palette gives the system's back.
+    // An empty palette restores the system's palette.
     QApplication::setPalette(dark ? DarkPalette() : QPalette());
 }
 

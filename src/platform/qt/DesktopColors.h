@@ -1,5 +1,5 @@
-// Follows the desktop's choice of light or dark, also while the program runs. A desktop whose Qt theme brings
-// its own colours is left alone.
+// Follows the desktop's choice of light or dark colours, even while the program runs. A desktop whose Qt
+// theme is already dark is left alone.
 #pragma once
 
 #include <QDBusVariant>
@@ -10,9 +10,10 @@ namespace tw {
 class DesktopColors final : public QObject {
     Q_OBJECT
   public:
-    // Applies what the environment (GTK_THEME) says at once.
+    // Applies the choice in the environment variable GTK_THEME at once.
     DesktopColors();
-    // Asks the desktop and listens to it from now on. Returns at once; the answer comes with the event loop.
+    // Asks the desktop for its choice and listens for changes from now on. Returns at once; the answer
+    // arrives through the event loop.
     void Follow();
 
   private slots:
@@ -21,8 +22,8 @@ class DesktopColors final : public QObject {
   private:
     void Apply(bool dark);
 
-    bool themed_;        // the desktop's theme brings a dark palette by itself
-    bool dark_ = false;  // our dark palette is in force
+    bool themed_;        // the desktop's own theme is dark
+    bool dark_ = false;  // our dark palette is applied
 };
 
 }  // namespace tw

@@ -3,7 +3,7 @@
 namespace tw {
 namespace {
 
-// No line and no tool tip shows more of a text.
+// The limit, in UTF-16 units, of what the line, its tool tip and its accessible name show of a text.
 constexpr int kMostCharacters = 500;
 
 }  // namespace

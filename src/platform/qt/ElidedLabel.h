@@ -1,4 +1,5 @@
-// A line of text that may be longer than its place: it ends in three dots there, and its tool tip shows more.
+// A line of text that may be too long for its space: it is then cut short with an ellipsis,
+// and its tool tip shows more.
 #pragma once
 
 #include <QLabel>
@@ -8,7 +9,7 @@ namespace tw {
 class ElidedLabel final : public QLabel {
   public:
     explicit ElidedLabel(QWidget* parent);
-    // A line break shows as a blank.
+    // Sets the text. Line breaks are shown as spaces.
     void SetFullText(const QString& text);
 
   protected:

@@ -1,4 +1,4 @@
-// The desktop's dialog that asks for the name of a file.
+// The desktop's file dialog in place of the one that FileDialogModel describes.
 #pragma once
 
 #include <QFileDialog>
@@ -10,6 +10,7 @@ namespace tw {
 class FileDialog final : public QFileDialog {
     Q_OBJECT
   public:
+    // model must outlive the dialog.
     FileDialog(FileDialogModel& model, QWidget* parent);
 };
 

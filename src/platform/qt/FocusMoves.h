@@ -1,12 +1,12 @@
-// Which focus events are moves of the brewer from one field to another.
+// Distinguishes the brewer's moves between fields from other changes of focus.
 #pragma once
 
 #include <QFocusEvent>
 
 namespace tw {
 
-// False for a menu, a list that drops down, or another program or box in front: the field is neither entered
-// nor left then.
+// True if the brewer moved from one field to another. False for a menu, a drop-down list, or the activation
+// of another window or program: the field is then neither entered nor left.
 inline bool IsMove(const QFocusEvent& event) {
     return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason &&
            event.reason() != Qt::ActiveWindowFocusReason;

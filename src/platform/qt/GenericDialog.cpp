@@ -14,7 +14,7 @@
 namespace tw {
 namespace {
 
-// "txtNewOG" as "New OG".
+// Turns a control name into words: "txtNewOG" becomes "New OG".
 QString Spoken(const QString& controlName) {
     int start = 0;
     while (start < controlName.size() && controlName[start].isLower()) ++start;

@@ -1,4 +1,5 @@
-// The window of a form that has no window of its own: its controls in the form's order, under their names.
+// The window of a form that has no window class of its own: its controls in the form's order,
+// labelled with their names.
 #pragma once
 
 #include <QDialog>
@@ -21,7 +22,7 @@ class GenericDialog final : public QDialog {
 
   private:
     void AddControl(QFormLayout& form, const DialogControl& control);
-    // Presses the first of the buttons that the form has; the window goes when the model is done.
+    // Presses the first of these buttons that the form has. Closes the window if the model is then closed.
     void Press(const std::vector<std::string>& buttons);
     void ShowControls();
 

@@ -41,7 +41,7 @@ void GridHeader::paintSection(QPainter* painter, const QRect& rect, int section)
     if (isSortIndicatorShown() && sortIndicatorSection() == section) PaintSortMark(*painter, rect);
 }
 
-// A small arrow at the upper edge, where it takes no room from the text.
+// Draws a small arrow at the upper edge, where it takes no space from the text.
 void GridHeader::PaintSortMark(QPainter& painter, const QRect& rect) const {
     const double half = Unit(*this) * 0.6;
     const double middle = rect.center().x();
@@ -57,7 +57,7 @@ void GridHeader::PaintSortMark(QPainter& painter, const QRect& rect) const {
     painter.restore();
 }
 
-// Beyond the last column the header goes on, without text.
+// Also paints the space beyond the last column, without text.
 void GridHeader::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), palette().brush(QPalette::Button));

@@ -1,4 +1,4 @@
-// The header row of a grid: bold, flat, its texts over those of the cells.
+// The header row of a grid: bold, flat, with each text aligned like the cells below it.
 #pragma once
 
 #include <QHeaderView>
@@ -20,7 +20,7 @@ class GridHeader final : public QHeaderView {
     void PaintSortMark(QPainter& painter, const QRect& rect) const;
 };
 
-// Distance of a cell's text from the cell's edge, in pixels.
+// Returns the distance between a cell's text and its edge, in pixels.
 int CellPadding(const QWidget& widget);
 
 }  // namespace tw

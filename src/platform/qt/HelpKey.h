@@ -1,4 +1,4 @@
-// F1 in a window that is worked by a dialog's model.
+// The F1 key in a dialog window.
 #pragma once
 
 #include <functional>
@@ -8,10 +8,10 @@ class QDialog;
 
 namespace tw {
 
-// Shows the help of a form; tab is the position of the tab in front, from 1, or 0 in a window without tabs.
+// Shows the help of a form. tab is the number of the current tab, from 1, or 0 in a window without tabs.
 using HelpOpener = std::function<void(const std::string& form, int tab)>;
 
-// F1 without another key opens the help of the window from now on.
+// Calls open for form whenever F1 is pressed in the window without a modifier key.
 void InstallHelpKey(QDialog& window, const std::string& form, const HelpOpener& open);
 
 }  // namespace tw

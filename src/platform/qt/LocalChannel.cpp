@@ -14,14 +14,14 @@ namespace {
 constexpr char kStartLock[] = "QL-Tunwright-DDESync";
 constexpr char kNameLock[] = "Tunwright.lock";
 constexpr int kHeadBytes = 1 + static_cast<int>(sizeof(quint32));
-// Nobody is served for longer, and no more at a time.
+// Limits of one conversation's duration and of the number of conversations at a time.
 constexpr int kConversationMilliseconds = 10000;
 constexpr int kMostConversations = 64;
-// How long the holder of the name may take to listen no more and to end, and how often that is looked at.
+// How long the holder of the name may take to end after it has stopped listening, and how often to check.
 constexpr int kEndingMilliseconds = 5000;
 constexpr unsigned long kLookMilliseconds = 20;
 
-// One program that talks to this one. What it sends is worked off as it comes.
+// One program that talks to this one. Its frames are processed as they arrive.
 class Conversation {
   public:
     Conversation(QLocalSocket& socket, ChannelReceiver& receiver) : socket_(socket), receiver_(receiver) {}
@@ -76,12 +76,13 @@ QByteArray MakeFrame(char kind, std::string_view text) {
 }
 
 std::string DesktopName() {
-    // The display of a Wayland session may be a path. A name that no socket could have is cut.
+    // The display of a Wayland session may be a path. A name too long for a socket
+    // keeps only its last characters.
     constexpr int kLongest = 40;
     const char* const variable =
         qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? "DISPLAY" : "WAYLAND_DISPLAY";
     QByteArray name = qgetenv(variable).replace('/', '_');
-    // The screens of an X display are one desktop.
+    // All screens of an X display belong to one desktop, so ":0.1" is ":0".
     if (const qsizetype dot = name.lastIndexOf('.'); dot > name.lastIndexOf(':') && name.contains(':'))
         name.truncate(dot);
     return name.right(kLongest).toStdString();
@@ -156,7 +157,8 @@ void LocalChannel::Unregister() {
 ChannelPort::Sent LocalChannel::Send(ChannelMessage kind, std::string_view text, int timeoutMilliseconds) {
     if (text.size() > kMostFrameBytes) return Sent::Refused;
     QDeadlineTimer deadline(timeoutMilliseconds);
-    // Anew: the other program serves nobody for long, and the brewer may have looked at a box meanwhile.
+    // Connects anew each time: the other program ends a conversation after some seconds, and the brewer may
+    // have left a box open since the last message.
     other_.abort();
     if (!Connect(timeoutMilliseconds)) return Sent::NoAnswer;
     const QByteArray frames[] = {MakeFrame(kFrameOfTopic, kChannelTopic),
@@ -164,7 +166,7 @@ ChannelPort::Sent LocalChannel::Send(ChannelMessage kind, std::string_view text,
     for (const QByteArray& frame : frames) other_.write(frame);
     QByteArray answers;
     while (answers.size() < 2) {
-        // Waiting also sends what has not been sent.
+        // Waiting for a reply also sends any data still in the buffer.
         if (!other_.bytesAvailable() && !other_.waitForReadyRead(static_cast<int>(deadline.remainingTime())))
             return Sent::NoAnswer;
         answers += other_.readAll();

@@ -1,6 +1,6 @@
-// The channel between starts of the program, on a local socket and two locked files in the user's own folder.
-// A conversation is a row of frames, a kind, four bytes of length with the high byte first, and that many
-// bytes of text, each answered by a byte. The first frame names the topic.
+// The channel between running copies of the program, on a local socket and two lock files in the user's own
+// folder. A conversation is a sequence of frames: one byte for the kind, four bytes for the length (high byte
+// first) and that many bytes of text. Each frame is answered with one byte. The first frame names the topic.
 #pragma once
 
 #include <QByteArray>
@@ -18,18 +18,19 @@ inline constexpr char kChannelSocket[] = "Tunwright";
 inline constexpr char kFrameOfTopic = 'C';
 inline constexpr char kFrameTaken = '+';
 inline constexpr char kFrameRefused = '-';
-// A longer text is refused, and its conversation ended.
+// The longest text of a frame, in bytes. A longer text is refused and its conversation is ended.
 inline constexpr int kMostFrameBytes = 256 * 1024;
 
+// Returns the bytes of one frame.
 QByteArray MakeFrame(char kind, std::string_view text);
 
-// The display that the programs of this desktop share, as a part of a file's name: a user may have several
-// desktops, each with its own program. Empty without a display.
+// Returns the name of this session's display in a form that can be part of a file name. A user may have
+// several desktops, each with its own running program. Empty if there is no display.
 std::string DesktopName();
 
 class LocalChannel final : public ChannelPort {
   public:
-    // The names of the socket and of the locks end in desktop.
+    // desktop is appended to the names of the socket and of the lock files.
     explicit LocalChannel(const std::string& desktop = {});
     ~LocalChannel() override;
 
@@ -51,7 +52,7 @@ class LocalChannel final : public ChannelPort {
     Descriptor folder_;
     FileLock startLock_, nameLock_;
     QLocalServer server_;
-    QLocalSocket other_;  // the holder of the name
+    QLocalSocket other_;  // the connection to the holder of the name
 };
 
 }  // namespace tw

@@ -10,7 +10,7 @@
 namespace tw {
 namespace {
 
-// 3:1 to the ground at least, as every edge that tells where to click.
+// The colour of an edge. An enabled control, whose edge shows where to click, has a contrast of at least 3:1.
 QColor EdgeColor(const QPalette& palette, bool enabled) {
     return enabled ? HintColor(palette) : HairlineColor(palette);
 }
@@ -96,7 +96,7 @@ void ProgramStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    // A slider shows its focus by nothing else.
+    // A slider has no other sign of focus.
     if (control == CC_Slider && option->state.testFlag(State_HasFocus))
         PaintFocusableFrame(*painter, option->rect, option->palette, true, true);
 }

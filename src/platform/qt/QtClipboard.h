@@ -1,4 +1,4 @@
-// Plain text on the desktop's clipboard.
+// The clipboard port on the desktop's clipboard.
 #pragma once
 
 #include "platform/Ports.h"

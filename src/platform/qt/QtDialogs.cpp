@@ -12,7 +12,7 @@
 namespace tw {
 namespace {
 
-// A size is stored as "WIDTHxHEIGHT" in twips under the name of its form.
+// Each size is stored as "WIDTHxHEIGHT" in twips under the name of its form.
 constexpr std::string_view kSection = "Windows";
 
 }  // namespace
@@ -38,7 +38,7 @@ QSize QtDialogs::KeptSize(const QDialog& window) const {
 void QtDialogs::SetSize(QDialog& window) const {
     QSize wanted = KeptSize(window);
     if (wanted.isEmpty() && !window.testAttribute(Qt::WA_Resized)) {
-        // Qt stops at two thirds of the screen, which on a small one is less than the contents ask for.
+        // adjustSize() stops at two thirds of the screen, which may be too small for the contents.
         window.adjustSize();
         wanted = window.size().expandedTo(window.sizeHint());
     }
@@ -58,7 +58,8 @@ void QtDialogs::ShowModal(DialogModel& dialog) {
     const QSize opened = window->size();
     if (help_) InstallHelpKey(*window, dialog.FormName(), help_);
     window->exec();
-    // A size that nobody chose follows the screen and the font at the next time, too.
+    // Only a size that the brewer changed is stored; any other size is derived again
+    // from the screen and the font.
     if (window->size() != opened) KeepSize(*window);
     if (dialog.IsOpen()) dialog.CloseBox();
 }

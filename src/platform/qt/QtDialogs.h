@@ -1,5 +1,6 @@
-// Shows modal dialogs: each form by its name in a window of its own; a form without one in a plain list of
-// its controls. Every window comes up in the size that it was left in, as far as the screen has room for it.
+// Shows modal dialogs: each form in the window registered under its name, any other form in a
+// generic window that lists its controls. A window opens in the size in which the brewer left it, if
+// the screen has room for that.
 #pragma once
 
 #include <functional>
@@ -20,38 +21,38 @@ namespace tw {
 
 class QtDialogs final : public DialogPort {
   public:
-    // sizes: keeps the windows' sizes, from one run to the next; must outlive the object.
+    // sizes stores the windows' sizes between runs and must outlive the object.
     explicit QtDialogs(SettingsPort& sizes) : sizes_(sizes) {}
 
     using Factory = std::function<std::unique_ptr<QDialog>(DialogModel& model, QWidget* parent)>;
 
-    // Makes the windows of that form by factory from now on.
+    // From now on, creates the windows of that form with factory.
     void Register(std::string formName, Factory factory);
-    // Makes Windows for the Models of that form; a Window is constructed from the model, services and a
-    // parent. REQUIRES: every model of that form is a Model; services outlive the windows.
+    // Shows that form in a Window, constructed from the model, services and a parent. REQUIRES: every model
+    // of that form is a Model; services outlive the windows.
     template <class Model, class Window, class... Services>
     void RegisterForm(std::string formName, Services&... services) {
-        // The one place where a model is taken for what it is.
+        // The only place that casts a model to its actual type.
         Register(std::move(formName), [&services...](DialogModel& model, QWidget* parent) {
             return std::make_unique<Window>(dynamic_cast<Model&>(model), services..., parent);
         });
     }
-    // The same for a Model with a form name of its own.
+    // RegisterForm for a Model whose form name is Model::kFormName.
     template <class Model, class Window, class... Services>
     void Register(Services&... services) {
         RegisterForm<Model, Window>(Model::kFormName, services...);
     }
-    // What F1 does in every window from now on; nothing before.
+    // Sets what F1 does in every window shown from now on; without it F1 does nothing.
     void SetHelp(HelpOpener open) { help_ = std::move(open); }
-    // Returns when the window has been closed; the model is closed then, too.
+    // Returns once the window has been closed; the model is then closed, too.
     void ShowModal(DialogModel& dialog) override;
-    // The window of a model, not shown yet.
+    // Creates the window of a model without showing it.
     std::unique_ptr<QDialog> Make(DialogModel& dialog, QWidget* parent) const;
 
   private:
-    // Empty when none was kept.
+    // Returns an empty size if none was stored.
     QSize KeptSize(const QDialog& window) const;
-    // The size in which the window was left, or its first one, within the screen.
+    // Gives the window its stored size, or else its default size, limited to the screen.
     void SetSize(QDialog& window) const;
     void KeepSize(const QDialog& window) const;
 

@@ -9,9 +9,9 @@
 namespace tw {
 namespace {
 
-// The core ends a line of a message with "\r\n".
+// Returns a text of the core, whose lines end with "\r\n", for display.
 QString Lines(std::string_view text) {
-    // A name may be longer than a screen holds; the buttons below must be seen.
+    // A file name may be longer than the screen is wide, and the buttons below must stay visible.
     constexpr qsizetype kLongest = 600;
     return CutLines(ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")), kLongest);
 }
@@ -33,7 +33,7 @@ void QtMessages::ShowMessageWithAdvice(std::string_view title, std::string_view 
                                        std::string_view advice) {
     QMessageBox box(QApplication::activeWindow());
     Prepare(box, title, text);
-    // Qt's own second text would take the name of a file for markup.
+    // QMessageBox's own informative text would interpret a file name as markup.
     if (!advice.empty()) box.setText(Lines(text) + QStringLiteral("\n\n") + Lines(advice));
     box.setIcon(title.find("Error") == title.npos ? QMessageBox::Information : QMessageBox::Warning);
     box.setStandardButtons(QMessageBox::Ok);
@@ -48,11 +48,11 @@ Answer QtMessages::Ask(std::string_view title, std::string_view text, Question k
     box.setStandardButtons(isYesNo ? QMessageBox::Yes | QMessageBox::No
                                    : QMessageBox::Ok | QMessageBox::Cancel);
     if (kind == Question::YesNoCancel) box.addButton(QMessageBox::Cancel);
-    // What only asks for leave deletes, overwrites or discards: Enter alone does none of it.
+    // A YesNo question asks before deleting, overwriting or discarding: Enter alone must not do that.
     box.setDefaultButton(kind == Question::YesNo      ? QMessageBox::No
                          : kind == Question::OkCancel ? QMessageBox::Ok
                                                       : QMessageBox::Yes);
-    // Without this a question of two buttons could not be left by Escape.
+    // Without an escape button, a Yes/No box could not be closed with Escape.
     const bool closesWithNo = ClosingAnswer(kind) == Answer::No;
     box.setEscapeButton(closesWithNo ? QMessageBox::No : QMessageBox::Cancel);
     switch (box.exec()) {

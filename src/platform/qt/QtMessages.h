@@ -1,4 +1,4 @@
-// Message boxes and questions in Qt: the only place of the program that opens one.
+// Message boxes and questions in Qt. No other part of the program opens a message box.
 #pragma once
 
 #include "platform/Ports.h"

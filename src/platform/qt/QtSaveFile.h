@@ -1,4 +1,4 @@
-// The save dialog of the desktop.
+// The desktop's save dialog behind the port.
 #pragma once
 
 #include <QString>
@@ -12,10 +12,10 @@ class QtSaveFile final : public SaveFilePort {
     std::optional<std::string> AskSaveFile(const SaveFileRequest& request) override;
 };
 
-// The folder itself while it is there, else that of the user's documents, else the user's own.
+// Returns folder if it exists, else the user's documents folder, else the user's home folder.
 QString StartFolder(const std::string& folder);
 
-// The filter in Qt's form; patterns match whatever the case of an extension.
+// Converts a filter to Qt's form. Each pattern also matches in lower case.
 QString QtFilter(const std::string& filter);
 
 }  // namespace tw

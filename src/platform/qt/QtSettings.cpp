@@ -12,7 +12,7 @@ QString FromUtf8(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// A section is a group of the file, so a slash of its own must not open another one.
+// A section is a group in the file, so a slash in its name must be escaped or it would start a nested group.
 QString Name(std::string_view part) {
     return FromUtf8(part).replace('%', "%25").replace('/', "%2F");
 }
@@ -21,7 +21,7 @@ QString Path(std::string_view section, std::string_view key) {
     return Name(section) + '/' + Name(key);
 }
 
-// A value that a hand has written into the file without quotes is a list where it holds a comma.
+// QSettings reads an unquoted value with a comma, as edited by hand, as a list; this restores the text.
 QString TextOf(const QVariant& value) {
     if (value.typeId() == QMetaType::QStringList) return value.toStringList().join(", ");
     return value.toString();
@@ -32,7 +32,7 @@ QString TextOf(const QVariant& value) {
 QtSettings::QtSettings(std::unique_ptr<QSettings> user)
     : user_(std::move(user)),
       machine_(std::make_unique<QSettings>(QSettings::SystemScope, kOrganisation, kProgram)) {
-    // The layering is the store's own business.
+    // The layers are combined by SettingsStore, not by QSettings.
     user_->setFallbacksEnabled(false);
     machine_->setFallbacksEnabled(false);
 }

@@ -1,5 +1,6 @@
-// The settings store on QSettings: where each platform keeps a user's and a machine's settings, or an INI
-// file. Any text comes back letter for letter: values are stored as strings, whatever they look like.
+// The settings port on QSettings: the places where the platform keeps the settings of a user and of a
+// machine, or an INI file. Every text is read back exactly as written: values are stored as strings, whatever
+// they look like.
 #pragma once
 
 #include <QSettings>
@@ -11,14 +12,14 @@ namespace tw {
 
 class QtSettings : public SettingsPort {
   public:
-    // The user's settings over the machine's.
+    // Uses the user's settings over the machine's.
     static std::unique_ptr<QtSettings> OfUser();
-    // The INI file in place of the user's settings, over the machine's. The file is made by the first value
-    // that is stored; one that cannot be read is empty.
+    // Uses an INI file instead of the user's settings, over the machine's. The file is created when the first
+    // value is stored; a file that cannot be read counts as empty.
     static std::unique_ptr<QtSettings> OfFile(const std::string& path);
 
     std::optional<std::string> Read(Layer layer, std::string_view section, std::string_view key) override;
-    // The file is brought up to date when the program returns to its event loop, and when this object goes.
+    // The file is updated when the program returns to its event loop, and when this object is destroyed.
     bool Write(Layer layer, std::string_view section, std::string_view key, std::string_view value) override;
     void Remove(Layer layer, std::string_view section, std::string_view key) override;
 

@@ -1,4 +1,4 @@
-// Texts between the core (UTF-8) and Qt.
+// Conversions between texts of the core (UTF-8) and of Qt (UTF-16).
 #pragma once
 
 #include <QString>
@@ -15,7 +15,7 @@ inline std::string FromQt(const QString& text) {
     return text.toStdString();
 }
 
-// The text with "..." in the middle of each line that is longer than that.
+// Shortens each line longer than longest, in UTF-16 units, by replacing its middle with " … ".
 inline QString CutLines(const QString& text, qsizetype longest) {
     QStringList lines = text.split(QLatin1Char('\n'));
     for (QString& line : lines)
@@ -24,8 +24,8 @@ inline QString CutLines(const QString& text, qsizetype longest) {
     return lines.join(QLatin1Char('\n'));
 }
 
-// Places in a text, counted in code points by the core and in UTF-16 units by Qt. Places behind the text's
-// end become its end.
+// Convert positions in a text: the core counts code points, Qt counts UTF-16 units. A position beyond the end
+// of the text becomes its end.
 inline int CodePointPlace(const QString& text, int unit) {
     return static_cast<int>(QStringView(text).left(unit).toUcs4().size());
 }

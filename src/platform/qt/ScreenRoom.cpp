@@ -8,7 +8,7 @@
 namespace tw {
 namespace {
 
-// A title bar and thin edges.
+// The space assumed for a title bar and thin edges, in pixels.
 constexpr QSize kUsualFrame(10, 40);
 
 QSize FrameSize() {

@@ -1,4 +1,4 @@
-// How much of the screen a window may take when it comes up, the first time or in a size that was kept.
+// How much of the screen a window may use when it opens, in its default size or in a stored one.
 #pragma once
 
 #include <QRect>
@@ -7,15 +7,16 @@ class QWidget;
 
 namespace tw {
 
-// Where the window may lie on its screen, as QWidget::move and resize take it: what the panels of the desktop
-// leave free, smaller by the frame around a window. The screen of a window that has a parent is the parent's.
-// The frame is that of a window on the screen; where there is none yet, one of the usual size is assumed.
+// Returns the rectangle in which the window may be placed on its screen, in the coordinates of QWidget::move
+// and resize: the area that the desktop's panels leave free, reduced by the size of a window frame. A window
+// with a parent uses the parent's screen. The frame is measured on a window already shown; if there is none,
+// a usual size is assumed.
 QRect RoomOf(const QWidget& window);
 
-// Moves place into room, without its size where that fits and shrunk where it does not.
+// Returns place moved into room, and shrunk only if it does not fit.
 QRect FittedInto(const QRect& place, const QRect& room);
 
-// Gives the window that size, within its room and large enough for its contents.
+// Resizes the window to wanted, enlarged to its minimum size and then limited to its room.
 void ResizeIntoRoom(QWidget& window, const QSize& wanted);
 
 }  // namespace tw

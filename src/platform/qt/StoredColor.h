@@ -1,4 +1,4 @@
-// Colours between the settings, where blue, green and red stand from the highest byte down, and Qt.
+// Conversions between Qt's colours and those in the settings, which are integers of the form 0xBBGGRR.
 #pragma once
 
 #include <QColor>
@@ -12,7 +12,7 @@ inline QColor ColorOf(int stored) {
             static_cast<int>(value >> 16 & 0xFF)};
 }
 
-// An invalid colour for nothing stored.
+// Returns an invalid colour if nothing is stored.
 inline QColor ColorOf(std::optional<int> stored) {
     return stored ? ColorOf(*stored) : QColor();
 }

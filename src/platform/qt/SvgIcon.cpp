@@ -11,7 +11,7 @@
 
 #include "platform/qt/Appearance.h"
 
-// A resource of a static library is registered by hand, outside any namespace.
+// The resources of a static library must be registered explicitly, outside any namespace.
 static void RegisterIcons() {
     Q_INIT_RESOURCE(icons);
 }
@@ -21,7 +21,7 @@ namespace {
 
 constexpr double kDisabledOpacity = 0.38;
 
-// The sixteen classic colours that vanish or glare on a dark ground, and what stands there for them.
+// Those of the sixteen classic colours that vanish or glare on a dark background, each with its replacement.
 constexpr std::pair<const char*, const char*> kOnDark[] = {
     {"#ffffff", "#4a4642"}, {"#000080", "#8fc1ff"}, {"#008000", "#6fd36f"}, {"#800000", "#ff9a8f"},
     {"#008080", "#43b8b8"}, {"#808000", "#c9b35a"}, {"#c0c0c0", "#7d766f"}, {"#ffff00", "#ffe38a"},
@@ -32,7 +32,7 @@ QByteArray ReadSvg(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// The drawing in the colours of a palette: outlines take the text's colour.
+// Returns the drawing in the colours of a palette; "currentColor" becomes the palette's text colour.
 QByteArray Recolored(QByteArray svg, const QPalette& palette, SvgInk ink) {
     const QColor outline = palette.color(QPalette::Active, QPalette::ButtonText);
     if (ink == SvgInk::Classic && IsDark(palette))
@@ -49,7 +49,7 @@ class SvgIconEngine final : public QIconEngine {
             Render(*painter, rect);
             return;
         }
-        // Greyed as a whole, so that no part shines through another.
+        // Greyed as a whole, so that overlapping parts do not show through each other.
         const double scale = painter->device()->devicePixelRatioF();
         QImage picture(rect.size() * scale, QImage::Format_ARGB32_Premultiplied);
         picture.setDevicePixelRatio(scale);

@@ -1,4 +1,4 @@
-// Pictures drawn from the SVG files of the program, in the size and colours of the moment.
+// Icons drawn from the program's SVG files, in the size and colours needed at the moment.
 #pragma once
 
 #include <QIcon>
@@ -6,12 +6,12 @@
 
 namespace tw {
 
-// Whether a drawing is in the sixteen classic colours, which are changed on a dark ground, or in colours that
-// hold on light and dark ground alike. Outlines in "currentColor" take the text's colour in both.
+// Classic: drawn in the sixteen classic colours, some of which are replaced on a dark background. AsDrawn:
+// drawn in colours that suit light and dark backgrounds. In both, "currentColor" becomes the text colour.
 enum class SvgInk { Classic, AsDrawn };
 
-// The icon of an SVG file, such as ":/icons/tunwright.svg". Disabled it is greyed by opacity. An empty icon
-// when there is no such file.
+// Returns the icon of an SVG file, such as ":/icons/tunwright.svg", or an empty icon if there is no such
+// file. When disabled, it is drawn with reduced opacity.
 QIcon SvgIcon(const QString& path, SvgInk ink);
 
 }  // namespace tw
