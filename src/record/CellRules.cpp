@@ -15,7 +15,7 @@ constexpr CellRule Figure(std::string_view header, std::string_view pattern) {
     return {header, Computed, {}, Stored::No, Names::None, {}, pattern};
 }
 
-// A fermentable's columns; its heading and the catalogue of its names differ.
+// The columns of the two fermentable grids, which differ in the heading and in the list of names.
 constexpr std::array<CellRule, 6> Fermentables(std::string_view heading, Names names) {
     return {{{heading, AnyText, "NAME", Stored::Text, names},
              {"Amount (lbs)", Pounds, "AMOUNT", Stored::Quantity},
@@ -38,7 +38,7 @@ constexpr CellRule kHops[] = {
     Figure("IBU", "#.0"),
 };
 
-// The ions in their fixed order, with what an ion cell is in the grid.
+// The ions in their fixed order; all ion cells of a grid share one rule.
 constexpr std::array<std::string_view, kIons> kIonHeaders{
     "Calcium (Ca)", "Carbonate (CO3)", "Chloride (Cl)", "Magnesium (Mg)", "Sodium (Na)", "Sulfate (SO4)"};
 constexpr std::array<std::string_view, kIons> kIonColumns{"CA", "CO3", "CL", "MG", "NA", "SO4"};
@@ -56,7 +56,7 @@ constexpr auto kWater =
     WithIons({"", RowLabel}, {"Water Profile", AnyText, "PROFILE_NAME", Stored::Text, Names::Waters},
              {"", PlainNumber, {}, Stored::BareText, Names::None, "PPM/Gal"});
 constexpr std::string_view kWaterPrefixes[] = {"SRC_", "TRG_"};
-// Behind an ion cell stands what one gram of the salt adds to one gallon.
+// The number of an ion cell is what 1 gram of the salt adds to 1 US gallon, in PPM.
 constexpr auto kTreatment =
     WithIons({"Treatment", AnyText, "NAME", Stored::Text, Names::Salts},
              {"Amount (grams)", Grams, "AMOUNT", Stored::Quantity}, {"", Computed, "", Stored::Number});
@@ -112,7 +112,7 @@ void TreatmentCommitted(RecipeCalculator& calculator, Grid&, int row, int) {
 void TreatmentRemoved(RecipeCalculator& calculator, Grid&) {
     calculator.RecalcTreatment();
 }
-// A sugar's name alone moves no figure.
+// A change of the sugar's name alone affects no figure.
 void PrimingCommitted(RecipeCalculator& calculator, Grid&, int row, int col) {
     if (col != PrimingCol::Sugar) calculator.PrimingCommitted(row);
 }

@@ -1,5 +1,5 @@
-// What the cells of the grids are: the one list of all columns. Whoever shows, validates, looks up, sorts,
-// stores or prints a cell asks here.
+// The rules of the grids' cells: the only list of all columns. All code that shows, validates, looks up,
+// sorts, stores or prints a cell uses these rules.
 #pragma once
 
 #include <cstdint>
@@ -12,24 +12,24 @@ namespace tw {
 
 class RecipeCalculator;
 
-// What a cell of the column accepts from the brewer. The number behind a quantity is in the unit named.
+// What the brewer may enter into a cell of the column. A quantity's number is in the unit named.
 enum class CellTakes : std::uint8_t {
-    RowLabel,  // nothing: the fixed name of its row
-    Computed,  // nothing: a figure of the program
-    AnyText,   // no number behind it
+    RowLabel,  // nothing: the fixed name of the row
+    Computed,  // nothing: the program calculates the cell
+    AnyText,   // any text, without a number
     Pounds,
     Ounces,
     Grams,
     Percent,
-    Minutes,      // any text without a number in a dry-hopped row
+    Minutes,      // free text without a number in a dry-hopped row
     HopAmount,    // ounces, AAUs or IBUs (CellValue::Kind)
     HopForm,      // one of kHopForms; the number is its index
     PlainNumber,  // not negative, without a unit
     KegPsi,       // psi for which the keg has a carbonation
-    YesNo         // a check box
+    YesNo         // nothing but a check box
 };
 
-// The names that a cell's list offers.
+// The names offered by the drop-down list of a cell.
 enum class CellNames : std::uint8_t {
     None,
     Grains,
@@ -38,20 +38,20 @@ enum class CellNames : std::uint8_t {
     Sugars,
     Salts,
     Waters,
-    PitchedYeast,  // of the catalogue, in the rows whose action pitches one; no list drops down
-    UsedAdjuncts,  // those of the stored recipes
-    HopForms,      // a closed list: no other text
+    PitchedYeast,  // from the catalogue, in rows whose action pitches yeast; not dropped down
+    UsedAdjuncts,  // the adjuncts of the stored recipes
+    HopForms,      // the only texts that the cell accepts
     TimesToAdd,
     LogActions
 };
 
-// How a column is stored.
+// How a column is stored in the database.
 enum class CellStored : std::uint8_t {
     No,
     Text,
-    Quantity,  // text and number: the columns X and X_DATA
+    Quantity,  // text and number, in the columns X and X_DATA
     Number,    // the number alone
-    BareText,  // the text alone, which must be a number; NULL for a blank one
+    BareText,  // the text alone, which must be a number; NULL if blank
     Form,      // the index of a hop form
     Flag
 };
@@ -59,55 +59,57 @@ enum class CellStored : std::uint8_t {
 struct CellRule {
     std::string_view header;
     CellTakes takes = CellTakes::AnyText;
-    std::string_view column = {};  // of its table; empty for a cell that is not stored
+    std::string_view column = {};  // the name in its table; empty for a cell that is not stored
     CellStored stored = CellStored::No;
     CellNames names = CellNames::None;
-    std::string_view numberWord = {};  // what the messages of a PlainNumber call it
-    std::string_view pattern = {};     // how a computed number is shown
+    std::string_view numberWord = {};  // for a PlainNumber: the word for the number in messages
+    std::string_view pattern = {};     // for a Computed number: the format in which it is shown
 
-    // Words stand at the left, numbers at the right.
+    // True if the cells contain words, which are aligned left; numbers are aligned right.
     bool HoldsWords() const {
         return takes == CellTakes::RowLabel || takes == CellTakes::AnyText || takes == CellTakes::HopForm;
     }
     bool ReadOnly() const { return takes == CellTakes::RowLabel || takes == CellTakes::Computed; }
     bool CheckBox() const { return takes == CellTakes::YesNo; }
-    // Rows are sorted by the number behind the cell, by the state of a check box, or else by the text.
+    // True if rows are sorted by the cell's number or check state, false if by its text.
     bool SortsByNumber() const { return takes != CellTakes::AnyText && takes != CellTakes::HopForm; }
 };
 
-// Stands for the column where several cells of a row have changed.
+// Passed instead of a column when several cells of a row have changed.
 inline constexpr int kWholeRow = -1;
 
-// Where the rows of a grid are stored: as lines of a table,
+// Where the rows of a grid are stored: each row as a line of a table,
 struct LineTable {
     std::string_view name;  // empty for none
-    // A column that tells the lines of two grids apart, and its value for this grid; empty for none.
+    // A column that distinguishes the lines of two grids in one table, and its value for this grid; empty if
+    // the table belongs to one grid.
     std::string_view flagColumn = {};
     bool flag = false;
 };
-// or in the recipe's own row, a set of columns for each of the first rows: this stands before their names.
+// or else in the recipe's own row, with one set of columns for each of the first rows. These prefixes precede
+// the names of the columns.
 using ColumnPrefixes = std::span<const std::string_view>;
 
 struct GridRule {
     GridId id;
     std::string_view name;     // of the control
-    std::string_view caption;  // what the grid holds, for its window and for screen readers
+    std::string_view caption;  // describes the grid, in its window and for screen readers
     std::span<const CellRule> columns;
     LineTable lines;
     ColumnPrefixes prefixes = {};
-    int totalsRows = 0;         // rows behind the data that are no data
-    int leastDataRows = 0;      // a delete never leaves fewer
+    int totalsRows = 0;         // read-only rows after the data rows
+    int leastDataRows = 0;      // deleting rows never leaves fewer
     bool rowsCanChange = true;  // rows can be inserted and deleted
-    // The figures that follow a commit in that cell, without look-ups; col may be kWholeRow. nullptr for
-    // none.
+    // Calculates the figures that depend on the cell just committed, without looking up the catalogue; col
+    // may be kWholeRow. nullptr if there are none.
     void (*committed)(RecipeCalculator& calculator, Grid& grid, int row, int col) = nullptr;
-    // The figures that follow the removal of a row. nullptr for none.
+    // Calculates the figures that depend on a row just removed. nullptr if there are none.
     void (*removed)(RecipeCalculator& calculator, Grid& grid) = nullptr;
 };
 
 // All grids, in the order of GridId.
 std::span<const GridRule> GridRules();
-// Both in constant time.
+// Return the rule of a grid. Constant time.
 const GridRule& RuleOf(GridId id);
 inline const GridRule& RuleOf(const Grid& grid) {
     return RuleOf(grid.Id());

@@ -1,6 +1,6 @@
-// The plain objects behind the controls of a recipe window: text boxes, lists, option groups, buttons,
-// labels. They carry the names of the controls and are kept once; a window shows them and holds nothing of
-// its own. A change goes to the record's observer, if there is one.
+// Plain objects for the controls of a recipe window: text boxes, lists, option groups, buttons, labels. They
+// have the names of the controls and hold the only copy of their state; a window merely displays them. Each
+// change is reported to the observer of the record, if there is one.
 #pragma once
 
 #include <cstddef>
@@ -20,7 +20,7 @@ class Button;
 class ListBox;
 class OptionGroup;
 
-// Told of every change of a record's objects, after it has happened. Events are synchronous.
+// Notified of every change of a record's objects, synchronously and after the change.
 class RecordObserver {
   public:
     virtual ~RecordObserver() = default;
@@ -28,33 +28,33 @@ class RecordObserver {
     virtual void TextSelectionChanged(const TextBox&) {}
     virtual void LabelChanged(const Label&) {}
     virtual void ButtonChanged(const Button&) {}
-    // The entries or the selection of a list.
+    // The entries or the selection of the list have changed.
     virtual void ListChanged(const ListBox&) {}
     virtual void OptionChanged(const OptionGroup&) {}
     virtual void SwatchChanged(Rgb) {}
-    // Text, check state or emphasis of one cell.
+    // The text, check state or emphasis of one cell has changed.
     virtual void CellChanged(const Grid&, int /*row*/, int /*col*/) {}
-    // The row now numbered row has come, or the row that had this number has gone.
+    // A row was inserted and now has this index, or the row with this index was removed.
     virtual void RowInserted(const Grid&, int /*row*/) {}
     virtual void RowRemoved(const Grid&, int /*row*/) {}
     virtual void CurrentCellChanged(const Grid&) {}
-    // The grid was filled; its columns should use its width (FitGridColumns).
+    // The grid was filled anew; the window should fit the columns to its width (FitGridColumns).
     virtual void GridFilled(const Grid&) {}
 };
 
-// What the objects of one record share: the observer of the moment, or none.
+// Shared by all objects of one record: the current observer, or nullptr.
 struct RecordLink {
     RecordObserver* observer = nullptr;
 };
 
-// Selected characters of a text box, counted in code points; without a length the place of the caret.
+// A selection in a text box, in code points. With length 0, start is the position of the caret.
 struct TextSelection {
     int start = 0;
     int length = 0;
     bool operator==(const TextSelection&) const = default;
 };
 
-// Which text box of a recipe it is; RuleOf in FieldRules.h tells the rest.
+// Identifies a text box of a recipe; RuleOf in FieldRules.h describes it.
 enum class FieldId : std::uint8_t {
     Name,
     NumBatches,
@@ -76,8 +76,8 @@ enum class FieldId : std::uint8_t {
 };
 inline constexpr std::size_t kFields = 17;
 
-// A text box: the text shown, the last committed text, and the number behind the committed text in the
-// canonical unit.
+// A text box: the text shown, the last committed text, and the number of the committed text in the unit of
+// the box's rule (FieldRules.h).
 class TextBox {
   public:
     TextBox(RecordLink& link, FieldId id, std::string name, bool computed)
@@ -85,26 +85,26 @@ class TextBox {
 
     FieldId Id() const { return id_; }
     const std::string& Name() const { return name_; }
-    // A figure of the program that the brewer cannot type into.
+    // True if the program calculates the text and the brewer cannot type into the box.
     bool Computed() const { return computed_; }
     const std::string& Text() const { return text_; }
     bool Empty() const { return text_.empty(); }
     void SetText(std::string_view text);
 
-    // The text that the last commit accepted: how a commit sees that nothing changed, and what a bad entry
-    // goes back to.
+    // The text that the last commit accepted. A commit compares it to find out whether anything changed, and
+    // restores it after an invalid entry.
     const std::string& Committed() const { return committed_; }
     void SetCommitted(std::string_view text) { committed_ = text; }
 
-    // The record's number. It keeps its last value while the text is empty.
+    // The number. It keeps its last value while the text is empty.
     double Value() const { return value_; }
     void SetValue(double value) { value_ = value; }
-    // True if the number is not the one that the committed text tells: the gravity that a yeast gives, or
-    // that of a recipe stored elsewhere.
+    // True if the number differs from the one that the committed text would give, for example the gravity set
+    // by a yeast or stored with an imported recipe.
     bool HasOwnNumber() const { return ownNumber_; }
     void SetOwnNumber(bool ownNumber) { ownNumber_ = ownNumber; }
 
-    // The selection, clipped to the text.
+    // The selection, limited to the present text.
     TextSelection Selection() const;
     void Select(TextSelection selection);
 
@@ -147,7 +147,7 @@ class Button {
     bool enabled_;
 };
 
-// A drop-down list whose entries carry a number each.
+// A drop-down list. Each entry has a number (itemData) as well as a text.
 class ListBox {
   public:
     struct Entry {
@@ -159,12 +159,12 @@ class ListBox {
     const std::string& Name() const { return name_; }
     const std::vector<Entry>& Entries() const { return entries_; }
     int Selected() const { return selected_; }
-    // The text of the selected entry, empty without one.
+    // The text of the selected entry; empty if none is selected.
     const std::string& Text() const;
-    // Replaces the entries and selects one. REQUIRES: -1 <= selected < number of entries.
+    // Replaces the entries and selects one, or none with -1. REQUIRES: -1 <= selected < number of entries.
     void SetEntries(std::vector<Entry> entries, int selected);
     void Select(int index);
-    // The first entry with that item data, -1 when there is none.
+    // Returns the index of the first entry with that item data, or -1.
     int IndexOf(std::int64_t itemData) const;
 
   private:
@@ -174,10 +174,10 @@ class ListBox {
     int selected_ = -1;
 };
 
-// Which group of option buttons it is.
+// Identifies a group of option buttons.
 enum class OptionId : std::uint8_t { IbuMethod, Packaging };
 
-// A group of option buttons as one control; exactly one is set.
+// A group of option buttons as one control; exactly one button is chosen.
 class OptionGroup {
   public:
     OptionGroup(RecordLink& link, OptionId id, std::string name, std::vector<std::string> options)
@@ -186,9 +186,9 @@ class OptionGroup {
     const std::string& Name() const { return name_; }
     const std::vector<std::string>& Options() const { return options_; }
     int Selected() const { return selected_; }
-    // The name of the option that is set.
+    // The name of the chosen option.
     const std::string& Value() const { return options_[static_cast<std::size_t>(selected_)]; }
-    // Position of the option of that name, -1 when it is not of this group.
+    // Returns the index of the option of that name, or -1 if the group has none.
     int IndexOf(std::string_view option) const;
     // REQUIRES: 0 <= index < number of options.
     void Select(int index);

@@ -21,7 +21,7 @@ Reading<CellValue> AsCell(const Reading<double>& read) {
     return CellValue::Of(*read);
 }
 
-// kind: the number's word in the messages.
+// kind is the word for the number in the messages.
 Reading<CellValue> ReadPlainNumber(std::string_view text, std::string_view kind) {
     const std::optional<double> number = ParseReal(text);
     if (!number) return Refused("Please enter a valid " + std::string(kind) + " value");
@@ -29,7 +29,7 @@ Reading<CellValue> ReadPlainNumber(std::string_view text, std::string_view kind)
     return CellValue::Of(*number);
 }
 
-// Another word than those of the list is refused without a box: the editor offers no other.
+// The refusal has no message: the editor offers no word outside the list, so none is expected.
 Reading<CellValue> ReadHopForm(std::string_view text) {
     for (std::size_t i = 0; i < kHopForms.size(); ++i)
         if (SameName(text, kHopForms[i].name)) return CellValue::Of(static_cast<double>(i));
@@ -89,7 +89,7 @@ Reading<CellValue> ReadEntry(const Grid& grid, int row, int col, std::string_vie
         case CellTakes::Percent:
             return AsCell(ValidatePercent(text));
         case CellTakes::Minutes:
-            // The time of a dry-hopped row is free text without a value: days in the hopper, for instance.
+            // The time of a dry-hopped row is free text without a number, for example "5 days in the keg".
             if (grid.Checked(row, HopCol::DryHopped)) return CellValue{};
             return AsCell(ValidateMinutes(text));
         case CellTakes::HopAmount:
@@ -114,7 +114,7 @@ std::optional<double> NumberTold(const TextBox& box, std::string_view text) {
         const Reading<double> read = ReadEntry(box, text);
         if (read) return *read;
     } catch (const Error&) {
-        // An arithmetic fault tells no number, as a text that is refused.
+        // A text with an arithmetic fault has no number, like a text that is refused.
     }
     return std::nullopt;
 }
@@ -124,7 +124,7 @@ std::optional<CellValue> NumberTold(const Grid& grid, int row, int col, std::str
         const Reading<CellValue> read = ReadEntry(grid, row, col, text);
         if (read) return *read;
     } catch (const Error&) {
-        // As above.
+        // No number, as in the function above.
     }
     return std::nullopt;
 }

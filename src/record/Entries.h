@@ -1,5 +1,5 @@
-// What a text in a field or a cell of a recipe means: the number that it tells, or why it cannot stand there.
-// Nothing changes, and nothing is shown.
+// Reads the text of a recipe's field or cell: the number that it means, or why it cannot be accepted. These
+// readers change nothing and show no message.
 #pragma once
 
 #include <optional>
@@ -10,20 +10,22 @@
 
 namespace tw {
 
-// The number that text tells in that box, in the unit of its rule (FieldRules.h); the box's own number where
-// a text tells none. Raises for an arithmetic fault, such as a fraction with the denominator 0.
+// Returns the number that text means in that box, in the unit of the box's rule (FieldRules.h), or the
+// refusal of an invalid text. Free text has no number; for it, returns the box's present number. Raises Error
+// for an arithmetic fault such as a fraction with denominator 0.
 Reading<double> ReadEntry(const TextBox& box, std::string_view text);
-// What the cell would hold with that text, in the unit of its rule (CellRules.h); no value for a text without
-// a number. A blank text is always accepted and leaves the cell without a value. Raises as above.
+// Returns the value that the cell would have with that text, in the unit of its rule (CellRules.h), or the
+// refusal of an invalid text. The value is None for a text without a number; a blank text is always accepted
+// and gives None. Raises Error for an arithmetic fault.
 Reading<CellValue> ReadEntry(const Grid& grid, int row, int col, std::string_view text);
 
-// The same for a text that stands there already and may be damaged; nothing for one that is refused or breaks
-// a formula.
+// Return the number that ReadEntry would return. For texts that are stored already and may be damaged:
+// nullopt instead of a refusal or an arithmetic fault.
 std::optional<double> NumberTold(const TextBox& box, std::string_view text);
 std::optional<CellValue> NumberTold(const Grid& grid, int row, int col, std::string_view text);
 
-// Marks every field and every cell that the brewer can edit whose number is not the one that its text tells
-// (TextBox::HasOwnNumber, Cell::ownNumber). For a record whose texts and numbers came from elsewhere.
+// Update the "own number" marks (TextBox::HasOwnNumber, Cell::ownNumber) of one cell, or of every field and
+// every editable cell of a record whose texts and numbers were set separately, such as a loaded one.
 void MarkOwnNumbers(RecipeRecord& record);
 void MarkOwnNumber(Grid& grid, int row, int col);
 

@@ -9,7 +9,7 @@ namespace {
 using enum FieldTakes;
 using Stored = FieldStored;
 
-// Runs a chain that refuses nothing.
+// Runs a chain that never refuses the value.
 template <void (RecipeCalculator::*chain)()>
 Commit Run(RecipeCalculator& calculator) {
     (calculator.*chain)();

@@ -109,7 +109,7 @@ void Grid::RestoreCells(int row, const std::vector<Cell>& cells) {
 void Grid::InsertRow(int row) {
     rows_.insert(rows_.begin() + row, MakeRow());
     if (link_->observer) link_->observer->RowInserted(*this, row);
-    // The first row of an empty grid.
+    // This was the first row of an empty grid, so the current cell was in the header.
     if (currentRow_ < FixedRows()) SetCurrent(row, currentCol_);
 }
 

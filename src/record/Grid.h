@@ -1,6 +1,6 @@
-// One grid of a recipe apart from its window: a fixed header row, data rows, and the totals rows behind them.
-// A cell holds a text, the number behind it, a check state and emphasis. Rows and columns count from 0, the
-// header included.
+// One grid of a recipe without its window: a fixed header row, data rows, and totals rows at the end. A cell
+// has a text, the number of that text, a check state and emphasis. Row and column indexes start at 0, the
+// header row included.
 #pragma once
 
 #include <cstdint>
@@ -12,20 +12,22 @@
 
 namespace tw {
 
-// Which grid of a recipe it is; RuleOf in CellRules.h tells the rest.
+// Identifies a grid of a recipe; RuleOf in CellRules.h describes it.
 enum class GridId : std::uint8_t { Grain, Extract, Hops, Water, Treatment, Priming, Pressure, Adjuncts, Log };
 inline constexpr std::size_t kGrids = 9;
 
 enum class CheckState : std::uint8_t { None, Unchecked, Checked };
 
-// The number behind a cell. A hop amount is of one of three kinds; every other cell is a Number or nothing.
+// The value of a cell, in the unit of its rule (CellRules.h). A hop amount has one of three kinds: Number
+// (ounces), AAUs or IBUs; every other cell has a Number or None.
 struct CellValue {
     enum class Kind : std::uint8_t { None, Number, AlphaAcidUnits, BitternessUnits };
     Kind kind = Kind::None;
     double number = 0;
 
     static CellValue Of(double number) { return {Kind::Number, number}; }
-    // The stored text: the number, with "A" or "I" before it for AAUs and IBUs; "0" for nothing.
+    // Returns the form in which the value is stored: the number, preceded by "A" for AAUs and "I" for IBUs;
+    // "0" for None.
     std::string Text() const;
     bool operator==(const CellValue&) const = default;
 };
@@ -35,22 +37,22 @@ struct Cell {
     CellValue value;
     CheckState check = CheckState::None;
     bool bold = false;
-    bool ownNumber = false;  // the number is not the one that the text tells
+    bool ownNumber = false;  // the number differs from the one that the text would give
     bool operator==(const Cell&) const = default;
 };
 
 struct Column {
     std::string header = {};
-    bool readOnly = false;          // tagged "READONLY": the editor is refused
-    bool checkBox = false;          // cells hold a checked state and no text
-    std::string_view pattern = {};  // how a computed number is shown; empty shows the cell's text
-    bool label = false;             // names its rows: read-only, but nothing that is calculated
+    bool readOnly = false;          // tagged "READONLY": cannot be edited
+    bool checkBox = false;          // cells have a check state and no text
+    std::string_view pattern = {};  // the format of a computed number; empty to show the cell's text
+    bool label = false;             // names the rows: read-only, but not calculated
 };
 
-// How a cell is painted; the colours come from the settings.
+// How a cell is painted; the settings define the colours.
 enum class CellPaint : std::uint8_t { Plain, ReadOnly, Total };
 
-// A rectangle of cells, both corners included.
+// A rectangle of cells, including both corners.
 struct GridRange {
     int row1 = 0, col1 = 0, row2 = 0, col2 = 0;
     int Rows() const { return row2 - row1 + 1; }
@@ -64,12 +66,12 @@ class Grid {
         GridId id;
         std::string name;
         std::vector<Column> columns;
-        int totalsRows = 0;         // rows behind the data that are no data
-        int leastDataRows = 0;      // a delete never leaves fewer
+        int totalsRows = 0;         // read-only rows after the data rows
+        int leastDataRows = 0;      // deleting rows never leaves fewer
         bool rowsCanChange = true;  // rows can be inserted and deleted
     };
 
-    // Makes the header row and the totals rows; no data row yet.
+    // Creates the header row and the totals rows, but no data rows. link must outlive the grid.
     Grid(RecordLink& link, Layout layout);
 
     GridId Id() const { return layout_.id; }
@@ -77,7 +79,7 @@ class Grid {
     int Rows() const { return static_cast<int>(rows_.size()); }
     int Cols() const { return static_cast<int>(layout_.columns.size()); }
     static constexpr int FixedRows() { return 1; }
-    // The row behind the last data row.
+    // The index just past the last data row.
     int EndOfData() const { return Rows() - layout_.totalsRows; }
     int DataRows() const { return EndOfData() - FixedRows(); }
     bool IsDataRow(int row) const { return row >= FixedRows() && row < EndOfData(); }
@@ -91,53 +93,55 @@ class Grid {
     const std::string& Text(int row, int col) const { return At(row, col).text; }
     bool Empty(int row, int col) const { return At(row, col).text.empty(); }
     double Number(int row, int col) const { return At(row, col).value.number; }
-    // The number of the totals row, 0 for an empty cell.
+    // Returns the number in the last totals row, or 0 if that cell is empty.
     double Total(int col) const { return Empty(TotalsRow(), col) ? 0 : Number(TotalsRow(), col); }
     bool Checked(int row, int col) const { return At(row, col).check == CheckState::Checked; }
     bool IsCheckBox(int row, int col) const { return IsDataRow(row) && ColumnAt(col).checkBox; }
-    // True when the row or the column is tagged "READONLY".
+    // True if the row or the column is tagged "READONLY".
     bool IsReadOnly(int row, int col) const { return RowAt(row).readOnly || ColumnAt(col).readOnly; }
     bool IsReadOnlyRow(int row) const { return RowAt(row).readOnly; }
-    // The row's own paint; elsewhere the cells of read-only columns are ReadOnly, but for labels.
+    // Returns the row's own paint or, in a plain data row, ReadOnly for the cells of read-only
+    // columns other than labels.
     CellPaint Paint(int row, int col) const;
-    // What the cell shows: a computed number in its column's pattern, otherwise the text.
+    // Returns the text to display: a computed number in the format of its column, else the cell's text.
     std::string Shown(int row, int col) const;
 
     void SetText(int row, int col, std::string_view text);
     void SetValue(int row, int col, CellValue value) { Slot(row, col).value = value; }
-    // Whether the number is another one than the text tells (Cell::ownNumber).
+    // Sets Cell::ownNumber: whether the number differs from the one that the text would give.
     void SetOwnNumber(int row, int col, bool ownNumber) { Slot(row, col).ownNumber = ownNumber; }
-    // A computed number: its full text and the number behind it.
+    // Sets a computed number as the value, and its unrounded text as the text.
     void SetComputed(int row, int col, double number);
-    // Empties the text; the number becomes 0.
+    // Empties the text and resets the value to None.
     void Clear(int row, int col);
     void SetChecked(int row, int col, bool checked);
     void SetBold(int row, int col, bool bold);
     void SetRowPaint(int row, CellPaint paint) { rows_[static_cast<std::size_t>(row)].paint = paint; }
     void SetRowReadOnly(int row) { rows_[static_cast<std::size_t>(row)].readOnly = true; }
 
-    // A row's cells, and the same put back.
+    // A row's cells; RestoreCells puts such a copy back.
     const std::vector<Cell>& CellsOf(int row) const { return RowAt(row).cells; }
     void RestoreCells(int row, const std::vector<Cell>& cells);
 
-    // Puts an empty data row before the row of that number. REQUIRES: FixedRows() <= row <= EndOfData().
+    // Inserts an empty data row before the given row. REQUIRES: FixedRows() <= row <= EndOfData().
     void InsertRow(int row);
     // REQUIRES: IsDataRow(row).
     void RemoveRow(int row);
 
     int CurrentRow() const { return currentRow_; }
     int CurrentCol() const { return currentCol_; }
-    // Clips to the grid's cells below the header; to the header where there are none.
+    // Makes a cell the current one, limited to the cells below the header, or to the
+    // header if it is the only row.
     void SetCurrent(int row, int col);
-    // The selected cells; the current cell alone unless more were selected since it was made current.
+    // The selected cells: just the current cell, unless Select has selected more.
     GridRange Selection() const { return selection_; }
-    // Selects a rectangle, its corners in either order, clipped to the cells below the header; its first cell
-    // becomes the current one.
+    // Selects a rectangle, given by any two opposite corners and limited to the cells below the header; its
+    // top left cell becomes the current cell.
     void Select(GridRange range);
-    // Puts the data rows into another order: the row at place i comes from place order[i], both counted from
-    // 0 at the first data row. REQUIRES: a permutation of all data rows.
+    // Reorders the data rows: position i receives the row that was at position order[i], both counted from 0
+    // at the first data row. REQUIRES: order is a permutation of all data rows.
     void OrderRows(const std::vector<int>& order);
-    // Tells the window that the grid was filled anew.
+    // Notifies the observer that the grid was filled anew.
     void NotifyFilled() const;
 
   private:

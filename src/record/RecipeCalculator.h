@@ -1,7 +1,7 @@
 // Keeps the derived figures of one recipe record consistent: the row calculations, the column totals, the
-// figures, and the fixed chains that run when a field or a cell is committed. There is no dependency
-// mechanism: each chain is an ordered list of operations. A missing input shows as an empty figure, never as
-// a failure; only carbonation can refuse, and only arithmetic (a zero denominator) raises.
+// figures, and the chain of operations that runs after the commit of each field or cell. Dependencies are not
+// tracked: each chain is a fixed, ordered list. A missing input leaves a figure empty and is not an error;
+// only carbonation can refuse a value, and only arithmetic (a zero denominator, an overflow) raises Error.
 #pragma once
 
 #include <optional>
@@ -12,10 +12,10 @@
 
 namespace tw {
 
-// The title of the box for a temperature or pressure that leaves no carbonation.
+// The title of the message about a temperature or pressure at which no carbonation is possible.
 inline constexpr std::string_view kCarbonationFailed = "Error calculating carbonation";
 
-// The commands of the main window that a recipe steers.
+// The commands of the main window that a recipe enables and disables.
 class RecipeCommands {
   public:
     virtual ~RecipeCommands() = default;
@@ -27,59 +27,60 @@ class RecipeCommands {
 
 class RecipeCalculator {
   public:
-    // Holds references: record, commands and colors must outlive the calculator.
+    // record, commands and colors must outlive the calculator.
     RecipeCalculator(RecipeRecord& record, RecipeCommands& commands, const ColorTable& colors)
         : r_(record), commands_(commands), colors_(colors) {}
 
-    // The chains of the committed text boxes. Each expects the box's value and committed text to be the new
-    // ones.
+    // The chains after the commit of a text box. REQUIRES: the box already has its
+    // new value and committed text.
     void BoilVolCommitted();
     void TotalVolCommitted();
     void FinalVolCommitted();
     void ExtractCommitted();
     void HopExtractionCommitted();
     void FGCommitted();
-    // Refused when no non-negative carbonation exists at the temperature; nothing else was done then.
+    // Refused, with nothing changed, if no non-negative carbonation is possible at the temperature.
     Commit TempCommitted();
 
-    // The chains of the committed cells. The cell's text and value are the new ones.
-    // col may be kWholeRow.
+    // The chains after the commit of a cell. REQUIRES: the cell already has its new text and
+    // value. col may be kWholeRow.
     void FermentableCommitted(Grid& grid, int row, int col);
     void HopCommitted(int row);
     void PrimingCommitted(int row);
     void PressureCommitted();
-    // A row of gridTreatment got another amount or salt.
+    // Runs after the amount or the salt in a row of gridTreatment has changed.
     void TreatmentCommitted(int row);
 
-    // The chains of the option groups.
+    // The chains after the choice of an option.
     void IbuMethodChosen() { RecalcHops(); }
     void PackagingChosen();
 
-    // Row calculations; unless skipTotal, the column's total follows at once.
+    // Row calculations. Each updates the total of its column as well, unless skipTotal.
     void CalcPoints(Grid& grid, int row, bool useGrainExtraction, bool skipTotal);
     void CalcHCU(Grid& grid, int row, bool skipTotal);
     void CalcHopIBU(Grid& grid, int row, bool skipTotal);
     void CalcPrimingVolumes(int row, bool skipTotal);
     void UpdateTreatmentRow(int row, bool skipTotals);
 
-    // Column totals: the sum over the data rows whose cell has text, or an empty text when none has.
+    // Column totals: the sum over all data rows whose cell is not empty; empty if there is no such row.
     void TotalPoints(Grid& grid);
     void TotalHCU(Grid& grid);
     void TotalIBU(Grid& grid);
-    // Residual CO2 counts too; without it the total is empty. ShowCO2 follows.
+    // Includes the residual CO2 and is empty without it. Calls ShowCO2 at the end.
     void TotalPrimingVolumes();
     void UpdateTreatmentTotals();
-    // The amount cell of the totals row of gridGrain, gridExtract and gridHops.
+    // Updates the total amount in the totals row of gridGrain or gridExtract (pounds) or
+    // gridHops (ounces or AAUs).
     void ShowGridTotal(Grid& grid);
 
-    // Whole-grid loops.
+    // Recalculate all rows of a grid and its totals.
     void RecalcPoints(Grid& grid, bool useGrainExtraction);
     void RecalcHCU(Grid& grid);
     void RecalcHops();
     void RecalcPriming();
     void RecalcTreatment();
 
-    // Figures.
+    // Recalculate and show single figures.
     void CalcOG();
     void CalcBG();
     void CalcABV();
@@ -87,26 +88,28 @@ class RecipeCalculator {
     void CalcOGAndColor();
     void ShowIBU();
     void ShowCO2();
-    // Row "Treatment Needed" of gridWater (target less source), and the emphasis of the row of totals.
+    // Updates the row "Treatment Needed" of gridWater (target minus source) and the
+    // emphasis of the row of totals.
     void UpdateTreatmentNeeded();
-    // True if that keg pressure (psi) has non-negative volumes of CO2 at the recipe's temperature.
+    // True if that keg pressure (psi) gives a non-negative volume of CO2 at the recipe's temperature.
     bool HasKegVolumes(double psi) const;
-    // The keg's volumes from its pressure. False when the pressure has none at the temperature: the cell
-    // stays then.
+    // Calculates the keg's volumes of CO2 from its pressure. False if none are possible at the temperature;
+    // the cell is then unchanged.
     bool CalcKegVolumes();
-    // The keg's volumes and the residual CO2 of bottling. False, and nothing else was done, as
-    // CalcKegVolumes.
+    // Calculates the keg's volumes and the residual CO2 for bottling. False, with nothing changed, if
+    // CalcKegVolumes is false.
     bool CalcCarbonation();
 
-    // Whether the change-carbonation command makes sense.
+    // True if the command that changes the carbonation can do its work.
     bool CanEnableCO2() const;
 
-    // Points, colour, gravity and all that follows from them, after the fermentables have other amounts.
+    // Recalculates points, colour, gravity and all that depends on them, after amounts of
+    // fermentables have changed.
     void RecalcFermentables();
-    // Volumes of CO2 as they stand, 0 while they are unknown.
+    // Returns the present volumes of CO2, or 0 if they are unknown.
     double CO2Volumes() const;
 
-    // Sets the four scaling commands by the record's present figures.
+    // Enables or disables the four scaling commands according to the present figures.
     void RefreshCommands();
 
   private:

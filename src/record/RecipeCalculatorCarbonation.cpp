@@ -61,7 +61,7 @@ bool RecipeCalculator::HasKegVolumes(double psi) const {
 
 bool RecipeCalculator::CalcKegVolumes() {
     Grid& grid = r_.gridPressure;
-    // Without a temperature there is nothing to work with: the keg's volumes stay empty.
+    // Without a pressure or a temperature, the keg's volumes are unknown.
     if (grid.Empty(1, PressureCol::Pressure) || r_.txtTemp.Empty()) {
         grid.Clear(1, PressureCol::Volumes);
         return true;

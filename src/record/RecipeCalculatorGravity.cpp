@@ -18,8 +18,8 @@ void RecipeCalculator::CalcPoints(Grid& grid, int row, bool useGrainExtraction, 
         double efficiency = 1;
         if (useGrainExtraction) {
             if (r_.txtExtract.Empty()) {
-                // The total is left alone here, as designed: it empties when the extraction itself is
-                // committed.
+                // The total is deliberately left unchanged here: the commit of the extraction rate
+                // recalculates all rows and then empties the total.
                 grid.Clear(row, GrainCol::Points);
                 return;
             }

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kHopSockFactor = 0.9;
 
-// The factor of the row's form; an index beyond the table counts as whole leaf.
+// Returns the factor of the row's hop form and hop sock. A form beyond the table counts as whole leaf.
 double FormFactor(const Grid& grid, int row) {
     const auto index = static_cast<std::size_t>(grid.Number(row, HopCol::Form));
     const double factor = index < kHopForms.size() ? kHopForms[index].factor : 1.0;
@@ -23,7 +23,8 @@ void RecipeCalculator::CalcHopIBU(Grid& grid, int row, bool skipTotal) {
     const CellValue amount = grid.At(row, HopCol::Amount).value;
     const bool isIbu = amount.kind == Kind::BitternessUnits;
     const bool isAau = amount.kind == Kind::AlphaAcidUnits;
-    // An IBU row blanks out with the boil gravity too, although its number does not depend on it: intended.
+    // Without a boil gravity an IBU row is blank, too, although its number does not depend on it. This is
+    // kept on purpose, so that the results of recipes stay the same.
     const bool unknown = grid.Checked(row, HopCol::DryHopped) || grid.Empty(row, HopCol::Amount) ||
                          r_.txtBG.Empty() || r_.txtTotalVol.Empty() ||
                          (!isIbu && !isAau && grid.Empty(row, HopCol::AlphaAcid)) ||
@@ -93,7 +94,7 @@ void RecipeCalculator::ShowHopTotal() {
     for (int row = Grid::FixedRows(); row < hops.EndOfData(); ++row) {
         if (hops.Empty(row, HopCol::Amount)) continue;
         const CellValue amount = hops.At(row, HopCol::Amount).value;
-        // IBU rows stand beside either kind without disturbing the total.
+        // Rows in IBUs may be combined with either unit and are not counted.
         if (amount.kind == Kind::BitternessUnits) continue;
         const bool isAau = amount.kind == Kind::AlphaAcidUnits;
         (isAau ? anyAaus : anyOunces) = true;

@@ -1,4 +1,4 @@
-// What the brewing salts of a recipe add, and how near the water comes to its target.
+// The effect of a recipe's brewing salts, and how close the water comes to its target.
 #include <cmath>
 
 #include "platform/Error.h"
@@ -9,8 +9,8 @@
 namespace tw {
 namespace {
 
-// Both numbers have two decimals at most, so that a smaller difference is a trace of binary arithmetic:
-// exactly 2.5 PPM or 3% is close enough.
+// Tolerance for rounding errors of binary arithmetic. Both numbers have at most two decimals, so any smaller
+// difference is such an error; exactly 2.5 PPM or 3% counts as close enough.
 constexpr double kTrace = 1e-6;
 
 }  // namespace
@@ -26,7 +26,7 @@ void RecipeCalculator::UpdateTreatmentNeeded() {
     }
 }
 
-// Bold says that this ion's treatment is close enough.
+// Bold means that the treatment comes close enough to what this ion needs.
 void RecipeCalculator::MarkTreatmentTotal(int col) {
     Grid& water = r_.gridWater;
     const double needed = water.Number(WaterRow::Needed, col);
@@ -42,7 +42,7 @@ void RecipeCalculator::UpdateTreatmentRow(int row, bool skipTotals) {
             grid.SetText(row, col, "");
             continue;
         }
-        // The cell's own number is the salt's factor, so only the text is written.
+        // The number of the cell is the salt's factor and must stay, so only the text changes.
         double ppm =
             Divide(grid.Number(row, TreatmentCol::Amount) * grid.Number(row, col), r_.txtTotalVol.Value());
         grid.SetText(row, col, FormatQuantity(ppm, 0));

@@ -1,6 +1,6 @@
-// The recipe record: every text box, list, option group and grid of one open recipe under its control name.
-// Figures live in the text boxes (text, last committed text, number) and in the cells. An empty computed text
-// means that the figure cannot be computed yet; its number then keeps its last value.
+// The recipe record: every text box, list, option group and grid of one open recipe, by control name. The
+// figures are in the text boxes (text, last committed text, number) and in the cells. An empty text in a
+// computed box means that the figure cannot be calculated yet; its number then keeps its last value.
 #pragma once
 
 #include <array>
@@ -14,14 +14,15 @@
 
 namespace tw {
 
-// The constant table of hop forms; a row's form is an index into it.
+// The hop forms. A row stores its form as an index into this table. factor multiplies the
+// bitterness of whole leaf hops.
 struct HopForm {
     std::string_view name;
     double factor;
 };
 inline constexpr std::array<HopForm, 3> kHopForms{{{"Pellet", 1.15}, {"Plug", 1.1}, {"Leaf", 1.0}}};
 
-// Columns of the grids by meaning.
+// The columns of the grids.
 namespace GrainCol {
 enum : int { Name, Amount, Ppg, Points, Color, Hcu };
 }
@@ -56,18 +57,19 @@ class RecipeRecord {
     RecipeRecord(const RecipeRecord&) = delete;
     RecipeRecord& operator=(const RecipeRecord&) = delete;
 
-    // The one observer of the record, or nullptr.
+    // Sets the only observer of the record; nullptr for none. The observer must outlive
+    // the record or be replaced.
     void SetObserver(RecordObserver* observer) { link_.observer = observer; }
 
-    // Both in constant time.
+    // Constant time.
     TextBox& operator[](FieldId id) { return *textBoxes_[static_cast<std::size_t>(id)]; }
     Grid& operator[](GridId id) { return *grids_[static_cast<std::size_t>(id)]; }
-    // Look-up by control name; nullptr for a name that is not of that kind.
+    // Find a control by its name; nullptr if no control of that kind has this name.
     TextBox* FindTextBox(std::string_view name);
     Grid* FindGrid(std::string_view name);
     Button* FindButton(std::string_view name);
     Label* FindLabel(std::string_view name);
-    // The group that holds the option of that name, or that has that name itself.
+    // Finds the group with that name, or the group with an option of that name; nullptr if there is none.
     OptionGroup* FindOptionGroup(std::string_view name);
 
     const std::vector<TextBox*>& TextBoxes() const { return textBoxes_; }
@@ -80,7 +82,7 @@ class RecipeRecord {
     void SetSwatch(Rgb color);
 
   private:
-    RecordLink link_;  // before the controls, which refer to it
+    RecordLink link_;  // declared before the controls, which point to it
     Rgb swatch_;
 
   public:

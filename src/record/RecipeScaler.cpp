@@ -7,17 +7,17 @@
 namespace tw {
 namespace {
 
-constexpr int kDisplayDecimals = 0;  // two at most
+constexpr int kDisplayDecimals = 0;  // FormatQuantity rounds to two decimals at most
 constexpr int kGramDecimals = 3;
 
-// An amount of a cell: its rounded number, that number's text with the unit behind it.
+// Sets an amount: the cell's value, rounded, and its text with the unit appended.
 void PutAmount(Grid& grid, int row, int col, CellValue value, int decimals, std::string_view unit) {
     const std::string text = FormatQuantity(value.number, decimals).append(unit);
     grid.SetText(row, col, text);
     grid.SetValue(row, col, value);
 }
 
-// A volume's text is committed as it stands.
+// Sets a volume in gallons and commits its text.
 void PutVolume(TextBox& box, double gallons, std::string_view text) {
     box.SetValue(gallons);
     box.SetText(text);
@@ -69,8 +69,9 @@ std::optional<double> RecipeScaler::FinalVolumeFor(double newGallons) const {
     if (r_.txtFinalVol.Empty()) return std::nullopt;
     const double oldSize = r_.txtTotalVol.Value(), oldFinal = r_.txtFinalVol.Value();
     if (oldFinal == oldSize) return newGallons;
-    // What was lost between the two goes on top of the new size, so that the final volume becomes the larger
-    // one: intended.
+    // The loss between the two volumes is added to the new size instead of subtracted, so that the final
+    // volume becomes larger than the total volume. This is kept on purpose, so that the results of resizing
+    // stay the same.
     double volume = Finite(newGallons + oldSize - oldFinal);
     FormatQuantity(volume, kDisplayDecimals);
     return volume;
@@ -97,7 +98,7 @@ RecipeScaler::CO2Outcome RecipeScaler::ScalePressure(double volumes) {
     double psi = KegPressure(r_.txtTemp.Value(), volumes);
     if (psi < 0) return CO2Outcome::TooLow;
     const std::string text = FormatQuantity(psi, kDisplayDecimals) + " psi";
-    // As any pressure that is typed, it must have volumes.
+    // Like a pressure that is typed in, it must give a non-negative volume of CO2.
     if (!calculator_.HasKegVolumes(psi)) return CO2Outcome::Unreasonable;
     r_.gridPressure.SetText(1, PressureCol::Pressure, text);
     r_.gridPressure.SetValue(1, PressureCol::Pressure, CellValue::Of(psi));
@@ -118,7 +119,7 @@ RecipeScaler::CO2Outcome RecipeScaler::ScaleSugars(double volumes) {
     return CO2Outcome::Done;
 }
 
-// volumes: those that the sugars are to give.
+// volumes is the part that must come from the sugars.
 RecipeScaler::CO2Outcome RecipeScaler::FillFirstSugar(double volumes) {
     const Grid& grid = r_.gridPriming;
     for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row) {

@@ -1,4 +1,4 @@
-// A recipe's amounts for another size, strength, bitterness or carbonation.
+// Scales a recipe's amounts to another size, strength, bitterness or carbonation.
 #pragma once
 
 #include <optional>
@@ -9,26 +9,29 @@
 
 namespace tw {
 
-// Each amount is rounded to what its cell shows. The figures that follow from the amounts are the caller's to
-// work out, but for a grid's total of amounts and, of the sugars and the keg, the carbonation.
+// Each amount is rounded to the precision shown in its cell. The caller must recalculate the figures that
+// depend on the amounts, except that the total amount of a grid and the carbonation from sugars or keg
+// pressure are updated here.
 class RecipeScaler {
   public:
-    // Holds references: both must outlive the scaler.
+    // record and calculator must outlive the scaler.
     RecipeScaler(RecipeRecord& record, RecipeCalculator& calculator) : r_(record), calculator_(calculator) {}
 
-    // Multiply the amounts in a grid's rows. REQUIRES: gridGrain or gridExtract.
+    // Multiply the amounts in the rows of a grid by factor. REQUIRES for
+    // ScaleGrainGrid: gridGrain or gridExtract.
     void ScaleGrainGrid(Grid& grid, double factor);
     void ScaleHops(double factor);
     void ScaleTreatment(double factor);
 
-    // The final volume in gallons that another total volume leaves, as its box would show it; nothing while
-    // there is none.
+    // Returns the final volume in gallons after the total volume has changed to newGallons, rounded as its
+    // box shows it; nullopt if no final volume is given.
     std::optional<double> FinalVolumeFor(double newGallons) const;
-    // The volumes for another total volume in gallons, shown as sizeText. The boil volume follows if asked
-    // to.
+    // Changes the total volume to newGallons, shown as sizeText, and the final volume with it; if
+    // scaleBoilVol, also the boil volume in proportion.
     void ScaleVolumes(double newGallons, std::string_view sizeText, bool scaleBoilVol);
 
-    // Changes pressure or sugars so that the beer gets that many volumes of CO2; all but Done change nothing.
+    // Changes the keg pressure or the priming sugars so that the beer gets that many volumes of CO2. Any
+    // result but Done means that nothing was changed.
     enum class CO2Outcome { Done, TooLow, NoFermentable, Unreasonable };
     CO2Outcome ScaleCO2(double volumes);
 
