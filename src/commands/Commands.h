@@ -1,5 +1,5 @@
-// The commands of the main window: every menu item and toolbar button by its id. A new command is one id
-// here, its row in the table (Commands.cpp), and what it runs (shell/ShellActions.cpp).
+// The commands of the main window: every menu item and toolbar button, by id. To add a command, add its id
+// here, its row in the table (Commands.cpp), and the call that it makes (shell/ShellActions.cpp).
 #pragma once
 
 #include <cstddef>
@@ -10,7 +10,7 @@
 
 namespace tw {
 
-// In the order of the menus, separators included.
+// In the order of the menus, including separators.
 enum class CommandId : std::uint8_t {
     // The File menu
     FileNew,
@@ -88,60 +88,59 @@ enum class CommandId : std::uint8_t {
 };
 inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kCount);
 
-// How many recently used recipes the File menu can show.
+// The number of recently used recipes that the File menu can show.
 inline constexpr int kRecentSlots = 6;
-// The command of a recently used recipe. REQUIRES: 0 <= slot < kRecentSlots.
+// Returns the command of a recently used recipe. REQUIRES: 0 <= slot < kRecentSlots.
 constexpr CommandId RecentCommand(int slot) {
     return static_cast<CommandId>(static_cast<int>(CommandId::FileRecent0) + slot);
 }
 
-// The menus of the menu bar from left to right.
+// The menus of the menu bar, from left to right.
 enum class TopMenu : std::uint8_t { File, Edit, Tools, Window, Help };
 
 struct TopMenuRow {
     TopMenu id;
-    std::string_view name;     // control name
+    std::string_view name;     // of the control
     std::string_view caption;  // "&" marks the access key
-    CommandId first;           // its items run from here to the first one of the next menu
+    CommandId first;           // its items range from this one to the first of the next menu
 };
 
-// How a command starts, before anything has enabled or shown it.
+// The state of a command before anything has enabled or shown it.
 enum class Start : std::uint8_t { Enabled, Disabled, Hidden };
 
-// What must be there for a command to run. Every command needs the open database.
+// What a command requires to run. Every command requires an open database.
 enum class Needs : std::uint8_t { Database, ActiveRecipe };
 
 struct ToolButtonRow {
-    std::string_view key = {};  // empty for a command without a button
+    std::string_view key = {};  // empty if the command has no toolbar button
     std::string_view toolTip = {};
-    std::string_view image = {};  // the picture's name
-    bool twin = false;  // has a greyed picture for the time it is disabled, named with "Transparent" behind
-    int place = 0;      // the tens count the group, the ones the position in it
-    std::string_view tip = {};  // where the button does something else than the menu item; empty otherwise
+    std::string_view image = {};  // the name of the picture
+    bool twin = false;  // has a grey picture for its disabled state, named with "Transparent" appended
+    int place = 0;      // tens: the group on the toolbar; ones: the position in the group
+    std::string_view tip = {};  // status bar text, if the button does something else than the menu item
 };
 
 inline constexpr std::string_view kSeparator = "-";
 
 struct CommandRow {
     CommandId id;
-    std::string_view name;       // control name; a separator has one too
+    std::string_view name;       // of the control; separators have one, too
     std::string_view caption;    // "&" marks the access key; kSeparator for a separator
     std::string_view keys = {};  // "Ctrl+N"; empty for none
     Start start = Start::Enabled;
     Needs needs = Needs::Database;
-    bool commitsEntry =
-        false;  // an entry that is still being typed is committed first; a refused one calls it off
+    bool commitsEntry = false;  // commits an entry in progress first; does not run if that is refused
     bool checkable = false;
     std::string_view tip = {};  // one sentence for the status bar
     ToolButtonRow button = {};
 };
 
 std::span<const TopMenuRow> AllTopMenus();
-// In the order of their ids.
+// In the order of CommandId.
 std::span<const CommandRow> AllCommandRows();
 const CommandRow& RowOf(CommandId id);
 TopMenu MenuOf(CommandId id);
-// The command of that control name, for scripts and other outsiders; nothing for an unknown name.
+// Returns the command of that control name, for scripts and other programs; nullopt for an unknown name.
 std::optional<CommandId> FindCommandId(std::string_view name);
 
 }  // namespace tw

@@ -1,5 +1,5 @@
-// The commands of the popup menus: of the lists of folders and recipes (explorer, open and save dialog), of
-// the lists to choose recipes from, and of the colors in the options.
+// The commands of the popup menus: those of the lists of folders and recipes (explorer, open and save
+// dialog), of the lists for choosing recipes, and of the colors in the options.
 #pragma once
 
 #include <cstdint>
@@ -22,7 +22,7 @@ enum class PopupCommand : std::uint8_t {
     SmallIcons,
     List,
     Details,
-    ArrangeBy,  // one item a column
+    ArrangeBy,  // one menu item per column
     LineUp,
     SortAscending,
     SortDescending,
@@ -31,32 +31,32 @@ enum class PopupCommand : std::uint8_t {
 
 struct PopupRow {
     PopupCommand id;
-    std::string_view name;  // control name; of ArrangeBy without the index
-    const char* caption;    // "&" marks the access key; of ArrangeBy empty, it shows its column
+    std::string_view name;  // of the control; for ArrangeBy without the index
+    const char* caption;  // "&" marks the access key; empty for ArrangeBy, which shows the name of its column
 };
 
-// A command as it is run.
+// A command together with its argument.
 struct PopupChoice {
-    // Implicit, so that a command without a column stands for itself.
+    // Implicit, so that a command that needs no column can be passed as it is.
     PopupChoice(PopupCommand chosen, int arrangeColumn = 0) : command(chosen), column(arrangeColumn) {}
     PopupCommand command;
-    int column;  // of ArrangeBy, from 0; 0 otherwise
+    int column;  // for ArrangeBy, counted from 0; otherwise 0
     bool operator==(const PopupChoice&) const = default;
 };
 
-// The menus themselves, by their control names.
+// The control names of the menus themselves.
 inline constexpr const char* kListPopup = "mnuPopupList";  // of the explorer's list
 inline constexpr const char* kTreePopup = "mnuPopupTree";  // of the explorer's tree
 inline constexpr const char* kOpenSavePopup = "mnuPopup";  // of the open and save dialog's list
-inline constexpr const char* kViewMenu = "mnuView";        // a sub-menu of both
-inline constexpr const char* kArrangeMenu = "mnuArrange";  // likewise
+inline constexpr const char* kViewMenu = "mnuView";        // a submenu of kListPopup, kOpenSavePopup
+inline constexpr const char* kArrangeMenu = "mnuArrange";  // a submenu of the same two
 
-// NewFolder in the menu of the open and save dialog: no "New Style" stands beside it there, so that N is its
-// access key.
+// The caption of NewFolder in the menu of the open and save dialog. That menu has no "New Style" command, so
+// N is free as the access key.
 inline constexpr const char* kOpenSaveNewFolderCaption = "&New Folder";
 
 const PopupRow& RowOf(PopupCommand id);
-// The control name of the item, such as that of ArrangeBy with its column as the index.
+// Returns the control name of the menu item; for ArrangeBy with its column as the index.
 std::string NameOf(PopupChoice choice);
 
 }  // namespace tw
