@@ -6,7 +6,7 @@ namespace tw {
 
 namespace {
 
-// No column has this name: FOLDER_ID tells where a style stands.
+// Unlike the other lines, not the name of a column: the column with a style's folder is FOLDER_ID.
 constexpr std::string_view kFolderLine = "FOLDER=";
 
 }  // namespace
@@ -70,7 +70,7 @@ std::string ContentOf(const CatalogueEntry& entry) {
 }
 
 std::string_view ValuesOf(std::string_view content) {
-    // A value may hold any text, so that only the last line can be the folder's.
+    // A value may contain any text, line breaks included, so only the last line can be that of the folder.
     const std::size_t end =
         content.empty() ? std::string_view::npos : content.rfind('\n', content.size() - 2);
     const std::size_t last = end == std::string_view::npos ? 0 : end + 1;

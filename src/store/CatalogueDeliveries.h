@@ -1,6 +1,7 @@
-// What the product has delivered to a database: the table CATALOGUE_BASE, which remembers each row as it came
-// (SHEET the table, NAME the row's name, CONTENT its values), the style folders (CONTENT the ID), and in the
-// row of SHEET "CATALOGUE" which version and content of the files came last.
+// What releases of the program have delivered to a database. The table CATALOGUE_BASE remembers each
+// catalogue row as it was delivered (SHEET is the row's table, NAME its name, CONTENT its values) and
+// each style folder (CONTENT is its ID). The row with SHEET "CATALOGUE" holds the version and digest
+// of the files delivered last.
 #pragma once
 
 #include <map>
@@ -17,22 +18,23 @@ namespace tw {
 inline constexpr std::string_view kDeliveryTable = "CATALOGUE_BASE";
 inline constexpr std::string_view kDeliveredFolders = "FOLDERS";
 
-// The table, held in memory too.
+// The rows of CATALOGUE_BASE, cached in memory.
 class Deliveries {
   public:
-    // False for a database that no release with a memory of deliveries has seen.
+    // True if the database has the table CATALOGUE_BASE, which early releases did not create.
     static bool AreIn(Database& database);
     static void MakeTable(Database& database);
 
-    // REQUIRES: there is the table; database lives for as long.
+    // REQUIRES: the table exists; database outlives this object.
     explicit Deliveries(Database& database);
 
-    // Nothing for what was never delivered. Valid until that is remembered anew or forgotten.
+    // Returns what was delivered under that name, or nullptr. Valid until that row is
+    // remembered anew or forgotten.
     const std::string* Find(std::string_view sheet, const std::string& name) const;
     void Remember(std::string_view sheet, const std::string& name, const std::string& content);
-    // What was forgotten may be delivered again.
+    // Deletes the memory of a delivery, so that the row may be delivered again.
     void Forget(std::string_view sheet, const std::string& name);
-    // The names delivered of a sheet.
+    // Returns the names of all rows delivered for a sheet.
     std::vector<std::string> NamesOf(std::string_view sheet) const;
 
   private:
@@ -40,15 +42,15 @@ class Deliveries {
     std::map<std::pair<std::string, std::string>, std::string> contents_;
 };
 
-// What is remembered of a row: a line "COLUMN=literal" for each value, and for a style a last line with the
+// Returns the CONTENT of a row: a line "COLUMN=literal" for each value and, for a style, a last line with the
 // name of its folder.
 std::string ContentOf(const CatalogueEntry& entry);
-// The folder that a content names; empty for one without, as the first release remembered them.
+// Returns the folder named in a content; empty if there is none, as in contents that the first release wrote.
 std::string FolderOf(std::string_view content);
-// The lines of the values alone.
+// Returns the lines of the values, without that of the folder.
 std::string_view ValuesOf(std::string_view content);
-// Whether the row holds the values of content, column by column; a column that content does not know counts
-// as unchanged.
+// True if the row still has the values of content, column by column. A column missing from
+// content counts as unchanged.
 bool StandsAs(Database& database, const Recordset& row, std::string_view content);
 
 }  // namespace tw

@@ -34,8 +34,7 @@ class EntryMaker {
     EntryMaker& Number(std::string column, std::string_view header) {
         return Value(std::move(column), row_.Number(header));
     }
-    // The two columns and the two headers are those with "_LO" and "_HI", "_lo" and "_hi" behind the given
-    // words.
+    // Adds two columns: column and header are extended by "_LO" and "_lo", and by "_HI" and "_hi".
     EntryMaker& Range(const std::string& column, const std::string& header) {
         Number(column + "_LO", header + "_lo");
         return Number(column + "_HI", header + "_hi");
@@ -116,14 +115,14 @@ std::optional<std::int64_t> FoundTypeId(Database& database, const SqlValue& name
     return found.Fields(0).Integer();
 }
 
-// The value to write for a column: the ID where the entry names the type of a grain.
+// Returns the value to write for a column: for GRAIN_TYPE, the ID of the type that the entry names.
 SqlValue WrittenValue(Database& database, const CatalogueEntry& entry, const std::string& column,
                       const SqlValue& value) {
     if (column != kTypeOfGrain) return value;
     return GrainTypeId(database, value, entry.ValueOf("GRAIN"));
 }
 
-// The ID of the type of a grain; 0 for a row of another table and for a grain without one.
+// Returns the ID of a grain's type; 0 for a grain without a type and for a row of another table.
 std::int64_t TypeOfRow(Database& database, std::string_view table, const SqlValue& id) {
     if (table != "GRAINS") return 0;
     return database.OpenRecordset("SELECT GRAIN_TYPE FROM GRAINS WHERE ID = ?", {id}).Fields(0).Integer();

@@ -23,7 +23,7 @@ std::string Quoted(std::string_view text) {
     return quoted;
 }
 
-// What is wrong with the bytes of a line; empty when nothing is.
+// Returns what is wrong with the encoding of a line; empty if it is valid.
 std::string EncodingFault(std::string_view line) {
     while (!line.empty()) {
         const CodePoint front = FrontCodePoint(line);
@@ -38,7 +38,7 @@ std::string EncodingFault(std::string_view line) {
     return {};
 }
 
-// The checks of one file, in the order of its lines.
+// Reads and checks one file line by line.
 class Reader {
   public:
     Reader(CatalogueSheet& sheet, std::span<const CatalogueColumn> columns, CatalogueProblems& problems)
@@ -145,7 +145,7 @@ class Reader {
     void CheckName(const CatalogueRow& row) {
         const std::string& name = row.cells.front();
         if (IsBlank(name)) return;
-        // Some statements of the program put a name between double quotes.
+        // Some SQL statements of the program put a name between double quotes.
         if (name.find('"') != std::string::npos) Report("name " + Quoted(name) + " holds a double quote");
         std::string key = Upper(Trim(name));
         for (std::size_t at = 0; at < columns_.size(); ++at)

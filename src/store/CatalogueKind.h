@@ -1,5 +1,5 @@
-// The lists of the catalogue: the styles, the ingredients, the waters. What they are called and where their
-// rows are is told here alone.
+// The lists of the catalogue: styles, ingredients and waters. This is the only place that defines their names
+// and the tables that contain their rows.
 #pragma once
 
 #include <array>
@@ -8,26 +8,26 @@
 
 namespace tw {
 
-// In the order of the numbers by which a script names their pickers. Grains and extracts are told apart,
-// though they share a table.
+// In the order of the numbers by which scripts identify the pickers. Grains and extracts are two kinds,
+// although they share a table.
 enum class CatalogueKind : int { Style, Grain, Extract, Hop, Yeast, Water, Salt, Sugar };
 inline constexpr int kCatalogueKinds = 8;
 
-// The order in which database setup offers them.
+// The order in which database setup lists them.
 inline constexpr std::array<CatalogueKind, kCatalogueKinds> kSetupOrder = {
     CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Extract, CatalogueKind::Hop,
     CatalogueKind::Yeast, CatalogueKind::Sugar, CatalogueKind::Water,   CatalogueKind::Salt};
 
 struct CatalogueRowWords {
-    std::string_view word;       // one of the rows
-    std::string_view plural;     // the list, as database setup offers it
-    std::string_view picked;     // one of the rows, in the title of the picker
-    std::string_view table;      // holds the rows
-    std::string_view condition;  // that tells them from others in the table, behind a WHERE
-    std::string_view sheetWord;  // of the sheets of other names and of former rows
+    std::string_view word;       // one row: "hop variety"
+    std::string_view plural;     // the name of the list in database setup
+    std::string_view picked;     // one row, as the title of the picker names it
+    std::string_view table;      // the table with the rows
+    std::string_view condition;  // selects them from a shared table: the end of a WHERE clause
+    std::string_view sheetWord;  // their "kind" in the sheets of aliases and of former rows
 };
 
-// By kind.
+// Indexed by kind.
 inline constexpr std::array<CatalogueRowWords, kCatalogueKinds> kCatalogueWords = {{
     {"style", "Styles", "Style", "STYLES", "", "style"},
     {"grain", "Grains", "Grain", "GRAINS", " AND GRAIN", "fermentable"},
@@ -42,11 +42,11 @@ inline constexpr std::array<CatalogueRowWords, kCatalogueKinds> kCatalogueWords 
 constexpr const CatalogueRowWords& WordsOf(CatalogueKind kind) {
     return kCatalogueWords[static_cast<std::size_t>(kind)];
 }
-// What one of the rows is called: "style", "hop variety".
+// Returns the word for one row: "style", "hop variety".
 constexpr std::string_view WordOf(CatalogueKind kind) {
     return WordsOf(kind).word;
 }
-// The table that holds the rows.
+// Returns the name of the table with the rows.
 constexpr std::string_view TableOf(CatalogueKind kind) {
     return WordsOf(kind).table;
 }

@@ -10,11 +10,11 @@
 
 namespace tw {
 
-// Reads the files of folder (kCatalogueFiles), checks every row and writes them, in the order of the files'
-// lines, as one unit of work; each folder that a style names becomes a style folder directly under the root.
-// Style folders and styles get created as both their dates, or none. Returns everything that is wrong with
-// the files, by file and line; nothing is written unless that is empty. Raises the store's error when a
-// statement fails. REQUIRES: the catalogue tables of database are empty.
+// Reads and checks the files of folder (kCatalogueFiles) and inserts their rows, in the order of the lines,
+// as one unit of work. Each folder that a style names becomes a style folder directly below the root.
+// created, or NULL, is written as both dates of the style folders and styles. Returns all errors in the
+// files, by file and line; nothing is written unless there are none. Raises the store's error if a statement
+// fails. REQUIRES: the catalogue tables of database are empty.
 CatalogueProblems LoadCatalogue(const std::string& folder, Database& database,
                                 const std::optional<DateTime>& created);
 

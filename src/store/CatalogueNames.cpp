@@ -13,7 +13,8 @@ constexpr const char* kTables =
     "CREATE TABLE IF NOT EXISTS CATALOGUE_ALIASES (SHEET TEXT NOT NULL, ALIAS_KEY TEXT NOT NULL,"
     " ALIAS TEXT NOT NULL, NAME TEXT NOT NULL, PRIMARY KEY (SHEET, ALIAS_KEY)) WITHOUT ROWID;";
 
-// The headers of the three columns of facts; an empty one stands for a fact that the sheet does not hold.
+// Inserts the facts of one sheet. code, source and form are the headers of its columns; an empty header means
+// that the sheet has no such column.
 void WriteFacts(Database& database, std::string_view table, const CatalogueSheet& sheet,
                 std::string_view code, std::string_view source, std::string_view form) {
     const auto cell = [](const CatalogueRow& row, std::string_view header) {
@@ -50,7 +51,7 @@ std::optional<std::string> CatalogueNames::RowOf(CatalogueKind kind, std::string
     const Recordset alias = database_.OpenRecordset(
         "SELECT NAME FROM CATALOGUE_ALIASES WHERE SHEET = ? AND ALIAS_KEY = ?", sheetAndKey);
     if (!alias.AtEnd()) return NamedRow(kind, alias.Fields(0).Text());
-    // Some codes stand for several styles.
+    // Several styles may share a code, which then identifies none of them.
     std::optional<std::string> only;
     for (Recordset coded = database_.OpenRecordset(
              "SELECT NAME FROM CATALOGUE_FACTS WHERE SHEET = ? AND CODE = ?", sheetAndKey);

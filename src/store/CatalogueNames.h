@@ -1,14 +1,14 @@
-// What the rows of the catalogue are also called: trade names, older names, other spellings, codes of styles
-// and of products. It stands in two tables beside those of the catalogue, which the product fills and nobody
-// edits:
+// Other names of catalogue rows: trade names, older names, other spellings, codes of styles and of products.
+// They are stored in two tables that only the program fills and nobody edits:
 //
-// - CATALOGUE_FACTS: SHEET the table, NAME the row's name, CODE a style's or a product's code, SOURCE the
-//   guide of a style, the origin of a hop or the laboratory of a yeast, FORM the form of a hop or yeast;
-// - CATALOGUE_ALIASES: SHEET the table, ALIAS_KEY the other name in upper case, ALIAS as it is written, NAME
-//   the name of the row that it stands for.
+// - CATALOGUE_FACTS: SHEET is the row's table, NAME the row's name, CODE the code of a style or product,
+//   SOURCE the guide of a style, the origin of a hop or the laboratory of a yeast, FORM that of a hop or
+//   yeast;
+// - CATALOGUE_ALIASES: SHEET is the row's table, ALIAS_KEY the other name in upper case, ALIAS the other name
+//   as written, NAME the name of the row.
 //
-// Both name their rows as the product delivered them, so what they say of a row that its brewer has renamed
-// or removed leads nowhere. A database without the tables knows every row by its name alone.
+// Both tables use the names under which the rows were delivered, so entries for a row that the brewer has
+// renamed or deleted lead nowhere. In a database without these tables, every row has just its own name.
 #pragma once
 
 #include <map>
@@ -23,7 +23,7 @@
 
 namespace tw {
 
-// What the catalogue knows of a row beyond its columns. What it does not know is empty.
+// What is known about a row beyond its columns. Unknown facts are empty.
 struct CatalogueFacts {
     std::string code;    // "18B", "WLP001"
     std::string source;  // "Beer 2021", "Slovenia", "White Labs"
@@ -33,19 +33,20 @@ struct CatalogueFacts {
 
 class CatalogueNames {
   public:
-    // REQUIRES: database lives for as long. Nothing is kept: each call sees the database as it is.
+    // REQUIRES: database outlives this object. Nothing is cached: each call reads the database.
     explicit CatalogueNames(Database& database) : database_(database) {}
 
-    // The stored name of the row that typed stands for, without regard to case: the row of that name, else,
-    // also without regard to blanks at the ends, the one that it is an alias of, else the only one of that
-    // code. Nothing when there is no such row. A few look-ups by index.
+    // Returns the stored name of the row that typed means: the row of that name, else the row that has it as
+    // an alias, else the only row with that code. Case is ignored throughout, and spaces at the ends of
+    // aliases and codes are, too. nullopt if there is no such row. Takes a few indexed queries.
     std::optional<std::string> RowOf(CatalogueKind kind, std::string_view typed) const;
 
-    // The facts on all rows of the table of kind by Upper of their names; rows without any have no entry.
-    // Grains and extracts come together. For lists and for matching that needs all names at once.
+    // Returns the facts about all rows in the table of kind, keyed by Upper() of their names; rows without
+    // facts are absent. Grains and extracts, which share a table, are returned together. For code that needs
+    // all names at once, such as lists and matching.
     std::map<std::string, CatalogueFacts> FactsOf(CatalogueKind kind) const;
 
-    // The different sources of those facts, in alphabetical order.
+    // Returns the distinct non-empty sources of those facts, in alphabetical order.
     std::vector<std::string> SourcesOf(CatalogueKind kind) const;
 
   private:
@@ -55,7 +56,7 @@ class CatalogueNames {
     Database& database_;
 };
 
-// Makes the two tables if need be and replaces all that they hold by what the sheets say.
+// Creates the two tables if they are missing and replaces all their rows with those of the sheets.
 void WriteCatalogueNames(const CatalogueSheets& catalogue, Database& database);
 
 }  // namespace tw

@@ -19,7 +19,7 @@ constexpr std::array<std::string_view, 4> kFlocculations = {"Low", "Medium", "Hi
 constexpr std::array<std::string_view, 3> kGuides = {"Beer 2021", "Mead 2015", "Cider 2025"};
 constexpr std::array<std::string_view, 3> kHopForms = {"Pellet or leaf", "Cryo", "LUPOMAX"};
 constexpr std::array<std::string_view, 2> kYeastForms = {"Dry", "Liquid"};
-// Whether a row rests on published figures or on another collection's data alone.
+// Whether a row is based on published figures or only on another collection's data.
 constexpr std::array<std::string_view, 2> kBases = {"published", "secondary"};
 constexpr std::array<std::string_view, 2> kFates = {kGone, kMoved};
 
@@ -32,7 +32,7 @@ constexpr CatalogueColumn Required(std::string_view header) {
 constexpr CatalogueColumn Word(std::string_view header, Words words, bool required) {
     return {.header = header, .kind = CatalogueColumn::Kind::Word, .required = required, .words = words};
 }
-// A name may stand once for each of the words.
+// A column of words; a name may occur once for each word.
 constexpr CatalogueColumn PartingWord(std::string_view header, Words words) {
     CatalogueColumn column = Word(header, words, true);
     column.partsNames = true;
@@ -52,8 +52,10 @@ constexpr CatalogueColumn Ion(std::string_view header) {
     return Number(header, 0, 10000, true);
 }
 
-// The bounds of the numbers are wide; they catch a misplaced decimal point or a unit mixed up, such as
-// degrees Celsius.
+// The bounds of the numbers are wide: they only catch a misplaced decimal point or a wrong unit, such as
+// degrees Celsius. Units: ppg in points per pound per US gallon, colour of grains in degrees Lovibond and of
+// styles in SRM, temp in degrees Fahrenheit, og and fg in specific gravity, co2 in volumes, ions in PPM
+// (waters) or in PPM that one gram adds to one US gallon (salts).
 constexpr std::array kGrainTypeColumns = {Required("name"), Word("kind", kKinds, true)};
 constexpr std::array kGrainColumns = {Required("name"),
                                       Word("kind", kKinds, true),
@@ -67,7 +69,7 @@ constexpr std::array kGrainColumns = {Required("name"),
 constexpr std::array kHopColumns = {
     Required("name"),    Text("usage"),       Text("origin"),      Word("form", kHopForms, false),
     Percent("alpha_lo"), Percent("alpha_hi"), Text("description"), Word("basis", kBases, false)};
-// Strains for low alcohol ferment little: 10 percent are plausible, less is not.
+// Strains for low-alcohol beer attenuate little: 10 percent is plausible, less is not.
 constexpr double kLeastAttenuation = 10;
 constexpr std::array kYeastColumns = {Required("name"),
                                       Text("laboratory"),
@@ -82,7 +84,7 @@ constexpr std::array kYeastColumns = {Required("name"),
                                       Text("short_description"),
                                       Text("description"),
                                       Word("basis", kBases, false)};
-// Water profiles and salts alike.
+// Used for both water profiles and salts.
 constexpr std::array kIonColumns = {Required("name"), Ion("ca"), Ion("co3"), Ion("cl"),
                                     Ion("mg"),        Ion("na"), Ion("so4"), Text("description")};
 constexpr std::array kSugarColumns = {Required("name"), Percent("fermentable_lo"), Percent("fermentable_hi"),
@@ -142,7 +144,8 @@ void CheckWaterProfiles(const CatalogueSheets& catalogue, CatalogueProblems& pro
     }
 }
 
-// A brew log entry holds a yeast's name with " - " and more behind it, and is cut there again.
+// A brew log entry consists of the yeast's name, " - " and further text, and the name
+// is cut off at " - " again.
 void CheckYeastNames(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
     for (const CatalogueRow& row : catalogue.yeast.rows) {
         const std::string& name = row.Text("name");
@@ -151,7 +154,7 @@ void CheckYeastNames(const CatalogueSheets& catalogue, CatalogueProblems& proble
     }
 }
 
-// Two spellings of a folder's name are the same folder to the program, so one of them is a slip.
+// The program treats two spellings of a folder's name as the same folder, so one of them is a mistake.
 void CheckFolders(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
     std::map<std::string, std::string> spelling;
     for (const CatalogueRow& row : catalogue.styles.rows) {
@@ -174,7 +177,7 @@ const CatalogueSheet& SheetOf(const CatalogueSheets& catalogue, std::string_view
 
 using NamesOfTables = std::map<std::string_view, std::set<std::string>>;
 
-// An alias that is a row's own name would never be looked at.
+// An alias that is also the name of a row would never be looked up.
 void CheckAliases(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
     NamesOfTables exact, upper;
     for (const std::string_view word : kNameKinds) {

@@ -1,4 +1,4 @@
-// The product's catalogue as its files hold it: one folder of ten sheets, read and checked as a whole.
+// The program's catalogue as it is delivered in files: one folder of ten sheets, read and checked as a whole.
 #pragma once
 
 #include <array>
@@ -9,35 +9,35 @@
 
 namespace tw {
 
-// The words of the columns called "type" of styles and yeasts. The place of a word is its code in the TYPE
-// columns of the database.
+// The words in the "type" columns of styles and yeasts. The index of a word is its number in the TYPE columns
+// of the database.
 inline constexpr std::array<std::string_view, 5> kYeastTypes = {"Ale", "Lager", "Wheat", "Lactic",
                                                                 "Wine/Mead/Cider"};
 
-// The words of the columns called "kind" of aliases and of former rows.
+// The words in the "kind" columns of aliases and former rows.
 inline constexpr std::array<std::string_view, 7> kNameKinds = {"fermentable", "hop",   "yeast", "style",
                                                                "salt",        "sugar", "water"};
-// The table with the rows that such a word means; empty for any other word.
+// Returns the table that contains the rows of that kind; empty for an unknown word.
 std::string_view TableOfNameKind(std::string_view word);
 
-// The words of the column "fate" of former rows: what became of a row that an earlier release delivered.
+// The words in the "fate" column of former rows: what happened to a row that an earlier release delivered.
 inline constexpr std::string_view kGone = "gone";
-inline constexpr std::string_view kMoved = "moved";  // a style, into another folder
+inline constexpr std::string_view kMoved = "moved";  // only for styles: moved to another folder
 
 // The sheets of one folder.
 struct CatalogueSheets {
     CatalogueSheet grainTypes, grains, hops, yeast, waters, salts, sugars, styles;
     CatalogueSheet aliases;  // other names of rows
-    CatalogueSheet former;   // rows that earlier releases delivered otherwise
+    CatalogueSheet former;   // rows that earlier releases delivered but that are gone or moved now
 };
 
-// The files of one folder: those of the sheets in the order in which they are read.
+// The files of the sheets, in the order in which they are read.
 inline constexpr std::array<const char*, 10> kCatalogueFiles = {
     "grain_types.tsv", "grains.tsv", "hops.tsv",   "yeast.tsv",   "water_profiles.tsv",
     "salts.tsv",       "sugars.tsv", "styles.tsv", "aliases.tsv", "former.tsv"};
 
-// Reads those files of folder and checks every row, also against the rows of the other files that it names.
-// Everything wrong goes to the end of problems.
+// Reads the files of folder and checks every row, including its references to rows of other files. Appends
+// all errors to problems.
 CatalogueSheets ReadCatalogue(const std::string& folder, CatalogueProblems& problems);
 
 }  // namespace tw

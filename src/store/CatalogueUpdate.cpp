@@ -20,7 +20,7 @@ namespace {
 constexpr std::string_view kRelease = "CATALOGUE";
 constexpr std::string_view kStyles = "STYLES";
 
-// Which state of the files came into a database.
+// Identifies a state of the catalogue files.
 struct Release {
     int version = 0;
     std::string digest;
@@ -43,7 +43,8 @@ std::optional<std::string> ReadFile(const std::string& path) {
     return bytes.str();
 }
 
-// The hash of all bytes of the files tells one state of them from another.
+// Returns the release of the files in folder; nullopt if one of them is missing. Its digest is a hash over
+// all bytes of the sheets.
 std::optional<Release> ReleaseOf(const std::string& folder) {
     std::uint64_t hash = kEmptyHash64;
     for (const char* name : kCatalogueFiles) {
@@ -59,7 +60,8 @@ std::optional<Release> ReleaseOf(const std::string& folder) {
     return release;
 }
 
-// The release that came last; nothing when none is remembered, as after a first look that was broken off.
+// Returns the release delivered last; nullopt if none is remembered, for example
+// because the first update failed.
 std::optional<Release> LastRelease(Database& database) {
     if (!Deliveries::AreIn(database)) return std::nullopt;
     const Recordset row = database.OpenRecordset(
@@ -68,10 +70,10 @@ std::optional<Release> LastRelease(Database& database) {
     return Release::FromText(row.Fields(0).Text());
 }
 
-// One run over the catalogue.
+// Applies one catalogue to a database.
 class Update {
   public:
-    // REQUIRES: catalogue lives for as long.
+    // REQUIRES: catalogue outlives this object.
     Update(Database& database, const CatalogueSheets& catalogue, const std::optional<DateTime>& now)
         : database_(database),
           deliveries_(database),
@@ -91,7 +93,7 @@ class Update {
         }
         deliveries_.Remember(entry.table, entry.name, content);
     }
-    // Takes the row of that name out of the table, when it stands as it was delivered and no recipe has it.
+    // Deletes a row if it is still as it was delivered and, being a style, not used by a recipe.
     void Withdraw(std::string_view table, const std::string& name) {
         const std::string* delivered = deliveries_.Find(table, name);
         if (!delivered) return;
@@ -103,8 +105,8 @@ class Update {
         deliveries_.Forget(table, name);
         changed_ = true;
     }
-    // Takes out the delivered folders that folders, those of this release, no longer names and that stand
-    // empty as they were delivered.
+    // Deletes the delivered folders that are not in folders (those of this release), provided that they are
+    // empty and still as they were delivered.
     void WithdrawFolders(const std::set<std::string>& folders) {
         for (const std::string& name : deliveries_.NamesOf(kDeliveredFolders)) {
             const std::optional<std::string> id =
@@ -117,7 +119,7 @@ class Update {
             changed_ = true;
         }
     }
-    // Counts the entry as delivered, whatever the database holds.
+    // Marks the entry as delivered, whatever the database contains.
     void Adopt(const CatalogueEntry& entry) {
         deliveries_.Remember(entry.table, entry.name, ContentOf(entry));
         if (entry.folder.empty() || deliveries_.Find(kDeliveredFolders, entry.folder)) return;
@@ -130,8 +132,8 @@ class Update {
     Recordset RowOf(std::string_view table, const std::string& name) {
         return database_.OpenRecordset("SELECT * FROM " + std::string(table) + " WHERE NAME = ?", {name});
     }
-    // Gives a row that stands as delivered the new values. A style that also stands in the folder delivered
-    // goes into the new one.
+    // Updates a row that is still as it was delivered. A style that is also still in the folder it was
+    // delivered to moves to its new folder.
     void Correct(const CatalogueEntry& entry, const Recordset& row, const std::string& delivered,
                  const std::string& content) {
         const std::string id = row.Fields("ID").Text();
@@ -148,7 +150,8 @@ class Update {
         UpdateEntry(database_, entry, id, when_);
         changed_ = true;
     }
-    // Where the first release, which did not remember it, delivered a style that has moved since.
+    // Returns the folder to which the first release, which did not remember it, delivered a
+    // style that has moved since.
     std::string FormerFolder(const CatalogueEntry& entry) const {
         if (entry.table != kStyles) return {};
         for (const CatalogueRow& row : former_.rows)
@@ -156,8 +159,8 @@ class Update {
                 return row.Text("folder");
         return {};
     }
-    // The ID of the folder delivered under that name, when it still has the name and its place under the
-    // root.
+    // Returns the ID of the folder delivered under that name if it still has this name and is still directly
+    // below the root.
     std::optional<std::string> StandingFolder(const std::string& name) {
         const std::string* id = deliveries_.Find(kDeliveredFolders, name);
         if (!id) return std::nullopt;
@@ -172,8 +175,8 @@ class Update {
     std::optional<std::string> FoundFolder(const std::string& name) {
         return FirstId("SELECT ID FROM FOLDERS WHERE STYLE AND PARENT_ID = 0 AND NAME = ?", {name});
     }
-    // The folder delivered under that name; a new one is made for a name that never was, and one that its
-    // brewer removed does not come back.
+    // Returns the ID of the folder delivered under that name, creating the folder if the name was never
+    // delivered. A folder that the brewer deleted is not created again; the root takes its place.
     std::string FolderId(const std::string& name) {
         if (const std::string* id = deliveries_.Find(kDeliveredFolders, name))
             return FirstId("SELECT ID FROM FOLDERS WHERE STYLE AND ID = ?", {*id}).value_or("0");
@@ -196,8 +199,8 @@ class Update {
     bool changed_ = false;
 };
 
-// The first databases came with this date on every style and style folder, which the explorer showed as a
-// day on which something had happened.
+// The first databases had this date on every style and style folder, and the explorer showed it as if
+// something had happened on that day.
 void ForgetMadeUpDates(Database& database) {
     const SqlValues madeUp = {"01/01/2024 00:00:00"};
     for (const std::string column : {"CREATED_WHEN", "MODIFIED_WHEN"}) {
@@ -207,7 +210,7 @@ void ForgetMadeUpDates(Database& database) {
     }
 }
 
-// Whether the files of that release have anything to bring.
+// True if a release is newer than the last one, or a different state of the same version.
 bool IsNews(const Release& last, const Release& release) {
     return release.version > last.version ||
            (release.version == last.version && release.digest != last.digest);
@@ -248,7 +251,7 @@ void DeliverCatalogue(const std::string& folder, const CatalogueSheets& catalogu
                       const std::optional<DateTime>& created) {
     UnitOfWork unit(database);
     Deliveries::MakeTable(database);
-    // The types come first, so that the lists show them in the order of their file.
+    // The types are inserted first, so that lists show them in the order of their file.
     for (const CatalogueRow& row : catalogue.grainTypes.rows) {
         GrainTypeId(database, row.Text("name"), row.Text("kind") == "grain");
     }

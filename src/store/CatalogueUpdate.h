@@ -1,5 +1,5 @@
-// Brings the rows that a newer version of the product adds or corrects into a database that is in use, and
-// leaves alone whatever its brewer has changed, renamed or removed.
+// Updates a database in use with the catalogue rows that a newer version of the program adds or corrects, and
+// leaves alone everything that its brewer has changed, renamed or deleted.
 #pragma once
 
 #include <optional>
@@ -11,27 +11,29 @@
 
 namespace tw {
 
-// Brings the catalogue of folder into database, as one unit of work:
-// - a row that the product never delivered to this database is added, unless a row of that name is there;
-// - a row that stands as it was delivered takes the new values; a style that is in another folder than the
-//   one delivered stays there, the others follow a change of folder;
-// - a row that stands as it was delivered goes when the catalogue says that it is gone, unless a recipe has
-//   that style; so does a delivered folder that the catalogue no longer names, once it is empty;
-// - everything else stays: rows that were changed, are gone, or are the brewer's own.
-// The other names and facts of the rows are the product's own and are replaced as a whole.
-// A new style goes into the folder delivered under the name that the file gives, wherever that is now and
-// whatever its name; under the root when that folder is gone.
-// A database that remembers no delivery takes its rows for the brewer's: none of them changes, and what the
-// product holds now counts as delivered. In any database the dates go that the product once made up for its
-// styles and their folders. Nothing happens when these very files came last, when a newer version of them
-// did, or when they are missing or faulty.
-// Gives whether a row was added, corrected, moved or taken out. Raises the store's error when a statement
-// fails; what was done so far is remembered, and the next call goes on.
+// Updates database with the catalogue in folder, as one unit of work:
+// - A row never delivered to this database is added, unless a row of that name exists.
+// - A row still as it was delivered gets the new values. A style moves to its new folder only if it is still
+//   in the folder that it was delivered to.
+// - A row still as it was delivered is deleted if the catalogue lists it as gone, unless it is a style used
+//   by a recipe. A delivered folder that the catalogue no longer names is deleted once it is empty.
+// - Everything else stays: rows that the brewer has changed, deleted or created.
+//
+// The other names and facts of rows belong to the program and are replaced as a whole.
+// A new style goes into the delivered folder that the file names, even if that has been moved or renamed;
+// into the root if that folder was deleted.
+//
+// In a database that remembers no delivery, all rows count as the brewer's: none is changed, and the present
+// catalogue counts as delivered. In any database, the made-up dates that early releases gave to styles and
+// style folders are removed. Nothing happens if these files were delivered last, if a newer version of them
+// was, or if they are missing or faulty.
+// Returns true if a row was added, corrected, moved or deleted. Raises the store's error if a statement
+// fails; the changes made so far stay and are remembered, and the next call continues.
 bool UpdateCatalogue(const std::string& folder, Database& database, const DateTime& now);
 
-// Fills the empty catalogue tables of a new database from the files and remembers the delivery. REQUIRES:
-// the tables are empty and the catalogue has no problems. Styles and folders get created as both their
-// dates, or none.
+// Fills the empty catalogue tables of a new database from the files and remembers the delivery. created, or
+// NULL, is written as both dates of styles and style folders. REQUIRES: the tables are empty and the
+// catalogue has no problems.
 void DeliverCatalogue(const std::string& folder, const CatalogueSheets& catalogue, Database& database,
                       const std::optional<DateTime>& created);
 
