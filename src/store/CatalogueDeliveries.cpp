@@ -70,7 +70,7 @@ std::string ContentOf(const CatalogueEntry& entry) {
 }
 
 std::string_view ValuesOf(std::string_view content) {
-    // A value may contain any text, line breaks included, so only the last line can be that of the folder.
+    // A value may contain any text, so only the last line can be that of the folder.
     const std::size_t end =
         content.empty() ? std::string_view::npos : content.rfind('\n', content.size() - 2);
     const std::size_t last = end == std::string_view::npos ? 0 : end + 1;

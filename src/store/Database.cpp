@@ -20,17 +20,17 @@ struct StatementFinalizer {
 };
 using StatementOwner = std::unique_ptr<sqlite3_stmt, StatementFinalizer>;
 
-// Gives one parameter of a statement its value. The result is SQLite's.
+// Binds a value to one parameter of a statement. Returns SQLite's result code.
 struct Binder {
     sqlite3_stmt* statement;
     int parameter;
-    bool copyTexts;  // else they outlive the statement
+    bool copyTexts;  // false if the texts outlive the statement
 
     int operator()(Null) const { return sqlite3_bind_null(statement, parameter); }
     int operator()(bool value) const { return sqlite3_bind_int(statement, parameter, value ? 1 : 0); }
     int operator()(std::int64_t value) const { return sqlite3_bind_int64(statement, parameter, value); }
     int operator()(double value) const {
-        // From here on SQLite takes the digits of a whole number as a double too.
+        // From here on, SQLite reads the digits of a whole number as a double, too.
         constexpr double kLongest = 1e18;
         if (std::trunc(value) == value && std::abs(value) < kLongest)
             return (*this)(static_cast<std::int64_t>(value));
@@ -42,8 +42,8 @@ struct Binder {
     }
 };
 
-// Gives all parameters their values: the numbers of the SQL text, and the values of the caller. False when
-// SQLite refuses one.
+// Binds all parameters: the numbers found in the SQL text, and the caller's values.
+// False if SQLite refuses one.
 bool BindAll(sqlite3_stmt* statement, const DialectStatement& translated, const SqlValues& values,
              bool copyTexts) {
     auto number = translated.numbers.begin();
@@ -59,8 +59,8 @@ bool BindAll(sqlite3_stmt* statement, const DialectStatement& translated, const 
     return true;
 }
 
-// Runs the actions, which raise nothing, when the scope of the result ends. The list is empty at once, since
-// an action may begin a unit of its own.
+// Returns a guard that runs the actions, which raise nothing, at the end of its scope. Empties the list at
+// once, since an action may start a unit of work of its own.
 auto RunAtEnd(std::vector<std::function<void()>>& actions) {
     return ScopeGuard([taken = std::exchange(actions, {})] {
         for (const auto& action : taken) action();
@@ -73,7 +73,7 @@ Database::Database(sqlite3* handle, std::string path, bool readOnly)
     : handle_(handle), path_(std::move(path)), readOnly_(readOnly) {}
 
 Database::~Database() {
-    // A recordset may outlive the database.
+    // A recordset may outlive the database, so the watch must not be called any more.
     if (watch_) watch_->Detach(handle_);
     HandleCloser()(handle_);
 }
@@ -143,7 +143,8 @@ std::unique_ptr<Database> Database::CreateInMemory() {
 
 sqlite3_stmt* Database::Prepare(std::string_view sql, const SqlValues& values, bool select) {
     if (hook_) hook_(WithLiterals(sql, values));
-    // The disk itself may undo a unit of work in its middle. What would run now would stand alone.
+    // A disk error may have undone the unit of work midway; this statement must not be
+    // executed without the others.
     if (unitDepth_ > 0 && sqlite3_get_autocommit(handle_) != 0) RaiseUndone();
     const DialectStatement translated = TranslateSql(sql, values.size());
     if ((translated.kind == StatementKind::Select) != select)
@@ -151,7 +152,7 @@ sqlite3_stmt* Database::Prepare(std::string_view sql, const SqlValues& values, b
                     select ? "A recordset is opened on a SELECT." : "A SELECT is not executed.",
                     SQLITE_ERROR);
     sqlite3_stmt* compiled = nullptr;
-    // With the closing NUL counted, SQLite reads the text in place.
+    // SQLite need not copy the text if the length includes the terminating NUL.
     if (sqlite3_prepare_v3(handle_, translated.sql.c_str(), static_cast<int>(translated.sql.size() + 1), 0,
                            &compiled, nullptr) != SQLITE_OK)
         RaiseStoreError(handle_, kDatabaseSource);
@@ -217,7 +218,8 @@ UnitOfWork::~UnitOfWork() {
     try {
         Commit();
     } catch (const Error&) {
-        // An exception is on its way already, or the caller did not ask: the old state stands.
+        // Either another exception is already in flight, or the caller did not call
+        // Commit: the old state remains.
     }
 }
 

@@ -1,6 +1,5 @@
-// The one local relational database: an open file, statements run on it, and the rows they give. The classes
-// have the shape of the data access objects that the program's SQL was designed for; SqlDialect turns that
-// SQL into SQLite's.
+// The program's relational database: a file (or memory) with statements that run on it and the rows that they
+// return. Statements are written in the program's own SQL; SqlDialect translates them to SQLite's.
 #pragma once
 
 #include <chrono>
@@ -24,8 +23,8 @@ namespace tw {
 
 class StatementWatch;
 
-// The declared type of a field, by its data-access number. The tables of the program use Boolean, Long,
-// Double, Date, Text and Memo; the others come in files of other makers.
+// The declared type of a field. The numbers are fixed, since messages about a field show them. The program's
+// own tables use Boolean, Long, Double, Date, Text and Memo; the other types occur in files from elsewhere.
 enum class FieldType : int {
     Boolean = 1,
     Byte = 2,
@@ -42,14 +41,14 @@ enum class FieldType : int {
     Float = 21,
 };
 
-// The type that the declaration of a column names, such as "TEXT(50)", without regard to case; Binary for an
-// unknown one.
+// Returns the type that a column's declaration names, such as "TEXT(50)", ignoring
+// case; Binary if it is unknown.
 FieldType FieldTypeOf(std::string_view declared);
 
-// What a field of a row holds: nothing, a boolean, a number, or text. A date is the text of DateText.
+// The value of a field: NULL, a boolean, a number, or text. A date is text in the form of DateText.
 using Value = std::variant<Null, bool, double, std::string>;
 
-// One field of the present row of a recordset. Valid until the recordset moves or goes.
+// One field of the current row of a recordset. Valid until the recordset moves or is destroyed.
 class Field {
   public:
     const std::string& Name() const;
@@ -57,13 +56,14 @@ class Field {
 
     bool IsNull() const;
     tw::Value Value() const;
-    // The value as text: numbers by NumberText, booleans "TRUE" and "FALSE"; empty for NULL.
+    // The value as text: numbers by NumberText, booleans as "TRUE" and "FALSE"; empty for NULL.
     std::string Text() const;
-    // The value as a number; a text that is no number and NULL give 0.
+    // The value as a number; 0 for NULL and for text that is not a number. Integer() drops decimals and
+    // raises "Overflow" if the result does not fit.
     double Number() const;
     std::int64_t Integer() const;
-    // The value when it is a whole number, which can be another row's id; nothing for NULL, a text, a
-    // fraction, and a number that a double does not hold exactly.
+    // The value if it is a whole number, which may be the id of another row; nullopt for NULL, text, a
+    // fraction, and a floating point number too large to be exact.
     std::optional<std::int64_t> WholeNumber() const;
     bool Boolean() const;
 
@@ -77,25 +77,26 @@ class Field {
     FieldType type_;
 };
 
-// A forward-read result of one SELECT. Closed when it goes out of scope.
+// The rows of one SELECT, read forward. Closed when it is destroyed.
 class Recordset {
   public:
     Recordset(Recordset&&) noexcept;
     Recordset& operator=(Recordset&&) noexcept;
     ~Recordset();
 
-    // True behind the last row (the interface's EOF, whose name C has taken).
+    // True after the last row, and if there are no rows.
     bool AtEnd() const;
+    // Moves to the next row. Raises Error at the end.
     void MoveNext();
-    // Back to the first row: the statement runs again.
+    // Runs the statement again and moves to its first row.
     void MoveFirst();
     void Close();
 
     int FieldCount() const;
-    // By position from 0. Raises an error at EOF and for a position beyond the fields.
+    // By index from 0. Raises Error at the end, or for an index out of range.
     Field Fields(int index) const;
-    // By name without regard to case; a field of a join also as "TABLE.NAME". Raises an error for an unknown
-    // name.
+    // By name, ignoring case; a field of a join also by "TABLE.NAME". Raises Error at the
+    // end, or for an unknown name.
     Field Fields(std::string_view name) const;
     const std::string& FieldName(int index) const;
     FieldType TypeOf(int index) const;
@@ -107,87 +108,89 @@ class Recordset {
     std::unique_ptr<Impl> impl_;
 };
 
-// One open database file. Not copyable; closes itself.
+// One open database. Closed when it is destroyed.
 class Database {
   public:
-    // The number of the error about a file that cannot be opened.
+    // The number of the error raised if a file cannot be opened.
     static constexpr int kCannotOpenNumber = 14;
 
-    // Opens an existing file. exclusive keeps every other process out for as long as it is open, also while
-    // nothing is written. Raises an error that says what is wrong when the file is missing, is a folder, is
-    // no database, is cut short, or is in use; the file is untouched then. What a crash has left half-written
-    // is rolled back. Nothing waits for another program. For exclusive use a file with several names (hard
-    // links) is refused, and one that may have been half-written under another name: what a crash leaves lies
-    // beside the name that was used. A file that cannot be written, or whose folder cannot, is opened to be
-    // read then (ReadOnly), by several programs.
+    // Opens an existing file; exclusive locks out every other process for as long as it is open, even while
+    // nothing is written. Never waits for another program. Raises an Error that says what is wrong, and
+    // leaves the file untouched, if the file is missing, is a folder, is not a database, is cut short, or is
+    // in use. If a crash left the file half-written, that is rolled back first.
+    // For exclusive use, a file with several names (hard links) is refused, as is a file that may have
+    // been left half-written under another name: the journal of a crash is beside the name that was in
+    // use. If the file or its folder cannot be written, exclusive use means reading only (ReadOnly),
+    // together with other programs.
     static std::unique_ptr<Database> OpenDatabase(const std::string& path, bool exclusive);
-    // Makes a new empty database file (without any table) and opens it. Raises an error when path exists or
-    // cannot be written. locale is accepted for the sake of the interface and has no effect: all text is
-    // UTF-8.
+    // Creates a new empty database file, without tables, and opens it. Raises Error if path exists or cannot
+    // be written. locale is accepted but ignored: all text is UTF-8.
     static std::unique_ptr<Database> CreateDatabase(const std::string& path, std::string_view locale);
-    // A file of somebody else, for import and for adding to it: as OpenDatabase without exclusive use, and
-    // nothing in it is trusted (store/ForeignFile.h). now is a clock that never goes back, for the limit on
-    // reading.
+    // Opens somebody else's file for import or for adding to it: like OpenDatabase without exclusive
+    // use, but nothing in the file is trusted (store/ForeignFile.h). now is a monotonic clock for
+    // the time limit on reading.
     using Clock = std::function<std::chrono::milliseconds()>;
     static std::unique_ptr<Database> OpenForeign(const std::string& path, Clock now = SteadyNow);
-    // A database of the full schema, without catalogue rows, that lives in memory alone.
+    // Creates a database in memory with the full schema but no catalogue rows.
     static std::unique_ptr<Database> CreateInMemory();
-    // A database in memory alone that holds what those bytes of a file do; an empty one for none. Raises an
-    // error when the memory is short. REQUIRES: the file is not in the journal mode WAL.
+    // Creates a database in memory from the bytes of a file; an empty one if image is empty. Raises Error if
+    // memory runs out. REQUIRES: the file is not in journal mode WAL.
     static std::unique_ptr<Database> FromImage(std::string_view image);
-    // The same of somebody else's file: nothing in it is trusted, as by OpenForeign.
+    // Like FromImage for the bytes of somebody else's file: nothing in it is trusted, as with OpenForeign.
     static std::unique_ptr<Database> ForeignFromImage(std::string_view image, Clock now = SteadyNow);
-    // The bytes of the file that this database is or would be. Raises an error when the memory is short.
+    // Returns the bytes that a file with this database has. Raises Error if memory runs out.
     std::string Image() const;
 
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
 
-    // Runs one INSERT, UPDATE or DELETE. The values stand for the "?" of the statement in their order, as
-    // many as there are. Raises an error that carries the store's description.
+    // Runs one INSERT, UPDATE or DELETE. values replace the "?" of the statement in order; there must be one
+    // for each. Raises an Error with the store's description.
     void Execute(std::string_view sql, const SqlValues& values = {});
-    // Rows changed by the last Execute.
+    // The number of rows changed by the last Execute.
     int RecordsAffected() const { return recordsAffected_; }
-    // Runs one SELECT in the same way; the recordset stands on its first row or at EOF.
+    // Runs one SELECT with its values, as Execute does, and moves to the first row.
     Recordset OpenRecordset(std::string_view sql, const SqlValues& values = {});
-    // A number that grows with every row that this connection writes: equal to an earlier one as long as
-    // nothing was written since.
+    // A number that increases with every row that this connection writes, so an unchanged number means that
+    // nothing was written.
     std::int64_t ChangeCount() const;
     const std::string& Path() const { return path_; }
-    // It was opened exclusively, but cannot be written: what would change it raises an error.
+    // True if the database was opened exclusively but cannot be written; writing raises Error.
     bool ReadOnly() const { return readOnly_; }
-    // Runs action at once or, within a unit of work, behind its end, however it ends: what the disk has
-    // undone cannot be read before. REQUIRES: action raises nothing and is still good then.
+    // Runs action at once or, within a unit of work, after the end of the unit, however that ends: only then
+    // can the database be read again if the disk has undone the unit. REQUIRES: action raises nothing and
+    // remains valid until then.
     void AfterUnit(const std::function<void()>& action);
 
-    // For a foreign file: the limit on reading without an end starts anew, since there was progress; and
-    // watch is asked now and then while a statement runs. It must not use this database; false ends the
-    // statement with an error of that number.
+    // For a foreign file. MarkProgress restarts the time limit on reading. SetWatch sets a callback that is
+    // called now and then while a statement runs; it must not use this database, and by returning false it
+    // ends the statement with an error of kInterruptedNumber.
     static constexpr int kInterruptedNumber = 9;
     void MarkProgress();
     void SetWatch(std::function<bool()> watch);
 
-    // Called with the text of each statement, its values written into it, before it runs. Tests count
-    // statements with it, end the process or raise an error in the middle of an operation.
+    // Called before each statement with its text, the values inserted. Tests use it to count statements, or
+    // to end the process or raise an error in the middle of an operation.
     using StatementHook = std::function<void(std::string_view sql)>;
     void SetStatementHook(StatementHook hook) { hook_ = std::move(hook); }
 
-    // For the schema and the store's own files: runs SQLite's own SQL, any number of statements.
+    // Runs any number of statements in SQLite's own SQL. For the schema and the store's own files.
     void ExecuteNative(const std::string& sql);
 
   private:
     friend class UnitOfWork;
-    // Takes the handle over.
+    // Takes ownership of handle.
     Database(sqlite3* handle, std::string path, bool readOnly = false);
     static std::chrono::milliseconds SteadyNow();
-    // Watches the statements of a file that is not trusted, and refuses one whose tables are none.
+    // Limits the statements of a file that is not trusted, and raises Error if a table
+    // in it is not a real table.
     void GuardForeign(Clock now);
     void CheckWritable() const;
-    // Raises what has undone the present unit.
+    // Raises the error that has undone the current unit.
     [[noreturn]] void RaiseUndone() const;
-    // Calls the hook, translates, compiles and gives the statement its values. REQUIRES: select tells a
-    // SELECT from the other statements; what is no SELECT is run while the values are there.
+    // Calls the hook, translates and compiles the statement and binds its values. select says whether a
+    // SELECT is expected; any other statement must run before values is destroyed.
     sqlite3_stmt* Prepare(std::string_view sql, const SqlValues& values, bool select);
 
     sqlite3* handle_;
@@ -195,29 +198,30 @@ class Database {
     int recordsAffected_ = 0;
     bool readOnly_;
     int unitDepth_ = 0;
-    std::optional<Error> undoneBy_;  // the error with which the disk undid the present unit
+    std::optional<Error> undoneBy_;  // the error with which the disk undid the current unit
     std::vector<std::function<void()>> afterUnit_;
     StatementHook hook_;
-    std::unique_ptr<StatementWatch> watch_;  // of a foreign file
+    std::unique_ptr<StatementWatch> watch_;  // only for a foreign file
 };
 
-// Makes what one user operation writes one unit on the disk: a crash or a loss of power leaves the old state
-// or the new one, whole. A failure is something else: what was done before it stays, so the unit is committed
-// also when an exception ends it. Units nest; the outermost counts.
+// Makes everything that one user operation writes a single unit on the disk: after a crash or loss of
+// power, either the old or the new state is there, complete. An operation that fails is different:
+// what it wrote before stays, so the unit is committed even if an exception ends it. Units nest; only
+// the outermost one commits.
 class UnitOfWork {
   public:
     explicit UnitOfWork(Database& database);
-    // Commits. Raises the store's error when the disk refuses; the old state stands then.
+    // Commits. Raises the store's error if the disk fails; the old state remains then.
     void Commit();
-    // Takes back what the unit has written, for an operation that replaces a row and could not write the new
-    // one. Within another unit nothing is taken back: how that one ends decides.
+    // Undoes what the unit has written, for an operation that replaces a row and could not write the new one.
+    // An inner unit undoes nothing: the outermost unit decides.
     void Abandon();
     ~UnitOfWork();
     UnitOfWork(const UnitOfWork&) = delete;
     UnitOfWork& operator=(const UnitOfWork&) = delete;
 
   private:
-    // True for the outermost unit.
+    // True if this was the outermost unit.
     bool End();
 
     Database& database_;

@@ -1,4 +1,4 @@
-// Opening and making the file of a database.
+// Opening and creating database files.
 #include <array>
 #include <cstdint>
 #include <filesystem>
@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The header of a SQLite file: its first 100 bytes, numbers with the high byte first.
+// The header of a SQLite file: its first 100 bytes. Numbers are big-endian.
 constexpr std::size_t kHeaderSize = 100;
 constexpr std::string_view kMagic{"SQLite format 3\0", 16};
 constexpr std::size_t kPageSizeAt = 16;
@@ -37,13 +37,13 @@ std::uint32_t NumberAt(const Header& header, std::size_t at) {
 }
 
 std::int64_t PageSize(const Header& header) {
-    constexpr std::int64_t kLargest = 65536;  // does not fit two bytes and is written as 1
+    constexpr std::int64_t kLargest = 65536;  // stored as 1, because it does not fit into two bytes
     const std::int64_t size = header[kPageSizeAt] * 256 + header[kPageSizeAt + 1];
     return size == 1 ? kLargest : size;
 }
 
-// Whether the file or folder may be written. The write bits are looked at themselves too: an administrator's
-// process may write what its owner has locked against changes.
+// True if the file or folder may be written. The write bits are checked as well, because access() lets an
+// administrator's process write what the owner has protected.
 bool IsWritable(const fs::path& path) {
     constexpr fs::perms kWriteBits =
         fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
@@ -52,7 +52,7 @@ bool IsWritable(const fs::path& path) {
     return !failure && (bits & kWriteBits) != fs::perms::none && access(path.c_str(), W_OK) == 0;
 }
 
-// The checks that need no look inside.
+// Makes the checks that need no access to the content.
 void CheckFile(const std::string& path, bool exclusive) {
     if (path.find('\0') != std::string::npos) Refuse(path, "is no file name.", SQLITE_CANTOPEN);
     std::error_code failure;
@@ -69,7 +69,7 @@ void CheckFile(const std::string& path, bool exclusive) {
                SQLITE_CANTOPEN);
 }
 
-// Without leave to write, what a crash has left half-written could not be rolled back.
+// Refuses a file left half-written by a crash that cannot be rolled back because it cannot be written.
 void CheckWhole(const std::string& path, const fs::path& file, bool isWritable) {
     if (isWritable || !HasUnfinishedWork(file.string() + std::string(kJournalSuffix))) return;
     Refuse(path,
@@ -78,8 +78,8 @@ void CheckWhole(const std::string& path, const fs::path& file, bool isWritable) 
            SQLITE_READONLY);
 }
 
-// The open file behind a handle. It is read through this one and never opened a second time: closing another
-// descriptor of the same file would drop the locks that this process holds on it.
+// Returns SQLite's open file behind a handle. The file must not be opened a second time: closing any
+// descriptor of a file drops all locks that this process holds on it.
 sqlite3_file* FileOf(sqlite3* handle) {
     sqlite3_file* file = nullptr;
     sqlite3_file_control(handle, "main", SQLITE_FCNTL_FILE_POINTER, static_cast<void*>(&file));
@@ -92,12 +92,12 @@ std::int64_t FileSize(sqlite3_file* file) {
     return file->pMethods->xFileSize(file, &size) == SQLITE_OK ? size : 0;
 }
 
-// The header. Raises an error for a file that is none of ours.
+// Returns the header. Raises Error if the file is not a complete SQLite file.
 Header ReadHeader(sqlite3* handle, const std::string& path) {
     sqlite3_file* const file = FileOf(handle);
     if (FileSize(file) == 0) Refuse(path, "is empty.", SQLITE_NOTADB);
     Header header{};
-    // A short read fills the rest with zeros.
+    // If the file is shorter, SQLite fills the rest with zeros.
     const int result = file->pMethods->xRead(file, header.data(), static_cast<int>(kHeaderSize), 0);
     const std::string_view front(reinterpret_cast<const char*>(header.data()), kMagic.size());
     if (front != kMagic) Refuse(path, "is not a database.", SQLITE_NOTADB);
@@ -106,7 +106,7 @@ Header ReadHeader(sqlite3* handle, const std::string& path) {
     return header;
 }
 
-// Compares the file's size with the pages that it should hold. REQUIRES: no journal waits to be rolled back.
+// Refuses a file with fewer pages than its header says. REQUIRES: no journal remains to be rolled back.
 void CheckComplete(sqlite3* handle, const std::string& path) {
     const Header header = ReadHeader(handle, path);
     if (NumberAt(header, kChangeCounterAt) != NumberAt(header, kPageCountValidForAt)) return;
@@ -114,7 +114,7 @@ void CheckComplete(sqlite3* handle, const std::string& path) {
         Refuse(path, "is cut short.", SQLITE_CORRUPT);
 }
 
-// What a crash leaves of a database lies beside the name that it had then.
+// Refuses a file that may have been left half-written under another name: its journal is beside that name.
 void CheckOtherNames(const std::string& path, const fs::path& file, const Header& header) {
     const std::optional<fs::path> journal = JournalOfAnotherName(
         file, {NumberAt(header, kChangeCounterAt), NumberAt(header, kPageCountAt), PageSize(header)});
@@ -139,16 +139,17 @@ void CheckOtherNames(const std::string& path, const fs::path& file, const Header
     Refuse(path, "cannot be opened: " + message + ".", code);
 }
 
-// One thread uses a handle, so that SQLite needs no locks inside the process.
+// Each handle is used by one thread only, so SQLite needs no mutexes.
 constexpr int kOpenFlags = SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX;
 
 SqliteHandle OpenHandle(const std::string& path, int flags) {
     sqlite3* handle = nullptr;
     std::error_code failure;
-    // An absolute path is never taken for a URI or for the name of a database in memory.
+    // SQLite never takes an absolute path for a URI or for the name of a database in memory.
     const std::string name = (flags & SQLITE_OPEN_MEMORY) != 0 ? path : fs::absolute(path, failure).string();
     if (failure) Refuse(path, "cannot be opened: " + failure.message() + ".", SQLITE_CANTOPEN);
-    // SQLite knows a database in memory by its name; the flag would put what is attached to it in memory too.
+    // The name alone makes a database in memory; with the flag, databases attached to
+    // it would be in memory, too.
     const int openFlags = (flags & ~SQLITE_OPEN_MEMORY) | kOpenFlags;
     const int result = sqlite3_open_v2(name.c_str(), &handle, openFlags, nullptr);
     SqliteHandle owner(handle);
@@ -168,7 +169,7 @@ void RunOrRefuse(sqlite3* handle, const std::string& path, const char* sql) {
 
 Error StoreError(sqlite3* handle, const char* source) {
     const int number = sqlite3_extended_errcode(handle) & 0xff;
-    // Only the watch over a foreign file interrupts.
+    // Only StatementWatch interrupts a statement.
     if (number == SQLITE_INTERRUPT) return {source, "Reading the file took too long.", number};
     return {source, sqlite3_errmsg(handle), number};
 }
@@ -186,7 +187,7 @@ OpenedFile OpenDatabaseFile(const std::string& path, FileUse use) {
     const bool exclusive = use == FileUse::Exclusive;
     CheckFile(path, exclusive);
     std::error_code failure;
-    // SQLite's journal lies beside the file itself, not beside a symbolic link to it.
+    // SQLite's journal is beside the file itself, not beside a symbolic link to it.
     const fs::path file = fs::canonical(path, failure);
     const bool isWritable = IsWritable(file) && IsWritable(file.parent_path());
     CheckWhole(path, file, isWritable);
@@ -196,11 +197,11 @@ OpenedFile OpenDatabaseFile(const std::string& path, FileUse use) {
     const Header header = ReadHeader(raw, path);
     if (exclusive) CheckOtherNames(path, file, header);
     RunOrRefuse(raw, path, "PRAGMA synchronous=FULL");
-    // An exclusive lock that is taken once in this locking mode stays until the file is closed. Nothing is
-    // written, so that no journal is made and no byte changes; only a journal left by a crash is rolled back
-    // by the first read.
+    // In this locking mode, an exclusive lock once taken is kept until the file is closed. Nothing is
+    // written, so no journal is created and no byte changes, except that the first read rolls back a journal
+    // left by a crash.
     if (exclusive) RunOrRefuse(raw, path, "PRAGMA locking_mode=EXCLUSIVE");
-    // A file that cannot be written at all takes no exclusive lock.
+    // A file that is entirely read-only cannot be locked exclusively.
     const bool canLock = exclusive && sqlite3_db_readonly(raw, "main") == 0;
     RunOrRefuse(raw, path, canLock ? "BEGIN EXCLUSIVE" : "BEGIN");
     RunOrRefuse(raw, path, "SELECT COUNT(*) FROM sqlite_schema");
@@ -218,7 +219,7 @@ SqliteHandle CreateDatabaseFile(const std::string& path) {
     if (fs::symlink_status(path, failure).type() != fs::file_type::not_found)
         Refuse(path, "exists already.", SQLITE_CANTOPEN);
     SqliteHandle handle = OpenHandle(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-    // A file without a page is no database yet: writing any field of the header makes the first one.
+    // A file without pages is not a database yet; writing any field of the header creates the first page.
     RunNative(handle.get(), "PRAGMA synchronous=FULL; PRAGMA user_version=1");
     return handle;
 }

@@ -7,7 +7,7 @@
 namespace tw {
 namespace {
 
-// 128 random bits, as 32 digits of base 16.
+// Returns 128 random bits as 32 hexadecimal digits.
 std::string NewId() {
     constexpr int kParts = 4;
     constexpr std::size_t kDigits = 8;

@@ -1,4 +1,4 @@
-// The id of a database, which goes with the file wherever it is moved, and into its copies.
+// The id of a database. It stays with the file wherever that is moved, and copies of the file share it.
 #pragma once
 
 #include <string>
@@ -7,9 +7,9 @@
 
 namespace tw {
 
-// Empty for a database that has got none yet. Raises the store's error.
+// Returns the id; empty if the database has none yet. Raises the store's error.
 std::string DatabaseId(Database& database);
-// The id; a new one is written when there is none. Raises the store's error.
+// Returns the id, writing a new one if there is none. Raises the store's error.
 std::string EnsureDatabaseId(Database& database);
 
 }  // namespace tw

@@ -1,4 +1,4 @@
-// Databases in memory: the bytes of a file taken in, and given back.
+// Databases in memory: reading and returning the bytes of a file.
 #include <cstring>
 
 #include "platform/Error.h"
@@ -30,7 +30,7 @@ std::unique_ptr<Database> Database::FromImage(std::string_view image) {
                                 SQLITE_DESERIALIZE_FREEONCLOSE | SQLITE_DESERIALIZE_RESIZEABLE) != SQLITE_OK)
             RaiseStoreError(handle.get(), kDatabaseSource);
     }
-    // What is taken back is kept in memory too, so that no file comes beside one that is none.
+    // The rollback journal must be in memory as well, because there is no database file to put it beside.
     RunNative(handle.get(), "PRAGMA journal_mode=MEMORY");
     return std::unique_ptr<Database>(new Database(handle.release(), ":memory:"));
 }

@@ -18,20 +18,20 @@ namespace fs = std::filesystem;
 constexpr std::string_view kStyleId = "STYLE_ID";
 constexpr std::string_view kStyleName = "STYLE_NAME";
 
-// The name as SQLite's own SQL takes it, whatever stands in it.
+// Returns a name quoted for SQLite, whatever it contains.
 std::string Quoted(std::string_view name) {
     return "\"" + ReplaceAll(name, "\"", "\"\"") + "\"";
 }
 
-// The one column that is another in the file.
+// True for RECIPES.STYLE_ID, the only column that differs in the exchange file.
 bool IsStyleId(std::string_view table, std::string_view column) {
     return CompareNoCase(table, "RECIPES") == 0 && CompareNoCase(column, kStyleId) == 0;
 }
 
-// column stands on a row of pragma_table_info.
+// column is a row of pragma_table_info.
 std::string ColumnSql(std::string_view table, const Recordset& column, bool counter) {
     const std::string name = column.Fields("name").Text();
-    // The size is told and not held to: a longer name of a style travels whole.
+    // The size is declared but not enforced: a longer style name is stored whole.
     if (IsStyleId(table, name))
         return Quoted(kStyleName) + " TEXT(50)" + ColumnRules(kStyleName, FieldType::Text) + " DEFAULT ''";
     const std::string declared = column.Fields("type").Text();
@@ -54,7 +54,7 @@ std::string TableSql(Database& main, const std::string& table, bool counter) {
     return "CREATE TABLE " + Quoted(table) + " (" + columns + ");\n";
 }
 
-// The columns of an index, empty when one of them is no column but an expression.
+// Returns the columns of an index; empty if one of them is an expression.
 std::string IndexedColumns(Database& main, const std::string& table, const std::string& index) {
     std::string columns;
     for (Recordset column = main.OpenRecordset(
@@ -69,7 +69,7 @@ std::string IndexedColumns(Database& main, const std::string& table, const std::
     return columns;
 }
 
-// Only what CREATE INDEX has made over whole tables; the key comes with the table.
+// Includes only indexes made by CREATE INDEX over whole tables; key indexes come with their table.
 std::string IndexesSql(Database& main, const std::string& table) {
     std::string sql;
     for (Recordset index =
@@ -86,8 +86,8 @@ std::string IndexesSql(Database& main, const std::string& table) {
     return sql;
 }
 
-// What the store keeps beside a file while it writes it. A crash leaves them, and then they belong to what
-// the file of that name holds; the next file under it would be changed by them.
+// The files that SQLite keeps beside a database while writing it. If a crash leaves them, they belong to the
+// content of that file, and would corrupt another file put under its name.
 constexpr const char* kBesides[] = {"-journal", "-wal", "-shm"};
 
 bool HasBesides(const std::string& path) {
@@ -96,13 +96,13 @@ bool HasBesides(const std::string& path) {
                                [&](const char* suffix) { return fs::exists(path + suffix, failure); });
 }
 
-// Completes the old file, which may be needed if the new one cannot take its place.
+// Rolls back or completes the old file, which stays in use if the new one cannot replace it.
 void CompleteOld(const std::string& path) {
     try {
         Database::OpenDatabase(path, false)->ExecuteNative("PRAGMA journal_mode=DELETE");
     } catch (const Error& error) {
         if (error.Number() == SQLITE_BUSY || error.Number() == SQLITE_LOCKED) throw;
-        // No database, or none that can be read: there is nothing to complete.
+        // It is not a readable database: there is nothing to complete.
     }
 }
 
@@ -139,13 +139,13 @@ ExchangeCopy::ExchangeCopy(Database& main) : contents_(Database::FromImage({})) 
 }
 
 ExchangeCopy::ExchangeCopy(std::unique_ptr<Database> old) : old_(std::move(old)) {
-    // All of it is in the one file then, and stays as it is until that is replaced.
+    // All of its content is then in the one file, and stays unchanged until that is replaced.
     old_->ExecuteNative("PRAGMA journal_mode=DELETE; BEGIN IMMEDIATE");
     contents_ = Database::ForeignFromImage(old_->Image());
 }
 
 void ExchangeCopy::Save(const TargetFile& target) const {
-    // An old file that is held here has nothing beside it that is of use.
+    // An old file that is open here was completed already and has no such files.
     if (!old_) RemoveBesides(target);
     target.Replace(contents_->Image());
 }

@@ -14,7 +14,7 @@ struct Limit {
     int what, most;
 };
 
-// Far above what a recipe needs.
+// Far more than a recipe needs.
 constexpr int kMostBytes = 64 << 20;
 constexpr Limit kLimits[] = {
     {SQLITE_LIMIT_LENGTH, kMostBytes},
@@ -30,13 +30,14 @@ constexpr Limit kLimits[] = {
     {SQLITE_LIMIT_WORKER_THREADS, 0},
 };
 
-// What the program's own statements call, and GLOB for the rule of a date.
+// The functions that the program's own statements call, and GLOB for the rule that checks dates.
 constexpr std::string_view kFunctions[] = {"COUNT", "GLOB", "LCASE", "LIKE", "SUBSTR", "TRIM", "UCASE"};
 
-// How the store writes, and what its copy of the whole file asks.
+// The pragmas that the store and its copy of a whole file use.
 constexpr std::string_view kPragmas[] = {"journal_mode", "page_count", "synchronous"};
 
-// The program reads tables and adds to them; what else a statement would do was put into the file.
+// Permits what the program does, which is to read tables and add rows to them; anything
+// else was planted in the file.
 int Authorize(void*, int action, const char* first, const char* function, const char*, const char*) noexcept {
     switch (action) {
         case SQLITE_SELECT:
@@ -71,7 +72,7 @@ void Distrust(sqlite3* handle) {
 }
 
 void CheckForeignTables(Database& database) {
-    // A virtual table has no page of its own.
+    // A virtual table has no root page.
     const Recordset other = database.OpenRecordset(
         "SELECT name FROM sqlite_schema WHERE UCASE(SUBSTR(name, 1, 6)) = 'RECIPE' AND "
         "(type = 'view' OR (type = 'table' AND rootpage = 0))");
@@ -86,7 +87,7 @@ StatementWatch::StatementWatch(sqlite3* handle, Database::Clock now) : now_(std:
         try {
             return static_cast<StatementWatch*>(watch)->Look() ? 0 : 1;
         } catch (...) {
-            return 1;  // no exception may cross SQLite
+            return 1;  // no exception may pass through SQLite
         }
     };
     sqlite3_progress_handler(handle, kSteps, look, this);

@@ -1,6 +1,6 @@
-// What a file of somebody else may do when it is opened as a database: hold tables, and nothing else. No
-// view, virtual table or trigger in it ever runs, no statement changes its tables' form or reaches another
-// file, and no statement reads on and on.
+// Limits what somebody else's file can do when it is opened as a database: it may contain tables, and nothing
+// else. No view, virtual table or trigger in it is ever run, no statement changes its schema or accesses
+// another file, and no statement runs without end.
 #pragma once
 
 #include <chrono>
@@ -11,24 +11,25 @@
 
 namespace tw {
 
-// Takes away what a recipe file has no use for. Call it before the first read.
+// Forbids everything that a recipe file does not need. REQUIRES: nothing has been
+// read through the handle yet.
 void Distrust(sqlite3* handle);
 
-// Raises an error when what has the name of a recipe table is no table.
+// Raises Error if a recipe table of the file is not a real table.
 void CheckForeignTables(Database& database);
 
-// Looks after the statements of a handle while they run.
+// Limits the time that the statements of a handle run.
 class StatementWatch {
   public:
-    // So long may the statements run together without progress. Time between them does not count: the brewer
-    // may be reading a box.
+    // The total time that statements may run without progress. Time between statements does not count: the
+    // brewer may be reading a message.
     static constexpr std::chrono::milliseconds kLimit{10000};
-    // The longest time between two looks that is taken for running.
+    // Of the time between two checks, at most this much counts as running.
     static constexpr std::chrono::milliseconds kMostBetween{250};
-    // Steps of SQLite's machine between two looks.
+    // The number of SQLite's virtual machine instructions between two checks.
     static constexpr int kSteps = 1000;
 
-    // REQUIRES: Detach is called before the object goes.
+    // REQUIRES: Detach is called before this object is destroyed.
     StatementWatch(sqlite3* handle, Database::Clock now);
     StatementWatch(const StatementWatch&) = delete;
     StatementWatch& operator=(const StatementWatch&) = delete;
@@ -38,7 +39,7 @@ class StatementWatch {
     void SetWatch(std::function<bool()> watch) { watch_ = std::move(watch); }
 
   private:
-    // Whether the statement may go on.
+    // True if the statement may continue.
     bool Look();
 
     Database::Clock now_;

@@ -11,8 +11,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A journal is a row of segments, each a header of one disk sector and then its records: the number of a
-// page, the page as it was, a checksum. Numbers stand with the high byte first.
+// A journal is a sequence of segments. Each consists of a header, one disk sector long, and records: the
+// number of a page, its content before the change, a checksum. Numbers are big-endian.
 constexpr std::string_view kMagic{"\xd9\xd5\x05\xf9\x20\xa1\x63\xd7", 8};
 constexpr std::size_t kHeaderBytes = 28;
 constexpr std::size_t kRecordsAt = 8;
@@ -20,8 +20,8 @@ constexpr std::size_t kPageCountAt = 16;
 constexpr std::size_t kSectorSizeAt = 20;
 constexpr std::size_t kPageSizeAt = 24;
 constexpr std::int64_t kNumberBytes = 4;
-constexpr std::uint32_t kUpToTheEnd = 0xffffffff;  // in place of the count of records
-constexpr std::int64_t kCounterInPage = 24;        // of the first page of a database
+constexpr std::uint32_t kUpToTheEnd = 0xffffffff;  // as the record count: up to the end of the file
+constexpr std::int64_t kCounterInPage = 24;        // offset in the first page of a database
 
 std::uint32_t NumberAt(const unsigned char* bytes) {
     return static_cast<std::uint32_t>(bytes[0]) << 24 | static_cast<std::uint32_t>(bytes[1]) << 16 |
@@ -36,13 +36,13 @@ class Journal {
         size_ = failure ? 0 : static_cast<std::int64_t>(size);
     }
 
-    // Reads the segment that begins there. False at the end, and for what is no segment.
+    // Reads the header of the segment at an offset. False at the end, and if there is no valid segment.
     bool ReadSegment(std::int64_t at) {
         std::array<unsigned char, kHeaderBytes> header{};
         if (!Read(at, header.data(), header.size())) return false;
         const std::string_view front(reinterpret_cast<const char*>(header.data()), kMagic.size());
         if (front != kMagic) return false;
-        // SQLite too reads the sizes from the first header alone.
+        // SQLite, too, reads the sizes only from the first header.
         if (at == 0) {
             pageCount_ = NumberAt(header.data() + kPageCountAt);
             sectorSize_ = NumberAt(header.data() + kSectorSizeAt);
@@ -59,15 +59,15 @@ class Journal {
         return true;
     }
     std::int64_t PageSize() const { return pageSize_; }
-    // Of the database in the state that the journal leads back to.
+    // The page count of the database in the state that the journal restores.
     std::uint32_t PageCount() const { return pageCount_; }
     std::int64_t Records() const { return records_; }
-    // Where the next segment begins.
+    // The offset of the next segment.
     std::int64_t End() const {
         const std::int64_t end = first_ + records_ * RecordBytes();
         return (end + sectorSize_ - 1) / sectorSize_ * sectorSize_;
     }
-    // The counter of states in the database's first page, when this segment holds that page.
+    // The change counter in the database's first page, if this segment contains that page.
     std::optional<std::uint32_t> ChangeCounter() {
         for (std::int64_t i = 0; i < records_; ++i) {
             const std::int64_t at = first_ + i * RecordBytes();
@@ -93,7 +93,7 @@ class Journal {
     std::uint32_t pageCount_ = 0;
     std::int64_t sectorSize_ = 0;
     std::int64_t pageSize_ = 0;
-    std::int64_t first_ = 0;  // record of the segment
+    std::int64_t first_ = 0;  // offset of the first record of the segment
     std::int64_t records_ = 0;
 };
 
@@ -103,11 +103,12 @@ bool MayBeOf(const DatabaseState& state, const fs::path& path) {
     for (std::int64_t at = 0; journal.ReadSegment(at); at = journal.End()) {
         if (journal.PageSize() != state.pageSize) return false;
         hasRecords = hasRecords || journal.Records() > 0;
-        // The last page to be written is the first one, with the counter raised by one.
+        // SQLite writes the first page last, with the counter increased by one.
         if (const auto counter = journal.ChangeCounter())
             return *counter == state.changeCounter || *counter + 1 == state.changeCounter;
     }
-    // The first page, which it does not hold, has not been written: it still tells the old count.
+    // The journal does not contain the first page, so that has not been written and
+    // still has the old page count.
     return hasRecords && journal.PageCount() == state.pageCount;
 }
 

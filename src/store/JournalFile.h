@@ -1,5 +1,5 @@
-// The journals that SQLite keeps beside a database while it writes: what a crash leaves of one is the only
-// way back to the state before.
+// The journals that SQLite keeps beside a database while writing it. After a crash, a journal is the only way
+// back to the state before.
 #pragma once
 
 #include <cstdint>
@@ -11,20 +11,19 @@ namespace tw {
 
 inline constexpr std::string_view kJournalSuffix = "-journal";
 
-// Whether that file is a journal that holds pages to be put back. False for none and for one that cannot be
-// read.
+// True if the file is a journal with pages to be restored; false if it is missing or cannot be read.
 bool HasUnfinishedWork(const std::filesystem::path& journal);
 
-// What the header of a database says of its state.
+// The state of a database as its header describes it.
 struct DatabaseState {
-    std::uint32_t changeCounter = 0;  // counts the states
+    std::uint32_t changeCounter = 0;  // increases with each state
     std::uint32_t pageCount = 0;
     std::int64_t pageSize = 0;  // bytes
 };
 
-// A journal with unfinished work in the database's folder whose own database is no longer there, and which
-// may be this database's from the time of another name, since it leads back to or from this state. Nothing
-// when there is none.
+// Finds a journal with unfinished work, in the database's folder, that may belong to this database under an
+// earlier name: no database has the name of the journal, and the journal was begun in this state or the one
+// before. nullopt if there is none.
 std::optional<std::filesystem::path> JournalOfAnotherName(const std::filesystem::path& database,
                                                           const DatabaseState& state);
 

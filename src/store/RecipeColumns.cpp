@@ -17,7 +17,7 @@ using Owner = RecipeColumn::Owner;
 
 constexpr std::string_view kNumberSuffix = "_DATA";
 
-// True if name is the column itself, or the number that stands beside its text.
+// True if name is the column with the number that belongs to the text in column.
 bool IsNumberOf(std::string_view name, std::string_view column) {
     return name.size() == column.size() + kNumberSuffix.size() && name.starts_with(column) &&
            name.ends_with(kNumberSuffix);
@@ -68,7 +68,7 @@ std::optional<RecipeColumn> OptionColumn(std::string_view name) {
     return std::nullopt;
 }
 
-// A cell's column, its name behind the prefix of its line.
+// Finds a column of a cell; prefix precedes its name in the recipe's own row.
 std::optional<RecipeColumn> CellColumn(std::string_view name, const GridRule& grid, std::string_view prefix,
                                        std::size_t line) {
     if (!name.starts_with(prefix)) return std::nullopt;

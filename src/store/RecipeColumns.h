@@ -1,4 +1,5 @@
-// Which column of a recipe's tables holds what: the rules of fields and cells in the order of the schema.
+// Maps the columns of a recipe's tables to its values: the rules of fields and cells
+// in the order of the schema.
 #pragma once
 
 #include <cstddef>
@@ -14,19 +15,19 @@ namespace tw {
 struct StoredRecipe;
 struct StoredValue;
 
-// One column and the value behind it.
+// One column and the value that it stores.
 struct RecipeColumn {
     enum class Holds : std::uint8_t {
         Text,      // the trimmed text
         Number,    // the number
-        BareText,  // the text, which is a number; NULL for a blank one
-        Whole,     // the number as a whole one
+        BareText,  // the text, which must be a number; NULL if blank
+        Whole,     // the number as an integer
         Flag       // the number as TRUE or FALSE
     };
     std::string_view name;
     Holds holds;
-    // Whose value it is: a field's, an option's, or that of a cell: of the line of that place in a grid that
-    // the recipe's own row stores, otherwise of each line in its turn.
+    // What the value belongs to: a field, an option or a cell. For a grid stored in the recipe's own row,
+    // line tells which line; otherwise the column stores the cell of each line in turn.
     enum class Owner : std::uint8_t { Field, Option, Cell };
     Owner owner;
     FieldId field = FieldId::Name;
@@ -36,9 +37,9 @@ struct RecipeColumn {
     std::size_t cell = 0;
 };
 
-// The columns of RECIPES behind those that identify and date the row.
+// The columns of RECIPES other than the ID, name, style, folder and dates.
 const std::vector<RecipeColumn>& RecipeColumns();
-// The columns of the grid's own table behind those that identify the line. None for a grid without a table.
+// The columns of a grid's own table other than those that identify the line; none for a grid without a table.
 const std::vector<RecipeColumn>& LineColumns(GridId grid);
 
 }  // namespace tw

@@ -11,7 +11,7 @@
 namespace tw {
 namespace {
 
-// RECIPE_SUGARS is left out: intended.
+// RECIPE_SUGARS is deliberately not copied, so that an exchange works as it always has.
 const std::string kLineTables[] = {"RECIPE_ADJUNCTS", "RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_LOG",
                                    "RECIPE_SALTS"};
 
@@ -19,7 +19,7 @@ bool Is(const std::string& field, std::string_view name) {
     return field.size() == name.size() && CompareNoCase(field, name) == 0;
 }
 
-// The name of a column as a statement takes it. A file of another maker may hold any.
+// Returns the name of a column for use in a statement. A file from elsewhere may have any name.
 std::string ColumnName(const std::string& name) {
     const auto isWordChar = [](char c) {
         return c == '_' || (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
@@ -31,15 +31,15 @@ std::string ColumnName(const std::string& name) {
     return "[" + name + "]";
 }
 
-// The number that the field holds. A text stays one: any column of a file may hold it.
+// Returns the number in a field. Text stays text, since any column of a SQLite file may contain it.
 SqlValue NumberOf(const Field& field) {
     if (std::holds_alternative<std::string>(field.Value())) return field.Text();
-    // A 64-bit whole number has digits that a double cannot hold.
+    // A 64-bit integer may have more digits than a double can hold.
     if (const auto whole = field.WholeNumber()) return *whole;
     return field.Number();
 }
 
-// The value of the field for a statement; nothing for a type that cannot be written.
+// Returns the field's value for a statement; nullopt for a type that cannot be written.
 std::optional<SqlValue> CopyOf(const Field& field) {
     if (field.IsNull()) return Null();
     switch (field.Type()) {
@@ -69,7 +69,7 @@ bool IsNumeric(FieldType type) {
     }
 }
 
-// An INSERT as it grows. A column without a value makes a statement that the store refuses.
+// An INSERT being built. A column added without a value makes a statement that the store refuses.
 class RowInsert {
   public:
     explicit RowInsert(const std::string& table) : columns_("INSERT INTO " + table + " (") {}
@@ -101,7 +101,7 @@ void AddField(RowInsert& insert, const std::string& table, const Field& field, C
                    std::to_string(static_cast<int>(field.Type())) + " (?)");
 }
 
-// Keeps what is read from a file as it was at the start, and its lock from coming and going with each read.
+// Keeps the file in the state that it has at the start, and keeps its lock between the reads.
 class ReadingUnit {
   public:
     explicit ReadingUnit(Database& database) : database_(database) { database_.ExecuteNative("BEGIN"); }
@@ -119,7 +119,7 @@ class ReadingUnit {
     Database& database_;
 };
 
-// A recipe takes the place of another: wholly or, when an error ends it, not at all.
+// Replaces one recipe by another, either completely or, if an exception ends it, not at all.
 class Replacement {
   public:
     explicit Replacement(Database& database) : database_(database) {
@@ -131,7 +131,7 @@ class Replacement {
             if (!kept_) database_.ExecuteNative("ROLLBACK TO replacement");
             database_.ExecuteNative("RELEASE replacement");
         } catch (const Error&) {
-            // The disk has undone the whole unit already.
+            // A disk error has undone the whole unit already.
         }
     }
     Replacement(const Replacement&) = delete;
@@ -202,7 +202,7 @@ RecipeCopier::Step RecipeCopier::CopyRecipe(const std::string& name) {
         const bool goOn = host_.ContinueAfter("Recipe '" + name + "' does not exist in " + title + " !");
         return goOn ? Step::Next : Step::Stop;
     }
-    // The main database holds its names trimmed; a name with blanks would never be found there again.
+    // The main database stores names trimmed; a name with spaces at its ends would never be found again.
     std::string newName(isImport_ ? Trim(name) : std::string_view(name));
     if (!ResolveName(newName)) return Step::Stop;
     if (newName.empty()) return Step::Next;

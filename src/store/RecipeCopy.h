@@ -1,5 +1,5 @@
-// Copies chosen recipes between the main database and an exchange file, row by row, driven by the fields that
-// the source reports.
+// Copies chosen recipes between the main database and an exchange file, row by row. The fields of the source
+// determine which columns are written.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@
 
 namespace tw {
 
-// What to do with a recipe whose name the destination holds.
+// What to do with a recipe whose name exists in the destination.
 enum class ConflictResponse : int { Overwrite = 1, Abort = 3, Skip = 4, Rename = 5 };
 
 struct ConflictAnswer {
@@ -22,16 +22,18 @@ struct ConflictAnswer {
     std::string newName;  // for Rename
 };
 
-// Whoever started the copying.
+// The code that started the copying.
 class CopyHost {
   public:
     virtual ~CopyHost() = default;
-    // Before each recipe: its number from 0, and how many there are. False stops the run.
+    // Called before each recipe with its index, from 0, and the total number of
+    // recipes. Returns false to stop.
     virtual bool Continue(const std::string& name, int number, int total) = 0;
     virtual ConflictAnswer ResolveConflict(const std::string& name) = 0;
-    // A recipe cannot be copied, as text says. True goes on to the next one, false stops the run.
+    // Called if a recipe cannot be copied; text says why. Returns true to continue with the next recipe,
+    // false to stop.
     virtual bool ContinueAfter(const std::string& text) = 0;
-    // What only somebody who looks for a fault wants to see.
+    // Receives details that matter only for finding faults.
     virtual void DebugText(const std::string& /*text*/) {}
 };
 
@@ -40,16 +42,17 @@ struct StyleNotImported {
     bool operator==(const StyleNotImported&) const = default;
 };
 
-// By recipe: one entry each.
+// At most one entry per recipe.
 using StylesNotImported = std::vector<StyleNotImported>;
 
-// The recipes of a database by their names, trimmed and in upper case, read once: asking the table for
-// UCASE(TRIM(NAME)) would read all of it for each recipe that is copied.
+// The recipes of a database by name, trimmed and in upper case. Read once, because a query for
+// UCASE(TRIM(NAME)) would read the whole table for each recipe copied.
 class RecipeNames {
   public:
-    // Reads them anew. A row without a name or an ID is none. Raises the store's error.
+    // Reads all names, replacing earlier ones. Rows without a name or ID are
+    // skipped. Raises the store's error.
     void Read(Database& database);
-    // ID of the recipe of that name, the oldest of several; nothing for none.
+    // Returns the ID of the recipe of that name, the lowest ID of several; nullopt if there is none.
     std::optional<std::int64_t> Find(std::string_view name) const;
     void Put(std::string_view name, std::int64_t id);
 
@@ -57,18 +60,19 @@ class RecipeNames {
     std::unordered_map<std::string, std::int64_t> ids_;
 };
 
-// Each run is one unit on the disk of the destination. An error rises; what was copied before stays, also the
-// part of a recipe that was copied last. One that was to take the place of another leaves that one as it was.
-// Lines of RECIPE_SUGARS do not travel: intended. Neither the tree nor open documents are told.
+// Each run is one unit of work in the destination. Errors are passed on; what was copied before stays,
+// including a part of the recipe copied last, but a recipe that was to be overwritten is then unchanged. Rows
+// of RECIPE_SUGARS are deliberately not copied, so that an exchange works as it always has. Neither the tree
+// nor open documents are notified.
 class RecipeCopier {
   public:
-    // REQUIRES: all of them live for as long.
+    // main, file and host must outlive the copier.
     RecipeCopier(Database& main, Database& file, CopyHost& host) : main_(main), file_(file), host_(host) {}
 
-    // Out of the main database, with the names of the styles.
+    // Copies from the main database to the file, replacing style IDs by style names.
     void ExportRecipes(std::span<const std::string> names);
-    // Into that folder of the main database. A style that it does not know gives no style and an entry in
-    // stylesNotImported, which is emptied first.
+    // Copies from the file into that folder of the main database. A recipe whose style the main database does
+    // not have gets no style and an entry in stylesNotImported, which is cleared first.
     void ImportRecipes(std::span<const std::string> names, std::int64_t destFolderId,
                        StylesNotImported& stylesNotImported);
 
@@ -79,15 +83,16 @@ class RecipeCopier {
     Database& Dest() { return isImport_ ? main_ : file_; }
     void CopyRecipes(std::span<const std::string> names);
     Step CopyRecipe(const std::string& name);
-    // The name to copy under; empty to leave the recipe out. False stops the run.
+    // Determines the name to copy under; empty to skip the recipe. False to stop.
     bool ResolveName(std::string& newName);
-    // Puts the source's row, with its lines, in the place of the old one if there is one.
+    // Copies the source's row and its lines, replacing the old recipe if there is one.
     Step CopyRows(std::int64_t sourceId, std::optional<std::int64_t> oldId, const std::string& newName);
-    // The newest row of just that name in the destination; nothing when there is none.
+    // Returns the newest row of exactly that name in the destination; nullopt if there is none.
     std::optional<std::int64_t> NewestInDest(const std::string& name);
     void InsertRecipe(const Recordset& source, const std::string& newName);
     void InsertLine(const std::string& table, const Recordset& source, std::int64_t newId);
-    // STYLE_ID for a name that the main database knows; 0, and an entry, for any other.
+    // Returns the ID of a style in the main database. If it is missing, returns 0 and adds an
+    // entry to stylesNotImported.
     std::int64_t StyleIdOf(const std::string& style, const std::string& recipe);
     void CopyLines(const std::string& table, std::optional<std::int64_t> oldId, std::int64_t sourceId,
                    std::int64_t newId);

@@ -1,4 +1,4 @@
-// Reading a recipe. RecipeRows.cpp writes it.
+// Reads a recipe. RecipeRows.cpp writes it.
 #include "store/RecipeColumns.h"
 #include "store/RecipeRows.h"
 #include "values/Text.h"
@@ -12,7 +12,7 @@ std::optional<std::int64_t> ReadWhole(const Field& field) {
 }
 
 int ReadRow(const Recordset& rows) {
-    // A damaged place in the grid must not make it grow without end.
+    // A damaged row number must not make the grid grow without limit.
     constexpr std::int64_t kMost = 1'000'000;
     const std::int64_t row = rows.Fields("ROW_ID").Integer();
     if (row < 0 || row > kMost)
@@ -21,7 +21,7 @@ int ReadRow(const Recordset& rows) {
     return static_cast<int>(row);
 }
 
-// Every field may be NULL; it is absent in what is read then.
+// Any field may be NULL; the value is then absent from the result.
 void ReadInto(StoredValue& value, const RecipeColumn& column, const Recordset& rows) {
     const Field field = rows.Fields(column.name);
     if (field.IsNull()) return;
@@ -71,7 +71,7 @@ void ReadOwnRow(const Recordset& rows, StoredRecipe& recipe) {
     }
 }
 
-// The highest row comes first, so that a grid grows at once.
+// The highest row is read first, so that the grid grows only once.
 void ReadLines(Database& database, const GridRule& grid, StoredRecipe& recipe) {
     if (grid.lines.name.empty()) return;
     std::string sql = "SELECT * FROM ";
@@ -90,7 +90,8 @@ void ReadLines(Database& database, const GridRule& grid, StoredRecipe& recipe) {
 }  // namespace
 
 std::optional<StoredRecipe> ReadRecipe(Database& database, std::string_view name) {
-    // No blanks around "=": so the statement stands in the design.
+    // The statement has no spaces around "=", unlike all others: recorded statements are
+    // compared character by character.
     Recordset rows = database.OpenRecordset("SELECT * FROM RECIPES WHERE NAME=?", {name});
     if (rows.AtEnd()) return std::nullopt;
     StoredRecipe recipe;

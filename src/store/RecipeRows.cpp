@@ -1,4 +1,4 @@
-// Writing a recipe. RecipeReader.cpp reads it.
+// Writes a recipe. RecipeReader.cpp reads it.
 #include "store/RecipeRows.h"
 
 #include <algorithm>
@@ -12,7 +12,8 @@
 namespace tw {
 namespace {
 
-// The value behind a column, of the line for a grid with a table of its own. An option is a number.
+// Returns the value to store in a column. line is the line to write, for a grid with its own table. An option
+// is a number.
 StoredValue ValueOf(const RecipeColumn& column, const StoredRecipe& recipe, const StoredLine* line) {
     switch (column.owner) {
         case RecipeColumn::Owner::Field:
@@ -27,15 +28,15 @@ StoredValue ValueOf(const RecipeColumn& column, const StoredRecipe& recipe, cons
     return (line ? *line : recipe[column.grid][column.line]).cells[column.cell];
 }
 
-// A cell's text, bare; NULL for a blank one.
+// Appends the text of a cell without quotes; NULL for a blank one.
 void AppendBare(std::string& sql, std::string_view cell) {
     sql.append(cell.empty() ? "NULL" : cell);
-    // Between the words of the statement any other text would be read as a part of it.
+    // Without quotes, text that is not a number would become part of the statement.
     if (!cell.empty() && !ReadNumber(cell))
         throw Error("Database", "'" + std::string(cell) + "' is no number.", SQLITE_MISMATCH);
 }
 
-// A text column is never written NULL.
+// Appends a value. A text column is never written as NULL.
 void Append(std::string& sql, RecipeColumn::Holds holds, const StoredValue& value) {
     const std::string_view text = value.text ? Trim(*value.text) : std::string_view();
     const double number = value.number.value_or(0);
@@ -66,7 +67,7 @@ std::optional<std::int64_t> InsertRow(Database& database, const StoredRecipe& re
     return rows.Fields(0).Integer();
 }
 
-// False when the statement touches no row.
+// False if the statement changes no row.
 bool UpdateColumns(Database& database, const StoredRecipe& recipe, std::span<const RecipeColumn> columns,
                    std::int64_t id) {
     std::string sql = "UPDATE RECIPES SET ";
@@ -79,7 +80,7 @@ bool UpdateColumns(Database& database, const StoredRecipe& recipe, std::span<con
     return database.RecordsAffected() > 0;
 }
 
-// The row in three statements: up to the gravities, up to the carbonation, the waters.
+// Updates the row in three statements, which end with the gravities, the carbonation, and the waters.
 bool UpdateRow(Database& database, const StoredRecipe& recipe, std::int64_t id) {
     std::span<const RecipeColumn> rest = RecipeColumns();
     for (const std::string_view last : {"FG_DATA", "CO2_VOLS"}) {

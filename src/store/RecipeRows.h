@@ -1,5 +1,5 @@
-// One recipe as the rows of its tables: what a save writes and an opening reads. Plain data; which column
-// holds what is said by FieldRules.h and CellRules.h alone. The document maps its controls to it and back.
+// One recipe as the rows of its tables, as saving writes and opening reads them. Plain data; FieldRules.h and
+// CellRules.h define which column stores what, and the document maps its controls to it and back.
 #pragma once
 
 #include <array>
@@ -16,8 +16,8 @@
 
 namespace tw {
 
-// What the columns of a field or a cell hold. Each half is absent when its column is NULL, or when there is
-// none: a column of text has no number, an option, a hop form and a check mark (1 or 0) have no text.
+// What the columns of a field or cell contain. A part is absent if its column is NULL or does not exist: a
+// text column has no number; an option, a hop form and a check mark (1 or 0) have no text.
 struct StoredValue {
     std::optional<std::string> text;
     std::optional<double> number;
@@ -26,8 +26,8 @@ struct StoredValue {
 
 // One data row of a grid.
 struct StoredLine {
-    int rowId = 0;                   // its place among the data rows, from 0
-    std::vector<StoredValue> cells;  // by column of the grid
+    int rowId = 0;                   // index among the data rows, from 0
+    std::vector<StoredValue> cells;  // one per column of the grid
 };
 
 struct StoredRecipe {
@@ -41,10 +41,10 @@ struct StoredRecipe {
     std::optional<std::int64_t> ibuMethod;
     std::optional<bool> bottled;
 
-    // The name's own value is not among them.
+    // The entry of FieldId::Name is unused; see name.
     StoredValue& operator[](FieldId field) { return fields[static_cast<std::size_t>(field)]; }
     const StoredValue& operator[](FieldId field) const { return fields[static_cast<std::size_t>(field)]; }
-    // The lines of a grid; those of a grid that the recipe's own row stores are all there, in their order.
+    // The lines of a grid. For a grid stored in the recipe's own row, all lines exist, in order.
     std::vector<StoredLine>& operator[](GridId grid) { return grids[static_cast<std::size_t>(grid)]; }
     const std::vector<StoredLine>& operator[](GridId grid) const {
         return grids[static_cast<std::size_t>(grid)];
@@ -54,19 +54,19 @@ struct StoredRecipe {
     std::array<std::vector<StoredLine>, kGrids> grids;
 };
 
-// A line of that place with as many empty cells as the grid has columns.
+// Returns a line with that rowId and an empty cell for each column of the grid.
 StoredLine EmptyLine(GridId grid, int rowId);
 
-// Writes a recipe as a new row with its lines. A value without a number writes 0. Returns false when the new
-// row cannot be found again or an UPDATE touches no row; what was written until then stays. Raises the
-// store's errors. REQUIRES: createdWhen is set.
+// Writes a recipe as a new row with its lines. An absent number is written as 0. Returns false if the new row
+// cannot be found again or an UPDATE changes no row; what was written before stays. Raises the store's
+// errors. REQUIRES: createdWhen is set.
 bool InsertRecipe(Database& database, const StoredRecipe& recipe);
 
-// Reads the recipe of that name (without regard to case) with all its lines, each list by descending rowId;
-// nothing when there is none.
+// Reads the recipe of that name, ignoring case, with all its lines, those of each grid table in descending
+// order of rowId; nullopt if there is none.
 std::optional<StoredRecipe> ReadRecipe(Database& database, std::string_view name);
 
-// True when a recipe of that name (trimmed, without regard to case) exists.
+// True if a recipe of that name exists, ignoring case and spaces at the ends of name.
 bool RecipeExists(Database& database, std::string_view name);
 
 }  // namespace tw

@@ -14,7 +14,7 @@ namespace tw {
 namespace {
 
 std::string_view ColumnText(sqlite3_stmt* statement, int column) {
-    // The text first, then its length: asking for the text may change its encoding.
+    // The text must be requested before its length, since the request may change its encoding.
     const unsigned char* const text = sqlite3_column_text(statement, column);
     if (text == nullptr) return {};
     return {reinterpret_cast<const char*>(text),
@@ -30,7 +30,7 @@ struct TypeName {
     FieldType type;
 };
 
-// The first six are those of the program's own tables (see Schema), and are looked at first.
+// The first six types are those of the program's own tables (see Schema) and are found fastest.
 constexpr TypeName kTypeNames[] = {
     {"TEXT", FieldType::Text},       {"DOUBLE", FieldType::Double},     {"INTEGER", FieldType::Long},
     {"BOOLEAN", FieldType::Boolean}, {"DATETIME", FieldType::Date},     {"LONGTEXT", FieldType::Memo},
@@ -40,14 +40,14 @@ constexpr TypeName kTypeNames[] = {
     {"REAL", FieldType::Double},     {"NUMERIC", FieldType::Numeric},   {"FLOAT", FieldType::Float},
 };
 
-// The type of an expression is that of its value.
+// An expression has no declared type; it has the type of its value.
 FieldType ValueType(int storage) {
     if (storage == SQLITE_INTEGER) return FieldType::Long;
     if (storage == SQLITE_FLOAT) return FieldType::Double;
     return FieldType::Text;
 }
 
-// A number that is the same for names that differ in case alone. Names beyond ASCII share one.
+// Returns a hash that is equal for names that differ only in case; 0 for all names with non-ASCII characters.
 std::uint32_t NameHash(std::string_view name) {
     constexpr unsigned char kLowerCase = 0x20;
     std::uint32_t hash = kEmptyHash32;
@@ -97,7 +97,7 @@ std::string Field::Text() const {
     const int storage = sqlite3_column_type(statement_, column_);
     if (!IsNumeric(storage)) return std::string(ColumnText(statement_, column_));
     if (type_ == FieldType::Boolean) return Boolean() ? "TRUE" : "FALSE";
-    // A 64-bit whole number has digits that a double cannot hold.
+    // A 64-bit integer may have more digits than a double can hold.
     if (storage == SQLITE_INTEGER) return std::to_string(sqlite3_column_int64(statement_, column_));
     return NumberText(Number());
 }
@@ -130,7 +130,7 @@ bool Field::Boolean() const {
     return Number() != 0;
 }
 
-// The compiled statement, and the names of its fields once one is asked for.
+// The compiled statement, and the names of its fields once one has been requested.
 struct Recordset::Impl {
     explicit Impl(sqlite3_stmt* compiled) : statement(compiled) {}
     ~Impl() { sqlite3_finalize(statement); }
@@ -139,15 +139,15 @@ struct Recordset::Impl {
 
     void Step();
     const std::vector<std::string>& Names();
-    // Position of the field of that name, -1 when there is none.
+    // Returns the index of the field of that name, or -1.
     int Find(std::string_view name);
-    // REQUIRES: there is such a column.
+    // REQUIRES: the column exists.
     FieldType TypeOf(int column);
 
   private:
     bool Same(int column, std::string_view name, std::uint32_t hash) const;
     std::string_view TableOf(int column) const;
-    // Puts the table before each name that stands behind another of the same name, and before that one.
+    // Prefixes the table to every field name that occurs more than once.
     void QualifySharedNames();
 
   public:
@@ -158,7 +158,7 @@ struct Recordset::Impl {
     std::vector<std::string> names_;
     std::vector<std::uint32_t> hashes_;
     std::vector<std::optional<FieldType>>
-        declared_;  // of each column, none for an expression; empty at first
+        declared_;  // by column; nullopt for an expression; empty until needed
 };
 
 void Recordset::Impl::Step() {
@@ -207,7 +207,7 @@ void Recordset::Impl::QualifySharedNames() {
     for (const int column : shared) {
         const auto index = static_cast<std::size_t>(column);
         const std::string_view table = TableOf(column);
-        // Three fields of one name put the first of them on the list twice.
+        // With three fields of one name, the first is in the list twice.
         if (table.empty() || hashes_[index] != NameHash(sqlite3_column_name(statement, column))) continue;
         names_[index] = std::string(table) + "." + names_[index];
         hashes_[index] = NameHash(names_[index]);

@@ -1,4 +1,4 @@
-// Looking rows up by their names and ids. Names are trimmed and compared without regard to case.
+// Looks up rows by name and by id. Names are trimmed and compared ignoring case.
 #pragma once
 
 #include <cstdint>
@@ -10,12 +10,12 @@
 
 namespace tw {
 
-// The rows of that name in the table, with the columns, such as "ID, FOLDER_ID".
+// Returns the given columns, such as "ID, FOLDER_ID", of the rows of that name.
 Recordset RowsByName(Database& database, std::string_view table, std::string_view columns,
                      std::string_view name);
-// ID of the first of them, 0 when there is none.
+// Returns the ID of the first row of that name, or 0 if there is none.
 std::int64_t IdByName(Database& database, std::string_view table, std::string_view name);
-// NAME of the row of that id; nothing when there is none.
+// Returns the NAME of the row with that ID; nullopt if there is none.
 std::optional<std::string> NameById(Database& database, std::string_view table, std::int64_t id);
 
 }  // namespace tw

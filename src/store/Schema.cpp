@@ -136,7 +136,7 @@ constexpr ColumnDef kYeast[] = {
     {"TYPE", Long},     {"AA_LO", Double}, {"AA_HI", Double}, {"TEMP_LO", Double}, {"TEMP_HI", Double},
 };
 
-// WATER_PROFILES and SALTS: one editor writes both.
+// The columns of WATER_PROFILES and of SALTS, which one editor writes.
 constexpr ColumnDef kIons[] = {
     {"ID", Long, true}, {"NAME", Text}, {"DESCR", Memo}, {"CA", Double},  {"CO3", Double},
     {"CL", Double},     {"MG", Double}, {"NA", Double},  {"SO4", Double},
@@ -170,7 +170,8 @@ struct IndexDef {
     std::string_view columns;
 };
 
-// The rows of one recipe, and the nodes of the tree in the order of their names.
+// For finding the rows of one recipe, looking up names, and reading the nodes of the tree
+// in the order of their names.
 constexpr IndexDef kIndexes[] = {
     {"RECIPE_GRAINS", "RECIPE_ID"},
     {"RECIPE_HOPS", "RECIPE_ID"},
@@ -212,7 +213,7 @@ std::string_view TypeOf(const ColumnDef& column) {
 }
 
 std::string Declaration(const ColumnDef& column) {
-    // Quoted, since one column is named as a keyword.
+    // The name is quoted, since one column is named like a keyword.
     std::string declaration = "\"";
     declaration.append(column.name).append("\" ").append(TypeOf(column));
     return declaration + ColumnRules(column.name, column.type);
@@ -227,7 +228,7 @@ std::string CreateTable(const TableSchema& table) {
     return sql + ");\n";
 }
 
-// The index is named after the table and its columns: RECIPES_STYLE_ID_NAME.
+// Names the index after its table and columns: RECIPES_STYLE_ID_NAME.
 std::string CreateIndex(const IndexDef& index) {
     std::string name(index.table);
     name += '_';
@@ -237,7 +238,7 @@ std::string CreateIndex(const IndexDef& index) {
            ");\n";
 }
 
-// "TABLE" of each table and "TABLE.COLUMN" of each column that the database holds.
+// Returns "TABLE" for each table and "TABLE.COLUMN" for each column of the database.
 std::set<std::string> NamesIn(Database& database) {
     std::set<std::string> names;
     for (Recordset rows = database.OpenRecordset("SELECT T.name, C.name FROM sqlite_schema AS T, "

@@ -1,4 +1,5 @@
-// The tables of the program's database: columns, types, counter keys and the indexes that the reads need.
+// The schema of the program's database: tables, columns, types, counter keys, and the
+// indexes that reading needs.
 #pragma once
 
 #include <memory>
@@ -13,7 +14,7 @@ namespace tw {
 struct ColumnDef {
     std::string_view name;
     FieldType type;
-    bool counter = false;  // a counter key: assigned by the store, never used again after a delete
+    bool counter = false;  // a key assigned by the store and never reused after a delete
 };
 
 struct TableSchema {
@@ -21,17 +22,17 @@ struct TableSchema {
     std::span<const ColumnDef> columns;
 };
 
-// What stands behind the type in the declaration of a column of that name: its order of texts, and for a date
+// Returns the rules that follow the type in a column's declaration: the collation of a text and, for a date,
 // the check of its form.
 std::string ColumnRules(std::string_view name, FieldType type);
-// All tables of the main database, in the order in which they are made.
+// All tables of the main database, in the order in which they are created.
 std::span<const TableSchema> MainSchema();
-// Makes every table and index of the main database. REQUIRES: the database holds none of them.
+// Creates all tables and indexes of the main database. REQUIRES: the database has none of them.
 void CreateSchema(Database& database);
-// Raises an error that names the first table or column that the database lacks.
+// Raises an Error that names the first table or column missing from the database.
 void CheckSchema(Database& database);
-// Opens the main database exclusively and checks its schema. Raises the errors of both; the file is untouched
-// then.
+// Opens the main database exclusively and checks its schema. Raises the errors of OpenDatabase and
+// CheckSchema, which leave the file untouched.
 std::unique_ptr<Database> OpenMainDatabase(const std::string& path);
 
 }  // namespace tw

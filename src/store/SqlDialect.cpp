@@ -36,7 +36,7 @@ bool IsWordChar(char c) {
     return ClassOf(c) >= CharClass::Digit;
 }
 
-// True when word is keyword in any case. REQUIRES: keyword consists of capital letters.
+// True if word equals keyword, ignoring case. REQUIRES: keyword consists of capital letters.
 bool IsKeyword(std::string_view word, std::string_view keyword) {
     if (word.size() != keyword.size()) return false;
     for (std::size_t i = 0; i < word.size(); ++i)
@@ -51,8 +51,8 @@ bool IsTextFunction(std::string_view word) {
     return false;
 }
 
-// Goes through the statement once. What stays as it is lies between copied_ and at_ and is copied in one
-// piece when something has to be rewritten; a statement that needs no rewriting is copied once as a whole.
+// Reads the statement once. Unchanged text between copied_ and at_ is copied in one piece when something must
+// be rewritten, so a statement without changes is copied once as a whole.
 class Translator {
   public:
     Translator(std::string_view sql, std::size_t values) : sql_(sql), valuesLeft_(values) {}
@@ -99,8 +99,8 @@ class Translator {
         return at_ - start;
     }
 
-    // Up to three decimals SQLite's division by a power of ten, in extended precision, cannot miss the
-    // nearest double.
+    // With up to three decimals, SQLite divides by a power of ten in extended precision and cannot miss the
+    // nearest double. Numbers with more digits become parameters.
     void TakeNumber() {
         constexpr std::size_t kSafeDecimals = 3;
         constexpr std::size_t kSafeDigits = 18;
@@ -134,7 +134,7 @@ class Translator {
         if (previous_ != '.') {
             if (IsKeyword(word, "CASE")) ++caseDepth_;
             if (IsKeyword(word, "END") && caseDepth_ > 0) --caseDepth_;
-            // No statement of the design begins a query that way, and one that calls itself may never end.
+            // No statement of the program uses WITH, and a recursive one might never end.
             if (IsKeyword(word, "WITH")) Refuse("WITH is not supported.");
             awaitsCollation_ = word.size() <= 5 && IsTextFunction(word);
         }
@@ -208,7 +208,8 @@ class Translator {
 
     char Next() const { return at_ + 1 < sql_.size() ? sql_[at_ + 1] : '\0'; }
 
-    // The result of a text function compares as the columns do; SQLite would compare it letter for letter.
+    // The result of a text function is compared like a text column, ignoring case; SQLite would
+    // compare it case-sensitively.
     void TakeClosing() {
         ++at_;
         if (!collations_.empty() && collations_.back() == parenDepth_) {
@@ -251,8 +252,8 @@ class Translator {
         copied_ = at_;
     }
 
-    // Writes a literal between single quotes, apart from a word or a literal that stands directly before it.
-    // SQLite reads SQL text up to a NUL, so that one is written as an expression.
+    // Writes a literal in single quotes, separated from a word or literal directly before it. SQLite stops
+    // reading at a NUL, so a text with NULs is written as an expression.
     void AppendLiteral(std::string_view inside, char quote) {
         if (!out_.empty() && (out_.back() == '\'' || IsWordChar(out_.back()))) out_.push_back(' ');
         const bool hasNul = inside.find('\0') != std::string_view::npos;
@@ -260,7 +261,7 @@ class Translator {
         out_.push_back('\'');
         for (std::size_t i = 0; i < inside.size(); ++i) {
             const char c = inside[i];
-            if (c == quote) ++i;  // the second one of a doubled quote
+            if (c == quote) ++i;  // skips the second character of a doubled quote
             if (c == '\'')
                 out_.append("''");
             else if (c == '\0')
@@ -286,11 +287,11 @@ class Translator {
     std::size_t at_ = 0;
     std::size_t copied_ = 0;
     std::optional<StatementKind> kind_;
-    char previous_ = '\0';  // the first character of the token before
+    char previous_ = '\0';  // the first character of the previous token
     int caseDepth_ = 0;
     int parenDepth_ = 0;
-    bool awaitsCollation_ = false;  // directly behind the name of a text function
-    std::vector<int> collations_;   // depths of the parentheses behind which the collation goes
+    bool awaitsCollation_ = false;  // just after the name of a text function
+    std::vector<int> collations_;   // the depths of the parentheses that a collation must follow
 };
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The SQL of the windows in SQLite's words. The statements stay as designed; this is the only file that knows
-// how the two differ.
+// Translates the program's SQL to SQLite's. Statements are written as designed; no other
+// file knows how the two differ.
 #pragma once
 
 #include <cstddef>
@@ -9,23 +9,23 @@
 
 namespace tw {
 
-// The kinds of statement that the store runs.
+// The kinds of statements that the store runs.
 enum class StatementKind { Select, Insert, Update, Delete };
 
 struct DialectStatement {
     StatementKind kind;
     std::string sql;  // in SQLite's dialect
-    // Numbers of the text that have become parameters, in their order: SQLite reads a long decimal number
-    // only nearly right, and a stored figure must come back as the same double.
+    // The numbers of the text that were replaced by parameters, in order: SQLite reads a long decimal number
+    // inexactly, and a stored figure must be read back as the same double.
     std::vector<double> numbers;
-    // Which of all parameters, counted from 1, the "?" of the text are, in their order.
+    // For each "?" of the text, in order, its index among all parameters, from 1.
     std::vector<int> values;
 };
 
-// Translates one statement: double-quoted literals become single-quoted ones (also where the text equals a
-// column's name), the column WHEN is quoted, functions get their names. Raises an error for anything but one
-// SELECT, INSERT, UPDATE or DELETE, for an unfinished literal, and unless the text holds as many "?" as there
-// are values.
+// Translates one statement: double-quoted literals become single-quoted (even if the text equals a column's
+// name), the column WHEN is quoted, and text functions compare ignoring case. Raises Error for anything but
+// one SELECT, INSERT, UPDATE or DELETE, for an unfinished literal, and unless the text has as many "?" as
+// there are values.
 DialectStatement TranslateSql(std::string_view sql, std::size_t values = 0);
 
 }  // namespace tw

@@ -12,8 +12,8 @@ std::string_view Bytes(const void* data, int size) {
     return {static_cast<const char*>(data), static_cast<std::size_t>(size)};
 }
 
-// Negative, zero or positive as the first text sorts. Memory that runs out inside falls back to the bytes'
-// order: no exception may cross SQLite.
+// Compares texts, ignoring case; negative if the first sorts before the second. If memory runs out, compares
+// by bytes, since no exception may pass through SQLite.
 int CompareText(void*, int sizeA, const void* a, int sizeB, const void* b) noexcept {
     const std::string_view left = Bytes(a, sizeA);
     const std::string_view right = Bytes(b, sizeB);
@@ -24,8 +24,8 @@ int CompareText(void*, int sizeA, const void* a, int sizeB, const void* b) noexc
     }
 }
 
-// "MM/DD/YYYY HH:MM:SS": the year, then month and day, then the time. Text of another length sorts by its
-// bytes.
+// Compares texts of the form "MM/DD/YYYY HH:MM:SS" by year, then month and day, then time. Texts of another
+// length are compared by bytes.
 int CompareDates(void*, int sizeA, const void* a, int sizeB, const void* b) noexcept {
     constexpr std::size_t kDateSize = 19;
     constexpr std::size_t kYear = 6;
@@ -39,7 +39,7 @@ int CompareDates(void*, int sizeA, const void* a, int sizeB, const void* b) noex
     return left.compare(right);
 }
 
-// The SQL function around a change of case: NULL stays NULL, a number is taken as its text.
+// An SQL function that changes the case of a text. NULL stays NULL; a number is converted to text.
 template <std::string (*Change)(std::string_view)>
 void ChangeCase(sqlite3_context* context, int, sqlite3_value** arguments) noexcept {
     const unsigned char* const text = sqlite3_value_text(arguments[0]);

@@ -23,7 +23,7 @@ std::string SqlValue::Literal() const {
 std::string WithLiterals(std::string_view sql, const SqlValues& values) {
     std::string text;
     auto value = values.begin();
-    char quote = '\0';  // the end of the literal or of the quoted name that the character stands in
+    char quote = '\0';  // the character that ends the literal or quoted name being read; NUL outside of one
     for (const char c : sql) {
         if (quote == '\0' && c == '?' && value != values.end()) {
             text += (value++)->Literal();

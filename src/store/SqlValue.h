@@ -1,4 +1,4 @@
-// What a statement takes in place of its "?".
+// The values that replace the "?" of a statement.
 #pragma once
 
 #include <concepts>
@@ -12,13 +12,13 @@
 
 namespace tw {
 
-// The value of a field that holds none.
+// The value NULL.
 struct Null {
     bool operator==(const Null&) const = default;
 };
 
-// Nothing, a boolean, a number, or a text, whatever stands in it. It is written as its literal in the SQL
-// text would be: a number without decimals goes as a whole one.
+// NULL, a boolean, a number, or any text. It is stored as if its literal were in the SQL text: a number
+// without decimals is stored as an integer.
 class SqlValue {
   public:
     SqlValue(Null value) : value_(value) {}
@@ -29,13 +29,13 @@ class SqlValue {
     SqlValue(std::string value) : value_(std::move(value)) {}
     SqlValue(std::string_view value) : value_(std::string(value)) {}
     SqlValue(const char* value) : value_(std::string(value)) {}
-    // Null for nothing.
+    // NULL for nullopt.
     template <typename Value>
     SqlValue(const std::optional<Value>& value) : SqlValue(value ? SqlValue(*value) : SqlValue(Null())) {}
 
     bool operator==(const SqlValue&) const = default;
 
-    // The literal of the value: NULL, TRUE, 1.5, 'O''Hara'.
+    // Returns the value as an SQL literal: NULL, TRUE, 1.5, 'O''Hara'.
     std::string Literal() const;
 
     using Stored = std::variant<Null, bool, std::int64_t, double, std::string>;
@@ -47,15 +47,14 @@ class SqlValue {
 
 using SqlValues = std::vector<SqlValue>;
 
-// Returns the statement with the literals of the values in place of its "?", in their order: what it says,
-// for people to read.
+// Returns the statement with its "?" replaced by the literals of the values, in order. For display and logs.
 std::string WithLiterals(std::string_view sql, const SqlValues& values);
 
-// text with every "'" doubled, for a literal between single quotes.
+// Returns text with every "'" doubled, for a literal in single quotes.
 std::string DoubleQuotes(std::string_view text);
-// "'" + DoubleQuotes(text) + "'".
+// Returns "'" + DoubleQuotes(text) + "'".
 std::string SqlText(std::string_view text);
-// Writes SqlText(text) to the end of out.
+// Appends SqlText(text) to out.
 void AppendSqlText(std::string& out, std::string_view text);
 
 }  // namespace tw

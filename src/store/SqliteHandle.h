@@ -1,4 +1,4 @@
-// What the files of the store share about the SQLite handle behind a database.
+// What the store's files share about SQLite handles.
 #pragma once
 
 #include <memory>
@@ -13,20 +13,20 @@ inline constexpr const char* kDatabaseSource = "Database";
 inline constexpr const char* kRecordsetSource = "Recordset";
 
 struct HandleCloser {
-    // Closes the handle, or leaves that to its last recordset when one is still open.
+    // Closes the handle; if a recordset is still open, closing is left to the last one.
     void operator()(sqlite3* handle) const { sqlite3_close_v2(handle); }
 };
 using SqliteHandle = std::unique_ptr<sqlite3, HandleCloser>;
 
-// The handle's present error: its description and SQLite's primary result code.
+// Returns the handle's current error: SQLite's description and primary result code.
 Error StoreError(sqlite3* handle, const char* source);
-// Raises it.
+// Raises StoreError(handle, source).
 [[noreturn]] void RaiseStoreError(sqlite3* handle, const char* source);
-// Runs any number of SQLite's own statements. Raises the store's error.
+// Runs any number of statements in SQLite's own SQL. Raises the store's error.
 void RunNative(sqlite3* handle, const std::string& sql);
 
-// The orders of text columns: TWTEXT ignores case, TWDATE goes by date; and the functions UCASE and LCASE.
-// Raises the store's error.
+// Registers the collations of text columns, TWTEXT (ignores case) and TWDATE (by date), and the functions
+// UCASE and LCASE. Raises the store's error.
 void RegisterFunctions(sqlite3* handle);
 
 enum class FileUse {
@@ -37,14 +37,14 @@ enum class FileUse {
 
 struct OpenedFile {
     SqliteHandle handle;
-    bool readOnly = false;  // exclusive use of a file that cannot be written
+    bool readOnly = false;  // opened exclusively, but the file cannot be written
 };
 
-// Opens an existing database file and reads it. See Database::OpenDatabase and OpenForeign.
+// Opens and checks an existing database file. See Database::OpenDatabase and OpenForeign.
 OpenedFile OpenDatabaseFile(const std::string& path, FileUse use);
-// Makes an empty database file. See Database::CreateDatabase.
+// Creates an empty database file. See Database::CreateDatabase.
 SqliteHandle CreateDatabaseFile(const std::string& path);
-// Opens a fresh database in memory.
+// Opens a new database in memory.
 SqliteHandle OpenMemoryDatabase();
 
 }  // namespace tw

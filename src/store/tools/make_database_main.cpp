@@ -1,6 +1,6 @@
-// tunwright-make-database FOLDER TARGET: makes the starting database TARGET from the catalogue files in
-// FOLDER. A TARGET that exists holds a brewer's recipes: it is left alone. Exit status: 0 made or left alone,
-// 1 not made (the reasons are on standard error), 2 wrong arguments.
+// tunwright-make-database FOLDER TARGET: creates the starting database TARGET from the catalogue files in
+// FOLDER. An existing TARGET contains a brewer's recipes and is left alone. Exit status: 0 created or left
+// alone, 1 not created (the reasons are on standard error), 2 wrong arguments.
 #include <filesystem>
 #include <iostream>
 #include <optional>
@@ -15,8 +15,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The database under way, beside its target. Goes, with the files that the store keeps beside it, unless it
-// was put in its place.
+// The database being created, beside its target. Deleted, with the files that the store keeps beside it,
+// unless it was put in place.
 class PartFile {
   public:
     explicit PartFile(const fs::path& target) : target_(target), path_(target.string() + ".part") {
@@ -46,7 +46,8 @@ int MakeDatabase(const std::string& folder, const fs::path& target) {
     {
         const auto database = tw::Database::CreateDatabase(part.Path(), "");
         tw::CreateSchema(*database);
-        // No brewer has made them at any time; and every build gives the same database.
+        // Without dates: no brewer has created these rows at any time, and every build
+        // must give the same database.
         problems = tw::LoadCatalogue(folder, *database, std::nullopt);
     }
     for (const tw::CatalogueProblem& problem : problems) std::cerr << problem.Text() << '\n';
