@@ -1,4 +1,4 @@
-// What the windows of the catalogue stand on.
+// What the dialogs of the catalogue need from the rest of the program.
 #pragma once
 
 #include "platform/Ports.h"
@@ -8,7 +8,8 @@
 
 namespace tw {
 
-// Holds references; the program that makes it keeps the objects alive for as long as its windows.
+// Holds references only: the program that creates the context owns the objects,
+// which must outlive the dialogs.
 struct CatalogueContext {
     Database& database;
     const TWTree& tree;

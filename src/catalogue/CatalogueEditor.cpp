@@ -98,7 +98,7 @@ void CatalogueEditor::SetName(std::string_view name) {
         loadedName_ = entry_.name;
         ReadOwn(row);
     } catch (const Error&) {
-        // Storing what was read of a bad row would lose the rest.
+        // The row cannot be read completely; saving just a part of it would lose the rest.
         Clear();
         throw;
     }
@@ -117,7 +117,7 @@ void CatalogueEditor::TypeCell(int row, int col, std::string_view text) {
 }
 
 void CatalogueEditor::Ok() {
-    // A form that only shows closes by either button.
+    // Nothing can be saved in a read-only form, so it just closes.
     if (readOnly_)
         Close();
     else if (Save())
@@ -173,7 +173,7 @@ bool CatalogueEditor::Write(const std::string& name) {
         InsertRow(Store(), form_->table, Values(name));
         AfterWrite();
     } catch (const Error&) {
-        // The old row must not go when the new one cannot be written.
+        // The old row must not be deleted if the new one cannot be written.
         unit.Abandon();
         throw;
     }

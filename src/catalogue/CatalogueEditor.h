@@ -1,6 +1,5 @@
-// The editor of one row of a catalogue: a name, a description, lists, and a grid of values. One model for all
-// catalogues; EditorForm tells them apart, and what is more than a table stands in the classes derived from
-// it.
+// The editor of one catalogue row: a name, a description, lists, and a grid of values. One model serves all
+// catalogues; EditorForm describes their differences, and derived classes add what is more than a table.
 #pragma once
 
 #include <functional>
@@ -18,80 +17,81 @@ namespace tw {
 
 class FolderChooser;
 
-// Text1, Text2, txtDesc, Combo1, Combo2, FolderID and gridInfo(ROW,COL), as far as the form has them; none
-// takes an entry while the form is read-only. A cell is left as it takes its entry, and a refused text leaves
-// the old one. cmdOK, cmdApply, cmdCancel, and the steps of the navigator cmdFirst, cmdPrevious, cmdNext,
-// cmdLast.
+// The controls are Text1, Text2, txtDesc, Combo1, Combo2, FolderID and gridInfo(ROW,COL), those that the form
+// has; none accepts an entry while the form is read-only. Entering a cell also leaves it; a refused text is
+// replaced by the one before. The buttons are cmdOK, cmdApply, cmdCancel, and for the navigator cmdFirst,
+// cmdPrevious, cmdNext and cmdLast.
 class CatalogueEditor : public FormModel {
   public:
-    // Blank, for a new row; SetName fills it. context must outlive the editor.
+    // Blank, for a new row; SetName loads an existing one. The objects of context must outlive the editor.
     CatalogueEditor(CatalogueKind catalogue, const CatalogueContext& context);
 
     const EditorForm& Form() const { return *form_; }
-    // Reads the row of that name, compared without regard to case. A blank name gives a blank form for a new
-    // row; so does, after a message, a name that the table does not hold.
+    // Loads the row of that name, ignoring case. The form is blank, for a new row, if the name is
+    // blank or, after a message, if the table has no such row. Raises the store's error, which
+    // also leaves the form blank.
     void SetName(std::string_view name);
     // The name under which the row is stored; empty for a new row.
     const std::string& LoadedName() const { return loadedName_; }
-    // The name that was saved last; empty before.
+    // The name saved last; empty before the first save.
     const std::string& Selection() const { return selection_; }
 
-    // Steps through the rows of a list from now on. REQUIRES: it lives for as long.
+    // Sets the navigator for stepping through the rows of a list. REQUIRES: navigator outlives this editor.
     void SetNavigator(ObjectNavigator& navigator) { navigator_ = &navigator; }
-    // nullptr for none.
+    // The navigator, or nullptr.
     ObjectNavigator* Navigator() const { return navigator_; }
-    // Shows the row that a step of the navigator arrived at; nothing for an empty name. What was not applied
-    // is dropped.
+    // Shows the row that a step of the navigator has reached; does nothing if name is empty. Changes not
+    // applied are lost.
     void GoTo(const std::string& name);
 
-    // The form only shows rows from now on: no entry is taken and nothing is saved.
+    // Makes the form read-only: it accepts no entries and saves nothing.
     virtual void SetReadOnly() { readOnly_ = true; }
     bool ReadOnly() const { return readOnly_; }
     bool ApplyEnabled() const { return applyEnabled_ && !readOnly_; }
 
-    // Combo1 or Combo2. REQUIRES: the form has it.
+    // Returns the list of Combo1 or Combo2. REQUIRES: the form has that control.
     const EditorList& List(std::string_view control) const;
     const CellGrid& Cells() const { return entry_.cells; }
-    // A key changes the text of a cell; nothing while the form is read-only.
+    // Changes the text of a cell, as typing does. Does nothing while the form is read-only.
     void TypeCell(int row, int col, std::string_view text);
-    // Checks what was typed, as CellGrid does. False when it was refused.
+    // Checks the text of a cell, as CellGrid::Leave does. False if it was refused.
     bool LeaveCell(int row, int col) { return entry_.cells.Leave(row, col, context_.messages); }
-    // The style folder; nullptr for all editors but that of the styles.
+    // The chooser of the style's folder; nullptr for all editors but that of styles.
     virtual FolderChooser* Folders() { return nullptr; }
-    // The folder has been changed in its chooser.
+    // To be called when another folder has been chosen.
     void FolderChanged() { MarkChanged(); }
 
-    // The control that the last cmdOK or cmdApply stumbled on; empty when it saved.
+    // The control whose text the last cmdOK or cmdApply refused; empty if it saved.
     const std::string& RefusedControl() const { return refusedControl_; }
 
-    // Runs after each save, with the name.
+    // Sets a callback that runs after each save, with the saved name.
     void OnSaved(std::function<void(const std::string&)> told) { onSaved_ = std::move(told); }
 
   protected:
-    // Clears what the form has beside its entry, for a new row.
+    // Clears the parts of the form that are not in EditorEntry, for a new row.
     virtual void ClearOwn() {}
-    // Takes what the row holds beside it. The recordset is at the row.
+    // Reads those parts from the row at which the recordset is.
     virtual void ReadOwn(const Recordset&) {}
-    // The value of a column that only a derived editor knows.
+    // Returns the value of a column that only a derived editor knows.
     virtual SqlValue OwnValue(ColumnSource) const { return Null(); }
-    // Writes the row: deletes the old one and inserts the new one, as one unit that is taken back when it
-    // fails. Raises the store's error. False when the row could not be written, which has been told.
+    // Writes the row as one unit of work that is undone if it fails: deletes the old row and inserts the new
+    // one. Raises the store's error. False if the row could not be written and a message has said so.
     virtual bool Write(const std::string& name);
-    // Run within that unit, before and after the two statements.
+    // Called within that unit of work, before and after the two statements.
     virtual void BeforeWrite() {}
     virtual void AfterWrite() {}
-    // cmdApply has saved: the form goes on showing the row as it is stored now.
+    // Called after cmdApply has saved, while the form continues to show the row.
     virtual void Applied() {}
 
     const CatalogueContext& Context() const { return context_; }
     Database& Store() const { return context_.database; }
-    // For the grain that turns out to be an extract; both have the same cells.
+    // For a grain that turns out to be an extract, or the reverse. Both forms have the same cells.
     void SetForm(CatalogueKind catalogue) { form_ = &FormOf(catalogue); }
-    // Combo1, whatever the form has there.
+    // The list of Combo1, whatever it contains in this form.
     EditorList& TypeList() { return entry_.combo1; }
-    // Everything but what a derived editor adds.
+    // Returns the columns to write, without those that a derived editor adds.
     ColumnValues Values(const std::string& name) const;
-    // The row is not stored any more: the next save inserts it.
+    // Marks the row as no longer stored, so that the next save inserts it.
     void ForgetLoadedName() { loadedName_.clear(); }
     void ShowError(std::string_view text) { context_.messages.ShowMessage("Error!", text); }
 
@@ -99,13 +99,14 @@ class CatalogueEditor : public FormModel {
     void DeclareControls();
     void DeclareCells();
     void DeclareButtons();
-    // A control that takes no entry while the form is read-only, and whose entry is a change.
+    // Returns control changed so that it accepts no entry while the form is read-only, and
+    // marks an entry as a change.
     FormControl Editable(FormControl control);
     void MarkChanged() { applyEnabled_ = true; }
     void Clear();
     void Ok();
     bool Save();
-    // Whether the name may be stored; tells why not.
+    // True if the row may be stored under that name; otherwise shows a message.
     bool CheckName(const std::string& name);
 
     const EditorForm* form_;
@@ -118,7 +119,7 @@ class CatalogueEditor : public FormModel {
     bool applyEnabled_ = false;
 };
 
-// The editor of that catalogue, on a blank form.
+// Creates the editor of that catalogue with a blank form.
 std::unique_ptr<CatalogueEditor> MakeEditor(CatalogueKind catalogue, const CatalogueContext& context);
 
 }  // namespace tw

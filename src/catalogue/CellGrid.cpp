@@ -11,7 +11,7 @@
 namespace tw {
 namespace {
 
-// The number of a text that is not blank; nothing when it was refused, which a box has said.
+// Returns the number of a text that is not blank; nullopt, after a message, if the text is refused.
 std::optional<double> ReadAloud(const RangeRow& row, std::string_view text, MessagePort& messages) {
     try {
         const Reading<double> value = ReadCell(row, text);
@@ -52,7 +52,7 @@ bool CellGrid::Type(int row, int col, std::string_view text) {
 
 bool CellGrid::Leave(int row, int col, MessagePort& messages) {
     Cell& cell = At(row, col);
-    // A figure that is only looked at keeps all its digits.
+    // Unchanged text is not read again, so that the stored number keeps all its digits.
     if (cell.text == cell.goodText) return true;
     const bool blank = IsBlank(cell.text);
     const std::optional<double> value = blank ? std::nullopt : ReadAloud(Quantity(row), cell.text, messages);
@@ -81,7 +81,7 @@ std::optional<double> CellGrid::ColorHcu() const {
         const std::optional<double> low = Value(row, 0), high = Value(row, 1);
         if (!low && !high) return std::nullopt;
         const double middle = std::max(0.0, (low ? *low : *high) / 2 + (high ? *high : *low) / 2);
-        // A malt shows as the wort of a pound in a gallon, whose colour units are its degrees Lovibond.
+        // A malt is shown as the wort of one pound in one gallon, whose HCU equals its degrees Lovibond.
         return color == RangeRow::Color::Srm ? SRMToHCU(middle) : middle;
     }
     return std::nullopt;

@@ -1,4 +1,4 @@
-// The grid of an editor (gridInfo): a row for each quantity, with one value or with a low and a high one.
+// The grid of an editor (gridInfo): one row per quantity, with a single value or with a low and a high one.
 #pragma once
 
 #include <optional>
@@ -13,41 +13,44 @@
 
 namespace tw {
 
-// Rows and columns count from 0. REQUIRES, wherever one is named: there is such a cell.
+// Rows and columns are counted from 0. REQUIRES for every row and col: the cell exists.
 class CellGrid {
   public:
-    // Blank. A grid whose first row has no high value has one column. REQUIRES: rows lives for as long.
+    // Creates blank cells: one column if the first row has no high value, else two.
+    // REQUIRES: rows outlives the grid.
     explicit CellGrid(std::span<const RangeRow> rows);
 
     int Rows() const { return static_cast<int>(rows_.size()); }
     int Cols() const { return rows_.front().high.empty() ? 1 : 2; }
     const RangeRow& Quantity(int row) const { return rows_[static_cast<std::size_t>(row)]; }
-    // "gridInfo(ROW,COL)".
+    // Returns the control name, "gridInfo(ROW,COL)".
     static std::string NameOf(int row, int col);
 
     const std::string& Text(int row, int col) const { return At(row, col).text; }
-    // The stored number, in the unit of its row; nothing for a blank cell.
+    // The stored number, in the unit of its row; nullopt for a blank cell.
     std::optional<double> Value(int row, int col) const { return At(row, col).value; }
 
     void Clear();
-    // Shows a stored number, in the unit of its row.
+    // Sets a stored number, in the unit of its row, and shows it.
     void Load(int row, int col, double value);
-    // A key changes the text; nothing is checked before the cell is left. False when it was the text already.
+    // Changes the text as typing does, without checks until the cell is left. False if
+    // that was the text already.
     bool Type(int row, int col, std::string_view text);
-    // Checks what was typed. A bad entry has had its message: the last good text stands there again; false
-    // then. A blank one is allowed.
+    // Checks the text when the cell is left; a blank text is allowed. If it is refused, shows a message,
+    // restores the last accepted text and returns false.
     bool Leave(int row, int col, MessagePort& messages);
 
-    // What is odd about the ranges, in a sentence; empty for nothing. They are stored as they are.
+    // Returns a sentence about a low value above the high one; empty if there is none. Such ranges are stored
+    // all the same.
     std::string RangeHint() const;
-    // The middle of the row that is a colour, in homebrew colour units; nothing while it is blank or there is
-    // none.
+    // Returns the middle of the colour range in homebrew colour units (HCU); nullopt if it is blank or the
+    // grid has no colour row.
     std::optional<double> ColorHcu() const;
 
   private:
     struct Cell {
         std::string text;
-        std::string goodText;  // the last one that was left and found good
+        std::string goodText;  // the text accepted last
         std::optional<double> value;
     };
 

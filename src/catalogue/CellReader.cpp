@@ -42,7 +42,7 @@ Reading<double> ReadCell(const RangeRow& row, std::string_view text) {
     };
     const std::optional<double> number = Parse(row.check, text);
     if (!number) return refused("valid");
-    // As everywhere, a gravity of zero is refused, and no other zero.
+    // Zero is refused for a gravity only, as everywhere in the program.
     if (*number < 0 || (*number == 0 && row.check == CellCheck::Gravity)) return refused("positive");
     return *number;
 }

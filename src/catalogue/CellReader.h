@@ -1,4 +1,4 @@
-// Reads the cells of the editors' grids.
+// Reads the text of cells in the editors' grids.
 #pragma once
 
 #include <string_view>
@@ -8,8 +8,8 @@
 
 namespace tw {
 
-// The number of a text that is not blank, in the unit that its row is stored in. Raises arithmetic errors as
-// the parsers do.
+// Returns the number in text, in the unit of its row, or the refusal of an invalid text. Raises Error for
+// arithmetic faults, as the parsers do. REQUIRES: text is not blank.
 Reading<double> ReadCell(const RangeRow& row, std::string_view text);
 
 }  // namespace tw

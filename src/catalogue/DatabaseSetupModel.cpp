@@ -13,7 +13,7 @@
 namespace tw {
 namespace {
 
-// Before all folders and styles.
+// Sorts the row ".." before all folders and styles.
 constexpr int kRowUpGroup = -1;
 constexpr std::string_view kRowUp = "..";
 
@@ -76,7 +76,7 @@ void DatabaseSetupModel::Refill() {
     } else {
         filler_.Fill(items_, catalogue_);
     }
-    // The same catalogue stays in the order that the brewer has given it.
+    // The brewer's choice of the sort column is kept while the catalogue stays the same.
     if (items_.Columns().front().title == titleBefore && sortColumn >= 0) items_.Sort(sortColumn, descending);
 }
 
@@ -87,7 +87,7 @@ void DatabaseSetupModel::SetFilter(std::string_view text) {
     if (catalogue_ != CatalogueKind::Style || wasFiltered == !items_.Filter().empty()) return;
     Refill();
     const int row = items_.FindKey(chosen);
-    // Without a filter the chosen style is shown in its folder.
+    // After the filter has been removed, the chosen style is shown in its folder.
     if (row != ListTable::kNoRow)
         items_.Select(row);
     else if (!wasFiltered || chosen.empty() || !ShowName(chosen))
@@ -148,7 +148,7 @@ void DatabaseSetupModel::EnterFolder() {
     folderId_ = IdOfKey(SelectedName());
     items_.SetFilter("");
     Refill();
-    // On the way up the folder that was left is the one to go on from.
+    // On the way up, the folder just left is selected.
     const int row = items_.FindKey(StyleFolderKey(left));
     items_.Select(row == ListTable::kNoRow ? items_.FirstRow() : row);
 }
@@ -177,11 +177,11 @@ void DatabaseSetupModel::OpenEditor(const std::string& name) {
         if (editor->Folders() == nullptr) editor->SetNavigator(navigator);
         editor->SetName(name);
     }
-    // Also after Apply, so that the next step of the navigator finds the row under its new name.
+    // Called after Apply, too, so that the next step of the navigator finds the row under its new name.
     editor->OnSaved([this](const std::string& saved) { ShowSaved(saved); });
     context_.dialogs.ShowModal(*editor);
     if (editor->Folders() == nullptr || !editor->Selection().empty()) return;
-    // Folders may have been made all the same.
+    // Folders may have been created even if no style was saved.
     const std::string selected = SelectedName();
     Refill();
     const int row = items_.FindKey(selected);
@@ -229,9 +229,9 @@ void DatabaseSetupModel::TakeOutSelectedRow() {
     const int row = items_.Selected();
     items_.Remove(row);
     int next = row;
-    // What a filter hides may still stand below the heading.
+    // Rows hidden by the filter may still be below the heading.
     if (!items_.Filter().empty()) Refill();
-    // A heading goes with the last row below it.
+    // A heading is removed with the last row below it.
     const bool below = row < items_.Count() && !items_.Row(row).isGroup && row > 0 &&
                        items_.Row(row).group == items_.Row(row - 1).group;
     if (items_.Filter().empty() && row > 0 && items_.Row(row - 1).isGroup && !below) items_.Remove(--next);

@@ -1,4 +1,4 @@
-// The window from which the catalogues are maintained (frmDBSetup).
+// The dialog that maintains the catalogues (frmDBSetup).
 #pragma once
 
 #include <string>
@@ -12,31 +12,33 @@
 
 namespace tw {
 
-// Combo1 takes one of its entries; lvItems shows and takes the text of the selected row, and a press on it is
-// a double click, which enters a folder and edits anything else; txtFilter takes the words to filter by;
-// cmdNew, cmdEdit, cmdDelete, cmdClose. Errors of the store rise.
+// Combo1 accepts one of its entries. lvItems contains the text of the selected row; pressing it is a double
+// click, which enters a folder or edits any other row. txtFilter accepts the words to filter by. The buttons
+// are cmdNew, cmdEdit, cmdDelete and cmdClose. Raises the store's errors.
 class DatabaseSetupModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmDBSetup";
 
-    // Starts with the styles. context must outlive the dialog.
+    // Starts with the styles. The objects of context must outlive the dialog.
     explicit DatabaseSetupModel(const CatalogueContext& context);
 
-    // The entries of Combo1, in the order of the catalogues.
+    // The entries of Combo1, in the order of kSetupOrder.
     static const std::vector<std::string>& Entries();
     CatalogueKind Chosen() const { return catalogue_; }
-    // Shows another catalogue, on its first row; the styles from their root.
+    // Shows another catalogue with its first row selected; the styles start in their root folder.
     void Choose(CatalogueKind catalogue);
     ListTable& Items() { return items_; }
-    // Shows only the rows that hold these words; of the styles those of all folders, until the text is blank.
+    // Shows only the rows that contain these words; for styles, those of all folders,
+    // until text is blank again.
     void SetFilter(std::string_view text);
-    // Selects the row of that name; of a style in its folder, wherever that is. False without such a row.
+    // Selects the row of that name; a style in its folder, whichever that is. False if there is no such row.
     bool ShowName(std::string_view name);
 
-    // The guides that the codes of the styles are from; empty without codes and for other catalogues.
+    // Returns the names of the guides to which the codes of the styles refer; empty without
+    // codes, and for other catalogues.
     std::string Guides() const;
 
-    // Both are on while a row is selected that is no folder.
+    // True if a row other than a folder is selected.
     bool EditEnabled() const;
     bool DeleteEnabled() const { return EditEnabled(); }
 
@@ -50,7 +52,7 @@ class DatabaseSetupModel final : public FormModel {
     void AddRowUp();
     void EnterFolder();
     void OpenEditor(const std::string& name);
-    // Shows what an editor has saved, on that name.
+    // Shows the row that an editor has saved under that name.
     void ShowSaved(const std::string& name);
     void Delete();
     void DeleteRow(const std::string& name);
@@ -60,7 +62,7 @@ class DatabaseSetupModel final : public FormModel {
     lvFiller filler_;
     ListTable items_;
     CatalogueKind catalogue_ = CatalogueKind::Style;
-    std::int64_t folderId_ = 0;  // whose styles are shown
+    std::int64_t folderId_ = 0;  // the folder whose styles are shown
 };
 
 }  // namespace tw

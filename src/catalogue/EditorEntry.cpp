@@ -27,7 +27,7 @@ void ReadColumn(EditorEntry& entry, const EditorForm& form, const FormColumn& co
             entry.combo2.text = field.Text();
             break;
         case ColumnSource::TypeNumber: {
-            // What the list does not hold is shown all the same, so that saving does not change it.
+            // A number without a word in the list is shown as it is, so that saving does not change it.
             std::string& type = entry.combo1.text;
             type = field.IsNull() ? std::string() : std::string(Trim(ListTypeName(field)));
             if (type.empty() && !field.IsNull()) type = field.Text();
@@ -43,7 +43,7 @@ void ReadCell(CellGrid& cells, int row, int col, const Field& number) {
     if (!number.IsNull()) cells.Load(row, col, number.Number());
 }
 
-// The number of a type's word; Null for none. A number that has no word is its own.
+// Returns the number of a type's word; NULL if there is none. A number that has no word stays that number.
 SqlValue TypeNumber(std::string_view word) {
     for (std::size_t i = 0; i < TypeNames().size(); ++i)
         if (SameName(TypeNames()[i], word)) return i;
@@ -83,7 +83,7 @@ bool EditorList::Choose(std::string_view entry) {
     }
     const auto found =
         std::ranges::find_if(entries, [&](const std::string& known) { return SameName(known, entry); });
-    // What the row came with may stay.
+    // The text that came with the row may stay.
     if (found == entries.end()) return SameName(text, entry);
     text = *found;
     return true;
@@ -105,7 +105,7 @@ void ClearEntry(EditorEntry& entry, const EditorForm& form, Database& database) 
         entry.combo2.entries.assign(std::begin(kFlocculations), std::end(kFlocculations));
         entry.combo2.freeText = true;
     }
-    // The first type, which of a style is none.
+    // For styles the first type means that there is none.
     if (!types.entries.empty()) types.text = types.entries.front();
 }
 
@@ -132,7 +132,7 @@ ColumnValues ValuesOf(const EditorEntry& entry, const EditorForm& form, const st
             case ColumnSource::TypeNumber:
                 return TypeNumber(entry.combo1.text);
             case ColumnSource::Combo2:
-                // A style without a water has none; a flocculation is a text.
+                // A style without a water profile has NULL, but a flocculation is always text.
                 if (form.blank == BlankCell::Null && IsBlank(entry.combo2.text)) return Null();
                 return entry.combo2.text;
             default:

@@ -1,6 +1,5 @@
-// What an editor holds of a row of its catalogue, and how that is read from the row and written to it. What
-// one catalogue alone has (the types of the grains, the folders of the styles) stands in the editors derived
-// for it.
+// What an editor holds of a row of its catalogue, and how that is read from and written to the row. The
+// derived editors hold what only one catalogue has: the types of grains, the folders of styles.
 #pragma once
 
 #include <functional>
@@ -15,15 +14,15 @@
 
 namespace tw {
 
-// A list with its box.
+// A drop-down list with its text.
 struct EditorList {
-    // Takes an entry; one that is none only when the list takes any text or the box shows it already. False,
-    // and nothing changes, for another text.
+    // Chooses an entry. A text that is not an entry is accepted only if freeText is set or if it is the
+    // present text. False, without a change, if it is not accepted.
     bool Choose(std::string_view entry);
 
     std::vector<std::string> entries;
     std::string text;
-    bool freeText = false;  // takes texts that are no entries, too
+    bool freeText = false;  // accepts texts that are not entries
 };
 
 struct EditorEntry {
@@ -36,19 +35,18 @@ struct EditorEntry {
     CellGrid cells;
 };
 
-// The values of columns by their names, in the order of an INSERT.
+// Column names with their values, in the order of an INSERT.
 using ColumnValues = std::vector<std::pair<std::string, SqlValue>>;
 
-// Blanks the entry and fills its lists, some of them from the database.
+// Blanks the entry and fills its lists, some of them from the database. Raises the store's error.
 void ClearEntry(EditorEntry& entry, const EditorForm& form, Database& database);
-// Takes the row that the recordset is at. Raises the store's error; the entry may hold a part of the row
-// then.
+// Reads the current row of the recordset. Raises the store's error; entry may then contain a part of the row.
 void ReadEntry(EditorEntry& entry, const EditorForm& form, const Recordset& row);
-// The entry as it is stored under a name. ownValue: the value of a column that an entry does not hold. A
-// blank range end is left out or NULL, as the form says.
+// Returns the columns with which the entry is stored under that name. ownValue returns the value of a column
+// that an entry does not hold. A blank end of a range is handled as form.blank says.
 ColumnValues ValuesOf(const EditorEntry& entry, const EditorForm& form, const std::string& name,
                       const std::function<SqlValue(ColumnSource)>& ownValue);
-// Raises the store's error.
+// Inserts one row. Raises the store's error.
 void InsertRow(Database& database, std::string_view table, const ColumnValues& values);
 
 }  // namespace tw

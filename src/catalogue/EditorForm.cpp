@@ -44,7 +44,7 @@ constexpr RangeRow kSaltRows[] = {
     {"Sulfate (PPM/Gal/g)", Number, "numeric value", "SO4", ""},
 };
 
-// The name, the folder and the times of a style are written by its editor.
+// StyleEditor writes the name, the folder and the dates of a style.
 constexpr FormColumn kStyleColumns[] = {{"DESCR", ColumnSource::Description},
                                         {"TYPE", ColumnSource::TypeNumber},
                                         {"WATER_PROFILE", ColumnSource::Combo2}};

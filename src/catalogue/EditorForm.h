@@ -1,4 +1,4 @@
-// What tells the editors of the catalogue from each other: their tables, controls, ranges and words.
+// The differences between the editors of the catalogue: their tables, controls, ranges and words.
 #pragma once
 
 #include <span>
@@ -8,40 +8,40 @@
 
 namespace tw {
 
-// How the text of a cell is read.
+// How the text of a cell is read, and the unit of the stored number.
 enum class CellCheck {
-    Gravity,      // specific gravity or degrees Plato
+    Gravity,      // specific gravity; degrees Plato are converted
     Number,       // a plain number
-    Share,        // percent, without an upper limit
+    Share,        // percent without an upper limit
     Bitterness,   // IBU
     Carbonation,  // volumes of CO2
     Percent,      // 0 to 100 percent, with the messages of ValidatePercent
-    Temperature,  // stored in degrees Fahrenheit, with the messages of ValidateTemperature
+    Temperature,  // degrees Fahrenheit, with the messages of ValidateTemperature
 };
 
 // One row of gridInfo.
 struct RangeRow {
     std::string_view caption;
     CellCheck check;
-    // Of "Please enter a valid {word}", for the checks without messages of their own.
+    // The word in "Please enter a valid {word}", for the checks without messages of their own.
     std::string_view word;
-    // The columns of the table; a row of one value has no high one.
+    // The columns of the table; high is empty if the row has a single value.
     std::string_view low, high;
-    // Whether the row is a colour, and in what.
+    // The colour scale of the number, if it is a colour.
     enum class Color { None, Lovibond, Srm } color = Color::None;
-    // Of what is stored, where the caption does not say it.
+    // The unit of the stored number, if the caption does not name it.
     std::string_view unit = {};
 };
 
-// What a column of the table is written from.
+// Where the value of a column comes from.
 enum class ColumnSource {
-    Kind,         // GRAIN: whether it is a grain, not an extract
+    Kind,         // for GRAIN: true for a grain, false for an extract
     Name,         // Text1
-    GrainType,    // the row of GRAIN_TYPES that Combo1 names
-    Text2,        //
+    GrainType,    // the ID in GRAIN_TYPES of the type in Combo1
+    Text2,        // the text of Text2
     Description,  // txtDesc
-    TypeNumber,   // the number of Combo1's word
-    Combo2,       //
+    TypeNumber,   // the number of the word in Combo1
+    Combo2,       // the text of Combo2
 };
 
 struct FormColumn {
@@ -49,9 +49,9 @@ struct FormColumn {
     ColumnSource source;
 };
 
-// What a blank cell is stored as.
+// How a blank cell is stored.
 enum class BlankCell {
-    LeftOut,  // NULL; a range with one end filled has it at both
+    LeftOut,  // as NULL; a range with one blank end gets the other value at both ends
     Null,
     Zero,
 };
@@ -60,19 +60,19 @@ struct EditorForm {
     CatalogueKind catalogue;
     std::string_view formName;
     std::string_view table;
-    // "{kind} name cannot be blank."; "A {duplicate} named '...' already exists."
+    // The words in "{kind} name cannot be blank." and "A {duplicate} named '...' already exists."
     std::string_view kind, duplicate;
     std::string_view title;
-    // Captions of the controls, without their colons; empty where the form has no such control.
+    // Captions of the controls, without colons; empty if the form does not have the control.
     std::string_view name, text2, combo1, combo2, description, ranges;
-    // In the order of an INSERT, but for the ranges, which come last.
+    // The columns in the order of an INSERT; those of the ranges follow last.
     std::span<const FormColumn> columns;
     std::span<const RangeRow> rows;
     BlankCell blank;
 };
 
 const EditorForm& FormOf(CatalogueKind catalogue);
-// One for each catalogue; two catalogues may share a form.
+// All forms, one per catalogue, in the order of CatalogueKind. Two catalogues may share a form name.
 std::span<const EditorForm> EditorForms();
 
 }  // namespace tw

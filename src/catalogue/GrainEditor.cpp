@@ -34,7 +34,7 @@ void GrainEditor::ReadOwn(const Recordset& row) {
 
 bool GrainEditor::Write(const std::string& name) {
     if (!CatalogueEditor::Write(name)) return false;
-    // Another type may be given to the row before the form closes.
+    // The row may be given another type and saved again before the form closes.
     storedType_ = newType_;
     return true;
 }

@@ -1,4 +1,5 @@
-// The editor of grains and extracts (frmGrain): its types come and go with the grains that have them.
+// The editor of grains and extracts (frmGrain). It inserts a new type with the first grain of that type, and
+// deletes a type with the last.
 #pragma once
 
 #include "catalogue/CatalogueEditor.h"
@@ -7,11 +8,11 @@ namespace tw {
 
 class GrainEditor final : public CatalogueEditor {
   public:
-    // catalogue is that of the grains or that of the extracts. A row that turns out to be of the other kind
-    // stays of its kind: names are unique across both.
+    // catalogue is Grain or Extract, but a row keeps its own kind when it is loaded:
+    // names are unique across both.
     GrainEditor(CatalogueKind catalogue, const CatalogueContext& context);
 
-    // Whether it is a grain, not an extract.
+    // True for a grain, false for an extract.
     bool Grain() const { return Form().catalogue == CatalogueKind::Grain; }
 
   private:
@@ -22,14 +23,14 @@ class GrainEditor final : public CatalogueEditor {
     SqlValue OwnValue(ColumnSource source) const override;
     void BeforeWrite() override;
     void AfterWrite() override;
-    // Lists the types that there are; what stands in the box stays.
+    // Fills the list with the existing types and keeps the text.
     void FillTypes();
 
-    std::int64_t storedType_ = 0;  // GRAIN_TYPES.ID of the row as it is stored, 0 for none
-    std::int64_t newType_ = 0;     // of the row being written
+    std::int64_t storedType_ = 0;  // GRAIN_TYPES.ID of the stored row, 0 for none
+    std::int64_t newType_ = 0;     // GRAIN_TYPES.ID of the row being written, 0 for none
 };
 
-// Takes the type away when no grain or extract has it any more; 0 is no type.
+// Deletes the type if no grain or extract uses it any more. Does nothing for 0, which means no type.
 void RemoveUnusedType(Database& database, std::int64_t type);
 
 }  // namespace tw

@@ -1,4 +1,4 @@
-// Steps through the rows of the list behind an editor.
+// Steps through the rows of the list from which an editor was opened.
 #pragma once
 
 #include <string>
@@ -7,31 +7,32 @@
 
 namespace tw {
 
-// Headings of groups and folders are passed over: no editor shows them.
+// Skips group headings and folders, which have no editor.
 class ObjectNavigator {
   public:
-    // REQUIRES: the list lives for as long.
+    // REQUIRES: list outlives this object.
     explicit ObjectNavigator(ListTable& list) : list_(list) {}
 
     ListTable& ListView() const { return list_; }
-    // Whether the list has headings of groups.
+    // True if the list has group headings.
     bool IsGrainView() const;
 
-    // Each moves the list's selection and gives the name of the row there; an empty name, and nothing moves,
-    // when there is no such row. GetFirst and GetLast also find the row that is selected already.
+    // Each moves the selection of the list and returns the name of the row selected; if there is
+    // no such row, returns an empty name and moves nothing. GetFirst and GetLast succeed even if
+    // their row is selected already.
     std::string GetNext() { return MoveTo(Next()); }
     std::string GetPrevious() { return MoveTo(Previous()); }
     std::string GetFirst() { return MoveTo(First()); }
     std::string GetLast() { return MoveTo(Last()); }
 
-    // Whether the step reaches another row than the selected one.
+    // True if the step leads to another row than the selected one.
     bool EnableNext() const { return Next() != ListTable::kNoRow; }
     bool EnablePrevious() const { return Previous() != ListTable::kNoRow; }
     bool EnableFirst() const { return IsOther(First()); }
     bool EnableLast() const { return IsOther(Last()); }
 
   private:
-    // The nearest row from start on, in steps of +1 or -1.
+    // Returns the first suitable row from start on; step is +1 or -1.
     int Find(int start, int step) const;
     int First() const { return Find(0, 1); }
     int Last() const { return Find(list_.Count() - 1, -1); }

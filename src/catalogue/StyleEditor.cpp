@@ -21,8 +21,8 @@ void StyleEditor::ClearOwn() {
 }
 
 void StyleEditor::ReadOwn(const Recordset& row) {
-    // A folder that is missing counts as another one than the root, which is chosen in its place: saving
-    // brings the style back into sight.
+    // If the folder is missing, the chooser shows the root instead. That counts as a change of the folder (-1
+    // or a missing ID to 0), so that saving makes the style visible again.
     const Field folder = row.Fields("FOLDER_ID");
     loadedFolder_ = folder.IsNull() ? -1 : folder.Integer();
     folders_.SetFolderID(loadedFolder_);
@@ -49,7 +49,7 @@ void StyleEditor::InsertStyle(const std::string& name, const std::string& now) {
 }
 
 bool StyleEditor::UpdateStyle(const std::string& name, const std::string& now) {
-    // Before the name is another one: the rows are found by it.
+    // The id must be determined before the update, as long as the style still has the old name.
     const std::int64_t id = Context().objects.StyleIdByName(LoadedName());
     const std::int64_t folder = folders_.FolderID();
     ColumnValues values = {{"NAME", name}, {"FOLDER_ID", folder}};

@@ -1,4 +1,4 @@
-// The editor of styles (frmStyle): with a folder, and in step with the tree and the open documents.
+// The editor of styles (frmStyle). It has a folder, and notifies the tree and the open documents.
 #pragma once
 
 #include "catalogue/CatalogueEditor.h"
@@ -10,9 +10,9 @@ class StyleEditor final : public CatalogueEditor {
   public:
     explicit StyleEditor(const CatalogueContext& context);
 
-    // STYLES.ID of the style that was saved last, 0 before.
+    // STYLES.ID of the style saved last; 0 before the first save.
     std::int64_t ID() const { return id_; }
-    // The folder of a new style. REQUIRES: no style has been read.
+    // Sets the folder of a new style. REQUIRES: no style has been loaded.
     void StartInFolder(std::int64_t folderId) { folders_.SetFolderID(folderId); }
 
     FolderChooser* Folders() override { return &folders_; }

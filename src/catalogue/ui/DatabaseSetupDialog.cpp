@@ -90,7 +90,7 @@ QBoxLayout* DatabaseSetupDialog::MakeButtons() {
 }
 
 bool DatabaseSetupDialog::eventFilter(QObject* object, QEvent* event) {
-    // The two lists would take them for their search.
+    // Handled here because the two lists would use these keys for their search.
     if ((object == items_ || object == catalogues_) && event->type() == QEvent::KeyPress &&
         TakeKey(static_cast<QKeyEvent&>(*event)))
         return true;

@@ -1,4 +1,4 @@
-// The window of database setup.
+// The dialog window of database setup.
 #pragma once
 
 #include <QDialog>
@@ -20,7 +20,7 @@ class DatabaseSetupDialog final : public QDialog {
     DatabaseSetupDialog(DatabaseSetupModel& model, QWidget* parent);
 
   protected:
-    // Insert and Delete, wherever the focus is; a box of text keeps its Delete.
+    // Handles Insert and Delete wherever the focus is, except that Delete in a text box edits the text.
     bool eventFilter(QObject* object, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void reject() override;
@@ -28,7 +28,7 @@ class DatabaseSetupDialog final : public QDialog {
   private:
     void AddHead(QBoxLayout& column);
     QBoxLayout* MakeButtons();
-    // False for a key of no meaning here.
+    // False if the key has no function here.
     bool TakeKey(const QKeyEvent& key);
     void Press(const char* button);
     void ShowState();

@@ -30,7 +30,7 @@ constexpr int kCellDigits = 9;
 constexpr int kDescriptionLines = 6;
 constexpr int kFolderUnits = 40;
 
-// What a cell takes, for its tool tip.
+// Describes what a cell accepts, for its tool tip.
 const char* HintOf(CellCheck check) {
     switch (check) {
         case CellCheck::Gravity:
@@ -51,7 +51,7 @@ const char* HintOf(CellCheck check) {
     return QT_TRANSLATE_NOOP("EditorDialog", "A plain number");
 }
 
-// The store ends a line with "\r\n" where the text came with it; the widget knows "\n" alone.
+// Converts line ends: stored text may have "\r\n", but the widget uses "\n" only.
 QString Lines(std::string_view text) {
     return ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
@@ -61,7 +61,7 @@ QString Lines(std::string_view text) {
 EditorDialog::EditorDialog(CatalogueEditor& model, QWidget* parent) : QDialog(parent), model_(model) {
     setObjectName(ToQt(model.FormName()));
     setWindowTitle(ToQt(model.Form().title));
-    // The letters of the buttons, and of the part with the folders.
+    // The access keys of the buttons and of the folder chooser.
     taken_ = model.Folders() != nullptr ? QStringLiteral("ASNR") : QStringLiteral("A");
     auto* column = new QVBoxLayout(this);
     SetSpacing(*column, *this, true);
@@ -86,7 +86,7 @@ EditorDialog::EditorDialog(CatalogueEditor& model, QWidget* parent) : QDialog(pa
 
 QString EditorDialog::Caption(std::string_view text) {
     QString caption = ToQt(text) + QLatin1Char(':');
-    // The beginnings of words first, then any letter.
+    // Tries the first letters of words, then any letter.
     for (const bool anywhere : {false, true})
         for (qsizetype i = 0; i < caption.size(); ++i) {
             const QChar letter = caption[i].toUpper();
@@ -128,7 +128,7 @@ QComboBox* EditorDialog::ListBox(const char* name) {
     if (list.freeText) {
         box->setEditable(true);
         box->setInsertPolicy(QComboBox::NoInsert);
-        // What is typed stays as it is typed: it may be a new entry that begins as an old one.
+        // No completion: what is typed may be a new entry that begins like an existing one.
         box->setCompleter(nullptr);
         connect(box, &QComboBox::editTextChanged, this,
                 [this, name](const QString& text) { Enter(name, text); });
@@ -146,7 +146,7 @@ void EditorDialog::AddHead(QBoxLayout& column) {
     rows->setColumnStretch(1, 1);
     AddRow(*rows, form.name, Box("Text1", kNameDigits));
     if (!form.text2.empty()) AddRow(*rows, form.text2, Box("Text2", kNameDigits));
-    // A list that is only read is a text, as plain as the others.
+    // A read-only list is shown as a plain text box.
     const auto list = [this](const char* name) {
         return model_.ReadOnly() ? static_cast<QWidget*>(Box(name, kListDigits)) : ListBox(name);
     };
@@ -228,7 +228,7 @@ void EditorDialog::AddRanges(QBoxLayout& column) {
     hint_ = new QLabel(this);
     hint_->setObjectName(QStringLiteral("lblHint"));
     hint_->setWordWrap(true);
-    // The place is kept, so that nothing moves when the hint comes.
+    // Space is reserved, so that nothing moves when the hint appears.
     hint_->setMinimumHeight(hint_->fontMetrics().lineSpacing());
     column.addWidget(hint_);
     column.addStretch(1);
@@ -241,7 +241,7 @@ void EditorDialog::AddFolders(QBoxLayout& row) {
     auto* tree = folders_->findChild<TreePane*>();
     tree->setMinimumHeight(Unit(*this) * 12);
     connect(tree, &TreePane::ChosenChanged, this, [this, shown = model_.Folders()->FolderID()]() mutable {
-        // A folder that only got another name or another place is the same one.
+        // A folder that was only renamed or moved is still the same one.
         if (shown == model_.Folders()->FolderID()) return;
         shown = model_.Folders()->FolderID();
         model_.FolderChanged();
@@ -279,7 +279,7 @@ void EditorDialog::AddButtons(QBoxLayout& column) {
         auto* button = new QPushButton(caption, this);
         button->setObjectName(QLatin1String(name));
         button->setAutoDefault(false);
-        // A click leaves the focus in its cell, so that Cancel checks nothing.
+        // A click leaves the focus in the cell, so that Cancel does not check the cell's text.
         button->setFocusPolicy(Qt::TabFocus);
         connect(button, &QPushButton::clicked, this, [this, name] { Press(name); });
         row->addWidget(button);
@@ -339,12 +339,12 @@ void EditorDialog::ShowList(QComboBox& box, const EditorList& list) {
     for (const std::string& entry : list.entries) box.addItem(ToQt(entry));
     const QString text = ToQt(list.text);
     if (list.freeText) {
-        // The list drops down on the entry that the text is.
+        // The list opens at the entry that equals the text.
         box.setCurrentIndex(box.findText(text));
         box.setEditText(text);
         return;
     }
-    // What the row came with is shown also when the list does not hold it.
+    // A text that came with the row is shown even if it is not in the list.
     if (!list.text.empty() && box.findText(text) < 0) box.addItem(text);
     box.setCurrentIndex(box.findText(text));
 }
@@ -375,7 +375,7 @@ void EditorDialog::Press(const char* button) {
         return;
     }
     ShowModel();
-    // The box within an editable list has no name either.
+    // An editable list contains a QLineEdit without a name, which an empty name would find.
     if (model_.RefusedControl().empty()) return;
     if (auto* box = findChild<QLineEdit*>(ToQt(model_.RefusedControl()))) GoBackTo(*box);
 }
@@ -393,7 +393,7 @@ void EditorDialog::GoBackTo(QLineEdit& cell) {
 }
 
 bool EditorDialog::LeaveCell(int row, int col) {
-    // The box of a refusal takes the focus too; that is no move.
+    // The message of a refusal takes the focus, too; that must not count as leaving the cell.
     const ScopedValue refusing(refusing_, true);
     return model_.LeaveCell(row, col);
 }

@@ -1,4 +1,5 @@
-// The window of an editor of the catalogue: one builder for all of them, from the tables of their forms.
+// The window of a catalogue editor. One class builds the windows of all editors from
+// the tables of their forms.
 #pragma once
 
 #include <QDialog>
@@ -37,33 +38,34 @@ class EditorDialog final : public QDialog {
     void AddFolders(QBoxLayout& row);
     void AddDescription(QBoxLayout& column);
     void AddButtons(QBoxLayout& column);
-    // A caption with a mnemonic that no other control of the form has yet.
+    // Returns a caption with an access key that no other control of the form has yet, if a letter is left.
     QString Caption(std::string_view text);
     void AddRow(QGridLayout& rows, std::string_view caption, QWidget* control);
     QLineEdit* Box(const char* name, int digits);
     QComboBox* ListBox(const char* name);
     QLineEdit* CellBox(int row, int col);
     QLineEdit* CellAt(int row, int col) const;
-    // A stored gravity shows three decimals where those are all of it.
+    // Returns the text to show in a cell: a stored gravity with three decimals,
+    // unless that would lose digits.
     QString ShownIn(int row, int col) const;
 
-    // Boxes that are only read have the ground of the window.
+    // Gives read-only boxes the background of the window.
     void LookReadOnly();
     void ShowModel();
     void ShowTexts();
     void ShowList(QComboBox& box, const EditorList& list);
-    // What follows from the entries: buttons, colour, hint.
+    // Updates what depends on the entries: buttons, colour, hint.
     void ShowState();
     void Enter(const char* control, const QString& text);
     void Press(const char* button);
-    // False when the model refuses the cell's text, which has been told.
+    // False if the model has refused the text of the cell and shown a message.
     bool LeaveCell(int row, int col);
-    // The focus goes back to a refused cell, once the event that took it away is over.
+    // Returns the focus to a refused cell, after the event that moved it away has been processed.
     void GoBackTo(QLineEdit& cell);
 
     CatalogueEditor& model_;
     ColorTable colors_;
-    QString taken_;  // the letters of the mnemonics
+    QString taken_;  // the letters in use as access keys
     std::vector<QLineEdit*> cells_;
     QPlainTextEdit* description_ = nullptr;
     ColorSwatch* swatch_ = nullptr;
@@ -71,8 +73,8 @@ class EditorDialog final : public QDialog {
     FolderChooserView* folders_ = nullptr;
     ObjectNavigatorView* steps_ = nullptr;
     QPushButton* apply_ = nullptr;
-    bool showing_ = false;   // the texts come from the model, not from the keyboard
-    bool refusing_ = false;  // the focus is on its way back; its moves until then are no entry
+    bool showing_ = false;   // the texts change because the model is being shown, not by typing
+    bool refusing_ = false;  // the focus is being returned; meanwhile, its moves leave no cell
 };
 
 }  // namespace tw

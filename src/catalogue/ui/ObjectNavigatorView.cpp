@@ -29,7 +29,7 @@ constexpr std::array<StepButton, 4> kButtons{
      {"cmdLast", QT_TRANSLATE_NOOP("ObjectNavigatorView", "Last entry"), "Ctrl+Shift+PgDown", true, true,
       &ObjectNavigator::EnableLast}}};
 
-// An arrow, with a bar at its point for the steps to the ends.
+// Draws an arrow, with a bar at its tip for the steps to the first and last row.
 QPixmap Arrow(const StepButton& button, int size, qreal ratio, const QColor& color) {
     QPixmap picture(QSize(size, size) * ratio);
     picture.setDevicePixelRatio(ratio);
@@ -66,7 +66,7 @@ ObjectNavigatorView::ObjectNavigatorView(ObjectNavigator* navigator, QWidget* pa
         button->setShortcut(QKeySequence(QLatin1String(what.key)));
         button->setToolTip(QStringLiteral("%1 (%2)").arg(
             tr(what.caption), QKeySequence(QLatin1String(what.key)).toString(QKeySequence::NativeText)));
-        // A click takes no focus: what is typed in a cell is dropped, not checked.
+        // A click must not take the focus: leaving a cell would check its text, but a step discards it.
         button->setFocusPolicy(Qt::TabFocus);
         connect(button, &QToolButton::clicked, this, [this, name = what.name] { emit StepPressed(name); });
         row->addWidget(button);

@@ -1,4 +1,4 @@
-// The four buttons that step through the list behind an editor.
+// The four buttons that step through the list from which an editor was opened.
 #pragma once
 
 #include <QWidget>
@@ -13,13 +13,13 @@ namespace tw {
 class ObjectNavigatorView final : public QWidget {
     Q_OBJECT
   public:
-    // Without a navigator the view is to be hidden; navigator must outlive it.
+    // navigator must outlive the view. It may be nullptr; the view should then be hidden.
     ObjectNavigatorView(ObjectNavigator* navigator, QWidget* parent);
-    // Shows which steps are possible from the selected row.
+    // Enables the buttons of the steps that are possible from the selected row.
     void ShowState();
 
   signals:
-    // A button was pressed: "cmdFirst", "cmdPrevious", "cmdNext" or "cmdLast".
+    // Emitted when a button is pressed: "cmdFirst", "cmdPrevious", "cmdNext" or "cmdLast".
     void StepPressed(const char* button);
 
   protected:
