@@ -1,4 +1,5 @@
-// The program's event loop: an error that no routine has trapped is shown in a box, and the loop goes on.
+// The program's event loop. An error that no routine has caught is shown in a message
+// box, and the loop continues.
 #pragma once
 
 #include <QApplication>
@@ -11,9 +12,9 @@ class Application final : public QApplication {
     Q_OBJECT
   public:
     Application(int& argc, char** argv);
-    // The names and the version that Qt gives to settings and windows.
+    // Sets the names and the version that Qt uses for settings and windows.
     static void SetIdentity();
-    // Where errors are shown; must outlive the event loop.
+    // Sets where errors are shown; messages must outlive the event loop.
     void SetMessages(MessagePort& messages) { messages_ = &messages; }
 
     bool notify(QObject* receiver, QEvent* event) override;

@@ -52,7 +52,7 @@ void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors) {
     for (const EditorForm& form : EditorForms())
         dialogs.RegisterForm<CatalogueEditor, EditorDialog>(std::string(form.formName));
     dialogs.Register<DatabaseSetupModel, DatabaseSetupDialog>();
-    // Paper.
+    // Printing and reports.
     dialogs.Register<NoPrinterModel, NoPrinterDialog>();
     dialogs.Register<PrintPreviewModel, PrintPreviewDialog>();
     dialogs.Register<PrintWizardModel, PrintWizardDialog>();

@@ -1,4 +1,4 @@
-// The window of each dialog: the one table of them.
+// The window class of every dialog, in one table.
 #pragma once
 
 namespace tw {

@@ -65,9 +65,9 @@ bool IsOwn(const OwnFiles& own, const QString& file) {
     }
 }
 
-// False when the file cannot be written. REQUIRES: it is none of the program's own.
+// False if the file cannot be written. REQUIRES: it is not one of the program's own files.
 bool SaveWidget(QWidget& widget, const QString& file) {
-    // Layouts and late events settle first.
+    // Lets layouts and pending events settle first.
     for (int i = 0; i < 3; ++i) QApplication::processEvents();
     QBuffer picture;
     picture.open(QIODevice::WriteOnly);
@@ -100,7 +100,7 @@ bool SaveScalings(QtDialogs& dialogs, const RecipeDocument& document, QWidget& p
     return ok;
 }
 
-// Every tab of the options.
+// All tabs of the options.
 bool SaveOptions(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     PrintedMessages messages;
     OptionsModel model(shell.SettingsNow(), *shell.DB(), messages);
@@ -137,7 +137,7 @@ bool SaveTools(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
     return ok;
 }
 
-// The pickers and choosers.
+// The dialogs for choosing catalogue rows, folders and recipes.
 bool SaveChoosers(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     bool ok = true;
     for (const CatalogueKind list :
@@ -192,7 +192,7 @@ bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     return ok;
 }
 
-// Database setup on two catalogues, and the editors of their first rows.
+// Database setup on every catalogue, with the editor of a row, editable and read-only.
 bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     const CatalogueContext context = shell.Catalogue().Context();
     bool ok = true;
@@ -216,7 +216,7 @@ bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStr
     return ok;
 }
 
-// The preview, the report wizard page by page, and its options.
+// The print preview, the report wizard page by page, and its options.
 bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     bool ok = true;
     if (const RecipeDocument* document = shell.Documents().Active()) {
@@ -246,7 +246,7 @@ bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
     return ok && SaveDialog(dialogs, font, parent, prefix + QStringLiteral("choose-font.png"));
 }
 
-// The explorer's pages in their views, a search in it, and the open and save dialog.
+// The explorer in all its views, a search in it, and the open and save dialogs.
 bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     bool ok = true;
     for (int view = 0; view <= static_cast<int>(ListViewType::Details); ++view) {
@@ -276,7 +276,7 @@ bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     return SaveDialog(dialogs, save, parent, prefix + QStringLiteral("save-as.png")) && ok;
 }
 
-// Two recipes of a run that ended too soon.
+// The recovery dialog with two recipes of a run that ended unexpectedly.
 bool SaveRecovery(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     std::vector<LostRecipe> lost(2);
     lost[0].keptWhen = {2026, 5, 2, 19, 40, 0};
@@ -314,7 +314,7 @@ bool SaveDialogs(MainWindow& window, Shell& shell, QtDialogs& dialogs, const QSt
 
 }  // namespace
 
-// A picture does not depend on the screen it is taken at, or on the sizes that somebody has stored.
+// The size is set explicitly, so that a picture does not depend on the screen or on stored sizes.
 void TakeSize(MainWindow& window, const QSize& size) {
     window.setWindowState(Qt::WindowNoState);
     window.resize(size.isEmpty() ? FirstSize(window) : size);
@@ -328,7 +328,7 @@ bool TakePicture(MainWindow& window, Shell& shell, const QString& file) {
 
 bool TakeAllPictures(MainWindow& window, Shell& shell, QtDialogs& dialogs, const QString& folder) {
     bool ok = QDir().mkpath(folder);
-    // A folder of links to the recipes is odd, and must not cost them.
+    // Protects the recipes even if the folder contains links to the program's own files.
     for (const QFileInfo& there : QDir(folder).entryInfoList({QStringLiteral("*.png")}, QDir::Files))
         if (IsOwn(shell.Own(), there.filePath())) return false;
     if (IsOwn(shell.Own(), folder)) return false;

@@ -1,4 +1,4 @@
-// Pictures of the windows, for looking at them and for the handbook.
+// Takes pictures of the windows, for inspection and for the handbook.
 #pragma once
 
 #include <QSize>
@@ -10,15 +10,15 @@ class QtDialogs;
 class Shell;
 class MainWindow;
 
-// Gives the main window that size for pictures, or its usual one for an empty size.
+// Resizes the main window for pictures; an empty size means its default size. In pixels.
 void TakeSize(MainWindow& window, const QSize& size);
 
-// Writes what the main window shows into a PNG file. False when the file cannot be written,
-// or is one of the program's own.
+// Writes a picture of the main window into a PNG file. False if the file cannot be written or is one of the
+// program's own files.
 bool TakePicture(MainWindow& window, Shell& shell, const QString& file);
 
-// Writes every tab of the recipe in front and every dialog into folder, on light and on dark. False when a
-// file cannot be written, or is one of the program's own.
+// Writes pictures of every tab of the active recipe and of every dialog into folder, once in light and once
+// in dark colours. False if a file cannot be written or is one of the program's own.
 bool TakeAllPictures(MainWindow& window, Shell& shell, QtDialogs& dialogs, const QString& folder);
 
 }  // namespace tw

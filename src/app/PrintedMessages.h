@@ -1,5 +1,5 @@
-// Messages of a run that nobody watches: they go to standard error, and a question is closed by its close
-// box.
+// Messages of a run without a visible screen: they are printed to standard error, and questions get the
+// answer that closing the box gives.
 #pragma once
 
 #include "platform/Ports.h"

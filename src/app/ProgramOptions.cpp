@@ -10,7 +10,7 @@ QString Absolute(const QString& path) {
     return path.isEmpty() || path == QLatin1String(":memory:") ? path : QFileInfo(path).absoluteFilePath();
 }
 
-// What names no file stays as it was typed: the import of a missing file tells the path.
+// A path that is not a file stays as typed, since the message about the missing file shows it.
 QString AbsoluteIfFile(const QString& path) {
     return QFileInfo(path).isFile() ? QFileInfo(path).absoluteFilePath() : path;
 }
@@ -49,7 +49,7 @@ ProgramOptions ReadOptions(const QStringList& arguments) {
     ProgramOptions options;
     options.database = Absolute(parser.value(database));
     options.settings = Absolute(parser.value(settings));
-    // All the words are one path, as they were typed.
+    // The arguments are the parts of one path that may contain spaces.
     options.file = AbsoluteIfFile(parser.positionalArguments().join(QLatin1Char(' ')).trimmed());
     options.open = parser.values(open);
     options.tab = parser.value(tab).toInt();

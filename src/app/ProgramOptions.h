@@ -1,4 +1,4 @@
-// The words of the command line.
+// The command line options.
 #pragma once
 
 #include <QSize>
@@ -8,17 +8,18 @@ namespace tw {
 
 struct ProgramOptions {
     QString database;  // empty: Tunwright.mdb in the program's folder
-    QString settings;  // empty: the user's
-    QStringList open;  // names of recipes
-    QString file;      // a recipe file to import: what is left of the command line, as one path
-    int tab = 0;
-    QString picture;   // a file for a picture of the main window; the program ends then
-    QString pictures;  // a folder for pictures of all windows; the program ends then
-    QSize size;        // of the main window in pictures; empty: the usual one
+    QString settings;  // empty: the user's settings
+    QStringList open;  // names of recipes to open
+    QString file;      // a recipe file to import: the remaining arguments, joined to one path
+    int tab = 0;       // index of the tab to show, from 0
+    QString picture;   // file for a picture of the main window, after which the program ends
+    QString pictures;  // folder for pictures of all windows, after which the program ends
+    QSize size;        // of the main window in pictures, in pixels; empty: the default size
 };
 
-// Reads the words. Paths of files that exist are absolute, since the program leaves the folder that it was
-// started in. Ends the process with a message for an unknown option, --help and --version.
+// Reads the arguments. Paths are made absolute, because the program leaves the folder in which it was
+// started; a recipe file that does not exist keeps the path as typed. Ends the process, with a message, for
+// an unknown option, --help and --version.
 ProgramOptions ReadOptions(const QStringList& arguments);
 
 }  // namespace tw

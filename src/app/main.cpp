@@ -42,7 +42,7 @@ std::string DatabaseOf(const ProgramOptions& options) {
     return Shell::DatabasePath(FromQt(QCoreApplication::applicationDirPath()));
 }
 
-// False, behind its box, when the file named for the settings cannot hold them.
+// False, after a message, if the settings file named on the command line cannot be used.
 bool SettingsFileIsFine(const ProgramOptions& options, MessagePort& messages) {
     if (options.settings.isEmpty()) return true;
     try {
@@ -61,7 +61,7 @@ void OpenRecipes(MainWindow& window, Shell& shell, MessagePort& messages, const 
     if (document && options.tab >= 0 && options.tab < kTabs) document->ShowTab(static_cast<Tab>(options.tab));
 }
 
-// The exit code of a run that only takes pictures.
+// Returns the exit code of a run that only takes pictures.
 int Photograph(MainWindow& window, Shell& shell, QtDialogs& dialogs, const ProgramOptions& options) {
     bool ok = true;
     TakeSize(window, options.size);
@@ -71,7 +71,7 @@ int Photograph(MainWindow& window, Shell& shell, QtDialogs& dialogs, const Progr
     return ok ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
-// --help and --version are answered anywhere, also without a display.
+// Answers --help and --version even where there is no display.
 void AnswerWithoutDisplay(int argc, char** argv) {
     const auto asks = [](std::string_view word) {
         return word == "--help" || word == "-h" || word == "--help-all" || word == "--version" ||
@@ -83,7 +83,7 @@ void AnswerWithoutDisplay(int argc, char** argv) {
     ReadOptions(QCoreApplication::arguments());
 }
 
-// A box or dialog on a screen that nobody sees would wait for ever.
+// False if windows are invisible: a message box or dialog would then wait forever.
 bool HasScreen() {
     const QString platform = QGuiApplication::platformName();
     return platform != QLatin1String("offscreen") && platform != QLatin1String("minimal");
@@ -123,7 +123,7 @@ int Run(int argc, char** argv) {
     SystemClock clock;
     QtClipboard clipboard;
     Platform platform{messages, dialogs, *settings, clock, clipboard};
-    // It goes after the shell: the next program waits until this one has closed its files.
+    // Destroyed after the shell, so that the next program waits until this one has closed its files.
     LocalChannel channel(DesktopName());
     const std::string programFolder = FromQt(QCoreApplication::applicationDirPath());
     ShellEnvironment environment{platform, programFolder};
@@ -151,7 +151,7 @@ int Run(int argc, char** argv) {
     OpenRecipes(window, shell, messages, options);
     if (photographing) return Photograph(window, shell, dialogs, options);
     colors.Follow();
-    // Within the event loop, which ends the program when the main window is closed behind it.
+    // Runs inside the event loop, so that closing the main window behind the assistant ends the program.
     if (HasScreen()) QTimer::singleShot(0, &window, [&shell] { shell.ShowAssistantAtStartup(); });
     return QApplication::exec();
 }
