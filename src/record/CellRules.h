@@ -25,7 +25,7 @@ enum class CellTakes : std::uint8_t {
     HopAmount,    // ounces, AAUs or IBUs (CellValue::Kind)
     HopForm,      // one of kHopForms; the number is its index
     PlainNumber,  // not negative, without a unit
-    KegPsi,       // psi for which the keg has a carbonation
+    KegPsi,       // psi at which the keg has a non-negative carbonation
     YesNo         // nothing but a check box
 };
 

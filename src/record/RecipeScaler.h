@@ -23,8 +23,8 @@ class RecipeScaler {
     void ScaleHops(double factor);
     void ScaleTreatment(double factor);
 
-    // Returns the final volume in gallons after the total volume has changed to newGallons, rounded as its
-    // box shows it; nullopt if no final volume is given.
+    // Returns the final volume in gallons that its box will show after the total volume has changed to
+    // newGallons; nullopt if the recipe has no final volume.
     std::optional<double> FinalVolumeFor(double newGallons) const;
     // Changes the total volume to newGallons, shown as sizeText, and the final volume with it; if
     // scaleBoilVol, also the boil volume in proportion.

@@ -145,7 +145,7 @@ constexpr int kOpenFlags = SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOMUTEX;
 SqliteHandle OpenHandle(const std::string& path, int flags) {
     sqlite3* handle = nullptr;
     std::error_code failure;
-    // SQLite never takes an absolute path for a URI or for the name of a database in memory.
+    // SQLite never mistakes an absolute path for a URI or for the name of a database in memory.
     const std::string name = (flags & SQLITE_OPEN_MEMORY) != 0 ? path : fs::absolute(path, failure).string();
     if (failure) Refuse(path, "cannot be opened: " + failure.message() + ".", SQLITE_CANTOPEN);
     // The name alone makes a database in memory; with the flag, databases attached to

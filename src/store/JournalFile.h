@@ -22,8 +22,8 @@ struct DatabaseState {
 };
 
 // Finds a journal with unfinished work, in the database's folder, that may belong to this database under an
-// earlier name: no database has the name of the journal, and the journal was begun in this state or the one
-// before. nullopt if there is none.
+// earlier name: the database after which it is named is missing, and the journal was begun in this state or
+// the one before. nullopt if there is none.
 std::optional<std::filesystem::path> JournalOfAnotherName(const std::filesystem::path& database,
                                                           const DatabaseState& state);
 

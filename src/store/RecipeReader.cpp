@@ -90,8 +90,7 @@ void ReadLines(Database& database, const GridRule& grid, StoredRecipe& recipe) {
 }  // namespace
 
 std::optional<StoredRecipe> ReadRecipe(Database& database, std::string_view name) {
-    // The statement has no spaces around "=", unlike all others: recorded statements are
-    // compared character by character.
+    // Written without spaces around "=", because recorded statements are compared character by character.
     Recordset rows = database.OpenRecordset("SELECT * FROM RECIPES WHERE NAME=?", {name});
     if (rows.AtEnd()) return std::nullopt;
     StoredRecipe recipe;
