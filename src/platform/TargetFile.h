@@ -1,5 +1,6 @@
-// A file that the program writes. All files are written here, so that after a crash, a full disk or a loss of
-// power the old file or the new one is there, complete, and never a part of one under its name.
+// A file that the program writes. Every file except databases and settings is written here, so that after a
+// crash, a full disk or a loss of power the old file or the new one is there, complete, and never a part of
+// one under its name.
 #pragma once
 
 #include <string>

@@ -27,7 +27,7 @@ struct RecipeColumn {
     std::string_view name;
     Holds holds;
     // What the value belongs to: a field, an option or a cell. For a grid stored in the recipe's own row,
-    // line tells which line; otherwise the column stores the cell of each line in turn.
+    // line is the index of its line; otherwise the column stores the cell of each line in turn.
     enum class Owner : std::uint8_t { Field, Option, Cell };
     Owner owner;
     FieldId field = FieldId::Name;
