@@ -13,6 +13,7 @@
 
 #include "document/RecipeDocument.h"
 #include "platform/DialogModel.h"
+#include "store/Schema.h"
 
 namespace tw::bench {
 
@@ -145,7 +146,7 @@ class Recipe {
     Nothing nothing_;
     Platform platform_{nothing_, nothing_, nothing_, nothing_, nothing_};
     QuietHost host_;
-    std::unique_ptr<Database> database_ = Database::CreateInMemory();
+    std::unique_ptr<Database> database_ = CreateMainDatabaseInMemory();
     ColorTable colors_;
     RecipeDocument document_{host_, platform_, *database_, colors_, 1};
 };

@@ -5,6 +5,7 @@
 
 #include "reports/PrintedRecipe.h"
 #include "reports/ReportFile.h"
+#include "store/Schema.h"
 
 namespace tw {
 namespace {
@@ -49,7 +50,7 @@ struct Recipes {
         }
         unit.Commit();
     }
-    std::unique_ptr<Database> database = Database::CreateInMemory();
+    std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
     std::vector<std::string> names;
 };
 

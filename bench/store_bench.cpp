@@ -133,7 +133,7 @@ class Bed {
     SqliteHandle raw;
 
   private:
-    std::unique_ptr<Database> shadow_ = Database::CreateInMemory();
+    std::unique_ptr<Database> shadow_ = CreateMainDatabaseInMemory();
     std::vector<std::string> statements_;
 };
 
@@ -225,7 +225,7 @@ void CopyAll(Database& main, Database& file, bool isImport) {
 void MakeEmpty(const std::string& file, bool isExchange) {
     for (const std::string end : {"", "-journal"}) std::filesystem::remove(file + end);
     const auto made = Database::CreateDatabase(file, "");
-    if (isExchange) return CreateExchangeTables(*Database::CreateInMemory(), *made);
+    if (isExchange) return CreateExchangeTables(*CreateMainDatabaseInMemory(), *made);
     CreateSchema(*made);
     made->Execute("INSERT INTO STYLES (ID, NAME) VALUES (7, 'Best Bitter')");
 }
@@ -241,7 +241,7 @@ void CompareCopy(benchmark::State& state, bool isImport) {
     RemoveFiles();
     MakeEmpty(kSourceFile, isImport);
     {
-        const auto filled = Database::CreateInMemory();
+        const auto filled = CreateMainDatabaseInMemory();
         filled->Execute("INSERT INTO STYLES (ID, NAME) VALUES (7, 'Best Bitter')");
         Fill(*filled);
         const auto source = Database::OpenDatabase(kSourceFile, false);

@@ -20,7 +20,7 @@ std::unique_ptr<Database> MakeDatabase() {
     // A statement that asks for more memory than this is refused by the store.
     constexpr sqlite3_int64 kMostMemory = 256 * 1024 * 1024;
     sqlite3_hard_heap_limit64(kMostMemory);
-    std::unique_ptr<Database> database = Database::CreateInMemory();
+    std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
     database->Execute("INSERT INTO HOPS (NAME, USAGE, AA_LO) VALUES ('Cascade', 'Aroma', 5)");
     database->Execute("INSERT INTO GRAINS (GRAIN, NAME, GRAIN_TYPE) VALUES (TRUE, 'Munich', 1)");
     database->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");

@@ -75,9 +75,6 @@ struct CellRule {
     bool SortsByNumber() const { return takes != CellTakes::AnyText && takes != CellTakes::HopForm; }
 };
 
-// Passed instead of a column when several cells of a row have changed.
-inline constexpr int kWholeRow = -1;
-
 // Where the rows of a grid are stored: each row as a line of a table,
 struct LineTable {
     std::string_view name;  // empty for none

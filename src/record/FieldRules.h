@@ -7,12 +7,13 @@
 #include <string>
 #include <string_view>
 
-#include "record/RecipeRecord.h"
+#include "record/Controls.h"
 #include "values/Reading.h"
 
 namespace tw {
 
 class RecipeCalculator;
+class RecipeRecord;
 
 // What the text of a box means. A quantity's number is in the unit named.
 enum class FieldTakes : std::uint8_t {

@@ -60,6 +60,9 @@ struct GridRange {
     bool operator==(const GridRange&) const = default;
 };
 
+// Passed instead of a column when several cells of a row have changed.
+inline constexpr int kWholeRow = -1;
+
 class Grid {
   public:
     struct Layout {

@@ -1,7 +1,6 @@
 #include "record/RecipeCalculator.h"
 
 #include "platform/Error.h"
-#include "record/CellRules.h"
 #include "values/Text.h"
 
 namespace tw {

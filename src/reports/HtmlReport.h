@@ -1,6 +1,7 @@
 // A report as HTML.
 #pragma once
 
+#include "reports/ReportOptions.h"
 #include "reports/ReportWriter.h"
 
 namespace tw {

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "reports/MakeReportWriter.h"
 #include "reports/ReportFile.h"
 #include "values/Text.h"
 

@@ -2,10 +2,7 @@
 // with "\r\n".
 #pragma once
 
-#include <memory>
 #include <string_view>
-
-#include "reports/ReportOptions.h"
 
 namespace tw {
 
@@ -33,9 +30,5 @@ class ReportWriter {
     virtual void WriteLabel(std::string_view text, bool centred) = 0;
     virtual void WriteText(std::string_view text, bool centred) = 0;
 };
-
-// stream must outlive the writer.
-std::unique_ptr<ReportWriter> MakeReportWriter(ReportType type, const ReportOptions& options,
-                                               ReportStream& stream);
 
 }  // namespace tw

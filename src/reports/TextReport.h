@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "reports/ReportOptions.h"
 #include "reports/ReportWriter.h"
 
 namespace tw {

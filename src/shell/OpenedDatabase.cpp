@@ -25,7 +25,7 @@ bool OpenedDatabase::IsInMemory(const std::string& path) {
 }
 
 std::unique_ptr<Database> OpenedDatabase::Open(const std::string& path) {
-    return IsInMemory(path) ? Database::CreateInMemory() : OpenMainDatabase(path);
+    return IsInMemory(path) ? CreateMainDatabaseInMemory() : OpenMainDatabase(path);
 }
 
 }  // namespace tw

@@ -6,8 +6,8 @@
 #include <span>
 #include <variant>
 
+#include "commands/Commands.h"
 #include "reports/ReportOptions.h"
-#include "shell/RecentList.h"
 #include "values/NumberText.h"
 #include "values/SettingText.h"
 

@@ -6,9 +6,9 @@
 
 #include "platform/ScopeGuard.h"
 #include "store/ForeignFile.h"
-#include "store/Schema.h"
 #include "store/SqlDialect.h"
 #include "store/SqliteHandle.h"
+#include "store/StatementWatch.h"
 
 namespace tw {
 namespace {
@@ -99,7 +99,14 @@ std::unique_ptr<Database> Database::ForeignFromImage(std::string_view image, Clo
 
 void Database::GuardForeign(Clock now) {
     watch_ = std::make_unique<StatementWatch>(handle_, std::move(now));
-    CheckForeignTables(*this);
+    // A virtual table has no root page.
+    const Recordset other = OpenRecordset(
+        "SELECT name FROM sqlite_schema WHERE UCASE(SUBSTR(name, 1, 6)) = 'RECIPE' AND "
+        "(type = 'view' OR (type = 'table' AND rootpage = 0))");
+    if (other.AtEnd()) return;
+    throw Error(kDatabaseSource,
+                "'" + path_ + "' is no recipe file: '" + other.Fields(0).Text() + "' is no table.",
+                SQLITE_SCHEMA);
 }
 
 std::chrono::milliseconds Database::SteadyNow() {
@@ -133,12 +140,6 @@ void Database::AfterUnit(const std::function<void()>& action) {
 
 std::unique_ptr<Database> Database::CreateDatabase(const std::string& path, std::string_view) {
     return std::unique_ptr<Database>(new Database(CreateDatabaseFile(path).release(), path));
-}
-
-std::unique_ptr<Database> Database::CreateInMemory() {
-    std::unique_ptr<Database> database(new Database(OpenMemoryDatabase().release(), ":memory:"));
-    CreateSchema(*database);
-    return database;
 }
 
 sqlite3_stmt* Database::Prepare(std::string_view sql, const SqlValues& values, bool select) {

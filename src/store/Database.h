@@ -15,13 +15,12 @@
 #include "platform/DateTime.h"
 #include "platform/Error.h"
 #include "store/SqlValue.h"
+#include "store/StatementWatch.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
 
 namespace tw {
-
-class StatementWatch;
 
 // The declared type of a field. The numbers are fixed, since messages about a field show them. The program's
 // own tables use Boolean, Long, Double, Date, Text and Memo; the other types occur in files from elsewhere.
@@ -129,10 +128,8 @@ class Database {
     // Opens somebody else's file for import or for adding to it: like OpenDatabase without exclusive
     // use, but nothing in the file is trusted (store/ForeignFile.h). now is a monotonic clock for
     // the time limit on reading.
-    using Clock = std::function<std::chrono::milliseconds()>;
+    using Clock = MonotonicClock;
     static std::unique_ptr<Database> OpenForeign(const std::string& path, Clock now = SteadyNow);
-    // Creates a database in memory with the full schema but no catalogue rows.
-    static std::unique_ptr<Database> CreateInMemory();
     // Creates a database in memory from the bytes of a file; an empty one if image is empty. Raises Error if
     // memory runs out. REQUIRES: the file is not in journal mode WAL.
     static std::unique_ptr<Database> FromImage(std::string_view image);

@@ -4,7 +4,6 @@
 #include <sqlite3.h>
 #include <string_view>
 
-#include "platform/Error.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -69,39 +68,6 @@ void Distrust(sqlite3* handle) {
                               SQLITE_DBCONFIG_ENABLE_TRIGGER, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION})
         sqlite3_db_config(handle, freedom, 0, nullptr);
     sqlite3_set_authorizer(handle, Authorize, nullptr);
-}
-
-void CheckForeignTables(Database& database) {
-    // A virtual table has no root page.
-    const Recordset other = database.OpenRecordset(
-        "SELECT name FROM sqlite_schema WHERE UCASE(SUBSTR(name, 1, 6)) = 'RECIPE' AND "
-        "(type = 'view' OR (type = 'table' AND rootpage = 0))");
-    if (other.AtEnd()) return;
-    throw Error(kDatabaseSource,
-                "'" + database.Path() + "' is no recipe file: '" + other.Fields(0).Text() + "' is no table.",
-                SQLITE_SCHEMA);
-}
-
-StatementWatch::StatementWatch(sqlite3* handle, Database::Clock now) : now_(std::move(now)), last_(now_()) {
-    const auto look = [](void* watch) noexcept {
-        try {
-            return static_cast<StatementWatch*>(watch)->Look() ? 0 : 1;
-        } catch (...) {
-            return 1;  // no exception may pass through SQLite
-        }
-    };
-    sqlite3_progress_handler(handle, kSteps, look, this);
-}
-
-void StatementWatch::Detach(sqlite3* handle) {
-    sqlite3_progress_handler(handle, 0, nullptr, nullptr);
-}
-
-bool StatementWatch::Look() {
-    const std::chrono::milliseconds now = now_();
-    spent_ += std::min(now - last_, kMostBetween);
-    last_ = now;
-    return spent_ <= kLimit && (!watch_ || watch_());
 }
 
 }  // namespace tw

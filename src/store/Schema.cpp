@@ -278,6 +278,12 @@ void CreateSchema(Database& database) {
     database.ExecuteNative(sql);
 }
 
+std::unique_ptr<Database> CreateMainDatabaseInMemory() {
+    std::unique_ptr<Database> database = Database::FromImage({});
+    CreateSchema(*database);
+    return database;
+}
+
 void CheckSchema(Database& database) {
     const std::set<std::string> names = NamesIn(database);
     for (const TableSchema& table : kTables) {

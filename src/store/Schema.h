@@ -29,6 +29,8 @@ std::string ColumnRules(std::string_view name, FieldType type);
 std::span<const TableSchema> MainSchema();
 // Creates all tables and indexes of the main database. REQUIRES: the database has none of them.
 void CreateSchema(Database& database);
+// Creates a database in memory with all tables and no rows.
+std::unique_ptr<Database> CreateMainDatabaseInMemory();
 // Raises an Error that names the first table or column missing from the database.
 void CheckSchema(Database& database);
 // Opens the main database exclusively and checks its schema. Raises the errors of OpenDatabase and

@@ -5,7 +5,6 @@
 
 #include "platform/Error.h"
 #include "tree/TWNodes.h"
-#include "tree/TreeLoader.h"
 
 namespace tw {
 namespace {
@@ -113,18 +112,6 @@ void TWTree::Clear() {
 void TWTree::InitFromDatabase() {
     if (mainDatabase_ == nullptr) Raise("TWTree.InitFromDatabase", "There is no main database to read.");
     InitFromDatabase(*mainDatabase_);
-}
-
-void TWTree::InitFromDatabase(Database& database) {
-    database_ = &database;
-    Clear();
-    upToDate_ = false;
-    TreeLoader loader(*this, database);
-    if (&database == mainDatabase_)
-        loader.LoadMainDatabase();
-    else
-        loader.LoadExchangeFile();
-    upToDate_ = true;
 }
 
 void TWTree::Reload() {

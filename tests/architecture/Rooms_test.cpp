@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <regex>
+#include <set>
 #include <sstream>
 
 #include "architecture/SourceReader.h"
@@ -117,6 +118,45 @@ TEST(Rooms, WindowsAreMadeFromModelsInOnePlace) {
     Offences casts = FilesWith(R"(dynamic_cast<\s*(const )?\w*(Model|Editor)\s*[&*])", CodeWithCasts);
     casts.erase(std::string(kDialogTable));
     ExpectKnown(casts, {}, "the table of dialog windows says what a model is; elsewhere ask the model");
+}
+
+// A header and its source together, by their path without extension, with all others that they include.
+using Includes = std::map<std::string, std::set<std::string>>;
+
+Includes IncludesBelow(const std::string& folder) {
+    static const std::regex kInclude(R"re(#include "([^"]+)\.h")re");
+    Includes includes;
+    for (const auto& [path, source] : SourcesBelow(folder)) {
+        const std::string unit = path.substr(0, path.rfind('.'));
+        const std::string text = WithoutComments(source);
+        for (std::sregex_iterator at(text.begin(), text.end(), kInclude), end; at != end; ++at)
+            if (const std::string other = "src/" + (*at)[1].str(); other != unit)
+                includes[unit].insert(other);
+    }
+    return includes;
+}
+
+// The pairs that cannot be apart; the first of each comes first in the alphabet.
+const std::set<std::pair<std::string, std::string>> kOneThingInTwoFiles = {
+    // A tree is nodes of nodes; each node finds its tree.
+    {"src/tree/TWNode", "src/tree/TWNodes"},
+    {"src/tree/TWNode", "src/tree/TWTree"},
+};
+
+TEST(Rooms, NoTwoFilesUseEachOther) {
+    const Includes includes = IncludesBelow("src");
+    ASSERT_TRUE(includes.contains("src/document/RecipeDocument"));
+    std::set<std::pair<std::string, std::string>> pairs;
+    for (const auto& [unit, others] : includes)
+        for (const std::string& other : others)
+            if (const auto back = includes.find(other); back != includes.end() && back->second.contains(unit))
+                pairs.insert(std::minmax(unit, other));
+    for (const auto& pair : pairs)
+        EXPECT_TRUE(kOneThingInTwoFiles.contains(pair))
+            << pair.first << " and " << pair.second
+            << " include each other: hand what one needs to its constructor, or give it an interface";
+    for (const auto& pair : kOneThingInTwoFiles)
+        EXPECT_TRUE(pairs.contains(pair)) << pair.first << ", " << pair.second << ": the list may shrink";
 }
 
 TEST(Rooms, CommandsAreNamedInTheirTableAlone) {

@@ -11,6 +11,7 @@
 
 #include "catalogue/CatalogueEditor.h"
 #include "platform/Error.h"
+#include "store/Schema.h"
 #include "support/RecordingPlatform.h"
 #include "tree/TreeObjects.h"
 
@@ -90,7 +91,7 @@ class EditorTest : public testing::Test {
     void Work() { db->SetStatementHook(nullptr); }
     Lines Boxes() { return outside.messages.TakeLog(); }
 
-    std::unique_ptr<Database> db = Database::CreateInMemory();
+    std::unique_ptr<Database> db = CreateMainDatabaseInMemory();
     RecordingPlatform outside;
     StyleNotices notices;
     TWTree tree{db.get()};

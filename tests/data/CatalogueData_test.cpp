@@ -12,6 +12,7 @@
 #include "store/CatalogueLoader.h"
 #include "store/CatalogueNames.h"
 #include "store/Database.h"
+#include "store/Schema.h"
 
 namespace tw {
 namespace {
@@ -32,7 +33,7 @@ constexpr double kLitersPerGallon = 3.785411784;
 class CatalogueData : public testing::Test {
   protected:
     static void SetUpTestSuite() {
-        database_ = Database::CreateInMemory();
+        database_ = CreateMainDatabaseInMemory();
         for (const CatalogueProblem& problem : LoadCatalogue(CATALOGUE_FOLDER, *database_, std::nullopt)) {
             problems_.push_back(problem.Text());
         }

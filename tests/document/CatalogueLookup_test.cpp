@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <memory>
 
+#include "store/Schema.h"
+
 namespace tw::test {
 namespace {
 
@@ -28,7 +30,7 @@ class Lookup : public testing::Test {
               "INTO STYLES (ID, NAME) VALUES (0, 'Nobody')"})
             db->Execute(std::string("INSERT ") + row);
     }
-    std::unique_ptr<Database> db = Database::CreateInMemory();
+    std::unique_ptr<Database> db = CreateMainDatabaseInMemory();
     CatalogueLookup lookup{*db};
 };
 

@@ -10,6 +10,7 @@
 
 #include "PlainRecipe.h"
 #include "document/RecipeDocument.h"
+#include "store/Schema.h"
 #include "support/RecordingHost.h"
 #include "support/RecordingPlatform.h"
 
@@ -72,7 +73,7 @@ class DocumentTest : public testing::Test {
     Log Shown() const;
 
     RecordingPlatform platform;
-    std::unique_ptr<Database> database = Database::CreateInMemory();
+    std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
     RecordingHost host{*database, platform.clock};
     ColorTable colors;
     std::unique_ptr<RecipeDocument> document;

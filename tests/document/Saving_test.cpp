@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "DocumentTest.h"
+#include "store/Schema.h"
 
 namespace tw::test {
 namespace {
@@ -199,7 +200,7 @@ TEST_F(SavingTest, ADetachedRecipeIsSavedAnew) {
 TEST_F(SavingTest, AFailureAnywhereLosesNothingOfTheDocument) {
     int statements = 0;
     for (int failing = 0;; ++failing) {
-        database = Database::CreateInMemory();
+        database = CreateMainDatabaseInMemory();
         FillCatalogue(*database);
         RecordingHost ownHost(*database, platform.clock);
         RecipeDocument own(ownHost, platform.platform, *database, colors, 1);

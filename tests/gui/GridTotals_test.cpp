@@ -174,7 +174,7 @@ TEST_F(GridTotals, BothRowsBelowThePrimingSugarsAreReached) {
     EXPECT_EQ(R().gridPriming.CurrentRow(), 3);
     Key(Qt::Key_PageUp);
     EXPECT_EQ(R().gridPriming.CurrentRow(), 1);
-    EXPECT_TRUE(view.IsCurrentCell(view.currentIndex()));
+    EXPECT_TRUE(view.Cells().IsCurrentCell(view.currentIndex()));
 }
 
 TEST_F(GridTotals, CalculatedCellsAndTotalsAreTintedOnAnyDesktop) {

@@ -183,7 +183,7 @@ TEST_F(GridEditing, TotalsAndRowsShareOneCurrentCell) {
     clickTotal();
     EXPECT_EQ(R().gridGrain.CurrentRow(), 3);
     EXPECT_FALSE(shell.Bar().FindItem("mnuEditDelete")->enabled);
-    EXPECT_FALSE(view.IsCurrentCell(view.currentIndex()));
+    EXPECT_FALSE(view.Cells().IsCurrentCell(view.currentIndex()));
     // Back to the cell that was current among the rows, and to the same total again.
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(view.currentIndex()).center());
     EXPECT_EQ(R().gridGrain.CurrentRow(), 1);

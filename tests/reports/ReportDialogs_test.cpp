@@ -5,6 +5,7 @@
 #include "reports/PrintFormatModel.h"
 #include "reports/PrintPreviewModel.h"
 #include "reports/PrintWizardModel.h"
+#include "store/Schema.h"
 #include "support/RecordingPlatform.h"
 #include "support/RecordingPrinter.h"
 
@@ -54,7 +55,7 @@ class PrintWizardTest : public testing::Test {
     RecordingSaveFile files;
     OwnFiles own;
     SettingsStore store{outside.settings};
-    std::unique_ptr<Database> database = Database::CreateInMemory();
+    std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
     TWTree tree{database.get()};
 };
 

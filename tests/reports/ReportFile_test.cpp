@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include "platform/Error.h"
+#include "store/Schema.h"
 #include "support/RecordingPlatform.h"
 
 namespace tw::test {
@@ -57,7 +58,7 @@ class ReportFileTest : public testing::Test {
     fs::path folder;
     RecordingPlatform outside;
     SettingsStore store{outside.settings};
-    std::unique_ptr<Database> database = Database::CreateInMemory();
+    std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
     OwnFiles own;
     ReportRequest request;
 };

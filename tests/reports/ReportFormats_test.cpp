@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "reports/MakeReportWriter.h"
 #include "reports/ReportText.h"
 #include "reports/ReportUnits.h"
-#include "reports/ReportWriter.h"
 #include "support/RecordingPlatform.h"
 
 namespace tw::test {

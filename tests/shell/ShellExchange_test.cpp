@@ -411,7 +411,7 @@ TEST(ShellExchange, CancelIsHeardWhileTheFileIsBeingRead) {
     const std::string file = folder.File("Ales.TWR");
     {
         const auto other = Database::CreateDatabase(file, "");
-        CreateExchangeTables(*Database::CreateInMemory(), *other);
+        CreateExchangeTables(*CreateMainDatabaseInMemory(), *other);
         // Enough for the reading of the names to be watched.
         other->ExecuteNative(
             "WITH RECURSIVE N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 2000) INSERT INTO "

@@ -27,7 +27,8 @@ TEST(DatabaseId, IsMadeOnDemandAndGoesWithTheFile) {
 }
 
 TEST(DatabaseId, IsAnotherForEachDatabase) {
-    EXPECT_NE(EnsureDatabaseId(*Database::CreateInMemory()), EnsureDatabaseId(*Database::CreateInMemory()));
+    EXPECT_NE(EnsureDatabaseId(*CreateMainDatabaseInMemory()),
+              EnsureDatabaseId(*CreateMainDatabaseInMemory()));
 }
 
 }  // namespace

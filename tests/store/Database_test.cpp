@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "StoreSupport.h"
+#include "store/Schema.h"
 
 namespace tw::test {
 namespace {
@@ -11,7 +12,7 @@ namespace {
 class DatabaseTest : public testing::Test {
   protected:
     void Run(std::string_view sql) { db->Execute(sql); }
-    std::unique_ptr<Database> db = Database::CreateInMemory();
+    std::unique_ptr<Database> db = CreateMainDatabaseInMemory();
 };
 
 TEST_F(DatabaseTest, CountsTheRowsOfTheLastStatement) {

@@ -38,7 +38,7 @@ class ExchangeFileTest : public testing::Test {
     }
 
     const TemporaryFolder folder;
-    const std::unique_ptr<Database> main = Database::CreateInMemory();
+    const std::unique_ptr<Database> main = CreateMainDatabaseInMemory();
     const std::unique_ptr<Database> file = Database::CreateDatabase(folder.File("a.TWR"), kExchangeLocale);
 };
 
@@ -79,7 +79,7 @@ class ExchangeCopyTest : public testing::Test {
 
     const TemporaryFolder folder;
     const OwnFiles own;
-    const std::unique_ptr<Database> main = Database::CreateInMemory();
+    const std::unique_ptr<Database> main = CreateMainDatabaseInMemory();
 };
 
 TEST_F(ExchangeCopyTest, TheFileComesWithSaveAndNothingBesideIt) {

@@ -5,6 +5,7 @@
 
 #include "StoreSupport.h"
 #include "store/ExchangeFile.h"
+#include "store/Schema.h"
 
 namespace tw::test {
 namespace {
@@ -15,7 +16,7 @@ class ForeignFile : public testing::Test {
   protected:
     ForeignFile() {
         const auto file = Database::CreateDatabase(path, kExchangeLocale);
-        CreateExchangeTables(*Database::CreateInMemory(), *file);
+        CreateExchangeTables(*CreateMainDatabaseInMemory(), *file);
     }
     void Change(const std::string& sql) const { Database::OpenDatabase(path, false)->ExecuteNative(sql); }
     std::string Refusal() const {

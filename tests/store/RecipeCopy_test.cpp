@@ -74,7 +74,7 @@ class RecipeCopyTest : public testing::Test {
     std::string MainName() { return Cell(*main, "SELECT NAME FROM RECIPES"); }
 
     const TemporaryFolder folder;
-    const std::unique_ptr<Database> main = Database::CreateInMemory();
+    const std::unique_ptr<Database> main = CreateMainDatabaseInMemory();
     const std::unique_ptr<Database> file = Database::CreateDatabase(folder.File("a.TWR"), kExchangeLocale);
     Host host;
     StylesNotImported unknown;

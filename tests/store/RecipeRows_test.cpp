@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "StoreSupport.h"
+#include "record/RecipeRecord.h"
+#include "store/Schema.h"
 
 namespace tw::test {
 namespace {
@@ -23,7 +25,7 @@ class RecipeRows : public testing::Test {
         db->SetStatementHook(nullptr);
         return seen;
     }
-    std::unique_ptr<Database> db = Database::CreateInMemory();
+    std::unique_ptr<Database> db = CreateMainDatabaseInMemory();
 };
 
 TEST_F(RecipeRows, ComeBackAsTheyWere) {

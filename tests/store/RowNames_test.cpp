@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "StoreSupport.h"
+#include "store/Schema.h"
 
 namespace tw::test {
 namespace {
@@ -10,7 +11,7 @@ namespace {
 class RowNames : public testing::Test {
   protected:
     RowNames() { db->Execute("INSERT INTO HOPS (NAME) VALUES ('Cascade'), ('Baker''s')"); }
-    const std::unique_ptr<Database> db = Database::CreateInMemory();
+    const std::unique_ptr<Database> db = CreateMainDatabaseInMemory();
 };
 
 TEST_F(RowNames, AreFoundTrimmedAndInAnyCase) {

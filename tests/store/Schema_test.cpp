@@ -77,7 +77,7 @@ TEST(Schema, ListsEveryTableColumnByColumn) {
 }
 
 TEST(Schema, IsWhatADatabaseHolds) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     for (const auto& [table, expected] : kExpected) {
         Recordset rows = db->OpenRecordset("SELECT * FROM " + table);
         std::string columns;
@@ -91,13 +91,13 @@ TEST(Schema, IsWhatADatabaseHolds) {
 }
 
 TEST(Schema, StartsEmpty) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     for (const auto& [table, expected] : kExpected)
         EXPECT_EQ(Cell(*db, "SELECT COUNT(*) FROM " + table), "0") << table;
 }
 
 TEST(Schema, SetsNoConstraintOnNames) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     for (const TableSchema& table : MainSchema()) {
         if (table.name == "RECIPE_LOG") continue;  // the one table without a name
         const std::string insert = "INSERT INTO " + std::string(table.name) + " (NAME) VALUES ('x')";
@@ -108,12 +108,12 @@ TEST(Schema, SetsNoConstraintOnNames) {
 }
 
 TEST(Schema, PassesItsOwnCheck) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     EXPECT_NO_THROW(CheckSchema(*db));
 }
 
 TEST(Schema, NamesTheTableOrColumnThatIsMissing) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     db->ExecuteNative("ALTER TABLE HOPS DROP COLUMN AA_LO");
     EXPECT_EQ(ErrorOf([&] { CheckSchema(*db); }).Description(),
               "':memory:' is no Tunwright database: it has no column HOPS.AA_LO.");

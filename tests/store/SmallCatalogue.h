@@ -13,6 +13,7 @@
 
 #include "store/CatalogueLoader.h"
 #include "store/Database.h"
+#include "store/Schema.h"
 
 namespace tw {
 
@@ -119,7 +120,7 @@ class SmallCatalogue : public testing::Test {
     }
 
     std::filesystem::path folder_;
-    std::unique_ptr<Database> database_ = Database::CreateInMemory();
+    std::unique_ptr<Database> database_ = CreateMainDatabaseInMemory();
 };
 
 }  // namespace tw

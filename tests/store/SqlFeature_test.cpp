@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "StoreSupport.h"
+#include "store/Schema.h"
 #include "store/SqliteHandle.h"
 
 namespace tw::test {
@@ -12,7 +13,7 @@ class SqlFeature : public testing::Test {
     void Run(std::string_view sql) { db->Execute(sql); }
     Rows Get(std::string_view sql) { return Select(*db, sql); }
     std::string Get1(std::string_view sql) { return Cell(*db, sql); }
-    std::unique_ptr<Database> db = Database::CreateInMemory();
+    std::unique_ptr<Database> db = CreateMainDatabaseInMemory();
 };
 
 TEST_F(SqlFeature, TakesABoolColumnAsAPredicate) {

@@ -91,7 +91,7 @@ TEST_F(Crash, KeepsTheNewRecipeOnceTheUnitHasEnded) {
 
 // The dump of a fresh database after the statements, each run on its own.
 std::string DumpAfter(const std::vector<std::string>& statements) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     InsertRecipe(*db, FullRecipe("Mild"));
     for (const std::string& sql : statements) db->Execute(sql);
     return Dump(*db);
@@ -100,7 +100,7 @@ std::string DumpAfter(const std::vector<std::string>& statements) {
 TEST(Failure, LeavesWhatWasDoneBeforeEveryStatement) {
     int statement = 0;
     for (bool failed = true; failed; ++statement) {
-        const auto db = Database::CreateInMemory();
+        const auto db = CreateMainDatabaseInMemory();
         InsertRecipe(*db, FullRecipe("Mild"));
         std::vector<std::string> done;
         int count = 0;
@@ -122,7 +122,7 @@ TEST(Failure, LeavesWhatWasDoneBeforeEveryStatement) {
 }
 
 TEST(Failure, OfOneStatementLeavesTheOthersOfItsUnit) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     {
         UnitOfWork unit(*db);
         db->Execute("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
@@ -165,7 +165,7 @@ TEST(UnitOfWork, IsOneUnitWithThoseInside) {
 }
 
 TEST(UnitOfWork, AbandonedTakesBackWhatItHasWritten) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     const std::string old = Dump(*db);
     {
         UnitOfWork unit(*db);
@@ -183,7 +183,7 @@ TEST(UnitOfWork, AbandonedTakesBackWhatItHasWritten) {
 }
 
 TEST(UnitOfWork, AbandonedWithinAnotherLeavesTheMatterToThatOne) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     const std::string old = Dump(*db);
     UnitOfWork outer(*db);
     {
@@ -197,7 +197,7 @@ TEST(UnitOfWork, AbandonedWithinAnotherLeavesTheMatterToThatOne) {
 }
 
 TEST(UnitOfWork, RunsNothingMoreOnceTheDiskHasUndoneIt) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     UnitOfWork unit(*db);
     db->Execute("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
     db->ExecuteNative("ROLLBACK");  // as SQLite does by itself when the disk is full
@@ -229,7 +229,7 @@ TEST(UnitOfWork, TellsTheErrorThatUndidItWhateverIsTriedThen) {
 }
 
 TEST(UnitOfWork, RunsWhatWaitsForItsEndHoweverItEnds) {
-    const auto db = Database::CreateInMemory();
+    const auto db = CreateMainDatabaseInMemory();
     std::string log;
     const auto wait = [&](const char* word) {
         db->AfterUnit([&log, &db, word] {

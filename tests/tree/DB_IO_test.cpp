@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "store/RecipeRows.h"
+#include "store/Schema.h"
 #include "support/NoMessages.h"
 #include "support/SilentStore.h"
 
@@ -60,7 +61,7 @@ class DbIo : public testing::Test {
                 lines.push_back(std::move(line));
         return lines;
     }
-    std::unique_ptr<Database> db = Database::CreateInMemory();
+    std::unique_ptr<Database> db = CreateMainDatabaseInMemory();
     StoreClock clock;
     Recorder listener;
     TWTree nothing;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "TreeTest.h"
+#include "store/Schema.h"
 
 namespace tw::test {
 namespace {
@@ -229,7 +230,7 @@ TEST_F(ExchangeFile, TakesStyleNamesOfAnyKind) {
 }
 
 TEST_F(ExchangeFile, ThatIsNoneRaisesTheStoresError) {
-    const auto another = Database::CreateInMemory();
+    const auto another = CreateMainDatabaseInMemory();
     EXPECT_NE(ErrorOf([&] { tree.InitFromDatabase(*another); }).find("STYLE_NAME"), std::string::npos);
     EXPECT_TRUE(tree.Sorted());
     ExpectConsistent(tree);

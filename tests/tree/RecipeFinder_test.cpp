@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "TreeTest.h"
+#include "store/Schema.h"
 
 namespace tw::test {
 namespace {
@@ -25,7 +26,7 @@ class RecipeFinderTest : public testing::Test {
         return names;
     }
 
-    std::unique_ptr<Database> db = Database::CreateInMemory();
+    std::unique_ptr<Database> db = CreateMainDatabaseInMemory();
     RecipeFinder finder{*db};
 };
 

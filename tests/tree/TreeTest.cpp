@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <utility>
 
+#include "store/Schema.h"
+
 namespace tw::test {
 
 std::unique_ptr<TWNode> MakeNode(std::string_view key, std::string_view name) {
@@ -84,7 +86,7 @@ Lines MainTree::Load() {
 }
 
 std::unique_ptr<Database> MakeExchangeDatabase() {
-    auto db = Database::CreateInMemory();
+    auto db = CreateMainDatabaseInMemory();
     db->ExecuteNative(
         "DROP TABLE RECIPES; DROP TABLE STYLES; DROP TABLE FOLDERS;"
         "CREATE TABLE RECIPES (ID INTEGER PRIMARY KEY AUTOINCREMENT, NAME TEXT COLLATE TWTEXT,"

@@ -8,6 +8,7 @@
 
 #include "platform/Error.h"
 #include "store/Database.h"
+#include "store/Schema.h"
 #include "tree/TWNodes.h"
 #include "tree/TWTree.h"
 
@@ -61,7 +62,7 @@ struct MainTree {
     // All nodes after reading the database.
     Lines Load();
 
-    std::unique_ptr<Database> db = Database::CreateInMemory();
+    std::unique_ptr<Database> db = CreateMainDatabaseInMemory();
     TWTree tree{db.get()};
 };
 

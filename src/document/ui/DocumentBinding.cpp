@@ -7,7 +7,7 @@
 #include <optional>
 #include <utility>
 
-#include "document/ui/GridView.h"
+#include "document/ui/GridWidget.h"
 #include "platform/ErrorBox.h"
 
 namespace tw {
@@ -65,12 +65,12 @@ void DocumentBinding::TextSelectionChanged(const TextBox& box) {
     if (found != selectionWatchers_.end()) found->second();
 }
 
-GridView* DocumentBinding::ViewOf(const Grid& grid) const {
+GridWidget* DocumentBinding::ViewOf(const Grid& grid) const {
     const auto found = grids_.find(&grid);
     return found == grids_.end() ? nullptr : found->second;
 }
 
-void DocumentBinding::ForEachGrid(const std::function<void(GridView&)>& visit) const {
+void DocumentBinding::ForEachGrid(const std::function<void(GridWidget&)>& visit) const {
     for (const auto& [grid, view] : grids_) visit(*view);
 }
 
@@ -174,23 +174,23 @@ void DocumentBinding::SwatchChanged(Rgb color) {
 }
 
 void DocumentBinding::CellChanged(const Grid& grid, int row, int col) {
-    if (GridView* view = ViewOf(grid)) view->ShowCell(row, col);
+    if (GridWidget* view = ViewOf(grid)) view->ShowCell(row, col);
 }
 
 void DocumentBinding::RowInserted(const Grid& grid, int row) {
-    if (GridView* view = ViewOf(grid)) view->ShowRowInserted(row);
+    if (GridWidget* view = ViewOf(grid)) view->ShowRowInserted(row);
 }
 
 void DocumentBinding::RowRemoved(const Grid& grid, int row) {
-    if (GridView* view = ViewOf(grid)) view->ShowRowRemoved(row);
+    if (GridWidget* view = ViewOf(grid)) view->ShowRowRemoved(row);
 }
 
 void DocumentBinding::CurrentCellChanged(const Grid& grid) {
-    if (GridView* view = ViewOf(grid)) view->ShowCurrentCell();
+    if (GridWidget* view = ViewOf(grid)) view->ShowCurrentCell();
 }
 
 void DocumentBinding::GridFilled(const Grid& grid) {
-    if (GridView* view = ViewOf(grid)) view->FitGridColumns();
+    if (GridWidget* view = ViewOf(grid)) view->FitGridColumns();
 }
 
 }  // namespace tw

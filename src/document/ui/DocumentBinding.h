@@ -17,7 +17,7 @@ class QWidget;
 
 namespace tw {
 
-class GridView;
+class GridWidget;
 
 class DocumentBinding final : public RecordObserver {
   public:
@@ -40,10 +40,11 @@ class DocumentBinding final : public RecordObserver {
     // show runs when the selection of a text box is another.
     void WatchSelection(const TextBox& box, std::function<void()> show);
     void WatchSwatch(std::function<void(Rgb)> show) { showSwatch_ = std::move(show); }
-    void AddGrid(const Grid& grid, GridView& view) { grids_[&grid] = &view; }
-    GridView* ViewOf(const Grid& grid) const;
+    void AddGrid(const Grid& grid, GridWidget& view) { grids_[&grid] = &view; }
+    // nullptr for a grid without a widget.
+    GridWidget* ViewOf(const Grid& grid) const;
     // Every grid that has a widget.
-    void ForEachGrid(const std::function<void(GridView&)>& visit) const;
+    void ForEachGrid(const std::function<void(GridWidget&)>& visit) const;
 
     // The keys of rows, which work in an open cell editor too. True when the key has been used up.
     bool HandleKey(const QKeyEvent& key);
@@ -98,7 +99,7 @@ class DocumentBinding final : public RecordObserver {
     DocumentFrame& frame_;
     std::unordered_map<const void*, std::vector<std::function<void()>>> watchers_;
     std::unordered_map<const TextBox*, std::function<void()>> selectionWatchers_;
-    std::unordered_map<const Grid*, GridView*> grids_;
+    std::unordered_map<const Grid*, GridWidget*> grids_;
     int holds_ = 0;
     std::function<void(Rgb)> showSwatch_;
     QPointer<QWidget> activeField_;

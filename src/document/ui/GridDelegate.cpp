@@ -8,8 +8,8 @@
 #include <QLineEdit>
 #include <QPainter>
 
+#include "document/ui/DocumentBinding.h"
 #include "document/ui/GridModel.h"
-#include "document/ui/GridView.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/GridHeader.h"
 #include "platform/qt/ProgramStyle.h"
@@ -43,13 +43,14 @@ void PaintCurrentFrame(QPainter& painter, const QStyleOptionViewItem& option, bo
 
 }  // namespace
 
-GridDelegate::GridDelegate(GridView& body, QObject* parent) : QStyledItemDelegate(parent), body_(body) {}
+GridDelegate::GridDelegate(QWidget& body, CellHost& cells, DocumentBinding& binding, QObject* parent)
+    : QStyledItemDelegate(parent), body_(body), cells_(cells), binding_(binding) {}
 
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& plain,
                          const QModelIndex& index) const {
     QStyleOptionViewItem option = plain;
     initStyleOption(&option, index);
-    const bool current = body_.IsCurrentCell(index);
+    const bool current = cells_.IsCurrentCell(index);
     painter->save();
     const QVariant ground = index.data(Qt::BackgroundRole);
     painter->fillRect(option.rect,
@@ -87,12 +88,12 @@ QSize GridDelegate::sizeHint(const QStyleOptionViewItem& plain, const QModelInde
     QStyleOptionViewItem option = plain;
     initStyleOption(&option, index);
     return {option.fontMetrics.horizontalAdvance(option.text) + 2 * CellPadding(body_) + 2,
-            body_.RowHeight()};
+            cells_.RowHeight()};
 }
 
 QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
                                     const QModelIndex& index) const {
-    const CellList list = body_.ListOf(index);
+    const CellList list = cells_.ListOf(index);
     QWidget* editor = nullptr;
     if (list.entries.empty()) {
         auto* line = new QLineEdit(parent);
@@ -104,7 +105,7 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     }
     editor->setAutoFillBackground(true);
     editor->setAccessibleName(index.data(Qt::AccessibleTextRole).toString());
-    body_.SetEditor(editor, index);
+    cells_.SetEditor(editor, index);
     return editor;
 }
 
@@ -181,7 +182,7 @@ bool GridDelegate::HandleKey(QWidget& editor, const QKeyEvent& key) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
             if (key.modifiers().testFlag(Qt::ControlModifier))
-                body_.BrowseSoon();
+                cells_.BrowseSoon();
             else
                 Close(editor, SubmitModelCache);
             return true;
@@ -195,7 +196,7 @@ bool GridDelegate::HandleKey(QWidget& editor, const QKeyEvent& key) {
             Close(editor, RevertModelCache);
             return true;
         default:
-            return body_.Binding().HandleKey(key);
+            return binding_.HandleKey(key);
     }
 }
 

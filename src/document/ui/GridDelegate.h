@@ -7,14 +7,32 @@ class QKeyEvent;
 
 namespace tw {
 
-class GridView;
+class DocumentBinding;
 struct CellList;
+
+// The view of a grid's data rows, as the delegates that paint and edit the grid's cells see it.
+class CellHost {
+  public:
+    virtual ~CellHost() = default;
+    // True if the cell, of the data rows or of the totals, is the current one of the record.
+    virtual bool IsCurrentCell(const QModelIndex& cell) const = 0;
+    // In pixels.
+    virtual int RowHeight() const = 0;
+    // Returns the cell's list for an editor about to open.
+    virtual CellList ListOf(const QModelIndex& cell) const = 0;
+    // The one open editor and its cell.
+    virtual void SetEditor(QWidget* editor, const QModelIndex& cell) = 0;
+    // Lets the brewer choose the current cell's name from its catalogue, if it has one, as soon as the
+    // present event has been processed.
+    virtual void BrowseSoon() = 0;
+};
 
 class GridDelegate final : public QStyledItemDelegate {
     Q_OBJECT
   public:
-    // body edits; the rows of totals have a delegate of their own that only paints.
-    GridDelegate(GridView& body, QObject* parent);
+    // body shows the data rows of the grid and has the focus for the totals too, whose view has a delegate of
+    // its own that only paints. All must outlive the delegate's last event.
+    GridDelegate(QWidget& body, CellHost& cells, DocumentBinding& binding, QObject* parent);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
@@ -36,7 +54,9 @@ class GridDelegate final : public QStyledItemDelegate {
     void Close(QWidget& editor, QAbstractItemDelegate::EndEditHint hint);
     QWidget* MakeListEditor(QWidget* parent, const CellList& list) const;
 
-    GridView& body_;
+    QWidget& body_;
+    CellHost& cells_;
+    DocumentBinding& binding_;
 };
 
 }  // namespace tw

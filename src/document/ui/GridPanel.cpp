@@ -33,7 +33,7 @@ GridPanel::GridPanel(DocumentBinding& binding, Grid& grid, const QString& name, 
     setAccessibleName(name);
     if (grid.EndOfData() < grid.Rows()) {
         totals_ = new TotalsView(*view_, this);
-        view_->SetTotals(totals_);
+        view_->SetTotals(*totals_, totals_->Model());
     }
     if (!hint.isEmpty()) {
         hint_ = new QLabel(hint, this);

@@ -1,5 +1,6 @@
 #include "document/ui/GridView.h"
 
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QScrollBar>
@@ -8,8 +9,6 @@
 #include <numeric>
 #include <utility>
 
-#include "document/ui/GridDelegate.h"
-#include "document/ui/TotalsView.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/GridHeader.h"
 #include "platform/qt/QtText.h"
@@ -30,6 +29,17 @@ void SelectIn(QTableView& view, const GridRange& range) {
     const QItemSelection block(model.index(model.ModelRow(first), range.col1),
                                model.index(model.ModelRow(last), range.col2));
     view.selectionModel()->select(block, QItemSelectionModel::ClearAndSelect);
+}
+
+// Tells assistive programs that the cell is the current one.
+void Announce(QTableView& view, const QModelIndex& cell) {
+    if (!QAccessible::isActive() || !cell.isValid()) return;
+    QAccessibleInterface* const face = QAccessible::queryAccessibleInterface(&view);
+    QAccessibleTableInterface* const table = face ? face->tableInterface() : nullptr;
+    QAccessibleInterface* const spoken = table ? table->cellAt(cell.row(), cell.column()) : nullptr;
+    if (!spoken) return;
+    QAccessibleEvent event(spoken, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
 }
 
 }  // namespace
@@ -60,7 +70,7 @@ GridView::GridView(DocumentBinding& binding, Grid& grid, const QString& name, QW
     setShowGrid(false);
     setCornerButtonEnabled(false);
     setModel(model_);
-    setItemDelegate(new GridDelegate(*this, this));
+    setItemDelegate(new GridDelegate(*this, *this, binding, this));
     BuildHeader();
     Connect();
     binding.AddGrid(grid, *this);
@@ -97,9 +107,10 @@ void GridView::Connect() {
     });
 }
 
-void GridView::SetTotals(TotalsView* totals) {
-    totals_ = totals;
-    cursor_.SetHasTotals(totals != nullptr);
+void GridView::SetTotals(QTableView& totals, GridModel& model) {
+    totals_ = &totals;
+    totalsModel_ = &model;
+    cursor_.SetHasTotals(true);
 }
 
 int GridView::RowHeight() const {
@@ -122,7 +133,7 @@ void GridView::ShowCell(int row, int col) {
         return;
     }
     model_->CellChanged(row, col);
-    if (totals_) totals_->Model().CellChanged(row, col);
+    if (totals_) totalsModel_->CellChanged(row, col);
     if (!widthsChosen_ && WantsMoreRoom(row, col)) FitGridColumns();
     emit ContentChanged();
 }
@@ -180,8 +191,8 @@ void GridView::ShowCurrentCell() {
     if (totals_) SelectIn(*totals_, range);
     following_ = false;
     if (cursor_.InTotals() && hasFocus())
-        totals_->Announce(
-            totals_->Model().index(totals_->Model().ModelRow(grid_->CurrentRow()), grid_->CurrentCol()));
+        Announce(*totals_,
+                 totalsModel_->index(totalsModel_->ModelRow(grid_->CurrentRow()), grid_->CurrentCol()));
     ShowFocus();
 }
 
@@ -198,7 +209,7 @@ std::optional<GridRange> GridView::SelectedRange() const {
 
 void GridView::ShowColors() {
     model_->AllChanged();
-    if (totals_) totals_->Model().AllChanged();
+    if (totals_) totalsModel_->AllChanged();
 }
 
 void GridView::Detach() {
@@ -207,7 +218,7 @@ void GridView::Detach() {
     cursor_.Detach();
     refused_ = false;
     model_->Detach();
-    if (totals_) totals_->Model().Detach();
+    if (totals_) totalsModel_->Detach();
 }
 
 void GridView::FitGridColumns() {
@@ -216,8 +227,8 @@ void GridView::FitGridColumns() {
     std::vector<int> widths;
     for (int col = 0; col < model_->columnCount(); ++col) {
         int width = std::max(sizeHintForColumn(col), horizontalHeader()->sectionSizeHint(col));
-        for (int row = 0; totals_ && row < totals_->Model().rowCount(); ++row)
-            width = std::max(width, totals_->sizeHintForIndex(totals_->Model().index(row, col)).width());
+        for (int row = 0; totals_ && row < totalsModel_->rowCount(); ++row)
+            width = std::max(width, totals_->sizeHintForIndex(totalsModel_->index(row, col)).width());
         widths.push_back(width);
     }
     widths = FitColumns(std::move(widths), viewport()->width());
@@ -366,7 +377,7 @@ void GridView::SortBy(int col) {
     binding_.Run([&](RecipeDocument& document) { document.Lines().ClickHeader(*grid_, col); });
     sorting_ = false;
     // The document has one sort column for all its grids.
-    binding_.ForEachGrid([&](GridView& view) { view.ShowSortMark(&view == this ? col : -1); });
+    binding_.ForEachGrid([&](GridWidget& view) { view.ShowSortMark(&view == this ? col : -1); });
 }
 
 void GridView::ShowSortMark(int col) {
@@ -424,8 +435,8 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
 
 QPoint GridView::PlaceOfCurrentCell() const {
     if (!cursor_.InTotals()) return viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft());
-    const GridModel& model = totals_->Model();
-    const QModelIndex cell = model.index(model.ModelRow(grid_->CurrentRow()), grid_->CurrentCol());
+    const QModelIndex cell =
+        totalsModel_->index(totalsModel_->ModelRow(grid_->CurrentRow()), grid_->CurrentCol());
     return totals_->viewport()->mapToGlobal(totals_->visualRect(cell).bottomLeft());
 }
 

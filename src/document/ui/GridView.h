@@ -11,17 +11,17 @@
 
 #include "document/ui/DocumentBinding.h"
 #include "document/ui/GridCursor.h"
+#include "document/ui/GridDelegate.h"
 #include "document/ui/GridModel.h"
+#include "document/ui/GridWidget.h"
 
 namespace tw {
-
-class TotalsView;
 
 // Column widths of a filled grid: autoWidths as they are; when they and 7 for each column leave some of
 // clientWidth, each gets the integer part of an equal share. Pixels.
 std::vector<int> FitColumns(std::vector<int> autoWidths, int clientWidth);
 
-class GridView final : public QTableView {
+class GridView final : public QTableView, public GridWidget, private CellHost {
     Q_OBJECT
   public:
     // name: what the grid is called to assistive programs.
@@ -31,44 +31,38 @@ class GridView final : public QTableView {
     GridModel& Model() const { return *model_; }
     DocumentBinding& Binding() const { return binding_; }
     // Row height in pixels: 1.6 lines.
-    int RowHeight() const;
+    int RowHeight() const override;
+    // What delegates of this view and of its totals ask.
+    CellHost& Cells() { return *this; }
     // Height of header and rows.
     int ContentHeight() const;
     // The width of all columns.
     int ContentWidth() const;
-    // The rows behind the data, whose columns follow these; nullptr for none.
-    void SetTotals(TotalsView* totals);
+    // Ties the view of the rows behind the data to this one, whose columns it follows. model is what it
+    // shows; both must outlive this view's last event.
+    void SetTotals(QTableView& totals, GridModel& model);
     // Makes a cell of the grid, one of the totals too, the current one, or the end of the selected block.
     void MoveTo(int row, int col, bool extends) { cursor_.MoveTo(row, col, extends); }
-    // Lets the brewer choose the current cell's name from its catalogue, if it has one, as soon as the
-    // present event is over. An open editor is committed first.
-    void BrowseSoon();
+    // An open editor is committed first.
+    void BrowseSoon() override;
     // The first column holds dates: a double click and Alt+Down ask for a calendar instead of an editor.
     void SetHasDates() { hasDates_ = true; }
 
-    // What the grid's object has done.
-    void ShowCell(int row, int col);
-    void ShowRowInserted(int row);
-    void ShowRowRemoved(int row);
-    void ShowCurrentCell();
-    // The changes that came while redraw was held.
-    void ShowHeldChanges();
-    // Whether a cell of this view or of its totals is the record's current one.
-    bool IsCurrentCell(const QModelIndex& cell) const;
-    // Repaints with the present colours.
-    void ShowColors();
-    void Detach();
+    // GridWidget
+    void ShowCell(int row, int col) override;
+    void ShowRowInserted(int row) override;
+    void ShowRowRemoved(int row) override;
+    void ShowCurrentCell() override;
+    void FitGridColumns() override;
+    void ShowHeldChanges() override;
+    void ShowSortMark(int col) override;
+    void ShowColors() override;
+    bool CommitEditor() override;
+    void Detach() override;
+    QWidget& Widget() override { return *this; }
 
-    void FitGridColumns();
     // True when all data rows are blank (a form alone is no text).
     bool IsBlankGrid() const;
-
-    // The one open editor and its cell; the delegate tells.
-    void SetEditor(QWidget* editor, const QModelIndex& cell);
-    // The cell's list for an editor about to open.
-    CellList ListOf(const QModelIndex& cell) const;
-    // Commits and closes the open editor. False when its entry was refused.
-    bool CommitEditor();
 
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
 
@@ -95,12 +89,16 @@ class GridView final : public QTableView {
     void changeEvent(QEvent* event) override;
 
   private:
+    // CellHost
+    bool IsCurrentCell(const QModelIndex& cell) const override;
+    CellList ListOf(const QModelIndex& cell) const override;
+    void SetEditor(QWidget* editor, const QModelIndex& cell) override;
+
     void BuildHeader();
     void Connect();
     void Toggle(const QModelIndex& cell);
     void BrowseCatalogue();
     void SortBy(int col);
-    void ShowSortMark(int col);
     // True when the key has been used up.
     bool HandleOwnKey(const QKeyEvent& key);
     void ShowFocus();
@@ -118,7 +116,8 @@ class GridView final : public QTableView {
     DocumentBinding& binding_;
     Grid* grid_;
     GridModel* model_;
-    TotalsView* totals_ = nullptr;
+    QTableView* totals_ = nullptr;  // nullptr without totals, like the next one
+    GridModel* totalsModel_ = nullptr;
     GridCursor cursor_;
     QPointer<QWidget> editor_;
     QPersistentModelIndex editedCell_;

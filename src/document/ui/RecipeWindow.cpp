@@ -12,6 +12,7 @@
 #include "document/ui/DocumentPages.h"
 #include "document/ui/FieldBox.h"
 #include "document/ui/GridPanel.h"
+#include "document/ui/GridWidget.h"
 #include "document/ui/NotesBox.h"
 #include "document/ui/PageBuilder.h"
 #include "platform/qt/Appearance.h"
@@ -158,14 +159,14 @@ bool RecipeWindow::IsEditing(const QWidget& control) const {
 void RecipeWindow::FocusRow() {
     RecipeDocument* document = binding_.Document();
     Grid* grid = document ? document->Focus().GridOfTab(static_cast<Tab>(shown_)) : nullptr;
-    GridView* view = grid ? binding_.ViewOf(*grid) : nullptr;
-    if (!view || !view->isVisible()) return;
-    view->setFocus();
+    GridWidget* view = grid ? binding_.ViewOf(*grid) : nullptr;
+    if (!view || !view->Widget().isVisible()) return;
+    view->Widget().setFocus();
     binding_.Run([grid](RecipeDocument& d) { d.Focus().SetCurrentCell(*grid, grid->CurrentRow(), 0); });
 }
 
 void RecipeWindow::GridColorsChanged() {
-    binding_.ForEachGrid([](GridView& view) { view.ShowColors(); });
+    binding_.ForEachGrid([](GridWidget& view) { view.ShowColors(); });
 }
 
 QSize RecipeWindow::sizeHint() const {

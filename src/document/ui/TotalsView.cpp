@@ -1,6 +1,5 @@
 #include "document/ui/TotalsView.h"
 
-#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QMouseEvent>
@@ -20,7 +19,7 @@ TotalsView::TotalsView(GridView& rows, QWidget* parent)
     setAccessibleName(tr("Totals of %1").arg(rows.accessibleName()));
     setFrameShape(QFrame::NoFrame);
     setModel(model_);
-    setItemDelegate(new GridDelegate(rows, this));
+    setItemDelegate(new GridDelegate(rows, rows.Cells(), rows.Binding(), this));
     horizontalHeader()->hide();
     horizontalHeader()->setMinimumSectionSize(1);
     verticalHeader()->hide();
@@ -34,16 +33,6 @@ TotalsView::TotalsView(GridView& rows, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     setWordWrap(false);
     setShowGrid(false);
-}
-
-void TotalsView::Announce(const QModelIndex& cell) {
-    if (!QAccessible::isActive() || !cell.isValid()) return;
-    QAccessibleInterface* const view = QAccessible::queryAccessibleInterface(this);
-    QAccessibleTableInterface* const table = view ? view->tableInterface() : nullptr;
-    QAccessibleInterface* const spoken = table ? table->cellAt(cell.row(), cell.column()) : nullptr;
-    if (!spoken) return;
-    QAccessibleEvent event(spoken, QAccessible::Focus);
-    QAccessible::updateAccessibility(&event);
 }
 
 void TotalsView::mousePressEvent(QMouseEvent* event) {

@@ -16,8 +16,6 @@ class TotalsView final : public QTableView {
     TotalsView(GridView& rows, QWidget* parent);
 
     GridModel& Model() const { return *model_; }
-    // Tells assistive programs that the cell is the current one.
-    void Announce(const QModelIndex& cell);
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;

@@ -1,4 +1,4 @@
-#include "reports/ReportWriter.h"
+#include "reports/MakeReportWriter.h"
 
 #include "reports/HtmlReport.h"
 #include "reports/RichTextReport.h"

@@ -1,0 +1,43 @@
+// A time limit on the statements of a database handle.
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+struct sqlite3;
+
+namespace tw {
+
+using MonotonicClock = std::function<std::chrono::milliseconds()>;
+
+// Limits the time that the statements of a handle run.
+class StatementWatch {
+  public:
+    // The total time that statements may run without progress. Time between statements does not count: the
+    // brewer may be reading a message.
+    static constexpr std::chrono::milliseconds kLimit{10000};
+    // Of the time between two checks, at most this much counts as running.
+    static constexpr std::chrono::milliseconds kMostBetween{250};
+    // The number of SQLite's virtual machine instructions between two checks.
+    static constexpr int kSteps = 1000;
+
+    // REQUIRES: Detach is called before this object is destroyed.
+    StatementWatch(sqlite3* handle, MonotonicClock now);
+    StatementWatch(const StatementWatch&) = delete;
+    StatementWatch& operator=(const StatementWatch&) = delete;
+
+    static void Detach(sqlite3* handle);
+    void MarkProgress() { spent_ = {}; }
+    void SetWatch(std::function<bool()> watch) { watch_ = std::move(watch); }
+
+  private:
+    // True if the statement may continue.
+    bool Look();
+
+    MonotonicClock now_;
+    std::function<bool()> watch_;
+    std::chrono::milliseconds last_;
+    std::chrono::milliseconds spent_{};
+};
+
+}  // namespace tw
