@@ -10,24 +10,24 @@
 
 namespace tw {
 
-// cmbFontName, cmbFontSize and txtSample take any text; chkBold, chkItalic, chkUnderline, chkStrikethru;
-// picFontColor, and picFontBColor where it is offered, take a colour as a decimal number from 0 to 16777215;
-// cmdOK, cmdCancel.
+// cmbFontName, cmbFontSize and txtSample accept any text. chkBold, chkItalic, chkUnderline and chkStrikethru
+// are check boxes. picFontColor, and picFontBColor if it is offered, accept a colour 0xBBGGRR as a decimal
+// number from 0 to 16777215. Buttons: cmdOK, cmdCancel.
 class ChooseFontModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmChooseFont";
 
-    // Starts on that font. bgColor is the ground of the sample; showFontBColor offers the colour behind the
-    // text too.
+    // Starts with font. bgColor is the background of the sample, as 0xBBGGRR. showFontBColor offers the
+    // colour behind the text as well.
     ChooseFontModel(const ReportFont& font, int bgColor, bool showFontBColor);
 
-    // What the controls say. A size that is no number above 0 leaves the one before it.
+    // The font as entered so far. A size that is not a number above 0 leaves the last valid size.
     const ReportFont& FontFace() const { return font_; }
     int BGColor() const { return bgColor_; }
     bool ShowFontBColor() const { return showFontBColor_; }
-    // The sizes that cmbFontSize offers.
+    // Returns the sizes that cmbFontSize offers, in points.
     static std::vector<std::string> Sizes();
-    // cmdOK is off while the name is blank or the size no number above 0.
+    // True if cmdOK is enabled: the font name is not blank and the size is a number above 0.
     bool CanAccept() const;
 
   private:

@@ -8,7 +8,7 @@
 namespace tw {
 namespace {
 
-// The sizes of HTML, which begin far below those in points and have no upper end here.
+// Returns the SIZE of a font: (points - 6) / 2, rounded down, from 0 to 1000. HTML itself has only 1 to 7.
 int SizeOf(const ReportFont& font) {
     constexpr double kHighest = 1000;
     return static_cast<int>(std::clamp((font.points - 6) / 2, 0.0, kHighest));

@@ -7,12 +7,12 @@
 namespace tw {
 namespace {
 
-// The first step of the search for the piece of a text that fits: about a line of small letters.
+// The letters that the search for a fitting piece of text tries first: about one line of small letters.
 constexpr std::size_t kFirstGuess = 128;
-// Widths are sums of fractions; what is too wide by less than this fits.
+// Inches. Widths are sums of fractions, so a text that is too wide by no more than this still fits.
 constexpr double kTolerance = 1e-9;
 
-// A byte of a run.
+// The position of a byte in the runs.
 struct Place {
     std::size_t run = 0;
     std::size_t byte = 0;
@@ -48,13 +48,13 @@ std::vector<PrintRuns> LineBreaker::Break(double first, double further) const {
     }
 }
 
-// The place that a line of that room ends before. A letter or a box goes on it in any case.
+// Returns the place before which a line of room inches ends. The line holds at least one letter or box.
 Place LineBreaker::Reach(Place from, double room) const {
     bool taken = false;
     for (; !AtEnd(from); from = {from.run + 1, 0}) {
         const PrintRun& run = runs_[from.run];
         if (run.swatch) {
-            // The box does not move what stands behind it, so that it takes no room away.
+            // The text after a box is drawn over it, so a box uses up no room.
             if (taken && width_(run.font, run.text) > room + kTolerance) return from;
             taken = true;
             continue;
@@ -69,9 +69,9 @@ Place LineBreaker::Reach(Place from, double room) const {
     return from;
 }
 
-// The bytes of the longest piece of a run, from that byte on, that fits; whole letters, and none where not
-// even one fits. It is found in a few measurements however long the text is, so that no note takes long to
-// print.
+// Returns the length in bytes of the longest piece of run.text that starts at byte from and fits into room
+// inches. A piece consists of whole letters; 0 if not even one fits. The search takes few measurements even
+// for a very long text, so that long notes print fast.
 std::size_t LineBreaker::FittingBytes(const PrintRun& run, std::size_t from, double room) const {
     const std::string_view text = std::string_view(run.text).substr(from);
     const auto fits = [&](std::string_view piece) { return width_(run.font, piece) <= room + kTolerance; };
@@ -92,7 +92,7 @@ std::size_t LineBreaker::FittingBytes(const PrintRun& run, std::size_t from, dou
     return CodePointOffset(text, good);
 }
 
-// The last blank that the line up to a place, itself included, holds or is followed by.
+// Returns the last blank in [from, to]; the place `to` may itself be that blank.
 std::optional<Place> LineBreaker::LastBlank(Place from, Place to) const {
     for (std::size_t run = to.run + 1; run-- > from.run;) {
         if (runs_[run].swatch) continue;
@@ -109,7 +109,7 @@ PrintRuns LineBreaker::Slice(Place from, Place to) const {
     for (std::size_t run = from.run; run < runs_.size() && run <= to.run; ++run) {
         const std::size_t begin = run == from.run ? from.byte : 0;
         const std::size_t end = run == to.run ? to.byte : runs_[run].text.size();
-        // A run of which nothing is left stands on the line before or behind this one.
+        // No part of this run is on this line.
         const bool empty = begin == end && !runs_[run].text.empty();
         if (empty) continue;
         line.push_back(runs_[run]);

@@ -1,4 +1,4 @@
-// What may be done where there is no printer (frmNoPrinter).
+// The choices offered when the computer has no printer (frmNoPrinter).
 #pragma once
 
 #include <string_view>
@@ -7,7 +7,7 @@
 
 namespace tw {
 
-// cmdPreview, cmdPDF and cmdCancel; each closes the window.
+// Buttons: cmdPreview, cmdPDF and cmdCancel. Each closes the window.
 class NoPrinterModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmNoPrinter";
@@ -19,7 +19,7 @@ class NoPrinterModel final : public FormModel {
 
     NoPrinterModel();
 
-    // Cancel until a button says otherwise.
+    // Cancel unless cmdPreview or cmdPDF was pressed.
     Choice Chosen() const { return chosen_; }
 
   private:

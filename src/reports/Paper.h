@@ -1,4 +1,4 @@
-// The sheets that a recipe is laid out for when there is no printer to ask.
+// The paper sizes for which a recipe is laid out when no printer defines the page.
 #pragma once
 
 #include <array>
@@ -11,17 +11,17 @@ namespace tw {
 enum class Paper : int { Letter, A4 };
 inline constexpr std::array<std::string_view, 2> kPaperNames{"Letter", "A4"};
 
-// The edge that a usual printer cannot reach, in inches.
+// The width of the edge that a typical printer cannot print on, in inches.
 inline constexpr double kPaperEdge = 0.25;
 
-// The sheet in inches; A4 is 210 by 297 mm.
+// Returns the size of the sheet in inches; A4 is 210 by 297 mm.
 constexpr PrintSize PaperSize(Paper paper) {
     constexpr double kMillimetersPerInch = 25.4;
     if (paper == Paper::Letter) return kLetterPaper;
     return {210 / kMillimetersPerInch, 297 / kMillimetersPerInch};
 }
 
-// The sheet without its edges.
+// Returns the size of the sheet without its edges, in inches.
 constexpr PrintSize PrintableArea(Paper paper) {
     const PrintSize sheet = PaperSize(paper);
     return {sheet.width - 2 * kPaperEdge, sheet.height - 2 * kPaperEdge};

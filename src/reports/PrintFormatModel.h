@@ -1,4 +1,4 @@
-// The options of how a report of one type looks (frmPrintFmtOptions).
+// The format options of one type of report (frmPrintFmtOptions).
 #pragma once
 
 #include <string_view>
@@ -10,22 +10,23 @@
 
 namespace tw {
 
-// Text: txtCols, which takes any text: a width that is none is not checked here; chkOne, chkTwo. HTML:
-// pbBGColor, a decimal number; pbTitles, pbLabels and pbText, which show the name and size of a font; chkOne.
-// Rich text: the fonts and chkOne. cmdTitles, cmdLabels and cmdText open the font dialog; cmdOK stores the
-// options, cmdCancel does not.
+// Text: txtCols (the width, which accepts any text and is not checked here), chkOne, chkTwo. HTML: pbBGColor
+// (a colour 0xBBGGRR as a decimal number); pbTitles, pbLabels and pbText, which show the name and size of a
+// font; chkOne. Rich text: the three fonts and chkOne. cmdTitles, cmdLabels and cmdText open the font dialog;
+// cmdOK stores the options, cmdCancel discards them.
 class PrintFormatModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmPrintFmtOptions";
 
-    // Arranges itself for that type and loads its stored options. store and dialogs must outlive the dialog.
+    // Creates the controls of that type of report and loads its stored options. store and dialogs
+    // must outlive the dialog.
     PrintFormatModel(ReportType mode, const SettingsStore& store, DialogPort& dialogs);
 
     ReportType Mode() const { return mode_; }
-    // "Text File Options", "HTML File Options", "Rich-Text File Options".
+    // Returns "Text File Options", "HTML File Options" or "Rich-Text File Options".
     std::string_view Title() const;
     const ReportOptions& Options() const { return options_; }
-    // What chkOne means in this mode.
+    // Returns the caption of chkOne, which depends on the type.
     std::string_view OneCaption() const;
 
   private:

@@ -17,7 +17,7 @@ constexpr double kSectionGap = 0.25;
 constexpr double kRulePlace = 0.8;
 constexpr double kColumnGap = 0.25;
 constexpr double kWrapMargin = 0.5;
-// Where a text that is too wide for one line goes on.
+// The indent of the further lines of a text that is too wide for one line.
 constexpr double kFurtherIndent = 0.15;
 constexpr int kDefaultPoints = 10;
 constexpr int kSmallPoints = 8;
@@ -26,7 +26,7 @@ constexpr int kSubscriptPoints = 6;
 constexpr int kSectionPoints = 12;
 constexpr std::string_view kFamily = "Arial";
 constexpr std::string_view kTitleFamily = "Times New Roman";
-// Stands for an empty line when its height is measured.
+// Measured for the height of an empty line.
 constexpr std::string_view kProbe = "ABCMfgpy|`'\"_";
 
 }  // namespace
@@ -81,8 +81,9 @@ double PrintLayout::Width(const PrintRuns& runs) {
     return width;
 }
 
-// It ends at the right margin and touches the foot of the page. A long one takes the lines above that too;
-// the page ends with its number, so that lines before that are left out when there is no room for all.
+// The footer is right-aligned and ends at the bottom of the page. A long one uses several lines.
+// If there is no room for all of them, the lines before the last one are left out, since the last
+// one has the page number.
 void PrintLayout::PageFooter() {
     const PrintFont font{std::string(kFamily), kSmallPoints, false, true};
     const double room = printableRight_ - kMargin;
@@ -120,7 +121,7 @@ void PrintLayout::PrintText(std::string_view text) {
     Add(text);
 }
 
-// The lines of all columns go down the page together, so that a page breaks between two of them.
+// Draws all columns line by line, so that a page breaks between two lines of every column.
 void PrintLayout::DrawLine() {
     const std::vector<Cell> cells = std::exchange(line_, {});
     BeginLine(kMargin);
@@ -157,7 +158,7 @@ void PrintLayout::DrawPiece(const PrintRuns& runs, double left) {
     }
 }
 
-// 0 for a line without anything on it, which breaks no page.
+// Returns 0 for an empty line, which never starts a new page.
 double PrintLayout::LineHeight(const std::vector<const PrintRuns*>& pieces) {
     double height = 0;
     for (const PrintRuns* runs : pieces) {

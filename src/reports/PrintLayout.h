@@ -1,6 +1,6 @@
-// Lays text out on the pages of a print job, line by line: a cursor, the fonts of the parts of a printed
-// recipe, page breaks with a footer. Nothing runs over its column or off the sheet: what is too wide goes on
-// below itself, a little further in. Lengths are inches.
+// Lays out text on the pages of a print job, line by line: keeps the cursor, sets the fonts of the parts of a
+// printed recipe, and breaks pages, each with a footer. No text leaves its column or the page: a line that is
+// too wide is continued on further lines, slightly indented. All lengths are inches.
 #pragma once
 
 #include <memory>
@@ -16,45 +16,49 @@ namespace tw {
 
 class PrintLayout {
   public:
-    // Draws on that printer, which must outlive the layout.
+    // printer must outlive the layout.
     explicit PrintLayout(TWPrinter& printer) : printer_(printer) {}
 
-    // Starts the document and its first page; title stands in the footers.
+    // Starts the document and its first page. title is printed in the footers.
     void BeginPrint(std::unique_ptr<PrinterDevice> device, const std::string& title);
-    // The last footer, and the end of the document.
+    // Draws the last line and the last footer, and ends the document.
     void EndPrint();
 
-    // Each text goes behind the one before it. A line is drawn when NewLine ends it: its columns are broken
-    // into lines of their own where they are too wide, and those beside each other stay on one page.
+    // Adds text to the end of the current line. The line is drawn when NewLine ends it: each column that is
+    // too wide is broken into lines, and lines of two columns that are side by side stay on the same page.
     void PrintText(std::string_view text);
-    // Draws the line; one that would cross the page's lower margin goes to the next page. Then to the left
-    // margin, down by 1.05 times the height of text; of an ordinary line for an empty one.
+    // Draws the current line, on the next page if it would cross the lower margin. Then moves the cursor to
+    // the left margin and down by 1.05 times the height of text, or of an ordinary line if text is empty.
+    // text is only measured, not drawn.
     void NewLine(std::string_view text = {});
     void PrintLine(std::string_view text);
     // Bold.
     void PrintLabel(std::string_view text);
-    // Bold, small and lower.
+    // Bold, small and lowered.
     void PrintSubscript(std::string_view text);
-    // The heading of a section.
+    // Prints the heading of a section.
     void PrintSection(std::string_view text);
-    // Centred on the page. Set smaller, down to 8 points, where it is too wide; broken where it still is.
+    // Prints text centred on the page. A title that is too wide is set smaller, down to 8 points, and broken
+    // into lines if it is still too wide.
     void PrintTitle(std::string_view text, int points);
-    // A line across the page.
+    // Draws a horizontal line across the page.
     void PrintRule();
-    // To the middle of the page. What stands before it on the line keeps to the left column.
+    // Starts the right column, at the middle of the page. The text already on the line is kept
+    // within the left column.
     void SecondColumn();
-    // A filled box as large as three letters; what follows is drawn over it.
+    // Draws a filled box of the size of three letters; the text that follows is drawn over it.
     void PrintSwatch(Rgb color);
     void PrintSmallNote(std::string_view text);
-    // Paragraphs end at "\n", with or without "\r"; empty ones stay as blank lines. Lines break at blanks so
-    // that they keep clear of the right margin, a word longer than the line within; none is indented. Nothing
-    // for a blank text.
+    // Prints paragraphs, which are separated by "\n" or "\r\n"; an empty one becomes an empty line. Lines
+    // break at blanks to stay within the right margin, or within a word that is longer than a line; the
+    // further lines are not indented. Does nothing if text is blank.
     void PrintWrapped(std::string_view text);
-    // The first half of the texts in the left column, the odd one too, the others beside them.
+    // Prints the first half of the texts in the left column and the others beside them. The left column has
+    // one more if their number is odd.
     void PrintTwoColumns(const std::vector<std::string>& texts);
 
   private:
-    // What stands in one column of the line.
+    // The part of the current line in one column.
     struct Cell {
         double left = 0, right = 0;
         PrintRuns runs = {};
@@ -65,10 +69,10 @@ class PrintLayout {
     void HomeCursor();
     void PageFooter();
     void NextPage();
-    // A text or a box in the font in use, at the end of the line that is being made.
+    // Adds a text or a box in the current font to the end of the current line.
     void Add(std::string_view text, double drop = 0, std::optional<Rgb> swatch = {});
     void BeginLine(double left);
-    // Draws what stands on the line and begins one at the left margin.
+    // Draws the current line and begins a new one at the left margin.
     void DrawLine();
     void DrawPiece(const PrintRuns& runs, double left);
     void PrintWrappedLine(std::string_view line);
@@ -81,7 +85,7 @@ class PrintLayout {
 
     TWPrinter& printer_;
     std::string pageTitle_;
-    std::vector<Cell> line_;  // the line that is being made, never without a cell
+    std::vector<Cell> line_;  // the current line; always has at least one cell
     double cursorY_ = 0;
     double pageNumber_ = 1;
     double printableRight_ = 0, printableBottom_ = 0;

@@ -1,5 +1,4 @@
-// The print preview (frmPrintPreview): the pages of a recipe as they would come out on a paper, one at a
-// time.
+// The print preview (frmPrintPreview): shows the pages of a recipe as they would be printed, one at a time.
 #pragma once
 
 #include <functional>
@@ -13,30 +12,30 @@
 
 namespace tw {
 
-// cmbPaper and cmbZoom take one of their entries, txtPage the number of a page; lblPages; cmdPrint, cmdPDF,
-// cmdClose. The page buttons cmdFirst, cmdPrevious, cmdNext and cmdLast are off at the ends, cmdZoomIn and
-// cmdZoomOut at the last step.
+// cmbPaper and cmbZoom accept one of their entries, txtPage the number of a page; lblPages shows the number
+// of pages. Buttons: cmdPrint, cmdPDF, cmdClose. cmdFirst, cmdPrevious, cmdNext and cmdLast turn the pages
+// and are disabled at the first and the last page, cmdZoomIn and cmdZoomOut at the last step of the zoom.
 class PrintPreviewModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmPrintPreview";
 
-    // What the preview asks of its program.
+    // What the program does for the preview.
     struct Actions {
-        // The pages for a printable area.
+        // Returns the pages for a printable area.
         std::function<PrintSteps(PrintSize)> layOut;
         std::function<void()> print;
         std::function<void(const PrintSteps&, Paper)> savePdf;
     };
 
-    // Shows the first page, whole.
+    // Shows the whole first page.
     PrintPreviewModel(Actions actions, Paper paper);
 
     const PrintSteps& Steps() const { return steps_; }
     Paper CurrentPaper() const { return paper_; }
-    // From 1.
+    // Counted from 1.
     int Page() const { return page_; }
     int Pages() const { return steps_.Pages(); }
-    // The zoom in percent of the paper's size, 0 for the whole page in the window.
+    // Returns the zoom in percent of the paper's size; 0 fits the whole page into the window.
     int Zoom() const;
     static std::vector<std::string> ZoomNames();
 
@@ -49,7 +48,7 @@ class PrintPreviewModel final : public FormModel {
     Paper paper_;
     PrintSteps steps_;
     int page_ = 1;
-    std::size_t zoom_ = 0;  // a step of the zoom
+    std::size_t zoom_ = 0;  // index of the current step of the zoom
 };
 
 }  // namespace tw

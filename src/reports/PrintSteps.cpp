@@ -106,7 +106,7 @@ void PlaySteps(const PrintSteps& steps, std::unique_ptr<PrinterDevice> device) {
     TWPrinter printer;
     RunPrintJob(printer, [&] {
         printer.BeginDoc(std::move(device), steps.title);
-        // The first page has begun with the document.
+        // BeginDoc has begun the first page.
         for (std::size_t i = 1; i < steps.steps.size(); ++i) PlayStep(steps.steps[i], printer);
         printer.FinishDoc();
     });

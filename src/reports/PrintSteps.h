@@ -1,4 +1,5 @@
-// Drawn pages as plain data: what the console prints, the preview shows and a PDF file is made from.
+// Drawn pages as plain data: printed by the console, shown by the preview and written to PDF files.
+// All lengths are inches.
 #pragma once
 
 #include <memory>
@@ -14,40 +15,40 @@ namespace tw {
 struct PrintStep {
     enum class Kind { Page, Text, Line, Box };
     Kind kind = Kind::Page;
-    double x1 = 0, y1 = 0;  // of a text its top left corner
-    double x2 = 0, y2 = 0;  // of a text unused
+    double x1 = 0, y1 = 0;  // the top left corner of a text
+    double x2 = 0, y2 = 0;  // unused for a text
     PrintFont font = {};
     std::string text = {};
     Rgb color{0, 0, 0};  // of a box
     bool operator==(const PrintStep&) const = default;
 };
 
-// Each page begins with a step Page.
+// The steps of a document. Each page begins with a step of kind Page.
 struct PrintSteps {
-    std::string title;  // the document's name
+    std::string title;  // the name of the document
     PrintSize page;
     std::vector<PrintStep> steps;
     int Pages() const;
     bool operator==(const PrintSteps&) const = default;
 };
 
-// How large texts are without a device at hand.
+// Measures texts when there is no device.
 class TextMeasure {
   public:
     virtual ~TextMeasure() = default;
     virtual PrintSize SizeOf(const PrintFont& font, std::string_view text) const = 0;
 };
 
-// Every character 0.6 of the font's size wide, every line 1.2 of it high.
+// Measures every character as 0.6 times the font size wide and every line as 1.2 times the font size high.
 class FixedMeasure final : public TextMeasure {
   public:
     PrintSize SizeOf(const PrintFont& font, std::string_view text) const override;
 };
 
-// A device that writes down what is drawn on it, empty texts left out. Never fails.
+// A device that records what is drawn on it, except empty texts. Never fails.
 class StepRecorder : public PrinterDevice {
   public:
-    // Both must outlive the device. steps is begun anew when a document starts.
+    // measure and steps must outlive the device. steps is cleared when a document starts.
     StepRecorder(PrintSize page, const TextMeasure& measure, PrintSteps& steps);
 
     bool StartDoc(const std::string& name) override;
@@ -78,8 +79,8 @@ class StepRecorder : public PrinterDevice {
     double x_ = 0, y_ = 0;
 };
 
-// Draws the recorded pages on another device, as one document. Raises what TWPrinter raises; the document is
-// killed then.
+// Draws the recorded pages on device, as one document. Raises the errors of TWPrinter,
+// after killing the document.
 void PlaySteps(const PrintSteps& steps, std::unique_ptr<PrinterDevice> device);
 
 }  // namespace tw

@@ -112,7 +112,8 @@ bool PrintWizardModel::ChooseType(std::string_view text) {
     return true;
 }
 
-// A dot in the name of a folder begins no extension. A name without one gets it, an empty name too.
+// Gives the file name the extension of the chosen type, even if it has no extension or is empty. A dot in the
+// name of a folder does not begin an extension.
 void PrintWizardModel::SwapExtension() {
     std::string& path = request_.path;
     const std::size_t folder = path.find_last_of("/\\");

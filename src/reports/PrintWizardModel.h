@@ -1,4 +1,4 @@
-// The report wizard (frmPrintWizard): the units, the recipes and the file of a report, a page each.
+// The report wizard (frmPrintWizard), with three pages: the units, the recipes and the file of a report.
 #pragma once
 
 #include <string>
@@ -15,30 +15,30 @@
 
 namespace tw {
 
-// The options of the first page; treeRecipes with the key of the chosen node, lstRecipes with the names of
-// the list; cmbFileType takes one of its entries, which swaps the extension of the file name; txtFileName;
-// cmdConfigure and cmdBrowse; cmdCancel, cmdBack, and cmdNext, which makes the report on the last page; the
-// buttons of the chooser.
+// The option buttons of ReportUnitGroups(). treeRecipes holds the key of the selected node, lstRecipes the
+// names of the chosen recipes. cmbFileType accepts one of its entries and then changes the extension in
+// txtFileName. Buttons: cmdConfigure, cmdBrowse, cmdCancel, cmdBack, cmdNext (which creates the report on the
+// last page) and the buttons of the recipe chooser.
 class PrintWizardModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmPrintWizard";
 
     enum Page : int { Units, Recipes, Output };
     static constexpr int kPages = 3;
-    // Captions of the pages.
+    // Returns the caption of a page.
     static std::string_view PageTitle(int page);
 
-    // What the wizard works on; everything must outlive it.
+    // What the wizard needs; everything must outlive it.
     struct Context {
         Database& database;
         const TWTree& tree;
         const SettingsStore& store;
         MessagePort& messages;
         DialogPort& dialogs;
-        SaveFilePort* files;  // nullptr where no file can be browsed for
+        SaveFilePort* files;  // nullptr: cmdBrowse does nothing
         const OwnFiles& own;
     };
-    // reportType: the setting of that name, which the type starts on.
+    // reportType is the stored number of the report type to start with; an unknown number means text.
     PrintWizardModel(const Context& context, int reportType);
 
     int CurrentPage() const { return page_; }
@@ -53,10 +53,12 @@ class PrintWizardModel final : public FormModel {
     void AddUnits();
     std::string PickedNames() const;
     bool ChoosePicked(std::string_view name);
-    // Off on the second page until a recipe is chosen, on the last one while there is no file name.
+    // True if cmdNext is enabled: on the second page at least one recipe is chosen, on the last
+    // page there is a file name.
     bool CanGoOn() const;
     void Next();
-    // The report ends the wizard; one that fails has had its box, and the wizard stays.
+    // Creates the report and closes the wizard. If that fails, the error has been shown and
+    // the wizard stays open.
     void Finish();
     void Configure();
     void Browse();

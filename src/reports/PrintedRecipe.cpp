@@ -13,7 +13,8 @@ namespace {
 constexpr int kNamePoints = 18;
 constexpr int kStylePoints = 14;
 
-// A new row of hops has its form before anything is typed.
+// True if all cells except that of ignoredCol are empty. Callers ignore the form of a hop, since a
+// new row already has one.
 bool IsBlankRow(const Grid& grid, int row, int ignoredCol) {
     for (int col = 0; col < grid.Cols(); ++col)
         if (col != ignoredCol && !grid.Empty(row, col)) return false;
@@ -27,7 +28,7 @@ std::vector<int> DataRows(const Grid& grid, int ignoredCol = -1) {
     return rows;
 }
 
-// "{name} - {amount}" of each data row.
+// Returns "{name} - {amount}" for each data row.
 std::vector<std::string> NamesAndAmounts(const Grid& grid, int amountCol) {
     std::vector<std::string> texts;
     for (const int row : DataRows(grid))
@@ -64,7 +65,7 @@ std::string LogLine(const Grid& log, int row) {
     return line;
 }
 
-// The sections in their order on the page.
+// Prints the sections of a recipe in their order on the page.
 class RecipePrinter {
   public:
     RecipePrinter(const RecipeRecord& recipe, PrintLayout& layout) : recipe_(recipe), layout_(layout) {}
@@ -146,8 +147,7 @@ void RecipePrinter::PrintWater() {
     layout_.PrintRule();
 }
 
-// What is to be done with the water stands between the grains and the extracts, on purpose: it belongs to the
-// mash.
+// The mash water is printed between the grains and the extracts on purpose, because it belongs to the mash.
 void RecipePrinter::PrintGrains() {
     const std::vector<std::string> grains = NamesAndAmounts(recipe_.gridGrain, GrainCol::Amount);
     const std::vector<std::string> extracts = NamesAndAmounts(recipe_.gridExtract, GrainCol::Amount);

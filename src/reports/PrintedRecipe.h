@@ -1,4 +1,4 @@
-// The printed recipe: a recipe as it stands in its document, unsaved edits included, on one or more pages.
+// The printed recipe: a recipe as it is in its document, including unsaved edits, on one or more pages.
 #pragma once
 
 #include <memory>
@@ -9,11 +9,11 @@
 
 namespace tw {
 
-// Prints the recipe as one job on that device. A grid's rows without any text and its totals are left out.
-// Raises what TWPrinter raises; the job has been killed then.
+// Prints the recipe on device as one job. Rows without any text are left out, and so are the totals of a
+// grid. Raises the errors of TWPrinter, after killing the job.
 void PrintRecipe(const RecipeRecord& recipe, std::unique_ptr<PrinterDevice> device);
 
-// The same as drawing steps, for a page with that printable area.
+// Returns the pages of the printed recipe as drawing steps. page is the printable area.
 PrintSteps LayOutRecipe(const RecipeRecord& recipe, PrintSize page, const TextMeasure& measure);
 
 }  // namespace tw

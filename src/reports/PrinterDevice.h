@@ -1,5 +1,5 @@
-// The port to paper: one page after the other, drawn in inches. The windows answer it with a printer or a PDF
-// file, the console and the tests with a recorder of drawing steps.
+// The port for printing: pages are drawn one after the other, in inches. The desktop program implements it
+// with a printer or a PDF file, the console and the tests with a recorder of drawing steps.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ namespace tw {
 
 inline constexpr double kPointsPerInch = 72;
 
-// The face of a text.
+// The font of a text.
 struct PrintFont {
     std::string family = "Times New Roman";
     int points = 12;
@@ -29,8 +29,8 @@ struct PrintSize {
 
 inline constexpr PrintSize kLetterPaper{8.5, 11};
 
-// The device of one print job. Places are inches from the top left corner of the printable area. Every
-// operation gives false when it fails; LastError is the platform's number of that failure then.
+// The device of one print job. Positions are in inches from the top left corner of the printable area. An
+// operation that fails returns false; LastError then returns the platform's error number.
 class PrinterDevice {
   public:
     virtual ~PrinterDevice() = default;
@@ -38,32 +38,32 @@ class PrinterDevice {
     virtual bool StartDoc(const std::string& name) = 0;
     virtual bool StartPage() = 0;
     virtual bool EndPage() = 0;
-    // Raises the Error of a file that could not be written.
+    // Raises Error if a file cannot be written.
     virtual bool EndDoc() = 0;
-    // Drops the job: nothing of it is to come out, as far as that can be helped.
+    // Cancels the job: prints nothing of it if that is still possible.
     virtual bool AbortDoc() = 0;
-    // Gives the device back; nothing else is called afterwards.
+    // Releases the device. REQUIRES: no other function is called afterwards.
     virtual bool Close() = 0;
     virtual int LastError() const = 0;
 
-    // The printable area. Valid once the document is started.
+    // Returns the size of the printable area. REQUIRES: the document is started.
     virtual PrintSize PageSize() const = 0;
 
     virtual bool SetTextColor(Rgb color) = 0;
-    // Each makes an object of the device and takes it in use in place of the one before it.
+    // Each creates a drawing object of the device, which replaces the current one of its kind.
     virtual bool MakeFont(const PrintFont& font) = 0;
     virtual bool MakeBrush(Rgb color) = 0;
     virtual bool MakePen(Rgb color) = 0;
-    // Takes the objects that were made in use again, on a new page.
+    // Selects the current drawing objects again, on a new page.
     virtual bool SelectObjects() = 0;
 
-    // The size of a text in the font in use; the width of an empty text is 0.
+    // Sets size to the size of text in the current font. An empty text has width 0.
     virtual bool TextSize(std::string_view text, PrintSize& size) = 0;
-    // x, y is the top left corner of the text.
+    // x, y: the top left corner of the text.
     virtual bool TextOut(std::string_view text, double x, double y) = 0;
     virtual bool MoveTo(double x, double y) = 0;
     virtual bool LineTo(double x, double y) = 0;
-    // Filled with the brush, its edge drawn by the pen.
+    // Draws a rectangle, filled with the brush and outlined with the pen.
     virtual bool Rectangle(double x1, double y1, double x2, double y2) = 0;
 };
 

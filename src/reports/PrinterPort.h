@@ -1,4 +1,4 @@
-// The port to the printers of the system.
+// The port for the printers of the system.
 #pragma once
 
 #include <memory>
@@ -11,29 +11,30 @@
 
 namespace tw {
 
-// What came of the printer dialog.
+// The result of the printer dialog.
 struct PrinterAnswer {
     enum class Result { Chosen, Cancelled, Preview, NoPrinter, Failed };
     Result result = Result::Cancelled;
-    int error = 0;                                    // of Failed: the platform's number
-    std::unique_ptr<PrinterDevice> device = nullptr;  // of Chosen
+    int error = 0;                                    // for Failed: the platform's error number
+    std::unique_ptr<PrinterDevice> device = nullptr;  // for Chosen
 };
 
 class PrinterPort {
   public:
     virtual ~PrinterPort() = default;
 
-    // Lets the brewer choose a printer, or takes the default one without a dialog when quick. The port keeps
-    // what was chosen for as long as it lives; the dialog starts on that when configured.
+    // Lets the brewer choose a printer, or chooses the default printer without a dialog if quick. The port
+    // remembers the chosen printer; the dialog starts with it if configured.
     virtual PrinterAnswer ShowPrinterDialog(bool configured, bool quick) = 0;
-    // The pointer tells that a job is running.
+    // Shows the busy cursor while a job is running.
     virtual void ShowHourglass(bool /*on*/) {}
 
-    // A device whose document becomes that PDF file when it ends; an older file stays until then.
+    // Returns a device whose document becomes the PDF file target when it ends; an older
+    // file stays until then.
     virtual std::unique_ptr<PrinterDevice> MakePdf(const TargetFile& target, Paper paper) = 0;
-    // How large texts are on paper.
+    // Measures texts as they are printed.
     virtual const TextMeasure& Measure() const = 0;
-    // The paper that is usual where the brewer lives.
+    // Returns the paper that is common where the brewer lives.
     virtual Paper UsualPaper() const = 0;
 };
 

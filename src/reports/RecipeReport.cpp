@@ -1,4 +1,4 @@
-// What a report tells of a recipe.
+// Writes the recipes of a report.
 #include <map>
 #include <optional>
 #include <string>
@@ -29,14 +29,14 @@ class RecipeReport {
     RecipeReport(Database& database, const ReportUnits& units, ReportWriter& writer)
         : database_(database), units_(units), writer_(writer) {}
 
-    // Nothing for a name without a recipe.
+    // Writes nothing if no recipe has that name.
     void Write(std::string_view name);
 
   private:
     void WriteHead(const Recordset& recipe);
     void WriteGeneral(const Recordset& recipe);
     void WriteLine(std::string_view label, std::string_view value);
-    // A title that ends its line.
+    // Writes a title and ends its line.
     void WriteTitle(std::string_view title);
     const std::string& StyleName(const Field& id);
 
@@ -51,7 +51,7 @@ void RecipeReport::Write(std::string_view name) {
     if (recipe.AtEnd()) return;
     WriteHead(recipe);
     WriteGeneral(recipe);
-    // The sections of the ingredients are titles alone.
+    // The sections of the ingredients consist only of their titles.
     for (const char* title :
          {"Water Treatment", "Malts and Grains", "Extracts and Sugars", "Hops", "Other Adjuncts"})
         WriteTitle(title);

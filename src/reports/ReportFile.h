@@ -1,4 +1,4 @@
-// Report files: recipes of the database, by their names, in one file.
+// Writes report files: recipes of the database, chosen by name, in one file.
 #pragma once
 
 #include <string>
@@ -15,16 +15,16 @@
 
 namespace tw {
 
-// A file that a report is written into: wholly, or not at all.
+// The file of a report, written completely or not at all.
 class ReportFile final : public ReportStream {
   public:
-    // Raises an error for a file that is not to be written. append adds to what it holds, or makes it.
+    // Raises Error if the file must not be written. append: adds to an existing file, or creates it.
     ReportFile(const std::string& path, bool append, const OwnFiles& own)
         : target_(path, own), append_(append) {}
 
     void Write(std::string_view text) override { text_ += text; }
-    // Raises an error when the text has not reached the file, which is as before then. Without Close nothing
-    // has happened.
+    // Writes the file. Raises Error if that fails; the file is then as before. Without
+    // Close, nothing is written.
     void Close();
 
   private:
@@ -33,12 +33,12 @@ class ReportFile final : public ReportStream {
     std::string text_;
 };
 
-// The recipes of these names in their order. A name without a recipe gives nothing but the separator behind
-// it. Raises the errors of the database and of the stream.
+// Writes the recipes with these names, in this order. A name without a recipe writes only the separator that
+// follows it. Raises the errors of the database and of the stream.
 void WriteReport(Database& database, const std::vector<std::string>& names, const ReportUnits& units,
                  ReportType type, const ReportOptions& options, ReportStream& stream);
 
-// What is to be reported, and how.
+// What to report, and how.
 struct ReportRequest {
     ReportType type = ReportType::Text;
     std::string path;
@@ -46,8 +46,8 @@ struct ReportRequest {
     ReportUnits units;
 };
 
-// Makes the file with the stored options of its type. False when that failed, or when it is one of the
-// program's own; its box has been shown.
+// Creates the report file with the stored options of its type. Returns false if that fails or if the file is
+// one of the program's own; the error has then been shown.
 bool CreateReportFile(Database& database, const SettingsStore& store, const ReportRequest& request,
                       const OwnFiles& own, MessagePort& messages);
 

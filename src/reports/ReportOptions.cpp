@@ -30,7 +30,7 @@ constexpr OptionRow kHtmlRows[] = {{"BGColor", "16777215", &ReportOptions::bgCol
                                    {"HorzRuler", "1", &ReportOptions::horizontalRulers}};
 constexpr OptionRow kRichTextRows[] = {{"PageBreak", "1", &ReportOptions::pageBreak}};
 
-// The keys behind the prefix of a group. The last one is of rich text alone.
+// The keys of a font, without the prefix of its group. The last one is for rich text only.
 constexpr FontRow kFontRows[] = {{"Font", "MS Sans Serif", &ReportFont::face},
                                  {"Size", "10", &ReportFont::points},
                                  {"Bold", "0", &ReportFont::bold},
@@ -39,7 +39,7 @@ constexpr FontRow kFontRows[] = {{"Font", "MS Sans Serif", &ReportFont::face},
                                  {"Strikethru", "0", &ReportFont::strikethru},
                                  {"Color", "0", &ReportFont::color},
                                  {"BColor", "16777215", &ReportFont::backColor}};
-// Where a group differs from them.
+// The defaults of single groups that differ from kFontRows.
 struct OwnDefault {
     std::string_view key;
     std::string_view fallback;
@@ -92,7 +92,7 @@ void Take(Owner& owner, const Entry<Owner>& row, const SettingsStore& store, std
     if (!Read(owner, row, store.GetSetting(section, key, fallback))) Read(owner, row, fallback);
 }
 
-// The switches of a font are written as words, those of a report as digits.
+// yes and no are the texts of a switch: words for a font, digits for a report.
 template <class Owner>
 std::string TextOf(const Owner& owner, const Entry<Owner>& row, std::string_view yes, std::string_view no) {
     if (const auto* field = std::get_if<std::string Owner::*>(&row.field)) return owner.**field;

@@ -12,21 +12,22 @@ namespace {
 constexpr std::uint32_t kReplacement = 0xFFFD;
 constexpr std::uint32_t kFirstBeyondAscii = 0x80;
 
-// The code points of the bytes 0x80 to 0x9F of code page 1252, 0 where the page has none; from 0xA0 on byte
-// and code point are the same.
+// The code points of the bytes 0x80 to 0x9F of code page 1252; 0 if the byte is unused. From 0xA0 on, byte
+// and code point are equal.
 constexpr std::uint32_t kPage1252[] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                        0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
                                        0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
-// Takes the code point off the front of text; a byte that is no UTF-8 counts as one that cannot be shown.
+// Removes the first code point from text and returns it. Returns kReplacement for a byte
+// that is not valid UTF-8.
 std::uint32_t TakeCodePoint(std::string_view& text) {
     const CodePoint front = FrontCodePoint(text);
     text.remove_prefix(front.bytes);
     return front.value == kNoCodePoint ? kReplacement : static_cast<std::uint32_t>(front.value);
 }
 
-// The byte of code page 1252; 0 when it has none.
+// Returns the byte of code page 1252; 0 if the page lacks the code point.
 unsigned ByteOf(std::uint32_t codePoint) {
     if (codePoint >= 0xA0 && codePoint <= 0xFF) return codePoint;
     for (unsigned i = 0; i < std::size(kPage1252); ++i)
@@ -34,7 +35,8 @@ unsigned ByteOf(std::uint32_t codePoint) {
     return 0;
 }
 
-// One unit of UTF-16, which rich text writes as a signed number of 16 bits.
+// Appends one unit of UTF-16, which rich text writes as a signed 16-bit number, and its fallback
+// byte; "?" if byte is 0.
 void AppendUnit(std::string& out, std::uint32_t unit, unsigned byte) {
     out.append("\\u").append(std::to_string(static_cast<std::int16_t>(unit)));
     char fallback[sizeof "\\'xx"] = "?";

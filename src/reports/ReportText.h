@@ -1,5 +1,5 @@
-// Texts as the markup of a report file writes them, so that the file reads right whatever its reader takes
-// its encoding for.
+// Converts texts and colours to the markup of report files. All markup is ASCII, so that a file is shown
+// correctly whatever encoding its reader assumes.
 #pragma once
 
 #include <string>
@@ -9,17 +9,17 @@
 
 namespace tw {
 
-// "&", the double quote, "<" and ">" by name, everything beyond ASCII as "&#N;".
+// Escapes "&", the double quote, "<" and ">" by name, and everything beyond ASCII as "&#N;".
 std::string HtmlText(std::string_view text);
-// "\", "{" and "}" escaped; what is beyond ASCII as "\uN" and the byte of code page 1252 for readers that do
-// not know it, "?" where the page has none.
+// Escapes "\", "{" and "}". Writes everything beyond ASCII as "\uN", followed by its byte of code page 1252
+// for readers that do not know "\uN", or by "?" if the code page lacks it.
 std::string RichText(std::string_view text);
 
-// The parts of a colour in blue-green-red order.
+// Returns the parts of a colour 0xBBGGRR.
 Rgb ReportColor(int color);
-// "#RRGGBB" between double quotes.
+// Returns "#RRGGBB" in double quotes.
 std::string HtmlColor(int color);
-// "\redR\greenG\blueB;"
+// Returns "\redR\greenG\blueB;".
 std::string RichTextColor(int color);
 
 }  // namespace tw

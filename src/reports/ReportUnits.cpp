@@ -26,7 +26,7 @@ constexpr ReportUnitGroup kGroups[] = {{"Volume", kVolumes},
                                        {"Gravity", kGravities},
                                        {"Alcohol", kAlcohols}};
 
-// Group and place of the option of that name; false for an unknown one.
+// Finds the group of an option and its place in the group. Returns false if the option is unknown.
 bool Find(std::string_view option, std::size_t& group, std::size_t& place) {
     for (group = 0; group < std::size(kGroups); ++group)
         for (place = 0; place < kGroups[group].options.size(); ++place)

@@ -1,4 +1,4 @@
-// The units that a report file is written in: the options of the first page of the report wizard.
+// The units of a report file: the options on the first page of the report wizard.
 #pragma once
 
 #include <optional>
@@ -19,29 +19,29 @@ struct ReportUnitGroup {
     std::span<const Option> options;
 };
 
-// Volume, grain and extract weight, hop weight, gravity, alcohol. The weights are offered and kept, but
-// nothing reads them, since a report has no lines of ingredients: intended.
+// The groups for volume, grain and extract weight, hop weight, gravity and alcohol. The weights are offered
+// and kept on purpose, although nothing reads them: a report does not list ingredients.
 std::span<const ReportUnitGroup> ReportUnitGroups();
 
 class ReportUnits {
   public:
-    // Every group on its first option.
+    // Chooses the first option of every group.
     ReportUnits();
 
     bool Knows(std::string_view option) const;
-    // Sets the option of that name in its group. False for an unknown one.
+    // Chooses that option in its group. Returns false if it is unknown.
     bool Choose(std::string_view option);
-    // False for an option that is not set, and for an unknown one.
+    // True if that option is chosen; false if it is unknown.
     bool IsChosen(std::string_view option) const;
 
-    // Texts of a report, empty for what is absent.
+    // These return texts of a report, empty if the value is absent.
     //
-    // A specific gravity with three decimals, or degrees Plato.
+    // Returns gravity (SG) with three decimals, as SG or converted to degrees Plato.
     std::string Gravity(std::optional<double> gravity) const;
-    // The stored text, trimmed; or by weight: the number before its "%" times 0.794 (the density of alcohol)
-    // over the final gravity. "?" when that cannot be worked out.
+    // Returns the stored text, trimmed, or converted to percent by weight: the number before its "%" times
+    // 0.794 (the density of alcohol) divided by finalGravity (SG). Returns "?" if that cannot be calculated.
     std::string Alcohol(const std::optional<std::string>& abv, std::optional<double> finalGravity) const;
-    // As typed, or from gallons in gallons or liters.
+    // Returns text as typed, or gallons (US) as gallons or liters with two decimals.
     std::string Volume(const std::optional<std::string>& text, std::optional<double> gallons) const;
 
   private:

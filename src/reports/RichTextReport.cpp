@@ -9,7 +9,7 @@
 namespace tw {
 namespace {
 
-// Rich text counts in half points.
+// Returns the font size in half points, the unit of rich text.
 int HalfPoints(const ReportFont& font) {
     constexpr double kHighest = 3276;
     return static_cast<int>(std::round(std::clamp(font.points * 2, 0.0, kHighest)));
@@ -22,7 +22,8 @@ void RichTextReport::Line(std::string line) {
 }
 
 void RichTextReport::BeginReport() {
-    // The first control word ends with the letter "l", on purpose; readers take it for the number.
+    // The first control word ends with the letter "l" instead of the digit 1. Readers accept it, and the
+    // files are to stay the same to the byte, so it is not corrected.
     Line("{\\rtfl\\ansi\\ansicpg1252\\uc1\\deff0\\deflang1033\\deflangfe1033");
     Line("{\\fonttbl {\\f0\\fnil " + RichText(options_.title.face) + ";}{\\f1\\fnil " +
          RichText(options_.label.face) + ";}{\\f2\\fnil " + RichText(options_.text.face) + ";}}");
@@ -60,7 +61,7 @@ void RichTextReport::WriteText(std::string_view text, bool centred) {
 void RichTextReport::Write(const ReportFont& font, std::string_view colors, std::string_view text,
                            bool centred) {
     std::string line = centred ? "{\\qc" : "{";
-    // Always font 0, whatever the font table holds; that stays so.
+    // Always font 0, whatever the font table holds: the files are to stay the same to the byte.
     line.append(colors).append("\\f0\\fs").append(std::to_string(HalfPoints(font)));
     if (font.bold) line += "\\b";
     if (font.italic) line += "\\i";

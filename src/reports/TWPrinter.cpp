@@ -147,7 +147,7 @@ void RunPrintJob(TWPrinter& printer, const std::function<void()>& job) {
         try {
             printer.KillDoc();
         } catch (const Error&) {
-            // The first failure is the one to tell.
+            // Report the first failure, not this one.
         }
         throw;
     }

@@ -1,6 +1,6 @@
-// A thin drawing surface over the device of one print job: inches and font attributes. Every call that the
-// device fails raises an error "Printer Error Occurred ({call})" with the source "TWPrinter" and the device's
-// number.
+// A thin drawing surface on the device of one print job. All lengths are inches. If a call to the
+// device fails, raises Error "Printer Error Occurred ({call})" with the source "TWPrinter" and the
+// device's error number.
 #pragma once
 
 #include <functional>
@@ -15,32 +15,33 @@ namespace tw {
 class TWPrinter {
   public:
     TWPrinter() = default;
-    // Gives a device that is still open back, in silence; Close does so with its error.
+    // Closes a device that is still open and ignores its error; Close raises it.
     ~TWPrinter();
     TWPrinter(const TWPrinter&) = delete;
     TWPrinter& operator=(const TWPrinter&) = delete;
 
-    // Closes an earlier device, takes this one over and starts a document on its first page, with the font
-    // and the colour back at their start values. Gives the size of the printable area.
+    // Closes an earlier device, takes ownership of this one and starts a document with its first page. Resets
+    // the font and the colour. Returns the size of the printable area.
     PrintSize BeginDoc(std::unique_ptr<PrinterDevice> device, const std::string& name);
     void FinishDoc();
     void KillDoc();
-    // Nothing without a device.
+    // Does nothing without a device.
     void Close();
 
-    // The next text is in this font: one font is made for any number of changes, none when nothing changes.
+    // These set the font of the next text. The device creates a font only before a text is drawn or measured,
+    // and only if the font has changed.
     void FontSize(int points);
     void FontBold(bool bold);
     void FontItalic(bool italic);
     void FontFamily(std::string_view family);
     const PrintFont& Font() const { return font_; }
-    // Text, lines and boxes; nothing when the colour is that one.
+    // Sets the colour of texts, lines and boxes. Does nothing if it is the current colour.
     void Color(Rgb color);
 
     PrintSize GetTextSize(std::string_view text);
     void MoveTo(double x, double y);
     void LineTo(double x, double y);
-    // Filled and drawn in that colour; the colour in use stays.
+    // Draws a box, filled and outlined in that colour. The current colour stays.
     void Box(double x1, double y1, double x2, double y2, Rgb color);
     void NewPage();
     void TextOut(std::string_view text, double x, double y);
@@ -58,7 +59,8 @@ class TWPrinter {
     Rgb color_{0, 0, 0};
 };
 
-// Runs a print job and closes the printer's device. An error in it kills the document and rises on.
+// Runs a print job and closes the printer's device. If an Error is raised, kills the
+// document and raises it again.
 void RunPrintJob(TWPrinter& printer, const std::function<void()>& job);
 
 }  // namespace tw

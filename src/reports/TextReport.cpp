@@ -24,7 +24,7 @@ std::string_view TrimRight(std::string_view text) {
 
 }  // namespace
 
-// A width that is no positive number would leave no room for a character: nothing is wrapped then.
+// If the width is not a positive number, nothing is wrapped.
 TextReport::TextReport(const ReportOptions& options, ReportStream& stream)
     : stream_(stream),
       width_(options.Columns() > 0 ? options.Columns() : std::numeric_limits<int>::max()),
@@ -61,7 +61,7 @@ void TextReport::WritePiece(std::string_view piece, bool centred) {
         const auto limit = static_cast<std::size_t>(std::max(width_ - textColumn_, 0));
         const std::size_t cut = CodePointOffset(piece, limit);
         if (cut == piece.size()) break;
-        // The last blank at or before the limit, the first character counting 1.
+        // The last blank among the characters up to the limit.
         const std::size_t blank = piece.substr(0, cut).rfind(' ');
         const std::size_t end = blank == std::string_view::npos ? cut : blank;
         Emit(TrimRight(piece.substr(0, end)), centred, true);
@@ -74,7 +74,7 @@ void TextReport::Emit(std::string_view text, bool centred, bool endsLine) {
     if (centred != textCentred_ && textColumn_ > 0) ReportNewLine();
     textCentred_ = centred;
     const int length = LengthOf(text);
-    // Without a text there is nothing to centre, without a width no centre.
+    // An empty text or a report without a width is not centred.
     const bool limited = width_ != std::numeric_limits<int>::max();
     if (centred && !text.empty() && limited)
         stream_.Write(std::string(static_cast<std::size_t>(std::max((width_ - length) / 2 + 1, 0)), ' '));
@@ -83,8 +83,9 @@ void TextReport::Emit(std::string_view text, bool centred, bool endsLine) {
         stream_.Write(kLineEnd);
         textColumn_ = 0;
     } else {
-        // Its own length, without what stood on the line before it: a value behind a label may run past the
-        // width by the label's length, on purpose.
+        // Only the length of this text, without the text before it on the line: a value after a
+        // label may exceed the width by the label's length. Not corrected, since the files are to
+        // stay the same to the byte.
         textColumn_ = length;
     }
 }

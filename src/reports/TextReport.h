@@ -1,4 +1,4 @@
-// A report as plain text in UTF-8, wrapped to a width in characters.
+// A report as plain UTF-8 text, wrapped to a width in characters.
 #pragma once
 
 #include <string>

@@ -9,10 +9,10 @@
 namespace tw {
 namespace {
 
-// Thin, and still seen on paper of any resolution.
+// Thin, but visible on paper at any resolution.
 constexpr double kPenPoints = 0.5;
 
-// Faces of the same widths, for systems that lack the two of a printed recipe.
+// Families with the same letter widths, for systems that lack the two families of a printed recipe.
 QStringList Families(const std::string& family) {
     QStringList families{ToQt(family)};
     if (family == "Arial")

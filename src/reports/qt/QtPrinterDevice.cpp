@@ -45,7 +45,7 @@ bool QtPrinterDevice::StartDoc(const std::string& name) {
 }
 
 bool QtPrinterDevice::StartPage() {
-    // The first page comes with the document.
+    // The document starts with its first page.
     return ++pages_ == 1 || paper_->newPage();
 }
 

@@ -1,4 +1,4 @@
-// A print job on a printer, or into a PDF file, by Qt.
+// A print job on a printer or into a PDF file, with Qt.
 #pragma once
 
 #include <QBuffer>
@@ -19,9 +19,9 @@ namespace tw {
 
 class QtPrinterDevice final : public PrinterDevice {
   public:
-    // A job on that printer, with its page and its resolution.
+    // Prints on that printer, with its page and resolution.
     explicit QtPrinterDevice(std::shared_ptr<QPrinter> printer);
-    // A PDF file. What was there before stays until the document has ended well.
+    // Writes a PDF file. An older file stays until the document has ended successfully.
     QtPrinterDevice(TargetFile target, const QPageLayout& page);
     ~QtPrinterDevice() override;
 
@@ -48,9 +48,9 @@ class QtPrinterDevice final : public PrinterDevice {
     void MakePaper();
     double Dpi() const;
 
-    std::shared_ptr<QPrinter> printer_;  // nullptr for a file
+    std::shared_ptr<QPrinter> printer_;  // nullptr for a PDF file
     std::optional<TargetFile> target_;   // none for a printer
-    QBuffer content_;                    // of the file; outlives the paper
+    QBuffer content_;                    // of the PDF file; outlives the paper
     std::unique_ptr<QPageLayout> filePage_;
     std::shared_ptr<QPagedPaintDevice> paper_;
     QPainter painter_;
@@ -58,7 +58,7 @@ class QtPrinterDevice final : public PrinterDevice {
     int pages_ = 0;
 };
 
-// The page of a PDF file on that paper.
+// Returns the page of a PDF file on that paper.
 QPageLayout PdfPage(Paper paper);
 
 }  // namespace tw

@@ -17,7 +17,7 @@ namespace {
 
 using Result = PrinterAnswer::Result;
 
-// Runs the dialog of the desktop.
+// Shows the desktop's printer dialog.
 Result RunDialog(QPrinter& printer) {
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     dialog.setWindowTitle(QPrintDialog::tr("Print"));
@@ -41,7 +41,7 @@ bool AddPreviewButton(QDialog& dialog) {
     return true;
 }
 
-// A PDF file that was chosen as the printer is written as every other one, so that a failure is noticed.
+// A PDF file that was chosen as the printer is written like any other PDF file, so that a failure is noticed.
 std::unique_ptr<PrinterDevice> QtPrinters::DeviceOf(const std::shared_ptr<QPrinter>& printer) const {
     if (printer->outputFormat() != QPrinter::PdfFormat || printer->outputFileName().isEmpty())
         return std::make_unique<QtPrinterDevice>(printer);
@@ -53,7 +53,7 @@ PrinterAnswer QtPrinters::ShowPrinterDialog(bool configured, bool quick) {
     if (QPrinterInfo::availablePrinterNames().isEmpty()) return {Result::NoPrinter};
     const bool again = configured && !quick && record_;
     const auto printer = again ? record_ : std::make_shared<QPrinter>(QPrinter::HighResolution);
-    // Where none of the printers is the default one, the brewer is asked after all.
+    // If no printer is the default one, the brewer is asked even if quick.
     const bool asks = !quick || QPrinterInfo::defaultPrinter().isNull();
     const Result result = asks ? RunDialog(*printer) : Result::Chosen;
     if (result != Result::Chosen) return {result};

@@ -1,4 +1,4 @@
-// The printers of the system by Qt's printer dialog.
+// The printers of the system, chosen in Qt's printer dialog.
 #pragma once
 
 #include <memory>
@@ -13,9 +13,10 @@ namespace tw {
 
 class QtPrinters final : public PrinterPort {
   public:
-    // own is for a file that is chosen as the printer; it must outlive the port.
+    // own: the program's own files, which may not be chosen as the file of a PDF printer.
+    // Must outlive the port.
     explicit QtPrinters(const OwnFiles& own) : own_(own) {}
-    // Raises the error of a file that was chosen as the printer and is not to be written.
+    // Raises Error if the brewer chose a PDF file as the printer and that file must not be written.
     PrinterAnswer ShowPrinterDialog(bool configured, bool quick) override;
     void ShowHourglass(bool on) override;
     std::unique_ptr<PrinterDevice> MakePdf(const TargetFile& target, Paper paper) override;
@@ -27,11 +28,11 @@ class QtPrinters final : public PrinterPort {
 
     const OwnFiles& own_;
     PaperMeasure measure_;
-    std::shared_ptr<QPrinter> record_;  // the printer of the last job with its settings
+    std::shared_ptr<QPrinter> record_;  // the printer of the last job, with its settings
 };
 
-// Adds the button "Preview" to a printer dialog, which closes it with that result. False for a dialog that
-// has no row of buttons of its own.
+// Adds the button "Preview" to a printer dialog; pressing it closes the dialog with kPreviewResult. Returns
+// false if the dialog has no QDialogButtonBox.
 inline constexpr int kPreviewResult = 2;
 bool AddPreviewButton(QDialog& dialog);
 

@@ -1,4 +1,4 @@
-// The font dialog of report options (frmChooseFont).
+// The window for choosing a font of a report (frmChooseFont).
 #pragma once
 
 #include <QDialog>
@@ -18,7 +18,7 @@ class ColorButton;
 class ChooseFontDialog final : public QDialog {
     Q_OBJECT
   public:
-    // Both must outlive the dialog.
+    // model and colors must outlive the dialog.
     ChooseFontDialog(ChooseFontModel& model, ColorChooser& colors, QWidget* parent);
 
   protected:

@@ -1,4 +1,4 @@
-// The window of a computer without a printer (frmNoPrinter).
+// The window shown when the computer has no printer (frmNoPrinter).
 #pragma once
 
 #include <QDialog>

@@ -39,7 +39,7 @@ void PreviewPage::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const QRectF sheet = Sheet();
-    // Paper is white whatever the desktop's colours.
+    // Paper is white whatever the colours of the desktop are.
     painter.setPen(QPen(HintColor(palette()), 1));
     painter.setBrush(Qt::white);
     painter.drawRect(sheet);

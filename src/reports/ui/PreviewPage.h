@@ -1,4 +1,4 @@
-// One page of the print preview, as it would come out on white paper.
+// Shows one page of the print preview as it would look on white paper.
 #pragma once
 
 #include <QWidget>
@@ -13,14 +13,15 @@ class PreviewPage final : public QWidget {
     // The model must outlive the widget.
     PreviewPage(const PrintPreviewModel& model, QWidget* parent);
 
-    // Takes the size of the model's zoom; room is what the window has for the whole page.
+    // Resizes the widget to the model's zoom. room is the space in the window, in pixels,
+    // for showing a whole page.
     void Fit(const QSize& room);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    // The sheet within the widget, which leaves room for the shadow around it.
+    // Returns the rectangle of the sheet, which leaves a margin for its shadow within the widget.
     QRectF Sheet() const;
 
     const PrintPreviewModel& model_;

@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kWidthDigits = 6;
 
-// What a report type is, in a line above its options.
+// The line above the options, which explains the type of report.
 struct Intro {
     const char* name;
     QString text;

@@ -1,4 +1,4 @@
-// The options of how a report of one type looks (frmPrintFmtOptions).
+// The window of the format options of a report (frmPrintFmtOptions).
 #pragma once
 
 #include <QDialog>
@@ -13,7 +13,7 @@ namespace tw {
 class PrintFormatDialog final : public QDialog {
     Q_OBJECT
   public:
-    // Both must outlive the dialog.
+    // model and colors must outlive the dialog.
     PrintFormatDialog(PrintFormatModel& model, ColorChooser& colors, QWidget* parent);
 
   protected:

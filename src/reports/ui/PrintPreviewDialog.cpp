@@ -48,7 +48,7 @@ PrintPreviewDialog::PrintPreviewDialog(PrintPreviewModel& model, QWidget* parent
     ShowModel();
 }
 
-// A window that goes takes the focus from its box, which would tell of an entry.
+// Destroying the window removes the focus from the page box, which would then signal an entry.
 PrintPreviewDialog::~PrintPreviewDialog() {
     pageNumber_->disconnect(this);
 }
@@ -143,7 +143,7 @@ void PrintPreviewDialog::Press(const QString& button) {
         return;
     }
     ShowModel();
-    // A button that has just gone off leaves the keys to the pages.
+    // A button that has just been disabled loses the focus, so give it to the pages.
     if (buttons_.contains(button) && !buttons_[button]->isEnabled()) area_->setFocus();
 }
 
@@ -175,7 +175,7 @@ void PrintPreviewDialog::showEvent(QShowEvent* event) {
     page_->Fit(area_->maximumViewportSize());
 }
 
-// A page that is higher than the window scrolls first.
+// A page that is taller than the window is scrolled before it is turned.
 bool PrintPreviewDialog::TurnByKey(int key) {
     QScrollBar& bar = *area_->verticalScrollBar();
     const int page = model_.Page();

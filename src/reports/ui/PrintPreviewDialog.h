@@ -1,4 +1,4 @@
-// The print preview (frmPrintPreview): a PrintPreviewModel in a window.
+// The window of the print preview (frmPrintPreview).
 #pragma once
 
 #include <QDialog>

@@ -143,7 +143,7 @@ void PrintWizardDialog::Press(const char* button) {
         return;
     }
     ShowModel();
-    // The file is what is wrong when a report has failed.
+    // If creating the report has failed, the file name is to be corrected.
     if (page != model_.CurrentPage() || button == std::string_view("cmdNext")) FocusPage();
 }
 

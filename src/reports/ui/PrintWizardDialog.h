@@ -1,4 +1,4 @@
-// The report wizard (frmPrintWizard): a PrintWizardModel in a window.
+// The window of the report wizard (frmPrintWizard).
 #pragma once
 
 #include <QDialog>

@@ -1,4 +1,4 @@
-// How a font of report options looks in a sample.
+// Shows a sample of a font of report options.
 #pragma once
 
 #include <QFont>
@@ -11,8 +11,8 @@
 
 namespace tw {
 
-// Shows a sample in that font, on ground; with its own colour behind the text where the report has one. Large
-// sizes are cut to what a dialog can hold.
+// Shows sample in font. The background is the font's own background colour if ownGround, else ground
+// (0xBBGGRR). Sizes above 36 points are shown as 36, so that the dialog does not grow too large.
 inline void ShowFace(QWidget& sample, const ReportFont& font, int ground, bool ownGround) {
     constexpr double kLargest = 36;
     QFont face(ToQt(font.face));
