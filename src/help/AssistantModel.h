@@ -1,4 +1,5 @@
-// The welcome window (frmAssistant): five ways to start, and whether it comes up with the program.
+// The welcome window (frmAssistant): five ways to start, and whether to show the window
+// when the program starts.
 #pragma once
 
 #include <optional>
@@ -10,11 +11,11 @@
 
 namespace tw {
 
-// One of the links; its controls are "img{name}" and "lbl{name}".
+// A link of the window. Its controls are named "img{name}" and "lbl{name}".
 struct AssistantLink {
     std::string_view name;
-    std::string_view caption;  // with the mark of its access key
-    CommandId command;         // what a click runs once the window is closed
+    std::string_view caption;  // "&" marks the access key
+    CommandId command;         // what a click runs after the window has closed
 };
 
 inline constexpr AssistantLink kAssistantLinks[] = {
@@ -25,8 +26,8 @@ inline constexpr AssistantLink kAssistantLinks[] = {
     {"Help", "Read the &help", CommandId::HelpAuto},
 };
 
-// chkShowAtStartup; the captions of the links; cmdOK, or a link by one of its two names: each closes the
-// window.
+// Controls: chkShowAtStartup and the captions of the links. Buttons: cmdOK and each link, by either of its
+// two names; each closes the window.
 class AssistantModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmAssistant";
@@ -36,7 +37,7 @@ class AssistantModel final : public FormModel {
     static constexpr std::string_view kTitle = "Tunwright Assistant";
     bool ShowAtStartup() const { return showAtStartup_; }
     void SetShowAtStartup(bool show) { showAtStartup_ = show; }
-    // The command of the link that closed the window; nothing when something else did.
+    // Returns the command of the link that closed the window; none if it was closed in another way.
     std::optional<CommandId> Chosen() const { return chosen_; }
 
   private:

@@ -41,7 +41,7 @@ bool IsHomePage(std::string_view page) {
     return name.empty() || SameName(name, kHomePage);
 }
 
-// The page that help.mdb gives for a context, nothing without a row.
+// Returns the page that help.mdb lists for a context; none if there is no row.
 std::optional<std::string> PageOf(const std::string& databasePath, std::string_view formName,
                                   std::string_view context) {
     const auto database = Database::OpenDatabase(databasePath, false);

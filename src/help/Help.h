@@ -1,5 +1,5 @@
-// The pages of the help, shown by the desktop's browser: by the window and the place in it that asks, or by
-// their names.
+// Shows the pages of the help in the desktop's browser: the page for a window and a part of
+// it, or a page by name.
 #pragma once
 
 #include <string>
@@ -10,36 +10,38 @@
 
 namespace tw {
 
-// The context of a window that is not divided further.
+// The context of a window without parts of its own.
 inline constexpr std::string_view kWholeWindow = "?";
-// "Tab{position}", the context of a tab; positions count from 1.
+// Returns "Tab{position}", the context of a tab; positions count from 1.
 std::string TabContext(int position);
 
-// Why a document was not opened, by the code of BrowserPort::Open: "Access Denied" for 5.
+// Returns the reason why a document was not opened, for a code of BrowserPort::Open; for example
+// "Access Denied" for 5.
 std::string_view BrowserFailure(int code);
 
 class Help {
   public:
-    // programFolder holds help.mdb, index_template.dat and the folder OnlineHelp with the pages; an empty one
-    // is the present folder. All references must outlive the object.
+    // programFolder contains help.mdb, index_template.dat and the folder OnlineHelp with the pages; empty
+    // means the current folder. All references must outlive the object.
     Help(std::string programFolder, MessagePort& messages, BrowserPort& browser, TextFilePort& files);
 
-    // The page of that context of a form; a box says so when there is none. The home page for an empty form.
-    // Raises Error when help.mdb cannot be read, and for a context or form with a "'" in it, which goes into
-    // the query as it stands, on purpose.
+    // Shows the page for that context of a form, or the home page if formName is empty. Shows a message if
+    // there is no page. Raises Error if help.mdb cannot be read, and if context or formName contains a "'".
+    // Do not escape them in the query: this error is observable behaviour.
     void ShowContextHelp(std::string_view formName, std::string_view context);
-    // A page within the frame of the contents; the home page for an empty name. What goes wrong is shown.
+    // Shows a page within the frame that has the contents, or the home page if page is empty. Shows a
+    // message if that fails.
     void ShowHelpPage(std::string_view page);
-    // Writes the template over target, with startPage for each "$START_PAGE". False when that fails; the
-    // reason has been shown.
+    // Writes the template to target, with every "$START_PAGE" replaced by startPage. Overwrites target.
+    // Returns false if that fails, after showing the reason.
     bool WriteHelpIndex(const std::string& target, std::string_view startPage,
                         const std::string& templateFile);
 
-    // help.mdb.
+    // Returns the path of help.mdb.
     std::string DatabasePath() const { return Base() + "help.mdb"; }
 
   private:
-    // The program's folder with a separator at its end.
+    // Returns the program's folder, with a separator at its end unless it is empty.
     std::string Base() const;
     void OpenInBrowser(const std::string& file);
 

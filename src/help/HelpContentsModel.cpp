@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::int64_t kNoParent = -1;
 
-// Adds the children of one topic behind all others.
+// Appends the children of a topic to the list of all topics.
 void AppendChildren(Database& database, int parent, std::vector<HelpTopic>& topics,
                     std::set<std::int64_t>& seen) {
     const std::int64_t parentId =
@@ -22,7 +22,7 @@ void AppendChildren(Database& database, int parent, std::vector<HelpTopic>& topi
         {parentId});
     for (; !rows.AtEnd(); rows.MoveNext()) {
         const std::int64_t id = rows.Fields("TOPIC_ID").Integer();
-        // Two nodes of one key cannot stand in a tree; without this a ring of topics would have no end.
+        // A tree cannot have two nodes with the same key, and a cycle of topics would never end.
         if (!seen.insert(id).second)
             throw Error("HelpContents", "The topic " + std::to_string(id) + " is listed twice", 0);
         if (parent != HelpTopic::kTop)

@@ -11,7 +11,7 @@
 
 namespace tw {
 
-// A topic and where it stands.
+// A topic and its place in the tree.
 struct HelpTopic {
     static constexpr int kTop = -1;
 
@@ -19,40 +19,40 @@ struct HelpTopic {
     std::string key;  // "T{id}"
     std::string name;
     std::string page;
-    int parent = kTop;               // its place in the list of topics, kTop for a top-level one
-    std::vector<int> children = {};  // likewise, in their order
+    int parent = kTop;               // index in the list of topics; kTop for a top-level topic
+    std::vector<int> children = {};  // indexes in the list of topics, in order
 };
 
-// All topics of help.mdb that hang together with a top-level one, parents before their children. Raises Error
-// when it cannot be read, and for a topic that stands in it twice: what topics holds then has been read
-// before.
+// Reads all topics of help.mdb that descend from a top-level topic; parents come before their
+// children. Raises Error if the database cannot be read or lists a topic twice; topics then holds the
+// topics read before the error.
 void ReadHelpTopics(const Help& help, std::vector<HelpTopic>& topics);
 
-// TreeView1 shows and takes the name of a topic, of two with the same name the first; a press on it is a
-// double click. lblSel.
+// TreeView1 shows the name of the selected topic and accepts a name, which selects the first topic with it;
+// pressing TreeView1 is a double click. lblSel shows the selected topic.
 class HelpContentsModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmHelpContents";
 
-    // Reads the topics; a failure is shown in a box, and the tree holds what was read before it. The first
-    // topic is selected. REQUIRES: both outlive the object.
+    // Reads the topics and selects the first one. If reading fails, shows a message and keeps the topics read
+    // so far. REQUIRES: help outlives the object.
     HelpContentsModel(Help& help, MessagePort& messages);
 
-    // TreeView1.
+    // The topics of TreeView1.
     const std::vector<HelpTopic>& Topics() const { return topics_; }
-    // Places in Topics.
+    // Indexes in Topics.
     const std::vector<int>& TopLevel() const { return topLevel_; }
-    // HelpTopic::kTop without a topic.
+    // Returns the index of the selected topic; HelpTopic::kTop if there are no topics.
     int Selected() const { return selected_; }
-    // REQUIRES: there is such a topic.
+    // REQUIRES: topic is an index in Topics.
     void Select(int topic) { selected_ = topic; }
-    // lblSel: the name of the selected topic, each "&" doubled.
+    // Returns the text of lblSel: the name of the selected topic, with each "&" doubled.
     std::string SelectedText() const;
-    // A double click, or Enter: shows the page of the selected topic.
+    // Shows the page of the selected topic, as a double click or Enter does.
     void ShowSelected();
 
   private:
-    // Empty without a topic.
+    // Returns an empty text if there are no topics.
     std::string SelectedName() const;
     bool SelectNamed(std::string_view name);
 

@@ -1,4 +1,4 @@
-// What the help needs of the platform: somebody who shows a page, and text files.
+// The ports that the help needs: opening a document on the desktop, and text files.
 #pragma once
 
 #include <string>
@@ -10,21 +10,20 @@ namespace tw {
 class BrowserPort {
   public:
     virtual ~BrowserPort() = default;
-    // 33 or above when the document is on its way to the screen; otherwise one of the codes of
-    // BrowserFailure.
+    // Returns 33 or above if the document is being opened, otherwise a code of BrowserFailure.
     virtual int Open(const std::string& file) = 0;
 };
 
-// Whole text files, byte for byte. Both operations raise Error with a description that names the file.
+// Reads and writes whole text files, byte for byte. Both raise Error with a description that names the file.
 class TextFilePort {
   public:
     virtual ~TextFilePort() = default;
     virtual std::string Read(const std::string& file) = 0;
-    // Over a file that exists.
+    // Overwrites an existing file.
     virtual void Write(const std::string& file, std::string_view text) = 0;
 };
 
-// The codes of BrowserPort::Open that the platform itself finds.
+// The codes that BrowserPort::Open returns on this platform.
 inline constexpr int kFileNotFoundCode = 2;
 inline constexpr int kAccessDeniedCode = 5;
 inline constexpr int kNoProgramCode = 31;

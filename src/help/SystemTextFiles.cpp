@@ -23,7 +23,7 @@ std::string SystemTextFiles::Read(const std::string& file) {
     errno = 0;
     std::ifstream stream(file, std::ios::binary);
     std::ostringstream text;
-    // The first byte tells a folder, which opens but cannot be read, from a file; an empty file has none.
+    // A folder can be opened but not read; reading the first byte detects it. An empty file has none.
     if (stream.peek() != std::ifstream::traits_type::eof()) text << stream.rdbuf();
     if (!stream.is_open() || stream.bad()) RefuseToRead(file);
     return std::move(text).str();

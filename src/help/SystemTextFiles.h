@@ -1,4 +1,4 @@
-// Text files of the machine.
+// Text files on the file system.
 #pragma once
 
 #include "help/HelpPorts.h"
@@ -8,7 +8,7 @@ namespace tw {
 
 class SystemTextFiles final : public TextFilePort {
   public:
-    // own is what is not to be written; it must outlive the port.
+    // own: the program's own files, which must not be written. Must outlive the port.
     explicit SystemTextFiles(const OwnFiles& own) : own_(own) {}
     std::string Read(const std::string& file) override;
     void Write(const std::string& file, std::string_view text) override;

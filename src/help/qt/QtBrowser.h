@@ -7,7 +7,8 @@ namespace tw {
 
 class QtBrowser final : public BrowserPort {
   public:
-    // The code for a missing or unreadable file, and for one that the desktop has no program for.
+    // Returns the codes for a file that is missing or unreadable, and for a type without a
+    // program on the desktop.
     int Open(const std::string& file) override;
 };
 

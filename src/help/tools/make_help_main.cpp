@@ -1,7 +1,7 @@
-// tunwright-make-help FOLDER TARGET: makes the help that stands beside the program from its sources. FOLDER
-// holds contents.tsv and contexts.tsv, frame.html, and the pages in pages/. TARGET gets help.mdb,
-// index_template.dat and OnlineHelp/, whatever of these it holds already is replaced. Exit status: 0 made,
-// 1 not made (the reasons are on standard error), 2 wrong arguments.
+// tunwright-make-help FOLDER TARGET: builds the help, which is installed next to the program, from its
+// sources. FOLDER contains contents.tsv, contexts.tsv, frame.html and the folder pages/ with the pages.
+// Writes help.mdb, index_template.dat and OnlineHelp/ into TARGET, replacing what is there. Exit status: 0
+// success, 1 failure (the reasons are on standard error), 2 wrong arguments.
 #include <charconv>
 #include <filesystem>
 #include <iostream>
@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 
 using Row = std::vector<std::string>;
 
-// No brewer's file is near.
+// There are no files of a brewer to protect.
 tw::SystemTextFiles TextFiles() {
     static const tw::OwnFiles kNone;
     return tw::SystemTextFiles(kNone);
@@ -41,7 +41,7 @@ class Problems {
     bool found_ = false;
 };
 
-// The lines of a table below its header, their cells between tabs.
+// Returns the lines of a table below its header, split at tabs.
 std::vector<Row> ReadTable(const fs::path& file, std::size_t columns, Problems& problems) {
     std::istringstream text(TextFiles().Read(file.string()));
     std::vector<Row> rows;
@@ -67,7 +67,7 @@ std::string EscapeHtml(const std::string& text) {
     return tw::ReplaceAll(escaped, "<", "&lt;");
 }
 
-// The topics as one list within another, in the order of their numbers.
+// Appends the topics as nested lists, in the order of their numbers.
 void AppendList(const std::map<int, std::vector<Row>>& children, int parent, std::string& html) {
     const auto found = children.find(parent);
     if (found == children.end()) return;
@@ -91,7 +91,7 @@ void CheckPages(const std::vector<Row>& rows, const fs::path& pages, Problems& p
         if (!fs::is_regular_file(pages / row[2])) problems.Add("there is no page '" + row[2] + "'");
 }
 
-// Each topic stands behind its parent, so that there is no ring.
+// Checks that each topic comes after its parent, which rules out cycles.
 void CheckTopics(const std::vector<Row>& topics, Problems& problems) {
     std::set<std::string> seen = {"-1"};
     for (const Row& topic : topics) {

@@ -40,7 +40,7 @@ AssistantDialog::AssistantDialog(AssistantModel& model, QWidget* parent) : QDial
     links_.front()->setFocus();
 }
 
-// The links outlive this part of the window, and lose the focus as they go.
+// The links are destroyed after this object and then lose the focus, which would signal Left.
 AssistantDialog::~AssistantDialog() {
     for (AssistantLinkButton* link : links_) link->disconnect(this);
 }

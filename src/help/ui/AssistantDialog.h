@@ -1,4 +1,4 @@
-// The window of the assistant.
+// The window of the assistant (frmAssistant).
 #pragma once
 
 #include <QDialog>
@@ -26,9 +26,9 @@ class AssistantDialog final : public QDialog {
     void AddLinks(QBoxLayout& column);
     void AddButtons(QBoxLayout& column);
     void Press(std::string_view button);
-    // Highlights that link alone.
+    // Highlights only that link.
     void Highlight(const AssistantLinkButton& link);
-    // The link under the pointer, else the one with the focus, else none.
+    // Highlights the link under the pointer, else the one with the focus, else none.
     void HighlightWhatIsLeft();
 
     AssistantModel& model_;

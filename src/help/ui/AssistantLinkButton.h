@@ -1,4 +1,4 @@
-// One link of the assistant: a picture and an underlined line beside it.
+// A link of the assistant: a picture with an underlined line next to it.
 #pragma once
 
 #include <QAbstractButton>
@@ -11,17 +11,17 @@ class AssistantLinkButton final : public QAbstractButton {
   public:
     AssistantLinkButton(const QIcon& picture, const QString& caption, QWidget* parent);
 
-    // Drawn as the one link that a click or Enter would follow.
+    // If on, draws the link as the one that a click or Enter follows.
     void Highlight(bool on);
     bool IsHighlighted() const { return highlighted_; }
-    // Whether the pointer is on it.
+    // True if the pointer is on the link.
     bool IsPointedAt() const { return pointedAt_; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
   signals:
-    // The pointer or the focus has come; it has gone.
+    // Reached: the pointer or the focus has entered the link. Left: it has left.
     void Reached();
     void Left();
 

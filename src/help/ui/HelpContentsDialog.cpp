@@ -31,7 +31,7 @@ HelpContentsDialog::HelpContentsDialog(HelpContentsModel& model, QWidget* parent
     tree_->installEventFilter(this);
     column->addWidget(tree_, 1);
     selected_->setObjectName(QStringLiteral("lblSel"));
-    // A label shows "&&" as one "&" only while it is somebody's label.
+    // A label shows "&&" as "&" only if it has a buddy.
     selected_->setBuddy(tree_);
     selected_->setFont(BoldFont(font()));
     column->addWidget(selected_);
@@ -46,7 +46,7 @@ void HelpContentsDialog::Fill() {
     const std::vector<HelpTopic>& topics = model_.Topics();
     std::vector<QTreeWidgetItem*> items;
     for (const HelpTopic& topic : topics) {
-        // A parent always stands before its children.
+        // Parents come before their children.
         auto* item = topic.parent == HelpTopic::kTop
                          ? new QTreeWidgetItem(tree_)
                          : new QTreeWidgetItem(items[static_cast<std::size_t>(topic.parent)]);

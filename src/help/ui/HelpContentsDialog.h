@@ -1,4 +1,5 @@
-// The window of the help's contents: the tree of topics, and the chosen one's name below it.
+// The window of the help's contents (frmHelpContents): the tree of topics, with the name of
+// the selected topic below.
 #pragma once
 
 #include <QDialog>
