@@ -1,5 +1,5 @@
-// The commands of the console. One table, in files by topic; the help page and the tests of its completeness
-// read it.
+// The commands of the console: one table, split into files by topic. The help page and the tests that check
+// its completeness read it.
 #pragma once
 
 #include <span>
@@ -14,24 +14,27 @@ namespace tw {
 
 struct Command {
     std::string_view name;
-    std::string_view form;  // its arguments as the help shows them
+    std::string_view form;  // the arguments as the help page shows them
     std::string_view help;  // one line
-    // Takes all arguments first, so that a line with too many changes nothing. Raises ScriptError for a line
-    // that cannot be carried out, Error for what the program shows in a box.
+    // Reads all arguments before it changes anything, so that a line with too many of them changes
+    // nothing. Raises ScriptError if the line cannot be executed, Error for a failure that the program
+    // shows in a message box.
     void (*run)(Session& session, Arguments& arguments);
 };
 
-// The arguments GRID, and ROW or COL named what. Raise ScriptError for an unknown grid or a number below 0.
+// Read the argument GRID, and ROW or COL, which is called `what` in errors. Raise ScriptError if the grid is
+// unknown or the number is below 0.
 Grid& TakeGrid(Session& session, Arguments& arguments);
 int TakeIndex(Arguments& arguments, std::string_view what);
-// Raises ScriptError when the grid has no such cell.
+// Raises ScriptError if the grid has no such cell.
 void CheckCell(const Grid& grid, int row, int col);
 
-// The argument WORD that names a catalogue; those of two words stand without quotes. Raises ScriptError.
+// Reads the argument WORD, which names a catalogue; a name of two words needs no quotes. Raises ScriptError
+// if there is no such catalogue.
 CatalogueKind TakeCatalogue(Arguments& arguments);
 
-// Prints the rows of a SELECT, or runs another statement and prints the number of rows changed. Raises the
-// store's error.
+// Prints the rows of a SELECT, or runs any other statement and prints the number of rows changed. Raises
+// the errors of the store.
 void RunSql(Session& session, Database& database, const std::string& text);
 
 std::span<const Command> CommandsOnValues();
@@ -50,9 +53,9 @@ std::span<const Command> CommandsOfReports();
 std::span<const Command> CommandsOnProgram();
 std::span<const Command> CommandsOfHelp();
 
-// All commands in the order of the help.
+// Returns all commands in the order of the help page.
 std::vector<Command> AllCommands();
-// nullptr for an unknown name.
+// Returns nullptr if the name is unknown.
 const Command* FindCommand(std::string_view name);
 
 }  // namespace tw

@@ -10,20 +10,21 @@
 namespace tw {
 namespace {
 
-// Without the carriage return of a line that ends in CR LF.
+// Returns line without the carriage return of a CR LF.
 std::string_view WithoutReturn(std::string_view line) {
     if (line.ends_with('\r')) line.remove_suffix(1);
     return line;
 }
 
-// Without the byte order mark with which some editors begin a text in UTF-8.
+// Returns line without the byte order mark that some editors write at the start of UTF-8 text.
 std::string_view WithoutMark(std::string_view line) {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     if (line.starts_with(kByteOrderMark)) line.remove_prefix(kByteOrderMark.size());
     return line;
 }
 
-// What is read is answered before the script's writer is waited for.
+// Writes out all answers before the console waits for more input, so that whoever
+// writes the script sees them.
 void FlushBeforeWaiting(std::istream& script, ScriptOutput& out) {
     if (script.rdbuf()->in_avail() <= 0) out.Flush();
 }
@@ -66,7 +67,7 @@ void Console::RunLine(std::string_view line) {
     try {
         command->run(session_, arguments);
     } catch (const Error& error) {
-        // The box of the program's event loop; the program goes on.
+        // Like the event loop of the desktop program: shows a message box and continues.
         session_.Messages().ShowMessage("Error", error.WithNumber());
     }
     session_.FinishExit();

@@ -1,4 +1,4 @@
-// Runs scripts: reads their lines, carries out the commands, and says where a script stopped.
+// Runs scripts: reads their lines, executes the commands and reports where a script stopped.
 #pragma once
 
 #include <iosfwd>
@@ -13,17 +13,19 @@ enum class ExitStatus : int { Done = 0, NoDatabase = 1, BadLine = 2 };
 
 class Console {
   public:
-    // databasePath is a file, or ":memory:" for a fresh one. All references must outlive the console.
+    // databasePath is a file, or ":memory:" for a new database in memory. All references
+    // must outlive the console.
     Console(std::string databasePath, SettingsPort& settings, std::ostream& out, std::ostream& errors);
 
-    // Where the product's own files lie (ShellEnvironment::programFolder). Call it before the first script.
+    // Sets the folder with the product's own files (ShellEnvironment::programFolder).
+    // REQUIRES: no script has run.
     void SetProgramFolder(std::string folder) { session_.SetProgramFolder(std::move(folder)); }
 
-    // Runs the lines of one script in the program as the scripts before have left it. Done at its end;
-    // otherwise the status of the line that stopped it, after "{name}:{line}: {reason}" on errors for a bad
-    // one.
+    // Runs the lines of a script; the program continues from the state that earlier scripts left. Returns
+    // Done at the end of the script. Otherwise returns the status of the line that stopped it; for BadLine,
+    // "{name}:{line}: {reason}" has been written to errors.
     ExitStatus Run(std::istream& script, std::string_view name);
-    // The end of the last script: the program ends without questions.
+    // Ends the program after the last script, without asking questions.
     void End() { session_.End(); }
 
   private:

@@ -1,11 +1,11 @@
-// Commands that edit as the Edit menu does: the history, the selection, the clipboard, sorting.
+// Commands of the Edit menu: undo and redo, the selection, the clipboard, sorting.
 #include "cli/Command.h"
 #include "cli/ScriptFormat.h"
 
 namespace tw {
 namespace {
 
-// A menu item that does nothing prints that it is off.
+// Runs a menu item; prints "off" if it does nothing.
 template <CommandId kItem>
 void RunItem(Session& session, Arguments& arguments) {
     arguments.End();

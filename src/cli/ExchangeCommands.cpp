@@ -31,7 +31,7 @@ void Import(Session& session, Arguments& arguments) {
     if (!arguments.AtEnd()) names = TakeNames(arguments);
     Shell& program = session.Program();
     std::error_code failure;
-    // A missing file is silent, as it is to every import by a path without quotes.
+    // Every import by an unquoted path ignores a missing file silently, so this one does too.
     if (std::filesystem::exists(file, failure)) program.Files().ImportRecipes(file, folderId, names);
 }
 

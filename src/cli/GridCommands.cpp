@@ -1,4 +1,4 @@
-// Commands on the grids of a recipe, and those that read a field or a cell alike.
+// Commands on the grids of a recipe, and those that read a field or a cell.
 #include <limits>
 
 #include "cli/Command.h"
@@ -19,7 +19,7 @@ struct CellPlace {
     int row, col;
 };
 
-// ROW and COL of a cell that the grid has.
+// Reads ROW and COL. Raises ScriptError if the grid has no such cell.
 CellPlace TakePlace(Grid& grid, Arguments& arguments) {
     const int row = TakeIndex(arguments, "ROW");
     const int col = TakeIndex(arguments, "COL");
@@ -31,7 +31,7 @@ CellPlace TakeCell(Session& session, Arguments& arguments) {
     return TakePlace(TakeGrid(session, arguments), arguments);
 }
 
-// A row of the grid below its header becomes the current one.
+// Makes a row of the grid the current one. Raises ScriptError if it does not exist or is a header.
 void MakeCurrent(Session& session, Grid& grid, int row) {
     if (row < Grid::FixedRows() || row >= grid.Rows())
         throw ScriptError(grid.Name() + " has no row " + std::to_string(row));
@@ -63,7 +63,7 @@ void Check(Session& session, Arguments& arguments) {
     document.Cells().SetChecked(grid, row, col, checked);
 }
 
-// What a control that is no grid shows.
+// Returns the text of a control that is not a grid.
 std::string ControlText(RecipeRecord& record, const std::string& name) {
     if (const TextBox* const box = record.FindTextBox(name)) return box->Text();
     if (const Label* const label = record.FindLabel(name)) return label->Text();
@@ -128,7 +128,7 @@ void Insert(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
     if (!grid.RowsCanChange()) return session.Out().Line("off");
-    // An empty grid has no row to make current, but its first row is the one that is meant.
+    // An empty grid has no row to make current; the number then means its first row.
     const bool firstOfEmpty = grid.DataRows() == 0 && row == grid.EndOfData();
     if (rowGiven && !firstOfEmpty) MakeCurrent(session, grid, row);
     if (!document.Focus().CanInsertRow(grid)) return session.Out().Line("off");

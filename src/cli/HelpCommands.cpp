@@ -21,7 +21,7 @@ void ShowPage(Session& session, Arguments& arguments) {
 void PrintContents(Session& session, Arguments& arguments) {
     arguments.End();
     const HelpContentsModel contents(session.HelpPages(), session.Messages());
-    // What is still to be printed, the next one last; with its depth.
+    // The topics still to be printed, the next one last, with their depth.
     std::vector<std::pair<int, std::size_t>> waiting;
     const auto add = [&](const std::vector<int>& topics, std::size_t depth) {
         std::for_each(topics.rbegin(), topics.rend(), [&](int topic) { waiting.emplace_back(topic, depth); });

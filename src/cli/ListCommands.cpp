@@ -1,4 +1,4 @@
-// Commands on the lists of the windows: what stands in a folder, the catalogues, and the picker.
+// Commands on the lists of the windows: the contents of a folder, the catalogues and the picker.
 #include <string>
 #include <vector>
 
@@ -11,8 +11,8 @@
 namespace tw {
 namespace {
 
-// "COLUMN; COLUMN...": the places of those columns, of all without any. Raises ScriptError for an unknown
-// one.
+// Reads "COLUMN; COLUMN..." and returns the indexes of these columns, or of all columns if titles is blank.
+// Raises ScriptError for an unknown column.
 std::vector<int> TakeColumns(const ListTable& list, std::string_view titles) {
     std::vector<int> columns;
     if (IsBlank(titles)) {

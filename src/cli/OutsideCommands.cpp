@@ -1,4 +1,4 @@
-// What comes from outside while the program runs.
+// Commands for input that other programs send to the running program.
 #include "cli/Command.h"
 
 namespace tw {

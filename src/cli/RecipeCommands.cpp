@@ -1,4 +1,4 @@
-// Commands on open recipes: their life, their fields, their figures.
+// Commands on open recipes: opening, saving, fields and calculated values.
 #include <limits>
 
 #include "cli/Command.h"

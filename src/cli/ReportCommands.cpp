@@ -1,4 +1,4 @@
-// Commands on what leaves the program on paper and in report files.
+// Commands for printing and for report files.
 #include "cli/Command.h"
 #include "reports/PrintedRecipe.h"
 #include "reports/ReportFile.h"
@@ -36,7 +36,7 @@ void Report(Session& session, Arguments& arguments) {
 void Wizard(Session& session, Arguments& arguments) {
     const std::string control = arguments.Word("CONTROL");
     const std::string value = arguments.Text();
-    // Each report names its own type and file, so what stands in these two boxes is never read.
+    // Each report command names its type and file, so these two boxes are never read.
     if (control == "cmbFileType" || control == "txtFileName") return;
     if (value != "yes" && value != "no") throw ScriptError("an option of the wizard takes yes or no");
     ReportUnits& units = session.Units();

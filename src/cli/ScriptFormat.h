@@ -1,4 +1,4 @@
-// How the console prints what is no plain text.
+// Formats values that are not plain text for the console.
 #pragma once
 
 #include <string>
@@ -15,12 +15,12 @@ inline std::string_view YesNo(bool yes) {
 inline std::string_view OnOff(bool on) {
     return on ? "on" : "off";
 }
-// "#RRGGBB" in capital hexadecimal digits.
+// Returns "#RRGGBB" in upper-case hexadecimal digits.
 std::string ColorText(Rgb color);
-// The text that a cell holds, not its column's pattern; "yes" or "no" for a check box. Not escaped.
+// Returns the text of a cell, without the format of its column; "yes" or "no" for a check box. Not escaped.
 std::string CellText(const Grid& grid, int row, int col);
-// The stored number behind a cell, a hop amount as its stored text. Of a computed cell, whose text is the
-// figure, the number that the text begins with, "0" for none. Of a check box "1" or "0".
+// Returns the stored number of a cell; for a hop amount its stored text; for a computed cell, whose text is
+// the number, the number at the start of its text, or "0" if there is none; for a check box "1" or "0".
 std::string CellNumber(const Grid& grid, int row, int col);
 
 }  // namespace tw

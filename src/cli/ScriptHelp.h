@@ -1,4 +1,4 @@
-// The help as a script sees it: no browser opens and no file is written; the page wanted is printed.
+// The help for scripts: prints the page to show instead of opening a browser or writing a file.
 #pragma once
 
 #include <string>
@@ -8,11 +8,12 @@
 
 namespace tw {
 
-// The pages are looked up and framed as in the windows, in a template that holds nothing but the page's name.
+// Pages are looked up and put into the frame as in the desktop program, with a template that consists
+// only of the page's name.
 class ScriptHelp final : public BrowserPort, public TextFilePort {
   public:
     explicit ScriptHelp(ScriptOutput& out) : out_(out) {}
-    // Prints the page that was framed last, "home.html" for the site's own index.
+    // Prints the page last written, or "home.html" for the index of the site.
     int Open(const std::string& file) override;
     std::string Read(const std::string& file) override;
     void Write(const std::string& file, std::string_view text) override;

@@ -12,7 +12,7 @@ std::string BoxLine(std::string_view title, std::string_view text) {
     return "[" + EscapeText(title) + "] " + EscapeText(text);
 }
 
-// What a word answers; nothing for a word that is no button of the box.
+// Returns the answer for a word; none if the box has no such button.
 std::optional<Answer> AnswerOf(std::string_view word, Question kind) {
     if (word == "Close") return ClosingAnswer(kind);
     if (word == "Cancel" && ClosingAnswer(kind) == Answer::Cancel) return Answer::Cancel;

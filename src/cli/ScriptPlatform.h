@@ -1,5 +1,5 @@
-// The ports of the core as a script answers them: boxes and dialogs print a line and take their answers from
-// a queue, the clipboard and, if asked for, the settings live in memory.
+// The ports of the core for scripts: message boxes and dialogs print a line and read their answers from a
+// queue; the clipboard, and the settings if requested, are in memory.
 #pragma once
 
 #include <deque>
@@ -15,13 +15,13 @@
 
 namespace tw {
 
-// Where the lines of the console go.
+// The output of the console.
 class ScriptOutput {
   public:
     explicit ScriptOutput(std::ostream& stream) : stream_(stream) {}
-    // Writes line as it stands and ends it.
+    // Writes line unchanged, and a line feed.
     void Line(std::string_view line);
-    // Writes a text of the program, escaped.
+    // Writes a text of the program, escaped with EscapeText, and a line feed.
     void Text(std::string_view text);
     void Flush();
 
@@ -29,19 +29,19 @@ class ScriptOutput {
     std::ostream& stream_;
 };
 
-// The answers that the script has given in advance, first in, first out.
+// The answers that the script has given in advance; first in, first out.
 class AnswerQueue {
   public:
     void Add(std::string answer) { answers_.push_back(std::move(answer)); }
-    // The next answer. Raises ScriptError that names who asks when there is none.
+    // Removes and returns the next answer. If there is none, raises ScriptError, which names who.
     std::string Take(std::string_view who);
 
   private:
     std::deque<std::string> answers_;
 };
 
-// A box prints "[TITLE] TEXT", a question "[TITLE] TEXT -> ANSWER", the beep "beep". The answer is the word
-// of a button of the box, or "Close" for its close box; any other raises ScriptError.
+// Prints a message box as "[TITLE] TEXT", a question as "[TITLE] TEXT -> ANSWER" and a beep as "beep". An
+// answer is the caption of a button of the box, or "Close" for its close box; any other raises ScriptError.
 class ScriptMessages : public MessagePort {
   public:
     ScriptMessages(ScriptOutput& out, AnswerQueue& answers) : out_(out), answers_(answers) {}
@@ -54,16 +54,16 @@ class ScriptMessages : public MessagePort {
     AnswerQueue& answers_;
 };
 
-// Drives a dialog by the names of its controls until it is closed: each answer "control=value; ...; BUTTON"
-// is entered and pressed in its order. The button "Close" is the window's close box. An unknown control or
-// button raises ScriptError.
+// Drives a dialog by the names of its controls until it closes. For each answer "control=value; ...; BUTTON",
+// enters the values in order and presses the button. The button "Close" is the window's close box. Raises
+// ScriptError for an unknown control or button.
 class ScriptDialogs : public DialogPort {
   public:
     ScriptDialogs(ScriptOutput& out, AnswerQueue& answers) : out_(out), answers_(answers) {}
-    // While on, a dialog prints "{FORM} control=text; ..." before each answer.
+    // If show, a dialog prints "{FORM} control=text; ..." before each answer.
     void SetShow(bool show) { show_ = show; }
-    // The next dialog is worked by that instead of answers, once, and closed if it is still open afterwards;
-    // an empty one takes that back.
+    // Calls work for the next dialog, once, instead of reading answers; closes the dialog if it is still open
+    // afterwards. An empty function cancels this.
     void AnswerNextWith(std::function<void(DialogModel&)> work) { workNext_ = std::move(work); }
     void ShowModal(DialogModel& dialog) override;
 
@@ -87,7 +87,7 @@ class MemoryClipboard : public ClipboardPort {
     std::string text_;
 };
 
-// Settings that start empty and go with the program. There is a user's layer alone.
+// Settings that start empty and are lost when the program ends. Only the user's layer exists.
 class MemorySettings : public SettingsPort {
   public:
     std::optional<std::string> Read(Layer layer, std::string_view section, std::string_view key) override;

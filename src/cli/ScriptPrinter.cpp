@@ -9,7 +9,7 @@
 namespace tw {
 namespace {
 
-// At most four decimals.
+// Returns value with at most four decimals.
 std::string Inches(double value) {
     constexpr double kScale = 1e4;
     return NumberText(std::round(value * kScale) / kScale);

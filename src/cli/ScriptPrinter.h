@@ -1,4 +1,4 @@
-// The printer of a script: what goes to it is printed as drawing steps, on letter paper.
+// The printer for scripts: prints its pages as drawing steps, on letter paper.
 #pragma once
 
 #include <string>
@@ -12,13 +12,13 @@ class ScriptPrinter final : public PrinterPort {
   public:
     explicit ScriptPrinter(ScriptOutput& out) : out_(out) {}
 
-    // Takes this printer without a word.
+    // Chooses this printer without showing a dialog.
     PrinterAnswer ShowPrinterDialog(bool configured, bool quick) override;
-    // A PDF file is printed like everything else.
+    // A PDF file is printed as drawing steps too.
     std::unique_ptr<PrinterDevice> MakePdf(const TargetFile& target, Paper paper) override;
     const TextMeasure& Measure() const override { return measure_; }
     Paper UsualPaper() const override { return Paper::Letter; }
-    // Prints its steps, a line each, when its document ends.
+    // Returns a device that prints its steps, one a line, when its document ends.
     std::unique_ptr<PrinterDevice> MakeDevice();
 
   private:

@@ -23,7 +23,7 @@ char Unescaped(char letter) {
     }
 }
 
-// Cuts the quoted text at the front of rest off. REQUIRES: rest begins with a double quote.
+// Removes the quoted text from the front of rest and returns it. REQUIRES: rest begins with a double quote.
 std::string CutQuoted(std::string_view& rest) {
     std::string text;
     for (std::size_t at = 1; at < rest.size(); ++at) {
@@ -45,7 +45,7 @@ std::string_view WithoutFrontBlanks(std::string_view text) {
     return text.substr(std::min(text.find_first_not_of(' '), text.size()));
 }
 
-// Reads one value of a dialog's answer and cuts it and the ";" behind it off.
+// Removes one value of a dialog's answer and the ";" after it from rest, and returns the value.
 std::string CutValue(std::string_view& rest) {
     rest = WithoutFrontBlanks(rest);
     if (!rest.starts_with('"')) {
@@ -150,7 +150,7 @@ int Arguments::Integer(std::string_view what, int least, int most) {
     try {
         if (word.find('.') == std::string::npos) number = ReadNumber(word);
     } catch (const Error&) {
-        // Beyond all bounds.
+        // Out of the range of the number type, so out of every range.
     }
     if (!number || *number < least || *number > most)
         throw ScriptError(std::string(what) + " must be a whole number from " + std::to_string(least) +

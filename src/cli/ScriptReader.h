@@ -1,5 +1,5 @@
-// The text of a script: its lines, the words and texts on them, and the one-line form in which texts are
-// printed. The reading is strict: what is malformed raises, so that no line is carried out by half.
+// Reads the lines of scripts: their words and texts, and the one-line form in which texts are printed.
+// Reading is strict: malformed input raises ScriptError, so that no line is executed only in part.
 #pragma once
 
 #include <string>
@@ -9,8 +9,8 @@
 
 namespace tw {
 
-// A line that cannot be carried out as a command. The script ends there. No std::exception: what traps those
-// inside the program shows them in a box and goes on.
+// A line that cannot be executed; the script stops at it. Not a std::exception, because the program catches
+// those, shows them in a message box and continues.
 class ScriptError {
   public:
     explicit ScriptError(std::string reason) : reason_(std::move(reason)) {}
@@ -20,35 +20,36 @@ class ScriptError {
     std::string reason_;
 };
 
-// text on one line: backslash, line feed, carriage return and tab as \\ \n \r \t.
+// Returns text on one line: backslash, line feed, carriage return and tab become \\ \n \r \t.
 std::string EscapeText(std::string_view text);
 
-// The words of one line from left to right. Words are separated by blanks; a word or text that begins with a
-// double quote ends at the next one and has the escapes \" \\ \n \r \t. What stands behind a closing quote
-// must be a blank or the line's end. Every function that takes a word raises ScriptError when none is left,
-// naming what is missing, and when a quoted one is malformed.
+// Reads the words of one line from left to right. Words are separated by blanks. A word or text that begins
+// with a double quote ends at the next double quote and may contain the escapes \" \\ \n \r \t. After the
+// closing quote, only a blank or the end of the line may follow. Every function that reads a word raises
+// ScriptError if no word is left, naming the missing one (`what`), or if a quoted word is malformed.
 class Arguments {
   public:
-    // Holds the view: line must live as long.
+    // line must outlive the object.
     explicit Arguments(std::string_view line);
 
     bool AtEnd() const { return rest_.empty(); }
-    // The next word, quoted or bare.
+    // Returns the next word, quoted or bare.
     std::string Word(std::string_view what);
-    // Takes the next word off the line if it is that one, unquoted.
+    // If the next word is word, unquoted, removes it and returns true.
     bool TakeWord(std::string_view word);
-    // The rest of the line as a name, which may hold blanks, or the text that it quotes. Raises ScriptError
-    // for none.
+    // Returns the rest of the line as a name, which may contain blanks or be quoted. Raises
+    // ScriptError if it is empty.
     std::string LastName(std::string_view what);
-    // The rest of the line as it stands, or the text that it quotes; empty when nothing is left.
+    // Returns the rest of the line, or the text that it quotes; empty if nothing is left.
     std::string Text();
-    // A word that is a number: an optional "-", digits, at most one ".". Raises also for one beyond a double.
+    // Reads a number: an optional "-", digits, at most one ".". Raises ScriptError for any other word and for
+    // a number out of the range of a double.
     double Number(std::string_view what);
-    // A word that is a whole number from least to most, both allowed.
+    // Reads a whole number from least to most, both included. Raises ScriptError for any other word.
     int Integer(std::string_view what, int least, int most);
-    // "yes" gives true, "no" false; "on" and "off" with those words given.
+    // Returns true for the word yes and false for the word no, as given ("yes" and "no", or "on" and "off").
     bool Choice(std::string_view what, std::string_view yes, std::string_view no);
-    // Raises when anything is left on the line.
+    // Raises ScriptError if anything is left on the line.
     void End() const;
 
   private:
@@ -58,13 +59,13 @@ class Arguments {
     std::string_view rest_;
 };
 
-// The answer to a modal dialog, "control=value; ...; BUTTON". A value that begins with a double quote is read
-// as a quoted text and may then hold a ";".
+// The answer to a modal dialog, "control=value; ...; BUTTON". A value that begins with a double quote is a
+// quoted text and may contain ";".
 struct DialogAnswer {
-    std::vector<std::pair<std::string, std::string>> entries;  // control and value, in their order
+    std::vector<std::pair<std::string, std::string>> entries;  // control and value, in order
     std::string button;
 };
-// Raises ScriptError when there is no button, or something behind it, or a malformed quoted value.
+// Raises ScriptError if there is no button, if something follows it, or if a quoted value is malformed.
 DialogAnswer ReadDialogAnswer(std::string_view text);
 
 }  // namespace tw

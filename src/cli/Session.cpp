@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view kInMemory = ":memory:";
 
-// A new folder for temporary files. Raises Error.
+// Creates a folder for temporary files. Raises Error if that fails.
 std::filesystem::path MakeTemporaryFolder() {
     std::string name = (std::filesystem::temp_directory_path() / "tunwright-cli-XXXXXX").string();
     if (mkdtemp(name.data()) == nullptr) throw Error("Session", "No temporary folder can be made.", 0);
@@ -84,7 +84,8 @@ void Session::Stop() {
     End();
 }
 
-// The next run opens the same database, so one in memory moves into a file before its connection goes.
+// The next run opens the same database, so a database in memory is copied to a file before
+// its connection closes.
 void Session::KeepMemoryDatabase() {
     keptFolder_ = MakeTemporaryFolder();
     const std::string file = (keptFolder_ / "Tunwright.mdb").string();

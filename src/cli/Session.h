@@ -1,5 +1,5 @@
-// One program run as the commands of a script see it: the shell behind the script's ports, started at the
-// first command that needs it.
+// One run of the program as commands use it: a shell with the ports for scripts, started by the first
+// command that needs it.
 #pragma once
 
 #include <filesystem>
@@ -20,46 +20,49 @@
 
 namespace tw {
 
-// The database could not be opened; its box has been printed.
+// The database could not be opened; the message has been printed.
 class StartFailure {};
 
 class Session : private ShellView {
   public:
-    // databasePath is a file, or ":memory:". settings and out must outlive the session.
+    // databasePath is a file, or ":memory:" for a new database in memory. settings and out
+    // must outlive the session.
     Session(std::string databasePath, SettingsPort& settings, ScriptOutput& out);
-    // Drops what runs without another word; End comes first in an orderly end.
+    // Abandons a program that is still running. For an orderly end, call End first.
     ~Session() override;
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
 
-    // Where the product's own files lie (ShellEnvironment::programFolder), the help among them. Call it
-    // before the first start and the first look at the help.
+    // Sets the folder with the product's own files, such as the help (ShellEnvironment::programFolder).
+    // REQUIRES: neither the program nor the help has been used.
     void SetProgramFolder(std::string folder) { programFolder_ = std::move(folder); }
 
-    // The running program; starts it when it does not run. Raises StartFailure.
+    // Returns the program, starting it if it is not running. Raises StartFailure.
     Shell& Program();
     bool Running() const { return shell_ != nullptr; }
-    // The active document and its record. Start the program; raise ScriptError when no document is open.
+    // Return the active document and its record, starting the program if it is not running. Raise ScriptError
+    // if no document is open.
     RecipeDocument& Document();
     RecipeRecord& Record() { return Document().Record(); }
 
     ScriptOutput& Out() { return out_; }
     MessagePort& Messages() { return messages_; }
-    // Works without the program running.
+    // Can be called without a running program.
     Help& HelpPages();
     ClipboardPort& Clipboard() { return clipboard_; }
     AnswerQueue& Answers() { return answers_; }
     ScriptDialogs& Dialogs() { return dialogs_; }
     SettingsStore& Store() { return store_; }
-    // The options of the report wizard, kept from one report to the next.
+    // The units chosen in the report wizard, kept from one report to the next.
     ReportUnits& Units() { return units_; }
     ScriptPrinter& Printer() { return printer_; }
 
-    // Ends the program as its Exit command does and starts it again. False when a question called it off.
+    // Ends the program as its command Exit does, and starts it again. Returns false if the brewer's answer to
+    // a question cancelled the exit.
     bool Restart();
-    // After each command: completes the program's end when the command has granted it.
+    // Ends the program if the last command has requested that. Called after each command.
     void FinishExit();
-    // The end of the last script: writes the settings and closes the database, asks nothing.
+    // Writes the settings and closes the database, without asking questions. Called after the last script.
     void End();
 
   private:
@@ -69,7 +72,7 @@ class Session : private ShellView {
 
     std::string databasePath_;
     std::string programFolder_;
-    std::filesystem::path keptFolder_;  // holds an in-memory database between two runs of the program
+    std::filesystem::path keptFolder_;  // contains an in-memory database between two runs of the program
     ScriptOutput& out_;
     AnswerQueue answers_;
     ScriptMessages messages_;

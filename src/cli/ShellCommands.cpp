@@ -1,4 +1,4 @@
-// Commands on the program around the recipes: answers, menus, settings, the database, the program's end.
+// Commands on the program itself: answers, menus, settings, the database, ending the program.
 #include "cli/Command.h"
 #include "cli/ScriptFormat.h"
 #include "store/SqlDialect.h"
@@ -76,7 +76,7 @@ void PrintRows(Session& session, Recordset rows) {
 void Sql(Session& session, Arguments& arguments) {
     const std::string text = arguments.Text();
     RunSql(session, *session.Program().DB(), text);
-    // The statement may have changed the styles that the open recipes list.
+    // The statement may have changed the styles offered in the open recipes.
     if (TranslateSql(text).kind != StatementKind::Select) session.Program().Documents().CatalogueChanged();
 }
 

@@ -19,7 +19,8 @@ TWNode& NodeAt(Session& session, const std::string& key) {
 void PrintTree(Session& session, Arguments& arguments) {
     const std::string key = arguments.AtEnd() ? std::string(kDatabaseKey) : arguments.Word("KEY");
     arguments.End();
-    // What is still to be printed, the next one last: folders lie as deep in each other as the data says.
+    // The nodes still to be printed, the next one last. Not recursive, since folders can be nested as
+    // deeply as the data says.
     std::vector<std::pair<TWNode*, std::size_t>> open;
     const auto openChildren = [&](TWNode& node, std::size_t level) {
         if (!node.HasChildren()) return;

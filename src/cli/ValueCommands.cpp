@@ -1,4 +1,4 @@
-// Commands that work on values alone, without a recipe or a database.
+// Commands on values, without a recipe or a database.
 #include <cstdio>
 #include <limits>
 

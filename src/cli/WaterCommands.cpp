@@ -13,12 +13,13 @@
 namespace tw {
 namespace {
 
-// What one line may ask for, so that the answer does not take minutes.
+// The limits of one command, so that it does not run for minutes.
 constexpr int kMostVariables = 200;
 constexpr int kMostRows = 200;
 constexpr int kMostIterations = 100'000;
 
-// The part before the mark, trimmed, cut off text together with the mark; all of text when there is none.
+// Removes the part of text before mark, and the mark, and returns the part trimmed; all of
+// text if there is no mark.
 std::string_view CutAt(std::string_view& text, char mark) {
     const std::size_t end = std::min(text.find(mark), text.size());
     const std::string_view part = Trim(text.substr(0, end));

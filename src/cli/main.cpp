@@ -1,4 +1,4 @@
-// The script console: runs scripts of commands through the same logic as the windows.
+// The script console: runs commands through the same logic as the desktop program.
 #include <QCoreApplication>
 #include <fstream>
 #include <iostream>
@@ -14,7 +14,8 @@ namespace {
 
 constexpr int kBadLine = static_cast<int>(tw::ExitStatus::BadLine);
 
-// Raises the error of a file that cannot hold the settings.
+// Opens the settings: in memory for ":memory:", the user's own if file is empty, otherwise those in file.
+// Raises Error if the file cannot contain settings.
 std::unique_ptr<tw::SettingsPort> OpenSettings(const std::string& file, const std::string& database) {
     if (file == ":memory:") return std::make_unique<tw::MemorySettings>();
     if (file.empty()) return tw::QtSettings::OfUser();
@@ -25,7 +26,7 @@ std::unique_ptr<tw::SettingsPort> OpenSettings(const std::string& file, const st
 tw::ExitStatus RunScript(tw::Console& console, const std::string& name) {
     if (name == "-") return console.Run(std::cin, "stdin");
     std::ifstream script(name, std::ios::binary);
-    // The first byte tells a folder, which opens but cannot be read, from a file.
+    // A folder can be opened but not read; reading the first byte detects it.
     script.peek();
     if (!script.is_open() || script.bad()) {
         std::cerr << name << ": the script cannot be read\n";
