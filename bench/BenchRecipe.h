@@ -1,5 +1,5 @@
-// A recipe of 30 lines (14 grains, 4 extracts, 10 hops, 2 sugars) in its document without a window, for the
-// benchmarks: every figure computed, the same on every run and every machine.
+// A recipe of 30 lines (14 grains, 4 extracts, 10 hops, 2 sugars) in its document, without a window, for the
+// benchmarks. All its figures are calculated, and it is the same in every run and on every machine.
 #pragma once
 
 #include <array>
@@ -22,7 +22,7 @@ inline constexpr int kExtracts = 4;
 inline constexpr int kHops = 10;
 inline constexpr int kSugars = 2;
 
-// A small generator of its own, so that every run and every machine sees the same recipe.
+// A small random generator with the same sequence in every run and on every machine.
 class Dice {
   public:
     double Next() {
@@ -34,7 +34,7 @@ class Dice {
     std::uint64_t state_ = 7;
 };
 
-// A number of two decimals, as a brewer types it.
+// Returns a number with two decimals, as a brewer types it.
 inline std::string Typed(double value) {
     std::array<char, 32> buffer;
     const auto result =
@@ -42,7 +42,7 @@ inline std::string Typed(double value) {
     return {buffer.data(), result.ptr};
 }
 
-// A platform around the document that does nothing but keep its clipboard, and a program.
+// A platform that does nothing but keep the clipboard.
 class Nothing : public MessagePort,
                 public DialogPort,
                 public SettingsPort,
@@ -122,7 +122,7 @@ class Recipe {
     }
 
     RecipeDocument& Document() { return document_; }
-    // Pastes into a block of cells.
+    // Pastes text into a block of cells.
     void Paste(Grid& grid, const GridRange& range, std::string_view text) {
         nothing_.SetText(text);
         document_.Focus().FocusOn(grid);

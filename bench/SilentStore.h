@@ -1,4 +1,4 @@
-// What DB_IO needs around it, where nobody looks.
+// Ports and listeners for DB_IO that ignore everything.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// How the benchmarks that compare two ways in one run take their times.
+// Timing for the benchmarks that compare two implementations in one run.
 #pragma once
 
 #include <algorithm>
@@ -7,7 +7,7 @@
 
 namespace tw {
 
-// What action takes, in seconds.
+// Returns the time that action takes, in seconds.
 template <typename Action>
 double Seconds(Action action) {
     const auto start = std::chrono::steady_clock::now();
@@ -15,7 +15,8 @@ double Seconds(Action action) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
-// The upper one of the two in the middle, for an even count. REQUIRES: times holds one.
+// Returns the median; of an even number of times, the upper one of the two in the middle.
+// REQUIRES: times is not empty.
 inline double Median(std::vector<double> times) {
     std::sort(times.begin(), times.end());
     return times[times.size() / 2];

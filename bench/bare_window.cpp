@@ -1,5 +1,5 @@
-// The floor under every start of a program with windows: a bare main window with menus, a tool bar, an area
-// for several documents and a status bar, and nothing behind them.
+// The minimum for starting any program with windows: a bare main window with menus, a tool bar, an area for
+// several documents and a status bar, without any function.
 #include <QApplication>
 #include <QMainWindow>
 #include <QMdiArea>

@@ -1,6 +1,6 @@
-// Recalculation of a recipe of 30 lines (14 grains, 4 extracts, 10 hops, 2 sugars) through its document,
-// without a window, beside the least that the arithmetic and the texts can cost. The counter "x_limit" is the
-// ratio to that floor, both measured in turn in the same run.
+// Recalculates a recipe of 30 lines (14 grains, 4 extracts, 10 hops, 2 sugars) through its document, without
+// a window, and compares the time with the least that the arithmetic and the texts can cost. The counter
+// "x_limit" is the ratio of the two, which are measured alternately in the same run.
 #include <algorithm>
 #include <array>
 #include <benchmark/benchmark.h>
@@ -25,12 +25,13 @@ using tw::bench::kSugars;
 using tw::bench::Recipe;
 using tw::bench::Typed;
 
-// The floor. One recalculation writes and reads at least this much:
-//   written, shortest text: points and colour units of 18 rows, 10 IBUs, 2 priming volumes, 6 totals (54
-//   numbers); read from text again: the 36 + 13 cells that are summed and the 6 totals (55 numbers); written
-//   by pattern: both gravities, alcohol, two of colour, bitterness, carbonation (7 numbers); one exp and one
-//   pow for each hop row, one pow for the colour.
-// Buffers lie on the stack; there are no cells, no commands and no entry to read.
+// The least work. One recalculation does at least this:
+//   written, shortest text (54 numbers): points and colour units of 18 rows, 10 IBUs, 2 priming volumes,
+//     6 totals;
+//   read from text again (55 numbers): the 36 + 13 cells that are summed, the 6 totals;
+//   written by pattern (7 numbers): both gravities, alcohol, two for the colour, bitterness, carbonation;
+//   calculated: one exp and one pow for each row of hops, one pow for the colour.
+// Buffers are on the stack; there are no cells, no commands and no entries to read.
 class Floor {
   public:
     Floor() {
@@ -95,8 +96,8 @@ class Floor {
     std::size_t base_ = 0;
 };
 
-// Runs edit(n) for n = 0, 1, ... and the floor in turn, in rounds of a few; the median of the rounds' ratios
-// counts.
+// Runs edit(n) for n = 0, 1, ... and the least work alternately, in rounds of kRound calls. Reports the
+// median of the ratios of all rounds.
 void Compare(benchmark::State& state, const std::function<void(int)>& edit) {
     using Clock = std::chrono::steady_clock;
     constexpr int kRound = 20;

@@ -1,7 +1,7 @@
-// Deleting a folder of 10,000 recipes with the tree's entries, beside the same statements run by SQLite alone
-// in one transaction in the same run, with the same locks, journal and syncs. The argument is the number of
-// recipes elsewhere. The counter "x_limit" is the ratio of the medians. The files are made in the present
-// folder: run it on the disk that is to be measured.
+// Deletes a folder of 10,000 recipes, including the entries of the tree, and compares the time with the same
+// statements run by SQLite alone in one transaction in the same run, with the same locks, journal and syncs.
+// The argument is the number of recipes in other folders. The counter "x_limit" is the ratio of the medians.
+// The files are created in the current folder: run it on the disk to be measured.
 #include <benchmark/benchmark.h>
 #include <filesystem>
 #include <memory>
@@ -38,7 +38,7 @@ void CopyMade(const std::string& file) {
     std::filesystem::copy_file(kMadeFile, file);
 }
 
-// Recipes of four lines each. Those of the folder stand between the others, by their names.
+// Creates recipes of four lines each. The names of the recipes in the folder are spread among the others.
 void MakeFile(int elsewhere) {
     Remove(kMadeFile);
     const auto database = Database::CreateDatabase(kMadeFile, "");
@@ -62,7 +62,7 @@ void MakeFile(int elsewhere) {
     unit.Commit();
 }
 
-// The store's database, its tree, and what deletes in both.
+// The store's database, its tree, and the object that deletes from both.
 struct Bed {
     explicit Bed(const std::string& file) : database(OpenMainDatabase(file)) { tree.InitFromDatabase(); }
     std::unique_ptr<Database> database;
@@ -74,7 +74,7 @@ struct Bed {
     DB_IO objects{*database, treeObjects, messages, clock, listener};
 };
 
-// The statements of the deletion as SQLite takes them.
+// Returns the statements of the deletion in the SQL of SQLite.
 std::vector<std::string> Statements() {
     CopyMade(kStoreFile);
     Bed bed(kStoreFile);
@@ -103,7 +103,7 @@ void RunRaw(sqlite3* handle, const std::vector<std::string>& statements) {
     RunNative(handle, "COMMIT");
 }
 
-// The two ways in turn, so that a slow spell of the disk meets both.
+// Runs both alternately, so that a slow period of the disk affects both.
 void BM_DeleteFolder(benchmark::State& state) {
     MakeFile(static_cast<int>(state.range(0)));
     const std::vector<std::string> statements = Statements();

@@ -1,4 +1,4 @@
-// Laying a recipe out, and report files, beside the reads that they need.
+// Measures laying out a recipe, and writing report files compared with the reads that they need.
 #include <benchmark/benchmark.h>
 #include <string>
 #include <vector>
@@ -10,7 +10,7 @@
 namespace tw {
 namespace {
 
-// 60 lines: grains, hops, adjuncts and log, and notes of some lines.
+// Fills a recipe with 60 lines of grains, hops, adjuncts and log, and with several lines of notes.
 void Fill(RecipeRecord& recipe) {
     constexpr int kRowsOfEach = 15;
     recipe.txtName.SetText("Sixty Lines");
@@ -54,7 +54,7 @@ struct Recipes {
     std::vector<std::string> names;
 };
 
-// The limit: the same rows by the same statements, every column read.
+// The limit: the same rows, read by the same statements, with every column.
 void ReadThousandRows(benchmark::State& state) {
     const Recipes recipes;
     for (auto _ : state) {

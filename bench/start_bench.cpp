@@ -1,6 +1,6 @@
-// How long programs with windows take to start until they are quiet, and what memory they hold then, as
-// ratios to the first one. Needs a display; programs are started in turn, so that a busy spell meets all of
-// them.
+// Measures how long programs with windows take until they are idle after the start, and how much memory they
+// then use, as ratios to the first program. Needs a display. The programs are started alternately, so that a
+// busy period of the machine affects all of them.
 //
 //     bench_start ROUNDS PROGRAM [ARGUMENT...] [-- PROGRAM [ARGUMENT...]]...
 #include <algorithm>
@@ -23,8 +23,8 @@ using Clock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
 constexpr Milliseconds kSlice{20};
-constexpr Milliseconds kQuiet{400};  // so long without work means started
-constexpr double kBusyShare = 0.05;  // of a slice
+constexpr Milliseconds kQuiet{400};  // a program that is idle for this long has started
+constexpr double kBusyShare = 0.05;  // the share of a slice above which a program is busy
 constexpr double kNanoPerMilli = 1e6;
 
 struct Program {
@@ -66,7 +66,7 @@ pid_t Start(const Program& program) {
     _exit(127);
 }
 
-// Starts the program, waits until it has been idle for a while, notes the figures and ends it.
+// Starts the program, waits until it has been idle for kQuiet, records its figures and ends it.
 void Measure(Program& program) {
     const auto begin = Clock::now();
     const pid_t pid = Start(program);

@@ -1,7 +1,7 @@
-// Saving and opening a recipe of 40 lines among a thousand, and importing and exporting a thousand of them,
-// beside the same statements run by SQLite alone in
-// the same run, with the same locks, journal and syncs. The counter "x_limit" is the ratio of the medians.
-// The files are made in the present folder: run it on the disk that is to be measured.
+// Measures saving and opening a recipe of 40 lines among a thousand recipes, and importing and exporting a
+// thousand recipes. Compares the times with the same statements run by SQLite alone in the same run, with the
+// same locks, journal and syncs. The counter "x_limit" is the ratio of the medians. The files are created in
+// the current folder: run it on the disk to be measured.
 #include <benchmark/benchmark.h>
 #include <filesystem>
 #include <memory>
@@ -33,7 +33,7 @@ std::string NameOf(int number) {
     return "Copper Lantern Bitter " + std::to_string(number);
 }
 
-// 14 grains, 4 extracts, 10 hops, 4 salts, 2 sugars, 3 adjuncts and 3 lines of log.
+// Returns a recipe of 14 grains, 4 extracts, 10 hops, 4 salts, 2 sugars, 3 adjuncts and 3 lines of log.
 StoredRecipe MakeRecipe(const std::string& name) {
     StoredRecipe r;
     r.name = name;
@@ -89,7 +89,7 @@ void Save(Database& database, const StoredRecipe& recipe) {
     unit.Commit();
 }
 
-// The statement as SQLite takes it, with its numbers in the text.
+// Returns the statement in the SQL of SQLite, with its numbers written into the text.
 std::string Native(std::string_view sql) {
     DialectStatement statement = TranslateSql(sql);
     for (const double number : statement.numbers)
@@ -97,8 +97,8 @@ std::string Native(std::string_view sql) {
     return statement.sql;
 }
 
-// The database of the store, the same file for SQLite alone, and a third one in memory that goes along and
-// tells the statements.
+// The store's database, the same file for SQLite alone, and a third database in memory that executes the same
+// operations and records their statements.
 class Bed {
   public:
     Bed() {
@@ -137,7 +137,7 @@ class Bed {
     std::vector<std::string> statements_;
 };
 
-// Prepares, runs and reads each statement with every column.
+// Prepares and runs each statement and reads every column.
 void RunRaw(sqlite3* handle, const std::vector<std::string>& statements) {
     for (const std::string& sql : statements) {
         sqlite3_stmt* statement = nullptr;
@@ -155,7 +155,7 @@ void RunRaw(sqlite3* handle, const std::vector<std::string>& statements) {
     }
 }
 
-// The two ways in turn, so that a slow spell of the disk meets both.
+// Runs both alternately, so that a slow period of the disk affects both.
 template <typename Store, typename Raw>
 void Compare(benchmark::State& state, Store store, Raw raw) {
     std::vector<double> storeTimes;
@@ -211,7 +211,7 @@ class NoQuestions : public CopyHost {
     bool ContinueAfter(const std::string&) override { return false; }
 };
 
-// Copies all recipes between the two.
+// Copies all recipes from one database to the other.
 void CopyAll(Database& main, Database& file, bool isImport) {
     NoQuestions host;
     std::vector<std::string> names;
@@ -221,7 +221,8 @@ void CopyAll(Database& main, Database& file, bool isImport) {
     isImport ? copier.ImportRecipes(names, 0, unknown) : copier.ExportRecipes(names);
 }
 
-// A database with the one style that the recipes have; for a recipe file its tables alone.
+// Creates a database that contains only the style of the recipes, or for a recipe file
+// (isExchange) only its tables.
 void MakeEmpty(const std::string& file, bool isExchange) {
     for (const std::string end : {"", "-journal"}) std::filesystem::remove(file + end);
     const auto made = Database::CreateDatabase(file, "");
@@ -230,13 +231,13 @@ void MakeEmpty(const std::string& file, bool isExchange) {
     made->Execute("INSERT INTO STYLES (ID, NAME) VALUES (7, 'Best Bitter')");
 }
 
-// One statement of a copy, on the database that it reads or on the one that it writes.
+// One statement of a copy, run on the database that is read or on the one that is written.
 struct CopyStatement {
     bool onSource = false;
     std::string sql;
 };
 
-// Both ways start on an empty file and read the same source, each in one transaction.
+// Both start with an empty file and read the same source, each in one transaction.
 void CompareCopy(benchmark::State& state, bool isImport) {
     RemoveFiles();
     MakeEmpty(kSourceFile, isImport);

@@ -1,8 +1,8 @@
-// The tree of 1,000, 10,000 and 100,000 recipes in 100 styles and 220 folders: building it, beside the reads
-// that it stands for run by SQLite alone in the same run, their rows thrown away; what it takes in memory;
-// and renaming or moving one recipe, beside building it. The counter "x_limit" is the ratio of the medians,
-// "x_init" the part of a whole InitFromDatabase, "x_init_first" that of the first change after it. The file
-// is made in the present folder.
+// Measures the tree of 1,000, 10,000 and 100,000 recipes in 100 styles and 220 folders: building it, compared
+// with the reads that it replaces, which SQLite alone runs in the same run without keeping their rows; its
+// memory; and renaming or moving one recipe, compared with building the tree. The counter "x_limit" is the
+// ratio of the medians, "x_init" the share of a whole InitFromDatabase, "x_init_first" that share for the
+// first change after it. The file is created in the current folder.
 #include <benchmark/benchmark.h>
 #include <cstdint>
 #include <filesystem>
@@ -29,7 +29,7 @@ constexpr int kTopFolders = 20;
 constexpr int kStyleFolders = 20;
 const std::string kFile = "tree_bench.mdb";
 
-// Names in no order, as a brewer gives them, and all different.
+// Generates different names in no order, as brewers give them.
 class Names {
   public:
     std::string Next() {
@@ -57,7 +57,7 @@ void Remove(const std::string& file) {
     for (const char* const end : {"", "-journal"}) std::filesystem::remove(file + end);
 }
 
-// Style folders have the ids behind those of the recipe folders.
+// Creates the file. The ids of style folders follow those of recipe folders.
 void MakeFile(int recipes) {
     Remove(kFile);
     const auto database = Database::CreateDatabase(kFile, "");
@@ -81,7 +81,7 @@ void MakeFile(int recipes) {
     unit.Commit();
 }
 
-// The reads of a tree that asks for each folder and style by itself, in SQLite's own interface.
+// The reads of a tree that queries each folder and style separately, made directly with SQLite.
 class DesignedReads {
   public:
     explicit DesignedReads(sqlite3* handle) : handle_(handle) {}
@@ -134,7 +134,7 @@ class DesignedReads {
     sqlite3* handle_;
 };
 
-// The two ways in turn, on the same file.
+// Runs both alternately, on the same file.
 void BM_InitFromDatabase(benchmark::State& state) {
     MakeFile(static_cast<int>(state.range(0)));
     std::vector<double> treeTimes;
@@ -144,7 +144,7 @@ void BM_InitFromDatabase(benchmark::State& state) {
             const auto database = OpenMainDatabase(kFile);
             TWTree tree(database.get());
             tree.InitFromDatabase();
-            // The tree that was there before is thrown away within the time.
+            // The time includes destroying the previous tree.
             treeTimes.push_back(Seconds([&] { tree.InitFromDatabase(); }));
             benchmark::DoNotOptimize(tree.Count());
         }
@@ -175,7 +175,7 @@ void BM_TreeMemory(benchmark::State& state) {
     const auto recipes = static_cast<int>(state.range(0));
     MakeFile(recipes);
     const auto database = OpenMainDatabase(kFile);
-    TWTree(database.get()).InitFromDatabase();  // fills the store's own cache
+    TWTree(database.get()).InitFromDatabase();  // fills the store's cache
     std::size_t bytes = 0;
     for (auto _ : state) {
         const std::size_t before = BytesInUse();
@@ -188,7 +188,7 @@ void BM_TreeMemory(benchmark::State& state) {
 }
 BENCHMARK(BM_TreeMemory)->Arg(10000)->Arg(100000)->Iterations(1)->Unit(benchmark::kMillisecond);
 
-// All four copies, in the tree alone.
+// Renames all four copies of a recipe, only in the tree.
 void Rename(TWTree& tree, int recipe, const std::string& name) {
     for (int copy = 0; copy < kRecipeCopies; ++copy) tree.Nodes(RecipeKey(recipe, copy))->SetName(name);
 }

@@ -1,5 +1,6 @@
-// Undo and redo in a recipe of 30 lines through its document, without a window. Each step recomputes the
-// figures that its control feeds, so that the limits are those of the recalculation and not of the history.
+// Measures undo and redo in a recipe of 30 lines through its document, without a window. Each step
+// recalculates the figures that depend on its control, so the limits are those of the
+// recalculation, not of the history.
 #include <benchmark/benchmark.h>
 
 #include "BenchRecipe.h"
@@ -14,7 +15,7 @@ void Require(bool done) {
     if (!done) throw tw::Error("undo_bench", "There was nothing to undo or redo", 1);
 }
 
-// One edited grain amount, taken back and made again: two steps an iteration.
+// Undoes and redoes one edited grain amount: two steps an iteration.
 void UndoOneCell(benchmark::State& state) {
     Recipe recipe;
     recipe.CommitGrain(3, "4.56");
@@ -29,7 +30,7 @@ void UndoOneCell(benchmark::State& state) {
 }
 BENCHMARK(UndoOneCell)->Unit(benchmark::kMicrosecond);
 
-// The total volume feeds every line.
+// Every line depends on the total volume.
 void UndoTheTotalVolume(benchmark::State& state) {
     Recipe recipe;
     recipe.CommitTotalVolume("5.5 gal");
@@ -55,8 +56,8 @@ void UndoADeletedRow(benchmark::State& state) {
 }
 BENCHMARK(UndoADeletedRow)->Unit(benchmark::kMicrosecond);
 
-// 1000 cells in one step: 250 lines of the adjuncts' four columns, or as many amounts of grains, of which
-// each recomputes the recipe.
+// Pastes 1000 cells in one step: 250 lines of the four columns of the adjuncts, or 1000 amounts of grains,
+// each of which recalculates the recipe.
 void PasteThousandCells(benchmark::State& state) {
     const bool adjuncts = state.range(0) == 0;
     const int rows = adjuncts ? 250 : 1000;

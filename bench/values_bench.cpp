@@ -1,5 +1,5 @@
-// Reading and writing quantities, each row beside the least that the work can cost, measured in the same run.
-// The counter "x_limit" is the ratio of a row to its limit.
+// Measures reading and writing quantities, each compared with the least work possible, in the same run. The
+// counter "x_limit" is the ratio of the two.
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <charconv>
@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t kEntries = 4096;
 
-// A small generator of its own, so that every run and every machine sees the same entries.
+// A small random generator with the same sequence in every run and on every machine.
 class Dice {
   public:
     double Next() {
@@ -31,10 +31,9 @@ class Dice {
 };
 
 struct Corpus {
-    std::vector<std::string>
-        volumes;                   // as a brewer types them: 0 to 3 decimals, one in five a mixed fraction
-    std::vector<double> typed;     // numbers of 0 to 3 decimals
-    std::vector<double> computed;  // numbers of 15 to 17 digits, as a computed cell holds them
+    std::vector<std::string> volumes;  // as brewers type them: 0 to 3 decimals, one in five a mixed fraction
+    std::vector<double> typed;         // with 0 to 3 decimals
+    std::vector<double> computed;      // with 15 to 17 digits, as in a computed cell
 };
 
 Corpus MakeCorpus() {
@@ -66,8 +65,8 @@ const Corpus& TheCorpus() {
     return corpus;
 }
 
-// The least that a reader of "2 1/2 qt" does: one scan, from_chars for each number, one look into a table of
-// words.
+// The least work for reading "2 1/2 qt": one scan, from_chars for each number, one
+// look-up in a table of words.
 class HandWrittenReader {
   public:
     static bool Read(std::string_view text, double& gallons) {
@@ -150,9 +149,8 @@ class HandWrittenReader {
     }
 };
 
-// Runs work(i) over all entries in each iteration; reports the time of one entry and, with a limit, the ratio
-// of the two. Both are timed in turn, round by round, so that a change of the machine's speed meets both; the
-// median counts.
+// Runs work and limit, each of which handles all entries, alternately, so that a change of the machine's
+// speed affects both. Reports the time of one entry and the median of the ratios.
 void Compare(benchmark::State& state, const std::function<void()>& work, const std::function<void()>& limit) {
     using Clock = std::chrono::steady_clock;
     std::vector<double> ratios;

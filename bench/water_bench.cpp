@@ -1,9 +1,11 @@
-// The two linear programs of a water treatment on 2,000 shelves of salts, beside GLPK in the same run where
-// it is installed. "x_glpk" is the ratio of the times, the program's objects included, on the cases that both
-// end alike, "x_glpk_all" on all of them; "longest_us" the longest single solve,
-// each case at its fastest.
-// "no_answer", "refused", "poorer" and "faults" count the cases in which the solver's fixed steps pass the
-// limit of iterations, find no solution where there is one, find a worse one, or leave the range of a double.
+// Solves the two linear programs of a water treatment for 2,000 sets of salts, and compares the times with
+// GLPK in the same run if it is installed. "x_glpk" is the ratio of the times, including the creation of the
+// solvers' objects, for the cases that both solvers end alike; "x_glpk_all" is that ratio for all cases.
+// "longest_us" is the longest time of a case in microseconds, each case at its fastest.
+//
+// "no_answer", "refused", "poorer" and "faults" count the cases in which the solver with its fixed steps
+// reaches the limit of iterations, finds no solution although there is one, finds a worse one, or leaves
+// the range of a double.
 #include <algorithm>
 #include <array>
 #include <benchmark/benchmark.h>
@@ -28,11 +30,11 @@ using Clock = std::chrono::steady_clock;
 constexpr int kCases = 2000;
 constexpr int kIons = 6;
 constexpr int kMaxIterations = 1000;
-constexpr int kFault = 3;  // beside the solver's own status
+constexpr int kFault = 3;  // in addition to the statuses of the solver
 using Salt = std::array<double, kIons>;
 
-// ppm of calcium, carbonate, chloride, magnesium, sodium and sulfate that a gram gives in a gallon, from the
-// molar masses.
+// The ppm of calcium, carbonate, chloride, magnesium, sodium and sulfate that one gram of a salt adds to one
+// gallon (US), from the molar masses.
 constexpr Salt kShelf[] = {
     {61.5, 0, 0, 0, 0, 147.4}, {72, 0, 127.4, 0, 0, 0},    {95.4, 0, 168.8, 0, 0, 0},
     {0, 0, 0, 26.1, 0, 103},   {0, 0, 92.1, 31.6, 0, 0},   {0, 0, 160.3, 0, 103.9, 0},
@@ -41,7 +43,7 @@ constexpr Salt kShelf[] = {
     {0, 0, 125.6, 0, 0, 0},    {0, 0, 0, 0, 0, 228.3},     {0, 0, 25.7, 0, 0, 0},
 };
 
-// The same shelves in every run and on every machine.
+// A random generator with the same sequence in every run and on every machine.
 class Dice {
   public:
     double Next() {
@@ -58,7 +60,7 @@ double Tenths(double value) {
     return std::round(value * 10) / 10;
 }
 
-// A salt of the shelf, one that is made up, or another brand of one that is there already, with water in it.
+// Returns a salt of the shelf, an invented one, or a more diluted brand of one that is already present.
 Salt AnySalt(Dice& dice, const std::vector<Salt>& present) {
     const int kind = dice.Below(4);
     if (kind < 2) return kShelf[dice.Below(std::size(kShelf))];
@@ -89,7 +91,8 @@ struct Program {
     }
 };
 
-// Least shortfall of the first five ions, with a row for each dose; or as much as the needs allow.
+// Returns the program that minimises the shortfall of the first five ions, with a row for each dose; if
+// capped, the one that maximises the doses without exceeding any need.
 Program Treatment(const std::vector<Salt>& salts, const Salt& needed, bool capped) {
     const int first = capped ? 0 : kIons;
     const int vars = first + static_cast<int>(salts.size());
@@ -200,7 +203,7 @@ double Median(std::vector<double>& values) {
     return *middle;
 }
 
-// The rounds' ratios over all cases, and over those that both end alike.
+// The ratio of each round for all cases, and for the cases that both solvers end alike.
 struct Comparison {
     std::vector<double> all;
     std::vector<double> alike;
