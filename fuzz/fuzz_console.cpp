@@ -1,6 +1,6 @@
-// Any text may be given to the console as a script. It ends with one of its three statuses, says why exactly
-// when it stops at a line, and every line that it prints is one line. What the commands do to a recipe and
-// its database must raise nothing that the program does not show.
+// Runs any text as a script. The console ends with one of its three statuses, reports an error exactly if it
+// stops at a line, and prints only whole lines. Whatever the commands do to a recipe and its database, no
+// exception may reach the fuzzer.
 #include <cstdint>
 #include <cstdlib>
 #include <sqlite3.h>
@@ -18,7 +18,7 @@ void Require(bool holds) {
 }
 
 void LimitMemory() {
-    // A statement that asks for more memory than this is refused by the store.
+    // The store refuses a statement that needs more memory than this.
     constexpr sqlite3_int64 kMostMemory = 256 * 1024 * 1024;
     sqlite3_hard_heap_limit64(kMostMemory);
 }
@@ -29,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const bool limited = (LimitMemory(), true);
     Require(limited);
     const std::string text(reinterpret_cast<const char*>(data), size);
-    // No script that was made at random may write files.
+    // A random script must not write files.
     for (const char* word : {"export", "import", "filesql", "report"})
         if (text.find(word) != std::string::npos) return 0;
     std::istringstream script(text);

@@ -1,5 +1,5 @@
-// Any text may come from another program. It is read without an error; what is read has no blanks at its ends
-// and none of the marks that separate.
+// Reads any text as commands from another program. Reading raises no error; verbs and parameters are trimmed
+// and contain no "[", and a parameter as sent contains no ",".
 #include <cstdint>
 #include <cstdlib>
 #include <string>

@@ -1,6 +1,5 @@
-// Any text may reach the store as SQL. The dialect raises nothing but an Error of the program; what it
-// accepts, a database in memory runs or refuses with such an error too, and its tables still stand
-// afterwards.
+// Runs any text as SQL. The dialect raises nothing but an Error of the program. A database in memory runs
+// what the dialect accepts or refuses it with an Error, and all its tables exist afterwards.
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
@@ -17,7 +16,7 @@ namespace {
 using namespace tw;
 
 std::unique_ptr<Database> MakeDatabase() {
-    // A statement that asks for more memory than this is refused by the store.
+    // The store refuses a statement that needs more memory than this.
     constexpr sqlite3_int64 kMostMemory = 256 * 1024 * 1024;
     sqlite3_hard_heap_limit64(kMostMemory);
     std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
@@ -58,7 +57,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         else
             database->Execute(sql);
     } catch (const Error&) {
-        // Refused: as good as run.
+        // Refusing the statement is as good as running it.
     }
     CheckSchema(*database);
     return 0;

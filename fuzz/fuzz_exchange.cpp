@@ -1,5 +1,5 @@
-// Imports any bytes as a recipe file, through everything that an import does. Nothing but a message may come
-// of it, and the database must be whole afterwards.
+// Imports any bytes as a recipe file, with everything that an import does. Bad input may cause nothing but
+// messages, and the database must be intact afterwards.
 #include <cstdint>
 #include <cstdlib>
 #include <fstream>
@@ -21,7 +21,7 @@ class NoMessages : public MessagePort {
     void Beep() override {}
 };
 
-// Gives every taken name another one, so that it comes in too.
+// Answers every name conflict with a new name, so that the recipe is imported too.
 class Dialogs : public DialogPort {
   public:
     void ShowModal(DialogModel& dialog) override {
@@ -53,7 +53,7 @@ class NoClipboard : public ClipboardPort {
     void SetText(std::string_view) override {}
 };
 
-// A running program on an empty database in memory.
+// A running program with an empty database in memory.
 struct Program {
     NoMessages messages;
     Dialogs dialogs;
@@ -64,7 +64,7 @@ struct Program {
     Shell shell{{platform}};
 };
 
-// Every recipe has a name that is trimmed and its own.
+// Checks that the names of all recipes are trimmed and unique.
 void CheckWhole(Database& main) {
     for (const char* sql : {"SELECT ID FROM RECIPES WHERE NAME IS NULL OR NAME <> TRIM(NAME)",
                             "SELECT NAME FROM RECIPES GROUP BY UCASE(NAME) HAVING COUNT(*) > 1"})
@@ -74,7 +74,7 @@ void CheckWhole(Database& main) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    // What it says of unknown columns would drown what the fuzzer says.
+    // Messages about unknown columns would hide those of the fuzzer.
     std::clog.rdbuf(nullptr);
     static const std::string file = "/tmp/fuzz_exchange." + std::to_string(getpid());
     std::ofstream(file, std::ios::binary | std::ios::trunc)
@@ -83,7 +83,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!program.shell.PerformSplashScreenInit(":memory:")) std::abort();
     program.shell.Files().ImportRecipes(file, 0, std::nullopt);
     CheckWhole(*program.shell.DB());
-    // Out again, beside what the file holds.
+    // Export the recipes, appended to what the file contains.
     std::vector<std::string> names;
     for (Recordset rows = program.shell.DB()->OpenRecordset("SELECT NAME FROM RECIPES"); !rows.AtEnd();
          rows.MoveNext())

@@ -1,6 +1,6 @@
-// Any text may be typed into a quantity field. For each parser and validator: nothing but an Error of the
-// program is raised, an accepted number is finite, and a refusal says why. The first eight bytes, taken for a
-// double, become text and the same number again.
+// Reads any text as the entry of a quantity field. Each parser and validator raises nothing but an Error of
+// the program, accepts only finite numbers, and gives a reason when it refuses. The first eight bytes, read
+// as a double, are converted to text and back to the same number.
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
@@ -72,8 +72,8 @@ void CheckValidator(Validator validator, std::string_view text) {
 }
 
 void CheckTokens(std::string_view text) {
-    // Each token but those of a leading tilde, bracket or tab takes something away, so the text ends before
-    // its length.
+    // Every token removes something from the text, except that of a leading tilde, bracket or tab, so the
+    // text ends after at most as many tokens as it has bytes.
     for (std::size_t i = 0; i <= text.size(); ++i) {
         const std::size_t before = text.size();
         const std::string_view token = GetToken(text);

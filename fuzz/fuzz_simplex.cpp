@@ -1,7 +1,7 @@
-// Any small linear program may come to the solver: a size, then a byte for each coefficient, row type and
-// right side, so that zeros, equal rows, ties and numbers at both ends of a double all come. It ends at its
-// limit, raises nothing but an arithmetic error, and its values are finite; a second object answers the same
-// to the last bit.
+// Solves any small linear program: a size, then a byte for each coefficient, row type and right side, which
+// yields zeros, equal rows, ties and numbers at both ends of the range of a double. The solver stops at its
+// limit of iterations, raises nothing but an arithmetic error, and returns finite values. A second object
+// returns exactly the same values.
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -47,7 +47,7 @@ struct Outcome {
 Outcome Solve(Bytes bytes) {
     const int vars = bytes.Next() % (kMostVariables + 1);
     const int rowsByte = bytes.Next();
-    // Now and then more than a machine word has bits.
+    // Sometimes there are more rows than a machine word has bits.
     const int rows = rowsByte < 250 ? rowsByte % (kMostRows + 1) : rowsByte - 250 + 62;
     const int limit = rows <= kMostRows ? bytes.Next() : bytes.Next() % 4;
     const bool minimise = bytes.Next() % 2 == 0;
