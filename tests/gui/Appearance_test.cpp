@@ -1,4 +1,4 @@
-// Measures, colours, the range bars and the detail windows.
+// Tests of sizes, colours, the range bars and the detail windows.
 #include "platform/qt/Appearance.h"
 
 #include <QtTest/QTest>
@@ -44,7 +44,8 @@ TEST_P(PaletteContrast, TellsDarkFromLight) {
     EXPECT_EQ(IsDark(palette), GetParam());
 }
 
-// What is not chosen is told from the plain cells, and its text is read without effort.
+// Colours that were not chosen by the brewer differ from those of plain cells, and
+// their text is easy to read.
 TEST_P(PaletteContrast, OfTheTintsIsReadableAndTheirGroundsDiffer) {
     const CellColors calculated = CalculatedColors({}, palette), total = TotalColors({}, palette);
     EXPECT_GE(ContrastRatio(calculated.ink, calculated.ground), 7);
@@ -62,7 +63,7 @@ TEST(CellColorsTest, PaintsAChosenColorExactly) {
     EXPECT_EQ(painted.ink, QColor(4, 5, 6));
 }
 
-// Yellow under the light text of a dark desktop would be about 1.2:1.
+// With the light text of a dark desktop, a yellow background would have a contrast of about 1.2:1.
 TEST(CellColorsTest, TurnsToAReadableTextOnAChosenGround) {
     EXPECT_EQ(CalculatedColors({QColor(255, 255, 0), {}}, DarkPalette()).ink, QColor(Qt::black));
     EXPECT_EQ(CalculatedColors({QColor(0, 0, 128), {}}, LightPalette()).ink, QColor(Qt::white));
@@ -70,7 +71,7 @@ TEST(CellColorsTest, TurnsToAReadableTextOnAChosenGround) {
               LightPalette().color(QPalette::Text));
 }
 
-// The themes of desktops for weak eyes: black on white, white on black, yellow on black.
+// The high-contrast themes of desktops: black on white, white on black, yellow on black.
 TEST(CellColorsTest, KeepsTheContrastOfAContrastPalette) {
     for (const auto& [base, text] : {std::pair(Qt::white, Qt::black), std::pair(Qt::black, Qt::white),
                                      std::pair(Qt::black, Qt::yellow)}) {

@@ -1,5 +1,5 @@
-// Autosave and the keeping of unsaved work in the real windows: their timers, their windows, and what is
-// being typed meanwhile.
+// Autosave and the recovery of unsaved work in the real windows: their timers, their windows, and entries
+// that are being typed meanwhile.
 #include <QSignalSpy>
 
 #include "GuiTest.h"
@@ -18,7 +18,7 @@ class AutoSaveWindow : public GuiTest {
         EXPECT_NE(timer, nullptr) << name;
         return *timer;
     }
-    // A recipe in front that is stored.
+    // Opens a stored recipe, which becomes active.
     RecipeDocument& Stored(const char* name) {
         NewRecipe();
         RecipeDocument& document = *shell.Documents().Active();
@@ -28,7 +28,7 @@ class AutoSaveWindow : public GuiTest {
     std::string StoredNotes() {
         return shell.DB()->OpenRecordset("SELECT NOTES FROM RECIPES").Fields(0).Text();
     }
-    // Shows the real window of autosave in place of the recorder's.
+    // Shows the real window of autosave instead of the recorded one.
     void RunAutoSave() {
         AutoSaveModel model = shell.AutoSaving().Progress();
         AutoSaveDialog progress(model, &window);
@@ -172,7 +172,7 @@ TEST_F(AutoSaveWindow, TheStatusBarSaysWhileWorkIsNotKept) {
     const QString text = QStringLiteral("Unsaved work is not being kept: save your recipes.");
     EXPECT_EQ(notice->text(), text);
     EXPECT_EQ(notice->accessibleName(), text);
-    // A sentence on a command takes its place for a moment.
+    // The description of a command replaces the notice for a moment.
     other.statusBar()->showMessage(QStringLiteral("Opens a recipe"));
     EXPECT_FALSE(notice->isVisible());
     other.statusBar()->clearMessage();

@@ -1,4 +1,4 @@
-// Recipes in folders, and what the windows on them share: in-place editors, drags, and menus at a row.
+// Recipes in folders, and what the tests of their windows share: in-place editors, drags, and context menus.
 #pragma once
 
 #include "GuiTest.h"
@@ -12,7 +12,8 @@ namespace tw::test {
 
 class BrowseTest : public GuiTest {
   protected:
-    // F:1 Winter with F:2 Dark; recipes 1 Ale and 2 mild at the root, 3 Porter in Winter; G:3 British.
+    // Folders: F:1 Winter, which contains F:2 Dark; style folder G:3 British. Recipes: 1 Ale and 2 mild at
+    // the root, 3 Porter in Winter.
     void SetUp() override {
         GuiTest::SetUp();
         DB_IO& objects = shell.Data().objects;
@@ -32,7 +33,7 @@ class BrowseTest : public GuiTest {
         QApplication::setActiveWindow(&dialog);
         QApplication::processEvents();
     }
-    // What a list shows in its first column, from the top.
+    // Returns the texts of a list's first column, from the top.
     static Strings Rows(const QAbstractItemView& view) {
         Strings names;
         for (int row = 0; row < view.model()->rowCount(); ++row)
@@ -53,13 +54,13 @@ class BrowseTest : public GuiTest {
         Click(view, index);
         QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
     }
-    // The open in-place editor, nullptr without one.
+    // Returns the open in-place editor, nullptr if there is none.
     static QLineEdit* Editor(const QAbstractItemView& view) {
         for (auto* editor : view.viewport()->findChildren<QLineEdit*>())
             if (editor->isVisible()) return editor;
         return nullptr;
     }
-    // Types over the text of the open editor and presses Enter.
+    // Replaces the text of the open editor by typing and presses Enter.
     static void TypeName(const QAbstractItemView& view, const char* name) {
         QLineEdit* editor = Editor(view);
         ASSERT_NE(editor, nullptr);
@@ -68,7 +69,7 @@ class BrowseTest : public GuiTest {
         QTest::keyClick(editor, Qt::Key_Return);
         QApplication::processEvents();
     }
-    // Drags the objects over the entry and lets them go there. False when the entry shows that it refuses.
+    // Drags the objects over the entry and drops them there. Returns false if the entry refuses them.
     static bool Drop(QAbstractItemView& view, const QModelIndex& index, const KeyDrag::Keys& keys) {
         const std::unique_ptr<QMimeData> data(MimeOfKeys(keys));
         const QPoint place = view.visualRect(index).center();
@@ -82,7 +83,7 @@ class BrowseTest : public GuiTest {
         QApplication::processEvents();
         return move.isAccepted();
     }
-    // The menu that a right click on an entry opens.
+    // Returns the menu that a right click on an entry opens.
     static QMenu* MenuAt(QWidget& dialog, QAbstractItemView& view, const QModelIndex& index,
                          const char* name) {
         const QPoint place = view.visualRect(index).center();

@@ -1,4 +1,4 @@
-// Database setup and the editors of the catalogue by the keyboard.
+// Tests of database setup and the catalogue editors with the keyboard.
 #include <QHeaderView>
 #include <gmock/gmock.h>
 
@@ -45,7 +45,7 @@ class CatalogueWindows : public GuiTest {
         const Recordset rows = shell.DB()->OpenRecordset(sql);
         return rows.AtEnd() ? "nothing" : rows.Fields(0).IsNull() ? "NULL" : rows.Fields(0).Text();
     }
-    // Types over all that the focused box holds.
+    // Replaces the whole text of the focused box by typing.
     void Fill(const char* text) {
         auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget());
         ASSERT_NE(box, nullptr);
@@ -287,11 +287,11 @@ TEST_F(CatalogueWindows, SetupTakesItsKeysAlsoBesideTheList) {
     Key(Qt::Key_Insert);
     EXPECT_THAT(outside.dialogs.shown, ElementsAre("frmHop"));
     outside.messages.answers = {Answer::Yes};
-    // With the character that a keyboard sends along.
+    // With the character that a keyboard sends with the key.
     QTest::sendKeyEvent(QTest::Click, &catalogues, Qt::Key_Delete, QStringLiteral("\x7f"), Qt::NoModifier);
     EXPECT_EQ(model.Items().SelectedText(), "Fuggle");
     outside.messages.TakeLog();
-    // In the filter the key is the text's.
+    // In the filter, the key deletes text.
     auto& filter = In<QLineEdit>(setup, "txtFilter");
     filter.setFocus();
     Type("s");
@@ -321,7 +321,7 @@ TEST_F(CatalogueWindows, SetupIsOffOnAFolderAndEntersIt) {
 
 TEST_F(CatalogueWindows, AFolderOfStylesShowsItsColumnsInFull) {
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0, TYPE = 0");
-    // So many that a scroll bar stands beside them, and goes within the folder.
+    // So many that there is a scroll bar next to them, which disappears inside the folder.
     for (int i = 0; i < 60; ++i)
         shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), Asking::Quietly);
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1");
@@ -367,14 +367,14 @@ TEST_F(CatalogueWindows, TheFilterLeavesWhatHoldsItsWords) {
     Type("x");
     EXPECT_EQ(model.Items().Count(), 0);
     EXPECT_FALSE(In<QPushButton>(setup, "cmdEdit").isEnabled());
-    // The first Escape empties the box.
+    // The first Escape clears the box.
     Key(Qt::Key_Escape);
     EXPECT_TRUE(setup.isVisible());
     EXPECT_EQ(model.Items().Count(), 3);
     Type("f");
     Key(Qt::Key_Down);
     EXPECT_EQ(Focus(), "lvItems");
-    // Another catalogue starts with all its rows.
+    // Another catalogue is shown unfiltered.
     In<QComboBox>(setup, "Combo1").setCurrentText(QStringLiteral("Grains"));
     EXPECT_EQ(FromQt(In<QLineEdit>(setup, "txtFilter").text()), "");
     EXPECT_EQ(model.Items().SelectedText(), "Pale Malt");

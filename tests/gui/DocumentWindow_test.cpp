@@ -1,4 +1,4 @@
-// A recipe's window under the hands of a brewer: the keyboard, the figures, refused entries, saving.
+// Tests of a recipe's window as a brewer uses it: the keyboard, the figures, refused entries, saving.
 #include "GuiTest.h"
 #include "platform/qt/Appearance.h"
 
@@ -32,7 +32,7 @@ TEST_F(DocumentWindow, ShowsTheGravityOfATypedMash) {
     EXPECT_EQ(Text("txtOG"), "1.023");
 }
 
-// 8 lb of 125 degrees Lovibond in 5 gallons: 200 HCU, beyond what has a number in SRM.
+// 8 lb of 125 degrees Lovibond in 5 gallons: 200 HCU, which is beyond the numbers of SRM.
 TEST_F(DocumentWindow, ShowsTheWholeColorOfADarkBeer) {
     NewRecipe();
     Find<QLineEdit>("txtTotalVol").setFocus();
@@ -48,7 +48,7 @@ TEST_F(DocumentWindow, ShowsTheWholeColorOfADarkBeer) {
     QApplication::processEvents();
     const auto& color = Find<QLineEdit>("txtColor");
     ASSERT_EQ(FromQt(color.text()), ">50 SRM (200 HCU)");
-    constexpr int kEdges = 4;  // two pixels of air on either side of a line's text
+    constexpr int kEdges = 4;  // two pixels of space on either side of a line's text
     EXPECT_LE(color.fontMetrics().horizontalAdvance(color.text()) + kEdges, color.contentsRect().width());
 }
 
@@ -99,7 +99,7 @@ TEST_F(DocumentWindow, StaysOnTheTabOfARefusedBox) {
     Type("much");
     Key(Qt::Key_PageDown, Qt::ControlModifier);
     EXPECT_EQ(Find<QTabWidget>("SSTab1").currentIndex(), 0);
-    // The same by the mouse.
+    // The mouse has the same effect.
     outside.messages.log.clear();
     Find<QTabWidget>("SSTab1").setCurrentIndex(3);
     QApplication::processEvents();
@@ -115,7 +115,7 @@ TEST_F(DocumentWindow, CommitsWhenAnotherRecipeComesToTheFront) {
     Type("6 gal");
     NewRecipe();
     EXPECT_DOUBLE_EQ(first.Record().txtBoilVol.Value(), 6);
-    // A refused entry calls the new recipe off.
+    // A refused entry cancels the new recipe.
     Find<QLineEdit>("txtBoilVol").setFocus();
     Type("much");
     EXPECT_TRUE(window.RunCommand(CommandId::FileNew));
@@ -168,7 +168,7 @@ TEST_F(DocumentWindow, WalksThroughAllTabsByKey) {
         EXPECT_EQ(Focus(), name);
         Key(Qt::Key_PageDown, Qt::ControlModifier);
     }
-    // The last tab stays.
+    // There is no tab after the last one.
     EXPECT_EQ(Focus(), "txtNotes");
     Key(Qt::Key_PageUp, Qt::ControlModifier);
     EXPECT_EQ(Focus(), "gridLog");
@@ -184,18 +184,19 @@ TEST_F(DocumentWindow, ChoosesAStyleByAnyPartOfItsName) {
     EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "Stout");
     EXPECT_EQ(Find<QLabel>("lblOGStyle").text(), QStringLiteral("1.020 - 1.030"));
     EXPECT_EQ(Find<QLabel>("lblIBUStyle").text(), QStringLiteral(">= 25"));
-    // A part that only one style holds stands for it.
+    // Text that only one style contains selects that style.
     styles.setFocus();
     Type("(no");
     Key(Qt::Key_Return);
     EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "(None)");
     Type("tou");
-    // Not settled yet, and the list of matches is open: whatever leaves the box settles it.
+    // The choice is not committed yet and the list of matches is open; anything that
+    // leaves the box commits it.
     EXPECT_TRUE(styles.completer()->popup()->isVisible());
     EXPECT_TRUE(window.ActiveWindow()->Flush());
     EXPECT_FALSE(styles.completer()->popup()->isVisible());
     EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "Stout");
-    // What is no style gives way to the choice.
+    // A text that matches no style is replaced by the current choice.
     Type("no such beer");
     Key(Qt::Key_Tab);
     EXPECT_EQ(styles.currentText(), QStringLiteral("Stout"));
@@ -228,8 +229,8 @@ TEST_F(DocumentWindow, AsksBeforeItsChangesAreLost) {
     EXPECT_EQ(outside.messages.log, (Strings{question + " -> Cancel", question + " -> No"}));
 }
 
-// The frame lives on until the event that closed it is over; whatever reaches its controls then finds no
-// recipe.
+// The window exists until the event that closed it has been processed; an event that still reaches its
+// controls finds no recipe.
 TEST_F(DocumentWindow, FallsSilentOnceItsRecipeIsClosed) {
     NewRecipe();
     BuildAllTabs();

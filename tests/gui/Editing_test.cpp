@@ -1,4 +1,4 @@
-// The edit commands in the windows: undo and redo, the clipboard, selections, sorting.
+// Tests of the edit commands in the windows: undo and redo, the clipboard, selections, sorting.
 #include "GuiTest.h"
 #include "document/ui/GridPanel.h"
 #include "platform/qt/GridHeader.h"
@@ -21,7 +21,7 @@ class Editing : public GuiTest {
                            header.height() / 2);
         QTest::mouseClick(header.viewport(), Qt::LeftButton, {}, place);
     }
-    // Two rows of grain: 8 lb with 36 PPG over 2 lb with 30.
+    // Adds two rows of grain: 8 lb with 36 PPG above 2 lb with 30 PPG.
     GridView& TwoGrains() {
         auto& view = GridAt(Tab::Grains, "gridGrain", 1, 1);
         Type("2 lb\t30\r");
@@ -85,7 +85,7 @@ TEST_F(Editing, UndoShowsTheTabAndTheControl) {
 TEST_F(Editing, ANewCellEntryCommitsBeforeTheUndo) {
     auto& view = GridAt(Tab::Grains, "gridGrain", 1, 1);
     Type("8 lb");
-    // Nothing is there to be undone before the entry is committed.
+    // There is nothing to undo before the entry is committed.
     EXPECT_FALSE(window.RunCommand(CommandId::EditUndo));
     Key(Qt::Key_Return);
     EXPECT_TRUE(window.RunCommand(CommandId::EditUndo));
@@ -151,7 +151,7 @@ TEST_F(Editing, ABlockIsSelectedByShiftAndByMouse) {
     EXPECT_EQ(R().gridGrain.Selection(), (GridRange{1, 1, 1, 2}));
     Select(view, 2, 2, 1, 1);
     EXPECT_EQ(R().gridGrain.Selection(), (GridRange{1, 1, 2, 2}));
-    // What is typed goes into the framed cell, the first one.
+    // Typing goes into the current cell, which is the first one of the block.
     Type("9 lb\r");
     EXPECT_EQ(Shown(view, 1, 1), "9 lb");
     EXPECT_EQ(Shown(view, 2, 2), "30");
@@ -210,12 +210,12 @@ TEST_F(Editing, AHeaderClickSortsAndMarksTheColumn) {
     EXPECT_EQ(view.horizontalHeader()->sortIndicatorSection(), 1);
     EXPECT_EQ(view.horizontalHeader()->sortIndicatorOrder(), Qt::AscendingOrder);
     EXPECT_EQ(Action("mnuEditUndo").text(), QStringLiteral("&Undo Sort"));
-    // The same by key, the other way round.
+    // The keyboard sorts in the opposite direction.
     view.setCurrentIndex(view.Model().index(0, 1));
     Key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(Shown(view, 1, 1), "8 lb");
     EXPECT_EQ(view.horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
-    // Another amount, and the rows may stand in another order.
+    // After a change of an amount, the rows may no longer be sorted.
     Type("1 lb\r");
     EXPECT_FALSE(view.horizontalHeader()->isSortIndicatorShown());
 }

@@ -1,5 +1,5 @@
-// Import and export in the real windows: their dialogs with the keyboard, the progress, files dropped on the
-// main window.
+// Tests of import and export in the real windows: the dialogs with the keyboard, the progress, files
+// dropped on the main window.
 #include <QMimeData>
 #include <QSignalSpy>
 #include <fstream>
@@ -38,7 +38,7 @@ class Exchange : public GuiTest {
         EXPECT_NE(button, nullptr) << name;
         return *button;
     }
-    // A button is clicked a moment after its key.
+    // Presses an access key and waits for the click, which the button delays.
     static void Mnemonic(QAbstractButton& button, Qt::Key key) {
         QSignalSpy clicked(&button, &QAbstractButton::clicked);
         QTest::keyClick(&button, key, Qt::AltModifier);
@@ -86,7 +86,7 @@ TEST_F(Exchange, ANewNameIsTypedOverTheOldOneAndTakenWithEnter) {
     NameConflictDialog dialog(model, nullptr);
     Show(dialog);
     EXPECT_EQ(Focus(), "txtNewName");
-    // The old name is no new one; it stays to be typed over.
+    // The old name is refused as the new name and stays selected, so that typing replaces it.
     Key(Qt::Key_Return);
     EXPECT_EQ(outside.messages.TakeLog(),
               Strings{"[Same Name] To rename you must enter a different recipe name"});
@@ -219,7 +219,7 @@ TEST_F(ExchangeFiles, EscapeInTheFileDialogTakesNone) {
     EXPECT_FALSE(dialog.isVisible());
 }
 
-// Sends the events of a drag with that data to the main window.
+// Sends the events of a drag with data to the main window.
 class Drag {
   public:
     Drag(MainWindow& target, const QMimeData& mime) : window_(target), mime_(mime) {

@@ -1,4 +1,4 @@
-// The explorer by keyboard and mouse.
+// Tests of the explorer with keyboard and mouse.
 #include <gmock/gmock.h>
 
 #include "BrowseTest.h"
@@ -36,7 +36,7 @@ class ExplorerWindowTest : public BrowseTest {
     QAbstractButton& Button(const char* name) {
         return *dialog->findChild<QAbstractButton*>(QLatin1String(name));
     }
-    // As from the menus.
+    // Runs a command from the context menu of the list.
     void Press(const char* command) {
         QMenu* menu = MenuAt(*dialog, List(), List().model()->index(0, 0), "mnuPopupList");
         Item(*menu, command)->trigger();
@@ -111,7 +111,8 @@ TEST_F(ExplorerWindowTest, ARefusedNameIsTakenBackAfterOneBox) {
     EXPECT_EQ(Editor(List()), nullptr);
 }
 
-// On a desktop a box takes the activation of the window below, which has it again a while after the box.
+// On a desktop, a message box deactivates the window below, which becomes active again only some
+// time after the box closes.
 TEST_F(ExplorerWindowTest, ARefusedNameLeavesTheFocusWhereItWas) {
     outside.messages.whileShowing = [] { QApplication::setActiveWindow(nullptr); };
     const auto refuse = [&](QAbstractItemView& view, const char* name) {
@@ -126,7 +127,7 @@ TEST_F(ExplorerWindowTest, ARefusedNameLeavesTheFocusWhereItWas) {
         Press(look);
         Click(List(), RowOf(List(), "mild"));
         refuse(List(), "ale");
-        // The next keys are the list's.
+        // The next keys go to the list.
         refuse(List(), " ");
         EXPECT_EQ(model->List(Page::Recipes).SelectedKey(), "R:2:3");
         Key(Qt::Key_Delete);
@@ -176,7 +177,7 @@ TEST_F(ExplorerWindowTest, AFolderIsMadeAndNamedInTheTree) {
     EXPECT_EQ(model->NodeKey(), "F:4");
     EXPECT_EQ(shell.Data().tree.Nodes("F:4")->Name(), "Autumn");
     EXPECT_EQ(FromQt(Tree().currentIndex().data().toString()), "Autumn");
-    EXPECT_EQ(Tree().currentIndex().row(), 0);  // at its place in the order
+    EXPECT_EQ(Tree().currentIndex().row(), 0);  // at its place in the sort order
     QTest::keyClick(&Tree(), Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
     TypeName(Tree(), "Late");
     EXPECT_EQ(shell.Data().tree.Nodes("F:5")->Parent()->Key(), "F:4");
@@ -227,7 +228,7 @@ TEST_F(ExplorerWindowTest, AFolderOfTheTreeIsDeletedByKey) {
     EXPECT_EQ(Boxes(), Strings{"[Confirm Delete] Are you sure you want to delete 'Winter'? -> Yes"});
     EXPECT_EQ(model->NodeKey(), "F:0");
     EXPECT_EQ(Rows(List()), (Strings{"Ale", "mild"}));
-    QTest::keyClick(&Tree(), Qt::Key_Delete);  // a system folder stays
+    QTest::keyClick(&Tree(), Qt::Key_Delete);  // a system folder cannot be deleted
     EXPECT_EQ(Boxes(), Strings{});
 }
 
@@ -252,7 +253,7 @@ TEST_F(ExplorerWindowTest, ObjectsAreDraggedOnFoldersOfTheList) {
     }
 }
 
-// As pictures, for an icon has no name.
+// Compares pictures, since an icon has no name.
 TEST_F(ExplorerWindowTest, OnlyTheChosenFolderIsShownOpen) {
     const auto shown = [&](const char* key) {
         return Node(key).data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage();
@@ -372,7 +373,7 @@ TEST_F(ExplorerWindowTest, TheStylesOpenWithTheirFirstRowsInSight) {
     EXPECT_EQ(model->NodeKey(), "G:0");
     EXPECT_EQ(Tree().verticalScrollBar()->value(), 0);
     EXPECT_EQ(Tree().visualRect(Node("X:STYLE")).top(), 0);
-    // What the brewer has scrolled to stays.
+    // The scroll position chosen by the brewer is kept.
     const int end = Tree().verticalScrollBar()->maximum();
     ASSERT_GT(end, 0);
     Tree().verticalScrollBar()->setValue(end);
@@ -413,7 +414,7 @@ TEST_F(ExplorerWindowTest, TheButtonsAreAboutTheRowsOrTheEntry) {
     Button("cmdOpen").click();
     EXPECT_EQ(opened, Strings{"Porter"});
     FindBox().setText(QStringLiteral("por"));
-    EXPECT_FALSE(Button("cmdDelete").isEnabled());  // the tree's entry is not what the eye is on
+    EXPECT_FALSE(Button("cmdDelete").isEnabled());  // the selected entry of the tree is not in the list shown
     Click(List(), RowOf(List(), "Porter"));
     EXPECT_TRUE(Button("cmdDelete").isEnabled());
 }

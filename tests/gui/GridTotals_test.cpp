@@ -1,4 +1,4 @@
-// The totals under the hands: to the brewer they are rows of their grid. And how a grid looks and finds room.
+// Tests of the totals, which to the brewer are rows of their grid, and of the look and size of a grid.
 #include "GuiTest.h"
 #include "document/ui/GridPanel.h"
 #include "document/ui/TotalsView.h"
@@ -14,7 +14,7 @@ class GridTotals : public GuiTest {
         NewRecipe();
     }
     RecipeRecord& R() { return shell.Documents().Active()->Record(); }
-    // One grain of 8 lb above its total: rows 1 and 2.
+    // Adds one grain of 8 lb above its total: rows 1 and 2.
     GridView& OneGrain() {
         auto& view = GridAt(Tab::Grains, "gridGrain", 1, 0);
         Type("Rye\t8 lb\r");
@@ -45,7 +45,7 @@ TEST_F(GridTotals, ARightClickOpensTheMenuAtTheTotal) {
     EXPECT_TRUE(EditMenu().isVisible());
     EXPECT_TRUE(EditMenu().actions().contains(window.findChild<QAction*>(QStringLiteral("mnuEditCopy"))));
     EditMenu().hide();
-    // Inside a selected block the block stays.
+    // A click inside a selected block keeps the block selected.
     Key(Qt::Key_A, Qt::ControlModifier);
     ClickTotal(view, 0, 1, Qt::RightButton);
     EXPECT_EQ(R().gridGrain.Selection(), (GridRange{1, 0, 2, 5}));
@@ -66,14 +66,14 @@ TEST_F(GridTotals, TheKeysOfTheGridWorkThere) {
     EXPECT_EQ(R().gridGrain.Text(2, GrainCol::Amount), "8 lbs.");
     Key(Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_EQ(R().gridGrain.DataRows(), 1);
-    // A new row comes above the totals and takes the keys.
+    // A new row is inserted above the totals and gets the focus.
     Key(Qt::Key_Plus, Qt::ControlModifier);
     EXPECT_EQ(R().gridGrain.Selection(), Cell(2, 0));
     EXPECT_EQ(R().gridGrain.DataRows(), 2);
     ClickTotal(view, 0, GrainCol::Amount);
     Key(Qt::Key_PageDown, Qt::ControlModifier);
     EXPECT_EQ(Focus(), "gridExtract");
-    // Coming back is for typing, and that is not among the totals.
+    // Coming back moves to a data row, since totals accept no typing.
     Key(Qt::Key_PageUp, Qt::ControlModifier);
     EXPECT_TRUE(R().gridGrain.IsDataRow(R().gridGrain.CurrentRow()));
     EXPECT_TRUE(shell.Bar().FindItem("mnuEditDelete")->enabled);
@@ -107,7 +107,7 @@ TEST_F(GridTotals, TheArrowsGoInAndOut) {
     EXPECT_EQ(R().gridGrain.Selection(), Cell(1, 1));
     EXPECT_EQ(view.currentIndex(), view.Model().index(0, 1));
     EXPECT_TRUE(Totals(view).selectionModel()->selectedIndexes().isEmpty());
-    // The row takes what is typed again.
+    // The row accepts typing again.
     Type("9 lb\r");
     EXPECT_EQ(Shown(view, 1, 1), "9 lb");
 }
@@ -122,7 +122,7 @@ TEST_F(GridTotals, ABlockIsDrawnOverTheBorder) {
     EXPECT_EQ(Totals(view).selectionModel()->selectedIndexes().size(), 2);
     Key(Qt::Key_Up, Qt::ShiftModifier);
     EXPECT_EQ(R().gridGrain.Selection(), (GridRange{1, 1, 1, 2}));
-    // From below, by the mouse.
+    // A selection that starts with a click on the total.
     ClickTotal(view, 0, 4);
     Key(Qt::Key_Up, Qt::ShiftModifier);
     EXPECT_EQ(R().gridGrain.Selection(), (GridRange{1, 4, 2, 4}));
@@ -141,7 +141,7 @@ TEST_F(GridTotals, TabGoesOnInTheGrid) {
     EXPECT_EQ(R().gridGrain.Selection(), Cell(2, 5));
     Key(Qt::Key_Tab);
     EXPECT_EQ(Focus(), "txtExtract");
-    // And back into the rows, to the last cell that takes an entry.
+    // Backtab goes back into the rows, to the last cell that accepts an entry.
     ClickTotal(view, 0, 0);
     Key(Qt::Key_Backtab);
     EXPECT_EQ(Focus(), "gridGrain");
@@ -154,7 +154,7 @@ TEST_F(GridTotals, AClickCommitsWhatIsTypedAbove) {
     ClickTotal(view, 0, 1);
     EXPECT_EQ(Shown(view, 1, 1), "8 lb");
     EXPECT_EQ(R().gridGrain.CurrentRow(), 2);
-    // A refused entry holds its place.
+    // A refused entry keeps the current cell.
     view.setCurrentIndex(view.Model().index(0, 1));
     Type("much");
     ClickTotal(view, 0, 1);
@@ -194,7 +194,7 @@ TEST_F(GridTotals, CalculatedCellsAndTotalsAreTintedOnAnyDesktop) {
         EXPECT_EQ(Color(sum, Qt::ForegroundRole), total.ink);
         EXPECT_TRUE(sum.data(Qt::FontRole).value<QFont>().bold());
     }
-    // A total is as wide as its bold text.
+    // The column is wide enough for the bold text of the total.
     auto& grains = GridAt(Tab::Grains, "gridGrain", 1, 0);
     const QFontMetrics bold(BoldFont(grains.font()));
     EXPECT_GE(grains.columnWidth(GrainCol::Amount), bold.horizontalAdvance(QStringLiteral("8 lbs.")));
@@ -207,7 +207,7 @@ TEST_F(GridTotals, BoldIonsKeepTheirMeaning) {
     EXPECT_FALSE(ion.data(Qt::FontRole).value<QFont>().bold());
 }
 
-// The scroll bar of the columns takes its own room, not that of the only row.
+// The horizontal scroll bar has its own space and does not cover the only row.
 TEST_F(GridTotals, ANarrowGridShowsItsRowAboveItsScrollBar) {
     auto& view = GridAt(Tab::Hops, "gridHops", 1, 0);
     Type("Hallertauer Mittelfrueh from the cellar\r");
@@ -224,7 +224,7 @@ TEST_F(GridTotals, ANarrowGridShowsItsRowAboveItsScrollBar) {
         EXPECT_EQ(Totals(view).geometry().top(), view.geometry().bottom() + 1);
         EXPECT_LE(Totals(view).geometry().bottom(), panel.contentsRect().bottom());
     }
-    // A column that the brewer has dragged wide, too.
+    // The same with a column that the brewer has dragged wide.
     frame.resize(1050, 500);
     view.setColumnWidth(0, 2000);
     QApplication::processEvents();

@@ -1,4 +1,4 @@
-// Editing in the grids: the life of a cell, the keys, rows, check boxes, totals, the calendar.
+// Tests of editing in the grids: cell editors, keys, rows, check boxes, totals, the calendar.
 #include "GuiTest.h"
 #include "document/ui/GridPanel.h"
 
@@ -65,13 +65,13 @@ TEST_F(GridEditing, ARefusedEntryKeepsTheFocusWhenTheMouseLeaves) {
 TEST_F(GridEditing, TabGoesToTheNextCellThatTakesAnEntry) {
     auto& view = GridAt(Tab::Grains, "gridGrain", 1, 2);
     Key(Qt::Key_Tab);
-    // Points are computed: the colour comes next.
+    // The points are calculated, so the colour comes next.
     EXPECT_EQ(view.currentIndex().column(), GrainCol::Color);
     Key(Qt::Key_Backtab);
     EXPECT_EQ(view.currentIndex().column(), GrainCol::Ppg);
     Key(Qt::Key_Tab);
     Key(Qt::Key_Tab);
-    // Behind the last cell the grid lets go.
+    // After the last cell, Tab leaves the grid.
     EXPECT_EQ(Focus(), "txtExtract");
 }
 
@@ -147,7 +147,7 @@ TEST_F(GridEditing, TheNewRowIsTheCurrentOne) {
     Key(Qt::Key_Return);
     EXPECT_EQ(Shown(view, 1, 0), "Rye");
     EXPECT_EQ(Shown(view, 2, 1), "8 lb");
-    // Below it the old row, which Delete takes away.
+    // The current row is now the old one below, and Delete deletes it.
     Key(Qt::Key_Minus, Qt::ControlModifier);
     EXPECT_EQ(Shown(view, 1, 0), "Rye");
     EXPECT_EQ(R().gridGrain.CurrentRow(), 1);
@@ -184,7 +184,7 @@ TEST_F(GridEditing, TotalsAndRowsShareOneCurrentCell) {
     EXPECT_EQ(R().gridGrain.CurrentRow(), 3);
     EXPECT_FALSE(shell.Bar().FindItem("mnuEditDelete")->enabled);
     EXPECT_FALSE(view.Cells().IsCurrentCell(view.currentIndex()));
-    // Back to the cell that was current among the rows, and to the same total again.
+    // A click goes back to the cell that was current among the rows, and then to the same total again.
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(view.currentIndex()).center());
     EXPECT_EQ(R().gridGrain.CurrentRow(), 1);
     EXPECT_TRUE(shell.Bar().FindItem("mnuEditDelete")->enabled);
@@ -217,7 +217,7 @@ TEST_F(GridEditing, TotalsStayBelowInTheSameColumns) {
     EXPECT_EQ(totals.geometry().top(), view.geometry().bottom() + 1);
     view.setColumnWidth(GrainCol::Ppg, 123);
     EXPECT_EQ(totals.columnWidth(GrainCol::Ppg), 123);
-    // Also with more rows than there is room for.
+    // Even with more rows than fit.
     for (int i = 0; i < 60; ++i) Key(Qt::Key_Plus, Qt::ControlModifier);
     QApplication::processEvents();
     EXPECT_LE(totals.geometry().bottom(), totals.parentWidget()->contentsRect().bottom());
@@ -234,7 +234,7 @@ TEST_F(GridEditing, ColorsOfTheSettingsArePaintedAsStored) {
     window.ActiveWindow()->ShowTab(Tab::Water);
     auto& water = Find<GridView>("gridWater");
     const QModelIndex needed = water.Model().index(WaterRow::Needed - 1, WaterCol::FirstIon);
-    // Never chosen: a tint of the palette.
+    // Without a chosen colour: a tint of the palette.
     EXPECT_EQ(needed.data(Qt::BackgroundRole).value<QBrush>().color(),
               CalculatedColors({}, water.palette()).ground);
     EXPECT_TRUE(needed.data(Qt::FontRole).value<QFont>().italic());
@@ -262,7 +262,7 @@ TEST_F(GridEditing, TheCalendarWritesTheDayIntoTheLog) {
     emit calendar.clicked(QDate(2024, 3, 17));
     EXPECT_FALSE(calendar.isVisible());
     EXPECT_EQ(Shown(view, 1, LogCol::Date), "3/17/2024");
-    // A double click opens it at the cell's date.
+    // A double click opens the calendar at the cell's date.
     const QPoint place = view.visualRect(view.currentIndex()).center();
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, place);
@@ -281,7 +281,7 @@ TEST_F(GridEditing, CellsSpeakTheirRowColumnAndValue) {
     EXPECT_EQ(spoken(HopCol::Amount), "Row 1, Amount (oz): empty");
 }
 
-// Three columns of 10, 20 and 30 and 7 for each are 81; of 100, the spare 19 gives each 6.
+// Three columns of 10, 20 and 30, with 7 for each, need 81; of 100, the remaining 19 are 6 for each.
 TEST(FitColumns, SharesTheSpareWidth) {
     EXPECT_EQ(FitColumns({10, 20, 30}, 100), (std::vector<int>{16, 26, 36}));
     EXPECT_EQ(FitColumns({10, 20, 30}, 81), (std::vector<int>{10, 20, 30}));

@@ -1,4 +1,4 @@
-// Runs the tests inside the program's own application object.
+// Runs the tests within the program's own application object.
 #include <QFont>
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// The main window on an empty database in memory with a few catalogue entries, on a platform that records.
+// The main window with a database in memory that contains a few catalogue entries, and a recording platform.
 #pragma once
 
 #include <QtTest/QTest>
@@ -30,12 +30,12 @@ class GuiTest : public testing::Test {
             shell.DB()->Execute(sql);
     }
 
-    // A new recipe in front.
+    // Opens a new recipe, which becomes active.
     RecipeWindow& NewRecipe() {
         EXPECT_TRUE(window.RunCommand(CommandId::FileNew));
         return *window.ActiveWindow();
     }
-    // Shows every tab once, so that all its controls are made.
+    // Shows every tab once, so that all its controls are created.
     void BuildAllTabs() {
         for (int tab = 0; tab < kTabs; ++tab) window.ActiveWindow()->ShowTab(static_cast<Tab>(tab));
     }
@@ -45,7 +45,7 @@ class GuiTest : public testing::Test {
         EXPECT_NE(control, nullptr) << name;
         return *control;
     }
-    // Shows the tab of a grid and gives the grid the focus at a cell.
+    // Shows the tab of a grid and moves the focus to a cell of the grid.
     GridView& GridAt(Tab tab, const char* name, int row, int col) {
         window.ActiveWindow()->ShowTab(tab);
         auto& view = Find<GridView>(name);
@@ -58,7 +58,7 @@ class GuiTest : public testing::Test {
         return FromQt(view.Model().index(row - 1, col).data(Qt::DisplayRole).toString());
     }
 
-    // Keys go where the focus is, as from a keyboard.
+    // Keys go to the widget with the focus, as from a keyboard.
     static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         ASSERT_NE(QApplication::focusWidget(), nullptr);
         QTest::keyClick(QApplication::focusWidget(), key, modifiers);

@@ -1,4 +1,4 @@
-// F1 everywhere, the contents of the help, and the assistant, by keys and by the mouse.
+// Tests of F1 in all windows, the contents of the help and the assistant, with keys and the mouse.
 #include <QDesktopServices>
 #include <QSignalSpy>
 #include <fstream>
@@ -20,7 +20,7 @@
 namespace tw::test {
 namespace {
 
-// A window in front, and keys for what has the focus in it.
+// Shows a window, makes it active and sends keys to its focused widget.
 class HelpWindows : public testing::Test {
   protected:
     static void BringUp(QWidget& window) {
@@ -34,7 +34,7 @@ class HelpWindows : public testing::Test {
         QApplication::processEvents();
     }
 
-    // A button is clicked a moment after its access key.
+    // Presses an access key and waits for the click, which the button delays.
     static void Mnemonic(QAbstractButton& button, Qt::Key key) {
         QSignalSpy clicked(&button, &QAbstractButton::clicked);
         QTest::keyClick(&button, key, Qt::AltModifier);
@@ -116,7 +116,7 @@ class AssistantWindow : public HelpWindows {
   protected:
     void SetUp() override {
         BringUp(window);
-        // Where the test's own pointer stands is not the window's business.
+        // The real pointer may be over a link; the window is to ignore it.
         for (AssistantLinkButton* link : Links()) SendLeave(*link);
     }
     QList<AssistantLinkButton*> Links() { return window.findChildren<AssistantLinkButton*>(); }
@@ -132,7 +132,7 @@ class AssistantWindow : public HelpWindows {
         QEvent event(QEvent::Leave);
         QApplication::sendEvent(&widget, &event);
     }
-    // The names of the links that are highlighted.
+    // Returns the names of the links that are highlighted.
     Strings Highlighted() {
         Strings names;
         for (const AssistantLinkButton* link : Links())
@@ -219,7 +219,7 @@ class HelpKey : public GuiTest {
         const std::string file = std::exchange(browser.opened, {}).back();
         return file.ends_with("/index.html") ? "home" : files.files[file];
     }
-    // What F1 asks for in the window of a model while action runs in it.
+    // Returns what F1 asks for while action runs in the window of a model.
     template <class Action>
     Strings Asked(DialogModel& model, const Action& action) {
         Strings asked;

@@ -1,5 +1,5 @@
-// Nothing is cut, overlaps or is without a name, on light and on dark. The build runs these tests twice, the
-// second time on a display of twice the density with a larger font.
+// Checks that no widget is cut off, overlaps another or has no name, with light and dark colours. The build
+// runs these tests twice, the second time on a display of twice the density with a larger font.
 #include <functional>
 #include <map>
 #include <set>
@@ -55,7 +55,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
     }
     void TearDown() override { QApplication::setPalette(QPalette()); }
 
-    // Each tab, then each dialog.
+    // Visits each tab, then each dialog.
     void ForEachWindow(const std::function<void(QWidget&)>& visit) {
         for (int tab = 0; tab < kTabs; ++tab) {
             window.ActiveWindow()->ShowTab(static_cast<Tab>(tab));
@@ -129,7 +129,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         }
     }
 
-    // The pickers, and what recipes and folders are chosen with.
+    // Visits the pickers and the choosers for recipes and folders.
     void ForEachChooser(const std::function<void(QWidget&)>& visit) {
         for (const CatalogueKind list :
              {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Hop, CatalogueKind::Yeast}) {
@@ -153,7 +153,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         }
     }
 
-    // The dialogs of import and export, for names that are longer than any window.
+    // Visits the dialogs of import and export, with names that are longer than any window.
     void ForEachExchange(const std::function<void(QWidget&)>& visit) {
         const std::string name(1000, 'W');
         ImportExportModel in(shell.Data().tree, true), out(shell.Data().tree, false);
@@ -174,7 +174,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         }
     }
 
-    // Database setup, and the editor of each catalogue, to be filled and to be read.
+    // Visits database setup and the editor of each catalogue, both for a new entry and for an existing one.
     void ForEachEditor(const std::function<void(QWidget&)>& visit) {
         const CatalogueContext context = shell.Catalogue().Context();
         for (const CatalogueKind catalogue : kSetupOrder) {
@@ -195,7 +195,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         }
     }
 
-    // The preview, every page of the report wizard, and the options of reports.
+    // Visits the preview, every page of the report wizard, and the options of reports.
     void ForEachReport(const std::function<void(QWidget&)>& visit) {
         const auto show = [&](QDialog& dialog) {
             dialog.show();
@@ -233,7 +233,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         show(fontWindow);
     }
 
-    // The unit converter with each of its kinds.
+    // Visits the tools, and the unit converter with each of its kinds.
     void ForEachTool(const std::function<void(QWidget&)>& visit) {
         HydrometerModel hydrometer(outside.messages);
         HopUtilisationModel explorer(std::nullopt);
@@ -284,7 +284,7 @@ TEST_P(Layout, NoTextIsWiderThanItsWidget) {
     });
 }
 
-// 1024 by 600, with a frame of the usual size around the window.
+// A screen of 1024 by 600 pixels, less a frame of the usual size around the window.
 TEST_P(Layout, EveryWindowCanBeMadeToFitASmallScreen) {
     if (!qEnvironmentVariableIsEmpty("TUNWRIGHT_TEST_FONT_SCALE")) GTEST_SKIP() << "for the usual font";
     ForEachWindow([](QWidget& top) {
@@ -330,7 +330,7 @@ TEST_P(Layout, EveryControlHasAnAccessibleName) {
                 qobject_cast<QPlainTextEdit*>(widget) || qobject_cast<QTabWidget*>(widget) ||
                 qobject_cast<QListView*>(widget) || qobject_cast<QSlider*>(widget) ||
                 QLatin1String(widget->metaObject()->className()).startsWith(QLatin1String("tw::"));
-            // Qt's own parts of a calendar, a list or the frame name themselves.
+            // The parts of a calendar, a list or a frame that Qt creates have names of their own.
             const QString name = widget->objectName();
             if (!isControl || name.startsWith(QLatin1String("qt_")) || !widget->isVisible()) continue;
             QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);

@@ -1,4 +1,4 @@
-// Lists, trees, the picker and the choosers as widgets.
+// Tests of lists, trees, the picker and the choosers as widgets.
 #include "GuiTest.h"
 #include "document/ui/ListField.h"
 #include "platform/qt/Appearance.h"
@@ -136,7 +136,7 @@ TEST_F(ListWidget, TheColumnsFillItsWidth) {
     EXPECT_EQ(pane.columnWidth(0) + pane.columnWidth(1), pane.viewport()->width());
 }
 
-// Three texts as wide as they come, and a figure behind them.
+// Columns of texts, some very long, followed by a figure.
 TEST_F(ListWidget, LongTextsGiveWayToTheFigures) {
     const int digits = DigitsWidth(pane, 40), least = DigitsWidth(pane, 16);
     list.SetColumns({{"Name"}, {"One"}, {"Two"}, {"Size", ListColumnKind::Number}});
@@ -144,17 +144,17 @@ TEST_F(ListWidget, LongTextsGiveWayToTheFigures) {
     row.cells = {"Short", std::string(90, 'x'), std::string(90, 'x'), "1.050-1.060"};
     list.SetRows({row});
     const int name = pane.columnWidth(0), figure = pane.columnWidth(3);
-    // Wide enough: a long text ends at its limit, the name takes the rest.
+    // Wide enough: a long text is cut at its limit, and the name gets the remaining width.
     pane.resize(pane.WantedWidth() + 50, 300);
     EXPECT_EQ(pane.columnWidth(1), digits);
     EXPECT_EQ(pane.header()->length(), pane.viewport()->width());
-    // Narrower: both give up as much, the figure nothing.
+    // Narrower: both long texts lose the same width, the figure none.
     pane.resize(name + figure + digits + least, 300);
     EXPECT_EQ(pane.header()->length(), pane.viewport()->width());
     EXPECT_NEAR(pane.columnWidth(1), pane.columnWidth(2), 1);
     EXPECT_LT(pane.columnWidth(1), digits);
     EXPECT_EQ(pane.columnWidth(3), figure);
-    // Too narrow for all of them: there is a scroll bar anyway.
+    // Too narrow for all columns: there is a scroll bar anyway, so nothing is narrowed.
     pane.resize(figure + least, 300);
     EXPECT_EQ(pane.columnWidth(1), digits);
     EXPECT_EQ(pane.columnWidth(3), figure);
@@ -184,7 +184,8 @@ class Choosers : public GuiTest {
               "INSERT INTO YEAST (NAME, DESCR, AA_LO, AA_HI) VALUES ('Ale 1', 'Clean', 70, 80)"})
             shell.DB()->Execute(sql);
     }
-    // The next picker: what it starts on is noted, then lvItems and the button are worked.
+    // Answers the next picker: records its title and selection, selects an entry of lvItems
+    // and presses the button.
     void Answer(const std::string& name, const std::string& button = "cmdOK") {
         outside.dialogs.scripts.push_back([this, name, button](DialogModel& dialog) {
             auto& picker = dynamic_cast<CataloguePickerModel&>(dialog);

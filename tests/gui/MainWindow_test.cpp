@@ -1,4 +1,4 @@
-// The main window: its menus and toolbar, its place on the screen, its documents, its end.
+// Tests of the main window: menus and toolbar, its position on the screen, its documents, closing it.
 #include "GuiTest.h"
 #include "platform/qt/QtDialogs.h"
 #include "shell/AboutModel.h"
@@ -10,7 +10,7 @@
 namespace tw::test {
 namespace {
 
-// A drawing that Qt cannot read leaves its picture empty.
+// True if the picture has an opaque pixel. A drawing that Qt cannot read leaves it empty.
 bool HasInk(const QImage& picture) {
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)
@@ -59,7 +59,7 @@ TEST_F(MainWindow, EveryToolbarButtonHasAPictureAndItsKeyInTheTip) {
     EXPECT_EQ(Action("tbToolBar(Insert)").toolTip(), QStringLiteral("Insert Row"));
 }
 
-// It does not ask for the printer, as Ctrl+P does.
+// The button does not ask for the printer as Ctrl+P does, so it does not show that key.
 TEST_F(MainWindow, ThePrintButtonSaysWhatItDoesAndNotTheKeyOfTheMenu) {
     EXPECT_EQ(Action("tbToolBar(Print)").toolTip(), QStringLiteral("Print"));
     EXPECT_EQ(FromQt(Action("tbToolBar(Print)").statusTip()),
@@ -94,7 +94,7 @@ TEST_F(MainWindow, ListsTheOpenRecipesInTheWindowMenu) {
     NewRecipe();
     auto* menu = window.findChild<QMenu*>(QStringLiteral("mnuWindow"));
     emit menu->aboutToShow();
-    emit menu->aboutToShow();  // a second opening lists each once
+    emit menu->aboutToShow();  // a second opening does not list them twice
     QStringList titles;
     for (const QAction* action : menu->actions())
         if (action->isCheckable()) titles << action->text();
@@ -150,7 +150,7 @@ TEST_F(MainWindow, RemembersWhetherRecipesAreMaximized) {
     NewRecipe();
     window.ActiveWindow()->parentWidget()->showMaximized();
     EXPECT_EQ(shell.CurrentSettings().childState, 2);
-    // A minimised one is never remembered.
+    // The minimised state is never stored.
     window.ActiveWindow()->parentWidget()->showMinimized();
     EXPECT_EQ(shell.CurrentSettings().childState, 2);
     window.ActiveWindow()->parentWidget()->showNormal();
@@ -181,7 +181,7 @@ TEST(MainGeometry, ComesFromTwipsAndStaysOnTheScreen) {
     Settings settings;
     settings.mainLeft = 1500, settings.mainTop = 750, settings.mainWidth = 7500, settings.mainHeight = 6000;
     EXPECT_EQ(GeometryOf(settings, 96, {100, 100}, screen), QRect(100, 50, 500, 400));
-    // Never smaller than the least size, never beyond an edge, never larger than the screen.
+    // Never smaller than the minimum size, beyond an edge of the screen or larger than the screen.
     EXPECT_EQ(GeometryOf(settings, 96, {600, 100}, screen), QRect(100, 50, 600, 400));
     settings.mainLeft = 90000;
     EXPECT_EQ(GeometryOf(settings, 96, {100, 100}, screen), QRect(500, 50, 500, 400));
@@ -191,7 +191,7 @@ TEST(MainGeometry, ComesFromTwipsAndStaysOnTheScreen) {
 
 TEST_F(MainWindow, ShowsAnErrorThatNoRoutineTraps) {
     NewRecipe();
-    // A store that fails at its next statement, from inside an event handler.
+    // The store fails at its next statement, which an event handler runs.
     shell.DB()->SetStatementHook([](std::string_view) { throw Error("Store", "the disk is gone", 3024); });
     window.ActiveWindow()->ShowTab(Tab::Grains);
     Type("x");

@@ -1,4 +1,5 @@
-// Boxes and tips: what Enter does, and names that are longer than a screen or look like markup.
+// Tests of message boxes and tool tips: what Enter does, and names that are longer than a
+// screen or look like markup.
 #include <QMessageBox>
 #include <QTimer>
 
@@ -9,7 +10,7 @@
 namespace tw {
 namespace {
 
-// Presses Enter in the box that comes up next; its text goes into shown.
+// Presses Enter in the next message box and stores its text in shown.
 void EnterInBox(QString& shown) {
     QTimer::singleShot(0, qApp, [&shown] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

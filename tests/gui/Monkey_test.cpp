@@ -1,6 +1,6 @@
-// A monkey at the keyboard and the mouse: random keys, clicks and commands on the real windows. Nothing may
-// crash or hang, and what is shown must be what the recipes hold. TUNWRIGHT_MONKEY_EVENTS and
-// TUNWRIGHT_MONKEY_SEED set how many events there are and which ones.
+// Sends random keys, clicks and commands to the real windows. Nothing may crash or hang, and the windows must
+// show what the recipes contain. TUNWRIGHT_MONKEY_EVENTS and TUNWRIGHT_MONKEY_SEED set the number of events
+// and the seed of the random generator.
 #include <random>
 
 #include "GuiTest.h"
@@ -26,7 +26,7 @@ const auto& Any(Random& random, const List& list) {
     return list[static_cast<std::size_t>(Below(random, static_cast<int>(std::size(list))))];
 }
 
-// The program's own boxes, with their event loops, closed by any of their buttons.
+// Shows the program's real message boxes, with their event loops, and closes them by any of their buttons.
 class HastyMessages final : public MessagePort {
   public:
     explicit HastyMessages(Random& random) : random_(random) {}
@@ -111,8 +111,8 @@ class Monkey : public testing::Test {
         "5 gal", "8 lb", "1 oz", "60", "1.010",  "68 F", "much",  "pale",          "-1",           "0", "12%",
         "ale",   "x",    "'\"&", "2",  "30 IBU", "1e9",  "stout", "9999999999999", "pitched yeast"};
 
-    // What a desktop does: the window behind a box or popup that has gone is in front again. A popup does not
-    // stay for long.
+    // Acts as a desktop: after a message box or popup has closed, the window behind it becomes active
+    // again. Popups close soon.
     void ComeBack() {
         QWidget* popup = QApplication::activePopupWidget();
         if (popup && Below(random_, 4) == 0) popup->close();
@@ -172,12 +172,12 @@ class Monkey : public testing::Test {
 void Monkey::CheckGrid(const GridView& view, const Grid& grid) {
     ASSERT_EQ(view.Model().rowCount(), grid.DataRows()) << grid.Name();
     if (grid.IsDataRow(grid.CurrentRow()) && view.currentIndex().isValid()) {
-        // Qt's current cell is the end of the block that moves, the record's the block's first one.
+        // Qt's current cell is the moving end of the block, the record's current cell is its first one.
         const GridRange block = grid.Selection();
         const int row = view.currentIndex().row() + Grid::FixedRows(), col = view.currentIndex().column();
         EXPECT_TRUE(row >= block.row1 && row <= block.row2 && col >= block.col1 && col <= block.col2)
             << grid.Name() << " " << row << " " << col;
-        // A single cell has its frame; it need not be selected too.
+        // A single cell has a frame and need not be selected as well.
         const auto cells = block.Cols() * (std::min(block.row2, grid.EndOfData() - 1) - block.row1 + 1);
         if (cells > 1) {
             EXPECT_EQ(view.selectionModel()->selectedIndexes().size(), cells) << grid.Name();
@@ -239,7 +239,7 @@ void Monkey::Check() {
             window_.findChild<QAction*>(QStringLiteral("tbToolBar(%1)").arg(ToQt(button.key)));
         EXPECT_EQ(action->isEnabled(), button.enabled) << button.key;
     }
-    // Qt counts no recipe's window as active while the main window is not.
+    // Qt regards no recipe's window as active while the main window is not active.
     if (shell_.Documents().Active() && window_.isActiveWindow()) {
         ASSERT_NE(area->activeSubWindow(), nullptr);
         EXPECT_EQ(window_.ActiveWindow(), area->activeSubWindow()->widget());

@@ -1,4 +1,4 @@
-// The open and save dialog by keyboard and mouse.
+// Tests of the open and save dialog with keyboard and mouse.
 #include "BrowseTest.h"
 #include "shell/ui/OpenSaveDialog.h"
 
@@ -220,7 +220,7 @@ TEST_F(OpenSaveWindow, AnEmptyListSaysWhatToDo) {
     Open(Style::Save, "First");
     EXPECT_EQ(Rows(List()), Strings{});
     EXPECT_EQ(model->List().Hint().substr(0, 8), "There is");
-    // The hint is painted where rows would stand.
+    // The hint is painted in the place of the rows.
     QImage picture(List().viewport()->size(), QImage::Format_RGB32);
     List().viewport()->render(&picture);
     const QColor ground = List().palette().color(QPalette::Base);

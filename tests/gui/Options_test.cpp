@@ -1,4 +1,4 @@
-// The options dialog under the hands of a brewer, and what acts at once.
+// Tests of the options dialog as a brewer uses it, and of the options that take effect at once.
 #include <QtTest/QSignalSpy>
 
 #include "GuiTest.h"
@@ -45,7 +45,7 @@ class OptionsWindow : public GuiTest {
     QTabWidget& Tabs() { return *dialog->findChild<QTabWidget*>(); }
     std::string Field(const char* name) { return FromQt(In<QLineEdit>(name).text()); }
     static void Mnemonic(QWidget& widget, Qt::Key key) { QTest::keyClick(&widget, key, Qt::AltModifier); }
-    // A button is clicked a moment after its key.
+    // Presses an access key and waits for the click, which the button delays.
     void MnemonicOf(QAbstractButton& button, Qt::Key key) {
         QSignalSpy clicked(&button, &QAbstractButton::clicked);
         Mnemonic(*dialog, key);
@@ -176,13 +176,13 @@ TEST_F(OptionsWindow, AColorShowsAtOnceAndActsWithOk) {
     auto& picture = In<ColorButton>("picSumBackground");
     colors.answer = QColor(1, 2, 3);
     picture.click();
-    // Not chosen yet: it shows what the grids show.
+    // No colour is chosen yet, so the button shows the colour of the grids.
     const QColor tint = TotalColors({}, dialog->palette()).ground;
     EXPECT_EQ(colors.asked, Strings{"Total Background " + FromQt(tint.name())});
     EXPECT_EQ(picture.Shown(), QColor(1, 2, 3));
     EXPECT_EQ(In<QLabel>("lblSum").palette().color(QPalette::Window), QColor(1, 2, 3));
     EXPECT_EQ(shell.CurrentSettings().gridTotalBg, std::nullopt);
-    // Cancelled: nothing changes.
+    // Cancelling changes nothing.
     colors.answer.reset();
     picture.click();
     EXPECT_EQ(picture.Shown(), QColor(1, 2, 3));
@@ -282,7 +282,7 @@ TEST_F(OptionsWindow, LooksOfTheToolbarChangeLive) {
     }
 }
 
-// The painter is the caller's: it must not be left half transparent.
+// The painter belongs to the caller and must not stay half transparent.
 TEST(Icons, AGreyedTwinLeavesThePainterAsItWas) {
     QImage picture(24, 24, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);

@@ -1,4 +1,4 @@
-// Commands from other programs at the real main window.
+// Tests of commands from other programs with the real main window.
 #include "GuiTest.h"
 
 namespace tw::test {
@@ -7,9 +7,9 @@ namespace {
 class OutsideCommands : public GuiTest {
   protected:
     QTimer& Timer() { return *window.findChild<QTimer*>(QStringLiteral("tmrProcessDDE")); }
-    // A tick of the timer, now.
+    // Makes the timer tick now.
     void Tick() { QMetaObject::invokeMethod(&Timer(), "timeout", Qt::DirectConnection); }
-    // A command whose one effect is a box, and that box.
+    // Receives a command whose only effect is the message box below.
     void Receive() { shell.DDE().Receive(ChannelMessage::Commands, "[import(\"/no/a.twr\")]"); }
     const std::string box =
         "[Invalid Import File] An error occurred trying to import a file:\r\n  /NO/A.TWR\r\nThis file could "

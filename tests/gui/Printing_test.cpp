@@ -1,4 +1,4 @@
-// The print preview, the report windows and PDF files, with real windows.
+// Tests of the print preview, the report windows and PDF files, with real windows.
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPrintDialog>
@@ -26,7 +26,7 @@
 namespace tw::test {
 namespace {
 
-// Gives one colour to whoever asks.
+// Answers every choice with the same colour.
 class OneColor final : public ColorChooser {
   public:
     std::optional<QColor> Choose(const QColor&, const QString&, QWidget*) override { return color; }
@@ -36,7 +36,7 @@ class OneColor final : public ColorChooser {
 void Click(QWidget& window, const char* button) {
     auto* found = window.findChild<QAbstractButton*>(QLatin1String(button));
     ASSERT_NE(found, nullptr) << button;
-    // A check box takes clicks on its caption alone, which may be shorter than its place.
+    // A check box accepts clicks only on its box and caption, which may be narrower than the widget.
     QTest::mouseClick(found, Qt::LeftButton, {}, QPoint(8, found->height() / 2));
 }
 
@@ -44,7 +44,7 @@ bool IsOn(QWidget& window, const char* button) {
     return window.findChild<QAbstractButton*>(QLatin1String(button))->isEnabled();
 }
 
-// A recipe of so many hop additions.
+// Fills a recipe with hop additions.
 void FillHops(RecipeRecord& recipe, int rows) {
     recipe.txtName.SetText("Sixty Hops");
     for (int i = 0; i < rows; ++i) {
@@ -117,7 +117,7 @@ TEST_F(PreviewTest, ButtonsAtTheEndsAreOff) {
     Click(window, "cmdLast");
     EXPECT_FALSE(IsOn(window, "cmdNext"));
     EXPECT_TRUE(IsOn(window, "cmdFirst"));
-    // The keys stay with the pages when a button has gone off under the mouse.
+    // After a button has been disabled under the mouse, keys go to the pages.
     EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("PreviewArea"));
 }
 

@@ -1,4 +1,4 @@
-// The window of an operation on many objects.
+// Tests of the progress window of an operation on many objects.
 #include "GuiTest.h"
 #include "platform/Error.h"
 #include "tree/ui/ProgressDialog.h"
@@ -14,7 +14,7 @@ TEST_F(ProgressWindow, ShortWorkShowsTheHourglassAlone) {
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
         ASSERT_NE(QApplication::overrideCursor(), nullptr);
         EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-        // A question stands in front of it.
+        // A question is shown in front of the window.
         progress.SetBusy(false);
         EXPECT_EQ(QApplication::overrideCursor(), nullptr);
         progress.SetBusy(true);
@@ -56,7 +56,7 @@ TEST_F(ProgressWindow, AnErrorInTheWorkGivesThePointerBack) {
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-// A click waits in line until the window lets events in, which it does between two objects.
+// A click waits in the queue until the window processes events, which it does between two objects.
 TEST_F(ProgressWindow, StopsBetweenTwoObjects) {
     class Windows final : public DialogPort {
       public:

@@ -1,4 +1,4 @@
-// Keys that work wherever the focus is in a recipe, and what Escape, Delete and leaving a box do.
+// Tests of the keys that work wherever the focus is in a recipe, and of Escape, Delete and leaving a box.
 #include "GuiTest.h"
 
 namespace tw::test {
@@ -12,7 +12,7 @@ class RecipeKeys : public GuiTest {
     }
     RecipeRecord& R() { return shell.Documents().Active()->Record(); }
     Tab Front() { return static_cast<Tab>(Find<QTabWidget>("SSTab1").currentIndex()); }
-    // Every control of the front tab that takes the focus by key, and the bar of the tabs.
+    // Returns every control of the current tab that gets the focus by Tab, and the tab bar.
     std::vector<QWidget*> Controls() {
         std::vector<QWidget*> found{Find<QTabWidget>("SSTab1").tabBar()};
         const auto& pages = Find<QTabWidget>("SSTab1");
@@ -62,7 +62,7 @@ TEST_F(RecipeKeys, AltAndADigitGoToATab) {
         EXPECT_EQ(Front(), static_cast<Tab>(tab));
         EXPECT_EQ(Focus(), first[static_cast<std::size_t>(tab)]);
     }
-    // A refused entry keeps the tab.
+    // A refused entry keeps the current tab.
     Key(Qt::Key_1, Qt::AltModifier);
     Find<QLineEdit>("txtBoilVol").setFocus();
     Type("much");
@@ -104,7 +104,7 @@ TEST_F(RecipeKeys, EscapeRestoresTheNotesAsTheyWereLastLeft) {
     window.ActiveWindow()->ShowTab(Tab::Notes);
     notes.moveCursor(QTextCursor::End);
     Type("!");
-    // A menu that comes and goes is no leaving.
+    // Opening and closing a menu does not leave the box.
     QMenu& menu = *window.findChild<QMenu*>(QStringLiteral("mnuEdit"));
     menu.popup(QPoint(0, 0));
     menu.close();
@@ -123,7 +123,7 @@ TEST_F(RecipeKeys, DeleteTakesTheNextLetterOrTheSelection) {
     notes.moveCursor(QTextCursor::Start);
     Key(Qt::Key_Delete);
     EXPECT_EQ(R().txtNotes.Text(), "ry hops");
-    // The key of the number pad is the same.
+    // The key of the number pad does the same.
     Key(Qt::Key_End, Qt::ShiftModifier);
     Key(Qt::Key_Delete, Qt::KeypadModifier);
     EXPECT_EQ(R().txtNotes.Text(), "");
@@ -149,7 +149,7 @@ TEST_F(RecipeKeys, AMenuSettlesTheStyleThatIsBeingTyped) {
         EXPECT_EQ(shell.Documents().Active()->BeerStyle(), style);
         menu.close();
     }
-    // By key, with the list of matches open.
+    // The menu is opened by key while the list of matches is open.
     styles.setFocus();
     styles.lineEdit()->selectAll();
     Type("o");
@@ -159,7 +159,7 @@ TEST_F(RecipeKeys, AMenuSettlesTheStyleThatIsBeingTyped) {
     EXPECT_FALSE(styles.completer()->popup()->isVisible());
     EXPECT_EQ(FromQt(styles.currentText()), "(None)");
     menu.close();
-    // Into the bar of the menus, and from there to another box.
+    // The focus moves to the menu bar, and from there to another box.
     styles.setFocus();
     styles.lineEdit()->selectAll();
     Type("tou");
@@ -168,7 +168,7 @@ TEST_F(RecipeKeys, AMenuSettlesTheStyleThatIsBeingTyped) {
     EXPECT_EQ(FromQt(styles.currentText()), "Stout");
 }
 
-// The focus goes to a menu, which leaves the box open, and then elsewhere.
+// The focus moves to a menu, which does not leave the box, and then to another box, which does.
 TEST_F(RecipeKeys, ABoxIsLeftOverAMenuToo) {
     auto& volume = Find<QLineEdit>("txtBoilVol");
     volume.setFocus();
@@ -177,7 +177,7 @@ TEST_F(RecipeKeys, ABoxIsLeftOverAMenuToo) {
     EXPECT_DOUBLE_EQ(R().txtBoilVol.Value(), 0);
     Find<QPushButton>("cmdBrowseStyles").setFocus();
     EXPECT_DOUBLE_EQ(R().txtBoilVol.Value(), 6);
-    // The same with an entry that is refused.
+    // The same path with an entry that is refused.
     volume.setFocus();
     volume.selectAll();
     Type("much");

@@ -1,4 +1,4 @@
-// The treatment's button and the scaling dialogs under the hands of a brewer.
+// Tests of the water treatment's button and the scaling dialogs as a brewer uses them.
 #include <QtTest/QSignalSpy>
 
 #include "GuiTest.h"
@@ -27,7 +27,7 @@ class ScalingWindows : public GuiTest {
         shell.CurrentSettings().askBeforeNonUndoableChange = false;
     }
     RecipeRecord& R() { return shell.Documents().Active()->Record(); }
-    // The next dialog is shown in its window and worked by that.
+    // Shows the next dialog in its real window and calls work with it.
     void Work(std::function<void(ScalingDialog&)> work) {
         outside.dialogs.scripts.push_back([work = std::move(work)](DialogModel& model) {
             ScalingDialog dialog(dynamic_cast<ScalingModel&>(model), nullptr);
@@ -45,7 +45,7 @@ class ScalingWindows : public GuiTest {
         EXPECT_NE(control, nullptr) << name;
         return *control;
     }
-    // A button is clicked a moment after its key.
+    // Presses an access key and waits for the click, which the button delays.
     static void Mnemonic(QAbstractButton& button, Qt::Key key) {
         QSignalSpy clicked(&button, &QAbstractButton::clicked);
         QTest::keyClick(&button, key, Qt::AltModifier);
@@ -69,7 +69,7 @@ TEST_F(ScalingWindows, ResizeIsWorkedByKeysAlone) {
     EXPECT_EQ(Text("txtTotalVol"), "10 gal");
     EXPECT_EQ(Text("txtBoilVol"), "12 gal.");
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Amount), "20 lbs.");
-    // The hops of 40 IBUs go back to 20.
+    // The hops of 40 IBUs are scaled to 20 IBUs.
     EXPECT_EQ(R().gridHops.Text(1, HopCol::Amount), "20 IBUs");
 }
 
@@ -190,7 +190,7 @@ TEST_F(ScalingWindows, TheTreatmentIsAButtonAndOneUndo) {
     Type("60");
     Key(Qt::Key_Return);
     water.setCurrentIndex(water.Model().index(WaterRow::Target - 1, WaterCol::FirstIon + 5));
-    // The entry that is still open counts too.
+    // The entry that is still being typed counts as well.
     Type("150");
     auto& button = Find<QPushButton>("cmdCalcTreatment");
     EXPECT_TRUE(button.isEnabled());

@@ -1,4 +1,4 @@
-// The tools under the hands of a brewer: keys, focus, boxes, and pictures that follow.
+// Tests of the tools as a brewer uses them: keys, focus, message boxes, and pictures that are updated.
 #include "GuiTest.h"
 #include "platform/qt/Appearance.h"
 #include "tools/ui/ColorScaleDialog.h"
@@ -13,7 +13,7 @@ namespace {
 
 const std::string kNoNumber = "[Error] Invalid numeric value!";
 
-// One tool's window in front.
+// Shows the window of one tool.
 template <class Model, class Window>
 class ToolTest : public testing::Test {
   protected:
@@ -131,7 +131,7 @@ TEST_F(ConverterWindow, ABeginningOfANumberHasItsBoxOnlyAsItIsLeft) {
         Retype("5");
         Retype(beginning);
         EXPECT_EQ(messages.log, Strings{}) << beginning;
-        // As it was for the figure before, 5 pounds.
+        // Still the result for the previous figure, 5 pounds.
         EXPECT_EQ(FromQt(In<QLineEdit>("Text2").text()), "80") << beginning;
     }
     Retype("-");
@@ -227,7 +227,7 @@ TEST_F(HydrometerWindow, ARefusedCalibrationTakesTheFocusBackAfterTabAndEnter) {
     }
 }
 
-// The reading is looked at once there is a temperature, and gets the focus from where the brewer has gone.
+// The reading is checked only once there is a temperature; an error then moves the focus back to it.
 TEST_F(HydrometerWindow, ABadReadingTakesTheFocusBackWithTheTemperature) {
     Type("heavy");
     Key(Qt::Key_Tab);
@@ -310,12 +310,12 @@ TEST_F(HopUtilWindow, FiguresFollowTheBoilTime) {
               QStringLiteral("At 0 minutes, Tinseth 0.0%, Rager 0.0%, Garetz 0.0%"));
     const GraphArea area = graph.Area();
     QTest::mouseClick(&graph, Qt::LeftButton, {}, QPoint(area.TimeToX(30), area.top + 5));
-    // Garetz has 11 percent after half an hour.
+    // According to Garetz, the utilisation is 11 percent after half an hour.
     EXPECT_EQ(LabelText("lblFigure(2)"), "11.0%");
 }
 
-// Each curve's colour is found where the curve runs, and so is the ground between its dashes for the two that
-// are broken.
+// The colour of each curve is found along the curve; for the two dashed curves, so is the
+// background between the dashes.
 TEST_F(HopUtilWindow, CurvesAreToldApartByLineToo) {
     for (const bool dark : {false, true}) {
         QApplication::setPalette(dark ? DarkPalette() : LightPalette());
@@ -326,7 +326,7 @@ TEST_F(HopUtilWindow, CurvesAreToldApartByLineToo) {
         for (int method = 0; method < kMethods; ++method) {
             const Curve curve = model->Curves()[static_cast<std::size_t>(method)];
             int gaps = 0;
-            // Between the marks of 45 and 60 minutes, away from the upright line.
+            // Between the marks of 45 and 60 minutes, away from the vertical line.
             for (int x = area.TimeToX(47); x < area.TimeToX(58); ++x) {
                 bool inked = false;
                 const double minutes = 90.0 * (x - area.left) / area.width;
@@ -369,7 +369,7 @@ int Distance(const QColor& a, const QColor& b) {
         {std::abs(a.red() - b.red()), std::abs(a.green() - b.green()), std::abs(a.blue() - b.blue())});
 }
 
-// A pixel is up to 3 HCU of the steepest scale off its mark.
+// A pixel of the steepest scale is up to 3 HCU away from its mark.
 TEST_F(ColorWindow, EveryMarkStandsBesideItsColor) {
     auto& view = In<ColorScaleView>("Image1");
     for (int i = 0; i < kColorScales; ++i) {

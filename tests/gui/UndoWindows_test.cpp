@@ -1,5 +1,5 @@
-// Random edits by keyboard and mouse in the real windows, and random steps back and forth between them: the
-// recipe must be what it was at each point of its history, and the windows must show it.
+// Makes random edits by keyboard and mouse in the real windows, and random undo and redo steps between them.
+// At each point of its history the recipe must be what it was there, and the windows must show it.
 #include <optional>
 #include <random>
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kSteps = 250;
 
-// A grid with the tab that it stands on; sortable ones take rows too.
+// A grid and its tab. In sortable grids, rows can also be inserted and deleted.
 struct GridPlace {
     Tab tab;
     const char* name;
@@ -21,11 +21,12 @@ constexpr GridPlace kGrids[] = {
     {Tab::Water, "gridWater"},          {Tab::Water, "gridTreatment"},   {Tab::Carbonation, "gridPriming"},
     {Tab::Carbonation, "gridPressure"}, {Tab::Adjuncts, "gridAdjuncts"}, {Tab::Log, "gridLog"},
 };
-// What every text box takes: a refused entry would come back to stay with the undo of its abort.
+// Entries that every text box accepts. Cancelling a refused entry is a step of the history, and undoing that
+// step would bring the entry back for good.
 constexpr const char* kFieldEntries[] = {"1.01", "1.02", "1.2"};
 constexpr const char* kEntries[] = {"8 lb", "2", "60", "Pale Malt", "Foo", "1 oz", "12%", "30 IBU", "x"};
 
-// The rows of a grid as text: each cell with the number behind it.
+// Returns the rows of a grid as text: each cell with its stored number.
 std::string Lines(const RecipeSnapshot::Rows& grid) {
     std::string lines;
     for (const auto& row : grid.rows) {
@@ -53,8 +54,8 @@ class UndoWindows : public GuiTest, public testing::WithParamInterface<unsigned>
     RecipeDocument& Document() { return *shell.Documents().Active(); }
     std::size_t Position() { return Document().History().StackPosition(); }
 
-    // What counts of a recipe at a point of its history: all that is shown, and the numbers behind it. The
-    // rows "Treatment Needed" and "Treatment Totals" are blank until they are first worked out.
+    // Returns the state of a recipe at a point of its history: all that is shown, and the stored numbers. The
+    // rows "Treatment Needed" and "Treatment Totals" are blank until they are first calculated.
     RecipeSnapshot State() {
         RecipeSnapshot state = Document().Storage().TakeSnapshot();
         for (RecipeSnapshot::Rows& rows : state.grids) {
@@ -154,11 +155,11 @@ class UndoWindows : public GuiTest, public testing::WithParamInterface<unsigned>
         else
             Choose();
         ASSERT_TRUE(window.ActiveWindow()->Flush());
-        // An edit that recorded something has cut what could be redone; nothing else did.
+        // Only an edit that recorded something has discarded the steps that could be redone.
         if (Position() == from && Document().History().StackTop() == top && Document().History().CanRedo())
             return;
         points_.resize(std::min(points_.size(), from + 1));
-        // Typing may have joined the last edit before a cut made the next one.
+        // Typing may have been merged with the previous edit before a cut made the next one.
         if (kind == 8) points_[from].reset();
         Remember();
     }
@@ -171,7 +172,7 @@ class UndoWindows : public GuiTest, public testing::WithParamInterface<unsigned>
     }
     void Compare();
 
-    // The state at each position of the history; unknown in the middle of an edit that made several.
+    // The state at each position of the history; none in the middle of an edit that recorded several steps.
     std::vector<std::optional<RecipeSnapshot>> points_;
 
   private:

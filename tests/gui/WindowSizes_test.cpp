@@ -1,4 +1,4 @@
-// Windows come up within the screen, in their first size and in one that was kept.
+// Tests that windows appear within the screen, both in their first size and in a stored size.
 #include <QScreen>
 
 #include "GuiTest.h"
@@ -11,7 +11,7 @@
 namespace tw::test {
 namespace {
 
-// Asks for that size and can do with less.
+// Asks for that size but can be smaller.
 class Contents : public QWidget {
   public:
     Contents(const QSize& wanted, QWidget* parent) : QWidget(parent), wanted_(wanted) {}
@@ -23,7 +23,8 @@ class Contents : public QWidget {
 
 class WindowSizes : public GuiTest {
   protected:
-    // The size in which the dialog comes up that prepare has made ready; it is left in the size left, if any.
+    // Prepares and shows a dialog and returns its size. The dialog is resized to left, if
+    // valid, before it closes.
     QSize Opened(const std::function<void(QDialog&)>& prepare, const QSize& left = {}) {
         QtDialogs dialogs(outside.settings);
         QSize opened;
@@ -56,7 +57,7 @@ TEST_F(WindowSizes, TheFrameOfAWindowNeedsRoomToo) {
     ASSERT_FALSE(frame.isNull());
     EXPECT_EQ(RoomOf(window), QRect(free.topLeft(), free.size() - QSize(frame.left() + frame.right(),
                                                                         frame.top() + frame.bottom())));
-    // Before there is a window, one of the usual size.
+    // Before there is a window, a window of the usual size.
     window.hide();
     EXPECT_EQ(RoomOf(window), QRect(free.topLeft(), free.size() - QSize(10, 40)));
 }
@@ -67,7 +68,7 @@ TEST_F(WindowSizes, AFirstSizeIsNoLargerThanTheScreen) {
     EXPECT_EQ(Opened(QSize(5000, 4000)), RoomOf(window).size());
 }
 
-// Two thirds of the screen, where Qt stops, is less than they ask for.
+// Qt limits dialogs to two thirds of the screen, which is less than these contents ask for.
 TEST_F(WindowSizes, ADialogIsAsLargeAsItsContentsAsk) {
     const auto fill = [](QDialog& dialog) {
         auto* column = new QVBoxLayout(&dialog);
@@ -81,7 +82,7 @@ TEST_F(WindowSizes, ADialogIsAsLargeAsItsContentsAsk) {
 TEST_F(WindowSizes, AKeptSizeIsNoLargerThanTheScreen) {
     outside.settings.Write(SettingsPort::Layer::User, "Windows", "frmAbout", "90000x90000");
     EXPECT_EQ(Opened(QSize(300, 200)), RoomOf(window).size());
-    // It is still the one to take on a larger screen.
+    // The stored size still applies on a larger screen.
     EXPECT_EQ(Kept(), "90000x90000");
     outside.settings.Write(SettingsPort::Layer::User, "Windows", "frmAbout", "wide");
     EXPECT_EQ(Opened(QSize(300, 200)), QSize(300, 200));

@@ -1,4 +1,4 @@
-// A process that is killed in the middle of its work, as by a loss of power.
+// Runs code in a process that is killed in the middle of its work, as by a power failure.
 #pragma once
 
 #include <csignal>
@@ -10,8 +10,8 @@
 
 namespace tw::test {
 
-// Runs action in a child process that the action itself kills; false when it came to its end alive, be it by
-// an error.
+// Runs action in a child process, which action kills. Returns false if the child process ends in any other
+// way, even with an error.
 template <typename Action>
 bool DiesIn(Action action) {
     const pid_t child = fork();
@@ -29,7 +29,7 @@ bool DiesIn(Action action) {
     return WIFSIGNALED(status);
 }
 
-// Kills this process before the statement of that number, counted from 0 from now on.
+// Kills this process before a statement, counted from 0 from this call on.
 inline void DieAt(Database& database, int statement) {
     database.SetStatementHook([count = 0, statement](std::string_view) mutable {
         if (count++ == statement) raise(SIGKILL);

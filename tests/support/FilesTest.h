@@ -1,4 +1,4 @@
-// A test that works in a folder of its own.
+// A test with a temporary folder.
 #pragma once
 
 #include <filesystem>
@@ -37,7 +37,7 @@ class FilesTest : public testing::Test {
         bytes << file.rdbuf();
         return bytes.str();
     }
-    // The permission bits.
+    // Returns the permission bits of a file.
     unsigned Mode(const std::string& name) const {
         struct stat status {};
         EXPECT_EQ(stat(File(name).c_str(), &status), 0) << name;

@@ -1,4 +1,5 @@
-// Recipes whose every text is far too long for paper, and the rule that no printed text may break.
+// Recipes in which every text is much too long for the paper, and the check that no printed
+// text leaves its place.
 #pragma once
 
 #include <algorithm>
@@ -15,7 +16,8 @@
 
 namespace tw::test {
 
-// Texts at random from a seed: words of 1 to 120 letters, some of two bytes, up to 600 letters in all.
+// Generates random texts from a seed: words of 1 to 120 letters, some letters of two bytes, up
+// to 600 letters in all.
 class LongTexts {
   public:
     explicit LongTexts(unsigned seed) : random_(seed) {}
@@ -54,13 +56,14 @@ inline void FillWithLongTexts(RecipeRecord& recipe, LongTexts& texts) {
     recipe.grpPkgMethod.Select(texts.Pick(0, 1));
 }
 
-// What runs over its column or off the sheet, a line each; empty for a sound print. The left column holds
-// what has a text of the right one beside it, on its page and at its height.
+// Returns one line for each step that leaves its column or the page; empty if there is none. A text is in the
+// left column if there is a text of the right column at the same height of the same page.
 inline std::vector<std::string> OutOfBounds(const PrintSteps& steps, const TextMeasure& measure) {
     constexpr double kMargin = 0.5, kGap = 0.25, kRounding = 1e-6;
     const double right = steps.page.width - kMargin, middle = (right - kMargin) / 2 + kMargin;
     std::vector<std::string> faults;
-    std::set<std::pair<int, double>> halved;  // page and height of the lines with a right column
+    std::set<std::pair<int, double>>
+        halved;  // page and height (inches) of the lines that have a right column
     int page = 0;
     for (const PrintStep& step : steps.steps) {
         if (step.kind == PrintStep::Kind::Page) ++page;

@@ -1,4 +1,4 @@
-// Message boxes that nobody sees, for code that shows none in the test.
+// A message port that ignores everything, for code that shows no messages in the test.
 #pragma once
 
 #include "platform/Ports.h"

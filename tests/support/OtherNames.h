@@ -1,4 +1,4 @@
-// Codes and other names in a test's database.
+// Codes and other names of catalogue entries in a test's database.
 #pragma once
 
 #include <string>
@@ -21,7 +21,7 @@ inline void AddFacts(Database& database, CatalogueKind kind, std::string_view na
                      SqlText(source) + ", " + SqlText(form) + ")");
 }
 
-// Makes the tables, empty.
+// Creates the tables, empty.
 inline void AddOtherNames(Database& database) {
     WriteCatalogueNames(CatalogueSheets{}, database);
 }

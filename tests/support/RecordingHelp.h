@@ -40,7 +40,7 @@ class MemoryFiles : public TextFilePort {
     bool writable = true;
 };
 
-// Makes help.mdb in folder with these statements on its two tables.
+// Creates help.mdb in folder and runs these statements on its two tables.
 inline void MakeHelpDatabase(const std::filesystem::path& folder, const std::string& statements) {
     const auto database = Database::CreateDatabase((folder / "help.mdb").string(), "");
     database->ExecuteNative(
@@ -50,7 +50,7 @@ inline void MakeHelpDatabase(const std::filesystem::path& folder, const std::str
         statements + "COMMIT;");
 }
 
-// A folder of its own, gone with the object.
+// A temporary folder, deleted with the object.
 class TemporaryFolder {
   public:
     TemporaryFolder() {

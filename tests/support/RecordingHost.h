@@ -1,6 +1,5 @@
-// A program around recipe documents, for tests: it records the calls of a document in their order, keeps the
-// state of the commands that documents steer, and passes the notices of the store on to its documents as the
-// shell does.
+// The host of recipe documents in tests: records the calls of a document in order, keeps the state of the
+// commands that documents control, and passes the notices of the store on to its documents as the shell does.
 #pragma once
 
 #include <algorithm>
@@ -21,19 +20,19 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
   public:
     RecordingHost(Database& database, ClockPort& clock) : io_(database, tree_, messages_, clock, *this) {}
 
-    // What a test sets.
+    // Set by the test.
     RecipeDefaults defaults;
     bool appendRows = false;
     bool copyHeaders = false, pasteMismatchSize = false, askBefore = true;
     int lpMaxIter = 1000;
     const RecipeDocument* active = nullptr;  // the active document
-    std::vector<RecipeDocument*> documents;  // those that hear the notices
+    std::vector<RecipeDocument*> documents;  // those that receive the notices
 
-    // What a test reads: every call, such as "EnableSave on" or "AddToMRU Stout", and the state of each
-    // command.
+    // Read by the test: every call, such as "EnableSave on" or "AddToMRU Stout", and the
+    // state of each command.
     std::vector<std::string> log;
     std::map<std::string, bool, std::less<>> commands;
-    std::string undoName, redoName;  // what stands in the menu behind Undo and Redo
+    std::string undoName, redoName;  // the names in the menu after Undo and Redo
     std::vector<std::string> TakeLog() { return std::exchange(log, {}); }
     bool IsOn(std::string_view command) const {
         const auto found = commands.find(command);
@@ -114,14 +113,13 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
         for (RecipeDocument* document : documents) document->Notices().NotifyStyleDeleted(styleId);
     }
 
-    TWTree shown_;  // nothing
+    TWTree shown_;  // empty
     TreeObjects tree_{shown_};
     NoMessages messages_;
     DB_IO io_;
 };
 
-// Writes every change of a record into a log of its own or the host's, such as "txtOG=1.050", "gridGrain
-// 1,3=23.04".
+// Writes every change of a record, such as "txtOG=1.050" or "gridGrain 1,3=23.04", into a log.
 class ChangeRecorder : public RecordObserver {
   public:
     explicit ChangeRecorder(std::vector<std::string>& log) : log_(log) {}

@@ -1,4 +1,4 @@
-// A platform for tests: it records what the program asks for and answers from what the test has queued. A
+// A platform for tests: records what the program asks for and answers from queues that the test fills. A
 // question without an answer in the queue is closed by its close box.
 #pragma once
 
@@ -24,7 +24,7 @@ class MessageRecorder : public MessagePort {
         if (whileShowing) whileShowing();
     }
 
-    // The text alone goes into the log, as the console prints it.
+    // Only the text is logged, as the console prints it.
     void ShowMessageWithAdvice(std::string_view title, std::string_view text,
                                std::string_view shownBelow) override {
         advice = shownBelow;
@@ -44,12 +44,12 @@ class MessageRecorder : public MessagePort {
 
     void Beep() override { log.push_back("beep"); }
 
-    // The log, emptied.
+    // Returns the log and empties it.
     std::vector<std::string> TakeLog() { return std::exchange(log, {}); }
 
     std::vector<std::string> log;        // "[title] text", "[title] text -> Yes", "beep"
-    std::string advice;                  // of the last message that had one
-    std::deque<Answer> answers;          // for the questions to come
+    std::string advice;                  // the advice of the last message that had one
+    std::deque<Answer> answers;          // for the next questions
     std::function<void()> whileAsking;   // runs while a question is open
     std::function<void()> whileShowing;  // runs while a message is open
 
@@ -73,8 +73,8 @@ class MessageRecorder : public MessagePort {
     }
 };
 
-// Each dialog shown takes one script; whatever is open after it, or has no script, is closed by its close
-// box.
+// Each dialog shown uses up one script. A dialog that is still open after its script, or that has none, is
+// closed by its close box.
 class ScriptedDialogs : public DialogPort {
   public:
     void ShowModal(DialogModel& dialog) override {
@@ -117,7 +117,7 @@ class MemorySettings : public SettingsPort {
     }
 
     std::map<std::tuple<Layer, std::string, std::string>, std::string> values;
-    std::vector<std::string> written;  // "key=value" in the order of writing
+    std::vector<std::string> written;  // "key=value", in the order of writing
     bool userWritable = true;
     bool machineWritable = true;
 };

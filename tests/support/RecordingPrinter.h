@@ -1,4 +1,4 @@
-// A printer for tests: it answers its dialog as the test says and keeps what was printed as drawing steps.
+// A printer for tests: its dialog answers as the test says, and printed pages are kept as drawing steps.
 #pragma once
 
 #include <functional>
@@ -31,7 +31,7 @@ class RecordingPrinter : public PrinterPort {
     PrinterAnswer::Result result = PrinterAnswer::Result::Chosen;
     int error = 0;
     std::function<void()> whileShown;  // runs while the dialog is open
-    bool fails = false;                // the device fails its first text
+    bool fails = false;                // drawing the first text fails
     std::vector<std::string> log;
     PrintSteps printed;
     FixedMeasure measure;

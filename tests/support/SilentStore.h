@@ -1,4 +1,4 @@
-// What DB_IO needs around it, where a test looks elsewhere.
+// Ports and listeners for DB_IO that ignore everything, for tests of something else.
 #pragma once
 
 #include <string>
