@@ -1,4 +1,5 @@
-// Autosave: the count of minutes, what a run saves and what it leaves alone, and what may happen meanwhile.
+// Tests of autosave: counting minutes, what a run saves and what it leaves alone, and what
+// may happen during a run.
 #include "shell/AutoSave.h"
 
 #include "shell/ShellTest.h"
@@ -95,7 +96,7 @@ TEST_F(AutoSaveTest, OffAndOnAgainStartsTheCountAgain) {
     shell.SettingsNow().SetDoAutoSave(true);
     Tick();
     EXPECT_EQ(Runs(), 0u);
-    // On while it is on already goes on counting.
+    // Enabling autosave again does not restart the count.
     shell.SettingsNow().SetDoAutoSave(true);
     Tick();
     EXPECT_EQ(Runs(), 1u);

@@ -1,4 +1,4 @@
-// The windows in which recipes are looked for, as the shell opens them.
+// Tests of the windows for finding recipes, as the shell opens them.
 #include "shell/ShellTest.h"
 #include "tree/ExplorerModel.h"
 
@@ -11,7 +11,7 @@ class Browsing : public ShellTest {
         ShellTest::SetUp();
         shell.Data().objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
     }
-    // The next dialog fills its controls and presses a button.
+    // The next dialog gets these entries and a press of the button.
     void AnswerWith(const std::vector<DialogControl>& controls, const std::string& button) {
         outside.dialogs.scripts.push_back([controls, button](DialogModel& dialog) {
             for (const DialogControl& control : controls)
@@ -67,7 +67,7 @@ TEST_F(Browsing, FolderAndViewAreKeptFromOneUseToTheNext) {
         dialog.SetControl("icmbFolder", "F:-1");
         dialog.Press("mnuList");
     });
-    EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));  // cancelled: nothing is kept
+    EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));  // cancelled: nothing is remembered
     EXPECT_EQ(shell.BrowseFields().nodeKey, "F:1");
     EXPECT_EQ(shell.BrowseFields().look.viewType, ListViewType::Details);
 }

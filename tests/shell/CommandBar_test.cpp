@@ -8,7 +8,7 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-// Caption, key and start state ("", "off", "hidden") of each item, separators left out.
+// Caption, key and initial state ("", "off", "hidden") of a menu item. Separators are left out.
 using ItemRow = std::tuple<std::string, std::string, std::string, std::string>;
 
 std::vector<ItemRow> ItemsOf(const CommandBar& bar, std::string_view menu) {

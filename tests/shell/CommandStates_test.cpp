@@ -1,4 +1,4 @@
-// The states of the commands, without a document and without a database.
+// Tests of the states of the commands, without a document and without a database.
 #include "shell/CommandStates.h"
 
 #include "support/RecordingPlatform.h"
@@ -40,7 +40,8 @@ TEST_F(CommandStatesTest, WithoutARecipeInTheDatabaseNoneCanBeOpenedDeletedOrExp
     EXPECT_TRUE(IsButtonEnabled(CommandId::FileOpen));
 }
 
-// Intended: only a change from none to some, or back, reaches the menu item of printing; never its button.
+// The menu item of printing is updated only when the first recipe appears or the last one
+// disappears; its button never is.
 TEST_F(CommandStatesTest, TheFirstRecipeEnablesTheMenuItemOfPrintingAlone) {
     anyRecipe = true;
     states.CheckEnableDelete();

@@ -7,7 +7,7 @@
 namespace tw {
 namespace {
 
-// The commands of text as "VERB|PARAMETER|PARAMETER".
+// Returns the commands in text, each as "VERB|PARAMETER|PARAMETER".
 std::vector<std::string> Read(std::string_view text) {
     std::vector<std::string> lines;
     for (const DDECommand& command : ReadDDECommands(text)) {

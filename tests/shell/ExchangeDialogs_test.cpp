@@ -1,4 +1,4 @@
-// The dialogs of an import or export.
+// Tests of the dialogs of import and export.
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
 #include "shell/ShellTest.h"

@@ -31,7 +31,7 @@ class RecordingHost : public InstanceHost {
     Strings log;
 };
 
-// A channel that does as it is told. The boxes of the program go into the same log.
+// A channel that returns what the test sets. Its calls and the message boxes of the program are in one log.
 class RecordingChannel : public ChannelPort {
   public:
     explicit RecordingChannel(MessageRecorder& messages) : log(messages.log) {}
@@ -239,7 +239,8 @@ TEST_F(DDEServiceTest, TheQueueWaitsForADialogToClose) {
 TEST_F(DDEServiceTest, TenThousandCommandsMayWaitAndNoMore) {
     host.dialogOpen = true;
     for (int i = 0; i < 9999; ++i) ASSERT_TRUE(service.Receive(ChannelMessage::File, "/a"));
-    // Two would be one too many: neither is taken, and the box that they wait for comes to the front.
+    // Two more would exceed the limit by one: neither is accepted, and the dialog that they wait
+    // for comes to the front.
     host.log.clear();
     EXPECT_FALSE(service.Receive(ChannelMessage::Commands, "[IMPORT(a)][ACTIVATE][IMPORT(b)]"));
     EXPECT_FALSE(service.Receive(ChannelMessage::Commands, "[IMPORT(a,b)]"));
@@ -248,7 +249,7 @@ TEST_F(DDEServiceTest, TenThousandCommandsMayWaitAndNoMore) {
     EXPECT_TRUE(service.Receive(ChannelMessage::Commands, "[IMPORT(a)]"));
     EXPECT_FALSE(service.Receive(ChannelMessage::File, "/a"));
     EXPECT_FALSE(service.ParseDDECommand("[PRINT]"));
-    // What never waits is never refused.
+    // A command that never waits is never refused.
     EXPECT_TRUE(service.Receive(ChannelMessage::Commands, "Activate"));
     EXPECT_TRUE(service.Receive(ChannelMessage::Commands, ""));
     EXPECT_EQ(service.DDECommandCount(), 10000);
@@ -259,7 +260,7 @@ TEST_F(DDEServiceTest, TenThousandCommandsMayWaitAndNoMore) {
 }
 
 TEST_F(DDEServiceTest, TheBytesThatMayWaitAreLimitedToo) {
-    // A path is kept twice.
+    // A path is stored twice.
     const std::string half(kMostWaitingBytes / 4, 'x');
     EXPECT_TRUE(service.Receive(ChannelMessage::File, half));
     EXPECT_FALSE(service.Receive(ChannelMessage::File, half));

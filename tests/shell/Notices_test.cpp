@@ -1,4 +1,5 @@
-// What happens to recipes and styles in the database reaches every open document, the recent list first.
+// Tests that every open document is notified of changes to recipes and styles in the database,
+// after the recent list.
 #include "shell/ShellTest.h"
 
 namespace tw::test {
@@ -11,7 +12,7 @@ class Notices : public ShellTest {
         shell.DB()->Execute("INSERT INTO STYLES (ID, NAME, FOLDER_ID, OG_LO) VALUES (7, 'Stout', 0, 1.035)");
     }
     std::string Mru(std::size_t slot) { return shell.Recent().Captions().at(slot); }
-    // Two windows on the same recipe: names in another case open a second one.
+    // Opens two windows of the same recipe: a name in another case opens a second one.
     void OpenTwice(const std::string& name, const std::string& other) {
         NewSaved(name);
         shell.Recipes().Load(other);
@@ -99,7 +100,7 @@ TEST_F(Notices, ADeletedStyleLeavesNoneAndNoRanges) {
     EXPECT_FALSE(mild.Changed());
 }
 
-// By the operations of the explorer, in documents with another style and without one.
+// Changes styles by the operations of the explorer while one document has another style and one has none.
 TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
     shell.DB()->Execute("INSERT INTO STYLES (ID, NAME, FOLDER_ID) VALUES (8, 'Porter', 0)");
     for (const char* style : {"Stout", "Porter"}) shell.Data().objects.AddStyleNodesByName(style);

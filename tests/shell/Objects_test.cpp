@@ -1,4 +1,5 @@
-// The shell's tree and the operations on it: built at the start, in step with saves, followed by documents.
+// Tests of the shell's tree and the operations on it: it is built at the start, follows saves
+// and notifies documents.
 #include "shell/ShellTest.h"
 #include "store/Schema.h"
 
@@ -48,7 +49,7 @@ TEST_F(ShellObjects, ASaveThatFailsLeavesTheTreeAsTheDatabase) {
     });
     EXPECT_FALSE(shell.Saver().Save(mild));
     shell.DB()->SetStatementHook(nullptr);
-    // The new row is there, written in part.
+    // The new row exists but is incomplete.
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Mild"});
     EXPECT_EQ(Keys(), (Strings{"R:2:0", "R:2:3"}));
 }

@@ -1,4 +1,4 @@
-// Names of any letters and any length keep them wherever a recipe goes.
+// Tests that a recipe's name is kept unchanged everywhere, whatever letters it has and however long it is.
 #include "ShellTest.h"
 #include "tree/RecipeFinder.h"
 #include "tree/lvFiller.h"
@@ -21,7 +21,7 @@ Strings OddNames() {
 
 class OddNamesTest : public ShellTest {
   protected:
-    // The first column of the list below the node.
+    // Returns the first column of the list of a node's contents.
     Strings List(std::string_view key) {
         ListTable list;
         lvFiller::SetUpExplorerColumns(list);

@@ -1,4 +1,4 @@
-// The open and save dialog in its three styles, over the store and the tree of a running program.
+// Tests of the open and save dialog in its three styles, on the store and the tree of a running program.
 #include "shell/OpenSaveModel.h"
 
 #include "shell/ShellTest.h"
@@ -10,7 +10,8 @@ using Style = OpenSaveModel::Style;
 
 class OpenSaveTest : public ShellTest {
   protected:
-    // F:1 Winter with F:2 Dark and Stout; amber and Joe's Ale at the root; Lost in a folder that is gone.
+    // Folders: F:1 Winter, which contains F:2 Dark and Stout. At the root: amber and Joe's Ale. Lost is in a
+    // folder that does not exist.
     void SetUp() override {
         ShellTest::SetUp();
         shell.Data().objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
@@ -133,7 +134,7 @@ TEST_F(OpenSaveTest, DeleteAsksFirst) {
     EXPECT_FALSE(model->IsOpen());
     EXPECT_EQ(model->BeerName(), "Joe's Ale");
     EXPECT_EQ(Boxes(), (Strings{question + "No", question + "Yes"}));
-    EXPECT_EQ(RecipeNames(*shell.DB()).size(), 4u);  // that is the caller's
+    EXPECT_EQ(RecipeNames(*shell.DB()).size(), 4u);  // overwriting is the caller's task
 }
 
 TEST_F(OpenSaveTest, SavingTakesTheCurrentFolder) {
@@ -211,7 +212,7 @@ TEST_F(OpenSaveTest, ADoubleClickEntersAFolderAndTakesARecipe) {
     Choose("Winter");
     model->OpenRow();
     EXPECT_EQ(model->NodeKey(), "F:1");
-    model->OpenRow();  // nothing is chosen
+    model->OpenRow();  // nothing is selected
     EXPECT_TRUE(model->IsOpen());
     Choose("Stout");
     model->SetControl("txtName", "something else");
@@ -327,7 +328,7 @@ TEST_F(OpenSaveTest, ARowDroppedOnAFolderLeavesTheList) {
     Open(Style::Open);
     EXPECT_TRUE(model->CanDrop({"R:2:3"}, "F:1"));
     EXPECT_FALSE(model->CanDrop({"R:2:3"}, "R:3:3"));
-    EXPECT_FALSE(model->CanDrop({"R:2:3"}, "S:0:0"));  // no folder row
+    EXPECT_FALSE(model->CanDrop({"R:2:3"}, "S:0:0"));  // not a row of a folder
     EXPECT_FALSE(model->CanDrop({"R:2:3"}, "F:-1"));
     EXPECT_FALSE(model->CanDrop({"F:1"}, "F:1"));
     EXPECT_FALSE(model->CanDrop({}, "F:1"));

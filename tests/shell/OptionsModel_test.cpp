@@ -1,4 +1,4 @@
-// The options dialog: what it shows, what it refuses, what reaches the settings and when.
+// Tests of the options dialog: what it shows, what it refuses, and what reaches the settings and when.
 #include "shell/OptionsModel.h"
 
 #include <gmock/gmock.h>
@@ -14,14 +14,14 @@ class OptionsModelTest : public ShellTest {
   protected:
     Settings& S() { return shell.CurrentSettings(); }
     OptionsModel Open() { return OptionsModel(shell.SettingsNow(), *shell.DB(), outside.messages); }
-    // Enters one text with the focus in its field and presses OK. True when the dialog has closed.
+    // Enters a text into the focused field and presses OK. Returns true if the dialog has closed.
     bool Passes(std::string_view field, std::string_view text) {
         OptionsModel dialog = Open();
         EXPECT_TRUE(dialog.SetControl(field, text));
         EXPECT_TRUE(dialog.Press("cmdOK"));
         return !dialog.IsOpen();
     }
-    // The boxes of that entry; the dialog must stay open.
+    // Returns the messages for an entry. The dialog must stay open.
     Strings Refusal(std::string_view field, std::string_view text) {
         EXPECT_FALSE(Passes(field, text)) << text;
         return outside.messages.TakeLog();
@@ -95,7 +95,7 @@ TEST_F(OptionsModelTest, OkTakesEveryControlIntoTheSettings) {
                                                           {"picSumBackground", "32768"},
                                                           {"picSumForeground", "8421504"}})
         EXPECT_TRUE(dialog.SetControl(name, text)) << name;
-    // Nothing before OK.
+    // Nothing changes before OK.
     EXPECT_EQ(S().hopForm, 0);
     EXPECT_EQ(S().gridReadOnlyBg, std::nullopt);
     EXPECT_TRUE(dialog.Press("cmdOK"));
@@ -217,7 +217,7 @@ TEST_F(OptionsModelTest, EnterChecksAndGoesBackToTheTextAtTheFocus) {
     EXPECT_EQ(dialog.FocusedField(), "txtTotalVol");
 }
 
-// The refusal is seen by the text that has changed, and here it does not.
+// Refusing an entry is detected by its text changing back, and here it does not change.
 TEST_F(OptionsModelTest, ABadTextThatWasStoredDoesNotLockTheDialog) {
     S().grainExtraction = "much";
     OptionsModel dialog = Open();
@@ -251,7 +251,7 @@ TEST_F(OptionsModelTest, ArrowsStepTheMinutesAndBeepAtTheLimits) {
     dialog.StepSaveInc(-1);
     EXPECT_EQ(dialog.Text("txtSaveInc"), "1");
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"beep"});
-    // From beyond a limit the step ends on it.
+    // A step from beyond a limit ends at the limit.
     dialog.SetControl("txtSaveInc", "900");
     dialog.StepSaveInc(-1);
     EXPECT_EQ(dialog.Text("txtSaveInc"), "60");
@@ -291,7 +291,7 @@ TEST_F(OptionsModelTest, ResetSetsThePicturesAloneUntilOk) {
     EXPECT_EQ(dialog.Color("picSumForeground"), 1);
     EXPECT_EQ(S().gridReadOnlyBg, 10);
     dialog.Press("cmdOK");
-    // As if none had ever been chosen.
+    // As if no colour had ever been chosen.
     for (const auto& color : {S().gridReadOnlyBg, S().gridReadOnlyFg, S().gridTotalBg, S().gridTotalFg})
         EXPECT_EQ(color, std::nullopt);
 }
@@ -300,7 +300,7 @@ TEST_F(OptionsModelTest, OnlyAColorThatIsChosenReachesTheSettings) {
     OptionsModel dialog = Open();
     EXPECT_EQ(dialog.Text("picSumBackground"), "65280");
     EXPECT_EQ(dialog.ChosenColor("picSumBackground"), std::nullopt);
-    // The default, chosen by hand, is a choice.
+    // Choosing the default colour is a choice too.
     EXPECT_TRUE(dialog.SetControl("picSumBackground", "65280"));
     EXPECT_EQ(dialog.ChosenColor("picSumBackground"), 65280);
     dialog.Press("cmdOK");

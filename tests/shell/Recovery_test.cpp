@@ -1,5 +1,5 @@
-// Unsaved work outside the database: when its files come and go, what the next start offers, and what becomes
-// of files that cannot be read.
+// Tests of unsaved work that is kept outside the database: when its files are created and deleted, what the
+// next start offers, and what happens to files that cannot be read.
 #include "shell/Recovery.h"
 
 #include <csignal>
@@ -24,7 +24,7 @@ void CreateDatabaseFile(const std::string& path) {
     CreateSchema(*Database::CreateDatabase(path, ""));
 }
 
-// One run of the program on a database in a file. Going without Unload is a crash.
+// One run of the program with a database in a file. Destroying it without Unload is a crash.
 struct ProgramRun {
     ProgramRun(const std::string& root, const std::string& database) {
         shell.SetView(&view);
@@ -37,7 +37,7 @@ struct ProgramRun {
         document.Fields().SetText(document.Record().txtNotes, notes);
         return document;
     }
-    // What OfferRecovery shows; the dialog is left with "Later" after press.
+    // Returns what OfferRecovery shows. Presses the buttons and then closes the dialog with "Later".
     Strings Offer(const std::vector<std::string>& press = {}) {
         Strings entries;
         outside.dialogs.scripts.push_back([&entries, press](DialogModel& dialog) {
@@ -137,7 +137,7 @@ TEST_F(RecoveryTest, TheNextStartRestoresAllOfIt) {
     EXPECT_EQ(run->shell.Documents().All()[1]->Record().txtNotes.Text(), "never saved");
     EXPECT_TRUE(run->shell.Bar().FindItem("mnuFileSave")->enabled);
     EXPECT_EQ(run->shell.Documents().Active(), run->shell.Documents().All()[1].get());
-    // The stored recipe is as it was.
+    // The stored recipe is unchanged.
     EXPECT_TRUE(
         run->shell.DB()->OpenRecordset("SELECT * FROM RECIPE_GRAINS WHERE NAME = 'Pale Malt'").AtEnd());
     EXPECT_THAT(run->outside.messages.log, IsEmpty());
@@ -178,7 +178,7 @@ TEST_F(RecoveryTest, LaterOffersTheRestAgainAtTheNextStart) {
     run = nullptr;
     run = Start();
     EXPECT_THAT(run->Offer({"cmdRestore", "cmdClose"}), ElementsAre("Stout", "Porter"));
-    // What is open has its file from now on, and a new document takes another one.
+    // The restored recipe keeps its file, and a new document uses another one.
     run->New("Mild", "three");
     run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved", "2.unsaved", "3.unsaved"));
@@ -285,7 +285,7 @@ TEST_F(RecoveryTest, AWritingThatWasCutShortLeavesTheOlderFile) {
     run = nullptr;
     PutFile("1.unsaved.new", "Tunwright unsa");
     PutFile(".1.unsaved" + std::string(kUnderWay), "Tunwright unsa");
-    // By the name that earlier releases gave it.
+    // The name that earlier releases used.
     PutFile("7.unsaved.new", "");
     run = Start();
     EXPECT_THAT(run->Offer(), ElementsAre("Stout"));
@@ -324,7 +324,7 @@ TEST_F(RecoveryTest, WhatCannotBeKeptIsToldOnceAndTriedAgainUntilItCan) {
     const std::string notice = "notice: Unsaved work is not being kept: save your recipes.";
     run->shell.Unsaved().Keep();
     EXPECT_THAT(run->view.log, ElementsAre(notice, "unsaved work"));
-    // No edit in between, and no second word.
+    // There was no edit in between, so there is no second notice.
     run->shell.Unsaved().Keep();
     EXPECT_THAT(run->view.log, ElementsAre(notice, "unsaved work", "unsaved work"));
     run->outside.messages.answers = {Answer::No};
@@ -359,7 +359,7 @@ TEST_F(RecoveryTest, ADatabaseThatWasMovedFindsItsFiles) {
     crashed->shell.Unsaved().Keep();
     crashed = nullptr;
     fs::rename(scratch.File("Beer"), scratch.File("Ale"));
-    // Another database is not offered what is not its own.
+    // Another database is not offered the work of this one.
     EXPECT_THAT(Start()->Offer(), IsEmpty());
     ProgramRun moved(scratch.File("unsaved"), scratch.File("Ale/a.mdb"));
     EXPECT_THAT(moved.Offer({"cmdRestore"}), ElementsAre("Stout"));
@@ -382,7 +382,7 @@ TEST_F(RecoveryTest, OfADatabaseAndItsCopyEachKeepsItsOwn) {
     copy->New("Porter", "two");
     copy->shell.Unsaved().Keep();
     copy = nullptr;
-    // Once the one is gone, the other has what is left of both.
+    // Once one database is deleted, the other one is offered the work of both.
     EXPECT_THAT(Start()->Offer(), ElementsAre("Stout"));
     fs::remove(scratch.File("copy.mdb"));
     EXPECT_THAT(Start()->Offer(), testing::UnorderedElementsAre("Stout", "Porter"));
@@ -457,7 +457,7 @@ TEST_F(RecoveryTest, AnotherRunningProgramsFilesAreNotTouched) {
     auto run = Start();
     run->New("Stout", "one");
     run->shell.Unsaved().Keep();
-    // The second program is refused the database and with it the files.
+    // The second program cannot open the database and therefore not its files.
     RecordingPlatform outside;
     Shell second({outside.platform});
     second.Environment().recoveryFolder = scratch.File("unsaved");
@@ -500,7 +500,7 @@ TEST_F(RecoveryTest, AProgramThatIsKilledLosesNothingThatWasKept) {
             raise(SIGKILL);
         },
         testing::KilledBySignal(SIGKILL), "");
-    // The killed process made the folder of this test anew, as the first line of the test did here.
+    // The killed process created the folder of this test again, as the test itself did at its start.
     auto run = Start();
     EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));
     EXPECT_EQ(run->shell.Documents().Active()->Record().txtNotes.Text(), "killed");

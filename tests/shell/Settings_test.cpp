@@ -187,7 +187,7 @@ TEST_F(SettingsTest, AColourThatWasNeverChosenIsNotStored) {
     EXPECT_EQ(port.Read(SettingsPort::Layer::User, "Settings", "GridTotalBg"), "255");
     for (const char* key : {"GridReadOnlyBg", "GridReadOnlyFg", "GridTotalFg"})
         EXPECT_EQ(port.Read(SettingsPort::Layer::User, "Settings", key), std::nullopt) << key;
-    // Given back: the store forgets it too.
+    // Resetting the colour removes it from the store.
     s.gridTotalBg.reset();
     s.Store(store);
     EXPECT_EQ(port.Read(SettingsPort::Layer::User, "Settings", "GridTotalBg"), std::nullopt);
@@ -200,7 +200,7 @@ TEST_F(SettingsTest, AStoredColourIsChosenEvenIfItIsTheDefault) {
     EXPECT_EQ(s.gridReadOnlyFg, std::nullopt);
 }
 
-// Versions before the tints wrote all four at every shut-down.
+// Versions without tints stored all four colours at every exit.
 TEST_F(SettingsTest, TheFourDefaultsTogetherAreNoChoice) {
     port.Put("Settings", "GridReadOnlyBg", "65535");
     port.Put("Settings", "GridTotalBg", "65280");

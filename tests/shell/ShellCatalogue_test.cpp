@@ -1,4 +1,4 @@
-// The product's newer catalogue comes into the database when the program opens it.
+// Tests that a newer catalogue of the product is merged into the database when the program opens it.
 #include "shell/ShellTest.h"
 #include "store/Schema.h"
 #include "store/SmallCatalogue.h"

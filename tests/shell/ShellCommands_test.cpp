@@ -80,7 +80,7 @@ TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem
     EXPECT_EQ(bar().FindItem("mnuEditUndo")->caption, "&Undo ");
 }
 
-// Closing the last document leaves these to the stored recipes alone.
+// Without an open document, these commands depend only on the stored recipes.
 TEST_F(ShellTest, OpenAndExportFollowTheStoredRecipesNotTheDocuments) {
     RecipeDocument& document = NewSaved("Pale Ale");
     EXPECT_TRUE(shell.Saver().Close(document));
@@ -95,7 +95,7 @@ TEST_F(ShellTest, OpenAndExportFollowTheStoredRecipesNotTheDocuments) {
     EXPECT_FALSE(bar().FindItem("mnuFileExport")->enabled);
 }
 
-// Intended: the first recipe turns Print on even while no document is open.
+// The first recipe enables Print even while no document is open.
 TEST_F(ShellTest, TheFirstRecipeTurnsPrintOnWithoutADocument) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
     shell.States().CheckEnableDelete();
@@ -104,7 +104,7 @@ TEST_F(ShellTest, TheFirstRecipeTurnsPrintOnWithoutADocument) {
     EXPECT_FALSE(bar().FindItem("mnuFilePreview")->enabled);
 }
 
-// Intended: the last recipe's deletion turns Print off under an open document; its preview stays.
+// Deleting the last recipe disables Print even under an open document, but not the preview.
 TEST_F(ShellTest, ThePreviewFollowsTheDocumentsAlone) {
     NewSaved("Pale Ale");
     EXPECT_TRUE(bar().FindItem("mnuFilePreview")->enabled);
@@ -113,7 +113,7 @@ TEST_F(ShellTest, ThePreviewFollowsTheDocumentsAlone) {
     EXPECT_TRUE(bar().FindItem("mnuFilePreview")->enabled);
 }
 
-// Intended: the comparison is made with mnuFileDelete alone.
+// Only the state of mnuFileDelete is compared.
 TEST_F(ShellTest, NothingIsTouchedWhileDeleteIsAsItShouldBe) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
     shell.States().CheckEnableDelete();
@@ -137,7 +137,7 @@ TEST_F(ShellTest, SaveAllIsOnExactlyWhileSomeDocumentIsChanged) {
     EXPECT_FALSE(Lit("mnuFileSaveAll"));
     first.Fields().SetText(first.Record().txtNotes, "x");
     EXPECT_TRUE(Lit("mnuFileSaveAll"));
-    EXPECT_FALSE(Lit("mnuFileSave"));  // the active one is clean
+    EXPECT_FALSE(Lit("mnuFileSave"));  // the active one has no changes
     shell.Documents().Activate(first);
     EXPECT_TRUE(Lit("mnuFileSave"));
     shell.Documents().Activate(second);
@@ -219,7 +219,7 @@ TEST_F(ShellTest, ReapplyingKeepsWhatTheDocumentRefused) {
     EXPECT_FALSE(bar().FindItem("mnuEditCut")->enabled);
 }
 
-// Intended: every edit item is about the active document, the append flag too.
+// Every edit item applies to the active document, even the append flag.
 TEST_F(ShellTest, TheAppendFlagTogglesWhileADocumentIsOpen) {
     EXPECT_TRUE(shell.RunMenu("mnuEditAppendFlag"));
     EXPECT_FALSE(shell.SettingsNow().AppendRows());
@@ -287,7 +287,7 @@ TEST_F(ShellTest, TheAboutWindowTellsTitleAndVersion) {
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmAbout"});
 }
 
-// A row in the table is half a command: the other half is what it does.
+// A row in the table is only half of a command; the other half is its effect.
 TEST_F(ShellTest, EveryCommandThatCanBeSeenDoesSomething) {
     shell.Recipes().Create("");
     for (const CommandRow& row : AllCommandRows()) {

@@ -53,7 +53,7 @@ TEST_F(ShellTest, TheActiveRecipesWindowIsShownAgain) {
     EXPECT_EQ(view.log, Strings{"activated 0"});
 }
 
-// Intended: only exactly the same name counts as open.
+// A recipe counts as open only if the name is exactly the same.
 TEST_F(ShellTest, ANameInAnotherCaseOpensASecondWindow) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
     shell.Recipes().OpenByName("Pale Ale");
@@ -158,7 +158,8 @@ TEST_F(ShellTest, YesWithAFailingSaveKeepsTheDocument) {
     EXPECT_TRUE(document.Changed());
 }
 
-// A save whose new row has vanished counts as done but leaves the document changed; its window must not go.
+// A save whose new row has vanished counts as successful but leaves the document changed; its
+// window must stay open.
 TEST_F(ShellTest, YesWithASaveThatLosesItsRowKeepsTheDocument) {
     RecipeDocument& document = NewSaved("Pale Ale");
     document.Fields().SetText(document.Record().txtNotes, "x");
@@ -348,7 +349,7 @@ TEST_F(ShellTest, AFullDiskDuringSaveIsToldByItsOwnError) {
     shell.DB()->SetStatementHook([&](std::string_view sql) {
         if (isFull || !sql.starts_with("DELETE FROM RECIPE_GRAINS")) return;
         isFull = true;
-        // As SQLite does by itself when the disk is full.
+        // SQLite itself rolls back when the disk is full.
         shell.DB()->ExecuteNative("ROLLBACK");
         throw Error("Database", "database or disk is full", 13);
     });

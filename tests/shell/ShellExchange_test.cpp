@@ -1,4 +1,4 @@
-// Import and export through the shell: the files, the dialogs in their order, what is told.
+// Tests of import and export through the shell: the files, the order of the dialogs, the messages.
 #include <fstream>
 
 #include "shell/ImportExportModel.h"
@@ -13,7 +13,7 @@ namespace {
 
 class ShellExchangeTest : public ShellTest {
   protected:
-    // The next dialog takes the entries and presses the buttons.
+    // The next dialog gets these entries and presses of these buttons.
     struct Step {
         std::vector<std::pair<std::string, std::string>> entries;
         Strings buttons;
@@ -25,7 +25,7 @@ class ShellExchangeTest : public ShellTest {
             for (const std::string& button : step.buttons) EXPECT_TRUE(dialog.Press(button)) << button;
         });
     }
-    // All recipes below the root of the tree, then on.
+    // Adds all recipes below the root of the tree, then goes on.
     void PickAll(const Step& more = {}) {
         Step step = more;
         step.entries.emplace_back("treeRecipes", "F:-1");
@@ -69,7 +69,7 @@ TEST_F(ShellExchangeTest, ExportAppendsOrReplacesAsTheBoxSays) {
     GiveFile(file);
     shell.RunMenu("mnuFileExport");
     EXPECT_EQ(NamesInFile(), (Strings{"Mild", "Old"}));
-    // Replacing asks first, in the file dialog.
+    // Replacing a file asks for confirmation first, in the file dialog.
     PickAll({{{"chkAppend", "no"}}, {}});
     GiveFile(file);
     outside.messages.answers = {Answer::Yes};
@@ -147,7 +147,7 @@ TEST_F(ShellExchangeTest, TheFirstImportLightsTheCommandsOfRecipes) {
     shell.Files().ImportRecipes(file, 0, std::nullopt);
     EXPECT_TRUE(Lit("mnuFileOpen"));
     EXPECT_TRUE(Lit("mnuFileExport"));
-    // The empty main window says what can be done now.
+    // The empty main window shows which commands are now enabled.
     EXPECT_EQ(view.log, Strings{"activated none"});
 }
 
@@ -227,7 +227,7 @@ TEST_F(ShellExchangeTest, AFileThatIsNoneIsToldAndLeftAlone) {
     std::string text;
     std::getline(std::ifstream(file), text);
     EXPECT_EQ(text, "a text");
-    // Replacing it is what was asked for then.
+    // Here replacing the file was requested.
     shell.Files().ExportRecipes(file, false, {"Mild"});
     EXPECT_EQ(NamesInFile(), Strings{"Mild"});
 }
@@ -248,7 +248,7 @@ TEST_F(ShellExchangeTest, ADatabaseWithoutTheTablesGivesTheStoresError) {
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] no such table: RECIPES"});
 }
 
-// It would never end.
+// Reading the view would never end.
 TEST_F(ShellExchangeTest, AFileWithAViewInATablesPlaceIsNotRecognized) {
     MakeFile({"Mild"});
     Database::OpenDatabase(file, false)
@@ -319,7 +319,7 @@ TEST_F(ShellExchangeTest, WhatWasAddedBeforeAnErrorStaysInTheOlderFile) {
         "INSERT INTO RECIPE_LOG (RECIPE_ID, ROW_ID) SELECT ID, 0 FROM RECIPES WHERE NAME = 'Mild'");
     shell.Files().ExportRecipes(file, true, {"Bock", "Mild", "Porter"});
     EXPECT_EQ(outside.messages.log, Strings{"[Error] no such table: RECIPE_LOG"});
-    // Also the part of the one in hand.
+    // Even the part of the recipe that failed.
     EXPECT_EQ(NamesInFile(), (Strings{"Bock", "Mild", "Old"}));
 }
 
@@ -351,7 +351,7 @@ TEST_F(ShellExchangeTest, AnExportKeepsTheModeOfTheFileAndALinkToIt) {
 
 TEST_F(ShellExchangeTest, AFileWithALogOfItsOwnIsAddedToWhole) {
     MakeFile({"Old"});
-    // Another program keeps the file open, and what it has written in a log beside it.
+    // Another program keeps the file open, with its changes in a write-ahead log.
     Database::OpenDatabase(file, false)->ExecuteNative("PRAGMA journal_mode=WAL");
     NewSaved("Mild");
     shell.Files().ExportRecipes(file, true, {"Mild"});
@@ -389,7 +389,7 @@ TEST_F(ShellExchangeTest, OneImportDoesNotStartWithinAnother) {
     EXPECT_EQ(TakeShown(), Strings{"frmImportExport"});
 }
 
-// Presses Cancel in the progress window as soon as that shows something.
+// Presses Cancel in the progress window as soon as it shows something.
 class HastyDialogs : public DialogPort {
   public:
     void ShowModal(DialogModel& dialog) override {
@@ -412,7 +412,7 @@ TEST(ShellExchange, CancelIsHeardWhileTheFileIsBeingRead) {
     {
         const auto other = Database::CreateDatabase(file, "");
         CreateExchangeTables(*CreateMainDatabaseInMemory(), *other);
-        // Enough for the reading of the names to be watched.
+        // Enough for the progress of reading the names to be shown.
         other->ExecuteNative(
             "WITH RECURSIVE N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 2000) INSERT INTO "
             "RECIPES "
@@ -424,13 +424,13 @@ TEST(ShellExchange, CancelIsHeardWhileTheFileIsBeingRead) {
     Shell shell({platform});
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
     shell.Files().ImportRecipes(file, 0, Strings{"Ale 1", "Ale 2"});
-    // Before the first recipe was shown, and without an error.
+    // Stopped before the first recipe was shown, and without an error.
     EXPECT_EQ(dialogs.shownFirst.front(), "");
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
     EXPECT_EQ(outside.messages.log, Strings{});
 }
 
-// A database of its own in a file, which an export must not take.
+// The program's database is a file, which an export must not replace.
 TEST(ShellExchange, TheDatabaseItselfIsNeverReplacedOrTakenForARecipeFile) {
     const ScratchFolder folder;
     const std::string path = folder.File("Tunwright.mdb");
@@ -439,7 +439,7 @@ TEST(ShellExchange, TheDatabaseItselfIsNeverReplacedOrTakenForARecipeFile) {
     RecordingPlatform outside;
     Shell shell({outside.platform});
     ASSERT_TRUE(shell.PerformSplashScreenInit(path));
-    // A start refuses a database that has a second name by then.
+    // The hard link is created after the start, which refuses a database with a second name.
     std::filesystem::create_hard_link(path, folder.File("hard.TWR"));
     AddRecipeRow(*shell.DB(), "Mild");
     for (const char* name : {"Tunwright.mdb", "link.TWR", "hard.TWR"}) {

@@ -1,4 +1,4 @@
-// Help and the assistant from the main window.
+// Tests of the help and the assistant from the main window.
 #include "ShellTest.h"
 #include "support/RecordingHelp.h"
 
@@ -27,7 +27,7 @@ class ShellHelp : public ShellTest {
         shell.SetView(nullptr);
         shell.Environment().help = nullptr;
     }
-    // The page that the browser was given, empty for none.
+    // Returns the page given to the browser, empty if there is none.
     std::string TakePage() {
         if (browser.opened.empty()) return {};
         const std::string file = std::exchange(browser.opened, {}).back();
@@ -105,7 +105,7 @@ TEST_F(ShellHelp, TheAssistantsLinkRunsOnceItsWindowIsClosed) {
     EXPECT_FALSE(shell.CurrentSettings().showAssistantAtStartup);
 }
 
-// An empty database keeps the menu item dark; the link shows the dialog all the same.
+// With an empty database the menu item is disabled; the link shows the dialog anyway.
 TEST_F(ShellHelp, TheAssistantsOpenLinkWorksOnAnEmptyDatabase) {
     outside.dialogs.scripts.emplace_back([](DialogModel& dialog) { dialog.Press("imgOpen"); });
     shell.RunMenu("mnuToolsAssistant");

@@ -12,7 +12,7 @@ class ShellImportTest : public ShellTest {
         std::ofstream(file) << "a text, no recipes";
     }
 
-    // The answer to a file that is no database shows that it was taken.
+    // The message for a file that is not a database, which shows that the file was accepted.
     static std::string Taken(const std::string& path) {
         return "[Error] File not recognized.\r\n\"" + path + "\" is not valid Tunwright Recipe file";
     }

@@ -35,7 +35,7 @@ class ShellPrintTest : public ShellTest {
         EXPECT_EQ(outsideCommands.DDECommandCount(), 0);
     }
 
-    // Answers the box that comes up where there is no printer.
+    // Answers the window that is shown if there is no printer.
     void OnTheBoxPress(const std::string& button) {
         printer.result = Result::NoPrinter;
         outside.dialogs.scripts.emplace_back([button](DialogModel& dialog) {
@@ -116,7 +116,7 @@ TEST_F(ShellPrintTest, AFailureOfTheJobIsToldAndTheJobDropped) {
     EXPECT_EQ(printer.printed.Pages(), 0);
 }
 
-// Intended: a first recipe lights Print while no document is open; it finds nothing to print then.
+// The first recipe enables Print even while no document is open; Print then finds nothing to print.
 TEST_F(ShellPrintTest, WithoutADocumentThereIsNothingToPrint) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
     shell.States().CheckEnableDelete();
@@ -153,7 +153,7 @@ TEST(NoPrinterModel, ClosingItAndUnknownButtonsChooseNothing) {
     EXPECT_EQ(box.Chosen(), NoPrinterModel::Choice::Cancel);
 }
 
-// Whoever is in the preview needs no other way to it.
+// In the preview, there is no need to offer the preview.
 TEST_F(ShellPrintTest, WithoutAPrinterThePreviewOffersAPdfFileAlone) {
     NewNamed("Porter");
     printer.result = Result::NoPrinter;
@@ -166,7 +166,7 @@ TEST_F(ShellPrintTest, WithoutAPrinterThePreviewOffersAPdfFileAlone) {
                  "file instead? -> No"}));
 }
 
-// A database of its own in a file, which paper must not take.
+// The program's database is a file, which a PDF file must not replace.
 TEST(ShellPrint, ThePdfFileNeverTakesThePlaceOfTheDatabase) {
     const ScratchFolder folder;
     const std::string path = folder.File("Tunwright.mdb");
@@ -203,7 +203,7 @@ TEST_F(ShellPrintTest, TheNameOfAPdfFileIsTheRecipesWithoutWhatAFileCannotHave) 
     OnTheBoxPress("cmdPDF");
     shell.RunMenu("mnuFilePrint");
     EXPECT_EQ(files.requests[1].name, "Recipe.pdf");
-    // Files have at most 255 bytes; a letter is not cut in two.
+    // File names have at most 255 bytes; no letter may be cut in two.
     NewNamed("x" + ReplaceAll(std::string(150, 'o'), "o", "\u00f6"));
     OnTheBoxPress("cmdPDF");
     shell.RunMenu("mnuFilePrint");
@@ -218,12 +218,12 @@ TEST_F(ShellPrintTest, APdfFileGoesToTheDocumentsAtFirstAndThenWhereTheLastOneWe
         shell.RunMenu("mnuFilePrint");
         return files.requests.back().folder;
     };
-    // An empty folder stands for the documents.
+    // An empty folder means the documents folder.
     EXPECT_EQ(save(std::nullopt), "");
     EXPECT_EQ(save("/home/ann/Brewing Log/Porter.pdf"), "");
     EXPECT_EQ(save(std::nullopt), "/home/ann/Brewing Log");
     EXPECT_EQ(shell.Store().GetSetting("Print", "PDFFolder", "none"), "/home/ann/Brewing Log");
-    // What could not be written is no folder to come back to.
+    // The folder of a file that could not be written is not remembered.
     printer.fails = true;
     EXPECT_EQ(save("/full/Porter.pdf"), "/home/ann/Brewing Log");
     EXPECT_EQ(save(std::nullopt), "/home/ann/Brewing Log");

@@ -1,4 +1,4 @@
-// The windows of the catalogue as the shell shows them.
+// Tests of the windows of the catalogue as the shell shows them.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -12,7 +12,7 @@ class ShellSetup : public testing::Test {
   protected:
     void SetUp() override { ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:")); }
     void Next(std::function<void(DialogModel&)> work) { outside.dialogs.scripts.push_back(std::move(work)); }
-    // Whether the active document's list of styles holds the name.
+    // True if the active document's list of styles contains the name.
     bool Offers(const std::string& name) {
         for (const auto& entry : shell.Documents().Active()->Record().cmbStyle.Entries())
             if (entry.text == name) return true;
@@ -52,7 +52,7 @@ TEST_F(ShellSetup, AnEditedStyleGivesItsNameAndACancelledOneNothing) {
     EXPECT_EQ(shell.Catalogue().EditStyle("Dry Stout", 0), std::nullopt);
 }
 
-// Whatever the editor's window is closed with afterwards.
+// This does not depend on how the editor's window is closed afterwards.
 TEST_F(ShellSetup, AnAppliedStyleIsInTheListsAtOnce) {
     shell.Recipes().Create("");
     Next([&](DialogModel& editor) {

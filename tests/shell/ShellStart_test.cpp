@@ -43,7 +43,7 @@ TEST_F(ShellStartTest, AMissingDatabaseIsFatal) {
     shell.SetView(&view);
     EXPECT_FALSE(shell.PerformSplashScreenInit(folder.File("Tunwright.mdb")));
     EXPECT_EQ(shell.DB(), nullptr);
-    // The timer may tick while the box stands open.
+    // The timer may tick while the message box is open.
     shell.SettingsNow().SetDoAutoSave(true);
     view.log.pop_back();
     shell.TickAutoSave();
@@ -91,7 +91,7 @@ TEST_F(ShellStartTest, AWriteProtectedDatabaseIsToldOnceAndCanBeRead) {
         Strings{"[Error] Error during save:\r\nThe database is write-protected: nothing can be saved in "
                 "it. (8)"});
     EXPECT_TRUE(shell.Data().tree.NodeExists("R:1:0"));
-    // Autosave does not say so every few minutes.
+    // Autosave does not repeat that message every few minutes.
     shell.CurrentSettings().doAutoSaveEvery = 1;
     shell.SettingsNow().SetDoAutoSave(true);
     shell.TickAutoSave();

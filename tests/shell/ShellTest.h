@@ -1,4 +1,4 @@
-// A started shell on an empty database in memory, with a recording platform and view.
+// A started shell with an empty database in memory and a recording platform and view.
 #pragma once
 
 #include <filesystem>
@@ -37,7 +37,7 @@ class RecordingView : public ShellView {
     std::vector<std::string> log;
 };
 
-// Adds a bare recipe row, as another program's import might leave it.
+// Adds only the row of a recipe, as an import by another program might leave it.
 inline void AddRecipeRow(Database& database, const std::string& name) {
     database.Execute("INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES (" + SqlText(name) + ", 0, 0)");
 }
@@ -51,7 +51,7 @@ inline std::vector<std::string> RecipeNames(Database& database) {
     return names;
 }
 
-// A folder of its own for one test, removed with everything in it.
+// A folder for one test, deleted with its contents at the end.
 class ScratchFolder {
   public:
     ScratchFolder() {
@@ -91,13 +91,13 @@ class ShellTest : public testing::Test {
         return captions;
     }
 
-    // A document with that name typed in, changed.
+    // Creates a changed document with that name typed in.
     RecipeDocument& NewNamed(std::string_view name) {
         RecipeDocument& document = shell.Recipes().Create("");
         document.Fields().SetText(document.Record().txtName, name);
         return document;
     }
-    // A document that has been saved under that name.
+    // Creates a document and saves it under that name.
     RecipeDocument& NewSaved(std::string_view name) {
         RecipeDocument& document = shell.Recipes().Create("");
         EXPECT_TRUE(shell.Saver().SaveUnder(document, name, 0, Asking::Quietly));
