@@ -1,4 +1,4 @@
-// The question before a change that no undo takes back.
+// Tests of the question before a change that cannot be undone.
 #include "document/CannotUndo.h"
 
 #include <gtest/gtest.h>
@@ -9,7 +9,7 @@
 namespace tw::test {
 namespace {
 
-// Answers the dialog with the check box and a button; an empty button is the close box.
+// Answers the dialog by its check box and a button; an empty button name is the close box.
 class Answerer final : public DialogPort {
   public:
     Answerer(bool dontShow, std::string_view button) : dontShow_(dontShow), button_(button) {}

@@ -85,7 +85,7 @@ TEST_F(Lookup, GivesAStyleWithItsOpenEnds) {
     EXPECT_FALSE(lookup.Style(8));
 }
 
-// The id of no style, whatever row has it.
+// Id 0 means no style, even if a row has it.
 TEST_F(Lookup, ZeroIsNoStyle) {
     EXPECT_FALSE(lookup.Style(0));
 }

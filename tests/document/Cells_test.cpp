@@ -142,7 +142,7 @@ TEST_F(CellsTest, AGrainsNameFillsItsFigures) {
     EXPECT_EQ(R().gridExtract.Text(1, GrainCol::Ppg), "43");
     ASSERT_TRUE(Put(R().gridGrain, 1, GrainCol::Name, "O'Brien's"));
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Color), "60");
-    // A name without regard to case; NULL empties the figure, and what hangs on it.
+    // Names are compared without regard to case. NULL empties the figure and those that depend on it.
     ASSERT_TRUE(Put(R().gridGrain, 1, GrainCol::Name, "half known"));
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Ppg), "");
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Color), "15");
@@ -155,7 +155,7 @@ TEST_F(CellsTest, AnUnknownNameStaysAndChangesNothingElse) {
     SaveAs("A");
     host.log.clear();
     ASSERT_TRUE(Put(R().gridGrain, 1, GrainCol::Name, "Syrup"));  // an extract
-    // No chain runs: no figure's command is set anew.
+    // Nothing is recalculated, so no command of a figure is updated.
     EXPECT_THAT(host.log,
                 ElementsAre("EnableUndo on", "EnableRedo off", "EnableSave on", "DocumentRenamed A"));
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Name), "Syrup");
@@ -175,7 +175,7 @@ TEST_F(CellsTest, AnotherNameBringsTheFiguresOfItsRowAndStaysAsTyped) {
     ASSERT_TRUE(Put(R().gridHops, 1, HopCol::Variety, "žatec"));
     EXPECT_EQ(R().gridHops.Text(1, HopCol::Variety), "žatec");
     EXPECT_EQ(R().gridHops.Text(1, HopCol::AlphaAcid), "3.5");
-    // The brewer's own row of that name wins.
+    // The brewer's own row of that name takes precedence.
     database->Execute("INSERT INTO HOPS (NAME, AA_LO, AA_HI) VALUES ('Žatec', 8, 8)");
     ASSERT_TRUE(Put(R().gridHops, 1, HopCol::Variety, "Žatec"));
     EXPECT_EQ(R().gridHops.Text(1, HopCol::AlphaAcid), "8");
@@ -202,7 +202,7 @@ TEST_F(CellsTest, EveryGridKnowsOtherNames) {
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Ppg), "30");
     ASSERT_TRUE(Put(R().gridExtract, 1, GrainCol::Name, "other syrup"));
     EXPECT_EQ(R().gridExtract.Text(1, GrainCol::Ppg), "36");
-    // A grain's other name is none of an extract.
+    // Another name of a grain is not a name of an extract.
     ASSERT_TRUE(Put(R().gridExtract, 1, GrainCol::Name, "other malt"));
     EXPECT_EQ(R().gridExtract.Text(1, GrainCol::Ppg), "36");
     ASSERT_TRUE(Put(R().gridPriming, 1, PrimingCol::Sugar, "other sugar"));
@@ -448,7 +448,7 @@ TEST_F(CellsTest, BlanksAloneAreTheEmptyTextWhereAQuantityBelongs) {
     }
 }
 
-// The time of dry hops is free text, but it counts again as soon as they are not.
+// The time of dry hops is free text; blanks count as empty here as well.
 TEST_F(CellsTest, BlanksAreNoTimeOfDryHopsEither) {
     Grid& hops = R().gridHops;
     document->Cells().SetChecked(hops, 1, HopCol::DryHopped, true);
@@ -464,7 +464,8 @@ TEST_F(CellsTest, BlanksInAnEmptyCellAreNoEdit) {
     EXPECT_FALSE(document->History().CanUndo());
 }
 
-// 70% of 9 * 36.5 / 5 are 46 points; with an attenuation of 75% the Plato of 1.046 ends at 2.85 and 1.011.
+// 70% of 9 * 36.5 / 5 is 46 points; with an attenuation of 75%, the 1.046 in degrees Plato
+// end at 2.85, or 1.011.
 TEST_F(CellsTest, TheYeastsNameIsTrimmedBehindTheCut) {
     Put(R().gridGrain, 1, GrainCol::Name, "Pale Malt");
     Put(R().gridGrain, 1, GrainCol::Amount, "9");

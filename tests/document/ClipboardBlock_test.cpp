@@ -21,9 +21,9 @@ TEST(ClipboardBlock, ATextWithoutAnythingIsOneEmptyCell) {
 TEST(ClipboardBlock, LinesOfOtherProgramsGiveNoStrayRows) {
     EXPECT_EQ(SplitBlock("a\tb\r\n\tc\r\n"), (Block{{"a", "b"}, {"", "c"}}));
     EXPECT_EQ(SplitBlock("a\rb"), (Block{{"a"}, {"b"}}));
-    // Only the end of the last line is no row of its own.
+    // Only the line end of the last line starts no further row.
     EXPECT_EQ(SplitBlock("a\r\r"), (Block{{"a"}, {""}}));
-    // A line feed alone parts nothing: intended.
+    // A line feed alone does not start a row.
     EXPECT_EQ(SplitBlock("a\nb\n"), (Block{{"ab"}}));
 }
 

@@ -1,4 +1,4 @@
-// Copy, cut, clear and paste, on blocks of cells and in text boxes.
+// Tests of copy, cut, clear and paste, on blocks of cells and in text boxes.
 #include <gmock/gmock.h>
 
 #include "DocumentState.h"
@@ -39,7 +39,7 @@ class ClipboardTest : public DocumentTest {
         document->Edit().Copy();
         return platform.clipboard.text.value_or("nothing");
     }
-    // The texts of a block as a copy without headers gives them.
+    // Returns the texts of a block as a copy without headers puts them on the clipboard.
     std::string Cells(const Grid& grid, GridRange range) {
         ClipboardBlock block;
         for (int row = range.row1; row <= range.row2; ++row) {
@@ -100,7 +100,7 @@ TEST_F(ClipboardTest, OneRowGrowsToTheHeightOfTheBlock) {
     Rows(adjuncts, 4);
     Paste(adjuncts, {2, 1, 2, 2}, "a\tb\rc\td\r");
     EXPECT_EQ(Cells(adjuncts, {1, 0, 4, 3}), "\t\t\t\r\ta\tb\t\r\tc\td\t\r\t\t\t\r");
-    // The grid has no more rows than these.
+    // The grid has no row below this one.
     Paste(adjuncts, {4, 0, 4, 0}, "x\ry\r");
     EXPECT_THAT(Boxes(), ElementsAre(kMisfit));
     host.pasteMismatchSize = true;
@@ -243,8 +243,8 @@ TEST_F(ClipboardTest, OneInvalidEntryLeavesEverythingAsItWas) {
     EXPECT_EQ(Steps(), steps);
 }
 
-// The points of so many pounds are beyond every number; name and amount stand by the time that the yield is
-// there.
+// The points of that many pounds overflow. By then the name and the amount have been
+// pasted; the yield comes last.
 TEST_F(ClipboardTest, AFaultInTheMiddleTakesAllBack) {
     Set(R().txtTotalVol, "5");
     SaveAs("Stored");
@@ -256,7 +256,7 @@ TEST_F(ClipboardTest, AFaultInTheMiddleTakesAllBack) {
     EXPECT_THROW(document->Edit().Paste(), Error);
     EXPECT_EQ(State(), before);
     EXPECT_FALSE(document->History().CanUndo());
-    // Nothing was made, so that what could be redone still can.
+    // No step was recorded, so the step that could be redone still can be.
     ASSERT_TRUE(document->Replay().Redo());
     EXPECT_EQ(R().txtNotes.Text(), "A");
 }
@@ -282,7 +282,7 @@ TEST_F(ClipboardTest, CutCellsComeBackInOneStep) {
     document->Edit().Cut();
     EXPECT_EQ(platform.clipboard.text, "Saaz\t3.5\tPellet\tYes\t1 oz\tNo\t\t\r\t\tPellet\tYes\t\tNo\t60\t\r");
     EXPECT_EQ(Cells(hops, {1, 0, 2, 7}), "\t\t\t\t\t\t\t\r\t\t\t\t\t\t\t\r");
-    // Check boxes stay as they are.
+    // Check boxes are unchanged.
     EXPECT_TRUE(hops.Checked(1, HopCol::Sock));
     EXPECT_EQ(document->History().UndoType(), "Cut");
     ASSERT_TRUE(document->Replay().Undo());

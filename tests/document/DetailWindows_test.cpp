@@ -49,7 +49,7 @@ TEST(FinalVolDetails, ShowsWhatDilutionDoes) {
 TEST(FinalVolDetails, NoMoreWortGoesOnThanThereIs) {
     // W = 8 - 1 = 7, cut to 5: nothing is lost.
     EXPECT_EQ(FinalVolDetails({5, 1, 8, 1.060, 1.012}).Text("lblXferLosses"), "0.00 gal.");
-    // 5.1553 would be the share 4.5 / 5.5; here it is 5 / 6 of 6.3009
+    // 5.1553 would be the result for a share of 4.5 / 5.5; here the result is 5 / 6 of 6.3009.
     EXPECT_EQ(FinalVolDetails({5, 1, 8, 1.060, 1.012}).Text("lblAlcohol").substr(0, 8), "5.3% abv");
 }
 

@@ -33,7 +33,7 @@ void AddValue(const CellValue& value, bool computed, std::string& text) {
 void AddBoxes(const RecipeRecord& r, DocumentState& state) {
     for (const TextBox* box : r.TextBoxes()) {
         const std::string line = box->Name() + "=" + box->Text();
-        // Blanks alone that have not been left yet stand for the empty text.
+        // Uncommitted text that consists only of blanks counts as empty.
         const bool blank = !IsFreeText(r, *box) && IsBlank(box->Text());
         if (!box->Computed()) state.entered += (blank ? box->Name() + "=" : line) + "\n";
         state.all += line;
@@ -58,7 +58,7 @@ void AddCell(const RecipeRecord& r, const Grid& grid, int row, int col, Document
         state.all += bold ? "= N0!|" : "= N0|";
         return;
     }
-    // A full computed number stands for its text.
+    // A calculated number in full precision is represented by "=".
     const bool computed = grid.IsReadOnly(row, col) && cell.value.kind == CellValue::Kind::Number;
     const bool full = computed && !cell.text.empty() && cell.text == NumberText(cell.value.number);
     if (full)

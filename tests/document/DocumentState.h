@@ -1,4 +1,4 @@
-// All that a recipe document holds and shows, as text that can be compared.
+// Everything that a recipe document holds and shows, as text for comparison.
 #pragma once
 
 #include <string>
@@ -9,26 +9,27 @@
 namespace tw::test {
 
 struct DocumentState {
-    // What the brewer entered: the texts of the boxes and of the cells that can be edited, check marks, style
-    // and options.
+    // What the brewer entered: the texts of the boxes and of the editable cells, check
+    // marks, style and options.
     std::string entered;
-    // The same with everything behind and beside it: numbers and their kinds, committed texts, figures,
-    // labels, emphasis, swatch, buttons and the commands of the main window. The number behind an empty
-    // figure does not count: it keeps its last value.
+    // Everything in `entered`, and numbers with their kinds, committed texts, figures, labels, emphasis,
+    // swatch, buttons and the commands of the main window. The number of an empty figure is left out, since
+    // it keeps its last value.
     std::string all;
 
     bool operator==(const DocumentState&) const = default;
 };
 
-// Computed numbers count with 12 digits, since a sum over rows in another order may differ in the last one.
-// The two computed rows of gridWater are blank until the water or the volume is first committed, and can
-// never be blank again: their blanks count as the zeros that they stand for.
+// Calculated numbers are compared to 12 digits, since a sum over rows in another order may differ in the last
+// digit. The two calculated rows of gridWater are blank until the water or the volume is first committed and
+// can never be blank again; these blanks are treated as the zeros that they mean.
 DocumentState StateOf(const RecipeDocument& document, const RecordingHost& host);
 
-// The lines of two states that differ, "-" before those of the first.
+// Returns the lines in which two states differ; those of the first state begin with "-".
 std::string Differences(const std::string& wanted, const std::string& got);
 
-// The text box whose entry has not been committed, nullptr when all have been. Free text counts as committed.
+// Returns the text box whose entry has not been committed, nullptr if all have been. Free
+// text counts as committed.
 TextBox* PendingBox(RecipeDocument& document);
 
 }  // namespace tw::test

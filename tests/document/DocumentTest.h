@@ -1,5 +1,5 @@
-// A recipe document in a small program of its own: a database in memory with a few catalogue entries, a
-// platform and a host that record.
+// A recipe document in a small program: a database in memory with a few catalogue entries, and a
+// recording platform and host.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -16,11 +16,11 @@
 
 namespace tw::test {
 
-// Ids of the styles that FillCatalogue makes.
+// The ids of the styles that FillCatalogue adds.
 enum : int { kStout = 1, kLager, kOddWater, kHalfOpen };
 
 void FillCatalogue(Database& database);
-// The same entries for the plain calculation.
+// Returns the entries of FillCatalogue for the plain calculation.
 PlainCatalogue MakePlainCatalogue();
 
 using Log = std::vector<std::string>;
@@ -29,7 +29,7 @@ class DocumentTest : public testing::Test {
   protected:
     DocumentTest() { FillCatalogue(*database); }
 
-    // Makes a new active document with the host's defaults.
+    // Creates a new active document with the host's defaults.
     RecipeDocument& New() {
         if (document) std::erase(host.documents, document.get());
         document = std::make_unique<RecipeDocument>(host, platform.platform, *database, colors, 3);
@@ -39,7 +39,7 @@ class DocumentTest : public testing::Test {
         host.log.clear();
         return *document;
     }
-    // The same with a stored recipe in it.
+    // Opens a stored recipe in a new active document.
     RecipeDocument& Open(std::string_view name) {
         New().Storage().Open(name);
         host.log.clear();
@@ -47,7 +47,7 @@ class DocumentTest : public testing::Test {
     }
     RecipeRecord& R() { return document->Record(); }
 
-    // Types a text and leaves the box.
+    // Types a text and leaves the box. Returns false if the entry is refused.
     bool Set(TextBox& box, std::string_view text, Asking asking = Asking::Aloud) {
         document->Fields().SetText(box, text);
         return document->Fields().CommitField(box, asking);
@@ -55,7 +55,7 @@ class DocumentTest : public testing::Test {
     bool Put(Grid& grid, int row, int col, std::string_view text) {
         return document->Cells().EditCell(grid, row, col, text);
     }
-    // Saves under a name; the recipe then stands in folder 0.
+    // Saves the recipe under a name, in folder 0.
     void SaveAs(std::string_view name) {
         ASSERT_TRUE(document->Storage().SaveUnder(name, 0, Asking::Quietly));
     }
@@ -69,7 +69,7 @@ class DocumentTest : public testing::Test {
     }
     Log Boxes() { return platform.messages.TakeLog(); }
 
-    // Everything that the window shows, line by line.
+    // Returns everything that the window shows, line by line.
     Log Shown() const;
 
     RecordingPlatform platform;

@@ -28,7 +28,7 @@ TEST(ChangedSpan, IsWhatTheNewTextHasReplaced) {
     }
 }
 
-// The first two differ in their last byte only, the next two in their first.
+// The first two texts differ only in their last byte, the next two only in their first.
 TEST(ChangedSpan, NeverCutsACharacter) {
     const Case cases[] = {
         {"ä", "ö", {0, 1, 1}},    {"aä", "aö", {1, 1, 1}},   {"é", "©", {0, 1, 1}},

@@ -85,7 +85,7 @@ TEST_F(FieldsTest, TellsWhatIsWrongToTheLetter) {
     for (const Case& c : cases) {
         EXPECT_FALSE(Set(c.box, c.text)) << c.text;
         EXPECT_THAT(Boxes(), ElementsAre("[Invalid Entry] " + std::string(c.message)));
-        // The text stays for the brewer to mend; nothing else has moved.
+        // The text stays so that the brewer can correct it; nothing else has changed.
         EXPECT_EQ(c.box.Text(), c.text);
         EXPECT_EQ(c.box.Committed(), "");
         document->Fields().RestoreField(c.box);
@@ -278,7 +278,7 @@ TEST_F(FieldsTest, AnArithmeticFaultRaisesAndLeavesEverythingAsItWas) {
     const std::string tiny = "0." + std::string(318, '0') + "1";
     for (TextBox* box : {&R().txtBoilVol, &R().txtTotalVol, &R().txtFinalVol})
         raises(*box, tiny, kOverflowNumber);
-    // Below the smallest number: the text reads as zero, which a volume refuses with words.
+    // Smaller than the smallest double: the text is read as zero, which a volume refuses with a message.
     EXPECT_FALSE(Set(R().txtTotalVol, "0." + std::string(330, '0') + "1"));
     document->Fields().RestoreField(R().txtTotalVol);
     raises(R().txtFG, std::string(150, '9'), kOverflowNumber);
@@ -298,7 +298,7 @@ TEST_F(FieldsTest, OptionButtonsRecomputeAndCount) {
     EXPECT_TRUE(document->Options().Choose("optTinseth"));
     EXPECT_FALSE(document->Changed());
     EXPECT_TRUE(document->Options().Choose("optRager"));
-    EXPECT_EQ(R().txtIBU.Text(), "0");  // the hole in the table
+    EXPECT_EQ(R().txtIBU.Text(), "0");  // the gap in the table
     EXPECT_TRUE(document->Changed());
     EXPECT_TRUE(document->Options().Choose("optGaretz"));
     EXPECT_NE(R().txtIBU.Text(), "0");
@@ -357,7 +357,7 @@ TEST_F(FieldsTest, BlanksInAnEmptyFieldAreNoEdit) {
     EXPECT_EQ(R().txtBoilVol.Text(), "");
     EXPECT_FALSE(document->Changed());
     EXPECT_FALSE(document->History().CanUndo());
-    // Free text keeps them.
+    // Free text keeps its blanks.
     EXPECT_TRUE(Set(R().txtNumBatches, "  "));
     EXPECT_EQ(R().txtNumBatches.Text(), "  ");
 }

@@ -1,4 +1,5 @@
-// What makes a step of the history, what joins the step before, and what a step brings back.
+// Tests of what creates a step of the history, what is merged into the previous step,
+// and what a step restores.
 #include <gmock/gmock.h>
 
 #include "DocumentState.h"
@@ -16,7 +17,7 @@ class HistoryTest : public DocumentTest {
 
     const UndoStack& History() const { return document->History(); }
     std::string State() const { return StateOf(*document, host).all; }
-    // A recipe of 50.4 points: 10 lbs. of 36 points, 70% of them, in 5 gallons.
+    // Enters a recipe of 50.4 points: 10 lbs. of 36 points at 70% extraction, in 5 gallons.
     void Brew() {
         Set(R().txtExtract, "70");
         Set(R().txtTotalVol, "5");
@@ -66,7 +67,7 @@ TEST_F(HistoryTest, TypingDoesNotJoinWhatCanBeRedone) {
     Set(R().txtName, "A");
     document->Options().Choose("optRager");
     ASSERT_TRUE(document->Replay().Undo());
-    // The typing before is not the last record, so that this begins a new one.
+    // The earlier typing is not the last record, so this starts a new one.
     Set(R().txtName, "AB");
     EXPECT_EQ(History().StackTop(), 2U);
     EXPECT_FALSE(document->Replay().Redo());
@@ -266,7 +267,7 @@ TEST_F(HistoryTest, TheGravityOfAYeastComesBackFinerThanItsText) {
     EXPECT_EQ(R().txtFG.Value(), gravity);
 }
 
-// The typed gravity reads the same as the one that the yeast gives, and yet is another number.
+// The typed gravity has the same text as the one calculated from the yeast, but another number.
 TEST_F(HistoryTest, AYeastThatChangesNoTextGoesBackToTheTypedGravity) {
     Brew();
     Set(R().txtFG, "1.012");
@@ -305,7 +306,7 @@ TEST_F(HistoryTest, TheTimeOfDryHopsKeepsItsNumber) {
     ExpectUndoAndRedo(before);
 }
 
-// A recipe from elsewhere may hold another number than its text tells.
+// A recipe from another program may contain numbers that differ from their texts.
 TEST_F(HistoryTest, ADeletedRowComesBackWithItsStoredNumbers) {
     host.appendRows = true;
     document->Lines().InsertRowForGrid(R().gridGrain);
@@ -342,7 +343,7 @@ TEST_F(HistoryTest, AStepMarksTheDocumentChanged) {
     EXPECT_FALSE(document->Changed());
 }
 
-// Commands that end without an edit.
+// Commands that change nothing.
 
 TEST_F(HistoryTest, ACommandThatChangesNothingIsNoStep) {
     Grid& grain = R().gridGrain;
@@ -393,7 +394,7 @@ TEST_F(HistoryTest, ACommandThatChangesNothingLeavesWhatCanBeRedone) {
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Amount), "8");
 }
 
-// Typing joins what was typed before, since nothing came between.
+// Typing is merged with the previous typing, since no step came between.
 TEST_F(HistoryTest, ACommandThatChangesNothingDoesNotPartTheTyping) {
     Set(R().txtName, "A");
     R().txtName.Select({1, 0});
@@ -403,7 +404,7 @@ TEST_F(HistoryTest, ACommandThatChangesNothingDoesNotPartTheTyping) {
     EXPECT_EQ(History().StackTop(), 1U);
 }
 
-// A fault in its first edit leaves nothing to take back.
+// After an error in the first edit of a command, there is nothing to undo.
 TEST_F(HistoryTest, AFaultBeforeTheFirstEditTakesNothingElseBack) {
     Put(R().gridGrain, 1, GrainCol::Amount, "8");
     database->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
@@ -424,7 +425,7 @@ TEST_F(HistoryTest, TakingBackAnEntryThatWasNotLeftIsNoChange) {
         EXPECT_EQ(R().txtBoilVol.Text(), "6");
         EXPECT_FALSE(document->Changed());
     }
-    // A refused entry that comes back is none either.
+    // Restoring a refused entry by undo is not a change either.
     document->Fields().SetText(R().txtBoilVol, "much");
     document->Fields().RestoreField(R().txtBoilVol);
     ASSERT_TRUE(document->Replay().Undo());
@@ -445,7 +446,7 @@ TEST_F(HistoryTest, EveryStepThatMovesTheRecipeMarksIt) {
         [&] { document->Cells().SetChecked(R().gridHops, 1, HopCol::DryHopped, true); },
         [&] { document->Lines().InsertRowForGrid(grain); },
         [&] {
-            // The blank row stands first already; the second click turns the order round.
+            // The blank row is first already; the second click reverses the order.
             document->Lines().ClickHeader(grain, GrainCol::Amount);
             document->Lines().ClickHeader(grain, GrainCol::Amount);
         },
@@ -463,7 +464,7 @@ TEST_F(HistoryTest, EveryStepThatMovesTheRecipeMarksIt) {
     }
 }
 
-// A style that went meanwhile does not come back by undo, and nothing has changed then.
+// Undo does not restore a style that has been deleted since, and then changes nothing.
 TEST_F(HistoryTest, AStyleThatIsGoneDoesNotComeBack) {
     document->Style().SetId(kLager);
     SaveAs("A");

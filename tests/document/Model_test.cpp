@@ -1,6 +1,6 @@
-// Thousands of random edits, good and bad, on a document and on the plain calculation; after each the two
-// must agree in every text, number, check mark, button and command. In the middle the recipe is saved and
-// opened again.
+// Makes thousands of random valid and invalid edits in a document and in the plain calculation; after each
+// one the two must agree in every text, number, check mark, button and command. Halfway the recipe is
+// saved and opened again.
 #include <random>
 
 #include "DocumentTest.h"
@@ -69,7 +69,7 @@ class ModelTest : public DocumentTest, public testing::WithParamInterface<unsign
     const std::string& Any(const std::vector<std::string>& texts) {
         return texts[static_cast<std::size_t>(Below(static_cast<int>(texts.size())))];
     }
-    // Good entries twice as often as bad ones, so that figures come about.
+    // Returns valid entries twice as often as invalid ones, so that there are figures.
     const std::string& Likely(const std::vector<std::string>& texts) {
         return Below(3)
                    ? texts[static_cast<std::size_t>(Below(std::min<int>(6, static_cast<int>(texts.size()))))]
@@ -249,7 +249,7 @@ TEST_P(ModelTest, AgreesWithThePlainCalculationAfterEveryEdit) {
     }
 }
 
-// A recipe that computes everything must not be left to chance: the walk starts from a full one.
+// Starts from a complete recipe, since a random one may never calculate everything.
 TEST_P(ModelTest, AgreesOnAFullRecipe) {
     struct Entry {
         const char* box;

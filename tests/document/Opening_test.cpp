@@ -1,4 +1,4 @@
-// A stored recipe comes back letter for letter, and whatever a row lacks does no harm.
+// Tests that a stored recipe is opened unchanged, and that missing columns do no harm.
 #include <gmock/gmock.h>
 
 #include "DocumentTest.h"
@@ -13,7 +13,7 @@ using testing::IsEmpty;
 
 class OpeningTest : public DocumentTest {
   protected:
-    // A recipe with something in every field and grid, stored as "Full".
+    // Stores a recipe "Full" with an entry in every field and grid.
     void SaveFullRecipe() {
         host.defaults = {"70", "1.1", "Soft", "6 gal", "5 gal", 1, 0, 1, true};
         host.appendRows = true;
@@ -138,7 +138,7 @@ TEST_F(OpeningTest, BlankCellsStayBlankAndAreNotZero) {
     EXPECT_EQ(R().gridWater.Text(2, 2), "");
 }
 
-// Hop amounts in AAUs and IBUs take 0 in the number column: intended.
+// Hop amounts in AAUs and IBUs store 0 in the column of the number.
 TEST_F(OpeningTest, ANumberColumnCannotHoldAaus) {
     SaveFullRecipe();
     EXPECT_EQ(One("SELECT AMOUNT_DATA FROM RECIPE_HOPS WHERE ROW_ID = 0"), "0");
@@ -222,7 +222,7 @@ TEST_F(OpeningTest, GapsInTheRowsAreBlankLines) {
     EXPECT_EQ(R().gridGrain.Text(2, 0), "O'Brien's");
     EXPECT_EQ(R().gridGrain.Text(3, 0), "");
     EXPECT_EQ(R().gridGrain.Text(5, 0), "007");
-    EXPECT_EQ(R().gridHops.Text(1, HopCol::Form), "Plug");  // a blank line is a new row
+    EXPECT_EQ(R().gridHops.Text(1, HopCol::Form), "Plug");  // a blank line is like a new row
     EXPECT_EQ(R().gridGrain.Text(6, 0), "Total");
     EXPECT_EQ(R().gridPriming.Text(7, 0), "Total");
     EXPECT_NE(R().txtOG.Text(), "");
@@ -276,7 +276,7 @@ TEST_F(OpeningTest, ANumberThatIsMissingOrZeroIsReadFromItsTextAgain) {
         const Log before = Shown();
         for (const TableSchema& table : MainSchema())
             for (const ColumnDef& column : table.columns)
-                // Figures are worked out from the full gravities.
+                // Figures are calculated from the gravities in full precision.
                 if (column.name.ends_with("_DATA") && column.name != "OG_DATA" && column.name != "BG_DATA")
                     database->ExecuteNative("UPDATE " + std::string(table.name) + " SET " +
                                             std::string(column.name) + " = " + number);
@@ -305,7 +305,8 @@ TEST_F(OpeningTest, TheGravitiesAreReadAgainToo) {
     EXPECT_NEAR(R().txtBG.Value(), bg, 0.0005);
 }
 
-// A multiplier that the text does not tell is 1; a number that says something else than its text counts.
+// A multiplier without a text is 1. A number other than 0 takes precedence over a text
+// that says something else.
 TEST_F(OpeningTest, OnlyANumberThatSaysNothingGivesWayToItsText) {
     SaveFullRecipe();
     database->ExecuteNative(
@@ -316,7 +317,7 @@ TEST_F(OpeningTest, OnlyANumberThatSaysNothingGivesWayToItsText) {
     EXPECT_EQ(R().txtTotalVol.Text(), "5 gal");
     EXPECT_EQ(R().txtTotalVol.Value(), 4);
     EXPECT_EQ(R().txtBoilVol.Value(), 0);
-    // The time of dry hops is free text without a number.
+    // The time of dry hops is free text, without a number.
     EXPECT_EQ(R().gridHops.Number(1, HopCol::Time), 0);
 }
 
@@ -331,7 +332,7 @@ TEST_F(OpeningTest, StoredBlanksAreNoQuantity) {
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
-// Numbers that break the formulas: the recipe opens, and one box names it and its fields.
+// Numbers for which the formulas fail: the recipe is opened, and one message names it and its fields.
 TEST_F(OpeningTest, DamagedNumbersAreToldOnceAndDoNotKeepARecipeShut) {
     SaveFullRecipe();
     database->ExecuteNative("UPDATE RECIPES SET TV = 'much', TV_DATA = 0, FV = 'more', FV_DATA = 0");
@@ -360,7 +361,7 @@ TEST_F(OpeningTest, DamagedNumbersOfLinesAreNamedByTheirPlace) {
                                    "Water, Calcium (Ca); and 1 more.\r\n"));
 }
 
-// Salts have numbers that no field shows.
+// Salts have numbers that are not shown in any field.
 TEST_F(OpeningTest, NumbersThatOnlyFailTogetherAreNamedByTheirFigure) {
     SaveFullRecipe();
     database->ExecuteNative("UPDATE RECIPE_SALTS SET CA = 1e308, AMOUNT_DATA = 1e6");

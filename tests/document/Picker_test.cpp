@@ -1,4 +1,4 @@
-// The way from a style or a cell to its catalogue and back.
+// Tests of opening the catalogue from a style or a cell, and of taking over what is picked.
 #include <gmock/gmock.h>
 
 #include "DocumentTest.h"
@@ -12,7 +12,7 @@ using testing::IsEmpty;
 class PickerTest : public DocumentTest {
   protected:
     PickerTest() { New(); }
-    // What the brewer is asked when the cell is browsed; "nothing" when there is no catalogue for it.
+    // Browses a cell and returns what the host was asked; "nothing" if there is no catalogue for the cell.
     std::string Browse(Grid& grid, int row, int col) {
         document->Focus().SetCurrentCell(grid, row, col);
         host.log.clear();

@@ -1,4 +1,4 @@
-// The arithmetic that the parts of the plain calculation share.
+// Arithmetic for the parts of the plain calculation.
 #pragma once
 
 #include <cmath>
@@ -8,7 +8,7 @@
 
 namespace tw::test {
 
-// An arithmetic fault: everything goes back to the copy.
+// An arithmetic error: everything is restored from the copy.
 struct Fault {};
 
 inline double Sound(double value) {

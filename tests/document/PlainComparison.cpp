@@ -44,7 +44,7 @@ void CompareGrid(Comparison& c, const Grid& grid, const PlainRows& rows) {
     const int lines = grid.RowsCanChange() ? grid.DataRows() : static_cast<int>(rows.size());
     c.Number(grid.Name() + " rows", lines, static_cast<double>(rows.size()));
     if (!c.difference.empty()) return;
-    // The captions of the waters are no data.
+    // The captions of the waters are not data.
     const int firstCol = grid.Name() == "gridWater" ? 1 : 0;
     for (int row = 0; row < lines; ++row)
         for (int col = firstCol; col < grid.Cols(); ++col)

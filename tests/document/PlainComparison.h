@@ -1,4 +1,4 @@
-// A document beside the plain calculation.
+// Compares a document with the plain calculation.
 #pragma once
 
 #include <string>
@@ -9,8 +9,8 @@
 
 namespace tw::test {
 
-// Where the two differ first, in a text, number, check mark, emphasis, button or command; empty when they do
-// not.
+// Returns the first difference, in a text, number, check mark, emphasis, button or command;
+// empty if there is none.
 std::string FirstDifference(RecipeDocument& document, const RecordingHost& host, const PlainRecipe& plain);
 
 }  // namespace tw::test

@@ -1,4 +1,4 @@
-// The chains of the plain calculation: gravity, colour, hops, carbonation, water.
+// The figures of the plain calculation: gravity, colour, hops, carbonation, water.
 #include <cmath>
 
 #include "PlainArithmetic.h"
@@ -10,7 +10,7 @@ namespace {
 
 constexpr double kFormFactors[] = {1.15, 1.1, 1.0};
 
-// The piecewise linear tables, by their points.
+// The piecewise linear tables, given by their points.
 double Rager(double t) {
     if (t < 9) return t * 0.05 / 9;
     if (t < 19) return 0.05 + (t - 9) * (0.12 - 0.05) / 10;
@@ -322,7 +322,7 @@ void PlainRecipe::MarkTotal(int col) {
     const auto at = static_cast<std::size_t>(col);
     const double need = water[3][at].number;
     const double miss = std::fabs(need - water[4][at].number);
-    // In ten-thousandths, so that exactly 2.5 and exactly 3% count.
+    // In ten-thousandths, so that exactly 2.5 and exactly 3% are included.
     const long double parts = std::round(static_cast<long double>(miss) * 10000);
     water[4][at].bold = parts <= 25000 || parts <= std::round(static_cast<long double>(need) * 300);
 }

@@ -1,6 +1,6 @@
-// A history told a second time, from its rules alone and without the program's records: what each step is
-// called, on which tab it was made, when typing joins the step before or takes it away, and what the document
-// was at each point.
+// A second, independent model of the history, written from its rules alone: the name of each step, the tab on
+// which it was made, when typing is merged into the previous step or removes it, and the state of the
+// document at each point.
 #pragma once
 
 #include <cstddef>
@@ -16,33 +16,33 @@ class PlainHistory {
     struct Step {
         std::string name;
         int tab = 0;
-        std::string typedIn = {};  // the box of a typing step, empty for any other
-        std::string oldText = {};  // what that box held before the first key
-        std::string grid = {};     // the grid whose selection the step brings back, empty for none
+        std::string typedIn = {};  // the box of a typing step; empty for any other step
+        std::string oldText = {};  // the text of that box before the first key
+        std::string grid = {};     // the grid whose selection the step restores; empty for none
         GridRange selection = {};
     };
     struct Point {
         DocumentState state;
-        // An entry that has not been committed stands in its box. Coming back commits it if it can be read,
-        // so that the figures are others than they were.
+        // True if a box has an uncommitted entry. Returning to the point commits the entry if it is valid, so
+        // the figures differ from those at the time.
         bool open = false;
     };
 
-    // An empty history at that state.
+    // Starts an empty history at that state.
     void Start(DocumentState state);
 
-    // A step has been recorded; what could be redone is gone.
+    // Records a step and discards the steps that could be redone.
     void Add(Step step);
-    // A key was released in a box. True when the box holds again what it did before its typing began, so that
-    // the typing step is gone.
+    // Called after a key was released in a box. Returns true if the box has the text again that it had before
+    // its typing began, so that the typing step is removed.
     bool Type(const std::string& box, const std::string& oldText, const std::string& newText, int tab);
-    // What the document is at the present point.
+    // Sets the state of the document at the current point.
     void SetPoint(Point point) { points_[position_] = std::move(point); }
     const Point& Now() const { return points_[position_]; }
 
     bool CanUndo() const { return position_ > 0; }
     bool CanRedo() const { return position_ < steps_.size(); }
-    // Move the position and give the step that was crossed.
+    // Move the position and return the step between.
     const Step& Undo() { return steps_[--position_]; }
     const Step& Redo() { return steps_[position_++]; }
 

@@ -29,7 +29,7 @@ bool IsFreeText(const std::string& box) {
     return box == "txtName" || box == "txtNotes" || box == "txtNumBatches";
 }
 
-// The columns that take a quantity, a form or a number; all others take any text.
+// True for the columns that accept a quantity, a form or a number; all others accept any text.
 bool IsQuantity(const std::string& grid, int col) {
     if (grid == "gridAdjuncts" || grid == "gridLog") return false;
     if (grid == "gridWater") return col > 1;
@@ -93,7 +93,7 @@ PlainRecipe::Outcome PlainRecipe::Try(Change change) {
 
 namespace {
 
-// Puts what was read into number; false, and number untouched, when nothing was.
+// Sets number to the value read. Returns false and leaves number unchanged if there is none.
 bool Take(const std::optional<double>& read, double& number) {
     number = read.value_or(number);
     return read.has_value();
@@ -138,7 +138,7 @@ PlainRecipe::Outcome PlainRecipe::Commit(const std::string& box, const std::stri
         }
         return true;
     });
-    // The old text takes its chain again; it shows in a total of the water that was never computed before.
+    // The old text is recalculated; this can be seen in a total of the water that had never been calculated.
     if (outcome == Outcome::Raised && chainRan) RunBox(box);
     return outcome;
 }
@@ -398,7 +398,7 @@ void PlainRecipe::Reopen() {
     for (auto& [name, box] : boxes) box.text = Trim(box.text);
     for (PlainRow& line : rows["gridHops"])
         if (line[2].text.empty()) line[2].text = kFormNames[0];
-    // The ions are stored as numbers.
+    // Ions are stored as numbers only.
     for (std::size_t row : {0u, 1u})
         for (std::size_t col = 2; col < 8; ++col)
             if (PlainCell& cell = rows["gridWater"][row][col]; !cell.Empty())

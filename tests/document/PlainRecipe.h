@@ -1,5 +1,5 @@
-// A second, plain calculation of a recipe, written apart from the program's: numbers kept as doubles, each
-// chain spelled out as one list of steps, and a fault in the middle undone by going back to a copy. The model
+// A second, plain calculation of a recipe, independent of the program's: numbers are doubles, each
+// recalculation is one list of steps, and an error in the middle is undone by restoring a copy. The model
 // test compares the program with it after every edit.
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace tw::test {
 
-// What the catalogue gives for a name; an absent number is NULL.
+// The values of the catalogue for a name; an absent number is NULL.
 struct PlainCatalogue {
     struct Fermentable {
         std::optional<double> ppg, color;
@@ -25,7 +25,7 @@ struct PlainCatalogue {
 struct PlainCell {
     std::string text;
     double number = 0;
-    char kind = ' ';  // of a hop amount: ' ' a weight, 'A', 'I'
+    char kind = ' ';  // for a hop amount: ' ' weight, 'A' AAU, 'I' IBU
     bool checked = false;
     bool bold = false;
     bool Empty() const { return text.empty(); }
@@ -44,24 +44,24 @@ class PlainRecipe {
 
     explicit PlainRecipe(const PlainCatalogue& catalogue, int hopForm, bool hopSock);
 
-    // What is typed and left. Refused and Raised leave everything as it was.
+    // Edits as the brewer makes them. Refused and Raised leave everything unchanged.
     Outcome Commit(const std::string& box, const std::string& text);
     Outcome Edit(const std::string& grid, int row, int col, const std::string& text);
     Outcome Check(int hopRow, int col, bool checked);
     Outcome ChooseMethod(int method);
     Outcome ChoosePackaging(int packaging);
     void ChooseStyle(int id);
-    // row counts from 0 among the data rows.
+    // row is counted from 0 among the data rows.
     void InsertRow(const std::string& grid, int row);
     Outcome DeleteRow(const std::string& grid, int row);
-    // Scaling (PlainScaling.cpp); Refused is a stop on the way, which may have changed something. carbonate
-    // is the answer to the question about the carbonation. A final volume of nothing refuses a resize before
-    // anything changes.
+    // Scaling (PlainScaling.cpp). Refused means that the operation stopped on the way and may have changed
+    // something. carbonate is the answer to the question about the carbonation. A final volume that would be
+    // 0 or less refuses a resize before anything changes.
     Outcome Resize(double size, const std::string& text, bool boil, bool keepIbu, bool carbonate);
     Outcome ChangeOG(double og, bool keepIbu);
     Outcome ChangeIBU(double ibu);
     Outcome ChangeCO2(double volumes);
-    // What saving and opening does to what is seen.
+    // Applies the changes that saving and opening make to what is shown.
     void Reopen();
 
     std::map<std::string, PlainBox> boxes;

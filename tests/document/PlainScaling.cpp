@@ -1,4 +1,4 @@
-// Scaling as one list of steps each, on the plain recipe.
+// Scaling of the plain recipe, each kind as one list of steps.
 #include <tuple>
 
 #include "PlainArithmetic.h"
@@ -12,7 +12,7 @@ PlainRecipe::Outcome PlainRecipe::TryForGood(Change change) {
     const auto before = std::make_tuple(boxes, rows, totals, residual, buttons, commands);
     const std::string texts = AllTexts();
     try {
-        // A stop on the way leaves what has been done so far.
+        // An operation that stops on the way keeps what it has done so far.
         const bool ended = change();
         if (ended || AllTexts() != texts) changed = true;
         return ended ? Outcome::Done : Outcome::Refused;

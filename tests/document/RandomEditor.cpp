@@ -34,8 +34,7 @@ const Texts kActions{"Pitched Yeast", " pitched yeast ", "Racked", ""};
 const Texts kLogNotes{"Ale", "Ale - Wyeast 1056", "Cook's - 1", "Stray", "Nobody", "", "Ale  - dry"};
 const Texts kChecks{"Yes", "No", "", "1", "0", "x"};
 
-// What may be typed into each column of each grid; read-only columns have a text as well, for pastes over
-// them.
+// The entries for each column of each grid. Read-only columns have entries as well, for pasting over them.
 const std::map<std::string, std::vector<const Texts*>, std::less<>> kColumns{
     {"gridGrain", {&kGrainNames, &kPounds, &kNumbers, &kFree, &kNumbers, &kFree}},
     {"gridExtract", {&kGrainNames, &kPounds, &kNumbers, &kFree, &kNumbers, &kFree}},
@@ -79,7 +78,7 @@ const std::string& RandomEditor::TextFor(const Grid& grid, int col) {
     return Any(*kColumns.find(grid.Name())->second[static_cast<std::size_t>(col)]);
 }
 
-// The books.
+// The expected history.
 
 void RandomEditor::Recorded(PlainHistory::Step step) {
     history_.Add(std::move(step));
@@ -90,7 +89,7 @@ void RandomEditor::RecordedIfChanged(const DocumentState& before, PlainHistory::
     if (before != StateOf(*document, host)) Recorded(std::move(step));
 }
 
-// The present point is what the document is now.
+// Sets the state at the current point to that of the document.
 void RandomEditor::Settle() {
     history_.SetPoint({StateOf(*document, host), PendingBox(*document) != nullptr});
 }
@@ -177,7 +176,8 @@ void RandomEditor::SaveAndStartAgain() {
     history_.Start(StateOf(*document, host));
 }
 
-// Leaving a box commits its entry. A refused one goes back to the committed text, which is a step "Abort".
+// Leaving a box commits its entry. A refused entry is replaced by the committed text,
+// which is a step "Abort".
 bool RandomEditor::Leave(const std::function<void()>& enter) {
     TextBox* const pending = PendingBox(*document);
     const std::string typed = pending ? pending->Text() : "";
@@ -190,7 +190,7 @@ bool RandomEditor::Leave(const std::function<void()>& enter) {
         return !fault;
     }
     if (typed != pending->Text() && IsBlank(typed)) {
-        // Blanks alone are the empty text.
+        // Text that consists only of blanks counts as empty.
         EXPECT_EQ(pending->Text() + pending->Committed(), "") << Trace();
         EXPECT_FALSE(fault) << Trace();
         if (!history_.Type(pending->Name(), typed, "", tab))
@@ -220,8 +220,8 @@ void RandomEditor::Key(TextBox& box, const std::string& text) {
     }
     ASSERT_EQ(box.Text(), text);
     if (!history_.Type(box.Name(), old, text, TabNow())) return Settle();
-    // Typed back to where the step began: committed, it is all as it was then. Only a gravity that came from
-    // a yeast was finer than its text.
+    // The text is again what it was when the step began; once committed, everything is as it was then. The
+    // exception is a gravity that came from a yeast, which was more precise than its text.
     if (history_.Now().open) return;
     document->Fields().CommitField(box, Asking::Quietly);
     if (&box == &R().txtFG) history_.SetPoint({history_.Now().state, true});
@@ -233,7 +233,7 @@ void RandomEditor::TypeKeys(TextBox& box, const std::string& text) {
         Key(box, text);
         return;
     }
-    // Erased from the end, then letter by letter.
+    // The old text is erased from the end, then the new one is typed letter by letter.
     while (!box.Empty() && !box.Computed() && box.Text().size() < 20) {
         const std::string now = box.Text();
         Key(box, now.substr(0, CodePointOffset(now, CodePointCount(now) - 1)));
@@ -266,7 +266,7 @@ void RandomEditor::TypeInBox() {
     const std::string& text = Any(*texts);
     Note(box.Name() + " <- " + text);
     if (!Leave([&] {
-            // Staying in a box commits nothing.
+            // Focusing the same box does not commit its entry.
             document->Focus().FocusOn(box);
             if (PendingBox(*document) == &box)
                 document->Fields().CommitField(box) || (document->Fields().RestoreField(box), true);

@@ -1,5 +1,4 @@
-// A brewer who does anything at random with a recipe, and keeps the books of what the history must be after
-// each of the edits.
+// Makes random edits of a recipe and keeps the history that is expected after each of them.
 #pragma once
 
 #include <deque>
@@ -17,14 +16,14 @@ class RandomEditor : public DocumentTest {
     using Texts = std::vector<std::string>;
 
     void StartWith(unsigned seed, bool fullRecipe);
-    // One edit, good or bad, or a change of what is selected. Checks the history after it.
+    // Makes one valid or invalid edit, or changes the selection; then checks the history.
     void EditOnce();
-    // Some steps back and forth, checking the whole document at each point.
+    // Makes some undo and redo steps and checks the whole document at each point.
     void Walk();
     void UndoAll();
     void RedoAll();
     void SaveAndStartAgain();
-    // What was done last, the newest last.
+    // Returns the last actions, the newest last.
     std::string Trace() const;
 
   private:
@@ -40,7 +39,7 @@ class RandomEditor : public DocumentTest {
     void Note(const std::string& what);
     int TabNow() const { return static_cast<int>(document->Focus().CurrentTab()); }
 
-    // True when the change ended with a fault of its arithmetic.
+    // Returns true if the change ended with an arithmetic error.
     template <class Change>
     bool Faults(Change change) {
         try {
@@ -51,14 +50,14 @@ class RandomEditor : public DocumentTest {
             return true;
         }
     }
-    // Leaves the text box that is being edited, as entering another control does. False when a fault of its
-    // chain kept it.
+    // Leaves the text box being edited, as entering another control does. Returns false if an
+    // arithmetic error prevented it.
     bool Leave(const std::function<void()>& enter);
     bool Enter(Grid& grid) {
         return Leave([&] { document->Focus().FocusOn(grid); });
     }
     void Recorded(PlainHistory::Step step);
-    // A command that changes nothing is no step.
+    // Records a step only if the command has changed something.
     void RecordedIfChanged(const DocumentState& before, PlainHistory::Step step);
     void Settle();
     void CheckHistory();

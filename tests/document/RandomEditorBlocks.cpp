@@ -1,11 +1,11 @@
-// What the random editor does to blocks of cells, and what it picks for the current row.
+// The random editor's edits of blocks of cells, and its picks for the current row.
 #include <algorithm>
 
 #include "RandomEditor.h"
 
 namespace tw::test {
 
-// Blocks of cells. Each command that changes a cell is one step; a fault takes all of it back.
+// Blocks of cells. Each command that changes a cell is one step; an arithmetic error undoes all of it.
 
 template <class Edit>
 void RandomEditor::Compound(const std::string& name, Edit edit) {
@@ -59,7 +59,7 @@ void RandomEditor::PasteCells() {
     platform.clipboard.text = Block(grid, selection.col1, height, width);
     Note("paste " + grid.Name() + " " + std::to_string(selection.row1) + "," +
          std::to_string(selection.col1) + ": " + *platform.clipboard.text);
-    // A selection of one row or column takes as much of the block as the grid has room for.
+    // A selection of one row or column grows to the size of the block if the grid has room.
     const int rows = selection.Rows() > 1 ? selection.Rows() : std::min(height, grid.Rows() - selection.row1);
     const int cols = selection.Cols() > 1 ? selection.Cols() : std::min(width, grid.Cols() - selection.col1);
     const bool fits = host.pasteMismatchSize || (rows % height == 0 && cols % width == 0);

@@ -1,5 +1,5 @@
-// An open recipe to a snapshot, to a text and back: everything that a window shows comes back, and damage is
-// seen.
+// Tests of converting an open recipe to a snapshot, to text and back: everything that a window shows is
+// restored, and damage is detected.
 #include "document/RecipeSnapshot.h"
 
 #include <gmock/gmock.h>
@@ -14,7 +14,7 @@ using testing::IsEmpty;
 
 class SnapshotTest : public DocumentTest {
   protected:
-    // The document's snapshot as text, put into a new document that becomes the active one.
+    // Writes the document's snapshot as text and restores it in a new document, which becomes active.
     void ThroughText() {
         const std::string text = SnapshotText(document->Storage().TakeSnapshot());
         const std::optional<RecipeSnapshot> read = ReadSnapshot(text);
@@ -63,7 +63,7 @@ TEST_F(SnapshotTest, EverythingShownComesBack) {
     EXPECT_EQ(document->StyleID(), kStout);
     EXPECT_EQ(document->Caption(), "Fill");
     EXPECT_EQ(R().grpIBUMethod.Value(), "optGaretz");
-    // Nothing has been stored.
+    // The database is unchanged.
     EXPECT_EQ(One("SELECT NOTES FROM RECIPES"), stored);
     EXPECT_EQ(Count("RECIPES"), 1);
 }
@@ -167,7 +167,7 @@ TEST_F(SnapshotTest, EveryDamageIsSeen) {
     EXPECT_FALSE(ReadSnapshot(std::string(5000, '\0')));
 }
 
-// The text with a line in place of another, under a checksum that fits.
+// Returns body with a correct checksum, so that only its content can be at fault.
 std::string Signed(const std::string& body) {
     return body + "end " + HashText(body) + "\n";
 }
@@ -232,7 +232,7 @@ TEST_F(SnapshotTest, RowsThatNoGridCanHaveAreRefused) {
     EXPECT_FALSE(refused([](auto& s) { s.options = {"optFromLater"}; }));
 }
 
-// Documents after many entries of every kind, good and bad.
+// Documents after many valid and invalid entries of every kind.
 class RandomSnapshots : public SnapshotTest, public testing::WithParamInterface<unsigned> {
   protected:
     int Below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random_); }
@@ -247,7 +247,7 @@ class RandomSnapshots : public SnapshotTest, public testing::WithParamInterface<
         try {
             EditSomething();
         } catch (const Error&) {
-            // An arithmetic fault leaves everything as it was.
+            // An arithmetic error leaves everything unchanged.
         }
     }
     void EditSomething() {

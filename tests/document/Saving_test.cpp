@@ -1,4 +1,4 @@
-// The way of a recipe into the database: its questions, its order, and what stands where after a failure.
+// Tests of saving a recipe: its questions, its order, and the state after a failure.
 #include <gmock/gmock.h>
 
 #include "DocumentTest.h"
@@ -17,7 +17,7 @@ class SavingTest : public DocumentTest {
         return document->Storage().Save(saveAs ? SaveAs::Yes : SaveAs::No,
                                         silent ? Asking::Quietly : Asking::Aloud);
     }
-    // A new document with some lines in it.
+    // Creates a document with some lines.
     void NewWithLines() {
         New();
         Put(R().gridGrain, 1, 0, "Pale Malt");
@@ -38,7 +38,7 @@ TEST_F(SavingTest, AFirstSaveMakesTheRecipe) {
     EXPECT_EQ(One("SELECT CREATED_WHEN FROM RECIPES"), "03/09/2024 14:05:07");
     EXPECT_EQ(One("SELECT AMOUNT FROM RECIPE_GRAINS WHERE GRAIN"), "8 lb");
     EXPECT_EQ(One("SELECT AMOUNT_DATA FROM RECIPE_GRAINS WHERE GRAIN"), "8");
-    // Blank rows are lines too.
+    // Blank rows are stored too.
     EXPECT_EQ(Count("RECIPE_GRAINS"), 2);
     EXPECT_EQ(Count("RECIPE_HOPS"), 1);
     EXPECT_EQ(Count("RECIPE_SUGARS"), 1);
@@ -64,9 +64,9 @@ TEST_F(SavingTest, EverySaveIsANewRowOfTheSameDay) {
     EXPECT_EQ(One("SELECT MODIFIED_WHEN FROM RECIPES"), "03/20/2024 14:05:07");
     EXPECT_EQ(Count("RECIPES"), 1);
     EXPECT_EQ(Count("RECIPE_GRAINS"), 2);
-    // Deleting a recipe leaves its sugars behind: intended.
+    // Deleting a recipe leaves its sugars in the database.
     EXPECT_EQ(Count("RECIPE_SUGARS"), 2);
-    // Opened and saved again it keeps its day.
+    // A recipe that is opened and saved again keeps its date of creation.
     Open("a");
     platform.clock.now.day = 21;
     EXPECT_TRUE(Save());
@@ -85,7 +85,7 @@ TEST_F(SavingTest, AnEditedNameRenamesTheRecipe) {
     EXPECT_EQ(One("SELECT NAME FROM RECIPES"), "B");
     EXPECT_EQ(document->OrigName(), "B");
     EXPECT_THAT(Boxes(), IsEmpty());
-    // Another case, or blanks around it, is the same name.
+    // A name that differs only in case or outer blanks is the same name.
     Rename(" b ");
     EXPECT_TRUE(Save());
     EXPECT_EQ(One("SELECT NAME FROM RECIPES"), "b");
@@ -151,7 +151,8 @@ TEST_F(SavingTest, TheNameOfAnotherRecipeAsks) {
     EXPECT_TRUE(Save());
     EXPECT_EQ(Count("RECIPES"), 1);
     EXPECT_EQ(One("SELECT NAME FROM RECIPES"), "it's MINE");
-    // The other window stays, as an unsaved recipe; the saved one is no stranger to itself.
+    // The other window stays open as an unsaved recipe. The document that was saved is not
+    // affected by its own notice.
     EXPECT_EQ(other.OrigName(), "");
     EXPECT_TRUE(other.Changed());
     EXPECT_EQ(document->OrigName(), "it's MINE");
@@ -195,8 +196,8 @@ TEST_F(SavingTest, ADetachedRecipeIsSavedAnew) {
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
-// Every statement of a save in turn raises. The document must stay as it is, changed and with its window's
-// texts; and saving again when the trouble is over must bring everything into the database, once.
+// Makes each statement of a save fail in turn. The document must keep its changes and the texts of its
+// window, and saving again afterwards must store everything, once.
 TEST_F(SavingTest, AFailureAnywhereLosesNothingOfTheDocument) {
     int statements = 0;
     for (int failing = 0;; ++failing) {
@@ -238,7 +239,7 @@ TEST_F(SavingTest, AFailureAnywhereLosesNothingOfTheDocument) {
         EXPECT_FALSE(own.Changed()) << failing;
         EXPECT_EQ(Count("RECIPES"), 1) << failing;
         EXPECT_EQ(One("SELECT NAME FROM RECIPES"), "New") << failing;
-        // Lines of the old recipe may be left over; no recipe has their id any more.
+        // Lines of the old recipe may remain, but no recipe has their id any more.
         const std::string ofRecipe = " WHERE RECIPE_ID = " + One("SELECT ID FROM RECIPES");
         EXPECT_EQ(Count("RECIPE_GRAINS" + ofRecipe), 2) << failing;
         EXPECT_EQ(One("SELECT NOTES FROM RECIPE_LOG" + ofRecipe), "note") << failing;
@@ -247,7 +248,7 @@ TEST_F(SavingTest, AFailureAnywhereLosesNothingOfTheDocument) {
     EXPECT_GE(statements, 15);
 }
 
-// What was done before a failure stays: no rolling back.
+// What was done before a failure is not rolled back.
 TEST_F(SavingTest, AFailureLeavesWhatWasDoneSoFar) {
     NewWithLines();
     Rename("A");
@@ -273,7 +274,8 @@ TEST_F(SavingTest, AFailureLeavesWhatWasDoneSoFar) {
     EXPECT_EQ(Count("RECIPE_GRAINS"), 2);
 }
 
-// An update that touches no row ends the save with a box; the question of success was the overwriting alone.
+// An update that changes no row ends the save with a message. Save still returns true, since that depends
+// only on the question about overwriting.
 TEST_F(SavingTest, ARowThatCannotBeFoundAgainIsToldInABox) {
     NewWithLines();
     Rename("A");

@@ -1,5 +1,5 @@
-// Random recipes, scaled at random, beside the plain calculation: to the last digit, with every stop and
-// fault.
+// Scales random recipes at random and compares them with the plain calculation to the last digit,
+// including every stop and error.
 #include <map>
 #include <random>
 
@@ -128,7 +128,7 @@ void RandomScaling::ScaleDocument(int what, double value, bool first, bool secon
 
 void RandomScaling::ScaleOnce() {
     const int what = Below(4);
-    // The commands are off while there is nothing to scale from.
+    // The commands are disabled while there is nothing to scale from.
     if (!CurrentFigure(*document, static_cast<Scaling>(what))) return;
     const double values[] = {Between(0.5, 30), Between(1, 1.12), Between(0, 90), Between(0.2, 4)};
     const double extremes[] = {1e308, what == 1 ? 1.00001 : 1e-5, what == 1 ? 1.5 : 0.003};
@@ -161,7 +161,7 @@ TEST_P(RandomScaling, AgreesWithThePlainCalculation) {
     for (int what = 0; what < 4; ++what) {
         const std::string name = "scaling " + std::to_string(what);
         EXPECT_GT((seen_[{what, Outcome::Done}]), 20) << name;
-        // A resize stops only where hops round to nothing, which is rare.
+        // A resize stops only if hops round to zero, which is rare.
         if (what > 0) {
             EXPECT_GT((seen_[{what, Outcome::Refused}]), 5) << name;
         }

@@ -1,4 +1,4 @@
-// The dialogs of scaling apart from their windows.
+// Tests of the scaling dialogs without their windows.
 #include "document/ScalingModel.h"
 
 #include "DocumentTest.h"
@@ -8,7 +8,7 @@ namespace {
 
 class ScalingDialogs : public testing::Test {
   protected:
-    // Enters a text and presses OK.
+    // Enters a text and presses OK. Returns the message, empty if there was none.
     std::string Enter(ScalingModel& dialog, const std::string& text) {
         EXPECT_TRUE(dialog.SetControl(dialog.BoxName(), text));
         EXPECT_TRUE(dialog.Press("OKButton"));

@@ -1,4 +1,5 @@
-// Resizing, strength, bitterness and carbonation of a whole recipe, with figures worked out by hand.
+// Tests of resizing and of changing strength, bitterness and carbonation of a whole recipe, with
+// figures calculated by hand.
 #include "DocumentState.h"
 #include "DocumentTest.h"
 
@@ -17,7 +18,7 @@ class Scaling : public DocumentTest {
         Put(R().gridGrain, 1, GrainCol::Amount, "10 lb");
         Put(R().gridGrain, 1, GrainCol::Ppg, "36");
     }
-    // A row of so many IBUs, which no volume or gravity moves.
+    // Adds a row of that many IBUs, which does not depend on volume or gravity.
     void AddIbus(std::string_view amount) {
         Put(R().gridHops, 1, HopCol::Amount, amount);
         Put(R().gridHops, 1, HopCol::Time, "60");
@@ -33,7 +34,7 @@ class Scaling : public DocumentTest {
         for (const char* button : buttons)
             platform.dialogs.scripts.push_back([button](DialogModel& dialog) { dialog.Press(button); });
     }
-    // Changed, the history emptied, the commands refreshed.
+    // Expects that the document is changed, its history is empty and the commands are updated.
     void ExpectEnding() {
         EXPECT_TRUE(document->Changed());
         EXPECT_TRUE(host.IsOn("EnableSave"));
@@ -125,7 +126,7 @@ TEST_F(Scaling, AFinalVolumeOfTheOldSizeTakesTheNewText) {
     EXPECT_EQ(R().txtFinalVol.Value(), 10);
 }
 
-// Intended: what was gained between the two goes off the new size.
+// The amount by which the final volume exceeded the old size is subtracted from the new size.
 TEST_F(Scaling, AFinalVolumeAboveTheOldSizeEndsBelowTheNewOne) {
     Set(R().txtFinalVol, "6");
     document->Scaling().ScaleRecipe(10, "10", false, false);
@@ -153,8 +154,7 @@ TEST_F(Scaling, WithoutAVolumeThereIsNoResize) {
     EXPECT_TRUE(host.IsOn("EnableUndo"));
 }
 
-// Intended: hops that round to nothing end the operation before its ending; the history stays, but what has
-// changed is to be saved.
+// Hops that round to zero stop the operation early: the history is kept, but the document is changed.
 TEST_F(Scaling, StopsWithItsHistoryWhenNoBitternessIsLeft) {
     AddIbus("0.01 IBU");
     SaveAs("Faint");
@@ -169,7 +169,7 @@ TEST_F(Scaling, StopsWithItsHistoryWhenNoBitternessIsLeft) {
     EXPECT_TRUE(host.IsOn("EnableUndo"));
 }
 
-// The carbonation went through by itself then, and ends as every one does.
+// The carbonation was scaled before the stop and finishes as every operation does.
 TEST_F(Scaling, IsMarkedByItsCarbonationWhenNoBitternessIsLeft) {
     AddIbus("0.01 IBU");
     Prime("100", "4 oz");
@@ -204,7 +204,7 @@ TEST_F(Scaling, ANoToTheSecondQuestionSkipsTheCarbonationAlone) {
     ExpectEnding();
 }
 
-// Whatever comes while a question is open, such as an autosave, meets the recipe as it was.
+// Anything that runs while a question is open, such as autosave, finds the recipe unchanged.
 TEST_F(Scaling, BothQuestionsComeBeforeAnythingChanges) {
     Prime("100", "4 oz");
     const DocumentState before = State();
@@ -231,7 +231,7 @@ TEST_F(Scaling, ASizeThatLeavesNoFinalVolumeIsRefusedBeforeAnyQuestion) {
     SaveAs("Diluted");
     host.askBefore = true;
     const DocumentState before = State();
-    // 2 + 5 - 8, 3 + 5 - 8, and 3.004 + 5 - 8, which rounds to nothing
+    // 2 + 5 - 8, 3 + 5 - 8, and 3.004 + 5 - 8, which rounds to zero
     const std::pair<double, const char*> sizes[] = {{2, "-1"}, {3, "0"}, {3.004, "0"}};
     for (const auto& [size, volume] : sizes) {
         document->Scaling().ScaleRecipe(size, "some", true, true);
@@ -287,7 +287,7 @@ TEST_F(Scaling, BitternessStopsAtNone) {
     EXPECT_FALSE(document->Changed());
 }
 
-// A number that the text does not tell scales as the number that counts.
+// A figure is scaled from its number, even where its text is less precise.
 TEST_F(Scaling, BitternessScalesFromTheFullFigure) {
     AddIbus("16.4 IBU");
     EXPECT_EQ(R().txtIBU.Text(), "16");
@@ -382,7 +382,7 @@ class KegScaling : public Scaling {
     const std::string& Pressure() { return R().gridPressure.Text(1, PressureCol::Pressure); }
 };
 
-// 11.246 psi; the rounded one gives 2.5004 volumes.
+// 11.246 psi; rounded to 11.25 psi, it yields 2.5004 volumes.
 TEST_F(KegScaling, CarbonationSetsThePressure) {
     document->Scaling().ScaleCO2(2.5, Asking::Aloud);
     EXPECT_EQ(Pressure(), "11.25 psi");
@@ -402,8 +402,8 @@ TEST_F(KegScaling, ANegativePressureIsImpossible) {
     EXPECT_FALSE(document->Changed());
 }
 
-// At 60 degrees the pressure rises up to 107.0108 volumes, with 770.4162 psi; the 770.42 that would be shown
-// belong to no volumes any more.
+// At 60 °F the curve ends at 107.0108 volumes and 770.4162 psi. The 770.42 psi that would
+// be shown are beyond it.
 TEST_F(KegScaling, APressureBeyondTheCurveIsRefusedAsWhenItIsTyped) {
     Set(R().txtTemp, "60 F");
     const DocumentState before = State();
@@ -445,12 +445,12 @@ TEST_F(FaultyScaling, AmountsBeyondANumberLeaveAllAsBefore) {
     ExpectFault(kOverflowNumber, [&] { document->Scaling().ScaleIBU(1e308); });
 }
 
-// A boil volume that rounds to nothing leaves no boil gravity: the change is taken back halfway through.
+// A boil volume that rounds to zero has no boil gravity: the change is undone halfway.
 TEST_F(FaultyScaling, ABoilOfNothingLeavesAllAsBefore) {
     ExpectFault(kDivisionByZeroNumber, [&] { document->Scaling().ScaleRecipe(0.001, "0.001", true, false); });
 }
 
-// The second question has been answered with yes by then.
+// The second question has already been answered with yes.
 TEST_F(FaultyScaling, AFaultBehindTheCarbonationKeepsTheHistory) {
     Prime("100", "4 oz");
     AnswerQuestions({"cmdYes"});

@@ -49,7 +49,7 @@ TEST_F(StyleTest, ShowsItsRanges) {
     ASSERT_TRUE(document->Style().ChangeStyle(" STOUT "));
     EXPECT_EQ(document->StyleID(), kStout);
     EXPECT_EQ(document->BeerStyle(), "Stout");
-    // The final gravity of this style has no limits.
+    // This style has no limits for the final gravity.
     EXPECT_THAT(Labels(),
                 ElementsAre("1.035 - 1.050", "", "3.2 - 5.5 abv", "35 - 200 SRM", "30 - 50", "2.0 - 2.5"));
     document->Style().ChangeStyle("Lager");
@@ -67,10 +67,10 @@ TEST_F(StyleTest, BringsItsWater) {
     EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "268");
     EXPECT_TRUE(document->Changed());
     EXPECT_TRUE(host.IsOn("EnableSave"));
-    // A profile that the catalogue does not know leaves the ions.
+    // A profile that the catalogue lacks leaves the ions unchanged.
     document->Style().ChangeStyle("Odd Water");
     EXPECT_THAT(Target(), ElementsAre("No Such Water", "275", "270", "35", "40", "0", "610"));
-    // A style without a profile, and no style, empty the row; what is needed follows.
+    // A style without a profile, and no style, clear the row; the row "needed" is updated.
     document->Style().ChangeStyle("Lager");
     EXPECT_THAT(Target(), ElementsAre("", "", "", "", "", "", ""));
     EXPECT_EQ(R().gridWater.Text(WaterRow::Needed, 2), "-7");
@@ -116,7 +116,7 @@ TEST_F(StyleTest, TheListFollowsTheCatalogue) {
     EXPECT_EQ(document->StyleID(), kStout);
 }
 
-// The list is read again before a name is looked for, but not before a row of it is chosen.
+// The list is read again before a style is chosen by name, but not before one is chosen by row.
 TEST_F(StyleTest, AStyleThatIsGoneCannotBeChosen) {
     document->Style().ChangeStyle("Stout");
     const int lager = R().cmbStyle.IndexOf(kLager);
@@ -133,7 +133,7 @@ TEST_F(StyleTest, AStyleThatIsGoneCannotBeChosen) {
     EXPECT_THAT(Labels(), ElementsAre("", "", "", "", "", ""));
 }
 
-// Even a recipe and a style that other programs have numbered 0 do not meet.
+// Even if another program has given a recipe and a style the style id 0, the recipe has no style.
 TEST_F(StyleTest, NoneIsNotTheStyleOfNumberZero) {
     database->Execute("INSERT INTO STYLES (ID, NAME, OG_LO) VALUES (0, 'Zero', 1.08)");
     document->Style().SetId(0);
@@ -191,7 +191,7 @@ TEST_F(NoticesTest, ARenamedStyleShowsItsNewName) {
     EXPECT_FALSE(document->Changed());
 }
 
-// A document lists all styles, whichever it has.
+// A document lists all styles, whatever its own style is.
 TEST_F(NoticesTest, EveryChangeOfAStyleShowsInTheListOfEveryDocument) {
     const auto list = [&] {
         Log names;
@@ -237,7 +237,8 @@ TEST_F(NoticesTest, ADeletedRecipeIsDetached) {
     EXPECT_TRUE(host.IsOn("EnableSave"));
 }
 
-// A recipe can come without a name from another program; a document that is none is not that one.
+// A recipe from another program may have no name; an unsaved document, which has no name
+// either, is not affected.
 TEST_F(NoticesTest, ARecipeWithoutANameIsNoUnsavedDocument) {
     document->Notices().NotifyRecipeDeleted("Old Ale");
     ASSERT_EQ(document->OrigName(), "");

@@ -1,5 +1,6 @@
-// The treatment calculation on a document: its rows, its one step of the history, its boxes. The catalogue's
-// salts are gypsum (61.5 of calcium, 147.4 of sulfate) and chalk (105.8 of calcium, 158.4 of carbonate).
+// Tests of the water treatment of a document: its rows, its single step of the history, its messages. The
+// salts of the catalogue are gypsum (61.5 ppm of calcium, 147.4 ppm of sulfate) and chalk (105.8 ppm of
+// calcium, 158.4 ppm of carbonate), for one gram in a gallon.
 #include "water/Treatment.h"
 
 #include <random>
@@ -28,7 +29,7 @@ class TreatmentOf : public DocumentTest {
         database->Execute("INSERT INTO SALTS (NAME, CA, CO3, CL, MG, NA, SO4) VALUES (" + SqlText(name) +
                           numbers + ")");
     }
-    // Name and amount of each row.
+    // Returns the name and amount of each row.
     Log Rows() {
         Log rows;
         const Grid& grid = R().gridTreatment;
@@ -45,8 +46,8 @@ class TreatmentOf : public DocumentTest {
     }
 };
 
-// One gram of gypsum a gallon gives 61.5 of calcium and 147.4 of sulfate; half a gram of chalk adds 52.9
-// and 79.2.
+// One gram of gypsum in a gallon adds 61.5 ppm of calcium and 147.4 ppm of sulfate; half a gram of chalk adds
+// 52.9 ppm and 79.2 ppm.
 TEST_F(TreatmentOf, GivesEachSaltItsGramsForTheBatch) {
     Need({114.4, 79.2, 0, 0, 0, 147.4});
     document->Water().CalcTreatment();
@@ -130,7 +131,7 @@ TEST_F(TreatmentOf, SaysThatThereAreNoSalts) {
     EXPECT_EQ(host.undoName, undoName);
 }
 
-// A salt of nothing has no most grams, and a trace of rounding keeps the other program from a solution.
+// A salt without ions has no maximum amount, and a rounding error keeps the other program from a solution.
 TEST_F(TreatmentOf, SaysThatNoProgramHasASolution) {
     database->Execute("DELETE FROM SALTS");
     AddSalt("Odd", {27.6, 0, 10.4, 36.4, 29.4, 2.1});
@@ -144,7 +145,7 @@ TEST_F(TreatmentOf, SaysThatNoProgramHasASolution) {
     EXPECT_NE(host.undoName, "Calculation");
 }
 
-// The source holds more of everything than the target.
+// The source contains more of the ion than the target.
 TEST_F(TreatmentOf, ANegativeNeedCountsAsNone) {
     Put(R().gridWater, WaterRow::Source, WaterCol::FirstIon, "200");
     Need({61.5, 0, 0, 0, 0, 147.4});
@@ -157,7 +158,7 @@ TEST_F(TreatmentOf, LeavesOutWhatIsBelowAThousandthOfAGramForTheBatch) {
     database->Execute("DELETE FROM SALTS");
     AddSalt("Strong", {1000, 0, 0, 0, 0, 0});
     Need({0.18, 0, 0, 0, 0, 0});
-    // 0.00018 g a gallon: 0.0009 g in 5 gallons, 0.0018 in 10.
+    // 0.00018 g for each gallon: 0.0009 g in 5 gallons, 0.0018 g in 10 gallons.
     document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
     Set(R().txtTotalVol, "10 gal");
@@ -181,8 +182,8 @@ TEST_F(TreatmentOf, KeepsToTheLimitOfTheSettings) {
     Need({114.4, 79.2, 0, 0, 0, 147.4});
     host.lpMaxIter = 0;
     document->Water().CalcTreatment();
-    // Both programs stop behind their first step: gypsum by 114.4 / 61.5 is more than sulfate allows, 1 is
-    // left.
+    // Both programs stop after their first step: gypsum for 114.4 / 61.5 is more than sulfate allows, so 1
+    // gram a gallon remains.
     EXPECT_EQ(Rows(), Log{"Gypsum 5 grams"});
     host.lpMaxIter = 1000;
     document->Water().CalcTreatment();
@@ -202,7 +203,8 @@ TEST_F(TreatmentOf, LightsDeleteOnItsTab) {
 
 class FaultyTreatment : public TreatmentOf {
   protected:
-    // Everything is as before, the step that could be redone included.
+    // Expects that the calculation raises this error and changes nothing, not even the
+    // step that can be redone.
     void ExpectFault(int number) {
         AddRow("Chalk", "9 g");
         Put(R().gridTreatment, 1, TreatmentCol::Amount, "8 g");
@@ -230,7 +232,7 @@ TEST_F(FaultyTreatment, OfTheSolverChangesNothing) {
     ExpectFault(kOverflowNumber);
 }
 
-// The doses are sound, but the grams for such a batch are not.
+// The doses are finite, but the grams for a batch of this size are not.
 TEST_F(FaultyTreatment, OfTheGramsChangesNothing) {
     database->Execute("DELETE FROM SALTS");
     AddSalt("Weak", {1e-300, 0, 0, 0, 0, 0});
@@ -239,8 +241,8 @@ TEST_F(FaultyTreatment, OfTheGramsChangesNothing) {
     ExpectFault(kOverflowNumber);
 }
 
-// The grams of the second salt are sound, 1e306, but not what they add before it is divided by the volume:
-// the row of the first one goes again.
+// The grams of the second salt, 1e306, are finite, but the ppm that they add overflow before the division by
+// the volume: the row of the first salt is removed again.
 TEST_F(FaultyTreatment, OfARowTakesTheOthersBack) {
     database->Execute("DELETE FROM SALTS");
     AddSalt("One", {0, 1, 0, 0, 0, 0});
@@ -250,7 +252,8 @@ TEST_F(FaultyTreatment, OfARowTakesTheOthersBack) {
     ExpectFault(kOverflowNumber);
 }
 
-// Any salts and waters: the rows are what the programs say, and one step back and forth is exact.
+// Random salts and waters: the rows match the results of the linear programs, and undo and
+// redo restore them exactly.
 TEST_F(TreatmentOf, GoesBackAndForthOnRandomWaters) {
     std::mt19937 random(7);
     const auto below = [&](unsigned limit) { return static_cast<double>(random() % limit); };

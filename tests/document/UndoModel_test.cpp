@@ -1,8 +1,8 @@
-// Thousands of random edits with random walks through the history between them. At every point that is
-// reached the whole document must be what it was when the point was made, and the history what its rules make
-// of it.
+// Makes thousands of random edits with random undo and redo steps between them. At every point that
+// is reached, the whole document must be what it was when the point was created, and the history
+// must follow its rules.
 //
-// TUNWRIGHT_UNDO_STEPS and TUNWRIGHT_UNDO_SEED make a longer run, or another one.
+// TUNWRIGHT_UNDO_STEPS and TUNWRIGHT_UNDO_SEED set the number of edits and the seed.
 #include <cstdlib>
 
 #include "RandomEditor.h"

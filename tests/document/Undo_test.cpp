@@ -1,4 +1,4 @@
-// Undo and redo: every step leads back to exactly the state before it, and forth again.
+// Tests that undoing a step restores exactly the state before it, and redoing it the state after it.
 #include "DocumentTest.h"
 #include "document/RecipeSnapshot.h"
 
@@ -7,7 +7,7 @@ namespace {
 
 class UndoTest : public DocumentTest {
   protected:
-    // What the brewer sees of the recipe: every text, check and number.
+    // Returns what the brewer sees of the recipe: every text, check mark and number.
     std::string State() const {
         std::string state;
         const RecipeRecord& r = document->Record();
@@ -23,7 +23,7 @@ class UndoTest : public DocumentTest {
         return state;
     }
 
-    // Undoes and redoes the step and compares the states around it.
+    // Undoes and redoes the step, comparing the states before and after it.
     void ExpectOneStep(const std::string& before) {
         const std::string after = State();
         ASSERT_NE(before, after);
@@ -104,7 +104,7 @@ TEST_F(UndoTest, ASortThatMovesNothingRecordsNothing) {
     Put(R().gridGrain, 1, GrainCol::Name, "A");
     document->Lines().InsertRowForGrid(R().gridGrain);
     const std::size_t records = document->History().StackTop();
-    // The blank row that was inserted before "A" comes first already.
+    // The blank row inserted before "A" is already the first one.
     document->Lines().ClickHeader(R().gridGrain, GrainCol::Name);
     EXPECT_EQ(document->History().StackTop(), records);
     const std::string before = State();
