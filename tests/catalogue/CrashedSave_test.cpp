@@ -1,4 +1,4 @@
-// A crash in the middle of storing an ingredient leaves the old row, and its type.
+// Tests that a crash while an ingredient is stored leaves the old row and its type.
 #include <filesystem>
 #include <unistd.h>
 
@@ -30,7 +30,7 @@ class CrashedSave : public testing::Test {
         database->Execute("INSERT INTO GRAIN_TYPES (NAME, GRAIN) VALUES ('Base', TRUE)");
         database->Execute("INSERT INTO GRAINS (NAME, GRAIN, GRAIN_TYPE) VALUES ('Pale', TRUE, 1)");
     }
-    // Grains and types.
+    // Returns the names of grains and types.
     Lines Rows() const {
         const auto database = OpenMainDatabase(File());
         Lines rows;
@@ -39,7 +39,7 @@ class CrashedSave : public testing::Test {
                 rows.push_back(set.Fields(0).Text());
         return rows;
     }
-    // Runs work in a process that dies at its statement of that number; false when it ended alive.
+    // Runs work in a process that is killed before that statement. Returns false if work ends before.
     template <typename Work>
     bool DiesAt(int statement, Work work) const {
         Make();
@@ -57,7 +57,8 @@ class CrashedSave : public testing::Test {
                  arm);
         });
     }
-    // Kills the work at each of its statements in turn. It has that many.
+    // Kills the work at each of its statements in turn and expects the old rows; it must
+    // have that many statements.
     template <typename Work>
     void ExpectWhole(int statements, Work work) const {
         int count = 0;
@@ -71,8 +72,8 @@ class CrashedSave : public testing::Test {
 };
 
 TEST_F(CrashedSave, OfARenamedGrainLeavesTheOldRow) {
-    // The name, the type twice and its insert, the grain's delete and insert, the old type's count and
-    // delete.
+    // Queries of the name and twice of the type, its INSERT, DELETE and INSERT of the grain, count and
+    // DELETE of the old type.
     ExpectWhole(8, [](const CatalogueContext& context, const auto& arm) {
         const auto editor = MakeEditor(CatalogueKind::Grain, context);
         editor->SetName("Pale");

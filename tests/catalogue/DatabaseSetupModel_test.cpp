@@ -34,7 +34,7 @@ class Setup : public EditorTest {
                     std::to_string(folder) + ")");
         io.AddStyleNodesByName(name);
     }
-    // What the next dialog's brewer does.
+    // Sets what the brewer does in the next dialog.
     void Next(std::function<void(DialogModel&)> work) { outside.dialogs.scripts.push_back(std::move(work)); }
 
     std::unique_ptr<DatabaseSetupModel> model;
@@ -204,7 +204,7 @@ TEST_F(Setup, ANewStyleStandsInTheFolderThatIsShown) {
     });
     setup.Press("cmdNew");
     EXPECT_THAT(Names(), ElementsAre("..", "Stout"));
-    // One that is put elsewhere is shown there.
+    // A style that is moved is shown in its new folder.
     Next([](DialogModel& editor) {
         editor.SetControl("FolderID", "0");
         editor.Press("cmdOK");
@@ -233,7 +233,7 @@ TEST_F(Setup, AFilterFindsTheStylesOfAllFolders) {
     EXPECT_TRUE(setup.EditEnabled());
     setup.SetFilter("o");
     EXPECT_THAT(Names(), ElementsAre("Bock", "Dry Stout"));
-    // Without it the chosen style is shown in its folder.
+    // Without the filter, the selected style is shown in its folder.
     setup.SetControl("lvItems", "Dry Stout");
     setup.SetFilter("");
     EXPECT_THAT(Names(), ElementsAre("..", "Dry Stout"));

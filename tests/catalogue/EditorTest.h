@@ -1,4 +1,4 @@
-// A database with its tree, and the editors of its catalogue on a platform that records.
+// A database with its tree, and the editors of its catalogue with a recording platform.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -19,7 +19,7 @@ namespace tw::test {
 
 using Lines = std::vector<std::string>;
 
-// The notices about styles, a line each.
+// Records the notices about styles, one a line.
 class StyleNotices : public ObjectListener {
   public:
     void NotifyRecipeMoved(const std::string&, std::int64_t) override {}
@@ -53,14 +53,14 @@ class EditorTest : public testing::Test {
         for (const auto& [control, text] : entries) EXPECT_TRUE(editor.SetControl(control, text)) << control;
         EXPECT_TRUE(editor.Press("cmdOK"));
     }
-    // What all controls show, "control=text".
+    // Returns the texts of all controls, as "control=text".
     static Lines Shown(const CatalogueEditor& editor) {
         Lines lines;
         for (const DialogControl& control : editor.Controls())
             lines.push_back(control.name + "=" + control.text);
         return lines;
     }
-    // The cells of a SELECT, a row in a line.
+    // Returns the rows of a SELECT, one a line.
     Lines Select(const std::string& sql) {
         Lines lines;
         for (Recordset rows = db->OpenRecordset(sql); !rows.AtEnd(); rows.MoveNext()) {
@@ -73,7 +73,7 @@ class EditorTest : public testing::Test {
         }
         return lines;
     }
-    // All statements that run within action.
+    // Returns all statements that action runs.
     template <typename Action>
     Lines StatementsOf(Action action) {
         Lines statements;
@@ -82,7 +82,7 @@ class EditorTest : public testing::Test {
         db->SetStatementHook(nullptr);
         return statements;
     }
-    // Makes every statement that begins so fail.
+    // Makes every statement with this beginning fail.
     void FailAt(const std::string& beginning) {
         db->SetStatementHook([beginning](std::string_view sql) {
             if (sql.starts_with(beginning)) throw Error("Database", "The disk is full.", 13);

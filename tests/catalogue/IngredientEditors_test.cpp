@@ -203,7 +203,7 @@ TEST_F(Ingredients, ApplyStoresStaysAndIsOffUntilTheNextChange) {
     EXPECT_EQ(told, "Zeus");
     EXPECT_TRUE(editor->IsOpen());
     EXPECT_FALSE(editor->ApplyEnabled());
-    // Off: nothing is stored again.
+    // Apply is disabled, so nothing is stored again.
     EXPECT_THAT(StatementsOf([&] { editor->Press("cmdApply"); }), IsEmpty());
     editor->TypeCell(0, 0, "1");
     EXPECT_TRUE(editor->ApplyEnabled());
@@ -224,7 +224,7 @@ TEST_F(Ingredients, TheOldRowStaysWhenTheNewOneCannotBeWritten) {
     EXPECT_THAT(Boxes(), ElementsAre("[Error!] The disk is full."));
     EXPECT_TRUE(editor->IsOpen());
     EXPECT_THAT(Select("SELECT NAME, AA_LO FROM HOPS"), ElementsAre("Zeus|14"));
-    // The entries are still there and can be stored now.
+    // The entries are kept and can be stored now.
     editor->Press("cmdOK");
     EXPECT_THAT(Select("SELECT NAME FROM HOPS"), ElementsAre("Hercules"));
 }
@@ -271,7 +271,7 @@ TEST_F(Ingredients, AStepShowsTheNextRowAndDropsWhatWasNotApplied) {
     EXPECT_EQ(editor->LoadedName(), "B");
     EXPECT_EQ(editor->Cells().Text(0, 0), "");
     EXPECT_FALSE(editor->ApplyEnabled());
-    // Behind the last there is none: the form stays.
+    // There is no row after the last one, so the form is unchanged.
     editor->SetControl("Text2", "kept");
     editor->Press("cmdNext");
     EXPECT_EQ(editor->Text("Text2"), "kept");
@@ -356,7 +356,7 @@ TEST_F(Grains, ATypeGoesWithTheApplyThatLeavesItWithoutGrains) {
         editor->Press("cmdApply");
         EXPECT_EQ(editor->List("Combo1").text, type);
     };
-    // Each is the only type of the only grain until the next one takes its place.
+    // Each type is the only one, of the only grain, until the next one replaces it.
     for (const char* type : {"Roasted", "Smoked", "Kilned"}) {
         apply(type);
         EXPECT_THAT(Select("SELECT NAME FROM GRAIN_TYPES"), ElementsAre(type));
@@ -365,7 +365,7 @@ TEST_F(Grains, ATypeGoesWithTheApplyThatLeavesItWithoutGrains) {
     apply("");
     EXPECT_THAT(Select("SELECT NAME FROM GRAIN_TYPES"), IsEmpty());
     EXPECT_THAT(editor->List("Combo1").entries, IsEmpty());
-    // What Cancel leaves is what was applied.
+    // Cancel keeps what was applied.
     editor->SetControl("Combo1", "Base");
     editor->Press("cmdCancel");
     EXPECT_THAT(Select("SELECT NAME, GRAIN_TYPE FROM GRAINS"), ElementsAre("Pale|0"));

@@ -1,4 +1,5 @@
-// Editors and database setup at random, against a plain map of what must be stored.
+// Makes random edits in the editors and database setup, and compares the result with a plain map
+// of what must be stored.
 #include <map>
 #include <random>
 
@@ -13,7 +14,7 @@ namespace {
 constexpr int kSteps = 3000;
 
 struct PlainGrain {
-    std::string name, type;  // the type in the case in which it was typed first
+    std::string name, type;  // the type, in the case in which it was first typed
     std::string low, high;   // "NULL" for none
 };
 
@@ -23,7 +24,7 @@ class RandomGrains : public EditorTest {
     const auto& OneOf(const Range& from) {
         return from[std::uniform_int_distribution<std::size_t>(0, std::size(from) - 1)(random)];
     }
-    // Another case of the same name, at times with blanks.
+    // Returns the name in another case, sometimes with outer blanks.
     std::string Varied(const std::string& text) {
         const std::string_view ways[] = {text, text};
         std::string varied(OneOf(ways));
@@ -48,8 +49,8 @@ class RandomGrains : public EditorTest {
     void ExpectSame();
 
     std::mt19937 random{20240309};
-    std::map<std::string, PlainGrain> plain;   // by the name in upper case
-    std::map<std::string, std::string> types;  // likewise
+    std::map<std::string, PlainGrain> plain;   // by name in upper case
+    std::map<std::string, std::string> types;  // by name in upper case
 };
 
 constexpr const char* kNames[] = {"Pale", "O'at", "Black", "\"Odd\"", "[x]", "Größe"};
@@ -74,7 +75,7 @@ void RandomGrains::Store(const std::string& opened) {
     }
     editor->Press("cmdOK");
     const std::string trimmed(Trim(name)), key = Upper(trimmed);
-    if (plain.contains(key) && key != (exists ? Upper(opened) : "")) return;  // another's name
+    if (plain.contains(key) && key != (exists ? Upper(opened) : "")) return;  // the name of another grain
     if (grain.low == "NULL") grain.low = grain.high;
     if (grain.high == "NULL") grain.high = grain.low;
     grain.name = trimmed;
@@ -94,7 +95,7 @@ void RandomGrains::Drop(const std::string& name) {
     setup.Press("cmdDelete");
     plain.erase(Upper(name));
     DropUnusedTypes();
-    // The list without the row is the one that is read anew.
+    // The list without the deleted row equals one that is read again.
     DatabaseSetupModel fresh(context);
     fresh.Choose(CatalogueKind::Grain);
     ASSERT_EQ(setup.Items().Count(), fresh.Items().Count());

@@ -17,7 +17,7 @@ class Styles : public EditorTest {
         editor->SetName(name);
         return *editor;
     }
-    // The names of a node's children.
+    // Returns the names of a node's children.
     Lines Below(const std::string& key) {
         Lines names;
         TWNode& node = *tree.Nodes(key);
@@ -78,7 +78,7 @@ TEST_F(Styles, ARenameReachesTheRightNodes) {
     Save(OpenStyle("Stout"), {{"Text1", " Dry Stout "}});
     EXPECT_THAT(Below("G:0"), ElementsAre("(None)", "Dry Stout"));
     EXPECT_THAT(notices.log, ElementsAre("style renamed 1 to Dry Stout"));
-    // By case only: no look-up of the name, but the same way.
+    // A change of case only does not look up the name, but is otherwise the same.
     StyleEditor& style = OpenStyle("Dry Stout");
     const Lines statements = StatementsOf([&] { Save(style, {{"Text1", "DRY STOUT"}}); });
     EXPECT_THAT(statements, testing::Not(testing::Contains(HasSubstr("SELECT * FROM STYLES"))));
@@ -113,7 +113,7 @@ TEST_F(Styles, ApplyStoresAndTheNextOneGoesOnFromThere) {
     EXPECT_FALSE(style.ApplyEnabled());
     EXPECT_EQ(style.ID(), 1);
     EXPECT_THAT(Below("G:0"), ElementsAre("Dark", "(None)", "Stout"));
-    // The same row under another name and in another folder, not a second one.
+    // The same row gets another name and another folder; no second row is added.
     style.SetControl("Text1", "Dry Stout");
     style.SetControl("FolderID", std::to_string(dark));
     style.Press("cmdApply");

@@ -145,7 +145,7 @@ TEST_F(CatalogueLoaderTest, ReportsEveryProblemOfEveryFileAndWritesNothing) {
     ExpectNothingWritten();
 }
 
-// One faulty row behind the good ones of its file.
+// A faulty row after the valid rows of its file.
 struct BadRow {
     std::string name;
     std::string file;

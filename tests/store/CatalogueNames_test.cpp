@@ -1,4 +1,4 @@
-// What the rows of the catalogue are also called.
+// Tests of the codes and other names of catalogue rows.
 #include "store/CatalogueNames.h"
 
 #include <gmock/gmock.h>
@@ -32,7 +32,7 @@ TEST_F(CatalogueNamesTest, ARowIsFoundByItsName) {
     EXPECT_THAT(RowOf(CatalogueKind::Yeast, "kölsch YEAST"), Optional(std::string("Kölsch Yeast")));
     EXPECT_EQ(RowOf(CatalogueKind::Hop, "Saaz"), std::nullopt);
     EXPECT_EQ(RowOf(CatalogueKind::Hop, " "), std::nullopt);
-    // Blanks are part of a name; another name goes without them.
+    // Blanks are part of a name, but not of another name.
     EXPECT_EQ(RowOf(CatalogueKind::Hop, " Wild Hop"), std::nullopt);
 }
 
@@ -53,7 +53,7 @@ TEST_F(CatalogueNamesTest, ARowIsFoundByACodeThatIsItsAlone) {
     EXPECT_THAT(RowOf(CatalogueKind::Style, "29a"), Optional(std::string("Fruit Beer")));
     EXPECT_THAT(RowOf(CatalogueKind::Yeast, "d-1"), Optional(std::string("Kölsch Yeast")));
     EXPECT_EQ(RowOf(CatalogueKind::Style, "5D"), std::nullopt);
-    // Rows without a code are not found by its absence.
+    // An empty code does not find the rows without a code.
     EXPECT_EQ(RowOf(CatalogueKind::Hop, ""), std::nullopt);
 }
 
@@ -67,7 +67,7 @@ TEST_F(CatalogueNamesTest, AnotherNameOfARenamedOrDeletedRowLeadsNowhere) {
     EXPECT_EQ(RowOf(CatalogueKind::Hop, "BG"), std::nullopt);
     database_->Execute("DELETE FROM STYLES WHERE NAME = 'Pils'");
     EXPECT_EQ(RowOf(CatalogueKind::Style, "Pilsner"), std::nullopt);
-    // Now the code is the other style's alone.
+    // Now only the other style has the code.
     EXPECT_THAT(RowOf(CatalogueKind::Style, "5D"), Optional(std::string("Helles")));
 }
 
@@ -93,7 +93,7 @@ TEST_F(CatalogueNamesTest, ALookUpReadsAFewRowsHoweverManyNamesThereAre) {
     int statements = 0;
     database_->SetStatementHook([&](std::string_view) { ++statements; });
     RowOf(CatalogueKind::Hop, "BG");
-    // The row, the tables, the other name, the row that it stands for.
+    // Four queries: the row, the tables, the other name, the row that it stands for.
     EXPECT_EQ(statements, 4);
 }
 

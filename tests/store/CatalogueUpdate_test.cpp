@@ -1,4 +1,4 @@
-// What a newer version of the product brings into a database that is in use.
+// Tests of what a newer version of the product changes in a database that is in use.
 #include "store/CatalogueUpdate.h"
 
 #include <gmock/gmock.h>
@@ -17,7 +17,7 @@ using testing::IsEmpty;
 
 constexpr DateTime kNow{.year = 2026, .month = 11, .day = 21, .hour = 8, .minute = 0, .second = 0};
 
-// A database made by version 1 of the small catalogue; each test then edits the files into version 2.
+// A database created by version 1 of the small catalogue. Each test then edits the files into version 2.
 class CatalogueUpdateTest : public SmallCatalogue {
   protected:
     void SetUp() override {
@@ -35,14 +35,14 @@ class CatalogueUpdateTest : public SmallCatalogue {
     void CorrectWildHop() const {
         Edit("hops.tsv", "Wild Hop\t\t\t\t\t\t\t", "Wild Hop\tAroma\t\t\t3\t5\tMild.\t");
     }
-    // The first release remembered no folders, codes and other names.
+    // Makes the database one of the first release, which stored no folders, codes or other names.
     void AgeTheDatabase() {
         database_->ExecuteNative(
             "UPDATE CATALOGUE_BASE SET CONTENT = substr(CONTENT, 1, instr(CONTENT, 'FOLDER=') - 1)"
             " WHERE SHEET = 'STYLES';"
             "DROP TABLE CATALOGUE_FACTS; DROP TABLE CATALOGUE_ALIASES;");
     }
-    // The guide drops one style and puts another one elsewhere, as the only ones of their folders.
+    // The guide drops one style and moves others to other folders; each was the only style of its folder.
     void ChangeTheGuide() const {
         Edit("styles.tsv", "Fruit Beer\t29A\tBeer 2021\tOther Beer\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t\n", "");
         Edit("styles.tsv", "Pils\t5D\tBeer 2021\tPale Beer", "Pils\t5D\tBeer 2021\tBitter Beer");
@@ -84,7 +84,7 @@ TEST_F(CatalogueUpdateTest, CorrectsARowThatStandsAsDelivered) {
 }
 
 TEST_F(CatalogueUpdateTest, CorrectsARowThatItsEditorSavedUnchanged) {
-    // The editors delete and insert, so that the row gets another ID.
+    // The editors delete and insert rows, so the row has a new ID.
     Sql("DELETE FROM HOPS WHERE NAME = 'Wild Hop'");
     Sql("INSERT INTO HOPS (NAME, USAGE, DESCR) VALUES ('Wild Hop', '', '')");
     CorrectWildHop();
@@ -165,7 +165,7 @@ TEST_F(CatalogueUpdateTest, DatesThatTheProductMadeUpGo) {
     Sql("UPDATE FOLDERS SET CREATED_WHEN = '01/01/2024 00:00:00', MODIFIED_WHEN = '01/01/2024 00:00:00'");
     Sql("UPDATE FOLDERS SET MODIFIED_WHEN = '03/01/2024 09:00:00' WHERE NAME = 'Other Beer'");
     Sql("UPDATE STYLES SET CREATED_WHEN = '01/01/2024 00:00:00' WHERE NAME = 'Helles'");
-    // The brewer's own folder of recipes, made at that very second.
+    // A recipe folder of the brewer, created in the very same second.
     Sql("INSERT INTO FOLDERS (PARENT_ID, NAME, STYLE, CREATED_WHEN) VALUES "
         "(0, 'Winter', FALSE, '01/01/2024 00:00:00')");
     AddHop();
@@ -184,7 +184,7 @@ TEST_F(CatalogueUpdateTest, AnUntouchedStyleFollowsTheGuideIntoAnotherFolder) {
     EXPECT_THAT(StylesInFolders(), ElementsAre("Helles|Mild Beer", "Pils|Bitter Beer"));
     EXPECT_THAT(Rows("SELECT CREATED_WHEN, MODIFIED_WHEN FROM STYLES WHERE NAME = 'Pils'"),
                 ElementsAre("02/29/2024 13:05:07|11/21/2026 08:00:00"));
-    // The folders that the guide no longer has are empty, and go too.
+    // The folders that the guide no longer has are empty and are deleted too.
     EXPECT_THAT(Rows("SELECT NAME FROM FOLDERS ORDER BY NAME"), ElementsAre("Bitter Beer", "Mild Beer"));
 }
 
@@ -237,7 +237,7 @@ TEST_F(CatalogueUpdateTest, AStyleOfARecipeStaysAlthoughTheGuideDropsIt) {
                 ElementsAre("Cherry|Fruit Beer"));
     EXPECT_THAT(StylesInFolders(),
                 ElementsAre("Fruit Beer|Other Beer", "Helles|Mild Beer", "Pils|Bitter Beer"));
-    // A later release takes it out once no recipe has it any more.
+    // A later release deletes it once no recipe has that style.
     Sql("DELETE FROM RECIPES");
     Replace("version.txt", "3\n");
     EXPECT_TRUE(Update());
@@ -249,7 +249,7 @@ TEST_F(CatalogueUpdateTest, ADroppedIngredientGoesWhenItStandsAsDelivered) {
     Append("former.tsv", "Wild Hop\thop\tgone\t\n");
     EXPECT_TRUE(Update());
     EXPECT_THAT(WildHops(), IsEmpty());
-    // It was forgotten: a release that has it again delivers it again.
+    // The deletion was not remembered, so a later release that contains it again delivers it again.
     Replace("former.tsv", "name\tkind\tfate\tfolder\n");
     Append("hops.tsv", "Wild Hop\tAroma\t\t\t3\t5\tMild.\t\n");
     Replace("version.txt", "3\n");
@@ -370,7 +370,7 @@ TEST_F(CatalogueUpdateTest, ADatabaseWithoutAMemoryOfDeliveriesStaysAsItIs) {
     EXPECT_FALSE(Update());
     EXPECT_THAT(Rows("SELECT NAME FROM HOPS"), ElementsAre("Brewer's Gold"));
     EXPECT_THAT(Rows("SELECT ALIAS FROM CATALOGUE_ALIASES WHERE SHEET = 'HOPS'"), ElementsAre("BG"));
-    // From then on it follows like any other.
+    // From then on, the database is updated like any other.
     Append("hops.tsv", "Later Hop\tAroma\t\t\t4\t6\t\t\n");
     Edit("hops.tsv", "Dark fruit.", "Blackcurrant.");
     EXPECT_TRUE(Update());
@@ -391,7 +391,7 @@ TEST_F(CatalogueUpdateTest, AFirstLookThatIsBrokenOffBringsNothingBackLater) {
     EXPECT_THAT(WildHops(), IsEmpty());
 }
 
-// All the changes at once, in a file that the first release made.
+// All changes at once, in a file of the first release.
 class WholeUpdateTest : public CatalogueUpdateTest {
   protected:
     void SetUp() override {
@@ -422,7 +422,7 @@ class WholeUpdateTest : public CatalogueUpdateTest {
     bool HasOtherNames() {
         return !Rows("SELECT name FROM sqlite_schema WHERE name = 'CATALOGUE_ALIASES'").empty();
     }
-    // What a brewer sees, and what is remembered of the deliveries.
+    // Returns what a brewer sees and what is stored about deliveries.
     std::vector<std::string> Whole() {
         std::vector<std::string> rows = Shown();
         for (std::string& row : Rows("SELECT SHEET, NAME, CONTENT FROM CATALOGUE_BASE ORDER BY SHEET, NAME"))

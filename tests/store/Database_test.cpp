@@ -1,4 +1,4 @@
-// The operations of databases, recordsets and fields.
+// Tests of the operations of databases, recordsets and fields.
 #include "store/Database.h"
 
 #include <gtest/gtest.h>
@@ -211,7 +211,7 @@ TEST_F(DatabaseTest, ShowsTheHookEachStatementWithItsValues) {
 }
 
 TEST_F(DatabaseTest, TakesValuesInTheirOrder) {
-    // The number of five decimals is a parameter of SQLite's too.
+    // A number with five decimals becomes a parameter of SQLite as well.
     const Recordset row = db->OpenRecordset("SELECT ?, 1.00003, ?, '?', ?", {"O'Hara \"x\"", 7, Null()});
     EXPECT_EQ(row.Fields(0).Text(), "O'Hara \"x\"");
     EXPECT_EQ(row.Fields(1).Number(), 1.00003);
@@ -220,7 +220,7 @@ TEST_F(DatabaseTest, TakesValuesInTheirOrder) {
     EXPECT_TRUE(row.Fields(4).IsNull());
 }
 
-// What a value leaves in a column is what its literal would.
+// A bound value stores the same as its literal.
 TEST_F(DatabaseTest, StoresAValueAsItsLiteral) {
     const SqlValues values = {"Baker's",
                               "",

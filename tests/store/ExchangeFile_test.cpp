@@ -15,14 +15,14 @@ namespace {
 class ExchangeFileTest : public testing::Test {
   protected:
     void Make() { CreateExchangeTables(*main, *file); }
-    // The names of the columns of a table, in their order.
+    // Returns the names of the columns of a table, in order.
     static std::string Columns(Database& database, const std::string& table) {
         std::string names;
         for (const auto& row : Select(database, "SELECT name FROM pragma_table_info(" + SqlText(table) + ")"))
             names += row[0] + " ";
         return names;
     }
-    // "INDEX(COLUMN COLUMN )" of a table, by name.
+    // Returns the indexes of a table as "INDEX(COLUMN COLUMN )", sorted by name.
     static Rows Indexes(Database& database, const std::string& table) {
         Rows all;
         for (const auto& row : Select(database, "SELECT name, [unique] FROM pragma_index_list(" +
@@ -59,7 +59,7 @@ TEST_F(ExchangeFileTest, HoldsTheSevenRecipeTablesAlone) {
 class ExchangeCopyTest : public testing::Test {
   protected:
     TargetFile Target(std::string_view name) const { return {folder.File(name), own}; }
-    // A file of that name with one recipe of that name.
+    // Creates a file of that name that contains one recipe of that name.
     void MakeFile(const std::string& name, const std::string& recipe) {
         ExchangeCopy copy(*main);
         copy.Contents().Execute("INSERT INTO RECIPES (NAME) VALUES (" + SqlText(recipe) + ")");
@@ -89,7 +89,7 @@ TEST_F(ExchangeCopyTest, TheFileComesWithSaveAndNothingBesideIt) {
     copy.Save(Target("a.TWR"));
     EXPECT_EQ(Files(), std::vector<std::string>{"a.TWR"});
     EXPECT_EQ(Names("a.TWR"), Rows{{"Mild"}});
-    // It is a file like any other, also to be opened exclusively and written.
+    // It is a normal file, which can also be opened exclusively and written.
     const auto file = Database::OpenDatabase(folder.File("a.TWR"), true);
     file->Execute("INSERT INTO RECIPES (NAME) VALUES ('Bock')");
     EXPECT_EQ(Cell(*file, "SELECT integrity_check FROM pragma_integrity_check"), "ok");
@@ -201,7 +201,7 @@ TEST_F(ExchangeFileTest, EveryTableWhoseNameBeginsWithRecipeTravelsWithItsRules)
     EXPECT_EQ(ErrorOf([&] {
                   file->ExecuteNative("INSERT INTO \"Recipe \"\"x\" (\"a b\") VALUES (NULL)");
               }).Number(),
-              19);  // a constraint
+              19);  // SQLite's number for a violated constraint
 }
 
 TEST_F(ExchangeFileTest, AFileThatHoldsATableIsRefusedWhole) {

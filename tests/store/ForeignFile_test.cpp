@@ -1,4 +1,4 @@
-// Files of somebody else, with what a recipe file has no use for.
+// Tests with files of other people that contain what no recipe file needs.
 #include "store/ForeignFile.h"
 
 #include <gtest/gtest.h>
@@ -22,14 +22,14 @@ class ForeignFile : public testing::Test {
     std::string Refusal() const {
         return ErrorOf([&] { Database::OpenForeign(path); }).Description();
     }
-    // Rows enough for some thousand steps of SQLite's machine.
+    // Adds enough rows for several thousand steps of SQLite's virtual machine.
     void AddRecipes() const {
         Change(
             "WITH RECURSIVE N(I) AS (SELECT 1 UNION ALL SELECT I + 1 FROM N WHERE I < 2000) INSERT INTO "
             "RECIPES "
             "(NAME) SELECT 'Ale ' || I FROM N");
     }
-    // Reads the names in an order that no index gives.
+    // Reads the names in an order for which there is no index.
     static std::string LastNote(Database& file) {
         return Cell(file, "SELECT NAME FROM RECIPES ORDER BY NOTES, NAME");
     }
@@ -84,23 +84,23 @@ TEST_F(ForeignFile, DoesNothingButReadAndWriteItsRows) {
 
 TEST_F(ForeignFile, IsNotReadOnAndOn) {
     AddRecipes();
-    // Each look at the clock is a quarter of a second later: the limit is reached with the 41st.
+    // Each reading of the clock is a quarter of a second later, so the limit is reached at the 41st.
     int looks = 0;
     const auto file = Database::OpenForeign(path, [&] { return milliseconds(250 * looks++); });
     EXPECT_EQ(ErrorOf([&] {
                   while (looks < 1000) LastNote(*file);
               }).WithNumber(),
               "Reading the file took too long. (9)");
-    // One look when it was opened, 40 within the limit, one beyond it.
+    // One reading at opening, 40 within the limit, one beyond it.
     EXPECT_EQ(looks, 42);
-    // With progress there is time again.
+    // After progress, the time starts again.
     file->MarkProgress();
     EXPECT_EQ(LastNote(*file), "Ale 1");
 }
 
 TEST_F(ForeignFile, IsNotHurriedByTheTimeBetweenItsStatements) {
     AddRecipes();
-    // A day passes between one statement and the next, while a box stands open.
+    // A day passes between two statements, while a message box is open.
     milliseconds now{};
     const auto file = Database::OpenForeign(path, [&] { return now; });
     for (int i = 0; i < 30; ++i) {

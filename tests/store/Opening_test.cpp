@@ -1,4 +1,4 @@
-// Opening and making database files: what is refused, with the file as it was afterwards.
+// Tests of opening and creating database files: what is refused, and that the file is then unchanged.
 #include <array>
 #include <csignal>
 #include <filesystem>
@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 class Opening : public testing::Test {
   protected:
-    // Opens the file as the main database, expects a refusal and the bytes unchanged, and gives its
+    // Opens the file as the main database and expects a refusal that changes no byte. Returns its
     // description without the path.
     std::string Refusal() {
         const std::string before = ReadFile(path_);
@@ -36,7 +36,7 @@ class Opening : public testing::Test {
     const std::string path_ = folder_.File("Tunwright.mdb");
 };
 
-// A child process that holds the file open until it is let go.
+// A child process that keeps the file open until this object is destroyed.
 class Holder {
   public:
     Holder(const std::string& path, bool exclusive) {
@@ -134,8 +134,8 @@ TEST_F(Opening, RefusesAnEmptyFile) {
     EXPECT_EQ(Refusal(), "is empty.");
 }
 
-// Takes the write permission from a file or folder for as long as it lives. It binds the program also where
-// it runs for the administrator, who may write all the same.
+// Removes the write permission of a file or folder during its lifetime. The program obeys it even when run by
+// the administrator, who could write anyway.
 class Protected {
   public:
     explicit Protected(fs::path path) : path_(std::move(path)), before_(fs::status(path_).permissions()) {
@@ -151,7 +151,7 @@ class Protected {
     fs::perms before_;
 };
 
-// Reads, and changes nothing whatever is tried.
+// Expects that the database can be read and that nothing changes it.
 void ExpectReadOnly(const std::string& path) {
     const std::string before = ReadFile(path);
     {
@@ -170,7 +170,7 @@ TEST_F(Opening, OpensAWriteProtectedFileToBeRead) {
     MakeMainDatabase(path_);
     const Protected file(path_);
     ExpectReadOnly(path_);
-    // A file that is only read may be protected: an exchange file on a disc.
+    // A file that is only read may be write-protected, such as an exchange file on a disc.
     EXPECT_FALSE(Database::OpenDatabase(path_, false)->ReadOnly());
 }
 
@@ -182,13 +182,13 @@ TEST_F(Opening, OpensAFileInAWriteProtectedFolderToBeRead) {
     {
         const Protected folder(fs::path(path_).parent_path());
         ExpectReadOnly(path_);
-        // The folder of the file itself counts, not that of a link to it.
+        // The folder of the file itself matters, not that of a link to it.
         ExpectReadOnly(link / "Link.mdb");
     }
     EXPECT_FALSE(OpenMainDatabase(path_)->ReadOnly());
 }
 
-// The system's own word on it, which the administrator does not hear.
+// The system itself refuses writing; it would not refuse the administrator.
 TEST_F(Opening, OpensTheFileOfAnotherUserToBeRead) {
     if (geteuid() != 0) GTEST_SKIP() << "only the administrator can become another user";
     MakeMainDatabase(path_);
@@ -211,8 +211,8 @@ TEST_F(Opening, OpensTheFileOfAnotherUserToBeRead) {
     EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
-// Leaves the database half-written, with the journal that leads back; with the page of the header in it, if
-// that is wanted.
+// Leaves the database half-written, with the journal that restores it. If inHeader, the journal includes
+// the page of the header.
 void CrashIn(const std::string& path, bool inHeader = false) {
     ASSERT_TRUE(DiesIn([&] {
         const auto db = OpenMainDatabase(path);
@@ -246,7 +246,7 @@ TEST_F(Opening, RefusesAFileWithSeveralNames) {
     EXPECT_EQ(Refusal(),
               "has several names (hard links). After a crash under one of them, another would open a damaged "
               "database. Delete the other names, or make a copy of the file and use that.");
-    // An exchange file may have as many as it likes.
+    // An exchange file may have any number of names.
     EXPECT_NO_THROW(Database::OpenDatabase(path_, false));
     fs::remove(other);
     EXPECT_NO_THROW(OpenMainDatabase(path_));
@@ -266,7 +266,7 @@ TEST_P(OtherName, IsToldWhenACrashHasLeftItHalfWritten) {
                   "': '" + other +
                   "-journal' is still there. Give the database that name again and start Tunwright with it. "
                   "If it never had that name, move 'Before.mdb-journal' to another folder.");
-    // As it says.
+    // Follows the advice of the message.
     fs::rename(path_, other);
     EXPECT_EQ(Cell(*OpenMainDatabase(other), "SELECT COUNT(*) FROM HOPS"), "0");
 }
@@ -275,7 +275,7 @@ TEST_P(OtherName, IsNotTakenFromTheJournalsOfOthers) {
     MakeMainDatabase(path_);
     const std::string other = folder_.File("Other.mdb");
     MakeMainDatabase(other);
-    // The other database is larger than this one, so that no journal of it leads back to this.
+    // The other database is larger than this one, so none of its journals can restore this one.
     OpenMainDatabase(other)->Execute("INSERT INTO HOPS (DESCR) VALUES ('" + std::string(9000, 'x') + "')");
     CrashIn(other, GetParam());
     EXPECT_NO_THROW(OpenMainDatabase(path_)) << "its own database is there";
@@ -299,8 +299,8 @@ TEST_F(Opening, RefusesATruncatedFile) {
         WriteFile(path_, whole.substr(0, length));
         EXPECT_EQ(Refusal(), "is cut short.") << length;
     }
-    // Inside the first page, behind some pages, inside the last page, one byte short: SQLite itself notices
-    // some.
+    // Cut inside the first page, after some pages, inside the last page, and one byte short; SQLite itself
+    // notices some of these.
     for (const std::size_t length : {std::size_t{100}, std::size_t{1000}, page, 3 * page, whole.size() - page,
                                      whole.size() - page / 2, whole.size() - 1}) {
         WriteFile(path_, whole.substr(0, length));
@@ -359,7 +359,7 @@ TEST_F(Opening, RefusesASecondOpeningInTheSameProcessAndKeepsTheLock) {
     MakeMainDatabase(path_);
     const auto db = OpenMainDatabase(path_);
     EXPECT_EQ(Refusal(), "is in use by another program.");
-    // The refused opening has not given the lock away.
+    // The refused opening has not released the lock.
     EXPECT_THROW(Holder(path_, true), std::runtime_error);
 }
 

@@ -1,5 +1,5 @@
-// The tables of fields and cells against the schema: a column that one of them lacks would be lost in
-// silence.
+// Compares the tables of fields and cells with the schema: a column missing in one of them
+// would silently be lost.
 #include "store/RecipeColumns.h"
 
 #include <algorithm>
@@ -32,7 +32,7 @@ Names NamesOf(const std::vector<RecipeColumn>& columns) {
     return names;
 }
 
-// The columns that a rule's cell is stored in, prefix before their names.
+// Adds the columns that store the cell of a rule, each name with a prefix.
 void AddColumns(Names& names, const CellRule& rule, std::string_view prefix) {
     if (rule.stored == CellStored::No) return;
     const std::string name = std::string(prefix) + std::string(rule.column);

@@ -15,7 +15,7 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-// Answers what the test has queued, aborting without an answer, and writes down what it was asked.
+// Answers from a queue that the test fills, aborts if it is empty, and records the questions.
 class Host : public CopyHost {
   public:
     bool Continue(const std::string& name, int number, int total) override {
@@ -53,7 +53,7 @@ class RecipeCopyTest : public testing::Test {
   protected:
     RecipeCopyTest() {
         CreateExchangeTables(*main, *file);
-        // FullRecipe has the style 7 and stands in the folder 3.
+        // FullRecipe has style 7 and is in folder 3.
         main->Execute("INSERT INTO STYLES (ID, NAME) VALUES (7, 'Dry Stout')");
     }
 
@@ -62,7 +62,7 @@ class RecipeCopyTest : public testing::Test {
     void Import(const Strings& names, std::int64_t folderId = 0) {
         Copier().ImportRecipes(names, folderId, unknown);
     }
-    // A recipe in the file, as another brewer has sent it.
+    // Adds a recipe to the file, as another brewer might have sent it.
     void PutIntoFile(const std::string& name, const std::string& style = "") {
         file->Execute("INSERT INTO RECIPES (NAME, STYLE_NAME, FOLDER_ID) VALUES (" + SqlText(name) + ", " +
                       SqlText(style) + ", 99)");
@@ -165,7 +165,7 @@ TEST_F(RecipeCopyTest, TextsTravelLetterForLetter) {
 TEST_F(RecipeCopyTest, ANameIsFoundInAnyCaseAndWithBlanksAndTheRecipeTakesIt) {
     PutIntoFile("  Ärger ");
     Import({" äRGER  "});
-    // The main database holds its names trimmed.
+    // The main database stores names trimmed.
     EXPECT_EQ(MainName(), "äRGER");
     Export({"ÄRGER"});
     EXPECT_EQ(host.conflicts, Strings{"ÄRGER"});
@@ -207,7 +207,7 @@ TEST_F(RecipeCopyTest, AnOverwrittenRecipeGoesWithFiveOfItsSetsOfLines) {
     EXPECT_EQ(Select(*main, "SELECT NAME FROM RECIPE_HOPS"), Rows{{"Saaz"}});
     for (const char* table : {"GRAINS", "SALTS", "ADJUNCTS", "LOG"})
         EXPECT_EQ(Cell(*main, "SELECT COUNT(*) FROM RECIPE_" + std::string(table)), "0") << table;
-    // They stay behind: intended.
+    // The sugars of the old recipe remain.
     EXPECT_EQ(Cell(*main, "SELECT COUNT(*) FROM RECIPE_SUGARS WHERE RECIPE_ID = " + oldId), "2");
 }
 
@@ -299,7 +299,7 @@ TEST_F(RecipeCopyTest, AColumnOfAnUnknownTypeFailsAndWhatWasCopiedStays) {
     file->ExecuteNative(
         "ALTER TABLE RECIPES ADD COLUMN PHOTO BLOB; UPDATE RECIPES SET PHOTO = x'00' WHERE ID = 2");
     main->ExecuteNative("ALTER TABLE RECIPES ADD COLUMN PHOTO BLOB");
-    // The 51 columns of a recipe without its ID, and PHOTO. 11 is the number of the type of plain bytes.
+    // The 51 columns of a recipe without its ID, and PHOTO. Type 11 is a column of bytes.
     EXPECT_EQ(ErrorOf([&] { Import({"Mild", "Stout"}); }).Description(), "50 values for 51 columns");
     EXPECT_EQ(host.debug, Strings{"column PHOTO of table RECIPES is of type 11 (?)"});
     EXPECT_EQ(Names(*main), Rows{{"Mild"}});
@@ -399,7 +399,7 @@ TEST_F(RecipeCopyTest, ARunLooksAtTheNamesOfTheDestinationOnce) {
     int statements = 0;
     main->SetStatementHook([&](std::string_view) { ++statements; });
     Import({"A", "B"});
-    // A look at the names, and for each recipe an INSERT and the look at its ID: no line, no style.
+    // One query of the names, and for each recipe an INSERT and a query of its ID: no lines, no style.
     EXPECT_EQ(statements, 1 + 2 * 2);
 }
 
@@ -430,8 +430,8 @@ TEST_F(RecipeCopyTest, ACrashInAnImportLeavesTheOldDatabaseWhole) {
             EXPECT_EQ(Names(*db), (Rows{{"Mild"}, {"Stout"}}));
         }
     }
-    // The names; a DELETE, the look at the style, INSERT, the look at the ID, 5 DELETEs and 6 lines; the same
-    // without DELETEs; then the run that lives.
+    // The names. For the first recipe: a DELETE, the query of the style, the INSERT, the query of the ID, 5
+    // DELETEs and 6 lines. For the second one: the same without DELETEs. Then the run that survives.
     EXPECT_EQ(statement, 1 + 15 + 9 + 1);
 }
 

@@ -137,7 +137,7 @@ TEST_F(RecipeRows, RefuseABareTextThatIsNoNumber) {
     recipe[GridId::Water].at(1).cells[WaterCol::FirstIon + 1].text = "1, NOTES = ''";
     EXPECT_EQ(ErrorOf([&] { InsertRecipe(*db, recipe); }).WithSource(),
               "Database\r\n'1, NOTES = ''' is no number. (20)");
-    // What was written until then stays.
+    // What was written before the failure remains.
     EXPECT_EQ(Cell(*db, "SELECT NOTES FROM RECIPES"), "007");
 }
 

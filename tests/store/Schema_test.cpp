@@ -8,7 +8,8 @@
 namespace tw::test {
 namespace {
 
-// Every table with its columns: * a counter key, otherwise l long, d double, b bool, w date, t text, m memo.
+// Every table with its columns: * is a counter key, otherwise l is long, d double, b bool, w
+// date, t text and m memo.
 const std::map<std::string, std::string> kExpected = {
     {"FOLDERS", "ID* PARENT_ID:l NAME:t STYLE:b CREATED_WHEN:w MODIFIED_WHEN:w"},
     {"RECIPES",

@@ -1,4 +1,4 @@
-// A folder with a small catalogue without faults, and a database to load it into.
+// A folder with a small, valid catalogue, and a database to load it into.
 #pragma once
 
 #include <filesystem>
@@ -19,7 +19,7 @@ namespace tw {
 
 inline constexpr DateTime kCreated{.year = 2024, .month = 2, .day = 29, .hour = 13, .minute = 5, .second = 7};
 
-// A folder with a small catalogue without faults, gone with the test.
+// A folder with a small, valid catalogue, deleted after the test.
 class SmallCatalogue : public testing::Test {
   protected:
     void SetUp() override {
@@ -79,7 +79,7 @@ class SmallCatalogue : public testing::Test {
         Append(file, text);
     }
 
-    // Puts one text in the place of another in a file.
+    // Replaces one text by another in a file.
     void Edit(const std::string& file, const std::string& from, const std::string& to) const {
         std::ifstream in(folder_ / file, std::ios::binary);
         std::ostringstream bytes;
@@ -90,7 +90,8 @@ class SmallCatalogue : public testing::Test {
         Replace(file, text.replace(at, from.size(), to));
     }
 
-    // What is wrong, each as "{file}:{line}: {what}" with the file's bare name.
+    // Loads the catalogue and returns its problems, each as "{file}:{line}: {what}" with the
+    // bare name of the file.
     std::vector<std::string> Load() {
         std::vector<std::string> texts;
         for (CatalogueProblem& problem : LoadCatalogue(folder_.string(), *database_, kCreated)) {
@@ -99,7 +100,7 @@ class SmallCatalogue : public testing::Test {
         }
         return texts;
     }
-    // The rows of a SELECT, each as its fields' texts with "|" between, NULL as "NULL".
+    // Returns the rows of a SELECT, each with its fields separated by "|"; NULL is "NULL".
     std::vector<std::string> Rows(const std::string& sql) {
         std::vector<std::string> rows;
         for (Recordset records = database_->OpenRecordset(sql); !records.AtEnd(); records.MoveNext()) {

@@ -1,4 +1,4 @@
-// The SQL that the windows rely on, feature by feature, on the real schema.
+// Tests of the SQL that the windows rely on, feature by feature, with the real schema.
 #include <gtest/gtest.h>
 
 #include "StoreSupport.h"
@@ -68,13 +68,13 @@ TEST_F(SqlFeature, UpperCasesAndTrims) {
 TEST_F(SqlFeature, TakesDoubleQuotedLiterals) {
     Run("INSERT INTO RECIPES (NAME) VALUES ('Name')");
     Run("INSERT INTO RECIPES (NAME) VALUES ('Other')");
-    // The text equals a column's name and is a literal all the same.
+    // The text equals the name of a column but is a literal all the same.
     EXPECT_EQ(Get("SELECT NAME FROM RECIPES WHERE UCASE(NAME) = \"NAME\""), (Rows{{"Name"}}));
     EXPECT_EQ(Get("SELECT NAME FROM RECIPES WHERE NAME = \"NOTES\""), Rows{});
 }
 
 TEST_F(SqlFeature, BreaksOnANameWithADoubleQuoteBetweenDoubleQuotes) {
-    // The statements that compare with double-quoted literals do not double them: intended.
+    // The statements that compare with double-quoted literals do not double the quotes in them.
     EXPECT_THROW(Get("SELECT ID FROM RECIPES WHERE UCASE(NAME) = \"THE \"BEST\" ALE\""), Error);
 }
 
@@ -232,7 +232,7 @@ TEST_F(SqlFeature, NeverUsesACounterAgain) {
     EXPECT_EQ(Get1("SELECT ID FROM RECIPES"), "3");
 }
 
-// How SQLite would run the statement.
+// Returns SQLite's query plan for the statement.
 std::string Plan(sqlite3* handle, const std::string& sql) {
     const auto append = [](void* plan, int, char** cells, char**) {
         static_cast<std::string*>(plan)->append(cells[3]).append("\n");

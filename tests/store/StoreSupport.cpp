@@ -31,7 +31,7 @@ std::optional<double> AsNumber(const std::optional<T>& value) {
     return static_cast<double>(*value);
 }
 
-// A line with a value for each stored column, in the order of the grid's columns.
+// Returns a line with a value for each stored column, in the order of the grid's columns.
 StoredLine LineOf(GridId grid, int rowId, const std::vector<StoredValue>& values) {
     StoredLine line = EmptyLine(grid, rowId);
     std::size_t next = 0;
@@ -128,7 +128,7 @@ StoredRecipe FullRecipe(const std::string& name, int linesPerTable) {
     r[GridId::Pressure] = {LineOf(GridId::Pressure, 0, {{"12 psi", 12}, Text("2.5")})};
     r[GridId::Water] = {LineOf(GridId::Water, 0, Water("Home", {"40", "120.5", "20", "8", "15", "30"})),
                         LineOf(GridId::Water, 1, Water("Burton", {"268", "200", "", "62", "0", "638"}))};
-    // By descending row, as a recipe is read.
+    // In descending order of rows, as a recipe is read.
     for (int i = linesPerTable - 1; i >= 0; --i) {
         const std::string n = std::to_string(i);
         const auto add = [&](GridId grid, const std::vector<StoredValue>& values) {

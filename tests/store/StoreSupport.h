@@ -1,5 +1,5 @@
-// What the tests of the store share: temporary files, the rows of a statement as text, and a recipe that
-// fills every column.
+// Shared by the tests of the store: temporary files, the rows of a statement as text, and a recipe
+// that fills every column.
 #pragma once
 
 #include <filesystem>
@@ -12,7 +12,7 @@
 
 namespace tw::test {
 
-// A folder of its own for one test, removed with everything in it.
+// A folder for one test, deleted with its contents at the end.
 class TemporaryFolder {
   public:
     TemporaryFolder();
@@ -27,16 +27,16 @@ class TemporaryFolder {
 
 std::string ReadFile(const std::string& path);
 void WriteFile(const std::string& path, std::string_view bytes);
-// Makes a closed database file of the full schema.
+// Creates a database file with the full schema and closes it.
 void MakeMainDatabase(const std::string& path);
 
-// The rows of a SELECT: cells by Field::Text, NULL as "NULL".
+// Returns the rows of a SELECT: cells by Field::Text, NULL as "NULL".
 using Rows = std::vector<std::vector<std::string>>;
 Rows Select(Database& database, std::string_view sql);
-// The first cell of the first row.
+// Returns the first cell of the first row.
 std::string Cell(Database& database, std::string_view sql);
 
-// Runs action and returns the error that it raises; fails the test when there is none.
+// Runs action and returns the error that it raises; fails the test if there is none.
 template <typename Action>
 Error ErrorOf(Action action) {
     try {
@@ -47,11 +47,11 @@ Error ErrorOf(Action action) {
     return {"", "no error was raised", -1};
 }
 
-// A recipe with a value in every column and `linesPerTable` lines in every table.
+// Returns a recipe with a value in every column and linesPerTable lines in every table.
 StoredRecipe FullRecipe(const std::string& name, int linesPerTable = 2);
-// Everything that a recipe holds but its id, for comparing two.
+// Returns everything in a recipe except its id, for comparisons.
 std::string Describe(const StoredRecipe& recipe);
-// All rows of all tables.
+// Returns all rows of all tables.
 std::string Dump(Database& database);
 
 }  // namespace tw::test

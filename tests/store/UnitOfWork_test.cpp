@@ -1,4 +1,4 @@
-// Units of work: whole after a crash, and with what was done so far after a failure.
+// Tests of units of work: complete or undone after a crash, and with what was done so far after a failure.
 #include <csignal>
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -11,7 +11,7 @@
 namespace tw::test {
 namespace {
 
-// A save: the old recipe goes, the new one takes its place.
+// Saves a recipe: deletes the old one and inserts the new one.
 void Save(Database& database, const StoredRecipe& recipe) {
     UnitOfWork unit(database);
     const std::int64_t old = IdByName(database, "RECIPES", recipe.name);
@@ -51,7 +51,7 @@ TEST_F(Crash, LeavesTheOldRecipeWholeAtEveryStatement) {
         WriteFile(path_, bytes);
         died = DiesIn([&] {
             const auto db = OpenMainDatabase(path_);
-            // Few pages in memory, so that half-done pages reach the file before the end.
+            // A small cache, so that half-done pages reach the file before the end.
             db->ExecuteNative("PRAGMA cache_size=3");
             DieAt(*db, statement);
             Save(*db, NewRecipe());
@@ -63,7 +63,7 @@ TEST_F(Crash, LeavesTheOldRecipeWholeAtEveryStatement) {
             EXPECT_EQ(Describe(*ReadRecipe(*db, "Mild")), Describe(NewRecipe()));
         }
     }
-    // 2 look-ups, 5 DELETEs, INSERT, look-up, 3 UPDATEs and 7 times 3 lines, then the run that lives.
+    // 2 look-ups, 5 DELETEs, INSERT, look-up, 3 UPDATEs and 7 times 3 lines, then the run that survives.
     EXPECT_EQ(statement, 33 + 1);
 }
 
@@ -89,7 +89,7 @@ TEST_F(Crash, KeepsTheNewRecipeOnceTheUnitHasEnded) {
     EXPECT_EQ(Describe(*ReadRecipe(*OpenMainDatabase(path_), "Mild")), Describe(NewRecipe()));
 }
 
-// The dump of a fresh database after the statements, each run on its own.
+// Returns the dump of a new database after these statements, each run on its own.
 std::string DumpAfter(const std::vector<std::string>& statements) {
     const auto db = CreateMainDatabaseInMemory();
     InsertRecipe(*db, FullRecipe("Mild"));
@@ -171,7 +171,7 @@ TEST(UnitOfWork, AbandonedTakesBackWhatItHasWritten) {
         UnitOfWork unit(*db);
         db->Execute("INSERT INTO HOPS (NAME) VALUES ('Saaz')");
         unit.Abandon();
-        // Over: what comes now stands alone.
+        // The unit has ended; what follows is not part of it.
         unit.Commit();
         unit.Abandon();
     }
@@ -200,7 +200,7 @@ TEST(UnitOfWork, RunsNothingMoreOnceTheDiskHasUndoneIt) {
     const auto db = CreateMainDatabaseInMemory();
     UnitOfWork unit(*db);
     db->Execute("INSERT INTO HOPS (NAME) VALUES ('Cascade')");
-    db->ExecuteNative("ROLLBACK");  // as SQLite does by itself when the disk is full
+    db->ExecuteNative("ROLLBACK");  // SQLite itself does so when the disk is full
     EXPECT_EQ(ErrorOf([&] { db->Execute("INSERT INTO HOPS (NAME) VALUES ('Fuggle')"); }).Description(),
               "The operation was undone by an earlier error.");
     EXPECT_EQ(ErrorOf([&] { unit.Commit(); }).Description(), "The operation was undone by an earlier error.");
@@ -211,7 +211,7 @@ TEST(UnitOfWork, TellsTheErrorThatUndidItWhateverIsTriedThen) {
     const TemporaryFolder folder;
     MakeMainDatabase(folder.File("a.mdb"));
     const auto db = OpenMainDatabase(folder.File("a.mdb"));
-    // A disk that is full.
+    // Simulates a full disk.
     db->ExecuteNative("PRAGMA max_page_count=1");
     const std::string full = "Database\r\ndatabase or disk is full (13)";
     {
@@ -222,7 +222,7 @@ TEST(UnitOfWork, TellsTheErrorThatUndidItWhateverIsTriedThen) {
         EXPECT_EQ(ErrorOf([&] { db->OpenRecordset("SELECT * FROM HOPS"); }).WithSource(), full);
         EXPECT_EQ(ErrorOf([&] { unit.Commit(); }).WithSource(), full);
     }
-    // It is forgotten with its unit.
+    // The error is forgotten at the end of its unit.
     UnitOfWork next(*db);
     db->ExecuteNative("ROLLBACK");
     EXPECT_EQ(ErrorOf([&] { next.Commit(); }).Description(), "The operation was undone by an earlier error.");
@@ -280,7 +280,7 @@ TEST(UnitOfWork, LeavesTheOldStateWhenTheDiskRefuses) {
         EXPECT_EQ(ErrorOf([&] { unit.Commit(); }).WithSource(), "Database\r\ndatabase is locked (5)");
     }
     EXPECT_EQ(Cell(*db, "SELECT NAME FROM HOPS"), "Cascade");
-    // The next operation starts anew.
+    // The next unit starts normally.
     UnitOfWork(*db).Commit();
 }
 

@@ -1,4 +1,4 @@
-// Rows that no part of the program writes: the tree loads without them and shows the rest.
+// Tests with rows that the program never writes: the tree omits them and shows the rest.
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
@@ -99,7 +99,7 @@ TEST(BadData, AFolderOfNeitherKindStandsNowhere) {
     EXPECT_FALSE(main.tree.NodeExists("F:2"));
 }
 
-// The ids of the system nodes are taken: a row with one of them would stand in its own list for ever.
+// System nodes have these ids: a row with one of them would be its own descendant.
 TEST(BadData, RowsWithTheIdsOfSystemNodesArePassedOver) {
     MainTree main;
     AddFolder(main, 0, "0", "a folder of id 0");
@@ -113,7 +113,7 @@ TEST(BadData, RowsWithTheIdsOfSystemNodesArePassedOver) {
     ExpectConsistent(main.tree);
 }
 
-// Under its name a recipe could be taken for the one whose id that is.
+// A recipe whose name is a number must not be confused with the recipe of that id.
 TEST(BadData, RowsOfNegativeIdsAreToldFromThoseOfTheirNames) {
     MainTree main;
     AddFolder(main, -1, "0", "the id of a system folder");
@@ -195,8 +195,8 @@ TEST(BadData, FoldersAsDeepAsThereAreRowsLoadAndShowAndGo) {
     EXPECT_TRUE(main.tree.NodeExists("F:50000"));
 }
 
-// The tree as it is described: one read for each folder and each style, from the root down. Depth first with
-// a recursion, and true to the letter, so that the reader below can be seen to be right.
+// Builds the tree the plain way: one query for each folder and each style, from the root down, depth first
+// and recursive, so that it is easy to see that it is right.
 class PlainTree {
   public:
     explicit PlainTree(Database& db) : db_(db) {
@@ -255,7 +255,7 @@ TEST(BadData, EveryDatabaseGivesTheTreeOfTheSingleReads) {
     for (int round = 0; round < 60; ++round) {
         MainTree main;
         const unsigned folders = random() % 25, styles = random() % 12, recipes = random() % 80;
-        // Links beyond the last row and to folders of the wrong kind come by themselves, rings too.
+        // Random links also lead beyond the last row, to folders of the wrong kind, and into cycles.
         const auto link = [&](unsigned bound) {
             return random() % 15 == 0 ? std::string("NULL") : below(bound + 3);
         };

@@ -28,7 +28,7 @@ class Picker : public Objects {
         for (const ListRow& row : picker.Items().Rows()) texts.push_back(row.cells.front());
         return texts;
     }
-    // What the picker answers on cmdOK.
+    // Presses cmdOK and returns the picker's answer.
     static std::string AnswerOf(CataloguePickerModel picker) {
         picker.Press("cmdOK");
         return picker.Cancelled() ? "cancelled" : picker.Answer();
@@ -61,7 +61,7 @@ TEST_F(Picker, StartsOnTheRowThatAnotherNameStandsFor) {
     AddOtherNames(*main.db);
     AddAlias(*main.db, CatalogueKind::Hop, "EKG", "East Kent Goldings");
     EXPECT_EQ(Open(CatalogueKind::Hop, " ekg ").Items().SelectedText(), "East Kent Goldings");
-    // Without such a row the alphabet decides.
+    // Without a row of that name, the alphabetical order decides.
     main.Execute("DELETE FROM HOPS WHERE NAME = 'East Kent Goldings'");
     EXPECT_EQ(Open(CatalogueKind::Hop, "EKG").Items().SelectedText(), "Cascade");
 }

@@ -1,4 +1,4 @@
-// The parts of dialogs in which recipes and folders are chosen.
+// Tests of the parts of dialogs for choosing recipes and folders.
 #include "ObjectsTest.h"
 #include "tree/ChooseFolderModel.h"
 #include "tree/FolderChooser.h"
@@ -21,7 +21,7 @@ class Recipes : public Objects {
         chooser.Initialize();
     }
     void Press(const std::string& button) { EXPECT_TRUE(chooser.Press(button)) << button; }
-    // The buttons that are on.
+    // Returns the enabled buttons.
     Lines On() const {
         Lines on;
         for (const char* button : {"cmdAdd", "cmdDel", "cmdUp", "cmdDown", "cmdTop", "cmdBottom",

@@ -22,7 +22,7 @@ class Recorder : public ObjectListener {
     std::vector<std::string> deleted;
 };
 
-// A recipe in folder 3 with two lines in every table.
+// Returns a recipe in folder 3 with two lines in every table.
 StoredRecipe TwoLines(const std::string& name) {
     StoredRecipe r;
     r.name = name;
@@ -42,7 +42,7 @@ StoredRecipe TwoLines(const std::string& name) {
 class DbIo : public testing::Test {
   protected:
     std::string Count(const std::string& table) { return Select("SELECT COUNT(*) FROM " + table).front(); }
-    // The cells of each row, with a blank between them, NULL as "NULL".
+    // Returns the cells of each row, separated by blanks; NULL is "NULL".
     std::vector<std::string> Select(const std::string& sql) {
         std::vector<std::string> lines;
         for (Recordset rows = db->OpenRecordset(sql); !rows.AtEnd(); rows.MoveNext()) {
@@ -53,7 +53,7 @@ class DbIo : public testing::Test {
         }
         return lines;
     }
-    // All that the tables hold of a recipe.
+    // Returns all rows of all tables that belong to a recipe.
     std::vector<std::string> RowsOf(const std::string& id) {
         std::vector<std::string> lines = Select("SELECT * FROM RECIPES WHERE ID = " + id);
         for (const std::string table : {"GRAINS", "HOPS", "SALTS", "SUGARS", "ADJUNCTS", "LOG"})
@@ -108,7 +108,7 @@ TEST_F(DbIo, LeavesSaltsAndSugarsOfADeletedRecipeBehind) {
     for (const std::string table : {"RECIPE_HOPS", "RECIPE_ADJUNCTS", "RECIPE_LOG"})
         EXPECT_EQ(Count(table), "2");
     EXPECT_EQ(Count("RECIPE_GRAINS"), "4");
-    // Intended: nothing finds these rows again.
+    // These rows remain, although nothing finds them any more.
     EXPECT_EQ(Count("RECIPE_SALTS WHERE RECIPE_ID = 1"), "2");
     EXPECT_EQ(Count("RECIPE_SUGARS WHERE RECIPE_ID = 1"), "2");
     EXPECT_EQ(RowsOf("2"), other);

@@ -12,8 +12,8 @@ using Page = ExplorerModel::Page;
 
 class Explorer : public Objects {
   protected:
-    // F:1 Winter with F:2 Dark; G:3 British; styles 1 Stout (British), 2 Bock; recipes 1 Badger (Dark,
-    // Stout), 2 Ale, 3 mild.
+    // Folders: F:1 Winter, which contains F:2 Dark; style folder G:3 British. Styles: 1 Stout (in British), 2
+    // Bock. Recipes: 1 Badger (in Dark, of style Stout), 2 Ale, 3 mild.
     Explorer() {
         Folder(0, "Winter");
         Folder(1, "Dark");
@@ -38,7 +38,7 @@ class Explorer : public Objects {
         for (const ListRow& row : Rows(model->Shown()).Rows()) names.push_back(row.cells.front());
         return names;
     }
-    // The tree of the page shown as far as it is filled: "KEY NAME", two blanks a level.
+    // Returns the tree of the page shown, as far as it is filled: "KEY NAME", indented by two blanks a level.
     Lines TreeShown() {
         Lines lines;
         AddTree(model->Tree(model->Shown()), TreeItems::kNone, "", lines);
@@ -81,7 +81,7 @@ TEST_F(Explorer, TheTreeOfStylesKnowsTheirCodes) {
     EXPECT_EQ(tree.Text(tree.Find("S:1:1")), "Stout");
     EXPECT_EQ(tree.Code(tree.Find("S:1:1")), "15B");
     EXPECT_EQ(tree.Code(tree.Find("S:2:1")), "");
-    // A renamed style is the brewer's own.
+    // A renamed style is the brewer's own and has no code.
     ASSERT_TRUE(io.RenameObject("S:1:1", "My Stout"));
     model->Settle();
     EXPECT_EQ(tree.Code(tree.Find("S:1:1")), "");
@@ -255,7 +255,7 @@ TEST_F(Explorer, ARefusedNameInTheTreeIsTakenBack) {
                 ElementsAre("[Could not rename recipe folder] A folder with that name already exists"));
     EXPECT_EQ(model->Tree(Page::Recipes).Text(model->Tree(Page::Recipes).Find("F:4")), "Summer");
     Press("mnuRenameFolder");
-    EXPECT_TRUE(model->RenameNode("Summer"));  // left as it was
+    EXPECT_TRUE(model->RenameNode("Summer"));  // unchanged
     Press("mnuRenameFolder");
     model->CancelEdit();
     EXPECT_FALSE(model->RenameNode("Spring"));
@@ -349,7 +349,7 @@ TEST_F(Explorer, RowsAreDroppedOnAFolder) {
     EXPECT_TRUE(model->CanDrop(keys, "F:2"));
     EXPECT_FALSE(model->CanDrop(keys, "F:-1"));
     EXPECT_FALSE(model->CanDrop(keys, "X:DB"));
-    EXPECT_FALSE(model->CanDrop({"R:2:3", "F:1"}, "F:1"));  // each has to fit
+    EXPECT_FALSE(model->CanDrop({"R:2:3", "F:1"}, "F:1"));  // all of them have to fit
     EXPECT_FALSE(model->CanDrop({}, "F:1"));
     model->Drop(keys, "F:-1");
     model->Drop(keys, "F:1");
@@ -359,7 +359,7 @@ TEST_F(Explorer, RowsAreDroppedOnAFolder) {
     EXPECT_EQ(model->NodeKey(), "F:0");
 }
 
-// Autosave runs while several are moved or deleted, and gives a recipe a new key.
+// Autosave runs while several recipes are moved or deleted, and gives a recipe a new key.
 TEST_F(Explorer, ARecipeThatIsSavedInTheMiddleOfARunIsNotPassedOver) {
     const auto save = [this] {
         if (listener.log.back() != "moved Ale 1") return;

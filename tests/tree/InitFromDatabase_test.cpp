@@ -105,7 +105,8 @@ TEST(InitFromDatabase, LeavesATreeThatGoesOnInOrder) {
     EXPECT_EQ(Names(recipes), (Lines{"C", "d", "e", "f"}));
 }
 
-// "(None)" comes in first whatever the names are; the sort that a rename runs puts it into the order.
+// "(None)" is read before the styles, whatever their names are; the sort after a rename
+// moves it to its place.
 TEST(InitFromDatabase, PutsNoStyleBeforeTheStylesUntilTheyAreSorted) {
     MainTree main;
     main.Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('!first', 0)");
@@ -166,7 +167,7 @@ class ExchangeFile : public testing::Test {
         return All(tree);
     }
 
-    MainTree main;  // the program's own database beside it
+    MainTree main;  // the program's own database, at the same time
     std::unique_ptr<Database> db = MakeExchangeDatabase();
     TWTree tree{main.db.get()};
 };

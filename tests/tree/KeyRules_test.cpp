@@ -1,4 +1,4 @@
-// What a key allows.
+// Tests of the operations that a key allows.
 #include "ObjectsTest.h"
 #include "tree/DB_IO.h"
 
@@ -19,7 +19,7 @@ TEST(CanDeleteNode, RefusesWhatTheProgramMakes) {
     }
 }
 
-// The rules look at the text alone, so a key need not name anything.
+// The rules use only the text of the key, so it need not name an object.
 TEST(CanDeleteNode, IsATextRule) {
     for (const char* key : {"F:999999", "F", "Gx", "R", "S:0", "S:00:0"})
         EXPECT_TRUE(CanDeleteNode(key)) << key;

@@ -45,7 +45,7 @@ ListTable ListOf(std::vector<ListRow> rows) {
     return list;
 }
 
-// The texts sorted as the second column, of numbers.
+// Sorts the texts in a second column, which has numbers, and returns them.
 std::vector<std::string> AsNumbers(const std::vector<std::string>& texts, bool descending = false) {
     ListTable list = ListOf({});
     for (const std::string& text : texts) list.Add(Row({"row", text}));
@@ -231,7 +231,7 @@ TEST(ListTable, TypingFindsTheNextRowThatBeginsSo) {
     EXPECT_EQ(ListOf({}).FindTyped("c", 0), ListTable::kNoRow);
 }
 
-// Two styles with codes and a third without.
+// Returns two styles with codes and a third without one.
 std::vector<ListRow> CodedRows() {
     ListRow pale = Row({"American Pale Ale"}), ipa = Row({"American IPA"}), mine = Row({"Cellar Ale"});
     pale.code = "18B";
@@ -245,7 +245,7 @@ TEST(ListTable, TypingFindsACodeOrAnotherNameWhereNoTextBeginsSo) {
     EXPECT_EQ(list.FindTyped("21a", 0), 1);
     EXPECT_EQ(list.FindTyped("apa", 2), 0);
     EXPECT_EQ(list.FindTyped("2", 0), 1);
-    // A text comes before another name.
+    // A match in the text comes before a match in another name.
     EXPECT_EQ(list.FindTyped("a", 1), 1);
     EXPECT_EQ(list.FindTyped("pale", 0), ListTable::kNoRow);
 }

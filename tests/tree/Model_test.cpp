@@ -1,4 +1,4 @@
-// Thousands of random operations on a tree and on a plain model of it.
+// Performs thousands of random operations on a tree and on a plain model of it, and compares them.
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
@@ -10,7 +10,7 @@
 namespace tw::test {
 namespace {
 
-// Every node by its key, its children as a list of keys. Nothing is remembered between two operations, and
+// Stores every node by its key and its children as a list of keys. Nothing is cached between operations, and
 // everything is done the slow way.
 class PlainModel {
   public:
@@ -37,7 +37,7 @@ class PlainModel {
         entries[key].name = name;
         if (sorted) Sort(entries[key].parent);
     }
-    // An insertion sort: equal ones stay as they are.
+    // An insertion sort, which keeps the order of equal nodes.
     void Sort(const std::string& parent) {
         std::vector<std::string>& list = entries[parent].children;
         for (std::size_t i = 1; i < list.size(); ++i)
@@ -117,11 +117,11 @@ class Workout {
     PlainModel model;
 
   private:
-    // Larger subtrees stay, or the tree would never grow.
+    // Larger subtrees are not removed, or the tree would never grow.
     static constexpr std::size_t kMostRemoved = 12;
 
     unsigned Below(std::size_t bound) { return static_cast<unsigned>(random_() % bound); }
-    // Few different names, so that many are equal.
+    // Returns one of few names, so that many are equal.
     std::string Name() {
         static const char* const kNames[] = {"",  "a", "A",      "b",      "B", "_",     "ab",
                                              "z", "Z", "\u00e4", "\u00c4", "m", "stout", "Stout"};

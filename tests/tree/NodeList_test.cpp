@@ -1,4 +1,4 @@
-// The list of a folder's contents: how it is shown, searched and renamed in.
+// Tests of the list of a folder's contents: showing, searching and renaming.
 #include "tree/NodeList.h"
 
 #include "ObjectsTest.h"
@@ -57,7 +57,7 @@ TEST_F(NodeLists, SortsAsTheLookSaysWithFoldersFirst) {
     look.descending = true;
     list.Show("F:0", false);
     EXPECT_THAT(Shown(), ElementsAre("Winter", "mild", "Ale"));
-    look.arrangeKey = 99;  // no column: as they stand in the tree
+    look.arrangeKey = 99;  // not a column: in the order of the tree
     list.Show("F:0", true);
     EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
 }
@@ -136,7 +136,7 @@ TEST_F(NodeLists, ARefusedNameLeavesTheOldOne) {
     EXPECT_FALSE(list.EndEdit("MILD"));
     EXPECT_THAT(Boxes(), ElementsAre("[Could not rename recipe] A recipe with that name already exists"));
     EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
-    EXPECT_FALSE(list.EndEdit("Other"));  // no edit is going on
+    EXPECT_FALSE(list.EndEdit("Other"));  // no edit is active
     list.BeginEdit(1);
     list.CancelEdit();
     EXPECT_FALSE(list.EndEdit("Other"));

@@ -1,4 +1,5 @@
-// Deleting objects with what hangs on them, and what an error in the middle leaves.
+// Tests of deleting objects together with those that depend on them, and of the state after
+// an error in the middle.
 #include "ObjectsTest.h"
 #include "store/Schema.h"
 
@@ -41,7 +42,7 @@ TEST_F(Deletions, TakeAFolderWithAllBelowItDepthFirst) {
     io.DeleteObject("F:1");
     EXPECT_EQ(Tree("F:0"), Lines{"R:5:3 Other"});
     EXPECT_EQ(Tree("F:-1"), Lines{"R:5:0 Other"});
-    // Folders in the order of their names, as the database reads them.
+    // Folders are deleted in the order of their names, as the database returns them.
     EXPECT_THAT(Notices(), ElementsAre("deleted Best", "folder deleted 4", "deleted Tsar", "folder deleted 3",
                                        "deleted Dry", "folder deleted 2", "deleted Session",
                                        "folder deleted 1", "deletion ended"));
@@ -102,7 +103,7 @@ TEST_F(Deletions, LeaveWhatTheProgramMakesAndWhatIsMissing) {
     ExpectInStep();
 }
 
-// Recipes that lie nowhere are not those of a folder that is gone.
+// Recipes in a folder that does not exist are not deleted with that folder.
 TEST_F(Deletions, OfAFolderThatIsMissingKeepTheRecipesThatNameIt) {
     main.Execute("UPDATE RECIPES SET FOLDER_ID = 99 WHERE ID = 5");
     main.tree.InitFromDatabase();
@@ -113,7 +114,7 @@ TEST_F(Deletions, OfAFolderThatIsMissingKeepTheRecipesThatNameIt) {
 }
 
 TEST_F(Deletions, EndInARingOfFolders) {
-    main.Execute("UPDATE FOLDERS SET PARENT_ID = 3 WHERE ID = 1");  // behind the tree's back
+    main.Execute("UPDATE FOLDERS SET PARENT_ID = 3 WHERE ID = 1");  // without notifying the tree
     io.DeleteObject("F:1");
     EXPECT_THAT(Select("SELECT ID FROM FOLDERS WHERE NOT STYLE"), IsEmpty());
     ExpectInStep();
@@ -151,8 +152,7 @@ TEST_F(Deletions, FindARecipeThatTheTreeDoesNotShow) {
     ExpectInStep();
 }
 
-// Runs the operation again and again, the first time with an error at its first statement, then at its
-// second, until it comes to its end; before each run everything is built anew.
+// Negative ids and 0, which the program never assigns to objects.
 TEST_F(Objects, OfIdsThatTheProgramNeverGivesCanBeMovedRenamedAndDeleted) {
     main.Execute("INSERT INTO FOLDERS (ID, PARENT_ID, NAME, STYLE) VALUES (-4, 0, 'Cellar', FALSE)");
     main.Execute("INSERT INTO STYLES (ID, NAME, FOLDER_ID) VALUES (-3, 'Gose', 0)");
@@ -191,7 +191,7 @@ TEST_F(Objects, WithoutANameCanBeDeleted) {
     ExpectInStep();
 }
 
-// A key that names no object is not taken for the row of id -1, nor an unknown name for the row of id 0.
+// An invalid key does not delete the row of id -1, and an unknown name not the row of id 0.
 TEST_F(Objects, AreNotDeletedForAnUnknownKeyOrName) {
     main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (-1, 'Mild', 0, 0)");
     main.Execute("INSERT INTO RECIPES (ID, NAME, STYLE_ID, FOLDER_ID) VALUES (0, 'Bock', 0, 0)");
@@ -204,7 +204,7 @@ TEST_F(Objects, AreNotDeletedForAnUnknownKeyOrName) {
     EXPECT_THAT(Select("SELECT ID FROM RECIPES"), ElementsAre("-1"));
 }
 
-// A row that bears the id of "My Recipe Folders" or "All Recipes" lies in the folder that goes.
+// Rows with the ids of "My Recipe Folders" and "All Recipes" are in the folder that is deleted.
 TEST_F(Objects, OfASystemFolderStayWhenAFolderIsDeleted) {
     main.Execute("INSERT INTO FOLDERS (ID, PARENT_ID, NAME, STYLE) VALUES (5, 0, 'Ales', FALSE)");
     main.Execute("INSERT INTO FOLDERS (ID, PARENT_ID, NAME, STYLE) VALUES (0, 5, 'Nought', FALSE)");
@@ -220,6 +220,9 @@ TEST_F(Objects, OfASystemFolderStayWhenAFolderIsDeleted) {
 
 class Failure : public Deletions {
   protected:
+    // Runs operation again and again, with an error at its first statement, then at its second, and so on
+    // until it succeeds. Rebuilds the rows and the tree before each run, and expects afterwards that the tree
+    // matches the database.
     template <typename Operation>
     void FailAtEveryStatement(Operation operation) {
         std::size_t failures = 0;
@@ -311,7 +314,7 @@ TEST_F(Failure, OfADiskThatStaysDeadLeavesTheTreeUntilTheDiskIsBack) {
     EXPECT_THROW(io.DeleteRecipeById(1), Error);
     EXPECT_EQ(Tree("X:DB"), before);
     main.db->SetStatementHook(nullptr);
-    // Behind the tree's back, as what an operation had done before its error.
+    // The tree is not notified, as if an operation had made this change before its error.
     main.Execute("UPDATE RECIPES SET NAME = 'Changed' WHERE ID = 2");
     EXPECT_GE(io.CreateRecipeFolder(0, "New"), 0);
     EXPECT_TRUE(main.tree.IsUpToDate());
@@ -329,7 +332,7 @@ TEST_F(Failure, WithinAUnitOfTheCallersIsShownBehindIt) {
         main.db->SetStatementHook([&](std::string_view sql) {
             if (isFull || !sql.starts_with("DELETE FROM RECIPE_HOPS")) return;
             isFull = true;
-            // As SQLite does by itself when the disk is full.
+            // SQLite itself rolls back when the disk is full.
             main.db->ExecuteNative("ROLLBACK");
             throw Error("Database", "database or disk is full", 13);
         });

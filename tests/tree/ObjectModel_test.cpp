@@ -1,5 +1,5 @@
-// Thousands of random operations on good and bad data: after each one the tree is the one that a start would
-// read, and the rows, boxes and notices are those of a plain model of the rules.
+// Performs thousands of random operations on valid and invalid data. After each one, the tree must be the one
+// that a start would read, and the rows, messages and notices those of a plain model of the rules.
 #include <algorithm>
 #include <random>
 
@@ -47,7 +47,7 @@ class ObjectModel : public Objects {
         if (OneIn(3)) return "Name " + std::to_string(Below(60));
         return kNames[Below(kNames.size())];
     }
-    // Of a row that is or was there, now and then of none.
+    // Returns the key of a row that exists or existed, occasionally that of none.
     std::string AnyKey() {
         static const Lines kOdd = {"X:DB", "X:STYLE", "F:-1", "G:-1", "F:0",  "G:0",    "S:0:0", "S:0:1", "",
                                    "F",    "Q:1",     "F:x",  "R::",  "S:1x", "F:9999", "R:0:0", "S:0"};
@@ -70,7 +70,7 @@ class ObjectModel : public Objects {
             std::next(rows.begin(), static_cast<std::ptrdiff_t>(Below(rows.size())))->first);
     }
 
-    // To a row that was made before, to none that any later row may become.
+    // Returns a link to an earlier row, or to none that a later row could become.
     std::optional<Id> AnyLink(Id last) {
         if (OneIn(20)) return std::nullopt;
         if (OneIn(20)) return 100000;
@@ -83,7 +83,7 @@ class ObjectModel : public Objects {
     static std::string Sql(const std::optional<Id>& link) { return link ? std::to_string(*link) : "NULL"; }
     static std::string Sql(const std::optional<std::string>& name) { return name ? SqlText(*name) : "NULL"; }
 
-    // Rows as no operation would write them: rings, links to nothing, names twice or missing.
+    // Adds rows that no operation would write: cycles, links to nothing, duplicate or missing names.
     void AddRows(int count) {
         for (int i = 0; i < count; ++i) {
             const PlainObjects::Folder folder{AnyLink(model.lastFolder + 1), AnyStoredName(), OneIn(2),
@@ -111,7 +111,7 @@ class ObjectModel : public Objects {
         model.typed.clear();
     }
 
-    // One operation on both. A quiet one says nothing, and does the same.
+    // Performs an operation on both. A silent one has the same effect but shows no message.
     std::string Operate() {
         const Asking asking = OneIn(3) ? Asking::Quietly : Asking::Aloud;
         const std::string key = AnyKey();
@@ -146,7 +146,7 @@ class ObjectModel : public Objects {
 
     void ExpectModel() {
         EXPECT_EQ(Boxes(), std::exchange(model.boxes, {}));
-        // In what order the rows of a folder come is the store's business.
+        // The order of the rows of a folder depends on the store.
         Lines given = Notices();
         std::ranges::sort(given);
         std::ranges::sort(model.notices);
@@ -179,7 +179,7 @@ class ObjectModel : public Objects {
     void ExpectFreshTree() {
         TWTree fresh(main.db.get());
         fresh.InitFromDatabase();
-        // Names as typed stay until the next start.
+        // The tree shows names as typed until the next start.
         for (const auto& [object, name] : model.typed) {
             const std::string key = std::string(1, object.first) + ":" + std::to_string(object.second);
             for (const char* copy : {"", ":0", ":1", ":2", ":3"})

@@ -1,4 +1,4 @@
-// Moving folders, recipes and styles.
+// Tests of moving folders, recipes and styles.
 #include "ObjectsTest.h"
 
 namespace tw::test {
@@ -115,7 +115,7 @@ TEST_F(Moves, RefuseASecondFolderOfTheName) {
     ExpectInStep();
 }
 
-// A recipe folder and a style folder of one name do not meet, nor do a folder and a recipe.
+// The names of a recipe folder and a style folder do not conflict, nor do those of a folder and a recipe.
 TEST_F(Moves, CompareNamesOfFoldersOfOneKindAlone) {
     Recipe("Stouts", 3);
     EXPECT_TRUE(io.MoveObject("F:2", "F:3"));
@@ -174,12 +174,12 @@ TEST_F(Moves, RefuseEveryOtherPair) {
                                                          {"X:STYLE", "F:1"},
                                                          {"Q:1", "F:1"},
                                                          {"", "F:1"},
-                                                         // What would not be seen again after the next start.
+                                                         // Would not be shown after the next start.
                                                          {"F:1", "F:-1"},
                                                          {"G:4", "G:-1"},
                                                          {"R:1:3", "F:-1"},
                                                          {"S:1:1", "G:-1"},
-                                                         // What the program makes.
+                                                         // Belongs to the program itself.
                                                          {"S:0:1", "G:4"},
                                                          {"S:0:0", "G:0"},
                                                          {"F:-1", "F:1"},

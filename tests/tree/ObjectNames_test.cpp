@@ -1,4 +1,4 @@
-// Renaming objects and making folders.
+// Tests of renaming objects and creating folders.
 #include "ObjectsTest.h"
 #include "values/Text.h"
 
@@ -121,7 +121,7 @@ TEST_F(Names, MayChangeTheirCaseAlone) {
     ExpectInStep();
 }
 
-// Intended: until the next start.
+// The tree shows the name as typed until the next start.
 TEST_F(Names, AreTrimmedInTheDatabaseAndStandAsTypedInTheTree) {
     EXPECT_TRUE(io.RenameObject("R:1:0", "  Best "));
     EXPECT_TRUE(io.RenameObject("F:2", " Best "));
@@ -129,7 +129,7 @@ TEST_F(Names, AreTrimmedInTheDatabaseAndStandAsTypedInTheTree) {
     EXPECT_EQ(main.tree.Nodes("F:2")->Name(), " Best ");
     EXPECT_THAT(Select("SELECT NAME FROM RECIPES WHERE ID = 1"), ElementsAre("Best"));
     EXPECT_THAT(Notices(), ElementsAre("renamed Dry to   Best "));
-    // The blanks do not hide it from the next operation.
+    // The blanks do not hide the object from the next operation.
     EXPECT_TRUE(io.RenameObject("R:1:0", "BEST"));
     EXPECT_FALSE(io.RenameObject("F:3", "best", Asking::Quietly));
 }
@@ -177,7 +177,7 @@ TEST_F(Names, OfStylesAreFoundForTheirEntries) {
     io.RenameStyleNodesByName("PILS ", "Pilsner");
     EXPECT_EQ(main.tree.Nodes("S:1:0")->Name(), "Pilsner");
     EXPECT_THAT(Notices(), ElementsAre("style renamed 1 to Pils", "style renamed 1 to Pilsner"));
-    // "(None)" keeps its name when the style has another one already.
+    // "(None)" keeps its name if no style has the old name any more.
     io.RenameStyleNodesByName("unknown", "Pilsner");
     EXPECT_EQ(main.tree.Nodes("S:0:0")->Name(), "(None)");
     EXPECT_THAT(Notices(), IsEmpty());
@@ -227,14 +227,14 @@ TEST_F(Names, OfNewFoldersCount) {
     ExpectInStep();
 }
 
-// Every entry in the folder counts, a recipe too.
+// Every entry of the folder counts, even a recipe.
 TEST_F(Names, OfNewFoldersPassOverRecipes) {
     Recipe("New Folder", 1);
     EXPECT_EQ(io.CreateFolderObject("F:1", ""), "F:6");
     EXPECT_EQ(main.tree.Nodes("F:6")->Name(), "New Folder (2)");
 }
 
-// Intended: the name is made with regard to case, and the check behind it finds it taken.
+// The new name is chosen case-sensitively, but the check that follows ignores case and refuses it.
 TEST_F(Names, OfNewFoldersMeetOneOfAnotherCase) {
     Folder(1, "NEW FOLDER");
     EXPECT_EQ(io.CreateFolderObject("F:1", ""), "");

@@ -1,4 +1,4 @@
-// Each operation on objects is one unit on the disk: a crash in its middle leaves the old state.
+// Tests that each operation on objects is one unit of work: a crash in the middle leaves the old state.
 #include <filesystem>
 #include <unistd.h>
 
@@ -32,7 +32,7 @@ class Units : public testing::Test {
 
     std::string File(const std::string& name) const { return (folder_ / name).string(); }
 
-    // The rows of the three tables.
+    // Returns the rows of the three tables.
     static Lines Rows(Database& database) {
         Lines rows;
         for (const char* sql : {"SELECT ID, PARENT_ID, NAME, MODIFIED_WHEN FROM FOLDERS",
@@ -45,15 +45,15 @@ class Units : public testing::Test {
         return rows;
     }
 
-    // Runs the operation on a fresh copy in a process that dies at the statement of that number; false when
-    // it came to its end alive.
+    // Runs the operation on a fresh copy, in a process that is killed before that statement. Returns false if
+    // the operation ends before.
     template <typename Operation>
     bool DiesAt(int statement, Operation operation) {
         std::filesystem::copy_file(File("made.mdb"), File("a.mdb"),
                                    std::filesystem::copy_options::overwrite_existing);
         return DiesIn([&] {
             const auto database = OpenMainDatabase(File("a.mdb"));
-            // Few pages in memory, so that half-done pages reach the file before the end.
+            // A small cache, so that half-done pages reach the file before the end.
             database->ExecuteNative("PRAGMA cache_size=3");
             TWTree tree(database.get());
             tree.InitFromDatabase();
@@ -66,7 +66,8 @@ class Units : public testing::Test {
         });
     }
 
-    // Kills the operation at each of its statements in turn. It has that many.
+    // Kills the operation at each of its statements in turn and expects the old state; it must
+    // have that many statements.
     template <typename Operation>
     void ExpectWhole(int statements, Operation operation) {
         const Lines old = Rows(*OpenMainDatabase(File("made.mdb")));
@@ -83,27 +84,28 @@ class Units : public testing::Test {
     std::filesystem::path folder_;
 };
 
-// Two folders: two reads and a DELETE for each, five DELETEs for each of the two recipes.
+// Two folders: two reads and one DELETE for each; two recipes: five DELETEs for each.
 TEST_F(Units, ADeletedFolderGoesWholeOrNotAtAll) {
     ExpectWhole(2 * 3 + 2 * 5, [](DB_IO& io) { io.DeleteObject("F:1"); });
 }
 
-// The folders, the styles, the recipes of the style, an UPDATE for each of two recipes, two DELETEs.
+// Reads the folders, the styles and the recipes of the style; one UPDATE for each of
+// two recipes, two DELETEs.
 TEST_F(Units, ADeletedStyleFolderGoesWholeOrNotAtAll) {
     ExpectWhole(3 + 2 + 2, [](DB_IO& io) { io.DeleteObject("G:3"); });
 }
 
-// A check, the change, two touches.
+// A check, the change, two updates of modification dates.
 TEST_F(Units, AMovedFolderIsThereOrHere) {
     ExpectWhole(1 + 1 + 2, [](DB_IO& io) { io.MoveObject("F:2", "F:0", Asking::Quietly); });
 }
 
-// A check, the change, one touch.
+// A check, the change, one update of a modification date.
 TEST_F(Units, ANewNameComesWithItsTouch) {
     ExpectWhole(3, [](DB_IO& io) { io.RenameObject("R:1:0", "Wet", Asking::Quietly); });
 }
 
-// A check, the row, its id.
+// A check, the INSERT, reading the id.
 TEST_F(Units, ANewFolderIsThereOrNot) {
     ExpectWhole(3, [](DB_IO& io) { io.CreateFolderObject("F:1", "", Asking::Quietly); });
 }

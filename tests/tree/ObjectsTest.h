@@ -1,4 +1,4 @@
-// The main database, its tree, and DB_IO over both, with everything recorded that it says.
+// The main database, its tree, and DB_IO on both, with all messages and notices recorded.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -15,7 +15,7 @@
 
 namespace tw::test {
 
-// The notices, a line each. Runs a look at each of them, while it is being given.
+// Records the notices, one a line. Calls a function during each of them.
 class NoticeRecorder : public ObjectListener {
   public:
     void NotifyRecipeMoved(const std::string& name, std::int64_t folderId) override {
@@ -53,7 +53,7 @@ class Objects : public testing::Test {
   protected:
     Objects() { main.tree.InitFromDatabase(); }
 
-    // Rows that stand in the tree too.
+    // These add rows that are also in the tree.
     std::int64_t Folder(std::int64_t parent, const std::string& name) {
         return io.CreateRecipeFolder(parent, name, Asking::Quietly);
     }
@@ -71,7 +71,7 @@ class Objects : public testing::Test {
         io.AddStyleNodesByName(name);
     }
 
-    // What stands below the entry, without the entry itself.
+    // Returns the entries below the entry, without the entry itself.
     Lines Tree(const std::string& key) {
         Lines lines;
         const TWNode& node = *main.tree.Nodes(key);
@@ -80,7 +80,7 @@ class Objects : public testing::Test {
             for (std::string& line : Below(*child)) lines.push_back(std::move(line));
         return lines;
     }
-    // The cells of a SELECT, a row in a line.
+    // Returns the rows of a SELECT, one a line.
     Lines Select(const std::string& sql) {
         Lines lines;
         for (Recordset rows = main.db->OpenRecordset(sql); !rows.AtEnd(); rows.MoveNext()) {
@@ -93,13 +93,13 @@ class Objects : public testing::Test {
         }
         return lines;
     }
-    // The ids of the folders that have been touched since the last call.
+    // Returns the ids of the folders whose modification date has been set since the last call.
     Lines Touched() {
         Lines ids = Select("SELECT ID FROM FOLDERS WHERE NOT MODIFIED_WHEN IS NULL ORDER BY ID");
         main.Execute("UPDATE FOLDERS SET MODIFIED_WHEN = NULL");
         return ids;
     }
-    // Runs action and returns the statements in it that change something.
+    // Runs action and returns its statements that change something.
     template <typename Action>
     Lines ChangesOf(Action action) {
         Lines changes;
@@ -110,7 +110,7 @@ class Objects : public testing::Test {
         main.db->SetStatementHook(nullptr);
         return changes;
     }
-    // Fails the test unless the tree is the one of the database.
+    // Fails the test unless the tree matches the database.
     void ExpectInStep() {
         TWTree fresh(main.db.get());
         fresh.InitFromDatabase();

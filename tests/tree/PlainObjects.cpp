@@ -9,7 +9,7 @@ namespace {
 
 using Id = PlainObjects::Id;
 
-// "F", "12", "3" of "F:12:3".
+// Returns the parts of a key, such as "F", "12", "3" of "F:12:3".
 Lines Fields(const std::string& key) {
     Lines fields = {""};
     for (const char c : key) {

@@ -1,5 +1,5 @@
-// The rules of folders, styles and recipes over plain maps: nothing is remembered but the rows, and where an
-// entry stands is worked out each time.
+// The rules of folders, styles and recipes on plain maps: only the rows are stored, and the place of an entry
+// is determined anew each time.
 #pragma once
 
 #include <cstdint>
@@ -29,9 +29,9 @@ class PlainObjects {
     std::map<Id, Folder> folders;
     std::map<Id, Item> styles, recipes;
     Id lastFolder = 0;  // the highest id ever given
-    // Names as they were typed, by kind and id, where the tree shows them with blanks around.
+    // The names as typed, by kind and id, if the tree shows them with outer blanks.
     std::map<std::pair<char, Id>, std::string> typed;
-    // What was said, boxes as "[title] text".
+    // The messages, as "[title] text", and the notices.
     Lines boxes, notices;
 
     bool Move(const std::string& source, const std::string& dest);
@@ -39,7 +39,7 @@ class PlainObjects {
     void Remove(const std::string& key);
     std::string Create(const std::string& parentKey, const std::string& name);
 
-    // The key of the entry above; empty when the tree does not show the entry.
+    // Returns the key of the parent; empty if the tree does not show the entry.
     std::string ParentOf(const std::string& key) const;
     bool Shows(const std::string& key) const { return key == "X:DB" || !ParentOf(key).empty(); }
 

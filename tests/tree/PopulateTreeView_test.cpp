@@ -16,7 +16,7 @@ class PopulateTreeView : public testing::Test {
         main.Execute("INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES ('Mild', 0, 0)");
         main.Load();
     }
-    // "PARENT> KEY" of each entry, the name and the icons cut off.
+    // Returns "PARENT> KEY" of each entry, without name and icons.
     Lines Keys() const {
         Lines keys;
         for (const std::string& line : view.lines)
@@ -89,7 +89,7 @@ TEST_F(PopulateTreeView, LeavesOutByStyleWithAllBelowIt) {
                              "F:1> F:2", "F:2> R:1:3", "F:0> R:2:3"}));
 }
 
-// A style that is passed over takes its recipes along.
+// A style that is left out takes its recipes with it.
 TEST_F(PopulateTreeView, PassesOverStylesWithTheirRecipes) {
     main.tree.PopulateTreeView(view, TreePart::Everything, false, false, true);
     EXPECT_EQ(Keys(), (Lines{"clear", "none> F:-1", "F:-1> R:1:0", "F:-1> R:2:0", "none> X:STYLE",

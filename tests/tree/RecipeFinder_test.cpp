@@ -19,7 +19,7 @@ class RecipeFinderTest : public testing::Test {
         Execute("INSERT INTO " + table + " (RECIPE_ID, ROW_ID, NAME) VALUES (" + std::to_string(recipe) +
                 ", 1, " + SqlText(name) + ")");
     }
-    // The names of what is found.
+    // Returns the names of the recipes found.
     Lines Find(std::string_view text) {
         Lines names;
         for (const FoundRecipe& recipe : finder.Find(text)) names.emplace_back(recipe.name);

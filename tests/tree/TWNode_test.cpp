@@ -171,7 +171,7 @@ TEST(TWNode, ClearRemovesEverythingBelow) {
     EXPECT_EQ(tree.Count(), 1U);
 }
 
-// Rank, then the closed icon's text, then the name in upper case.
+// Compares rank, then the text of the closed icon, then the name in upper case.
 TEST(TWNode, ComparesByRankFirst) {
     TWNode folder, style, recipe;
     folder.SetName("c");
@@ -208,7 +208,7 @@ TEST(TWNode, ComparesIconsLetterForLetter) {
     EXPECT_EQ(none.Compare(upper), -1);
     upper.SetIconClosed("apple");
     EXPECT_EQ(upper.Compare(lower), 0);
-    // The open icon has no part in it.
+    // The open icon is not compared.
     upper.SetIconOpen("other");
     EXPECT_EQ(upper.Compare(lower), 0);
 }
@@ -223,7 +223,8 @@ TEST(TWNode, ComparesNamesWithoutRegardToCase) {
     EXPECT_EQ(compare("", "a"), -1);
     EXPECT_EQ(compare("ale", "ale "), -1);
     EXPECT_EQ(compare("M\u00e4rzen", "m\u00c4RZEN"), 0);
-    // In upper case a letter sorts before "_", in lower case it would sort behind.
+    // Names are compared in upper case, in which a letter sorts before "_"; in lower case
+    // it would sort after it.
     EXPECT_EQ(compare("a", "_"), -1);
 }
 

@@ -7,7 +7,7 @@
 namespace tw::test {
 namespace {
 
-// An owner of a collection that writes down what it hears, and how many nodes the collection held then.
+// An owner of a collection that records its callbacks and the number of nodes in the collection at each.
 class RecordingOwner : public TWNodesOwner {
   public:
     void AddingNode(TWNode& node) override {
@@ -77,7 +77,8 @@ TEST(TWNodes, AddsEqualNodesBehindThoseThatAreThere) {
     EXPECT_EQ(Names(owner.nodes), (Lines{"ale", "Ale", "aLe", "ALE", "zz"}));
 }
 
-// The walk from the front stops at the first node that sorts behind, though a smaller one comes later.
+// The search from the front stops at the first node that sorts after the new one, even if
+// a smaller one follows.
 TEST(TWNodes, AddsBeforeTheFirstNodeThatSortsBehindAlsoWhereTheOthersAreOutOfOrder) {
     RecordingOwner owner;
     for (const char* name : {"m", "z", "a", "y"}) owner.Add(name);
@@ -154,7 +155,7 @@ TEST(TWNodes, SortsNothingAndOne) {
     EXPECT_EQ(Names(owner.nodes), (Lines{"a"}));
 }
 
-// The collection remembers that it is in order; what changes the order must be noticed.
+// The collection caches that it is sorted, so it must notice every change of the order.
 TEST(TWNodes, SortSeesWhatChangedSinceTheLast) {
     TWTree tree;
     TWNode& root = tree.AddNode(MakeNode("X:DB"));
@@ -205,12 +206,12 @@ TEST_F(Siblings, AreSortedAnewWhenOneIsRenamed) {
     EXPECT_EQ(Names(root.Children()), (Lines{"b", "F", "h", "z"}));
 }
 
-// Two equal ones stay in the order in which they stood before the name changed.
+// Nodes with equal names keep the order that they had before the change.
 TEST_F(Siblings, OfTheSameNameKeepTheirOrderWhenOneIsRenamed) {
     Add({"a", "m", "m", "z"});
-    tree.Nodes("F:1")->SetName("M");  // from the front: before the others
+    tree.Nodes("F:1")->SetName("M");  // comes from the front: before the others
     EXPECT_EQ(Keys(), (Lines{"F:1", "F:2", "F:3", "F:4"}));
-    tree.Nodes("F:4")->SetName("M");  // from behind: behind them
+    tree.Nodes("F:4")->SetName("M");  // comes from the back: after them
     EXPECT_EQ(Keys(), (Lines{"F:1", "F:2", "F:3", "F:4"}));
     tree.Nodes("F:2")->SetName("m");
     EXPECT_EQ(Keys(), (Lines{"F:1", "F:2", "F:3", "F:4"}));
@@ -247,7 +248,7 @@ TEST_F(Siblings, OfAHundredThousandComeOutSortedFromAnyOrder) {
         return std::string(6 - digits.size(), '0') + digits;
     };
     tree.SetSorted(false);
-    // Sorted already, backwards, and all the same: the shapes on which a careless sort is quadratic or deep.
+    // Sorted, reversed and all equal: the inputs for which a careless sort is quadratic or recurses deeply.
     for (int i = 0; i < kCount; ++i) root.Children().AddNode(MakeNode("F:" + std::to_string(i), nameOf(i)));
     root.Children().Sort();
     for (int i = 0; i < kCount; i += 997)

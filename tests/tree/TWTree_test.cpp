@@ -91,7 +91,7 @@ TEST(TWTree, TakesAllOfASubtreeOrNothing) {
     EXPECT_EQ(top->Children().Item(0).Tree(), nullptr);
     EXPECT_EQ(tree.Count(), 2U);
     ExpectConsistent(tree);
-    // Nothing of the failure is left in the way.
+    // The failure has left nothing behind.
     root.Clear();
     root.Children().AddNode(std::move(top));
     EXPECT_EQ(tree.Count(), 5U);
@@ -181,7 +181,7 @@ TEST(TWTree, MovesADeepSubtreeAndDropsIt) {
     EXPECT_EQ(tree.Count(), 1U);
 }
 
-// The look-up against a map, with keys of both forms that come and go.
+// Compares the look-up with a map while keys of both forms are added and removed.
 TEST(TWTree, FindsWhatIsThereThroughThousandsOfChanges) {
     TWTree tree;
     TWNode& root = tree.AddNode(MakeNode("X:DB"));

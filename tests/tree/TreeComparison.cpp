@@ -6,7 +6,7 @@
 namespace tw::test {
 namespace {
 
-// A node in a line, with its parent's key.
+// Returns a node as one line, with its parent's key.
 std::string Describe(const TWNode& node) {
     std::string line = node.Parent() == nullptr ? "none" : node.Parent()->Key();
     line.append("> ").append(node.Key()).append(" [").append(node.IconOpen()).append(", ");
@@ -14,8 +14,8 @@ std::string Describe(const TWNode& node) {
     return line.append(node.IsStyle() ? "style " : "").append(node.Name());
 }
 
-// "(None)" is read before all other styles. A style that sorts before it is put before it by a later change,
-// but not by the reading, so that the order of such styles is free.
+// "(None)" is read before all other styles. A later change moves a style that sorts before it to the front,
+// but reading does not, so the order of these styles is not checked.
 void ExpectInOrder(const TWNodes& nodes) {
     const auto noStyle =
         std::ranges::find_if(nodes, [](const auto& node) { return node->Key().starts_with("S:0:"); });

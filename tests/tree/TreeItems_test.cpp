@@ -18,7 +18,7 @@ class Recorder : public TreeItemsObserver {
     Lines log;
 };
 
-// a with b below it and c below that, then d.
+// Fills the items with a, b below a, c below b, and then d.
 void FillSample(TreeItems& items) {
     items.Fill([](TreeView& view) {
         view.Clear();

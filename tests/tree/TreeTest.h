@@ -1,4 +1,4 @@
-// What the tests of the tree share: a tree as lines of text, a widget that records, and a database to fill.
+// Shared by the tests of the tree: a tree as lines of text, a recording widget, and a database to fill.
 #pragma once
 
 #include <memory>
@@ -16,7 +16,7 @@ namespace tw::test {
 
 using Lines = std::vector<std::string>;
 
-// Runs action and returns "{source}: {description}" of the error that it raises, "no error" without one.
+// Runs action and returns "{source}: {description}" of the error that it raises; "no error" if there is none.
 template <typename Action>
 std::string ErrorOf(Action action) {
     try {
@@ -27,27 +27,27 @@ std::string ErrorOf(Action action) {
     return "no error";
 }
 
-// A node that belongs to nothing.
+// Return a node without a tree or parent.
 std::unique_ptr<TWNode> MakeNode(std::string_view key, std::string_view name = "");
 std::unique_ptr<TWNode> MakeRecipe(std::string_view key, std::string_view name);
 
-// The names in the order of the collection.
+// Returns the names in the order of the collection.
 Lines Names(const TWNodes& nodes);
-// The node and everything below it: "KEY NAME", each behind two blanks a level.
+// Returns the node and its descendants: "KEY NAME", indented by two blanks a level.
 Lines Below(TWNode& node);
-// Every node of the tree; nothing for an empty one.
+// Returns every node of the tree; nothing if it is empty.
 Lines All(const TWTree& tree);
-// Fails the test unless every node is found under its key, belongs to the tree and to the parent in whose
-// collection it stands, and nothing else is in the look-up.
+// Fails the test unless every node is found by its key, belongs to the tree and to the parent whose
+// collection contains it, and the look-up contains nothing else.
 void ExpectConsistent(const TWTree& tree);
 
-// A widget: "clear", and "PARENT> KEY NAME [image, selected]" for each entry.
+// A widget that records "clear", and "PARENT> KEY NAME [image, selected]" for each entry.
 class RecordingView : public TreeView {
   public:
     void Clear() override { lines = {"clear"}; }
     TreeViewItem Add(TreeViewItem parent, const std::string& key, std::string_view text,
                      std::string_view image, std::string_view selectedImage) override;
-    // The key of an entry, "none" for Top.
+    // Returns the key of an entry; "none" for Top.
     std::string KeyOf(TreeViewItem item) const;
 
     Lines lines;
@@ -56,17 +56,17 @@ class RecordingView : public TreeView {
     std::vector<std::string> keys_;
 };
 
-// The main database in memory, and the tree over it.
+// The main database in memory, and its tree.
 struct MainTree {
     void Execute(std::string_view sql) const { db->Execute(sql); }
-    // All nodes after reading the database.
+    // Reads the database and returns all nodes.
     Lines Load();
 
     std::unique_ptr<Database> db = CreateMainDatabaseInMemory();
     TWTree tree{db.get()};
 };
 
-// An exchange file in memory.
+// Returns an exchange file in memory.
 std::unique_ptr<Database> MakeExchangeDatabase();
 
 }  // namespace tw::test

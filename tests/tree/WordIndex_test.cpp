@@ -78,7 +78,8 @@ TEST(WordIndex, KeepsEveryByteOfAWord) {
     EXPECT_EQ(Find(index, std::string(99999, 'Y')), Numbers{2});
 }
 
-// Rare, frequent and universal words of 1,000 texts, beside a plain search of each text.
+// Finds rare, frequent and universal words in 1,000 texts and compares the results with a
+// plain search of each text.
 TEST(WordIndex, FindsWhatAPlainSearchFinds) {
     std::mt19937 random(5);
     Texts texts;

@@ -11,7 +11,7 @@ using testing::IsEmpty;
 
 class Lists : public Objects {
   protected:
-    // The cells of a row with "|" between them.
+    // Returns the cells of a row, separated by "|".
     static std::string Line(const ListRow& row) {
         std::string line;
         for (const std::string& cell : row.cells) line.append(line.empty() ? "" : "|").append(cell);
@@ -27,13 +27,13 @@ class Lists : public Objects {
         for (const ListColumn& column : list.Columns()) titles.push_back(column.title);
         return titles;
     }
-    // The rows below a node.
+    // Returns the rows below a node.
     Lines Fill(const std::string& key, bool showStyles = true) {
         lvFiller::SetUpExplorerColumns(list);
         filler.FillByKey(list, key, showStyles);
         return LinesOf();
     }
-    // One cell of the only recipe, whose columns are set so.
+    // Creates one recipe with these columns and returns one of its cells.
     std::string RecipeCell(const std::string& column, const std::string& assignments) {
         main.Execute("DELETE FROM RECIPES");
         main.Execute("INSERT INTO RECIPES (NAME, FOLDER_ID, STYLE_ID) VALUES ('Mild', 0, 0)");
@@ -50,7 +50,7 @@ class Lists : public Objects {
         Fill("G:-1");
         return list.Row(1).cells.at(static_cast<std::size_t>(list.ColumnOf(column)));
     }
-    // The rows from the statements for single rows.
+    // Returns the rows, each read by its own statement.
     Lines OneByOne(const std::string& key) {
         lvFiller::SetUpExplorerColumns(list);
         for (const auto& child : main.tree.Nodes(key)->Children()) {
@@ -301,7 +301,7 @@ TEST_F(Lists, StylesCarryTheirCodesBesideTheirCells) {
     EXPECT_EQ(list.Row(1).origin, "Beer style guide of 2021");
     EXPECT_THAT(list.Row(1).otherNames, ElementsAre("Dry Stout"));
     EXPECT_EQ(list.Row(0).code, "");
-    // In the explorer too; "(None)" stands first there.
+    // The explorer shows the code too; there, "(None)" comes first.
     Fill("G:-1");
     EXPECT_EQ(list.Row(2).cells.front(), "Stout");
     EXPECT_EQ(list.Row(2).code, "15B");
@@ -375,7 +375,7 @@ TEST_F(GrainLists, StandInGroupsInTheOrderOfTheTypes) {
     EXPECT_THAT(LinesOf(), ElementsAre("Roasted Malt|  |  ", "black|  |  ", "Chocolate|25|350",
                                        "Base Malt|  |  ", "Pale|36-37.5|1.8-2"));
     EXPECT_TRUE(list.Row(0).isGroup);
-    // A row without figures is none.
+    // A row without figures is not a group.
     EXPECT_FALSE(list.Row(1).isGroup);
     EXPECT_EQ(list.Row(1).key, "black");
 }
