@@ -1,4 +1,4 @@
-// Runs the tests with an event loop at hand.
+// Runs the tests with an event loop.
 #include <QCoreApplication>
 #include <gtest/gtest.h>
 

@@ -1,4 +1,5 @@
-// A desktop of its own for one test: a runtime folder and a home that no other program of this machine uses.
+// A separate desktop for one test: a runtime folder and a home folder that no other
+// program on this machine uses.
 #pragma once
 
 #include <QDeadlineTimer>
@@ -13,7 +14,8 @@ namespace tw::test {
 
 inline constexpr int kDeadlineMilliseconds = 120000;
 
-// Runs events until done, which is asked after each. False when the deadline has passed.
+// Processes events until done, which is called after each of them, returns true. Returns false when
+// the deadline has passed.
 inline bool RunUntil(const std::function<bool()>& done) {
     QEventLoop loop;
     bool late = false;
@@ -36,7 +38,7 @@ class AppTest : public testing::Test {
     }
 
     std::string File(const std::string& name) const { return folder_.path().toStdString() + "/" + name; }
-    // Where the programs of this desktop keep their locks and their socket.
+    // Returns where the programs of this desktop keep their locks and their socket.
     std::string Runtime(const std::string& name = {}) const { return File("tunwright/" + name); }
 
   private:

@@ -27,7 +27,7 @@ class RecordingReceiver : public ChannelReceiver {
         return true;
     }
     Strings log;
-    std::size_t most = 1000;  // texts that it takes
+    std::size_t most = 1000;  // texts that it accepts
 };
 
 class LocalChannelTest : public AppTest {
@@ -41,7 +41,8 @@ class LocalChannelTest : public AppTest {
         return name;
     }
 
-    // What the running program answers to bytes until it ends the conversation or has sent enough.
+    // Returns what the running program answers to bytes, until it ends the connection or
+    // has sent enough bytes.
     std::string Talk(const QByteArray& bytes, int enough) {
         QLocalSocket socket;
         Descriptor connected = ConnectTo(OpenFolder(Runtime()), kChannelSocket, kDeadlineMilliseconds);
@@ -67,7 +68,7 @@ TEST_F(LocalChannelTest, TheFirstHoldsTheNameAndTheNextOneReachesIt) {
     LocalChannel second;
     RecordingReceiver none;
     ASSERT_EQ(Start(second, none), Name::HeldByOther);
-    // Nobody answers before the first one's events run.
+    // There is no answer until the first program processes its events.
     EXPECT_EQ(second.Send(ChannelMessage::File, "/a b,[c].twr", 1), Sent::NoAnswer);
     EXPECT_TRUE(RunUntil([&] { return !receiver.log.empty(); }));
     EXPECT_EQ(receiver.log, Strings{"F/a b,[c].twr"});
@@ -249,7 +250,8 @@ TEST_F(LocalChannelTest, MoreConversationsThanItServesAreEnded) {
 // Another user, for tests that run as root.
 constexpr uid_t kNobody = 65534;
 
-// Runs work in a process of that user; what it returns. The process has the descriptors of this one.
+// Runs work in a process of that user and returns its result. The process inherits the
+// descriptors of this one.
 int AsNobody(const std::function<int()>& work) {
     const pid_t child = fork();
     if (child == 0) {
@@ -261,7 +263,7 @@ int AsNobody(const std::function<int()>& work) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : 98;
 }
 
-// Opens the way for other users that the program keeps closed, so that only the check of the peer is left.
+// Grants other users the access that the program denies them, so that only the check of the peer remains.
 void OpenTheWay(const std::string& home, const std::string& runtime) {
     chmod(home.c_str(), 0777);
     chmod(runtime.c_str(), 0777);
@@ -299,7 +301,7 @@ TEST_F(LocalChannelTest, AnotherUsersSocketIsNotTalkedTo) {
         fcntl(socket.Number(), F_SETFL, O_NONBLOCK);
         char byte = socket.IsOpen() ? 'y' : 'n';
         if (write(ready[1], &byte, 1) != 1 || read(stop[0], &byte, 1) != 0) _exit(98);
-        // 1 when somebody has said a word.
+        // 1 if another program has sent anything.
         int heard = 0;
         for (int other = 0; (other = accept(socket.Number(), nullptr, nullptr)) >= 0; close(other))
             if (recv(other, &byte, 1, MSG_DONTWAIT) > 0) heard = 1;

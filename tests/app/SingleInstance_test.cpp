@@ -1,6 +1,6 @@
-// The real program, started many times at once on the offscreen platform, where its boxes go to standard
-// error. A start with a missing file in quotes names that file in a box of the program that runs: so the text
-// has arrived.
+// Starts the real program many times at once, on the offscreen platform, where message boxes go to standard
+// error. A start with the quoted name of a missing file makes the running program show that name in a
+// message, which proves that the text has arrived.
 #include <QProcess>
 #include <algorithm>
 #include <memory>
@@ -29,7 +29,7 @@ class Program {
 
     bool Runs() const { return process_.state() != QProcess::NotRunning; }
     bool Says(const QString& text) const { return QString::fromUtf8(errors_).contains(text); }
-    // 0 after an orderly end, -1 after a crash.
+    // Returns the exit code; -1 after a crash.
     int Status() const { return process_.exitStatus() == QProcess::NormalExit ? process_.exitCode() : -1; }
     void Signal(int number) {
         if (Runs()) kill(static_cast<pid_t>(process_.processId()), number);
@@ -55,13 +55,13 @@ class SingleInstanceTest : public AppTest {
     ProgramPtr Start(const QStringList& words = {}) {
         return std::make_unique<Program>(File("Tunwright.mdb"), words);
     }
-    // A start with a missing file of that name, in quotes.
+    // Starts the program with the quoted name of a missing file.
     ProgramPtr StartWith(const QString& file) { return Start({QStringLiteral("\"/no/") + file}); }
     static QString BoxOf(const QString& file) {
         return QStringLiteral("  /no/") + file + QStringLiteral("\r\n");
     }
 
-    // A program that has come up.
+    // Starts a program and waits until it is running.
     ProgramPtr StartFirst() {
         ProgramPtr first = StartWith(QStringLiteral("first"));
         EXPECT_TRUE(RunUntil([&] { return first->Says(BoxOf(QStringLiteral("first"))) || !first->Runs(); }));
@@ -127,7 +127,7 @@ TEST_F(SingleInstanceTest, AStoppedProgramKeepsNobodyWaitingForLong) {
     EXPECT_TRUE(
         second->Says(QStringLiteral("Already Running: The running instance of Tunwright does not answer.")))
         << second->Errors();
-    // It hears what it was told as soon as it wakes.
+    // It receives the text as soon as it continues.
     first->Signal(SIGCONT);
     EXPECT_TRUE(RunUntil([&] { return first->Says(BoxOf(QStringLiteral("second"))); }));
 }

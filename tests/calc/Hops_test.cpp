@@ -19,17 +19,17 @@ TEST(RagerTable, HoldsEveryPointExactly) {
 }
 
 TEST(RagerTable, InterpolatesFromTheLeftPoint) {
-    // The middle of each segment is the mean of its ends.
+    // The value in the middle of each segment is the mean of those at its ends.
     for (const At& at : {At{4.5, 0.025}, At{14, 0.085}, At{24, 0.135}, At{36.5, 0.17}, At{51.5, 0.205},
                          At{66.5, 0.23}, At{81.5, 0.255}})
         EXPECT_NEAR(RagerTableUtilisation(at.minutes), at.utilisation, 1e-15) << at.minutes;
     // 0.22 + 1 * 0.02 / 15
     EXPECT_NEAR(RagerTableUtilisation(60), 0.2213333333, 1e-10);
-    // 0.27 less 0.001 * 0.03 / 15
+    // 0.27 - 0.001 * 0.03 / 15
     EXPECT_NEAR(RagerTableUtilisation(88.999), 0.269998, 1e-12);
 }
 
-// The hole in the table is intended.
+// The table has a gap, which is kept.
 TEST(RagerTable, GivesNothingBetween89And90Minutes) {
     EXPECT_EQ(RagerTableUtilisation(89.0001), 0);
     EXPECT_EQ(RagerTableUtilisation(89.5), 0);

@@ -1,4 +1,4 @@
-// Scripts as a whole: where they stop, what they say, and that every command is documented and proven.
+// Tests of whole scripts: where they stop, what they print, and that every command is documented and tested.
 #include "cli/Console.h"
 
 #include <filesystem>
@@ -119,12 +119,12 @@ TEST(Console, WritesTheRecentListAtItsEnd) {
 }
 
 TEST(Console, RefusesWrongArgumentsOfEveryCommand) {
-    // Too few for a command with a fixed first argument, too many for the others.
+    // Too few arguments for a command with a fixed first argument, too many for the others.
     const std::set<std::string_view> takesNothing = {
         "new",     "save",  "close",     "documents", "changed",  "swatch",    "slider", "mru",
         "restart", "undo",  "redo",      "undotype",  "redotype", "selectall", "copy",   "cut",
         "clear",   "paste", "clipboard", "tree",      "treat",    "contents",  "print"};
-    // A text may be missing, or hold anything.
+    // These accept any text, even none.
     const std::set<std::string_view> takesAnyText = {"answer", "setclipboard", "dde"};
     for (const Command& command : AllCommands()) {
         if (takesAnyText.contains(command.name)) continue;
@@ -170,8 +170,8 @@ TEST(CommandLine, RefusesUnknownOptionsAndMissingFiles) {
         EXPECT_THROW(ReadCommandLine(arguments), ScriptError) << arguments.front();
 }
 
-// The page's examples: a fenced block "console" is a script of its own, the block "output" behind it what it
-// prints.
+// An example of the page: a fenced block "console" is a script, and the block "output" after it is
+// what the script prints.
 struct Example {
     int line = 0;
     std::string script;
@@ -202,7 +202,7 @@ std::vector<Example> ExamplesOfThePage() {
 TEST(ConsolePage, ExamplesPrintWhatThePageSays) {
     const std::vector<Example> examples = ExamplesOfThePage();
     EXPECT_GE(examples.size(), 20U);
-    // What they write goes into a folder that goes with them.
+    // Their files are written to a folder that is deleted afterwards.
     const std::filesystem::path before = std::filesystem::current_path();
     const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "tunwright_console_page";
     for (const Example& example : examples) {
@@ -217,7 +217,7 @@ TEST(ConsolePage, ExamplesPrintWhatThePageSays) {
     std::filesystem::remove_all(folder);
 }
 
-// The first words of all lines of a script.
+// Adds the first word of each line of a script.
 void AddCommandsOf(std::istream& script, std::set<std::string, std::less<>>& names) {
     for (std::string line; std::getline(script, line);) names.insert(line.substr(0, line.find(' ')));
 }

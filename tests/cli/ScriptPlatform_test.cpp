@@ -1,4 +1,4 @@
-// The ports that a script answers.
+// Tests of the ports that a script answers.
 #include "cli/ScriptPlatform.h"
 
 #include <gmock/gmock.h>
@@ -10,7 +10,7 @@
 namespace tw {
 namespace {
 
-// A form with a name box, a check box, and a button that keeps it open until a name is there.
+// A form with a name box, a check box, and a button that closes it only if there is a name.
 class NameForm : public DialogModel {
   public:
     std::string FormName() const override { return "frmName"; }

@@ -1,4 +1,4 @@
-// The reading of script lines: words, texts, quotes, escapes, numbers, answers to dialogs.
+// Tests of reading script lines: words, texts, quotes, escapes, numbers, answers to dialogs.
 #include "cli/ScriptReader.h"
 
 #include <gmock/gmock.h>
@@ -9,7 +9,7 @@ namespace {
 
 using testing::HasSubstr;
 
-// The reason with which taking fails, empty when it does not.
+// Returns the reason why taking fails; empty if it succeeds.
 template <typename Taking>
 std::string ReasonOf(std::string_view line, Taking taking) {
     Arguments arguments(line);

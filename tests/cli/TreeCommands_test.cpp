@@ -1,4 +1,4 @@
-// The lines that the commands on the tree refuse.
+// Tests of the lines that the commands on the tree refuse.
 #include <gtest/gtest.h>
 #include <sstream>
 #include <string>
@@ -8,7 +8,7 @@
 namespace tw {
 namespace {
 
-// What the console says on standard error to one line, without the line's number.
+// Returns what the console writes to standard error for one line, without the line number.
 std::string RefusalOf(const std::string& line) {
     MemorySettings settings;
     std::ostringstream out;

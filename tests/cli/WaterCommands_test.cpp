@@ -1,4 +1,4 @@
-// What the commands on water refuse.
+// Tests of what the commands on water refuse.
 #include <gtest/gtest.h>
 #include <sstream>
 #include <string>
@@ -76,7 +76,7 @@ TEST(LinearProgramCommand, HasABoundOnWhatOneLineMayAskFor) {
     EXPECT_EQ(RunLine("lp min " + Repeat("9", 400)).status, ExitStatus::BadLine);
 }
 
-// 9e307 / 0.1 is no double any more: a box, and the script goes on.
+// 9e307 / 0.1 is out of the range of a double: a message is shown and the script continues.
 TEST(LinearProgramCommand, ShowsAnArithmeticErrorInABox) {
     const Outcome outcome = RunLine("lp max 1 ; 0.1 <= 9" + Repeat("0", 307));
     EXPECT_EQ(outcome.status, ExitStatus::Done);

@@ -1,4 +1,4 @@
-// The tables of the commands: what no compiler can see in them.
+// Tests of the command tables for errors that no compiler detects.
 #include "commands/Commands.h"
 
 #include <set>
@@ -36,7 +36,7 @@ TEST(Commands, RecentRecipesAreCountedFromZero) {
     EXPECT_EQ(RowOf(RecentCommand(kRecentSlots - 1)).name, "mnuFileMRU(5)");
 }
 
-// A key or a place that stands there twice would hide a command.
+// A duplicate key or position would hide a command.
 TEST(Commands, NoTwoShareAKeyOrAPlaceInTheToolbar) {
     std::set<std::string_view> keys, buttons;
     std::set<int> places;

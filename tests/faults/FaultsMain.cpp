@@ -1,4 +1,4 @@
-// The tests, or one run that keeps a recipe as unsaved work does: --keep-recipe FOLDER TEXT.
+// Runs the tests, or with --keep-recipe FOLDER TEXT keeps one recipe as the program keeps unsaved work.
 #include <gtest/gtest.h>
 #include <string_view>
 
@@ -9,7 +9,7 @@ namespace {
 int KeepRecipe(const std::string& folder, const std::string& text) {
     tw::RecipeSnapshot snapshot;
     snapshot.fields = {{"txtNotes", text, text}};
-    const std::string database = "/Tunwright.mdb";  // not opened; its path names the folder
+    const std::string database = "/Tunwright.mdb";  // not opened; its path only determines the folder
     tw::Recovery recovery(folder, database, "");
     recovery.Adopt("1", tw::Recovery::FolderOf(folder, database) + "/1.unsaved");
     return recovery.Keep("1", snapshot) ? 0 : 1;

@@ -19,7 +19,7 @@ std::string ReadAll(const fs::path& path) {
     return bytes.str();
 }
 
-// In the child process: becomes the command. Does not return.
+// Replaces the child process by the command. Does not return.
 [[noreturn]] void Become(const std::vector<std::string>& command, const fs::path& folder,
                          const fs::path& beside, Fault fault, std::size_t at) {
     const int in = open((beside / "input").c_str(), O_RDONLY);

@@ -1,6 +1,6 @@
-// What the brewer does, with the program killed and its disk failing at each call: afterwards every file is
-// the old one or the new one, whole, and the database opens. A sample of the calls by default, all of them
-// with TUNWRIGHT_FAULTS=all.
+// Tests of operations during which the program is killed or the disk fails at each call: afterwards every
+// file must be the old or the new one, complete, and the database must open. By default a sample of the calls
+// is tested, with TUNWRIGHT_FAULTS=all every one.
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -24,7 +24,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Two recipes, a third one in a file alone, and older files under the names that are written below.
+// Two recipes, a third one only in a file, and older files with the names that are written below.
 constexpr const char* kSetup = R"(
 new
 set txtNotes first
@@ -51,8 +51,8 @@ report rtf report.rtf Bock
 struct Operation {
     const char* name;
     const char* script;
-    // A failure of the disk may leave a part of what the database was to take, with its box; a file never is
-    // left in parts.
+    // True if a failure of the disk may leave part of the changes to the database, with a message. A file is
+    // never left incomplete.
     bool ofDatabase = false;
 };
 
@@ -80,7 +80,8 @@ bool IsDatabase(const fs::path& path) {
     return path.extension() == ".mdb" || path.extension() == ".TWR";
 }
 
-// Every row of every table. Opening it does what the next start does with a journal that was left.
+// Returns every row of every table. Opening the database rolls back a journal that was left,
+// as the next start does.
 std::string Dump(const fs::path& path) {
     const auto database = Database::OpenDatabase(path.string(), false);
     EXPECT_EQ(database->OpenRecordset("SELECT integrity_check FROM pragma_integrity_check").Fields(0).Text(),
@@ -96,7 +97,7 @@ std::string Dump(const fs::path& path) {
              row.MoveNext()) {
             std::string text;
             for (int column = 0; column < row.FieldCount(); ++column)
-                // The time of a save is another at each run.
+                // The time of a save differs from run to run.
                 if (row.TypeOf(column) != FieldType::Date) text += row.Fields(column).Text() + "\t";
             rows.insert(std::move(text));
         }
@@ -112,8 +113,8 @@ std::string Bytes(const fs::path& path) {
     return bytes.str();
 }
 
-// Name to contents, of all files of a folder. What a journal of the recipes held has been taken back by then;
-// an empty one may be left to the next start.
+// The contents of all files of a folder, by name. Journals have been rolled back by then; an empty one may
+// remain until the next start.
 using State = std::map<std::string, std::string>;
 
 State StateOf(const fs::path& folder) {
@@ -128,7 +129,7 @@ State StateOf(const fs::path& folder) {
     return state;
 }
 
-// Which of that many calls are struck.
+// Returns the numbers of the calls, out of that many, at which a fault occurs.
 std::vector<std::size_t> Places(std::size_t calls) {
     const char* const wanted = std::getenv("TUNWRIGHT_FAULTS");
     const std::size_t most = wanted != nullptr && std::string_view(wanted) == "all" ? calls : 3;
@@ -156,7 +157,7 @@ class FaultTest : public testing::Test {
         fs::remove_all(root, ignored);
     }
 
-    // The operation in a fresh copy of the files.
+    // Runs the operation on a fresh copy of the files.
     FaultyRun Run(const std::vector<std::string>& command, const std::string& script, Fault fault,
                   std::size_t at) {
         fs::remove_all(Work());
@@ -165,7 +166,8 @@ class FaultTest : public testing::Test {
     }
     fs::path Work() const { return root / "work"; }
 
-    // Each file is as before or as afterwards; nothing else is there, but for what a killed writer leaves.
+    // Expects that each file is the old or the new one and that there are no other files, except those that
+    // a killed writer leaves.
     static void ExpectOldOrNew(const State& state, const State& before, const State& after, Fault fault) {
         for (const auto& [name, contents] : state) {
             const auto old = before.find(name), changed = after.find(name);
@@ -209,7 +211,8 @@ class OperationFaultTest : public FaultTest, public testing::WithParamInterface<
         ExpectOldOrNew(state, before, after, fault);
     }
 
-    // What stands in both the old and the new database is there in any case; the rest may have come in part.
+    // A recipe that is in both the old and the new database must be there; the others may
+    // have been stored in part.
     void TakeUnfinished(State& state) const {
         for (const char* recipe : {"Mild", "Bock"})
             EXPECT_GE(state["beer.mdb"].find(recipe) != std::string::npos,
@@ -233,7 +236,8 @@ TEST_P(OperationFaultTest, IsWholeAfterAFaultAtEachCall) {
 INSTANTIATE_TEST_SUITE_P(Faults, OperationFaultTest, testing::ValuesIn(kOperations),
                          [](const auto& test) { return test.param.name; });
 
-// The settings are written by Qt, beside and behind a lock of its own, the files of which a kill leaves.
+// The settings are written by Qt, which uses a temporary file and a lock file; a kill
+// leaves these files behind.
 TEST_F(FaultTest, SettingsSurviveAKillAtEachCall) {
     std::ofstream(root / "old" / "kept.ini") << "[Settings]\nBoilVol=6 gal\n";
     const std::string script = "setting Settings BoilVol 7 gal\n";
@@ -250,7 +254,7 @@ TEST_F(FaultTest, SettingsSurviveAKillAtEachCall) {
     }
 }
 
-// Unsaved work, as the windows keep it every few seconds.
+// Unsaved work, as the desktop program keeps it every few seconds.
 TEST_F(FaultTest, AnUnsavedRecipeIsTheOldOrTheNewOne) {
     const std::string self = fs::read_symlink("/proc/self/exe").string();
     const auto keep = [&](const std::string& folder, const char* text) {
@@ -275,18 +279,18 @@ TEST_F(FaultTest, AnUnsavedRecipeIsTheOldOrTheNewOne) {
             SCOPED_TRACE("at call " + std::to_string(at) + ": " + clean.calls[at - 1]);
             Run(keep(unsaved, "new"), "", fault, at);
             EXPECT_THAT(notes(), testing::ElementsAre(testing::AnyOf("old", "new")));
-            // What was left on the way is gone by then.
+            // Files left by the interrupted write have been deleted by then.
             EXPECT_EQ(
                 std::distance(fs::directory_iterator(Recovery::FolderOf(unsaved, "/Tunwright.mdb")), {}), 1);
         }
 }
 
-// A loss of power keeps what was synced and nothing else: the new file's contents are on the disk before its
-// name is, and the name is there when the operation ends.
+// A power failure keeps only what was synced: the contents of the new file must be on the disk before its
+// name is, and the name when the operation ends.
 class PowerTest : public FaultTest {
   protected:
     static std::string FolderOf(const std::string& path) { return path.substr(0, path.rfind('/')); }
-    // The place of a call, the last one before end; -1 for none.
+    // Returns the index of the last such call before end; -1 if there is none.
     static long Last(const std::vector<std::string>& calls, const std::string& call, long end) {
         for (long i = end - 1; i >= 0; --i)
             if (calls[static_cast<std::size_t>(i)] == call) return i;

@@ -1,4 +1,4 @@
-// The links and the check box of the assistant.
+// Tests of the links and the check box of the assistant.
 #include "help/AssistantModel.h"
 
 #include <gtest/gtest.h>

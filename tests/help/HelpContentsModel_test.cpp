@@ -1,4 +1,4 @@
-// The tree of topics, and the page of the chosen one.
+// Tests of the tree of topics and the page of the selected topic.
 #include "help/HelpContentsModel.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ class HelpContents : public testing::Test {
         MakeHelpDatabase(folder.Path(), rows.empty() ? "" : "INSERT INTO HELP_CONTENTS VALUES " + rows + ";");
     }
     HelpContentsModel Open() { return {help, messages}; }
-    // "name(child child)" of each topic in the list.
+    // Returns "name(child child)" for each topic in the list.
     static std::string Shape(const HelpContentsModel& model, const std::vector<int>& topics) {
         std::string shape;
         for (const int topic : topics) {

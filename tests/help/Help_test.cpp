@@ -1,4 +1,4 @@
-// Which page is shown, in which file, and what is said when it cannot be.
+// Tests of which page is shown, in which file, and of the messages if it cannot be shown.
 #include "help/Help.h"
 
 #include <fstream>
@@ -68,7 +68,7 @@ TEST_F(HelpTest, AContextWithoutARowIsToldAndOpensNothing) {
     EXPECT_EQ(browser.opened, Strings{});
 }
 
-// The context goes into the query as it stands.
+// The context is put into the query unescaped.
 TEST_F(HelpTest, AnApostropheIsNotDoubled) {
     EXPECT_THROW(help.ShowContextHelp("frmMain", "it's"), Error);
     EXPECT_THROW(help.ShowContextHelp("frm'", "?"), Error);

@@ -1,5 +1,5 @@
-// What a long history holds: a brewer's session must not grow without need. Every byte that the program asks
-// for is counted.
+// Tests of the memory that a long history uses: it must not grow without need during a session. Every
+// allocated byte is counted.
 #include <cstdlib>
 #include <new>
 
@@ -7,7 +7,7 @@
 
 namespace {
 
-// Bytes asked for and not given back. A block carries its size before it.
+// Bytes allocated and not freed. The size of each block is stored before it.
 std::size_t held = 0;
 constexpr std::size_t kHeader = alignof(std::max_align_t);
 
@@ -40,7 +40,7 @@ constexpr double kMostPerStep = 100;
 
 class HistoryMemory : public DocumentTest {
   protected:
-    // What the test's own host has noted is no part of the history.
+    // The log of the test's host is not part of the history.
     void Forget() { Log().swap(host.log); }
 };
 
@@ -76,7 +76,7 @@ TEST_F(HistoryMemory, TypingAThousandLettersIsOneStepOfTwoTexts) {
     }
     Forget();
     EXPECT_EQ(document->History().StackTop(), 1U);
-    // The notes themselves, the local copy of them and the record's new text, with room to grow.
+    // The notes, the local copy of them and the new text in the record, with spare capacity.
     EXPECT_LT(held - before, 8000U);
 }
 

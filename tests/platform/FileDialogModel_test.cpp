@@ -32,7 +32,7 @@ class FileDialogModelTest : public testing::Test {
     FileDialogModel Dialog(Kind kind, bool askToReplace = true) {
         return {{kind, "Pick", "TWR", "Recipes (*.TWR)", "*.TWR", askToReplace}, messages};
     }
-    // The name taken for what was typed; empty when the dialog stayed open.
+    // Types a name and presses cmdOK. Returns the name chosen; empty if the dialog stayed open.
     std::string Taken(FileDialogModel dialog, const std::string& typed) {
         EXPECT_TRUE(dialog.SetControl("FileName", typed));
         EXPECT_TRUE(dialog.Press("cmdOK"));
@@ -59,7 +59,7 @@ TEST_F(FileDialogModelTest, ANameWithoutAnExtensionTakesTheUsualOne) {
     EXPECT_EQ(Taken(Dialog(Kind::Open), Path("there")), Path("there.TWR"));
     EXPECT_EQ(Taken(Dialog(Kind::Save), Path("new")), Path("new.TWR"));
     EXPECT_EQ(Taken(Dialog(Kind::Save), Path("new.txt")), Path("new.txt"));
-    // A file to open may lack one; one to save gets it.
+    // A file to open may have no extension; a file to save gets one.
     EXPECT_EQ(Taken(Dialog(Kind::Open), Path("bare")), Path("bare"));
     EXPECT_EQ(Taken(Dialog(Kind::Save), Path("bare")), Path("bare.TWR"));
     EXPECT_EQ(messages.log, Strings{});

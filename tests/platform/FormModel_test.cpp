@@ -17,7 +17,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// A form with a row of each kind.
+// A form with one row of each kind.
 class SampleModel final : public FormModel {
   public:
     SampleModel() : FormModel("frmSample") {

@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 class OwnFilesTest : public FilesTest {
   protected:
-    // The refusal of that name; empty when it may be written.
+    // Returns the error for that name; empty if it may be written.
     std::string Refusal(const std::string& path) const {
         try {
             own.Check(path);

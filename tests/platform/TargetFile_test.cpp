@@ -22,7 +22,7 @@ class TargetFileTest : public FilesTest {
     ~TargetFileTest() override { umask(oldMask); }
 
     TargetFile Target(const std::string& name) const { return {File(name), own}; }
-    // The error of writing the file; empty when it was written.
+    // Writes the file and returns the error; empty if there was none.
     std::string Failure(const std::string& name) const {
         try {
             Target(name).Replace("new");
@@ -34,7 +34,7 @@ class TargetFileTest : public FilesTest {
     std::string Message(const std::string& name, const std::string& what) const {
         return "'" + File(name) + "' " + what;
     }
-    // What a killed program has left of a.txt.
+    // Returns the name of the file that a killed program leaves for a.txt.
     std::string Leftover() const { return ".a.txt" + std::string(kUnderWay); }
 
     OwnFiles own;
@@ -93,7 +93,7 @@ TEST_F(TargetFileTest, ALinkStaysALink) {
     EXPECT_TRUE(fs::is_symlink(File("a.txt")));
     EXPECT_TRUE(fs::is_symlink(File("b.txt")));
     EXPECT_EQ(Content("sub/real.txt"), "new");
-    // Also one whose file is missing.
+    // Even one whose file is missing.
     fs::remove(File("sub/real.txt"));
     Target("b.txt").Replace("again");
     EXPECT_TRUE(fs::is_symlink(File("a.txt")));
@@ -135,7 +135,7 @@ TEST_F(TargetFileTest, AFileOfTheProgramsOwnIsRefused) {
 
 TEST_F(TargetFileTest, AFullDiskLeavesTheOlderFileAndNothingBeside) {
     Put("a.txt", "old");
-    // A limit on the size of files stands for the disk. Its signal would end the test.
+    // A limit on the size of files simulates a full disk. Its signal would end the test.
     const auto before = signal(SIGXFSZ, SIG_IGN);
     rlimit old{};
     getrlimit(RLIMIT_FSIZE, &old);

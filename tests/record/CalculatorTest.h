@@ -1,4 +1,4 @@
-// A calculator on a bare record, without a document.
+// A calculator with a record only, without a document.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -20,14 +20,15 @@ class CalculatorTest : public testing::Test {
   protected:
     CalculatorTest();
 
-    // A committed text and its number.
+    // Sets a committed text and its number.
     static void Fill(TextBox& box, std::string_view text, double value);
-    // A cell's number, behind a text that only has to be there.
+    // Sets the number of a cell; text only has to be non-empty.
     static void Put(Grid& grid, int row, int col, double value, std::string_view text = "given");
     void PutFermentable(Grid& grid, int row, double pounds, double ppg, double lovibond);
-    // 8 lb of grain at 36 PPG and 2 degrees, 40% extraction, 5 gallons of 6.
+    // Enters 8 lb of grain at 36 PPG and 2 degrees Lovibond, 40% extraction, a total volume of 5 gallons and
+    // a boil volume of 6 gallons.
     void MakeRecipe();
-    // A hop row of 5% alpha acid and 60 minutes.
+    // Adds a row of hops with 5% alpha acid and 60 minutes.
     void PutHop(int row, CellValue amount);
 
     RecipeRecord r;

@@ -88,7 +88,7 @@ TEST(RecipeRecord, PaintsTheCalculatedCellsOfEveryDataRow) {
     EXPECT_EQ(painted(r.gridPriming), "3");
     EXPECT_EQ(painted(r.gridAdjuncts), "");
     EXPECT_EQ(painted(r.gridLog), "");
-    // The rows of the waters are entered, and their names are no figures.
+    // The rows of the waters are entries, and their names are not figures.
     for (int col = 0; col < r.gridWater.Cols(); ++col)
         for (const int row : {WaterRow::Source, WaterRow::Target, WaterRow::Spacer})
             EXPECT_EQ(r.gridWater.Paint(row, col), CellPaint::Plain) << row << " " << col;

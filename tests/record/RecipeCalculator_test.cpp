@@ -1,4 +1,4 @@
-// The chains of the calculator: what each operation writes, and when a figure stays empty.
+// Tests of the calculator: what each operation writes, and when a figure stays empty.
 #include "CalculatorTest.h"
 #include "platform/Error.h"
 
@@ -28,7 +28,7 @@ TEST_F(CalculatorTest, ExtractsTakeNoExtractionRate) {
     MakeRecipe();
     PutFermentable(r.gridExtract, 1, 5, 40, 10);
     calculator.FermentableCommitted(r.gridExtract, 1, GrainCol::Amount);
-    // 5 * 40 / 5 = 40 points beside 23.04; HCU 10 beside 3.2: SRM 1.4922 * 13.2^0.6859 = 8.76
+    // 5 * 40 / 5 = 40 points added to 23.04; 10 HCU added to 3.2: SRM 1.4922 * 13.2^0.6859 = 8.76
     EXPECT_EQ(r.gridExtract.Text(2, GrainCol::Points), "40");
     EXPECT_EQ(r.txtOG.Text(), "1.063");
     EXPECT_EQ(r.txtColor.Text(), "9 SRM (13 HCU)");
@@ -48,7 +48,7 @@ TEST_F(CalculatorTest, AnEmptyExtractionBlanksGrainsAlone) {
     EXPECT_EQ(r.gridGrain.Text(1, GrainCol::Hcu), "3.2");
 }
 
-// The total is left alone by a row without an extraction rate: intended.
+// A row without an extraction rate does not update the total.
 TEST_F(CalculatorTest, ARowWithoutExtractionLeavesTheTotalStale) {
     MakeRecipe();
     r.txtExtract.SetText("");
@@ -72,7 +72,7 @@ TEST_F(CalculatorTest, ClearingTheTotalVolumeEmptiesWhatDependsOnIt) {
     EXPECT_EQ(r.gridGrain.Text(1, GrainCol::Points), "");
     EXPECT_EQ(r.gridGrain.Text(1, GrainCol::Hcu), "");
     EXPECT_EQ(r.gridHops.Text(1, HopCol::Ibu), "");
-    // The record's numbers keep their last values.
+    // The numbers in the record keep their last values.
     EXPECT_NEAR(r.txtOG.Value(), 1.02304, 1e-12);
     EXPECT_NEAR(r.txtBG.Value(), 1.0192, 1e-12);
     EXPECT_EQ(r.Swatch(), (Rgb{255, 255, 255}));
@@ -222,7 +222,7 @@ TEST_F(HopCalculatorTest, BitternessUnitsStandForThemselves) {
     EXPECT_EQ(r.gridHops.Text(1, HopCol::Ibu), "31.5");
 }
 
-// Also a row in IBUs goes blank without a boil gravity: intended.
+// Without a boil gravity, even a row in IBUs is blank.
 TEST_F(HopCalculatorTest, WithoutABoilGravityEveryRowIsBlank) {
     r.gridHops.InsertRow(2);
     r.gridHops.InsertRow(3);
@@ -268,7 +268,7 @@ TEST_F(HopCalculatorTest, TotalsAmountsOfOneKind) {
     using Kind = CellValue::Kind;
     const CellValue ounce = CellValue::Of(1.255), aau{Kind::AlphaAcidUnits, 4},
                     ibu{Kind::BitternessUnits, 20};
-    EXPECT_EQ(total(ounce, CellValue::Of(0.5), ibu), "1.76 oz.");  // 1.755, half away from zero
+    EXPECT_EQ(total(ounce, CellValue::Of(0.5), ibu), "1.76 oz.");  // 1.755, halves rounded away from zero
     EXPECT_EQ(total(aau, aau, ibu), "8 AAUs");
     EXPECT_EQ(total(ounce, aau, ibu), "");
     EXPECT_EQ(total(ibu, ibu, ibu), "");
@@ -348,12 +348,12 @@ TEST_F(CalculatorTest, CarbonationCanChange) {
     Fill(r.txtTemp, "68", 68);
     EXPECT_FALSE(calculator.CanEnableCO2());  // no volume
     r.grpPkgMethod.Select(1);
-    EXPECT_TRUE(calculator.CanEnableCO2());  // a keg needs the temperature alone
+    EXPECT_TRUE(calculator.CanEnableCO2());  // a keg needs only the temperature
     r.grpPkgMethod.Select(0);
     Fill(r.txtFinalVol, "5", 5);
     EXPECT_FALSE(calculator.CanEnableCO2());  // no sugar
     Put(r.gridPriming, 1, PrimingCol::Fermentable, 0);
-    EXPECT_FALSE(calculator.CanEnableCO2());  // one that does not ferment
+    EXPECT_FALSE(calculator.CanEnableCO2());  // a sugar that does not ferment
     Put(r.gridPriming, 1, PrimingCol::Fermentable, 75);
     EXPECT_TRUE(calculator.CanEnableCO2());
     Fill(r.txtTemp, "", 0);

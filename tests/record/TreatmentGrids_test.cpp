@@ -1,4 +1,4 @@
-// The two grids of the water tab.
+// Tests of the two grids of the water tab.
 #include "CalculatorTest.h"
 
 namespace tw::test {
@@ -29,7 +29,7 @@ TEST_F(WaterCalculatorTest, SaltsAddToTheTotals) {
     EXPECT_EQ(r.gridTreatment.Text(1, 3), "0");
     EXPECT_EQ(r.gridWater.Text(WaterRow::Totals, 2), "195");
     EXPECT_EQ(r.gridWater.Text(WaterRow::Totals, 3), "0");
-    // The number behind an ion cell stays the salt's factor.
+    // The number of an ion cell is still the ppm that a gram of the salt adds to a gallon.
     EXPECT_EQ(r.gridTreatment.Number(1, 2), 61.5);
 }
 
@@ -69,13 +69,13 @@ TEST_F(WaterCalculatorTest, BoldSaysCloseEnough) {
     EXPECT_TRUE(bold(100));
     EXPECT_TRUE(bold(102.5));
     EXPECT_TRUE(bold(97.5));
-    // below 100 too: 3% of 97.09 is 2.9127, of 97.08 2.9124
+    // Even below 100 ppm: 3% of 97.09 is 2.9127, 3% of 97.08 is 2.9124.
     EXPECT_TRUE(bold(97.09));
     EXPECT_FALSE(bold(97.08));
-    // 3% of 103.09 is 3.0927, of 103.1 is 3.093
+    // 3% of 103.09 is 3.0927, 3% of 103.1 is 3.093.
     EXPECT_TRUE(bold(103.09));
     EXPECT_FALSE(bold(103.1));
-    EXPECT_TRUE(r.gridWater.At(WaterRow::Totals, 3).bold);  // nothing needed, nothing given
+    EXPECT_TRUE(r.gridWater.At(WaterRow::Totals, 3).bold);  // nothing needed, nothing added
 }
 
 TEST_F(WaterCalculatorTest, ExactlyTheLimitIsCloseEnoughForEveryNeed) {
@@ -88,7 +88,7 @@ TEST_F(WaterCalculatorTest, ExactlyTheLimitIsCloseEnoughForEveryNeed) {
         calculator.RecalcTreatment();
         Target(need);
         EXPECT_TRUE(r.gridWater.At(WaterRow::Totals, 2).bold) << need;
-        // 2.5 below a need with one decimal that 3% does not reach
+        // 2.5 below a need with one decimal, which 3% does not reach.
         const double small = hundreds / 10.0;
         r.gridTreatment.SetValue(1, 2, CellValue::Of((hundreds - 25) / 10.0 * 5));
         calculator.RecalcTreatment();

@@ -1,6 +1,6 @@
-// What is too wide for its place on paper. Places are those of PrintLayout_test: 90 characters of 10 points
-// in a line, 45 in the left column, 42 in the right one; 88, 43 and 40 in their further lines, which begin
-// 0.15 inches further in and 0.175 inches lower.
+// Tests of texts that are too wide for their place on paper. Positions are calculated as in PrintLayout_test:
+// a line has 90 characters of 10 points, the left column 45 and the right column 42; their further lines have
+// 88, 43 and 40 and begin 0.15 inches further right and 0.175 inches lower.
 #include <gtest/gtest.h>
 
 #include "reports/PrintLayout.h"
@@ -116,7 +116,7 @@ TEST_F(LongLinesTest, APageBreaksBetweenTheLinesOfARow) {
 }
 
 TEST_F(LongLinesTest, AWideTitleIsSetSmaller) {
-    // 50 characters of 18 points are the whole 7.5 inches, 60 those of 15.
+    // 50 characters of 18 points fill the 7.5 inches, and so do 60 characters of 15 points.
     layout.PrintTitle(Letters(50), 18);
     layout.PrintTitle(Letters(60), 18);
     layout.PrintTitle(Letters(112), 14);
@@ -167,7 +167,7 @@ TEST_F(LongLinesTest, NothingLeavesItsColumnOrTheSheetHoweverLongTheTextsAre) {
     }
 }
 
-// Every letter of the recipe comes out, and no other: the left margin alone is what a further line adds.
+// Every letter of the recipe is printed, and no other one.
 TEST_F(LongLinesTest, NoLetterIsLostWhereALineBreaks) {
     for (unsigned seed = 1; seed <= 6; ++seed) {
         LongTexts texts(seed);

@@ -1,4 +1,4 @@
-// A device that writes down every call and fails the one that a test names.
+// A device that logs every call and fails the one that a test names.
 #pragma once
 
 #include <memory>

@@ -1,6 +1,6 @@
-// Places are worked out with the fixed measure: 10 points are 0.6 * 10 / 72 = 0.083333 inches a character and
-// 1.2 * 10 / 72 = 0.166667 inches a line, and a line moves the cursor by 0.175. On letter paper the text runs
-// from 0.5 to 8 inches across and to 10.5 inches down: 90 characters, 57 lines.
+// Positions are calculated with FixedMeasure: at 10 points, a character is 0.6 * 10 / 72 = 0.083333 inches
+// wide and a line 1.2 * 10 / 72 = 0.166667 inches high; a line moves the cursor by 0.175 inches. On letter
+// paper the text is between 0.5 and 8 inches across and ends 10.5 inches down: 90 characters, 57 lines.
 #include "reports/PrintLayout.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ class PrintLayoutTest : public testing::Test {
         return texts;
     }
     const PrintStep& Last() const { return steps.steps.back(); }
-    // The texts of a line that is ended now, in their order.
+    // Ends the line and returns its texts in order.
     std::vector<PrintStep> EndLine() {
         const std::size_t before = steps.steps.size();
         layout.NewLine();
@@ -184,7 +184,7 @@ TEST_F(PrintLayoutTest, AnOddRowOfTwoColumnsGoesLeft) {
 TEST_F(PrintLayoutTest, AnEvenNumberOfRowsFillsBothColumns) {
     layout.PrintTwoColumns({"a", "b", "c", "d"});
     EXPECT_EQ(Texts(), (Strings{"a", "c", "b", "d"}));
-    // The second column: the middle of the page and a quarter of an inch.
+    // The second column starts a quarter of an inch after the middle of the page.
     EXPECT_NEAR(Last().x1, 4.5, 1e-9);
 }
 
@@ -225,7 +225,7 @@ TEST_F(PrintLayoutTest, WholeCharactersAreCutNotBytes) {
 
 TEST_F(PrintLayoutTest, OneBlankGoesAtTheBreakAndAnIndentStays) {
     layout.PrintWrapped("  " + std::string(80, 'a') + "  " + std::string(80, 'b'));
-    // The second blank of the two is the break; the first one stays where it is.
+    // The line breaks at the second of the two blanks; the first one stays.
     EXPECT_EQ(Texts(), (Strings{"  " + std::string(80, 'a') + " ", std::string(80, 'b')}));
 }
 
@@ -233,7 +233,7 @@ TEST_F(PrintLayoutTest, AnIndentBeforeAWordThatIsTooLongIsAPlaceToBreak) {
     layout.PrintWrapped("  " + std::string(100, 'c'));
     EXPECT_EQ(Texts(), (Strings{" ", std::string(90, 'c'), std::string(10, 'c')}));
     layout.PrintWrapped(" " + std::string(100, 'd'));
-    // The empty text before the blank is a line of its own.
+    // The empty text before the blank is a line.
     EXPECT_EQ(Texts().at(3), std::string(90, 'd'));
     EXPECT_NEAR(Last().y1, 0.5 + 5 * 0.175, 1e-9);
 }
@@ -255,7 +255,7 @@ TEST_F(PrintLayoutTest, APageTooSmallForALineStillEnds) {
     Begin({0.8, 0.6});
     layout.PrintWrapped("some words");
     layout.EndPrint();
-    // A page for each character but the blank.
+    // One page for each character except the blank.
     EXPECT_EQ(steps.Pages(), 1 + 9);
 }
 

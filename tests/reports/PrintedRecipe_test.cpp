@@ -15,7 +15,7 @@ class PrintedRecipeTest : public testing::Test {
         recipe.cmbStyle.SetEntries({{"(None)", 0}, {"Brown Porter", 1}}, 1);
     }
 
-    // A data row at the end of the grid with these texts from the first column on.
+    // Adds a data row to the end of the grid, with these texts from the first column on.
     static void AddRow(Grid& grid, const Strings& texts) {
         const int row = grid.EndOfData();
         grid.InsertRow(row);
@@ -25,7 +25,7 @@ class PrintedRecipeTest : public testing::Test {
     static int LastRow(const Grid& grid) { return grid.EndOfData() - 1; }
 
     PrintSteps Steps() const { return LayOutRecipe(recipe, kLetterPaper, FixedMeasure()); }
-    // The texts, "---" for a rule, "###" for the swatch.
+    // Returns the texts, with "---" for a rule and "###" for the swatch.
     Strings All() const {
         Strings texts;
         for (const PrintStep& step : Steps().steps) {
@@ -35,7 +35,7 @@ class PrintedRecipeTest : public testing::Test {
         }
         return texts;
     }
-    // What stands behind the rule that ends the general figures, without the footer.
+    // Returns the texts after the rule that ends the general figures, without the footer.
     Strings Sections() const {
         Strings texts = All();
         texts.pop_back();
@@ -188,7 +188,7 @@ TEST_F(PrintedRecipeTest, NotesAndLog) {
     EXPECT_EQ(Sections(), (Strings{"Notes", "  After boil, top off to a total volume of 5 gal",
                                    "5/2/2026 - Mashed - at 152 F", "Pitched Yeast", "Good."}));
     const std::vector<PrintStep> steps = Steps().steps;
-    // A blank line stands between the log and the notes: two lines of 0.175 inches.
+    // There is a blank line between the log and the notes: two lines of 0.175 inches.
     EXPECT_NEAR((steps.end() - 2)->y1 - (steps.end() - 3)->y1, 0.35, 1e-9);
 }
 

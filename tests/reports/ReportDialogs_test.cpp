@@ -38,12 +38,12 @@ class PrintWizardTest : public testing::Test {
     PrintWizardModel Make(int reportType = 0) {
         return {{*database, tree, store, outside.messages, outside.dialogs, &files, own}, reportType};
     }
-    // The recipe picked into the list.
+    // Adds a recipe to the list.
     static void Add(PrintWizardModel& wizard, const char* key) {
         EXPECT_TRUE(wizard.SetControl("treeRecipes", key));
         EXPECT_TRUE(wizard.Press("cmdAdd"));
     }
-    // On the last page with a recipe chosen.
+    // Goes to the last page, with a recipe chosen.
     static void GoToOutput(PrintWizardModel& wizard) {
         wizard.Press("cmdNext");
         Add(wizard, "R:1:3");

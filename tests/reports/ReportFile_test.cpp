@@ -44,7 +44,7 @@ class ReportFileTest : public testing::Test {
         return content.str();
     }
     void Put(std::string_view text) const { std::ofstream(request.path, std::ios::binary) << text; }
-    // The files of the folder.
+    // Returns the number of files in the folder.
     int Files() const {
         return static_cast<int>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
     }
@@ -142,7 +142,7 @@ TEST_F(ReportFileTest, TextReportsCanBeAppended) {
     EXPECT_EQ(Content(), kPorter);
     EXPECT_TRUE(Create({"Porter"}));
     EXPECT_EQ(Content(), std::string(kPorter) + kPorter);
-    // The other types know no such option.
+    // The other types do not have this option.
     outside.settings.Put("HTMLOptions", "Append", "1");
     request.type = ReportType::Html;
     EXPECT_TRUE(Create({}));

@@ -71,7 +71,7 @@ TEST_F(ReportFormatsTest, LongTextBreaksAtTheLastBlankBeforeTheWidth) {
 }
 
 TEST_F(ReportFormatsTest, ABlankBehindTheWidthIsNoPlaceToBreak) {
-    // The text up to the second blank is as long as the line; the blank itself stands behind it.
+    // The text before the second blank is as long as the line, so the blank itself is beyond it.
     const auto report = Text("7");
     report->WriteText("one two three", false);
     EXPECT_EQ(Out(), "one\r\ntwo\r\nthree");
@@ -100,7 +100,7 @@ TEST_F(ReportFormatsTest, WhatStandsOnTheLineTakesItsRoom) {
     const auto report = Text("10");
     report->WriteLabel("Label: ", false);
     report->WriteText("ab cd", false);
-    // Three characters are left behind the label: "ab" fits, "cd" goes to the next line.
+    // Three characters remain after the label: "ab" fits, "cd" goes to the next line.
     EXPECT_EQ(Out(), "Label: ab\r\ncd");
 }
 
@@ -108,7 +108,7 @@ TEST_F(ReportFormatsTest, AValueMayRunPastTheWidthByItsLabel) {
     const auto report = Text("10");
     report->WriteText("1234567", false);
     report->WriteText("abc", false);
-    // Only the length of the piece itself counts for what follows: 3 characters are taken, 7 are left.
+    // Only the length of the last piece counts: 3 characters are used, 7 remain.
     report->WriteText("1234567", false);
     EXPECT_EQ(Out(), "1234567abc1234567");
 }
@@ -197,7 +197,7 @@ TEST_F(ReportFormatsTest, HtmlTagsNestInTheirOrder) {
                      .strikethru = true,
                      .color = 0x0000FF};
     Make(ReportType::Html)->WriteLabel("x", false);
-    // A size below 6 points is 0.
+    // Sizes below 6 points become 0.
     EXPECT_EQ(
         Out(),
         "<FONT FACE=\"Arial\" COLOR=\"#FF0000\" SIZE=0><B><I><U><STRIKE>x</STRIKE></U></I></B></FONT>\r\n");
@@ -357,7 +357,7 @@ TEST(ReportOptions, WhatIsSavedIsReadBack) {
     options.label.backColor = 1;
     SaveReportOptions(store, ReportType::RichText, options);
     EXPECT_EQ(LoadReportOptions(store, ReportType::RichText), options);
-    // The other types have their own.
+    // The other types have their own options.
     EXPECT_EQ(LoadReportOptions(store, ReportType::Html), ReportOptions());
     EXPECT_EQ(LoadReportOptions(store, ReportType::Text), ReportOptions());
 }

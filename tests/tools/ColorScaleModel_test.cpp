@@ -1,4 +1,4 @@
-// The colour scales: their captions, their marks, and the colours beside the marks.
+// Tests of the colour scales: their captions, their marks, and the colours next to the marks.
 #include "tools/ColorScaleModel.h"
 
 #include <gmock/gmock.h>
@@ -9,7 +9,7 @@
 namespace tw::test {
 namespace {
 
-// "CAPTION: fraction value, ...", without the picture's start.
+// Returns "CAPTION: fraction value, ...", without the start of the picture.
 std::string Told(const ScaleColumn& column) {
     EXPECT_EQ(column.marks.front().fraction, 0) << "the first member is the picture's start";
     EXPECT_EQ(column.marks.front().value, 0);
@@ -48,8 +48,8 @@ TEST(ColorScales, RunBetweenTheirMarks) {
     EXPECT_EQ(ScaleHcu(ColorScale::Hcu, 2), 300);
 }
 
-// In the scale of both units the marks of the right column stand beside the colours of their SRM. The marks
-// are whole numbers at rounded places, so they are off by one and a half at most.
+// In the scale of both units, the marks of the right column are next to the colours of their SRM. They are
+// whole numbers at rounded positions, so they differ by 1.5 at most.
 TEST(ColorScales, BothColumnsTellTheSameColor) {
     for (const ScaleMark& mark : RightColumn(ColorScale::Both).marks)
         EXPECT_NEAR(HCUToSRM(ScaleHcu(ColorScale::Both, mark.fraction)), mark.value, 1.5) << mark.value;
@@ -85,7 +85,7 @@ TEST(ColorScales, ThePointerStaysOnThePicture) {
     EXPECT_EQ(model.Pointer(), 0);
     model.MovePointer(500);
     EXPECT_EQ(model.Pointer(), 100);
-    // The end of the SRM scale is 50, no more: (50 / 1.4922)^(1 / 0.6859) = 167.3.
+    // The SRM scale ends at 50: (50 / 1.4922)^(1 / 0.6859) = 167.3.
     EXPECT_EQ(ColorReading(model.PointerHcu()), "50 SRM (167 HCU)");
     model.Choose(ColorScale::Hcu);
     EXPECT_EQ(model.PointerHcu(), 300);

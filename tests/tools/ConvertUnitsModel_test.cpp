@@ -1,4 +1,4 @@
-// The boxes of the unit converter: what a text in one does to the others.
+// Tests of the unit converter: how a text in one box changes the others.
 #include "tools/ConvertUnitsModel.h"
 
 #include <gmock/gmock.h>
@@ -42,7 +42,7 @@ TEST_F(Converter, WritesFiguresWithSixDecimalsAtMostAndNoIdleZeros) {
     model.Enter(0, "212");
     EXPECT_THAT(Texts(), ElementsAre("212", "100", "373.15"));
     model.SetKind(QuantityKind::Gravity);
-    // 12.3743425 exactly, rounded half away from zero.
+    // Exactly 12.3743425; halves are rounded away from zero.
     model.Enter(0, "1.05");
     EXPECT_THAT(Texts(), ElementsAre("1.05", "12.374343"));
 }
@@ -57,7 +57,7 @@ TEST_F(Converter, LeavesTheBoxItselfAsItIsTyped) {
 
 TEST_F(Converter, ReadsNumbersAsFieldsDoButNoUnits) {
     model.SetKind(QuantityKind::Volume);
-    // The unit behind is not looked at: these are 5 gallons.
+    // The unit after the number is ignored: these are 5 gallons.
     for (const char* text : {"5", " 5 ", "5 qt", "5gal", "4 2/2", "10/2", "5.0"}) {
         model.Enter(0, text);
         EXPECT_EQ(model.Text(1), "20") << text;
@@ -67,7 +67,7 @@ TEST_F(Converter, ReadsNumbersAsFieldsDoButNoUnits) {
 
 TEST_F(Converter, ANegativeWholeNumberTakesItsFractionByAddition) {
     model.SetKind(QuantityKind::Temperature);
-    // -2 + 1/2 = -1.5, on purpose; -1.5 + 273.15 = 271.65.
+    // -2 + 1/2 = -1.5, as in the fields of a recipe; -1.5 + 273.15 = 271.65.
     model.Enter(1, "-2 1/2");
     EXPECT_EQ(model.Text(2), "271.65");
 }
@@ -100,7 +100,7 @@ TEST_F(Converter, AFailureOfTheArithmeticIsSilentAndOver) {
         EXPECT_EQ(model.Text(1), "16") << "left as it was";
     }
     EXPECT_EQ(messages.log, Strings{});
-    // The guard is open again.
+    // Entries are converted again.
     model.Enter(0, "2");
     EXPECT_EQ(model.Text(1), "32");
 }
@@ -113,7 +113,7 @@ TEST_F(Converter, DoesNotRunIntoItself) {
     EXPECT_EQ(model.Text(2), "");
 }
 
-// Keys bring "1/2" and "-5" a character at a time; the box does not stand in their way.
+// "1/2" and "-5" are typed one character at a time; incomplete numbers are accepted meanwhile.
 TEST_F(Converter, ABeginningOfANumberWaitsForTheNextKey) {
     model.SetKind(QuantityKind::Temperature);
     for (const char* text : {"-", "-4", "-40"}) model.TypeInto(0, text);
@@ -125,7 +125,7 @@ TEST_F(Converter, ABeginningOfANumberWaitsForTheNextKey) {
     EXPECT_EQ(model.Text(0), "32.9");
     model.TypeInto(1, "1/");
     EXPECT_EQ(model.Text(0), "32.9");
-    // Left like this it is no number.
+    // An incomplete number is refused when the box is left.
     EXPECT_FALSE(model.ConvertFromBox(1));
     EXPECT_EQ(messages.TakeLog(), Strings{kInvalid});
     for (const char* text : {"a", "1.5/", "1.2."}) {
@@ -134,7 +134,7 @@ TEST_F(Converter, ABeginningOfANumberWaitsForTheNextKey) {
     }
 }
 
-// Intended: leaving a box converts from the figure as it stands there, which is rounded.
+// Leaving a box converts its text, which is rounded.
 TEST_F(Converter, LeavingABoxConvertsFromItsRoundedFigure) {
     model.SetKind(QuantityKind::Volume);
     model.Enter(6, "1");

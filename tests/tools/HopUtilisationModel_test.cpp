@@ -1,4 +1,4 @@
-// The hop utilisation explorer: its slider, its curves and its scales.
+// Tests of the hop utilisation explorer: its slider, its curves and its scales.
 #include "tools/HopUtilisationModel.h"
 
 #include <gmock/gmock.h>
@@ -55,7 +55,7 @@ TEST(HopUtil, DrawsThirtySegmentsOfEachMethod) {
     EXPECT_NEAR(curves[2][30].percent, 23, 1e-9);
 }
 
-// GA = 1 + (1.15 - 1.05) / 0.2 = 1.5 divides both tables.
+// The gravity adjustment 1 + (1.15 - 1.05) / 0.2 = 1.5 divides both tables.
 TEST(HopUtil, AHeavierWortLowersTheCurves) {
     const std::array<Curve, kMethods> curves = UtilisationCurves(1.15);
     EXPECT_NEAR(curves[1][30].percent, 27 / 1.5, 1e-9);
@@ -63,7 +63,7 @@ TEST(HopUtil, AHeavierWortLowersTheCurves) {
     EXPECT_LT(curves[0][30].percent, UtilisationCurves(1.05)[0][30].percent);
 }
 
-// Two pixels a minute, ten a percent.
+// Two pixels for each minute, ten for each percent.
 constexpr GraphArea kArea{50, 20, 180, 400};
 
 TEST(HopUtil, ScalesIntoThePicture) {
@@ -80,7 +80,7 @@ TEST(HopUtil, WhatIsAtOrBelowZeroLiesOnTheAxis) {
     EXPECT_EQ(kArea.UtilisationToY(-1), 420);
 }
 
-// Intended: nothing clips a curve.
+// Curves are not clipped.
 TEST(HopUtil, AFigureAboveTheScaleLeavesThePicture) {
     EXPECT_EQ(kArea.UtilisationToY(43), -10);
 }

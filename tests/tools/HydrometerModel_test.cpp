@@ -1,4 +1,5 @@
-// The hydrometer correction: its formula, the order of its checks, what stays when an entry is missing.
+// Tests of the hydrometer correction: its formula, the order of its checks, and the result
+// when an entry is missing.
 #include "tools/HydrometerModel.h"
 
 #include <gmock/gmock.h>
@@ -13,7 +14,7 @@ using Strings = std::vector<std::string>;
 
 class Hydrometer : public testing::Test {
   protected:
-    // Types all three and leaves once.
+    // Types all three entries, corrects once and returns the result.
     std::string Correct(const char* reading, const char* temperature, const char* calibration) {
         model.TypeInto("txtActRead", reading);
         model.TypeInto("txtActTemp", temperature);
@@ -26,8 +27,8 @@ class Hydrometer : public testing::Test {
     std::string refused;
 };
 
-// By hand: 1.00130346 - 0.00808332744 + 0.007345893456 - 0.000502893248 at 60, and
-// 1.00130346 - 0.01077776992 + 0.013059366144 - 0.001192043254 at 80.
+// 1.00130346 - 0.00808332744 + 0.007345893456 - 0.000502893248 at 60 °F, and 1.00130346 - 0.01077776992 +
+// 0.013059366144 - 0.001192043254 at 80 °F.
 TEST(WaterDensity, FollowsItsCubic) {
     EXPECT_NEAR(WaterDensity(60), 1.000063132768, 1e-12);
     EXPECT_NEAR(WaterDensity(80), 1.002393012970, 1e-11);
@@ -42,21 +43,21 @@ TEST_F(Hydrometer, OpensEmptyWithTheFirstCalibration) {
     EXPECT_THAT(HydrometerModel::CalibrationEntries(), ElementsAre("60.0 F (15.6 C)", "20.0 C (68.0 F)"));
 }
 
-// 1.05 * 1.002393013 / 1.000063133 = 1.052446; its cubic is
-// 1328.6607 - 668.96 - 860.0073 + 213.2595 = 12.953.
+// 1.05 * 1.002393013 / 1.000063133 = 1.052446, in degrees Plato 1328.6607 - 668.96 -
+// 860.0073 + 213.2595 = 12.953.
 TEST_F(Hydrometer, RaisesAWarmReading) {
     EXPECT_EQ(Correct("1.050", "80", "60.0 F (15.6 C)"), "1.052 (12.953° Plato)");
     EXPECT_EQ(refused, "");
     EXPECT_EQ(messages.log, Strings{});
 }
 
-// The cubic of 1.05 is 12.3743425.
+// 1.05 is 12.3743425 degrees Plato.
 TEST_F(Hydrometer, EqualTemperaturesKeepTheReading) {
     EXPECT_EQ(Correct("1.050", "68", "20.0 C (68.0 F)"), "1.050 (12.374° Plato)");
     EXPECT_EQ(Correct("1.050", "15 C", "59"), "1.050 (12.374° Plato)");
 }
 
-// 12 Plato are 1.0484099 by one fit, and that is 11.997 by the other.
+// 12 degrees Plato are 1.0484099 by one fitted curve, which is 11.997 degrees Plato by the other.
 TEST_F(Hydrometer, TakesAReadingInPlato) {
     EXPECT_EQ(Correct("12 P", "60", "60.0 F (15.6 C)"), "1.048 (11.997° Plato)");
 }
@@ -83,7 +84,7 @@ TEST_F(Hydrometer, AnEmptyEntryLeavesTheOldResultWithoutAWord) {
     EXPECT_EQ(Correct("", "80", "60"), result);
     EXPECT_EQ(Correct("1.060", " ", "60"), result);
     EXPECT_EQ(Correct("1.060", "80", ""), result);
-    // What comes behind the empty one is not looked at.
+    // Entries after the empty one are not checked.
     EXPECT_EQ(Correct("x", "", "z"), result);
     EXPECT_EQ(refused, "");
     EXPECT_EQ(messages.log, Strings{});

@@ -1,4 +1,4 @@
-// One quantity in all units of its kind.
+// Tests of converting a quantity into all units of its kind.
 #include "tools/UnitConverter.h"
 
 #include <gmock/gmock.h>
@@ -53,8 +53,8 @@ TEST(UnitConverter, TakesVolumesByTheUnitsOfAGallon) {
     ExpectAll(QuantityKind::Volume, 1, 1, {0.25, 1, 2, 4, 32, 64, 192, 0.94625, 946.25});
 }
 
-// The factors do not agree with one another: a pound of 453.59 grams is 16 ounces, and 16 ounces of 28.35
-// grams are 453.6. Each pair keeps its own, on purpose.
+// The factors are not consistent with one another: a pound of 453.59 grams is 16 ounces, but 16 ounces of
+// 28.35 grams are 453.6 grams. Each pair of units keeps its own factor.
 TEST(UnitConverter, KeepsAFactorForEveryPairOfWeights) {
     ExpectAll(QuantityKind::Weight, 0, 1, {1, 16, 0.45359, 453.59});
     ExpectAll(QuantityKind::Weight, 1, 16, {1, 16, 16 / 35.274, 453.6});
@@ -62,7 +62,7 @@ TEST(UnitConverter, KeepsAFactorForEveryPairOfWeights) {
     ExpectAll(QuantityKind::Weight, 3, 453.6, {453.6 / 453.59, 16, 0.4536, 453.6});
 }
 
-// 12.3743425 = 1262.45 * 1.05 - 668.96 - 776.43 * 1.1025 + 182.94 * 1.157625, and back by the other fit
+// 12.3743425 = 1262.45 * 1.05 - 668.96 - 776.43 * 1.1025 + 182.94 * 1.157625; back by the other fitted curve,
 // 1 + 0.0038661 * 12 + 1.3488e-5 * 144 + 4.3074e-8 * 1728.
 TEST(UnitConverter, TakesGravitiesByTheTwoFits) {
     ExpectAll(QuantityKind::Gravity, 0, 1.05, {1.05, 12.3743425});

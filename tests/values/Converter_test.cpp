@@ -24,14 +24,14 @@ TEST(SGToPlato, FollowsItsCubic) {
     EXPECT_NEAR(SGToPlato(2), 1262.45 * 2 - 668.96 - 776.43 * 4 + 182.94 * 8, 1e-9);
 }
 
-// 1325.5725 - 668.96 - 856.014075 + 211.7759175 is 12.3743425 exactly: not below it, so that six decimals
-// are rounded up.
+// 1325.5725 - 668.96 - 856.014075 + 211.7759175 is exactly 12.3743425. The result must not be below it, so
+// that it is rounded up to six decimals.
 TEST(SGToPlato, DoesNotFallBelowAnEdgeOfRounding) {
     EXPECT_GE(SGToPlato(1.05), 12.3743425);
     EXPECT_NEAR(SGToPlato(1.05), 12.3743425, 1e-12);
 }
 
-// Intended: the two fits are not corrected to be inverses.
+// The two fitted curves are not corrected to be inverses of each other.
 TEST(SGToPlato, IsNotTheExactInverseOfPlatoToSG) {
     EXPECT_NE(PlatoToSG(SGToPlato(1.048)), 1.048);
     EXPECT_NEAR(PlatoToSG(SGToPlato(1.048)), 1.048, 1e-4);

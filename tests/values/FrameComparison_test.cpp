@@ -1,4 +1,4 @@
-// The parsers and validators against their plain transcription, over many random texts.
+// Compares the parsers and validators with their plain versions, for many random texts.
 #include <array>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kTexts = 60000;
 
-// Texts of one to seven pieces, weighted so that a fair share is accepted by some parser.
+// Creates texts of one to seven pieces, weighted so that enough of them are accepted by some parser.
 class TextMaker {
   public:
     std::string Next() {

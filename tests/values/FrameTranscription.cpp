@@ -77,7 +77,7 @@ bool PlainMixed(const std::string& token, std::string& rest, double& value) {
     return PlainFraction(token, value);
 }
 
-// Drops an optional word at the front of rest, or puts what the tokeniser took back.
+// Removes an optional word from the front of rest; puts back any other word that the tokeniser has removed.
 void DropOptionalWord(std::string& rest, const Words& optional) {
     const std::string word = PlainGetToken(rest);
     if (!optional.count(word)) rest = TrimRight(word + " " + rest);
@@ -162,7 +162,7 @@ bool PlainPounds(const std::string& typed, double& value) {
     return true;
 }
 
-// Minutes with one part behind a colon, hours with two.
+// Reads minutes with one part after a colon, or hours with two.
 bool PlainTime(const std::string& typed, int parts, const Words& units, double& value) {
     std::string text = TrimBoth(Upper(typed));
     std::string token = PlainGetToken(text);

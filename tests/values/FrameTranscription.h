@@ -1,14 +1,13 @@
-// The parsers and validators once more, written down step by step as the frame is described and without a
-// thought for speed: each parser on its own, each word put back literally. The fast ones are compared with
-// these.
+// A second version of the parsers and validators, written step by step without regard to speed: each parser
+// is separate, and each word is put back literally. The fast versions are compared with these.
 #pragma once
 
 #include <string>
 
 namespace tw::test {
 
-// What a parser or validator did: 'y' accepted, 'n' refused, 'd' raised "Division by zero", 'o' raised
-// "Overflow".
+// The result of a parser or validator: 'y' accepted, 'n' refused, 'd' raised "Division by zero",
+// 'o' raised "Overflow".
 struct Outcome {
     char kind = 'n';
     double value = 0;
@@ -18,7 +17,7 @@ struct Outcome {
 };
 
 std::string PlainGetToken(std::string& text);
-// name is that of the parser or validator in the program.
+// name is the name of the parser or validator in the program.
 Outcome PlainParse(const std::string& name, const std::string& text);
 Outcome PlainValidate(const std::string& name, const std::string& text);
 

@@ -5,7 +5,7 @@
 namespace tw {
 namespace {
 
-// The expected values are published test vectors of FNV-1a.
+// The expected values are the published test vectors of FNV-1a.
 TEST(Hash, IsThePublishedOne) {
     EXPECT_EQ(HashText(""), "cbf29ce484222325");
     EXPECT_EQ(HashText("a"), "af63dc4c8601ec8c");

@@ -69,7 +69,7 @@ TEST(FormatNumber, RoundsHalfAwayFromZeroOnTheDecimalText) {
                      {1.5, "0", "2"},
                      {2.5, "0", "3"},
                      {-2.5, "0", "-3"},
-                     {1.005, "0.00", "1.01"},  // the double lies below
+                     {1.005, "0.00", "1.01"},  // the double is slightly below
                      {2.675, "0.00", "2.68"},
                      {1.0045, "0.##0", "1.005"},
                      {0.045, "0.0%", "4.5%"},

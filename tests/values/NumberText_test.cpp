@@ -17,7 +17,7 @@ struct Case {
     std::string text;
 };
 
-// before, then so many times digit, then behind.
+// Returns before, then digit count times, then behind.
 std::string Repeated(std::string before, std::size_t count, char digit, std::string_view behind = "") {
     before.append(count, digit);
     return before.append(behind);
@@ -50,7 +50,7 @@ TEST(NumberText, IsTheShortestFixedNotation) {
     }
 }
 
-// 2^64 is 18446744073709551616; seventeen digits tell it from its neighbours.
+// 2^64 is 18446744073709551616; seventeen digits distinguish it from the neighbouring doubles.
 TEST(NumberText, FillsALargeNumberWithZeros) {
     EXPECT_EQ(NumberText(18446744073709551616.0), "18446744073709552000");
     EXPECT_EQ(NumberText(-1.25e20), "-125000000000000000000");

@@ -1,4 +1,4 @@
-// A message port that keeps what it was asked to show.
+// A message port that records the messages.
 #pragma once
 
 #include <string>
@@ -16,7 +16,7 @@ class RecordingMessages : public MessagePort {
     Answer Ask(std::string_view, std::string_view, Question) override { return Answer::Cancel; }
     void Beep() override {}
 
-    std::vector<std::string> shown;  // "title|text" of each box
+    std::vector<std::string> shown;  // "title|text" of each message
 };
 
 }  // namespace tw::test

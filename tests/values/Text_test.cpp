@@ -66,12 +66,12 @@ TEST(CompareNoCase, SortsByUpperCaseCodePoints) {
                                              {"abc", "ABD", -1},
                                              {"abc", "ab", 1},
                                              {" a", "a", -1},
-                                             {"a_", "aB", 1},  // "_" stands behind the upper-case letters
+                                             {"a_", "aB", 1},  // "_" sorts after the upper-case letters
                                              {"k\u00F6", "K\u00D6", 0},
                                              {"kz", "k\u00F6", -1},
                                              {"\u00E4", "\u00F6", -1},
                                              {"\uFFFD", "\U00010400", -1},
-                                             {"a\u0131", "AI", 0},  // a dotless i is I in upper case
+                                             {"a\u0131", "AI", 0},  // a dotless i becomes I in upper case
                                              {"a\xFF", "a\xFE", 1}}) {
         EXPECT_EQ(Sign(CompareNoCase(c.a, c.b)), c.sign) << c.a << " " << c.b;
         EXPECT_EQ(Sign(CompareNoCase(c.b, c.a)), -c.sign) << c.a << " " << c.b;

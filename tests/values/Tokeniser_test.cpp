@@ -52,7 +52,7 @@ TEST(Tokeniser, EndsAWordBehindItsFirstPoint) {
     EXPECT_EQ(CutOf("A.B.C"), (Cut{"A.", "B.C"}));
 }
 
-// Intended: a line break is no end of a word.
+// A line break does not end a word.
 TEST(Tokeniser, KeepsLineBreaksInAWord) {
     EXPECT_EQ(CutOf("GAL\r\nX"), (Cut{"GAL\r\nX", ""}));
     EXPECT_EQ(CutOf("GAL\nX Y"), (Cut{"GAL\nX", "Y"}));
@@ -79,8 +79,8 @@ TEST(Tokeniser, CutsFromTheFirstBracketOn) {
     EXPECT_EQ(CutOf("~(5)"), (Cut{"", ""}));
 }
 
-// Intended: the first character is not taken again after the bracket is cut, so a blank there makes a word of
-// a number.
+// The first character is not read again after the bracket has been cut, so a blank there
+// turns a number into a word.
 TEST(Tokeniser, KeepsTheKindOfItsFirstCharacterWhenABracketIsCut) {
     EXPECT_EQ(CutOf(" 5.5 (x)"), (Cut{"5.", "5"}));
     EXPECT_EQ(CutOf(" 1/2 3 (x)"), (Cut{"1/2", "3"}));
@@ -161,7 +161,7 @@ TEST(ParseMixedNumber, AddsAFractionBehindAWholeNumber) {
     EXPECT_EQ(MixedOf("2", "-1/2"), (Mixed{true, 1.5, ""}));
 }
 
-// Intended: the fraction is added to a negative whole number too.
+// The fraction is added even to a negative whole number.
 TEST(ParseMixedNumber, AddsTheFractionToANegativeNumber) {
     EXPECT_EQ(MixedOf("-2", "1/2"), (Mixed{true, -1.5, ""}));
 }

@@ -166,7 +166,7 @@ TEST(UnitParsers, ReadTextsLongerThanAnyBuffer) {
 }
 
 TEST(UnitParsers, ReadTextsBeyondAsciiAndBrokenOnes) {
-    ExpectAccepted({"ParseSeconds", "90 \u017F", 90});  // a long s in upper case is S
+    ExpectAccepted({"ParseSeconds", "90 \u017F", 90});  // a long s becomes S in upper case
     ExpectRefused("ParseGallons", "5 gal\xFF");
     ExpectRefused("ParseGallons", "\xC3");
     ExpectAccepted({"ParseGallons", "5 gal (\xFF\xFE)", 5});
@@ -205,7 +205,7 @@ TEST(DegreeWord, IsPutBackWhenItIsNone) {
     ExpectRefused("ParseFahrenheit", "12 \tF");
 }
 
-// Intended: taking the word drops a "~" before it, and putting it back does not restore that.
+// Reading the word drops a "~" before it, and putting the word back does not restore it.
 TEST(DegreeWord, LosesATildeWhenItIsPutBack) {
     ExpectAccepted({"ParsePlato", "12 ~P", 12});
     ExpectAccepted({"ParseFahrenheit", "12 ~", 12});

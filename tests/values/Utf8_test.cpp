@@ -15,7 +15,7 @@ TEST(Utf8, TellsTheCodePointAtTheFront) {
 }
 
 TEST(Utf8, CountsAByteThatIsNoUtf8AsOneCodePoint) {
-    // A byte that only continues, and a code point that is cut short.
+    // A continuation byte alone, and a truncated code point.
     for (const char* text : {"\x80z", "\xE2\x82"}) {
         EXPECT_EQ(FrontCodePoint(text).value, kNoCodePoint);
         EXPECT_EQ(FrontCodePoint(text).bytes, 1U);
@@ -48,8 +48,8 @@ TEST(Utf8, KnowsWhatCannotBeSeen) {
     EXPECT_FALSE(IsInvisible(' '));
     EXPECT_FALSE(IsInvisible(0xE9));
     EXPECT_TRUE(IsInvisible('\t'));
-    EXPECT_TRUE(IsInvisible(0xA0));    // a blank that holds words together
-    EXPECT_TRUE(IsInvisible(0x200B));  // a blank without a width
+    EXPECT_TRUE(IsInvisible(0xA0));    // no-break space
+    EXPECT_TRUE(IsInvisible(0x200B));  // zero-width space
 }
 
 }  // namespace

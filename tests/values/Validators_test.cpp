@@ -132,7 +132,7 @@ TEST(ValidateOunces, ConvertsEveryUnitToOunces) {
     ExpectRefused(ValidateOunces, "Please enter a positive weight", {"-5"});
 }
 
-// Intended: 16 ounces of 28.35 grams are not a pound of 453.59 grams.
+// 16 ounces of 28.35 grams are not a pound of 453.59 grams.
 TEST(Weights, KeepTheirOwnFactorOnEachPath) {
     EXPECT_DOUBLE_EQ(ValidateOunces("453.6 g").ValueOr(-1), 16);
     EXPECT_GT(ValidatePounds("453.6 g").ValueOr(-1), 1);

@@ -9,14 +9,14 @@ class Dice {
   public:
     explicit Dice(std::uint64_t seed) : state_(seed) {}
 
-    // 0 to limit - 1.
+    // Returns 0 to limit - 1.
     int Below(int limit) {
         state_ = state_ * 6364136223846793005U + 1442695040888963407U;
         return static_cast<int>((state_ >> 33) % static_cast<unsigned>(limit));
     }
-    // From 0 to below 1.
+    // Returns at least 0 and less than 1.
     double Fraction() { return Below(1 << 30) / static_cast<double>(1 << 30); }
-    // Zeros, small whole numbers and tenths, so that ties, exact zeros and rounding errors all come.
+    // Returns zeros, small whole numbers and tenths, so that there are ties, exact zeros and rounding errors.
     double Coefficient(int zerosOfTen) {
         if (Below(10) < zerosOfTen) return 0;
         return Below(2) == 0 ? Below(7) - 3 : (Below(199) - 99) / 10.0;

@@ -1,4 +1,4 @@
-// Linear programs as the tests write them.
+// Notation for linear programs in tests.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Programs worked by hand, and the edges of the solver.
+// Tests of the solver with programs solved by hand, and of its limits.
 #include "water/LPsimplex.h"
 
 #include <cmath>
@@ -21,8 +21,8 @@ constexpr LPRow kAtMost = LPRow::AtMost;
 constexpr LPRow kAtLeast = LPRow::AtLeast;
 constexpr LPRow kEqual = LPRow::Equal;
 
-// y enters first (cost 5), at 12 / 2 = 6 before 18 / 2 = 9; then x, at (18 - 12) / 3 = 2 before 4 / 1. The
-// third iteration finds nothing to enter: 3 * 2 + 5 * 6 = 36.
+// y enters first (cost 5), at 12 / 2 = 6, which is less than 18 / 2 = 9; then x enters at (18 - 12) / 3 = 2,
+// which is less than 4 / 1. In the third iteration no column enters: 3 * 2 + 5 * 6 = 36.
 const LinearProgram kTwoPivots{
     2, {3, 5}, false, {{{1, 0}, kAtMost, 4}, {{0, 2}, kAtMost, 12}, {{3, 2}, kAtMost, 18}}};
 
@@ -34,7 +34,7 @@ TEST(LPsimplex, StartsAtTheOriginWhereNoRowNeedsAnArtificialVariable) {
     EXPECT_EQ(solved.iterations, 3);
 }
 
-// The corners are (6, 0) and (0, 4) at 12 each and (2, 2) at 10.
+// The corners are (6, 0) and (0, 4) with objective 12 and (2, 2) with objective 10.
 TEST(LPsimplex, MinimisesThroughBothPhases) {
     const Solved solved =
         SolveProgram({2, {2, 3}, true, {{{1, 1}, kAtLeast, 4}, {{1, 2}, kAtLeast, 6}}}, 1000);
@@ -43,7 +43,7 @@ TEST(LPsimplex, MinimisesThroughBothPhases) {
     EXPECT_EQ(solved.objective, 10);
 }
 
-// -x - y <= -4 is x + y >= 4, and -x = -3 is x = 3: y = 1 is the least.
+// -x - y <= -4 is x + y >= 4, and -x = -3 is x = 3, so the minimum is at y = 1.
 TEST(LPsimplex, TakesNegativeRightHandSides) {
     const Solved solved =
         SolveProgram({2, {1, 1}, true, {{{-1, -1}, kAtMost, -4}, {{-1, 0}, kEqual, -3}}}, 1000);
@@ -51,15 +51,16 @@ TEST(LPsimplex, TakesNegativeRightHandSides) {
     EXPECT_THAT(solved.x, ElementsAre(3, 1));
 }
 
-// One pivot and the iteration that sees the optimum; an artificial variable would take an iteration more, to
-// end phase one.
+// One pivot, and the iteration that detects the optimum. An artificial variable would need one more
+// iteration to end phase one.
 TEST(LPsimplex, NeedsNoArtificialVariableForAtLeastZero) {
     const Solved solved = SolveProgram({1, {1}, false, {{{-1}, kAtLeast, -5}, {{1}, kAtLeast, 0}}}, 1000);
     EXPECT_THAT(solved.x, ElementsAre(5));
     EXPECT_EQ(solved.iterations, 2);
 }
 
-// x enters for the artificial variable at 0, the end of phase one; y enters at 3 and draws x along, the end.
+// x replaces the artificial variable at 0, which ends phase one; y enters at 3 and raises x to
+// 3, which ends phase two.
 TEST(LPsimplex, NeedsAnArtificialVariableForEqualToZero) {
     const Solved solved =
         SolveProgram({2, {1, 1}, false, {{{1, -1}, kEqual, 0}, {{1, 0}, kAtMost, 3}}}, 1000);
@@ -72,7 +73,7 @@ TEST(LPsimplex, LeavesZerosWhenUnbounded) {
     for (const LinearProgram& program : std::vector<LinearProgram>{
              {2, {1, 1}, false, {{{1, -1}, kAtMost, 1}}},
              {2, {1, 1}, false, {{{0, 0}, kAtMost, 1}}},
-             {1, {-1}, true, {{{1}, kAtLeast, 2}}},  // x is basic, at 2, when that is seen
+             {1, {-1}, true, {{{1}, kAtLeast, 2}}},  // detected when x is basic, at 2
              {1, {1}, false, {}},
          }) {
         const Solved solved = SolveProgram(program, 1000);
@@ -87,8 +88,8 @@ TEST(LPsimplex, LeavesZerosWhenInfeasible) {
     EXPECT_THAT(solved.x, ElementsAre(0));
 }
 
-// 0.3 / 0.1 is 2.9999999999999996 in binary, so 4.4e-16 of the second row's artificial variable is left. That
-// there is no tolerance is intended.
+// 0.3 / 0.1 is 2.9999999999999996 in binary, so 4.4e-16 of the second row's artificial variable remains. The
+// solver uses no tolerance.
 TEST(LPsimplex, TakesARoundingErrorForInfeasible) {
     const Solved solved = SolveProgram({1, {1}, true, {{{0.1}, kEqual, 0.3}, {{1}, kEqual, 3}}}, 1000);
     EXPECT_EQ(solved.status, LPStatus::NoSolution);
@@ -96,19 +97,19 @@ TEST(LPsimplex, TakesARoundingErrorForInfeasible) {
     EXPECT_THAT(solved.x, ElementsAre(0));
 }
 
-// Phase one ends with x at 2 and the second artificial variable at 0. Completing (1, 2), the unit column of
-// the first row is larger in the turned second row (2 / sqrt 5) than that of the second (1 / sqrt 5), and y
-// is parallel to x. So an artificial variable comes back, y is dropped, and x stays at 2 where 0 would do:
-// that is intended.
+// Phase one ends with x at 2 and the second artificial variable at 0. When (1, 2) is completed, the unit
+// column of the first row is larger in the rotated second row (2 / sqrt 5) than that of the second row (1 /
+// sqrt 5), and y is parallel to x. So an artificial variable enters again, y is dropped, and x stays at 2
+// although 0 would be possible.
 TEST(LPsimplex, MayAnswerPoorerWhenAnArtificialVariableComesBack) {
     const Solved solved = SolveProgram({2, {1, 0}, true, {{{1, 1}, kEqual, 2}, {{2, 2}, kEqual, 4}}}, 1000);
     EXPECT_EQ(solved.status, LPStatus::Solved);
     EXPECT_THAT(solved.x, ElementsAre(2, 0));
 }
 
-// Phase one is over at once, with an artificial variable at 0 beside the slack (0, 1). Turned along it, the
-// column (-2, 0) of x is larger in the second row than the artificial one, so x completes the basis, and y
-// enters in phase two.
+// Phase one ends at once, with an artificial variable at 0 next to the slack (0, 1). After the rotation along
+// it, the column (-2, 0) of x is larger in the second row than the artificial one, so x completes the basis,
+// and y enters in phase two.
 TEST(LPsimplex, GoesOnInPhaseTwoWithACompletedBasis) {
     const Solved solved =
         SolveProgram({2, {1, 1}, false, {{{-2, 0}, kEqual, 0}, {{0, 1}, kAtMost, 3}}}, 1000);
@@ -117,7 +118,7 @@ TEST(LPsimplex, GoesOnInPhaseTwoWithACompletedBasis) {
     EXPECT_EQ(solved.iterations, 3);
 }
 
-// x = 1 three times: two artificial variables fill the basis up, and no column is left beside it.
+// x = 1 three times: two artificial variables complete the basis, and no column is left outside it.
 TEST(LPsimplex, StandsMoreRowsThanRealColumns) {
     const Solved solved =
         SolveProgram({1, {1}, true, {{{1}, kEqual, 1}, {{1}, kEqual, 1}, {{1}, kEqual, 1}}}, 1000);
@@ -130,8 +131,9 @@ TEST(LPsimplex, LeavesTheUppermostRowOfATie) {
     const Solved solved = SolveProgram({2, {2, 1}, false, {{{1, 0}, kAtMost, 4}, {{2, 1}, kAtMost, 8}}}, 0);
     EXPECT_EQ(solved.status, LPStatus::IterationLimit);
     EXPECT_THAT(solved.x, ElementsAre(4, 0));
-    // With x basic in the upper row y is worth 1 and enters at 0 / 1 in the lower one: optimum at
-    // iteration 3. Had the lower one left, y's reduced cost of 1 - 2 * 1 / 2 = 0 would end it at iteration 2.
+    // With x basic in the upper row, y has a reduced cost of 1 and enters at 0 / 1 in the lower row: the
+    // optimum is found in iteration 3. If the lower row had left, the reduced cost of y, 1 - 2 * 1 / 2 = 0,
+    // would end the program in iteration 2.
     EXPECT_EQ(SolveProgram({2, {2, 1}, false, {{{1, 0}, kAtMost, 4}, {{2, 1}, kAtMost, 8}}}, 1000).iterations,
               3);
 }
@@ -142,9 +144,10 @@ TEST(LPsimplex, EntersTheEarliestColumnOfATie) {
     EXPECT_THAT(solved.x, ElementsAre(3, 0));
 }
 
-// x enters at 1 for the slack s of the first row, then y at 1 for that of the second. The positions now hold
-// s, the other slack, z; s and z both gain 2, for the first row has the price -2. So s enters, although z is
-// the lower column: x goes out, y rises by 4. z would have come in at 1 and raised y by 2.
+// x enters at 1 for the slack s of the first row, then y at 1 for that of the second row. The
+// positions now hold s, the other slack, z; s and z both gain 2, since the first row has the price -2.
+// So s enters, although z has the lower column number: x leaves and y rises by 4. z would have entered
+// at 1 and raised y by 2.
 TEST(LPsimplex, TakesPositionsNotColumnNumbersForEarlier) {
     const LinearProgram program{3, {2, 1, 2}, false, {{{1, 0, 1}, kAtMost, 1}, {{4, 1, 2}, kAtMost, 5}}};
     EXPECT_THAT(SolveProgram(program, 0).x, ElementsAre(1, 0, 0));
@@ -167,15 +170,15 @@ TEST(LPsimplex, ShowsThePointThatTheLimitFound) {
     EXPECT_EQ(SolveProgram(kTwoPivots, 3).status, LPStatus::Solved);
 }
 
-// The limit is looked at first: unbounded, or the end of phase one, in the last iteration counts as the
-// limit.
+// The limit is checked first: if the last iteration finds the program unbounded or ends phase one,
+// the result is the limit.
 TEST(LPsimplex, HeedsTheLimitBeforeTheOutcome) {
     EXPECT_EQ(SolveProgram({1, {1}, false, {}}, 0).status, LPStatus::IterationLimit);
     EXPECT_EQ(SolveProgram({1, {1}, true, {{{0}, kEqual, 1}}}, 0).status, LPStatus::IterationLimit);
 }
 
-// A program of E. M. L. Beale's kind: six pivots at the origin lead back to the first basis. All its numbers
-// are exact in binary. The optimum would be 1.25 at (1, 0, 1, 0).
+// A cycling program of the kind of E. M. L. Beale: six pivots at the origin lead back to the first basis. All
+// its numbers are exact in binary. The optimum would be 1.25 at (1, 0, 1, 0).
 TEST(LPsimplex, EndsACycleAtTheLimit) {
     const LinearProgram program{
         4,
@@ -198,7 +201,7 @@ TEST(LPsimplex, SolvesProgramsWithoutRowsOrVariables) {
     EXPECT_THAT(SolveProgram({0, {}, true, {}}, 1000).x, IsEmpty());
 }
 
-// Rows that are not given are 0 <= 0.
+// Rows that are not added are 0 <= 0.
 TEST(LPsimplex, StandsFewerRowsThanAnnounced) {
     LPsimplex simplex;
     simplex.Initialize(1, 3);
@@ -271,8 +274,8 @@ TEST(LPsimplex, RaisesOverflowBeyondADouble) {
     }
 }
 
-// x = 1 twice leaves an artificial variable, but the squares of 1e-200 are zero in a double, so that the
-// reflection along x has no length.
+// x = 1 twice leaves an artificial variable, but the square of 1e-200 is zero in a double, so the
+// reflection along x has length 0.
 TEST(LPsimplex, RaisesDivisionByZeroWhereTheBasisCannotBeCompleted) {
     LPsimplex simplex;
     simplex.Initialize(1, 2);

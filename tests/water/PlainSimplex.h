@@ -1,5 +1,5 @@
-// The solver's steps written down plainly, dense and without any haste, for comparison: every place is
-// visited, every number is checked.
+// The steps of the solver in a plain, dense and slow version for comparison: every element is visited,
+// every number is checked.
 #pragma once
 
 #include <vector>
@@ -15,17 +15,17 @@ struct LPAnswer {
     std::vector<double> x = {};
     long long iterations = 0;
     double objective = 0;
-    bool completedBasis = false;   // phase one left an artificial variable in the basis
-    bool artificialStays = false;  // and one came back by its completion
+    bool completedBasis = false;   // phase one has left an artificial variable in the basis
+    bool artificialStays = false;  // completing the basis has added one again
 };
 
-// What the steps lead to. Faults are told by kind, x is all zeros then.
+// Returns the result of the steps. An error is reported by kind; x is then all zeros.
 LPAnswer SolvePlainly(const LinearProgram& program, int maxIterations);
 
 using Matrix = std::vector<std::vector<double>>;
-// The completion of a basis alone: the order of the columns. Raises as the steps do.
+// Only the completion of a basis: returns the order of the columns. Raises the same errors as the steps.
 std::vector<int> AugmentPlainly(Matrix columnsByRow, std::vector<int> basis);
-// Elimination and back substitution alone. Raises "Overflow".
+// Only elimination and back substitution. Raises "Overflow".
 std::vector<double> SolveSystemPlainly(Matrix a, std::vector<double> b);
 
 }  // namespace tw

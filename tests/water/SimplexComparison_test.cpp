@@ -1,4 +1,5 @@
-// The solver against the plain steps on random programs, to the last bit, and its answers against duality.
+// Compares the solver with the plain steps on random programs, to the last bit, and checks
+// its answers by duality.
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -31,7 +32,7 @@ LPAnswer Answer(const LinearProgram& program, int limit) {
     return answer;
 }
 
-// How often each way out was taken, so that no test passes by never getting there.
+// Counts how often each outcome occurred, so that no test passes without reaching it.
 using Counts = std::map<std::string, int>;
 
 void Count(Counts& counts, const LPAnswer& answer) {
@@ -77,7 +78,7 @@ LinearProgram RandomProgram(Dice& dice, const Shape& shape) {
         for (int j = 0; j < shape.vars; ++j) row.coefficients.push_back(dice.Coefficient(shape.zerosOfTen));
         row.rightSide = dice.Coefficient(shape.zeroRightSidesOfTen);
         if (dice.Below(3) > 0) row.rightSide = std::fabs(row.rightSide);
-        if (i > 0 && dice.Below(6) == 0) {  // an earlier row again, or a multiple of it
+        if (i > 0 && dice.Below(6) == 0) {  // repeats an earlier row or a multiple of it
             row = program.rows[dice.Below(i)];
             const double factor = dice.Below(2) == 0 ? 1 : 1 + dice.Below(4);
             for (double& value : row.coefficients) value *= factor;
@@ -85,7 +86,7 @@ LinearProgram RandomProgram(Dice& dice, const Shape& shape) {
         }
         program.rows.push_back(row);
     }
-    if (shape.vars > 1 && dice.Below(4) == 0) {  // two columns alike, or one without anything
+    if (shape.vars > 1 && dice.Below(4) == 0) {  // makes two columns equal, or one empty
         const int to = dice.Below(shape.vars);
         const int from = dice.Below(shape.vars);
         const double factor = dice.Below(3) / 2.0;
@@ -109,7 +110,7 @@ TEST(SimplexComparison, AgreesOnSmallProgramsOfEveryShape) {
         EXPECT_GT(counts[way], 100) << way;
 }
 
-// Equalities with a redundant one among them, often at zero.
+// Equalities, one of them redundant, often with right side 0.
 TEST(SimplexComparison, AgreesBehindACompletedBasis) {
     Dice dice(2);
     Counts counts;
@@ -125,8 +126,8 @@ TEST(SimplexComparison, AgreesBehindACompletedBasis) {
     EXPECT_GT(counts["artificial variable back"], 300);
 }
 
-// The needs of six ions from salts as they are on the shelf, doubles among them: the first program of the
-// water treatment (shortfalls, and a row for each dose) and the second (as much as fits).
+// The needs of six ions met by salts of the shelf, some of them twice: the first program of the water
+// treatment (shortfalls, and a row for each dose) or, if capped, the second one (as much as fits).
 LinearProgram Treatment(Dice& dice, bool capped) {
     const int salts = 2 + dice.Below(12);
     const int first = capped ? 0 : 6;
@@ -175,7 +176,7 @@ TEST(SimplexComparison, AgreesOnLargePrograms) {
     }
 }
 
-// Numbers from one end of a double to the other: where one of the two leaves it, so does the other.
+// Numbers of all magnitudes: if one of the two leaves the range of a double, so must the other.
 TEST(SimplexComparison, AgreesOnFaults) {
     Dice dice(5);
     Counts counts;
@@ -215,7 +216,7 @@ void ExpectFeasible(const LinearProgram& program, const std::vector<double>& x) 
 }
 
 // max c x, A x <= b against min b y, A' y >= c: feasible points with the same objective are both optimal,
-// whatever way led there. Random real numbers have no ties, so that the steps end rightly.
+// however they were found. Random real numbers have no ties, so the steps end correctly.
 TEST(SimplexComparison, EndsAtTheOptimumOfTheDualProgram) {
     Dice dice(6);
     int proven = 0;
@@ -239,7 +240,7 @@ TEST(SimplexComparison, EndsAtTheOptimumOfTheDualProgram) {
         const Solved one = SolveProgram(primal, 1000);
         const Solved other = SolveProgram(dual, 1000);
         if (other.status == LPStatus::NoSolution)
-            continue;  // a rounding error left by phase one, as intended
+            continue;  // a rounding error left by phase one, for which there is no tolerance
         ASSERT_EQ(one.status, LPStatus::Solved);
         ASSERT_EQ(other.status, LPStatus::Solved);
         ExpectFeasible(primal, one.x);

@@ -1,4 +1,4 @@
-// The parts below the solver: systems of equations, and completing a basis.
+// Tests of the parts of the solver: systems of equations, and completing a basis.
 #include <algorithm>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -49,7 +49,7 @@ TEST(ColumnMatrix, KeepsTheRowsOfAColumnInOrder) {
 }
 
 TEST(LinearSystem, SolvesWithRowsExchanged) {
-    // The second row is the first pivot: x + 3y = 5, 2x + 4y = 8 has x = 2, y = 1.
+    // The second row is the first pivot: x + 3y = 5 and 2x + 4y = 8 have the solution x = 2, y = 1.
     EXPECT_THAT(SolveRows({{1, 3}, {2, 4}}, {5, 8}), ElementsAre(2, 1));
 }
 
@@ -67,16 +67,16 @@ TEST(LinearSystem, DividesOnlyWithOneEquation) {
     EXPECT_THAT(SolveRows({}, {}), IsEmpty());
 }
 
-// A singular system is answered wrongly without a word, which is intended. In the second one the lower row is
-// the pivot, which leaves 0 y = 5 - 8 / 2, so y = 1 and x = (8 - 4 * 1) / 2.
+// For a singular system, a wrong answer is returned without an error. In the second one the lower row is the
+// pivot, which leaves 0 y = 5 - 8 / 2, so y = 1 and x = (8 - 4 * 1) / 2.
 TEST(LinearSystem, LeavesUnknownsWithoutAPivotUndivided) {
     EXPECT_THAT(SolveRows({{0}}, {10}), ElementsAre(10));
     EXPECT_THAT(SolveRows({{1, 2}, {2, 4}}, {5, 8}), ElementsAre(2, 1));
     EXPECT_THAT(SolveRows({{0, 2}, {0, 1}}, {5, 8}), ElementsAre(5 - 2 * 8, 8));
 }
 
-// Of equal pivots the uppermost stands. 2x + 4y = 8 and 2x + 4y = 10 leave y = 10 - 8 = 2 undivided, and
-// x = (8 - 4 * 2) / 2; with the lower row y would be -2.
+// Of equal pivots, the uppermost is used. 2x + 4y = 8 and 2x + 4y = 10 leave y = 10 - 8 = 2 undivided, and x
+// = (8 - 4 * 2) / 2; with the lower row, y would be -2.
 TEST(LinearSystem, TakesTheUppermostOfEqualPivots) {
     EXPECT_THAT(SolveRows({{2, 4}, {2, 4}}, {8, 10}), ElementsAre(0, 2));
     EXPECT_THAT(SolveRows({{2, 4}, {-2, -4}}, {8, 10}), ElementsAre((8 - 4 * 18) / 2.0, 18));
@@ -98,7 +98,7 @@ TEST(LinearSystem, CanBeUsedAgain) {
 
 TEST(LinearSystem, RaisesOverflow) {
     constexpr double kHuge = 1.7e308;
-    // In the quotient; in elimination, hidden on the diagonal; the same beside it.
+    // Overflow in the quotient; in elimination, hidden on the diagonal; in elimination, next to the diagonal.
     EXPECT_THROW(SolveRows({{1e-10}}, {kHuge}), Error);
     EXPECT_THROW(SolveRows({{1, kHuge}, {-1, kHuge}}, {1, 1}), Error);
     EXPECT_THROW(SolveRows({{1, 0, kHuge}, {-1, 1, kHuge}, {0, 0, 1}}, {1, 1, 0}), Error);
@@ -111,7 +111,7 @@ Matrix Rows(Dice& dice, int rows, int columns, int zerosOfTen) {
     return made;
 }
 
-// Equal as numbers: a zero may have another sign, which nothing further down can tell.
+// Compared as numbers: a zero may have another sign, which has no effect later.
 TEST(LinearSystem, AgreesWithPlainEliminationToTheLastBit) {
     Dice dice(11);
     for (int turn = 0; turn < 3000; ++turn) {
@@ -154,8 +154,9 @@ TEST(AugmentBasis, AgreesWithPlainReflectionsToTheLastBit) {
     EXPECT_GT(raised, 0);
 }
 
-// Without a given column the others stand in descending order and the largest of the first row wins: column 1
-// with its 3. Turned along (3, 4), the unit columns 2 and 3 stand at 0.8 and 0.6 in the second row, by size.
+// Without a given column, the others are in descending order and the largest of the first row is chosen:
+// column 1 with its 3. Rotated along (3, 4), the unit columns 2 and 3 have 0.8 and 0.6 in the second row,
+// so they follow by size.
 TEST(AugmentBasis, TakesTheLargestOfEachRow) {
     std::vector<int> order;
     ASSERT_TRUE(AugmentBasis(FromRows({{1, 3, 1, 0}, {1, 4, 0, 1}}), 2, {}, order));

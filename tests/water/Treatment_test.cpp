@@ -1,5 +1,5 @@
-// The two programs of the treatment and the choice between them: figures by hand, and random waters against
-// the same steps written down plainly.
+// Tests of the two programs of the treatment and the choice between them: with figures calculated by hand,
+// and with random waters compared with a plain version of the same steps.
 #include "water/Treatment.h"
 
 #include <bit>
@@ -31,16 +31,17 @@ TEST(Treatment, NoNeedGivesNoDose) {
     EXPECT_EQ(FindDoses({}, salts, kLimit), (Doses{0, 0}));
 }
 
-// Calcium alone counts for the sum, but the dose ends where sulfate is met: 150 / 150 = 1.
+// Only calcium counts for the sum, but the dose ends when the need of sulfate is met: 150 / 150 = 1.
 TEST(Treatment, SulfateIsNeverOvershot) {
     const Salts salts{{60, 0, 0, 0, 0, 150}};
     EXPECT_EQ(SolveTreatmentWithDeviations({120, 0, 0, 0, 0, 150}, salts, kLimit).doses, Doses{1});
     EXPECT_EQ(SolveTreatmentCapped({120, 0, 0, 0, 0, 150}, salts, kLimit).doses, Doses{1});
 }
 
-// Chloride and sodium are met by one gram of the second salt, which leaves no sodium to bring sulfate along:
-// 10 short. Grams count for the other program: half a gram of the first salt meets sulfate, 0.75 of the
-// second then sodium, and only 5 of chloride are short.
+// First program: one gram of the second salt meets chloride and sodium, which leaves no sodium for
+// the salt with sulfate, so 10 ppm of sulfate are missing. The second program maximises grams: half
+// a gram of the first salt meets sulfate, then 0.75 grams of the second meet sodium, and only 5 ppm
+// of chloride are missing.
 TEST(Treatment, TheSecondProgramWinsWhereSulfateIsWorthMore) {
     const Salts salts{{0, 0, 0, 0, 10, 20}, {0, 0, 20, 0, 20, 0}};
     const Ions needed{0, 0, 20, 0, 20, 10};
@@ -49,8 +50,8 @@ TEST(Treatment, TheSecondProgramWinsWhereSulfateIsWorthMore) {
     EXPECT_EQ(FindDoses(needed, salts, kLimit), (Doses{0.5, 0.75}));
 }
 
-// 30 g of either salt end calcium; the first program takes the one that brings magnesium too, and no more
-// grams would help the second.
+// 30 g of either salt meet calcium. The first program chooses the salt that adds magnesium too; the second
+// program gains no grams by either.
 TEST(Treatment, TheSmallerMissDecidesNotTheGrams) {
     const Salts salts{{1, 0, 0, 0, 0, 0}, {1, 0, 0, 2, 0, 0}};
     const Ions needed{30, 0, 0, 60, 0, 0};
@@ -58,7 +59,7 @@ TEST(Treatment, TheSmallerMissDecidesNotTheGrams) {
     EXPECT_EQ(FindDoses(needed, salts, kLimit), (Doses{0, 30}));
 }
 
-// Any dose of two equal salts that adds up to 2 meets the need; the first program's stands.
+// Any doses of two equal salts that add up to 2 meet the need; those of the first program are used.
 TEST(Treatment, ATieGoesToTheFirstProgram) {
     const Salts salts{{10, 0, 0, 0, 0, 0}, {10, 0, 0, 0, 0, 0}};
     const Ions needed{20, 0, 0, 0, 0, 0};
@@ -67,7 +68,7 @@ TEST(Treatment, ATieGoesToTheFirstProgram) {
     EXPECT_EQ(FindDoses(needed, salts, kLimit), first);
 }
 
-// A salt without any ion can be added without end, so that only the first program has an answer.
+// A salt without ions can be added without limit, so only the first program has a solution.
 TEST(Treatment, ASaltOfNothingLeavesTheFirstProgramAlone) {
     const Salts salts{{60, 0, 0, 0, 0, 150}, {}};
     EXPECT_EQ(SolveTreatmentCapped({60, 0, 0, 0, 0, 150}, salts, kLimit).status, LPStatus::NoSolution);
@@ -92,7 +93,7 @@ TEST(Treatment, NumbersBeyondADoubleRaiseAnOverflow) {
     }
 }
 
-// The same steps once more, as plain as they can be written.
+// A plain version of the same steps.
 struct PlainTreatment {
     enum class Way { FirstBetter, SecondBetter, OnlyFirst, OnlySecond, None, Division, Overflow };
     Way way = Way::None;
@@ -178,7 +179,8 @@ bool HasDoses(Way way) {
     return way != Way::None && way != Way::Division && way != Way::Overflow;
 }
 
-// Where every ion of a salt and every need is a figure that a brewer could type; now and then far beyond.
+// A water in which the ions of the salts and the needs are figures that a brewer could type,
+// occasionally far larger ones.
 struct RandomWater {
     Ions needed{};
     Salts salts;
@@ -228,7 +230,7 @@ TEST(Treatment, AgreesWithThePlainStepsOnRandomWaters) {
                       std::bit_cast<std::uint64_t>(plain.doses[j] + 0.0))
                 << "water " << round << ", salt " << j;
     }
-    // Every way out was taken.
+    // Every outcome occurred.
     for (const Way way :
          {Way::FirstBetter, Way::SecondBetter, Way::OnlyFirst, Way::OnlySecond, Way::None, Way::Overflow})
         EXPECT_GT(ways[way], 0) << static_cast<int>(way);
