@@ -10,14 +10,17 @@
 namespace tw {
 namespace {
 
+// Inches.
 constexpr double kMargin = 0.5;
+// Relative to the height of a text.
 constexpr double kLineSpacing = 1.05;
 constexpr double kSubscriptDrop = 0.3;
 constexpr double kSectionGap = 0.25;
 constexpr double kRulePlace = 0.8;
+// Inches.
 constexpr double kColumnGap = 0.25;
 constexpr double kWrapMargin = 0.5;
-// The indent of the further lines of a text that is too wide for one line.
+// Inches: the indent of the further lines of a text that is too wide for one line.
 constexpr double kFurtherIndent = 0.15;
 constexpr int kDefaultPoints = 10;
 constexpr int kSmallPoints = 8;

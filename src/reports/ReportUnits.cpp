@@ -8,6 +8,7 @@
 namespace tw {
 namespace {
 
+// Relative to water.
 constexpr double kAlcoholDensity = 0.794;
 
 using Option = ReportUnitGroup::Option;

@@ -22,8 +22,8 @@ void RichTextReport::Line(std::string line) {
 }
 
 void RichTextReport::BeginReport() {
-    // The first control word ends with the letter "l" instead of the digit 1. Readers accept it, and the
-    // files are to stay the same to the byte, so it is not corrected.
+    // The first control word ends with the letter "l" instead of the digit 1. It is not corrected, since
+    // readers accept it and the files must stay the same to the byte.
     Line("{\\rtfl\\ansi\\ansicpg1252\\uc1\\deff0\\deflang1033\\deflangfe1033");
     Line("{\\fonttbl {\\f0\\fnil " + RichText(options_.title.face) + ";}{\\f1\\fnil " +
          RichText(options_.label.face) + ";}{\\f2\\fnil " + RichText(options_.text.face) + ";}}");
@@ -61,7 +61,8 @@ void RichTextReport::WriteText(std::string_view text, bool centred) {
 void RichTextReport::Write(const ReportFont& font, std::string_view colors, std::string_view text,
                            bool centred) {
     std::string line = centred ? "{\\qc" : "{";
-    // Always font 0, whatever the font table holds: the files are to stay the same to the byte.
+    // Always font 0, whatever the font table holds. It is not corrected, since the files must
+    // stay the same to the byte.
     line.append(colors).append("\\f0\\fs").append(std::to_string(HalfPoints(font)));
     if (font.bold) line += "\\b";
     if (font.italic) line += "\\i";
