@@ -1,4 +1,4 @@
-// The settings store on QSettings: any text comes back letter for letter.
+// Tests that the settings store on QSettings returns every text unchanged.
 #include "platform/qt/QtSettings.h"
 
 #include <filesystem>
@@ -23,7 +23,7 @@ class QtSettingsTest : public testing::Test {
     std::string File() const { return (folder_ / "settings.ini").string(); }
     void Write(const std::string& text) const { std::ofstream(File(), std::ios::binary) << text; }
 
-    // Stored by one program run and read by the next.
+    // Writes the text in one run of the program and returns what the next run reads.
     std::optional<std::string> RoundTrip(const std::string& text) const {
         EXPECT_TRUE(QtSettings::OfFile(File())->Write(Layer::User, "Settings", "Key", text));
         return QtSettings::OfFile(File())->Read(Layer::User, "Settings", "Key");
@@ -85,7 +85,7 @@ TEST_F(QtSettingsTest, ReadsAFileWrittenByHand) {
 }
 
 TEST_F(QtSettingsTest, SaysThatALayerCannotBeWritten) {
-    // A file stands where the settings file's folder would have to be.
+    // There is a file in place of the folder of the settings file.
     Write("x");
     EXPECT_FALSE(QtSettings::OfFile(File() + "/in.ini")->Write(Layer::User, "Settings", "Key", "1"));
 }

@@ -1,11 +1,11 @@
-// A library for LD_PRELOAD that stands between a program and its disk. It counts the calls that change files
-// below one folder, and at one of them kills the program or lets the call fail:
+// A library for LD_PRELOAD that intercepts a program's calls to the disk. It counts the calls that change
+// files below one folder, and at one of them kills the program or makes the call fail:
 //     TUNWRIGHT_FAULT_FOLDER  the folder, absolute
 //     TUNWRIGHT_FAULT_LOG     a file that gets a line "CALL PATH[ PATH]" for each call before it is made
-//     TUNWRIGHT_FAULT_AT      the number of the call, from 1; 0 for none
-//     TUNWRIGHT_FAULT_HOW     kill: ends the program there, half of what it was to write is written;
-//                             fail: the call fails as on a dying disk;
-//                             full: this and all later calls fail that take up room
+//     TUNWRIGHT_FAULT_AT      the number of the call, from 1; 0 for no fault
+//     TUNWRIGHT_FAULT_HOW     kill: the program ends in the middle of the call, after writing half;
+//                             fail: the call fails as on a defective disk;
+//                             full: from this call on, every call that needs space fails
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -21,7 +21,7 @@
 
 namespace {
 
-// What a call does to the room on the disk.
+// Whether a call needs space on the disk.
 enum class Room { Takes, TakesNone };
 
 std::string Variable(const char* name) {
@@ -37,7 +37,7 @@ struct Plan {
     long calls = 0;
 };
 
-// Made at the first call: other libraries open files before this one is set up.
+// Created at the first call, since other libraries open files before this one is initialised.
 Plan& ThePlan() {
     static Plan plan;
     return plan;
@@ -61,7 +61,7 @@ std::string Absolute(const char* path) {
     return getcwd(folder.data(), folder.size()) == nullptr ? path : std::string(folder.data()) + "/" + path;
 }
 
-// By the system itself, so that it is not counted.
+// Uses system calls directly, so that they are not counted.
 void Log(const Plan& plan, const std::string& line) {
     const long file = syscall(SYS_openat, AT_FDCWD, plan.log.c_str(), O_WRONLY | O_CREAT | O_APPEND, 0600);
     if (file < 0) return;
@@ -69,7 +69,7 @@ void Log(const Plan& plan, const std::string& line) {
     syscall(SYS_close, file);
 }
 
-// What is to become of a call.
+// What happens to a call.
 enum class Fate { Goes, Fails, Dies };
 
 Fate FateOf(const char* call, const std::string& path, Room room, const std::string& second = "") {
@@ -98,7 +98,7 @@ Fate FateOf(const char* call, const std::string& path, Room room, const std::str
     for (;;) pause();
 }
 
-// For a call that is made wholly or not at all.
+// For a call that cannot be made in part: ends the program or returns true if the call is to fail.
 bool Fails(const char* call, const std::string& path, Room room = Room::TakesNone,
            const std::string& second = "") {
     const Fate fate = FateOf(call, path, room, second);
