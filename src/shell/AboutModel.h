@@ -5,7 +5,8 @@
 
 namespace tw {
 
-// lblTitle, the program's title; lblVersion, "Version major.minor.revision"; cmdOK, which closes the window.
+// The controls are lblTitle, the program's title; lblVersion, "Version major.minor.revision"; and cmdOK,
+// which closes the window.
 class AboutModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmAbout";

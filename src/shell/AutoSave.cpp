@@ -31,7 +31,7 @@ void AutoSaveModel::CloseBox() {
 void AutoSaveModel::FirstShown() {
     if (!IsOpen() || running_) return;
     const ScopedValue running(running_, true);
-    // Events that run in between may close a document, so they are kept by key.
+    // Events processed during the run may close a document, so documents are remembered by key.
     std::vector<std::string> keys;
     for (const auto& document : documents_.All()) keys.push_back(document->Key());
     total_ = static_cast<int>(keys.size());

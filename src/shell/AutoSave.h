@@ -1,4 +1,4 @@
-// Saves the open recipes by itself every few minutes: the count of the minutes, and the progress window
+// Autosave of the open recipes every few minutes: the counter of minutes, and the progress window
 // (frmAutoSave) that runs the saves.
 #pragma once
 
@@ -12,15 +12,15 @@ namespace tw {
 class DocumentManager;
 class RecipeDocument;
 
-// One tick of the autosave timer is one minute.
+// The interval of the autosave timer, one minute.
 inline constexpr int kAutoSaveTickMilliseconds = 60000;
 
-// Whole minutes since the last autosave, with a document open.
+// Counts the minutes since the last autosave during which a document was open.
 class AutoSaveMinutes {
   public:
     void Reset() { minutes_ = 0; }
-    // One minute has gone; true when every minutes or more are full, also when every has shrunk below the
-    // count. Without a document the count starts again.
+    // Counts one minute. True if the count has reached every, in minutes, even if every has become smaller
+    // than the count. Without a document the count restarts from 0, and the result is false.
     bool Tick(bool anyDocument, int every);
     int Count() const { return minutes_; }
 
@@ -28,21 +28,24 @@ class AutoSaveMinutes {
     int minutes_ = 0;
 };
 
-// The progress window: as soon as it is shown it saves each document silently, in the order of their opening,
-// changed or not, and closes. A document that has never been saved is passed over and counts in the progress.
-// lblRecipe, the name of the recipe being saved; ProgressBar1, the number of documents done.
+// The progress window. As soon as it is shown, it saves each document quietly in the order in which they were
+// opened, changed or not, and closes. A document that has never been saved is skipped but counts as progress.
+// lblRecipe contains the name of the recipe being saved, ProgressBar1 the number of documents done.
 class AutoSaveModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmAutoSave";
 
-    // save saves a document silently and shows its own errors. Both must outlive the object.
+    // save saves a document without asking and shows its own errors. documents, and whatever save refers to,
+    // must outlive the object.
     AutoSaveModel(const DocumentManager& documents, std::function<void(RecipeDocument&)> save);
-    // Called after each change of what the window shows: it paints, and lets waiting events run.
+    // Sets a callback that runs after each change of the displayed values: it paints the window and processes
+    // waiting events.
     void SetObserver(std::function<void()> observer) { observer_ = std::move(observer); }
 
-    // The run cannot be stopped; before it the close box closes the window.
+    // Closes the window before the run has started; the run itself cannot be stopped.
     void CloseBox() override;
-    // Saves and closes. An error in one save has had its box and does not keep the others from theirs.
+    // Saves all documents and closes the window. save has shown the error of a failed save, which does not
+    // keep the other documents from being saved.
     void FirstShown() override;
 
     const std::string& RecipeName() const { return recipeName_; }

@@ -6,8 +6,8 @@
 namespace tw {
 
 void AutoSaver::Tick() {
-    // The time that saving takes is not counted. A save within the one unit of an import would be lost with
-    // it.
+    // Minutes spent saving are not counted. During an import nothing is saved, as the import's unit of work
+    // would undo the save if it fails.
     if (!settings_.doAutoSave || saving_ || files_.IsRunning() || data_.database->ReadOnly()) return;
     if (!minutes_.Tick(!documents_.All().empty(), settings_.doAutoSaveEvery)) return;
     Run();

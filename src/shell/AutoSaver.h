@@ -1,4 +1,4 @@
-// Saves the open recipes by itself every few minutes.
+// Saves the open recipes automatically every few minutes.
 #pragma once
 
 #include "shell/AutoSave.h"
@@ -12,7 +12,7 @@ namespace tw {
 
 class AutoSaver {
   public:
-    // minutes counts since autosave was switched on. All must outlive the object.
+    // minutes counts from the moment autosave is switched on. All arguments must outlive the object.
     AutoSaver(const Settings& settings, AutoSaveMinutes& minutes, OpenedDatabase& data,
               const DocumentManager& documents, RecipeSaver& saver, const ExchangeDesk& files)
         : settings_(settings),
@@ -22,12 +22,12 @@ class AutoSaver {
           saver_(saver),
           files_(files) {}
 
-    // A minute has gone: saves all documents when it is time. Nothing while autosave is off, while it saves,
-    // while recipes are being copied, or in a database that cannot be written.
+    // Counts one minute, and saves all documents when the interval is over. Does nothing while autosave is
+    // switched off or running, while recipes are being imported or exported, or if the database is read-only.
     void Tick();
-    // Saves all documents silently behind the progress window.
+    // Saves all documents without asking, while the progress window is open.
     void Run();
-    // That window, before it is shown.
+    // Returns the model of that window, not yet shown.
     AutoSaveModel Progress();
 
   private:

@@ -17,7 +17,7 @@ CatalogueContext CatalogueDesk::Context() {
 void CatalogueDesk::ShowSetup() {
     const CatalogueContext context = Context();
     DatabaseSetupModel setup(context);
-    // The documents follow even if an error ends the window.
+    // The documents are updated even if an error ends the dialog.
     RunShowingErrors(context.messages, [&] { context.dialogs.ShowModal(setup); });
     documents_.CatalogueChanged();
 }

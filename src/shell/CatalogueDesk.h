@@ -1,4 +1,4 @@
-// The windows of the catalogue: database setup, the editor of a style, and the pickers.
+// Opens the dialogs of the catalogue: database setup, the style editor, and the pickers.
 #pragma once
 
 #include <cstdint>
@@ -17,20 +17,22 @@ namespace tw {
 
 class CatalogueDesk {
   public:
-    // All must outlive the object.
+    // All arguments must outlive the object.
     CatalogueDesk(OpenedDatabase& data, DocumentManager& documents) : data_(data), documents_(documents) {}
 
-    // What the windows of the catalogue stand on.
+    // Returns what the dialogs of the catalogue need.
     CatalogueContext Context();
     void ShowSetup();
-    // Shows the editor of the style of that name, or for a blank name that of a new style in the folder. The
-    // name under which it was saved, nothing when it was not.
+    // Shows the editor of the style of that name or, if name is blank, of a new style in that folder. Returns
+    // the name under which the style was saved, or nullopt if it was not.
     std::optional<std::string> EditStyle(std::string_view name, std::int64_t folderId);
-    // Lets the brewer choose from a catalogue, starting on name; the document takes what was chosen.
+    // Lets the brewer choose from a catalogue, with the row of that name selected first, and passes the
+    // choice to the document.
     void Pick(RecipeDocument& document, CatalogueKind list, const std::string& name);
 
   private:
-    // Shows the selected row of a picker's list, and those around it, to be read.
+    // Shows the selected row of a picker's list in a read-only editor, whose navigator reaches the other
+    // rows; the style editor has no navigator.
     void ViewRow(CatalogueKind type, ListTable& items);
 
     OpenedDatabase& data_;

@@ -103,8 +103,9 @@ void CommandStates::CheckEnableSaveAll() {
 
 void CommandStates::CheckEnableDelete() {
     const bool anyRecipe = questions_.anyRecipe();
-    // Compared with FileDelete alone, on purpose: at a start with recipes FilePrint stays off, and with the
-    // first recipe it goes on, even without an open document.
+    // Only FileDelete is compared, which has two effects, kept because scripts can query these states: if the
+    // database contains recipes at the start, FilePrint stays disabled; once a first recipe is stored, it is
+    // enabled, even without an open document.
     if (bar_.Item(CommandId::FileDelete).enabled == anyRecipe) return;
     bar_.SetEnabled(CommandId::FileDelete, anyRecipe);
     bar_.SetEnabled(CommandId::FilePrint, anyRecipe);

@@ -1,5 +1,5 @@
-// Which commands are enabled, and what the undo commands are called: what the active document and the program
-// say about it, brought to menu items and toolbar buttons.
+// Which commands are enabled, and the captions of the undo commands. Applies what the active document and the
+// program report to menu items and toolbar buttons.
 #pragma once
 
 #include <functional>
@@ -13,19 +13,19 @@ namespace tw {
 
 class CommandStates final : public DocumentCommands {
   public:
-    // What the states depend on.
+    // The state of the program on which commands depend.
     struct Questions {
-        std::function<bool()> anyChanged;  // an open document is changed
-        std::function<bool()> anyRecipe;   // the database holds a recipe
+        std::function<bool()> anyChanged;  // true if an open document has changes
+        std::function<bool()> anyRecipe;   // true if the database contains a recipe
     };
-    // bar and clipboard must outlive the object.
+    // bar and clipboard must outlive the object, and so must what questions refer to.
     CommandStates(CommandBar& bar, ClipboardPort& clipboard, Questions questions);
 
-    // The commands on open documents, when the first one comes.
+    // Enables the commands that need an open document. To be called when the first one opens.
     void EnableForDocument();
-    // All commands that need a document are disabled, when the last one has gone.
+    // Disables all commands that need a document. To be called when the last one has closed.
     void DisableAll();
-    // Cut and paste again: the clipboard may have changed.
+    // Updates cut, clear and paste after the clipboard may have changed.
     void ReapplyPaste();
 
     // DocumentCommands
@@ -51,7 +51,7 @@ class CommandStates final : public DocumentCommands {
     CommandBar& bar_;
     ClipboardPort& clipboard_;
     Questions questions_;
-    bool pasteEnabled_ = false;  // what the document said last, whatever the clipboard holds
+    bool pasteEnabled_ = false;  // what the document reported last, regardless of the clipboard
 };
 
 }  // namespace tw

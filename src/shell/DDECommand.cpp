@@ -19,7 +19,7 @@ DDECommand ReadPiece(std::string_view piece) {
     if (split == piece.npos) return command;
     std::string_view rest = piece.substr(split + 1);
     if (rest.ends_with(')')) rest.remove_suffix(1);
-    // Nothing behind the verb is no parameter, where an empty text has one part.
+    // Without this, an empty text after the verb would count as one empty parameter.
     if (rest.empty()) return command;
     for (const std::string_view part : Split(rest, ',')) command.AddParameter(part);
     return command;

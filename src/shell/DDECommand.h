@@ -1,5 +1,5 @@
-// Commands that come from outside, as texts: "[IMPORT(/home/ann/Stout.TWR)]", or bare words such as
-// "Activate".
+// Commands that other programs send as text: "[IMPORT(/home/ann/Stout.TWR)]", or bare words such
+// as "Activate".
 #pragma once
 
 #include <string>
@@ -11,18 +11,18 @@ namespace tw {
 class DDECommand {
   public:
     void ClearParameters() { parameters_.clear(); }
-    // The parameter of that index, counted from 0, trimmed and in upper case. Raises Error beyond the end.
+    // Returns the parameter at index (from 0), trimmed and in upper case. Raises Error if there is none.
     const std::string& Parameters(int index) const { return At(index).upper; }
-    // The same as its sender wrote it, trimmed: file names differ by their case here. Raises Error beyond the
-    // end.
+    // Returns the parameter at index (from 0), trimmed but in the case in which it was sent, as file names
+    // here are case-sensitive. Raises Error if there is none.
     const std::string& ParameterAsSent(int index) const { return At(index).asSent; }
     const std::string& Verb() const { return verb_; }
     int ParameterCount() const { return static_cast<int>(parameters_.size()); }
 
-    // Both trim the text and turn it into upper case.
+    // Both setters trim the text and convert it to upper case.
     void SetVerb(std::string_view text);
     void AddParameter(std::string_view text);
-    // A parameter that stays as it is.
+    // Adds a parameter without changing it.
     void AddPath(std::string_view path);
 
   private:
@@ -35,10 +35,9 @@ class DDECommand {
     std::vector<Parameter> parameters_;
 };
 
-// The commands of a text, in their order. Each begins at a "[" or the text's start; its verb ends at the
-// first
-// "(" or blank, and its parameters are separated by commas. Quotes protect nothing, so that a comma in a path
-// cuts it, on purpose. Any text is read; pieces of blanks alone are passed over.
+// Returns the commands in text, in order. Each begins at a "[" or at the start of the text; its verb ends at
+// the first "(" or blank, and its parameters are separated by commas. Quotes protect nothing, so a comma
+// splits a path; only ChannelMessage::File can send such a path. Accepts any text and skips blank pieces.
 std::vector<DDECommand> ReadDDECommands(std::string_view text);
 
 }  // namespace tw

@@ -44,7 +44,7 @@ void DatabaseNotices::DeletionEnded() {
     try {
         states_.CheckEnableDelete();
     } catch (const Error&) {
-        // It comes on top of an error that is being told already; the commands stay as they are.
+        // This error follows another one that is already being reported; the commands keep their state.
         return;
     }
 }

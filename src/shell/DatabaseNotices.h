@@ -1,5 +1,5 @@
-// Passes each notice of the database on: to the recent list first, then to every open document in the order
-// of their opening.
+// Forwards each notice of the database: to the recent list first, then to every open document, in the order
+// in which they were opened.
 #pragma once
 
 #include "shell/CommandStates.h"
@@ -12,7 +12,7 @@ namespace tw {
 
 class DatabaseNotices final : public ObjectListener {
   public:
-    // browse is what the open and save dialog showed last. All must outlive the object.
+    // browse is the last state of the open and save dialog. All arguments must outlive the object.
     DatabaseNotices(DocumentManager& documents, RecentList& recent, OpenSaveFields& browse,
                     CommandStates& states)
         : documents_(documents), recent_(recent), browse_(browse), states_(states) {}

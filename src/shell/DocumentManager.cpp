@@ -21,7 +21,7 @@ bool DocumentManager::AnyChanged() const {
 }
 
 RecipeDocument& DocumentManager::Create(DocumentHost& host, Database& database) {
-    // The counter rises for every window, so that untitled numbers skip where recipes were opened: intended.
+    // Every window has a number, so untitled recipes skip the numbers of windows that show stored ones.
     ++windowCounter_;
     documents_.push_back(
         std::make_unique<RecipeDocument>(host, platform_, database, colors_, windowCounter_));

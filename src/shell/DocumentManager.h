@@ -1,4 +1,4 @@
-// The open documents: their order, which one is active, and how they come and go.
+// The open documents: their order, the active one, and how they are opened and closed.
 #pragma once
 
 #include <cstddef>
@@ -16,33 +16,34 @@ namespace tw {
 
 class DocumentManager {
   public:
-    // removed is told of each document that goes, while it still exists. All must outlive the object.
+    // removed is called with each document that is being removed, while it still exists. All arguments must
+    // outlive the object.
     DocumentManager(Platform& platform, const ColorTable& colors, CommandStates& states, ViewSlot& view,
                     std::function<void(const RecipeDocument&)> removed);
 
-    // In the order of their opening.
+    // Returns the documents in the order in which they were opened.
     const std::vector<std::unique_ptr<RecipeDocument>>& All() const { return documents_; }
-    // nullptr without a document.
+    // Returns nullptr if no document is open.
     RecipeDocument* Active() const { return active_; }
-    // The first one that was opened under exactly that name, or has been saved under it; nullptr without one.
+    // Returns the first document that was opened or last saved under exactly that name, or nullptr.
     RecipeDocument* Find(std::string_view origName) const;
     bool AnyChanged() const;
 
-    // A new blank document in a window; it becomes the active one. REQUIRES: host and database outlive it.
+    // Opens a new blank document in a window and makes it the active one. REQUIRES: host and database
+    // outlive it.
     RecipeDocument& Create(DocumentHost& host, Database& database);
-    // Makes it the active one, and shows its window.
+    // Makes the document the active one and shows its window.
     void Activate(RecipeDocument& document);
-    // Removes the document without a question and destroys it. The document used before it becomes active;
-    // with the last one the document commands are disabled.
+    // Closes and destroys the document without asking. If it was active, the most recently active of the
+    // others becomes active; after the last one, the document commands are disabled.
     void Remove(RecipeDocument& document);
 
-    // A notice may end in a document that opens or closes others, so that the collection is looked at anew
-    // each time.
+    // Calls notice for every document. Iterates by index, as notice may open or close documents.
     template <class Notice>
     void ForEach(Notice notice) {
         for (std::size_t i = 0; i < documents_.size(); ++i) notice(*documents_[i]);
     }
-    // Styles or ingredients have changed: the documents read their lists again.
+    // Styles or ingredients have changed: makes the documents read their lists again.
     void CatalogueChanged();
 
   private:

@@ -11,7 +11,7 @@ void ExchangeDesk::RebuildTree() {
     const ScopeGuard update([this] { notice_.Update(); });
     data_.tree.Reload();
     states_.CheckEnableDelete();
-    // The empty main window tells what can be done next.
+    // The empty main window suggests what to do next, which may have changed.
     if (documents_.Active() == nullptr) view_->DocumentActivated(nullptr);
 }
 
@@ -49,7 +49,7 @@ void ExchangeDesk::ImportFromPath(std::string_view path) {
     RunShowingErrors(data_.platform.messages, [&] {
         const std::string asGiven(path);
         if (IsFile(asGiven)) return ImportFile(asGiven);
-        // Only a path that began with a quote is worth a box: this asymmetry is intended.
+        // A path without a leading quote is ignored if there is no such file; scripts rely on that.
         if (!path.starts_with('"')) return;
         const std::string file(Unquoted(path));
         if (IsFile(file)) return ImportFile(file);

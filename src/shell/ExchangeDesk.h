@@ -1,4 +1,4 @@
-// Recipe files: what the program does around an import or export, and files that reach it by their path.
+// Import and export of recipe files within the program, and files that other programs pass by path.
 #pragma once
 
 #include <cstdint>
@@ -20,34 +20,35 @@ class RecipeExchange;
 
 class ExchangeDesk {
   public:
-    // All must outlive the object.
+    // All arguments must outlive the object.
     ExchangeDesk(OpenedDatabase& data, DocumentManager& documents, CommandStates& states, OwnFiles& own,
                  StatusNotice& notice, ViewSlot& view)
         : data_(data), documents_(documents), states_(states), own_(own), notice_(notice), view_(view) {}
 
-    // All of these show what goes wrong in boxes, and do nothing while another one of them runs.
+    // All of these functions show their errors in message boxes, and do nothing while another of them
+    // is running.
 
-    // With all dialogs.
+    // Both show all their dialogs, beginning with that of the file or of the recipes.
     void Import();
     void Export();
-    // Asks for the recipes and the folder in dialogs.
+    // Shows the dialogs that ask for the recipes and the folder.
     void ImportFile(const std::string& path);
-    // No names stand for all of the file.
+    // Without names, imports all recipes of the file.
     void ImportRecipes(const std::string& path, std::int64_t folderId,
                        const std::optional<std::vector<std::string>>& names);
-    // append adds to a file that exists instead of replacing it.
+    // If append is true, adds to an existing file instead of replacing it.
     void ExportRecipes(const std::string& path, bool append, const std::vector<std::string>& names);
-    // A file by its path, as the command line, a drop or another program tells it: imports it, even by the
-    // path without the quotes around it. One that is missing is told only when its path began with a quote:
-    // intended. Errors are shown as RunShowingErrors does.
+    // Imports a file whose path comes from the command line, a drop or another program; quotes around the
+    // path are removed if there is no file under the path as given. Reports a missing file only if the path
+    // began with a quote; scripts rely on that. Shows errors as RunShowingErrors does.
     void ImportFromPath(std::string_view path);
-    // Whether recipes are being copied from or to a file.
+    // True while recipes are being imported or exported.
     bool IsRunning() const { return running_; }
 
   private:
-    // Runs one import or export; none within another one.
+    // Runs one import or export, unless another one is running.
     void Run(const std::function<void(RecipeExchange&)>& operation);
-    // Brings the tree and what stands on it in line with the database.
+    // Reads the tree from the database again, and updates whatever depends on it.
     void RebuildTree();
 
     OpenedDatabase& data_;

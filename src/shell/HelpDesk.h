@@ -1,4 +1,4 @@
-// The help as the main window opens it.
+// Opens the help from the main window.
 #pragma once
 
 #include <string_view>
@@ -11,13 +11,14 @@ namespace tw {
 
 class HelpDesk {
   public:
-    // All must outlive the object.
+    // All arguments must outlive the object.
     HelpDesk(const ShellEnvironment& environment, const DocumentManager& documents, ViewSlot& view)
         : environment_(environment), documents_(documents), view_(view) {}
 
-    // What F1 does in a window; an error is shown.
+    // Shows the page that F1 opens in a window, or its error.
     void ShowContextHelp(std::string_view formName, std::string_view context);
-    // The page of the active document's tab; the home page without one, and while it is minimised.
+    // Shows the page of the active document's tab, or the home page if there is no active document or its
+    // window is minimised.
     void ShowForActive();
     void ShowContents();
 

@@ -1,4 +1,4 @@
-// The dialog in which the recipes to import or export are picked (frmImportExport).
+// The dialog that selects recipes to import or export (frmImportExport).
 #pragma once
 
 #include <string>
@@ -9,16 +9,16 @@
 
 namespace tw {
 
-// treeRecipes shows and takes the key of an entry; lstRecipes shows the names picked, each ended by a line
-// feed, and takes one of them; chkAppend, which takes an entry in an export alone; cmdNext, which is off
-// while nothing is picked; cmdCancel; the buttons of the chooser.
+// treeRecipes contains and accepts the key of an entry. lstRecipes contains the names of the picked recipes,
+// each followed by a line feed, and accepts one of them. chkAppend accepts entries only for an export.
+// cmdNext is disabled while nothing is picked. The other buttons are cmdCancel and those of the chooser.
 class ImportExportModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmImportExport";
 
-    // Picks from the recipes of that tree: of the main database for an export, of a recipe file for an
-    // import. Its folders, or all recipes of the file, are chosen in it. REQUIRES: the tree lives for as
-    // long.
+    // Offers the recipes of tree, which is that of the main database for an export and that of a recipe file
+    // for an import. In the tree the brewer picks its folders, or all recipes of the file. REQUIRES: tree
+    // outlives the object.
     ImportExportModel(const TWTree& tree, bool isImport);
 
     bool IsImport() const { return isImport_; }
@@ -26,10 +26,10 @@ class ImportExportModel final : public FormModel {
     std::string Caption() const { return isImport_ ? "Import Recipes" : "Export Recipes"; }
     RecipeChooser& Recipes() { return recipes_; }
     const RecipeChooser& Recipes() const { return recipes_; }
-    // chkAppend, of an export alone: whether the recipes go into a file that exists beside those in it.
+    // The state of chkAppend, used only for an export: true if recipes are to be added to an existing file.
     bool Append() const { return append_; }
     void SetAppend(bool append) { append_ = append; }
-    // True while something is picked, which cmdNext needs.
+    // True if something is picked, as cmdNext requires.
     bool NextEnabled() const { return recipes_.SelectionCount() > 0; }
 
   private:

@@ -1,13 +1,13 @@
-// Paths of recipe files as they come from outside, quoted or not.
+// Paths of recipe files as other programs send them, with or without quotes.
 #pragma once
 
 #include <string_view>
 
 namespace tw {
 
-// True when there is a file at path; a folder is none.
+// True if path is that of a regular file, not of a folder.
 bool IsFile(std::string_view path);
-// path without a double quote at its start, and then without one at its end.
+// Returns path without a leading double quote and, if there was one, without a trailing one.
 std::string_view Unquoted(std::string_view path);
 
 }  // namespace tw

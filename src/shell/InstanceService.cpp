@@ -17,7 +17,7 @@ constexpr std::string_view kFatalError = "Fatal Error!";
 constexpr std::string_view kAlreadyRunning = "Already Running";
 
 std::size_t BytesOf(const DDECommand& command) {
-    // Each parameter is kept twice, as it was sent and in upper case.
+    // Each parameter is stored twice, as it was sent and in upper case.
     std::size_t bytes = command.Verb().size();
     for (int i = 0; i < command.ParameterCount(); ++i)
         bytes += command.ParameterAsSent(i).size() + command.Parameters(i).size();
@@ -38,7 +38,7 @@ StartTest InstanceService::InitDDE(std::string_view path) {
     StartTest found = StartTest::OnlyInstance;
     if (name == ChannelPort::Name::Failed) found = Fail(kFatalInitError, "Could not register DDE service!");
     if (name == ChannelPort::Name::HeldByOther) {
-        // The box stands inside the lock, so that a third start waits until it has been answered.
+        // The message is shown while the lock is held, so that a third start waits until it is answered.
         handedOver_ = HandOver(path);
         found = handedOver_ ? StartTest::HandedOver : StartTest::Failed;
         ShutdownDDE();
@@ -100,7 +100,7 @@ bool InstanceService::ParseDDECommand(std::string_view text) {
     std::vector<DDECommand> commands = ReadDDECommands(text);
     std::erase_if(commands, [](const DDECommand& command) { return command.Verb() == kActivate; });
     const bool taken = Queue(std::move(commands));
-    // Also when they are refused: the box that they wait for is there to be closed.
+    // Even if the queue is full: the brewer can then close the dialog for which it is waiting.
     host_.BringToFront();
     return taken;
 }
@@ -138,7 +138,8 @@ void InstanceService::TickDDE() {
 void InstanceService::Carry(const DDECommand& command) {
     if (command.Verb() != kImport) return;
     for (int i = 0; i < command.ParameterCount(); ++i) {
-        // Parameters are in upper case, which names no file here unless its name is.
+        // File names are case-sensitive here, so the upper-case form is used only if there is no file of the
+        // name as sent.
         const std::string& sent = command.ParameterAsSent(i);
         const bool named = IsFile(sent) || IsFile(Unquoted(sent));
         host_.ImportFromPath(named ? sent : command.Parameters(i));

@@ -1,5 +1,5 @@
-// One program on a desktop, and the commands that reach it from outside: the test at the start, the queue,
-// and the timer that works it off.
+// Keeps one instance of the program on a desktop, and receives commands from outside: the test at start-up,
+// the command queue, and the timer that processes it.
 #pragma once
 
 #include <cstddef>
@@ -13,70 +13,70 @@
 namespace tw {
 
 inline constexpr int kDDETickMilliseconds = 250;
-// How long a start waits for the answer of the program that runs.
+// How long a start waits for the answer of the running instance.
 inline constexpr int kSendMilliseconds = 5000;
-// So much may wait, while a box is open or a start is not over: commands, their parameters counted too, and
-// the bytes of their texts.
+// Limits of the queue, which grows while a dialog is open or before the start is complete: the number of
+// commands, where a command counts once per parameter, and the bytes of their texts.
 inline constexpr std::size_t kMostWaiting = 10000;
 inline constexpr std::size_t kMostWaitingBytes = 16 << 20;
 
-// What the commands act on.
+// The program on which the commands act.
 class InstanceHost {
   public:
     virtual ~InstanceHost() = default;
-    // A window other than the main window and the recipes' windows is active.
+    // True if a window other than the main window and the recipe windows is open.
     virtual bool IsDialogOpen() const = 0;
     virtual void BringToFront() = 0;
-    // Imports the file of that path; shows its own errors.
+    // Imports the file at path and shows its own errors.
     virtual void ImportFromPath(std::string_view path) = 0;
-    // A command has been queued: TickDDE is due every kDDETickMilliseconds until the queue is empty.
+    // A command has been queued: TickDDE must be called every kDDETickMilliseconds until the queue is empty.
     virtual void CommandsWait() = 0;
 };
 
-// What a start has found.
+// The result of the test at start-up.
 enum class StartTest {
     OnlyInstance,
-    HandedOver,  // another one runs and has been told
-    Failed,      // the box has been shown: there is no channel, or the other one does not answer
+    HandedOver,  // another instance is running and has been notified
+    Failed,      // a message has been shown: no channel, or the other instance gave no answer or refused
 };
 
 class InstanceService final : public ChannelReceiver {
   public:
-    // Both must outlive the object.
+    // Both arguments must outlive the object.
     InstanceService(InstanceHost& host, MessagePort& messages) : host_(host), messages_(messages) {}
 
-    // The channel of this program; it must outlive the object. Without one nothing is tested and nobody
-    // heard.
+    // Sets the channel of this program, which must outlive the object. Without a channel there is no test at
+    // start-up, and no commands are received.
     void SetChannel(ChannelPort* channel) { channel_ = channel; }
-    // The test at the start, once. Where another program runs it is told to come to the front, or to import
-    // the file of path if that is not blank; only a start without a path is worth a box then. A start that
-    // may not go on is to end at once.
+    // Runs the test at start-up; to be called once. If another instance is running, it is told to come to the
+    // front or, if path is not blank, to import the file at path; only without a path does this instance show
+    // a message about it. Unless the result is OnlyInstance, the program must end at once.
     StartTest InitDDE(std::string_view path);
-    // Whether that test has found another program, which has been told.
+    // True if that test has notified another instance.
     bool HandedOver() const { return handedOver_; }
-    // Hears no more, and drops what waits.
+    // Stops receiving, and drops queued commands.
     void ShutdownDDE();
 
-    // ChannelReceiver: commands are taken at once, an empty text does nothing at all.
+    // ChannelReceiver. Commands are queued at once; an empty text has no effect.
     bool AcceptsTopic(std::string_view topic) override;
     bool Receive(ChannelMessage kind, std::string_view text) override;
 
-    // Queues the commands of a text and brings the main window to the front, whatever they are; ACTIVATE is
-    // that alone and never waits. False, and none of them is queued, when too much would wait then.
+    // Queues the commands in text and brings the main window to the front, whatever they are. ACTIVATE does
+    // only the latter and is never queued. False, without queuing any, if the queue would exceed its limits.
     bool ParseDDECommand(std::string_view text);
     bool AddDDECommand(DDECommand command);
     int DDECommandCount() const { return static_cast<int>(commands_.size()); }
 
-    // Switches the ticks (tmrProcessDDE), which are off at first. Commands that come meanwhile wait.
+    // Switches the ticks (tmrProcessDDE) on or off; they are off at first. Meanwhile commands are queued.
     void SetTicking(bool on) { ticking_ = on; }
-    // Works the queue off unless a dialog is open. Commands that come during that wait for the next tick;
-    // unknown verbs are dropped without a word.
+    // Processes the queue unless a dialog is open. Commands that arrive during that are left for the next
+    // tick; unknown verbs are ignored.
     void TickDDE();
 
   private:
     StartTest Fail(std::string_view title, std::string_view text);
     bool HandOver(std::string_view path);
-    // All of the commands or none, as ParseDDECommand.
+    // Queues all of the commands or none, as ParseDDECommand does.
     bool Queue(std::vector<DDECommand> commands);
     void Carry(const DDECommand& command);
 
@@ -87,7 +87,7 @@ class InstanceService final : public ChannelReceiver {
     bool handedOver_ = false;
     bool ticking_ = false;
     std::vector<DDECommand> commands_;
-    std::size_t waiting_ = 0;  // of kMostWaiting
+    std::size_t waiting_ = 0;  // queued commands, limited by kMostWaiting
     std::size_t waitingBytes_ = 0;
 };
 

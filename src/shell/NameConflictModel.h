@@ -1,4 +1,5 @@
-// Asks what to do with a recipe whose name is taken where it is copied to (frmNameConflict).
+// The dialog that asks what to do with a copied recipe whose name already exists at its destination
+// (frmNameConflict).
 #pragma once
 
 #include <string>
@@ -9,13 +10,14 @@
 
 namespace tw {
 
-// lblName; txtNewName; lblRename, lblSkip and lblAbort; cmdOverwrite, cmdAbort, cmdSkip, and cmdRename, which
-// stays open for a blank name and for the old one. The close box aborts.
+// The controls are lblName, txtNewName, lblRename, lblSkip and lblAbort. The buttons are cmdOverwrite,
+// cmdAbort, cmdSkip, and cmdRename, which keeps the dialog open if the new name is blank or unchanged. The
+// close box aborts.
 class NameConflictModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmNameConflict";
 
-    // dirIn tells an import from an export. messages must outlive the dialog.
+    // dirIn is true for an import, false for an export. messages must outlive the dialog.
     NameConflictModel(std::string recipeName, bool dirIn, MessagePort& messages);
 
     const ConflictAnswer& Result() const { return answer_; }
@@ -31,7 +33,7 @@ class NameConflictModel final : public FormModel {
   private:
     std::string Word() const { return dirIn_ ? "Import" : "Export"; }
     std::string SmallWord() const { return dirIn_ ? "import" : "export"; }
-    // Closes the dialog with that answer.
+    // Closes the dialog with that response.
     void EndWith(ConflictResponse response);
     void Rename();
 

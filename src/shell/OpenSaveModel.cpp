@@ -48,7 +48,7 @@ void OpenSaveModel::DeclareControls() {
 }
 
 void OpenSaveModel::DeclareButtons() {
-    // A save under the open dialog has given rows new keys.
+    // A save while the dialog was open may have given rows new keys.
     const auto run = [this](auto command) {
         return [this, command] {
             list_.FollowSaves();
@@ -113,7 +113,7 @@ void OpenSaveModel::GoBack() {
     while (!history_.empty()) {
         const std::string key = history_.back();
         history_.pop_back();
-        // It may have gone meanwhile.
+        // The folder may have been deleted since.
         if (HasFolder(key)) return GoTo(key);
     }
 }
@@ -198,7 +198,7 @@ bool OpenSaveModel::AcceptsToOpen(const std::string& name) {
         messages.ShowMessage("Recipe not found", "No recipe named '" + name + "' exists.");
         return false;
     }
-    // The wording is intended.
+    // The missing word is part of the wording, on which scripts rely.
     return style_ == Style::Open ||
            messages.Ask("Confirm Delete", "Are you sure want to delete the recipe '" + name + "'?",
                         Question::YesNo) == Answer::Yes;
@@ -252,7 +252,7 @@ bool OpenSaveModel::EnterLabel(std::string_view newName) {
 }
 
 void OpenSaveModel::Ok() {
-    // A folder that was chosen without a name being typed is entered.
+    // A selected folder is entered, unless a name has been typed since.
     const std::string key = list_.SelectedKey();
     if (nameTouched_ || !EnterFolder(key)) AcceptName();
 }

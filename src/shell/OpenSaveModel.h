@@ -1,5 +1,5 @@
-// The open and save dialog (frmOpenSave) in its three styles: the recipe folders take the place of
-// directories.
+// The dialog that opens, saves or deletes recipes (frmOpenSave); recipe folders take the place
+// of directories.
 #pragma once
 
 #include <cstdint>
@@ -15,50 +15,50 @@ namespace tw {
 
 // What the shell keeps of the dialog from one use to the next.
 struct OpenSaveFields {
-    std::string nodeKey{kRecipeFoldersKey};  // of the folder shown last
+    std::string nodeKey{kRecipeFoldersKey};  // the key of the folder shown last
     ListLook look;
 };
 
-// icmbFolder shows the name of the current folder and takes a folder's key, or the name of one that it lists;
-// lvNames shows and takes the name of the chosen row; txtName; FolderID, which shows only when the dialog
-// saves, takes the id of a recipe folder, -1 for all recipes; txtFind takes what to look for; txtLabel takes
-// the new name of the row that is being edited, which ends the edit. The buttons, and the items of the menu
-// by their control names; cmdOK stays open for what it refuses.
+// icmbFolder contains the name of the current folder and accepts a folder's key, or the name of one that it
+// lists. lvNames contains and accepts the name of the selected row. txtName contains the name. FolderID
+// accepts the id of a recipe folder, -1 for all recipes; it is shown only when saving. txtFind accepts the
+// text to find. txtLabel accepts the new name of the row being edited, which ends the edit. The buttons, and
+// the menu items by their control names, can be pressed; cmdOK keeps the dialog open if it refuses.
 class OpenSaveModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmOpenSave";
 
     enum class Style : int { Open, Save, Delete };
 
-    // An entry of icmbFolder: the folders from the root down to the current one.
+    // An entry of icmbFolder, which lists the folders from the root down to the current one.
     struct FolderEntry {
         std::string key, name;
         NodeIcon icon = NodeIcon::None;
     };
 
-    // Starts in the folder of the fields when it opens, in all recipes when it deletes, in the root folder
-    // when it saves; a folder that is no longer there gives way to all recipes, or to the root folder when it
-    // saves. REQUIRES: what access names lives for as long.
+    // Initially shows all recipes to delete, the root folder to save, and the folder of fields to open, or
+    // all recipes if that folder no longer exists. REQUIRES: the objects of access outlive the dialog.
     OpenSaveModel(Style style, const ObjectAccess& access, const OpenSaveFields& fields);
 
-    // What the dialog starts with when it saves: the name in the box and the folder; the root folder for a
-    // recipe that was never saved, which has a negative id.
+    // Sets the initial name and folder for saving: the root folder if there is no such folder, as for a
+    // recipe that was never saved, whose folderId is negative.
     void SetRecipe(std::string_view name, std::int64_t folderId);
 
     Style Action() const { return style_; }
-    // "Open Recipe"; "Save '{name}' As..." for a named recipe, else "Save Recipe"; "Delete Recipe".
+    // Returns "Open Recipe"; "Save '{name}' As..." for a named recipe, else "Save Recipe"; or
+    // "Delete Recipe".
     std::string Caption() const;
-    // "&Open", "&Save" or "&Delete".
+    // Returns "&Open", "&Save" or "&Delete".
     std::string OkCaption() const;
 
-    // The accepted name, trimmed; empty when cancelled.
+    // The accepted name, trimmed; empty if cancelled.
     const std::string& BeerName() const { return beerName_; }
-    // Of the current folder; negative for one that holds no recipe of its own.
+    // The id of the current folder; negative if it is not a folder in which recipes are stored.
     std::int64_t FolderID() const;
     const std::string& NodeKey() const { return list_.Key(); }
     OpenSaveFields Fields() const { return {NodeKey(), look_}; }
 
-    // What the window shows.
+    // The displayed state.
     NodeList& List() { return list_; }
     const ListLook& Look() const { return look_; }
     std::vector<FolderEntry> Folders() const;
@@ -66,23 +66,25 @@ class OpenSaveModel final : public FormModel {
     using FormModel::IsEnabled;
     bool IsEnabled(PopupCommand command) const { return IsEnabled(NameOf(command)); }
 
-    // What the brewer does.
+    // The brewer's actions.
 
-    // Does what the item of the menu does; nothing while it is disabled. False for one of another window.
+    // Runs the menu item. Does nothing while it is disabled; false if the item belongs to another window.
     bool Run(PopupChoice choice) { return Press(NameOf(choice)); }
-    // Enters a folder that the dialog shows; the way back leads here. False for any other key.
+    // Enters a folder that the dialog can show, and remembers the present one for cmdBack. False for any
+    // other key.
     bool EnterFolder(std::string_view key);
-    // A row has been chosen: a recipe's name goes into the box.
+    // A row has been selected: copies a recipe's name to the name box.
     void RowChosen();
-    // A double click on the chosen row, or Enter: enters a folder, takes a recipe and runs cmdOK.
+    // Double-clicks the selected row, or presses Enter on it: enters a folder, or accepts a recipe as
+    // cmdOK does.
     void OpenRow();
-    // Narrows the list to the recipes that hold the words, a text without a word shows the folder again.
+    // Limits the list to the recipes that contain the words; a text without a word shows the folder again.
     void Find(std::string_view text) { list_.Find(text); }
-    // The name that was typed over a row. False when it was refused, which has been told.
+    // Renames the row being edited. False if the name was refused, after a message.
     bool RenameRow(std::string_view newName);
-    // Whether these rows may be dropped on that row.
+    // True if these rows may be dropped on that row.
     bool CanDrop(const std::vector<std::string>& keys, std::string_view targetKey) const;
-    // Moves them, in their order, until one is refused; those moved leave the list.
+    // Moves the rows, in order, until a move is refused; moved rows are removed from the list.
     void Drop(const std::vector<std::string>& keys, std::string_view targetKey);
     void CloseBox() override;
 
@@ -111,11 +113,11 @@ class OpenSaveModel final : public FormModel {
     ObjectAccess access_;
     ListLook look_;
     NodeList list_;
-    std::vector<std::string> history_;  // folders left, the last one last
+    std::vector<std::string> history_;  // folders for cmdBack, the latest last
     std::string text_;                  // txtName
-    std::string recipe_;                // name of the recipe that is being saved
+    std::string recipe_;                // the name of the recipe being saved
     std::string beerName_;
-    bool nameTouched_ = false;  // typed in since a row was chosen
+    bool nameTouched_ = false;  // edited since a row was selected
 };
 
 }  // namespace tw

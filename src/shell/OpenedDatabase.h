@@ -1,4 +1,4 @@
-// The database of the program with what is read from it. It exists while the database is open.
+// The open database of the program, with what is read from it.
 #pragma once
 
 #include <functional>
@@ -14,25 +14,25 @@
 namespace tw {
 
 struct OpenedDatabase {
-    // The tree is empty at first: tree.InitFromDatabase reads it. listener hears of every operation on
-    // folders, styles and recipes; treeRead runs whenever the tree has been read anew, or could not be.
+    // The tree is empty until tree.InitFromDatabase reads it. listener is notified of every operation on
+    // folders, styles and recipes; treeRead is called after each attempt to read the tree, successful or not.
     OpenedDatabase(std::unique_ptr<Database> opened, Platform& ports, ObjectListener& listener,
                    std::function<void()> treeRead);
 
-    // The database named by path, opened exclusively; ":memory:" makes an empty one of the full schema.
-    // Raises the store's error.
+    // Opens the database at path exclusively; ":memory:" creates an empty one with the full schema. Raises
+    // the store's error.
     static std::unique_ptr<Database> Open(const std::string& path);
     static bool IsInMemory(const std::string& path);
 
     bool HasRecipes() { return !database->OpenRecordset("SELECT * FROM RECIPES").AtEnd(); }
-    // What the windows on folders, recipes and styles work on.
+    // Returns what the dialogs for folders, recipes and styles need.
     ObjectAccess Access() { return {*database, tree, objects, platform}; }
 
     Platform& platform;
     const std::unique_ptr<Database> database;
     TWTree tree;
-    TreeObjects treeObjects;  // changes tree
-    DB_IO objects;            // the operations, which keep tree in step
+    TreeObjects treeObjects;  // modifies tree
+    DB_IO objects;            // the operations, which update tree
 };
 
 }  // namespace tw

@@ -39,12 +39,12 @@ std::string YesNo(bool yes) {
     return yes ? "yes" : "no";
 }
 
-// "optIcons" of "optIcons(2)".
+// Returns "optIcons" for "optIcons(2)".
 std::string_view GroupOf(std::string_view option) {
     return option.substr(0, option.find('('));
 }
 
-// Digits beyond every number are a whole number all the same; its value does not matter then.
+// A number too large to represent still counts as a whole number; its value does not matter.
 std::optional<double> ReadWhole(std::string_view text) {
     try {
         return ParseWholeNumber(text);
@@ -121,7 +121,7 @@ void OptionsModel::Add(Control entry) {
 }
 
 void OptionsModel::AddList(std::string_view name, std::vector<std::string> entries, int index) {
-    // A stored number that names no entry counts as the first.
+    // A stored number without an entry selects the first.
     const bool known = index >= 0 && index < static_cast<int>(entries.size());
     std::string text = entries[known ? static_cast<std::size_t>(index) : 0];
     Add({Kind::List, std::string(name), std::move(text), std::move(entries)});
@@ -257,7 +257,7 @@ bool OptionsModel::PressUpDown(std::string_view direction) {
 
 bool OptionsModel::TakeEntry(std::string_view name, std::string_view text) {
     if (focused_ != name) {
-        // A refused field has its old text again and can be left.
+        // A refused field has its old text again, so the focus can leave it.
         LeaveField();
         focused_.clear();
     }
@@ -313,8 +313,9 @@ void OptionsModel::ResetColors() {
 
 void OptionsModel::Ok() {
     if (!focused_.empty()) {
-        // What tells a refusal is that the text has changed. A bad text that was stored is put back as it
-        // was, so its box is all that comes of it: intended.
+        // A refusal is detected by the change of text. If a bad stored text is refused, it is restored
+        // unchanged, so the message appears but the dialog closes: on purpose, as the brewer did not enter
+        // that text.
         const Control& field = Find(focused_);
         const std::string typed = field.text;
         LeaveField();

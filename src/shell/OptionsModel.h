@@ -1,5 +1,5 @@
-// The options dialog (frmOptions): edits most values of the section "Settings". Nothing reaches the settings
-// before cmdOK.
+// The options dialog (frmOptions), which edits most values of the section "Settings". The settings change
+// only with cmdOK.
 #pragma once
 
 #include <functional>
@@ -16,49 +16,50 @@ namespace tw {
 class Database;
 class SettingsInUse;
 
-// The controls stand in the order of the tabs. Lists show the text of their choice and take one of their
-// entries; check boxes and option buttons show "yes" or "no"; the color pictures show decimal numbers and
-// take one from 0 to 16777215, of which 0 (black) is kept as 1, since 0 stands for no color; UpDown1 takes
-// "up" or "down". An entry moves the focus to its control, so that the field left behind is checked; a
-// disabled control takes its entry all the same, so that a script can name the controls in any order. cmdOK
-// stays open when the field with the focus is refused; cmdCancel; mnuResetColors sets the four pictures back
-// to their defaults, as if no color had ever been chosen.
+// The controls are in the order of the tabs. Lists contain the text of their choice and accept one of their
+// entries. Check boxes and option buttons contain "yes" or "no". Color pictures contain a decimal number and
+// accept one from 0 to 16777215; 0 (black) is stored as 1, since 0 means no color. UpDown1 accepts "up" or
+// "down". An entry moves the focus to its control, so that the field that had it is checked. A disabled
+// control accepts entries all the same, so that scripts can name controls in any order. cmdOK keeps the
+// dialog open if it refuses the field with the focus. cmdCancel closes it. mnuResetColors resets the four
+// pictures to the defaults, as if no color had been chosen.
 class OptionsModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmOptions";
 
-    // Fills the controls from the settings, and the list of water profiles from the database. All must
-    // outlive the dialog.
+    // Fills the controls from the settings, and the list of water profiles from the database. All arguments
+    // must outlive the dialog.
     OptionsModel(SettingsInUse& settings, Database& database, MessagePort& messages);
 
-    // Fills cmbWaterProfile: an empty entry, then the names of the catalogue. A stored profile that no longer
-    // exists selects nothing.
+    // Fills cmbWaterProfile with an empty entry and the names in the catalogue. Selects the empty entry if
+    // the stored profile no longer exists.
     void PopulateWaterProfiles();
 
-    // What a control shows, in the form of Controls. REQUIRES: the control exists.
+    // Returns the content of a control, in the form described above. REQUIRES: the control exists.
     const std::string& Text(std::string_view name) const { return Find(name).text; }
-    // The entries of a list. REQUIRES: the list exists.
+    // Returns the entries of a list. REQUIRES: the list exists.
     const std::vector<std::string>& Entries(std::string_view list) const { return Find(list).entries; }
-    // A colour of the grids: 32 bits in blue-green-red order. REQUIRES: the picture exists.
+    // Returns a colour of the grids as 0xBBGGRR. REQUIRES: the picture exists.
     int Color(std::string_view picture) const;
-    // The same, or nothing while the brewer has chosen none: the grids show a tint of the desktop's colours
-    // then.
+    // Returns the same colour, or nullopt if the brewer has not chosen one; the grids then use a tint of the
+    // desktop's colours.
     std::optional<int> ChosenColor(std::string_view picture) const;
-    // txtSaveInc and its two labels: on while chkAutoSave is checked.
+    // True if txtSaveInc and its two labels are enabled: while chkAutoSave is checked.
     bool SaveIncEnabled() const;
-    // UpDown1: needs a number in txtSaveInc too.
+    // True if UpDown1 is enabled: txtSaveInc must be enabled and contain a number.
     bool UpDownEnabled() const;
 
-    // The text field that has the focus; empty when none has it.
+    // The text field that has the focus; empty if none has it.
     const std::string& FocusedField() const { return focused_; }
-    // A text field gets the focus: it remembers its text.
+    // Moves the focus to a text field and remembers its text.
     void EnterField(std::string_view name);
-    // Checks the text field with the focus, as Enter does. A refused text has had its box; the remembered one
-    // stands there again, and the focus stays. True also when no field has the focus.
+    // Checks the text field with the focus, as Enter does. If its text is refused, shows a message, restores
+    // the remembered text and returns false. True if no field has the focus.
     bool CheckField();
-    // The same as the focus goes elsewhere.
+    // Checks the field likewise and, if it is accepted, removes its focus.
     bool LeaveField();
-    // An arrow of UpDown1: one minute up or down, or a beep at 1 and 60. Nothing while it is off.
+    // Presses an arrow of UpDown1: adds by (1 or -1) minutes, or beeps beyond 1 and 60. Does nothing while
+    // UpDown1 is disabled.
     void StepSaveInc(int by);
 
   private:
@@ -68,7 +69,7 @@ class OptionsModel final : public FormModel {
         std::string name;
         std::string text;
         std::vector<std::string> entries = {};
-        bool chosen = false;  // a colour that is the brewer's, not the default
+        bool chosen = false;  // true if the brewer chose the colour, false for the default
     };
 
     void FillDefaultsTab();

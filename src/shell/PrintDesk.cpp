@@ -14,26 +14,26 @@
 namespace tw {
 namespace {
 
-// Shows the hourglass for the time of a scope.
+// Shows the hourglass until the end of a scope.
 auto Hourglass(PrinterPort& printer) {
     printer.ShowHourglass(true);
     return ScopeGuard([&printer] { printer.ShowHourglass(false); });
 }
 
-// For the time of a scope tmrProcessDDE is off: no command that another program has sent runs in the middle
-// of a job.
+// Stops tmrProcessDDE until the end of a scope, so that no command from another program runs during a job.
 auto PauseOutsideCommands(InstanceService& commands) {
     commands.SetTicking(false);
     return ScopeGuard([&commands] { commands.SetTicking(true); });
 }
 
-// Where PDF files were saved last; nothing is stored before the first one.
+// The folder of the PDF file saved last; not stored before the first one.
 constexpr std::string_view kPrintSection = "Print", kPdfFolderKey = "PDFFolder";
 
-// What fits the name of a file on every usual disk, its ending and the letters of a temporary one included.
+// File names of up to this many bytes, with the extension and the suffix of a temporary file added, are valid
+// on all common file systems.
 constexpr std::size_t kLongestFileName = 200;
 
-// A recipe's name as that of a file.
+// Converts a recipe's name to the name of a file.
 std::string PdfName(std::string_view recipe) {
     std::string name(Trim(recipe));
     for (char& c : name)
@@ -77,7 +77,8 @@ PrinterAnswer::Result PrintDesk::PrintThroughDialog(bool quick) {
             PrintOn(std::move(answer.device));
         }
     } catch (const Error& error) {
-        // A printer without an answer gives no reason; a file that was chosen as the printer does.
+        // If the printer does not answer, no reason is known; if a file was chosen as the printer, there
+        // is one.
         const bool isFile = answer.result != PrinterAnswer::Result::Failed;
         platform_.messages.ShowMessageWithAdvice(
             "Print Error",
@@ -102,7 +103,7 @@ void PrintDesk::PreviewActive() {
     const RecipeRecord& recipe = documents_.Active()->Record();
     PrintPreviewModel preview(
         {[&](PrintSize area) { return LayOutRecipe(recipe, area, Printer().Measure()); },
-         // The dialog's own way to the preview leads back to this one.
+         // The printer dialog can lead to a preview: that is this one, which is still open.
          [this] {
              if (PrintThroughDialog(false) == PrinterAnswer::Result::NoPrinter) OfferPdf();
          },

@@ -1,5 +1,4 @@
-// Paper: printing, its preview, PDF files, and the report wizard. Without a printer port all but the wizard
-// do nothing.
+// Printing, print preview, PDF files, and the report wizard. Without a printer port, only the wizard works.
 #pragma once
 
 #include <memory>
@@ -16,23 +15,25 @@ namespace tw {
 
 class PrintDesk {
   public:
-    // outside is held while a print job runs. All must outlive the object.
+    // The commands of outside wait while the printer dialog is open and during a print job. All arguments
+    // must outlive the object.
     PrintDesk(const ShellEnvironment& environment, InstanceService& outside, OpenedDatabase& data,
               const DocumentManager& documents, SettingsStore& store, OwnFiles& own);
 
-    // Prints the active document, nothing without one; quick takes the default printer without a dialog.
-    // Every failure is shown. Where there is no printer it offers the preview and a PDF file.
+    // Prints the active document, if there is one; quick uses the default printer without a dialog. Shows
+    // every error. If there is no printer, offers the preview and a PDF file instead.
     void PrintActive(bool quick);
-    // Shows the pages of the active document; nothing without one.
+    // Shows the pages of the active document, if there is one.
     void PreviewActive();
-    // The wizard that makes report files, as reportType names them. Its menu item is hidden: intended.
+    // Shows the wizard that creates report files, with that report type selected. Its menu item is hidden on
+    // purpose: the wizard is not offered to the brewer.
     void ShowReportWizard(int reportType);
 
   private:
-    // What the dialog has come to; a printer that was chosen has the job by then.
+    // Returns the result of the dialog; by then, a chosen printer has received the job.
     PrinterAnswer::Result PrintThroughDialog(bool quick);
     void PrintOn(std::unique_ptr<PrinterDevice> device);
-    // Where there is no printer: from the preview, and from elsewhere.
+    // Offer alternatives if there is no printer: OfferPdf from the preview, OfferOtherPaper from elsewhere.
     void OfferPdf();
     void OfferOtherPaper();
     void SaveActiveAsPdf();
@@ -46,7 +47,7 @@ class PrintDesk {
     const DocumentManager& documents_;
     SettingsStore& store_;
     OwnFiles& own_;
-    bool printerConfigured_ = false;  // a printer has been chosen in this run
+    bool printerConfigured_ = false;  // true once a printer has been chosen in this run
 };
 
 }  // namespace tw

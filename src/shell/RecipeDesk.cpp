@@ -25,7 +25,7 @@ RecipeDocument& RecipeDesk::Create(std::string_view name) {
     try {
         document.Storage().Open(name);
     } catch (...) {
-        // A recipe that was read in part must never be saved over the whole one.
+        // A partly read recipe must never be saved over the complete one.
         documents_.Remove(document);
         throw;
     }
@@ -85,7 +85,7 @@ void RecipeDesk::ShowExplorer() {
 
 void RecipeDesk::FollowRecipes() {
     states_.CheckEnableDelete();
-    // What the empty window offers may have changed.
+    // The suggestions in the empty window may have changed.
     if (documents_.Active() == nullptr) view_->DocumentActivated(nullptr);
 }
 

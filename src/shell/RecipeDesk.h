@@ -1,4 +1,4 @@
-// How recipes are opened and deleted: new ones, by name, and in the windows in which they are looked for.
+// Opens and deletes recipes: new ones, by name, and through the dialogs that list them.
 #pragma once
 
 #include <string_view>
@@ -14,20 +14,20 @@ namespace tw {
 
 class RecipeDesk {
   public:
-    // host is what the documents ask of the program, browse what the open and save dialog and the explorer
-    // showed last. All must outlive the object.
+    // host serves the documents; browse is the last state of the open and save dialog and of the explorer.
+    // All arguments must outlive the object.
     RecipeDesk(OpenedDatabase& data, DocumentManager& documents, DocumentHost& host, CommandStates& states,
                CatalogueDesk& catalogue, OpenSaveFields& browse, ViewSlot& view);
 
-    // A new document, or for a name that is not blank one filled from the stored recipe of that name; it
-    // becomes the active one. A recipe that cannot be read raises and leaves no document behind. REQUIRES:
-    // the database holds the recipe.
+    // Opens a document and makes it the active one: a blank one if name is blank, else one with the stored
+    // recipe of that name. Raises the error of a recipe that cannot be read, and leaves no document behind.
+    // REQUIRES: the database contains the recipe.
     RecipeDocument& Create(std::string_view name);
-    // Opens the recipe, or focuses its open window with a beep when one has exactly that name; a name in
-    // another case opens a second window, on purpose.
+    // Opens the recipe, or activates its window and beeps if a document of exactly that name is open. A name
+    // that differs in case opens a second window, on purpose, as DocumentManager::Find compares exactly.
     void Load(std::string_view name);
-    // What choosing a name does, as in the recent list: a box when there is no such recipe, otherwise Load of
-    // the trimmed name.
+    // Opens the recipe whose name has been chosen, as in the recent list: trims the name and calls Load, or
+    // shows a message if there is no such recipe.
     void OpenByName(std::string_view name);
 
     void ShowOpenDialog();
@@ -35,7 +35,7 @@ class RecipeDesk {
     void ShowExplorer();
 
   private:
-    // Recipes may have gone, or the first one come.
+    // Updates what depends on whether there are any recipes.
     void FollowRecipes();
 
     OpenedDatabase& data_;

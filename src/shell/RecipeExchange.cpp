@@ -42,7 +42,7 @@ std::vector<std::string> AllRecipesOf(const TWTree& tree) {
     return names;
 }
 
-// For the time of a scope, in which a window asks, the progress stands still.
+// Pauses the progress window until the end of a scope in which another dialog is open.
 auto Pause(ProgressModel& progress) {
     progress.SetBusy(false);
     return ScopeGuard([&progress] { progress.SetBusy(true); });
@@ -50,7 +50,7 @@ auto Pause(ProgressModel& progress) {
 
 }  // namespace
 
-// Asks by the dialogs, behind which the progress stands still.
+// Asks through dialogs, while the progress window pauses.
 class RecipeExchange::Host final : public CopyHost {
   public:
     Host(Platform& platform, ProgressModel& progress, bool isImport)
@@ -81,7 +81,7 @@ class RecipeExchange::Host final : public CopyHost {
     Platform& platform_;
     ProgressModel& progress_;
     bool isImport_;
-    bool begun_ = false;  // the first recipe
+    bool begun_ = false;  // true once the first recipe is being copied
 };
 
 bool RecipeExchange::Trap(const std::function<void()>& operation) {
@@ -162,7 +162,8 @@ void RecipeExchange::CopyOut(const std::string& path, std::unique_ptr<Database> 
     try {
         RecipeCopier(main_, file.Contents(), host).ExportRecipes(names);
     } catch (const Error&) {
-        // A new file comes whole or not at all; an older one keeps what was added before the error.
+        // A new file is written completely or not at all; an existing one keeps what was added before
+        // the error.
         if (!isNew) SaveWhatCame(unit, file, target);
         throw;
     }
@@ -175,7 +176,7 @@ void RecipeExchange::SaveWhatCame(UnitOfWork& unit, const ExchangeCopy& file, co
         unit.Commit();
         file.Save(target);
     } catch (const Error&) {
-        // The first error is the one to tell.
+        // Only the first error is reported.
     }
 }
 
@@ -201,8 +202,8 @@ void RecipeExchange::ImportChosen(const std::string& path, const Chooser& choose
     platform_.dialogs.ShowModal(progress);
 }
 
-// The progress goes on while the file is being read. Calling it off ends a long look for the recipes at once,
-// and later waits for the recipe in hand, so that none comes in by halves.
+// Updates the progress window while the file is being read. Cancelling interrupts the search for recipes at
+// once; later it takes effect after the current recipe, so that none is imported in part.
 void RecipeExchange::CopyWatched(Database& file, const Choice& choice, ProgressModel& progress,
                                  StylesNotImported& stylesNotImported) {
     Host host(platform_, progress, true);
@@ -225,7 +226,7 @@ void RecipeExchange::CopyIn(Database& file, const Choice& choice, ProgressModel&
         const auto pause = Pause(progress);
         platform_.dialogs.ShowModal(dialog);
     }
-    // After an error too, so that the tree shows what has been copied before it.
+    // Even after an error, so that the tree shows what has been copied before it.
     Trap(rebuildTree_);
 }
 

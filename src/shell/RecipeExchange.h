@@ -1,4 +1,4 @@
-// Import and export of recipe files: the files, the dialogs in their order, the messages.
+// Import and export of recipe files: reading and writing them, the sequence of dialogs, the messages.
 #pragma once
 
 #include <cstdint>
@@ -22,11 +22,12 @@ namespace tw {
 class ExchangeCopy;
 class ProgressModel;
 
-// A store's error is shown in a box titled "Error"; what was copied before it stays. A file that is no
-// database is told as such. Nothing of that rises.
+// Errors are not raised but shown in a box titled "Error"; recipes copied before the error are kept. A file
+// that is not a database is reported in other words.
 class RecipeExchange {
   public:
-    // rebuildTree brings the global tree in line with the database. REQUIRES: all of them live for as long.
+    // rebuildTree brings the program's tree in line with the database. REQUIRES: all arguments outlive
+    // the object.
     RecipeExchange(Platform& platform, Database& main, DB_IO& objects, const TWTree& tree, OwnFiles& own,
                    std::function<void()> rebuildTree)
         : platform_(platform),
@@ -36,33 +37,33 @@ class RecipeExchange {
           own_(own),
           rebuildTree_(std::move(rebuildTree)) {}
 
-    // With all dialogs. One that is cancelled ends it silently.
+    // Export and import with all dialogs; cancelling one ends the operation without a message.
     void Export();
     void Import();
-    // With the dialogs behind that of the file.
+    // Imports from path, with the dialogs that follow that of the file.
     void ImportFile(const std::string& path);
 
-    // With what the dialogs ask for given. append adds to a file that exists; it is replaced otherwise.
+    // Exports without dialogs. If append is true, adds to an existing file, else replaces it.
     void ExportTo(const std::string& path, bool append, std::span<const std::string> names);
-    // All recipes of the file without names.
+    // Imports without dialogs; without names, all recipes of the file.
     void ImportFrom(const std::string& path, std::int64_t folderId,
                     const std::optional<std::vector<std::string>>& names);
 
   private:
     class Host;
-    // What to import, and where to.
+    // What to import, and into which folder.
     struct Choice {
         std::vector<std::string> names;
         std::int64_t folderId = 0;
     };
-    // Nothing when it is called off.
+    // Returns nullopt if the brewer cancels.
     using Chooser = std::function<std::optional<Choice>(const TWTree& tree)>;
 
-    // nullptr when it has been told that the file is none.
+    // Returns nullptr, after a message, if the file is not a database.
     std::unique_ptr<Database> Open(const std::string& path);
-    // What an export may write. Raises the error of a file that it may not.
+    // Returns the file that an export is to write. Raises Error if it must not be written.
     TargetFile Target(const std::string& path) const;
-    // old is the file that is added to, nullptr for a new one.
+    // old is the file to add to; nullptr for a new one.
     void CopyOut(const std::string& path, std::unique_ptr<Database> old, std::span<const std::string> names,
                  ProgressModel& progress);
     static void SaveWhatCame(UnitOfWork& unit, const ExchangeCopy& file, const TargetFile& target);
@@ -71,7 +72,7 @@ class RecipeExchange {
     void CopyIn(Database& file, const Choice& choice, ProgressModel& progress);
     void CopyWatched(Database& file, const Choice& choice, ProgressModel& progress,
                      StylesNotImported& stylesNotImported);
-    // Runs it; an error is shown and gives false.
+    // Runs operation. If it raises an error, shows it and returns false.
     bool Trap(const std::function<void()>& operation);
 
     Platform& platform_;

@@ -78,7 +78,7 @@ void RecipeSaver::SaveAll() {
 }
 
 bool RecipeSaver::Close(RecipeDocument& document) {
-    // An entry that is still being typed counts, so that it is asked about.
+    // A pending entry is committed first, so that it counts as a change.
     if (!RunShowingErrors(data_.platform.messages, [&] { document.Focus().FlushEdits(); })) return false;
     if (document.Changed()) {
         documents_.Activate(document);
@@ -86,7 +86,7 @@ bool RecipeSaver::Close(RecipeDocument& document) {
             "Recipe '" + document.BeerName() + "' has changed. Do you wish to save your changes?";
         const Answer answer = data_.platform.messages.Ask("Unsaved Changes", question, Question::YesNoCancel);
         if (answer == Answer::Yes) {
-            // A save that could not write its rows reports success and leaves the document changed.
+            // A save that could not write its rows returns true and leaves the document changed.
             if (!Save(document) || document.Changed()) return false;
         } else if (answer != Answer::No) {
             return false;

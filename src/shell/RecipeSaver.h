@@ -1,4 +1,4 @@
-// How open recipes are saved and closed. Every error of a save is shown here.
+// Saves and closes open recipes. Every error of a save is shown here.
 #pragma once
 
 #include <cstdint>
@@ -14,32 +14,34 @@ namespace tw {
 
 class RecipeSaver {
   public:
-    // notices hears when a save that failed may have taken recipes away, browse is what the dialog showed
-    // last. All must outlive the object.
+    // notices is told when a failed save may have deleted recipes; browse is the last state of the open and
+    // save dialog. All arguments must outlive the object.
     RecipeSaver(OpenedDatabase& data, DocumentManager& documents, ObjectListener& notices,
                 OpenSaveFields& browse)
         : data_(data), documents_(documents), notices_(notices), browse_(browse) {}
 
-    // These three give whether the recipe was saved. An error is shown in a box titled "Error". Quietly asks
-    // nothing: a document that was never saved, or whose edited name is another recipe's, is passed over.
+    // Save, SaveAs and SaveUnder return true if the recipe was saved, and show an error in a box titled
+    // "Error". Asking::Quietly asks nothing and skips a document that was never saved, or that was given the
+    // name of another recipe.
     bool Save(RecipeDocument& document, Asking asking = Asking::Aloud);
     // Asks for the name and the folder.
     bool SaveAs(RecipeDocument& document);
-    // SaveAs with the answer of the dialog given.
+    // Saves as SaveAs does, with the dialog's answer given.
     bool SaveUnder(RecipeDocument& document, std::string_view name, std::int64_t folderId,
                    Asking asking = Asking::Aloud);
-    // Each in the order of their opening. One that cannot be saved does not keep the others from it.
+    // Saves the documents in the order in which they were opened. One that cannot be saved does not keep the
+    // others from being saved.
     void SaveAll();
 
-    // Asks about unsaved changes, then closes. False when called off.
+    // Asks about unsaved changes, then closes the document. False if the document stays open.
     bool Close(RecipeDocument& document);
-    // A document that refuses leaves the others unasked; false then.
+    // Closes the documents until one stays open; then returns false without asking about the others.
     bool CloseAll();
 
   private:
-    // Runs a save; an error in it is shown and counts as not saved.
+    // Runs a save. If it raises an error, shows it and returns false.
     bool Try(const std::function<bool()>& save);
-    // Shows what a save has left in the database when it could not write all of it.
+    // Updates the tree after a save that could not write everything.
     void FollowUnfinished(const RecipeDocument& document, bool saved);
 
     OpenedDatabase& data_;

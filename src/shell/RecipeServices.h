@@ -1,4 +1,4 @@
-// What the program does for its open recipes.
+// What the program does on behalf of its open recipes.
 #pragma once
 
 #include "document/DocumentHost.h"
@@ -14,7 +14,7 @@ namespace tw {
 
 class RecipeServices final : public DocumentHost {
   public:
-    // What a recipe's wishes end in. All must outlive the object.
+    // The parts to which requests are forwarded. All must outlive the object.
     struct Parts {
         SettingsInUse& settings;
         DocumentManager& documents;

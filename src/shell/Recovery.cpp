@@ -16,11 +16,11 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kExtension = ".unsaved";
-constexpr std::string_view kUnderWayOnce = ".unsaved.new";  // in earlier releases
+constexpr std::string_view kUnderWayOnce = ".unsaved.new";  // used by earlier releases
 constexpr std::string_view kAside = ".damaged";
-// The file that says whose a folder is: the database's id, a line break, and its path.
+// The owner file of a folder: the database's id, a line feed, and the database's path.
 constexpr std::string_view kOwnerFile = "database";
-// No recipe is as large; a larger file is none of ours.
+// No recovery file is larger than this; a larger file was not written here.
 constexpr std::uintmax_t kMostBytes = 64 << 20;
 
 std::optional<std::string> ReadFile(const std::string& path) {
@@ -34,7 +34,7 @@ std::optional<std::string> ReadFile(const std::string& path) {
     return text;
 }
 
-// Makes the folder, and those above it that are missing, for this user alone.
+// Creates the folder and its missing parents, readable only by this user. False if that failed.
 bool MakePrivateFolder(const fs::path& folder) {
     std::error_code error;
     if (fs::is_directory(folder, error)) return true;
@@ -44,7 +44,7 @@ bool MakePrivateFolder(const fs::path& folder) {
     return mkdir(folder.c_str(), S_IRWXU) == 0 || errno == EEXIST;
 }
 
-// Writes a file for the user's eyes alone; false when it could not be written.
+// Writes a file that only this user can read. False if that failed.
 bool WritePrivately(const std::string& path, std::string_view text) {
     try {
         TargetFile(path, {}, TargetFile::Readers::OwnerAlone).Replace(text);
@@ -54,7 +54,7 @@ bool WritePrivately(const std::string& path, std::string_view text) {
     }
 }
 
-// A file whose writing a crash has ended; the one that it was to replace is whole.
+// True for a file whose writing was interrupted by a crash; the file that it was to replace is intact.
 bool IsUnderWay(const std::string& path) {
     return path.ends_with(kUnderWay) || path.ends_with(kUnderWayOnce);
 }
@@ -65,7 +65,7 @@ std::string CanonicalPath(const std::string& path) {
     return error ? path : canonical.string();
 }
 
-// In the order of their names; none for what is no folder.
+// Returns the paths in folder, sorted by name; none if it is not a folder.
 std::vector<std::string> PathsIn(const std::string& folder) {
     std::vector<std::string> paths;
     std::error_code error;
@@ -105,7 +105,7 @@ bool Recovery::IsOfThis(const std::string& folder) const {
 }
 
 void Recovery::TakeFilesFrom(const std::string& folder) {
-    // Another start finds what cannot be taken now.
+    // If this fails, the next start tries again.
     if (!MakePrivateFolder(folder_)) return;
     std::error_code error;
     for (const std::string& path : PathsIn(folder)) {
@@ -114,7 +114,7 @@ void Recovery::TakeFilesFrom(const std::string& folder) {
         if (error) return;
     }
     Discard(folder + "/" + std::string(kOwnerFile));
-    // What else lies in it stays.
+    // A folder that still contains other files remains.
     Discard(folder);
 }
 
@@ -155,7 +155,7 @@ void Recovery::Discard(const std::string& file) const {
 bool Recovery::Keep(const std::string& key, const RecipeSnapshot& snapshot) {
     if (!MakePrivateFolder(folder_)) return false;
     std::error_code error;
-    // An earlier release has made it for everybody to look into.
+    // An earlier release created the folder readable by everyone.
     fs::permissions(folder_, fs::perms::owner_all, error);
     MarkFolder();
     const auto known = files_.find(key);
@@ -166,7 +166,7 @@ bool Recovery::Keep(const std::string& key, const RecipeSnapshot& snapshot) {
 }
 
 void Recovery::MarkFolder() {
-    // Without the mark the files still go by the path.
+    // Without the owner file, the recovery files are still found by the path of the database.
     if (!marked_ && !databaseId_.empty())
         marked_ = WritePrivately(folder_ + "/" + std::string(kOwnerFile), databaseId_ + "\n" + databasePath_);
 }

@@ -1,5 +1,6 @@
-// The files that hold unsaved recipes, outside the database, one for each changed document. Whoever has the
-// database open exclusively owns the files of its folder; no other running program touches them.
+// The recovery files, which hold unsaved recipes outside the database, one per changed document. The program
+// that has the database open exclusively owns the files in its folder; no other running instance
+// touches them.
 #pragma once
 
 #include <map>
@@ -13,55 +14,55 @@
 namespace tw {
 
 struct LostRecipe {
-    std::string file;   // its path
-    DateTime keptWhen;  // the local time at which it was written
+    std::string file;   // the file's path
+    DateTime keptWhen;  // local time at which it was written
     RecipeSnapshot snapshot;
 };
 
 struct FoundRecipes {
     std::vector<LostRecipe> lost;       // oldest first
-    std::vector<std::string> putAside;  // paths of files that could not be read and have got another name
+    std::vector<std::string> putAside;  // files that could not be read, by their new paths
 };
 
 class Recovery {
   public:
-    // The files of that database, below root. Its folder goes by its path and is made when there is something
-    // to keep; it says the database's id, so that a database that was moved finds its files again. An empty
-    // id is none.
+    // Uses the files of that database, below root. Their folder is named after the path of the database and
+    // created when there is something to keep. The folder also records databaseId, so that a database finds
+    // its files again after it was moved; an empty id records none.
     Recovery(const std::string& root, const std::string& databasePath, std::string databaseId);
-    // The folder below root for the recipes of that database, the same by whatever path the database is
-    // opened.
+    // Returns the folder below root for the recipes of that database. It does not depend on the path by which
+    // the database is opened.
     static std::string FolderOf(std::string_view root, const std::string& databasePath);
 
-    // What an earlier run has left, also while the database lay elsewhere: the files of the same id come
-    // along when nothing is left where it lay. A copy that is still there keeps its own. A file of another or
-    // a damaged form is renamed, so that it is found just once. Files of this run's documents are not among
-    // them.
+    // Returns what an earlier run has left. Includes files from before the database was moved: they are taken
+    // over if they record the same id and no database is left at the old path; the files of a copy that still
+    // exists are left alone. A file of an unknown format or with damaged content is renamed, so that it is
+    // reported only once. The files of this run's documents are not included.
     FoundRecipes Find();
-    // Gives the file a name that Find passes over; the new path, or the old one when that failed.
+    // Renames the file so that Find ignores it. Returns the new path, or the old one if that failed.
     std::string PutAside(const std::string& file) const;
     void Discard(const std::string& file) const;
 
-    // Writes the document's file anew, beside the old one first, so that one of the two is always whole.
-    // False when that failed; the old file stays.
+    // Writes the document's recovery file, as a new file that then replaces the old one, so that one of them
+    // is always complete. False if that failed; the old file remains.
     bool Keep(const std::string& key, const RecipeSnapshot& snapshot);
-    // Removes the document's file, if it has one.
+    // Deletes the document's file, if it has one.
     void Forget(const std::string& key);
-    // The document writes to that file from now on.
+    // Makes the document use that file from now on.
     void Adopt(const std::string& key, const std::string& file) { files_[key] = file; }
 
   private:
     std::string NewFile() const;
-    // Says in the folder whose it is.
+    // Writes the owner file, which records the database to which the folder belongs.
     void MarkFolder();
-    // Whether the files in another folder are those of this database from the time before it was moved.
+    // True if another folder contains the files of this database from before it was moved.
     bool IsOfThis(const std::string& folder) const;
     void TakeFilesFrom(const std::string& folder);
 
     std::string root_, databasePath_, databaseId_;
     std::string folder_;
-    bool marked_ = false;                       // by this run
-    std::map<std::string, std::string> files_;  // of this run's documents, by key
+    bool marked_ = false;                       // true once this run has written the owner file
+    std::map<std::string, std::string> files_;  // the files of this run's documents, by document key
 };
 
 }  // namespace tw

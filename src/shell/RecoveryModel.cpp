@@ -66,7 +66,7 @@ void RecoveryModel::Drop(int index) {
     if (lost_.empty()) Close();
 }
 
-// One that cannot be restored has been reported and is offered no more.
+// A recipe that cannot be restored has been reported, and leaves the list too.
 void RecoveryModel::RestoreSelected() {
     if (RunShowingErrors(messages_, [&] { recipes_.Restore(lost_[static_cast<std::size_t>(selected_)]); }))
         Drop(selected_);

@@ -1,6 +1,5 @@
-// The window that offers unsaved recipes of an earlier run (frmRecovery): a list, from which each one is
-// restored or thrown away. It closes when the list is empty; what is left in it is offered again at the next
-// start.
+// The dialog that offers unsaved recipes of an earlier run (frmRecovery), to restore or discard each one. It
+// closes once its list is empty; recipes left in it are offered again at the next start.
 #pragma once
 
 #include <string>
@@ -13,35 +12,35 @@
 
 namespace tw {
 
-// What becomes of a lost recipe.
+// Restores and discards lost recipes.
 class LostRecipes {
   public:
     virtual ~LostRecipes() = default;
-    // A new changed document from the lost recipe, which takes its file over. False when it does not fit this
-    // program: the file has been put aside and reported.
+    // Opens a new changed document with the lost recipe and makes it use the recipe's file. False if the
+    // recipe does not fit this program: the file has been renamed, and a message has been shown.
     virtual bool Restore(const LostRecipe& lost) = 0;
-    // For good.
+    // Deletes the lost recipe for good.
     virtual void Discard(const LostRecipe& lost) = 0;
 };
 
-// lstRecipes shows the selected entry and takes the text of one. cmdRestore and cmdDiscard act on the
-// selected recipe, cmdRestoreAll and cmdDiscardAll on all of them; throwing away asks first. cmdClose leaves
-// the rest for later.
+// lstRecipes contains the selected entry and accepts the text of an entry. cmdRestore and cmdDiscard act on
+// the selected recipe, cmdRestoreAll and cmdDiscardAll on all; discarding asks first. cmdClose leaves the
+// rest for the next start.
 class RecoveryModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmRecovery";
 
-    // recipes and messages must outlive the object. It is open while lost is not empty.
+    // recipes and messages must outlive the object. The dialog is closed from the beginning if lost is empty.
     RecoveryModel(LostRecipes& recipes, MessagePort& messages, std::vector<LostRecipe> lost);
 
-    // "{name}, {M/D/YYYY} {HH:MM}" for each recipe, "Untitled" for one without a name.
+    // Returns "{name}, {M/D/YYYY} {HH:MM}" for each recipe, with "Untitled" if it has no name.
     std::vector<std::string> Entries() const;
     int Selected() const { return selected_; }
-    // Nothing happens for an index without an entry.
+    // Does nothing if there is no such entry.
     void Select(int index);
 
   private:
-    // Empty when the list is.
+    // Returns an empty text if the list is empty.
     std::string SelectedEntry() const;
     bool SelectEntry(std::string_view entry);
     void RestoreSelected();

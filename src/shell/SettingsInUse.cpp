@@ -5,7 +5,7 @@
 namespace tw {
 namespace {
 
-// index, or the first choice when a stored number names none of the choices.
+// Returns index, or 0 for a stored number that is not among the choices.
 int ChoiceOf(int index, int choices) {
     return index >= 0 && index < choices ? index : 0;
 }

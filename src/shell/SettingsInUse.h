@@ -1,4 +1,4 @@
-// The settings of the running program, and what a change of one does in it at once.
+// The settings of the running program, with the immediate effects of changing one.
 #pragma once
 
 #include <string_view>
@@ -15,7 +15,7 @@ namespace tw {
 
 class SettingsInUse {
   public:
-    // All must outlive the object.
+    // All arguments must outlive the object.
     SettingsInUse(SettingsStore& store, CommandBar& bar, ViewSlot& view, const DocumentManager& documents,
                   AutoSaveMinutes& minutes)
         : store_(store), bar_(bar), view_(view), documents_(documents), minutes_(minutes) {}
@@ -24,23 +24,23 @@ class SettingsInUse {
     const Settings& Values() const { return values_; }
 
     void LoadWindowKeys() { values_.LoadWindowKeys(store_); }
-    // All other keys; the append flag and the autosave timer follow.
+    // Loads all other keys, and applies the append flag and autosave.
     void LoadProgramKeys();
-    // Writes all of them, those of the window's geometry only when that is asked for.
+    // Stores all settings; those of the window's geometry only if geometry is true.
     void Keep(bool geometry);
-    // Stores a setting for the user; one of the section "Settings" acts in the running program at once.
+    // Stores a setting permanently; one of the section "Settings" also takes effect at once.
     void Store(std::string_view section, std::string_view key, std::string_view text);
 
-    // Whether new rows go behind the last one: the check mark of its menu item.
+    // True if new rows are added after the last one: the check mark of the menu item.
     bool AppendRows() const { return bar_.Item(CommandId::EditAppendFlag).checked; }
     void SetAppendRows(bool append) { bar_.SetChecked(CommandId::EditAppendFlag, append); }
-    // Switching autosave on counts the minutes from 0.
+    // Switching autosave on restarts its count of minutes from 0.
     void SetDoAutoSave(bool on);
-    // Show the icon set, the button style and, in all documents, the grid colours that the settings hold now.
+    // Make the windows show the current icon set, button style and, in all documents, grid colours.
     void ShowIcons() { view_->ToolbarIconsChanged(); }
     void ShowButtonStyle() { view_->ToolbarButtonStyleChanged(); }
     void ShowGridColors();
-    // What new recipes start with.
+    // Returns the initial values of new recipes.
     RecipeDefaults Defaults() const;
 
   private:

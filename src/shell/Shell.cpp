@@ -20,7 +20,7 @@ void FollowCatalogue(const ShellEnvironment& environment, Database& database) {
         UpdateCatalogue(InFolder(environment.programFolder, "catalogue"), database,
                         environment.platform.clock.Now());
     } catch (const Error&) {
-        // The recipes matter more than a newer catalogue: the start goes on, and the next one tries again.
+        // The recipes matter more than a newer catalogue: continue; the next start tries again.
         return;
     }
 }
@@ -79,7 +79,7 @@ bool Shell::PerformSplashScreenInit(const std::string& databasePath) {
     if (!OpenDatabase(databasePath)) return false;
     states_.CheckEnableDelete();
     OpenedDatabase& data = open_->data;
-    // A database that is damaged in parts still opens what can be read.
+    // If parts of the database are damaged, the rest is still shown.
     RunShowingErrors(environment_.platform.messages, [&] { data.tree.InitFromDatabase(); });
     if (data.database->ReadOnly()) TellReadOnly(environment_.platform.messages, *data.database);
     notice_.Update();

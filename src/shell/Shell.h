@@ -1,5 +1,5 @@
-// The program around the recipes: its parts, and how they start and end. The logic of the main window
-// (frmMain) without the window.
+// The program around the recipes: its parts, its start and its end. Contains the logic of the main window
+// (frmMain) without the window itself.
 #pragma once
 
 #include <memory>
@@ -38,40 +38,42 @@ class Shell final : private InstanceHost {
   public:
     explicit Shell(ShellEnvironment environment);
     ~Shell() override;
-    // The main window; nullptr when it goes.
+    // Sets the main window; nullptr once it is destroyed.
     void SetView(ShellView* view) { view_.Set(view); }
-    // For what is made with the help of Own. The folders count up to the start.
+    // Allows ports that need Own to be set after construction. Changes to its folders after the start have no
+    // effect.
     ShellEnvironment& Environment() { return environment_; }
 
-    // Start-up. LoadWindowSettings runs while the window is made; PerformSplashScreenInit behind the splash:
-    // it reads the settings, fills the recent list and opens the database exclusively. False when that
-    // failed; its box has been shown then and the main window is told to close. A database that cannot be
-    // written is told of and can be read. ":memory:" opens an empty database of the full schema.
+    // Start-up. LoadWindowSettings is called while the window is created, PerformSplashScreenInit while the
+    // splash is shown: it reads the settings, fills the recent list and opens the database exclusively. False
+    // if that failed; a message has been shown then, and the main window has been told to close. If the
+    // database is read-only, shows a message and continues. ":memory:" opens an empty database with the
+    // full schema.
     void LoadWindowSettings() { settings_.LoadWindowKeys(); }
     bool PerformSplashScreenInit(const std::string& databasePath);
-    // Tunwright.mdb in the program's folder.
+    // Returns the path of Tunwright.mdb in the program's folder.
     static std::string DatabasePath(std::string_view programFolder);
-    // The last step of the start.
+    // To be called as the last step of the start.
     void ShowAssistantAtStartup();
 
-    // Shut-down. RequestExit asks every document and is false when the brewer called it off: the documents
-    // that have not been asked stay open. Unload writes the settings and the recent list and closes the
-    // database.
+    // Shut-down. RequestExit closes all documents, asking about unsaved changes; false if the brewer
+    // cancelled: the documents not yet asked about stay open. Unload stores the settings and the recent list,
+    // and closes the database.
     bool RequestExit();
     void Unload(bool storeGeometry);
 
-    // The commands, see ShellActions. Without a database they all do nothing and give false.
+    // Run a command, as ShellActions does. Without a database they do nothing and return false.
     bool RunCommand(CommandId command);
     bool PressButton(CommandId command);
-    // By the item's control name, for scripts; false for an unknown one too.
+    // Runs the menu item of that control name, for scripts. False also for an unknown name.
     bool RunMenu(std::string_view name);
-    // A minute has gone, see AutoSaver.
+    // Counts a minute, as AutoSaver::Tick does.
     void TickAutoSave();
 
     SettingsInUse& SettingsNow() { return settings_; }
     Settings& CurrentSettings() { return settings_.Values(); }
     SettingsStore& Store() { return store_; }
-    // What the program itself lives on; nothing else is to be written there.
+    // The files that the program itself depends on, which nothing else may overwrite.
     OwnFiles& Own() { return own_; }
     CommandBar& Bar() { return bar_; }
     CommandStates& States() { return states_; }
@@ -79,15 +81,15 @@ class Shell final : private InstanceHost {
     DocumentManager& Documents() { return documents_; }
     UnsavedWork& Unsaved() { return unsaved_; }
     HelpDesk& Helping() { return help_; }
-    // The one program on a desktop, and the commands that reach it from outside. They wait while its ticking
-    // is off: until the start is over, and while a print job runs.
+    // Keeps one instance on a desktop and receives commands from outside. They wait while its ticking is off:
+    // until the start is complete, and while a print job runs.
     InstanceService& DDE() { return dde_; }
-    // What the open and save dialog and the explorer showed last.
+    // The last state of the open and save dialog and of the explorer.
     const OpenSaveFields& BrowseFields() const { return browse_; }
 
-    // nullptr while the database is not open.
+    // Returns nullptr while the database is not open.
     Database* DB();
-    // The parts that stand on the database. REQUIRES: it is open.
+    // The parts that need the database. REQUIRES: the database is open.
     OpenedDatabase& Data() { return open_->data; }
     DatabaseNotices& Notices() { return open_->notices; }
     CatalogueDesk& Catalogue() { return open_->catalogue; }
@@ -99,7 +101,7 @@ class Shell final : private InstanceHost {
     AutoSaver& AutoSaving() { return open_->autoSaver; }
 
   private:
-    // Each is made from those above it, and knows none below.
+    // Each part depends only on parts declared above it.
     struct OpenParts {
         OpenParts(Shell& shell, std::unique_ptr<Database> database);
         DatabaseNotices notices;
@@ -132,7 +134,8 @@ class Shell final : private InstanceHost {
     RecentList recent_;
     ColorTable colors_;
     AutoSaveMinutes minutes_;
-    std::unique_ptr<OpenParts> open_;  // nullptr while the database is not open; the documents go before it
+    // nullptr while the database is not open; destroyed after the documents.
+    std::unique_ptr<OpenParts> open_;
     CommandStates states_;
     DocumentManager documents_;
     SettingsInUse settings_;

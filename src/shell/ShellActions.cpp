@@ -22,7 +22,7 @@ RecipeDocument& Active(On on) {
     return *on.documents.Active();
 }
 
-// Without an open recipe the commands of the File menu do nothing.
+// CloseActive, SaveActive and SaveActiveAs do nothing without an active recipe.
 void CloseActive(On on) {
     if (RecipeDocument* const active = on.documents.Active()) on.saver.Close(*active);
 }
@@ -35,8 +35,8 @@ void SaveActiveAs(On on) {
     if (RecipeDocument* const active = on.documents.Active()) on.saver.SaveAs(*active);
 }
 
-// With the main window the database is closed and its parts go, among them the one that runs this: nothing of
-// it is used behind that.
+// Closing the main window closes the database and destroys its parts, including the caller of this function:
+// nothing of it may be used afterwards.
 void Exit(On on) {
     if (on.saver.CloseAll()) on.view->CloseMainWindow();
 }
@@ -55,7 +55,8 @@ void Copy(On on) {
     on.states.ReapplyPaste();
 }
 
-// Asks for another figure of the active recipe and scales it to that; nothing while it has none.
+// Asks for a new value of a figure of the active recipe and scales the recipe to it. Does nothing if the
+// recipe has no such figure.
 void ShowScaling(On on, Scaling what) {
     if (on.documents.Active() == nullptr || !Active(on).Focus().FlushEdits()) return;
     RecipeDocument& document = Active(on);
@@ -101,7 +102,7 @@ void ShowAbout(On on) {
 
 }  // namespace
 
-// Commands that need a recipe run with an active one alone.
+// Actions of commands that need a recipe run only if one is active.
 const ShellActions::Row ShellActions::kRows[] = {
     {CommandId::FileNew, [](On on) { on.recipes.Create(""); }},
     {CommandId::FileOpen, [](On on) { on.recipes.ShowOpenDialog(); }},
@@ -164,7 +165,7 @@ bool ShellActions::Carry(CommandId command) {
         RunShowingErrors(on_.platform.messages, [&] { on_.recipes.OpenByName(on_.recent.NameOf(slot)); });
         return true;
     }
-    // The assistant runs other commands, which no action can.
+    // The assistant runs other commands, so it cannot be an action.
     if (command == CommandId::ToolsAssistant) {
         RunShowingErrors(on_.platform.messages, [this] { ShowAssistant(); });
         return true;
@@ -195,7 +196,7 @@ void ShellActions::ShowAssistant() {
     AssistantModel assistant(settings.showAssistantAtStartup);
     on_.platform.dialogs.ShowModal(assistant);
     settings.showAssistantAtStartup = assistant.ShowAtStartup();
-    // A link does what its menu item does, even where that is disabled for want of a recipe.
+    // A link runs its command even if the menu item is disabled because no recipe is open.
     if (const auto chosen = assistant.Chosen()) Carry(*chosen);
 }
 

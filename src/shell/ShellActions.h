@@ -1,4 +1,4 @@
-// What each command does: from its id to the call.
+// Runs commands: maps each id to the call that it makes.
 #pragma once
 
 #include "commands/Commands.h"
@@ -21,7 +21,7 @@ namespace tw {
 
 class ShellActions {
   public:
-    // What commands end in. All must outlive the object.
+    // The parts that commands call. All must outlive the object.
     struct Parts {
         Platform& platform;
         CommandBar& bar;
@@ -40,12 +40,15 @@ class ShellActions {
     };
     explicit ShellActions(const Parts& parts) : on_(parts) {}
 
-    // Runs a menu item's action. False when it is disabled or hidden, or has none: nothing happens then. An
-    // error that rises from the action is shown as RunShowingErrors does.
+    // Runs the command as its menu item does, and shows errors as RunShowingErrors does. False, without
+    // running anything, if the item is disabled or hidden or has no action. A command that needs a recipe
+    // does nothing if none is active, and returns true.
     bool Run(CommandId command);
-    // What the toolbar button of the command does; likewise. False for a command without one.
+    // Runs the command as its toolbar button does, with the errors and results of Run. False if the command
+    // has no button or the button is disabled.
     bool Press(CommandId command);
-    // The assistant, if the settings want it at the start; its box and then its link are carried out.
+    // Shows the assistant if the settings ask for it at the start, keeps the state of its check box, and runs
+    // the link that was chosen.
     void ShowAssistantAtStartup();
 
   private:
@@ -53,13 +56,13 @@ class ShellActions {
     struct Row {
         CommandId command;
         Action run;
-        Action pressed = nullptr;  // what the button does, where that is something else
+        Action pressed = nullptr;  // the action of the button, if it is another
     };
     static const Row kRows[];
 
-    // nullptr for a command without a row, such as a recent recipe.
+    // Returns nullptr for a command without a row, such as a recent recipe.
     static const Row* RowFor(CommandId command);
-    // What the menu item does, whatever its state. False for a command that does nothing.
+    // Runs the action of the menu item, whether enabled or not. False if it has none.
     bool Carry(CommandId command);
     bool Carry(CommandId command, Action action);
     void ShowAssistant();

@@ -1,4 +1,4 @@
-// What the program around the recipes stands on.
+// What the program around the recipes needs from its surroundings.
 #pragma once
 
 #include <string>
@@ -10,18 +10,18 @@
 
 namespace tw {
 
-// What it names must outlive the shell.
+// The objects that it names must outlive the shell.
 struct ShellEnvironment {
     Platform& platform;
-    // Where the product's own files lie. What is new or corrected in its folder "catalogue" comes into the
-    // database when it is opened (store/CatalogueUpdate.h), never into one in memory. Empty: not used.
+    // The folder of the product's own files. New and corrected rows in its folder "catalogue" are copied into
+    // the database when it is opened (store/CatalogueUpdate.h), but not into one in memory. Empty: not used.
     std::string programFolder = {};
-    // Unsaved work is kept in files below this folder, apart for each database, but for one in memory. Empty:
-    // nothing is kept.
+    // Unsaved work is kept in files below this folder, separately for each database, but not for one in
+    // memory. Empty: nothing is kept.
     std::string recoveryFolder = {};
-    // Where the pages of the help come from. Without it the help shows nothing.
+    // The source of the help pages; without it the help shows nothing.
     Help* help = nullptr;
-    // Paper. Without a printer nothing is printed or previewed, without save files no PDF file is made.
+    // Without a printer nothing is printed or previewed; without save files no PDF file is created.
     PrinterPort* printer = nullptr;
     SaveFilePort* saveFiles = nullptr;
 };

@@ -1,4 +1,4 @@
-// The notice in the status bar: what is wrong and stays so for a while.
+// The notice in the status bar about persistent problems.
 #pragma once
 
 #include <string>
@@ -11,12 +11,12 @@ namespace tw {
 class StatusNotice {
   public:
     explicit StatusNotice(ViewSlot& view) : view_(view) {}
-    // Says nothing about the database for nullptr, while none is open.
+    // Sets the database to watch; nullptr while none is open.
     void Watch(const OpenedDatabase* database) { database_ = database; }
-    // Whether the last try could not keep all unsaved work. Update brings it to the window.
+    // Sets whether the last attempt failed to keep all unsaved work. Update passes it to the window.
     void SetUnsavedNotKept(bool notKept) { unsavedNotKept_ = notKept; }
     bool UnsavedNotKept() const { return unsavedNotKept_; }
-    // Brings the notice in line with what is wrong now; the window is told of changes alone.
+    // Computes the notice from the current problems, and notifies the window if it has changed.
     void Update();
 
   private:

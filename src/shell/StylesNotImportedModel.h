@@ -1,4 +1,4 @@
-// Tells which recipes have come in without their style (frmStylesNotImported).
+// Lists the recipes that were imported without their style (frmStylesNotImported).
 #pragma once
 
 #include <string>
@@ -9,12 +9,13 @@
 
 namespace tw {
 
-// grdEffected: its rows, the headers first, each ended by a line feed, cells separated by a tab; cmdOK.
+// grdEffected contains its rows, headers first, each followed by a line feed, with cells separated by tabs.
+// cmdOK closes the dialog.
 class StylesNotImportedModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmStylesNotImported";
 
-    // "Effected" is to be kept as it stands.
+    // "Effected" is not to be corrected: scripts rely on these texts.
     static constexpr std::string_view kHeaders[] = {"Effected Recipe", "Unrecognized Style"};
 
     explicit StylesNotImportedModel(StylesNotImported styles);

@@ -9,12 +9,12 @@
 namespace tw {
 namespace {
 
-// The database's id for the files of unsaved work; empty when it can have none.
+// Returns the database's id for the recovery files; empty if it cannot have one.
 std::string IdFor(Database& database) {
     try {
         return database.ReadOnly() ? DatabaseId(database) : EnsureDatabaseId(database);
     } catch (const Error&) {
-        // The files go by the database's path then; the next start tries again.
+        // The recovery files are then found by the database's path; the next start tries again.
         return {};
     }
 }

@@ -1,4 +1,4 @@
-// Unsaved work outside the database: kept while the program runs, offered at the next start.
+// Keeps unsaved work outside the database while the program runs, and offers it at the next start.
 #pragma once
 
 #include <functional>
@@ -18,23 +18,23 @@ namespace tw {
 
 class UnsavedWork final : public LostRecipes {
   public:
-    // newDocument opens a blank document. All must outlive the object.
+    // newDocument opens a blank document. All arguments must outlive the object.
     UnsavedWork(DocumentManager& documents, StatusNotice& notice, ViewSlot& view, Platform& platform,
                 std::function<RecipeDocument&()> newDocument);
 
-    // Keeps unsaved work below that folder from now on, in files of that database. Before, and behind End,
-    // nothing is kept: everything here does nothing then.
+    // Keeps unsaved work below that folder from now on, in files of that database. Before Start and after End
+    // nothing is kept: all other functions do nothing.
     void Start(const std::string& folder, const std::string& databasePath, Database& database);
     void End() { recovery_.reset(); }
 
-    // That document has been edited: Keep is due, which the window is told.
+    // The document has been edited: tells the window that Keep must be called.
     void Edited(const RecipeDocument& document);
-    // Writes the recipes that were edited since the last call into their files. What cannot be written waits
-    // for the next call, for which the window is told to wait; the notice says so until nothing waits.
+    // Writes recovery files of the recipes edited since the last call. Those that cannot be written are tried
+    // again at the next call, which the window is told to make; until then the notice says so.
     void Keep();
-    // The document's edits are saved, or given up.
+    // The document's edits have been saved or given up: deletes its recovery file.
     void Forget(const RecipeDocument& document);
-    // Offers what the last run left unsaved; shows nothing when that is nothing.
+    // Offers what the last run has left unsaved; shows no dialog if there is nothing.
     void Offer();
 
     // LostRecipes
@@ -50,7 +50,7 @@ class UnsavedWork final : public LostRecipes {
     Platform& platform_;
     std::function<RecipeDocument&()> newDocument_;
     std::unique_ptr<Recovery> recovery_;  // nullptr while nothing is kept
-    std::set<std::string> editedKeys_;    // documents with edits that are not in their files
+    std::set<std::string> editedKeys_;    // keys of documents whose latest edits are not in their files
 };
 
 }  // namespace tw
