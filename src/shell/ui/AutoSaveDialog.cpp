@@ -11,8 +11,8 @@
 
 namespace tw {
 
-// No kind of window but a tool tip leaves the focus alone on every desktop; an open cell editor would be
-// closed in the middle of an entry.
+// Only a tool tip leaves the focus alone on every desktop; any other window would close an open cell editor
+// in the middle of an entry.
 AutoSaveDialog::AutoSaveDialog(AutoSaveModel& model, QWidget* parent)
     : QDialog(parent, Qt::ToolTip),
       model_(model),
@@ -66,7 +66,7 @@ void AutoSaveDialog::Run() {
     QDialog::accept();
 }
 
-// Keys and clicks wait until the run is over, so that nothing changes under it.
+// Keys and clicks are not processed during the run, so that nothing changes meanwhile.
 void AutoSaveDialog::ShowProgress() {
     recipe_->setText(ToQt(model_.RecipeName()));
     progress_->setRange(0, model_.Total());

@@ -1,5 +1,5 @@
-// The progress window of autosave: it comes up without taking the focus, so that an entry goes on being
-// typed, and goes when all recipes are saved.
+// The progress window of autosave. It appears without taking the focus, so that an entry in progress is not
+// interrupted, and closes when all recipes are saved.
 #pragma once
 
 #include <QDialog>

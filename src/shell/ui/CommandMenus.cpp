@@ -17,7 +17,7 @@ namespace {
 
 constexpr double kIconUnits = 3;
 
-// The sentence for the status bar.
+// Returns the text for the status bar.
 QString Tip(std::string_view sentence) {
     return QCoreApplication::translate("CommandTips", std::string(sentence).c_str());
 }
@@ -60,7 +60,7 @@ void CommandMenus::AddItem(const MenuItem& item, QMainWindow& window) {
     action->setShortcut(QKeySequence(ToQt(item.shortcut)));
     action->setStatusTip(Tip(row.tip));
     action->setMenuRole(QAction::NoRole);
-    // The check mark is the command's, not the click's.
+    // The command determines the check mark; a click does not toggle it.
     action->setCheckable(row.checkable);
     Show(*action, item);
     connect(action, &QAction::triggered, this, [this, id = item.id, action] {
@@ -76,7 +76,7 @@ void CommandMenus::AddButton(const ToolButton& button, int& group) {
     group = button.group;
     QAction* action = toolBar_->addAction(ToQt(button.toolTip));
     action->setObjectName(QStringLiteral("tbToolBar(%1)").arg(ToQt(button.key)));
-    // A button that does not do quite what its menu item does has a sentence of its own, and not its key.
+    // A button that differs from its menu item has a sentence of its own and does not show the item's key.
     const CommandRow& row = RowOf(button.id);
     const bool likeItem = row.button.tip.empty();
     const QString shortcut =

@@ -1,5 +1,4 @@
-// The menu bar and the toolbar of the main window: they show the commands of the shell and follow their
-// states.
+// The menu bar and the toolbar of the main window, which show the shell's commands and their current states.
 #pragma once
 
 #include <QObject>
@@ -18,16 +17,17 @@ namespace tw {
 class CommandMenus final : public QObject, public CommandObserver {
     Q_OBJECT
   public:
-    // run is called when a menu item is chosen, press when a button is. bar must outlive this object.
+    // run is called when a menu item is chosen, press when a button is clicked. bar and window must outlive
+    // this object.
     CommandMenus(CommandBar& bar, QMainWindow& window, std::function<void(CommandId)> run,
                  std::function<void(CommandId)> press);
     ~CommandMenus() override;
 
     QMenu* Menu(TopMenu menu) const { return menus_.at(menu); }
     QToolBar* ToolBar() const { return toolBar_; }
-    // Shows the buttons in the icon set of that style.
+    // Shows the buttons with the icon set of that style.
     void SetIconStyle(int iconStyle);
-    // Classic buttons have a frame each, flat ones only under the mouse.
+    // Classic buttons always have a frame, flat ones only under the pointer.
     void SetFlat(bool flat);
 
     void MenuItemChanged(const MenuItem& item) override;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kPictureUnits = 14;
 
-// How windows lie over each other.
+// The steps of cascaded windows, and their size in relation to the size hint.
 constexpr int kSteps = 6;
 constexpr int kStepUnits = 4;
 constexpr double kRoomyFactor = 1.4;
@@ -80,7 +80,7 @@ void DocumentArea::PlaceAt(QMdiSubWindow& window, int place) {
 
 void DocumentArea::Cascade() {
     int place = 0;
-    // The one in front lies uppermost and furthest in.
+    // The front window is placed last, furthest in.
     for (QMdiSubWindow* window : Shown(StackingOrder)) {
         window->showNormal();
         PlaceAt(*window, place++);

@@ -1,4 +1,4 @@
-// The area of the main window where the recipes lie. While none is open it says how to start.
+// The area of the main window that contains the recipe windows. While none is open, it says how to start.
 #pragma once
 
 #include <QMdiArea>
@@ -12,15 +12,16 @@ class DocumentArea final : public QMdiArea {
     Q_OBJECT
   public:
     explicit DocumentArea(QWidget* parent);
-    // Shown in the middle while no recipe is open.
+    // Sets the text shown in the middle while no recipe is open.
     void SetWelcome(const QString& line);
-    // Over each other, each a step further in than the one below it.
+    // Arranges the windows overlapping each other, each placed a step further in than the one below it.
     void Cascade();
-    // Gives a window its usual size, place steps away from the corner, with its whole frame in sight.
+    // Gives a window its usual size, place steps away from the upper left corner, with its whole
+    // frame visible.
     void PlaceAt(QMdiSubWindow& window, int place);
-    // Below each other, across the whole width; tileSubWindows would make columns.
+    // Arranges the windows below each other, each as wide as the area; tileSubWindows would make columns.
     void TileHorizontally();
-    // Beside each other, over the whole height.
+    // Arranges the windows side by side, each as high as the area.
     void TileVertically();
 
   protected:
@@ -28,13 +29,14 @@ class DocumentArea final : public QMdiArea {
     void changeEvent(QEvent* event) override;
 
   private:
-    // The windows that are not minimised.
+    // Returns the windows that are visible and not minimised.
     QList<QMdiSubWindow*> Shown(WindowOrder order) const;
     void Tile(Qt::Orientation stacked);
     QString welcome_;
 };
 
-// The frame of one recipe. It never closes by itself: it asks, and the shell closes the recipe.
+// The frame of one recipe. It does not close itself but emits CloseRequested, and the shell closes
+// the recipe.
 class DocumentSubWindow final : public QMdiSubWindow {
     Q_OBJECT
   public:

@@ -32,7 +32,7 @@ bool FileDrop::eventFilter(QObject* object, QEvent* event) {
         case QEvent::Drop: {
             auto& drop = static_cast<QDropEvent&>(*event);
             window_.unsetCursor();
-            // The files stay where they are, whatever the other program offers.
+            // The drop only copies, so the files stay where they are, whatever the other program proposes.
             drop.setDropAction(Qt::CopyAction);
             drop.accept();
             TakeLater(FilesOf(*drop.mimeData()));
@@ -46,12 +46,13 @@ bool FileDrop::eventFilter(QObject* object, QEvent* event) {
 void FileDrop::Follow(QDragMoveEvent& event) {
     const bool hasFiles = !FilesOf(*event.mimeData()).isEmpty();
     window_.setCursor(hasFiles ? Qt::ArrowCursor : Qt::WaitCursor);
-    // One without files is followed too, so that its end is heard of; it cannot be dropped.
+    // A drag without files is accepted so that its end is reported, but with IgnoreAction, so that it cannot
+    // be dropped.
     event.setDropAction(hasFiles && !QApplication::activeModalWidget() ? Qt::CopyAction : Qt::IgnoreAction);
     event.accept();
 }
 
-// The other program waits until the drop has ended, so that no dialog opens within it.
+// Queued, because the other program waits until the drop has ended: no dialog may open during it.
 void FileDrop::TakeLater(const QStringList& files) {
     if (QApplication::activeModalWidget()) return;
     QMetaObject::invokeMethod(

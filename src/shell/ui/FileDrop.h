@@ -1,4 +1,4 @@
-// Files that are dropped on a window.
+// Receives files that are dropped on a window.
 #pragma once
 
 #include <QObject>
@@ -11,14 +11,14 @@ class QWidget;
 
 namespace tw {
 
-// While a drag without files is over the window, the pointer is the hourglass. What stands in front of the
-// window, such as a dialog, keeps drops from it.
+// While a drag without files is over the window, the pointer is an hourglass. Whatever is in front of the
+// window, such as a dialog, blocks drops.
 class FileDrop final : public QObject {
     Q_OBJECT
   public:
     using Take = std::function<void(const QString& file)>;
-    // Hands each file of a drop over, in their order, once the drop has ended. REQUIRES: the window lives for
-    // as long.
+    // Calls take with each dropped file, in order, after the drop has ended. REQUIRES: window outlives
+    // this object.
     FileDrop(QWidget& window, Take take);
 
   protected:

@@ -1,4 +1,4 @@
-// A few toolbar pictures of one icon set, to choose it by.
+// Shows a few toolbar pictures of one icon set, as a sample to choose by.
 #pragma once
 
 #include <QWidget>
@@ -8,7 +8,7 @@ namespace tw {
 class IconStrip final : public QWidget {
     Q_OBJECT
   public:
-    // name: the accessible name.
+    // name is the accessible name.
     IconStrip(int iconStyle, const QString& name, QWidget* parent);
 
     QSize sizeHint() const override;

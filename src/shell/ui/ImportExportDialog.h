@@ -1,4 +1,4 @@
-// The window in which the recipes to import or export are picked.
+// The dialog that selects recipes to import or export (frmImportExport).
 #pragma once
 
 #include <QDialog>

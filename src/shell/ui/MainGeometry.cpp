@@ -9,14 +9,14 @@
 namespace tw {
 namespace {
 
-// What only the windows remember, apart from the settings of the program.
+// Keys that only the windows use, separate from the program's settings.
 constexpr std::string_view kWindowsSection = "Windows";
 constexpr std::string_view kStateKey = "MainState";
 constexpr std::string_view kMaximized = "2";
 constexpr std::string_view kNormal = "0";
 
-// The first start, when no size has ever been stored: all tabs of a recipe side by side, its face without
-// scrolling.
+// The size at the first start, in multiples of Unit: all tabs of a recipe side by side, and its first page
+// without scrolling.
 constexpr QSize kFirstUnits(156, 100);
 
 bool IsFirstStart(const SettingsStore& store) {
@@ -49,8 +49,8 @@ void ApplyGeometry(QMainWindow& window, const Settings& settings, const Settings
 void KeepGeometry(const QMainWindow& window, Settings& settings, const SettingsStore& store) {
     const double dotsPerInch = window.screen()->logicalDotsPerInch();
     QRect geometry(window.pos(), window.size());
-    // The normal one is without its frame, while QWidget::move takes the place with it: else the window would
-    // come up further down with every start.
+    // normalGeometry excludes the frame, whereas QWidget::move includes it; without this correction the
+    // window would move down with every start.
     if (window.isMaximized())
         geometry = window.normalGeometry().translated(window.pos() - window.geometry().topLeft());
     settings.mainLeft = TwipsOfPixels(geometry.left(), dotsPerInch);

@@ -1,4 +1,4 @@
-// The main window's place and size in the settings, in twips, and on the screen.
+// The position and size of the main window, stored in twips in the settings.
 #pragma once
 
 #include <QRect>
@@ -10,14 +10,14 @@ class QWidget;
 
 namespace tw {
 
-// The size of the main window before any has been stored, in pixels.
+// Returns the size of the main window when none has been stored, in pixels.
 QSize FirstSize(const QWidget& window);
 
-// The settings' place and size in pixels, moved and made to fit so that all of it lies in the room.
+// Returns the stored position and size in pixels, enlarged to least, then moved and shrunk to fit into room.
 QRect GeometryOf(const Settings& settings, double dotsPerInch, const QSize& least, const QRect& room);
 
 void ApplyGeometry(QMainWindow& window, const Settings& settings, const SettingsStore& store);
-// Keeps the present normal geometry, and whether the window is maximised.
+// Stores the position and size of the window, those without maximising, and whether it is maximised.
 void KeepGeometry(const QMainWindow& window, Settings& settings, const SettingsStore& store);
 
 }  // namespace tw

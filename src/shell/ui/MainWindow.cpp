@@ -30,7 +30,7 @@ namespace {
 constexpr QSize kLeastUnits(84, 60);
 constexpr int kStateMaximized = 2;
 constexpr int kStateNormal = 0;
-// How long an edit may be kept nowhere but in the window.
+// How long an edit may exist in its window alone before it is kept.
 constexpr int kKeepMilliseconds = 3000;
 constexpr int kNewsMilliseconds = 10000;
 
@@ -55,7 +55,7 @@ MainWindow::MainWindow(Shell& shell, Platform& platform)
     statusBar()->setObjectName(QStringLiteral("sbStatusBar"));
     statusBar()->setAccessibleName(tr("Status"));
     notice_->setObjectName(QStringLiteral("lblNotice"));
-    // A sentence on a command stands before it for as long as it is shown.
+    // A command's status tip is shown in front of the notice, temporarily.
     statusBar()->addWidget(notice_, 1);
     autoSaveTimer_->setObjectName(QStringLiteral("tmrAutoSave"));
     autoSaveTimer_->setInterval(kAutoSaveTickMilliseconds);
@@ -92,7 +92,7 @@ MainWindow::MainWindow(Shell& shell, Platform& platform)
 
 MainWindow::~MainWindow() {
     shell_.SetView(nullptr);
-    // The windows of recipes refer to documents of the shell and let go of them first.
+    // The recipe windows refer to documents of the shell, so they are destroyed before those.
     delete area_;
     delete menus_;
 }
@@ -105,7 +105,7 @@ bool MainWindow::StartUp(const std::string& databasePath, const std::string& fil
         hide();
         return false;
     }
-    // No folder of the brewer's stays in use by the program that was started in it.
+    // The program must not keep the folder in which it was started in use.
     QDir::setCurrent(QCoreApplication::applicationDirPath());
     const bool opened = shell_.PerformSplashScreenInit(databasePath);
     splash.hide();
@@ -151,7 +151,7 @@ void MainWindow::DocumentOpened(RecipeDocument& document) {
         RunShowingErrors(platform_.messages, [&] { shell_.Saver().Close(*opened); });
     });
     connect(window, &QMdiSubWindow::windowStateChanged, this, [this](Qt::WindowStates, Qt::WindowStates now) {
-        // A minimised window is never what the next one starts as.
+        // Minimised is not remembered as the state of the next window.
         if (changing_ || now.testFlag(Qt::WindowMinimized)) return;
         shell_.CurrentSettings().childState =
             now.testFlag(Qt::WindowMaximized) ? kStateMaximized : kStateNormal;
@@ -164,7 +164,7 @@ void MainWindow::PlaceSubWindow(DocumentSubWindow& window) {
     if (shell_.CurrentSettings().childState == kStateMaximized) {
         window.showMaximized();
     } else {
-        // Each a step further in, with its whole frame in sight.
+        // Each window is a step further in, with its whole frame visible.
         area_->PlaceAt(window, static_cast<int>(area_->subWindowList().size()) - 1);
         window.show();
     }
@@ -179,7 +179,7 @@ void MainWindow::DocumentClosing(RecipeDocument& document) {
         area_->removeSubWindow(window);
     }
     window->hide();
-    // It may be this window's own close button that we are in.
+    // This function may run within the window's own close button.
     window->deleteLater();
 }
 
@@ -194,7 +194,7 @@ void MainWindow::DocumentActivated(RecipeDocument* document) {
         shell_.CurrentSettings().childState == kStateMaximized ? window->showMaximized()
                                                                : window->showNormal();
     if (area_->activeSubWindow() != window) area_->setActiveSubWindow(window);
-    // Qt gives the focus to the frame or to the tabs at first.
+    // Qt first gives the focus to the frame or to the tabs.
     const QWidget* focus = QApplication::focusWidget();
     if (!focus || !window->Document().IsEditing(*focus)) window->Document().setFocus();
 }
@@ -207,7 +207,7 @@ void MainWindow::AutoSaveSwitched(bool on) {
     on ? autoSaveTimer_->start() : autoSaveTimer_->stop();
 }
 
-// Not started anew by each key, so that steady typing is kept too.
+// Edits do not restart the timer, so that steady typing is kept too.
 void MainWindow::UnsavedWorkWaits() {
     if (!keepTimer_->isActive()) keepTimer_->start();
 }
@@ -241,7 +241,7 @@ void MainWindow::BringToFront() {
     QWidget* const front = dialog != nullptr ? dialog : this;
     front->raise();
     front->activateWindow();
-    // A desktop that lets no program take the focus shows its button as waiting.
+    // On a desktop that does not let programs take the focus, this highlights the task bar button.
     QApplication::alert(front);
 }
 
@@ -289,7 +289,7 @@ bool MainWindow::FlushBefore(CommandId command) {
 bool MainWindow::RunCommand(CommandId command) {
     const MenuItem& item = shell_.Bar().Item(command);
     if (!item.enabled || !item.visible) return false;
-    // A refused entry has had its message; the key or click is used up.
+    // A refused entry has shown its message; the key or click is consumed.
     if (!FlushBefore(command)) return true;
     bool ran = false;
     RunShowingErrors(platform_.messages, [&] { ran = shell_.RunCommand(command); });
@@ -304,7 +304,7 @@ void MainWindow::PressButton(CommandId command) {
     FocusAfter(command);
 }
 
-// A new row is there to be typed into.
+// After a new row has been inserted, it gets the focus for typing.
 void MainWindow::FocusAfter(CommandId command) {
     RecipeWindow* window = ActiveWindow();
     if (window && command == CommandId::EditInsert) window->FocusRow();

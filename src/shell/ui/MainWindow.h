@@ -20,17 +20,17 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
   public:
     static constexpr const char* kFormName = "frmMain";
 
-    // Both must outlive the window. It takes the place and size of the settings.
+    // Both arguments must outlive the window, which takes its position and size from the settings.
     MainWindow(Shell& shell, Platform& platform);
     ~MainWindow() override;
 
-    // What happens when the window first comes up: the splash, the test for another program on this desktop,
-    // the settings, the database, and the import of file unless it is blank. False when the program is to end
-    // at once: another one runs (the shell's DDE tells), or the database could not be opened; the box has
-    // been shown and the window is closed then.
+    // Runs the start-up once the window is shown: the splash, the test for another instance on this desktop,
+    // the settings, the database, and the import of file unless it is blank. False if the program must end at
+    // once: another instance is running (see the shell's DDE), or the database could not be opened. The
+    // message has been shown then, and the window is closed or hidden.
     bool StartUp(const std::string& databasePath, const std::string& file = {});
 
-    // The window of the recipe in front, nullptr without one.
+    // Returns the window of the active recipe, or nullptr.
     RecipeWindow* ActiveWindow() const;
 
     // DocumentFrame
@@ -65,9 +65,9 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
     void ShowWelcome();
     void PlaceSubWindow(DocumentSubWindow& window);
     void PressButton(CommandId command);
-    // Commits what is being edited before a command that needs it. False when an entry was refused.
+    // Commits a pending entry before a command that requires that. False if the entry was refused.
     bool FlushBefore(CommandId command);
-    // The focus that a command asks for once it has run.
+    // Sets the focus as the command requires once it has run.
     void FocusAfter(CommandId command);
     void FillWindowMenu();
     void TickDDE();
@@ -77,12 +77,12 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
     Platform& platform_;
     CommandMenus* menus_;
     DocumentArea* area_;
-    QTimer* autoSaveTimer_;  // tmrAutoSave; it runs behind dialogs too
+    QTimer* autoSaveTimer_;  // tmrAutoSave; it runs even while a dialog is open
     QTimer* keepTimer_;
-    QTimer* ddeTimer_;  // tmrProcessDDE; it runs only while commands wait
+    QTimer* ddeTimer_;  // tmrProcessDDE; it runs only while commands are queued
     ElidedLabel* notice_;
     bool exitGranted_ = false;
-    bool changing_ = false;  // the shell is changing the windows; their signals are its echo
+    bool changing_ = false;  // true while the shell changes the windows, whose signals are then ignored
 };
 
 }  // namespace tw

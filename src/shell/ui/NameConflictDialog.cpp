@@ -34,7 +34,7 @@ NameConflictDialog::NameConflictDialog(NameConflictModel& model, QWidget* parent
     grid->setHorizontalSpacing(Unit(*this) * kMarginUnits);
     grid->setVerticalSpacing(Unit(*this) * kGapUnits);
     grid->setColumnStretch(1, 1);
-    // Enter keeps both recipes, and only once a new name has been typed.
+    // Enter renames, which keeps both recipes, and requires that a new name has been typed.
     AddChoice(*grid, "cmdRename", tr("&Rename"), "lblRename", ToQt(model.RenameText()))->setDefault(true);
     AddNewName(*grid);
     AddChoice(*grid, "cmdOverwrite", tr("&Overwrite"), "lblOverwrite",

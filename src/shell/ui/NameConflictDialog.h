@@ -1,4 +1,4 @@
-// The window that asks what to do with a recipe whose name is taken.
+// The dialog that asks what to do with a recipe whose name already exists (frmNameConflict).
 #pragma once
 
 #include <QDialog>
@@ -21,7 +21,7 @@ class NameConflictDialog final : public QDialog {
     void reject() override;
 
   private:
-    // A button and, behind it, what it does.
+    // Adds a button and, next to it, a label that says what it does.
     QPushButton* AddChoice(QGridLayout& grid, const char* button, const QString& caption, const char* label,
                            const QString& text);
     void AddNewName(QGridLayout& grid);

@@ -30,7 +30,7 @@ constexpr int kWidthUnits = 82;
 constexpr int kHeightUnits = 56;
 constexpr int kIndentUnits = 2;
 
-// The folders stand one step further in, each below the one above it.
+// Indents each folder by one more step than the one above it.
 class IndentingDelegate final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -111,7 +111,7 @@ void OpenSaveDialog::AddButton(QBoxLayout& row, const char* name, const char* ic
     buttons_[name] = button;
 }
 
-// A key that works while no name is being typed over a row.
+// Adds a key that runs the command unless a row is being renamed.
 void OpenSaveDialog::AddKey(QWidget& widget, const QKeySequence& key, const std::string& command) {
     auto* shortcut = new QShortcut(key, &widget);
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
@@ -222,7 +222,7 @@ void OpenSaveDialog::ShowState() {
     buttons_["cmdDetails"]->setChecked(model_.Look().viewType == ListViewType::Details);
     const QString name = ToQt(model_.NameText());
     if (name_->text() != name) name_->setText(name);
-    // Entering a folder ends a search.
+    // Entering a folder ends the search.
     if (!model_.List().IsFinding() && !find_->text().trimmed().isEmpty()) find_->clear();
     list_->SetView(model_.Look().viewType);
     list_->ShowState();
@@ -246,7 +246,7 @@ void OpenSaveDialog::MoveChoice(int step) {
     rows.Select(std::clamp(rows.Selected() + step, 0, std::max(rows.Count() - 1, 0)));
 }
 
-// The arrows walk through the list while a box keeps the focus.
+// The arrow keys move the selection of the list while a text box keeps the focus.
 bool OpenSaveDialog::eventFilter(QObject* object, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return QDialog::eventFilter(object, event);
     switch (static_cast<QKeyEvent*>(event)->key()) {
@@ -258,7 +258,7 @@ bool OpenSaveDialog::eventFilter(QObject* object, QEvent* event) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
             if (object != find_ || model_.List().Rows().Selected() != ListTable::kNoRow) break;
-            // Of one recipe found, and of many, the first is what was meant.
+            // Enter in the search box selects the first recipe found.
             MoveChoice(1);
             return true;
         default:
@@ -267,7 +267,7 @@ bool OpenSaveDialog::eventFilter(QObject* object, QEvent* event) {
     return QDialog::eventFilter(object, event);
 }
 
-// Escape clears a search before it cancels.
+// Escape first clears a search; only without one does it cancel.
 void OpenSaveDialog::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !find_->text().isEmpty())
         find_->clear();

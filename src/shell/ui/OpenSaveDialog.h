@@ -1,4 +1,4 @@
-// The window of the open and save dialog (frmOpenSave).
+// The dialog that opens, saves or deletes recipes (frmOpenSave).
 #pragma once
 
 #include <QDialog>
@@ -35,7 +35,7 @@ class OpenSaveDialog final : public QDialog {
     void Press(const std::string& command);
     void Run(PopupChoice choice);
     void OpenRow();
-    // The window as the model is now; closes when it is done.
+    // Shows the present state of the model; closes the dialog once the model is closed.
     void ShowState();
     void ShowFolders();
     void ShowPopup(const QPoint& place);

@@ -56,8 +56,7 @@ OptionsDialog::OptionsDialog(OptionsModel& model, ColorChooser& colors, QWidget*
 QPushButton* OptionsDialog::DialogButton(const char* name, const QString& caption) {
     auto* button = new QPushButton(caption, this);
     button->setObjectName(QLatin1String(name));
-    // A click leaves the focus in its field, so that OK still sees which one it was and Cancel checks
-    // nothing.
+    // A click leaves the focus in the field, so that OK can check that field and Cancel checks none.
     button->setFocusPolicy(Qt::TabFocus);
     connect(button, &QPushButton::clicked, this, [this, name] { Press(name); });
     return button;
@@ -92,7 +91,7 @@ void OptionsDialog::ShowModel() {
         if (auto* field = qobject_cast<QLineEdit*>(widget)) {
             if (field->text() != text) field->setText(text);
         } else if (auto* list = qobject_cast<QComboBox*>(widget)) {
-            // The text of a list without a choice is an entry too; the model knows which it is.
+            // Every text is an entry of its list, even the empty text of a list without a choice.
             list->setCurrentIndex(list->findText(text));
         } else if (auto* color = qobject_cast<ColorButton*>(widget)) {
             const CellColors shown = ShownColors(control.name.starts_with("picCalc"));
@@ -125,7 +124,7 @@ void OptionsDialog::ShowSample(QLabel& sample, const CellColors& shown) {
 
 void OptionsDialog::changeEvent(QEvent* event) {
     QDialog::changeEvent(event);
-    // The tints follow the desktop.
+    // The tints depend on the desktop's colours.
     if (event->type() == QEvent::PaletteChange && sumSample_) ShowModel();
 }
 

@@ -1,4 +1,4 @@
-// The options dialog (frmOptions): three tabs that show an OptionsModel and pass on what the brewer does.
+// The options dialog (frmOptions): three tabs that show an OptionsModel and pass the brewer's actions to it.
 #pragma once
 
 #include <QDialog>
@@ -26,7 +26,7 @@ class UpDown;
 class OptionsDialog final : public QDialog {
     Q_OBJECT
   public:
-    // Both must outlive the dialog.
+    // model and colors must outlive the dialog.
     OptionsDialog(OptionsModel& model, ColorChooser& colors, QWidget* parent);
 
   protected:
@@ -36,7 +36,7 @@ class OptionsDialog final : public QDialog {
     void changeEvent(QEvent* event) override;
 
   private:
-    // The pages (OptionsPages.cpp).
+    // The pages are in OptionsPages.cpp.
     QWidget* AddPage(const QString& caption);
     void BuildDefaultsPage();
     void BuildSettingsPage();
@@ -57,13 +57,13 @@ class OptionsDialog final : public QDialog {
     void Press(const char* button);
     void Enter(const QString& control, const QString& text);
     void ChooseColor(const QString& picture);
-    // Everything shows what the model holds.
+    // Shows the present state of the model.
     void ShowModel();
-    // How the grids paint their calculated cells, or else their totals, with the colours of the dialog.
+    // Returns the colours of calculated cells of the grids, or else of totals, as chosen in the dialog.
     CellColors ShownColors(bool calculated) const;
     static void ShowSample(QLabel& sample, const CellColors& shown);
     void FieldLeft();
-    // The focus goes back to a refused field, once the event that took it away is over.
+    // Returns the focus to a refused field after the event that moved it away has been processed.
     void GoBackTo(const QString& field);
 
     OptionsModel& model_;
@@ -75,7 +75,7 @@ class OptionsDialog final : public QDialog {
     QWidget* colorGroup_ = nullptr;
     QLabel *calcSample_ = nullptr, *sumSample_ = nullptr;
     QMenu* colorMenu_ = nullptr;
-    bool refusing_ = false;  // the focus is on its way back; its moves until then are no entry
+    bool refusing_ = false;  // true while the focus returns to a field; its changes are then ignored
 };
 
 }  // namespace tw

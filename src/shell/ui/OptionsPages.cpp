@@ -1,4 +1,4 @@
-// How the three tabs of the options are laid out.
+// The layout of the three tabs of the options dialog.
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>

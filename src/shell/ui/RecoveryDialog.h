@@ -1,4 +1,4 @@
-// The window that offers what an earlier run left unsaved (frmRecovery).
+// The dialog that offers unsaved recipes of an earlier run (frmRecovery).
 #pragma once
 
 #include <QDialog>

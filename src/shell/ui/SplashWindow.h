@@ -1,4 +1,4 @@
-// The picture that stands over the main window while the program gets ready: it goes as soon as that is done.
+// The picture in front of the main window during start-up.
 #pragma once
 
 #include <QWidget>
@@ -10,7 +10,7 @@ class SplashWindow final : public QWidget {
   public:
     static constexpr const char* kFormName = "frmSplash";
 
-    // Sized to its picture, in the middle of parent.
+    // Creates the splash in the size of its picture, centred on parent.
     explicit SplashWindow(QWidget* parent);
 
     QSize sizeHint() const override;

@@ -1,4 +1,4 @@
-// The window that tells which recipes have come in without their style.
+// The dialog that lists the recipes imported without their style (frmStylesNotImported).
 #pragma once
 
 #include <QDialog>

@@ -20,7 +20,7 @@ void UpDown::AddArrow(Qt::ArrowType arrow, const QString& name, int by) {
     auto* button = new QToolButton(this);
     button->setArrowType(arrow);
     button->setAutoRepeat(true);
-    // The focus stays in the box, whose own arrow keys step too.
+    // The focus stays in the box, whose arrow keys also step the number.
     button->setFocusPolicy(Qt::NoFocus);
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     button->setAccessibleName(name);

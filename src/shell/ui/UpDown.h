@@ -1,4 +1,4 @@
-// Two arrows that step the number in the box beside them.
+// Two arrows that step the number in the box next to them.
 #pragma once
 
 #include <QWidget>
@@ -8,14 +8,14 @@ namespace tw {
 class UpDown final : public QWidget {
     Q_OBJECT
   public:
-    // upName and downName: what the arrows are called for assistive programs.
+    // upName and downName are the accessible names of the arrows.
     UpDown(const QString& upName, const QString& downName, QWidget* parent);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
   signals:
-    // by: 1 or -1. An arrow held down repeats.
+    // by is 1 or -1. An arrow that is held down repeats.
     void Stepped(int by);
 
   private:
