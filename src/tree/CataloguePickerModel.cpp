@@ -29,7 +29,7 @@ CataloguePickerModel::CataloguePickerModel(CatalogueKind type, Database& databas
         if (HasFolders()) tree.PopulateTreeViewForStyleList(view);
     });
     for (const int folder : folders_.Children(TreeItems::kNone)) folders_.Expand(folder);
-    // A tree without its system folder still lets a style be chosen.
+    // Without the system folder in the tree, styles can still be chosen.
     if (!HasFolders() || !ChooseFolder(kAllStylesKey)) Fill(-1);
 }
 
@@ -54,7 +54,7 @@ bool CataloguePickerModel::ChooseFolder(std::string_view key) {
 void CataloguePickerModel::TakeRow() {
     const ListRow& row = items_.Row(items_.Selected());
     answer_ = row.key;
-    // Without a description there is nothing to part from the name: a " - " alone would become part of it.
+    // Without a description, only the name: a " - " alone would become part of it.
     if (type_ == CatalogueKind::Yeast && !IsBlank(row.cells[1])) answer_ += " - " + row.cells[1];
     Accept();
 }

@@ -1,4 +1,4 @@
-// The picker of one row of a catalogue (frmLvShow).
+// The dialog that picks one row of a catalogue (frmLvShow).
 #pragma once
 
 #include <functional>
@@ -13,37 +13,40 @@
 
 namespace tw {
 
-// lvItems shows and takes the text of the chosen row, treeFolders, where it is there, the key of the folder;
-// cmdOK and cmdView, which are off while the list has no chosen row; cmdCancel.
+// lvItems contains and accepts the text of the selected row. treeFolders, which only styles have, contains
+// and accepts the key of the folder. The buttons are cmdOK and cmdView, which are disabled while no row is
+// selected, and cmdCancel.
 class CataloguePickerModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmLvShow";
 
-    // Shows the chosen row of the list to be read; the list's selection may be another afterwards.
+    // Shows the selected row of the list in a read-only editor, which may change the selection.
     using Viewer = std::function<void(CatalogueKind type, ListTable& items)>;
 
-    // name: what the search starts on; another name of a row stands for that row. REQUIRES: both live for as
-    // long as the dialog.
+    // name is the name whose row, or the nearest one, is selected first; it may also be one of a row's other
+    // names. REQUIRES: database and tree outlive the dialog.
     CataloguePickerModel(CatalogueKind type, Database& database, const TWTree& tree, std::string_view name);
 
-    // What cmdView does; it stays off without one.
+    // Sets what cmdView does; without a viewer it is disabled.
     void SetViewer(Viewer viewer) { viewer_ = std::move(viewer); }
 
     CatalogueKind Type() const { return type_; }
-    // "Select Style".
+    // Returns a title such as "Select Style".
     std::string Title() const;
     ListTable& Items() { return items_; }
-    // The guides that the codes of the styles are from; empty without codes and for other lists.
+    // The guides to which the codes of the styles refer; empty without codes, and for other lists.
     const std::string& Guides() const { return guides_; }
-    // treeFolders, which the style picker alone has.
+    // True if there is treeFolders, as in the style picker only.
     bool HasFolders() const { return type_ == CatalogueKind::Style; }
     TreeItems& Folders() { return folders_; }
-    // The list follows, on the row nearest to the name. False for no such folder.
+    // Shows the styles of that folder and selects the one nearest to the name. False if there is no
+    // such folder.
     bool ChooseFolder(std::string_view key);
     bool OkEnabled() const { return items_.Selected() != ListTable::kNoRow; }
     bool ViewEnabled() const { return viewer_ && OkEnabled(); }
 
-    // What the document is to be told: the row's text; of a yeast that, " - " and its description.
+    // The text for the document: the name of the chosen row; for a yeast with a description, both with " - "
+    // between them.
     const std::string& Answer() const { return answer_; }
 
   private:

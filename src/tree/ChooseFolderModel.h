@@ -1,4 +1,4 @@
-// The dialog in which a folder is chosen (frmChooseFolder).
+// The dialog that chooses a folder (frmChooseFolder).
 #pragma once
 
 #include <cstdint>
@@ -9,18 +9,19 @@
 
 namespace tw {
 
-// FolderChooser1 shows and takes the id of its folder; cmdOK takes the folder; cmdCancel.
+// FolderChooser1 contains and accepts the id of its folder. The buttons are cmdOK, which accepts the folder,
+// and cmdCancel.
 class ChooseFolderModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmChooseFolder";
 
-    // REQUIRES: both live for as long; objects changes that tree.
+    // REQUIRES: tree and objects outlive the dialog; objects changes that tree.
     ChooseFolderModel(const TWTree& tree, DB_IO& objects);
 
-    // FALSE recipe folders, TRUE style folders. Setting it chooses the root.
+    // True for style folders, false for recipe folders. Changing it selects the root.
     bool StyleFolders() const { return chooser_.Styles(); }
     void SetStyleFolders(bool styles) { chooser_.SetStyles(styles); }
-    // The folder that is shown first; after cmdOK the one that was chosen.
+    // The folder shown initially or, after cmdOK, the chosen one.
     std::int64_t FolderID() const { return folderId_; }
     void SetFolderID(std::int64_t id);
     FolderChooser& FolderChooser1() { return chooser_; }

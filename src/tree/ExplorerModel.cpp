@@ -11,7 +11,7 @@
 namespace tw {
 namespace {
 
-// Shows the branch of the styles alone.
+// Shows only the branch of the styles.
 class StyleBranch final : public TreeView {
   public:
     explicit StyleBranch(TreeView& view) : view_(view) {}
@@ -81,7 +81,7 @@ void ExplorerModel::DeclareControls() {
 }
 
 void ExplorerModel::DeclareCommands() {
-    // A save under an open explorer has given rows new keys.
+    // A save while the explorer was open may have given rows new keys.
     const auto run = [this](void (ExplorerModel::*command)()) {
         return [this, command] {
             At(shown_).list.FollowSaves();
@@ -175,7 +175,7 @@ bool ExplorerModel::ChooseNode(std::string_view key) {
 void ExplorerModel::Find(std::string_view text) {
     opened_.clear();
     PageState& page = At(Page::Recipes);
-    // The folder may be another than before the search.
+    // Another folder may have been selected since the search began.
     if (IsBlank(text)) return page.list.Show(page.tree.SelectedKey(), false);
     page.list.Find(text);
 }
@@ -201,7 +201,7 @@ std::string ExplorerModel::Status() const {
 }
 
 bool ExplorerModel::CanOpen(std::string_view key) const {
-    // "(None)" is no style that could be edited.
+    // "(None)" is a style that cannot be edited.
     if (IsStyleKey(key)) return hooks_.editStyle && CanRenameNode(key);
     return !key.empty();
 }
@@ -228,7 +228,7 @@ void ExplorerModel::Open() {
     } else if (IsStyleKey(key)) {
         OpenStyle(key);
     } else {
-        // The stored name: the tree shows a new one as it was typed.
+        // Uses the stored name, as the tree may show a new name as it was typed.
         const std::string name = access_.objects.RecipeNameById(IdOfKey(key));
         if (name.empty()) return Settle();
         hooks_.openRecipe(name);

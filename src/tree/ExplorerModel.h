@@ -1,5 +1,5 @@
-// The explorer (frmExplorer): a tree of folders beside the list of what the chosen one holds, one pair for
-// the recipes and one for the styles. It changes nothing itself: all that it does goes through DB_IO.
+// The explorer (frmExplorer): a tree of folders and the list of what the selected folder contains, one pair
+// for recipes and one for styles. It changes nothing itself; DB_IO does.
 #pragma once
 
 #include <array>
@@ -17,15 +17,16 @@
 
 namespace tw {
 
-// Shows the editor of the style of that name, or of a new one, in that style folder, for a blank name. The
-// name that was saved, nothing when it was cancelled.
+// Shows the editor of the style of that name or, if name is blank, of a new style in that folder. Returns the
+// name under which the style was saved, or nullopt if it was cancelled.
 using StyleEditing =
     std::function<std::optional<std::string>(const std::string& name, std::int64_t folderId)>;
 
-// optRecipes and optStyles; of the page shown treeFolders, the key of the chosen entry, and lvNames, the
-// chosen rows' names, a line each, which takes keys too; txtFind, what to look for; txtLabel, the new name of
-// what is being edited, which ends the edit. The buttons are the items of the menus, mnuArrangeBy(0) and so
-// on for its array, and cmdClose. An error of a deletion rises when what is left is shown.
+// optRecipes and optStyles choose the page. On the current page, treeFolders contains the key of the selected
+// entry, and lvNames the names of the selected rows, one per line; it also accepts keys. txtFind contains the
+// text to find. txtLabel is the new name of what is being edited, and entering it ends the edit. The buttons
+// are the menu items, of which mnuArrangeBy(0) and so on form an array, and cmdClose. The error of a deletion
+// is raised after the remaining objects are shown.
 class ExplorerModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmExplorer";
@@ -34,13 +35,14 @@ class ExplorerModel final : public FormModel {
     struct Hooks {
         // Opens the stored recipe of that name as a document.
         std::function<void(const std::string& name)> openRecipe;
-        StyleEditing editStyle;  // may be empty: the commands on styles are dark then
+        StyleEditing editStyle;  // may be empty, which disables the commands on styles
     };
 
-    // Shows the recipes, with both root folders chosen. REQUIRES: what access names lives for as long.
+    // Shows the page of recipes; on both pages the root folder is selected. REQUIRES: the objects of access
+    // outlive the dialog.
     ExplorerModel(const ObjectAccess& access, Hooks hooks);
 
-    // ViewType, ArrangeKey and ArrangeOrder, of both lists.
+    // The view type and order of both lists.
     const ListLook& Look() const { return look_; }
     void SetLook(const ListLook& look);
 
@@ -48,38 +50,39 @@ class ExplorerModel final : public FormModel {
     void Show(Page page) { shown_ = page; }
     TreeItems& Tree(Page page) { return At(page).tree; }
     NodeList& List(Page page) { return At(page).list; }
-    // Of the page shown, empty when no entry is chosen.
+    // The key of the selected entry on the current page; empty if none is selected.
     std::string NodeKey() const { return At(shown_).tree.SelectedKey(); }
-    // Whether a command does something now.
+    // True if the command is enabled.
     bool IsEnabled(PopupCommand command) const { return FormModel::IsEnabled(tw::NameOf(command)); }
     using FormModel::IsEnabled;
-    // Does what the command does; nothing while it is disabled. False for one of another window. An error of
-    // a deletion rises when what is left is shown.
+    // Runs the command. Does nothing while it is disabled; false if it belongs to another window. The error
+    // of a deletion is raised after the remaining objects are shown.
     bool Run(PopupChoice choice) { return Press(tw::NameOf(choice)); }
-    // How many objects are shown and chosen, or what has just been opened, or that the tree is not up to
-    // date.
+    // Returns how many objects are shown and selected, or what has just been opened, or that the tree is not
+    // up to date.
     std::string Status() const;
 
-    // What the brewer does on the page shown.
+    // The brewer's actions on the current page.
 
-    // Chooses the tree's entry of that key and shows what it holds. False when there is none.
+    // Selects the entry of that key in the tree and shows its contents. False if there is none.
     bool ChooseNode(std::string_view key);
-    // Another row is chosen, or none.
+    // Another row has been selected, or none.
     void RowChosen() { opened_.clear(); }
-    // Narrows the list of recipes; a text without a word shows the folder again.
+    // Limits the list of recipes to those that contain the words; a text without a word shows the
+    // folder again.
     void Find(std::string_view text);
-    // Whether each of the objects may be dropped on that one.
+    // True if each of the objects may be dropped on the target.
     bool CanDrop(const std::vector<std::string>& keys, std::string_view targetKey) const;
-    // Moves them, in their order, until one is refused; then shows both places.
+    // Moves the objects, in order, until a move is refused; then shows both places.
     void Drop(const std::vector<std::string>& keys, std::string_view targetKey);
-    // The tree's entry whose name is being edited; TreeItems::kNone for none. NodeList tells it of the rows.
+    // The entry of the tree whose name is being edited, or TreeItems::kNone. NodeList reports edited rows.
     int EditedNode() const;
     void CancelEdit();
-    // The name typed over that entry, or over the row being edited. False when it was refused, which has been
-    // told. What is shown goes to its place by Settle, when the editor has closed.
+    // Rename that entry, or the row being edited. False if the name was refused, after a message. Settle then
+    // moves it to its place in the order; it must be called after the editor has closed.
     bool RenameNode(std::string_view newName);
     bool RenameRow(std::string_view newName) { return At(shown_).list.EndEdit(newName); }
-    // Shows everything as it stands in the tree now; the chosen entries and rows stay chosen.
+    // Shows the present contents of the tree; selected entries and rows stay selected.
     void Settle();
 
   private:
@@ -105,12 +108,12 @@ class ExplorerModel final : public FormModel {
     bool CanAddStyle() const;
     bool ShowsIcons() const;
     void SortLists();
-    // Fills the page's tree; keyToSelect, if it is there, is chosen then, otherwise the entry as before, or
-    // the page's root folder.
+    // Fills the page's tree. Selects keyToSelect if it is there, else the entry selected before, else the
+    // page's root folder.
     void FillTree(PageState& page, std::string_view keyToSelect);
     void ShowCodes(TreeItems& tree) const;
     void FillList(PageState& page);
-    // Runs work, then shows everything anew, also when work raises.
+    // Runs work, then shows the present state, even if work raises an error.
     void Change(const std::function<void()>& work);
     bool Confirm(const std::string& text);
     std::string NameOf(const std::string& key) const;
@@ -131,7 +134,7 @@ class ExplorerModel final : public FormModel {
     ListLook look_;
     Page shown_ = Page::Recipes;
     std::array<PageState, 2> pages_;
-    std::string opened_;  // the recipe opened last
+    std::string opened_;  // the recipe opened last; empty after another action
 };
 
 }  // namespace tw

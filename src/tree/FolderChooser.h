@@ -1,4 +1,4 @@
-// The part of a dialog in which a recipe folder or a style folder is chosen, made and renamed.
+// The part of a dialog in which a recipe folder or a style folder is selected, created and renamed.
 #pragma once
 
 #include <cstdint>
@@ -11,46 +11,48 @@
 
 namespace tw {
 
-// Where the label stands over its tree.
+// The position of the label above its tree.
 enum class LabelAlignment : int { Left, Right, Center };
 
 class FolderChooser {
   public:
-    // Shows the sample "My Folders" with three folders, for a form that is being designed.
+    // Shows "My Folders" with three folders as a sample, for the design of a form.
     FolderChooser();
-    // Shows the recipe folders of the tree, with "My Recipe Folders" chosen. REQUIRES: both live for as long;
-    // objects changes that tree.
+    // Shows the recipe folders of the tree, with "My Recipe Folders" selected. REQUIRES: tree and objects
+    // outlive this object; objects changes that tree.
     FolderChooser(const TWTree& tree, DB_IO& objects);
     FolderChooser(const FolderChooser&) = delete;
     FolderChooser& operator=(const FolderChooser&) = delete;
 
     LabelAlignment Alignment() const { return alignment_; }
     void SetAlignment(LabelAlignment alignment) { alignment_ = alignment; }
-    // Whether the folders are those of the styles. Another kind starts at its root.
+    // True for style folders, false for recipe folders. Changing it selects the root.
     bool Styles() const { return styles_; }
     void SetStyles(bool styles);
-    // "Recipe Folder" or "Style Folder".
+    // Returns "Recipe Folder" or "Style Folder".
     std::string Label() const { return styles_ ? "Style Folder" : "Recipe Folder"; }
-    // Shows the tree as it is now; the chosen folder stays if it is still there, else the root is chosen.
+    // Shows the present folders of the tree. The selected folder stays selected if it still exists; else the
+    // root is.
     void FillTheTree();
 
     TreeItems& Items() { return items_; }
-    // Of the chosen folder, 0 for the root.
+    // The id of the selected folder; 0 for the root.
     std::int64_t FolderID() const;
-    // Chooses the folder of that id, the root when there is none. Also while locked.
+    // Selects the folder of that id, or the root if there is none; even while locked.
     void SetFolderID(std::int64_t id);
-    // While locked no other folder can be chosen, none made and none renamed.
+    // While locked, the brewer cannot select, create or rename folders.
     bool Locked() const { return locked_; }
     void SetLocked(bool locked) { locked_ = locked; }
 
-    // What the brewer does. Each is false, and nothing has changed, while locked.
+    // The brewer's actions. Each returns false, without a change, while locked. Choose selects the folder of
+    // that key.
     bool Choose(std::string_view key);
-    // Under the chosen folder, under the next free name; it is the chosen one then, so that its name can be
-    // edited. False when it was refused, which has been told.
+    // Creates a folder below the selected one, with the next unused name, and selects it so that its name can
+    // be edited. False if it was refused, after a message.
     bool CreateFolder();
     bool CanRename() const;
-    // Of the chosen folder, which stays in its place until the next FillTheTree. False when the name was
-    // refused, which has been told.
+    // Renames the selected folder, which keeps its place until the next FillTheTree. False if the name was
+    // refused, after a message.
     bool Rename(std::string_view newName);
 
   private:

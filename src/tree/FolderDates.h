@@ -1,4 +1,4 @@
-// When folders were changed last.
+// Sets the modification dates of folders.
 #pragma once
 
 #include <cstdint>
@@ -13,15 +13,15 @@ namespace tw {
 
 class FolderDates {
   public:
-    // REQUIRES: all of them live for as long.
+    // REQUIRES: all arguments outlive the object.
     FolderDates(Database& database, TreeObjects& tree, ClockPort& clock)
         : database_(database), tree_(tree), clock_(clock) {}
 
-    // The present time as a date of a row.
+    // Returns the present time in the form in which rows store dates.
     std::string Now() const;
-    // MODIFIED_WHEN of that one folder becomes now; a folder id of 0 matches no row.
+    // Sets the folder's MODIFIED_WHEN to the present time; does nothing for the root, whose id 0 has no row.
     void Touch(FolderKind kind, std::int64_t id);
-    // Touches the folder that the entry stands in; none for an entry that is missing.
+    // Calls Touch for the folder that contains the entry; does nothing if the entry is missing.
     void TouchFolderOf(FolderKind kind, const std::string& key);
 
   private:

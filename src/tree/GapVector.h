@@ -1,6 +1,5 @@
-// A list in one block of memory whose free places stand together where it was last changed, so that changes
-// side by side move nothing but what lies between them: ten thousand removals from front to back cost one
-// pass.
+// A vector whose unused space is a gap at the position of the last change. Changes near that position move
+// only the items in between: removing ten thousand items from front to back costs one pass.
 #pragma once
 
 #include <algorithm>
@@ -13,11 +12,11 @@
 
 namespace tw {
 
-// REQUIRES: an Item is made from nothing and moved without an error.
+// REQUIRES: an Item can be default-constructed and moved without exceptions.
 template <typename Item>
 class GapVector {
   public:
-    // Reads only. Valid until the list changes.
+    // A read-only iterator, valid until the list changes.
     class Iterator {
       public:
         using iterator_category = std::random_access_iterator_tag;
@@ -46,7 +45,7 @@ class GapVector {
         friend difference_type operator-(const Iterator& a, const Iterator& b) {
             return static_cast<difference_type>(a.index_ - b.index_);
         }
-        // REQUIRES: both are of one list.
+        // REQUIRES: both are of the same list.
         friend bool operator==(const Iterator& a, const Iterator& b) { return a.index_ == b.index_; }
         friend auto operator<=>(const Iterator& a, const Iterator& b) { return a.index_ <=> b.index_; }
 
@@ -62,7 +61,7 @@ class GapVector {
     Iterator begin() const { return {*this, 0}; }
     Iterator end() const { return {*this, Count()}; }
 
-    // Makes room for count items in all.
+    // Reserves space for count items in total.
     void Reserve(std::size_t count) {
         if (count <= places_.size()) return;
         std::vector<Item> places(count);
@@ -71,22 +70,22 @@ class GapVector {
         gapEnd_ += count - places_.size();
         places_ = std::move(places);
     }
-    // Makes room for one item more, and for others to come.
+    // Reserves space for at least one more item, with growth in steps.
     void ReserveOne() {
         if (Gap() == 0) Reserve(Count() + Count() / 2 + 3);
     }
-    // Puts the item before the one at index, or at the end. REQUIRES: index is at most Count.
+    // Inserts the item before the one at index, or at the end. REQUIRES: index is at most Count.
     const Item& Insert(std::size_t index, Item&& item) {
         ReserveOne();
         MoveGap(index);
         return places_[gapBegin_++] = std::move(item);
     }
-    // REQUIRES: index is below Count.
+    // Removes the item and returns it. REQUIRES: index is below Count.
     Item TakeOut(std::size_t index) {
         MoveGap(index);
         return std::move(places_[gapEnd_++]);
     }
-    // All items side by side, to change their order. Valid until the list changes.
+    // Returns all items in contiguous memory, to change their order. Valid until the list changes.
     std::span<Item> InOneRow() {
         MoveGap(Count());
         return std::span(places_).first(Count());
@@ -107,8 +106,8 @@ class GapVector {
     }
 
     std::vector<Item> places_;
-    std::size_t gapBegin_ = 0;  // the free places, from here
-    std::size_t gapEnd_ = 0;    // to before here
+    std::size_t gapBegin_ = 0;  // the gap begins here
+    std::size_t gapEnd_ = 0;    // and ends before here
 };
 
 }  // namespace tw

@@ -11,9 +11,9 @@ namespace {
 constexpr std::array<std::string_view, 5> kTypeNames = {"Ale", "Lager", "Wheat", "Lactic", "Wine/Mead/Cider"};
 
 constexpr int kNoon = 12;
-constexpr std::size_t kDateLength = 10;  // of "MM/DD/YYYY"
+constexpr std::size_t kDateLength = 10;  // length of "MM/DD/YYYY"
 
-// Nothing for NULL, and for an infinite number, which only a foreign program stores.
+// Returns nullopt for NULL, and for an infinite number, which only another program can have stored.
 std::optional<double> FigureOf(const Field& field) {
     if (field.IsNull()) return std::nullopt;
     try {
@@ -30,7 +30,7 @@ std::string FigureText(double figure, std::string_view pattern) {
 }  // namespace
 
 std::string ListDate(const Field& date) {
-    constexpr std::size_t kMinutes = kDateLength + 3;  // ":MM" of "MM/DD/YYYY HH:MM:SS"
+    constexpr std::size_t kMinutes = kDateLength + 3;  // position of ":MM" in "MM/DD/YYYY HH:MM:SS"
     const std::string text = date.Text();
     const std::optional<DateTime> when = ParseDateText(text);
     if (!when) return std::string(kNoDate);
@@ -41,7 +41,7 @@ std::string ListDate(const Field& date) {
 }
 
 std::optional<DateTime> ReadListDate(std::string_view text) {
-    // Two blanks, "HH:MM", a blank and the half of the day.
+    // After the date: two blanks, "HH:MM", a blank, and AM or PM.
     constexpr std::size_t kTime = kDateLength + 2, kHalf = kTime + 6;
     if (text.size() != kHalf + 2) return std::nullopt;
     const std::string_view half = text.substr(kHalf);

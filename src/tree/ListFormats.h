@@ -1,4 +1,4 @@
-// The texts of list cells.
+// Formats the texts of list cells.
 #pragma once
 
 #include <optional>
@@ -11,37 +11,37 @@
 
 namespace tw {
 
-// What a cell without a value shows: no list cell is empty.
+// The text of a cell without a value, as no cell of a list is empty.
 inline constexpr std::string_view kNoDate = " ";
 inline constexpr std::string_view kNoNumber = "  ";
 
-// The number patterns of a style's ranges; the empty one is a number's shortest form.
+// The number patterns of a style's ranges; an empty pattern is the shortest form of a number.
 inline constexpr std::string_view kGravityPattern = "0.##0";
 inline constexpr std::string_view kAlcoholPattern = "0.0";
 inline constexpr std::string_view kColorPattern;
 inline constexpr std::string_view kBitternessPattern = "0";
 inline constexpr std::string_view kCarbonationPattern = "0.0";
 
-// The date of a field, "MM/DD/YYYY  HH:MM AM" or "PM" with a clock of twelve hours; kNoDate for NULL and for
-// what is no date.
+// Returns the date of a field as "MM/DD/YYYY  HH:MM AM" or "PM", in twelve-hour time; kNoDate for NULL or an
+// invalid date.
 std::string ListDate(const Field& date);
-// Reads that form, to the minute; nothing for any other text.
+// Reads that form, to the minute; nullopt for any other text.
 std::optional<DateTime> ReadListDate(std::string_view text);
 
-// The field's text, kNoNumber when it has none.
+// Returns the field's text; kNoNumber if it has none.
 std::string ListText(const Field& text);
-// The field's number in a number pattern (see FormatNumber), or in its shortest form for an empty one;
-// kNoNumber for NULL.
+// Returns the field's number in a number pattern (see FormatNumber), or in its shortest form if pattern is
+// empty; kNoNumber for NULL.
 std::string ListNumber(const Field& number, std::string_view pattern);
-// "{low}-{high}", the one end when the other is NULL, kNoNumber without both.
+// Returns "{low}-{high}", or only the end that is not NULL; kNoNumber if both are NULL.
 std::string ListRange(const Field& low, const Field& high, std::string_view pattern);
-// The words of STYLES.TYPE and YEAST.TYPE, the number 0 first.
+// Returns the words of STYLES.TYPE and YEAST.TYPE, in the order of their numbers from 0.
 std::span<const std::string_view> TypeNames();
-// One of them; kNoNumber for NULL and for a number without a word.
+// Returns one of these words; kNoNumber for NULL and for a number without a word.
 std::string ListTypeName(const Field& type);
-// What a window shows of a row with a code: "{code}  {name}", the name alone without one.
+// Returns the displayed text of a row with a code: "{code}  {name}", or only the name if code is empty.
 std::string CodedName(std::string_view code, std::string_view name);
-// The middle of a range, the one end when the other is NULL; nothing without both.
+// Returns the middle of a range, or only the end that is not NULL; nullopt if both are NULL.
 std::optional<double> MiddleOf(const Field& low, const Field& high);
 
 }  // namespace tw

@@ -16,14 +16,14 @@
 namespace tw {
 namespace {
 
-// What a cell is sorted by. Members are compared in their order.
+// The key by which rows are sorted. Members are compared in order.
 struct SortKey {
     int group = 0;
-    bool isMember = false;  // behind the heading
-    bool isObject = false;  // behind the folders
-    // The cell, which alone turns round when the order is descending.
+    bool isMember = false;  // follows the heading
+    bool isObject = false;  // follows the folders
+    // The value of the cell, the only part that a descending order reverses.
     struct Value {
-        int rank = 0;  // blank, number or date, text
+        int rank = 0;  // Rank: blank, number or date, text
         double first = 0, second = 0;
         std::string text;
         auto operator<=>(const Value&) const = default;
@@ -32,7 +32,7 @@ struct SortKey {
 
 enum Rank { kBlank, kFigure, kText };
 
-// The number at the beginning of text, which is taken off; nothing when it begins with none.
+// Removes the number at the beginning of text and returns it; nullopt if there is none.
 std::optional<double> TakeNumber(std::string_view& text) {
     std::size_t end = text.starts_with('-') ? 1 : 0;
     end = std::min(text.find_first_not_of("0123456789.", end), text.size());
@@ -41,7 +41,7 @@ std::optional<double> TakeNumber(std::string_view& text) {
         if (number) text.remove_prefix(end);
         return number;
     } catch (const Error&) {
-        return std::nullopt;  // beyond the range of a double
+        return std::nullopt;  // outside the range of a double
     }
 }
 
@@ -75,7 +75,7 @@ SortKey::Value ValueOf(std::string_view cell, ListColumnKind kind) {
     return value;
 }
 
-// The places of the rows in the order of a column, folders first within their group.
+// Returns the indices of the rows in the order of a column, folders first within their group.
 std::vector<std::size_t> SortedOrder(const std::vector<ListRow>& rows, int column, ListColumnKind kind,
                                      bool descending) {
     std::vector<SortKey> keys;
@@ -102,8 +102,8 @@ std::vector<ListRow> Arranged(std::vector<ListRow> rows, const std::vector<std::
     return arranged;
 }
 
-// Inside a code the same letters mean another one: 5A is not in 15A. And what is not seen in a row should not
-// bring it up for two letters in its middle.
+// True if a word of text begins with upperBeginning. Codes and other names are not visible in the row, so a
+// match within one of their words would be misleading; and 5A is not 15A.
 bool BeginsAWord(std::string_view text, std::string_view upperBeginning) {
     const std::string upper = Upper(text);
     for (std::size_t at = upper.find(upperBeginning); at != std::string::npos;
@@ -198,7 +198,7 @@ std::vector<ListRow> ListTable::Filtered() const {
     std::vector<ListRow> shown;
     for (const ListRow& row : unfiltered_) {
         if (!row.isGroup && !PassesFilter(row, words)) continue;
-        // A heading without a row below gives way to what comes next.
+        // A heading without rows is replaced by what follows it.
         if (row.isGroup && !shown.empty() && shown.back().isGroup) shown.pop_back();
         if (!row.isGroup && !shown.empty() && shown.back().isGroup && shown.back().group != row.group)
             shown.pop_back();

@@ -1,5 +1,5 @@
-// A list with columns as a plain object: the rows of the explorer, the catalogue and the pickers. A widget
-// shows it and passes on what the brewer does.
+// A list with columns, as a plain object: the rows of the explorer, the catalogue and the pickers. A widget
+// shows it and forwards the brewer's actions.
 #pragma once
 
 #include <optional>
@@ -11,42 +11,42 @@
 
 namespace tw {
 
-// What a column holds, for sorting.
+// What a column contains, for sorting.
 enum class ListColumnKind {
     Text,
-    Number,  // numbers, ranges "{lo}-{hi}", numbers with a unit behind them
+    Number,  // numbers, ranges "{lo}-{hi}", numbers followed by a unit
     Date,    // the form of ListDate
 };
 
 struct ListColumn {
     std::string title;
     ListColumnKind kind = ListColumnKind::Text;
-    bool showsColor = false;  // the colour of the row stands in it
-    std::string note = {};    // what the title leaves out, such as the unit
+    bool showsColor = false;  // the cell shows the colour of the row
+    std::string note = {};    // what the title omits, such as the unit
 };
 
 struct ListRow {
-    std::string key;  // names the row in its list; empty for a group row
-    // One text for each column, the name first. A cell without a value holds blanks, never nothing.
+    std::string key;  // identifies the row in its list; empty for a group row
+    // One text per column, the name first. A cell without a value contains blanks; it is never empty.
     std::vector<std::string> cells;
     NodeIcon icon = NodeIcon::None;
-    bool isFolder = false;  // stands before the others, however the list is sorted
-    bool isGroup = false;   // a heading over rows, which nobody can choose
+    bool isFolder = false;  // always sorted before the others
+    bool isGroup = false;   // a heading over rows, which cannot be selected
     int group = 0;          // rows are sorted within their group; a heading belongs to the group below it
-    std::optional<double> hcu = std::nullopt;  // the colour of the malt or beer, in homebrew colour units
-    // What a window shows and the filter searches besides the cells. No cell holds it.
-    std::string code = {};                     // stands before the name
-    std::string origin = {};                   // where the row comes from: "Beer style guide of 2021"
-    std::vector<std::string> otherNames = {};  // what the row is called, too, and what else it is found by
+    std::optional<double> hcu = std::nullopt;  // colour of the malt or beer, in homebrew colour units (HCU)
+    // What a window shows or the filter searches in addition to the cells.
+    std::string code = {};                     // shown before the name
+    std::string origin = {};                   // the source of the row, such as "Beer style guide of 2021"
+    std::vector<std::string> otherNames = {};  // other names of the row, and other texts by which it is found
 };
 
 class ListTableObserver {
   public:
     virtual ~ListTableObserver() = default;
-    // Columns or rows are others.
+    // Columns or rows have changed.
     virtual void ListChanged() = 0;
     virtual void ListSelectionChanged() = 0;
-    // A cell of that row alone is another.
+    // Only cells of that row have changed.
     virtual void ListRowChanged(int /*row*/) { ListChanged(); }
 };
 
@@ -57,76 +57,76 @@ class ListTable {
     void SetObserver(ListTableObserver* observer) { observer_ = observer; }
 
     const std::vector<ListColumn>& Columns() const { return columns_; }
-    // Takes all rows away.
+    // Sets the columns and removes all rows.
     void SetColumns(std::vector<ListColumn> columns);
-    // The column of that title without regard to case, -1 for none.
+    // Returns the index of the column with that title, ignoring case; -1 if there is none.
     int ColumnOf(std::string_view title) const;
 
     const std::vector<ListRow>& Rows() const { return rows_; }
     int Count() const { return static_cast<int>(rows_.size()); }
-    // REQUIRES: there is such a row.
+    // REQUIRES: the row exists.
     const ListRow& Row(int row) const { return rows_[static_cast<std::size_t>(row)]; }
-    // Replaces all rows; none is selected. Missing cells become "  ", those beyond the columns are dropped.
+    // Replaces all rows; none is selected. Missing cells become "  ", surplus cells are dropped.
     void SetRows(std::vector<ListRow> rows);
     void Clear() { SetRows({}); }
-    // Puts the row behind all others.
+    // Appends the row.
     void Add(ListRow row);
-    // REQUIRES: there is such a row. The selection goes with its row.
+    // Removes the row from the list and from the selection. REQUIRES: the row exists.
     void Remove(int row);
-    // REQUIRES: there is such a row.
+    // REQUIRES: the row exists.
     void SetKey(int row, std::string key) { rows_[static_cast<std::size_t>(row)].key = std::move(key); }
-    // REQUIRES: there is such a row and such a column. The row stays where it is, however the list is sorted.
+    // The row keeps its position, even if the list is sorted. REQUIRES: the row and the column exist.
     void SetCell(int row, int column, std::string_view text);
-    // The first row of that key, letter for letter; kNoRow for none.
+    // Returns the first row of exactly that key, or kNoRow.
     int FindKey(std::string_view key) const;
 
-    // Shows only the rows in which each word of text occurs, in any cell or at the beginning of a word of the
-    // code or of another name, without regard to case, and the headings over them; all rows for a blank text.
-    // Rows that come later are filtered, too. The chosen row stays chosen while it is shown; else the first
-    // one is.
+    // Shows only rows that contain every word of text, ignoring case, either in any cell or at the beginning
+    // of a word of the code or of another name, and the headings over them; shows all rows if text is blank.
+    // Rows added later are filtered too. The selected row stays selected if it is still shown; otherwise the
+    // first one is.
     void SetFilter(std::string_view text);
     const std::string& Filter() const { return filter_; }
 
-    // The chosen row, of several the one that was chosen last; kNoRow without one.
+    // The selected row, or of several the one selected last; kNoRow if none is.
     int Selected() const { return selected_; }
-    // All chosen rows, from the top.
+    // All selected rows, in ascending order.
     const std::vector<int>& Chosen() const { return chosen_; }
     bool IsChosen(int row) const;
-    // The text of the chosen row's first column; empty without one.
+    // The text in the first column of the selected row; empty if none is selected.
     std::string SelectedText() const;
-    // Chooses that row alone. False, and nothing changes, for a group row and for none.
+    // Selects only that row. False, without a change, for a group row or if there is no such row.
     bool Select(int row);
-    // Chooses the first row with that text in its first column, compared without regard to case and blanks at
-    // the ends. False, and nothing changes, without one.
+    // Selects the first row with that text in its first column, ignoring case and surrounding blanks. False,
+    // without a change, if there is none.
     bool SelectText(std::string_view text);
-    // Chooses those rows and no other; group rows and what is no row are passed over. selected becomes the
-    // one chosen last when it is among them, otherwise the first of them does.
+    // Selects exactly those rows, ignoring group rows and invalid indices. selected becomes the row selected
+    // last if it is among them; otherwise the first of them does.
     void Choose(std::vector<int> rows, int selected);
     void SelectNone();
-    // The first row that can be chosen; kNoRow in a list without one.
+    // The first row that can be selected, or kNoRow.
     int FirstRow() const;
 
-    // Sorts the rows within their groups, folders first, texts without regard to case, numbers and dates by
-    // what they mean and blanks before all others; equal rows keep their order, also when descending. The
-    // chosen rows stay chosen. REQUIRES: there is such a column.
+    // Sorts the rows within their groups, folders first: texts ignoring case, numbers and dates by value, and
+    // blanks before all others. Equal rows keep their order, even if descending. Selected rows stay selected.
+    // REQUIRES: the column exists.
     void Sort(int column, bool descending = false);
-    // What the list was last sorted by; -1 for rows as they were filled.
+    // The column by which the list was last sorted; -1 if it has not been sorted since it was filled.
     int SortColumn() const { return sortColumn_; }
     bool SortDescending() const { return sortDescending_; }
 
-    // The row to choose for a name, compared without regard to case and blanks at the ends: the row of that
-    // name, else the one with the greatest text that sorts before it, else the first; the first also for an
-    // empty name. kNoRow in a list without rows to choose.
+    // Returns the row to select for a name, ignoring case and surrounding blanks: the row of that name, else
+    // the one whose text is the greatest that sorts before it, else the first, as for an empty name. kNoRow
+    // if no row can be selected.
     int FindNearest(std::string_view name) const;
-    // What typing finds: the first row from start on, and then from the top, whose text begins so, without
-    // regard to case; without one the first whose code or other name does. kNoRow for none.
+    // Returns the row to select for typed letters: the first row from start on, continuing at the top, whose
+    // text begins with them, ignoring case; else the first whose code or other name does; else kNoRow.
     int FindTyped(std::string_view beginning, int start) const;
 
   private:
     void Fit(ListRow& row) const;
-    // Keeps the chosen rows chosen where order puts them.
+    // Keeps the selected rows selected at the positions that order gives them.
     void FollowOrder(const std::vector<std::size_t>& order);
-    // The rows that the filter lets pass.
+    // Returns the rows that pass the filter.
     std::vector<ListRow> Filtered() const;
     bool PassesFilter(const ListRow& row, const std::vector<std::string>& words) const;
     void TellChanged();

@@ -1,4 +1,4 @@
-// Makes folders: in the database, then in the tree.
+// Creates folders in the database and in the tree.
 #pragma once
 
 #include <cstdint>
@@ -13,8 +13,9 @@ class NewFolders {
   public:
     explicit NewFolders(const ObjectServices& services) : to_(services) {}
 
-    // The new id, -1 when it was refused, which has been shown unless asking is Quietly. For a blank name it
-    // takes the next free one of "New Folder", "New Folder (2)", ... The parent is not touched.
+    // Returns the new id; -1 if the folder was refused, after a message unless asking is Quietly. A blank
+    // name becomes the next unused one of "New Folder", "New Folder (2)", ... The parent's modification date
+    // is not set.
     std::int64_t CreateFolder(FolderKind kind, std::int64_t parentId, std::string_view name, Asking asking);
 
   private:

@@ -1,4 +1,4 @@
-// The images of the tree's entries: keys into the program's image list.
+// The icons of the tree's entries: keys in the program's image list.
 #pragma once
 
 #include <array>
@@ -18,7 +18,7 @@ enum class NodeIcon : std::uint8_t {
     StyleOpen,
     StyleClosed,
     Document,
-    Other,  // a text that is none of the above
+    Other,  // any other name
 };
 
 inline constexpr std::array<std::string_view, 9> kIconNames = {
@@ -26,12 +26,12 @@ inline constexpr std::array<std::string_view, 9> kIconNames = {
     "style open", "style closed", "document",
 };
 
-// REQUIRES: icon is not Other.
+// Returns the name of the icon. REQUIRES: icon is not Other.
 constexpr std::string_view IconName(NodeIcon icon) {
     return kIconNames[static_cast<std::size_t>(icon)];
 }
 
-// The icon of that name, Other when there is none.
+// Returns the icon of that name, or Other.
 constexpr NodeIcon IconOf(std::string_view name) {
     for (std::size_t i = 0; i < kIconNames.size(); ++i)
         if (kIconNames[i] == name) return static_cast<NodeIcon>(i);

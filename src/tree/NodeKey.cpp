@@ -11,8 +11,7 @@ bool IsCapital(char c) {
     return c >= 'A' && c <= 'Z';
 }
 
-// Reads a whole number in the one form in which it is written: no sign but "-", no zero in front. Moves
-// digits behind it.
+// Reads a whole number in canonical form, without a plus sign or leading zeros, and removes it from digits.
 bool ReadId(std::string_view& digits, std::int64_t& id) {
     const char* const end = digits.data() + digits.size();
     const auto [behind, failure] = std::from_chars(digits.data(), end, id);
@@ -92,7 +91,7 @@ std::int64_t IdOfKey(std::string_view key) {
 }
 
 std::uint64_t NodeKey::HashOfObject() const noexcept {
-    // Multiplied by 2^64 divided by the golden ratio, numbers that follow each other lie evenly apart.
+    // Multiplying by 2^64 divided by the golden ratio distributes consecutive numbers evenly.
     constexpr std::uint64_t kGolden = 0x9e3779b97f4a7c15U;
     if (kind_ == kIsText) return std::hash<std::string_view>()(text_.View()) * kGolden;
     constexpr unsigned kKindShift = 56;

@@ -80,7 +80,7 @@ void NodeList::FillFound() {
 std::string NodeList::FolderOf(const TWNode& recipe) const {
     const TWNode* const copy = access_.tree.Nodes(RecipeKey(IdOfKey(recipe.Key()), kCopyInFolder));
     std::string path;
-    // The database above the root folder says nothing.
+    // Stops before the database, which is above the root folder and would say nothing.
     for (const TWNode* above = copy ? copy->Parent() : nullptr; above && above->Parent();
          above = above->Parent())
         path.insert(0, std::string(above->Name()).append(path.empty() ? "" : " / "));
@@ -180,7 +180,8 @@ bool NodeList::EndEdit(std::string_view newName) {
     if (row == ListTable::kNoRow) return false;
     if (newName == rows_.Row(row).cells.front()) return true;
     if (!access_.objects.RenameObject(key, newName)) return false;
-    // A failure in the store may have read the tree anew meanwhile, a box may have let others work.
+    // The list may have changed meanwhile: after an error the tree is read again, and a message box
+    // processes events.
     const int place = rows_.FindKey(key);
     if (place != ListTable::kNoRow) rows_.SetCell(place, 0, newName);
     return true;
@@ -213,7 +214,7 @@ bool TakeLookCommand(ListLook& look, PopupChoice choice) {
 std::vector<FormButton> LookButtons(ListLook& look, const std::function<void()>& changed) {
     std::vector<PopupChoice> choices = {PopupCommand::LargeIcons, PopupCommand::SmallIcons,
                                         PopupCommand::List, PopupCommand::Details};
-    // While a search is shown, the column of the folder stands behind the explorer's.
+    // During a search, the folder's column follows those of the explorer.
     for (int column = 0; column <= ExplorerColumns(); ++column)
         choices.emplace_back(PopupCommand::ArrangeBy, column);
     std::vector<FormButton> buttons;

@@ -1,5 +1,5 @@
-// The list of a folder's contents in the explorer and in the open and save dialog: how it is shown and
-// sorted, what a find box narrows it to, and the name that is being edited in place.
+// The list of a folder's contents in the explorer and in the open and save dialog: its look and order, the
+// results of a search, and the name being edited in place.
 #pragma once
 
 #include <functional>
@@ -20,8 +20,8 @@ namespace tw {
 
 class lvFiller;
 
-// What the windows on folders, recipes and styles work on. REQUIRES: objects changes that tree, which was
-// made from database.
+// What the dialogs for folders, recipes and styles need. REQUIRES: objects changes that tree, which was
+// created from database.
 struct ObjectAccess {
     Database& database;
     const TWTree& tree;
@@ -31,24 +31,25 @@ struct ObjectAccess {
 
 enum class ListViewType : int { LargeIcons, SmallIcons, List, Details };
 
-// How these lists are shown. The shell keeps it from one window to the next.
+// How these lists are shown. The shell keeps it from one dialog to the next.
 struct ListLook {
     ListViewType viewType = ListViewType::List;
-    int arrangeKey = 0;       // a column
-    bool descending = false;  // ArrangeOrder
+    int arrangeKey = 0;       // index of a column
+    bool descending = false;  // reverses the order
     bool operator==(const ListLook&) const = default;
 };
 
-// The key that a recipe has now. A save gives it a new one, also an autosave in the middle of an operation;
-// the key itself when the tree has it still, or has no recipe of that name.
+// Returns the present key of a recipe. A save gives the recipe a new key, as can an autosave in the middle of
+// an operation. Returns key itself if the tree still has it, or if there is no recipe of that name.
 std::string KeyNow(const ObjectAccess& access, const std::string& key, std::string_view name);
 
-// The column that shows where a found recipe lies, behind those of the explorer.
+// The column that shows the folder of a found recipe; it follows those of the explorer.
 inline constexpr std::string_view kFolderColumn = "Folder";
 
 class NodeList {
   public:
-    // Empty. Without showStyles the branch of the styles is left out. REQUIRES: all live for as long.
+    // Creates an empty list; showStyles says whether it includes the branch of the styles. REQUIRES: all
+    // arguments outlive the object.
     NodeList(const ObjectAccess& access, const ListLook& look, bool showStyles);
     ~NodeList();
     NodeList(const NodeList&) = delete;
@@ -56,47 +57,47 @@ class NodeList {
 
     ListTable& Rows() { return rows_; }
     const ListTable& Rows() const { return rows_; }
-    // The entry whose children are shown, or would be without the find box; empty at first.
+    // The entry whose children are shown, or would be without a search; empty at first.
     const std::string& Key() const { return key_; }
-    // Shows the children of that entry and ends a search. What is shown already is left alone unless force is
-    // set. An unknown key, and the empty one, clear the list.
+    // Shows the children of that entry and ends a search. Does nothing if they are shown already, unless
+    // force is true. Clears the list if key is unknown or empty.
     void Show(std::string_view key, bool force);
-    // Shows the recipes that hold every word of text, of all folders, each with its folder; a text without a
-    // word brings the entry's children back.
+    // Shows the recipes of all folders that contain every word of text, each with its folder; a text without
+    // a word shows the entry's children again.
     void Find(std::string_view text);
-    // True while a search is shown.
+    // True while the results of a search are shown.
     bool IsFinding() const { return !findText_.empty(); }
-    // Fills the list as it stands in the tree now. The rows of the same keys stay chosen.
+    // Fills the list from the present tree. The rows with the same keys stay selected.
     void Refill();
-    // Sorts as the look says.
+    // Sorts the list in the order of the look.
     void Sort();
-    // A save gives a recipe a new key, also an autosave while the list is shown: the rows take the keys that
-    // their recipes have now.
+    // Updates the keys of rows: a save, even an autosave while the list is shown, gives a recipe a new key.
     void FollowSaves();
 
-    // The keys of the chosen rows, from the top; and of the one chosen last, empty without one.
+    // ChosenKeys returns the keys of the selected rows, in ascending order; SelectedKey that of the row
+    // selected last, or an empty text.
     std::vector<std::string> ChosenKeys() const;
     std::string SelectedKey() const;
     bool ChooseKey(std::string_view key);
-    // Chooses the rows of those names or keys, a line each, for the console; names compare without regard to
-    // case. False, and nothing changes, when one is missing.
+    // Selects the rows with those names (ignoring case) or keys, one per line, for the console. False,
+    // without a change, if one is missing.
     bool ChooseByText(std::string_view lines);
-    // Puts the row of a new folder behind the others and begins to edit its name.
+    // Appends the row of a new folder and begins to edit its name.
     void AddFolder(std::string_view key);
-    // Takes the row of that key away, if there is one.
+    // Removes the row of that key, if there is one.
     void Remove(std::string_view key);
 
-    // Editing a name in place. Only one row at a time; BeginEdit is false for a row that cannot be renamed.
+    // Editing a name in place, one row at a time. BeginEdit returns false if the row cannot be renamed.
     bool CanRename(int row) const;
     bool BeginEdit(int row);
-    // The row that is being edited, kNoRow for none.
+    // The row being edited, or kNoRow.
     int EditedRow() const;
-    // Ends the edit. False, and the name stays, when it was refused, which has been told, or when nothing is
-    // being edited. A name that is left as it was is no rename.
+    // Ends the edit and renames the row, unless the name is unchanged. False, and the name stays, if it was
+    // refused, after a message, or if no row is being edited.
     bool EndEdit(std::string_view newName);
     void CancelEdit() { editedKey_.clear(); }
 
-    // What to show instead of rows in an empty list.
+    // Returns the text to show in an empty list.
     std::string Hint() const;
 
   private:
@@ -114,10 +115,11 @@ class NodeList {
     std::string editedKey_;
 };
 
-// Takes a command of the menus "View" and "Arrange" into the look; the column that is sorted by already turns
-// its order round. False for any other command.
+// Applies a command of the menus "View" and "Arrange" to the look; choosing the present sort column again
+// reverses its order. False for any other command.
 bool TakeLookCommand(ListLook& look, PopupChoice choice);
-// These commands as buttons of a form, which runs changed after each. REQUIRES: look lives for as long.
+// Returns these commands as buttons of a form, which calls changed after each. REQUIRES: look outlives
+// the form.
 std::vector<FormButton> LookButtons(ListLook& look, const std::function<void()>& changed);
 
 }  // namespace tw
