@@ -12,15 +12,15 @@ void ObjectDeletions::DeleteFolder(FolderKind kind, std::int64_t id) {
     if (id != 0 && to_.lookup.IsFolder(kind, id)) to_.runner.RunDeletion([&] { DeleteTree(kind, id); });
 }
 
-// Depth first, with a list instead of a recursion: how deep folders lie in each other is up to the data.
+// Depth first, without recursion, because the data decides how deeply folders are nested.
 void ObjectDeletions::DeleteTree(FolderKind kind, std::int64_t id) {
     struct Level {
         std::int64_t id;
         std::vector<std::int64_t> folders;
         std::size_t next;
     };
-    // Of folders that have come to lie in a ring, each goes once. A row with the id of a system folder would
-    // take all that lies in that one along.
+    // If folders form a ring, each is deleted once. The ids of the system folders are excluded, as a row with
+    // such an id would delete everything in that folder.
     std::unordered_set<std::int64_t> seen = {id, 0, kAllObjects};
     const auto open = [&](std::int64_t folder) -> Level {
         return {folder,
@@ -61,7 +61,7 @@ void ObjectDeletions::DeleteRecipeById(std::int64_t id) {
 }
 
 void ObjectDeletions::DeleteRecipeByName(std::string_view name) {
-    // 0 stands for no such recipe, but may be the id of one.
+    // The id 0 can mean that there is no such recipe, but can also be that of a recipe.
     const std::int64_t id = to_.lookup.IdByName(name, "RECIPES");
     if (id != 0 || to_.lookup.NameExists(name, "RECIPES")) DeleteRecipeById(id);
 }

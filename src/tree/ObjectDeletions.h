@@ -1,4 +1,5 @@
-// Deletes objects with all that hangs on them. The folder above is not touched, by any deletion.
+// Deletes objects with everything that belongs to them. No deletion sets the modification date of the
+// parent folder.
 #pragma once
 
 #include <cstdint>
@@ -10,24 +11,25 @@
 
 namespace tw {
 
-// Each is one unit on the disk. Does nothing for no object; an error rises.
+// Each deletion is one unit on the disk. Does nothing if there is no such object; raises the store's error.
 class ObjectDeletions {
   public:
-    // REQUIRES: moves lives for as long.
+    // REQUIRES: moves and the objects of services outlive this object.
     ObjectDeletions(const ObjectServices& services, ObjectMoves& moves) : to_(services), moves_(moves) {}
 
-    // With all folders below, and their recipes; or their styles, whose recipes lose their style.
+    // Deletes the folder with all folders below it and their recipes or styles; recipes of deleted styles
+    // lose their style.
     void DeleteFolder(FolderKind kind, std::int64_t id);
-    // With its lines in RECIPE_GRAINS, RECIPE_HOPS, RECIPE_ADJUNCTS and RECIPE_LOG. The rows of RECIPE_SALTS
-    // and RECIPE_SUGARS stay behind: intended. An id that names no recipe notifies nobody.
+    // Deletes the recipe with its rows in RECIPE_GRAINS, RECIPE_HOPS, RECIPE_ADJUNCTS and RECIPE_LOG. Leaves
+    // its rows in RECIPE_SALTS and RECIPE_SUGARS, on purpose: the stored form must not change.
     void DeleteRecipeById(std::int64_t id);
     void DeleteRecipeByName(std::string_view name);
-    // Its recipes lose their style.
+    // Deletes the style; its recipes lose their style.
     void DeleteStyleById(std::int64_t id);
 
   private:
     void DeleteTree(FolderKind kind, std::int64_t id);
-    // What lies in the folder but its folders, the folder's row, its entry.
+    // Deletes the recipes or styles of a folder without subfolders, then its row and its entry.
     void DeleteEmptied(FolderKind kind, std::int64_t id);
     void DeleteRecipe(std::int64_t id, const std::string& name);
     void DeleteStyle(std::int64_t id);

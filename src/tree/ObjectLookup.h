@@ -1,4 +1,4 @@
-// Recipes, styles and folders by their names and ids, as the operations on them look them up.
+// Finds recipes, styles and folders by name and id, for the operations on them.
 #pragma once
 
 #include <cstdint>
@@ -18,36 +18,36 @@ enum class FolderKind : std::uint8_t { Recipes, Styles };
 std::string FolderKey(FolderKind kind, std::int64_t id);
 // Returns "recipe folder" or "style folder".
 std::string FolderWord(FolderKind kind);
-// Returns the SQL condition that tells the rows of these folders in FOLDERS from the others.
+// Returns the SQL condition that selects the rows of this kind of folder in FOLDERS.
 std::string FolderCondition(FolderKind kind);
 
 class ObjectLookup {
   public:
-    // REQUIRES: both live for as long.
+    // REQUIRES: database and tree outlive the object.
     ObjectLookup(Database& database, TreeObjects& tree) : database_(database), tree_(tree) {}
 
-    // In the database. Names are trimmed.
+    // Look-ups in the database. Names are trimmed.
 
-    // ID of the row of that name in the table, 0 when there is none.
+    // Returns the ID of the row of that name in the table; 0 if there is none.
     std::int64_t IdByName(std::string_view name, std::string_view table) const;
-    // NAME of the row of that id, empty when there is none.
+    // Returns the NAME of the row of that id; empty if there is none.
     std::string NameById(std::int64_t id, std::string_view table) const;
     // True if the table has a row of that name.
     bool NameExists(std::string_view name, std::string_view table) const;
-    // True if a folder directly below that one has the name.
+    // True if a folder of that name is directly below the parent.
     bool FolderNameExists(FolderKind kind, std::int64_t parentId, std::string_view name) const;
-    // The first column of all rows.
+    // Returns the first column of all rows.
     std::vector<std::int64_t> Ids(const std::string& sql, const SqlValues& values) const;
     std::vector<std::int64_t> RecipesOfStyle(std::int64_t styleId) const;
 
-    // In the tree.
+    // Look-ups in the tree.
 
-    // The name in the tree, else in the table; nothing when neither holds the object.
+    // Return the name in the tree, else in the table; nullopt if neither contains the object.
     std::optional<std::string> RecipeName(std::int64_t id) const;
     std::optional<std::string> StyleName(std::int64_t id) const;
-    // True if the tree shows that folder; the root, 0, is one too.
+    // True if the tree shows that folder; id 0 is the root, which is one too.
     bool IsFolder(FolderKind kind, std::int64_t id) const;
-    // True if dest is source or stands somewhere below it.
+    // True if dest is source or is below it in the tree.
     bool IsSubFolder(std::string_view sourceKey, std::string_view destKey) const;
 
   private:

@@ -15,7 +15,7 @@ bool ObjectMoves::MoveFolder(FolderKind kind, std::int64_t id, std::int64_t dest
         if (id == 0 || !to_.lookup.IsFolder(kind, id) || !to_.lookup.IsFolder(kind, destId))
             return to_.runner.RefuseMissing(errorTitle, word, asking);
         if (to_.tree.ParentOf(key) == destKey) return false;
-        // A folder below itself would be a ring that nobody could reach.
+        // A folder below itself would form a ring that cannot be reached from the root.
         if (to_.lookup.IsSubFolder(key, destKey)) return to_.runner.RefuseSubFolder(asking);
         const std::string name = to_.tree.NameOf(key).value_or("");
         if (to_.lookup.FolderNameExists(kind, destId, name))

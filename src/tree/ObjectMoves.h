@@ -1,4 +1,4 @@
-// Moves folders, recipes and styles: in the database, in the tree, and before the open documents.
+// Moves folders, recipes and styles in the database and in the tree, and notifies the open documents.
 #pragma once
 
 #include <cstdint>
@@ -9,24 +9,25 @@
 
 namespace tw {
 
-// Each is one unit on the disk and returns false when it was refused, which has been shown unless asking is
-// Quietly, or when nothing had to be moved.
+// Each move is one unit on the disk. Returns false if it was refused, after a message unless asking is
+// Quietly, or if the object is there already.
 class ObjectMoves {
   public:
     explicit ObjectMoves(const ObjectServices& services) : to_(services) {}
 
     bool MoveFolder(FolderKind kind, std::int64_t id, std::int64_t destId, Asking asking);
-    // Touches the old folder and the new one, as MoveStyleToFolder.
+    // MoveRecipeToFolder and MoveStyleToFolder set the modification date of the old and the new folder.
     bool MoveRecipeToFolder(std::int64_t recipeId, std::int64_t folderId, Asking asking);
-    // Style 0 is none. Touches nothing. Done again for a recipe that has the style already.
+    // styleId 0 removes the style. Sets no modification date. Moves a recipe again that has the
+    // style already.
     bool MoveRecipeToStyle(std::int64_t recipeId, std::int64_t styleId, Asking asking);
     bool MoveStyleToFolder(std::int64_t styleId, std::int64_t folderId, Asking asking);
     bool MoveStyleToFolderByName(std::string_view name, std::int64_t folderId, Asking asking);
-    // The move to a style alone, for an operation that is under way: an error rises.
+    // Changes only the style, within another operation. Raises the store's error.
     void ChangeStyle(std::int64_t recipeId, const std::string& name, std::int64_t styleId);
 
   private:
-    // Shows the recipes of a style that has come into a folder below its entry there.
+    // Shows the recipes of a style below its entry in a folder, after the style was added to that folder.
     void ShowRecipesInFolderOf(std::int64_t styleId);
 
     ObjectServices to_;

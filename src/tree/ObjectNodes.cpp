@@ -9,7 +9,7 @@
 namespace tw {
 namespace {
 
-// The id that a row refers to; nobody's for NULL.
+// Returns the id to which a row refers; kNoId for NULL.
 std::int64_t LinkOf(const Field& field) {
     return field.IsNull() ? kNoId : field.Integer();
 }
@@ -33,7 +33,7 @@ void ObjectNodes::AddRecipeNodesByName(std::string_view name) {
         std::string name;
     };
     std::vector<Row> found;
-    // The name is one recipe's, unless another program has written the file.
+    // Only one recipe has the name, unless another program has written the file.
     for (Recordset rows = RowsByName(to_.database, "RECIPES", "ID, FOLDER_ID, STYLE_ID, NAME", name);
          !rows.AtEnd(); rows.MoveNext())
         found.push_back({rows.Fields(0).Integer(), LinkOf(rows.Fields(1)), LinkOf(rows.Fields(2)),

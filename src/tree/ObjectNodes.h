@@ -1,4 +1,4 @@
-// Brings the tree in step with a row that has just been written.
+// Updates the tree for a row that has just been written.
 #pragma once
 
 #include <cstdint>
@@ -12,12 +12,13 @@ class ObjectNodes {
   public:
     explicit ObjectNodes(const ObjectServices& services) : to_(services) {}
 
-    // Each touches the folder too. ByName looks the row up and does nothing when there is none.
+    // These functions add the object's entries and set the modification date of its folder. The functions
+    // ByName look up the row, and do nothing if there is none.
     void AddRecipeNodes(std::int64_t id, std::string_view name, std::int64_t folderId, std::int64_t styleId);
     void AddRecipeNodesByName(std::string_view name);
     void AddStyleNodes(std::int64_t id, std::string_view name, std::int64_t folderId);
     void AddStyleNodesByName(std::string_view name);
-    // Shows the new name in the tree and in the open documents.
+    // Changes the name in the tree and in the open documents.
     void RenameStyleNodes(std::int64_t id, std::string_view newName);
 
   private:

@@ -1,4 +1,4 @@
-// Gives folders, recipes and styles new names: in the database, in the tree, and before the open documents.
+// Renames folders, recipes and styles in the database and in the tree, and notifies the open documents.
 #pragma once
 
 #include <cstdint>
@@ -11,12 +11,12 @@
 
 namespace tw {
 
-// Each is one unit on the disk and returns false when it was refused, which has been shown unless asking is
-// Quietly. A change of case alone is allowed. The database takes the name trimmed, the tree as it is typed,
-// until the next start: intended.
+// Each renaming is one unit on the disk and returns false if it was refused, after a message unless asking is
+// Quietly. A name may change in case only. The database stores the name trimmed, whereas the tree shows it as
+// it was typed until it is read again.
 class ObjectRenames {
   public:
-    // REQUIRES: nodes lives for as long.
+    // REQUIRES: nodes and the objects of services outlive this object.
     ObjectRenames(const ObjectServices& services, ObjectNodes& nodes) : to_(services), nodes_(nodes) {}
 
     bool RenameFolder(FolderKind kind, std::int64_t id, std::string_view newName, Asking asking);
@@ -24,8 +24,8 @@ class ObjectRenames {
     bool RenameStyle(std::int64_t id, std::string_view newName, Asking asking);
 
   private:
-    // True if the rules of names let it pass; tells why not unless asking is Quietly. nameExists looks the
-    // new name up.
+    // True if the new name is allowed; otherwise shows why not, unless asking is Quietly. nameExists looks up
+    // the new name.
     bool CheckNewName(const std::string& object, std::string_view oldName, std::string_view newName,
                       const std::function<bool()>& nameExists, Asking asking);
 

@@ -10,7 +10,7 @@
 
 namespace tw {
 
-// REQUIRES: everything outlives what is given it.
+// REQUIRES: all members outlive the operations that use them.
 struct ObjectServices {
     Database& database;
     TreeObjects& tree;

@@ -1,4 +1,4 @@
-// Runs the operations on objects: what an error or a refusal says, and what the tree shows behind it.
+// Runs the operations on objects: reports their errors and refusals, and updates the tree after them.
 #pragma once
 
 #include <functional>
@@ -14,27 +14,27 @@ namespace tw {
 
 class OperationRunner {
   public:
-    // Of the errors that tell of a missing object.
+    // The number of errors about a missing object.
     static constexpr int kMissingNumber = 5;
 
-    // REQUIRES: all of them live for as long.
+    // REQUIRES: all arguments outlive the object.
     OperationRunner(Database& database, TreeObjects& tree, MessagePort& messages, ObjectListener& listener)
         : database_(database), tree_(tree), messages_(messages), listener_(listener) {}
 
-    // Runs the operation, and returns what it does; an error in it is shown, unless asking is Quietly, and
-    // gives false.
+    // Runs the operation and returns its result. If it raises an error, shows that unless asking is Quietly,
+    // and returns false.
     bool Trap(const std::string& title, Asking asking, const std::function<bool()>& operation);
-    // Runs a deletion as one unit. An error in it rises.
+    // Runs a deletion as one unit of work. Raises its error.
     void RunDeletion(const std::function<void()>& deletion);
 
     // Shows the message unless asking is Quietly. Returns false.
     bool Refuse(std::string_view title, std::string_view text, Asking asking);
     bool RefuseSubFolder(Asking asking);
-    // Refuses in the form of an error: there is no such object.
+    // Refuses with an error message that there is no such object.
     bool RefuseMissing(std::string_view title, std::string_view object, Asking asking);
 
   private:
-    // Shows what an error has left. Within a unit of the caller's that is known behind its end.
+    // Reads the tree again after an error; if the caller has a unit of work, after the end of that.
     void ShowWhatIsLeft(bool deletion);
 
     Database& database_;

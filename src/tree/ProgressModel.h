@@ -1,5 +1,5 @@
-// The window that shows how far an operation on many objects has come (frmProgress), and lets it be stopped
-// between two of them. It works as soon as it is shown, and goes.
+// The window that shows the progress of an operation on many objects (frmProgress) and can stop it after the
+// current object. The operation starts when the window is shown, and its end closes the window.
 #pragma once
 
 #include <cstddef>
@@ -13,38 +13,40 @@
 
 namespace tw {
 
-// lblObject, the name of the object being worked on; ProgressBar1, the number of those done; cmdCancel.
+// lblObject contains the name of the current object, ProgressBar1 the number of objects done. cmdCancel stops
+// the operation.
 class ProgressModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmProgress";
 
     using Work = std::function<void(ProgressModel&)>;
-    // So many objects are done before a window would be read.
+    // Up to this many objects need no window: they are done before it could be read.
     static constexpr int kWithoutWindow = 10;
 
-    // title: what is being done, such as "Deleting". work tells its progress here.
+    // title says what is being done, such as "Deleting". work reports its progress by calling Show.
     ProgressModel(std::string title, Work work);
 
-    // Called after each change of what the window shows: it paints, and lets waiting events run.
+    // Sets a callback that runs after each change of the displayed values: it paints the window and processes
+    // waiting events.
     void SetObserver(std::function<void()> observer) { observer_ = std::move(observer); }
 
     const std::string& Title() const { return title_; }
-    // The object that is being worked on.
+    // The name of the current object.
     const std::string& Name() const { return name_; }
     int Done() const { return done_; }
     int Total() const { return total_; }
-    // The brewer has called it off.
+    // True if the brewer has cancelled the operation.
     bool IsCancelled() const { return cancelled_; }
-    // The hourglass is wanted: it works and asks nothing.
+    // True if the hourglass is to be shown: the operation is running and no other dialog is open.
     bool IsBusy() const { return busy_; }
 
-    // For the work. False once the brewer has called it off.
+    // For the work: shows its progress. False once the brewer has cancelled.
     bool Show(const std::string& name, int done, int total);
     void SetBusy(bool busy);
 
-    // Calls the work off behind the present object; before the work it closes the window.
+    // Cancels the operation after the current object; before it has started, closes the window.
     void CloseBox() override;
-    // Works and closes, also when an error rises from the work.
+    // Runs the operation and closes the window, even if the operation raises an error.
     void FirstShown() override;
 
   private:
@@ -61,8 +63,8 @@ class ProgressModel final : public FormModel {
     bool cancelled_ = false;
 };
 
-// Runs step for each of the objects, in their order, until one is false; for more than a few of them behind
-// the progress window. Raises what a step raises; the objects before it are done then.
+// Runs step for each of the objects, in order, until it returns false; with the progress window if there are
+// more than kWithoutWindow. Raises the error of a step; the steps before it remain done.
 void RunSteps(DialogPort& dialogs, const std::string& title, const std::vector<std::string>& names,
               const std::function<bool(std::size_t index)>& step);
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kSubscriptOutOfRange = 9;
 
-// The node's name, or those of all recipes below it, in the order of the tree.
+// Returns the node's name if it is a recipe, else those of all recipes below it, in the order of the tree.
 std::vector<std::string> RecipesOf(TWNode& top) {
     std::vector<std::string> names;
     std::vector<TWNode*> open = {&top};
@@ -143,7 +143,7 @@ bool RecipeChooser::CanAdd() const {
     return node != nullptr && HoldsRecipe(*node);
 }
 
-// The line that follows is chosen next.
+// The next line becomes the selected one.
 void RecipeChooser::Delete() {
     names_.erase(names_.begin() + current_);
     current_ = std::min(current_, SelectionCount() - 1);

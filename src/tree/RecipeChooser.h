@@ -1,4 +1,4 @@
-// The part of a dialog in which recipes are picked from the tree into an ordered list.
+// The part of a dialog that picks recipes from the tree into an ordered list.
 #pragma once
 
 #include <memory>
@@ -17,7 +17,7 @@ namespace tw {
 class RecipeChooserObserver {
   public:
     virtual ~RecipeChooserObserver() = default;
-    // The list, its chosen line or what is on may be another.
+    // The list, its selected line or the enabled buttons may have changed.
     virtual void RecipeChooserChanged() = 0;
 };
 
@@ -30,53 +30,53 @@ class RecipeChooser {
     RecipeChooser& operator=(const RecipeChooser&) = delete;
     void SetObserver(RecipeChooserObserver* observer) { observer_ = observer; }
 
-    // Where the recipes come from: a tree, or a database, of which Initialize makes one when no tree is
-    // given. REQUIRES: both live for as long.
+    // The source of the recipes: a tree, or a database from which Initialize creates a tree if none is set.
+    // REQUIRES: tree and database outlive the object.
     const TWTree* Tree() const { return tree_; }
     void SetTree(const TWTree* tree) { tree_ = tree; }
     Database* DB() const { return database_; }
     void SetDB(Database* database) { database_ = database; }
-    // Fills treeRecipes, without anything when neither is given, and opens the root and "My Recipe Folders".
-    // The list stays.
+    // Fills treeRecipes, or leaves it empty without a source, and expands the root and "My Recipe Folders".
+    // Does not change the list.
     void Initialize();
-    // Chooses the recipe of that name in its folder, else under "All Recipes". False when there is none.
+    // Selects the recipe of that name in its folder, else below "All Recipes". False if there is none.
     bool OpenTreeTo(std::string_view name);
-    // The text of the tree's root; empty for the tree's own.
+    // The text of the tree's root; if empty, the root has its own name.
     const std::string& RootName() const { return rootName_; }
     void SetRootName(std::string_view name);
 
     // A word such as "Import".
     const std::string& Action() const { return action_; }
     void SetAction(std::string_view action);
-    // "Recipes to {Action}:"
+    // Returns "Recipes to {Action}:".
     std::string ListCaption() const { return "Recipes to " + action_ + ":"; }
-    // Whether the list is kept in the order of the names; cmdUp, cmdDown, cmdTop and cmdBottom are off then.
+    // True if the list is always sorted by name, which disables cmdUp, cmdDown, cmdTop and cmdBottom.
     bool Sorted() const { return sorted_; }
     void SetSorted(bool sorted);
 
-    // lstRecipes: the names, in their order.
+    // The picked names in lstRecipes, in order.
     int SelectionCount() const { return static_cast<int>(names_.size()); }
-    // Raises "Subscript out of range".
+    // Raises Error ("Subscript out of range") if there is no such line.
     const std::string& Item(int index) const;
     const std::vector<std::string>& Selection() const { return names_; }
-    // The chosen line, kNone without one.
+    // The selected line, or kNone.
     int Current() const { return current_; }
-    // Nothing for a line that is not there.
+    // Does nothing if there is no such line.
     void SetCurrent(int index);
 
     TreeItems& treeRecipes() { return items_; }
     const TreeItems& treeRecipes() const { return items_; }
-    // Puts the recipe of that node behind the chosen ones, or all recipes that stand below it, each once.
-    // False when that adds none.
+    // Appends the recipe of that node, or all recipes below it, except those picked already. False if that
+    // adds none.
     bool Add(std::string_view key);
-    // cmdAdd adds what is chosen in the tree, cmdDel takes the chosen line out, cmdUp, cmdDown, cmdTop and
-    // cmdBottom move it; SortAscending and SortDescending, by their control names, sort the names without
-    // regard to case. False for no such button; a disabled one does nothing.
+    // cmdAdd adds the selection of the tree, cmdDel removes the selected line, and cmdUp, cmdDown, cmdTop and
+    // cmdBottom move it. SortAscending and SortDescending, by their control names, sort the names, ignoring
+    // case. False if there is no such button; a disabled button does nothing.
     bool Press(std::string_view button) { return buttons_.Press(button); }
     bool IsEnabled(std::string_view button) const { return buttons_.IsEnabled(button); }
     bool Run(PopupCommand sorting) { return Press(NameOf(sorting)); }
     bool IsEnabled(PopupCommand sorting) const { return IsEnabled(NameOf(sorting)); }
-    // For the table of the form that it is part of.
+    // All buttons, for the form that contains this part.
     const std::vector<FormButton>& Buttons() const { return buttons_.All(); }
 
   private:

@@ -8,7 +8,7 @@
 namespace tw {
 namespace {
 
-// The recipe's id, and what is searched of one row of it.
+// The statements that read the recipe's id, and a text to search.
 constexpr const char* kRowReads[] = {
     "SELECT RECIPE_ID, NAME FROM RECIPE_GRAINS",   "SELECT RECIPE_ID, NAME FROM RECIPE_HOPS",
     "SELECT RECIPE_ID, NAME FROM RECIPE_ADJUNCTS", "SELECT RECIPE_ID, NAME FROM RECIPE_SUGARS",
@@ -16,7 +16,7 @@ constexpr const char* kRowReads[] = {
     "SELECT RECIPE_ID, NOTES FROM RECIPE_LOG",     "SELECT ID, NOTES FROM RECIPES",
 };
 
-// Calls action with the number of each bit that is set, in their order.
+// Calls action with the index of each set bit, in ascending order.
 template <typename Action>
 void ForEachBit(const BitSet& bits, Action action) {
     constexpr std::size_t kBits = 64;
@@ -43,7 +43,7 @@ class RecipeFinder::Reading {
     }
 
   private:
-    // By the statement that fills the list, so that recipes of one name have its order too.
+    // Uses the statement that fills the list, so that recipes of the same name are also in its order.
     void ReadRecipes() {
         std::unordered_map<std::int64_t, Words> styles;
         for (Recordset rows = database_.OpenRecordset("SELECT ID, NAME FROM STYLES"); !rows.AtEnd();
@@ -66,7 +66,7 @@ class RecipeFinder::Reading {
         finder_.nameBegin_.push_back(finder_.names_.size());
     }
 
-    // Ingredients are few, and each stands in many recipes.
+    // Caches the words of short texts: there are few ingredients, and each is used in many recipes.
     void AddText(std::string text, std::uint32_t recipe) {
         constexpr std::size_t kLongest = 60;
         if (text.empty()) return;

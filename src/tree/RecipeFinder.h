@@ -1,5 +1,4 @@
-// The search behind the find boxes: the recipes that hold what is being typed, in their name, their style,
-// their ingredients, their log or their notes.
+// The search of the find boxes: finds recipes by what their name, style, ingredients, log or notes contain.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +11,7 @@
 
 namespace tw {
 
-// A recipe that was found. The name is valid until the next Find.
+// A recipe that was found. Its name is valid until the next Find.
 struct FoundRecipe {
     std::int64_t id = 0;
     std::string_view name;
@@ -20,33 +19,34 @@ struct FoundRecipe {
     bool operator==(const FoundRecipe&) const = default;
 };
 
-// Searches the recipes of one database. They are read by the first Find, and again by the first Find after
-// anything in the database has changed.
+// Searches the recipes of one database. The first Find reads them, as does the first Find after any change in
+// the database.
 class RecipeFinder {
   public:
-    // REQUIRES: database lives for as long. Nothing is read yet.
+    // Reads nothing yet. REQUIRES: database outlives the object.
     explicit RecipeFinder(Database& database) : database_(database) {}
     RecipeFinder(const RecipeFinder&) = delete;
     RecipeFinder& operator=(const RecipeFinder&) = delete;
 
-    // The recipes that hold every word of text, in the order of the list of recipes; all of them for a text
-    // without a word. Words stand between blanks and match anywhere, also inside a longer word, without
-    // regard to case, also beyond ASCII; each may stand in another part of the recipe. Valid until the next
-    // Find. Raises the store's error when the database cannot be read; the next Find tries again.
+    // Returns the recipes that contain every word of text, in the order of the list of recipes; all of them
+    // for a text without a word. Words are separated by blanks. They match anywhere, even within a longer
+    // word, ignoring case even outside ASCII; each may be in another part of the recipe. The result is valid
+    // until the next Find. Raises the store's error if the database cannot be read; the next Find
+    // tries again.
     const std::vector<FoundRecipe>& Find(std::string_view text);
 
   private:
-    // All that is searched, gathered text by text.
+    // Collects the texts to search.
     class Reading;
     void Read();
     FoundRecipe RecipeAt(std::size_t index) const;
 
     Database& database_;
-    std::int64_t changes_ = -1;  // what the database had counted when the recipes were read
+    std::int64_t changes_ = -1;  // the database's change count when the recipes were read
     // The recipes in the order of the list, and the words of each.
     std::vector<std::int64_t> ids_;
-    std::string names_;                   // one behind the other
-    std::vector<std::size_t> nameBegin_;  // one more than the recipes
+    std::string names_;                   // concatenated
+    std::vector<std::size_t> nameBegin_;  // one more than the number of recipes
     WordIndex words_;
     std::vector<FoundRecipe> found_;
 };

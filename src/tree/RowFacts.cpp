@@ -5,10 +5,10 @@
 namespace tw {
 namespace {
 
-// Of nearly all hops: looking for it would be of no use.
+// The form of nearly all hops, which is not worth searching for.
 constexpr std::string_view kUsualHopForm = "Pellet or leaf";
 
-// "Beer style guide of 2021" for "Beer 2021".
+// Returns "Beer style guide of 2021" for "Beer 2021".
 std::string GuideName(const std::string& guide) {
     const std::size_t blank = guide.find(' ');
     if (blank == std::string::npos) return guide;
@@ -30,7 +30,7 @@ void RowFacts::AddTo(ListRow& row) const {
         row.origin = GuideName(facts.source);
         return;
     }
-    // A product's code stands in its name already.
+    // A product's code is already part of its name, so it is not shown again.
     for (const std::string& fact : {facts.source, facts.form}) {
         if (fact.empty()) continue;
         row.origin += (row.origin.empty() ? "" : ", ") + fact;

@@ -1,5 +1,5 @@
-// What the catalogue knows of the rows of a list beyond their cells: codes, guides, laboratories, other
-// names.
+// What the catalogue knows about the rows of a list in addition to their cells: codes, guides, laboratories,
+// other names.
 #pragma once
 
 #include <map>
@@ -15,8 +15,7 @@ class RowFacts {
     // Reads all facts of that kind.
     RowFacts(Database& database, CatalogueKind kind);
 
-    // Gives the row the facts on the row of the catalogue that its first cell names; nothing when there are
-    // none.
+    // Adds to row the facts about the catalogue row that its first cell names, if there are any.
     void AddTo(ListRow& row) const;
 
   private:
@@ -24,8 +23,8 @@ class RowFacts {
     std::map<std::string, CatalogueFacts> facts_;
 };
 
-// The guides whose codes the styles carry, for a line below their lists: "Beer style guide of 2021, ...".
-// Empty for a database without codes.
+// Returns the guides to which the codes of the styles refer, for a line below their lists: "Beer style guide
+// of 2021, ...". Empty for a database without codes.
 std::string StyleGuides(Database& database);
 
 }  // namespace tw

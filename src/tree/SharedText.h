@@ -1,5 +1,5 @@
-// A text that never changes and that its copies share: the four entries of one recipe hold its name once, in
-// eight bytes each. For one thread.
+// An immutable text that is shared by its copies: the four entries of one recipe store its name once, plus
+// eight bytes each. Not thread-safe.
 #pragma once
 
 #include <cstdint>
@@ -12,7 +12,7 @@ namespace tw {
 
 class SharedText {
   public:
-    // The empty text.
+    // Creates the empty text.
     SharedText() noexcept = default;
     explicit SharedText(std::string_view text) {
         if (text.empty()) return;
@@ -31,14 +31,14 @@ class SharedText {
         if (body_ != nullptr && --body_->owners == 0) operator delete(body_);
     }
 
-    // Valid for as long as one of the sharing copies lives.
+    // Valid as long as one of the copies exists.
     std::string_view View() const noexcept {
         if (body_ == nullptr) return {};
         return {reinterpret_cast<const char*>(body_ + 1), body_->size};
     }
 
   private:
-    // The characters stand directly behind it.
+    // The header of the shared memory; the characters follow it.
     struct Body {
         std::size_t size;
         std::uint32_t owners;

@@ -1,5 +1,5 @@
-// The entries of a tree widget as a plain object: what it shows, what is open and what is chosen. A widget
-// shows it and passes on what the brewer does.
+// The entries of a tree widget, as a plain object: which there are, which are expanded and which is selected.
+// A widget shows it and forwards the brewer's actions.
 #pragma once
 
 #include <cstddef>
@@ -18,38 +18,38 @@ namespace tw {
 class TreeItemsObserver {
   public:
     virtual ~TreeItemsObserver() = default;
-    // All entries are about to be replaced, and have been.
+    // Called before all entries are replaced (done is false), and after that (done is true).
     virtual void TreeReset(bool done) = 0;
     virtual void TreeItemChanged(int item) = 0;
     virtual void TreeItemExpanded(int item) = 0;
     virtual void TreeSelectionChanged() = 0;
 };
 
-// Entries are told by their number, which holds until the next filling.
+// Entries are identified by index, which is valid until the next Fill.
 class TreeItems final : private TreeView {
   public:
     static constexpr int kNone = -1;
 
     void SetObserver(TreeItemsObserver* observer) { observer_ = observer; }
 
-    // Replaces all entries by what fill adds. Those of the same keys are open and chosen as before; without
-    // the chosen one none is.
+    // Replaces all entries by those that fill adds. Entries with the same keys stay expanded and selected; if
+    // the selected one is missing, none is selected.
     void Fill(const std::function<void(TreeView&)>& fill);
 
     int Count() const { return static_cast<int>(items_.size()); }
-    // The entry of that key, kNone when there is none.
+    // Returns the entry of that key, or kNone.
     int Find(std::string_view key) const;
-    // REQUIRES, as for all below: there is such an entry; Children and Parent take and give kNone for the
-    // place above the top-level entries.
+    // REQUIRES for all functions below: the entry exists. For Children and Parent, kNone is the parent of the
+    // top-level entries.
     const std::vector<int>& Children(int item) const;
     int Parent(int item) const { return At(item).parent; }
-    // Its place among its parent's children.
+    // The index of the entry among its parent's children.
     int Row(int item) const { return At(item).row; }
     std::string Key(int item) const { return At(item).key.Text(); }
     // Valid until the text is set again.
     std::string_view Text(int item) const { return At(item).text.View(); }
     void SetText(int item, std::string_view text);
-    // The code of a style, which windows show before the text; empty at first and after each filling.
+    // The code of a style, which windows show before the text; empty until it is set, and after each Fill.
     const std::string& Code(int item) const { return At(item).code; }
     void SetCode(int item, std::string code);
     NodeIcon Icon(int item, bool open) const { return open ? At(item).openIcon : At(item).icon; }
@@ -57,13 +57,13 @@ class TreeItems final : private TreeView {
     bool IsExpanded(int item) const { return At(item).expanded; }
     void Expand(int item, bool expanded = true);
 
-    // kNone when no entry is chosen.
+    // kNone if no entry is selected.
     int Selected() const { return selected_; }
-    // Empty when no entry is chosen.
+    // Empty if no entry is selected.
     std::string SelectedKey() const { return selected_ == kNone ? std::string() : Key(selected_); }
-    // Also opens what stands above the entry, so that it can be seen. kNone chooses none.
+    // Selects the entry, and expands those above it so that it is visible. kNone selects none.
     void Select(int item);
-    // False, and nothing changes, when there is no such entry.
+    // False, without a change, if there is no such entry.
     bool SelectKey(std::string_view key);
 
   private:

@@ -69,7 +69,7 @@ void TreeObjects::Reload() {
     try {
         tree_.Reload();
     } catch (const Error&) {
-        // It comes on top of an error that is being told already; the tree says that it is old.
+        // This error follows another one that is already being reported; the tree knows it is out of date.
     }
     if (read_) read_();
 }

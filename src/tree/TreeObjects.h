@@ -1,4 +1,4 @@
-// The tree as the operations on objects change it: folders, styles and recipes by their keys.
+// How operations change the tree: folders, styles and recipes by key.
 #pragma once
 
 #include <functional>
@@ -12,31 +12,30 @@ namespace tw {
 
 class TreeObjects {
   public:
-    // read is called whenever the tree was to be read anew. REQUIRES: tree lives for as long.
+    // read is called after each attempt to read the tree again. REQUIRES: tree outlives the object.
     explicit TreeObjects(TWTree& tree, std::function<void()> read = {})
         : tree_(tree), read_(std::move(read)) {}
 
-    // The name that the entry shows; nothing when there is no such entry.
+    // Returns the name that the entry shows; nullopt if there is no such entry.
     std::optional<std::string> NameOf(const std::string& key) const;
-    // The key of the entry above; empty for the root and for no entry.
+    // Returns the key of the parent entry; empty for the root, or if there is no such entry.
     std::string ParentOf(const std::string& key) const;
-    // True if the entry stands somewhere below the other; each stands below itself. False when either is
-    // missing.
+    // True if the entry is below the other, or is the same one. False if either is missing.
     bool IsBelow(const std::string& key, const std::string& above) const;
-    // True if an entry directly below shows exactly that name.
+    // True if an entry directly below the parent shows exactly that name.
     bool ChildNameExists(const std::string& parentKey, const std::string& name) const;
-    // Puts the entry, with all that stands below it, directly below another; makes it, under that name, when
-    // there is none, and takes it away when there is no entry to put it below. The key tells what it makes: a
-    // recipe, a style, or else a folder. REQUIRES: parentKey is not below key.
+    // Moves the entry, with everything below it, to directly below the parent. Creates it, with that name, if
+    // it is missing: as a recipe, a style or else a folder, depending on the key. Removes it if the parent is
+    // missing. REQUIRES: parentKey is not below key.
     void Place(const std::string& key, const std::string& parentKey, const std::string& name);
-    // Does nothing without such an entry, as Remove.
+    // Does nothing if there is no such entry.
     void Rename(const std::string& key, const std::string& name);
-    // With all that stands below it.
+    // Removes the entry with everything below it. Does nothing if there is no such entry.
     void Remove(const std::string& key);
-    // Shows what the main database holds now. Raises nothing: when it cannot be read, all stays as it was
-    // shown.
+    // Reads the tree from the main database again. Raises no error: if the database cannot be read, the tree
+    // stays as it was.
     void Reload();
-    // Reads again what the last time could not be read; does nothing otherwise. Raises nothing.
+    // Calls Reload if the tree could not be read the last time. Raises no error.
     void CatchUp();
 
   private:

@@ -1,4 +1,4 @@
-// What the tree needs of a widget that shows it.
+// The interface through which the tree fills a widget.
 #pragma once
 
 #include <cstdint>
@@ -7,16 +7,17 @@
 
 namespace tw {
 
-// An entry of the widget, in whatever way the widget tells it: an address or a number. Top is none.
+// An entry of the widget, identified by the widget's own choice of a number or an address. Top means
+// no entry.
 enum class TreeViewItem : std::uintptr_t { Top = 0 };
 
 class TreeView {
   public:
     virtual ~TreeView() = default;
-    // Takes every entry away.
+    // Removes all entries.
     virtual void Clear() = 0;
-    // Adds an entry as the last one below parent, or as the last top-level one for Top, and tells it; the
-    // result is not Top. image is the key of the image that it shows, selectedImage while it is selected.
+    // Appends an entry to the children of parent, or to the top-level entries for Top, and returns it; the
+    // result is never Top. image is the key of its image, selectedImage of that while it is selected.
     virtual TreeViewItem Add(TreeViewItem parent, const std::string& key, std::string_view text,
                              std::string_view image, std::string_view selectedImage) = 0;
 };

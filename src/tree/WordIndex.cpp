@@ -24,8 +24,8 @@ void AppendPacked(std::vector<unsigned char>& packed, std::uint32_t number) {
     packed.push_back(static_cast<unsigned char>(number));
 }
 
-// Puts the numbers in order, each once. scratch holds a bit for each number there is, all clear before and
-// after: many numbers are put in order by it, at the price of a look at all its bits.
+// Sorts the numbers and removes duplicates. scratch contains one bit per possible number, all clear before
+// and after. It is used only for many numbers, because all its bits must be visited.
 void Order(std::vector<std::uint32_t>& numbers, BitSet& scratch) {
     constexpr std::size_t kFew = 256;
     if (numbers.size() < kFew || numbers.size() < scratch.size() / 4) {
@@ -92,7 +92,8 @@ WordIndex WordIndex::Builder::Build(std::uint32_t texts) {
     return index;
 }
 
-// A set takes less than the packed numbers, of a byte each at the least, and is faster to put together.
+// For frequent words, a bit set is smaller than packed numbers, which take at least a byte each, and is
+// faster to combine.
 bool WordIndex::IsFrequent(std::size_t count) const {
     constexpr std::size_t kBitsOfByte = 8;
     return count * kBitsOfByte >= texts_;
@@ -115,7 +116,7 @@ void WordIndex::AppendWord(std::string_view word, std::vector<std::uint32_t>& te
 }
 
 std::size_t WordIndex::EntryAt(std::size_t place, std::size_t from) const {
-    // Words that are found lie close together, or are few.
+    // The words found are either close together or few, so the search is exponential from the previous one.
     std::size_t step = 1;
     while (from + step < entries_.size() && entries_[from + step].word <= place) {
         from += step;

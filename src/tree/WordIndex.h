@@ -1,5 +1,5 @@
-// Which numbered texts hold a word: each different word stands once, with the numbers of its texts packed
-// behind it. So a search reads the different words alone, however long the texts are.
+// Finds the numbered texts that contain a word. Each different word is stored once, with the packed numbers
+// of its texts, so a search reads only the different words, however long the texts are.
 #pragma once
 
 #include <cstddef>
@@ -12,11 +12,11 @@
 
 namespace tw {
 
-// A set of numbers from 0, a bit for each.
+// A set of numbers from 0, with one bit per number.
 using BitSet = std::vector<std::uint64_t>;
 
-// The words of text in upper case, as they stand between blanks, tabs and line breaks; each as often as it
-// stands there.
+// Returns the words of text in upper case, as separated by blanks, tabs and line breaks, including
+// repeated words.
 std::vector<std::string> WordsOf(std::string_view text);
 
 class WordIndex {
@@ -24,11 +24,11 @@ class WordIndex {
     // Collects the words of the texts.
     class Builder {
       public:
-        // The numbers that the words of text have here, for Add.
+        // Returns the numbers that identify the words of text in this builder, for Add.
         std::vector<std::uint32_t> NumbersOf(std::string_view text);
-        // Counts those words as words of the text of that number.
+        // Records that the text of that number contains those words.
         void Add(const std::vector<std::uint32_t>& words, std::uint32_t text);
-        // The index over the texts numbered below texts. The builder is empty then.
+        // Returns the index of the texts with numbers below texts, and empties the builder.
         WordIndex Build(std::uint32_t texts);
 
       private:
@@ -39,30 +39,30 @@ class WordIndex {
             }
         };
         std::unordered_map<std::string, std::uint32_t, Hash, std::equal_to<>> numbers_;
-        std::vector<std::vector<std::uint32_t>> texts_;  // of each word, in any order, also twice
+        std::vector<std::vector<std::uint32_t>> texts_;  // the texts of each word, unsorted, with duplicates
     };
 
-    // The texts in which one word or more holds part. REQUIRES: part is in upper case and holds no blank.
+    // Returns the texts in which a word contains part. REQUIRES: part is in upper case and contains no blank.
     BitSet Find(std::string_view part) const;
 
   private:
     struct Entry {
-        std::size_t word;     // where it begins in words_
-        std::size_t numbers;  // where its texts begin in packed_; without a meaning for a frequent word
+        std::size_t word;     // its position in words_
+        std::size_t numbers;  // position of its texts in packed_; unused for a frequent word
     };
     void AppendWord(std::string_view word, std::vector<std::uint32_t>& texts);
     bool IsFrequent(std::size_t count) const;
-    // The entry of the word at that place, which is not before the one of that number.
+    // Returns the entry of the word at that position, searching from the entry from on.
     std::size_t EntryAt(std::size_t place, std::size_t from) const;
-    // Puts the texts of the word into found; how many had not been there.
+    // Adds the texts of the word to found. Returns how many were not in it before.
     std::uint32_t Collect(std::size_t entry, BitSet& found) const;
 
     std::uint32_t texts_ = 0;
-    std::string words_;  // the most frequent first, a line each
+    std::string words_;  // one per line, the most frequent first
     std::vector<Entry> entries_;
     std::size_t frequentWords_ = 0;
-    std::vector<std::uint64_t> frequent_;  // a set for each of the first words, one behind the other
-    std::vector<unsigned char> packed_;    // the distances from one number to the next, seven bits a byte
+    std::vector<std::uint64_t> frequent_;  // a bit set for each of the frequent words, concatenated
+    std::vector<unsigned char> packed_;    // differences between consecutive numbers, seven bits per byte
 };
 
 }  // namespace tw

@@ -33,7 +33,7 @@ enum Column {
     Columns
 };
 
-// The fields of a row that are shown, found by their names once for all rows of a recordset.
+// The shown fields of a row, looked up by name once for all rows of a recordset.
 template <std::size_t kCount>
 using FieldNames = std::array<std::string_view, kCount>;
 
@@ -103,7 +103,7 @@ std::string SizeOf(TWNode& node) {
     return std::to_string(node.HasChildren() ? node.Children().Count() : 0);
 }
 
-// The row of a node without what the database knows of it.
+// Returns the row of a node, without the data that only the database has.
 ListRow BlankRow(const TWNode& node) {
     ListRow row;
     row.key = node.Key();
@@ -163,7 +163,7 @@ void ShowStyle(ListRow& row, const ShownFields<StyleFields>& style) {
     Cell(row, WaterProfile) = ListText(style[StyleWater]);
 }
 
-// The number behind a typed text, with a unit; without the text nothing is shown.
+// Returns the number that belongs to a typed text, with its unit; blanks if that text is blank.
 std::string TypedFigure(const std::string& typed, const Field& figure, std::string_view pattern,
                         std::string_view unit) {
     if (IsBlank(typed)) return std::string(kNoNumber);
@@ -180,7 +180,7 @@ void ShowRecipe(ListRow& row, const ShownFields<RecipeFields>& recipe) {
     Cell(row, OriginalGravity) = TypedFigure(recipe[Og].Text(), recipe[OgData], kGravityPattern, "");
     Cell(row, FinishedGravity) = TypedFigure(recipe[Fg].Text(), recipe[FgData], kGravityPattern, "");
     Cell(row, Alcohol) = ListText(recipe[Abv]);
-    // The blank before the "(" stays: intended.
+    // The blank before the "(" stays, on purpose: existing scripts compare the cell.
     std::string color = recipe[RecipeColor].Text();
     color.resize(std::min(color.find('('), color.size()));
     if (!color.empty()) Cell(row, Color) = std::move(color);
@@ -193,7 +193,7 @@ void ShowRecipe(ListRow& row, const ShownFields<RecipeFields>& recipe) {
 template <std::size_t kCount>
 using Show = void (*)(ListRow&, const ShownFields<kCount>&);
 
-// What one object's row shows beyond its node; nothing when the database does not hold it. sql takes its id.
+// Shows the data of one object in its row, if the database contains it. id is the parameter of sql.
 template <std::size_t kCount>
 void ShowOne(Database& database, std::string_view sql, std::int64_t id, const FieldNames<kCount>& names,
              ListRow& row, Show<kCount> show) {
@@ -201,7 +201,7 @@ void ShowOne(Database& database, std::string_view sql, std::int64_t id, const Fi
     if (!object.AtEnd()) show(row, ShownFields<kCount>(object, names));
 }
 
-// The rows of one kind of object, to be read together.
+// The rows of one kind of object, which are read together.
 template <std::size_t kCount>
 class Batch {
   public:
@@ -245,7 +245,7 @@ class Batch {
     std::map<std::int64_t, std::size_t> rows_;
 };
 
-// Whether there is an object of that id behind the node: not for system folders and "(None)".
+// True if the node has a row in the database under that id: not for system folders and "(None)".
 bool HasRow(const TWNode& node, std::int64_t id) {
     if (node.IsDocument()) return id != kNoId;
     return node.IsStyle() ? id != 0 && id != kNoId : id > 0;

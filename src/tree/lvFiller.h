@@ -1,4 +1,4 @@
-// Fills the lists in which folders, styles, recipes and the rows of the catalogue are shown.
+// Fills lists with folders, styles, recipes and the rows of the catalogue.
 #pragma once
 
 #include <cstdint>
@@ -13,37 +13,38 @@
 
 namespace tw {
 
-// A cell that has no value shows blanks: one in the columns of dates, two in all others. What cannot be read,
-// such as a row that is gone, is shown as far as it can be.
+// A cell without a value contains blanks: one in a date column, else two. If something cannot be read, such
+// as a row that has been deleted, the rest is still shown.
 class lvFiller {
   public:
-    // REQUIRES: both live for as long; tree was made from database.
+    // REQUIRES: database and tree outlive the object; tree was created from database.
     lvFiller(Database& database, const TWTree& tree) : database_(database), tree_(tree) {}
 
-    // The columns of recipes and folders, "Name" to "Water Profile"; the list is empty then.
+    // Sets the columns for recipes and folders, "Name" to "Water Profile", and empties the list.
     static void SetUpExplorerColumns(ListTable& list);
 
-    // A row for each child of the node of that key, in the order of TWNode::Compare; the rows' keys are those
-    // of the nodes. Without showStyles what belongs to the styles is left out. An unknown key leaves the list
-    // empty. REQUIRES, as for those below: the list has the columns of the explorer.
+    // Fills the list with a row for each child of the node of that key, in the order of TWNode::Compare; the
+    // keys of the rows are those of the nodes. Leaves out what belongs to the styles unless showStyles is
+    // true. Empties the list if key is unknown. REQUIRES, here and for the functions below: the list has the
+    // columns of the explorer.
     void FillByKey(ListTable& list, std::string_view key, bool showStyles) const;
-    // A row for each of those nodes, in their order.
+    // Fills the list with a row for each of those nodes, in their order.
     void FillNodes(ListTable& list, const std::vector<TWNode*>& nodes) const;
 
-    // The rows of single nodes, behind all others. FillByKey gives the same rows from fewer statements.
+    // Append the row of a single node. FillByKey creates the same rows with fewer statements.
     void AddFolderRow(ListTable& list, TWNode& folder) const;
-    // "(None)" too.
+    // The style may also be "(None)".
     void AddStyleRow(ListTable& list, TWNode& style) const;
     void AddRecipeRow(ListTable& list, TWNode& recipe) const;
 
-    // The rows of a catalogue under its own columns, sorted by name; their keys are their names. They carry
-    // their codes and other names, as the styles among the nodes do. Grains and
-    // extracts stand in groups: a group row with the name of each type that has some, in the order of the
-    // types, and behind the groups those without a type, under no group row.
+    // The rows of a catalogue under its own columns, sorted by name; their keys are their names. They include
+    // codes and other names, as do styles among the nodes. Grains and extracts are grouped: each type that
+    // has any is a group row with its name, in the order of the types, and those without a type follow the
+    // groups without a group row.
     //
-    // The styles directly in that folder; for -1 all styles.
+    // FillStyles shows the styles directly in that folder; for -1 all styles.
     void FillStyles(ListTable& list, std::int64_t folderId) const;
-    // The same behind the folders directly in that folder, under their node keys.
+    // Shows the folders directly in that folder, with their node keys, followed by its styles.
     void FillStylesAndFolders(ListTable& list, std::int64_t folderId) const;
     void FillGrains(ListTable& list, bool grain) const;
     void FillHops(ListTable& list) const;
@@ -51,7 +52,7 @@ class lvFiller {
     void FillWaterProfiles(ListTable& list) const;
     void FillSalts(ListTable& list) const;
     void FillSugars(ListTable& list) const;
-    // One of those; of the styles the folders and styles at the root.
+    // Fills the list with one of those catalogues; for styles, with the folders and styles of the root.
     void Fill(ListTable& list, CatalogueKind catalogue) const;
 
   private:

@@ -15,7 +15,7 @@ namespace {
 
 using enum ListColumnKind;
 
-// The row of the present record, under its name.
+// Returns the row of the current record, with its name as key and first cell.
 ListRow NamedRow(const Recordset& rows, std::string_view nameField) {
     ListRow row;
     row.key = rows.Fields(nameField).Text();
@@ -27,7 +27,7 @@ std::string Range(const Recordset& rows, const char* low, const char* high, std:
     return ListRange(rows.Fields(low), rows.Fields(high), pattern);
 }
 
-// A row for each record, sorted by name.
+// Fills the list with a row for each record, sorted by name.
 template <class MakeCells>
 void FillTable(Database& database, ListTable& list, CatalogueKind kind, MakeCells addCells) {
     const RowFacts facts(database, kind);
@@ -44,7 +44,7 @@ void FillTable(Database& database, ListTable& list, CatalogueKind kind, MakeCell
 }
 
 std::vector<ListRow> StyleRows(Database& database, std::int64_t folderId) {
-    // The system folder holds every style.
+    // The system folder contains all styles.
     const bool all = folderId == -1;
     const RowFacts facts(database, CatalogueKind::Style);
     std::vector<ListRow> styles;
@@ -84,7 +84,7 @@ void SetUpStyleColumns(ListTable& list) {
 ListRow GrainRow(const Recordset& rows, int group, const RowFacts& facts) {
     ListRow row = NamedRow(rows, "GRAINS.NAME");
     row.group = group;
-    // As the wort of a pound in a gallon, whose colour units are the malt's degrees Lovibond.
+    // The colour of a wort of one pound in one gallon: its colour units are the malt's degrees Lovibond.
     if (const auto lovibond = MiddleOf(rows.Fields("COLOR_LO"), rows.Fields("COLOR_HI")))
         row.hcu = std::max(*lovibond, 0.0);
     row.cells.insert(row.cells.end(),
