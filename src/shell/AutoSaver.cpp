@@ -6,8 +6,8 @@
 namespace tw {
 
 void AutoSaver::Tick() {
-    // Minutes spent saving are not counted. During an import nothing is saved, as the import's unit of work
-    // would undo the save if it fails.
+    // Minutes spent saving are not counted. During an import nothing is saved: a save would belong to the
+    // import's unit of work, and be lost if that is.
     if (!settings_.doAutoSave || saving_ || files_.IsRunning() || data_.database->ReadOnly()) return;
     if (!minutes_.Tick(!documents_.All().empty(), settings_.doAutoSaveEvery)) return;
     Run();

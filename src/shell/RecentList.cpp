@@ -10,7 +10,7 @@ std::string KeyOf(int slot) {
     return "File" + std::to_string(slot);
 }
 
-// What stands before the name in a caption: "&", a position of one digit, a blank.
+// The length of the text before the name in a caption: "&", a digit and a blank.
 constexpr std::size_t kCaptionLead = 3;
 
 }  // namespace
@@ -66,8 +66,7 @@ void RecentList::Add(std::string_view name) {
         }
     }
     SetSlot(0, name, true);
-    // Not the lower separator, FileBar7: after the first entry it appears only at the next start.
-    // Intended.
+    // The lower separator, FileBar7, is left hidden until the next start: scripts can query its state.
     commands_.SetVisible(CommandId::FileBar5, true);
 }
 

@@ -1,4 +1,4 @@
-// The six slots of most recently used recipes at the foot of the File menu, with their two separators.
+// The six slots of recently used recipes in the File menu, with their two separators.
 #pragma once
 
 #include <string>
@@ -14,16 +14,17 @@ class RecentList {
   public:
     explicit RecentList(CommandBar& commands) : commands_(commands) {}
 
-    // Fills the slots from the store; gaps close up.
+    // Fills the slots from the store, skipping empty entries.
     void Load(const SettingsStore& store);
-    // Writes the visible slots; values beyond the last visible one stay in the store, on purpose.
+    // Stores the visible slots. Entries beyond the last visible slot stay in the store: the stored form must
+    // not change.
     void Store(const SettingsStore& store) const;
     void Add(std::string_view name);
     void Remove(std::string_view name);
     void Rename(std::string_view oldName, std::string_view newName);
-    // The recipe's name behind a slot's caption, empty for a hidden slot.
+    // The name of the recipe in a slot; empty for a hidden slot.
     std::string NameOf(int slot) const;
-    // The captions of the visible slots.
+    // Returns the captions of the visible slots.
     std::vector<std::string> Captions() const;
 
   private:

@@ -50,7 +50,7 @@ constexpr Integer Long(int Settings::*field) {
     return {field};
 }
 
-// All keys of the section in the order of reading.
+// All keys of the section, in the order in which they are read.
 constexpr std::array kKeys = std::to_array<KeyRow>({
     {"MainLeft", "1000", Real{&Settings::mainLeft}},
     {"MainTop", "1000", Real{&Settings::mainTop}},
@@ -94,7 +94,7 @@ constexpr KeyRows kColorKeys = kAllKeys.subspan(25, 4);
 constexpr KeyRows kPreferenceKeys = kAllKeys.subspan(6, 19);
 static_assert(kColorKeys.front().key == "GridReadOnlyBg" && kColorKeys.back().key == "GridTotalFg");
 
-// Reads the text into the field; false for a text of another form.
+// Reads the text into the field. False if the text does not have the form of the field.
 struct Reader {
     Settings& settings;
     std::string_view text;
@@ -129,20 +129,20 @@ struct Writer {
     std::string operator()(const TextValue& value) const { return settings.*value.field; }
 };
 
-// A text of the wrong form, put there from outside, counts as not present.
+// A text of the wrong form, put there from outside, counts as missing.
 void TakeText(Settings& settings, const KeyRow& row, std::string_view text) {
     if (!std::visit(Reader{settings, text}, row.field)) std::visit(Reader{settings, row.fallback}, row.field);
 }
 
 void LoadKeys(Settings& settings, const SettingsStore& store, KeyRows rows) {
     for (const KeyRow& row : rows) {
-        // No default stands for a colour that is not stored.
+        // A colour that is not stored has no default: it stays unchosen.
         const bool isColor = std::holds_alternative<Color>(row.field);
         TakeText(settings, row, store.GetSetting(kSettingsSection, row.key, isColor ? "" : row.fallback));
     }
 }
 
-// Earlier versions stored all four colours at every shut-down, chosen or not.
+// Earlier versions stored all four colours at every shut-down, whether chosen or not.
 void ForgetColorsOfEarlierVersions(Settings& settings) {
     const auto isDefault = [&](const KeyRow& row) {
         const std::optional<int>& color = settings.*std::get<Color>(row.field).field;

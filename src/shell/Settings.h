@@ -1,5 +1,5 @@
-// All user preferences of the section "Settings" as fields, and the one table of their keys, defaults and
-// text forms. They are read once at start and written at shut-down.
+// All preferences of the section "Settings" as fields, with one table of their keys, defaults and text forms.
+// They are read once at the start and stored at shut-down.
 #pragma once
 
 #include <cstdint>
@@ -19,29 +19,31 @@ struct Settings {
     bool appendRows = false;
     int hopForm = 0;
     bool hopSocks = true;
+    // As typed: a multiplier, percent, and the name of a water profile.
     std::string hopExtraction, grainExtraction, waterProfile;
     int packaging = 0;
-    std::string boilVol, totalVol;
+    std::string boilVol, totalVol;  // as typed, US gallons unless they name another unit
     int ibuMethod = 0, reportType = 0;
     bool copyHeaders = false, pasteMismatchSize = false, showAssistantAtStartup = true, doAutoSave = false;
-    int doAutoSaveEvery = 5;
+    int doAutoSaveEvery = 5;  // minutes
     bool askBeforeNonUndoableChange = true, quickPrintFromToolbar = true;
-    // Colours as 32-bit numbers in blue-green-red order. Nothing is a colour that the brewer never chose: the
-    // grids show a tint of the desktop's colours for it, and it is not stored.
+    // Colours as 0xBBGGRR. nullopt is a colour that the brewer has not chosen: the grids then use a tint of
+    // the desktop's colours, and the colour is not stored.
     std::optional<int> gridReadOnlyBg, gridTotalBg, gridReadOnlyFg, gridTotalFg;
-    int lpMaxIter = 1000;  // read, never written by the program
+    int lpMaxIter = 1000;  // of the water solver; read, but never written by the program
 
-    // The keys of the window's geometry and style, read before the database is opened.
+    // Loads the keys of the window's geometry and style, before the database is opened.
     void LoadWindowKeys(const SettingsStore& store);
-    // All other keys, in the table's order.
+    // Loads all other keys, in the order of the table.
     void LoadProgramKeys(const SettingsStore& store);
-    // Every key but those of the geometry (and LPMaxIter, which is never written), in the order of shut-down.
-    // A colour that was never chosen leaves the store.
+    // Stores every key except those of the geometry and LPMaxIter, which is never written, in a fixed order.
+    // Removes colours that were never chosen from the store.
     void Store(const SettingsStore& store) const;
     void StoreGeometry(const SettingsStore& store) const;
-    // Takes one key's text into its field. False for an unknown key.
+    // Sets the field of a key from its text; a text of the wrong form sets the default. False for an
+    // unknown key.
     bool Take(std::string_view key, std::string_view text);
-    // The default text of a key of any section of the program; nothing for an unknown key.
+    // Returns the default text of a key of any section of the program; nullopt for an unknown key.
     static std::optional<std::string> DefaultOf(std::string_view section, std::string_view key);
 };
 
