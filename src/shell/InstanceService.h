@@ -37,7 +37,7 @@ class InstanceHost {
 enum class StartTest {
     OnlyInstance,
     HandedOver,  // another instance is running and has been notified
-    Failed,      // a message has been shown: no channel, or the other instance gave no answer or refused
+    Failed,      // after a message: the channel failed, or the other instance did not answer or refused
 };
 
 class InstanceService final : public ChannelReceiver {

@@ -25,8 +25,8 @@ class PrintDesk {
     void PrintActive(bool quick);
     // Shows the pages of the active document, if there is one.
     void PreviewActive();
-    // Shows the wizard that creates report files, with that report type selected. Its menu item is hidden on
-    // purpose: the wizard is not offered to the brewer.
+    // Shows the wizard that creates report files, with that report type selected. Its menu item is hidden, so
+    // that the wizard is not offered to the brewer.
     void ShowReportWizard(int reportType);
 
   private:
