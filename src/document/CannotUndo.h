@@ -1,4 +1,4 @@
-// The question before a change that no undo takes back (frmCannotUndo).
+// Asks before a change that cannot be undone (frmCannotUndo).
 #pragma once
 
 #include "document/DocumentHost.h"
@@ -7,7 +7,7 @@
 
 namespace tw {
 
-// chkDontShow; cmdYes and cmdNo. The close box leaves the answer at No.
+// The controls are chkDontShow, cmdYes and cmdNo. Closing the box answers No.
 class CannotUndoModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmCannotUndo";
@@ -28,8 +28,8 @@ class CannotUndoModel final : public FormModel {
     bool dontShow_ = false;
 };
 
-// Whether a change that cannot be undone goes ahead: yes at once while the setting says not to ask. The check
-// box switches the setting off, whatever the answer.
+// Asks whether a change that cannot be undone should go ahead, and returns the answer; true without asking if
+// the setting turns the question off. The check box changes that setting, whatever the answer.
 bool GetUserResponse(DocumentHost& host, DialogPort& dialogs);
 
 }  // namespace tw

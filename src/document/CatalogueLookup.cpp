@@ -10,7 +10,7 @@ std::optional<double> NumberOf(const Field& field) {
     return field.Number();
 }
 
-// The statement behind a list of names; nullptr for a list that is no query.
+// Returns the query of a list of names; nullptr for a list that is not read from the database.
 const char* QueryOf(CellNames names) {
     switch (names) {
         case CellNames::Grains:
@@ -57,7 +57,7 @@ std::vector<std::string> CatalogueLookup::Names(CellNames list) const {
     return names;
 }
 
-// The name of the row that a typed text stands for; the text itself when there is none.
+// Returns the name of the row that typed means, or typed itself if there is none.
 std::string CatalogueLookup::RowName(CatalogueKind kind, std::string_view typed) const {
     return CatalogueNames(database_).RowOf(kind, typed).value_or(std::string(typed));
 }
@@ -126,7 +126,7 @@ std::vector<StyleName> CatalogueLookup::Styles() const {
 }
 
 std::optional<StyleFigures> CatalogueLookup::Style(std::int64_t id) const {
-    // Even a row of the id 0 would be no style.
+    // Id 0 means no style, even if a row has that id.
     const Recordset row = database_.OpenRecordset("SELECT * FROM STYLES WHERE ID <> 0 AND ID = ?", {id});
     if (row.AtEnd()) return std::nullopt;
     StyleFigures style{RangeIn(row, "OG_LO", "OG_HI"),

@@ -1,5 +1,5 @@
-// What the catalogue knows about the names in a recipe: all questions of a recipe to the catalogue. It knows
-// no record and no grid.
+// What the catalogue knows about the names in a recipe. All queries of a recipe to the catalogue are here;
+// they do not depend on its record or grids.
 #pragma once
 
 #include <cstdint>
@@ -15,10 +15,10 @@
 
 namespace tw {
 
-// The middles of the catalogue's ranges; nothing where the catalogue leaves a range open.
+// The middles of the catalogue's ranges; nullopt where the catalogue leaves an end of the range open.
 struct FermentableFigures {
-    std::optional<double> ppg;       // points a pound gives to a gallon
-    std::optional<double> lovibond;  // degrees
+    std::optional<double> ppg;       // gravity points that one pound gives to one gallon
+    std::optional<double> lovibond;  // degrees Lovibond
 };
 struct HopFigures {
     std::optional<double> alphaAcid;  // percent
@@ -30,12 +30,12 @@ struct YeastFigures {
     std::optional<double> attenuation;  // apparent, percent
 };
 
-// The range of one figure; an end that is not given is open.
+// The range of one figure; nullopt for an open end.
 struct FigureRange {
     std::optional<double> low, high;
 };
-// What a style says, in the units of its figures: specific gravities, percent of alcohol by volume, SRM,
-// IBUs, volumes of CO2.
+// The ranges of a style: og and fg are specific gravities, abv percent of alcohol by volume, color SRM, ibu
+// IBUs, and co2 volumes of CO2.
 struct StyleFigures {
     FigureRange og, fg, abv, color, ibu, co2;
     std::optional<std::string> waterProfile;
@@ -45,7 +45,7 @@ struct StyleName {
     std::string name;
 };
 
-// A salt of the table, and what one gram of it adds to one gallon, in PPM.
+// A salt, and what one gram of it adds to one gallon of water, in PPM.
 struct SaltIons {
     std::string name;
     Ions ppm;
@@ -53,30 +53,32 @@ struct SaltIons {
 
 class CatalogueLookup {
   public:
-    // REQUIRES: database lives for as long. Nothing is kept: each call sees the database as it is.
+    // REQUIRES: database outlives this object. Nothing is cached: each call reads the database. All functions
+    // raise the store's errors.
     explicit CatalogueLookup(Database& database) : database_(database) {}
 
-    // The names of the list, in its order; none for a list that is no list of names.
+    // Returns the names that a cell's list reads from the database, sorted; empty for every other list.
     std::vector<std::string> Names(CellNames list) const;
 
-    // The figures of the row that name stands for: its own name, another name of it, or its code
-    // (CatalogueNames::RowOf). Nothing when there is no such row. REQUIRES: kind is Grain or Extract.
+    // Return the figures of the row that name means: its own name, an alias or its code
+    // (CatalogueNames::RowOf). nullopt if there is no such row. REQUIRES for Fermentable: kind is
+    // Grain or Extract.
     std::optional<FermentableFigures> Fermentable(CatalogueKind kind, std::string_view name) const;
     std::optional<HopFigures> Hop(std::string_view name) const;
     std::optional<SugarFigures> Sugar(std::string_view name) const;
     std::optional<YeastFigures> Yeast(std::string_view name) const;
-    // PPM.
+    // Returns the ions of a water profile, in PPM.
     std::optional<Ions> Water(std::string_view name) const;
-    // What one gram adds to one gallon, in PPM.
+    // What one gram of the salt adds to one gallon of water, in PPM.
     std::optional<Ions> Salt(std::string_view name) const;
-    // All salts in the table's own order.
+    // Returns all salts in the order of their table.
     std::vector<SaltIons> Salts() const;
 
-    // All styles, by name.
+    // Returns all styles, sorted by name.
     std::vector<StyleName> Styles() const;
-    // Nothing for the id of no style, and for 0, which stands for none.
+    // nullopt if no style has that id, and for 0, which means no style.
     std::optional<StyleFigures> Style(std::int64_t id) const;
-    // The name of the style that a typed text stands for, as above.
+    // Returns the name of the style that typed means (CatalogueNames::RowOf); nullopt if there is none.
     std::optional<std::string> StyleNamed(std::string_view typed) const;
 
   private:

@@ -33,7 +33,7 @@ std::optional<CellNames> NamesOf(CatalogueKind list) {
 std::optional<CatalogueKind> CataloguePicks::ListOf(const Grid& grid, int row, int col) const {
     if (!cells_.CanEdit(grid, row, col)) return std::nullopt;
     const CellNames names = RuleOf(grid, col).names;
-    // Other notes than those of a pitched yeast are nobody's name.
+    // Notes contain a name only if their row pitches a yeast.
     if (names == CellNames::PitchedYeast && !PitchesYeast(grid, row)) return std::nullopt;
     for (const Catalogue& catalogue : kCatalogues)
         if (catalogue.names == names) return catalogue.list;
@@ -50,8 +50,8 @@ bool CataloguePicks::BrowseCell(Grid& grid) {
     const std::optional<CatalogueKind> list = ListOf(grid, row, col);
     if (!list) return false;
     const std::string& text = grid.Text(row, col);
-    recipe_.PickFromCatalogue(*list,
-                              std::string(*list == CatalogueKind::Yeast ? PitchedYeastName(text) : Trim(text)));
+    recipe_.PickFromCatalogue(
+        *list, std::string(*list == CatalogueKind::Yeast ? PitchedYeastName(text) : Trim(text)));
     return true;
 }
 

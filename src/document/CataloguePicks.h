@@ -1,4 +1,4 @@
-// The way from a style or a cell to its catalogue and back: the choosers.
+// Lets the brewer choose a recipe's style, or the name in a cell, from the catalogue, and enters the choice.
 #pragma once
 
 #include <optional>
@@ -16,17 +16,18 @@ class CataloguePicks {
     CataloguePicks(OpenRecipe& recipe, RecipeStyle& style, RecipeCells& cells)
         : recipe_(recipe), style_(style), cells_(cells) {}
 
-    // The catalogue that a cell's name stands in; nothing for a cell that holds no such name, and for one
-    // that cannot be edited. Of gridLog it is that of the yeasts, for the notes of a row that pitches one.
+    // Returns the catalogue that lists the names of a cell; nullopt if the cell does not contain such
+    // a name or cannot be edited. In gridLog, that is the catalogue of yeasts for the notes of a row
+    // that pitches one.
     std::optional<CatalogueKind> ListOf(const Grid& grid, int row, int col) const;
-    // Let the brewer choose from a catalogue, which opens on the present name; the choice goes into the
-    // style, into the current cell. BrowseCell is false, and asks nothing, for a cell without a catalogue and
-    // while more cells are selected.
+    // Let the brewer choose from a catalogue, starting at the present name; Take enters the choice.
+    // BrowseCell does this for the current cell. It returns false, without asking, if that has no catalogue
+    // or if more than one cell is selected.
     void BrowseStyles();
     bool BrowseCell(Grid& grid);
-    // A name that was chosen from the list. A style becomes the recipe's; any other name goes into the
-    // current row of the grid of its kind (a yeast into the notes of gridLog), and the row is filled as if it
-    // had been typed.
+    // Enters a name chosen from a catalogue. A style becomes that of the recipe; any other name is entered
+    // into the current row of the grid with such names (a yeast into the notes of gridLog), and the row is
+    // filled as if the name had been typed. Raises Error for an arithmetic fault, with nothing changed.
     void Take(CatalogueKind list, std::string_view name);
 
   private:

@@ -1,5 +1,5 @@
-// A block of cells as text on the clipboard, the way spreadsheets exchange it: a line for each row, ended by
-// "\r" without a line feed; cells separated by tabs.
+// A block of cells as text on the clipboard, in the format in which spreadsheets exchange it: one line per
+// row, ended by "\r" without a line feed, with the cells separated by tabs.
 #pragma once
 
 #include <string>
@@ -12,8 +12,8 @@ namespace tw {
 using ClipboardBlock = std::vector<std::vector<std::string>>;
 
 std::string JoinBlock(const ClipboardBlock& block);
-// At least one row and one column. Line feeds are dropped, the end of the last line begins no further row,
-// and short rows are filled with empty cells.
+// Returns at least one row and one column. Line feeds are ignored, the end of the last line starts no further
+// row, and short rows are padded with empty cells.
 ClipboardBlock SplitBlock(std::string_view text);
 
 }  // namespace tw

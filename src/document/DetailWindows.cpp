@@ -11,10 +11,10 @@
 namespace tw {
 namespace {
 
-// A wort of no extract: SGToPlato(1) is zero but for the last digits of the arithmetic.
+// An extract, in degrees Plato, below this counts as 0: SGToPlato(1) is zero except for rounding errors.
 constexpr double kNoExtract = 1e-9;
 
-// The figure's text, empty when it would divide by zero.
+// Returns the text of a figure; empty if calculating it raises Error.
 std::string Show(const std::function<std::string()>& figure) {
     try {
         return figure();
@@ -31,14 +31,14 @@ std::string Gallons(double gallons) {
     return FormatNumber(gallons, "0.#0") + " gal.";
 }
 
-// Attenuation in percent of the original extract.
+// Returns the attenuation, in percent of the original extract. Both extracts are in degrees Plato.
 std::string Attenuation(double original, double left) {
     const double whole = std::abs(original) < kNoExtract ? 0 : original;
     return FormatNumber(Divide((original - left) * 100, whole), "0.#0") + "%";
 }
 
-// A linear fit of the program's own, in degrees C below 0: 0.42 for a percent of alcohol by weight, 0.04 for
-// a degree Plato of original extract. Holds for beers; nothing is limited.
+// A linear fit of the program's own: 0.42 degrees C below 0 per percent of alcohol by weight, plus 0.04
+// degrees C per degree Plato of original extract. Valid for beers; nothing is limited.
 std::string FreezingPoint(const AlcoholFigures& f) {
     const double fahrenheit = 32 - (f.byWeight * 0.42 + f.originalExtract * 0.04) * 1.8;
     return FormatNumber(fahrenheit, "0.0° F") + " (" + FormatNumber((fahrenheit - 32) * 5 / 9, "0.0° C") +
@@ -76,7 +76,7 @@ DetailsModel StrengthDetails(double originalSG, double finalSG) {
 }
 
 DetailsModel FinalVolDetails(const FinalVolInput& in) {
-    // The wort that goes on into the package; what stays behind is lost.
+    // The wort that goes into the package, in US gallons; the rest is lost.
     const double wort = std::min(in.finalVol - in.dilutions, in.totalVol);
     const auto share = [=] { return Divide(wort, wort + in.dilutions); };
     const auto dilutedGravity = [=] { return 1 + Divide((in.fg - 1) * wort, wort + in.dilutions); };

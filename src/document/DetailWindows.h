@@ -1,5 +1,6 @@
-// The three detail windows of a recipe as figures alone: frmStrengthDetails, frmFinalVolDetails,
-// frmHopDetails. They only show; a figure that would divide by zero stays blank.
+// The three windows with the details of a recipe: frmStrengthDetails, frmFinalVolDetails and
+// frmHopDetails. They are display only. A figure that cannot be calculated, for example because of a
+// division by zero, is blank.
 #pragma once
 
 #include <string>
@@ -11,7 +12,7 @@
 
 namespace tw {
 
-// A modal window of labels with one button, cmdClose.
+// A modal dialog with labels and one button, cmdClose.
 class DetailsModel final : public FormModel {
   public:
     static constexpr const char* kStrengthForm = "frmStrengthDetails";
@@ -27,27 +28,28 @@ class DetailsModel final : public FormModel {
     int slider_;
 };
 
-// Extracts, attenuations, alcohol, calories and freezing point; the formulas stand in calc/Figures.h.
-// Attenuation is by its definition the share of the original extract that has gone, by apparent or by real
-// extract.
+// Extracts, attenuations, alcohol, calories and freezing point, by the formulas in calc/Figures.h.
+// Attenuation is by definition the share of the original extract that has fermented, calculated from the
+// apparent or from the real extract.
 DetailsModel StrengthDetails(double originalSG, double finalSG);
 
 struct FinalVolInput {
     double totalVol, dilutions, finalVol;  // US gallons
     double og, fg;                         // specific gravities
 };
-// What is left of the wort when the package is filled and what its dilution with water makes of the beer:
-// gravity, alcohol and calories go by the share of the wort in the package, the program's own reckoning.
+// How much of the wort is left when the package is filled, and what diluting it with water makes of the beer.
+// By the program's own model, gravity points, alcohol and calories are proportional to the share of wort in
+// the package.
 DetailsModel FinalVolDetails(const FinalVolInput& input);
 
-// The ratio of bitterness units to gravity units (BU:GU; Ray Daniels, Designing Great Beers, 1996), with the
-// gravity units (originalSG - 1) * 1000.
+// The ratio of bitterness units to gravity units (BU:GU; Ray Daniels, Designing Great Beers, 1996), where the
+// gravity units are (originalSG - 1) * 1000.
 DetailsModel HopDetails(double originalSG, double ibu);
-// Position of the balance slider, 0 to 1000, for a ratio of bitterness to gravity units: a power law of the
-// program's own, above a ratio of 1/8. Below that the position is 0, and from 1.196 on it is 1000.
+// Returns the position of the balance slider, 0 to 1000, for a BU:GU ratio: a power law of the program's own
+// for ratios above 1/8. Up to 1/8 the position is 0, and from about 1.196 on it is 1000.
 int BalancePosition(double ratio);
 
-// The windows of one document, with its present figures.
+// Return the windows for the present figures of a document.
 DetailsModel StrengthDetailsOf(const RecipeDocument& document);
 DetailsModel FinalVolDetailsOf(const RecipeDocument& document);
 DetailsModel HopDetailsOf(const RecipeDocument& document);

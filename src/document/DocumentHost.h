@@ -1,4 +1,4 @@
-// What a recipe document asks of the program around it.
+// What a recipe document needs from the program around it.
 #pragma once
 
 #include <string>
@@ -11,7 +11,8 @@ namespace tw {
 
 class RecipeDocument;
 
-// The defaults of a new recipe and of its new rows, as typed in the settings.
+// The defaults of a new recipe and of its new rows, as entered in the settings. Each text is read as if typed
+// into its box or cell; ibuMethod and packaging are indexes of option buttons, hopForm of kHopForms.
 struct RecipeDefaults {
     std::string grainExtraction;
     std::string hopExtraction;
@@ -24,7 +25,7 @@ struct RecipeDefaults {
     bool hopSocks = true;
 };
 
-// The main window's commands that documents steer. Each does nothing when there is no change.
+// The main window's commands whose state depends on documents. A call that changes no state does nothing.
 class DocumentCommands : public RecipeCommands {
   public:
     virtual void EnableSave(bool enabled) = 0;
@@ -33,9 +34,9 @@ class DocumentCommands : public RecipeCommands {
     virtual void EnableCopyPaste(bool enableCopy, bool enableCutPaste) = 0;
     virtual void EnableUndo(bool enabled, std::string_view description) = 0;
     virtual void EnableRedo(bool enabled, std::string_view description) = 0;
-    // Save All is on exactly while some document is changed.
+    // Enables Save All if any document is changed, else disables it.
     virtual void CheckEnableSaveAll() = 0;
-    // The commands that need a recipe in the database.
+    // Enables the commands that need a stored recipe if the database contains one, else disables them.
     virtual void CheckEnableDelete() = 0;
 };
 
@@ -43,31 +44,32 @@ class DocumentHost {
   public:
     virtual ~DocumentHost() = default;
     virtual DocumentCommands& Commands() = 0;
-    // Only the active document steers the commands.
+    // True for the active document, the only one that may enable or disable the commands.
     virtual bool IsActive(const RecipeDocument& document) const = 0;
     virtual RecipeDefaults Defaults() const = 0;
-    // New rows go behind the last data row.
+    // True if new rows are added after the last data row, false if they are inserted at the current row.
     virtual bool AppendRows() const = 0;
-    // A copy of whole columns takes their headers along.
+    // True if a copied block that spans all columns of a grid starts with their headers.
     virtual bool CopyHeaders() const = 0;
-    // A paste may repeat or cut a block to fill a selection of another shape.
+    // True if a paste may repeat a block or cut it off to fill a selection of another shape.
     virtual bool PasteMismatchSize() const = 0;
-    // The limit of iterations for the treatment calculation.
+    // The maximum number of iterations of the water treatment calculation.
     virtual int LPMaxIter() const = 0;
-    // Whether a change that cannot be undone is asked about; and the brewer wants that no more.
+    // True if the brewer must confirm a change that cannot be undone; StopAskingBeforeNonUndoableChange turns
+    // that off.
     virtual bool AskBeforeNonUndoableChange() const = 0;
     virtual void StopAskingBeforeNonUndoableChange() = 0;
-    // Deletes a stored recipe; the notices to open documents run inside.
+    // Deletes a stored recipe. The open documents are notified before this returns.
     virtual void DeleteRecipe(std::string_view name) = 0;
-    // A recipe of that name has just been written by a save.
+    // Called by a save that has just written the recipe of that name.
     virtual void RecipeStored(std::string_view name) = 0;
     virtual void AddToMRU(std::string_view name) = 0;
-    // The brewer wants to choose from a catalogue, starting on name: what is chosen goes to the document's
-    // TakeChoice.
+    // Lets the brewer choose from a catalogue, starting at name. The choice goes to
+    // the document's CataloguePicks::Take.
     virtual void PickFromCatalogue(RecipeDocument&, CatalogueKind, const std::string& /*name*/) {}
-    // An edit of the recipe; it is changed.
+    // The recipe has been edited and is marked as changed.
     virtual void DocumentEdited(const RecipeDocument&) {}
-    // The document's caption or changed state is another one.
+    // The caption or the modified flag has changed.
     virtual void DocumentRenamed(const RecipeDocument& document) = 0;
 };
 

@@ -5,25 +5,26 @@
 
 namespace tw {
 
-// The nine tabs.
+// The nine tabs, in the order in which they are shown.
 enum class Tab : int { General, Grains, Extracts, Hops, Water, Carbonation, Adjuncts, Log, Notes };
 inline constexpr int kTabs = 9;
 
 class DocumentView {
   public:
     virtual ~DocumentView() = default;
-    // Commits whatever is being edited in the window: the open cell editor, the focused text box. False when
-    // an entry was refused; it stays open and its box has been shown.
+    // Commits whatever is being edited in the window: the open cell editor and the focused text box. Returns
+    // false if an entry was refused; a message has been shown and the entry is still open.
     virtual bool FlushEditors() = 0;
-    // An undo or redo works on that tab.
+    // An undo or redo has moved to that tab, which should now be shown.
     virtual void TabWanted(Tab) {}
-    // The control of that name should have the focus, if it can be seen.
+    // The control of that name should get the focus, if it is visible.
     virtual void ControlWanted(const std::string& /*name*/) {}
-    // Many changes come: nothing needs to be painted until they are all there. Calls nest.
+    // Suspends painting (true) until a matching call resumes it (false), because many changes
+    // follow. Calls nest.
     virtual void HoldRedraw(bool /*hold*/) {}
 };
 
-// For the time of a scope the window does not paint.
+// Suspends the window's painting during a scope. view is nullptr without a window.
 class RedrawHold {
   public:
     explicit RedrawHold(DocumentView* view) : view_(view) {

@@ -12,14 +12,14 @@ constexpr std::string_view kPasteFailed = "Paste Failed";
 constexpr std::string_view kChecked = "Yes";
 constexpr std::string_view kUnchecked = "No";
 
-// Every kind of line end as the notes keep it.
+// Converts line ends of every kind to "\r\n", as in the notes.
 std::string NotesLines(std::string_view text) {
     std::string lines = ReplaceAll(text, "\r\n", "\n");
     std::ranges::replace(lines, '\r', '\n');
     return ReplaceAll(lines, "\n", "\r\n");
 }
 
-// A box of one line takes the lines as words of one.
+// Joins the lines with spaces, for a box of one line.
 std::string OneLine(std::string_view text) {
     std::string lines = ReplaceAll(text, "\r\n", "\n");
     std::ranges::replace(lines, '\r', '\n');
@@ -41,7 +41,7 @@ bool MeansChecked(std::string_view text) {
     return text == kChecked || ReadNumber(text) == 1;
 }
 
-// The block's cell for a place of the target; the block repeats.
+// Returns the cell of the block for a position in the target, which the block fills repeatedly.
 const std::string& BlockCell(const ClipboardBlock& block, int row, int col) {
     const auto& line = block[static_cast<std::size_t>(row) % block.size()];
     return line[static_cast<std::size_t>(col) % line.size()];
@@ -55,8 +55,8 @@ int Width(const ClipboardBlock& block) {
     return static_cast<int>(block.front().size());
 }
 
-// What a paste fills: a selection of one row or column grows to the size of the block, as far as the grid
-// goes.
+// Returns the range that a paste fills: a selection of one row or column grows to the size of the block,
+// within the limits of the grid.
 GridRange TargetOf(const Grid& grid, const ClipboardBlock& block) {
     GridRange target = grid.Selection();
     if (target.Rows() == 1) target.row2 = std::min(grid.Rows(), target.row1 + Height(block)) - 1;

@@ -1,5 +1,5 @@
-// The edit commands on the text box or grid with the focus. Each does nothing without one, and nothing that
-// changes a computed box. A block of cells travels as in ClipboardBlock.h.
+// The edit commands, which act on the focused text box or grid. They do nothing if there is none, and they
+// never change a computed box. Blocks of cells are copied and pasted in the format of ClipboardBlock.h.
 #pragma once
 
 #include "document/ClipboardBlock.h"
@@ -16,15 +16,16 @@ class EditCommands {
         : recipe_(recipe), fields_(fields), focus_(focus), cells_(cells) {}
 
     void SelectAll();
-    // Text boxes: the selected text, if any. Grids: the selected block, with the header when whole columns
-    // are selected and the settings say so.
+    // In a text box, copies the selected text, if any. In a grid, copies the selected block, preceded by the
+    // header if the block spans all columns and the settings say so.
     void Copy();
     void Cut();
-    // Empties the selected text or cells; check boxes stay as they are.
+    // Empties the selected text or cells; check boxes stay as they are. Raises as Paste.
     void Clear();
-    // Replaces the selected text, or the selected cells from the first on, each in its turn: read-only cells
-    // use up their place of the block. A block that does not fit the selection, or an entry that a cell does
-    // not take, shows a box, and nothing has changed. An arithmetic fault raises; all is as before then.
+    // Replaces the selected text, or the selected cells. A selection of one row or column grows to the size
+    // of the block, and a read-only cell skips its part of the block. If the block does not fit the
+    // selection, or a cell does not accept its entry, shows a message and changes nothing. Raises Error for
+    // an arithmetic fault, with nothing changed.
     void Paste();
 
   private:

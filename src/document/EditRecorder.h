@@ -1,4 +1,4 @@
-// Records the edits of one document: what a control held before and after goes to the history, alone or as
+// Records the edits of one document: adds what a control held before and after to the history, alone or as
 // part of a compound that is undone in one step.
 #pragma once
 
@@ -15,22 +15,23 @@ namespace tw {
 
 class EditRecorder {
   public:
-    // changed is called after the history has changed.
+    // changed is called after each change that this object makes to the history.
     explicit EditRecorder(std::function<void()> changed) : changed_(std::move(changed)) {}
 
     UndoStack& Stack() { return stack_; }
     const UndoStack& Stack() const { return stack_; }
     void Clear();
-    // Puts back what could be redone, if anything; what can be redone now is forgotten then.
+    // Puts back edits that could be redone earlier, in place of those that can be redone now. Does nothing if
+    // edits is empty.
     void PutBackRedo(std::vector<EditTracker> edits);
 
-    // Off while a document is filled and while an undo or redo runs: nothing is recorded then.
+    // False while a document is being filled and while an undo or redo runs; nothing is recorded then.
     bool Tracking() const { return trackEdits_; }
     void SetTracking(bool tracking) { trackEdits_ = tracking; }
-    // The tab that the next edits belong to.
+    // Sets the tab to which the next edits belong.
     void SetTab(int tab) { tab_ = tab; }
 
-    // What an edit is, apart from its values.
+    // Describes an edit without its values.
     struct Edit {
         ControlType controlType = ControlType::None;
         ChangeType changeType = ChangeType::Typing;
@@ -38,17 +39,19 @@ class EditRecorder {
         int row = 0;
         int col = 0;
     };
-    // The new record, or nullptr when nothing was recorded: tracking is off, or both values are the same.
-    // controlName must stay where it is. Inside a compound the edit hangs behind its head.
+    // Records an edit and returns the record. nullptr if there is none: tracking is off, both values are the
+    // same, or the edit took back the typing recorded last. Within a compound the edit is chained to the
+    // head. controlName must outlive the record.
     EditTracker* RecordEdit(const std::string& controlName, EditValue oldValue, EditValue newValue,
                             const Edit& edit);
-    // Opens a compound whose name is that of the type, unless one is open; true when this call opened it. Its
-    // head comes with its first edit, so that a compound without edits is no step and leaves what can be
-    // redone.
+    // Opens a compound with the name of type and returns true. Does nothing and returns false if one is open
+    // or tracking is off. The head is recorded with the first edit, so that a compound without edits is not a
+    // step and keeps what can be redone.
     bool BeginCompoundEdit(ChangeType type);
-    // A record that has just been made becomes the head of a compound, unless one is open; true when it did.
+    // Makes the record added last the head of a compound and returns true. Does nothing and returns false if
+    // a compound is open or head is nullptr.
     bool BeginCompoundBehind(EditTracker* head);
-    // REQUIRES: the matching Begin gave true.
+    // REQUIRES: the matching Begin returned true.
     void EndCompoundEdit();
     bool InCompound() const { return compoundHead_ || awaitedHead_; }
 
@@ -60,14 +63,14 @@ class EditRecorder {
 
     std::function<void()> changed_;
     UndoStack stack_;
-    std::optional<ChangeType> awaitedHead_;  // of an open compound without an edit yet
+    std::optional<ChangeType> awaitedHead_;  // the type of an open compound that has no edit yet
     EditTracker* compoundHead_ = nullptr;
     EditTracker* compoundTail_ = nullptr;
     int tab_ = 0;
     bool trackEdits_ = true;
 };
 
-// A compound for the time of a scope.
+// Opens a compound for the duration of a scope.
 class CompoundEdit {
   public:
     CompoundEdit(EditRecorder& recorder, ChangeType type)

@@ -7,7 +7,7 @@
 namespace tw {
 namespace {
 
-// Nothing is recorded for the time of a scope.
+// Turns recording off for the duration of a scope, then updates the undo and redo commands.
 class TrackingPause {
   public:
     explicit TrackingPause(OpenRecipe& recipe) : recipe_(recipe) { recipe.recorder.SetTracking(false); }
@@ -24,8 +24,8 @@ class TrackingPause {
 
 }  // namespace
 
-// What is being typed in a text box is the next step back itself: committing it first would only ask about an
-// entry that the brewer is just taking back.
+// Typing in a text box is itself the next step back. Committing it first would just complain about an entry
+// that the brewer is taking back.
 bool EditReplay::FlushBeforeStep() {
     return parts_.focus.Box() || parts_.focus.FlushEdits();
 }
@@ -42,7 +42,7 @@ void EditReplay::TakeBack(const EditTracker& step) {
     try {
         Apply(&step, true);
     } catch (const Error&) {
-        // The fault that is being taken back has been told.
+        // The step is being taken back because of an earlier fault, which its caller reports.
     }
 }
 
@@ -50,7 +50,7 @@ bool EditReplay::Apply(const EditTracker* head, bool undo) {
     if (!head) return false;
     std::vector<const EditTracker*> chain;
     for (const EditTracker* edit = head; edit; edit = edit->GetNext()) chain.push_back(edit);
-    // A compound is undone in the exact reverse order of its making, the head last.
+    // A compound is undone in exactly the reverse order in which it was recorded, the head last.
     if (undo) std::reverse(chain.begin(), chain.end());
     const TrackingPause pause(recipe_);
     const RedrawHold hold(recipe_.view);

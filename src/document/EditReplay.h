@@ -1,5 +1,5 @@
-// Undo and redo: one step of the history back or forward. What a step's edits held goes back into their
-// controls, and the ordinary recalculation of each control does the rest.
+// Undo and redo: moves one step back or forward in the history. The values of the step's edits are put back
+// into their controls, and the ordinary recalculation of each control does the rest.
 #pragma once
 
 #include "document/OpenRecipe.h"
@@ -14,7 +14,7 @@ namespace tw {
 
 class EditReplay final : public StepReplay {
   public:
-    // The parts that the edits of a recipe go through.
+    // The parts through which edits are put back. They must outlive the object.
     struct Parts {
         RecipeFields& fields;
         RecipeFocus& focus;
@@ -25,7 +25,9 @@ class EditReplay final : public StepReplay {
     };
     EditReplay(OpenRecipe& recipe, Parts parts) : recipe_(recipe), parts_(parts) {}
 
-    // One step of the edits since the recipe was opened or saved; false when there is none.
+    // Undo or redo one step of the history, which starts anew when the recipe is opened, saved or scaled.
+    // False if there is none, or if the cell being edited has an entry that is refused. An arithmetic fault
+    // ends the step early and raises Error.
     bool Undo();
     bool Redo();
     void TakeBack(const EditTracker& step) override;

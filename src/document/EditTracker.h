@@ -1,6 +1,6 @@
-// One undoable edit: which control changed, what it held before and after, and where. It stores no recipe
-// data as such: undoing puts the old value back into the control, and the control's ordinary recalculation
-// does the rest. Further edits may hang on a head; they are undone and redone with it as one step.
+// One undoable edit: which control changed, what it held before and after, and where. An edit is not a copy
+// of recipe data: undoing puts the old value back into the control, and the control's ordinary recalculation
+// does the rest. Further edits may be chained to a head; they are undone and redone with it as one step.
 #pragma once
 
 #include <cstdint>
@@ -29,11 +29,11 @@ enum class ChangeType : std::int8_t {
     Sort
 };
 
-// The name that the menus show, such as "Delete Row".
+// Returns the name shown in the menus, such as "Delete Row".
 std::string_view ChangeTypeName(ChangeType type);
 
-// A value of a control: nothing, a text, a text whose cell has another number behind it than the text reads
-// as, a number, a boolean, or the order of a sort. Small, since a history holds many.
+// A value of a control: nothing, a text, a text with a number that differs from the one the text would give,
+// a number, a boolean, or the order of a sort. Kept small, because a history holds many.
 class EditValue {
   public:
     EditValue() = default;
@@ -45,18 +45,19 @@ class EditValue {
 
     bool IsText() const { return std::holds_alternative<Text>(value_) || OwnNumber(); }
     bool IsNumber() const { return std::holds_alternative<double>(value_); }
-    // The value as that kind; an empty text, 0, false or no order for another kind.
+    // Return the value as that kind; an empty text, 0, false or an empty order if it is of another kind.
     std::string_view AsText() const;
     double AsNumber() const;
-    // The number of OfTextAndNumber, nullptr where the text tells it.
+    // The number of OfTextAndNumber; nullptr for every other kind.
     const CellValue* OwnNumber() const;
     bool AsBoolean() const;
     std::vector<int> AsOrder() const;
-    // An order equals another one when it moves nothing: its elements ascend.
+    // True if kind and value are the same. An order counts as the same as any other if it moves nothing, that
+    // is, if its elements ascend.
     bool SameAs(const EditValue& other) const;
 
   private:
-    // Length, then the bytes, in one block.
+    // The length followed by the bytes, in one block.
     using Text = std::unique_ptr<char[]>;
     using Order = std::unique_ptr<std::vector<int>>;
     struct TextAndNumber {
@@ -66,13 +67,13 @@ class EditValue {
     std::variant<std::monostate, Text, double, bool, Order, std::unique_ptr<TextAndNumber>> value_;
 };
 
-// A selection before and after an edit. In a text box starts and lengths; in a grid first row, first column,
-// row count and column count in this order.
+// A selection before and after an edit. For a text box: starts and lengths in code points. For a grid, with
+// just one selection, the members are in this order: first row, first column, row count, column count.
 struct EditSelection {
     std::int32_t newStart = 0, oldStart = 0, newLength = 0, oldLength = 0;
 };
 
-// Where two texts differ, in code points: between their common beginning and their common end.
+// Where two texts differ, in code points: the part between their common beginning and their common end.
 struct TextSpan {
     std::int32_t start = 0, oldLength = 0, newLength = 0;
 };
@@ -83,13 +84,12 @@ class EditTracker {
     EditTracker() = default;
     EditTracker(EditTracker&&) noexcept = default;
     EditTracker& operator=(EditTracker&& other) noexcept;
-    // Releases the chain without recursion, however long it is.
+    // Destroys the chain without recursion, however long it is.
     ~EditTracker();
 
-    // The control's name must stay where it is as long as the edit lives; index is -1 outside a control
-    // array.
+    // REQUIRES: name outlives the edit. index is the control's index in a control array, -1 outside one.
     void SetControlID(const std::string& name, int index);
-    // The name, with "(index)" behind it in a control array; empty for the head of a compound.
+    // Returns the name, followed by "(index)" in a control array; empty for the head of BeginCompoundEdit.
     std::string GetControlID() const;
     tw::ControlType ControlType() const { return controlType_; }
     void SetControlType(tw::ControlType type) { controlType_ = type; }
@@ -104,17 +104,17 @@ class EditTracker {
     const EditValue& OldValue() const { return oldValue_; }
     const EditValue& NewValue() const { return newValue_; }
     void SetValues(EditValue oldValue, EditValue newValue);
-    // The tab to show before applying, -1 for none.
+    // The tab to show before the edit is undone or redone; -1 for none.
     int TabNumber() const { return tabNumber_; }
     void SetTabNumber(int tab) { tabNumber_ = static_cast<std::int8_t>(tab); }
 
-    // Hangs an edit behind this one, which must be the last of its chain; gives the edit.
+    // Appends an edit to the chain and returns it. REQUIRES: this edit is the last of its chain.
     EditTracker* AddNext(EditTracker edit);
     EditTracker* GetNext() const { return next_.get(); }
-    // Releases what hangs behind.
+    // Destroys the edits chained to this one.
     void Cleanup();
 
-    // Takes over the old value and the old selection of an earlier edit of the same box.
+    // Moves the old value and the old selection of an earlier edit of the same box into this edit.
     void Absorb(EditTracker& earlier);
 
   private:

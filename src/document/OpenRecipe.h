@@ -1,5 +1,5 @@
 // What the parts of one open recipe share: the record and its figures, the history, the place in the
-// database, and the way to the program around it. It knows none of the parts.
+// database, and the connection to the program around it. It does not depend on the parts.
 #pragma once
 
 #include <cstdint>
@@ -20,49 +20,51 @@ namespace tw {
 
 class RecipeDocument;
 
-// Where a recipe stands in the database.
+// Where a recipe is stored in the database.
 struct RecipePlace {
-    std::string origName;        // the stored recipe's name, trimmed; empty for one that was never saved
-    std::int64_t folderId = -1;  // -1 for none, 0 for the top
+    std::string origName;        // the stored recipe's name, trimmed; empty if the recipe is not stored
+    std::int64_t folderId = -1;  // -1 for none, 0 for the top level
     std::optional<DateTime> createdWhen;
 };
 
-// Takes a step of the history back without recording it.
+// Undoes a step of the history without recording that.
 class StepReplay {
   public:
     virtual ~StepReplay() = default;
-    // An arithmetic fault on the way leaves its figure as it is.
+    // An arithmetic fault ends this early, but is not raised.
     virtual void TakeBack(const EditTracker& step) = 0;
 };
 
 class OpenRecipe {
   public:
-    // document is what the host knows this recipe by. All references must outlive the recipe.
+    // document identifies this recipe to the host. All references must outlive the recipe.
     OpenRecipe(RecipeDocument& document, DocumentHost& host, Platform& platform, Database& database,
                const ColorTable& colors);
     OpenRecipe(const OpenRecipe&) = delete;
     OpenRecipe& operator=(const OpenRecipe&) = delete;
 
-    // Only the active document steers the commands of the main window.
+    // True for the active document, the only one that may enable or disable the main window's commands.
     bool IsActive() const { return host.IsActive(document_); }
     bool Changed() const { return changed_; }
-    // The brewer has edited the recipe. Nothing while it is being filled.
+    // Marks the recipe as changed, after an edit by the brewer. Does nothing while the recipe
+    // is being filled.
     void MarkChanged();
     void ClearChanged();
-    // Filled: what happens to the record from now on counts as an edit.
+    // True once the recipe has been filled: from then on, a change of the record counts as an edit.
     bool Filled() const { return filled_; }
-    // Gives what it was before.
+    // Returns the previous value.
     bool SetFilled(bool filled);
-    // The caption has changed.
+    // Notifies the host that the caption or the modified flag has changed.
     void Renamed() { host.DocumentRenamed(document_); }
-    // The brewer wants to choose from a catalogue, starting on name.
+    // Lets the brewer choose from a catalogue, starting at name.
     void PickFromCatalogue(CatalogueKind list, const std::string& name) {
         host.PickFromCatalogue(document_, list, name);
     }
-    // Sets the commands of undo and redo by the history.
+    // Updates the undo and redo commands from the history, if the recipe is the active one.
     void RefreshUndoCommands();
 
-    // The one place from which a recipe's message boxes are shown. Nothing for a refusal without a text.
+    // All message boxes of the recipe's parts are shown by these functions. A refusal without a
+    // text shows none.
     void Tell(const Refusal& refusal) { ShowRefusal(platform.messages, refusal); }
     void Tell(std::string_view title, std::string_view text) { platform.messages.ShowMessage(title, text); }
     bool AnswersYes(std::string_view title, std::string_view text, Question kind) {
@@ -73,7 +75,7 @@ class OpenRecipe {
     Platform& platform;
     Database& database;
     RecipeRecord record;
-    // Passes the commands on while the document is the active one.
+    // Passes the calls on while the document is the active one.
     class ActiveCommands final : public RecipeCommands {
       public:
         explicit ActiveCommands(OpenRecipe& recipe) : recipe_(recipe) {}
@@ -90,7 +92,7 @@ class OpenRecipe {
     EditRecorder recorder;
     RecipePlace place;
     DocumentView* view = nullptr;  // nullptr without a window
-    StepReplay* replay = nullptr;  // set once all parts stand
+    StepReplay* replay = nullptr;  // set once all parts exist
 
   private:
     RecipeDocument& document_;
@@ -98,9 +100,9 @@ class OpenRecipe {
     bool filled_ = false;
 };
 
-// One step of the history for the time of a scope: what is recorded in it hangs together. Left without Keep,
-// as an error does, everything in it is taken back, and what could be redone can be redone again. Inside
-// another step, and while nothing is recorded, it does nothing: the outer step decides.
+// Makes everything that is recorded during a scope one step of the history. If the scope ends without Keep,
+// as it does with an error, all of that is undone, and what could be redone before can be redone again. Does
+// nothing while tracking is off, or inside another step, which decides instead.
 class OneStep {
   public:
     OneStep(OpenRecipe& recipe, ChangeType type);
@@ -108,7 +110,7 @@ class OneStep {
     OneStep(const OneStep&) = delete;
     OneStep& operator=(const OneStep&) = delete;
 
-    // Everything has gone well. Without an edit there is no step, and nothing that could be redone is lost.
+    // Keeps what was recorded. If nothing was, there is no step, and what could be redone stays.
     void Keep();
 
   private:
