@@ -26,20 +26,21 @@ constexpr const char* kLogActions[] = {"Steeped Specialty Grains",
                                        "Bottled",
                                        "Tasted"};
 
-// A column in which only the number behind the cells is entered: what a salt adds, behind a computed text.
+// True for a read-only column whose cells are stored as a number without its text: what one gram of a salt
+// adds to one gallon (PPM), behind a computed text.
 bool HoldsFactors(const CellRule& rule) {
     return rule.ReadOnly() && rule.stored == CellStored::Number;
 }
 
-// What a cell holds, for the history: the check mark, or the text with its number where the text does not
-// tell it.
+// Returns what the history stores for a cell: its check mark, or its text, together with the number if the
+// text would give another one.
 EditValue StateOf(const Cell& cell) {
     if (cell.check != CheckState::None) return EditValue::OfBoolean(cell.check == CheckState::Checked);
     return cell.ownNumber ? EditValue::OfTextAndNumber(cell.text, cell.value) : EditValue::OfText(cell.text);
 }
 
-// What the cell held before it became now. The same text may have told another number then: a time before its
-// hops were boiled.
+// Returns what the history stores for a cell that has become now. The same text may have had another number
+// before: the time of a hop before the hop was boiled.
 EditValue StateBefore(const Cell& cell, const Cell& now) {
     if (cell.check == CheckState::None && cell.text == now.text && cell.value != now.value)
         return EditValue::OfTextAndNumber(cell.text, cell.value);
@@ -50,8 +51,8 @@ EditValue FactorOf(const Cell& cell) {
     return cell.value.kind == CellValue::Kind::None ? EditValue() : EditValue::OfNumber(cell.value.number);
 }
 
-// What the time of a hop means depends on whether the hop is boiled. A time that was typed as free text
-// counts again as soon as the hops go into the kettle.
+// Updates the number of a hop's time, which is only read while the hop is boiled: a time typed as free text
+// for a dry hop becomes a number when the hop goes into the kettle.
 void ReadTimeAgain(Grid& hops, int row) {
     if (!hops.Checked(row, HopCol::DryHopped))
         if (const auto time = NumberTold(hops, row, HopCol::Time, hops.Text(row, HopCol::Time)))
@@ -98,7 +99,7 @@ Reading<CellValue> RecipeCells::ReadCell(const Grid& grid, int row, int col, std
 bool RecipeCells::EditCell(Grid& grid, int row, int col, std::string_view text, Asking asking) {
     if (!CanEdit(grid, row, col) || grid.IsCheckBox(row, col)) return false;
     const CellRule& rule = RuleOf(grid, col);
-    // As in the text boxes: where a quantity belongs, blanks alone are the empty text.
+    // As in the text boxes, blanks alone count as an empty text where a quantity is expected.
     if (IsBlank(text) && rule.takes != CellTakes::AnyText) text = {};
     if (grid.Text(row, col) == text) return true;
     const Reading<CellValue> value = ReadCell(grid, row, col, text);
@@ -135,8 +136,8 @@ void RecipeCells::ClearFrom(Grid& grid, int row, int col) {
     });
 }
 
-// Runs a change of one row that began in one cell, and records it. When it raises, the row is as before, its
-// figures too, nothing is recorded, and the error goes on.
+// Runs a change of one row that began in one cell, and records it. If the change raises Error, restores the
+// row and its figures, records nothing, and passes the error on.
 void RecipeCells::ChangeRow(Grid& grid, int row, int col, const std::function<FillEffects()>& change) {
     const std::vector<Cell> before = grid.CellsOf(row);
     FillEffects effects;
@@ -158,12 +159,13 @@ FillEffects RecipeCells::RunChain(Grid& grid, int row, int col) {
     return effects;
 }
 
-// The figures of one row anew, without look-ups.
+// Recalculates the figures of one row, without looking up the catalogue.
 void RecipeCells::Recalculate(Grid& grid, int row) {
     if (const auto committed = RuleOf(grid).committed) committed(recipe_.calculator, grid, row, kWholeRow);
 }
 
-// The cell in which the change began is the head; every other cell that changed with it hangs behind.
+// Records a change of one row. The cell in which the change began becomes the head, to which all other
+// changed cells are chained.
 void RecipeCells::RecordRow(Grid& grid, int row, int col, const std::vector<Cell>& before,
                             FillEffects effects) {
     EditRecorder& recorder = recipe_.recorder;
@@ -209,7 +211,7 @@ void RecipeCells::PutBack(Grid& grid, int row, int col, const EditValue& value) 
         grid.SetOwnNumber(row, col, number != nullptr);
     }
     if (grid.At(row, col) != before) recipe_.MarkChanged();
-    // Without look-ups: what they filled in has records of its own.
+    // Without look-ups, because the cells that these filled have been recorded themselves.
     Recalculate(grid, row);
 }
 

@@ -1,4 +1,5 @@
-// The life of a cell: its list, its validation, its commit, and the record of what a commit has changed.
+// The cells of a recipe's grids: the list of each, its validation and commit, and the recording of what a
+// commit has changed.
 #pragma once
 
 #include <functional>
@@ -13,10 +14,10 @@
 
 namespace tw {
 
-// What the editor of a cell offers.
+// The list that the editor of a cell offers.
 struct CellList {
     std::vector<std::string> entries;
-    bool freeText = true;  // another text than the entries may be typed
+    bool freeText = true;  // texts other than the entries may be typed
 };
 
 class RecipeCells {
@@ -27,23 +28,25 @@ class RecipeCells {
     // True for a data cell whose row and column are not read-only.
     bool CanEdit(const Grid& grid, int row, int col) const;
     CellList ListOf(const Grid& grid, int row, int col) const;
-    // Validates the text and commits it: the cell's chain runs. False for a bad entry (whose box has been
-    // shown, if aloud) and for a cell that cannot be edited: nothing has changed then. Raises for an
-    // arithmetic fault; the cell is then as before.
+    // Validates text and commits it, with everything that follows from it. Returns false, with nothing
+    // changed, if the entry is refused (after a message, if asking is Aloud) or the cell cannot be edited.
+    // Raises Error for an arithmetic fault; the row is then as before.
     bool EditCell(Grid& grid, int row, int col, std::string_view text, Asking asking = Asking::Aloud);
-    // What the cell would hold with that text; nothing changes. Raises for an arithmetic fault.
+    // Returns the value that the cell would have with that text, or the refusal; changes nothing. Raises
+    // Error for an arithmetic fault.
     Reading<CellValue> ReadCell(const Grid& grid, int row, int col, std::string_view text) const;
-    // A check-box cell. False when the cell is none.
+    // Checks or unchecks a check-box cell. False if the cell is not one. Raises as EditCell.
     bool SetChecked(Grid& grid, int row, int col, bool checked);
-    // A day of the calendar for the current row of gridLog.
+    // Enters a day as the date in the current row of gridLog. Does nothing if that is not a data row.
     void PickLogDate(const DateTime& day);
-    // Empties the cells of that row from col on without a look-up; the row's figures follow.
+    // Empties the cells of a row from col on and recalculates the row, without looking up the catalogue.
     void ClearFrom(Grid& grid, int row, int col);
-    // Empties the numbers behind the row's read-only cells, each with a record of its own: the factors of a
-    // salt.
+    // Removes the numbers behind the read-only cells of a row, which are the factors of a salt, and records
+    // each as an edit.
     void ClearFactors(Grid& grid, int row);
 
-    // For an undo: puts back what the cell held. The row's figures follow, without a look-up.
+    // For an undo or redo: puts a value back into the cell and recalculates the row, without looking
+    // up the catalogue.
     void PutBack(Grid& grid, int row, int col, const EditValue& value);
 
   private:

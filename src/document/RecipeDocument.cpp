@@ -25,7 +25,7 @@ RecipeDocument::RecipeDocument(DocumentHost& host, Platform& platform, Database&
     recipe_.replay = &replay_;
     recipe_.recorder.SetTracking(false);
     RecipeRecord& r = recipe_.record;
-    // An empty box counts as the multiplier 1, even before anything was committed in it.
+    // An empty box means the multiplier 1, even before the first commit.
     r.txtHopExtraction.SetValue(1);
     for (Grid* const grid : r.Grids())
         while (grid->RowsCanChange() && grid->DataRows() < grid->LeastDataRows())

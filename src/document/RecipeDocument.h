@@ -1,5 +1,6 @@
-// One open recipe. A window shows its record and calls the parts with what the brewer does; it holds nothing
-// itself. The document owns the parts and knows who the recipe is: its key, its caption, its place.
+// One open recipe. A window displays its record and calls the parts when the brewer does something; it holds
+// no data itself. The document owns the parts and knows the recipe's identity: its key, its caption and its
+// place in the database.
 #pragma once
 
 #include <cstdint>
@@ -29,8 +30,8 @@ class RecipeDocument {
     // The name of its window.
     static constexpr const char* kFormName = "frmDocument";
 
-    // A new recipe with the defaults of the settings, not changed. All references must outlive the document.
-    // number is shown in the caption of a document without a name; 0 is none.
+    // Creates a new recipe with the defaults of the settings, unchanged. All references must outlive the
+    // document. number is shown in the caption of a document without a name; 0 means no number.
     RecipeDocument(DocumentHost& host, Platform& platform, Database& database, const ColorTable& colors,
                    int number);
     RecipeDocument(const RecipeDocument&) = delete;
@@ -41,7 +42,7 @@ class RecipeDocument {
     const UndoStack& History() const { return recipe_.recorder.Stack(); }
     void SetView(DocumentView* view) { recipe_.view = view; }
 
-    // Who the recipe is.
+    // The recipe's identity.
     const std::string& Key() const { return key_; }
     void SetKey(std::string key) { key_ = std::move(key); }
     const std::string& OrigName() const { return recipe_.place.origName; }
@@ -51,10 +52,11 @@ class RecipeDocument {
     void SetFolderID(std::int64_t id) { recipe_.place.folderId = id; }
     std::int64_t StyleID() const { return style_.Id(); }
     bool Changed() const { return recipe_.Changed(); }
-    // The window's caption: the trimmed name, else "Untitled {number}", else "Untitled".
+    // Returns the window's caption: the trimmed name, else "Untitled {number}", or "Untitled"
+    // without a number.
     std::string Caption() const;
 
-    // What the brewer does with it.
+    // The parts, which do what the brewer asks for.
     RecipeFields& Fields() { return fields_; }
     RecipeFocus& Focus() { return focus_; }
     const RecipeFocus& Focus() const { return focus_; }

@@ -37,7 +37,8 @@ void RecipeFields::SetText(TextBox& box, std::string_view text) {
 void RecipeFields::RestoreField(TextBox& box) {
     if (box.Computed() || box.Text() == box.Committed()) return;
     const std::string committed = box.Committed();
-    // Free text has no refusals; what was typed since it was left is typed back.
+    // Free text is never refused; restoring it counts as typing, which takes back what was typed since the
+    // box was left.
     Record(box, committed, IsFreeText(box) ? ChangeType::Typing : ChangeType::Abort);
     box.SetText(committed);
     if (box.Id() == FieldId::Name) recipe_.Renamed();
@@ -45,7 +46,7 @@ void RecipeFields::RestoreField(TextBox& box) {
 
 bool RecipeFields::CommitField(TextBox& box, Asking asking) {
     if (box.Computed()) return true;
-    // Where a quantity belongs, blanks alone are the empty text.
+    // Blanks alone count as an empty text where a quantity is expected.
     if (!IsFreeText(box) && IsBlank(box.Text())) SetText(box, {});
     if (box.Text() == box.Committed()) return true;
     if (IsFreeText(box)) {
@@ -53,7 +54,8 @@ bool RecipeFields::CommitField(TextBox& box, Asking asking) {
         return true;
     }
     const Commit commit = CommitQuantity(box);
-    // The record is whole again before the box, behind which the program goes on.
+    // The record is consistent again before the message is shown, because the program keeps
+    // running behind it.
     if (!commit && asking == Asking::Aloud) recipe_.Tell(commit.Why());
     if (commit) recipe_.MarkChanged();
     return static_cast<bool>(commit);
@@ -67,8 +69,8 @@ bool RecipeFields::CommitIfReadable(TextBox& box) {
     }
 }
 
-// Takes the text of a box that holds a quantity, and runs its chain. A refused text leaves the record as it
-// was.
+// Commits the text of a box that holds a quantity, and recalculates what depends on it. A refused text leaves
+// the record as it was.
 Commit RecipeFields::CommitQuantity(TextBox& box) {
     const std::string oldText = box.Committed();
     const double oldValue = box.Value();
@@ -83,7 +85,7 @@ Commit RecipeFields::CommitQuantity(TextBox& box) {
         const Reading<double> value = ReadEntry(box, box.Text());
         if (!value) return Commit::Refused(value.Why());
         box.SetValue(*value);
-        // The text being committed counts in its own chain.
+        // The chain must already see the text being committed.
         box.SetCommitted(box.Text());
         box.SetOwnNumber(false);
         chainRan = true;
@@ -93,7 +95,7 @@ Commit RecipeFields::CommitQuantity(TextBox& box) {
     } catch (const Error&) {
         goBack();
         RestoreField(box);
-        // The chain of the old value refuses nothing that it did not refuse when that was committed.
+        // The result is ignored: the chain accepted the old value when that was committed.
         if (chainRan) (void)RunChain(box);
         throw;
     }
@@ -122,13 +124,14 @@ void RecipeFields::Replace(TextBox& box, TextSelection characters, std::string_v
 }
 
 EditValue RecipeFields::StateOf(const TextBox& box) {
-    // Only a text that is committed, or goes back to it, has a number.
+    // Only the committed text can have a number of its own.
     return box.HasOwnNumber() && box.Text() == box.Committed()
                ? EditValue::OfTextAndNumber(box.Text(), CellValue::Of(box.Value()))
                : EditValue::OfText(box.Text());
 }
 
-// The selection before is what the new text has replaced; behind the edit the caret stands after it.
+// Records an edit of the text. The old selection is what the new text replaces; the new one is a
+// caret behind that.
 void RecipeFields::Record(TextBox& box, std::string_view newText, ChangeType type) {
     const TextSpan span = ChangedSpan(box.Text(), newText);
     EditRecorder::Edit edit{ControlType::TextBox, type};
@@ -146,11 +149,11 @@ void RecipeFields::PutBack(TextBox& box, const EditValue& value) {
     const bool committed = box.Text() == box.Committed();
     const CellValue* const own = value.OwnNumber();
     if (!own && !committed) {
-        // A text that was refused when it was typed comes back as it was: shown, not committed.
+        // A text that was refused when it was typed is restored as it was: shown, but not committed.
         if (!CommitIfReadable(box)) SetText(box, value.AsText());
         return;
     }
-    // There is nothing to commit, but another number may have stood behind the same text.
+    // There is nothing to validate, but the same text may have had another number.
     const double number = own ? own->number : NumberTold(box, box.Text()).value_or(box.Value());
     const bool differs = !committed || number != box.Value();
     box.SetCommitted(box.Text());
@@ -161,7 +164,7 @@ void RecipeFields::PutBack(TextBox& box, const EditValue& value) {
     try {
         (void)RunChain(box);
     } catch (const Error&) {
-        // The figure that the number breaks stays as it is; the number stood there before.
+        // A figure that cannot be calculated stays as it is; the box has had that number before.
     }
 }
 

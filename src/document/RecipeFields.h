@@ -1,4 +1,4 @@
-// The text boxes of a recipe: typing, commit, and the way back from a refused entry.
+// The text boxes of a recipe: typing, committing, and restoring a box after a refused entry.
 #pragma once
 
 #include <string_view>
@@ -11,28 +11,29 @@ class RecipeFields {
   public:
     explicit RecipeFields(OpenRecipe& recipe) : recipe_(recipe) {}
 
-    // Each change while typing. A computed box refuses it.
+    // Changes the text, as typing does; the new text is not committed yet. Does nothing for a computed box.
     void SetText(TextBox& box, std::string_view text);
-    // What runs when the box loses the focus or edits are flushed: validation, then the field's chain. False
-    // for a bad entry (whose box has been shown, if aloud): the text stays and the box keeps the focus.
-    // Raises for an arithmetic fault; the field then has its last committed text again.
+    // Validates the text, commits it and recalculates the figures that depend on it. To be called when the
+    // box loses the focus or when edits are flushed. Returns false if the entry is refused (after a message,
+    // if asking is Aloud): the text stays, and the box keeps the focus. Raises Error for an arithmetic fault;
+    // the field then has its last committed text again.
     bool CommitField(TextBox& box, Asking asking = Asking::Aloud);
-    // As CommitField without a word. False for an arithmetic fault too.
+    // As CommitField, but shows no message, and returns false instead of raising for an arithmetic fault.
     bool CommitIfReadable(TextBox& box);
-    // Puts the last committed text back (Escape, a refused entry of a script); the typing stays balanced in
-    // the history.
+    // Restores the last committed text, after Escape or a refused entry of a script. The history records this
+    // as an edit, so that it stays consistent with the typing before.
     void RestoreField(TextBox& box);
-    // Replaces characters of the text as one step of the history, whose name is that of the type. The caret
-    // stands behind them then. Nothing in a computed box.
+    // Replaces characters of the text as one step of the history with the name of type, then puts the caret
+    // behind them. Does nothing for a computed box.
     void Replace(TextBox& box, TextSelection characters, std::string_view with, ChangeType type);
 
-    // For an undo: what the box held, with its number where the text does not tell it. Nothing is recorded
-    // while the history does not track.
+    // For an undo or redo: restores what the box held, with its number if the text would give another one.
+    // Not recorded while tracking is off.
     void PutBack(TextBox& box, const EditValue& value);
-    // What the box holds, for the history.
+    // Returns what the history stores for the box.
     static EditValue StateOf(const TextBox& box);
-    // Commits the text without a word; one that cannot be read, such as a bad default of the settings, leaves
-    // the field empty.
+    // Commits the text without a message. If it cannot be read, such as a bad default in the settings,
+    // restores the last committed text, which is empty in a new recipe.
     void CommitDefault(TextBox& box, std::string_view text);
 
   private:
@@ -43,7 +44,7 @@ class RecipeFields {
     OpenRecipe& recipe_;
 };
 
-// The characters that are selected in the box.
+// Returns the characters selected in the box; valid until its text changes.
 std::string_view SelectedText(const TextBox& box);
 
 }  // namespace tw

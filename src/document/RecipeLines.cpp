@@ -13,11 +13,11 @@ namespace {
 double SortNumber(const Grid& grid, int row, int col) {
     if (grid.IsCheckBox(row, col)) return grid.Checked(row, col) ? 1 : 0;
     if (!grid.ColumnAt(col).readOnly) return grid.Number(row, col);
-    // A computed cell counts by the number that its text shows.
+    // A computed cell is sorted by the number in its text.
     return ReadNumber(grid.Text(row, col)).value_or(grid.Number(row, col));
 }
 
-// The place of each row in the order, so that the inverse puts the rows back.
+// Returns the inverse of an order, which puts the rows back.
 std::vector<int> InverseOf(const std::vector<int>& order) {
     std::vector<int> inverse(order.size());
     for (std::size_t i = 0; i < order.size(); ++i)
@@ -81,10 +81,10 @@ void RecipeLines::RemoveRow(Grid& grid, int row) {
     focus_.RefreshRowCommands();
 }
 
-// Empties each cell with a record of its own, so that an undo brings the whole row back.
+// Empties each cell and records that, so that an undo restores the whole row.
 void RecipeLines::ClearCells(Grid& grid, int row) {
-    // A stored recipe may have factors without the name of a salt: clearing the name does not bring them
-    // along.
+    // A stored recipe may have factors without the name of a salt: they would not be recorded when the empty
+    // name is cleared.
     cells_.ClearFactors(grid, row);
     for (int col = 0; col < grid.Cols(); ++col) {
         if (!cells_.CanEdit(grid, row, col)) continue;
@@ -95,7 +95,8 @@ void RecipeLines::ClearCells(Grid& grid, int row) {
     }
 }
 
-// The order of the data rows by the column; a blank comes first, equal rows keep their order.
+// Returns the order of the data rows sorted by a column. In ascending order blanks come first; equal rows
+// keep their order.
 std::vector<int> RecipeLines::SortedOrder(const Grid& grid, int col) const {
     const bool byNumber = RuleOf(grid, col).SortsByNumber();
     const auto before = [&](int a, int b) {
@@ -144,7 +145,7 @@ void RecipeLines::PutBackInsert(Grid& grid, const EditTracker& edit, bool insert
         return;
     }
     const int last = grid.EndOfData() - 1;
-    // In an empty grid the first row came without a current one.
+    // The first row of an empty grid was inserted without a current row.
     const int row =
         appended ? last : std::clamp(edit.Row(), Grid::FixedRows(), std::max(Grid::FixedRows(), last));
     if (grid.IsDataRow(row)) RemoveRow(grid, row);
@@ -155,7 +156,7 @@ void RecipeLines::PutBackDelete(Grid& grid, int row, bool remove) {
         if (grid.IsDataRow(row)) RemoveRow(grid, row);
         return;
     }
-    // An empty row without any default; the records behind fill it as it was.
+    // An empty row without defaults: the other edits of the step fill it as it was.
     const int at = std::clamp(row, Grid::FixedRows(), grid.EndOfData());
     grid.InsertRow(at);
     grid.SetCurrent(at, grid.CurrentCol());
@@ -163,7 +164,7 @@ void RecipeLines::PutBackDelete(Grid& grid, int row, bool remove) {
     focus_.RefreshRowCommands();
 }
 
-// A sort that is undone or done again shows where.
+// Also moves to the column, to show which sort has been undone or redone.
 void RecipeLines::PutBackOrder(Grid& grid, const std::vector<int>& order, int col) {
     if (order.size() == static_cast<std::size_t>(grid.DataRows())) {
         grid.OrderRows(order);

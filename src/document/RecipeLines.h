@@ -14,26 +14,28 @@ class RecipeLines {
     RecipeLines(OpenRecipe& recipe, RecipeFocus& focus, RecipeCells& cells)
         : recipe_(recipe), focus_(focus), cells_(cells) {}
 
-    // Both act on the present tab's grid, after what is being typed has been committed.
+    // Insert or delete a row in the grid of the present tab, after committing what is being typed. Do nothing
+    // if that commit is refused, or if RecipeFocus does not allow the change.
     void InsertRow();
     void DeleteRow();
-    // A blank row at the current row, or behind the last data row as the setting says; nothing in a grid of
-    // fixed rows.
+    // Inserts a blank row at the current row, or after the last data row if the settings say so. Does nothing
+    // in a grid with a fixed number of rows.
     void InsertRowForGrid(Grid& grid);
-    // The current row goes; nothing when it is no data row or the grid may not lose one.
+    // Deletes the current row. Does nothing if it is not a data row, or if the grid must keep it.
     void DeleteRowForGrid(Grid& grid);
-    // Makes a row with the defaults of a new one: a hop row has the settings' form and sock, every other cell
-    // is empty. Not an edit. REQUIRES: as Grid::InsertRow.
+    // Inserts a row with the defaults of a new one: in gridHops the form and the sock from the settings;
+    // every other cell is empty. Not recorded as an edit. REQUIRES: as Grid::InsertRow.
     void AddBlankRow(Grid& grid, int row);
 
-    // A click on a column's header: sorts the data rows by it, the other way round on the same column again.
-    // Nothing in a grid of fixed rows or one without that column.
+    // Sorts the data rows by a column, whose header was clicked. Clicking the same column index again, even
+    // in another grid, reverses the direction; any other column keeps it. Does nothing in a grid with a fixed
+    // number of rows or without that column.
     void ClickHeader(Grid& grid, int col);
-    // The column clicked last in any grid, -1 before the first click.
+    // The column clicked last in any grid; -1 before the first click.
     int SortColumn() const { return sortColumn_; }
     bool SortDescending() const { return sortDescending_; }
 
-    // For an undo: do and take back what the edit says of a row or an order, without a record.
+    // For an undo or redo: insert, remove or reorder rows as the edit says, or take that back. Not recorded.
     void PutBackInsert(Grid& grid, const EditTracker& edit, bool insert);
     void PutBackDelete(Grid& grid, int row, bool remove);
     void PutBackOrder(Grid& grid, const std::vector<int>& order, int col);

@@ -10,14 +10,15 @@
 namespace tw {
 namespace {
 
-// More lines than any recipe has; a place beyond it is damage, and growing the grid to it would never end.
+// More lines than any recipe has. A greater row index is damage, and growing the grid to it
+// would take forever.
 constexpr int kMostLines = 20000;
 
 std::string Trimmed(std::string_view text) {
     return std::string(Trim(text));
 }
 
-// Blanks alone are no quantity.
+// Blanks alone count as an empty quantity.
 std::string_view QuantityText(std::string_view stored) {
     return IsBlank(stored) ? std::string_view() : stored;
 }
@@ -36,8 +37,8 @@ StoredValue StoredFrom(const Cell& cell, const CellRule& rule) {
         case CellStored::BareText:
             return {Trimmed(cell.text), {}};
         case CellStored::Quantity:
-            // A hop amount in AAUs or IBUs is no plain number and takes 0: intended, since only the text can
-            // tell them apart.
+            // A hop amount in AAUs or IBUs is stored with the number 0, on purpose: the number column is in
+            // ounces, and only the text can tell the three kinds apart.
             return {Trimmed(cell.text), cell.value.kind == CellValue::Kind::Number ? cell.value.number : 0};
         case CellStored::Number:
         case CellStored::Form:
@@ -48,7 +49,8 @@ StoredValue StoredFrom(const Cell& cell, const CellRule& rule) {
     return {};
 }
 
-// Each data row, blank ones too; of a grid that the recipe's own row stores, as many as that has columns for.
+// Returns one line per data row, even if it is blank; for a grid stored in the recipe's own row, as many
+// lines as that has columns for.
 std::vector<StoredLine> LinesFrom(const Grid& grid) {
     const GridRule& rule = RuleOf(grid);
     const int rows = rule.lines.name.empty() ? static_cast<int>(rule.prefixes.size()) : grid.DataRows();
@@ -78,12 +80,12 @@ void FillQuantity(Grid& grid, int row, int col, const StoredValue& stored) {
     if (!hopAmount && stored.number.value_or(0) != 0) return;
     const std::optional<CellValue> told = NumberTold(grid, row, col, grid.Text(row, col));
     if (!told) return;
-    // The number column cannot tell AAUs and IBUs: their kind and number are taken from the text again.
+    // The number column cannot represent AAUs and IBUs: their kind and number are read from the text again.
     const bool missing = stored.number.value_or(0) == 0 && (!stored.number || told->number != 0);
     if (missing || (hopAmount && told->kind != CellValue::Kind::Number)) grid.SetValue(row, col, *told);
 }
 
-// A text that must be a number; any other one, or none, empties the cell.
+// Fills a cell whose text must be a number. Any other text, or none, empties the cell.
 void FillBareText(Grid& grid, int row, int col, const StoredValue& stored) {
     const std::optional<double> number = stored.text ? ReadNumber(*stored.text) : std::nullopt;
     if (number) {
@@ -125,7 +127,8 @@ void FillCell(Grid& grid, int row, int col, const StoredValue& stored) {
     }
 }
 
-// Of a grid that the recipe's own row stores what is NULL empties the cell: a new recipe has a water there.
+// For a grid stored in the recipe's own row: NULL empties the cell, because a new recipe has a default water
+// profile there.
 StoredValue WithoutGaps(StoredValue stored) {
     if (!stored.text) stored.text = "";
     if (!stored.number) stored.number = 0;

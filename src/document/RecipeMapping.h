@@ -1,5 +1,6 @@
-// The controls and cells of a recipe as the rows of its tables, and back: what FieldRules.h and CellRules.h
-// say of each. What is NULL in the database leaves the control or the cell as it was.
+// Converts the controls and cells of a recipe to the rows of its tables and back, by the rules in
+// FieldRules.h and CellRules.h. NULL in the database leaves a control or cell as it was, except in the grids
+// stored in the recipe's own row, where it empties the cell.
 #pragma once
 
 #include <functional>
@@ -9,16 +10,18 @@
 
 namespace tw {
 
-// The fields, options and lines of the record; name, place and dates are the caller's. The last committed
-// text goes beside its number, so that the two always agree.
+// Returns the fields, options and lines of the record; the caller adds name, place and dates. The text of a
+// quantity is the last committed one, so that it always agrees with the number.
 StoredRecipe StoredFrom(const RecipeRecord& record);
 
-// Raises an error for a hop form that the table of forms does not know, or a line whose place no recipe has.
+// Raises Error for a hop form that is not in kHopForms.
 void CheckStored(const StoredRecipe& stored);
-// Fill the record; no chain runs. REQUIRES: CheckStored raises nothing. A number that is missing, or 0 behind
-// a text that tells another one, is read from the text again, so that a gap in the row does no harm.
+// Fill the record, without recalculating anything. REQUIRES: CheckStored has accepted stored. A number that
+// is missing, or 0 although the text gives another one, is read from the text again, so that a gap in the row
+// does no harm.
 void FillFields(RecipeRecord& record, const StoredRecipe& stored);
-// addRow puts a blank row behind the last data row of the grid.
+// addRow must add a blank row after the last data row of the grid. Raises Error, with the grid partly filled,
+// for a line with an impossible row index.
 void FillGrid(Grid& grid, const StoredRecipe& stored, const std::function<void(Grid&)>& addRow);
 
 }  // namespace tw

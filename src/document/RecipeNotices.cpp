@@ -16,14 +16,14 @@ void RecipeNotices::NotifyRecipeRenamed(std::string_view oldName, std::string_vi
     if (!storage_.IsStoredAs(oldName)) return;
     recipe_.place.origName = Trim(newName);
     TextBox& name = recipe_.record.txtName;
-    // A name that the brewer has edited meanwhile stays.
+    // A name that the brewer has edited meanwhile is kept.
     if (!SameName(name.Text(), oldName)) return;
     name.SetText(Trim(newName));
     name.SetCommitted(name.Text());
     recipe_.Renamed();
 }
 
-// Every recipe lists all styles, so that a notice about any of them is for all recipes.
+// Every recipe lists all styles, so a change of any style concerns every recipe.
 void RecipeNotices::NotifyStyleRenamed(std::int64_t, std::string_view) {
     style_.Reload();
 }

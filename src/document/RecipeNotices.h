@@ -1,5 +1,5 @@
-// What an open recipe does when something happens in the database. Names compare trimmed, case ignored, with
-// the stored recipe's.
+// Updates an open recipe when something has changed in the database. Names are compared with that of the
+// stored recipe, trimmed and ignoring case.
 #pragma once
 
 #include <cstdint>
@@ -23,7 +23,7 @@ class RecipeNotices {
     void NotifyRecipeDeleted(std::string_view name);
     void NotifyStyleDeleted(std::int64_t styleId);
     void NotifyRecipeFolderDeleted(std::int64_t folderId);
-    // The catalogue has changed: the style list and the style's ranges are read again.
+    // The catalogue has changed: reads the list of styles and the ranges of the recipe's style again.
     void DBChanged();
 
   private:

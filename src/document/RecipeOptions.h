@@ -12,10 +12,11 @@ class RecipeOptions {
   public:
     RecipeOptions(OpenRecipe& recipe, RecipeFocus& focus) : recipe_(recipe), focus_(focus) {}
 
-    // Sets the option button of that name; the figures follow. False for an unknown one. Raises for an
-    // arithmetic fault; the former option is set again then.
+    // Chooses the option button of that name and recalculates the figures. False if there is none. Raises
+    // Error for an arithmetic fault; the former option is then chosen again.
     bool Choose(std::string_view option);
-    // The options of a new recipe, by their index; one that does not exist changes nothing.
+    // Chooses the options of a new recipe by index, without recalculating. An index out of
+    // range changes nothing.
     void ChooseDefaults(int ibuMethod, int packaging);
 
   private:

@@ -11,7 +11,7 @@ bool RecipeScaling::MayChangeForGood() {
     return GetUserResponse(recipe_.host, recipe_.platform.dialogs);
 }
 
-// Runs a change, which tells whether it went through to its end. One that raises leaves the recipe as it was.
+// Runs a change, which returns true if it was completed. If it raises an error, the recipe is left as it was.
 void RecipeScaling::ChangeForGood(const std::function<bool()>& change) {
     const RedrawHold hold(recipe_.view);
     const RecordBackup before(recipe_.record);
@@ -24,7 +24,8 @@ void RecipeScaling::ChangeForGood(const std::function<bool()>& change) {
         throw;
     }
     MarkOwnNumbers(recipe_.record);
-    // A change that stopped on the way keeps the history, but what it has moved is not stored.
+    // An incomplete change keeps the history, but if it has changed any text, the recipe is no
+    // longer as stored.
     if (ended || before.TextsChanged(recipe_.record)) recipe_.MarkChanged();
     if (ended) recipe_.recorder.Clear();
 }
@@ -54,7 +55,7 @@ void RecipeScaling::ScaleRecipe(double gallons, std::string_view sizeText, bool 
     if (!MayChangeForGood() || recipe_.record.txtTotalVol.Value() == 0) return;
     const double oldIBU = recipe_.record.txtIBU.Value();
     const double oldCO2 = recipe_.calculator.CO2Volumes();
-    // Asked before anything changes, so that neither the window nor an autosave meets a recipe halfway.
+    // Asked before anything changes, so that neither the window nor an autosave sees a partly scaled recipe.
     const bool carbonate = oldCO2 > 0 && MayKeepCarbonation();
     ChangeForGood([&] {
         const bool carbonated = Resize(gallons, sizeText, scaleBoilVol, carbonate ? oldCO2 : 0);
@@ -62,7 +63,7 @@ void RecipeScaling::ScaleRecipe(double gallons, std::string_view sizeText, bool 
     });
 }
 
-// volumes: the carbonation to hold, 0 for none. True when it could be held.
+// volumes: the volumes of CO2 to keep, or 0. Returns true if they could be kept.
 bool RecipeScaling::Resize(double gallons, std::string_view sizeText, bool scaleBoilVol, double volumes) {
     const double factor = Divide(gallons, recipe_.record.txtTotalVol.Value());
     scaler_.ScaleVolumes(gallons, sizeText, scaleBoilVol);
@@ -72,7 +73,8 @@ bool RecipeScaling::Resize(double gallons, std::string_view sizeText, bool scale
     scaler_.ScaleTreatment(factor);
     bool carbonated = false;
     if (volumes > 0) {
-        // What the sugars give to the new volume, so that their amounts are scaled from there.
+        // Calculates the CO2 that the sugars give in the new volume, from which their amounts
+        // are then scaled.
         recipe_.calculator.RecalcPriming();
         carbonated = scaler_.ScaleCO2(volumes) == RecipeScaler::CO2Outcome::Done;
     }
@@ -82,8 +84,8 @@ bool RecipeScaling::Resize(double gallons, std::string_view sizeText, bool scale
     return carbonated;
 }
 
-// False when no bitterness is left to scale from: the recipe has changed then, but does not lose its history
-// by that, as designed.
+// Scales the hops to that many IBUs. False if no bitterness is left to scale from: by design, the recipe has
+// changed then but keeps its history.
 bool RecipeScaling::KeepBitterness(double ibu) {
     const double now = recipe_.record.txtIBU.Value();
     if (now == ibu) return true;

@@ -67,14 +67,14 @@ std::string_view CheckWord(CheckState check) {
     return check == CheckState::None ? "none" : check == CheckState::Checked ? "yes" : "no";
 }
 
-// A text of another form.
+// Thrown for a text that is not in this format.
 class BadText {};
 
 void Require(bool holds) {
     if (!holds) throw BadText();
 }
 
-// The words of one text, line by line.
+// Reads the words of a text, line by line.
 class Reader {
   public:
     explicit Reader(std::string_view text) : text_(text) {}
@@ -157,7 +157,7 @@ std::uint8_t ReadColorPart(Reader& reader) {
     return static_cast<std::uint8_t>(part);
 }
 
-// One line. Its first word tells what it is.
+// Reads one line, whose first word says what the line contains.
 void ReadLine(Reader& reader, RecipeSnapshot& s) {
     const std::string word = reader.Word();
     if (word == "stored") {
@@ -196,7 +196,7 @@ void ReadLine(Reader& reader, RecipeSnapshot& s) {
     reader.EndLine();
 }
 
-// What stands between the first line and the checksum; nothing when either is wrong.
+// Returns what is between the first line and the checksum; nullopt if either of them is wrong.
 std::optional<std::string_view> Body(std::string_view text) {
     const std::size_t endLine = kEndWord.size() + kHashDigits + 1;
     if (!text.starts_with(kFirstLine) || text.size() < kFirstLine.size() + endLine) return std::nullopt;

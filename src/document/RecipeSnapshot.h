@@ -1,5 +1,5 @@
-// An open recipe as it stands at one moment, unsaved edits included: every field, cell and choice under its
-// control name. As a text it is kept outside the database, so that a crash loses nothing.
+// The state of an open recipe at one moment, unsaved edits included: every field, cell and choice under the
+// name of its control. Its text is stored outside the database, so that a crash loses nothing.
 #pragma once
 
 #include <cstdint>
@@ -22,7 +22,7 @@ struct RecipeSnapshot {
     };
     struct Rows {
         std::string grid;
-        std::vector<std::vector<Cell>> rows;  // all but the header, the totals rows included
+        std::vector<std::vector<Cell>> rows;  // all but the header, including the totals rows
         bool operator==(const Rows&) const = default;
     };
     std::string origName;
@@ -30,21 +30,22 @@ struct RecipeSnapshot {
     std::int64_t styleId = 0;
     std::optional<DateTime> createdWhen;
     Rgb swatch;
-    std::vector<std::string> options;  // the option buttons that are set
-    std::vector<std::string> buttons;  // the buttons that are on
+    std::vector<std::string> options;  // the option buttons that are chosen
+    std::vector<std::string> buttons;  // the buttons that are enabled
     std::vector<Field> fields;
     std::vector<Rows> grids;
     bool operator==(const RecipeSnapshot&) const = default;
 
-    // What the recipe is called: the text of txtName, empty without one.
+    // Returns the text of txtName; empty if there is no such field.
     std::string Name() const;
 };
 
-// The snapshot as lines of text behind a line with the version of the form, with its HashText at the end.
-// Every byte of its texts comes back.
+// Returns the snapshot as lines of text. The first line contains the version of the format, the last one the
+// HashText of all others. Texts are preserved byte by byte.
 std::string SnapshotText(const RecipeSnapshot& snapshot);
-// Reads the form of SnapshotText. Nothing for any other text: a foreign or later form, a damaged or cut one.
-// What is read agrees with itself; a document checks it against its own controls (RecipeDocument::Restore).
+// Reads the format of SnapshotText. nullopt for any other text: a foreign or later format, a damaged or
+// truncated text. The result is well-formed; RecipeStorage::Restore checks whether it fits the controls
+// of a recipe.
 std::optional<RecipeSnapshot> ReadSnapshot(std::string_view text);
 
 }  // namespace tw

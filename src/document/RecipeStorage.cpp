@@ -11,7 +11,8 @@
 namespace tw {
 namespace {
 
-// What happens to the record for the time of a scope is no edit: nothing is recorded.
+// During a scope, changes of the record are not edits: nothing is recorded, and the recipe is not
+// marked as changed.
 class Filling {
   public:
     explicit Filling(OpenRecipe& recipe) : recipe_(recipe), filledBefore_(recipe.SetFilled(false)) {
@@ -52,8 +53,8 @@ bool RecipeStorage::Save(SaveAs way, Asking asking) {
     if ((replacesOther || (saveAs && sameName)) && asking == Asking::Aloud && !AskOverwrite()) return false;
     UnitOfWork unit(recipe_.database);
     if (replacesOther) recipe_.host.DeleteRecipe(name);
-    // Saving under another name makes a copy and leaves the old recipe; a plain save under an edited name
-    // renames it, and nothing is left under the old one.
+    // Save As with another name makes a copy and leaves the old recipe as it is; a plain save with an edited
+    // name renames the recipe, and nothing is left under the old name.
     if ((saveAs && sameName) || (!saveAs && !place.origName.empty())) DeleteOwnRow();
     const DateTime now = recipe_.platform.clock.Now();
     if (!place.createdWhen) place.createdWhen = now;
@@ -91,7 +92,7 @@ bool RecipeStorage::SaveUnder(std::string_view name, std::int64_t folderId, Aski
     place.folderId = folderId;
     place.createdWhen = recipe_.platform.clock.Now();
     if (Save(SaveAs::Yes, asking)) return true;
-    // The brewer called it off: nothing has changed.
+    // The brewer has cancelled: undo the changes.
     fields_.SetText(box, oldName);
     place.folderId = oldFolder;
     place.createdWhen = oldCreated;
@@ -129,8 +130,8 @@ void RecipeStorage::Fill(const StoredRecipe& stored) {
     FillFields(recipe_.record, stored);
 }
 
-// Gives the names of the figures that could not be worked out: a stored number that breaks a formula leaves
-// its figure as it is, and the recipe opens all the same.
+// Fills the grids and returns the names of the figures that could not be calculated: a stored number that
+// breaks a formula leaves its figure as it is, and the recipe is opened nevertheless.
 std::vector<std::string> RecipeStorage::FillGrids(const StoredRecipe& stored) {
     RecipeRecord& r = recipe_.record;
     RecipeCalculator& calculator = recipe_.calculator;
@@ -174,7 +175,8 @@ std::vector<std::string> RecipeStorage::FillGrids(const StoredRecipe& stored) {
     return failed;
 }
 
-// Where every single number could be used, the figures that they break together are named instead.
+// Shows the message about unusable numbers. If each number is usable by itself, names the figures that they
+// break together.
 void RecipeStorage::TellUnusableNumbers(const std::vector<std::string>& figures) {
     const std::vector<std::string> fields = UnusableNumbers(recipe_.record);
     recipe_.Tell("Error", UnusableNumbersText(recipe_.place.origName, fields.empty() ? figures : fields));

@@ -1,6 +1,6 @@
-// The way of a recipe into the database and back, and into a snapshot and back. A recipe is not updated in
-// place: every save deletes its row and writes a new one, so its id changes each time and its name is what
-// identifies it.
+// Saves a recipe to the database and opens it from there; takes and restores its snapshots. A stored recipe
+// is not updated in place: every save deletes its row and writes a new one, so its id changes each time and
+// its name is what identifies it.
 #pragma once
 
 #include <functional>
@@ -26,28 +26,31 @@ class RecipeStorage {
                   RecipeLines& lines)
         : recipe_(recipe), fields_(fields), focus_(focus), style_(style), lines_(lines) {}
 
-    // Fills the recipe from the stored one of that name. Raises when there is none, or when its rows cannot
-    // be those of a recipe. Figures that its numbers break are told in one box, once all is in its place.
+    // Fills the recipe from the stored one of that name. Raises Error if there is none, or if its rows cannot
+    // be those of a recipe. Numbers that make a figure impossible to calculate are listed in one message at
+    // the end.
     void Open(std::string_view name);
-    // Writes the recipe. False when the brewer refused to overwrite another recipe (asked unless quiet);
-    // nothing has changed then. A store error raises and leaves what was done so far, the recipe still
-    // changed.
+    // Writes the recipe. Returns false, with nothing changed, if the brewer refused to overwrite another
+    // recipe; without asking, if asking is Quietly, it is overwritten. Raises the store's errors; what was
+    // done before stays done, and the recipe is still changed. If InsertRecipe fails, shows a message and
+    // returns true, and the recipe is still changed.
     bool Save(SaveAs way, Asking asking);
-    // Names and places the recipe, dates its creation today, then saves. As Save.
+    // Sets the recipe's name, its folder, and the present time as that of its creation; then saves
+    // as Save does.
     bool SaveUnder(std::string_view name, std::int64_t folderId, Asking asking);
 
-    // The recipe as it stands, unsaved edits included, and the same put into a new document: it is changed
-    // then, and nothing has been stored. A recipe or folder that is gone from the database meanwhile leaves
-    // it without a place, so that its save asks for one. An entry that was being typed is committed if it can
-    // be read.
+    // Return the state of the recipe, unsaved edits included, and put such a state into a new document, which
+    // is changed then, while nothing has been stored. An entry that was being typed is committed if it can be
+    // read. If the stored recipe has been deleted meanwhile, the document has no place; if only its folder
+    // has, no folder. Its save then asks for one. Restore raises Error for rows that do not fit their grid.
     RecipeSnapshot TakeSnapshot() const;
     void Restore(const RecipeSnapshot& snapshot);
 
-    // True for the stored recipe that this one was opened from or saved as. Names compare trimmed, case
-    // ignored. A recipe that was never saved is none of them, not the one without a name either.
+    // True if this recipe was opened from or saved as the stored recipe of that name, trimmed and ignoring
+    // case. Always false for a recipe that is not stored, even if name is empty.
     bool IsStoredAs(std::string_view name) const;
-    // The stored recipe is gone: the recipe stands nowhere now, and is changed. Nothing while its own save
-    // replaces it.
+    // The stored recipe has been deleted: the recipe loses its place and is changed. Does nothing while its
+    // own save replaces the stored recipe.
     void Detach();
 
   private:
@@ -63,7 +66,7 @@ class RecipeStorage {
     RecipeFocus& focus_;
     RecipeStyle& style_;
     RecipeLines& lines_;
-    bool savingOver_ = false;  // the recipe's own save replaces its stored recipe
+    bool savingOver_ = false;  // true while the recipe's own save replaces its stored recipe
 };
 
 }  // namespace tw

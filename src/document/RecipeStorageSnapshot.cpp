@@ -1,4 +1,4 @@
-// An open recipe to a snapshot and back: its state as it stands, without the way through the tables.
+// Snapshots of an open recipe: its state as it is, not as the tables store it.
 #include <algorithm>
 #include <cmath>
 
@@ -14,7 +14,7 @@ bool FolderExists(Database& database, std::int64_t id) {
            !database.OpenRecordset("SELECT ID FROM FOLDERS WHERE NOT STYLE AND ID = ?", {id}).AtEnd();
 }
 
-// The figures look a hop's form up by its number.
+// True if the number is an index of kHopForms, which the calculations use unchecked.
 bool IsForm(const Cell& cell) {
     const double form = cell.value.number;
     return form >= 0 && form < static_cast<double>(kHopForms.size()) && form == std::floor(form);
@@ -64,7 +64,7 @@ RecipeSnapshot RecipeStorage::TakeSnapshot() const {
         s.grids.push_back({grid->Name(), {}});
         for (int row = Grid::FixedRows(); row < grid->Rows(); ++row) {
             s.grids.back().rows.push_back(grid->CellsOf(row));
-            // Whether a number is its text's own is found out again.
+            // Not part of a snapshot: Restore determines it again.
             for (Cell& cell : s.grids.back().rows.back()) cell.ownNumber = false;
         }
     }
@@ -98,7 +98,7 @@ void RecipeStorage::Restore(const RecipeSnapshot& s) {
     style_.SetId(s.styleId);
     RestorePlace(s);
     MarkOwnNumbers(recipe_.record);
-    // An entry that is still uncommitted would stand in its box without counting.
+    // An uncommitted entry would be shown in its box without any effect.
     for (TextBox* box : recipe_.record.TextBoxes())
         if (!fields_.CommitIfReadable(*box)) box->SetText(box->Committed());
     recipe_.recorder.Clear();

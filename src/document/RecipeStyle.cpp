@@ -11,8 +11,8 @@ namespace {
 struct RangeLabel {
     Label RecipeRecord::*label;
     FigureRange StyleFigures::*range;
-    const char* pattern;     // of a single value and of the upper end
-    const char* lowPattern;  // of the lower end of a range
+    const char* pattern;     // the format of the last or only number
+    const char* lowPattern;  // the format of the first of two numbers
 };
 
 constexpr RangeLabel kRangeLabels[] = {
@@ -84,7 +84,7 @@ bool RecipeStyle::ChangeStyle(std::string_view name) {
     return entry >= 0;
 }
 
-// The style, and the water that it brings. A style that is gone is none.
+// Selects the style and enters its water profile as the target water. A style that does not exist means none.
 void RecipeStyle::Choose(std::int64_t id) {
     const std::int64_t oldId = id_;
     const std::optional<std::string> profile = Show(id);
@@ -99,13 +99,13 @@ void RecipeStyle::Choose(std::int64_t id) {
     recipe_.MarkChanged();
 }
 
-// Selects the style and shows its ranges; "(None)" when it is gone. Gives its water profile, nothing without
-// one.
+// Selects the style and shows its ranges; "(None)" if it does not exist. Returns its water profile, or
+// nullopt if it has none.
 std::optional<std::string> RecipeStyle::Show(std::int64_t id) {
     const std::optional<StyleFigures> style = catalogue_.Style(id);
     id_ = style ? id : 0;
     const int index = recipe_.record.cmbStyle.IndexOf(id_);
-    // A list that is not up to date is read again.
+    // The list is out of date.
     if (index < 0 || id_ != id)
         Reload();
     else

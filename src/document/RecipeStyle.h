@@ -1,4 +1,4 @@
-// The style of a recipe: the list, the choice, the ranges shown beside the figures.
+// The style of a recipe: the list of styles, the choice, and the ranges shown beside the figures.
 #pragma once
 
 #include <cstdint>
@@ -17,21 +17,22 @@ class RecipeStyle {
 
     // 0 for "(None)".
     std::int64_t Id() const { return id_; }
-    // Reads the style list anew and selects that style, or "(None)" when it is gone; shows its ranges. Not an
-    // edit of the recipe.
+    // Reads the list of styles again and selects that style, or "(None)" if it does not exist; shows its
+    // ranges. Not an edit of the recipe.
     void SetId(std::int64_t id);
-    // Reads the list anew; a style that is gone leaves "(None)".
+    // Reads the list again; selects "(None)" if the present style no longer exists.
     void Reload();
 
-    // An entry of the list, as the brewer chooses it; the water of the style becomes the target water.
+    // Selects an entry of the list, as an edit by the brewer. The water profile of the style becomes the
+    // target water. Raises Error for an arithmetic fault, with nothing changed.
     void Select(int index);
-    // The entry of the style of that name (trimmed, case ignored), else of the one that it is another name or
-    // the code of; -1 when there is none.
+    // Returns the index of the style of that name (trimmed, ignoring case), else of the style with that alias
+    // or code; -1 if there is none.
     int EntryOf(std::string_view name) const;
-    // Selects that style of the stored ones. False when there is none.
+    // Reads the list again and selects the style that EntryOf finds. False if there is none.
     bool ChangeStyle(std::string_view name);
 
-    // For an undo; the water that came with the style has records of its own.
+    // For an undo or redo. The target water that came with the style has been recorded separately.
     void PutBack(std::int64_t id);
 
   private:

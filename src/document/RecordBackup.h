@@ -1,4 +1,4 @@
-// What a recipe record holds at one moment, to go back to when a change of many controls fails halfway.
+// A copy of what a recipe record holds, for going back when a change of many controls fails halfway.
 #pragma once
 
 #include <string>
@@ -10,11 +10,11 @@ namespace tw {
 
 class RecordBackup {
   public:
-    // Copies boxes, cells, buttons and the colour; lists, labels and options are left out.
+    // Copies text boxes, cells, buttons and the colour, but not lists, labels and options.
     explicit RecordBackup(const RecipeRecord& record);
-    // REQUIRES: no grid has got or lost a row since.
+    // REQUIRES: no row has been inserted into or removed from a grid since.
     void Restore(RecipeRecord& record) const;
-    // True when a box or a cell shows another text now. REQUIRES: as Restore.
+    // True if the text of a box or a cell has changed since. REQUIRES: as Restore.
     bool TextsChanged(const RecipeRecord& record) const;
 
   private:

@@ -10,7 +10,8 @@
 namespace tw {
 namespace {
 
-// A number of the catalogue becomes the cell's text and number; one that it leaves open empties the cell.
+// Sets a number of the catalogue as the cell's text and number; a number that the catalogue leaves open
+// empties the cell.
 void PutFigure(Grid& grid, int row, int col, std::optional<double> number) {
     if (!number) {
         grid.Clear(row, col);
@@ -80,7 +81,8 @@ bool RowFiller::FillWater(Grid& grid, int row) {
     return true;
 }
 
-// The numbers behind the ion cells of a treatment row are what one gram of the salt adds to one gallon.
+// Sets the numbers behind the ion cells of a treatment row: what one gram of the salt adds to one
+// gallon, in PPM.
 bool RowFiller::FillSalt(Grid& grid, int row) {
     const auto ppm = catalogue_.Salt(grid.Text(row, TreatmentCol::Name));
     for (int ion = 0; ion < kIons; ++ion)
@@ -89,14 +91,15 @@ bool RowFiller::FillSalt(Grid& grid, int row) {
     return true;
 }
 
-// A pitched yeast sets the final gravity from its apparent attenuation.
+// Sets the final gravity from the apparent attenuation of a pitched yeast. Returns what txtFG held before;
+// nullopt if it stays unchanged.
 std::optional<EditValue> RowFiller::Pitch(const Grid& log, int row) {
     if (!PitchesYeast(log, row)) return std::nullopt;
     RecipeRecord& r = recipe_.record;
     const auto yeast = catalogue_.Yeast(PitchedYeastName(log.Text(row, LogCol::Notes)));
     if (!yeast || !yeast->attenuation || r.txtOG.Empty()) return std::nullopt;
     const double gravity = AttenuatedGravity(r.txtOG.Value(), *yeast->attenuation);
-    // An attenuation that breaks the alcohol's formula raises before anything has changed.
+    // Raises, before anything has changed, if the alcohol cannot be calculated with that attenuation.
     ComputeAlcohol(r.txtOG.Value(), gravity);
     TextBox& fg = r.txtFG;
     EditValue before = fg.Text() == fg.Committed()

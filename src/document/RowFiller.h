@@ -9,10 +9,10 @@
 
 namespace tw {
 
-// What a commit has moved beside its own cell.
+// What a commit has changed besides its own cell.
 struct FillEffects {
     bool rowFilled = false;  // other cells of the row have been filled or emptied
-    // What txtFG held before a pitched yeast moved it.
+    // What txtFG held before a pitched yeast changed it; nullopt if it is unchanged.
     std::optional<EditValue> finalGravityBefore;
 };
 
@@ -21,8 +21,10 @@ class RowFiller {
     RowFiller(OpenRecipe& recipe, const CatalogueLookup& catalogue)
         : recipe_(recipe), catalogue_(catalogue) {}
 
-    // Looks the cell's text up in the catalogue of its column. Does nothing for a column without one. A name
-    // that the catalogue does not know leaves the row as it is, but for the factors of a salt.
+    // Looks up the cell's text in the catalogue of its column and fills the row. Does nothing for a column
+    // without a catalogue. An unknown name leaves the row as it is, except that it removes the factors of a
+    // salt. Raises Error, with nothing changed, if the alcohol cannot be calculated after a yeast was
+    // pitched; raises the store's errors.
     FillEffects Fill(Grid& grid, int row, int col);
 
   private:
@@ -39,7 +41,7 @@ class RowFiller {
 
 // True if that row of the brew log pitches a yeast, so that its notes begin with a yeast's name.
 bool PitchesYeast(const Grid& log, int row);
-// The name at the beginning of such notes, up to " - " and the yeast's description; trimmed.
+// Returns the name at the beginning of such notes, before " - " and the yeast's description; trimmed.
 std::string_view PitchedYeastName(std::string_view notes);
 
 }  // namespace tw

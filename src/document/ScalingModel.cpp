@@ -13,7 +13,7 @@ struct Form {
     bool scalesBoilVol, preservesIBU;
 };
 
-// As ScalingModel::kFormNames.
+// In the order of Scaling.
 constexpr std::array<Form, 4> kForms{{{"lblCurSize", "txtNewSize", true, true},
                                       {"lblCurOG", "txtNewOG", false, true},
                                       {"lblCurIBU", "txtNewIBU", false, false},
@@ -23,7 +23,8 @@ const Form& FormOf(Scaling what) {
     return kForms[static_cast<std::size_t>(what)];
 }
 
-// The number that was understood, if any; kind is its word in the messages.
+// Returns the number if it was understood and is not negative, else the refusal. kind is its name
+// in the messages.
 Reading<double> NotNegative(std::optional<double> number, const std::string& kind) {
     if (!number) return Refusal{kInvalidEntry, "Please enter a valid " + kind + " value"};
     if (*number < 0) return Refusal{kInvalidEntry, "Please enter a positive " + kind + " value"};
@@ -112,7 +113,7 @@ Reading<double> ScalingModel::ReadSize() const {
 }
 
 void ScalingModel::Ok() {
-    // Blanks alone are no figure to scale to either.
+    // Blanks alone count as an empty entry.
     if (IsBlank(entry_) || !Check()) return;
     Accept();
 }

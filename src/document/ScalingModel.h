@@ -1,5 +1,5 @@
-// The dialogs of the changes that no undo takes back: frmResizeRecipe, frmChangeOG, frmChangeIBU,
-// frmChangeCO2. Each shows the present figure and takes the new one.
+// The dialogs of the changes that cannot be undone: frmResizeRecipe, frmChangeOG, frmChangeIBU and
+// frmChangeCO2. Each shows the present figure and accepts the new one.
 #pragma once
 
 #include <array>
@@ -18,12 +18,12 @@ namespace tw {
 
 class RecipeDocument;
 
-// What a recipe can be scaled to.
+// The quantities to which a recipe can be scaled.
 enum class Scaling { Size, Strength, Bitterness, Carbonation };
 
-// The label and the entry box of the form; chkScaleBV and chkPreserveIBU as far as the form has them, which
-// leave the entry box first; OKButton, which stays open while the box is empty and for a bad entry;
-// CancelButton.
+// The controls are the label with the present figure, the entry box, and chkScaleBV and chkPreserveIBU if the
+// form has them; setting a check box first leaves the entry box. The buttons are OKButton, which keeps the
+// dialog open if the entry is blank or refused, and CancelButton.
 class ScalingModel final : public FormModel {
   public:
     // In the order of Scaling.
@@ -32,33 +32,34 @@ class ScalingModel final : public FormModel {
     // current: the present figure as the recipe shows it. messages must outlive the dialog.
     ScalingModel(Scaling what, std::string current, MessagePort& messages);
 
-    // What a new size is asked about after it has been read: the text of a refusal, empty for none.
+    // Sets a check of the new size, called after it has been read: returns the text of a refusal, or
+    // an empty one.
     void SetSizeCheck(std::function<std::string(double gallons)> refusal) { refusal_ = std::move(refusal); }
 
     Scaling What() const { return what_; }
     const std::string& Current() const { return current_; }
-    // The names of the label with the present figure and of the entry box, such as "lblCurSize".
+    // The names of the label with the present figure, such as "lblCurSize", and of the entry box.
     std::string_view LabelName() const;
     std::string_view BoxName() const { return BoxOf(what_); }
-    // The entry box of the form for that scaling.
+    // Returns the name of the entry box in the form of that scaling.
     static std::string_view BoxOf(Scaling what);
-    // What the entry box shows.
+    // The text in the entry box.
     const std::string& Entry() const { return entry_; }
-    // The box loses the focus. A bad entry has had its message: the last good text stands there again, and
-    // the focus goes back; false then. Blanks alone are an empty box. An empty box that was left untouched,
-    // and a text that was found good before, are not looked at again.
+    // To be called when the entry box loses the focus. If the entry is refused, shows a message, restores the
+    // last accepted text and returns false; the focus must then go back to the box. Blanks alone count as an
+    // empty entry. An empty box that was left untouched, and a text accepted before, are not checked again.
     bool LeaveBox();
 
     // The results, once OKButton has accepted the entry.
 
-    // In the canonical unit of its kind: gallons, specific gravity, IBUs, volumes.
+    // In the unit of its kind: US gallons, specific gravity, IBUs or volumes of CO2.
     double NewValue() const { return value_; }
     const std::string& NewText() const { return goodText_; }
     bool ScaleBoilVol() const { return scaleBoilVol_; }
     bool PreserveIBU() const { return preserveIBU_; }
 
   private:
-    // A check box that leaves the entry box as it takes its entry.
+    // Returns a check box that leaves the entry box before it changes.
     FormControl Switch(std::string_view name, bool& checked);
     bool Check();
     Reading<double> Read() const;
@@ -76,9 +77,9 @@ class ScalingModel final : public FormModel {
     bool preserveIBU_ = false;
 };
 
-// The figure that a scaling starts from, as text; nothing while the recipe has none.
+// Returns the text of the figure from which a scaling starts; nullopt if the recipe has none.
 std::optional<std::string> CurrentFigure(const RecipeDocument& document, Scaling what);
-// Scales as the dialog says. REQUIRES: it was not cancelled.
+// Scales the recipe as the dialog says. REQUIRES: the dialog was accepted.
 void Scale(RecipeDocument& document, const ScalingModel& dialog);
 
 }  // namespace tw

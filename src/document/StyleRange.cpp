@@ -9,10 +9,10 @@ namespace {
 
 constexpr double kBandStart = 0.25;
 constexpr double kBandEnd = 0.75;
-// Half the width of the band of a range that is one value.
+// Half the width of the band of a range that is a single value.
 constexpr double kPointBand = 0.02;
 
-// Takes a number in fixed notation off the front of text.
+// Removes a number in fixed notation from the front of text and returns it.
 std::optional<double> TakeNumber(std::string_view& text) {
     double number = 0;
     const auto [end, error] =
@@ -22,11 +22,12 @@ std::optional<double> TakeNumber(std::string_view& text) {
     return number;
 }
 
-// Half the range, the measure of the bar; with one end or one value a tenth of it stands in.
+// Returns the unit of the bar's scale: half the width of the range or, for one end or a single value, a tenth
+// of that value.
 double MeasureOf(const StyleRange& range) {
     double measure = 0;
     if (range.low && range.high) measure = (*range.high - *range.low) / 2;
-    // A gravity counts from 1.
+    // A gravity is measured from 0.9.
     const double end = range.high.value_or(range.low.value_or(0));
     if (measure <= 0) measure = (end >= 0.9 && end < 1.2 ? end - 0.9 : std::abs(end)) / 10;
     return measure > 0 ? measure : 1;

@@ -1,4 +1,4 @@
-// What the nine tabs of a recipe are.
+// The properties of a recipe's nine tabs.
 #pragma once
 
 #include <optional>
@@ -12,15 +12,15 @@ namespace tw {
 
 struct TabRule {
     const char* caption;
-    // The control that takes the focus when the tab comes to the front: a text box or a grid.
+    // The control that gets the focus when the tab is shown: a text box or a grid.
     std::optional<FieldId> firstBox;
     std::optional<GridId> firstGrid;
-    // The grid that the row commands act on; nothing for none.
+    // The grid on which the row commands act; nullopt for none.
     std::optional<GridId> rows;
 };
 
 const TabRule& RuleOf(Tab tab);
-// The name of the control that takes the focus first.
+// Returns the name of the control that gets the focus first.
 std::string_view FirstControlOf(Tab tab);
 
 }  // namespace tw

@@ -1,5 +1,5 @@
-// The history of one document, without any limit of depth: the edits that can be undone, and behind them
-// those that have been undone and can be redone.
+// The history of one document, of unlimited depth: the edits that can be undone, followed by those that have
+// been undone and can be redone.
 #pragma once
 
 #include <cstddef>
@@ -13,14 +13,15 @@ namespace tw {
 
 class UndoStack {
   public:
-    // Stores an edit behind the present position; what could be redone is gone. Typing in one box forms one
-    // edit: it joins the last one, and both go when the box holds again what it began with. Gives the stored
-    // edit, nullptr when none was stored. The pointer stays valid until the edit leaves the stack.
+    // Stores an edit at the present position; the edits that could be redone are lost. Typing in one box
+    // forms one edit: it joins the last one, and both are removed when the box contains again what it
+    // contained before them. Returns the stored edit; nullptr if none was stored. The pointer stays valid
+    // until the edit is removed.
     EditTracker* AddToStack(EditTracker edit);
 
     bool CanUndo() const { return position_ > 0; }
     bool CanRedo() const { return position_ < records_.size(); }
-    // The names of the next edits, empty when there is none.
+    // The name of the edit that would be undone or redone next; empty if there is none.
     std::string_view UndoType() const {
         return CanUndo() ? records_[position_ - 1].ChangeTypeName() : std::string_view();
     }
@@ -28,17 +29,18 @@ class UndoStack {
         return CanRedo() ? records_[position_].ChangeTypeName() : std::string_view();
     }
 
-    // Moves the position and gives the edit that is to be undone or redone; nullptr when there is none.
+    // Move the position and return the edit that must be undone or redone; nullptr if there is none.
     const EditTracker* StepBack() { return CanUndo() ? &records_[--position_] : nullptr; }
     const EditTracker* StepForward() { return CanRedo() ? &records_[position_++] : nullptr; }
 
     void Clear();
-    // Forgets what could be redone.
+    // Removes the edits that could be redone.
     void DropRedo();
-    // Takes out what could be redone, the next one first, and the same put back behind the present position.
+    // Remove and return the edits that could be redone, the next one first; put such edits back after the
+    // present position.
     std::vector<EditTracker> TakeRedo();
     void PutBackRedo(std::vector<EditTracker> edits);
-    // Edits held, and how many of them can be undone.
+    // The number of edits held, and how many of them can be undone.
     std::size_t StackTop() const { return records_.size(); }
     std::size_t StackPosition() const { return position_; }
 

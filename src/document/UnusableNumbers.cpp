@@ -7,20 +7,20 @@
 namespace tw {
 namespace {
 
-// More than any recipe has of anything; products of such numbers overflow.
+// Greater than any number in a recipe; products of numbers like this could overflow.
 constexpr double kMostOfAnything = 1e9;
 constexpr std::size_t kMostNamed = 6;
 
 bool IsAnAmount(double number) {
     return std::isfinite(number) && number >= 0 && number < kMostOfAnything;
 }
-// Whether a formula can work with the number of a field. The unit says what it can be.
+// True if a formula can work with the number of a field, which depends on the field's unit.
 bool IsUsable(double number, const FieldRule& rule) {
     if (rule.takes == FieldTakes::Fahrenheit) return number >= 0 && number <= 212;
     return IsAnAmount(number) && (number > 0 || rule.mayBeZero);
 }
 
-// "Grain row 2", "Source Water", "" for a grid of one row.
+// Returns, for example, "Grain row 2" or "Source Water"; empty for a grid with one row.
 std::string RowName(const Grid& grid, int row) {
     if (grid.RowsCanChange())
         return grid.ColumnAt(0).header + " row " + std::to_string(row - Grid::FixedRows() + 1);

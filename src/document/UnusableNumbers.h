@@ -1,4 +1,5 @@
-// Numbers of a stored recipe that no formula can work with: damage, or another program's.
+// Finds numbers of a stored recipe with which no formula can work: they are damaged, or another
+// program wrote them.
 #pragma once
 
 #include <string>
@@ -9,11 +10,11 @@
 
 namespace tw {
 
-// Where a text stands before such a number, in the words of the window: "Total Volume", "Grain row 2, Amount
-// (lbs)". A field without a text counts for nothing, whatever its number is.
+// Returns the fields and cells with such a number, as the window names them: "Total Volume", "Grain row 2,
+// Amount (lbs)". A field or cell without a text is ignored, whatever its number is.
 std::vector<std::string> UnusableNumbers(const RecipeRecord& record);
 
-// The text of the box that tells of them, once for all.
+// Returns the text of one message about all these fields.
 std::string UnusableNumbersText(std::string_view recipe, const std::vector<std::string>& fields);
 
 }  // namespace tw

@@ -8,7 +8,7 @@
 namespace tw {
 namespace {
 
-// A salt of the batch below this gets no row.
+// A salt of which the batch needs less gets no row.
 constexpr double kLeastGrams = 0.001;
 constexpr int kGramDecimals = 3;
 
@@ -17,7 +17,7 @@ struct SaltDose {
     double grams;  // for the batch
 };
 
-// PPM. Salts can only add.
+// Returns the PPM to add of each ion; not negative, because salts can only add ions.
 Ions NeededOf(const Grid& water) {
     Ions needed;
     for (int ion = 0; ion < kIons; ++ion)
@@ -30,7 +30,7 @@ Ions NeededOf(const Grid& water) {
 
 void WaterTreatment::CalcTreatment() {
     if (!focus_.FlushEdits() || !recipe_.record.cmdCalcTreatment.Enabled()) return;
-    // The order of the table is that of the program's variables.
+    // The variables of the linear programs are in the order of the table.
     const std::vector<SaltIons> salts = catalogue_.Salts();
     if (salts.empty()) {
         recipe_.Tell("Could not setup Linear Program",

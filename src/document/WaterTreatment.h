@@ -1,4 +1,4 @@
-// Which salts, and how many grams of each, turn the source water into the target water.
+// Calculates which salts, and how many grams of each, turn the source water into the target water.
 #pragma once
 
 #include "document/CatalogueLookup.h"
@@ -15,10 +15,10 @@ class WaterTreatment {
                    RecipeCells& cells, RecipeLines& lines)
         : recipe_(recipe), catalogue_(catalogue), focus_(focus), cells_(cells), lines_(lines) {}
 
-    // The button below gridWater, nothing while it is disabled: replaces all rows of gridTreatment by the
-    // salts that bring the source water nearest to the target water, as one step of the history. A box, and
-    // nothing has changed, when the catalogue has no salts or no program has a solution. Raises for an
-    // arithmetic fault; all is as before then.
+    // The button below gridWater; does nothing while that is disabled. Replaces all rows of gridTreatment by
+    // the salts that bring the source water closest to the target water, as one step of the history. Shows a
+    // message and changes nothing if the catalogue has no salts or neither linear program has a solution.
+    // Raises Error for an arithmetic fault, with nothing changed.
     void CalcTreatment();
 
   private:
