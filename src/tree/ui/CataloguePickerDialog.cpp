@@ -25,7 +25,7 @@ constexpr int kFolderUnits = 32;
 
 CataloguePickerDialog::CataloguePickerDialog(CataloguePickerModel& model, QWidget* parent)
     : QDialog(parent), model_(model) {
-    // Each list keeps a size of its own: their columns differ.
+    // The window size is stored per object name: each catalogue has its own, because the columns differ.
     setObjectName(ToQt(model.FormName()) + QString::number(static_cast<int>(model.Type())));
     setWindowTitle(ToQt(model.Title()));
     auto* column = new QVBoxLayout(this);
@@ -56,7 +56,7 @@ CataloguePickerDialog::CataloguePickerDialog(CataloguePickerModel& model, QWidge
     ShowButtons();
 }
 
-// All columns are in sight from the first.
+// Returns a width in which all columns are visible when the dialog opens.
 int CataloguePickerDialog::FirstWidth() const {
     const int list = std::clamp(items_->WantedWidth() + Unit(*this) * 2 * kMarginUnits,
                                 Unit(*this) * kLeastWidthUnits, Unit(*this) * kWidestUnits);

@@ -1,4 +1,4 @@
-// The window of the picker of one row of a catalogue.
+// The dialog in which one row of a catalogue is chosen.
 #pragma once
 
 #include <QDialog>

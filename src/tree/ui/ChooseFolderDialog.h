@@ -1,4 +1,4 @@
-// The window in which a folder is chosen.
+// The dialog in which a folder is chosen.
 #pragma once
 
 #include <QDialog>

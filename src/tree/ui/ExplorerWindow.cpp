@@ -192,7 +192,8 @@ void ExplorerWindow::ConnectTree(Page page, PageWidgets& widgets) {
     AddKey(tree, QKeySequence(Qt::Key_Insert), PopupCommand::NewFolder);
 }
 
-// A name that is still being edited is taken over as its editor goes, which needs this window.
+// Deletes the children while this window still exists: an open editor of a name commits when it is deleted,
+// and calls back into this window.
 ExplorerWindow::~ExplorerWindow() {
     qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
 }
@@ -215,7 +216,7 @@ void ExplorerWindow::ConnectList(PageWidgets& widgets) {
     AddKey(*list, QKeySequence(Qt::Key_Insert), PopupCommand::NewFolder);
 }
 
-// A key that works while no name is being typed in place.
+// Adds a shortcut that is ignored while a name is being edited in place.
 void ExplorerWindow::AddKey(QWidget& widget, const QKeySequence& key, PopupCommand command) {
     auto* shortcut = new QShortcut(key, &widget);
     shortcut->setContext(Qt::WidgetWithChildrenShortcut);
@@ -235,15 +236,15 @@ void ExplorerWindow::Run(PopupChoice choice) {
     try {
         model_.Run(choice);
     } catch (...) {
-        // A deletion that failed half way has changed what is shown; its error goes on to the program.
+        // A deletion that failed halfway has changed what must be shown. The program handles the error.
         ShowState();
         throw;
     }
     ShowState();
 }
 
-// The buttons are about the rows when some are chosen, otherwise about the tree's entry; never about that
-// while a search has taken the eye from it.
+// True if the buttons act on the rows of the list, false if they act on the selected entry of the tree.
+// During a search they never act on that, because a search draws attention away from the tree.
 bool ExplorerWindow::AboutRows() {
     const NodeList& list = model_.List(model_.Shown());
     return list.IsFinding() || !list.Rows().Chosen().empty();
@@ -255,7 +256,7 @@ void ExplorerWindow::DeleteOrRename(PopupCommand listCommand, PopupCommand treeC
 
 void ExplorerWindow::EndEdit() {
     model_.CancelEdit();
-    // The view still works on its editor; and another may have been opened by then.
+    // Queued, because the view is still busy with its editor. Another editor may have opened by then.
     QMetaObject::invokeMethod(
         this,
         [this] {
@@ -284,7 +285,7 @@ void ExplorerWindow::ShowState() {
     styles_->setChecked(page == Page::Styles);
     stack_->setCurrentIndex(static_cast<int>(page));
     find_->setEnabled(page == Page::Recipes);
-    // Choosing a folder ends a search.
+    // Selecting a folder ends a search.
     if (!model_.List(Page::Recipes).IsFinding() && !find_->text().trimmed().isEmpty()) find_->clear();
     for (PageWidgets& widgets : pages_) widgets.list->SetView(model_.Look().viewType);
     buttons_["cmdOpen"]->setEnabled(model_.IsEnabled(PopupCommand::Open));
@@ -335,7 +336,7 @@ void ExplorerWindow::ShowTreePopup(const QPoint& place) {
     menu->popup(place);
 }
 
-// From the find box the arrow down, and Enter, lead to what was found.
+// In the find box, the Down and Enter keys move to the rows found.
 bool ExplorerWindow::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::KeyPress && object == find_) {
         const int key = static_cast<QKeyEvent*>(event)->key();
@@ -349,7 +350,7 @@ bool ExplorerWindow::eventFilter(QObject* object, QEvent* event) {
     return QDialog::eventFilter(object, event);
 }
 
-// Escape clears a search before it closes.
+// Escape clears a search; without one, it closes the window.
 void ExplorerWindow::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape && !find_->text().isEmpty())
         find_->clear();

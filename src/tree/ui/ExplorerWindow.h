@@ -1,4 +1,4 @@
-// The window of the explorer: a tree and a list beside it for the recipes, and another pair for the styles.
+// The window of the explorer: a tree with a list beside it for the recipes, and another pair for the styles.
 #pragma once
 
 #include <QDialog>
@@ -54,9 +54,9 @@ class ExplorerWindow final : public QDialog {
     void Run(PopupChoice choice);
     bool AboutRows();
     void DeleteOrRename(PopupCommand listCommand, PopupCommand treeCommand);
-    // When the editor of a name has closed.
+    // Called when the editor of a name has closed.
     void EndEdit();
-    // The window as the model is now; closes when it is done.
+    // Updates the window from the model; closes it if the model is closed.
     void ShowState();
     void ShowListPopup(const QPoint& place);
     void ShowTreePopup(const QPoint& place);

@@ -74,7 +74,7 @@ void FolderChooserView::ShowState() {
 
 bool FolderChooserView::Rename(const QString& name) {
     if (!chooser_.Rename(FromQt(name))) return false;
-    // The folder goes to its place when its editor has closed.
+    // Queued, because the folder can move to its sorted place only after its editor has closed.
     QMetaObject::invokeMethod(
         this, [this] { chooser_.FillTheTree(); }, Qt::QueuedConnection);
     return true;

@@ -1,4 +1,4 @@
-// The widget in which a folder is chosen, made and renamed.
+// The widget in which a folder is chosen, created or renamed.
 #pragma once
 
 #include <QWidget>
@@ -15,9 +15,9 @@ class TreePane;
 class FolderChooserView final : public QWidget {
     Q_OBJECT
   public:
-    // REQUIRES: the chooser lives for as long.
+    // REQUIRES: chooser outlives the widget.
     FolderChooserView(FolderChooser& chooser, QWidget* parent);
-    // Shows what has been set on the chooser: the kind of folders, the alignment, the lock.
+    // Updates the widget from the chooser: the kind of folders, the alignment, and whether it is locked.
     void ShowState();
 
   private:

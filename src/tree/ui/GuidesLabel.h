@@ -1,4 +1,4 @@
-// The line below a list of styles that names the guides of their codes.
+// The line below a list of styles that names the guides to which their codes refer.
 #pragma once
 
 #include <QEvent>
@@ -17,7 +17,7 @@ class GuidesLabel final : public QLabel {
         setWordWrap(true);
         FollowPalette();
     }
-    // Hidden without guides.
+    // Shows the names of the guides; hides the line if guides is empty.
     void Show(const std::string& guides) {
         setText(tr("Codes: %1").arg(ToQt(guides)));
         setVisible(!guides.empty());

@@ -10,10 +10,10 @@ namespace {
 constexpr double kLinesPerRow = 1.5;
 constexpr int kLargeIconUnits = 5;
 constexpr int kLargeNameUnits = 17;
-// A longer name is cut short, and shown whole in its tip.
+// A longer name is cut off; its tooltip shows all of it.
 constexpr int kWidestInDigits = 32;
 
-// Puts the picture over the name where asked, and gives each row its whole place in the grid.
+// Places the picture above the name for large icons, and lets each row fill its cell of the grid.
 class IconDelegate final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;

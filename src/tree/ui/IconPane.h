@@ -1,4 +1,5 @@
-// The widget of a list as icons: large ones over their names, small ones beside them in rows, or in columns.
+// The widget that shows a list as icons: large ones above the names, or small ones beside them, in rows
+// or in columns.
 #pragma once
 
 #include <QListView>
@@ -11,17 +12,16 @@ namespace tw {
 class IconPane final : public RowView<QListView> {
     Q_OBJECT
   public:
-    // Shows the list from now on. name: what it is called to assistive programs. REQUIRES: the list lives
-    // for as long.
+    // Shows the list. name: its name for screen readers. REQUIRES: list outlives the widget.
     IconPane(ListTable& list, const QString& name, QWidget* parent);
 
-    // Any but Details.
+    // REQUIRES: kind is not Details.
     void SetKind(ListViewType kind);
 
   signals:
-    // A double click, or Enter, on a row.
+    // A row was double-clicked, or Enter was pressed on it.
     void RowActivated();
-    // Other rows are chosen, or none.
+    // The selection has changed.
     void ChosenChanged();
 
   protected:

@@ -5,9 +5,9 @@
 
 namespace tw {
 
-// True if the keys go to the editor, or will when its window is active again: the box that refuses a name
-// has taken the activation, and gives it back only after the editor has closed. The view is to have the
-// focus then, and would not ask for it by itself.
+// True if the editor has the keyboard focus, or will have it when its window is active again: a message box
+// that refuses a name takes the activation and returns it only after the editor has closed. The view must
+// take the focus then, which it does not do by itself.
 inline bool IsTypedIn(const QWidget& editor) {
     return editor.window()->focusWidget() == &editor;
 }

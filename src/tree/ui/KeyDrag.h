@@ -1,4 +1,4 @@
-// Objects that are dragged within and between lists and trees, by their keys.
+// Drag and drop of objects within and between lists and trees, by their keys.
 #pragma once
 
 #include <QMimeData>
@@ -11,7 +11,7 @@ class QAbstractItemView;
 
 namespace tw {
 
-// What a list or a tree does with objects that are dragged over its entries. Empty functions take none.
+// What a list or a tree does when objects are dragged over its entries. With empty functions it accepts none.
 struct KeyDrag {
     using Keys = std::vector<std::string>;
     std::function<bool(const Keys& keys, const std::string& target)> canDrop;
@@ -20,18 +20,19 @@ struct KeyDrag {
     explicit operator bool() const { return static_cast<bool>(canDrop); }
 };
 
-// The one type of data that they take.
+// Returns the only MIME type that lists and trees accept.
 QStringList KeyMimeTypes();
-// REQUIRES: the caller owns the result.
+// Returns a new object, which the caller owns.
 QMimeData* MimeOfKeys(const KeyDrag::Keys& keys);
-// Empty for data of another type.
+// Returns the keys in data; empty if it is nullptr or of another type.
 KeyDrag::Keys KeysOf(const QMimeData* data);
 
-// Makes a view take what is dragged: onto its entries, never between them.
+// Enables dragging from a view and dropping onto its entries, but not between them.
 void AcceptKeys(QAbstractItemView& view);
-// Lets the brewer drag those objects from the view; returns when they have been let go.
+// Lets the brewer drag those objects from the view; returns when they have been dropped or the drag is over.
 void StartKeyDrag(QAbstractItemView& view, const KeyDrag::Keys& keys);
-// Drops them as soon as the drag is over, since boxes may come up.
+// Calls drag.drop for the objects in data after the drag has ended, because it may show message boxes. Not
+// called if context has been destroyed by then.
 void DropLater(QObject& context, const KeyDrag& drag, const QMimeData* data, std::string target);
 
 }  // namespace tw

@@ -24,7 +24,7 @@ ListFilterBox::ListFilterBox(ListTable& list, ListPane& pane, QWidget* parent, S
     if (!setFilter) setFilter = [&list](const std::string& text) { list.SetFilter(text); };
     connect(this, &QLineEdit::textChanged, this,
             [setFilter](const QString& text) { setFilter(FromQt(text)); });
-    // The list may drop its filter by itself, to show a row that it hides.
+    // The list may clear its filter by itself, to show a row that it hides.
     connect(&pane_, &ListPane::RowsChanged, this, [this] {
         if (FromQt(text().trimmed()) != list_.Filter()) setText(ToQt(list_.Filter()));
     });
@@ -43,7 +43,7 @@ void ListFilterBox::keyPressEvent(QKeyEvent* event) {
 }
 
 bool ListFilterBox::event(QEvent* event) {
-    // The dialog's own Escape comes second.
+    // Escape clears the box before it closes the dialog.
     if (event->type() == QEvent::ShortcutOverride && !text().isEmpty() &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
         event->accept();

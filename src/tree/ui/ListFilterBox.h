@@ -1,4 +1,4 @@
-// The box over a list whose text leaves only the rows that hold it.
+// The box above a list whose text leaves only the rows that contain it.
 #pragma once
 
 #include <QLineEdit>
@@ -13,12 +13,12 @@ class ListFilterBox final : public QLineEdit {
     Q_OBJECT
   public:
     using SetFilter = std::function<void(const std::string&)>;
-    // setFilter: what a new text does in place of ListTable::SetFilter. REQUIRES: pane, and the list that it
-    // shows, live for as long.
+    // setFilter is called for each new text, instead of ListTable::SetFilter. REQUIRES: list and pane outlive
+    // the box.
     ListFilterBox(ListTable& list, ListPane& pane, QWidget* parent, SetFilter setFilter = {});
 
   protected:
-    // Down goes to the list; Escape empties the box before it does anything else.
+    // Down moves the focus to the list. Escape clears the box; in an empty box, the window handles it.
     void keyPressEvent(QKeyEvent* event) override;
     bool event(QEvent* event) override;
 

@@ -16,13 +16,13 @@ namespace tw {
 namespace {
 
 constexpr double kLinesPerRow = 1.5;
-// What a column asks for at most: a description must not push the figures out of sight.
+// The greatest width that a column asks for: a long description must not push the numbers out of view.
 constexpr int kWidestInDigits = 40;
-// What the name, and any other text, keeps where it gives way to the figures behind it.
+// The widths that the name, and any other text, keep when they are cut off in favour of the numbers.
 constexpr int kLeastNameInDigits = 26;
 constexpr int kLeastTextInDigits = 16;
 
-// Rows with some air, as those of the grids, and their texts in line with the header's.
+// Draws rows with the same spacing as the grids, and their texts in line with those of the header.
 class RowDelegate final : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -44,7 +44,7 @@ class RowDelegate final : public QStyledItemDelegate {
     }
 
   private:
-    // What the style leaves beside a text short of the padding of the header, so that both are in line.
+    // The padding to add to that of the widget style, so that a text is in line with the header.
     static int Inset(const QStyleOptionViewItem& option) {
         const QWidget& view = *option.widget;
         const int left = view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &option, &view) + 1;
@@ -67,7 +67,7 @@ ListPane::ListPane(ListTable& list, const QString& name, QWidget* parent) : RowV
     header->setToolTip(
         tr("A click sorts the rows by this column, another one the other way round (Ctrl+Shift+S)"));
     setModel(model_);
-    // A tree view that does not sort by itself has switched this off.
+    // A tree view switches this off unless it sorts by itself.
     header->setSectionsClickable(true);
     connect(header, &QHeaderView::sectionClicked, this, &ListPane::SortBy);
     connect(header, &QHeaderView::sectionResized, this,
@@ -75,7 +75,7 @@ ListPane::ListPane(ListTable& list, const QString& name, QWidget* parent) : RowV
     ListChanged();
 }
 
-// Where a found recipe lies is told beside its name.
+// Shows the folders of the recipes found by a search beside their names.
 void ListPane::PlaceFolderColumn() {
     const int last = model_->columnCount() - 1;
     const bool found = last > 1 && list_.Columns().back().title == kFolderColumn;
@@ -104,7 +104,7 @@ void ListPane::SortBy(int column) {
 }
 
 void ListPane::FitColumns() {
-    // Within it a scroll bar comes or goes, and the resized view asks again.
+    // While fitting, a scroll bar may appear or disappear, and the resized view calls this again.
     if (fitting_ || !isVisible() || model_->columnCount() == 0) return;
     const ScopedValue fitting(fitting_, true);
     for (int tries = 0, width = -1; tries < 2 && width != viewport()->width(); ++tries) {
@@ -137,7 +137,7 @@ void ListPane::NarrowTexts(std::vector<int>& widths, int room) const {
         const int text = DigitsWidth(*this, col == 0 ? kLeastNameInDigits : kLeastTextInDigits);
         least[col] = std::min(widths[col], std::max(text, header()->sectionSizeHint(static_cast<int>(col))));
     }
-    // What has to be scrolled anyway is not cut.
+    // If the list must be scrolled sideways in any case, nothing is cut off.
     if (std::accumulate(least.begin(), least.end(), 0) > room) return;
     for (int over = std::accumulate(widths.begin(), widths.end(), 0) - room; over > 0; --over) {
         std::size_t widest = widths.size();

@@ -1,5 +1,5 @@
-// The widget of a list: rows with a picture, columns that a click on their header sorts by, and rows that
-// are found by typing their beginning.
+// The widget that shows a list in columns. A click on a column's header sorts by it, and typing the beginning
+// of a row finds it.
 #pragma once
 
 #include <QTreeView>
@@ -14,26 +14,26 @@ namespace tw {
 class ListPane final : public RowView<QTreeView> {
     Q_OBJECT
   public:
-    // Shows the list from now on. name: what it is called to assistive programs. REQUIRES: the list lives
-    // for as long.
+    // Shows the list. name: its name for screen readers. REQUIRES: list outlives the widget.
     ListPane(ListTable& list, const QString& name, QWidget* parent);
 
-    // What a click on a column's header does; without it the list is sorted by the column, then the other way
-    // round.
+    // Sets what a click on a column's header does. Without it, the list is sorted by the column, and in
+    // reverse by a second click.
     void SetSort(std::function<void(int column)> sort) { sort_ = std::move(sort); }
-    // Makes the columns as wide as what they hold, the first takes what is left. Where that is too much, the
-    // widest texts are cut for the figures, unless not even that brings all columns into sight.
+    // Makes the columns as wide as their contents; the first gets the rest of the width. If they do
+    // not fit, the widest texts are cut off in favour of the numbers, unless not even that would make
+    // all columns visible.
     void FitColumns();
-    // How wide the list is in which all columns are as wide as what they hold, a long text no wider than a
-    // limit.
+    // Returns the width, in pixels, in which all columns are as wide as their contents, where a long text
+    // only counts up to a limit.
     int WantedWidth() const;
 
   signals:
-    // A double click, or Enter, on a row that can be chosen.
+    // A row that can be selected was double-clicked, or Enter was pressed on it.
     void RowActivated();
-    // Another row is chosen, or none.
+    // The selection has changed.
     void ChosenChanged();
-    // The list holds other rows, or in another order.
+    // The rows or their order have changed.
     void RowsChanged();
 
   protected:
@@ -43,10 +43,11 @@ class ListPane final : public RowView<QTreeView> {
     void changeEvent(QEvent* event) override;
 
   private:
-    // One pass, for a viewport that is room wide.
+    // Does one pass of FitColumns, for a viewport that is room pixels wide.
     void FitColumnsInto(int room);
     std::vector<int> WantedWidths() const;
-    // Takes from the widest texts what all columns are wider than room.
+    // Reduces the widest texts until all columns together fit into room. Does nothing if they cannot be
+    // reduced enough.
     void NarrowTexts(std::vector<int>& widths, int room) const;
     void TellActivated() override { emit RowActivated(); }
     void TellChosen() override { emit ChosenChanged(); }
@@ -55,7 +56,7 @@ class ListPane final : public RowView<QTreeView> {
     void SortBy(int column);
 
     std::function<void(int)> sort_;
-    QString firstTitle_;  // tells one catalogue's columns from another's
+    QString firstTitle_;  // the title of the first column, by which a change of catalogue is noticed
     bool fitting_ = false;
     bool widthsChosen_ = false;  // the brewer has dragged a column
 };

@@ -20,7 +20,7 @@ Qt::Alignment AlignmentOf(const ListColumn& column) {
     return Qt::AlignVCenter | (column.kind == ListColumnKind::Number ? Qt::AlignRight : Qt::AlignLeft);
 }
 
-// A spot of that colour with an edge, so that a pale one stands out from a pale ground.
+// Returns a spot of that colour, with an outline that makes a pale one visible on a pale background.
 QIcon Swatch(Rgb color) {
     const int side = QFontMetrics(QApplication::font()).ascent();
     const qreal ratio = qApp->devicePixelRatio();
@@ -34,7 +34,7 @@ QIcon Swatch(Rgb color) {
     painter.drawEllipse(QRectF(0.5, 0.5, side - 1, side - 1));
     painter.end();
     QIcon spot(picture);
-    // A selected row must not tint it.
+    // Keeps a selected row from tinting it.
     spot.addPixmap(picture, QIcon::Selected);
     return spot;
 }
@@ -62,7 +62,8 @@ QString ListPaneModel::NameOf(const ListRow& row) {
     return ToQt(CodedName(row.code, row.cells.front())).trimmed();
 }
 
-// Where icons stand for the rows, the name alone tells where a found recipe lies.
+// Returns the tooltip. That of the name includes the folder of a recipe found by a search, because a list of
+// icons has no folder column.
 QString ListPaneModel::TipOf(const ListRow& row, std::size_t col) const {
     QString tip = col == 0 ? NameOf(row) : ToQt(row.cells[col]).trimmed();
     if (col == 0 && !row.origin.empty()) tip += QLatin1Char('\n') + ToQt(row.origin);
@@ -89,7 +90,7 @@ QVariant ListPaneModel::data(const QModelIndex& index, int role) const {
         case Qt::FontRole:
             return row.isGroup ? QVariant(BoldFont(QApplication::font())) : QVariant();
         case Qt::ForegroundRole:
-            // Off, since nobody can choose it, but no less readable.
+            // Disabled, because it cannot be selected, but drawn in the normal text colour to stay readable.
             return row.isGroup ? QVariant(QApplication::palette().brush(QPalette::Text)) : QVariant();
         case Qt::BackgroundRole:
             return row.isGroup ? QVariant(QApplication::palette().brush(QPalette::AlternateBase))

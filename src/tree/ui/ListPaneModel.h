@@ -1,4 +1,4 @@
-// The rows of a list for Qt's views.
+// The model that provides the rows of a list to Qt's views.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -15,11 +15,12 @@ class ListPaneModel final : public QAbstractTableModel {
   public:
     ListPaneModel(const ListTable& list, QObject* parent);
 
-    // A row's name as it is shown, behind its code.
+    // Returns a row's name as it is shown, after its code.
     static QString NameOf(const ListRow& row);
-    // Lets names be edited in place: canRename looks whether a row's may be, rename whether a name is taken.
+    // Lets names be edited in place. canRename returns whether a row's name may be edited, rename whether the
+    // new name was accepted.
     void SetRename(std::function<bool(int row)> canRename, std::function<bool(const QString& name)> rename);
-    // Lets rows be dragged, and others be dropped on them.
+    // Lets rows be dragged, and other objects be dropped on them.
     void SetDrag(KeyDrag drag) { drag_ = std::move(drag); }
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -34,7 +35,7 @@ class ListPaneModel final : public QAbstractTableModel {
                          const QModelIndex& parent) const override;
     bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
                       const QModelIndex& parent) override;
-    // All rows, or one, are others.
+    // Notify the views that all rows, or that one, have changed.
     void Reset();
     void TellRow(int row) { emit dataChanged(index(row, 0), index(row, columnCount() - 1)); }
 

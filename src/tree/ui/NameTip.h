@@ -1,4 +1,4 @@
-// The tips of lists and trees, which show in full what their columns cut.
+// The tooltips of lists and trees, which show in full the texts that their columns cut off.
 #pragma once
 
 #include <QString>
@@ -7,8 +7,8 @@
 
 namespace tw {
 
-// Every line of the text, but for the middle of one that no screen has room for. A name may look like markup;
-// it is shown letter for letter.
+// Returns all lines of the text. From a line that is too long for any screen, the middle is cut out. A name
+// that looks like markup is shown literally.
 inline QString NameTip(const QString& text) {
     constexpr qsizetype kLongest = 200;
     const QString tip = CutLines(text, kLongest);

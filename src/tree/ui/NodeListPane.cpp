@@ -26,7 +26,8 @@ ListPaneModel& NodeListPane::Model() const {
     return details_ ? details_->Model() : icons_->Model();
 }
 
-// A name that is still being edited is taken over as its editor goes, which needs this pane.
+// Deletes the view while this pane still exists: an open editor of a name commits when it is deleted, and
+// calls back into this pane.
 NodeListPane::~NodeListPane() {
     delete &View();
 }
@@ -40,7 +41,7 @@ void NodeListPane::Connect(Pane& pane) {
     setFocusProxy(&pane);
     AcceptKeys(pane);
     pane.Model().SetDrag(drag_);
-    // Only the row whose edit has begun: F2 begins one too.
+    // Only the row whose edit has begun in the model. F2 begins one there, too.
     pane.Model().SetRename([this](int row) { return list_.EditedRow() == row; },
                            [this](const QString& name) { return rename_ && rename_(name); });
     connect(&pane, &Pane::RowActivated, this, &NodeListPane::RowActivated);
@@ -55,7 +56,7 @@ void NodeListPane::SetView(ListViewType type) {
     if (!details && icons_) return icons_->SetKind(type);
     if (details && details_) return;
     const bool hadFocus = (details_ || icons_) && View().hasFocus();
-    // One at a time: the list tells one view of its changes.
+    // Only one view at a time, because the list notifies just one observer.
     delete details_;
     delete icons_;
     details_ = nullptr;
@@ -85,7 +86,7 @@ void NodeListPane::SetDrag(KeyDrag drag) {
 }
 
 bool NodeListPane::IsEditing() const {
-    // One that has closed is hidden until it is deleted.
+    // An editor that has closed stays hidden until it is deleted.
     const auto* editor = View().viewport()->findChild<QLineEdit*>();
     return editor && editor->isVisibleTo(View().viewport());
 }

@@ -1,5 +1,5 @@
-// The widget of a NodeList (lvNames): as icons or with all its columns, with names that are edited in place
-// and rows that are dragged.
+// The widget of a NodeList (lvNames), which shows it as icons or with all its columns. Names are edited in
+// place, and rows can be dragged.
 #pragma once
 
 #include <QWidget>
@@ -18,28 +18,29 @@ class ListPaneModel;
 class NodeListPane final : public QWidget {
     Q_OBJECT
   public:
-    // Shows the list from now on; multi: whether several rows can be chosen. name: what it is called to
-    // assistive programs. REQUIRES: the list lives for as long.
+    // Shows the list. name: its name for screen readers. multi: whether several rows can be selected.
+    // REQUIRES: list outlives the widget.
     NodeListPane(NodeList& list, const QString& name, bool multi, QWidget* parent);
     ~NodeListPane() override;
 
-    // What runs with the name typed over a row; false takes it back.
+    // Sets what is called with the name typed for a row; it returns false to reject the name.
     void SetRename(std::function<bool(const QString& name)> rename);
     void SetDrag(KeyDrag drag);
-    // Shows it so from now on.
+    // Changes the way in which the list is shown.
     void SetView(ListViewType type);
-    // Opens the name that the list says is being edited, if it is not open already; shows the hint.
+    // Updates the hint, and opens the editor of the name that is being edited according to the list, unless
+    // it is already open.
     void ShowState();
-    // The widget that has the rows at present.
+    // The widget that shows the rows at present.
     QAbstractItemView& View() const;
-    // Whether a name is being typed.
+    // True if the editor of a name is open.
     bool IsEditing() const;
 
   signals:
-    // A double click, or Enter, on a row.
+    // A row was double-clicked, or Enter was pressed on it.
     void RowActivated();
     void ChosenChanged();
-    // A click on the header of a column.
+    // The header of a column was clicked.
     void SortAsked(int column);
     void MenuAsked(const QPoint& globalPlace);
     // The editor of a name has closed.
@@ -55,7 +56,7 @@ class NodeListPane final : public QWidget {
     bool multi_;
     std::function<bool(const QString&)> rename_;
     KeyDrag drag_;
-    ListPane* details_ = nullptr;  // one of the two is there
+    ListPane* details_ = nullptr;  // exactly one of the two exists
     IconPane* icons_ = nullptr;
 };
 

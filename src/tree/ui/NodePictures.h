@@ -7,7 +7,7 @@
 
 namespace tw {
 
-// An empty icon for None and Other.
+// Returns the icon; an empty one for None and Other.
 QIcon NodePicture(NodeIcon icon);
 
 }  // namespace tw

@@ -13,7 +13,7 @@
 namespace tw {
 namespace {
 
-// Painting each object would take longer than the work on it.
+// The least time between two updates: painting each object would take longer than the work on it.
 constexpr int kMillisecondsBetween = 40;
 constexpr int kWidthUnits = 56;
 

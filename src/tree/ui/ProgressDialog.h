@@ -1,4 +1,5 @@
-// The progress of an operation on many objects. A short one shows no window, only the hourglass.
+// Shows the progress of an operation on many objects. A short operation shows no window, just
+// the wait cursor.
 #pragma once
 
 #include <QDialog>
@@ -18,11 +19,11 @@ class ProgressDialog final : public QDialog {
     ProgressDialog(ProgressModel& model, QWidget* parent);
     ~ProgressDialog() override;
 
-    // Works, and returns when the work is done or called off. An error that rises from the work goes through.
+    // Runs the work, and returns when it is done or cancelled. Passes on an error that the work raises.
     int exec() override;
 
   protected:
-    // Calls the work off; the window stays until it has ended.
+    // Cancels the work; the window stays open until the work has ended.
     void reject() override;
     void showEvent(QShowEvent* event) override;
 

@@ -120,7 +120,7 @@ void RecipeChooserView::ShowButtons() {
     for (const auto& [name, button] : buttons_) button->setEnabled(chooser_.IsEnabled(name));
 }
 
-// A folder opens, and is taken by cmdAdd alone.
+// Adds the activated recipe to the list. Activating a folder only expands it; just cmdAdd adds its recipes.
 void RecipeChooserView::AddChosen() {
     const std::string key = chooser_.treeRecipes().SelectedKey();
     if (IsRecipeKey(key)) chooser_.Press("cmdAdd");

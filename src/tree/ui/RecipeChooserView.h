@@ -1,4 +1,4 @@
-// The widget in which recipes are picked from the tree into an ordered list.
+// The widget in which recipes are added from the tree to an ordered list.
 #pragma once
 
 #include <QWidget>
@@ -19,12 +19,12 @@ class TreePane;
 class RecipeChooserView final : public QWidget, private RecipeChooserObserver {
     Q_OBJECT
   public:
-    // REQUIRES: the chooser lives for as long.
+    // REQUIRES: chooser outlives the widget.
     RecipeChooserView(RecipeChooser& chooser, QWidget* parent);
     ~RecipeChooserView() override;
 
   signals:
-    // The list, or its order, is another.
+    // The recipes in the list, or their order, have changed.
     void SelectionChanged();
 
   protected:

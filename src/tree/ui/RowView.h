@@ -1,5 +1,5 @@
-// What the views of a list share, whether they show columns or icons: rows and choice in step with the list,
-// rows found by typing their beginning, and a hint in place of no rows.
+// The common base of the views of a list, as columns or as icons. It keeps rows and selection in step with
+// the list, finds rows by typing their beginning, and shows a hint if there are no rows.
 #pragma once
 
 #include <QAbstractItemView>
@@ -22,8 +22,8 @@ namespace tw {
 template <class View>
 class RowView : public View, protected ListTableObserver {
   public:
-    // name: what it is called to assistive programs. REQUIRES: the list lives for as long; nobody else
-    // observes it.
+    // name: the name of the list for screen readers. REQUIRES: list outlives the view and has
+    // no other observer.
     RowView(ListTable& list, const QString& name, QWidget* parent)
         : View(parent), list_(list), model_(new ListPaneModel(list, this)) {
         this->setAccessibleName(name);
@@ -34,17 +34,17 @@ class RowView : public View, protected ListTableObserver {
     ~RowView() override { list_.SetObserver(nullptr); }
 
     ListPaneModel& Model() const { return *model_; }
-    // What stands over a list without rows.
+    // Sets the text shown in a list without rows.
     void SetHint(const QString& hint) {
         hint_ = hint;
         this->viewport()->update();
     }
-    // Whether several rows can be chosen.
+    // Sets whether several rows can be selected.
     void SetMulti(bool multi) {
         multi_ = multi;
         this->setSelectionMode(multi ? View::ExtendedSelection : View::SingleSelection);
     }
-    // Opens the name of a row for editing, if it may be.
+    // Opens the editor of a row's name, if the name may be edited.
     void EditRow(int row) {
         const QModelIndex index = model_->index(row, 0);
         if (!index.isValid() || !model_->flags(index).testFlag(Qt::ItemIsEditable)) return;
@@ -52,13 +52,13 @@ class RowView : public View, protected ListTableObserver {
         this->edit(index);
     }
 
-    // Letters typed in quick succession are one beginning.
+    // Letters typed in quick succession form one beginning.
     void keyboardSearch(const QString& search) override {
         const bool goesOn =
             sinceTyped_.isValid() && sinceTyped_.elapsed() <= QApplication::keyboardInputInterval();
         sinceTyped_.start();
         typed_ = goesOn ? typed_ + search : search;
-        // One letter again goes on to the next row; a longer beginning may still fit the present one.
+        // Typing one letter again moves to the next row; a longer beginning may still match the present one.
         const bool repeated = typed_.count(search) == typed_.size() && search.size() == 1;
         const QString wanted = repeated ? search : typed_;
         const int row = list_.FindTyped(FromQt(wanted), list_.Selected() + (wanted.size() == 1 ? 1 : 0));
@@ -66,11 +66,11 @@ class RowView : public View, protected ListTableObserver {
     }
 
   protected:
-    // A double click, or Enter, on a row that can be chosen.
+    // A row that can be selected was double-clicked, or Enter was pressed on it.
     virtual void TellActivated() = 0;
-    // Other rows are chosen, or none.
+    // The selection has changed.
     virtual void TellChosen() = 0;
-    // The rows are others; their choice is shown afterwards.
+    // The rows have changed; the selection is updated after this call.
     virtual void ShowRows() {}
 
     void ListChanged() override {
@@ -99,7 +99,7 @@ class RowView : public View, protected ListTableObserver {
             this->selectionModel()->clearCurrentIndex();
         this->selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect);
         if (row.isValid()) {
-            // A first row comes into view with the heading above it.
+            // The first row below a heading is scrolled into view together with the heading.
             if (row.row() > 0 && list_.Row(row.row() - 1).isGroup)
                 this->scrollTo(model_->index(row.row() - 1, 0));
             this->scrollTo(row);
@@ -129,7 +129,8 @@ class RowView : public View, protected ListTableObserver {
     void keyPressEvent(QKeyEvent* event) override {
         const int key = event->key();
         const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
-        // What ends the editing of a name neither opens the row nor presses the window's button.
+        // Enter that ends the editing of a name neither opens the row nor presses the
+        // window's default button.
         if (enter && this->state() == View::EditingState) return event->accept();
         if (enter && list_.Selected() != ListTable::kNoRow) return TellActivated();
         View::keyPressEvent(event);
@@ -174,8 +175,8 @@ class RowView : public View, protected ListTableObserver {
     QString typed_;
     QElapsedTimer sinceTyped_;
     bool multi_ = false;
-    bool following_ = false;  // the selection changes by the list, not by the brewer
-    bool choosing_ = false;   // the list takes over what the view has chosen
+    bool following_ = false;  // true while the list, not the brewer, changes the selection
+    bool choosing_ = false;   // true while the list adopts what was selected in the view
 };
 
 }  // namespace tw

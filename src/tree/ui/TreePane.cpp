@@ -78,7 +78,7 @@ QVariant TreePaneModel::data(const QModelIndex& index, int role) const {
 bool TreePaneModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::EditRole || !rename_ || !index.isValid()) return false;
     const QString name = value.toString();
-    // Left as it was it is no rename.
+    // A name that was left unchanged is not a rename.
     return name != ToQt(items_.Text(ItemOf(index))) && rename_(name);
 }
 
@@ -174,7 +174,7 @@ void TreePane::currentChanged(const QModelIndex& current, const QModelIndex& pre
         chosen = choose_(items_.Key(item));
     else
         items_.Select(item);
-    // Within this event the view still moves its own selection.
+    // Queued, because the view still changes its own selection during this event.
     if (!chosen) QMetaObject::invokeMethod(this, &TreePane::ShowSelection, Qt::QueuedConnection);
 }
 
@@ -185,8 +185,8 @@ void TreePane::EditSelected() {
     edit(index);
 }
 
-// The chosen entry was brought into view before the view had its size: its first rows are seen with it where
-// there is room for both.
+// The selected entry was scrolled into view before the view had its size. Repeats that from the top, so that
+// the first entries are visible as well if there is room for both.
 void TreePane::showEvent(QShowEvent* event) {
     QTreeView::showEvent(event);
     if (std::exchange(shown_, true)) return;
@@ -202,9 +202,9 @@ void TreePane::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint h
 
 void TreePane::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    // That ends the editing of a name.
+    // Here, Enter ends the editing of a name.
     if (enter && state() == EditingState) return event->accept();
-    // Where nobody waits for it, Enter is the dialog's.
+    // Without a receiver of the signal, Enter is left to the dialog.
     const bool awaited = isSignalConnected(QMetaMethod::fromSignal(&TreePane::ItemActivated));
     if (awaited && enter && currentIndex().isValid()) {
         emit ItemActivated();
@@ -218,7 +218,8 @@ void TreePane::startDrag(Qt::DropActions actions) {
     StartKeyDrag(*this, {items_.SelectedKey()});
 }
 
-// Qt refuses what stands below the dragged entry; here the operation itself tells why that cannot be.
+// Accepts drops that Qt refuses, namely on an entry below the dragged one: the operation itself then says why
+// that is impossible.
 void TreePane::dragMoveEvent(QDragMoveEvent* event) {
     QTreeView::dragMoveEvent(event);
     if (event->isAccepted() || !model_->HasDrag()) return;

@@ -1,4 +1,4 @@
-// The widget of a tree of folders, styles and recipes.
+// The widget that shows a tree of folders, styles and recipes.
 #pragma once
 
 #include <QAbstractItemModel>
@@ -16,14 +16,15 @@ class TreePaneModel final : public QAbstractItemModel, private TreeItemsObserver
     TreePaneModel(TreeItems& items, QObject* parent);
     ~TreePaneModel() override;
 
-    // The number of an entry, TreeItems::kNone for none; and its index.
+    // Convert between an entry, identified by its number in TreeItems, and its index; TreeItems::kNone is the
+    // invalid index.
     static int ItemOf(const QModelIndex& index);
     QModelIndex IndexOf(int item) const;
-    // What an entry can be renamed to in place; without it none can be edited. canRename looks whether it
-    // may, rename whether the name is taken.
+    // Lets entries be renamed in place; without this call none can be. canRename returns whether an entry may
+    // be renamed, rename whether the new name was accepted.
     void SetRename(std::function<bool(int item)> canRename, std::function<bool(const QString& name)> rename);
 
-    // Lets entries be dragged by their keys, and others be dropped on them.
+    // Lets entries be dragged by their keys, and other objects be dropped on them.
     void SetDrag(KeyDrag drag) { drag_ = std::move(drag); }
     bool HasDrag() const { return static_cast<bool>(drag_); }
 
@@ -62,21 +63,20 @@ class TreePaneModel final : public QAbstractItemModel, private TreeItemsObserver
 class TreePane final : public QTreeView {
     Q_OBJECT
   public:
-    // Shows the entries from now on. name: what it is called to assistive programs. REQUIRES: they live for
-    // as long.
+    // Shows the entries. name: the name of the tree for screen readers. REQUIRES: items outlives the widget.
     TreePane(TreeItems& items, const QString& name, QWidget* parent);
 
     TreePaneModel& Model() const { return *model_; }
-    // What runs when the brewer chooses an entry; false leaves the choice where it was. Without it the entry
-    // is chosen.
+    // Sets what is called when the brewer selects an entry; it returns false to keep the selection as it was.
+    // Without it, the entry is selected.
     void SetChoose(std::function<bool(const std::string& key)> choose) { choose_ = std::move(choose); }
-    // Opens the chosen entry's text for editing.
+    // Opens the editor of the selected entry's text.
     void EditSelected();
 
   signals:
-    // A double click, or Enter, on an entry.
+    // An entry was double-clicked, or Enter was pressed on it.
     void ItemActivated();
-    // The chosen entry is another.
+    // The selected entry has changed.
     void ChosenChanged();
 
   protected:
@@ -97,8 +97,8 @@ class TreePane final : public QTreeView {
     TreeItems& items_;
     TreePaneModel* model_;
     std::function<bool(const std::string&)> choose_;
-    bool following_ = false;  // the entries change by their object, not by the brewer
-    bool shown_ = false;      // has been on the screen
+    bool following_ = false;  // true while the model, not the brewer, changes the entries
+    bool shown_ = false;      // has been visible
 };
 
 }  // namespace tw
