@@ -42,7 +42,7 @@ CannotUndoDialog::CannotUndoDialog(DialogModel& model, QWidget* parent) : QDialo
         button->setObjectName(QLatin1String(name));
         connect(button, &QPushButton::clicked, this, [this, name = name] { Press(name); });
         buttons->addWidget(button);
-        // The safe one: whoever only presses Enter loses nothing.
+        // The safe button is the default: a brewer who just presses Enter loses nothing.
         button->setDefault(std::string_view(name) == "cmdNo");
         if (button->isDefault()) button->setFocus();
     }

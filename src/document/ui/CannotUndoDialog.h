@@ -1,4 +1,4 @@
-// The window of the question before a change that no undo takes back.
+// The dialog that asks before a change that cannot be undone.
 #pragma once
 
 #include <QDialog>

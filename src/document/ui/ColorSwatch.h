@@ -1,4 +1,4 @@
-// The plain coloured area beside the beer's colour.
+// The area beside the beer's colour that is filled with it.
 #pragma once
 
 #include <QWidget>

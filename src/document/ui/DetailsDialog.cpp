@@ -83,7 +83,7 @@ void DetailsDialog::AddFigures(QVBoxLayout& column) {
     grid->setHorizontalSpacing(Unit(*this) * kMarginUnits);
     grid->setVerticalSpacing(Unit(*this) * kGapUnits);
     for (const DialogControl& control : model_.Controls()) {
-        // The slider shows its position itself.
+        // The slider shows its position itself, without a label.
         if (!control.name.starts_with("lbl")) continue;
         const int row = grid->rowCount();
         const QString caption = CaptionOf(control.name);
@@ -111,7 +111,7 @@ void DetailsDialog::AddBalance(QVBoxLayout& column) {
     slider->setTickPosition(QSlider::TicksBelow);
     slider->setTickInterval(kBalanceEnd / 4);
     slider->setMinimumWidth(Unit(*this) * 40);
-    // It shows and takes nothing: neither the mouse nor the keys move it.
+    // Display only: neither the mouse nor the keys move it.
     slider->setAttribute(Qt::WA_TransparentForMouseEvents);
     slider->setFocusPolicy(Qt::NoFocus);
     auto* ends = new QHBoxLayout;

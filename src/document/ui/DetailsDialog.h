@@ -1,4 +1,4 @@
-// The windows that show more about a recipe's figures: frmStrengthDetails, frmFinalVolDetails, frmHopDetails.
+// The dialogs with the details of a recipe: frmStrengthDetails, frmFinalVolDetails and frmHopDetails.
 #pragma once
 
 #include <QDialog>

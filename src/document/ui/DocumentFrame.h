@@ -1,4 +1,4 @@
-// What a document window asks of the main window around it.
+// What a document window needs from the main window around it.
 #pragma once
 
 #include <QPoint>
@@ -8,7 +8,7 @@
 
 namespace tw {
 
-// The two colour pairs of the settings, as far as the brewer has chosen them.
+// The two colour pairs of the settings. A colour that the brewer has not chosen is invalid.
 struct GridColors {
     CellColors readOnly, total;
 };
@@ -16,10 +16,10 @@ struct GridColors {
 class DocumentFrame {
   public:
     virtual ~DocumentFrame() = default;
-    // Runs a command of the main window. False when it is disabled: the key may then do what it does
-    // elsewhere.
+    // Runs a command of the main window. Returns false if the command is disabled; its key may then have its
+    // usual effect.
     virtual bool RunCommand(CommandId command) = 0;
-    // Opens the edit menu as a popup.
+    // Opens the Edit menu as a popup.
     virtual void ShowEditMenu(const QPoint& globalPosition) = 0;
     virtual GridColors Colors() const = 0;
 };

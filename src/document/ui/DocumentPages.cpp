@@ -31,7 +31,7 @@ QVBoxLayout* ColumnOf(PageBuilder& b) {
     return column;
 }
 
-// A row of controls, each at its own width, at the left.
+// Returns a row of controls, aligned left, each with its own width.
 QHBoxLayout* RowOf(PageBuilder& b, std::initializer_list<QWidget*> widgets) {
     auto* row = new QHBoxLayout;
     row->setSpacing(Unit(b.Page()) * kGapUnits);

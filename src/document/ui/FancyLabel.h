@@ -1,4 +1,4 @@
-// A caption over a rule of two lines at half its height, such as "Basic" on the first tab.
+// A caption on a horizontal rule of two lines at half its height, such as "Basic" on the first tab.
 #pragma once
 
 #include <QColor>
@@ -8,13 +8,13 @@ namespace tw {
 
 class FancyLabel final : public QWidget {
     Q_OBJECT
-    // With AutoSize the control takes the width of its caption.
+    // If true, the control is as wide as its caption.
     Q_PROPERTY(bool AutoSize READ AutoSize WRITE SetAutoSize)
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)
     // Distance of the caption from the left edge, in twips (a twentieth of a point).
     Q_PROPERTY(int CaptionOffset READ CaptionOffset WRITE SetCaptionOffset)
-    // The colours; an invalid one stands for the system's: button text, button face, button shadow, 3-D
-    // highlight.
+    // The colours. An invalid colour means that of the system: button text, button face, button shadow and
+    // 3-D highlight, in this order.
     Q_PROPERTY(QColor ForeColor MEMBER foreColor_)
     Q_PROPERTY(QColor BackColor MEMBER backColor_)
     Q_PROPERTY(QColor LineColor MEMBER lineColor_)

@@ -17,7 +17,7 @@ FieldBox::FieldBox(DocumentBinding& binding, TextBox& box, const QString& name, 
     if (digits_ > 0) setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     if (computed_) {
         setReadOnly(true);
-        // A figure can be copied with the mouse, and Tab goes from entry to entry.
+        // A computed figure can be clicked, to copy it, but Tab skips it.
         setFocusPolicy(Qt::ClickFocus);
         setFrame(false);
         LookComputed();
@@ -52,7 +52,7 @@ void FieldBox::ShowText() {
 }
 
 void FieldBox::ShowSelection() {
-    // It has just been told from here.
+    // The change comes from this widget.
     if (showing_) return;
     const TextSelection wanted = box_.Selection();
     const int start = UnitPlace(text(), wanted.start);
@@ -74,7 +74,7 @@ void FieldBox::TellSelection() {
     showing_ = false;
 }
 
-// A figure stands on the window's ground, not in a box that asks for an entry.
+// Gives a computed figure the background of the window, so that it does not look like a box for an entry.
 void FieldBox::LookComputed() {
     QPalette colors = palette();
     const QColor ground = parentWidget() ? parentWidget()->palette().color(QPalette::Window) : QColor();
@@ -116,7 +116,8 @@ void FieldBox::keyPressEvent(QKeyEvent* event) {
     if (binding_.HandleEditKey(*event)) return;
     switch (event->key()) {
         case Qt::Key_Delete:
-            // Selected text goes as one step of the history, with or without the menu.
+            // Deletes selected text by the command, as one step of the history, even if the menu has not used
+            // the key.
             if ((event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier || !hasSelectedText() ||
                 isReadOnly())
                 break;

@@ -1,5 +1,5 @@
-// A text box of a recipe: every change goes to the document, leaving it or Enter commits, Escape restores. A
-// refused entry keeps the focus with its text selected.
+// A text box of a recipe. Passes every change of the text to the document; leaving the box or pressing Enter
+// commits, and Escape restores. A refused entry keeps the focus, with its text selected.
 #pragma once
 
 #include <QLineEdit>
@@ -11,7 +11,7 @@ namespace tw {
 class FieldBox final : public QLineEdit {
     Q_OBJECT
   public:
-    // digits: how many digits wide; 0 takes the width that the layout gives. name: the accessible name.
+    // digits: the width of the box in digits; 0 lets the layout decide. name: the accessible name.
     FieldBox(DocumentBinding& binding, TextBox& box, const QString& name, int digits, QWidget* parent);
 
     QSize sizeHint() const override;
@@ -30,14 +30,14 @@ class FieldBox final : public QLineEdit {
     void ShowSelection();
     void TellSelection();
     void LookComputed();
-    // False for a bad entry.
+    // False if the entry was refused.
     bool Commit();
 
     DocumentBinding& binding_;
-    TextBox& box_;  // gone after the binding has let go of the document
+    TextBox& box_;  // dangling once the binding is detached
     const bool computed_;
     int digits_;
-    bool showing_ = false;  // the selection comes from the document
+    bool showing_ = false;  // true while the selection is copied from or to the document
 };
 
 }  // namespace tw

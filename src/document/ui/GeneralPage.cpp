@@ -20,18 +20,18 @@ namespace {
 
 constexpr int kVolumeDigits = 10;
 constexpr int kFigureDigits = 13;
-// ">50 SRM (200 HCU)", of a dark beer.
+// Wide enough for ">50 SRM (200 HCU)", of a dark beer.
 constexpr int kColorDigits = 15;
 constexpr int kGravityDigits = 7;
 
-// Columns of the figures.
+// The columns of the layout of the figures.
 enum FigureColumn { Caption, Box, Extra, Range, Bar, FigureColumns };
 
 QString Tr(const char* text) {
     return QCoreApplication::translate("GeneralPage", text);
 }
 
-// A captioned rule over the columns of a layout, with the distance of a group above it.
+// Adds a rule with a caption across the columns of a layout, with the space between groups above it.
 void AddRule(PageBuilder& b, QGridLayout& grid, int columns, int number, const QString& caption) {
     const int row = grid.rowCount();
     if (number != 1 && row > 1) grid.setRowMinimumHeight(row, Unit(b.Page()));
@@ -132,7 +132,7 @@ QGridLayout* MakeFigures(PageBuilder& b) {
     return grid;
 }
 
-// The sizes beside the figures, or above them in a window that is too narrow for both.
+// Shows the sizes beside the figures, or above them in a window that is too narrow for both.
 class FacePage final : public QWidget {
   public:
     FacePage(PageBuilder& b, QWidget* parent)

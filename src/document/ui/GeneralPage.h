@@ -1,4 +1,4 @@
-// The first tab, the recipe's face: its name and sizes at the left, its figures at the right.
+// The first tab: the recipe's name and sizes on the left, its figures on the right.
 #pragma once
 
 namespace tw {

@@ -23,7 +23,7 @@ constexpr int kFrameWidth = 2;
 GridPanel::GridPanel(DocumentBinding& binding, Grid& grid, const QString& name, const QString& hint,
                      QWidget* parent)
     : QFrame(parent), view_(new GridView(binding, grid, name, this)) {
-    // Room for the ring that shows the focus, also around a grid without rows.
+    // Makes room for the ring that shows the focus, even around a grid without rows.
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(kFrameWidth);
     setAutoFillBackground(true);
@@ -60,8 +60,8 @@ QSize GridPanel::minimumSizeHint() const {
     return {Unit(*this) * 30, header + kLeastRows * view_->RowHeight() + TotalsHeight()};
 }
 
-// The height that a scroll bar below the rows takes; 0 when all columns are in sight. It is worked out, since
-// Qt shows its scroll bars only after the rows have their place.
+// Returns the height in pixels of the scroll bar below the rows; 0 if all columns are visible. It is
+// calculated, because Qt shows its scroll bars only after the rows have been placed.
 int GridPanel::WideBarHeight(int room) const {
     const bool allRows = view_->ContentHeight() <= room;
     const int sideBar = allRows ? 0 : view_->verticalScrollBar()->sizeHint().width();

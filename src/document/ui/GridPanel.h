@@ -1,4 +1,4 @@
-// A grid with what belongs around it: the totals rows pinned below the data rows, and one grey line that says
+// A grid together with its totals rows, which stay visible below the data rows, and a grey line that says
 // what to type while the grid is blank.
 #pragma once
 
@@ -15,7 +15,7 @@ class TotalsView;
 class GridPanel final : public QFrame {
     Q_OBJECT
   public:
-    // name: the grid's name to assistive programs; hint: what to type, may be empty.
+    // name: the grid's name for screen readers. hint: what to type; may be empty.
     GridPanel(DocumentBinding& binding, Grid& grid, const QString& name, const QString& hint,
               QWidget* parent);
 
@@ -32,9 +32,9 @@ class GridPanel final : public QFrame {
 
   private:
     int TotalsHeight() const;
-    // room: the height for the rows and their scroll bars.
+    // room: the height in pixels for the rows and their scroll bars.
     int WideBarHeight(int room) const;
-    // Places the rows, the totals under the last row, or at the bottom when there is no room for all rows.
+    // Places the rows, and the totals below the last row, or at the bottom if there is no room for all rows.
     void Arrange();
     void LookHint();
 

@@ -38,7 +38,7 @@ ListField::ListField(DocumentBinding& binding, const ListBox& list, const QStrin
     completer()->setCaseSensitivity(Qt::CaseInsensitive);
     completer()->setMaxVisibleItems(kVisibleEntries);
     completer()->popup()->installEventFilter(this);
-    // Before the completer's own filter, which keeps the loss of the focus from the box.
+    // Runs before the completer's own filter, which hides the loss of focus from the box.
     installEventFilter(this);
     ShowList();
     binding_.Watch(&list_, [this] { ShowList(); });
@@ -69,7 +69,8 @@ void ListField::Choose(int index) {
     ShowList();
 }
 
-// The entry that the typed text is or, when just one holds it, stands for; -1 for none.
+// Returns the index of the entry that the typed text names or, if only one entry contains the text, of that
+// one; -1 if there is none.
 int ListField::TypedEntry() const {
     const QString typed = currentText().trimmed();
     if (typed.isEmpty()) return -1;
@@ -87,7 +88,7 @@ int ListField::TypedEntry() const {
 
 void ListField::Settle() {
     if (!binding_.Document()) return;
-    // Left open, the list of matches would go on catching the keys.
+    // If it stayed open, the list of matches would still catch the keys.
     completer()->popup()->hide();
     const int typed = TypedEntry();
     if (typed >= 0) Choose(typed);
@@ -113,8 +114,8 @@ bool ListField::IsLeft(const QFocusEvent& event) const {
     return !GoesToOwnPopup(event) && !GoesToAnotherProgram(event);
 }
 
-// Whether one of the lists of the box or the menu of its text opens. Any other menu is a way to leave: the
-// focus need not come back from it.
+// True if a list of the box or the menu of its text opens. Any other menu counts as leaving the box, because
+// the focus may not come back from it.
 bool ListField::GoesToOwnPopup(const QFocusEvent& event) const {
     const QWidget* const popup = QApplication::activePopupWidget();
     return event.reason() == Qt::PopupFocusReason && popup && IsOwnPopup(*popup);
@@ -124,7 +125,8 @@ bool ListField::IsOwnPopup(const QWidget& popup) const {
     return &popup == completer()->popup() || isAncestorOf(&popup);
 }
 
-// A menu that opens over the list of matches takes no focus from the box, so it is looked out for.
+// Watches for menus that open while the list of matches is open, because these do not take the focus
+// from the box.
 bool ListField::eventFilter(QObject* object, QEvent* event) {
     if (object == this) {
         const bool out = event->type() == QEvent::FocusOut;
@@ -143,7 +145,7 @@ bool ListField::GoesToAnotherProgram(const QFocusEvent& event) const {
     return event.reason() == Qt::ActiveWindowFocusReason && !isActiveWindow();
 }
 
-// The wheel changes the list only after it was chosen; before, it scrolls the page.
+// The wheel changes the list only while it has the focus; otherwise it scrolls the page.
 void ListField::wheelEvent(QWheelEvent* event) {
     if (hasFocus())
         QComboBox::wheelEvent(event);
@@ -152,7 +154,7 @@ void ListField::wheelEvent(QWheelEvent* event) {
 }
 
 void ListField::keyPressEvent(QKeyEvent* event) {
-    // While a name is being typed, undo is about its letters.
+    // While a name is being typed, Undo applies to its letters.
     const bool typing = lineEdit()->isUndoAvailable() && event->matches(QKeySequence::Undo);
     if (!typing && binding_.HandleListKey(*event)) return;
     if (event->key() == Qt::Key_Escape) {

@@ -1,5 +1,5 @@
-// A list of the record whose entries are found by typing any part of their text. Only an entry counts: any
-// other text gives way to the entry that is selected.
+// A list of the record in which typing any part of an entry's text finds it. Only an entry can be chosen: any
+// other text is replaced by the selected entry.
 #pragma once
 
 #include <QComboBox>
@@ -12,8 +12,8 @@ namespace tw {
 class ListField final : public QComboBox {
     Q_OBJECT
   public:
-    // select carries out the choice of an entry; entryOf finds the entry that a typed text names, -1 for
-    // none.
+    // select is called with the index of the entry that was chosen. entryOf returns the index of the entry
+    // that a typed text names, or -1.
     ListField(DocumentBinding& binding, const ListBox& list, const QString& name, QWidget* parent,
               std::function<void(RecipeDocument&, int)> select,
               std::function<int(const RecipeDocument&, std::string_view)> entryOf);
@@ -29,13 +29,13 @@ class ListField final : public QComboBox {
     void ShowList();
     void Choose(int index);
     int TypedEntry() const;
-    // Whether it is the list of matches, the list that drops down, or the menu of the text.
+    // True for the list of matches, the drop-down list and the context menu of the text.
     bool IsOwnPopup(const QWidget& popup) const;
-    // Whether the focus goes where it need not come back from.
+    // True if the focus moves to where it may not come back from.
     bool IsLeft(const QFocusEvent& event) const;
     bool GoesToOwnPopup(const QFocusEvent& event) const;
     bool GoesToAnotherProgram(const QFocusEvent& event) const;
-    // What was typed becomes the choice, or the present entry comes back.
+    // Chooses the entry that was typed; if there is none, shows the present entry again.
     void Settle();
 
     DocumentBinding& binding_;

@@ -1,5 +1,5 @@
-// The calendar of the brew log: it opens beside the date cell of the current row and writes the day that is
-// picked.
+// The calendar of the brew log. It opens beside the date cell of the current row, and enters the day that is
+// picked there.
 #pragma once
 
 #include <QObject>
@@ -17,7 +17,8 @@ class LogCalendar final : public QObject {
   public:
     LogCalendar(DocumentBinding& binding, GridView& log, QWidget* page);
 
-    // Shows the calendar at the date of the current row; does nothing without a row.
+    // Shows the calendar at the date of the current row, or at today if that has none. Does nothing without a
+    // current data row, or if the open cell editor has an entry that is refused.
     void Open();
 
   private:

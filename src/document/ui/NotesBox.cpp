@@ -8,7 +8,8 @@
 namespace tw {
 namespace {
 
-// The record ends a line with "\r\n" where the text came with it; the widget knows "\n" alone.
+// Returns the text with "\n" as the line end, the only one that the widget knows, instead of
+// the record's "\r\n".
 QString Lines(std::string_view text) {
     return ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
@@ -21,7 +22,7 @@ NotesBox::NotesBox(DocumentBinding& binding, TextBox& box, const QString& name, 
     setAccessibleName(name);
     setTabChangesFocus(true);
     setPlaceholderText(tr("Type what else is worth keeping: the day, the brewers, the taste."));
-    // The recipe's history is the one that counts.
+    // Off, because undo uses the history of the recipe.
     setUndoRedoEnabled(false);
     ShowText();
     binding_.Watch(&box_, [this] { ShowText(); });
@@ -56,7 +57,7 @@ int NotesBox::PlaceInWidget(int place) const {
 }
 
 void NotesBox::ShowSelection() {
-    // It has just been told from here.
+    // The change comes from this widget.
     if (showing_) return;
     const TextSelection wanted = box_.Selection();
     QTextCursor cursor = textCursor();

@@ -1,4 +1,4 @@
-// The notes of a recipe: text of many lines. Leaving it commits, Escape restores.
+// The notes of a recipe: text of several lines. Leaving the box commits, Escape restores.
 #pragma once
 
 #include <QPlainTextEdit>
@@ -24,14 +24,15 @@ class NotesBox final : public QPlainTextEdit {
     void ShowText();
     void ShowSelection();
     void TellSelection();
-    // The record's place of a place in the widget, and the other way round.
+    // Convert positions between the widget (in UTF-16 units, with "\n" as the line end) and the record (in
+    // code points, with "\r\n").
     int PlaceInRecord(int place) const;
     int PlaceInWidget(int place) const;
     bool Commit();
 
     DocumentBinding& binding_;
     TextBox& box_;
-    bool showing_ = false;  // the text comes from the document, not from the keyboard
+    bool showing_ = false;  // true while text or selection is copied from or to the document
 };
 
 }  // namespace tw

@@ -1,5 +1,5 @@
-// Makes the controls of a document's tabs, each tied to its object of the record and named for assistive
-// programs.
+// Creates the controls of a document's tabs. Each is bound to its object of the record and named
+// for screen readers.
 #pragma once
 
 #include <QWidget>
@@ -20,7 +20,7 @@ class RangeBar;
 
 class PageBuilder {
   public:
-    // The document must be there.
+    // REQUIRES: binding.Document() is not nullptr. Both references must outlive the builder.
     PageBuilder(DocumentBinding& binding, QWidget& page)
         : binding_(binding), record_(binding.Document()->Record()), page_(page) {}
 
@@ -28,23 +28,23 @@ class PageBuilder {
     RecipeRecord& Record() const { return record_; }
     QWidget& Page() const { return page_; }
 
-    // A label right before its control, whose buddy it is; "&" marks the mnemonic.
+    // Creates a label for the control after it, its buddy; "&" marks the access key.
     QLabel* LabelFor(const QString& caption, QWidget* buddy);
-    // The field's caption beside it.
+    // Creates the label with the caption of a field.
     QLabel* LabelFor(FieldBox* field);
     static QString CaptionOf(const TextBox& box);
-    // caption: the text of the box's label. digits: the usual width, 0 for as wide as there is room.
+    // Creates the box of a field. digits: its width in digits; 0 for all the width that there is.
     FieldBox* Field(TextBox& box, int digits);
-    // A computed or typed figure in the larger face.
+    // As Field, in the larger font of figures.
     FieldBox* Figure(TextBox& box, int digits);
-    // A label of the record, such as a style's range.
+    // Creates a label that shows one of the record, such as a style's range. name: the accessible name.
     QLabel* RecordLabel(const Label& label, const QString& name);
-    // The bar that belongs to a figure and its range.
+    // Creates the bar for a figure and its range. what: the name of the figure.
     RangeBar* Bar(const TextBox& figure, const Label& range, const QString& what);
     QPushButton* CommandButton(const Button& button, const QString& caption, const QString& name,
                                std::function<void(RecipeDocument&)> action);
     QComboBox* StyleList(const QString& name);
-    // An option button of that control name.
+    // Creates the option button with that control name.
     QRadioButton* Option(const OptionGroup& group, const QString& option, const QString& caption);
     GridPanel* GridOf(Grid& grid, const QString& hint);
 
@@ -54,7 +54,7 @@ class PageBuilder {
     QWidget& page_;
 };
 
-// "&Beer Name:" as "Beer Name".
+// Returns a caption without access key and colon: "Beer Name" for "&Beer Name:".
 QString PlainCaption(QString caption);
 
 }  // namespace tw

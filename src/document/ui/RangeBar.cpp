@@ -15,7 +15,7 @@ QAccessibleInterface* MakeInterface(const QString& key, QObject* object) {
     return bar ? new QAccessibleWidget(bar, QAccessible::Indicator) : nullptr;
 }
 
-// A diamond for a figure in the range, an arrow that points out for one outside.
+// Returns a diamond for a figure within the range, and an arrow pointing away from it for one outside.
 QPolygonF Mark(RangePlace place, const QPointF& center, double size) {
     const double x = center.x(), y = center.y();
     switch (place) {

@@ -1,5 +1,5 @@
-// A thin bar that shows where in its style's range a figure lies: the range as a band, the figure as a
-// diamond in it, or as an arrow that points the way when the figure lies outside.
+// A thin bar that shows where a figure is in the range of its style: the range as a band, and the figure as a
+// diamond in it or, outside it, as an arrow that points away from the range.
 #pragma once
 
 #include <QWidget>
@@ -16,9 +16,10 @@ class RangeBar final : public QWidget {
     // what: the figure's name, such as "Original Gravity".
     explicit RangeBar(const QString& what, QWidget* parent = nullptr);
 
-    // Both texts as shown. Without a range nothing is painted; without a figure the band alone.
+    // Shows a range and a figure, given by their texts as displayed. Without a range nothing is painted;
+    // without a figure only the band is.
     void Show(std::string_view rangeLabel, std::string_view figureText);
-    // "within the style's range", "below ...", "above ...", or empty.
+    // Returns "within the style's range", "below ...", "above ..."; empty without a range or a figure.
     QString Verdict() const;
 
     QSize sizeHint() const override;
@@ -33,7 +34,7 @@ class RangeBar final : public QWidget {
     std::optional<double> figure_;
 };
 
-// Makes the bars known to assistive programs as indicators. Called once.
+// Makes screen readers treat the bars as indicators. To be called once.
 void InstallRangeBarAccessibility();
 
 }  // namespace tw

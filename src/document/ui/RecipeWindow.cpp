@@ -50,7 +50,7 @@ RecipeWindow::RecipeWindow(RecipeDocument& document, Platform& platform, Documen
     AddTabKeys();
 }
 
-// They work wherever the focus is in the recipe, and nowhere else.
+// The shortcuts work wherever the focus is in the recipe, and nowhere else.
 void RecipeWindow::AddTabKeys() {
     const auto add = [this](const QKeySequence& key, std::function<void()> run) {
         auto* shortcut = new QShortcut(key, this);
@@ -73,7 +73,7 @@ void RecipeWindow::StepTab(int step) {
 
 RecipeWindow::~RecipeWindow() {
     Detach();
-    // The controls refer to the binding and go before it.
+    // The controls refer to the binding, so they must be destroyed first.
     delete tabs_;
 }
 
@@ -132,7 +132,7 @@ void RecipeWindow::HoldRedraw(bool hold) {
 
 void RecipeWindow::FocusMoved(QWidget* now) {
     RecipeDocument* document = binding_.Document();
-    // Menus and dialogs come and go; the edit commands stay with what they were about.
+    // The edit commands keep their target while a menu or a dialog has the focus.
     if (!document || !now || !isAncestorOf(now)) return;
     binding_.FocusIsIn(*now);
     for (QWidget* control = now; control != this; control = control->parentWidget()) {
@@ -170,7 +170,7 @@ void RecipeWindow::GridColorsChanged() {
 }
 
 QSize RecipeWindow::sizeHint() const {
-    // All tabs side by side, and the first one without scrolling.
+    // Wide enough for all tabs, and large enough to show the first page without scrolling.
     const QWidget* general = pages_[0]->widget();
     const QSize page = general ? general->sizeHint() : QSize();
     const int tabs = tabs_->tabBar()->sizeHint().width();

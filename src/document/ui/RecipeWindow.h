@@ -1,4 +1,4 @@
-// The window of one open recipe: nine tabs that show its record and pass on what the brewer does.
+// The window of one open recipe: nine tabs that display its record and pass on what the brewer does.
 #pragma once
 
 #include <QWidget>
@@ -15,27 +15,28 @@ namespace tw {
 class RecipeWindow final : public QWidget, private DocumentView {
     Q_OBJECT
   public:
-    // All references must live until Detach.
+    // All references must stay valid until Detach.
     RecipeWindow(RecipeDocument& document, Platform& platform, DocumentFrame& frame,
                  QWidget* parent = nullptr);
     ~RecipeWindow() override;
 
     // nullptr after Detach.
     RecipeDocument* Document() const { return binding_.Document(); }
-    // Lets go of the document, which is about to go.
+    // Disconnects the window from the document, which is about to be destroyed.
     void Detach();
 
-    // Brings a tab to the front, as a click on it does; a refused entry keeps the present one.
+    // Shows a tab, as a click on it does. If an entry is refused, the present tab stays.
     void ShowTab(Tab tab);
-    // The control that takes the focus first on the present tab.
+    // The control of the present tab that gets the focus first.
     QWidget* FirstField() const;
     // True for a control on the present tab.
     bool IsEditing(const QWidget& control) const;
-    // Puts the focus into the first cell of the current row of the tab's grid; nothing on a tab without rows.
+    // Moves the focus to the first cell of the current row in the tab's grid. Does nothing on a
+    // tab without rows.
     void FocusRow();
-    // Commits what is being edited. False when an entry was refused; its box has been shown.
+    // Commits what is being edited. False if an entry was refused; a message has been shown.
     bool Flush() { return binding_.Flush(); }
-    // The colours of the settings are others.
+    // To be called when the colours in the settings have changed.
     void GridColorsChanged();
 
     QSize sizeHint() const override;
@@ -45,13 +46,13 @@ class RecipeWindow final : public QWidget, private DocumentView {
     void TabWanted(Tab tab) override;
     void ControlWanted(const std::string& name) override;
     void HoldRedraw(bool hold) override;
-    // Tells the document which control has the focus.
+    // Notifies the document which control has the focus.
     void FocusMoved(QWidget* now);
-    // Ctrl+PageDown, Ctrl+PageUp, and Alt+1 to Alt+9.
+    // Adds the shortcuts Ctrl+PageDown, Ctrl+PageUp, and Alt+1 to Alt+9.
     void AddTabKeys();
-    // To the next (+1) or previous (-1) tab; nothing behind the last and before the first.
+    // Changes to the next (+1) or previous (-1) tab. Does nothing after the last and before the first one.
     void StepTab(int step);
-    // The contents of a tab are made when it is first shown.
+    // Creates the contents of a tab, when it is first shown.
     void BuildTab(int index);
     void TabChosen(int index);
 

@@ -47,7 +47,7 @@ constexpr std::array<CheckText, 2> kChecks{
 
 constexpr int kEntryDigits = 14;
 
-// A menu, or another program in front, does not leave the box.
+// True if the focus leaves the box for another control, false if it leaves for a menu or another program.
 bool IsMove(const QFocusEvent& event) {
     return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason &&
            event.reason() != Qt::ActiveWindowFocusReason;
@@ -125,7 +125,7 @@ void ScalingDialog::AddButtons(QVBoxLayout& column) {
          {std::pair("OKButton", tr("&OK")), std::pair("CancelButton", tr("&Cancel"))}) {
         auto* button = new QPushButton(caption, this);
         button->setObjectName(QLatin1String(name));
-        // A click leaves the focus in the box, so that Cancel checks nothing.
+        // A click leaves the focus in the box, so that Cancel does not check the entry.
         button->setFocusPolicy(Qt::TabFocus);
         button->setDefault(std::string_view(name) == "OKButton");
         connect(button, &QPushButton::clicked, this, [this, name = name] { Press(name); });
@@ -153,7 +153,7 @@ void ScalingDialog::ShowEntry() {
     if (box_->text() != text) box_->setText(text);
 }
 
-// As soon as the present event is over.
+// Moves the focus back to the box as soon as the present event has been handled.
 void ScalingDialog::GoBack() {
     refusing_ = true;
     QMetaObject::invokeMethod(

@@ -1,4 +1,4 @@
-// The windows of frmResizeRecipe, frmChangeOG, frmChangeIBU and frmChangeCO2.
+// The dialogs frmResizeRecipe, frmChangeOG, frmChangeIBU and frmChangeCO2.
 #pragma once
 
 #include <QDialog>
@@ -30,7 +30,7 @@ class ScalingDialog final : public QDialog {
 
     ScalingModel& model_;
     QLineEdit* box_;
-    bool refusing_ = false;  // a bad entry takes the focus back
+    bool refusing_ = false;  // true while leaving the box must not check the entry
 };
 
 }  // namespace tw
