@@ -89,7 +89,7 @@ class EditTracker {
 
     // REQUIRES: name outlives the edit. index is the control's index in a control array, -1 outside one.
     void SetControlID(const std::string& name, int index);
-    // Returns the name, followed by "(index)" in a control array; empty for the head of BeginCompoundEdit.
+    // Returns the name, followed by "(index)" in a control array; empty for a head made by BeginCompoundEdit.
     std::string GetControlID() const;
     tw::ControlType ControlType() const { return controlType_; }
     void SetControlType(tw::ControlType type) { controlType_ = type; }

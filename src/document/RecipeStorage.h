@@ -39,10 +39,11 @@ class RecipeStorage {
     // as Save does.
     bool SaveUnder(std::string_view name, std::int64_t folderId, Asking asking);
 
-    // Return the state of the recipe, unsaved edits included, and put such a state into a new document, which
-    // is changed then, while nothing has been stored. An entry that was being typed is committed if it can be
-    // read. If the stored recipe has been deleted meanwhile, the document has no place; if only its folder
-    // has, no folder. Its save then asks for one. Restore raises Error for rows that do not fit their grid.
+    // Return the state of the recipe, unsaved edits included, and put such a state into a new document. That
+    // document is then changed, and nothing has been stored. An entry that was being typed is committed if it
+    // can be read. If the stored recipe has been deleted meanwhile, the document has neither name nor folder
+    // in the database; if just the folder has, no folder. Its save then asks for one. Restore raises Error
+    // for rows that do not fit their grid.
     RecipeSnapshot TakeSnapshot() const;
     void Restore(const RecipeSnapshot& snapshot);
 

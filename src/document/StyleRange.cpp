@@ -27,7 +27,7 @@ std::optional<double> TakeNumber(std::string_view& text) {
 double MeasureOf(const StyleRange& range) {
     double measure = 0;
     if (range.low && range.high) measure = (*range.high - *range.low) / 2;
-    // A gravity is measured from 0.9.
+    // A value from 0.9 to 1.2 is taken for a gravity, and measured from 0.9.
     const double end = range.high.value_or(range.low.value_or(0));
     if (measure <= 0) measure = (end >= 0.9 && end < 1.2 ? end - 0.9 : std::abs(end)) / 10;
     return measure > 0 ? measure : 1;

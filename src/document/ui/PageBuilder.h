@@ -20,7 +20,7 @@ class RangeBar;
 
 class PageBuilder {
   public:
-    // REQUIRES: binding.Document() is not nullptr. Both references must outlive the builder.
+    // Adds the controls to page. binding must outlive them. REQUIRES: binding.Document() is not nullptr.
     PageBuilder(DocumentBinding& binding, QWidget& page)
         : binding_(binding), record_(binding.Document()->Record()), page_(page) {}
 
