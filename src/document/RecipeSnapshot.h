@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "record/Grid.h"
 #include "platform/DateTime.h"
+#include "record/Grid.h"
 #include "values/Hash.h"
 
 namespace tw {
