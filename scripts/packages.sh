@@ -23,6 +23,7 @@ extended|command|clang++||clang|compiles the fuzzers
 extended|file|/usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*||libclang-rt-14-dev|libFuzzer and its sanitizers
 extended|command|clang-format-14||clang-format-14|the look of the sources
 extended|command|run-clang-tidy-14||clang-tidy-14|static analysis
+extended|library|benchmark||libbenchmark-dev|static analysis of the benchmarks
 '
 
 say() { printf '== %s\n' "$*"; }
@@ -114,18 +115,19 @@ install_needs() {
     fail 'please install these and start again.'
 }
 
+# configure PRESET: makes its build folder; the output of cmake goes into a log there, and is shown if cmake fails.
+configure() {
+    local log=build/$1/configure.log
+    mkdir -p "build/$1"
+    cmake --preset "$1" >"$log" 2>&1 || {
+        cat "$log" >&2
+        fail "preset $1 cannot be configured."
+    }
+}
+
 # build PRESET: configures and builds it.
 build() {
     say "Building (preset $1)"
-    cmake --preset "$1" >"$(build_log "$1")" 2>&1 || {
-        cat "$(build_log "$1")" >&2
-        fail "preset $1 cannot be configured."
-    }
+    configure "$1"
     cmake --build --preset "$1" || fail "preset $1 does not build."
-}
-
-# build_log PRESET: the file that keeps what configuring said.
-build_log() {
-    mkdir -p "build/$1"
-    printf 'build/%s/configure.log' "$1"
 }
