@@ -1,8 +1,8 @@
-# What ./run and ./check need of the machine, how it is found, and how it is installed. Sourced by both (bash).
+# What ./run, ./check and the other scripts need on the machine, how it is found and installed. Sourced by them (bash).
 # shellcheck shell=bash
 
-# One line a need: GROUP|KIND|WHAT|LEAST VERSION|DEBIAN PACKAGE|WHAT FOR.
-# KIND is command (WHAT on the path), library (WHAT a pkg-config module) or file (WHAT a file pattern).
+# One need per line: GROUP|KIND|WHAT|LEAST VERSION|DEBIAN PACKAGE|WHAT FOR.
+# KIND says what WHAT is: a command on the path, a library (a pkg-config module) or a file (a pattern of its path).
 kNeeds='
 build|command|g++|12|g++|the C++20 compiler
 build|command|cmake|3.25|cmake|configures the build
@@ -32,7 +32,7 @@ fail() {
     exit 1
 }
 
-# version_of KIND WHAT: prints the version that is installed.
+# version_of KIND WHAT: prints the installed version of a command or library.
 version_of() {
     case $1 in
     library) pkg-config --modversion "$2" ;;
@@ -40,7 +40,7 @@ version_of() {
     esac
 }
 
-# has KIND WHAT LEAST: whether the machine has it, in that version or a later one.
+# has KIND WHAT LEAST: succeeds if the machine has it, in that version or a later one; an empty LEAST means any.
 has() {
     case $1 in
     command) command -v "$2" >/dev/null ;;
@@ -50,7 +50,7 @@ has() {
     [ -z "$3" ] || printf '%s\n' "$3" "$(version_of "$1" "$2")" | sort -C -V
 }
 
-# missing GROUP...: the lines of kNeeds in these groups that the machine lacks.
+# missing GROUP...: prints those lines of kNeeds in these groups that the machine lacks.
 missing() {
     local group kind what least package why
     while IFS='|' read -r group kind what least package why; do
@@ -60,7 +60,7 @@ missing() {
     done < <(printf '%s' "$kNeeds" | grep .)
 }
 
-# describe LINES: one readable line for each of them, on standard error.
+# describe LINES: prints a readable line for each of these lines of kNeeds to standard error.
 describe() {
     local group kind what least package why
     while IFS='|' read -r group kind what least package why; do
@@ -68,7 +68,7 @@ describe() {
     done <<<"$1"
 }
 
-# as_root COMMAND...: runs it as root; fails where this user cannot.
+# as_root COMMAND...: runs the command as root, through sudo if needed; ends the script if there is no sudo.
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then
         "$@"
@@ -81,7 +81,7 @@ as_root() {
 
 apt() { as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Dpkg::Use-Pty=0 "$@" </dev/null >/dev/null; }
 
-# apt_install PACKAGE...: reads the package lists anew when they are missing or out of date.
+# apt_install PACKAGE...: installs the packages; updates the package lists first if they are missing or out of date.
 apt_install() {
     local package known=yes
     for package in "$@"; do
@@ -94,7 +94,7 @@ apt_install() {
     apt install -y --no-install-recommends "$@"
 }
 
-# install_needs GROUP...: makes sure that the machine has what these groups need, or ends the script saying what lacks.
+# install_needs GROUP...: installs what these groups need, or lists what is missing and ends the script.
 install_needs() {
     local lacking packages
     lacking=$(missing "$@")
