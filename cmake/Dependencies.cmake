@@ -1,9 +1,9 @@
-# The libraries that the program stands on. Found here, once and at the top, since an imported target is known only
-# in the folder that finds it and below.
+# The libraries that the program uses. They are found here, at the top level, since an imported target is visible only in
+# the folder that finds it and below.
 find_package(PkgConfig REQUIRED)
 find_package(SQLite3 3.40 REQUIRED)
 pkg_check_modules(UTF8PROC REQUIRED IMPORTED_TARGET libutf8proc)
-# What a folder of the core stands on; no other one uses it.
+# The library of a core folder; no other folder may include it.
 set(TW_LIBRARIES_OF_values PkgConfig::UTF8PROC)
 set(TW_LIBRARIES_OF_store SQLite::SQLite3)
 

@@ -1,9 +1,10 @@
-# The folders of the core from the lowest layer up. A folder includes itself and what stands before it in this list,
-# nothing behind it; tests/architecture/CheckLayers.cmake fails otherwise.
+# The folders of the core, from the lowest layer up. A folder may include itself and the folders before it in this list, but
+# none after it; tests/architecture/CheckLayers.cmake fails otherwise.
 set(TW_CORE_FOLDERS platform commands values calc record water store tree document catalogue reports help tools
   shell)
 
-# tw_core_folder(NAME): the logic of src/NAME (not its ui/ and qt/ folders) as an object library tw_NAME.
+# tw_core_folder(NAME): builds the logic of src/NAME, without its ui/ and qt/ folders, as the object library tw_NAME. Does
+# nothing if the folder has no sources of its own.
 function(tw_core_folder name)
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${name}/*.cpp)
   if(NOT sources)
@@ -14,7 +15,7 @@ function(tw_core_folder name)
   target_link_libraries(tw_${name} PUBLIC tw_flags ${TW_LIBRARIES_OF_${name}})
 endfunction()
 
-# tw_objects_up_to(VAR NAME): the object libraries of all folders from the bottom up to NAME.
+# tw_objects_up_to(VAR NAME): sets VAR to the object libraries of all core folders from the bottom up to NAME.
 function(tw_objects_up_to var name)
   set(found)
   foreach(folder IN LISTS TW_CORE_FOLDERS)

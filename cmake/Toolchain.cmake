@@ -1,4 +1,5 @@
-# One interface target carries the language standard, the warnings and the floating-point rules of every target.
+# The language standard of all targets, and tw_flags: the interface target with the warnings, the floating-point rules and
+# the sanitizers that every target links.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -15,9 +16,9 @@ add_library(tw_flags INTERFACE)
 target_compile_options(tw_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Woverloaded-virtual
   -Wcast-align -Wunused -Wnull-dereference -Wformat=2 -Wimplicit-fallthrough
-  # GCC 12 sees overlapping copies in its own std::string where there are none.
+  # GCC 12 wrongly reports overlapping copies inside its own std::string.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
-  # The same figures on every machine: no fused multiply-add, no reordering.
+  # Figures are the same on every machine: no fused multiply-add.
   -ffp-contract=off)
 if(TUNWRIGHT_WERROR)
   target_compile_options(tw_flags INTERFACE -Werror)
