@@ -5,8 +5,10 @@
 #include <benchmark/benchmark.h>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <sqlite3.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "SilentStore.h"
@@ -33,6 +35,34 @@ std::string NameOf(int number) {
     return "Copper Lantern Bitter " + std::to_string(number);
 }
 
+StoredValue Text(const std::string& text) {
+    return {text, std::nullopt};
+}
+
+StoredValue Number(double number) {
+    return {std::nullopt, number};
+}
+
+std::vector<StoredValue> Texts(const std::vector<std::string>& texts) {
+    std::vector<StoredValue> values;
+    for (const std::string& text : texts) values.push_back(Text(text));
+    return values;
+}
+
+// Returns a line of a grid with these values in its stored columns, in their order.
+StoredLine LineOf(GridId grid, int row, const std::vector<StoredValue>& values) {
+    StoredLine line = EmptyLine(grid, row);
+    std::size_t next = 0;
+    for (std::size_t col = 0; col < line.cells.size(); ++col)
+        if (RuleOf(grid).columns[col].stored != CellStored::No) line.cells[col] = values.at(next++);
+    return line;
+}
+
+// Appends that many lines with these values to a grid.
+void Fill(StoredRecipe& recipe, GridId grid, int lines, const std::vector<StoredValue>& values) {
+    for (int row = 0; row < lines; ++row) recipe[grid].push_back(LineOf(grid, row, values));
+}
+
 // Returns a recipe of 14 grains, 4 extracts, 10 hops, 4 salts, 2 sugars, 3 adjuncts and 3 lines of log.
 StoredRecipe MakeRecipe(const std::string& name) {
     StoredRecipe r;
@@ -41,28 +71,38 @@ StoredRecipe MakeRecipe(const std::string& name) {
     r.folderId = 3;
     r.createdWhen = DateTime{2024, 1, 31, 12, 0, 0};
     r.modifiedWhen = DateTime{2024, 2, 28, 18, 30, 0};
-    r.bv = {"7 gal", 7};
-    r.tv = {"5.5 gal", 5.5};
-    r.fv = {"5 gal", 5};
-    r.bg = {"1.041", 1.04123456789};
-    r.og = {"1.052", 1.05214285714286};
-    r.fg = {"1.012", 1.012};
-    r.notes = std::string(400, 'n');
-    r.source = {"Home", {"40", "120", "20", "8", "15", "30"}};
-    r.target = {"Burton", {"268", "200", "36", "62", "54", "638"}};
-    for (int i = 0; i < 14; ++i)
-        r.grains.push_back({i, "Pale malt, two row", {"8 lb 4 oz", 8.25}, {"36.5", 36.5}, {"2.2", 2.2}});
-    for (int i = 0; i < 4; ++i)
-        r.extracts.push_back({i, "Light dry extract", {"1 lb", 1}, {"44", 44}, {"5", 5}});
-    for (int i = 0; i < 10; ++i)
-        r.hops.push_back(
-            {i, "East Kent Goldings", 0, false, false, {"1 1/2 oz", 1.5}, {"5.2%", 5.2}, {"60 min", 60}});
-    for (int i = 0; i < 4; ++i)
-        r.salts.push_back({i, "Gypsum", {"3.125 grams", 3.125}, {61.5, 0, 0, 0, 0, 147.4}});
-    for (int i = 0; i < 2; ++i) r.sugars.push_back({i, "Corn sugar", {"100%", 100}, {"4 oz", 4}});
-    for (int i = 0; i < 3; ++i) r.adjuncts.push_back({i, "Irish moss", "1 tsp", "15 min", "Boil"});
-    for (int i = 0; i < 3; ++i)
-        r.log.push_back({i, "02/28/2024", "Pitched Yeast", "London ale - a fresh pack"});
+    r[FieldId::BoilVol] = {"7 gal", 7};
+    r[FieldId::TotalVol] = {"5.5 gal", 5.5};
+    r[FieldId::FinalVol] = {"5 gal", 5};
+    r[FieldId::BG] = {"1.041", 1.04123456789};
+    r[FieldId::OG] = {"1.052", 1.05214285714286};
+    r[FieldId::FG] = {"1.012", 1.012};
+    r[FieldId::Notes] = Text(std::string(400, 'n'));
+    r[GridId::Water] = {LineOf(GridId::Water, 0, Texts({"Home", "40", "120", "20", "8", "15", "30"})),
+                        LineOf(GridId::Water, 1, Texts({"Burton", "268", "200", "36", "62", "54", "638"}))};
+    Fill(r, GridId::Grain, 14,
+         {Text("Pale malt, two row"), {"8 lb 4 oz", 8.25}, {"36.5", 36.5}, {"2.2", 2.2}});
+    Fill(r, GridId::Extract, 4, {Text("Light dry extract"), {"1 lb", 1}, {"44", 44}, {"5", 5}});
+    Fill(r, GridId::Hops, 10,
+         {Text("East Kent Goldings"),
+          {"5.2%", 5.2},
+          Number(0),
+          Number(0),
+          {"1 1/2 oz", 1.5},
+          Number(0),
+          {"60 min", 60}});
+    Fill(r, GridId::Treatment, 4,
+         {Text("Gypsum"),
+          {"3.125 grams", 3.125},
+          Number(61.5),
+          Number(0),
+          Number(0),
+          Number(0),
+          Number(0),
+          Number(147.4)});
+    Fill(r, GridId::Priming, 2, {Text("Corn sugar"), {"100%", 100}, {"4 oz", 4}});
+    Fill(r, GridId::Adjuncts, 3, Texts({"Irish moss", "1 tsp", "Boil", "15 min"}));
+    Fill(r, GridId::Log, 3, Texts({"02/28/2024", "Pitched Yeast", "London ale - a fresh pack"}));
     return r;
 }
 

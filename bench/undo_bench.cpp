@@ -68,7 +68,7 @@ void PasteThousandCells(benchmark::State& state) {
     const tw::GridRange target = adjuncts
                                      ? tw::GridRange{1, 0, rows, 3}
                                      : tw::GridRange{1, tw::GrainCol::Amount, rows, tw::GrainCol::Amount};
-    recipe.Edit().Paste(grid, target, "7.25");
+    recipe.Paste(grid, target, "7.25");
     for ([[maybe_unused]] const auto _ : state) Require(document.Replay().Undo() && document.Replay().Redo());
 }
 BENCHMARK(PasteThousandCells)->ArgName("grains")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
