@@ -36,7 +36,7 @@ class Dice {
 
 // Returns a number with two decimals, as a brewer types it.
 inline std::string Typed(double value) {
-    std::array<char, 32> buffer;
+    std::array<char, 32> buffer{};
     const auto result =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 2);
     return {buffer.data(), result.ptr};

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdint>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <vector>
@@ -38,7 +39,7 @@ class Floor {
         Dice dice;
         for (std::size_t i = 0; i < kEntries; ++i) {
             typed_.push_back(std::round(dice.Next() * 3000) / 100);
-            std::array<char, 32> buffer;
+            std::array<char, 32> buffer{};
             const auto result =
                 std::to_chars(buffer.data(), buffer.data() + buffer.size(), typed_.back() * 1.0000001234567);
             full_.emplace_back(buffer.data(), result.ptr);
@@ -54,7 +55,7 @@ class Floor {
             Write(amount * 36.5 * 0.72 / volume);
             Write(amount * 4.2 / volume);
         }
-        for (std::size_t cell = 0; cell < 2 * (kGrains + kExtracts); ++cell) sum += Read(cell);
+        for (std::size_t cell = 0; cell < std::size_t{2} * (kGrains + kExtracts); ++cell) sum += Read(cell);
         const double boilGravity = 1 + sum / 100000;
         for (std::size_t row = 0; row < kHops; ++row)
             Write(typed_[base_ + row] * 7490 / volume * 1.65 * std::pow(0.000125, boilGravity - 1) *
@@ -79,15 +80,15 @@ class Floor {
         return value;
     }
     static void Write(double value) {
-        std::array<char, 64> buffer;
-        benchmark::DoNotOptimize(std::to_chars(buffer.data(), buffer.data() + buffer.size(), value).ptr);
+        char buffer[64];
+        benchmark::DoNotOptimize(std::to_chars(std::begin(buffer), std::end(buffer), value).ptr);
         benchmark::ClobberMemory();
     }
     static void WriteFixed(double value, int decimals) {
-        std::array<char, 64> buffer;
-        benchmark::DoNotOptimize(std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                               std::chars_format::fixed, decimals)
-                                     .ptr);
+        char buffer[64];
+        benchmark::DoNotOptimize(
+            std::to_chars(std::begin(buffer), std::end(buffer), value, std::chars_format::fixed, decimals)
+                .ptr);
         benchmark::ClobberMemory();
     }
 
@@ -126,6 +127,7 @@ void Compare(benchmark::State& state, const std::function<void(int)>& edit) {
 void RecalculateTotalVolume(benchmark::State& state) {
     Recipe recipe;
     std::vector<std::string> volumes;
+    volumes.reserve(16);
     for (int i = 0; i < 16; ++i) volumes.push_back(Typed(4 + i * 0.37) + " gal");
     Compare(state, [&](int n) { recipe.CommitTotalVolume(volumes[static_cast<std::size_t>(n % 16)]); });
 }
@@ -134,6 +136,7 @@ BENCHMARK(RecalculateTotalVolume)->UseManualTime();
 void RecalculateGrainAmount(benchmark::State& state) {
     Recipe recipe;
     std::vector<std::string> amounts;
+    amounts.reserve(15);
     for (int i = 0; i < 15; ++i) amounts.push_back(Typed(2 + i * 0.53));
     Compare(state,
             [&](int n) { recipe.CommitGrain(1 + n % kGrains, amounts[static_cast<std::size_t>(n % 15)]); });

@@ -136,7 +136,7 @@ void BM_Keystroke(benchmark::State& state, const std::string& text) {
     std::vector<double> ours;
     std::vector<double> limit;
     std::size_t hits = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         ours.push_back(Seconds([&] { hits = finder.Find(text).size(); }));
         limit.push_back(Seconds([&] { benchmark::DoNotOptimize(names.Count(upper)); }));
         state.SetIterationTime(ours.back());
@@ -174,7 +174,7 @@ void BM_Read(benchmark::State& state) {
     std::vector<double> ours;
     std::vector<double> trees;
     std::size_t bytes = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const std::size_t before = BytesInUse();
         RecipeFinder finder(database);
         ours.push_back(Seconds([&] { finder.Find("x"); }));

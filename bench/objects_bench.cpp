@@ -55,9 +55,8 @@ void MakeFile(int elsewhere) {
         const bool goes = static_cast<std::int64_t>(i) * kInFolder % recipes < kInFolder;
         database->Execute("INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES ('Copper Lantern " +
                           number + "', " + std::to_string(i % (kStyles + 1)) + (goes ? ", 1)" : ", 2)"));
-        const std::string id = std::to_string(i + 1);
         for (const std::string table : {"RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_ADJUNCTS", "RECIPE_LOG"})
-            database->Execute("INSERT INTO " + table + " (RECIPE_ID, ROW_ID) VALUES (" + id + ", 0)");
+            database->Execute("INSERT INTO " + table + " (RECIPE_ID, ROW_ID) VALUES (?, 0)", {i + 1});
     }
     unit.Commit();
 }
@@ -109,7 +108,7 @@ void BM_DeleteFolder(benchmark::State& state) {
     const std::vector<std::string> statements = Statements();
     std::vector<double> storeTimes;
     std::vector<double> rawTimes;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         CopyMade(kStoreFile);
         CopyMade(kRawFile);
         {

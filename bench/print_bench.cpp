@@ -30,7 +30,8 @@ void Fill(RecipeRecord& recipe) {
 void LayOutSixtyLines(benchmark::State& state) {
     RecipeRecord recipe;
     Fill(recipe);
-    for (auto _ : state) benchmark::DoNotOptimize(LayOutRecipe(recipe, kLetterPaper, FixedMeasure()));
+    for ([[maybe_unused]] const auto _ : state)
+        benchmark::DoNotOptimize(LayOutRecipe(recipe, kLetterPaper, FixedMeasure()));
 }
 BENCHMARK(LayOutSixtyLines)->Unit(benchmark::kMillisecond);
 
@@ -57,7 +58,7 @@ struct Recipes {
 // The limit: the same rows, read by the same statements, with every column.
 void ReadThousandRows(benchmark::State& state) {
     const Recipes recipes;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         std::size_t bytes = 0;
         for (const std::string& name : recipes.names) {
             const Recordset row =
@@ -78,7 +79,7 @@ class CountingStream final : public ReportStream {
 void ReportThousandRecipes(benchmark::State& state) {
     const Recipes recipes;
     const auto type = static_cast<ReportType>(state.range(0));
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         CountingStream stream;
         WriteReport(*recipes.database, recipes.names, ReportUnits(), type, ReportOptions(), stream);
         benchmark::DoNotOptimize(stream.bytes);

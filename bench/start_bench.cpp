@@ -5,12 +5,12 @@
 //     bench_start ROUNDS PROGRAM [ARGUMENT...] [-- PROGRAM [ARGUMENT...]]...
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
-#include <signal.h>
 #include <string>
 #include <sys/wait.h>
 #include <thread>
@@ -54,8 +54,9 @@ double PssKib(pid_t pid) {
 }
 
 pid_t Start(const Program& program) {
+    std::vector<std::string> words = program.words;
     std::vector<char*> argv;
-    for (const std::string& word : program.words) argv.push_back(const_cast<char*>(word.c_str()));
+    for (std::string& word : words) argv.push_back(word.data());
     argv.push_back(nullptr);
     const pid_t pid = fork();
     if (pid != 0) return pid;

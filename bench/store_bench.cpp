@@ -200,7 +200,7 @@ template <typename Store, typename Raw>
 void Compare(benchmark::State& state, Store store, Raw raw) {
     std::vector<double> storeTimes;
     std::vector<double> rawTimes;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const double time = Seconds(store);
         state.SetIterationTime(time);
         storeTimes.push_back(time);
@@ -299,7 +299,7 @@ void CompareCopy(benchmark::State& state, bool isImport) {
     }
     std::unique_ptr<Database> source, dest;
     std::vector<double> storeTimes, rawTimes;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         MakeEmpty(kStoreFile, !isImport);
         MakeEmpty(kRawFile, !isImport);
         source = Database::OpenDatabase(kSourceFile, false);

@@ -139,7 +139,7 @@ void BM_InitFromDatabase(benchmark::State& state) {
     MakeFile(static_cast<int>(state.range(0)));
     std::vector<double> treeTimes;
     std::vector<double> readTimes;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         {
             const auto database = OpenMainDatabase(kFile);
             TWTree tree(database.get());
@@ -177,7 +177,7 @@ void BM_TreeMemory(benchmark::State& state) {
     const auto database = OpenMainDatabase(kFile);
     TWTree(database.get()).InitFromDatabase();  // fills the store's cache
     std::size_t bytes = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const std::size_t before = BytesInUse();
         TWTree tree(database.get());
         tree.InitFromDatabase();
@@ -207,11 +207,12 @@ void CompareWithInit(benchmark::State& state, Change change) {
     const auto database = OpenMainDatabase(kFile);
     TWTree tree(database.get());
     std::vector<double> initTimes;
+    initTimes.reserve(5);
     for (int i = 0; i < 5; ++i) initTimes.push_back(Seconds([&] { tree.InitFromDatabase(); }));
     Names names;
     const double first = Seconds([&] { change(tree, 1, names); });
     std::vector<double> times;
-    for (auto _ : state) {
+    for ([[maybe_unused]] const auto _ : state) {
         const int recipe = 1 + names.Below(kRecipes);
         times.push_back(Seconds([&] { change(tree, recipe, names); }));
         state.SetIterationTime(times.back());

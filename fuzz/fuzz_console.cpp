@@ -18,7 +18,7 @@ void Require(bool holds) {
 }
 
 void LimitMemory() {
-    // The store refuses a statement that needs more memory than this.
+    // A statement that asks for more memory than this is refused by the store.
     constexpr sqlite3_int64 kMostMemory = 256 * 1024 * 1024;
     sqlite3_hard_heap_limit64(kMostMemory);
 }

@@ -16,7 +16,7 @@ namespace {
 using namespace tw;
 
 std::unique_ptr<Database> MakeDatabase() {
-    // The store refuses a statement that needs more memory than this.
+    // A statement that asks for more memory than this is refused by the store.
     constexpr sqlite3_int64 kMostMemory = 256 * 1024 * 1024;
     sqlite3_hard_heap_limit64(kMostMemory);
     std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
