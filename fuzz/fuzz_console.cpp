@@ -19,7 +19,7 @@ void Require(bool holds) {
 
 void LimitMemory() {
     // A statement that asks for more memory than this is refused by the store.
-    constexpr sqlite3_int64 kMostMemory = 256 * 1024 * 1024;
+    constexpr sqlite3_int64 kMostMemory = sqlite3_int64{256} * 1024 * 1024;
     sqlite3_hard_heap_limit64(kMostMemory);
 }
 

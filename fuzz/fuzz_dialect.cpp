@@ -17,7 +17,7 @@ using namespace tw;
 
 std::unique_ptr<Database> MakeDatabase() {
     // A statement that asks for more memory than this is refused by the store.
-    constexpr sqlite3_int64 kMostMemory = 256 * 1024 * 1024;
+    constexpr sqlite3_int64 kMostMemory = sqlite3_int64{256} * 1024 * 1024;
     sqlite3_hard_heap_limit64(kMostMemory);
     std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
     database->Execute("INSERT INTO HOPS (NAME, USAGE, AA_LO) VALUES ('Cascade', 'Aroma', 5)");

@@ -84,9 +84,9 @@ enum class CommandId : std::uint8_t {
     HelpAuto,
     HelpBar,
     HelpAbout,
-    kCount
+    Count
 };
-inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::kCount);
+inline constexpr std::size_t kCommandCount = static_cast<std::size_t>(CommandId::Count);
 
 // The number of recently used recipes that the File menu can show.
 inline constexpr int kRecentSlots = 6;

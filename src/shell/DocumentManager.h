@@ -41,7 +41,8 @@ class DocumentManager {
     // Calls notice for every document. Iterates by index, as notice may open or close documents.
     template <class Notice>
     void ForEach(Notice notice) {
-        for (std::size_t i = 0; i < documents_.size(); ++i) notice(*documents_[i]);
+        std::size_t i = 0;
+        while (i < documents_.size()) notice(*documents_[i++]);
     }
     // Styles or ingredients have changed: makes the documents read their lists again.
     void CatalogueChanged();

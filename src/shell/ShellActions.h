@@ -54,8 +54,8 @@ class ShellActions {
   private:
     using Action = void (*)(const Parts& on);
     struct Row {
-        CommandId command;
-        Action run;
+        CommandId command{};
+        Action run = nullptr;
         Action pressed = nullptr;  // the action of the button, if it is another
     };
     static const Row kRows[];

@@ -1,6 +1,7 @@
 // Tests of the command tables for errors that no compiler detects.
 #include "commands/Commands.h"
 
+#include <gtest/gtest.h>
 #include <set>
 
 #include "commands/PopupCommands.h"

@@ -1,5 +1,7 @@
 #include "platform/SettingsStore.h"
 
+#include <gtest/gtest.h>
+
 #include "support/RecordingPlatform.h"
 
 namespace tw::test {

@@ -1,6 +1,7 @@
 #include "shell/CommandBar.h"
 
 #include <algorithm>
+#include <gtest/gtest.h>
 #include <tuple>
 
 namespace tw::test {

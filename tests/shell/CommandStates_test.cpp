@@ -1,6 +1,8 @@
 // Tests of the states of the commands, without a document and without a database.
 #include "shell/CommandStates.h"
 
+#include <gtest/gtest.h>
+
 #include "support/RecordingPlatform.h"
 
 namespace tw::test {

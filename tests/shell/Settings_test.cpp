@@ -1,5 +1,6 @@
 #include "shell/Settings.h"
 
+#include <gtest/gtest.h>
 #include <utility>
 
 #include "support/RecordingPlatform.h"

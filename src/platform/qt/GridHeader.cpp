@@ -1,5 +1,6 @@
 #include "platform/qt/GridHeader.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <cmath>
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QWidget>
 #include <QWindow>
 #include <algorithm>
 

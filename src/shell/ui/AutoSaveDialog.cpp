@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QProgressBar>
+#include <QShowEvent>
 #include <QVBoxLayout>
 
 #include "platform/qt/Appearance.h"
