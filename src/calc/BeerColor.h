@@ -15,13 +15,13 @@ double HCUToSRM(double hcu);
 // HCUToSRM solved for the colour units. REQUIRES: srm >= 0.
 double SRMToHCU(double srm);
 
-// Hue and lightness on the 0 to 240 scale of a colour dialog, keyed by whole HCU: the program's own table,
-// from 1 to 294. Built once at start.
+// Hue and lightness of beer, keyed by whole HCU from 1 to 294: the program's own table. Hue, lightness and
+// saturation are on the scale of a color dialog, 0 to 240 without a unit. Built once at start.
 class ColorTable {
   public:
     struct Entry {
-        double hue;        // 0 to 240
-        double lightness;  // 0 to 240
+        double hue;        // 0 to 240, no unit
+        double lightness;  // 0 to 240, no unit
     };
 
     // Fills the table (the program's LoadColorTable).
@@ -39,11 +39,12 @@ class ColorTable {
     std::map<int, Entry> entries_;
 };
 
-// From hue, lightness and saturation, each from 0 to 240: the HLS model of Foley, van Dam, Feiner and Hughes
-// (Computer Graphics: Principles and Practice, 1990). Channels outside 0 to 255 become the ends.
+// From hue, lightness and saturation, each from 0 to 240 without a unit: the HLS model of Foley, van Dam,
+// Feiner and Hughes (Computer Graphics: Principles and Practice, 1990). Channels outside 0 to 255 become the
+// ends.
 Rgb HSLToRGB(double hue, double lightness, double saturation);
-// One channel of that model, 0 to 1, between its two bounds m1 and m2, also 0 to 1. The angle is taken round
-// the circle once, so that it may be from -360 to 720.
+// One channel of that model between its two bounds m1 and m2, all three from 0 to 1 without a unit. degrees
+// is the hue as an angle in degrees; it is taken round the circle once, so that it may be from -360 to 720.
 double HueToChannel(double m1, double m2, double degrees);
 
 }  // namespace tw

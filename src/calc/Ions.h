@@ -7,8 +7,8 @@ namespace tw {
 
 inline constexpr int kIons = 6;
 
-// One number for each ion, in the order that water tables have everywhere: calcium, carbonate, chloride,
-// magnesium, sodium, sulfate.
+// PPM (milligrams a litre) of each ion, in the order of all water tables: calcium, carbonate, chloride,
+// magnesium, sodium, sulfate. For a salt, the PPM that one gram of it adds to one gallon of water.
 using Ions = std::array<double, kIons>;
 
 }  // namespace tw

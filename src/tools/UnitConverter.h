@@ -21,7 +21,8 @@ std::span<const std::string_view> UnitsOf(QuantityKind kind);
 // A unit's name on one line, its lines joined by a blank.
 std::string UnitName(std::string_view unit);
 
-// value, which is in the unit from, in every unit of its kind, in the order of UnitsOf; the entry of its own
+// value, which may be in any unit of the kind (from says which), in every unit of that kind, in the order of
+// UnitsOf; the entry of its own
 // unit is value itself. Each is converted directly, so that two ways round may differ in the last digits:
 // weights, volumes and pressures by the rounded factors of values/Converter.h, temperatures by their
 // definitions (0 C = 32 F = 273.15 K), gravities by the two fits of values/Converter.h, which hold to about

@@ -9,7 +9,7 @@ namespace tw {
 
 class DecimalDigits {
   public:
-    // The fewest digits that read back as value. REQUIRES: value is finite.
+    // The fewest digits that read back as value, which may be in any unit. REQUIRES: value is finite.
     explicit DecimalDigits(double value);
 
     // Multiplies the number by 10^places, exactly.

@@ -8,6 +8,8 @@
 
 namespace tw {
 
+// All numbers here may be in any unit: text and number are in the same one.
+
 // The shortest decimal text that reads back as the same double: fixed notation, never an exponent, "." as the
 // mark, no "+", "0" also for minus zero. A large number is its shortest digits followed by zeros. REQUIRES:
 // value is finite.

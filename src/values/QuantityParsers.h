@@ -19,13 +19,13 @@ std::string_view GetToken(std::string_view& text);
 
 // Each returns nothing for a text that it does not read.
 
-// The number, if text as a whole is numeric.
+// The number, if text as a whole is numeric; no unit.
 std::optional<double> ParseReal(std::string_view text);
-// The number, if text as a whole is numeric and holds no ".".
+// The number, if text as a whole is numeric and holds no "."; no unit.
 std::optional<double> ParseWholeNumber(std::string_view text);
-// a/b, both whole numbers. Raises "Division by zero" for b = 0.
+// a/b, both whole numbers, no unit. Raises "Division by zero" for b = 0.
 std::optional<double> ParseFraction(std::string_view text);
-// token a number, with an optional fraction at the front of rest, which is cut off then.
+// token a number without a unit, with an optional fraction at the front of rest, which is cut off then.
 std::optional<double> ParseMixedNumber(std::string_view token, std::string_view& rest);
 
 // Unit parsers: the whole text must be a number and one of the parser's unit words. The value is in the unit
@@ -75,6 +75,7 @@ Reading<double> ValidateTemperature(std::string_view text);  // degrees Fahrenhe
 Reading<double> ValidatePressure(std::string_view text);     // psi
 
 // The parsers and validators by their names, for the console and the fuzzers; nullptr for an unknown name.
+// The numbers may be in any unit: each is in that of its function.
 using Parser = std::optional<double> (*)(std::string_view);
 using Validator = Reading<double> (*)(std::string_view);
 Parser FindParser(std::string_view name);

@@ -12,7 +12,7 @@ namespace tw {
 std::optional<bool> ReadFlag(std::string_view text);
 // A number from least to most, rounded to a whole one.
 std::optional<int> ReadWhole(std::string_view text, int least, int most);
-// A number.
+// A number in any unit: the setting says which.
 std::optional<double> ReadReal(std::string_view text);
 
 // Puts what was read into field. False, and field is untouched, when nothing was.

@@ -41,7 +41,7 @@ class UnitReader {
 
     // False when there is no number of the form at the head; the other functions mean nothing then.
     bool HasNumber() const { return number_.has_value(); }
-    // REQUIRES: HasNumber().
+    // In any unit: the one that the caller finds in Rest. REQUIRES: HasNumber().
     double Number() const { return *number_; }
     // What stands behind the number, in upper case, trimmed.
     std::string_view Rest() const { return rest_; }

@@ -7,7 +7,7 @@
 
 namespace tw {
 
-// value itself; raises "Overflow" when it is infinite or NaN.
+// value itself, in any unit; raises "Overflow" when it is infinite or NaN.
 inline double CheckedNumber(double value) {
     if (!std::isfinite(value)) RaiseOverflow();
     return value;

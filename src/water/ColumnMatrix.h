@@ -10,12 +10,12 @@ class ColumnMatrix {
   public:
     struct Entry {
         int row;
-        double value;
+        double value;  // no unit
     };
     struct Place {
         int row;
         int col;
-        double value;
+        double value;  // no unit
     };
 
     ColumnMatrix() = default;

@@ -23,7 +23,8 @@ enum class LPStatus : std::uint8_t {
 };
 
 // One object serves one program: Initialize, SpecifyObjective and AddConstraint in any order, then Solve
-// once. All but the destructor raise "Overflow" when a number is, or becomes, infinite or not a number.
+// once. All but the destructor raise "Overflow" when a number is, or becomes, infinite or not a number. All
+// numbers are in the caller's units; the solver knows none.
 class LPsimplex {
   public:
     // The sizes of the program. Raises "Subscript out of range" for a negative one.

@@ -18,8 +18,8 @@ namespace tw {
 // gives a wrong answer and no failure, which is intended. "Overflow" is raised when a number is beyond a
 // double; the object is of no further use then.
 //
-// Both functions overwrite rightSide. REQUIRES: the spans hold size elements, the columns exist in matrix and
-// have no entry at or below row size.
+// The numbers have no unit. Both functions overwrite rightSide. REQUIRES: the spans hold size elements, the
+// columns exist in matrix and have no entry at or below row size.
 class LinearSystem {
   public:
     virtual ~LinearSystem() = default;

@@ -27,9 +27,9 @@ TreatmentAnswer SolveTreatmentWithDeviations(const Ions& needed, std::span<const
 // As many grams as the needs allow.
 TreatmentAnswer SolveTreatmentCapped(const Ions& needed, std::span<const Ions> salts, int maxIterations);
 
-// The doses of the answer that misses the needs by less, summed over the six ions; the first program's for a
-// tie. An answer at the limit of iterations counts as it stands. Nothing when neither program has one. Raises
-// "Overflow" when a number goes beyond a double, and what the solver raises.
+// Grams a gallon of each salt: the doses of the answer that misses the needs by less, summed over the six
+// ions; the first program's for a tie. An answer at the limit of iterations counts as it stands. Nothing when
+// neither program has one. Raises "Overflow" when a number goes beyond a double, and what the solver raises.
 std::optional<std::vector<double>> FindDoses(const Ions& needed, std::span<const Ions> salts,
                                              int maxIterations);
 

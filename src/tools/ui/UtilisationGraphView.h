@@ -8,7 +8,8 @@
 
 namespace tw {
 
-// Draws a curve's line from start to end with its mark in the middle.
+// Draws a curve's line from start to end with its mark in the middle. unit is the size of the drawing's unit
+// of length in pixels.
 void PaintCurveSample(QPainter& painter, IbuMethod method, const QPalette& palette, const QLineF& line,
                       double unit);
 
