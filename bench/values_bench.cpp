@@ -227,11 +227,8 @@ std::function<void()> FixedText(const std::vector<double>& numbers) {
 }
 
 void RoundQuantity(benchmark::State& state, const std::vector<double>& numbers) {
-    Compare(state, ForAll([&](std::size_t i) {
-                double value = numbers[i];
-                benchmark::DoNotOptimize(tw::FormatQuantity(value, 3));
-                benchmark::DoNotOptimize(value);
-            }),
+    Compare(state,
+            ForAll([&](std::size_t i) { benchmark::DoNotOptimize(tw::FormatQuantity(numbers[i], 3)); }),
             FixedText(numbers));
 }
 BENCHMARK_CAPTURE(RoundQuantity, typed, TheCorpus().typed)->UseManualTime();

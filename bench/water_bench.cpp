@@ -143,10 +143,11 @@ Answer SolveOwn(const Program& program, std::vector<double>& x) {
         for (std::size_t i = 0; i < program.rows.size(); ++i)
             simplex.AddConstraint(program.rows[i], program.rightSides[i], program.types[i]);
         try {
-            answer.status = static_cast<int>(simplex.Solve(x, kMaxIterations));
+            answer.status = static_cast<int>(simplex.Solve(kMaxIterations));
         } catch (const Error&) {
             answer.status = kFault;
         }
+        x = simplex.Solution();
     }
     answer.microseconds = std::chrono::duration<double, std::micro>(Clock::now() - begin).count();
     for (std::size_t j = 0; j < x.size(); ++j) answer.objective += program.objective[j] * x[j];

@@ -43,8 +43,8 @@ Outcome Run(Call call, double& value) {
 void CheckNumberText(double value) {
     const std::string text = NumberText(value);
     Require(ReadNumber(text) == value);
-    double rounded = value;
-    Require(FormatQuantity(rounded, 3) == NumberText(rounded));
+    const RoundedQuantity rounded = FormatQuantity(value, 3);
+    Require(rounded.text == NumberText(rounded.value));
     for (const std::string_view pattern : {"0", "0.#0", "#.0", "0.0% abv", "000000000000.000000000000"})
         Require(!FormatNumber(value, pattern).empty());
 }

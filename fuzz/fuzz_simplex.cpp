@@ -67,12 +67,13 @@ Outcome Solve(Bytes bytes) {
     }
     Outcome outcome;
     try {
-        outcome.status = static_cast<int>(simplex.Solve(outcome.x, limit));
+        outcome.status = static_cast<int>(simplex.Solve(limit));
         Require(simplex.Iterations() <= limit + 1);
         Require((outcome.status == 2) == (simplex.Iterations() == limit + 1));
     } catch (const Error& error) {
         Require(error.Number() == kDivisionByZeroNumber || error.Number() == kOverflowNumber);
     }
+    outcome.x = simplex.Solution();
     Require(outcome.x.size() == static_cast<std::size_t>(vars));
     for (const double value : outcome.x) {
         Require(std::isfinite(value));

@@ -51,8 +51,8 @@ ColorTable::Entry ColorTable::LookupColorEntry(int hcu) const {
             Between(lower->second.lightness, upper->second.lightness, fraction)};
 }
 
-void ColorTable::HCUToHSL(double hcu, double& hue, double& lightness, double& saturation) const {
-    saturation = 240;
+Hsl ColorTable::HCUToHSL(double hcu) const {
+    constexpr double kSaturation = 240;
     // Beyond either end of the table the colour no longer changes; this also keeps a huge figure within a
     // whole number.
     const double known = std::clamp(hcu, 0.0, static_cast<double>(kLastKey + 1));
@@ -60,20 +60,15 @@ void ColorTable::HCUToHSL(double hcu, double& hue, double& lightness, double& sa
     const int key = static_cast<int>(floor);
     const double fraction = known - floor;
     const Entry low = LookupColorEntry(key);
-    if (fraction == 0) {
-        hue = low.hue;
-        lightness = low.lightness;
-        return;
-    }
+    if (fraction == 0) return {low.hue, low.lightness, kSaturation};
     const Entry high = LookupColorEntry(key + 1);
-    hue = Between(low.hue, high.hue, fraction);
-    lightness = Between(low.lightness, high.lightness, fraction);
+    return {Between(low.hue, high.hue, fraction), Between(low.lightness, high.lightness, fraction),
+            kSaturation};
 }
 
 Rgb ColorTable::HCUToColor(double hcu) const {
-    double hue = 0, lightness = 0, saturation = 0;
-    HCUToHSL(hcu, hue, lightness, saturation);
-    return HSLToRGB(hue, lightness, saturation);
+    const Hsl color = HCUToHSL(hcu);
+    return HSLToRGB(color.hue, color.lightness, color.saturation);
 }
 
 Rgb HSLToRGB(double hue, double lightness, double saturation) {

@@ -15,8 +15,14 @@ double HCUToSRM(double hcu);
 // HCUToSRM solved for the colour units. REQUIRES: srm >= 0.
 double SRMToHCU(double srm);
 
-// Hue and lightness of beer, keyed by whole HCU from 1 to 294: the program's own table. Hue, lightness and
-// saturation are on the scale of a color dialog, 0 to 240 without a unit. Built once at start.
+// A color on the scales of a color dialog, which have no unit.
+struct Hsl {
+    double hue = 0;         // 0 to 240
+    double lightness = 0;   // 0 to 240
+    double saturation = 0;  // 0 to 240
+};
+
+// Hue and lightness of beer, keyed by whole HCU from 1 to 294: the program's own table. Built once at start.
 class ColorTable {
   public:
     struct Entry {
@@ -31,7 +37,7 @@ class ColorTable {
     Entry LookupColorEntry(int hcu) const;
     // Of any HCU, interpolated between the whole numbers around it; saturation is always 240. REQUIRES: hcu
     // >= 0.
-    void HCUToHSL(double hcu, double& hue, double& lightness, double& saturation) const;
+    Hsl HCUToHSL(double hcu) const;
     // The colour to show. REQUIRES: hcu >= 0.
     Rgb HCUToColor(double hcu) const;
 

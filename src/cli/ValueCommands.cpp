@@ -45,9 +45,9 @@ void Format(Session& session, Arguments& arguments) {
 void Quantity(Session& session, Arguments& arguments) {
     constexpr int kAny = std::numeric_limits<int>::max();
     const int decimals = arguments.Integer("DECIMALS", -kAny, kAny);
-    double number = arguments.Number("NUMBER");
+    const double number = arguments.Number("NUMBER");
     arguments.End();
-    session.Out().Text(FormatQuantity(number, decimals));
+    session.Out().Text(FormatQuantity(number, decimals).text);
 }
 
 void Plato(Session& session, Arguments& arguments) {

@@ -96,11 +96,10 @@ void SolveProgram(Session& session, Arguments& arguments) {
     simplex.Initialize(static_cast<int>(objective.size()), static_cast<int>(rows.size()));
     simplex.SpecifyObjective(objective, minimise);
     for (const Row& row : rows) simplex.AddConstraint(row.coefficients, row.rightSide, row.type);
-    std::vector<double> x;
-    const LPStatus status = simplex.Solve(x, limit);
+    const LPStatus status = simplex.Solve(limit);
     session.Out().Line("status " + std::to_string(static_cast<int>(status)));
     std::string values;
-    for (const double value : x) {
+    for (const double value : simplex.Solution()) {
         if (!values.empty()) values.push_back(' ');
         AppendNumberText(values, value);
     }

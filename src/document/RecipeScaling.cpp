@@ -41,9 +41,10 @@ bool RecipeScaling::MayKeepCarbonation() {
 
 std::string RecipeScaling::RefusalOfSize(double gallons) const {
     if (recipe_.record.txtTotalVol.Value() == 0) return {};
-    std::optional<double> volume = scaler_.FinalVolumeFor(gallons);
+    const std::optional<double> volume = scaler_.FinalVolumeFor(gallons);
     if (!volume || *volume > 0) return {};
-    return "The final volume would be " + FormatQuantity(*volume, 0) + " gal. Please enter a larger size.";
+    return "The final volume would be " + FormatQuantity(*volume, 0).text +
+           " gal. Please enter a larger size.";
 }
 
 void RecipeScaling::ScaleRecipe(double gallons, std::string_view sizeText, bool scaleBoilVol,

@@ -55,10 +55,10 @@ void WaterTreatment::CalcTreatment() {
     Clear();
     for (std::size_t i = 0; i < wanted.size(); ++i) lines_.InsertRowForGrid(grid);
     int row = Grid::FixedRows();
-    for (SaltDose& dose : wanted) {
+    for (const SaltDose& dose : wanted) {
         cells_.EditCell(grid, row, TreatmentCol::Name, dose.name, Asking::Quietly);
-        cells_.EditCell(grid, row, TreatmentCol::Amount, FormatQuantity(dose.grams, kGramDecimals) + " grams",
-                        Asking::Quietly);
+        cells_.EditCell(grid, row, TreatmentCol::Amount,
+                        FormatQuantity(dose.grams, kGramDecimals).text + " grams", Asking::Quietly);
         ++row;
     }
     step.Keep();

@@ -16,21 +16,32 @@ bool IsCalendarDay(const DateTime& d) {
                .ok();
 }
 
-// Reads least to most digits from the front of text and removes them. False if there are fewer than least.
-bool TakeNumber(std::string_view& text, std::size_t least, std::size_t most, int& value) {
-    std::size_t n = 0;
-    while (n < text.size() && n < most && text[n] >= '0' && text[n] <= '9') ++n;
-    if (n < least) return false;
-    std::from_chars(text.data(), text.data() + n, value);
-    text.remove_prefix(n);
-    return true;
-}
+// Reads a text from its front, part by part, and remembers whether all parts were there.
+class PartReader {
+  public:
+    explicit PartReader(std::string_view text) : rest_(text) {}
 
-bool TakeChar(std::string_view& text, char wanted) {
-    if (text.empty() || text.front() != wanted) return false;
-    text.remove_prefix(1);
-    return true;
-}
+    // Returns the number of the next digits, of which there are from least to most; 0 if there are fewer.
+    int Number(std::size_t least, std::size_t most) {
+        std::size_t n = 0;
+        while (n < rest_.size() && n < most && rest_[n] >= '0' && rest_[n] <= '9') ++n;
+        int value = 0;
+        std::from_chars(rest_.data(), rest_.data() + n, value);
+        found_ = found_ && n >= least;
+        rest_.remove_prefix(n);
+        return value;
+    }
+    void Char(char wanted) {
+        found_ = found_ && !rest_.empty() && rest_.front() == wanted;
+        if (found_) rest_.remove_prefix(1);
+    }
+    // True if every part was found and nothing is left.
+    bool FoundAll() const { return found_ && rest_.empty(); }
+
+  private:
+    std::string_view rest_;
+    bool found_ = true;
+};
 
 }  // namespace
 
@@ -42,13 +53,20 @@ std::string DateText(const DateTime& when) {
 }
 
 std::optional<DateTime> ParseDateText(std::string_view text) {
+    PartReader parts(text);
     DateTime d;
-    const bool read =
-        TakeNumber(text, 2, 2, d.month) && TakeChar(text, '/') && TakeNumber(text, 2, 2, d.day) &&
-        TakeChar(text, '/') && TakeNumber(text, 4, 4, d.year) && TakeChar(text, ' ') &&
-        TakeNumber(text, 2, 2, d.hour) && TakeChar(text, ':') && TakeNumber(text, 2, 2, d.minute) &&
-        TakeChar(text, ':') && TakeNumber(text, 2, 2, d.second);
-    if (!read || !text.empty() || !IsCalendarDay(d) || d.hour > 23 || d.minute > 59 || d.second > 59)
+    d.month = parts.Number(2, 2);
+    parts.Char('/');
+    d.day = parts.Number(2, 2);
+    parts.Char('/');
+    d.year = parts.Number(4, 4);
+    parts.Char(' ');
+    d.hour = parts.Number(2, 2);
+    parts.Char(':');
+    d.minute = parts.Number(2, 2);
+    parts.Char(':');
+    d.second = parts.Number(2, 2);
+    if (!parts.FoundAll() || !IsCalendarDay(d) || d.hour > 23 || d.minute > 59 || d.second > 59)
         return std::nullopt;
     return d;
 }
@@ -58,10 +76,14 @@ std::string ShortDate(const DateTime& when) {
 }
 
 std::optional<DateTime> ParseShortDate(std::string_view text) {
+    PartReader parts(text);
     DateTime d;
-    const bool read = TakeNumber(text, 1, 2, d.month) && TakeChar(text, '/') &&
-                      TakeNumber(text, 1, 2, d.day) && TakeChar(text, '/') && TakeNumber(text, 4, 4, d.year);
-    if (!read || !text.empty() || !IsCalendarDay(d)) return std::nullopt;
+    d.month = parts.Number(1, 2);
+    parts.Char('/');
+    d.day = parts.Number(1, 2);
+    parts.Char('/');
+    d.year = parts.Number(4, 4);
+    if (!parts.FoundAll() || !IsCalendarDay(d)) return std::nullopt;
     return d;
 }
 

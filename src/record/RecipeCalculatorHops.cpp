@@ -81,9 +81,9 @@ void RecipeCalculator::ShowGridTotal(Grid& grid) {
         sum += grid.Number(row, GrainCol::Amount);
         counted = true;
     }
-    sum = Finite(sum);
-    grid.SetText(grid.TotalsRow(), GrainCol::Amount, counted ? FormatQuantity(sum, 0) + " lbs." : "");
-    grid.SetValue(grid.TotalsRow(), GrainCol::Amount, counted ? CellValue::Of(sum) : CellValue{});
+    const RoundedQuantity rounded = FormatQuantity(Finite(sum), 0);
+    grid.SetText(grid.TotalsRow(), GrainCol::Amount, counted ? rounded.text + " lbs." : "");
+    grid.SetValue(grid.TotalsRow(), GrainCol::Amount, counted ? CellValue::Of(rounded.value) : CellValue{});
 }
 
 void RecipeCalculator::ShowHopTotal() {
@@ -101,15 +101,14 @@ void RecipeCalculator::ShowHopTotal() {
         (isAau ? aaus : ounces) += amount.number;
     }
     std::string text;
-    double total = 0;
+    CellValue value;
     if (anyOunces != anyAaus) {
-        total = Finite(anyAaus ? aaus : ounces);
-        text = FormatQuantity(total, 0) + (anyAaus ? " AAUs" : " oz.");
+        const RoundedQuantity total = FormatQuantity(Finite(anyAaus ? aaus : ounces), 0);
+        text = total.text + (anyAaus ? " AAUs" : " oz.");
+        value = {anyAaus ? Kind::AlphaAcidUnits : Kind::Number, total.value};
     }
     hops.SetText(hops.TotalsRow(), HopCol::Amount, text);
-    hops.SetValue(
-        hops.TotalsRow(), HopCol::Amount,
-        text.empty() ? CellValue{} : CellValue{anyAaus ? Kind::AlphaAcidUnits : Kind::Number, total});
+    hops.SetValue(hops.TotalsRow(), HopCol::Amount, value);
 }
 
 }  // namespace tw

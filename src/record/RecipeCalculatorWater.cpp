@@ -18,10 +18,10 @@ constexpr double kTrace = 1e-6;
 void RecipeCalculator::UpdateTreatmentNeeded() {
     Grid& water = r_.gridWater;
     for (int col = WaterCol::FirstIon; col < water.Cols(); ++col) {
-        double needed = Finite(water.Number(WaterRow::Target, col) - water.Number(WaterRow::Source, col));
-        const std::string text = FormatQuantity(needed, 0);
-        water.SetValue(WaterRow::Needed, col, CellValue::Of(needed));
-        water.SetText(WaterRow::Needed, col, text);
+        const RoundedQuantity needed = FormatQuantity(
+            Finite(water.Number(WaterRow::Target, col) - water.Number(WaterRow::Source, col)), 0);
+        water.SetValue(WaterRow::Needed, col, CellValue::Of(needed.value));
+        water.SetText(WaterRow::Needed, col, needed.text);
         MarkTreatmentTotal(col);
     }
 }
@@ -42,10 +42,10 @@ void RecipeCalculator::UpdateTreatmentRow(int row, bool skipTotals) {
             grid.SetText(row, col, "");
             continue;
         }
-        // The number of the cell is the salt's factor and must stay, so only the text changes.
-        double ppm =
+        // The cell's own number is the salt's factor, so only the text is written.
+        const double ppm =
             Divide(grid.Number(row, TreatmentCol::Amount) * grid.Number(row, col), r_.txtTotalVol.Value());
-        grid.SetText(row, col, FormatQuantity(ppm, 0));
+        grid.SetText(row, col, FormatQuantity(ppm, 0).text);
     }
     if (!skipTotals) UpdateTreatmentTotals();
 }
@@ -61,10 +61,9 @@ void RecipeCalculator::UpdateTreatmentTotals() {
                 if (!grid.Empty(row, col))
                     total += Divide(grid.Number(row, TreatmentCol::Amount) * grid.Number(row, col),
                                     r_.txtTotalVol.Value());
-        total = Finite(total);
-        const std::string text = FormatQuantity(total, 0);
-        water.SetValue(WaterRow::Totals, col, CellValue::Of(total));
-        water.SetText(WaterRow::Totals, col, text);
+        const RoundedQuantity rounded = FormatQuantity(Finite(total), 0);
+        water.SetValue(WaterRow::Totals, col, CellValue::Of(rounded.value));
+        water.SetText(WaterRow::Totals, col, rounded.text);
         MarkTreatmentTotal(col);
     }
 }

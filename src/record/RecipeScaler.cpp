@@ -12,8 +12,9 @@ constexpr int kGramDecimals = 3;
 
 // Sets an amount: the cell's value, rounded, and its text with the unit appended.
 void PutAmount(Grid& grid, int row, int col, CellValue value, int decimals, std::string_view unit) {
-    const std::string text = FormatQuantity(value.number, decimals).append(unit);
-    grid.SetText(row, col, text);
+    RoundedQuantity rounded = FormatQuantity(value.number, decimals);
+    value.number = rounded.value;
+    grid.SetText(row, col, rounded.text.append(unit));
     grid.SetValue(row, col, value);
 }
 
@@ -25,8 +26,8 @@ void PutVolume(TextBox& box, double gallons, std::string_view text) {
 }
 
 void PutRoundedVolume(TextBox& box, double gallons) {
-    const std::string text = FormatQuantity(gallons, kDisplayDecimals) + " gal.";
-    PutVolume(box, gallons, text);
+    const RoundedQuantity rounded = FormatQuantity(gallons, kDisplayDecimals);
+    PutVolume(box, rounded.value, rounded.text + " gal.");
 }
 
 }  // namespace
@@ -72,9 +73,7 @@ std::optional<double> RecipeScaler::FinalVolumeFor(double newGallons) const {
     // The loss between the two volumes is added to the new size instead of subtracted, so that the final
     // volume becomes larger than the total volume. This is kept on purpose, so that the results of resizing
     // stay the same.
-    double volume = Finite(newGallons + oldSize - oldFinal);
-    FormatQuantity(volume, kDisplayDecimals);
-    return volume;
+    return FormatQuantity(Finite(newGallons + oldSize - oldFinal), kDisplayDecimals).value;
 }
 
 void RecipeScaler::ScaleVolumes(double newGallons, std::string_view sizeText, bool scaleBoilVol) {
@@ -95,13 +94,13 @@ RecipeScaler::CO2Outcome RecipeScaler::ScaleCO2(double volumes) {
 }
 
 RecipeScaler::CO2Outcome RecipeScaler::ScalePressure(double volumes) {
-    double psi = KegPressure(r_.txtTemp.Value(), volumes);
-    if (psi < 0) return CO2Outcome::TooLow;
-    const std::string text = FormatQuantity(psi, kDisplayDecimals) + " psi";
-    // Like a pressure that is typed in, it must give a non-negative volume of CO2.
-    if (!calculator_.HasKegVolumes(psi)) return CO2Outcome::Unreasonable;
-    r_.gridPressure.SetText(1, PressureCol::Pressure, text);
-    r_.gridPressure.SetValue(1, PressureCol::Pressure, CellValue::Of(psi));
+    const double exactPsi = KegPressure(r_.txtTemp.Value(), volumes);
+    if (exactPsi < 0) return CO2Outcome::TooLow;
+    const RoundedQuantity psi = FormatQuantity(exactPsi, kDisplayDecimals);
+    // As any pressure that is typed, it must have volumes.
+    if (!calculator_.HasKegVolumes(psi.value)) return CO2Outcome::Unreasonable;
+    r_.gridPressure.SetText(1, PressureCol::Pressure, psi.text + " psi");
+    r_.gridPressure.SetValue(1, PressureCol::Pressure, CellValue::Of(psi.value));
     calculator_.PressureCommitted();
     return CO2Outcome::Done;
 }

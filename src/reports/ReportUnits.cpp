@@ -27,12 +27,16 @@ constexpr ReportUnitGroup kGroups[] = {{"Volume", kVolumes},
                                        {"Gravity", kGravities},
                                        {"Alcohol", kAlcohols}};
 
-// Finds the group of an option and its place in the group. Returns false if the option is unknown.
-bool Find(std::string_view option, std::size_t& group, std::size_t& place) {
-    for (group = 0; group < std::size(kGroups); ++group)
-        for (place = 0; place < kGroups[group].options.size(); ++place)
-            if (kGroups[group].options[place].name == option) return true;
-    return false;
+struct Place {
+    std::size_t group;
+    std::size_t option;  // in its group
+};
+// Returns the place of the option of that name; nullopt for an unknown one.
+std::optional<Place> Find(std::string_view option) {
+    for (std::size_t group = 0; group < std::size(kGroups); ++group)
+        for (std::size_t i = 0; i < kGroups[group].options.size(); ++i)
+            if (kGroups[group].options[i].name == option) return Place{group, i};
+    return std::nullopt;
 }
 
 }  // namespace
@@ -44,20 +48,18 @@ std::span<const ReportUnitGroup> ReportUnitGroups() {
 ReportUnits::ReportUnits() : chosen_(std::size(kGroups), 0) {}
 
 bool ReportUnits::Knows(std::string_view option) const {
-    std::size_t group = 0, place = 0;
-    return Find(option, group, place);
+    return Find(option).has_value();
 }
 
 bool ReportUnits::Choose(std::string_view option) {
-    std::size_t group = 0, place = 0;
-    if (!Find(option, group, place)) return false;
-    chosen_[group] = place;
-    return true;
+    const std::optional<Place> place = Find(option);
+    if (place) chosen_[place->group] = place->option;
+    return place.has_value();
 }
 
 bool ReportUnits::IsChosen(std::string_view option) const {
-    std::size_t group = 0, place = 0;
-    return Find(option, group, place) && chosen_[group] == place;
+    const std::optional<Place> place = Find(option);
+    return place && chosen_[place->group] == place->option;
 }
 
 std::string ReportUnits::Gravity(std::optional<double> gravity) const {

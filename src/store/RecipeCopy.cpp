@@ -202,11 +202,11 @@ RecipeCopier::Step RecipeCopier::CopyRecipe(const std::string& name) {
         const bool goOn = host_.ContinueAfter("Recipe '" + name + "' does not exist in " + title + " !");
         return goOn ? Step::Next : Step::Stop;
     }
-    // The main database stores names trimmed; a name with spaces at its ends would never be found again.
-    std::string newName(isImport_ ? Trim(name) : std::string_view(name));
-    if (!ResolveName(newName)) return Step::Stop;
-    if (newName.empty()) return Step::Next;
-    return CopyRows(*sourceId, destNames_.Find(newName), newName);
+    // The main database holds its names trimmed; a name with blanks would never be found there again.
+    const auto newName = ResolveName(std::string(isImport_ ? Trim(name) : std::string_view(name)));
+    if (!newName) return Step::Stop;
+    if (newName->empty()) return Step::Next;
+    return CopyRows(*sourceId, destNames_.Find(*newName), *newName);
 }
 
 RecipeCopier::Step RecipeCopier::CopyRows(std::int64_t sourceId, std::optional<std::int64_t> oldId,
@@ -228,23 +228,22 @@ RecipeCopier::Step RecipeCopier::CopyRows(std::int64_t sourceId, std::optional<s
     return Step::Next;
 }
 
-bool RecipeCopier::ResolveName(std::string& newName) {
+std::optional<std::string> RecipeCopier::ResolveName(std::string newName) {
     while (destNames_.Find(newName)) {
         const ConflictAnswer answer = host_.ResolveConflict(newName);
         switch (answer.response) {
             case ConflictResponse::Overwrite:
-                return true;
+                return newName;
             case ConflictResponse::Abort:
-                return false;
+                return std::nullopt;
             case ConflictResponse::Skip:
-                newName.clear();
-                return true;
+                return std::string();
             case ConflictResponse::Rename:
                 newName = Trim(answer.newName);
                 break;
         }
     }
-    return true;
+    return newName;
 }
 
 std::optional<std::int64_t> RecipeCopier::NewestInDest(const std::string& name) {

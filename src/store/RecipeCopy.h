@@ -83,9 +83,9 @@ class RecipeCopier {
     Database& Dest() { return isImport_ ? main_ : file_; }
     void CopyRecipes(std::span<const std::string> names);
     Step CopyRecipe(const std::string& name);
-    // Determines the name to copy under; empty to skip the recipe. False to stop.
-    bool ResolveName(std::string& newName);
-    // Copies the source's row and its lines, replacing the old recipe if there is one.
+    // Returns the name to copy under, empty to leave the recipe out; nullopt to stop the run.
+    std::optional<std::string> ResolveName(std::string newName);
+    // Puts the source's row, with its lines, in the place of the old one if there is one.
     Step CopyRows(std::int64_t sourceId, std::optional<std::int64_t> oldId, const std::string& newName);
     // Returns the newest row of exactly that name in the destination; nullopt if there is none.
     std::optional<std::int64_t> NewestInDest(const std::string& name);

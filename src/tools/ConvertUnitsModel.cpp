@@ -99,10 +99,10 @@ void ConvertUnitsModel::EmptyOthers(int box) {
 
 void ConvertUnitsModel::FillOthers(int box, double value) {
     // All of them before the first is written, so that a failure leaves no mixture.
-    std::vector<double> values = ConvertToAllUnits(kind_, box, value);
+    const std::vector<double> values = ConvertToAllUnits(kind_, box, value);
     for (int other = 0; other < BoxCount(); ++other) {
         const auto at = static_cast<std::size_t>(other);
-        if (other != box) texts_[at] = FormatQuantity(values[at], kDecimals);
+        if (other != box) texts_[at] = FormatQuantity(values[at], kDecimals).text;
     }
 }
 

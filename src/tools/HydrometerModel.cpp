@@ -59,36 +59,36 @@ bool HydrometerModel::TypeInto(std::string_view name, std::string_view text) {
     return true;
 }
 
-std::optional<double> HydrometerModel::Take(std::string_view name, Validator validator,
-                                            std::string& refused) {
+HydrometerModel::Taken HydrometerModel::Take(std::string_view name, Validator validator) {
     const std::string& text = Text(name);
     try {
         const Reading<double> value = validator(text);
-        if (value) return IsBlank(text) ? std::nullopt : std::optional(*value);
+        if (value) return {IsBlank(text) ? std::nullopt : std::optional(*value), {}};
         ShowRefusal(messages_, value.Why());
     } catch (const Error& error) {
         messages_.ShowMessage("Error", error.WithNumber());
     }
-    refused = name;
-    return std::nullopt;
+    return {std::nullopt, std::string(name)};
 }
 
 std::string HydrometerModel::UpdateCorrection() {
-    std::string refused;
-    if (updating_) return refused;
+    if (updating_) return {};
     const ScopedValue updating(updating_, true);
-    const auto sample = Take("txtActTemp", ValidateTemperature, refused);
-    const auto reading = sample ? Take("txtActRead", ValidateGravity, refused) : std::nullopt;
-    const auto calibration = reading ? Take("cmbCalTemp", ValidateTemperature, refused) : std::nullopt;
-    if (!calibration) return refused;
+    const Taken sample = Take("txtActTemp", ValidateTemperature);
+    if (!sample.number) return sample.refused;
+    const Taken reading = Take("txtActRead", ValidateGravity);
+    if (!reading.number) return reading.refused;
+    const Taken calibration = Take("cmbCalTemp", ValidateTemperature);
+    if (!calibration.number) return calibration.refused;
     try {
-        const double corrected = Finite(*reading * WaterDensity(*sample) / WaterDensity(*calibration));
+        const double corrected =
+            Finite(*reading.number * WaterDensity(*sample.number) / WaterDensity(*calibration.number));
         texts_.back().text = FormatNumber(corrected, "0.##0") + " (" +
                              FormatNumber(Finite(SGToPlato(corrected)), "0.##0") + "° Plato)";
     } catch (const Error& error) {
         messages_.ShowMessage("Error", error.WithNumber());
     }
-    return refused;
+    return {};
 }
 
 }  // namespace tw

@@ -2,6 +2,7 @@
 // temperature than the hydrometer was calibrated for.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,8 +42,13 @@ class HydrometerModel final : public FormModel {
 
   private:
     FormControl Entry(const std::string& name);
-    // Nothing when the correction stops here: the text is blank, or refused and then named in refused.
-    std::optional<double> Take(std::string_view name, Validator validator, std::string& refused);
+    // The number of an entry, in its validator's unit; nothing when the correction stops here: the text is
+    // blank, or refused.
+    struct Taken {
+        std::optional<double> number;
+        std::string refused;  // the entry's name if a box has refused its text
+    };
+    Taken Take(std::string_view name, Validator validator);
 
     MessagePort& messages_;
     // Each under its control's name, in the order of the form.

@@ -65,17 +65,17 @@ std::string FormatNumber(double value, std::string_view pattern) {
     return text;
 }
 
-std::string FormatQuantity(double& value, int decimals) {
+RoundedQuantity FormatQuantity(double value, int decimals) {
     DecimalDigits digits(value);
     if (!digits.RoundTo(decimals < 1 ? 2 : decimals)) {
         if (digits.IsZero()) value = 0;
-        return NumberText(value);
+        return {value, NumberText(value)};
     }
     std::string text;
     if (digits.IsNegative()) text.push_back('-');
     digits.AppendMagnitude(text, 1, 0);
-    value = ReadNumber(text).value_or(value);
-    return digits.Count() <= kAlwaysShortestDigits ? text : NumberText(value);
+    const double rounded = ReadNumber(text).value_or(value);
+    return {rounded, digits.Count() <= kAlwaysShortestDigits ? text : NumberText(rounded)};
 }
 
 }  // namespace tw

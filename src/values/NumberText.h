@@ -29,8 +29,13 @@ std::optional<double> ReadNumber(std::string_view text);
 // REQUIRES: value is finite.
 std::string FormatNumber(double value, std::string_view pattern);
 
-// Rounds value in place to the displayed precision, two decimals when decimals is below 1 and that many
-// otherwise, and returns the shortest text of the rounded number: 5.004 gives "5". REQUIRES: value is finite.
-std::string FormatQuantity(double& value, int decimals);
+// A rounded number, in any unit, and its text.
+struct RoundedQuantity {
+    double value;
+    std::string text;
+};
+// Rounds value to the displayed precision, two decimals when decimals is below 1 and that many otherwise, and
+// returns the rounded number with its shortest text: 5.004 becomes 5 and "5". REQUIRES: value is finite.
+RoundedQuantity FormatQuantity(double value, int decimals);
 
 }  // namespace tw

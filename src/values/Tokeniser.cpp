@@ -29,16 +29,14 @@ std::size_t WordLength(std::string_view text) {
     return n;
 }
 
-// The fraction that may follow a whole number: adds it to value and cuts it off rest.
-void TakeFraction(std::string_view& rest, double& value) {
-    if (rest.find('/') == std::string_view::npos) return;
+// Cuts the fraction that may follow a whole number off rest and returns it; nothing when there is none.
+std::optional<double> TakeFraction(std::string_view& rest) {
+    if (rest.find('/') == std::string_view::npos) return std::nullopt;
     std::string_view behind = rest;
     const std::string_view token = GetToken(behind);
     const std::optional<double> fraction = ParseFraction(token);
-    if (!fraction) return;
-    // Added to a negative whole number too, so that "-2 1/2" is -1.5; that is intended.
-    value = Finite(value + *fraction);
-    rest = behind;
+    if (fraction) rest = behind;
+    return fraction;
 }
 
 }  // namespace
@@ -83,10 +81,12 @@ std::optional<double> ParseFraction(std::string_view text) {
 }
 
 std::optional<double> ParseMixedNumber(std::string_view token, std::string_view& rest) {
-    NumericText read = ReadNumeric(token);
+    const NumericText read = ReadNumeric(token);
     if (read.kind == Numeric::No) return ParseFraction(token);
-    if (read.kind == Numeric::Whole) TakeFraction(rest, read.value);
-    return read.value;
+    const std::optional<double> fraction = read.kind == Numeric::Whole ? TakeFraction(rest) : std::nullopt;
+    if (!fraction) return read.value;
+    // Added to a negative whole number too, so that "-2 1/2" is -1.5; that is intended.
+    return Finite(read.value + *fraction);
 }
 
 }  // namespace tw

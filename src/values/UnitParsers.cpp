@@ -27,16 +27,15 @@ std::optional<double> ParseDegreeUnit(std::string_view text, Unit unit) {
     return reader.Number();
 }
 
-// A ":" part behind a time: if rest begins with a colon, adds the number behind it, divided by divisor, to
-// value and cuts both off rest. False when there is a colon without a number behind it.
-bool TakeColonPart(std::string_view& rest, double divisor, double& value) {
-    if (rest.empty() || rest.front() != ':') return true;
+// Returns time with the ":" part that may follow it: if rest begins with a colon, adds the number behind it,
+// divided by divisor, and cuts both off rest. Returns nothing for a colon without a number behind it.
+std::optional<double> WithColonPart(double time, std::string_view& rest, double divisor) {
+    if (rest.empty() || rest.front() != ':') return time;
     rest.remove_prefix(1);
     const std::string_view token = GetToken(rest);
     const std::optional<double> part = ParseMixedNumber(token, rest);
-    if (!part) return false;
-    value = Finite(value + *part / divisor);
-    return true;
+    if (!part) return std::nullopt;
+    return Finite(time + *part / divisor);
 }
 
 }  // namespace
@@ -124,20 +123,18 @@ std::optional<double> ParseCO2Volumes(std::string_view text) {
 std::optional<double> ParseMinutes(std::string_view text) {
     const UnitReader reader(text, NumberForm::Mixed);
     if (!reader.HasNumber()) return std::nullopt;
-    double minutes = reader.Number();
     std::string_view rest = reader.Rest();
-    if (!TakeColonPart(rest, 60, minutes) || !UnitsOf(rest).Has(Unit::Minutes)) return std::nullopt;
-    return minutes;
+    const std::optional<double> minutes = WithColonPart(reader.Number(), rest, 60);
+    return minutes && UnitsOf(rest).Has(Unit::Minutes) ? minutes : std::nullopt;
 }
 
 std::optional<double> ParseHours(std::string_view text) {
     const UnitReader reader(text, NumberForm::Mixed);
     if (!reader.HasNumber()) return std::nullopt;
-    double hours = reader.Number();
     std::string_view rest = reader.Rest();
-    if (!TakeColonPart(rest, 60, hours) || !TakeColonPart(rest, 3600, hours)) return std::nullopt;
-    if (!UnitsOf(rest).Has(Unit::Hours)) return std::nullopt;
-    return hours;
+    std::optional<double> hours = WithColonPart(reader.Number(), rest, 60);
+    if (hours) hours = WithColonPart(*hours, rest, 3600);
+    return hours && UnitsOf(rest).Has(Unit::Hours) ? hours : std::nullopt;
 }
 
 std::optional<double> ParseSeconds(std::string_view text) {

@@ -101,21 +101,22 @@ class Reflections {
 
 }  // namespace
 
-bool AugmentBasis(const ColumnMatrix& matrix, int rows, std::span<const int> basis, std::vector<int>& order) {
+std::optional<std::vector<int>> AugmentBasis(const ColumnMatrix& matrix, int rows,
+                                             std::span<const int> basis) {
     const int columns = matrix.Columns();
     const int given = static_cast<int>(basis.size());
-    if (rows > columns || given > rows || rows < 1 || columns < 1) return false;
+    if (rows > columns || given > rows || rows < 1 || columns < 1) return std::nullopt;
     if (std::any_of(basis.begin(), basis.end(), [&](int col) { return col < 0 || col >= columns; }))
-        return false;
-    if (given == rows) return true;
-    order = StartingOrder(columns, basis);
+        return std::nullopt;
+    if (given == rows) return std::vector<int>();
+    std::vector<int> order = StartingOrder(columns, basis);
     Reflections reflections(matrix, rows, order);
     for (int h = 0; h < given; ++h) reflections.Reflect(h);
     for (int h = given; h < rows; ++h) {
         reflections.ChooseColumn(h);
         if (h < rows - 1) reflections.Reflect(h);
     }
-    return true;
+    return order;
 }
 
 }  // namespace tw

@@ -54,8 +54,8 @@ void LPsimplex::AddConstraint(std::span<const double> coefficients, double right
     ++nextRow_;
 }
 
-LPStatus LPsimplex::Solve(std::vector<double>& x, int maxIterations) {
-    x.assign(numVars_, 0.0);
+LPStatus LPsimplex::Solve(int maxIterations) {
+    solution_.assign(numVars_, 0.0);
     iterations_ = 0;
     SetupBasis();
     while (true) {
@@ -64,7 +64,7 @@ LPStatus LPsimplex::Solve(std::vector<double>& x, int maxIterations) {
         if (iterations_ > maxIterations) break;
         if (outcome == Outcome::Unbounded) return LPStatus::NoSolution;
         if (outcome == Outcome::Optimal && !phaseOne_) {
-            GetSolution(x);
+            GetSolution();
             return LPStatus::Solved;
         }
         if (outcome == Outcome::Optimal) {
@@ -73,7 +73,7 @@ LPStatus LPsimplex::Solve(std::vector<double>& x, int maxIterations) {
             GetRidOfArtificials();
         }
     }
-    GetSolution(x);
+    GetSolution();
     return LPStatus::IterationLimit;
 }
 
@@ -145,8 +145,7 @@ void LPsimplex::GetRidOfArtificials() {
     for (const int col : basis_)
         if (!IsArtificial(col)) kept.push_back(col);
     if (std::ssize(kept) < numConstraints_) {
-        std::vector<int> order;
-        AugmentBasis(matrix_, numConstraints_, kept, order);
+        const std::vector<int> order = AugmentBasis(matrix_, numConstraints_, kept).value();
         std::fill(basic.begin(), basic.end(), 0);
         for (int i = 0; i < numConstraints_; ++i) basic[order[i]] = 1;
     }
@@ -274,9 +273,9 @@ void LPsimplex::SkipCycle(int maxIterations) {
     }
 }
 
-void LPsimplex::GetSolution(std::vector<double>& x) const {
+void LPsimplex::GetSolution() {
     for (int i = 0; i < numConstraints_; ++i)
-        if (basis_[i] < numVars_) x[basis_[i]] = basicValues_[i] + 0.0;
+        if (basis_[i] < numVars_) solution_[basis_[i]] = basicValues_[i] + 0.0;
 }
 
 }  // namespace tw

@@ -37,12 +37,14 @@ class LPsimplex {
     // "Subscript out of range" when there are fewer coefficients, and when all rows are filled.
     void AddConstraint(std::span<const double> coefficients, double rightHandSide, LPRow type);
 
-    // x gets numVars values, no minus zero among them: the optimum, zeros when there is no solution, the
-    // current basic point at the limit. At most maxIterations + 1 iterations are made, and an optimum found
-    // by the last of them still counts as the limit. Raises "Division by zero" when phase one leaves an
-    // artificial variable in the basis and the basis cannot be completed; x is all zeros then.
-    LPStatus Solve(std::vector<double>& x, int maxIterations);
+    // Makes at most maxIterations + 1 iterations; an optimum found by the last of them still counts as the
+    // limit. Raises "Division by zero" when phase one leaves an artificial variable in the basis and the
+    // basis cannot be completed.
+    LPStatus Solve(int maxIterations);
 
+    // The values of the variables that Solve has found, no minus zero among them: the optimum, the current
+    // basic point at the limit, all zeros when there is no solution and when Solve has raised.
+    const std::vector<double>& Solution() const { return solution_; }
     // Iterations of Solve, those of both phases together.
     std::int64_t Iterations() const { return iterations_; }
     // The objective in the caller's sign where Solve last found an optimum of a phase, in phase one the sum
@@ -75,7 +77,7 @@ class LPsimplex {
     int ChooseLeaving();
     void UpdateBasis(int entering, int leaving);
     void SkipCycle(int maxIterations);
-    void GetSolution(std::vector<double>& x) const;
+    void GetSolution();
     bool IsArtificial(int column) const { return column >= firstArtificial_; }
 
     int numVars_ = 0;
@@ -104,6 +106,7 @@ class LPsimplex {
     std::vector<double> direction_;
     double theta_ = 0;
     double objectiveValue_ = 0;
+    std::vector<double> solution_;
     std::int64_t iterations_ = 0;
     Milestone milestone_;
 };

@@ -44,8 +44,8 @@ TreatmentAnswer SolveTreatmentWithDeviations(const Ions& needed, std::span<const
         row[kIonCount + salt] = 1;
         simplex.AddConstraint(row, 0, LPRow::AtLeast);
     }
-    std::vector<double> x;
-    const LPStatus status = simplex.Solve(x, maxIterations);
+    const LPStatus status = simplex.Solve(maxIterations);
+    const std::vector<double>& x = simplex.Solution();
     return {status, std::vector<double>(x.begin() + kIonCount, x.end())};
 }
 
@@ -58,9 +58,8 @@ TreatmentAnswer SolveTreatmentCapped(const Ions& needed, std::span<const Ions> s
         for (const Ions& salt : salts) row.push_back(salt[ion]);
         simplex.AddConstraint(row, needed[ion], LPRow::AtMost);
     }
-    TreatmentAnswer answer;
-    answer.status = simplex.Solve(answer.doses, maxIterations);
-    return answer;
+    const LPStatus status = simplex.Solve(maxIterations);
+    return {status, simplex.Solution()};
 }
 
 std::optional<std::vector<double>> FindDoses(const Ions& needed, std::span<const Ions> salts,

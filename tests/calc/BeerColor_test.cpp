@@ -17,13 +17,8 @@ constexpr Point kPoints[] = {{1, 40, 230},  {2, 36, 207}, {3, 32, 190}, {5, 28, 
                              {175, 0, 18},  {200, 0, 14}, {225, 0, 11}, {250, 0, 7},  {275, 0, 3},
                              {288, 0, 1},   {294, 0, 0}};
 
-struct Hsl {
-    double hue = 0, lightness = 0, saturation = 0;
-};
 Hsl HslOf(double hcu) {
-    Hsl hsl;
-    ColorTable().HCUToHSL(hcu, hsl.hue, hsl.lightness, hsl.saturation);
-    return hsl;
+    return ColorTable().HCUToHSL(hcu);
 }
 
 TEST(HCUToSRM, HasAWayBack) {

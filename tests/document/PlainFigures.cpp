@@ -95,8 +95,8 @@ void PlainRecipe::AmountTotal(const std::string& grid) {
     PlainCell& total = totals[grid][col];
     Blank(total);
     if (any[0] == any[1]) return;
-    double shown = Sound(any[0] ? sum[0] : sum[1]);
-    total.text = FormatQuantity(shown, 0) + (grid != "gridHops" ? " lbs." : any[0] ? " oz." : " AAUs");
+    const RoundedQuantity shown = FormatQuantity(Sound(any[0] ? sum[0] : sum[1]), 0);
+    total.text = shown.text + (grid != "gridHops" ? " lbs." : any[0] ? " oz." : " AAUs");
 }
 
 void PlainRecipe::OriginalGravity() {
@@ -286,8 +286,8 @@ void PlainRecipe::Treatment(int row) {
     for (std::size_t col = 2; col < 8; ++col) {
         line[col].text.clear();
         if (blank) continue;
-        double ppm = Over(line[1].number * line[col].number, boxes["txtTotalVol"].number);
-        line[col].text = FormatQuantity(ppm, 0);
+        const double ppm = Over(line[1].number * line[col].number, boxes["txtTotalVol"].number);
+        line[col].text = FormatQuantity(ppm, 0).text;
     }
 }
 
@@ -300,9 +300,9 @@ void PlainRecipe::TreatmentTotals() {
                 if (!line[col].Empty())
                     total += Over(line[1].number * line[col].number, boxes["txtTotalVol"].number);
         PlainCell& cell = rows["gridWater"][4][col];
-        total = Sound(total);
-        cell.text = FormatQuantity(total, 0);
-        cell.number = total;
+        const RoundedQuantity rounded = FormatQuantity(Sound(total), 0);
+        cell.text = rounded.text;
+        cell.number = rounded.value;
         MarkTotal(static_cast<int>(col));
     }
 }
@@ -310,9 +310,9 @@ void PlainRecipe::TreatmentTotals() {
 void PlainRecipe::Needed() {
     PlainRows& water = rows["gridWater"];
     for (std::size_t col = 2; col < 8; ++col) {
-        double d = Sound(water[1][col].number - water[0][col].number);
-        water[3][col].text = FormatQuantity(d, 0);
-        water[3][col].number = d;
+        const RoundedQuantity d = FormatQuantity(Sound(water[1][col].number - water[0][col].number), 0);
+        water[3][col].text = d.text;
+        water[3][col].number = d.value;
         MarkTotal(static_cast<int>(col));
     }
 }

@@ -33,8 +33,9 @@ std::string PlainRecipe::AllTexts() const {
 }
 
 void PlainRecipe::Amount(PlainCell& cell, double number, int decimals, const std::string& unit) {
-    cell.number = Sound(number);
-    cell.text = FormatQuantity(cell.number, decimals) + unit;
+    const RoundedQuantity rounded = FormatQuantity(Sound(number), decimals);
+    cell.number = rounded.value;
+    cell.text = rounded.text + unit;
 }
 
 void PlainRecipe::Amounts(const std::string& grid, double factor) {
@@ -80,9 +81,7 @@ PlainRecipe::Outcome PlainRecipe::Resize(double size, const std::string& text, b
         if (oldSize == 0) return false;
         const PlainBox& oldFinal = boxes["txtFinalVol"];
         if (!oldFinal.text.empty() && oldFinal.number != oldSize) {
-            double left = Sound(size + oldSize - oldFinal.number);
-            FormatQuantity(left, 0);
-            if (left <= 0) return false;
+            if (FormatQuantity(Sound(size + oldSize - oldFinal.number), 0).value <= 0) return false;
         }
         const double factor = Over(size, oldSize);
         const double oldIbu = boxes["txtIBU"].number;
@@ -91,15 +90,17 @@ PlainRecipe::Outcome PlainRecipe::Resize(double size, const std::string& text, b
             volumes = packaging == 1 ? rows["gridPressure"][0][1].number : totals["gridPriming"][3].number;
         if (boil && !boxes["txtBoilVol"].text.empty()) {
             PlainBox& box = boxes["txtBoilVol"];
-            box.number = Sound(box.number * factor);
-            box.text = FormatQuantity(box.number, 0) + " gal.";
+            const RoundedQuantity rounded = FormatQuantity(Sound(box.number * factor), 0);
+            box.number = rounded.value;
+            box.text = rounded.text + " gal.";
         }
         PlainBox& final = boxes["txtFinalVol"];
         if (!final.text.empty() && final.number == oldSize) {
             final = {text, size};
         } else if (!final.text.empty()) {
-            final.number = Sound(size + oldSize - final.number);
-            final.text = FormatQuantity(final.number, 0) + " gal.";
+            const RoundedQuantity rounded = FormatQuantity(Sound(size + oldSize - final.number), 0);
+            final.number = rounded.value;
+            final.text = rounded.text + " gal.";
         }
         boxes["txtTotalVol"] = {text, size};
         for (const char* grid : {"gridGrain", "gridExtract", "gridHops", "gridTreatment"})
@@ -147,14 +148,14 @@ PlainRecipe::Outcome PlainRecipe::ChangeCO2(double volumes) {
 bool PlainRecipe::CarbonateNow(double v) {
     const double t = boxes["txtTemp"].number;
     if (packaging == 1) {
-        double p = Sound(-16.6999 - 0.0101059 * t + 0.00116512 * (t * t) + 0.173354 * t * v + 4.24267 * v -
-                         0.0684226 * (v * v));
+        const double p = Sound(-16.6999 - 0.0101059 * t + 0.00116512 * (t * t) + 0.173354 * t * v +
+                               4.24267 * v - 0.0684226 * (v * v));
         if (p < 0) return false;
-        const std::string text = FormatQuantity(p, 0) + " psi";
-        if (!KegVolumes(p)) return false;
+        const RoundedQuantity rounded = FormatQuantity(p, 0);
+        if (!KegVolumes(rounded.value)) return false;
         PlainCell& cell = rows["gridPressure"][0][0];
-        cell.text = text;
-        cell.number = p;
+        cell.text = rounded.text + " psi";
+        cell.number = rounded.value;
         KegVolumes(std::nullopt);
         ShowCO2();
         return true;

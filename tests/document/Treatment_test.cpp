@@ -285,11 +285,12 @@ TEST_F(TreatmentOf, GoesBackAndForthOnRandomWaters) {
         }
         Log wanted;
         for (std::size_t i = 0; i < salts.size(); ++i) {
-            double grams = (*doses)[i] * R().txtTotalVol.Value();
+            const double grams = (*doses)[i] * R().txtTotalVol.Value();
             if (grams < 0.001) continue;
-            const std::string text = FormatQuantity(grams, 3);
-            wanted.push_back("Salt " + std::to_string(i) + " " + text + " grams");
-            EXPECT_EQ(R().gridTreatment.Number(static_cast<int>(wanted.size()), TreatmentCol::Amount), grams);
+            const RoundedQuantity rounded = FormatQuantity(grams, 3);
+            wanted.push_back("Salt " + std::to_string(i) + " " + rounded.text + " grams");
+            EXPECT_EQ(R().gridTreatment.Number(static_cast<int>(wanted.size()), TreatmentCol::Amount),
+                      rounded.value);
         }
         ASSERT_EQ(Rows(), wanted) << round;
         rowsSeen += static_cast<int>(wanted.size());

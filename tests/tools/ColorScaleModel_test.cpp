@@ -63,8 +63,8 @@ TEST(ColorScales, GoFromPaleToBlackAndNeverLighter) {
     for (int i = 0; i < kColorScales; ++i) {
         double last = 240;
         for (int step = 0; step <= 100; ++step) {
-            double hue = 0, lightness = 0, saturation = 0;
-            table.HCUToHSL(ScaleHcu(static_cast<ColorScale>(i), step / 100.0), hue, lightness, saturation);
+            const double lightness =
+                table.HCUToHSL(ScaleHcu(static_cast<ColorScale>(i), step / 100.0)).lightness;
             EXPECT_LE(lightness, last) << i << " at " << step;
             last = lightness;
         }

@@ -119,7 +119,7 @@ struct Rounding {
     double rounded;
 };
 
-TEST(FormatQuantity, RoundsInPlaceAndReturnsTheShortestText) {
+TEST(FormatQuantity, ReturnsTheRoundedNumberAndItsShortestText) {
     const std::vector<Rounding> cases{{5.004, 0, "5", 5},
                                       {5.006, 0, "5.01", 5.01},
                                       {5.25, 0, "5.25", 5.25},
@@ -141,31 +141,30 @@ TEST(FormatQuantity, RoundsInPlaceAndReturnsTheShortestText) {
                                       {1e22, 0, "10000000000000000000000", 1e22},
                                       {123456789012345.67, 1, "123456789012345.7", 123456789012345.7}};
     for (const Rounding& c : cases) {
-        double value = c.value;
-        EXPECT_EQ(FormatQuantity(value, c.decimals), c.text) << c.value;
-        EXPECT_EQ(value, c.rounded) << c.value;
+        const RoundedQuantity rounded = FormatQuantity(c.value, c.decimals);
+        EXPECT_EQ(rounded.text, c.text) << c.value;
+        EXPECT_EQ(rounded.value, c.rounded) << c.value;
     }
 }
 
 TEST(FormatQuantity, LeavesNoSignOnZero) {
     for (const double start : {-0.0, -0.001, -0.0049}) {
-        double value = start;
-        EXPECT_EQ(FormatQuantity(value, 0), "0");
-        EXPECT_EQ(value, 0);
-        EXPECT_FALSE(std::signbit(value)) << start;
+        const RoundedQuantity rounded = FormatQuantity(start, 0);
+        EXPECT_EQ(rounded.text, "0");
+        EXPECT_EQ(rounded.value, 0);
+        EXPECT_FALSE(std::signbit(rounded.value)) << start;
     }
 }
 
-TEST(FormatQuantity, ReturnsTheTextOfTheNumberThatItLeaves) {
+TEST(FormatQuantity, ReturnsTheTextOfTheNumberThatItReturns) {
     for (int i = -20000; i < 20000; ++i) {
-        double value = i * 0.0137 + i * 1e-9;
-        const double start = value;
-        const std::string text = FormatQuantity(value, 0);
-        ASSERT_EQ(text, NumberText(value));
-        ASSERT_NEAR(value, start, 0.005 + 1e-9);
-        double again = value;
-        ASSERT_EQ(FormatQuantity(again, 0), text);
-        ASSERT_EQ(again, value);
+        const double start = i * 0.0137 + i * 1e-9;
+        const RoundedQuantity rounded = FormatQuantity(start, 0);
+        ASSERT_EQ(rounded.text, NumberText(rounded.value));
+        ASSERT_NEAR(rounded.value, start, 0.005 + 1e-9);
+        const RoundedQuantity again = FormatQuantity(rounded.value, 0);
+        ASSERT_EQ(again.text, rounded.text);
+        ASSERT_EQ(again.value, rounded.value);
     }
 }
 

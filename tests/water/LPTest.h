@@ -33,9 +33,8 @@ inline Solved SolveProgram(const LinearProgram& program, int maxIterations) {
     simplex.SpecifyObjective(program.objective, program.minimise);
     for (const LinearProgram::Row& row : program.rows)
         simplex.AddConstraint(row.coefficients, row.rightSide, row.type);
-    std::vector<double> x;
-    const LPStatus status = simplex.Solve(x, maxIterations);
-    return {status, x, simplex.Iterations(), simplex.Objective()};
+    const LPStatus status = simplex.Solve(maxIterations);
+    return {status, simplex.Solution(), simplex.Iterations(), simplex.Objective()};
 }
 
 }  // namespace tw

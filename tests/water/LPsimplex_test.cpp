@@ -207,9 +207,8 @@ TEST(LPsimplex, StandsFewerRowsThanAnnounced) {
     simplex.Initialize(1, 3);
     simplex.AddConstraint(std::vector<double>{2}, 8, kAtMost);
     simplex.SpecifyObjective(std::vector<double>{1}, false);
-    std::vector<double> x;
-    EXPECT_EQ(simplex.Solve(x, 1000), LPStatus::Solved);
-    EXPECT_THAT(x, ElementsAre(4));
+    EXPECT_EQ(simplex.Solve(1000), LPStatus::Solved);
+    EXPECT_THAT(simplex.Solution(), ElementsAre(4));
 }
 
 TEST(LPsimplex, TakesMoreCoefficientsThanItNeeds) {
@@ -217,9 +216,8 @@ TEST(LPsimplex, TakesMoreCoefficientsThanItNeeds) {
     simplex.Initialize(1, 1);
     simplex.AddConstraint(std::vector<double>{2, 99}, 8, kAtMost);
     simplex.SpecifyObjective(std::vector<double>{1, 99}, false);
-    std::vector<double> x;
-    EXPECT_EQ(simplex.Solve(x, 1000), LPStatus::Solved);
-    EXPECT_THAT(x, ElementsAre(4));
+    EXPECT_EQ(simplex.Solve(1000), LPStatus::Solved);
+    EXPECT_THAT(simplex.Solution(), ElementsAre(4));
 }
 
 TEST(LPsimplex, AnswersNoMinusZero) {
@@ -281,14 +279,13 @@ TEST(LPsimplex, RaisesDivisionByZeroWhereTheBasisCannotBeCompleted) {
     simplex.Initialize(1, 2);
     simplex.SpecifyObjective(std::vector<double>{1}, true);
     for (int row = 0; row < 2; ++row) simplex.AddConstraint(std::vector<double>{1e-200}, 1e-200, kEqual);
-    std::vector<double> x{7, 7};
     try {
-        simplex.Solve(x, 1000);
+        simplex.Solve(1000);
         ADD_FAILURE();
     } catch (const Error& error) {
         EXPECT_EQ(error.Number(), kDivisionByZeroNumber);
     }
-    EXPECT_THAT(x, ElementsAre(0));
+    EXPECT_THAT(simplex.Solution(), ElementsAre(0));
 }
 
 }  // namespace

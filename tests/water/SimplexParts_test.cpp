@@ -17,6 +17,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Optional;
 
 ColumnMatrix FromRows(const Matrix& rows) {
     std::vector<ColumnMatrix::Place> places;
@@ -140,15 +141,13 @@ TEST(AugmentBasis, AgreesWithPlainReflectionsToTheLastBit) {
         for (int col = 0; col < std::ssize(matrix[0]) && std::ssize(basis) < rows - 1; ++col)
             if (dice.Below(3) == 0) basis.push_back(col);
         std::reverse(basis.begin(), basis.end());
-        std::vector<int> order;
         try {
             const std::vector<int> plain = AugmentPlainly(matrix, basis);
-            ASSERT_TRUE(AugmentBasis(FromRows(matrix), rows, basis, order));
-            ASSERT_EQ(order, plain) << "turn " << turn;
+            ASSERT_EQ(AugmentBasis(FromRows(matrix), rows, basis), plain) << "turn " << turn;
         } catch (const Error& error) {
             ++raised;
             EXPECT_EQ(error.Number(), kDivisionByZeroNumber);
-            EXPECT_THROW(AugmentBasis(FromRows(matrix), rows, basis, order), Error) << "turn " << turn;
+            EXPECT_THROW(AugmentBasis(FromRows(matrix), rows, basis), Error) << "turn " << turn;
         }
     }
     EXPECT_GT(raised, 0);
@@ -158,40 +157,33 @@ TEST(AugmentBasis, AgreesWithPlainReflectionsToTheLastBit) {
 // column 1 with its 3. Rotated along (3, 4), the unit columns 2 and 3 have 0.8 and 0.6 in the second row,
 // so they follow by size.
 TEST(AugmentBasis, TakesTheLargestOfEachRow) {
-    std::vector<int> order;
-    ASSERT_TRUE(AugmentBasis(FromRows({{1, 3, 1, 0}, {1, 4, 0, 1}}), 2, {}, order));
-    EXPECT_THAT(order, ElementsAre(1, 2, 3, 0));
+    EXPECT_THAT(AugmentBasis(FromRows({{1, 3, 1, 0}, {1, 4, 0, 1}}), 2, {}),
+                Optional(ElementsAre(1, 2, 3, 0)));
 }
 
 TEST(AugmentBasis, PutsGivenColumnsFirstInAscendingOrder) {
-    std::vector<int> order;
     const std::vector<int> basis{3, 1};
-    ASSERT_TRUE(AugmentBasis(FromRows({{0, 1, 0, 0}, {5, 0, 1, 0}, {0, 0, 0, 1}}), 3, basis, order));
-    EXPECT_THAT(order, ElementsAre(1, 3, 0, 2));
+    EXPECT_THAT(AugmentBasis(FromRows({{0, 1, 0, 0}, {5, 0, 1, 0}, {0, 0, 0, 1}}), 3, basis),
+                Optional(ElementsAre(1, 3, 0, 2)));
 }
 
 TEST(AugmentBasis, RefusesWhatIsNoPartOfABasis) {
     const ColumnMatrix matrix = FromRows({{1, 0}, {0, 1}});
-    std::vector<int> order{7};
-    EXPECT_FALSE(AugmentBasis(matrix, 3, {}, order));
-    EXPECT_FALSE(AugmentBasis(matrix, 0, {}, order));
-    EXPECT_FALSE(AugmentBasis(matrix, 1, std::vector<int>{0, 1}, order));
-    EXPECT_FALSE(AugmentBasis(matrix, 2, std::vector<int>{-1}, order));
-    EXPECT_FALSE(AugmentBasis(matrix, 2, std::vector<int>{2}, order));
-    EXPECT_FALSE(AugmentBasis(ColumnMatrix(), 0, {}, order));
-    EXPECT_THAT(order, ElementsAre(7));
+    EXPECT_FALSE(AugmentBasis(matrix, 3, {}));
+    EXPECT_FALSE(AugmentBasis(matrix, 0, {}));
+    EXPECT_FALSE(AugmentBasis(matrix, 1, std::vector<int>{0, 1}));
+    EXPECT_FALSE(AugmentBasis(matrix, 2, std::vector<int>{-1}));
+    EXPECT_FALSE(AugmentBasis(matrix, 2, std::vector<int>{2}));
+    EXPECT_FALSE(AugmentBasis(ColumnMatrix(), 0, {}));
 }
 
 TEST(AugmentBasis, LeavesACompleteBasisAlone) {
-    std::vector<int> order{7};
-    EXPECT_TRUE(AugmentBasis(FromRows({{1, 0}, {0, 1}}), 2, std::vector<int>{1, 0}, order));
-    EXPECT_THAT(order, ElementsAre(7));
+    EXPECT_THAT(AugmentBasis(FromRows({{1, 0}, {0, 1}}), 2, std::vector<int>{1, 0}), Optional(IsEmpty()));
 }
 
 TEST(AugmentBasis, RaisesDivisionByZeroAlongAZeroColumn) {
-    std::vector<int> order;
     try {
-        AugmentBasis(FromRows({{0, 1, 0}, {0, 0, 1}}), 2, std::vector<int>{0}, order);
+        AugmentBasis(FromRows({{0, 1, 0}, {0, 0, 1}}), 2, std::vector<int>{0});
         ADD_FAILURE();
     } catch (const Error& error) {
         EXPECT_EQ(error.Number(), kDivisionByZeroNumber);
@@ -199,9 +191,8 @@ TEST(AugmentBasis, RaisesDivisionByZeroAlongAZeroColumn) {
 }
 
 TEST(AugmentBasis, RaisesOverflowForSquaresBeyondADouble) {
-    std::vector<int> order;
     try {
-        AugmentBasis(FromRows({{1e200, 1, 0}, {0, 0, 1}}), 2, std::vector<int>{0}, order);
+        AugmentBasis(FromRows({{1e200, 1, 0}, {0, 0, 1}}), 2, std::vector<int>{0});
         ADD_FAILURE();
     } catch (const Error& error) {
         EXPECT_EQ(error.Number(), kOverflowNumber);
