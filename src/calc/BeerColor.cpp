@@ -53,8 +53,8 @@ ColorTable::Entry ColorTable::LookupColorEntry(int hcu) const {
 
 Hsl ColorTable::HCUToHSL(double hcu) const {
     constexpr double kSaturation = 240;
-    // Beyond either end of the table the colour no longer changes; this also keeps a huge figure within a
-    // whole number.
+    // Beyond either end of the table the colour no longer changes. The clamp also keeps a huge number within
+    // an int.
     const double known = std::clamp(hcu, 0.0, static_cast<double>(kLastKey + 1));
     const double floor = std::floor(known);
     const int key = static_cast<int>(floor);

@@ -8,7 +8,7 @@
 namespace tw {
 namespace {
 
-// The part of the keg pressure equation that does not hold the volumes.
+// The terms of KegPressure without the volumes, in psi.
 double PressureWithoutGas(double fahrenheit) {
     const double square = fahrenheit * fahrenheit;
     return -16.6999 - 0.0101059 * fahrenheit + 0.00116512 * square;

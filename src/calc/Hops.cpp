@@ -32,7 +32,8 @@ constexpr std::array<Point, 14> kGaretz{{{5, 0},
                                          {80, 0.22},
                                          {90, 0.23}}};
 
-// Interpolated from the left point of the segment that holds minutes; 0 outside the table.
+// Returns the utilisation interpolated from the left point of the segment that holds minutes; 0 outside the
+// table.
 double Interpolate(std::span<const Point> table, double minutes) {
     for (std::size_t i = 0; i + 1 < table.size(); ++i) {
         const Point& left = table[i];
@@ -80,7 +81,7 @@ double HopBitterness(IbuMethod method, const HopAddition& hop, const HopKettle& 
     }
     const double utilisation =
         method == IbuMethod::Rager ? RagerTableUtilisation(hop.minutes) : GaretzTableUtilisation(hop.minutes);
-    // 7489 here and 7490 above: two constants on purpose.
+    // 7489 here and 7490 above: each method is defined with a constant of its own.
     return Divide(utilisation * hop.alphaAcidOunces * 7489 * hop.formFactor * kettle.hopExtraction,
                   GravityAdjustment(kettle.boilGravity) * kettle.totalVolume);
 }

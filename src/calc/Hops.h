@@ -5,24 +5,25 @@ namespace tw {
 
 enum class IbuMethod : int { Tinseth = 0, Rager = 1, Garetz = 2 };
 
-// Each utilisation is a fraction of 1. boilSG is the specific gravity of the boil, minutes the boil time, not
-// negative.
+// Each utilisation is a fraction of 1. boilSG is the specific gravity of the boil; minutes is the boil time,
+// which must not be negative.
 
-// Glenn Tinseth ("Glenn's Hop Utilization Numbers", 1997): the bigness factor 1.65 * 0.000125^(boilSG - 1)
-// times the boil time factor (1 - e^(-0.04 minutes)) / 4.15. His table runs from 1.030 to 1.130 and to 120
-// minutes; outside the formula goes on. Raises "Overflow" where that is beyond all numbers.
+// Returns Glenn Tinseth's utilisation ("Glenn's Hop Utilization Numbers", 1997): the bigness factor 1.65 *
+// 0.000125^(boilSG - 1) times the boil time factor (1 - e^(-0.04 minutes)) / 4.15. Valid where his table is,
+// from 1.030 to 1.130 and to 120 minutes; nothing is limited outside. Raises "Overflow" where the result is
+// not finite.
 double TinsethUtilisation(double boilSG, double minutes);
-// Jackie Rager's method ("Calculating Hop Bitterness in Beer", Zymurgy, special issue 1990), before the
-// gravity adjustment, with a table of the program's own, linear between its points: 0 to 0.27 over 0 to 89
-// minutes; 0.27 from 90 on. Between 89 and 90 minutes, both exclusive, it is 0: a hole in the table as built,
-// kept on purpose.
+// Returns Jackie Rager's utilisation ("Calculating Hop Bitterness in Beer", Zymurgy, special issue 1990)
+// before the gravity adjustment, from a table of the program's own, linear between its points: 0 to 0.27 from
+// 0 to 89 minutes, 0.27 from 90 on. Between 89 and 90 minutes, both exclusive, it is 0: a hole in the table,
+// kept so that recipes keep their bitterness.
 double RagerTableUtilisation(double minutes);
-// Mark Garetz's table (Using Hops, 1994), linear between its points, before the gravity adjustment: 0 until 5
-// minutes, then rising to 0.23 at 90, and 0.23 beyond. His hopping-rate and temperature corrections are not
-// applied, on purpose.
+// Returns Mark Garetz's utilisation (Using Hops, 1994) before the gravity adjustment, linear between the
+// points of his table: 0 until 5 minutes, then rising to 0.23 at 90, and 0.23 beyond. His corrections for
+// hopping rate and temperature are not applied: a recipe does not hold what they need.
 double GaretzTableUtilisation(double minutes);
-// The divisor of both tables, as Rager and Garetz have it: 1 + (boilSG - 1.05) / 0.2 above 1.050,
-// otherwise 1. It has no upper limit.
+// Returns the divisor of both tables, which has no unit, as Rager and Garetz define it: 1 + (boilSG - 1.05) /
+// 0.2 above 1.050, otherwise 1. It has no upper limit.
 double GravityAdjustment(double boilSG);
 
 // One addition of hops.
@@ -31,20 +32,23 @@ struct HopAddition {
     double formFactor;       // multiplier of the hop form and the sock
     double minutes;          // boil time
 };
-// The kettle that it goes into.
+// The kettle that the hops go into.
 struct HopKettle {
     double boilGravity;    // specific gravity
     double totalVolume;    // US gallons
     double hopExtraction;  // multiplier
 };
-// IBUs: milligrams of dissolved alpha acid in a litre, an ounce in a US gallon being 7490 (Tinseth) or 7489.
-// Raises "Division by zero" for a total volume of 0.
+// Returns the IBUs of an addition: milligrams of dissolved alpha acid a litre, where an ounce in a US gallon
+// is 7490 (Tinseth) or 7489 (Rager, Garetz). Valid where the utilisation is. Raises "Division by zero" for a
+// total volume of 0, "Overflow" where the result is not finite.
 double HopBitterness(IbuMethod method, const HopAddition& hop, const HopKettle& kettle);
 
-// All three methods for one gravity and time, in percent.
+// The utilisation by all three methods.
 struct UtilisationFigures {
     double tinseth, rager, garetz;  // percent
 };
+// Returns the utilisations for a gravity and a time; sources and valid ranges are those of the functions
+// above.
 UtilisationFigures UtilisationAt(double boilSG, double minutes);
 
 }  // namespace tw

@@ -5,7 +5,7 @@
 
 namespace tw {
 
-// Red, green and blue from 0 to 255; white at first.
+// Red, green and blue from 0 to 255; white by default.
 struct Rgb {
     std::uint8_t red = 255;
     std::uint8_t green = 255;
