@@ -4,8 +4,8 @@
 
 namespace tw {
 
-// The powers are taken first, as the formula is written: 1.050 gives 12.3743425, which lies on an edge of
-// rounding, and the other order of the factors would fall below it.
+// The powers are computed first, as the formula is written: 1.050 gives 12.3743425, which is on an edge of
+// rounding, and another order of the factors would fall below it.
 double SGToPlato(double sg) {
     return 1262.45 * sg - 668.96 - 776.43 * std::pow(sg, 2) + 182.94 * std::pow(sg, 3);
 }

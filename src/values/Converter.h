@@ -1,7 +1,7 @@
 // Conversions between quantities that are not a plain factor, and the factors that the whole program agrees
-// on. The factors are rounded as they stand and do not agree with one another to the last digit (16 * 28.35
-// is 453.6): each path keeps its own, on purpose. Gallons, quarts, pints, cups, fluid ounces and spoons are
-// US measures of volume; ounces and pounds are avoirdupois weights.
+// on. The factors are rounded as written and do not agree with one another to the last digit (16 * 28.35 is
+// 453.6): none is derived from another, so every conversion keeps its figures. Gallons, quarts, pints, cups,
+// fluid ounces and spoons are US measures of volume; ounces and pounds are avoirdupois weights.
 #pragma once
 
 namespace tw {
@@ -23,10 +23,12 @@ inline constexpr double kPascalsPerPsi = 6894.757;
 inline constexpr double kPsiPerAtmosphere = 14.6959;
 inline constexpr double kKelvinOffset = 273.15;  // kelvins at 0 degrees Celsius
 
-// Degrees Plato of a specific gravity, where water is 1: a cubic fit. Not the exact inverse of PlatoToSG, and
-// not corrected to be.
+// Returns the degrees Plato of a specific gravity, where water is 1: the cubic fit of the extract tables that
+// Michael Hall gives ("Brew by the Numbers", Zymurgy, Summer 1995), its constant term rounded. Valid to about
+// 30 degrees Plato; nothing is limited outside. Not the exact inverse of PlatoToSG, and not corrected to be.
 double SGToPlato(double sg);
-// Specific gravity of degrees Plato: a cubic fit of its own; exactly 1 at 0.
+// Returns the specific gravity of degrees Plato: the cubic fit in the other direction (same article), its
+// constant term rounded, so that 0 is exactly 1. Valid to about 30 degrees Plato; nothing is limited outside.
 double PlatoToSG(double plato);
 
 }  // namespace tw

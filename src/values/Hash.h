@@ -1,5 +1,5 @@
-// The FNV-1a hash: a number that tells one text from another, the same on every machine and in every version.
-// Files and folders carry it, so that it never changes. It is no protection against forgery.
+// The FNV-1a hash: a number that distinguishes texts, the same on every machine and in every version. It is
+// stored in files and names folders, so it must never change. It does not protect against forgery.
 #pragma once
 
 #include <cstdint>
@@ -8,11 +8,12 @@
 
 namespace tw {
 
-// The hash of no bytes.
+// The hash of an empty text.
 inline constexpr std::uint32_t kEmptyHash32 = 2166136261U;
 inline constexpr std::uint64_t kEmptyHash64 = 14695981039346656037U;
 
-// Returns the hash of what hash stands for with one byte, or all bytes of text, behind it.
+// Extends hash, the hash of some bytes, by one more byte or by all bytes of text, and returns the hash of
+// them all.
 constexpr std::uint32_t Hash32(unsigned char byte, std::uint32_t hash) {
     return (hash ^ byte) * 16777619U;
 }

@@ -1,11 +1,11 @@
-// Numbers by pattern: FormatNumber and FormatQuantity.
+// Formats and rounds numbers: FormatNumber and FormatQuantity.
 #include "values/DecimalDigits.h"
 #include "values/NumberText.h"
 
 namespace tw {
 namespace {
 
-// A pattern taken apart: the literal text around the placeholders, and what the placeholders ask for.
+// The parts of a pattern: the literal text around the placeholders, and what the placeholders ask for.
 struct NumberPattern {
     std::string_view before;
     std::string_view behind;
@@ -20,7 +20,7 @@ bool IsPlaceholder(char c) {
     return c == '0' || c == '#';
 }
 
-// Where the placeholders begin: at the first "0" or "#", or at a "." directly before one.
+// Returns where the placeholders begin: at the first "0" or "#", or at a "." directly before it.
 std::size_t FindPlaceholders(std::string_view pattern) {
     const std::size_t first = pattern.find_first_of("0#");
     if (first == std::string_view::npos) return pattern.size();
@@ -46,7 +46,7 @@ NumberPattern TakeApart(std::string_view pattern) {
     return parts;
 }
 
-// Longer decimal texts may not be the shortest ones of the double that they read as.
+// A longer decimal text may not be the shortest one of the double that it reads as.
 constexpr int kAlwaysShortestDigits = 15;
 
 }  // namespace

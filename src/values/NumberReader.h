@@ -1,4 +1,4 @@
-// One pass over a text that may be a number: what kind it is, and its value.
+// Reads a text that may be a number in one pass: which kind it is, and its value.
 #pragma once
 
 #include <string_view>
@@ -11,8 +11,8 @@ struct NumericText {
     Numeric kind = Numeric::No;
     double value = 0;  // a plain number, no unit
 };
-// Whole for an optional "-" and digits; Real when the text holds a "." too (and at least one digit); No for
-// anything else. Raises "Overflow" for digits beyond the range of a double; digits too small for it are zero.
+// Returns Whole for an optional "-" and digits; Real if the text holds a "." too, and at least one digit; No
+// for anything else. A number too small for a double is zero. Raises "Overflow" for one that is too large.
 NumericText ReadNumeric(std::string_view text);
 
 }  // namespace tw

@@ -18,16 +18,15 @@ constexpr double kExactWholeNumbers = 9007199254740992.0;  // 2^53
 // Room for the longest text that to_chars writes for a double when it may choose the notation.
 constexpr std::size_t kNumberRoom = 32;
 
-// True if the text [begin, end) of to_chars carries an exponent: "e-07" or "e+123" at its end.
+// True if the text [begin, end) that to_chars wrote ends with an exponent: "e-07" or "e+123".
 bool HasExponent(const char* begin, const char* end) {
     return (end - begin > 4 && end[-4] == 'e') || (end - begin > 5 && end[-5] == 'e');
 }
 
-// Writes the number to buffer if to_chars does it as NumberText wants it, and returns the end; nullptr
-// otherwise.
+// Writes the number to buffer if to_chars writes it in the form of NumberText, and returns the end; returns
+// nullptr otherwise.
 char* WriteDirectly(char* buffer, double value) {
-    // A larger number comes from to_chars with digits that it does not need: all those of the double, not the
-    // shortest.
+    // For a larger number, to_chars writes all digits of the double, not only the shortest ones.
     if (!(std::fabs(value) < kExactWholeNumbers)) return nullptr;
     char* const limit = buffer + kNumberRoom;
     const auto whole = static_cast<std::int64_t>(value);
@@ -80,7 +79,7 @@ Scan ScanNumber(std::string_view text) {
     return scan;
 }
 
-// The powers of ten that a double holds exactly, as far as they are needed.
+// The powers of ten that are needed. A double holds each of them exactly.
 constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                    1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 static_assert(std::size(kPowersOfTen) == kMantissaDigits + 1);

@@ -1,5 +1,5 @@
-// Numbers as text and back. NumberText is the one place that turns a double into its shortest text; nothing
-// in the program reads or writes numbers by the user's locale.
+// Numbers as text and back. NumberText is the only place that turns a double into its shortest text; the
+// program never reads or writes numbers by the user's locale.
 #pragma once
 
 #include <optional>
@@ -8,25 +8,25 @@
 
 namespace tw {
 
-// All numbers here may be in any unit: text and number are in the same one.
+// All numbers here may be in any unit; a text and its number are in the same one.
 
-// The shortest decimal text that reads back as the same double: fixed notation, never an exponent, "." as the
-// mark, no "+", "0" also for minus zero. A large number is its shortest digits followed by zeros. REQUIRES:
-// value is finite.
+// Returns the shortest decimal text that reads back as the same double: fixed notation, never an exponent,
+// "." as the mark, no "+", "0" even for minus zero. A large number is its shortest digits followed by zeros.
+// REQUIRES: value is finite.
 std::string NumberText(double value);
-// Writes the same text to the end of out.
+// Appends NumberText(value) to out.
 void AppendNumberText(std::string& out, double value);
 
-// The number that text is as a whole: an optional leading "-", digits, at most one ".", at least one digit,
-// nothing else (no blanks, no "+", no exponent). Nothing for any other text. Raises "Overflow" for digits
-// beyond the range of a double.
+// Returns the number that the whole of text is: an optional leading "-", digits, at most one ".", at least
+// one digit, nothing else (no blanks, no "+", no exponent). Returns nothing for any other text. Raises
+// "Overflow" for digits beyond the range of a double.
 std::optional<double> ReadNumber(std::string_view text);
 
-// value in a number pattern: "0" a digit that is always shown, "#" one shown if needed, "." the decimal mark,
-// a "%" in the text behind scales by 100, and all other text before and behind the digits stands as it is. A
-// "0" to the right of a "#" in the decimals forces all places before it: "0.##0" always shows three. Decimals
-// are rounded half away from zero on the number's decimal text. A number that rounds to zero shows no sign.
-// REQUIRES: value is finite.
+// Returns value formatted by a pattern. In it, "0" is a digit that is always shown, "#" one that is shown if
+// needed, and "." the decimal mark; a "%" after the digits multiplies by 100; all other text before and after
+// the digits is copied. A "0" to the right of a "#" in the decimals forces all places before it: "0.##0"
+// always shows three. Decimals are rounded half away from zero on the number's decimal text. A number that
+// rounds to zero has no sign. REQUIRES: value is finite.
 std::string FormatNumber(double value, std::string_view pattern);
 
 // A rounded number, in any unit, and its text.
@@ -34,8 +34,8 @@ struct RoundedQuantity {
     double value;
     std::string text;
 };
-// Rounds value to the displayed precision, two decimals when decimals is below 1 and that many otherwise, and
-// returns the rounded number with its shortest text: 5.004 becomes 5 and "5". REQUIRES: value is finite.
+// Rounds value to the displayed precision, two decimals if decimals is below 1 and that many otherwise.
+// Returns the rounded number with its shortest text: 5 and "5" for 5.004. REQUIRES: value is finite.
 RoundedQuantity FormatQuantity(double value, int decimals);
 
 }  // namespace tw

@@ -1,4 +1,4 @@
-// The parsers and validators by their names.
+// Finds the parsers and validators by name.
 #include <algorithm>
 #include <iterator>
 

@@ -1,5 +1,5 @@
-// What a typed text was read as, and whether an entry was taken. Neither shows anything: whoever asked
-// decides whether the brewer hears of a refusal.
+// The result of reading a typed text, and of committing an entry. Neither shows a message: the caller decides
+// whether the brewer sees a refusal.
 #pragma once
 
 #include <optional>
@@ -14,14 +14,14 @@ namespace tw {
 // The title of the box for an entry that cannot be read.
 inline constexpr std::string_view kInvalidEntry = "Invalid Entry";
 
-// Why an entry was not taken: the box that says so. Without a text there is nothing to say.
+// Why an entry was refused, as a message box says it. With an empty text no box is shown.
 struct Refusal {
-    std::string_view title = kInvalidEntry;  // a constant
+    std::string_view title = kInvalidEntry;  // must be a constant
     std::string text;
     bool operator==(const Refusal&) const = default;
 };
 
-// Shows the box; none for a refusal without a text.
+// Shows the box, unless the refusal has no text.
 inline void ShowRefusal(MessagePort& messages, const Refusal& refusal) {
     if (!refusal.text.empty()) messages.ShowMessage(refusal.title, refusal.text);
 }
@@ -47,14 +47,14 @@ class [[nodiscard]] Reading {
     Refusal refusal_;
 };
 
-// Whether an entry was taken, and if not, why.
+// Whether an entry was accepted, and if not, why.
 class [[nodiscard]] Commit {
   public:
     static Commit Accepted() { return Commit(std::nullopt); }
     static Commit Refused(Refusal refusal) { return Commit(std::move(refusal)); }
 
     explicit operator bool() const { return !refusal_; }
-    // REQUIRES: it was refused.
+    // REQUIRES: the entry was refused.
     const Refusal& Why() const { return *refusal_; }
 
   private:

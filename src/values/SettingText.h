@@ -6,16 +6,16 @@
 
 namespace tw {
 
-// Each gives nothing for another text.
+// Each returns nothing for any other text.
 
-// "True" or "False" in any case, or a number, of which 0 is false.
+// Reads "True" or "False", case-insensitive, or a number, of which only 0 is false.
 std::optional<bool> ReadFlag(std::string_view text);
-// A number from least to most, rounded to a whole one.
+// Reads a number and rounds it to a whole one, which must be from least to most.
 std::optional<int> ReadWhole(std::string_view text, int least, int most);
-// A number in any unit: the setting says which.
+// Reads a number in any unit; the setting says which.
 std::optional<double> ReadReal(std::string_view text);
 
-// Puts what was read into field. False, and field is untouched, when nothing was.
+// Assigns the value read to field. Returns false, with field unchanged, if nothing was read.
 template <class T>
 bool TakeInto(T& field, const std::optional<T>& read) {
     if (read) field = *read;

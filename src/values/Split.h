@@ -8,8 +8,8 @@
 
 namespace tw {
 
-// Cuts the part before the first separator off text, together with the separator, and returns it; cuts and
-// returns all of text when it holds none.
+// Cuts the part before the first separator off text, together with the separator, and returns it. Cuts off
+// and returns all of text if it holds no separator.
 constexpr std::string_view CutPart(std::string_view& text, char separator) {
     const std::size_t end = text.find(separator);
     const std::string_view part = text.substr(0, end);
@@ -25,12 +25,12 @@ inline std::vector<std::string_view> Split(std::string_view text, char separator
     return parts;
 }
 
-// True for the characters between words: blanks, tabs and the ends of lines.
+// True for the characters between words: blanks, tabs and line ends.
 constexpr bool SeparatesWords(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
-// Calls action with each word of text, in their order.
+// Calls action with each word of text, in order.
 template <typename Action>
 void ForEachWord(std::string_view text, Action action) {
     const char* at = text.data();

@@ -1,5 +1,5 @@
-// Sheets of text: a header line, then lines of cells between tabs. The catalogue's tables and the tables of
-// the help are written so.
+// Sheets of text: a header line, then lines of cells separated by tabs. The tables of the catalogue and of
+// the help have this form.
 #pragma once
 
 #include <istream>
@@ -19,7 +19,7 @@ struct SheetLine {
 };
 
 struct TabbedSheet {
-    std::string header;  // empty when there is no line at all
+    std::string header;  // empty if there is no line at all
     std::vector<SheetLine> lines;
 };
 

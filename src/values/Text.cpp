@@ -16,8 +16,8 @@ char LowerAscii(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-// How many of the first bytes are ASCII and the same in both, in steps of eight: neighbours in a sorted list
-// begin alike. REQUIRES: both have size bytes.
+// Returns how many of the first bytes are ASCII and equal in both texts, counted in steps of eight:
+// neighbours in a sorted list begin alike. REQUIRES: both have size bytes.
 std::size_t EqualAscii(std::string_view a, std::string_view b, std::size_t size) {
     constexpr std::uint64_t kBeyondAscii = 0x8080808080808080U;
     std::size_t i = 0;
@@ -31,7 +31,7 @@ std::size_t EqualAscii(std::string_view a, std::string_view b, std::size_t size)
     return i;
 }
 
-// text with each code point changed; a byte that is no valid UTF-8 stays.
+// Returns text with each code point changed; a byte that is not valid UTF-8 stays.
 template <char (*ChangeAscii)(char), utf8proc_int32_t (*Change)(utf8proc_int32_t)>
 std::string Changed(std::string_view text) {
     std::string changed;

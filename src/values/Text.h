@@ -1,5 +1,5 @@
-// Comparing and trimming UTF-8 text as the program does everywhere: blanks trimmed, case ignored, also beyond
-// ASCII. Text that is not valid UTF-8 is compared byte by byte where it cannot be read; nothing here fails.
+// Compares and trims UTF-8 text as the whole program does: blanks are trimmed and case is ignored, even
+// beyond ASCII. Bytes that are not valid UTF-8 are compared as they are; nothing here fails.
 #pragma once
 
 #include <string>
@@ -9,20 +9,20 @@
 
 namespace tw {
 
-// text without the blanks (U+0020, nothing else) at both ends.
+// Returns text without the blanks (U+0020, nothing else) at both ends.
 std::string_view Trim(std::string_view text);
-// True when Trim(text) is empty.
+// True if Trim(text) is empty.
 bool IsBlank(std::string_view text);
-// text in upper case, one code point for one (simple case mapping).
+// Returns text in upper case, each code point mapped to one code point (simple case mapping).
 std::string Upper(std::string_view text);
-// The same in lower case.
+// Returns text in lower case by the same kind of mapping.
 std::string Lower(std::string_view text);
-// True when both texts are equal after trimming and upper-casing: the comparison of names.
+// True if both texts are equal, trimmed and case-insensitive: the comparison of names.
 bool SameName(std::string_view a, std::string_view b);
-// Negative, zero or positive as a sorts before, with or behind b: by code points of the upper-cased texts,
-// untrimmed.
+// Returns a negative number, zero or a positive number if a sorts before, with or after b: by the code points
+// of the texts in upper case, untrimmed.
 int CompareNoCase(std::string_view a, std::string_view b);
-// text with every from replaced by to. REQUIRES: from is not empty.
+// Returns text with every from replaced by to. REQUIRES: from is not empty.
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
 
 }  // namespace tw

@@ -12,15 +12,17 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-// The length of the numeric token at the front of text: digits, "." and "/"; a "-" only in the first place.
+// Returns the length of the numeric token at the front of text: digits, "." and "/"; a "-" only at the
+// beginning.
 std::size_t NumericLength(std::string_view text) {
     std::size_t n = 1;
     while (n < text.size() && (IsDigit(text[n]) || text[n] == '.' || text[n] == '/')) ++n;
     return n;
 }
 
-// The length of the word at the front of text: up to the first space or tab, or with the first "." as its
-// last character. A carriage return or line feed belongs to the word; that is intended.
+// Returns the length of the word at the front of text: up to the first blank or tab, or with the first "." as
+// its last character. A carriage return or line feed is part of the word, since only blanks and tabs separate
+// words here.
 std::size_t WordLength(std::string_view text) {
     std::size_t n = 0;
     for (; n < text.size() && text[n] != ' ' && text[n] != '\t'; ++n) {
@@ -41,9 +43,8 @@ std::optional<double> TakeFraction(std::string_view& rest) {
 
 }  // namespace
 
-// A leading "~" is dropped, and everything from the first "(" on, so that displayed figures such as "~5 gal
-// (about)" can be read back. What the first character is, is settled before the bracket is cut: a text that
-// begins with "(" leaves nothing.
+// Without the "~" and what follows a "(", displayed figures such as "~5 gal (about)" can be read back. The
+// first character is looked at before the bracket is cut: a text that begins with "(" leaves nothing.
 std::string_view GetToken(std::string_view& text) {
     if (text.empty()) return {};
     if (text.front() == '~') text = Trim(text.substr(1));
@@ -85,7 +86,7 @@ std::optional<double> ParseMixedNumber(std::string_view token, std::string_view&
     if (read.kind == Numeric::No) return ParseFraction(token);
     const std::optional<double> fraction = read.kind == Numeric::Whole ? TakeFraction(rest) : std::nullopt;
     if (!fraction) return read.value;
-    // Added to a negative whole number too, so that "-2 1/2" is -1.5; that is intended.
+    // Added even to a negative whole number, since a "-" belongs to that number alone: "-2 1/2" is -1.5.
     return Finite(read.value + *fraction);
 }
 

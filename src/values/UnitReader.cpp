@@ -32,9 +32,9 @@ bool UnitReader::NamesBehind(bool (*isOptional)(std::string_view), Unit unit) co
     std::string_view behind = rest_;
     const std::string_view word = GetToken(behind);
     if (isOptional(word)) return UnitsOf(behind).Has(unit);
-    // Any other word is put back with a blank behind it. With more text behind, that never is one of these
-    // units' words, none of which holds a blank; without, it is the word itself, less a "~" that GetToken has
-    // dropped.
+    // Any other word goes back to the front of the rest, with a blank behind it. If more text follows, the
+    // whole is none of these units' words, which hold no blank; if not, it is the word itself, without a "~"
+    // that GetToken has dropped.
     return behind.empty() && UnitsOf(word).Has(unit);
 }
 

@@ -1,5 +1,5 @@
-// One typed quantity, read once: the number at its head and what stands behind it. The unit parsers and the
-// validators ask it for one unit after another, so that a text is upper-cased, cut and read a single time,
+// Reads one typed quantity once: the number at its head and the text behind it. The unit parsers and the
+// validators then ask for one unit after another, so that a text is upper-cased, cut and read only once,
 // whatever its unit.
 #pragma once
 
@@ -12,7 +12,7 @@
 
 namespace tw {
 
-// text in upper case without the blanks at both ends. Short ASCII texts, that is nearly all, need no
+// A text in upper case without the blanks at both ends. Short ASCII texts, which nearly all are, need no
 // allocation.
 class UpperText {
   public:
@@ -39,18 +39,18 @@ class UnitReader {
     // Reads the number. Raises "Division by zero" and "Overflow" as the parsers do.
     UnitReader(std::string_view text, NumberForm form);
 
-    // False when there is no number of the form at the head; the other functions mean nothing then.
+    // True if a number of that form is at the head. If not, the other functions return nothing of use.
     bool HasNumber() const { return number_.has_value(); }
-    // In any unit: the one that the caller finds in Rest. REQUIRES: HasNumber().
+    // Returns the number, which may be in any unit: Rest says which. REQUIRES: HasNumber().
     double Number() const { return *number_; }
-    // What stands behind the number, in upper case, trimmed.
+    // Returns the text behind the number, in upper case, trimmed.
     std::string_view Rest() const { return rest_; }
 
-    // True when Rest is one of the unit's words as a whole.
+    // True if the whole of Rest is one of the unit's words.
     bool Names(Unit unit) const { return units_.Has(unit); }
-    // The same with an optional degree word before the unit's word: "12 DEG P".
+    // True if Rest is one of the unit's words with an optional degree word before it: "DEG P".
     bool NamesDegree(Unit unit) const { return NamesBehind(IsDegreeWord, unit); }
-    // The same with an optional "FL", "FL." or "FLUID" before it.
+    // True if Rest is one of the unit's words with an optional "FL", "FL." or "FLUID" before it.
     bool NamesFluid(Unit unit) const { return NamesBehind(IsFluidWord, unit); }
 
   private:

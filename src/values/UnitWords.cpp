@@ -10,7 +10,7 @@ namespace {
 
 struct UnitEntry {
     Unit unit;
-    bool bareNumber;         // whether a number without a word means this unit
+    bool bareNumber;         // a number without a word may mean this unit
     std::string_view words;  // separated by commas
 };
 
@@ -57,8 +57,8 @@ struct WordTable {
     std::array<Slot, kSlots> slots{};
     UnitSet bareNumber;
 
-    // Where word stands unless another word took the slot; worked out from three of its bytes, since units
-    // are looked up with every entry. REQUIRES: word is not empty.
+    // Returns the slot of word, unless another word has taken it. Computed from three of its bytes, since
+    // units are looked up with every entry. REQUIRES: word is not empty.
     static constexpr std::size_t FirstSlot(std::string_view word) {
         const auto at = [word](std::size_t i) {
             return static_cast<std::size_t>(static_cast<unsigned char>(word[i]));
@@ -66,7 +66,7 @@ struct WordTable {
         return (at(0) * 41 + at(word.size() / 2) * 13 + at(word.size() - 1) * 5 + word.size() * 67) % kSlots;
     }
 
-    // The slot of word, or the empty slot where it would stand. REQUIRES: word is not empty.
+    // Returns the slot of word, or the empty slot where it would be. REQUIRES: word is not empty.
     constexpr std::size_t Find(std::string_view word) const {
         std::size_t at = FirstSlot(word);
         while (!slots[at].word.empty() && slots[at].word != word) at = (at + 1) % kSlots;

@@ -1,5 +1,5 @@
-// The words that the brewer may write for each unit. One word can name several units ("G" gallons and grams,
-// "P" pints and Plato); which one is meant, the caller knows.
+// The words that the brewer may write for each unit. One word may name several units ("G" gallons and grams,
+// "P" pints and Plato); the caller knows which one is meant.
 #pragma once
 
 #include <cstdint>
@@ -51,8 +51,8 @@ class UnitSet {
     std::uint32_t bits_ = 0;
 };
 
-// The units that word as a whole names; word must be in upper case. The empty word gives those units that a
-// bare number may mean. An unknown word gives the empty set.
+// Returns the units that the whole of word names: those that a bare number may mean for the empty word, none
+// for an unknown word. REQUIRES: word is in upper case.
 UnitSet UnitsOf(std::string_view word);
 
 // True for the words that may stand between a number and the name of a temperature or Plato scale.

@@ -1,5 +1,5 @@
-// The validators: the upper layer of QuantityParsers. Each tries its units in a fixed order, which settles
-// what a word of two meanings means here, and converts to the canonical unit.
+// The validators: the upper layer of QuantityParsers. Each tries its units in a fixed order, which decides
+// what an ambiguous word means there, and converts to the canonical unit.
 #include <span>
 
 #include "platform/Error.h"
@@ -39,8 +39,7 @@ constexpr Conversion kVolumes[] = {{Unit::Gallons, 1, 1},
 std::optional<double> ReadGallons(std::string_view text) {
     const UnitReader reader(text, NumberForm::Mixed);
     if (const auto gallons = Convert(reader, kVolumes)) return gallons;
-    // Fluid ounces with an "FL" before their word collide with no other volume's words, so they can come
-    // last.
+    // Fluid ounces with an "FL" before their word cannot be mistaken for another volume, so they come last.
     if (!reader.HasNumber() || !reader.NamesFluid(Unit::FluidOunces)) return std::nullopt;
     return reader.Number() / kFluidOuncesPerGallon;
 }
@@ -53,7 +52,7 @@ std::optional<double> ReadGravity(std::string_view text) {
     return Finite(PlatoToSG(reader.Number()));
 }
 
-// Weights: pounds come first or last, since behind their word ounces may follow.
+// Weights: pounds are tried first or last, since ounces may follow their word.
 constexpr double kGramsPerKilogram = 1000;
 
 std::optional<double> ReadPounds(std::string_view text) {
@@ -99,8 +98,8 @@ std::optional<double> ReadPSI(std::string_view text) {
     return Convert(UnitReader(text, NumberForm::Real), kPressures);
 }
 
-// A zero volume or gravity is refused when typed, although an empty text gives zero and passes; a zero
-// weight, time or pressure passes. The difference is intended.
+// A typed volume or gravity of zero is refused, since no batch has one, although an empty text is zero and
+// passes. A zero weight, time or pressure passes.
 bool IsAboveZero(double value) {
     return value > 0;
 }
