@@ -10,7 +10,7 @@
 namespace tw {
 namespace {
 
-// The given columns in ascending order, then the others in descending order.
+// Returns the given columns in ascending order, then the others in descending order.
 std::vector<int> StartingOrder(int columns, std::span<const int> basis) {
     std::vector<char> given(columns, 0);
     for (const int col : basis) given[col] = 1;
@@ -47,8 +47,8 @@ class Reflections {
         std::swap(order_[h], order_[best]);
     }
 
-    // Turns the column at place h so that it is zero below row h, and the columns behind it likewise. The
-    // column itself is not looked at again and stays as it is.
+    // Applies the reflection that makes the column at place h zero below row h to the columns behind it. The
+    // column itself is not needed again and stays as it is.
     void Reflect(int h) {
         waiting_.Clear(0, order_[h]);
         const double beta = SetDirection(h);

@@ -1,5 +1,4 @@
-// A table of bits that tells which places of a matrix may hold something other than zero, so that the others
-// need not be visited.
+// A table of bits that says which places of a matrix may be nonzero, so that the others need not be visited.
 #pragma once
 
 #include <algorithm>
@@ -10,8 +9,8 @@
 
 namespace tw {
 
-// kFixedWords is the number of words in a row where it is known beforehand, which spares the loops over them,
-// or 0.
+// kFixedWords is the number of words in a row if it is known at compile time, which avoids the loops over
+// them; otherwise 0.
 template <int kFixedWords = 0>
 class BitTable {
   public:
@@ -20,11 +19,11 @@ class BitTable {
 
     static constexpr int WordsFor(int bits) { return (bits + kWordBits - 1) / kWordBits; }
 
-    // All bits clear. REQUIRES: no argument is negative; bits fit into the fixed words.
+    // Clears all bits. REQUIRES: no argument is negative; bits fit into the fixed words.
     BitTable(int rows, int bits)
         : words_(WordsFor(bits)), table_(static_cast<std::size_t>(rows) * Words(), Word{0}) {}
 
-    // The words of a row, lowest bits first.
+    // Returns the number of words in a row. Row returns them, lowest bits first.
     int Words() const { return kFixedWords > 0 ? kFixedWords : words_; }
     Word* Row(int row) { return table_.data() + static_cast<std::ptrdiff_t>(row) * Words(); }
     const Word* Row(int row) const { return table_.data() + static_cast<std::ptrdiff_t>(row) * Words(); }
@@ -35,28 +34,28 @@ class BitTable {
     bool Empty(int row) const {
         return std::all_of(Row(row), Row(row) + Words(), [](Word word) { return word == 0; });
     }
-    // Sets in a row what is set in words.
+    // Sets the bits of a row that are set in words.
     void Unite(int row, const Word* words) {
         for (int word = 0; word < Words(); ++word) Row(row)[word] |= words[word];
     }
-    // Keeps in a row what is set in words, too.
+    // Clears the bits of a row that are clear in words.
     void Intersect(int row, const Word* words) {
         for (int word = 0; word < Words(); ++word) Row(row)[word] &= words[word];
     }
-    // Keeps in a row the bits above the given one.
+    // Clears the bits of a row up to the given one, which is included.
     void ClearUpTo(int row, int bit) {
         std::fill_n(Row(row), WordOf(bit), Word{0});
         Row(row)[WordOf(bit)] &= (~Word{0} << ShiftOf(bit)) << 1;
     }
 
-    // Calls visit(bit) for every bit of a row, upwards.
+    // Calls visit(bit) for every bit set in a row, from the lowest up.
     template <class Visit>
     void ForEach(int row, Visit visit) const {
         for (int word = 0; word < Words(); ++word)
             for (Word bits = Row(row)[word]; bits != 0; bits &= bits - 1)
                 visit(word * kWordBits + std::countr_zero(bits));
     }
-    // The same downwards, from the highest bit.
+    // Calls visit(bit) for every bit set in a row, from the highest down.
     template <class Visit>
     void ForEachDownwards(int row, Visit visit) const {
         for (int word = Words() - 1; word >= 0; --word) {

@@ -1,4 +1,4 @@
-// The check of Finite (platform/Error.h) in line, for loops in which a call would count.
+// The check of Finite (platform/Error.h) inline, for loops in which a call would cost too much.
 #pragma once
 
 #include <cmath>
@@ -7,7 +7,7 @@
 
 namespace tw {
 
-// value itself, in any unit; raises "Overflow" when it is infinite or NaN.
+// Returns value, which may be in any unit. Raises "Overflow" if it is infinite or NaN.
 inline double CheckedNumber(double value) {
     if (!std::isfinite(value)) RaiseOverflow();
     return value;

@@ -10,7 +10,7 @@
 namespace tw {
 namespace {
 
-// A shorter solve is not looked at for cycles.
+// A shorter run is not checked for cycles.
 constexpr std::int64_t kFirstMilestone = 16;
 
 void RequireSubscript(bool inRange) {
@@ -39,8 +39,7 @@ void LPsimplex::SpecifyObjective(std::span<const double> coefficients, bool mini
 
 void LPsimplex::AddConstraint(std::span<const double> coefficients, double rightHandSide, LPRow type) {
     RequireSubscript(std::ssize(coefficients) >= numVars_ && nextRow_ < numConstraints_);
-    // Each place is written and only counted when it is not zero, which costs less than a guess whether it
-    // is.
+    // Every place is written, but counted only if it is not zero: that costs less than a branch.
     std::size_t count = given_.size();
     given_.resize(count + numVars_);
     for (int col = 0; col < numVars_; ++col) {
@@ -68,7 +67,7 @@ LPStatus LPsimplex::Solve(int maxIterations) {
             return LPStatus::Solved;
         }
         if (outcome == Outcome::Optimal) {
-            // A rounding error above zero is infeasible too: no tolerance, as intended.
+            // Even a rounding error above zero means infeasible: there is no tolerance.
             if (objectiveValue_ != 0.0) return LPStatus::NoSolution;
             GetRidOfArtificials();
         }
@@ -130,9 +129,9 @@ void LPsimplex::SetupPhaseOne() {
     minimising_ = true;
 }
 
-// From phase one to phase two. Where AugmentBasis takes an artificial column again it stays basic at no cost,
-// and since as many columns are dropped from the end as there are artificial ones, a real column goes
-// instead: the answer may then be poorer, which is intended.
+// Moves from phase one to phase two. An artificial column that AugmentBasis chooses again stays basic at no
+// cost. As many columns are dropped from the end as there are artificial ones, so that a real column is
+// dropped in its place and the answer may be poorer: kept, since a program must always have the same answer.
 void LPsimplex::GetRidOfArtificials() {
     const int columns = matrix_.Columns();
     std::vector<char> basic(columns, 0);
@@ -192,14 +191,14 @@ LPsimplex::Outcome LPsimplex::Iterate() {
     return Outcome::Pivoted;
 }
 
-// Solved afresh from the matrix each time, as the direction is, so that no error of earlier steps stays.
+// Solved anew from the matrix in every step, like the direction, so that no error of earlier steps remains.
 void LPsimplex::ComputeMultipliers() {
     for (int i = 0; i < numConstraints_; ++i) rightSide_[i] = costs_[basis_[i]];
     system_->SolveTransposed(matrix_, basis_, rightSide_, multipliers_);
 }
 
-// What the rows at their multipliers make of each column. Summed along the rows, so that a row without a
-// multiplier is passed over as a whole; each column still gets its terms from the top.
+// Multiplies each column with the multipliers of the rows. Sums along the rows, so that a row whose
+// multiplier is zero is skipped as a whole; each column still adds its terms from the top.
 void LPsimplex::PriceColumns() {
     std::fill(products_.begin(), products_.begin() + numVars_, 0.0);
     int at = 0;
@@ -214,7 +213,7 @@ void LPsimplex::PriceColumns() {
     }
 }
 
-// The position of the most negative reduced cost, the first of equals; -1 when none is negative.
+// Returns the position of the most negative reduced cost, the first of equals; -1 if none is negative.
 int LPsimplex::ChooseEntering() {
     PriceColumns();
     int entering = -1;
@@ -239,7 +238,7 @@ bool LPsimplex::IsUnbounded() const {
     return std::none_of(direction_.begin(), direction_.end(), [](double d) { return d > 0.0; });
 }
 
-// The position with the smallest ratio, the first of equals. REQUIRES: not unbounded.
+// Returns the position with the smallest ratio, the first of equals. REQUIRES: not unbounded.
 int LPsimplex::ChooseLeaving() {
     int leaving = -1;
     for (int i = 0; i < numConstraints_; ++i) {
@@ -260,8 +259,8 @@ void LPsimplex::UpdateBasis(int entering, int leaving) {
     std::swap(basis_[leaving], nonBasis_[entering]);
 }
 
-// The same bases and values lead to the same steps again. When they come back, the whole rounds that still
-// fit below the limit are counted and left out.
+// Equal bases and values lead to equal steps. When they recur, the whole rounds that still fit below the
+// limit are counted but not run.
 void LPsimplex::SkipCycle(int maxIterations) {
     if (basis_ == milestone_.basis && nonBasis_ == milestone_.nonBasis &&
         basicValues_ == milestone_.basicValues) {

@@ -1,7 +1,7 @@
 // A two-phase revised simplex solver for small linear programs over variables that are not negative. Its
-// steps and the order of its arithmetic are fixed, and every comparison is with exactly zero, so that the
-// same program has the same answer everywhere, to the last bit. There is no tolerance and no rule against
-// cycling: a rounding error may make a program infeasible, and a cycle ends at the limit of iterations.
+// steps and the order of its arithmetic are fixed, and every comparison is with exactly zero, so that a
+// program has the same answer everywhere, to the last bit. There is no tolerance and no rule against cycling:
+// a rounding error may make a program infeasible, and a cycle ends at the limit of iterations.
 #pragma once
 
 #include <cstdint>
@@ -19,42 +19,43 @@ enum class LPRow : std::uint8_t { AtMost, AtLeast, Equal };
 enum class LPStatus : std::uint8_t {
     Solved = 0,
     NoSolution = 1,     // infeasible or unbounded
-    IterationLimit = 2  // the point reached need be neither optimal nor feasible
+    IterationLimit = 2  // the point reached may be neither optimal nor feasible
 };
 
-// One object serves one program: Initialize, SpecifyObjective and AddConstraint in any order, then Solve
-// once. All but the destructor raise "Overflow" when a number is, or becomes, infinite or not a number. All
-// numbers are in the caller's units; the solver knows none.
+// An object solves one program: call Initialize, then SpecifyObjective and AddConstraint in any order, then
+// Solve once. These raise "Overflow" if a number is, or becomes, infinite or NaN. All numbers are in the
+// caller's units; the solver knows none.
 class LPsimplex {
   public:
-    // The sizes of the program. Raises "Subscript out of range" for a negative one.
+    // Sets the sizes of the program. Raises "Subscript out of range" if one is negative.
     void Initialize(int numVars, int numConstraints);
 
-    // Takes the first numVars coefficients. Raises "Subscript out of range" when there are fewer.
+    // Sets the objective to the first numVars coefficients. Raises "Subscript out of range" if there are
+    // fewer.
     void SpecifyObjective(std::span<const double> coefficients, bool minimise);
 
-    // Fills the next row with the first numVars coefficients. A row that is never given is 0 <= 0. Raises
-    // "Subscript out of range" when there are fewer coefficients, and when all rows are filled.
+    // Fills the next row with the first numVars coefficients. A row that is never filled is 0 <= 0. Raises
+    // "Subscript out of range" if there are fewer coefficients, or if all rows are filled.
     void AddConstraint(std::span<const double> coefficients, double rightHandSide, LPRow type);
 
     // Makes at most maxIterations + 1 iterations; an optimum found by the last of them still counts as the
-    // limit. Raises "Division by zero" when phase one leaves an artificial variable in the basis and the
-    // basis cannot be completed.
+    // limit. Raises "Division by zero" if phase one leaves an artificial variable in the basis and the basis
+    // cannot be completed.
     LPStatus Solve(int maxIterations);
 
-    // The values of the variables that Solve has found, no minus zero among them: the optimum, the current
-    // basic point at the limit, all zeros when there is no solution and when Solve has raised.
+    // Returns the values of the variables, no minus zero among them: the optimum, the current basic point at
+    // the limit, all zeros if there is no solution or if Solve has raised.
     const std::vector<double>& Solution() const { return solution_; }
-    // Iterations of Solve, those of both phases together.
+    // Returns the iterations of Solve, both phases together.
     std::int64_t Iterations() const { return iterations_; }
-    // The objective in the caller's sign where Solve last found an optimum of a phase, in phase one the sum
-    // of the artificial variables; 0 before.
+    // Returns the objective, in the caller's sign, of the last optimum that Solve has found; that of phase
+    // one is the sum of the artificial variables. Returns 0 if none was found.
     double Objective() const { return objectiveValue_; }
 
   private:
     enum class Outcome : std::uint8_t { Pivoted, Optimal, Unbounded };
 
-    // What the further course depends on, to recognise a cycle.
+    // All that the further steps depend on, to recognise a cycle.
     struct Milestone {
         std::vector<int> basis;
         std::vector<int> nonBasis;

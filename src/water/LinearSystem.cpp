@@ -11,7 +11,8 @@
 namespace tw {
 namespace {
 
-// Between two systems all coefficients are zero and all bits clear. Rows never move, only their places do.
+// Between two systems all coefficients are zero and all bits clear. Rows never move; only their places
+// change.
 template <int kFixedWords>
 class Elimination final : public LinearSystem {
   public:
@@ -91,7 +92,8 @@ class Elimination final : public LinearSystem {
         placeOf_[row] = place;
     }
 
-    // The pivot row is taken out of its further columns; the other rows of column k will have them all.
+    // Collects the entries of the pivot row to the right of the pivot. Their columns lose the pivot row and
+    // gain the other rows of column k, which get an entry there.
     void GatherPivotRow(int k, int pivotRow) {
         const double* const values = Row(pivotRow);
         pivotEntryCount_ = 0;
@@ -102,14 +104,14 @@ class Elimination final : public LinearSystem {
         });
     }
 
-    // From the other rows of column k.
+    // Subtracts the pivot row from the other rows of column k.
     void SubtractPivotRow(int k, int pivotRow, std::span<double> rightSide) {
         const double pivot = Row(pivotRow)[k];
         rowsOfCol_.ForEach(k, [&](int row) {
             double* const values = Row(row);
             colsOfRow_.Clear(row, k);
             colsOfRow_.Unite(row, colsOfRow_.Row(pivotRow));
-            if (values[k] == 0.0) return;  // always, where the column has no pivot
+            if (values[k] == 0.0) return;  // always if the column has no pivot
             const double factor = values[k] / pivot;
             values[k] = 0.0;
             rightSide[row] -= factor * rightSide[pivotRow];
@@ -118,8 +120,9 @@ class Elimination final : public LinearSystem {
         });
     }
 
-    // A coefficient that went beyond a double anywhere ends on or to the right of the diagonal, where it is
-    // seen: there it makes the unknown infinite or not a number, here it would make it zero.
+    // A coefficient beyond a double, wherever it arises, ends on the diagonal or to its right. To the right
+    // it makes the unknown infinite or NaN, which is noticed later; on the diagonal it would make the unknown
+    // zero, so that it is checked here.
     double Substitute(int place, double value, std::span<const double> x) {
         const int row = rowAt_[place];
         double* const values = Row(row);

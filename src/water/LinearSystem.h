@@ -1,6 +1,6 @@
-// Square systems of linear equations, solved by Gaussian elimination with row pivoting. The order of the
-// arithmetic is fixed, since the last bit of a result decides the steps of the solver that stands on it. Time
-// is saved by passing over places that are certainly zero, where nothing would change.
+// Solves square systems of linear equations by Gaussian elimination with row pivoting. The order of the
+// arithmetic is fixed, since the last bit of a result decides the steps of the simplex solver. Places that
+// are certainly zero, where nothing would change, are skipped to save time.
 #pragma once
 
 #include <memory>
@@ -10,28 +10,29 @@
 
 namespace tw {
 
-// The systems that some columns of a matrix make, as many as it has rows.
+// The systems whose matrix is a choice of columns of a larger one, as many as that has rows.
 //
-// Columns are eliminated one after the other with the largest coefficient of the remaining rows as pivot, the
+// Columns are eliminated one after the other. The pivot is the largest coefficient of the remaining rows, the
 // uppermost of equals; then the unknowns are substituted from the last one back. A column without a pivot is
 // left as it is, and an unknown whose own coefficient is zero keeps the undivided value: a singular system
-// gives a wrong answer and no failure, which is intended. "Overflow" is raised when a number is beyond a
-// double; the object is of no further use then.
+// yields a wrong answer and no error, and the solver's answers depend on that. Raises "Overflow" if a number
+// is beyond a double; the object must not be used again then.
 //
-// The numbers have no unit. Both functions overwrite rightSide. REQUIRES: the spans hold size elements, the
-// columns exist in matrix and have no entry at or below row size.
+// The numbers have no unit. Both functions overwrite rightSide and write the unknowns to x: they run in every
+// step of the solver, which keeps the memory. REQUIRES: the spans hold size elements; the columns exist in
+// matrix and have no entry at or below row size.
 class LinearSystem {
   public:
     virtual ~LinearSystem() = default;
 
-    // Finds x with B x = rightSide, where column i of B is the column columns[i] of matrix.
+    // Finds x with B x = rightSide, where column i of B is column columns[i] of matrix.
     virtual void Solve(const ColumnMatrix& matrix, std::span<const int> columns, std::span<double> rightSide,
                        std::span<double> x) = 0;
-    // The same with the transpose of B.
+    // Finds x with B^T x = rightSide, for the same B.
     virtual void SolveTransposed(const ColumnMatrix& matrix, std::span<const int> columns,
                                  std::span<double> rightSide, std::span<double> x) = 0;
 
-    // For that many equations. REQUIRES: size >= 0.
+    // Returns a solver for that many equations. REQUIRES: size >= 0.
     static std::unique_ptr<LinearSystem> Make(int size);
 };
 

@@ -10,7 +10,7 @@ namespace {
 constexpr std::size_t kIonCount = std::tuple_size_v<Ions>;
 constexpr std::size_t kSulfate = kIonCount - 1;
 
-// How far the doses miss the needs, all ions together.
+// Returns by how much the doses miss the needs, the sum over all ions, in PPM.
 double MissOf(const std::vector<double>& doses, const Ions& needed, std::span<const Ions> salts) {
     double miss = 0;
     for (std::size_t ion = 0; ion < kIonCount; ++ion) {
@@ -38,7 +38,8 @@ TreatmentAnswer SolveTreatmentWithDeviations(const Ions& needed, std::span<const
         for (std::size_t salt = 0; salt < salts.size(); ++salt) row[kIonCount + salt] = salts[salt][ion];
         simplex.AddConstraint(row, needed[ion], LPRow::Equal);
     }
-    // The solver holds every variable at zero or above by itself; the rows decide its steps all the same.
+    // The solver itself keeps every variable at zero or above; these rows are there because they decide its
+    // steps.
     for (std::size_t salt = 0; salt < salts.size(); ++salt) {
         std::vector<double> row(variables, 0.0);
         row[kIonCount + salt] = 1;

@@ -1,5 +1,5 @@
-// Which salts a batch of water needs: the difference between two waters as two small linear programs over the
-// doses of the salts, and the choice between their answers.
+// Which salts a batch of water needs: two small linear programs over the doses of the salts, from the
+// difference between two waters, and the choice between their answers.
 #pragma once
 
 #include <optional>
@@ -11,25 +11,26 @@
 
 namespace tw {
 
-// What one of the programs says.
+// The answer of one of the programs.
 struct TreatmentAnswer {
     LPStatus status = LPStatus::Solved;
-    std::vector<double> doses;  // grams a gallon, one for each salt; all zeros without a solution
+    std::vector<double> doses;  // grams a US gallon, one for each salt; all zeros without a solution
 };
 
-// Both take what is needed of each ion in PPM, not negative, and for each salt what one gram adds to one
-// gallon in PPM; the order of the salts is that of the variables. They raise as the solver does.
-//
-// The smallest sum of the shortfalls of the first five ions. That of sulfate counts for nothing, although no
-// ion may overshoot its need, sulfate included: intended.
+// The functions below get the PPM needed of each ion, not negative, and for each salt the PPM that one gram
+// adds to one US gallon. The order of the salts is that of the variables. They raise what the solver raises.
+
+// Minimises the sum of the shortfalls of the first five ions, in PPM. The shortfall of sulfate does not
+// count, although no ion may exceed its need, not even sulfate.
 TreatmentAnswer SolveTreatmentWithDeviations(const Ions& needed, std::span<const Ions> salts,
                                              int maxIterations);
-// As many grams as the needs allow.
+// Maximises the sum of the doses, in grams a US gallon, that keep every ion, in PPM, within its need.
 TreatmentAnswer SolveTreatmentCapped(const Ions& needed, std::span<const Ions> salts, int maxIterations);
 
-// Grams a gallon of each salt: the doses of the answer that misses the needs by less, summed over the six
-// ions; the first program's for a tie. An answer at the limit of iterations counts as it stands. Nothing when
-// neither program has one. Raises "Overflow" when a number goes beyond a double, and what the solver raises.
+// Returns the doses, in grams a US gallon of each salt, of the answer that misses the needs by less, summed
+// over the six ions in PPM; those of the first program if both miss by the same. An answer at the limit of
+// iterations counts like any other. Returns nothing if neither program has an answer. Raises "Overflow" if a
+// number goes beyond a double, and what the solver raises.
 std::optional<std::vector<double>> FindDoses(const Ions& needed, std::span<const Ions> salts,
                                              int maxIterations);
 
