@@ -21,10 +21,10 @@ constexpr ScaleMark kBothHcuMarks[] = {{0, 0},     {0.09, 3},   {0.18, 8},   {0.
 constexpr ScaleMark kBothSrmMarks[] = {{0, 0},     {0.09, 3},  {0.18, 6},  {0.27, 9},  {0.37, 12},
                                        {0.46, 15}, {0.55, 17}, {0.64, 21}, {0.73, 34}, {0.82, 50}};
 
-// lblVal holds the left column's members first.
+// The members of lblVal for a column: the left one has the first of them, the right one the next.
 constexpr int kColumnMembers = static_cast<int>(std::size(kBothHcuMarks));
 
-// The value at a fraction, linear between the marks.
+// Returns the value at a fraction, linear between the marks.
 double ValueAt(std::span<const ScaleMark> marks, double fraction) {
     const auto right = std::ranges::upper_bound(marks, fraction, {}, &ScaleMark::fraction);
     if (right == marks.begin()) return marks.front().value;
@@ -81,7 +81,7 @@ ColorScaleModel::ColorScaleModel() : FormModel(kFormName) {
     AddButtons({{"cmdClose", [this] { Close(); }}});
 }
 
-// As many labels as the longest column has; a shorter one leaves the last of them out.
+// Adds as many labels as the longest column has; a shorter column hides the last of them.
 void ColorScaleModel::AddColumn(ScaleColumn (*columnOf)(ColorScale), int firstLabel) {
     for (int i = 0; i < kColumnMembers; ++i) {
         const auto mark = static_cast<std::size_t>(i);

@@ -1,5 +1,5 @@
-// The colour scales (frmColor): a picture of beer colours from pale straw to black with labelled marks, to
-// read a figure as a colour.
+// The colour scales (frmColor): a picture of beer colours from pale straw to black, with labelled marks by
+// which a colour figure is read.
 #pragma once
 
 #include <span>
@@ -14,15 +14,15 @@ namespace tw {
 // The options of optScale.
 enum class ColorScale : int { Srm, Hcu, Both };
 inline constexpr int kColorScales = 3;
-// "SRM Scale", "HCU Scale", "Both Scales".
+// Returns "SRM Scale", "HCU Scale" or "Both Scales".
 std::string_view ScaleName(ColorScale scale);
 
-// One label along the picture.
+// A label along the picture.
 struct ScaleMark {
     double fraction;  // of the picture's length, 0 to 1
     int value;        // in the unit of its column: SRM or HCU
 };
-// A column of labels beside the picture; its first mark is the picture's start.
+// A column of labels beside the picture. Its first mark is at the start of the picture.
 struct ScaleColumn {
     std::string_view caption;
     std::span<const ScaleMark> marks;
@@ -30,38 +30,38 @@ struct ScaleColumn {
 ScaleColumn LeftColumn(ColorScale scale);
 ScaleColumn RightColumn(ColorScale scale);
 
-// Homebrew colour units at a fraction of the picture, 0 to 1: what the left column's marks say there, linear
-// between them; outside 0 to 1 the figure of the nearer end. The marks are the program's own, SRM become
-// colour units by SRMToHCU (calc/BeerColor.h). The picture has the colour of that figure, so that a mark
-// stands beside its own colour in every scale.
+// Returns the homebrew colour units at a fraction of the picture's length, 0 to 1: what the marks of the left
+// column say there, linear between them, SRM converted by SRMToHCU (calc/BeerColor.h). Outside 0 to 1 it is
+// the value of the nearer end. The marks are the program's own. The picture shows the colour of this value,
+// so that a mark is beside its own colour in every scale.
 double ScaleHcu(ColorScale scale, double fraction);
-// An HCU figure as recipes show it: "12 SRM (21 HCU)", ">50 SRM (250 HCU)".
+// Returns HCU in the form of a recipe: "12 SRM (21 HCU)", ">50 SRM (250 HCU)".
 std::string ColorReading(double hcu);
 
-// optScale(0) to (2); the members of lblVal that are shown, those of the left column from 0, those of the
-// right one from 12; Label1(0) and (1); cmdClose.
+// Controls: optScale(0) to (2); those members of lblVal that are shown, the left column from 0, the right one
+// from 12; Label1(0) and (1); cmdClose.
 class ColorScaleModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmColor";
 
     ColorScaleModel();
 
-    // Steps of the pointer along the picture.
+    // The last position of the pointer along the picture; the first is 0.
     static constexpr int kPointerEnd = 100;
 
     ColorScale Scale() const { return scale_; }
-    // The pointer keeps its place.
+    // Changes the scale; the pointer stays in its place.
     void Choose(ColorScale scale) { scale_ = scale; }
 
-    // The pointer that the window reads the picture with.
+    // Returns the position of the pointer, by which the picture is read.
     int Pointer() const { return pointer_; }
-    // Clamped to the picture's ends.
+    // Moves the pointer to step, clamped to 0 and kPointerEnd.
     void MovePointer(int step);
-    // The figure under the pointer, in homebrew colour units.
+    // Returns the homebrew colour units at the pointer.
     double PointerHcu() const;
 
   private:
-    // The labels of a column, counted from the first one's number.
+    // Adds the labels of a column as members of lblVal, from index firstLabel on.
     void AddColumn(ScaleColumn (*columnOf)(ColorScale), int firstLabel);
 
     ColorScale scale_ = ColorScale::Srm;

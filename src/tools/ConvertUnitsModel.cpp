@@ -15,7 +15,7 @@ std::string BoxName(int box) {
     return "Text" + std::to_string(box + 1);
 }
 
-// A number with an optional fraction; what stands behind is not looked at.
+// Reads a number with an optional fraction; ignores the text behind it.
 std::optional<double> ReadQuantity(std::string_view text) {
     std::string_view rest = Trim(text);
     const std::string_view token = GetToken(rest);
@@ -75,7 +75,7 @@ bool ConvertUnitsModel::ConvertFromBox(int box) {
             return false;
         }
     } catch (const Error&) {
-        // A zero denominator, or a figure beyond all bounds: the operation ends here without a word.
+        // A zero denominator, or a number beyond a double: the conversion ends here without a message.
     }
     return true;
 }
@@ -98,7 +98,7 @@ void ConvertUnitsModel::EmptyOthers(int box) {
 }
 
 void ConvertUnitsModel::FillOthers(int box, double value) {
-    // All of them before the first is written, so that a failure leaves no mixture.
+    // All are computed before the first is written, so that an error leaves no mixture.
     const std::vector<double> values = ConvertToAllUnits(kind_, box, value);
     for (int other = 0; other < BoxCount(); ++other) {
         const auto at = static_cast<std::size_t>(other);

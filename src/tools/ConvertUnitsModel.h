@@ -1,4 +1,4 @@
-// The unit converter (frmConvertUnits): one box for each unit of a kind of quantity; a number in any box
+// The unit converter (frmConvertUnits): one box for each unit of a kind of quantity. A number in any box
 // fills all the others.
 #pragma once
 
@@ -13,37 +13,38 @@
 
 namespace tw {
 
-// cmbType takes the name of a kind; labelType; Text1 and so on, as far as they are shown, take any text, from
-// which they convert; cmdClose.
+// Controls: cmbType accepts the name of a kind; labelType; those of Text1 to Text9 that are shown accept any
+// text and convert it; cmdClose.
 class ConvertUnitsModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmConvertUnits";
 
-    // The most boxes that a kind needs.
+    // The number of boxes of the kind with the most units.
     static constexpr int kBoxes = 9;
 
-    // Opens on the first kind with empty boxes. messages must outlive the dialog.
+    // Begins with the first kind and empty boxes. messages must outlive the dialog.
     explicit ConvertUnitsModel(MessagePort& messages);
 
     QuantityKind Kind() const { return kind_; }
-    // Another kind shows its own boxes, all empty. The same one again changes nothing.
+    // Shows the boxes of a kind, all empty. Does nothing if it is the current kind.
     void SetKind(QuantityKind kind);
 
-    // The boxes shown are those of UnitsOf(Kind()), counted from 0: box 0 is Text1.
+    // The boxes shown are those of UnitsOf(Kind()), with indexes from 0: box 0 is Text1.
     int BoxCount() const { return static_cast<int>(UnitsOf(kind_).size()); }
     const std::string& Text(int box) const { return texts_[static_cast<std::size_t>(box)]; }
-    // The unit's name on one line.
+    // Returns the name of the box's unit on one line.
     std::string Label(int box) const { return UnitName(UnitsOf(kind_)[static_cast<std::size_t>(box)]); }
 
-    // Fills the other boxes from this one: on every change of its text, and as it is left. A blank text
-    // empties them. A text that is no number has its box and leaves them as they were; false then. A failure
-    // of the arithmetic leaves them too, without a word. A unit behind the number is not read. The box itself
-    // is never written. Nothing happens while the operation is running.
+    // Fills the other boxes from this one. Runs on every change of its text, and when it loses the focus. A
+    // blank text empties the others. A text that is not a number is reported in a message box, leaves the
+    // others unchanged and returns false. An arithmetic error leaves them unchanged without a message. A text
+    // behind the number is ignored, even a unit. The box itself is never changed. A call from within this
+    // function does nothing and returns true.
     bool ConvertFromBox(int box);
-    // Changes a box's text and converts from it; the result is that of ConvertFromBox.
+    // Changes the text of a box and converts it; returns what ConvertFromBox returns.
     bool Enter(int box, std::string_view text);
-    // The same for a key: a text that can only be the beginning of a number ("-", "1/") waits for the next
-    // key, or for the box to be left.
+    // Changes the text of a box by a key and converts it, unless it can only be the beginning of a number
+    // ("-", "1/"): then the next key converts it, or the loss of the focus.
     void TypeInto(int box, std::string_view text);
 
   private:
@@ -57,7 +58,7 @@ class ConvertUnitsModel final : public FormModel {
     bool converting_ = false;
 };
 
-// The kind of that name, in any case; nothing for another name.
+// Returns the kind of that name, case-insensitive; nothing for any other name.
 std::optional<QuantityKind> FindKind(std::string_view name);
 
 }  // namespace tw

@@ -12,12 +12,12 @@ namespace {
 
 constexpr double kHeaviest = 1.25;
 
-// The number that a text is as a whole; nothing for another text.
+// Returns the number that the whole of text is; nothing for any other text.
 std::optional<double> NumberOf(std::string_view text) {
     try {
         return ReadNumber(text);
     } catch (const Error&) {
-        return std::nullopt;  // digits beyond all bounds are no gravity either
+        return std::nullopt;  // digits beyond a double are no gravity either
     }
 }
 
@@ -32,7 +32,7 @@ HopUtilisationModel::HopUtilisationModel(const std::optional<std::string>& boilG
     });
     AddButtons({{"cmdClose", [this] { Close(); }}});
     const std::optional<double> gravity = boilGravity ? NumberOf(*boilGravity) : std::nullopt;
-    // A stronger boil than the slider knows leaves it where it is.
+    // A stronger boil than the slider can show leaves it where it is.
     if (!gravity || *gravity > kHeaviest) return;
     MoveSlider(kSliderEnd - static_cast<int>(std::lround(std::max(*gravity - 1, 0.0) * 1000)));
 }

@@ -1,5 +1,5 @@
-// The hydrometer correction (frmHydrometer): the gravity behind a reading that was taken at another
-// temperature than the hydrometer was calibrated for.
+// The hydrometer correction (frmHydrometer): the gravity of a sample whose temperature is not that for which
+// the hydrometer is calibrated.
 #pragma once
 
 #include <optional>
@@ -13,12 +13,13 @@
 
 namespace tw {
 
-// The factor by which a hydrometer's reading is corrected at a temperature, relative to the factor of the one
-// that it is calibrated for: a cubic fit of the program's own, without a unit, for 0 to 212 degrees
-// F; 1.000063 at 60. Nothing is limited outside.
+// Returns the correction factor of a temperature, which has no unit. A reading times the factor of the
+// sample's temperature, divided by that of the calibration, is the gravity. A cubic fit of the program's own,
+// valid from 0 to 212 degrees F; 1.000063 at 60. Nothing is limited outside.
 double WaterDensity(double fahrenheit);
 
-// txtActRead, txtActTemp and cmbCalTemp take any text and are left then; txtCalRead shows the result.
+// Controls: txtActRead, txtActTemp and cmbCalTemp accept any text, after which the correction runs;
+// txtCalRead shows the result.
 class HydrometerModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmHydrometer";
@@ -26,24 +27,26 @@ class HydrometerModel final : public FormModel {
     // messages must outlive the dialog.
     explicit HydrometerModel(MessagePort& messages);
 
-    // The entries of cmbCalTemp, which takes any other text too.
+    // Returns the entries of cmbCalTemp, which accepts any other text too.
     static const std::vector<std::string>& CalibrationEntries();
 
-    // What txtActRead, txtActTemp, cmbCalTemp or txtCalRead shows. REQUIRES: the control exists.
+    // Returns the text of txtActRead, txtActTemp, cmbCalTemp or txtCalRead. REQUIRES: the control exists.
     const std::string& Text(std::string_view name) const;
-    // A key changes an entry's text; nothing is worked out before it is left. False for another control.
+    // Changes the text of an entry, for a key; the correction does not run. Returns false for any other
+    // control.
     bool TypeInto(std::string_view name, std::string_view text);
 
-    // Runs as an entry is left, and as the list changes its choice. Checks the temperature, then the reading,
-    // then the calibration, and shows the result when all three are there; otherwise the old one stays. Gives
-    // the control that takes the focus back, whose text was refused in a box; empty for none. An arithmetic
-    // error has a box of its own. Nothing happens while the operation itself is running.
+    // Runs when an entry loses the focus and when the list's choice changes. Checks the temperature, then the
+    // reading, then the calibration, and shows the result if all three are there; otherwise the old one
+    // stays. Returns the name of the entry whose text a message box has refused and which gets the focus
+    // back; empty if there is none. An arithmetic error has a message box of its own. A call from within this
+    // function does nothing.
     std::string UpdateCorrection();
 
   private:
     FormControl Entry(const std::string& name);
-    // The number of an entry, in its validator's unit; nothing when the correction stops here: the text is
-    // blank, or refused.
+    // The number of an entry, in the unit of its validator; nothing if the correction ends here because the
+    // text is blank or refused.
     struct Taken {
         std::optional<double> number;
         std::string refused;  // the entry's name if a box has refused its text
@@ -51,7 +54,7 @@ class HydrometerModel final : public FormModel {
     Taken Take(std::string_view name, Validator validator);
 
     MessagePort& messages_;
-    // Each under its control's name, in the order of the form.
+    // The texts by the names of their controls, in the order of the form.
     std::vector<DialogControl> texts_{{"txtActRead", ""},
                                       {"txtActTemp", ""},
                                       {"cmbCalTemp", CalibrationEntries().front()},

@@ -22,7 +22,7 @@ constexpr std::string_view kTemperatureUnits[] = {"Degrees\nFahrenheit", "Degree
 constexpr std::string_view kPressureUnits[] = {"Pounds per\nSquare Inch", "Atmospheres", "Kilopascals",
                                                "Pascals"};
 
-// A number is multiplied by one and divided by the other, so that a factor is used as it is written.
+// A number is multiplied by "times" and divided by "by", so that a factor is used as it is written.
 struct Factor {
     double times = 1;
     double by = 1;
@@ -32,7 +32,7 @@ double Scale(double value, const Factor& factor) {
     return value * factor.times / factor.by;
 }
 
-// From the row's unit to the column's. Every pair keeps its own factor.
+// From the unit of the row to that of the column. Every pair keeps its own factor.
 constexpr Factor kWeightFactors[4][4] = {
     {{}, {kOuncesPerPound}, {kGramsPerPound, 1000}, {kGramsPerPound}},
     {{1, kOuncesPerPound}, {}, {1, kOuncesPerKilogram}, {kGramsPerOunce}},
@@ -62,7 +62,7 @@ double ConvertTemperature(int from, int to, double value) {
     return to == kKelvin ? celsius + kKelvinOffset : celsius;
 }
 
-// to is another unit than from.
+// REQUIRES: from and to are different units.
 double Convert(QuantityKind kind, int from, int to, double value) {
     switch (kind) {
         case QuantityKind::Weight:

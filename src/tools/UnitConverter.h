@@ -1,4 +1,4 @@
-// One quantity in all units of its kind: the arithmetic of the unit converter.
+// Converts a quantity to all units of its kind: the arithmetic of the unit converter.
 #pragma once
 
 #include <span>
@@ -8,26 +8,26 @@
 
 namespace tw {
 
-// The kinds of quantity in the order of the converter's list.
+// The kinds of quantity, in the order of the converter's list.
 enum class QuantityKind : int { Weight, Volume, Gravity, Temperature, Pressure };
 inline constexpr int kQuantityKinds = 5;
 
-// "Mass/Weight", "Volume", "Gravity", "Temperature", "Pressure".
+// Returns "Mass/Weight", "Volume", "Gravity", "Temperature" or "Pressure".
 std::string_view KindName(QuantityKind kind);
 
-// The units of a kind in the order of their boxes. A name that stands on several lines has line feeds
-// between them, such as "Degrees\nPlato".
+// Returns the units of a kind in the order of their boxes. A name on several lines has line feeds between
+// them, such as "Degrees\nPlato".
 std::span<const std::string_view> UnitsOf(QuantityKind kind);
-// A unit's name on one line, its lines joined by a blank.
+// Returns the name of a unit on one line, its lines joined by a blank.
 std::string UnitName(std::string_view unit);
 
-// value, which may be in any unit of the kind (from says which), in every unit of that kind, in the order of
-// UnitsOf; the entry of its own
-// unit is value itself. Each is converted directly, so that two ways round may differ in the last digits:
-// weights, volumes and pressures by the rounded factors of values/Converter.h, temperatures by their
-// definitions (0 C = 32 F = 273.15 K), gravities by the two fits of values/Converter.h, which hold to about
-// 30 degrees Plato and go on above. No range is checked: a negative weight is converted as any other number.
-// Raises "Overflow" for a result beyond the range of a double. REQUIRES: from is an index into UnitsOf(kind).
+// Converts value, which may be in any unit of the kind, to all of them, and returns the results in the order
+// of UnitsOf; from is the index of its own unit, whose result is value itself. Each is converted directly, so
+// that two ways round may differ in the last digits: weights, volumes and pressures by the rounded factors of
+// values/Converter.h, temperatures by their definitions (0 C = 32 F = 273.15 K), gravities by the two fits of
+// values/Converter.h, which are valid to about 30 degrees Plato. No range is checked: a negative weight is
+// converted like any other number. Raises "Overflow" for a result beyond the range of a double. REQUIRES:
+// from is an index into UnitsOf(kind).
 std::vector<double> ConvertToAllUnits(QuantityKind kind, int from, double value);
 
 }  // namespace tw

@@ -6,7 +6,7 @@
 namespace tw {
 namespace {
 
-// Pixels of a part of a scale that fills length.
+// Returns the pixels of a value on a scale that ends at whole and is length pixels long.
 int Scaled(double value, int whole, int length) {
     return value <= 0 ? 0 : static_cast<int>(std::lround(value / whole * length));
 }

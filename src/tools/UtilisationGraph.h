@@ -1,4 +1,4 @@
-// The graph of hop utilisation against boil time: its curves and its scales, without a picture.
+// The graph of hop utilisation against boil time: its curves and scales, without the drawing.
 #pragma once
 
 #include <array>
@@ -8,8 +8,8 @@
 
 namespace tw {
 
-inline constexpr int kGraphMinutes = 90;      // end of the horizontal scale, which runs from 0: boil time
-inline constexpr int kGraphPercent = 40;      // end of the vertical scale, which runs from 0: utilisation
+inline constexpr int kGraphMinutes = 90;      // end of the horizontal scale, boil time from 0
+inline constexpr int kGraphPercent = 40;      // end of the vertical scale, utilisation from 0
 inline constexpr int kGraphMinutesStep = 15;  // between the labelled marks
 inline constexpr int kGraphPercentStep = 10;  // between the labelled marks
 inline constexpr int kCurveSegments = 30;     // of equal boil time
@@ -22,12 +22,12 @@ struct CurvePoint {
 // kCurveSegments + 1 points, from 0 to kGraphMinutes.
 using Curve = std::vector<CurvePoint>;
 
-// The curves of Tinseth, Rager and Garetz, in this order; sources and ranges stand at the formulas in
-// calc/Hops.h.
+// Returns the curves of Tinseth, Rager and Garetz, in this order. Sources and valid ranges are those of the
+// formulas in calc/Hops.h.
 std::array<Curve, kMethods> UtilisationCurves(double boilSG);
-// "Tinseth", "Rager", "Garetz".
+// Returns "Tinseth", "Rager" or "Garetz".
 const char* MethodName(IbuMethod method);
-// Percent.
+// Returns the utilisation by one method, in percent.
 double FigureOf(const UtilisationFigures& figures, IbuMethod method);
 
 // The area of the curves in a picture, in pixels from its top left corner.
@@ -37,11 +37,12 @@ struct GraphArea {
     int width = 0;
     int height = 0;
 
-    // Times and percentages as places of the picture; what is at or below 0 lies on the axis. Nothing is
-    // clipped: a figure above kGraphPercent leaves the area, on purpose.
+    // Return the place of a boil time or a percentage in the picture, in pixels. What is at or below 0 is on
+    // the axis. Nothing is clipped: a utilisation above kGraphPercent is above the area, so that no curve
+    // shows a plateau that it does not have.
     int TimeToX(double minutes) const;
     int UtilisationToY(double percent) const;
-    // The whole minute at a place of the picture, from 0 to kGraphMinutes.
+    // Returns the whole minute at a place of the picture, clamped to 0 and kGraphMinutes.
     int MinutesAt(int x) const;
 };
 

@@ -33,7 +33,7 @@ ColorScaleDialog::ColorScaleDialog(ColorScaleModel& model, QWidget* parent)
     });
     column->addWidget(buttons);
     connect(view_, &ColorScaleView::Moved, this, &ColorScaleDialog::ShowReading);
-    // The first focus is shown without a key too: here no text cursor tells it.
+    // Shows the first focus even before a key is pressed: here it has no text cursor.
     setAttribute(Qt::WA_KeyboardFocusChange);
     ShowReading();
 }

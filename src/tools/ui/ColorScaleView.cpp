@@ -12,7 +12,7 @@ namespace tw {
 namespace {
 
 constexpr int kPageSteps = 10;
-// Lines of text that fit along the picture, so that the closest marks stand clear of one another.
+// Lines of text that fit along the picture, so that the closest marks do not touch.
 constexpr int kFewestLines = 13;
 constexpr int kUsualLines = 18;
 
@@ -93,7 +93,7 @@ void ColorScaleView::PaintPointer(QPainter& painter, const QRect& picture) const
                      static_cast<double>(model_.Pointer()) / ColorScaleModel::kPointerEnd * picture.height();
     const double size = Unit(*this) * 0.7;
     const double left = picture.left(), right = picture.right() + 1;
-    // Dark on light and light on dark: one of the two lines is seen on any beer.
+    // A white line on a black one: one of them is seen on any beer.
     painter.setPen(QPen(Qt::black, 3));
     painter.drawLine(QPointF(left, y), QPointF(right, y));
     painter.setPen(QPen(Qt::white, 1));

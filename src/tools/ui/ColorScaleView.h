@@ -1,5 +1,5 @@
-// The picture of the colour scales: beer from pale to black, the scale's marks on both sides, and a pointer
-// that the arrow keys and the mouse move.
+// The picture of the colour scales: beer from pale to black with the marks of the scale on both sides, and a
+// pointer that the arrow keys and the mouse move.
 #pragma once
 
 #include <QWidget>
@@ -14,9 +14,9 @@ class ColorScaleView final : public QWidget {
     // The model must outlive the view, which reads it and moves its pointer.
     ColorScaleView(ColorScaleModel& model, QWidget* parent);
 
-    // The colour of beer of that many homebrew colour units.
+    // Returns the colour of beer of that many homebrew colour units.
     QColor ColorAt(double hcu) const;
-    // Where the gradient is; its length is the height.
+    // Returns the place of the gradient, in pixels; its height is the length of the picture.
     QRect Picture() const;
 
     QSize sizeHint() const override;

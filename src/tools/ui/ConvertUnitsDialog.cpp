@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kBoxDigits = 16;
 
-// The letters of the mnemonics in the order of the boxes, a kind each.
+// The letters of the mnemonics, a string for each kind, in the order of the boxes.
 constexpr const char* kMnemonics[kQuantityKinds] = {"POKG", "GQPCFBELM", "SD", "FCK", "PAKS"};
 
 QString CaptionOf(QuantityKind kind, int box) {
@@ -53,7 +53,7 @@ ConvertUnitsDialog::ConvertUnitsDialog(ConvertUnitsModel& model, QWidget* parent
         QDialog::accept();
     });
     column->addWidget(buttons);
-    // The window has room for the kind with the most boxes, so that it keeps its size.
+    // The window has room for the kind with the most boxes, so that it never changes its size.
     resize(sizeHint());
     ShowKind();
     rows_[0].box->setFocus();
@@ -136,7 +136,7 @@ int ConvertUnitsDialog::BoxOf(const QObject* object) const {
 bool ConvertUnitsDialog::eventFilter(QObject* object, QEvent* event) {
     const int box = BoxOf(object);
     if (box < 0 || !model_.IsOpen()) return QDialog::eventFilter(object, event);
-    // Left untouched it converts all the same, from the figure as it stands there, rounded; that is intended.
+    // A box that was not edited converts as well, from the rounded number that it shows.
     if (event->type() == QEvent::FocusOut && IsMove(*static_cast<QFocusEvent*>(event))) {
         model_.ConvertFromBox(box);
         ShowTexts();

@@ -27,11 +27,11 @@ class ConvertUnitsDialog final : public QDialog {
     void AddTypes(QGridLayout& rows);
     void AddBoxes(QGridLayout& rows);
     void ChooseType(int index);
-    // Labels and boxes of the kind.
+    // Shows the labels and boxes of the kind.
     void ShowKind();
-    // The texts of all boxes but the one that the brewer is typing in.
+    // Shows the texts of the model in all boxes that differ.
     void ShowTexts();
-    // The number of that box; -1 for another object.
+    // Returns the index of a box; -1 for any other object.
     int BoxOf(const QObject* object) const;
 
     struct Row {

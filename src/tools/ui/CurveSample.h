@@ -1,4 +1,4 @@
-// The line and the mark of one method's curve, beside its name.
+// A sample of one method's curve, its line and its mark, to stand beside its name.
 #pragma once
 
 #include <QWidget>

@@ -1,5 +1,5 @@
-// The hop utilisation explorer (frmHopUtil): a slider for the gravity, the curves, and the figures at one
-// boil time.
+// The hop utilisation explorer (frmHopUtil): a slider for the gravity, the curves, and the utilisations at
+// one boil time.
 #pragma once
 
 #include <QDialog>

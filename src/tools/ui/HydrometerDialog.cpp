@@ -43,7 +43,7 @@ HydrometerDialog::HydrometerDialog(HydrometerModel& model, QWidget* parent) : QD
     close->setObjectName(QStringLiteral("cmdEscape"));
     close->setText(tr("Close"));
     close->setAutoDefault(false);
-    // A click closes without a check of the box that has the focus.
+    // A click closes without checking the box that has the focus.
     close->setFocusPolicy(Qt::TabFocus);
     connect(buttons, &QDialogButtonBox::rejected, this, [this] {
         model_.Press("cmdEscape");
@@ -80,7 +80,7 @@ QComboBox* HydrometerDialog::Calibration() {
     list->setObjectName(QStringLiteral("cmbCalTemp"));
     list->setEditable(true);
     list->setInsertPolicy(QComboBox::NoInsert);
-    // What is typed stays as it is typed: "6" is no beginning of an entry.
+    // A typed text is not completed: "6" does not mean "60.0 F (15.6 C)".
     list->setCompleter(nullptr);
     for (const std::string& entry : HydrometerModel::CalibrationEntries()) list->addItem(ToQt(entry));
     list->setCurrentText(ToQt(model_.Text("cmbCalTemp")));
@@ -136,7 +136,7 @@ bool HydrometerDialog::eventFilter(QObject* object, QEvent* event) {
     return true;
 }
 
-// A figure that cannot be typed into stands on the ground of the window.
+// The result cannot be typed into, so it has the background of the window.
 void HydrometerDialog::LookComputed() {
     QLineEdit* result = EditOf(QStringLiteral("txtCalRead"));
     QPalette colors = result->palette();

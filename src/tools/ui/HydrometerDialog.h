@@ -27,15 +27,15 @@ class HydrometerDialog final : public QDialog {
     QComboBox* Calibration();
     QLineEdit* Result();
     void AddRow(QGridLayout& rows, const QString& caption, QWidget* control);
-    // The box in which the control of that name is typed.
+    // Returns the line edit of the control of that name.
     QLineEdit* EditOf(const QString& name) const;
     void Update();
     void LookComputed();
-    // The focus goes back to a refused entry, once the event that took it away is over.
+    // Returns the focus to a refused entry after the event that took it away.
     void GoBackTo(const QString& name);
 
     HydrometerModel& model_;
-    bool refusing_ = false;  // the focus is on its way back; its moves until then are no entry
+    bool refusing_ = false;  // the focus is going back; until then its moves do not commit anything
 };
 
 }  // namespace tw

@@ -1,9 +1,10 @@
-// The roles of the tools' own pictures for assistive programs.
+// The roles of the tools' pictures for assistive programs.
 #pragma once
 
 namespace tw {
 
-// Makes the graph and the colour scale known as graphics that say what they show. Called once.
+// Makes assistive programs see the graph and the colour scale as graphics with a description of what they
+// show. Call once.
 void InstallToolAccessibility();
 
 }  // namespace tw

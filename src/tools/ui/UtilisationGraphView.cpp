@@ -35,7 +35,7 @@ QPen CurvePen(IbuMethod method, const QPalette& palette, double unit) {
     return pen;
 }
 
-// A disc, a square, a triangle.
+// Draws a disc, a square or a triangle, by the method.
 void PaintMark(QPainter& painter, IbuMethod method, const QPalette& palette, QPointF at, double unit) {
     const double size = unit * 0.45;
     painter.setPen(QPen(palette.color(QPalette::Base), std::max(1.0, unit * 0.1)));
@@ -154,7 +154,7 @@ void UtilisationGraphView::PaintAxes(QPainter& painter, const GraphArea& area) c
 void UtilisationGraphView::PaintCurve(QPainter& painter, const GraphArea& area, IbuMethod method) const {
     const double unit = Unit(*this);
     const Curve& curve = curves_[static_cast<std::size_t>(method)];
-    // Placed in parts of a pixel, so that the line does not tremble.
+    // Computed in parts of a pixel, so that the line is smooth.
     const GraphArea fine{area.left * kParts, area.top * kParts, area.width * kParts, area.height * kParts};
     QPolygonF line;
     for (const CurvePoint& point : curve)
@@ -166,7 +166,7 @@ void UtilisationGraphView::PaintCurve(QPainter& painter, const GraphArea& area, 
         PaintMark(painter, method, palette(), line[i], unit);
 }
 
-// Each name stands at its curve's end; where two would overlap, the lower one gives way.
+// Each name is at the end of its curve; if two would overlap, the lower one moves down.
 void UtilisationGraphView::PaintNames(QPainter& painter, const GraphArea& area) const {
     struct Name {
         IbuMethod method;

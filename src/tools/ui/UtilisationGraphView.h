@@ -1,5 +1,5 @@
-// The picture of the hop utilisation explorer: three curves told apart by line and mark, named at their ends,
-// and an upright line at the boil time that is being read, which the arrow keys and the mouse move.
+// The picture of the hop utilisation explorer: three curves that differ in line and mark, named at their
+// ends, and an upright line at the boil time that is read, which the arrow keys and the mouse move.
 #pragma once
 
 #include <QWidget>
@@ -8,8 +8,8 @@
 
 namespace tw {
 
-// Draws a curve's line from start to end with its mark in the middle. unit is the size of the drawing's unit
-// of length in pixels.
+// Draws a line in the style of a curve, with its mark in the middle. unit is the widget's unit of distances
+// (platform/qt/Appearance.h) in pixels.
 void PaintCurveSample(QPainter& painter, IbuMethod method, const QPalette& palette, const QLineF& line,
                       double unit);
 
@@ -19,9 +19,9 @@ class UtilisationGraphView final : public QWidget {
     // The model must outlive the view, which reads it and moves its boil time.
     UtilisationGraphView(HopUtilisationModel& model, QWidget* parent);
 
-    // The curves of the model's gravity.
+    // Shows the curves of the model's gravity.
     void ShowModel();
-    // Where the curves are.
+    // Returns the place of the curves, in pixels.
     GraphArea Area() const;
 
     QSize sizeHint() const override;
