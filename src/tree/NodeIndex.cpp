@@ -7,10 +7,10 @@
 namespace tw {
 namespace {
 
-// The copies of one object have their homes side by side: one look into memory serves all four of a recipe.
+// The homes of the copies of one object are adjacent: all four of a recipe are in one or two cache lines.
 constexpr std::size_t kCopies = 4;
 
-// Slots for count nodes, so that a quarter stays free.
+// Returns the number of slots for count nodes; at least a quarter of them stay free.
 std::size_t SlotsFor(std::size_t count) {
     constexpr std::size_t kFewest = 16;
     return (kFewest + count + count / 3) / kCopies * kCopies;
@@ -19,7 +19,7 @@ std::size_t SlotsFor(std::size_t count) {
 }  // namespace
 
 std::size_t NodeIndex::Home(const NodeKey& key) const {
-    // The upper half of the hash, scaled to the table: it need be no power of two.
+    // Scales the upper half of the hash to the table, whose size need not be a power of two.
     constexpr unsigned kHalf = 32;
     const std::uint64_t group = ((key.HashOfObject() >> kHalf) * (slots_.size() / kCopies)) >> kHalf;
     return static_cast<std::size_t>(group) * kCopies + (static_cast<unsigned>(key.Copy()) % kCopies);
@@ -48,7 +48,7 @@ bool NodeIndex::Erase(const TWNode& node) {
     if (slots_.empty()) return false;
     std::size_t gap = SlotOf(node.KeyParts());
     if (slots_[gap] != &node) return false;
-    // Nodes behind the gap move up into it, unless that would put them before their home.
+    // Moves nodes after the gap into it, unless that would put them before their home.
     for (std::size_t slot = Next(gap); slots_[slot] != nullptr; slot = Next(slot)) {
         const std::size_t home = Home(slots_[slot]->KeyParts());
         const bool homeIsBehindGap = gap <= slot ? gap < home && home <= slot : gap < home || home <= slot;

@@ -1,4 +1,4 @@
-// The dictionary of a tree: every node by its key, in one flat table of pointers.
+// The index of a tree: finds every node by its key. A hash table with open addressing.
 #pragma once
 
 #include <cstddef>
@@ -13,24 +13,26 @@ class TWNode;
 class NodeIndex {
   public:
     std::size_t Count() const { return count_; }
-    // The node of that key, nullptr when there is none.
+    // Returns the node with that key, or nullptr if there is none.
     TWNode* Find(const NodeKey& key) const;
-    // Puts the node in under its key; false, and nothing changes, when the key is taken.
+    // Adds the node under its key. False, with nothing changed, if the key is already used.
     bool Insert(TWNode& node);
-    // Takes that node out. False when the key is another node's or nobody's.
+    // Removes the node. False, with nothing changed, if the node is not in the index, even if another one
+    // with its key is.
     bool Erase(const TWNode& node);
-    // Makes room for count nodes in all.
+    // Reserves memory for count nodes in total.
     void Reserve(std::size_t count);
     void Clear();
 
   private:
     std::size_t Home(const NodeKey& key) const;
     std::size_t Next(std::size_t slot) const { return slot + 1 == slots_.size() ? 0 : slot + 1; }
-    // The slot of the node of that key, or the free one where it would go. REQUIRES: there is a free slot.
+    // Returns the slot of the node with that key, or the free slot where it would be inserted. REQUIRES:
+    // there is a free slot.
     std::size_t SlotOf(const NodeKey& key) const;
     void Resize(std::size_t slots);
 
-    std::vector<TWNode*> slots_;  // nullptr is free; a node stands at its home slot or soon behind it
+    std::vector<TWNode*> slots_;  // nullptr if free; a node is at its home slot or soon after it
     std::size_t count_ = 0;
 };
 

@@ -10,7 +10,7 @@
 #include "tree/TWTree.h"
 #include "values/Text.h"
 
-// The address sanitizer is to see every node by itself.
+// Without the pool, the address sanitizer can watch each node by itself.
 #if defined(__SANITIZE_ADDRESS__)
 #define TW_POOLED_NODES false
 #elif defined(__has_feature)
@@ -34,7 +34,8 @@ constexpr const char* kHasParent = "Node already has a parent.";
 constexpr const char* kBoth = "Node cannot be both a document and a style.";
 constexpr const char* kBelowItself = "A node cannot stand below itself.";
 
-// Memory for nodes, for one thread: blocks that only grow, and the list of the free places in them.
+// The memory of the nodes, for one thread: a growing number of blocks, and a list of the free places in them.
+// All blocks are freed with the last node.
 class NodePool {
   public:
     void* Take() {
@@ -68,7 +69,7 @@ class NodePool {
 
     std::vector<std::unique_ptr<Place[]>> blocks_;
     Place* free_ = nullptr;
-    Place* next_ = nullptr;  // the places of the last block that were never taken
+    Place* next_ = nullptr;  // start of the places in the last block that were never used
     Place* end_ = nullptr;
     std::size_t taken_ = 0;
 };
@@ -85,7 +86,7 @@ struct TWNode::OwnIcons {
     std::string closed;
 };
 
-// The children, and what their owner does when one comes or goes.
+// The children of a node, and what their owner does when one is added or removed.
 struct TWNode::Family final : TWNodesOwner {
     explicit Family(TWNode& node) : owner(node), nodes(*this) {}
 
@@ -109,7 +110,7 @@ struct TWNode::Family final : TWNodesOwner {
 
     bool Sorted() const override { return owner.Sorted(); }
 
-    // A ring of nodes would own itself and never end.
+    // Nodes in a cycle would own each other and never be destroyed.
     void CheckNotAbove(const TWNode& node) const {
         if (&node != &owner && !node.HasChildren()) return;
         for (const TWNode* above = &owner; above != nullptr; above = above->parent_)
@@ -140,7 +141,7 @@ TWNode::TWNode(const NodeContent& content)
       iconClosed_(content.iconClosed),
       isDocument_(content.isDocument),
       isStyle_(content.isStyle) {
-    // Four of these stand for each recipe.
+    // Each recipe has four nodes.
     static_assert(sizeof(void*) != 8 || sizeof(TWNode) <= 64);
 }
 
@@ -148,7 +149,7 @@ TWNode::~TWNode() {
     DestroyChildren();
 }
 
-// The last leaf first, going down and up by Parent, so that neither depth nor memory matters.
+// Destroys the last leaf first, and moves up by Parent: this needs neither recursion nor additional memory.
 void TWNode::DestroyChildren() noexcept {
     for (TWNode* at = this; at != this || HasChildren();) {
         if (!at->HasChildren()) {
@@ -207,7 +208,7 @@ void TWNode::SetIconClosed(std::string_view icon) {
 void TWNode::SetIcon(NodeIcon& icon, std::string OwnIcons::*own, std::string_view name) {
     const NodeIcon known = IconOf(name);
     if (known == NodeIcon::Other) {
-        std::string text(name);  // name may be a part of what is replaced
+        std::string text(name);  // name may be part of the text that is replaced
         if (ownIcons_ == nullptr) ownIcons_ = std::make_unique<OwnIcons>();
         (*ownIcons_).*own = std::move(text);
     }

@@ -26,7 +26,7 @@ TWNode& TWNodes::Item(std::size_t index) const {
 }
 
 TWNode& TWNodes::AddNode(std::unique_ptr<TWNode>&& node) {
-    // The room first: behind the owner's event nothing may fail.
+    // Reserves memory first: nothing may fail after the owner was notified.
     items_.ReserveOne();
     owner_.AddingNode(*node);
     const std::size_t place = PlaceFor(*node);
@@ -64,7 +64,7 @@ std::unique_ptr<TWNode> TWNodes::Remove(std::size_t index, bool keep) {
 }
 
 void TWNodes::RemoveAll() {
-    // A list instead of a recursion: how deep folders lie in each other is up to the data.
+    // A list instead of recursion: the data decides how deeply folders are nested.
     std::vector<TWNodes*> open = {this};
     while (!open.empty()) {
         TWNodes& nodes = *open.back();
@@ -106,12 +106,12 @@ bool TWNodes::InOrder() {
     return ordered_ == Count();
 }
 
-// A walk from the front to the first node that sorts behind the new one. Nodes that are in order need no
-// walk; they need not be, since they may have come in while the owner was not sorted.
+// Finds the first node that sorts after the new one: by binary search if the nodes are in order, otherwise
+// one by one. They may be out of order because nodes were added while the owner was not sorted.
 std::size_t TWNodes::PlaceFor(const TWNode& node) {
     if (!owner_.Sorted()) {
-        // Looked at now, while the name before it is still near: a hundred thousand are slow to look at
-        // later.
+        // Compares now, while the name of the previous node is still in the cache: comparing a hundred
+        // thousand names later is slow.
         if (ordered_ == Count() && (items_.IsEmpty() || items_[Count() - 1]->Compare(node) <= 0)) ++ordered_;
         return Count();
     }
@@ -129,7 +129,7 @@ void TWNodes::Reposition(const TWNode& node) {
     if (index == Count()) return;
     const auto items = items_.InOneRow();
     const auto at = items.begin() + static_cast<std::ptrdiff_t>(index);
-    // Of equal nodes, those that stood before it stay before it, and those behind it behind.
+    // Equal nodes that were before it stay before it, and those after it stay after it.
     const auto left = std::upper_bound(items.begin(), at, *at, Before);
     const auto right = std::lower_bound(at + 1, items.end(), *at, Before);
     if (left != at)

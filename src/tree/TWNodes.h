@@ -10,68 +10,71 @@
 
 namespace tw {
 
-// The owner of a collection hears of every node that comes and goes, inside the call that does it.
+// The owner of a collection is notified of every node that is added or removed, during the call that does so.
 class TWNodesOwner {
   public:
     virtual ~TWNodesOwner() = default;
-    // Before the node goes in. An error keeps it out.
+    // Called before the node is added. If it raises an error, the node is not added.
     virtual void AddingNode(TWNode& node) = 0;
-    // After the node went out.
+    // Called after the node was removed.
     virtual void NodeRemoved(TWNode& node) = 0;
-    // Whether the collection is to be kept in order.
+    // True if the collection must be kept in order.
     virtual bool Sorted() const = 0;
 };
 
-// Owns its nodes. Positions count from 0; one beyond the last raises "Subscript out of range".
+// Owns its nodes. Indexes start at 0; an index past the last node raises Error "Subscript out of range".
 class TWNodes {
   public:
-    // REQUIRES: owner lives for as long as the collection.
+    // REQUIRES: owner outlives the collection.
     explicit TWNodes(TWNodesOwner& owner) : owner_(owner) {}
     TWNodes(const TWNodes&) = delete;
     TWNodes& operator=(const TWNodes&) = delete;
 
     std::size_t Count() const { return items_.Count(); }
     TWNode& Item(std::size_t index) const;
-    // For range loops over std::unique_ptr<TWNode>. Valid until the collection changes.
+    // For range loops; the elements are std::unique_ptr<TWNode>. Valid until the collection changes.
     auto begin() const { return items_.begin(); }
     auto end() const { return items_.end(); }
 
-    // Takes the node in, behind all others when the owner is not sorted, otherwise before the first node that
-    // sorts behind it. An error of the owner, such as "Node already has a parent.", leaves the collection as
-    // it was and the node with the caller. REQUIRES: node is not null.
+    // Adds the node: at the end if the owner is not sorted, otherwise before the first node that sorts after
+    // it. If the owner raises an error, such as "Node already has a parent.", the collection is unchanged and
+    // the caller keeps the node. REQUIRES: node is not null.
     TWNode& AddNode(std::unique_ptr<TWNode>&& node);
-    // Makes a node and adds it; the errors of both.
+    // Creates a node and adds it. Raises the errors of TWNode's setters and of AddNode.
     TWNode& AddItem(std::string_view name, std::string_view key, std::string_view iconOpen,
                     std::string_view iconClosed, bool isDocument = false, bool isStyle = false);
-    // Takes the node out and hands it over, with everything below it when keep is set and cleared otherwise.
-    // RemoveNode raises "Node to be removed does not exist in collection." for a node that is not in it.
+    // Remove the node and return it. The nodes below it stay with it if keep is true, and are destroyed
+    // otherwise. RemoveNode raises Error "Node to be removed does not exist in collection." if the node is
+    // not in it.
     std::unique_ptr<TWNode> RemoveNode(const TWNode& node, bool keep = false);
     std::unique_ptr<TWNode> Remove(std::size_t index, bool keep = false);
-    // Removes and destroys all nodes with everything below them, the last first, leaves before their parents.
+    // Removes and destroys all nodes and all nodes below them, the last first, leaves before their parents.
     void RemoveAll();
-    // Puts the nodes in the order of Compare; equal ones stay in the order in which they are.
+    // Sorts the nodes by TWNode::Compare. Equal nodes keep their order.
     void Sort();
-    // Makes room for count nodes in all.
+    // Reserves memory for count nodes in total.
     void Reserve(std::size_t count) { items_.Reserve(count); }
 
   private:
     friend class TWNode;
     using Items = GapVector<std::unique_ptr<TWNode>>;
 
-    // Count when the node is not in it.
+    // Returns the index of the node, or Count if it is not in the collection.
     std::size_t IndexOf(const TWNode& node) const;
-    // The same by the order, without a look at every node; Count also when the order is not known.
+    // Returns the index of the node like IndexOf, but by binary search; Count even if the node is in the
+    // collection but not all nodes are known to be in order.
     std::size_t PlaceOf(const TWNode& node) const;
-    // True when every node stands in its place. Looks only at what it has not looked at before.
+    // True if all nodes are in order. Compares only the nodes that are not yet known to be.
     bool InOrder();
     std::size_t PlaceFor(const TWNode& node);
-    // Where Sort would put the one node that may stand wrong. REQUIRES: all others are in order.
+    // Moves the node, which may be in the wrong place, to where Sort would put it. REQUIRES: all others are
+    // in order.
     void Reposition(const TWNode& node);
     void ForgetOrder() { ordered_ = 0; }
 
     TWNodesOwner& owner_;
     Items items_;
-    std::size_t ordered_ = 0;  // so many nodes at the front are known to be in order
+    std::size_t ordered_ = 0;  // the number of nodes at the front that are known to be in order
 };
 
 }  // namespace tw

@@ -21,7 +21,7 @@ constexpr const char* kHasNoRoot = "Tree has no root.";
     Raise(kAddNode, "Node key already exists in tree.");
 }
 
-// The node and everything below it, parents before their children.
+// Returns the node and all nodes below it, parents before their children.
 std::vector<TWNode*> Subtree(TWNode& top) {
     std::vector<TWNode*> nodes = {&top};
     for (std::size_t i = 0; i < nodes.size(); ++i) {
@@ -74,7 +74,7 @@ void TWTree::Enter(TWNode& top) {
     std::vector<TWNode*> below;
     std::size_t entered = 0;
     try {
-        // Most nodes come alone.
+        // Most nodes are added without children.
         if (!index_.Insert(top)) RaiseKeyTaken();
         if (!top.HasChildren()) return;
         below = Subtree(top);

@@ -1,4 +1,4 @@
-// How a tree reads its database: it stands by itself because the loader builds trees.
+// Reading a tree from its database. Separate from TWTree.cpp because the loader depends on the tree.
 #include "tree/TWTree.h"
 #include "tree/TreeLoader.h"
 

@@ -1,4 +1,4 @@
-// The tree's part of filling a widget.
+// How a tree fills a widget.
 #include <array>
 #include <cstddef>
 #include <vector>
@@ -9,7 +9,7 @@
 namespace tw {
 namespace {
 
-// Where a part starts, and the entries that it leaves out with all below them.
+// The key of a part's first entry, and the keys of the entries that it leaves out with everything below them.
 struct PartRule {
     std::string_view start;
     std::array<std::string_view, 2> leftOut;
@@ -31,8 +31,8 @@ constexpr PartRule RuleOf(TreePart part) {
     return {kDatabaseKey, {}};
 }
 
-// One walk over the tree. The nodes whose children are being gone through are kept in a list: a recursion
-// would be as deep as the data's folders.
+// Traverses a part of the tree once. The open levels are kept in a list, since recursion would be as deep as
+// the folders are nested.
 class Filler {
   public:
     Filler(TreeView& view, const PartRule& rule, bool includeStyles, bool includeDocuments)

@@ -9,13 +9,13 @@
 namespace tw {
 namespace {
 
-// The four copies of a recipe.
+// The four entries of a recipe: below "All Recipes", below both entries of its style, and in its folder.
 constexpr int kInAll = 0;
 constexpr int kInStyle = 1;
 constexpr int kInStyleOfFolder = 2;
 constexpr int kInFolder = 3;
 
-// The first fields of every read.
+// The first two fields of every query.
 constexpr int kNameField = 0;
 constexpr int kIdField = 1;
 
@@ -29,12 +29,12 @@ struct ObjectRow {
     SharedText name;
     std::int64_t id = 0;
 
-    bool goesByName = false;  // in its key
+    bool goesByName = false;  // its key contains the name instead of the id
 
     ObjectRow() = default;
     explicit ObjectRow(const Recordset& rows)
         : name(rows.Fields(kNameField).Text()), id(rows.Fields(kIdField).Integer()) {}
-    // What has no id, but a negative number in its place, goes by its name.
+    // In an exchange file, an object with a negative id has none and is identified by its name.
     static ObjectRow OfFile(const Recordset& rows) {
         ObjectRow row(rows);
         row.goesByName = row.id < 0;
@@ -105,8 +105,8 @@ void TreeLoader::LoadMainDatabase() {
     AddRecipes(AddFolders(FolderKind::Recipes, recipeRoot));
 }
 
-// Folder by folder from the root: what cannot be reached, such as folders that lie in each other in a ring,
-// does not come in.
+// Proceeds folder by folder from the root. Folders that cannot be reached from it, such as folders that
+// contain each other in a cycle, are not loaded.
 TreeLoader::NodesById TreeLoader::AddFolders(FolderKind kind, TWNode* root) {
     const bool forStyles = kind == FolderKind::Styles;
     std::unordered_map<std::int64_t, std::vector<ObjectRow>> rowsByParent;

@@ -11,7 +11,7 @@
 
 namespace tw {
 
-// For the time of its life the tree does not sort: the rows come in order.
+// The tree does not sort during the loader's lifetime: the rows are read in order.
 class TreeLoader {
   public:
     // REQUIRES: the tree is empty.
@@ -20,28 +20,28 @@ class TreeLoader {
     TreeLoader(const TreeLoader&) = delete;
     TreeLoader& operator=(const TreeLoader&) = delete;
 
-    // Recipes, styles and folders by their ids. Each table is read once: a recipe's row tells where its four
-    // copies go.
+    // Loads recipes, styles and folders by their ids. Each table is read once: a recipe's row says where its
+    // four entries belong.
     void LoadMainDatabase();
-    // Recipes, and the styles by the names in them. Raises the store's error for a database that has no
-    // STYLE_NAME.
+    // Loads recipes, and styles by the style names in the recipes. Raises the store's error if RECIPES has no
+    // column STYLE_NAME.
     void LoadExchangeFile();
 
   private:
     using NodesById = std::unordered_map<std::int64_t, TWNode*>;
     enum class FolderKind { Recipes, Styles };
 
-    // The root, and "All Recipes" and "By Style" below it.
+    // Adds the root, and "All Recipes" and "By Style" below it.
     void AddRoots();
-    // The new node below parent; nullptr when there is no parent or the key is taken.
+    // Adds a node below parent and returns it; nullptr if parent is nullptr or the key is already used.
     TWNode* Add(TWNode* parent, const NodeContent& content);
     TWNode* AddSystemFolder(TWNode* parent, std::string_view name, std::string_view key);
     TWNode* AddNoStyle(TWNode* parent, std::string_view key);
-    // The folders that can be reached from the root, by id, and the root itself as 0.
+    // Adds the folders that can be reached from the root. Returns them by id, and the root itself as 0.
     NodesById AddFolders(FolderKind kind, TWNode* root);
     void AddStyles(const NodesById& folders);
     void AddRecipes(const NodesById& folders);
-    // One node for each row of NAME and ID.
+    // Adds a node below parent for each row of the query, which selects NAME and ID.
     void FillRecipes(TWNode* parent, std::string_view sql, int copy, const SqlValues& values = {});
 
     TWTree& tree_;
@@ -50,7 +50,7 @@ class TreeLoader {
     TWNode* allRecipes_ = nullptr;
     TWNode* byStyle_ = nullptr;
     TWNode* allStyles_ = nullptr;
-    // Both entries of each style, the one under "All Styles" and the one in its folder.
+    // The two entries of each style, by id: the one below "All Styles" and the one in its folder.
     NodesById styles_;
     NodesById stylesInFolders_;
 };
