@@ -13,8 +13,8 @@
 namespace tw {
 namespace {
 
-// The edit command of a key; nothing for any other key. Delete alone clears in grids and deletes as usual in
-// texts.
+// Returns the command of the Edit menu for a key, if it has one. Delete without modifiers has none here: it
+// clears cells in grids and deletes characters in texts.
 std::optional<CommandId> EditCommandOf(const QKeyEvent& key) {
     const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
     if (key.key() == Qt::Key_Insert && modifiers == Qt::ControlModifier) return CommandId::EditCopy;
@@ -78,7 +78,7 @@ bool DocumentBinding::HandleKey(const QKeyEvent& key) {
     if (!key.modifiers().testFlag(Qt::ControlModifier)) return false;
     switch (key.key()) {
         case Qt::Key_Plus:
-        case Qt::Key_Equal:  // the plus key where plus needs Shift
+        case Qt::Key_Equal:  // the plus key on keyboards where plus needs Shift
             return frame_.RunCommand(CommandId::EditInsert);
         case Qt::Key_Minus:
             return frame_.RunCommand(CommandId::EditDelete);
@@ -91,7 +91,7 @@ bool DocumentBinding::HandleEditKey(const QKeyEvent& key) {
     if (HandleKey(key)) return true;
     const std::optional<CommandId> command = EditCommandOf(key);
     if (!command) return false;
-    // Used up also while the command is off: the widget must not do it by itself.
+    // The key counts as handled even if the command is disabled: the widget must not run its own.
     frame_.RunCommand(*command);
     return true;
 }

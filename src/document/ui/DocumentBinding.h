@@ -1,5 +1,6 @@
-// Ties the widgets of one document window to the objects of its record. Widgets register what they show;
-// changes of the record come back to them. When the document goes before its window, the widgets fall silent.
+// Connects the widgets of one document window with the objects of its record. Widgets register callbacks for
+// the objects that they show, which are called when the record changes. After Detach, called if the document
+// is destroyed before its window, no callback is called.
 #pragma once
 
 #include <QObject>
@@ -21,7 +22,7 @@ class GridWidget;
 
 class DocumentBinding final : public RecordObserver {
   public:
-    // The document and the platform must live until Detach.
+    // document and platform must exist until Detach, frame must outlive the binding.
     DocumentBinding(RecipeDocument& document, Platform& platform, DocumentFrame& frame);
     ~DocumentBinding() override;
     DocumentBinding(const DocumentBinding&) = delete;
@@ -31,50 +32,55 @@ class DocumentBinding final : public RecordObserver {
     RecipeDocument* Document() const { return document_; }
     Platform& Ports() const { return platform_; }
     DocumentFrame& Frame() const { return frame_; }
-    // Lets go of the document.
+    // Stops using the document and its record.
     void Detach();
 
-    // show runs at every change of that object of the record (a TextBox, Label, Button, ListBox or
-    // OptionGroup).
+    // Calls show at every change of that object of the record: a TextBox, Label, Button, ListBox
+    // or OptionGroup.
     void Watch(const void* object, std::function<void()> show);
-    // show runs when the selection of a text box is another.
+    // Calls show when the selection in a text box has changed. At most one callback per text box.
     void WatchSelection(const TextBox& box, std::function<void()> show);
     void WatchSwatch(std::function<void(Rgb)> show) { showSwatch_ = std::move(show); }
     void AddGrid(const Grid& grid, GridWidget& view) { grids_[&grid] = &view; }
-    // nullptr for a grid without a widget.
+    // Returns nullptr for a grid without a widget.
     GridWidget* ViewOf(const Grid& grid) const;
-    // Every grid that has a widget.
+    // Visits the widgets of all grids.
     void ForEachGrid(const std::function<void(GridWidget&)>& visit) const;
 
-    // The keys of rows, which work in an open cell editor too. True when the key has been used up.
+    // Handles the keys that insert and delete rows, which work even in an open cell editor. Returns true if
+    // the key has been handled.
     bool HandleKey(const QKeyEvent& key);
-    // Those, and the keys of the Edit menu: its commands are the recipe's, never the widget's own.
+    // Handles the same keys, and those of the Edit menu: they run the commands of the recipe, never those of
+    // the widget itself.
     bool HandleEditKey(const QKeyEvent& key);
 
-    // Those but for the clipboard's, in a list whose text is no field of the recipe.
+    // Handles the keys of rows and of undo and redo, but not those of the clipboard: for a list whose text is
+    // not a field of the recipe.
     bool HandleListKey(const QKeyEvent& key);
 
-    // While held, grids note their changes and show them together afterwards. Calls nest.
+    // While redraw is held, grids do not show changes; they show them together afterwards. Calls nest.
     void HoldRedraw(bool hold);
     bool IsHeld() const { return holds_ > 0; }
 
-    // Runs an operation on the document; an error that rises is shown. False then, and after Detach.
+    // Runs an operation on the document. Shows an error that it raises and then returns false. After Detach,
+    // returns false and runs nothing.
     bool Run(const std::function<void(RecipeDocument&)>& operation);
 
-    // Whether the focus goes for good: neither a menu or list opens over the control nor another program
-    // comes in front. Another recipe's window in front is leaving.
+    // True if the control loses the focus for good: not because a menu or list opens over it, nor because
+    // another program is activated. Activating the window of another recipe does count as leaving.
     static bool IsLeaving(const QFocusEvent& event, const QWidget& control);
-    // The text box that may hold an uncommitted text; commit gives false for a bad entry. The one before is
-    // left, however the focus came from it.
+    // Sets the text box that may contain uncommitted text; commit returns false for a bad entry. Commits the
+    // previous text box first, however it lost the focus.
     void SetActiveField(QWidget* field, std::function<bool()> commit);
-    // The focus is in that control of the document. A text box that lost it to a menu, which kept it open,
-    // and does not get it back is left now.
+    // Called when a control of the document gets the focus. Commits a text box that had lost the focus to a
+    // menu, and so was not yet committed, if it is not the one that gets it.
     void FocusIsIn(const QWidget& control);
-    // A bad entry has been refused: its box takes the focus back as soon as the present event is over.
+    // Called when the entry in field was refused: calls takeBack, which returns the focus to it, after the
+    // current event. Until then IsRefusing is true.
     void Refuse(QWidget* field, std::function<void()> takeBack);
     bool IsRefusing() const { return !refused_.isNull(); }
 
-    // Commits the open cell editor and the active text box. False when an entry was refused.
+    // Commits the open cell editor and the active text box. Returns false if an entry was refused.
     bool Flush();
 
     void TextBoxChanged(const TextBox& box) override { Fire(&box); }

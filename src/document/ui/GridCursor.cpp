@@ -19,7 +19,7 @@ bool GridCursor::InTotals() const {
 
 GridCursor::Block GridCursor::SelectedBlock() const {
     const GridRange range = grid_->Selection();
-    // Qt knows the corners of a block that lies among the data rows: its current cell is the one that moves.
+    // Qt knows the corners of a block within the data rows: its current cell is the moving corner.
     const int row = model_.GridRow(view_.currentIndex().row()), col = view_.currentIndex().column();
     if (range.row2 < grid_->EndOfData() && view_.currentIndex().isValid()) {
         const int otherRow = row == range.row1 ? range.row2 : range.row1;
@@ -27,7 +27,7 @@ GridCursor::Block GridCursor::SelectedBlock() const {
         return {{otherRow, otherCol}, {row, col}};
     }
     if (block_.Range() == range) return block_;
-    // Selected as a whole: the arrows go on from the current cell.
+    // The block was selected by other means: the cursor keys start from the current cell.
     return {{range.row2, range.col2}, {range.row1, range.col1}};
 }
 
@@ -45,7 +45,7 @@ void GridCursor::MoveTo(int row, int col, bool extends) {
     ShowColumn(end.col);
 }
 
-// Only the columns scroll: the totals are always in sight.
+// Scrolls horizontally only: the totals are always visible.
 void GridCursor::ShowColumn(int col) {
     QScrollBar& bar = *view_.horizontalScrollBar();
     const int right = view_.columnViewportPosition(col) + view_.columnWidth(col);
@@ -97,7 +97,7 @@ bool GridCursor::Step(int direction) {
     const int cols = model_.columnCount();
     if (!InTotals())
         return StepFrom(view_.currentIndex().row() * cols + view_.currentIndex().column(), direction);
-    // Among the totals nothing takes an entry: one cell after the other, and back into the rows.
+    // Totals cannot be edited: steps through all of their cells, and back into the data rows.
     const int first = grid_->EndOfData();
     const int place = (grid_->CurrentRow() - first) * cols + grid_->CurrentCol() + direction;
     if (place < 0) return StepFrom(model_.rowCount() * cols, -1);

@@ -1,5 +1,5 @@
-// The ways of a grid's current cell and of the block selected around it. The data rows and the totals below
-// them, which are shown by two views, are one grid to the hands.
+// Moves the current cell of a grid and extends the selected block. The data rows and the totals, although
+// shown by two views, behave as one grid.
 #pragma once
 
 #include "record/Grid.h"
@@ -14,39 +14,42 @@ class GridModel;
 
 class GridCursor {
   public:
-    // view shows the data rows by model. All must outlive the cursor, but for the grid.
+    // view shows the data rows, by model. All but the grid must outlive the cursor; Detach must be called
+    // before the grid is destroyed.
     GridCursor(QTableView& view, const GridModel& model, DocumentBinding& binding, Grid& grid);
-    // Whether totals are shown below the data rows, which the cursor then goes on to; false at first.
+    // Sets whether totals are shown below the data rows, so that the cursor can move on to them.
+    // Initially false.
     void SetHasTotals(bool hasTotals) { hasTotals_ = hasTotals; }
-    // The grid goes: nothing moves from now on.
+    // Called before the grid is destroyed; the cursor does nothing afterwards.
     void Detach() { grid_ = nullptr; }
 
-    // Whether the current cell is one of the totals.
+    // True if the current cell is in a totals row.
     bool InTotals() const;
-    // Makes a cell of the grid, one of the totals too, the current one, or the end of the selected block. A
-    // place outside the grid becomes the nearest one in it.
+    // Makes a cell of the grid, which may be a total, the current cell; if extends is true, extends the
+    // selected block to it instead. A position outside the grid becomes the nearest cell in it.
     void MoveTo(int row, int col, bool extends);
-    // The arrows over the border between rows and totals and among the totals. False for any other key.
+    // Handles the cursor keys within the totals and across the border between them and the data rows. Returns
+    // false for any other key.
     bool MoveThroughTotals(const QKeyEvent& key);
-    // To the next (+1) or previous (-1) cell that takes an entry, or to the next total; false when there is
-    // none.
+    // Moves to the next (+1) or previous (-1) cell that can be edited or, within the totals, to the adjacent
+    // total. Returns false if there is none.
     bool Step(int direction);
-    // To the cell below.
+    // Moves to the cell below.
     void StepDown();
 
   private:
     struct Place {
         int row, col;
     };
-    // The corners of a selected block: the one that stays and the one that moves.
+    // Two opposite corners of a selected block: anchor stays, end moves.
     struct Block {
         Place anchor, end;
         GridRange Range() const;
     };
     Block SelectedBlock() const;
-    // Step from a place among the data rows, whose cells count from 0.
+    // Steps from a cell of the data rows, given by its index row * columns + column.
     bool StepFrom(int place, int direction);
-    // Brings the column into sight.
+    // Scrolls the column into view.
     void ShowColumn(int col);
 
     QTableView& view_;
@@ -54,7 +57,7 @@ class GridCursor {
     DocumentBinding& binding_;
     Grid* grid_;
     bool hasTotals_ = false;
-    Block block_{};  // the last one that reached into the totals
+    Block block_{};  // the block that MoveTo selected last
 };
 
 }  // namespace tw

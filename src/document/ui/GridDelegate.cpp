@@ -24,13 +24,13 @@ void PaintCheckBox(QPainter& painter, const QStyleOptionViewItem& option, Qt::Ch
     PaintCheckIndicator(painter, box, option.palette, state == Qt::Checked);
 }
 
-// Sums stand below a line.
+// A line above each total.
 void PaintSumLine(QPainter& painter, const QRect& cell, const QColor& ink) {
     painter.setPen(ink);
     painter.drawLine(cell.topLeft(), cell.topRight());
 }
 
-// The current cell: a strong frame while the grid has the focus, a thin one while it has not.
+// Paints the frame of the current cell: thick while the grid has the focus, thin otherwise.
 void PaintCurrentFrame(QPainter& painter, const QStyleOptionViewItem& option, bool focused) {
     const int width = focused ? 2 : 1;
     QPen pen(focused ? option.palette.color(QPalette::Highlight) : HintColor(option.palette), width);
@@ -79,7 +79,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& plain,
     painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
     if (static_cast<const GridModel&>(*index.model()).IsTotal(index))
         PaintSumLine(*painter, option.rect, ink);
-    // The rows have the focus for the totals too.
+    // The view of the data rows has the focus for the totals, too.
     if (current) PaintCurrentFrame(*painter, option, body_.hasFocus());
     painter->restore();
 }
@@ -123,15 +123,15 @@ QWidget* GridDelegate::MakeListEditor(QWidget* parent, const CellList& list) con
     completer->setCompletionMode(QCompleter::PopupCompletion);
     completer->setFilterMode(Qt::MatchContains);
     completer->setCaseSensitivity(Qt::CaseInsensitive);
-    // The popups are as wide as their widest entry, whatever the column's width.
+    // The popups are as wide as their widest entry, even in a narrow column.
     const int widest = completer->popup()->sizeHintForColumn(0) +
                        2 * combo->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     completer->popup()->setMinimumWidth(widest);
     combo->view()->setMinimumWidth(widest);
-    // Qt makes editors by a const function, and their signals end in this object.
+    // createEditor is const in Qt, but the editor's signals must change this object.
     auto* self = const_cast<GridDelegate*>(this);
-    // With the list of matches open, Enter comes as these two: a match was picked, or the text stands as
-    // typed.
+    // While the list of matches is open, Enter arrives as one of these two signals: a match was chosen, or
+    // the text remains as typed.
     connect(completer, qOverload<const QString&>(&QCompleter::activated), combo,
             [self, combo](const QString& text) {
                 combo->setEditText(text);

@@ -1,4 +1,5 @@
-// Paints the cells of a grid and makes their editors: a line, a line with the cell's list, or the list alone.
+// Paints the cells of a grid and creates their editors: a line edit, or a combo box (editable or not) for a
+// cell with a list.
 #pragma once
 
 #include <QStyledItemDelegate>
@@ -10,28 +11,28 @@ namespace tw {
 class DocumentBinding;
 struct CellList;
 
-// The view of a grid's data rows, as the delegates that paint and edit the grid's cells see it.
+// The interface of the view of a grid's data rows for the delegates that paint and edit the grid's cells.
 class CellHost {
   public:
     virtual ~CellHost() = default;
-    // True if the cell, of the data rows or of the totals, is the current one of the record.
+    // True if the cell, a total included, is the grid's current cell in the record.
     virtual bool IsCurrentCell(const QModelIndex& cell) const = 0;
-    // In pixels.
+    // Returns the row height in pixels.
     virtual int RowHeight() const = 0;
     // Returns the cell's list for an editor about to open.
     virtual CellList ListOf(const QModelIndex& cell) const = 0;
-    // The one open editor and its cell.
+    // Called with each new editor and its cell; at most one editor is open.
     virtual void SetEditor(QWidget* editor, const QModelIndex& cell) = 0;
-    // Lets the brewer choose the current cell's name from its catalogue, if it has one, as soon as the
-    // present event has been processed.
+    // After the current event, opens the catalogue in which the brewer can choose the current cell's name, if
+    // the cell has a catalogue.
     virtual void BrowseSoon() = 0;
 };
 
 class GridDelegate final : public QStyledItemDelegate {
     Q_OBJECT
   public:
-    // body shows the data rows of the grid and has the focus for the totals too, whose view has a delegate of
-    // its own that only paints. All must outlive the delegate's last event.
+    // body shows the data rows of the grid and has the focus even while a total is the current cell. The view
+    // of the totals has its own delegate, which only paints. All must outlive the delegate's last event.
     GridDelegate(QWidget& body, CellHost& cells, DocumentBinding& binding, QObject* parent);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -10,12 +10,12 @@
 namespace tw {
 namespace {
 
-// The ion cells of "Treatment Needed" and "Treatment Totals".
+// True for the ion cells of "Treatment Needed" and "Treatment Totals".
 bool IsItalic(const Grid& grid, int row, int col) {
     return grid.Id() == GridId::Water && row >= WaterRow::Needed && col >= WaterCol::FirstIon;
 }
 
-// A colour as a role's value; nothing for an invalid one.
+// Returns the colour as the value of a role; an invalid variant for an invalid colour.
 QVariant BrushOf(const QColor& color) {
     return color.isValid() ? QVariant(QBrush(color)) : QVariant();
 }
@@ -88,7 +88,7 @@ CellColors GridModel::ColorsOf(int row, int col) const {
     return {};
 }
 
-// Rows of totals are bold. Among the data rows bold has a meaning of its own: an ion that is close enough.
+// Totals are bold. In the data rows, bold means that an ion is close enough to its target.
 QVariant GridModel::FontOf(int row, int col) const {
     const bool isTotal = part_ == Part::Totals && grid_->Paint(row, col) == CellPaint::Total;
     const bool bold = isTotal || grid_->At(row, col).bold, italic = IsItalic(*grid_, row, col);
@@ -99,7 +99,7 @@ QVariant GridModel::FontOf(int row, int col) const {
     return font;
 }
 
-// What an assistive program says of a cell: its row, its column and its value.
+// Returns the accessible text of a cell: its row, its column and its value.
 QString GridModel::Spoken(int row, int col) const {
     QString value = ToQt(grid_->Shown(row, col));
     if (grid_->IsCheckBox(row, col)) value = grid_->Checked(row, col) ? tr("yes") : tr("no");

@@ -1,5 +1,5 @@
-// A grid of the recipe as a Qt model: either its data rows or its totals rows. It holds nothing but the row
-// count that the views have been told of.
+// A grid of the recipe as a Qt model: either its data rows or its totals rows. Its only own data is the row
+// count last reported to the views.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -13,7 +13,8 @@ class GridModel final : public QAbstractTableModel {
   public:
     enum class Part { Data, Totals };
 
-    // view: the widget that shows the rows; its palette gives the tints.
+    // view shows the rows and owns the model; the colours are derived from its palette. binding and grid must
+    // outlive the model, unless Detach is called first.
     GridModel(DocumentBinding& binding, Grid& grid, Part part, QWidget* view);
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -22,31 +23,32 @@ class GridModel final : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    // The grid's row of a model row, and back; -1 for a row of the other part.
+    // Convert between rows of the model and rows of the grid. ModelRow returns -1 for a row of the
+    // other part.
     int GridRow(int modelRow) const { return modelRow + FirstRow(); }
     int ModelRow(int gridRow) const;
     bool IsCheckBox(const QModelIndex& index) const;
     bool CanEdit(const QModelIndex& index) const;
-    // Whether the cell is one of a row of totals.
+    // True if the cell is painted as a total.
     bool IsTotal(const QModelIndex& index) const;
-    // Whether the cell's name can be chosen from a catalogue.
+    // True if the cell's name can be chosen from a catalogue.
     bool HasCatalogue(const QModelIndex& index) const;
-    // Numbers stand at the right, texts at the left.
+    // Returns right for numbers, left for texts, centre for check boxes.
     static Qt::Alignment AlignmentOf(const Grid& grid, int col);
 
-    // After the grid has changed.
+    // Call these after the grid has changed.
     void CellChanged(int gridRow, int col);
     void RowInserted(int gridRow);
     void RowRemoved(int gridRow);
-    // Colours or everything else may be another.
+    // Everything but the row count may have changed, including the colours.
     void AllChanged();
-    // No rows from now on.
+    // Removes all rows and stops using the grid.
     void Detach();
 
   private:
     int FirstRow() const;
     int CountRows() const;
-    // Invalid colours for a cell that is painted like the rest of the window.
+    // Returns invalid colours for a cell that is painted in the window's own.
     CellColors ColorsOf(int row, int col) const;
     QVariant FontOf(int row, int col) const;
     QString Spoken(int row, int col) const;

@@ -20,7 +20,7 @@ namespace {
 constexpr double kLinesPerRow = 1.6;
 constexpr int kExtraPerColumn = 7;
 
-// Selects what of the range one of the two views shows.
+// Selects the part of the range that the view, of data rows or of totals, shows.
 void SelectIn(QTableView& view, const GridRange& range) {
     const auto& model = static_cast<const GridModel&>(*view.model());
     const int first = std::max(range.row1, model.GridRow(0));
@@ -66,7 +66,8 @@ GridView::GridView(DocumentBinding& binding, Grid& grid, const QString& name, QW
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
     setHorizontalScrollMode(ScrollPerPixel);
     setWordWrap(false);
-    // The delegate draws the hairlines: the styles differ in theirs, and some vanish on a dark ground.
+    // The delegate draws the grid lines: those of Qt's styles differ, and some are invisible on a
+    // dark background.
     setShowGrid(false);
     setCornerButtonEnabled(false);
     setModel(model_);
@@ -85,7 +86,7 @@ void GridView::BuildHeader() {
     setHorizontalHeader(new GridHeader(this));
     horizontalHeader()->setAccessibleName(tr("Columns of %1").arg(accessibleName()));
     horizontalHeader()->setSectionsClickable(grid_->RowsCanChange());
-    // A click sorts; Qt would select the column as well.
+    // A click sorts; without this, Qt would also select the column.
     disconnect(horizontalHeader(), &QHeaderView::sectionPressed, this, nullptr);
     disconnect(horizontalHeader(), &QHeaderView::sectionEntered, this, nullptr);
     if (grid_->RowsCanChange())
@@ -126,7 +127,7 @@ int GridView::ContentWidth() const {
 }
 
 void GridView::ShowCell(int row, int col) {
-    // The rows are no longer known to stand in the order of the mark.
+    // The rows may no longer be in the order that the mark shows.
     if (!sorting_ && horizontalHeader()->sortIndicatorSection() == col) ShowSortMark(-1);
     if (binding_.IsHeld()) {
         stale_ = true;
@@ -162,12 +163,12 @@ void GridView::ShowRowRemoved(int row) {
     FollowRows([&] { model_->RowRemoved(row); });
 }
 
-// Qt moves its current cell along with the rows; the record's stays where the record says.
+// Changes the model's rows, during which Qt moves its own current cell, and then shows the record's again.
 void GridView::FollowRows(const std::function<void()>& change) {
     following_ = true;
     change();
     following_ = false;
-    // With the last row gone, the one above it is next, not the totals.
+    // If the last row was deleted, the row above it becomes current, not the totals.
     if (grid_ && !grid_->IsDataRow(grid_->CurrentRow())) TellSelection();
     ShowCurrentCell();
     emit ContentChanged();
@@ -181,7 +182,7 @@ void GridView::ShowCurrentCell() {
     const GridRange range = grid_->Selection();
     following_ = true;
     const int row = model_->ModelRow(grid_->CurrentRow());
-    // Qt's current cell is the end of the block that moves; within the block it stays where it is.
+    // Qt's current cell is the moving corner of the block; it is left unchanged while the block is the same.
     if (row < 0 || SelectedRange() != range || !selectionModel()->hasSelection()) {
         SelectIn(*this, range);
         if (row >= 0)
@@ -275,7 +276,7 @@ bool GridView::CommitEditor() {
 }
 
 bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
-    // Of a selected block, what is typed goes into the cell with the frame.
+    // In a selected block, typing edits the cell with the frame.
     const bool byKey = trigger == AnyKeyPressed || trigger == EditKeyPressed;
     if (byKey && grid_ && !IsCurrentCell(index)) {
         const int row = model_->ModelRow(grid_->CurrentRow());
@@ -300,7 +301,7 @@ void GridView::commitData(QWidget* editor) {
     const std::string text = FromQt(GridDelegate::EditorText(*editor));
     bool accepted = true;
     committing_ = true;
-    // An arithmetic error leaves the cell as it was; the editor closes then.
+    // After an arithmetic error the cell is unchanged and the editor closes.
     binding_.Run(
         [&](RecipeDocument& document) { accepted = document.Cells().EditCell(*grid_, row, col, text); });
     committing_ = false;
@@ -376,7 +377,7 @@ void GridView::SortBy(int col) {
     sorting_ = true;
     binding_.Run([&](RecipeDocument& document) { document.Lines().ClickHeader(*grid_, col); });
     sorting_ = false;
-    // The document has one sort column for all its grids.
+    // The document has only one sort column for all its grids.
     binding_.ForEachGrid([&](GridWidget& view) { view.ShowSortMark(&view == this ? col : -1); });
 }
 
@@ -390,7 +391,7 @@ void GridView::ShowSortMark(int col) {
 void GridView::focusInEvent(QFocusEvent* event) {
     QTableView::focusInEvent(event);
     const bool byTab = event->reason() == Qt::TabFocusReason;
-    // Whoever comes by key wants to type, and that is not among the totals.
+    // A brewer who comes by Tab wants to type, which is impossible in the totals.
     if (byTab && cursor_.InTotals()) TellSelection();
     ShowCurrentCell();
     if (!currentIndex().isValid() && model_->rowCount() > 0 && !cursor_.InTotals())
@@ -404,17 +405,17 @@ void GridView::focusOutEvent(QFocusEvent* event) {
     ShowFocus();
 }
 
-// The frame around the current cell is strong while the grid has the focus.
+// Repaints the current cell, whose frame is thicker while the grid has the focus.
 void GridView::ShowFocus() {
     viewport()->update();
     if (totals_) totals_->viewport()->update();
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
-    // A refused entry holds its place until its editor has the focus back.
+    // The cell of a refused entry stays current until its editor has the focus again.
     if (binding_.IsRefusing()) return;
     const QModelIndex cell = indexAt(event->pos());
-    // The right button moves the current cell, unless the click falls into the selection.
+    // The right button moves the current cell, unless the click is inside the selection.
     if (event->button() == Qt::RightButton && cell.isValid() && selectionModel()->isSelected(cell)) return;
     QTableView::mousePressEvent(event);
 }

@@ -1,5 +1,5 @@
-// The widget of one grid of a recipe: the data rows, edited by the keyboard, with the totals rows pinned
-// below.
+// The widget of one grid of a recipe: shows and edits the data rows. A second view, fixed below it, shows the
+// totals rows.
 #pragma once
 
 #include <QPersistentModelIndex>
@@ -17,35 +17,39 @@
 
 namespace tw {
 
-// Column widths of a filled grid: autoWidths as they are; when they and 7 for each column leave some of
-// clientWidth, each gets the integer part of an equal share. Pixels.
+// Returns the column widths of a filled grid, in pixels. If autoWidths plus 7 for each column leave some of
+// clientWidth unused, each width is autoWidth plus an equal share of the rest, rounded down; otherwise they
+// are autoWidths.
 std::vector<int> FitColumns(std::vector<int> autoWidths, int clientWidth);
 
 class GridView final : public QTableView, public GridWidget, private CellHost {
     Q_OBJECT
   public:
-    // name: what the grid is called to assistive programs.
+    // name is the grid's accessible name. binding and grid must outlive the view, unless Detach is
+    // called first.
     GridView(DocumentBinding& binding, Grid& grid, const QString& name, QWidget* parent);
 
     Grid* TheGrid() const { return grid_; }
     GridModel& Model() const { return *model_; }
     DocumentBinding& Binding() const { return binding_; }
-    // Row height in pixels: 1.6 lines.
+    // Returns the row height in pixels: 1.6 lines of text.
     int RowHeight() const override;
-    // What delegates of this view and of its totals ask.
+    // The interface for the delegates of this view and of the view of its totals.
     CellHost& Cells() { return *this; }
-    // Height of header and rows.
+    // The height of the header and all rows, in pixels.
     int ContentHeight() const;
-    // The width of all columns.
+    // The width of all columns, in pixels.
     int ContentWidth() const;
-    // Ties the view of the rows behind the data to this one, whose columns it follows. model is what it
-    // shows; both must outlive this view's last event.
+    // Sets the view of the totals rows, whose columns then follow this view's. model is the model of totals.
+    // Both must outlive this view's last event.
     void SetTotals(QTableView& totals, GridModel& model);
-    // Makes a cell of the grid, one of the totals too, the current one, or the end of the selected block.
+    // Makes a cell of the grid, which may be a total, the current cell; if extends is true, extends the
+    // selected block to it instead.
     void MoveTo(int row, int col, bool extends) { cursor_.MoveTo(row, col, extends); }
-    // An open editor is committed first.
+    // Commits an open editor first.
     void BrowseSoon() override;
-    // The first column holds dates: a double click and Alt+Down ask for a calendar instead of an editor.
+    // Call if the first column contains dates: a double click on it, or Alt+Down in any data cell, then
+    // requests a calendar.
     void SetHasDates() { hasDates_ = true; }
 
     // GridWidget
@@ -61,13 +65,13 @@ class GridView final : public QTableView, public GridWidget, private CellHost {
     void Detach() override;
     QWidget& Widget() override { return *this; }
 
-    // True when all data rows are blank (a form alone is no text).
+    // True if all data rows are blank. The form of a hop does not count as text.
     bool IsBlankGrid() const;
 
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
 
   signals:
-    // The content's size or whether the grid is blank may have changed.
+    // The size of the content may have changed, or whether the grid is blank.
     void ContentChanged();
     void CalendarRequested(int row);
 
@@ -99,35 +103,36 @@ class GridView final : public QTableView, public GridWidget, private CellHost {
     void Toggle(const QModelIndex& cell);
     void BrowseCatalogue();
     void SortBy(int col);
-    // True when the key has been used up.
+    // Returns true if the key has been handled.
     bool HandleOwnKey(const QKeyEvent& key);
     void ShowFocus();
-    // The lower left corner of the current cell on the screen.
+    // Returns the lower left corner of the current cell, in screen coordinates.
     QPoint PlaceOfCurrentCell() const;
     void FollowRows(const std::function<void()>& change);
-    // Makes this view's selection, or its current cell, the record's.
+    // Selects this view's selection, or its current cell, in the record.
     void TellSelection();
-    // The selected block as cells of the record; the current cell alone when it lies outside.
+    // Returns the selected block as cells of the record, or just the current cell if it is outside
+    // that block.
     std::optional<GridRange> SelectedRange() const;
     void KeepEditor();
-    // A text has come that the column is too narrow for.
+    // True if the column is too narrow for the text of that cell.
     bool WantsMoreRoom(int row, int col) const;
 
     DocumentBinding& binding_;
     Grid* grid_;
     GridModel* model_;
-    QTableView* totals_ = nullptr;  // nullptr without totals, like the next one
+    QTableView* totals_ = nullptr;  // nullptr if there are no totals, and so is totalsModel_
     GridModel* totalsModel_ = nullptr;
     GridCursor cursor_;
     QPointer<QWidget> editor_;
     QPersistentModelIndex editedCell_;
     bool committing_ = false;  // the entry is being validated
     bool refused_ = false;     // the last commit was refused; the editor stays
-    bool following_ = false;   // the rows or the selection change by the record, not by the brewer
-    bool stale_ = false;       // changes have come while redraw was held
+    bool following_ = false;   // the rows or the selection are being changed by the record, not by the brewer
+    bool stale_ = false;       // the record has changed while redraw was held
     bool sorting_ = false;
-    bool fitting_ = false;       // the column widths are ours, not the brewer's
-    bool widthsChosen_ = false;  // the brewer has dragged a column
+    bool fitting_ = false;       // the column widths are being set by FitGridColumns, not by the brewer
+    bool widthsChosen_ = false;  // the brewer has resized a column
     bool hasDates_ = false;
 };
 

@@ -6,7 +6,7 @@
 namespace tw {
 
 bool GridView::HandleOwnKey(const QKeyEvent& key) {
-    // Of the totals no cell can be ticked or dated.
+    // A cell of the totals has neither a check box nor a date.
     const QModelIndex cell = cursor_.InTotals() ? QModelIndex() : currentIndex();
     switch (key.key()) {
         case Qt::Key_Return:
@@ -22,7 +22,7 @@ bool GridView::HandleOwnKey(const QKeyEvent& key) {
             binding_.Frame().RunCommand(CommandId::EditClear);
             return true;
         case Qt::Key_S:
-            // Nothing needs the mouse: the header's click by key.
+            // The key for a click on the header, so that sorting does not need the mouse.
             if (key.modifiers() != (Qt::ControlModifier | Qt::ShiftModifier)) return false;
             SortBy(grid_ ? grid_->CurrentCol() : -1);
             return true;
@@ -38,7 +38,7 @@ bool GridView::HandleOwnKey(const QKeyEvent& key) {
 
 void GridView::keyPressEvent(QKeyEvent* event) {
     if (binding_.HandleEditKey(*event) || HandleOwnKey(*event)) return;
-    // Qt would go on in the rows, where its own current cell has stayed.
+    // Qt would move its own current cell, which is still among the data rows.
     if (cursor_.InTotals())
         event->ignore();
     else

@@ -37,7 +37,7 @@ TotalsView::TotalsView(GridView& rows, QWidget* parent)
 
 void TotalsView::mousePressEvent(QMouseEvent* event) {
     const QModelIndex cell = indexAt(event->pos());
-    // Commits what is being typed in the rows.
+    // Commits the open editor of the data rows.
     rows_.setFocus(Qt::MouseFocusReason);
     if (!cell.isValid() || rows_.Binding().IsRefusing()) return;
     if (event->button() == Qt::RightButton && selectionModel()->isSelected(cell)) return;
@@ -45,7 +45,7 @@ void TotalsView::mousePressEvent(QMouseEvent* event) {
     rows_.MoveTo(model_->GridRow(cell.row()), cell.column(), extends);
 }
 
-// A block of totals is drawn with the mouse as one of rows is.
+// Dragging selects a block of totals, as it does in the data rows.
 void TotalsView::mouseMoveEvent(QMouseEvent* event) {
     const QModelIndex cell = indexAt(event->pos());
     if (!event->buttons().testFlag(Qt::LeftButton) || !cell.isValid() || rows_.Binding().IsRefusing()) return;
@@ -56,7 +56,7 @@ void TotalsView::contextMenuEvent(QContextMenuEvent* event) {
     rows_.Binding().Frame().ShowEditMenu(event->globalPos());
 }
 
-// The wheel scrolls the rows, wherever in the grid it is turned.
+// Over the totals, too, the wheel scrolls the data rows.
 void TotalsView::wheelEvent(QWheelEvent* event) {
     QCoreApplication::sendEvent(rows_.verticalScrollBar(), event);
 }

@@ -1,5 +1,5 @@
-// The rows of totals below a grid's data rows. To the hands they are rows of that grid: the focus is with the
-// data rows, whose keys work here too.
+// The totals rows below a grid's data rows. They behave as rows of that grid: the view of the data rows keeps
+// the focus, and its keys work here too.
 #pragma once
 
 #include <QTableView>
