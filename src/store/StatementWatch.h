@@ -18,16 +18,19 @@ class StatementWatch {
     static constexpr std::chrono::milliseconds kLimit{10000};
     // Of the time between two checks, at most this much counts as running.
     static constexpr std::chrono::milliseconds kMostBetween{250};
-    // The number of SQLite's virtual machine instructions between two checks.
+    // The number of instructions of SQLite's virtual machine between two checks.
     static constexpr int kSteps = 1000;
 
-    // REQUIRES: Detach is called before this object is destroyed.
+    // Starts to watch the handle. REQUIRES: Detach is called before this object is destroyed.
     StatementWatch(sqlite3* handle, MonotonicClock now);
     StatementWatch(const StatementWatch&) = delete;
     StatementWatch& operator=(const StatementWatch&) = delete;
 
+    // Stops watching the handle.
     static void Detach(sqlite3* handle);
+    // Restarts the time limit.
     void MarkProgress() { spent_ = {}; }
+    // Sets a callback for each check; by returning false it interrupts the statement.
     void SetWatch(std::function<bool()> watch) { watch_ = std::move(watch); }
 
   private:
