@@ -1,5 +1,5 @@
-// The product's own catalogue files. Figures are checked against published ones and against chemistry, worked
-// here.
+// Tests the product's own catalogue files. Figures are compared with published ones and with chemistry
+// computed here.
 #include <cmath>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ using testing::Ge;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-// Conventional atomic weights.
+// Conventional atomic weights, in grams per mole.
 constexpr double kH = 1.008, kC = 12.011, kO = 15.999, kNa = 22.990, kMg = 24.305, kS = 32.06, kCl = 35.45,
                  kCa = 40.078;
 constexpr double kWater = 2 * kH + kO;
@@ -40,7 +40,7 @@ class CatalogueData : public testing::Test {
     }
     static void TearDownTestSuite() { database_.reset(); }
 
-    // The rows of a SELECT, each as its fields' texts with "|" between, NULL as "NULL".
+    // Returns the rows of a SELECT, each as the texts of its fields, separated by "|"; NULL as "NULL".
     static std::vector<std::string> Rows(const std::string& sql) {
         std::vector<std::string> rows;
         for (Recordset records = database_->OpenRecordset(sql); !records.AtEnd(); records.MoveNext()) {
@@ -95,7 +95,7 @@ TEST_F(CatalogueData, EveryStyleHasACodeOfItsGuide) {
         EXPECT_TRUE(std::regex_match(code, forms.at(facts.Fields(1).Text()))) << facts.Fields(2).Text();
         ++stylesOfCode[code];
     }
-    // The guide gives its special IPAs and its historical beers one code each.
+    // In the guide, all specialty IPAs have the same code, and so have all historical beers.
     for (const auto& [code, styles] : stylesOfCode) {
         if (code == "21B" || code == "27")
             EXPECT_GE(styles, 7) << code;
@@ -135,7 +135,7 @@ TEST_F(CatalogueData, EveryYeastHasALaboratoryAndAFormAndItsCodeIsItsAlone) {
     EXPECT_THAT(Rows("SELECT CODE FROM CATALOGUE_FACTS WHERE SHEET = 'YEAST' AND CODE <> '' GROUP BY CODE "
                      "HAVING COUNT(*) > 1"),
                 IsEmpty());
-    // A maker's code stands in the name under which the yeast is sold.
+    // A yeast's name contains its maker's code.
     EXPECT_THAT(Rows(yeasts + "CODE <> '' AND INSTR(NAME, CODE) = 0"), IsEmpty());
 }
 
@@ -156,11 +156,11 @@ TEST_F(CatalogueData, OtherNamesLeadToTheirRows) {
     EXPECT_EQ(find(CatalogueKind::Yeast, "US-05"), "Fermentis SafAle US-05");
     EXPECT_EQ(find(CatalogueKind::Style, "18B"), "American Pale Ale");
     EXPECT_EQ(find(CatalogueKind::Style, "21B"), "");
-    // The ciders of the guide of 2015 lead to those that took their places.
+    // The names of the ciders of the guide of 2015 find those that replaced them.
     EXPECT_EQ(find(CatalogueKind::Style, "New World Cider"), "Common Cider");
 }
 
-// A database of the first release has these; what the catalogue says of them must be true.
+// Databases of the first release contain these styles; what the catalogue says of them must be true.
 TEST_F(CatalogueData, FormerStylesAreSixThatWentAndFiveThatMoved) {
     CatalogueProblems problems;
     const CatalogueSheets sheets = ReadCatalogue(CATALOGUE_FOLDER, problems);
@@ -195,7 +195,7 @@ TEST_F(CatalogueData, EveryStylesWaterProfileExists) {
     EXPECT_THAT(Names("STYLES", "WATER_PROFILE IS NOT NULL"), SizeIs(Ge(90u)));
 }
 
-// The program removes a type when its last grain goes; one without any would stay for ever.
+// The program deletes a type with its last grain; a type that never had any would never be deleted.
 TEST_F(CatalogueData, EveryGrainTypeHasGrains) {
     EXPECT_THAT(Names("GRAIN_TYPES", "ID NOT IN (SELECT GRAIN_TYPE FROM GRAINS)"), IsEmpty());
 }
@@ -203,7 +203,7 @@ TEST_F(CatalogueData, EveryGrainTypeHasGrains) {
 TEST_F(CatalogueData, HopsAndYeastsUseTheWordsOfTheirLists) {
     EXPECT_THAT(Rows("SELECT DISTINCT USAGE FROM HOPS ORDER BY USAGE"),
                 ElementsAre("Aroma", "Bittering", "Dual purpose"));
-    // Of some wine and cider yeasts it is not known.
+    // The flocculation of some wine and cider yeasts is not known.
     EXPECT_THAT(Rows("SELECT DISTINCT FLOC FROM YEAST ORDER BY FLOC"),
                 ElementsAre("", "High", "Low", "Medium", "Very High"));
 }
@@ -214,11 +214,12 @@ TEST_F(CatalogueData, RecipeLinesFindAMidPointForEveryGrainHopAndSugar) {
     EXPECT_THAT(Names("SUGARS", "(FERMENT_LO+FERMENT_HI)/2 IS NULL"), IsEmpty());
 }
 
-// One gram in a US gallon, by formula; carbonate counted as bicarbonate.
+// The ions in milligrams per liter that one gram adds to a US gallon, by formula, with carbonate counted
+// as bicarbonate.
 TEST_F(CatalogueData, SaltsAddWhatTheirFormulaSays) {
     struct Salt {
         double molarMass;
-        std::vector<double> ions;  // grams of Ca, HCO3, Cl, Mg, Na, SO4 in a mole
+        std::vector<double> ions;  // grams of Ca, HCO3, Cl, Mg, Na and SO4 per mole
     };
     const std::map<std::string, Salt> salts = {
         {"Gypsum", {kCa + kSulfate + 2 * kWater, {kCa, 0, 0, 0, 0, kSulfate}}},
@@ -228,9 +229,9 @@ TEST_F(CatalogueData, SaltsAddWhatTheirFormulaSays) {
         {"Magnesium Chloride", {kMg + 2 * kCl + 6 * kWater, {0, 0, 2 * kCl, kMg, 0, 0}}},
         {"Table Salt", {kNa + kCl, {0, 0, kCl, 0, kNa, 0}}},
         {"Baking Soda", {kNa + kBicarbonate, {0, kBicarbonate, 0, 0, kNa, 0}}},
-        // Ca(OH)2 + 2 CO2 gives calcium and two bicarbonates too.
+        // Ca(OH)2 + 2 CO2 yields calcium and two bicarbonates, like chalk.
         {"Slaked Lime", {kCa + 2 * kO + 2 * kH, {kCa, 2 * kBicarbonate, 0, 0, 0, 0}}},
-        // CaCO3 + CO2 + H2O gives calcium and two bicarbonates.
+        // CaCO3 + CO2 + H2O yields calcium and two bicarbonates.
         {"Chalk", {kCa + kC + 3 * kO, {kCa, 2 * kBicarbonate, 0, 0, 0, 0}}},
     };
     std::size_t found = 0;
@@ -249,8 +250,8 @@ TEST_F(CatalogueData, SaltsAddWhatTheirFormulaSays) {
     EXPECT_EQ(found, salts.size());
 }
 
-// Positive and negative charges balance only when the carbonate column counts bicarbonate, one charge for 61
-// grams. The published Cologne and Pilsen analyses lack some anions.
+// Positive and negative charges balance only if the carbonate column counts bicarbonate, with one charge per
+// 61 grams. The published analyses of Cologne and Pilsen lack some anions.
 TEST_F(CatalogueData, WaterProfilesBalanceWithCarbonateAsBicarbonate) {
     Recordset records = database_->OpenRecordset("SELECT NAME, CA, CO3, CL, MG, NA, SO4 FROM WATER_PROFILES");
     for (; !records.AtEnd(); records.MoveNext()) {
@@ -274,8 +275,8 @@ TEST_F(CatalogueData, WatersAndSaltsSayHowCarbonateIsCounted) {
     }
 }
 
-// volumes = ounces * percent / 100 * 0.27027 / (gallons * 0.133): the percentage at which that many grams in
-// a liter give one volume.
+// Returns the percentage at which that many grams per liter yield one volume of CO2, by the program's
+// formula: volumes = ounces * percent / 100 * 0.27027 / (gallons * 0.133).
 double PercentForGramsPerLiter(double grams) {
     const double ounces = grams * kLitersPerGallon / 28.349523125;
     return 100 / (ounces * 0.27027 / 0.133);

@@ -1,10 +1,10 @@
-// The figures that the pages of the help state as examples, compared with what the program gives.
+// Compares the figures in the examples on the help pages with those that the program computes.
 //
-// A page marks a figure as <samp data-figure="NAME">1.052</samp>. The script NAME-OF-THE-PAGE.tws beside this
-// test, run on the catalogue as it ships, holds "# NAME" right above the command that prints it; ", word 2"
-// or
-// ", words 1-2" behind the name picks words of what is printed. Every other number on a page stands in
-// <code>, <kbd>, <sup> or a formula, or in given.tsv: what the brewer enters, a constant, advice.
+// A page marks a figure as <samp data-figure="NAME">1.052</samp>. The script help/NAME-OF-THE-PAGE.tws,
+// run with the shipped catalogue, contains "# NAME" on the line before the command that prints the figure;
+// ", word 2" or ", words 1-2" after the name selects words of the output. Every other number on a page is
+// in <code>, <kbd>, <sup> or a formula, or is listed in help/given.tsv: entries of the brewer, constants
+// and advice.
 #include <cctype>
 #include <cmath>
 #include <filesystem>
@@ -29,7 +29,7 @@ using Strings = std::vector<std::string>;
 
 const fs::path kPages = HELP_PAGES;
 const fs::path kScripts = HELP_SCRIPTS;
-// Above a command that answers an entry of the page which is refused.
+// The name above a command whose entry, shown on the page, is refused.
 const std::string kRefused = "refused";
 
 std::string TextOf(const fs::path& file) {
@@ -44,7 +44,7 @@ std::string Replaced(std::string text, const char* pattern, const char* by) {
     return std::regex_replace(text, std::regex(pattern), by);
 }
 
-// The text of a piece of a page: no tags, single blanks, characters for their names.
+// Returns the text of a piece of HTML: without tags, with single blanks, with entities replaced.
 std::string Plain(const std::string& html) {
     std::string text = Replaced(Replaced(html, "<[^>]*>", " "), "\\s+", " ");
     for (const auto& [name, character] :
@@ -70,7 +70,7 @@ std::string BodyOf(const std::string& html) {
     return html.substr(html.find("<body"));
 }
 
-// What is typed on a page.
+// Returns the entries that the page tells the reader to type.
 Strings EntriesOf(const std::string& html) {
     static const std::regex code("<code>([^<]*)</code>");
     Strings entries;
@@ -86,7 +86,7 @@ std::vector<fs::path> Pages() {
     return pages;
 }
 
-// The words of a text without the brackets around them and the degrees behind them.
+// Returns the words of a text, without parentheses and degree signs.
 Strings WordsOf(const std::string& text) {
     std::istringstream stream(Replaced(text, "[()\u00b0]", " "));
     Strings words;
@@ -98,7 +98,8 @@ bool IsNumber(const std::string& text) {
     return std::regex_match(text, std::regex("-?[0-9]+(\\.[0-9]+)?"));
 }
 
-// A number that was printed with more places counts as far as the page goes.
+// True if the page shows what was printed. A number printed with more decimal places is rounded to those that
+// the page shows.
 bool Says(const std::string& shown, const std::string& printed) {
     if (shown == printed) return true;
     if (!IsNumber(shown) || !IsNumber(printed)) return false;
@@ -118,7 +119,7 @@ class HelpExamples : public testing::Test {
     }
     static void TearDownTestSuite() { fs::remove_all(folder_); }
 
-    // What the script of a page prints, by the names of the figures.
+    // Returns the output of a page's script, by the names of the figures.
     static std::multimap<std::string, std::string> Printed(const std::string& script) {
         fs::copy_file(folder_ / "made.mdb", folder_ / "run.mdb", fs::copy_options::overwrite_existing);
         MemorySettings settings;
@@ -198,7 +199,8 @@ TEST_F(HelpExamples, AreTypedAsThePageSays) {
     }
 }
 
-// The numbers on a page that are neither marked nor given, with the words around them.
+// Returns the numbers on a page that are neither marked nor given, with the words before them, and the given
+// phrases that the page does not contain.
 Strings UnknownNumbers(const std::string& html, const Strings& given) {
     std::string body = Replaced(BodyOf(html), "<(code|kbd|samp|sup)\\b[^>]*>[^<]*</\\1>", "");
     std::string text = Plain(Replaced(body, "<p class=\"formula\">[\\s\\S]*?</p>", ""));

@@ -1,4 +1,4 @@
-// The pages of the help as they ship: no dead link, no page out of reach, no window without a page.
+// Tests the shipped help pages: no dead link, no page that cannot be reached, no window without a page.
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -41,7 +41,7 @@ std::vector<fs::path> Pages() {
     return pages;
 }
 
-// The first groups of all matches.
+// Returns the first group of each match.
 std::vector<std::string> Matches(const std::string& text, const std::string& pattern) {
     const std::regex regex(pattern);
     std::vector<std::string> found;
@@ -50,7 +50,7 @@ std::vector<std::string> Matches(const std::string& text, const std::string& pat
     return found;
 }
 
-// One column of a query on help.mdb.
+// Returns the first column of a query on help.mdb.
 Strings Column(const std::string& sql) {
     const auto database = Database::OpenDatabase((kProgram / "help.mdb").string(), false);
     Strings values;
@@ -59,10 +59,10 @@ Strings Column(const std::string& sql) {
     return values;
 }
 
-// The elements of a page, opened and closed.
+// Checks that the elements of a page are opened and closed correctly.
 class Markup {
   public:
-    // Every fault of the page, empty for a well-formed one.
+    // Returns all faults of the page; none for a well-formed one.
     static std::vector<std::string> FaultsOf(const std::string& html) {
         Markup markup;
         markup.Read(html);
@@ -181,7 +181,7 @@ bool IsHopAmount(std::string_view text) {
     return ParseOuncesAnyUnit(text) || ParseAAU(text) || ParseIBU(text);
 }
 
-// Every example of the table on units can be typed where the table says so.
+// Every example in the table of units is accepted in the fields that the table names.
 TEST(HelpPages, ShowUnitsThatAreAccepted) {
     const std::map<std::string, std::function<bool(std::string_view)>> accepts = {
         {"Volume", [](std::string_view t) { return ValidateVolume(t).Accepted(); }},
@@ -213,7 +213,7 @@ TEST(HelpContexts, LeadToPages) {
         EXPECT_TRUE(fs::is_regular_file(kPages / page)) << page;
 }
 
-// Every form that the sources name; the splash alone has no help.
+// Every form that the sources name has help, except the splash screen.
 TEST(HelpContexts, CoverEveryWindow) {
     Strings forms;
     for (const auto& entry : fs::recursive_directory_iterator(SOURCE_FOLDER)) {

@@ -1,4 +1,4 @@
-// The build tool that makes the starting database, run as a process.
+// Runs the build tool that creates the initial database, as a process.
 #include <array>
 #include <cstdio>
 #include <filesystem>
