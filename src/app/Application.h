@@ -1,5 +1,5 @@
-// The program's event loop. An error that no routine has caught is shown in a message
-// box, and the loop continues.
+// The program's event loop. An error that no routine has caught is shown in a message box, and the
+// loop continues.
 #pragma once
 
 #include <QApplication>
