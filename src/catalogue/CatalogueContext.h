@@ -8,8 +8,8 @@
 
 namespace tw {
 
-// Holds references only: the program that creates the context owns the objects,
-// which must outlive the dialogs.
+// Holds references only: the program that creates the context owns the objects, which must outlive
+// the dialogs.
 struct CatalogueContext {
     Database& database;
     const TWTree& tree;

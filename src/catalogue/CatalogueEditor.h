@@ -23,13 +23,14 @@ class FolderChooser;
 // cmdPrevious, cmdNext and cmdLast.
 class CatalogueEditor : public FormModel {
   public:
-    // Blank, for a new row; SetName loads an existing one. The objects of context must outlive the editor.
+    // Creates a blank form, for a new row; SetName loads an existing one. The objects of context must outlive
+    // the editor.
     CatalogueEditor(CatalogueKind catalogue, const CatalogueContext& context);
 
     const EditorForm& Form() const { return *form_; }
-    // Loads the row of that name, ignoring case. The form is blank, for a new row, if the name is
-    // blank or, after a message, if the table has no such row. Raises the store's error, which
-    // also leaves the form blank.
+    // Loads the row of that name, ignoring case. The form is blank, for a new row, if the name is blank
+    // or, after a message, if the table has no such row. Raises the store's error, which also leaves the
+    // form blank.
     void SetName(std::string_view name);
     // The name under which the row is stored; empty for a new row.
     const std::string& LoadedName() const { return loadedName_; }
@@ -85,7 +86,8 @@ class CatalogueEditor : public FormModel {
 
     const CatalogueContext& Context() const { return context_; }
     Database& Store() const { return context_.database; }
-    // For a grain that turns out to be an extract, or the reverse. Both forms have the same cells.
+    // Changes to the form of that catalogue, if a row turns out to be an extract instead of a grain, or the
+    // reverse. Both forms have the same cells.
     void SetForm(CatalogueKind catalogue) { form_ = &FormOf(catalogue); }
     // The list of Combo1, whatever it contains in this form.
     EditorList& TypeList() { return entry_.combo1; }
@@ -99,8 +101,8 @@ class CatalogueEditor : public FormModel {
     void DeclareControls();
     void DeclareCells();
     void DeclareButtons();
-    // Returns control changed so that it accepts no entry while the form is read-only, and
-    // marks an entry as a change.
+    // Returns control changed so that it accepts no entry while the form is read-only, and marks an entry as
+    // a change.
     FormControl Editable(FormControl control);
     void MarkChanged() { applyEnabled_ = true; }
     void Clear();

@@ -33,8 +33,8 @@ class CellGrid {
     void Clear();
     // Sets a stored number, in the unit of its row, and shows it.
     void Load(int row, int col, double value);
-    // Changes the text as typing does, without checks until the cell is left. False if
-    // that was the text already.
+    // Changes the text as typing does, without checks until the cell is left. False if that was the
+    // text already.
     bool Type(int row, int col, std::string_view text);
     // Checks the text when the cell is left; a blank text is allowed. If it is refused, shows a message,
     // restores the last accepted text and returns false.

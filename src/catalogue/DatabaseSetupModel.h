@@ -28,14 +28,14 @@ class DatabaseSetupModel final : public FormModel {
     // Shows another catalogue with its first row selected; the styles start in their root folder.
     void Choose(CatalogueKind catalogue);
     ListTable& Items() { return items_; }
-    // Shows only the rows that contain these words; for styles, those of all folders,
-    // until text is blank again.
+    // Shows only the rows that contain these words; for styles, those of all folders, until text is
+    // blank again.
     void SetFilter(std::string_view text);
     // Selects the row of that name; a style in its folder, whichever that is. False if there is no such row.
     bool ShowName(std::string_view name);
 
-    // Returns the names of the guides to which the codes of the styles refer; empty without
-    // codes, and for other catalogues.
+    // Returns the names of the guides to which the codes of the styles refer; empty without codes, and for
+    // other catalogues.
     std::string Guides() const;
 
     // True if a row other than a folder is selected.

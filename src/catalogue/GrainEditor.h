@@ -8,8 +8,8 @@ namespace tw {
 
 class GrainEditor final : public CatalogueEditor {
   public:
-    // catalogue is Grain or Extract, but a row keeps its own kind when it is loaded:
-    // names are unique across both.
+    // catalogue is Grain or Extract, but a row keeps its own kind when it is loaded: names are unique
+    // across both.
     GrainEditor(CatalogueKind catalogue, const CatalogueContext& context);
 
     // True for a grain, false for an extract.

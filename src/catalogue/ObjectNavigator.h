@@ -17,9 +17,9 @@ class ObjectNavigator {
     // True if the list has group headings.
     bool IsGrainView() const;
 
-    // Each moves the selection of the list and returns the name of the row selected; if there is
-    // no such row, returns an empty name and moves nothing. GetFirst and GetLast succeed even if
-    // their row is selected already.
+    // Each moves the selection of the list and returns the name of the row selected; if there is no such
+    // row, returns an empty name and moves nothing. GetFirst and GetLast succeed even if their row is
+    // selected already.
     std::string GetNext() { return MoveTo(Next()); }
     std::string GetPrevious() { return MoveTo(Previous()); }
     std::string GetFirst() { return MoveTo(First()); }

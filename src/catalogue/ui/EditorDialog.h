@@ -1,5 +1,5 @@
-// The window of a catalogue editor. One class builds the windows of all editors from
-// the tables of their forms.
+// The window of a catalogue editor. One class builds the windows of all editors from the tables of
+// their forms.
 #pragma once
 
 #include <QDialog>
@@ -45,8 +45,8 @@ class EditorDialog final : public QDialog {
     QComboBox* ListBox(const char* name);
     QLineEdit* CellBox(int row, int col);
     QLineEdit* CellAt(int row, int col) const;
-    // Returns the text to show in a cell: a stored gravity with three decimals,
-    // unless that would lose digits.
+    // Returns the text to show in a cell: a stored gravity with three decimals, unless that would
+    // lose digits.
     QString ShownIn(int row, int col) const;
 
     // Gives read-only boxes the background of the window.
