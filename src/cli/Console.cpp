@@ -23,8 +23,8 @@ std::string_view WithoutMark(std::string_view line) {
     return line;
 }
 
-// Writes out all answers before the console waits for more input, so that whoever
-// writes the script sees them.
+// Writes out all answers before the console waits for more input, so that whoever writes the script
+// sees them.
 void FlushBeforeWaiting(std::istream& script, ScriptOutput& out) {
     if (script.rdbuf()->in_avail() <= 0) out.Flush();
 }

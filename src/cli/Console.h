@@ -13,8 +13,8 @@ enum class ExitStatus : int { Done = 0, NoDatabase = 1, BadLine = 2 };
 
 class Console {
   public:
-    // databasePath is a file, or ":memory:" for a new database in memory. All references
-    // must outlive the console.
+    // databasePath is a file, or ":memory:" for a new database in memory. All references must outlive
+    // the console.
     Console(std::string databasePath, SettingsPort& settings, std::ostream& out, std::ostream& errors);
 
     // Sets the folder with the product's own files (ShellEnvironment::programFolder).

@@ -11,8 +11,8 @@ struct Entry {
     bool preserveIBU = false;
 };
 
-// Shows the dialog of a menu item, makes the entry and presses OK. An entry that is
-// refused counts as cancelled.
+// Shows the dialog of a menu item, makes the entry and presses OK. An entry that is refused counts
+// as cancelled.
 void RunDialog(Session& session, CommandId command, Scaling what, const Entry& entry) {
     session.Document();
     session.Dialogs().AnswerNextWith([&entry, what](DialogModel& dialog) {

@@ -37,8 +37,8 @@ class Arguments {
     std::string Word(std::string_view what);
     // If the next word is word, unquoted, removes it and returns true.
     bool TakeWord(std::string_view word);
-    // Returns the rest of the line as a name, which may contain blanks or be quoted. Raises
-    // ScriptError if it is empty.
+    // Returns the rest of the line as a name, which may contain blanks or be quoted. Raises ScriptError if it
+    // is empty.
     std::string LastName(std::string_view what);
     // Returns the rest of the line, or the text that it quotes; empty if nothing is left.
     std::string Text();

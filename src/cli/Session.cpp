@@ -84,8 +84,8 @@ void Session::Stop() {
     End();
 }
 
-// The next run opens the same database, so a database in memory is copied to a file before
-// its connection closes.
+// The next run opens the same database, so a database in memory is copied to a file before its
+// connection closes.
 void Session::KeepMemoryDatabase() {
     keptFolder_ = MakeTemporaryFolder();
     const std::string file = (keptFolder_ / "Tunwright.mdb").string();

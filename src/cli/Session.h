@@ -25,8 +25,8 @@ class StartFailure {};
 
 class Session : private ShellView {
   public:
-    // databasePath is a file, or ":memory:" for a new database in memory. settings and out
-    // must outlive the session.
+    // databasePath is a file, or ":memory:" for a new database in memory. settings and out must outlive
+    // the session.
     Session(std::string databasePath, SettingsPort& settings, ScriptOutput& out);
     // Abandons a program that is still running. For an orderly end, call End first.
     ~Session() override;

@@ -18,8 +18,8 @@ constexpr int kMostVariables = 200;
 constexpr int kMostRows = 200;
 constexpr int kMostIterations = 100'000;
 
-// Removes the part of text before mark, and the mark, and returns the part trimmed; all of
-// text if there is no mark.
+// Removes the part of text before mark, and the mark, and returns the part trimmed; all of text if there is
+// no mark.
 std::string_view CutAt(std::string_view& text, char mark) {
     const std::size_t end = std::min(text.find(mark), text.size());
     const std::string_view part = Trim(text.substr(0, end));
