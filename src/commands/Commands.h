@@ -117,7 +117,7 @@ struct ToolButtonRow {
     std::string_view image = {};  // the name of the picture
     bool twin = false;  // has a grey picture for its disabled state, named with "Transparent" appended
     int place = 0;      // tens: the group on the toolbar; ones: the position in the group
-    std::string_view tip = {};  // status bar text, if the button does something else than the menu item
+    std::string_view tip = {};  // status bar text, if the button acts differently from the menu item
 };
 
 inline constexpr std::string_view kSeparator = "-";
