@@ -61,8 +61,8 @@ class CatalogueLookup {
     std::vector<std::string> Names(CellNames list) const;
 
     // Return the figures of the row that name means: its own name, an alias or its code
-    // (CatalogueNames::RowOf). nullopt if there is no such row. REQUIRES for Fermentable: kind is
-    // Grain or Extract.
+    // (CatalogueNames::RowOf). nullopt if there is no such row. REQUIRES for Fermentable: kind is Grain
+    // or Extract.
     std::optional<FermentableFigures> Fermentable(CatalogueKind kind, std::string_view name) const;
     std::optional<HopFigures> Hop(std::string_view name) const;
     std::optional<SugarFigures> Sugar(std::string_view name) const;

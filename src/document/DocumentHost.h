@@ -64,8 +64,8 @@ class DocumentHost {
     // Called by a save that has just written the recipe of that name.
     virtual void RecipeStored(std::string_view name) = 0;
     virtual void AddToMRU(std::string_view name) = 0;
-    // Lets the brewer choose from a catalogue, starting at name. The choice goes to
-    // the document's CataloguePicks::Take.
+    // Lets the brewer choose from a catalogue, starting at name. The choice goes to the
+    // document's CataloguePicks::Take.
     virtual void PickFromCatalogue(RecipeDocument&, CatalogueKind, const std::string& /*name*/) {}
     // The recipe has been edited and is marked as changed.
     virtual void DocumentEdited(const RecipeDocument&) {}

@@ -19,8 +19,8 @@ class DocumentView {
     virtual void TabWanted(Tab) {}
     // The control of that name should get the focus, if it is visible.
     virtual void ControlWanted(const std::string& /*name*/) {}
-    // Suspends painting (true) until a matching call resumes it (false), because many changes
-    // follow. Calls nest.
+    // Suspends painting (true) until a matching call resumes it (false), because many changes follow.
+    // Calls nest.
     virtual void HoldRedraw(bool /*hold*/) {}
 };
 

@@ -48,8 +48,8 @@ class EditRecorder {
     // or tracking is off. The head is recorded with the first edit, so that a compound without edits is not a
     // step and keeps what can be redone.
     bool BeginCompoundEdit(ChangeType type);
-    // Makes the record added last the head of a compound and returns true. Does nothing and returns false if
-    // a compound is open or head is nullptr.
+    // Opens a compound whose head is head, the record added last, and returns true. Does nothing and returns
+    // false if a compound is open or head is nullptr.
     bool BeginCompoundBehind(EditTracker* head);
     // REQUIRES: the matching Begin returned true.
     void EndCompoundEdit();

@@ -25,7 +25,7 @@ class EditReplay final : public StepReplay {
     };
     EditReplay(OpenRecipe& recipe, Parts parts) : recipe_(recipe), parts_(parts) {}
 
-    // Undo or redo one step of the history, which starts anew when the recipe is opened, saved or scaled.
+    // Undo or redo one step of the history, which is emptied when the recipe is opened, saved or scaled.
     // False if there is none, or if the cell being edited has an entry that is refused. An arithmetic fault
     // ends the step early and raises Error.
     bool Undo();

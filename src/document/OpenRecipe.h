@@ -46,8 +46,8 @@ class OpenRecipe {
     // True for the active document, the only one that may enable or disable the main window's commands.
     bool IsActive() const { return host.IsActive(document_); }
     bool Changed() const { return changed_; }
-    // Marks the recipe as changed, after an edit by the brewer. Does nothing while the recipe
-    // is being filled.
+    // Marks the recipe as changed, after an edit by the brewer. Does nothing while the recipe is
+    // being filled.
     void MarkChanged();
     void ClearChanged();
     // True once the recipe has been filled: from then on, a change of the record counts as an edit.
@@ -63,8 +63,8 @@ class OpenRecipe {
     // Updates the undo and redo commands from the history, if the recipe is the active one.
     void RefreshUndoCommands();
 
-    // All message boxes of the recipe's parts are shown by these functions. A refusal without a
-    // text shows none.
+    // All message boxes of the recipe's parts are shown by these functions. A refusal without a text
+    // shows none.
     void Tell(const Refusal& refusal) { ShowRefusal(platform.messages, refusal); }
     void Tell(std::string_view title, std::string_view text) { platform.messages.ShowMessage(title, text); }
     bool AnswersYes(std::string_view title, std::string_view text, Question kind) {

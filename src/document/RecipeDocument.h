@@ -52,8 +52,8 @@ class RecipeDocument {
     void SetFolderID(std::int64_t id) { recipe_.place.folderId = id; }
     std::int64_t StyleID() const { return style_.Id(); }
     bool Changed() const { return recipe_.Changed(); }
-    // Returns the window's caption: the trimmed name, else "Untitled {number}", or "Untitled"
-    // without a number.
+    // Returns the window's caption: the trimmed name, else "Untitled {number}", or "Untitled" without
+    // a number.
     std::string Caption() const;
 
     // The parts, which do what the brewer asks for.

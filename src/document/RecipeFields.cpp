@@ -54,8 +54,8 @@ bool RecipeFields::CommitField(TextBox& box, Asking asking) {
         return true;
     }
     const Commit commit = CommitQuantity(box);
-    // The record is consistent again before the message is shown, because the program keeps
-    // running behind it.
+    // The record is consistent again before the message is shown, because the program keeps running
+    // behind it.
     if (!commit && asking == Asking::Aloud) recipe_.Tell(commit.Why());
     if (commit) recipe_.MarkChanged();
     return static_cast<bool>(commit);
@@ -130,8 +130,8 @@ EditValue RecipeFields::StateOf(const TextBox& box) {
                : EditValue::OfText(box.Text());
 }
 
-// Records an edit of the text. The old selection is what the new text replaces; the new one is a
-// caret behind that.
+// Records an edit of the text. The old selection is what the new text replaces; the new one is a caret
+// behind that.
 void RecipeFields::Record(TextBox& box, std::string_view newText, ChangeType type) {
     const TextSpan span = ChangedSpan(box.Text(), newText);
     EditRecorder::Edit edit{ControlType::TextBox, type};

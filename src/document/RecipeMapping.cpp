@@ -10,8 +10,8 @@
 namespace tw {
 namespace {
 
-// More lines than any recipe has. A greater row index is damage, and growing the grid to it
-// would take forever.
+// More lines than any recipe has. A greater row index is damage, and growing the grid to it would
+// take forever.
 constexpr int kMostLines = 20000;
 
 std::string Trimmed(std::string_view text) {

@@ -15,8 +15,8 @@ class RecipeOptions {
     // Chooses the option button of that name and recalculates the figures. False if there is none. Raises
     // Error for an arithmetic fault; the former option is then chosen again.
     bool Choose(std::string_view option);
-    // Chooses the options of a new recipe by index, without recalculating. An index out of
-    // range changes nothing.
+    // Chooses the options of a new recipe by index, without recalculating. An index out of range
+    // changes nothing.
     void ChooseDefaults(int ibuMethod, int packaging);
 
   private:

@@ -24,8 +24,8 @@ void RecipeScaling::ChangeForGood(const std::function<bool()>& change) {
         throw;
     }
     MarkOwnNumbers(recipe_.record);
-    // An incomplete change keeps the history, but if it has changed any text, the recipe is no
-    // longer as stored.
+    // An incomplete change keeps the history, but if it has changed any text, the recipe is no longer
+    // as stored.
     if (ended || before.TextsChanged(recipe_.record)) recipe_.MarkChanged();
     if (ended) recipe_.recorder.Clear();
 }
@@ -74,8 +74,8 @@ bool RecipeScaling::Resize(double gallons, std::string_view sizeText, bool scale
     scaler_.ScaleTreatment(factor);
     bool carbonated = false;
     if (volumes > 0) {
-        // Calculates the CO2 that the sugars give in the new volume, from which their amounts
-        // are then scaled.
+        // Calculates the CO2 that the sugars give in the new volume, from which their amounts are
+        // then scaled.
         recipe_.calculator.RecalcPriming();
         carbonated = scaler_.ScaleCO2(volumes) == RecipeScaler::CO2Outcome::Done;
     }

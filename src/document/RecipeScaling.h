@@ -17,15 +17,15 @@ class RecipeScaling {
     explicit RecipeScaling(OpenRecipe& recipe) : recipe_(recipe), scaler_(recipe.record, recipe.calculator) {}
 
     // Changes the total volume to that many gallons, shown as sizeText, and the amounts in proportion. Also
-    // asks whether to keep the carbonation. The boil volume changes only if scaleBoilVol, and the hops keep
-    // the bitterness only if preserveIBU. If RefusalOfSize refuses the size, just shows its message. Does
-    // nothing while the total volume is 0.
+    // asks whether to keep the carbonation. The boil volume changes only if scaleBoilVol is true, and the
+    // hops keep the bitterness only if preserveIBU is. If RefusalOfSize refuses the size, just shows its
+    // message. Does nothing while the total volume is 0.
     void ScaleRecipe(double gallons, std::string_view sizeText, bool scaleBoilVol, bool preserveIBU);
     // Returns the message if the recipe cannot be resized to that many gallons, because no final volume would
     // be left; empty if it can.
     std::string RefusalOfSize(double gallons) const;
     // Changes the original gravity to newOG (specific gravity) by changing the amounts of grain and extract.
-    // The hops keep the bitterness only if preserveIBU. Does nothing while the gravity is 1.
+    // The hops keep the bitterness only if preserveIBU is true. Does nothing while the gravity is 1.
     void ScaleOG(double newOG, bool preserveIBU);
     // Changes the bitterness to newIBU (IBUs) by changing the amounts of hops. Does nothing while the
     // bitterness is 0.

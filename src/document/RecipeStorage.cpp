@@ -11,8 +11,8 @@
 namespace tw {
 namespace {
 
-// During a scope, changes of the record are not edits: nothing is recorded, and the recipe is not
-// marked as changed.
+// During a scope, changes of the record are not edits: nothing is recorded, and the recipe is not marked
+// as changed.
 class Filling {
   public:
     explicit Filling(OpenRecipe& recipe) : recipe_(recipe), filledBefore_(recipe.SetFilled(false)) {

@@ -42,8 +42,8 @@ class RecipeStorage {
     // Return the state of the recipe, unsaved edits included, and put such a state into a new document. That
     // document is then changed, and nothing has been stored. An entry that was being typed is committed if it
     // can be read. If the stored recipe has been deleted meanwhile, the document has neither name nor folder
-    // in the database; if just the folder has, no folder. Its save then asks for one. Restore raises Error
-    // for rows that do not fit their grid.
+    // in the database; if only its folder has been deleted, it has no folder. Its save then asks for one.
+    // Restore raises Error for rows that do not fit their grid.
     RecipeSnapshot TakeSnapshot() const;
     void Restore(const RecipeSnapshot& snapshot);
 

@@ -32,7 +32,8 @@ class RecipeStyle {
     // Reads the list again and selects the style that EntryOf finds. False if there is none.
     bool ChangeStyle(std::string_view name);
 
-    // For an undo or redo. The target water that came with the style has been recorded separately.
+    // For an undo or redo: selects the style of that id. The target water that was set with the style has
+    // been recorded separately.
     void PutBack(std::int64_t id);
 
   private:

@@ -81,8 +81,8 @@ bool RowFiller::FillWater(Grid& grid, int row) {
     return true;
 }
 
-// Sets the numbers behind the ion cells of a treatment row: what one gram of the salt adds to one
-// gallon, in PPM.
+// Sets the numbers behind the ion cells of a treatment row: what one gram of the salt adds to one gallon,
+// in PPM.
 bool RowFiller::FillSalt(Grid& grid, int row) {
     const auto ppm = catalogue_.Salt(grid.Text(row, TreatmentCol::Name));
     for (int ion = 0; ion < kIons; ++ion)

@@ -23,8 +23,8 @@ const Form& FormOf(Scaling what) {
     return kForms[static_cast<std::size_t>(what)];
 }
 
-// Returns the number if it was understood and is not negative, else the refusal. kind is its name
-// in the messages.
+// Returns the number if it was understood and is not negative, else the refusal. kind is its name in
+// the messages.
 Reading<double> NotNegative(std::optional<double> number, const std::string& kind) {
     if (!number) return Refusal{kInvalidEntry, "Please enter a valid " + kind + " value"};
     if (*number < 0) return Refusal{kInvalidEntry, "Please enter a positive " + kind + " value"};

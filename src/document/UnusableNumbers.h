@@ -1,5 +1,5 @@
-// Finds numbers of a stored recipe with which no formula can work: they are damaged, or another
-// program wrote them.
+// Finds numbers of a stored recipe with which no formula can work: they are damaged, or another program
+// wrote them.
 #pragma once
 
 #include <string>

@@ -1,6 +1,6 @@
 // Connects the widgets of one document window with the objects of its record. Widgets register callbacks for
-// the objects that they show, which are called when the record changes. After Detach, called if the document
-// is destroyed before its window, no callback is called.
+// the objects that they show, which are called when the record changes. Detach, which must be called if the
+// document is destroyed before its window, removes the callbacks.
 #pragma once
 
 #include <QObject>
@@ -50,8 +50,8 @@ class DocumentBinding final : public RecordObserver {
     // Handles the keys that insert and delete rows, which work even in an open cell editor. Returns true if
     // the key has been handled.
     bool HandleKey(const QKeyEvent& key);
-    // Handles the same keys, and those of the Edit menu: they run the commands of the recipe, never those of
-    // the widget itself.
+    // Handles the keys of HandleKey, and those of the Edit menu: they run the commands of the recipe, never
+    // those of the widget itself.
     bool HandleEditKey(const QKeyEvent& key);
 
     // Handles the keys of rows and of undo and redo, but not those of the clipboard: for a list whose text is

@@ -48,7 +48,7 @@ class GridModel final : public QAbstractTableModel {
   private:
     int FirstRow() const;
     int CountRows() const;
-    // Returns invalid colours for a cell that is painted in the window's own.
+    // Returns invalid colours for a cell that is painted in the window's own colours.
     CellColors ColorsOf(int row, int col) const;
     QVariant FontOf(int row, int col) const;
     QString Spoken(int row, int col) const;

@@ -31,7 +31,7 @@ class ListField final : public QComboBox {
     int TypedEntry() const;
     // True for the list of matches, the drop-down list and the context menu of the text.
     bool IsOwnPopup(const QWidget& popup) const;
-    // True if the focus moves to where it may not come back from.
+    // True if the focus moves to a widget from which it may not return.
     bool IsLeft(const QFocusEvent& event) const;
     bool GoesToOwnPopup(const QFocusEvent& event) const;
     bool GoesToAnotherProgram(const QFocusEvent& event) const;

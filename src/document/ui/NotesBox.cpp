@@ -8,8 +8,8 @@
 namespace tw {
 namespace {
 
-// Returns the text with "\n" as the line end, the only one that the widget knows, instead of
-// the record's "\r\n".
+// Returns the text with "\n" as the line end, the only one that the widget knows, instead of the
+// record's "\r\n".
 QString Lines(std::string_view text) {
     return ToQt(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }

@@ -1,5 +1,5 @@
-// Creates the controls of a document's tabs. Each is bound to its object of the record and named
-// for screen readers.
+// Creates the controls of a document's tabs. Each is bound to its object of the record and named for
+// screen readers.
 #pragma once
 
 #include <QWidget>
@@ -33,11 +33,11 @@ class PageBuilder {
     // Creates the label with the caption of a field.
     QLabel* LabelFor(FieldBox* field);
     static QString CaptionOf(const TextBox& box);
-    // Creates the box of a field. digits: its width in digits; 0 for all the width that there is.
+    // Creates the box of a field. digits: its width in digits; 0 for the full available width.
     FieldBox* Field(TextBox& box, int digits);
     // As Field, in the larger font of figures.
     FieldBox* Figure(TextBox& box, int digits);
-    // Creates a label that shows one of the record, such as a style's range. name: the accessible name.
+    // Creates a widget that shows a label of the record, such as a style's range. name: the accessible name.
     QLabel* RecordLabel(const Label& label, const QString& name);
     // Creates the bar for a figure and its range. what: the name of the figure.
     RangeBar* Bar(const TextBox& figure, const Label& range, const QString& what);

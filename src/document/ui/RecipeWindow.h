@@ -31,8 +31,8 @@ class RecipeWindow final : public QWidget, private DocumentView {
     QWidget* FirstField() const;
     // True for a control on the present tab.
     bool IsEditing(const QWidget& control) const;
-    // Moves the focus to the first cell of the current row in the tab's grid. Does nothing on a
-    // tab without rows.
+    // Moves the focus to the first cell of the current row in the tab's grid. Does nothing on a tab
+    // without rows.
     void FocusRow();
     // Commits what is being edited. False if an entry was refused; a message has been shown.
     bool Flush() { return binding_.Flush(); }
