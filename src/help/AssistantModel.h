@@ -1,5 +1,5 @@
-// The welcome window (frmAssistant): five ways to start, and whether to show the window
-// when the program starts.
+// The welcome window (frmAssistant): five ways to start, and whether to show the window when the
+// program starts.
 #pragma once
 
 #include <optional>

@@ -1,5 +1,5 @@
-// Shows the pages of the help in the desktop's browser: the page for a window and a part of
-// it, or a page by name.
+// Shows the pages of the help in the desktop's browser: the page for a window and a part of it, or a page
+// by name.
 #pragma once
 
 #include <string>
@@ -15,8 +15,8 @@ inline constexpr std::string_view kWholeWindow = "?";
 // Returns "Tab{position}", the context of a tab; positions count from 1.
 std::string TabContext(int position);
 
-// Returns the reason why a document was not opened, for a code of BrowserPort::Open; for example
-// "Access Denied" for 5.
+// Returns the reason why a document was not opened, for a code of BrowserPort::Open; for example "Access
+// Denied" for 5.
 std::string_view BrowserFailure(int code);
 
 class Help {

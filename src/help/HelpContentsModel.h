@@ -23,9 +23,9 @@ struct HelpTopic {
     std::vector<int> children = {};  // indexes in the list of topics, in order
 };
 
-// Reads all topics of help.mdb that descend from a top-level topic; parents come before their
-// children. Raises Error if the database cannot be read or lists a topic twice; topics then holds the
-// topics read before the error.
+// Reads all topics of help.mdb that descend from a top-level topic; parents come before their children.
+// Raises Error if the database cannot be read or lists a topic twice; topics then holds the topics read
+// before the error.
 void ReadHelpTopics(const Help& help, std::vector<HelpTopic>& topics);
 
 // TreeView1 shows the name of the selected topic and accepts a name, which selects the first topic with it;

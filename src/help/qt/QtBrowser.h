@@ -7,8 +7,8 @@ namespace tw {
 
 class QtBrowser final : public BrowserPort {
   public:
-    // Returns the codes for a file that is missing or unreadable, and for a type without a
-    // program on the desktop.
+    // Returns one of the codes in help/HelpPorts.h: for a file that is missing or unreadable, for a type
+    // without a program on the desktop, or for success.
     int Open(const std::string& file) override;
 };
 

@@ -1,5 +1,5 @@
-// The window of the help's contents (frmHelpContents): the tree of topics, with the name of
-// the selected topic below.
+// The window of the help's contents (frmHelpContents): the tree of topics, with the name of the selected
+// topic below.
 #pragma once
 
 #include <QDialog>
