@@ -1,6 +1,6 @@
-// The channel between running copies of the program, and from other programs to the running one:
-// a name that one process at a time holds, messages to that holder, and a lock that makes "who
-// holds the name?" safe to ask.
+// The channel between running copies of the program, and from other programs to the running one: a name
+// that one process at a time holds, messages to that holder, and a lock that makes "who holds the name?"
+// safe to ask.
 #pragma once
 
 #include <string_view>
@@ -38,8 +38,8 @@ class ChannelPort {
     virtual bool Initialize() = 0;
     // Creates the lock. False if the system cannot provide one.
     virtual bool CreateLock() = 0;
-    // Waits for the lock without a time limit; the system releases the lock of a process that
-    // ends. False if locking fails.
+    // Waits for the lock without a time limit; the system releases the lock of a process that ends. False if
+    // locking fails.
     virtual bool TakeLock() = 0;
     virtual void ReleaseLock() = 0;
     // Takes the name if it is free, and from then on passes messages to receiver. After HeldByOther, Send
@@ -47,9 +47,9 @@ class ChannelPort {
     // seconds to end.
     // REQUIRES: the lock is taken; receiver outlives the registration, which ends with Unregister.
     virtual Name Register(ChannelReceiver& receiver) = 0;
-    // Stops listening; a program that does not hold the name ends its conversation instead. The
-    // name itself stays held until this object is destroyed, so that the next program waits until
-    // this one has closed its files.
+    // Stops listening; a program that does not hold the name ends its conversation instead. The name itself
+    // stays held until this object is destroyed, so that the next program waits until this one has closed
+    // its files.
     virtual void Unregister() = 0;
     // Sends a message to the holder of the name and waits for its answer. A text that is too long is refused.
     virtual Sent Send(ChannelMessage kind, std::string_view text, int timeoutMilliseconds) = 0;

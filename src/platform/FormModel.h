@@ -93,8 +93,8 @@ class FormModel : public DialogModel {
   protected:
     explicit FormModel(std::string formName) : formName_(std::move(formName)) {}
 
-    // Append rows, in the order of the form. REQUIRES: no two controls, and no two
-    // buttons, have the same name.
+    // Append rows, in the order of the form. REQUIRES: no two controls, and no two buttons, have the
+    // same name.
     void AddControls(std::vector<FormControl> controls);
     void AddButtons(std::vector<FormButton> buttons) { buttons_.Add(std::move(buttons)); }
 

@@ -14,8 +14,8 @@ namespace tw {
 class DialogModel;
 
 enum class Answer { Ok, Yes, No, Cancel };
-// YesIsUsual is a YesNo in which the Enter key answers Yes, because neither answer
-// deletes or overwrites anything.
+// YesIsUsual is a YesNo in which the Enter key answers Yes, because neither answer deletes or
+// overwrites anything.
 enum class Question { YesNo, YesIsUsual, YesNoCancel, OkCancel };
 
 // Whether an operation shows message boxes: a refusal, an error, a question before it goes on.
@@ -62,8 +62,8 @@ class SettingsPort {
     // Stores the text. False if the layer cannot be written, which leaves it unchanged.
     virtual bool Write(Layer layer, std::string_view section, std::string_view key,
                        std::string_view value) = 0;
-    // Returns the paths of the files that store the layers, whether they exist or not;
-    // none for settings in memory.
+    // Returns the paths of the files that store the layers, whether they exist or not; none for settings
+    // in memory.
     virtual std::vector<std::string> Files() const { return {}; }
     // Removes the key from the layer. Does nothing if the layer cannot be written.
     virtual void Remove(Layer layer, std::string_view section, std::string_view key) = 0;

@@ -18,8 +18,8 @@ struct SaveFileRequest {
 class SaveFilePort {
   public:
     virtual ~SaveFilePort() = default;
-    // Returns the path chosen; nullopt if the brewer cancelled. Replacing an existing file
-    // has already been confirmed.
+    // Returns the path chosen; nullopt if the brewer cancelled. Replacing an existing file has already
+    // been confirmed.
     virtual std::optional<std::string> AskSaveFile(const SaveFileRequest& request) = 0;
 };
 

@@ -13,8 +13,8 @@ class SettingsStore {
     // port must outlive the store.
     explicit SettingsStore(SettingsPort& port) : port_(port) {}
 
-    // Returns the user's text, else the machine's, else fallback. A value of more than
-    // 255 bytes counts as missing.
+    // Returns the user's text, else the machine's, else fallback. A value of more than 255 bytes counts
+    // as missing.
     std::string GetSetting(std::string_view section, std::string_view key, std::string_view fallback) const;
     // Stores the text for the user or, if machineWide, for the machine and only if that fails for the user.
     // Reports no error if nothing could be written.

@@ -74,8 +74,8 @@ class BesideFile {
                 if (errno != EEXIST || !RemoveLeftover()) return false;
                 continue;
             }
-            // A file system without locks refuses them to every writer, so only
-            // EWOULDBLOCK means another writer.
+            // A file system without locks refuses them to every writer, so only EWOULDBLOCK means
+            // another writer.
             const bool taken = flock(file.Number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
             if (taken || !IsFileAt(file.Number(), path_)) continue;
             file_ = std::move(file);
@@ -171,8 +171,8 @@ TargetFile::TargetFile(const std::string& path, const OwnFiles& own, Readers rea
     if (!old) return;
     // Checked without opening: opening a pipe would wait for its other end.
     if (!S_ISREG(old->st_mode)) Refuse(path, "is not a file.", EINVAL);
-    // Both checks are needed: access alone lets an administrator's process write a file
-    // that its owner has protected.
+    // Both checks are needed: access alone lets an administrator's process write a file that its owner
+    // has protected.
     if ((old->st_mode & kWriteBits) == 0 || faccessat(AT_FDCWD, path_.c_str(), W_OK, AT_EACCESS) != 0)
         Refuse(path, "is write-protected.", EACCES);
 }
@@ -187,8 +187,8 @@ void TargetFile::Append(std::string_view content) const {
 
 void TargetFile::Write(bool append, std::string_view content) const {
     const std::optional<struct stat> old = StatusOf(path_);
-    // Until the new file has the mode of the file it replaces, only its owner may read it:
-    // the old one may be private.
+    // Until the new file has the mode of the file it replaces, only its owner may read it: the old one may
+    // be private.
     const mode_t mode = old || readers_ == Readers::OwnerAlone ? kOwnerAlone : kUsual;
     BesideFile file(path_);
     bool written = file.Make(mode);

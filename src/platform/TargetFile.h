@@ -30,9 +30,9 @@ class TargetFile {
     const std::string& Path() const { return path_; }
 
     // Replaces the content, creating the file if it is missing: writes a new file beside the old one,
-    // syncs it to the disk, then renames it. Raises Error, "'{name}' cannot be written: {reason}.",
-    // with the system's error number; the old file (or none) is then still there, unless only the
-    // sync of the folder failed.
+    // syncs it to the disk, then renames it. Raises Error, "'{name}' cannot be written: {reason}.", with
+    // the system's error number; the old file (or none) is then still there, unless only the sync of the
+    // folder failed.
     void Replace(std::string_view content) const;
     // Appends to the content, creating the file if it is missing; otherwise as Replace.
     void Append(std::string_view content) const;

@@ -34,8 +34,8 @@ double TwipsOfPixels(int pixels, double dotsPerInch);
 
 // True if the text of the palette is lighter than its background.
 bool IsDark(const QPalette& palette);
-// The copper colour of the marks in graphs and range bars. Its contrast to the palette's
-// backgrounds is at least 3:1.
+// The copper colour of the marks in graphs and range bars. Its contrast to the palette's backgrounds is at
+// least 3:1.
 QColor Accent(const QPalette& palette);
 // The colour of subdued text such as hints and units. Its contrast to the base is at least 4.5:1 unless the
 // text colour itself has less.
@@ -49,8 +49,8 @@ QPalette DarkPalette();
 // Returns the colour mixed from partOfB (0 to 1) of b and the rest of a.
 QColor Mix(const QColor& a, const QColor& b, double partOfB);
 
-// Returns the contrast of two opaque colours, 1 to 21, by the formula of the Web
-// Content Accessibility Guidelines.
+// Returns the contrast of two opaque colours, 1 to 21, by the formula of the Web Content
+// Accessibility Guidelines.
 double ContrastRatio(const QColor& a, const QColor& b);
 
 }  // namespace tw

@@ -1,5 +1,5 @@
-// The colours of calculated cells in a grid: those that the brewer chose, or defaults in
-// place of colours never chosen.
+// The colours of calculated cells in a grid: those that the brewer chose, or defaults in place of colours
+// never chosen.
 #pragma once
 
 #include <QColor>

@@ -12,8 +12,8 @@ namespace tw {
 class ColorChooser {
   public:
     virtual ~ColorChooser() = default;
-    // Shows the dialog with current selected. Returns the colour chosen, or nullopt
-    // if the dialog was cancelled.
+    // Shows the dialog with current selected. Returns the colour chosen, or nullopt if the dialog
+    // was cancelled.
     virtual std::optional<QColor> Choose(const QColor& current, const QString& title, QWidget* parent) = 0;
 };
 

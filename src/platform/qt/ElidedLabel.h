@@ -1,5 +1,5 @@
-// A line of text that may be too long for its space: it is then cut short with an ellipsis,
-// and its tool tip shows more.
+// A line of text that may be too long for its space: it is then cut short with an ellipsis, and its tool tip
+// shows more.
 #pragma once
 
 #include <QLabel>

@@ -1,5 +1,5 @@
-// The window of a form that has no window class of its own: its controls in the form's order,
-// labelled with their names.
+// The window of a form that has no window class of its own: its controls in the form's order, labelled with
+// their names.
 #pragma once
 
 #include <QDialog>

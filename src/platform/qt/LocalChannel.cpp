@@ -76,8 +76,8 @@ QByteArray MakeFrame(char kind, std::string_view text) {
 }
 
 std::string DesktopName() {
-    // The display of a Wayland session may be a path. A name too long for a socket
-    // keeps only its last characters.
+    // The display of a Wayland session may be a path. A name too long for a socket keeps only its
+    // last characters.
     constexpr int kLongest = 40;
     const char* const variable =
         qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ? "DISPLAY" : "WAYLAND_DISPLAY";

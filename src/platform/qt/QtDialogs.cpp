@@ -58,8 +58,8 @@ void QtDialogs::ShowModal(DialogModel& dialog) {
     const QSize opened = window->size();
     if (help_) InstallHelpKey(*window, dialog.FormName(), help_);
     window->exec();
-    // Only a size that the brewer changed is stored; any other size is derived again
-    // from the screen and the font.
+    // Only a size that the brewer changed is stored; any other size is derived again from the screen and
+    // the font.
     if (window->size() != opened) KeepSize(*window);
     if (dialog.IsOpen()) dialog.CloseBox();
 }

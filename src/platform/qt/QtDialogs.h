@@ -1,6 +1,6 @@
-// Shows modal dialogs: each form in the window registered under its name, any other form in a
-// generic window that lists its controls. A window opens in the size in which the brewer left it, if
-// the screen has room for that.
+// Shows modal dialogs: each form in the window registered under its name, any other form in a generic window
+// that lists its controls. A window opens in the size in which the brewer left it, if the screen has room
+// for that.
 #pragma once
 
 #include <functional>
