@@ -75,7 +75,7 @@ struct CellRule {
     bool SortsByNumber() const { return takes != CellTakes::AnyText && takes != CellTakes::HopForm; }
 };
 
-// Where the rows of a grid are stored: each row as a line of a table,
+// The table in which a grid's rows are stored, each as a line.
 struct LineTable {
     std::string_view name;  // empty for none
     // A column that distinguishes the lines of two grids in one table, and its value for this grid; empty if
@@ -83,8 +83,8 @@ struct LineTable {
     std::string_view flagColumn = {};
     bool flag = false;
 };
-// or else in the recipe's own row, with one set of columns for each of the first rows. These prefixes precede
-// the names of the columns.
+// The first rows of a grid without such a table are stored in the recipe's own row, with one set of columns
+// for each grid row. These prefixes precede the names of the columns.
 using ColumnPrefixes = std::span<const std::string_view>;
 
 struct GridRule {

@@ -16,7 +16,7 @@ namespace tw {
 Reading<double> ReadEntry(const TextBox& box, std::string_view text);
 // Returns the value that the cell would have with that text, in the unit of its rule (CellRules.h), or the
 // refusal of an invalid text. The value is None for a text without a number; a blank text is always accepted
-// and gives None. Raises Error for an arithmetic fault.
+// and means None. Raises Error for an arithmetic fault.
 Reading<CellValue> ReadEntry(const Grid& grid, int row, int col, std::string_view text);
 
 // Return the number that ReadEntry would return. For texts that are stored already and may be damaged:

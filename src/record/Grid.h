@@ -103,8 +103,8 @@ class Grid {
     // True if the row or the column is tagged "READONLY".
     bool IsReadOnly(int row, int col) const { return RowAt(row).readOnly || ColumnAt(col).readOnly; }
     bool IsReadOnlyRow(int row) const { return RowAt(row).readOnly; }
-    // Returns the row's own paint or, in a plain data row, ReadOnly for the cells of read-only
-    // columns other than labels.
+    // Returns the row's own paint or, in a plain data row, ReadOnly for the cells of read-only columns other
+    // than labels.
     CellPaint Paint(int row, int col) const;
     // Returns the text to display: a computed number in the format of its column, else the cell's text.
     std::string Shown(int row, int col) const;
@@ -133,8 +133,8 @@ class Grid {
 
     int CurrentRow() const { return currentRow_; }
     int CurrentCol() const { return currentCol_; }
-    // Makes a cell the current one, limited to the cells below the header, or to the
-    // header if it is the only row.
+    // Makes a cell the current one, limited to the cells below the header, or to the header if it is the
+    // only row.
     void SetCurrent(int row, int col);
     // The selected cells: just the current cell, unless Select has selected more.
     GridRange Selection() const { return selection_; }

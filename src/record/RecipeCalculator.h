@@ -31,8 +31,8 @@ class RecipeCalculator {
     RecipeCalculator(RecipeRecord& record, RecipeCommands& commands, const ColorTable& colors)
         : r_(record), commands_(commands), colors_(colors) {}
 
-    // The chains after the commit of a text box. REQUIRES: the box already has its
-    // new value and committed text.
+    // Each runs the chain that follows the commit of a text box. REQUIRES: the box already has its new value
+    // and committed text.
     void BoilVolCommitted();
     void TotalVolCommitted();
     void FinalVolCommitted();
@@ -42,16 +42,16 @@ class RecipeCalculator {
     // Refused, with nothing changed, if no non-negative carbonation is possible at the temperature.
     Commit TempCommitted();
 
-    // The chains after the commit of a cell. REQUIRES: the cell already has its new text and
+    // Each runs the chain that follows the commit of a cell. REQUIRES: the cell already has its new text and
     // value. col may be kWholeRow.
     void FermentableCommitted(Grid& grid, int row, int col);
     void HopCommitted(int row);
     void PrimingCommitted(int row);
     void PressureCommitted();
-    // Runs after the amount or the salt in a row of gridTreatment has changed.
+    // Runs the chain that follows a change of the amount or the salt in a row of gridTreatment.
     void TreatmentCommitted(int row);
 
-    // The chains after the choice of an option.
+    // Each runs the chain that follows the choice of an option.
     void IbuMethodChosen() { RecalcHops(); }
     void PackagingChosen();
 
@@ -69,8 +69,8 @@ class RecipeCalculator {
     // Includes the residual CO2 and is empty without it. Calls ShowCO2 at the end.
     void TotalPrimingVolumes();
     void UpdateTreatmentTotals();
-    // Updates the total amount in the totals row of gridGrain or gridExtract (pounds) or
-    // gridHops (ounces or AAUs).
+    // Updates the total amount in the totals row of gridGrain or gridExtract (pounds) or gridHops (ounces
+    // or AAUs).
     void ShowGridTotal(Grid& grid);
 
     // Recalculate all rows of a grid and its totals.
@@ -88,8 +88,8 @@ class RecipeCalculator {
     void CalcOGAndColor();
     void ShowIBU();
     void ShowCO2();
-    // Updates the row "Treatment Needed" of gridWater (target minus source) and the
-    // emphasis of the row of totals.
+    // Updates the row "Treatment Needed" of gridWater (target minus source) and the emphasis of the row
+    // of totals.
     void UpdateTreatmentNeeded();
     // True if that keg pressure (psi) gives a non-negative volume of CO2 at the recipe's temperature.
     bool HasKegVolumes(double psi) const;
@@ -103,8 +103,8 @@ class RecipeCalculator {
     // True if the command that changes the carbonation can do its work.
     bool CanEnableCO2() const;
 
-    // Recalculates points, colour, gravity and all that depends on them, after amounts of
-    // fermentables have changed.
+    // Recalculates points, colour, gravity and all that depends on them, after amounts of fermentables
+    // have changed.
     void RecalcFermentables();
     // Returns the present volumes of CO2, or 0 if they are unknown.
     double CO2Volumes() const;

@@ -14,8 +14,8 @@
 
 namespace tw {
 
-// The hop forms. A row stores its form as an index into this table. factor multiplies the
-// bitterness of whole leaf hops.
+// The hop forms. A row stores its form as an index into this table. factor multiplies the bitterness of whole
+// leaf hops.
 struct HopForm {
     std::string_view name;
     double factor;
@@ -57,8 +57,8 @@ class RecipeRecord {
     RecipeRecord(const RecipeRecord&) = delete;
     RecipeRecord& operator=(const RecipeRecord&) = delete;
 
-    // Sets the only observer of the record; nullptr for none. The observer must outlive
-    // the record or be replaced.
+    // Sets the only observer of the record; nullptr for none. The observer must outlive the record or
+    // be replaced.
     void SetObserver(RecordObserver* observer) { link_.observer = observer; }
 
     // Constant time.

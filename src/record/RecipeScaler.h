@@ -17,8 +17,8 @@ class RecipeScaler {
     // record and calculator must outlive the scaler.
     RecipeScaler(RecipeRecord& record, RecipeCalculator& calculator) : r_(record), calculator_(calculator) {}
 
-    // Multiply the amounts in the rows of a grid by factor. REQUIRES for
-    // ScaleGrainGrid: gridGrain or gridExtract.
+    // Multiply the amounts in the rows of a grid by factor. REQUIRES for ScaleGrainGrid: gridGrain
+    // or gridExtract.
     void ScaleGrainGrid(Grid& grid, double factor);
     void ScaleHops(double factor);
     void ScaleTreatment(double factor);
@@ -27,7 +27,7 @@ class RecipeScaler {
     // newGallons; nullopt if the recipe has no final volume.
     std::optional<double> FinalVolumeFor(double newGallons) const;
     // Changes the total volume to newGallons, shown as sizeText, and the final volume with it; if
-    // scaleBoilVol, also the boil volume in proportion.
+    // scaleBoilVol is true, also changes the boil volume in proportion.
     void ScaleVolumes(double newGallons, std::string_view sizeText, bool scaleBoilVol);
 
     // Changes the keg pressure or the priming sugars so that the beer gets that many volumes of CO2. Any
