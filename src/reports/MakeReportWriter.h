@@ -7,7 +7,7 @@
 
 namespace tw {
 
-// stream must outlive the writer.
+// Creates the writer for reports of that type. stream must outlive the writer.
 std::unique_ptr<ReportWriter> MakeReportWriter(ReportType type, const ReportOptions& options,
                                                ReportStream& stream);
 

@@ -18,8 +18,8 @@ class PrintFormatModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmPrintFmtOptions";
 
-    // Creates the controls of that type of report and loads its stored options. store and dialogs
-    // must outlive the dialog.
+    // Creates the controls of that type of report and loads its stored options. store and dialogs must
+    // outlive the dialog.
     PrintFormatModel(ReportType mode, const SettingsStore& store, DialogPort& dialogs);
 
     ReportType Mode() const { return mode_; }

@@ -85,8 +85,8 @@ double PrintLayout::Width(const PrintRuns& runs) {
 }
 
 // The footer is right-aligned and ends at the bottom of the page. A long one uses several lines.
-// If there is no room for all of them, the lines before the last one are left out, since the last
-// one has the page number.
+// If there is no room for all of them, the lines before the last one are left out, since the last one has the
+// page number.
 void PrintLayout::PageFooter() {
     const PrintFont font{std::string(kFamily), kSmallPoints, false, true};
     const double room = printableRight_ - kMargin;

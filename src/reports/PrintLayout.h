@@ -43,8 +43,8 @@ class PrintLayout {
     void PrintTitle(std::string_view text, int points);
     // Draws a horizontal line across the page.
     void PrintRule();
-    // Starts the right column, at the middle of the page. The text already on the line is kept
-    // within the left column.
+    // Starts the right column, at the middle of the page. The text already on the line is kept within the
+    // left column.
     void SecondColumn();
     // Draws a filled box of the size of three letters; the text that follows is drawn over it.
     void PrintSwatch(Rgb color);

@@ -79,8 +79,8 @@ class StepRecorder : public PrinterDevice {
     double x_ = 0, y_ = 0;
 };
 
-// Draws the recorded pages on device, as one document. Raises the errors of TWPrinter,
-// after killing the document.
+// Draws the recorded pages on device, as one document. Raises the errors of TWPrinter, after killing
+// the document.
 void PlaySteps(const PrintSteps& steps, std::unique_ptr<PrinterDevice> device);
 
 }  // namespace tw

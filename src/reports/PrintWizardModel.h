@@ -15,10 +15,10 @@
 
 namespace tw {
 
-// The option buttons of ReportUnitGroups(). treeRecipes holds the key of the selected node, lstRecipes the
-// names of the chosen recipes. cmbFileType accepts one of its entries and then changes the extension in
-// txtFileName. Buttons: cmdConfigure, cmdBrowse, cmdCancel, cmdBack, cmdNext (which creates the report on the
-// last page) and the buttons of the recipe chooser.
+// The controls include the option buttons of ReportUnitGroups(). treeRecipes contains the key of the selected
+// node, lstRecipes the names of the chosen recipes. cmbFileType accepts one of its entries and then changes
+// the extension in txtFileName. Buttons: cmdConfigure, cmdBrowse, cmdCancel, cmdBack, cmdNext (which creates
+// the report on the last page) and the buttons of the recipe chooser.
 class PrintWizardModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmPrintWizard";
@@ -53,12 +53,12 @@ class PrintWizardModel final : public FormModel {
     void AddUnits();
     std::string PickedNames() const;
     bool ChoosePicked(std::string_view name);
-    // True if cmdNext is enabled: on the second page at least one recipe is chosen, on the last
-    // page there is a file name.
+    // True if cmdNext is enabled: on the second page at least one recipe is chosen, on the last page there is
+    // a file name.
     bool CanGoOn() const;
     void Next();
-    // Creates the report and closes the wizard. If that fails, the error has been shown and
-    // the wizard stays open.
+    // Creates the report and closes the wizard. If that fails, the error has been shown and the wizard
+    // stays open.
     void Finish();
     void Configure();
     void Browse();

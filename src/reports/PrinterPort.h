@@ -29,8 +29,8 @@ class PrinterPort {
     // Shows the busy cursor while a job is running.
     virtual void ShowHourglass(bool /*on*/) {}
 
-    // Returns a device whose document becomes the PDF file target when it ends; an older
-    // file stays until then.
+    // Returns a device whose document becomes the PDF file target when it ends; an older file stays
+    // until then.
     virtual std::unique_ptr<PrinterDevice> MakePdf(const TargetFile& target, Paper paper) = 0;
     // Measures texts as they are printed.
     virtual const TextMeasure& Measure() const = 0;

@@ -23,8 +23,8 @@ class ReportFile final : public ReportStream {
         : target_(path, own), append_(append) {}
 
     void Write(std::string_view text) override { text_ += text; }
-    // Writes the file. Raises Error if that fails; the file is then as before. Without
-    // Close, nothing is written.
+    // Writes the file. Raises Error if that fails; the file is then as before. Without Close, nothing
+    // is written.
     void Close();
 
   private:

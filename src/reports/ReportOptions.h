@@ -45,8 +45,8 @@ struct ReportOptions {
 // Returns the stored options of that type. An option that is not stored or is invalid has its default value.
 ReportOptions LoadReportOptions(const SettingsStore& store, ReportType type);
 void SaveReportOptions(const SettingsStore& store, ReportType type, const ReportOptions& options);
-// Returns the default text of a key in the section "TextOptions", "HTMLOptions" or "RTFOptions";
-// none for any other key.
+// Returns the default text of a key in the section "TextOptions", "HTMLOptions" or "RTFOptions"; none for any
+// other key.
 std::optional<std::string> ReportOptionDefault(std::string_view section, std::string_view key);
 
 }  // namespace tw

@@ -19,8 +19,8 @@ constexpr std::uint32_t kPage1252[] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0
                                        0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
-// Removes the first code point from text and returns it. Returns kReplacement for a byte
-// that is not valid UTF-8.
+// Removes the first code point from text and returns it. Returns kReplacement for a byte that is not
+// valid UTF-8.
 std::uint32_t TakeCodePoint(std::string_view& text) {
     const CodePoint front = FrontCodePoint(text);
     text.remove_prefix(front.bytes);
@@ -35,8 +35,8 @@ unsigned ByteOf(std::uint32_t codePoint) {
     return 0;
 }
 
-// Appends one unit of UTF-16, which rich text writes as a signed 16-bit number, and its fallback
-// byte; "?" if byte is 0.
+// Appends one unit of UTF-16, which rich text writes as a signed 16-bit number, and its fallback byte; "?" if
+// byte is 0.
 void AppendUnit(std::string& out, std::uint32_t unit, unsigned byte) {
     out.append("\\u").append(std::to_string(static_cast<std::int16_t>(unit)));
     char fallback[sizeof "\\'xx"] = "?";

@@ -23,8 +23,8 @@ class ReportWriter {
     // Called between two recipes.
     virtual void ReportSeparator() = 0;
     virtual void ReportNewLine() = 0;
-    // Each writes text in the font and colours of its kind if the format has them. A centred text
-    // becomes a line of its own.
+    // Each writes text in the font and colours of its kind if the format has them. A centred text becomes a
+    // line of its own.
     virtual void WriteTitle(std::string_view text, bool centred) = 0;
     virtual void WriteLabel(std::string_view text, bool centred) = 0;
     virtual void WriteText(std::string_view text, bool centred) = 0;

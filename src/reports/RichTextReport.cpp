@@ -61,8 +61,8 @@ void RichTextReport::WriteText(std::string_view text, bool centred) {
 void RichTextReport::Write(const ReportFont& font, std::string_view colors, std::string_view text,
                            bool centred) {
     std::string line = centred ? "{\\qc" : "{";
-    // Always font 0, whatever the font table holds. It is not corrected, since the files must
-    // stay the same to the byte.
+    // Always font 0, whatever the font table holds. It is not corrected, since the files must stay the same
+    // to the byte.
     line.append(colors).append("\\f0\\fs").append(std::to_string(HalfPoints(font)));
     if (font.bold) line += "\\b";
     if (font.italic) line += "\\i";

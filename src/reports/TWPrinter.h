@@ -1,6 +1,6 @@
-// A thin drawing surface on the device of one print job. All lengths are inches. If a call to the
-// device fails, raises Error "Printer Error Occurred ({call})" with the source "TWPrinter" and the
-// device's error number.
+// A thin drawing surface on the device of one print job. All lengths are inches. If a call to the device
+// fails, raises Error "Printer Error Occurred ({call})" with the source "TWPrinter" and the device's
+// error number.
 #pragma once
 
 #include <functional>
@@ -59,8 +59,8 @@ class TWPrinter {
     Rgb color_{0, 0, 0};
 };
 
-// Runs a print job and closes the printer's device. If an Error is raised, kills the
-// document and raises it again.
+// Runs a print job and closes the printer's device. If an Error is raised, kills the document and raises
+// it again.
 void RunPrintJob(TWPrinter& printer, const std::function<void()>& job);
 
 }  // namespace tw

@@ -83,9 +83,9 @@ void TextReport::Emit(std::string_view text, bool centred, bool endsLine) {
         stream_.Write(kLineEnd);
         textColumn_ = 0;
     } else {
-        // Only the length of this text, without the text before it on the line: a value after a
-        // label may exceed the width by the label's length. It is not corrected, since the files
-        // must stay the same to the byte.
+        // Only the length of this text, without the text before it on the line: a value after a label may
+        // exceed the width by the label's length. It is not corrected, since the files must stay the same to
+        // the byte.
         textColumn_ = length;
     }
 }

@@ -16,8 +16,8 @@ namespace tw {
 // The resolution in dots per inch at which texts are measured and PDF files are written.
 inline constexpr int kPaperDpi = 600;
 
-// Returns the font for a device of dpi dots per inch. A family that the system lacks is
-// replaced by a similar one.
+// Returns the font for a device of dpi dots per inch. A family that the system lacks is replaced by a
+// similar one.
 QFont PaperFont(const PrintFont& font, double dpi);
 // Returns the text as it is drawn: control characters become blanks.
 QString PaperText(std::string_view text);

@@ -13,8 +13,8 @@ class PreviewPage final : public QWidget {
     // The model must outlive the widget.
     PreviewPage(const PrintPreviewModel& model, QWidget* parent);
 
-    // Resizes the widget to the model's zoom. room is the space in the window, in pixels,
-    // for showing a whole page.
+    // Resizes the widget to the model's zoom. room is the space in the window, in pixels, for showing a
+    // whole page.
     void Fit(const QSize& room);
 
   protected:
