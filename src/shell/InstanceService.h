@@ -48,9 +48,9 @@ class InstanceService final : public ChannelReceiver {
     // Sets the channel of this program, which must outlive the object. Without a channel there is no test at
     // start-up, and no commands are received.
     void SetChannel(ChannelPort* channel) { channel_ = channel; }
-    // Runs the test at start-up; to be called once. If another instance is running, it is told to come to the
-    // front or, if path is not blank, to import the file at path; only without a path does this instance show
-    // a message about it. Unless the result is OnlyInstance, the program must end at once.
+    // Runs the test at start-up; to be called once. If another instance is running, it is asked to come to
+    // the front or, if path is not blank, to import the file at path; only without a path does this instance
+    // show a message about it. Unless the result is OnlyInstance, the program must end at once.
     StartTest InitDDE(std::string_view path);
     // True if that test has notified another instance.
     bool HandedOver() const { return handedOver_; }

@@ -56,7 +56,7 @@ class OptionsModel final : public FormModel {
     // Checks the text field with the focus, as Enter does. If its text is refused, shows a message, restores
     // the remembered text and returns false. True if no field has the focus.
     bool CheckField();
-    // Checks the field likewise and, if it is accepted, removes its focus.
+    // Checks the field as CheckField does and, if its text is accepted, removes the focus from it.
     bool LeaveField();
     // Presses an arrow of UpDown1: adds by (1 or -1) minutes, or beeps beyond 1 and 60. Does nothing while
     // UpDown1 is disabled.

@@ -15,8 +15,8 @@ namespace tw {
 
 class PrintDesk {
   public:
-    // The commands of outside wait while the printer dialog is open and during a print job. All arguments
-    // must outlive the object.
+    // Commands from outside wait while the printer dialog is open and during a print job. All arguments must
+    // outlive the object.
     PrintDesk(const ShellEnvironment& environment, InstanceService& outside, OpenedDatabase& data,
               const DocumentManager& documents, SettingsStore& store, OwnFiles& own);
 

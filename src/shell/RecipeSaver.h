@@ -14,8 +14,8 @@ namespace tw {
 
 class RecipeSaver {
   public:
-    // notices is told when a failed save may have deleted recipes; browse is the last state of the open and
-    // save dialog. All arguments must outlive the object.
+    // notices is notified when a failed save may have deleted recipes; browse is the last state of the open
+    // and save dialog. All arguments must outlive the object.
     RecipeSaver(OpenedDatabase& data, DocumentManager& documents, ObjectListener& notices,
                 OpenSaveFields& browse)
         : data_(data), documents_(documents), notices_(notices), browse_(browse) {}

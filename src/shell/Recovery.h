@@ -1,5 +1,5 @@
-// The recovery files, which hold unsaved recipes outside the database, one per changed document. The program
-// that has the database open exclusively owns the files in its folder; no other running instance
+// The recovery files, which hold unsaved recipes outside the database, one per changed document. The
+// program that has the database open exclusively owns the files in its folder; no other running instance
 // touches them.
 #pragma once
 

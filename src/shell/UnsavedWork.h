@@ -27,10 +27,10 @@ class UnsavedWork final : public LostRecipes {
     void Start(const std::string& folder, const std::string& databasePath, Database& database);
     void End() { recovery_.reset(); }
 
-    // The document has been edited: tells the window that Keep must be called.
+    // The document has been edited: notifies the window that Keep must be called.
     void Edited(const RecipeDocument& document);
     // Writes recovery files of the recipes edited since the last call. Those that cannot be written are tried
-    // again at the next call, which the window is told to make; until then the notice says so.
+    // again at the next call, for which the window is notified; until then the notice says so.
     void Keep();
     // The document's edits have been saved or given up: deletes its recovery file.
     void Forget(const RecipeDocument& document);
