@@ -28,8 +28,8 @@ class Deliveries {
     // REQUIRES: the table exists; database outlives this object.
     explicit Deliveries(Database& database);
 
-    // Returns what was delivered under that name, or nullptr. Valid until that row is
-    // remembered anew or forgotten.
+    // Returns what was delivered under that name, or nullptr. Valid until Remember or Forget is called for
+    // that row.
     const std::string* Find(std::string_view sheet, const std::string& name) const;
     void Remember(std::string_view sheet, const std::string& name, const std::string& content);
     // Deletes the memory of a delivery, so that the row may be delivered again.
@@ -49,8 +49,8 @@ std::string ContentOf(const CatalogueEntry& entry);
 std::string FolderOf(std::string_view content);
 // Returns the lines of the values, without that of the folder.
 std::string_view ValuesOf(std::string_view content);
-// True if the row still has the values of content, column by column. A column missing from
-// content counts as unchanged.
+// True if the row still has the values of content, column by column. A column missing from content counts
+// as unchanged.
 bool StandsAs(Database& database, const Recordset& row, std::string_view content);
 
 }  // namespace tw

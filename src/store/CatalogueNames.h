@@ -8,7 +8,7 @@
 //   as written, NAME the name of the row.
 //
 // Both tables use the names under which the rows were delivered, so entries for a row that the brewer has
-// renamed or deleted lead nowhere. In a database without these tables, every row has just its own name.
+// renamed or deleted have no effect. In a database without these tables, every row has just its own name.
 #pragma once
 
 #include <map>

@@ -144,8 +144,8 @@ void CheckWaterProfiles(const CatalogueSheets& catalogue, CatalogueProblems& pro
     }
 }
 
-// A brew log entry consists of the yeast's name, " - " and further text, and the name
-// is cut off at " - " again.
+// A brew log entry consists of the yeast's name, " - " and further text, and the name is cut off at " -
+// " again.
 void CheckYeastNames(const CatalogueSheets& catalogue, CatalogueProblems& problems) {
     for (const CatalogueRow& row : catalogue.yeast.rows) {
         const std::string& name = row.Text("name");

@@ -28,7 +28,7 @@ inline constexpr std::string_view kMoved = "moved";  // only for styles: moved t
 struct CatalogueSheets {
     CatalogueSheet grainTypes, grains, hops, yeast, waters, salts, sugars, styles;
     CatalogueSheet aliases;  // other names of rows
-    CatalogueSheet former;   // rows that earlier releases delivered but that are gone or moved now
+    CatalogueSheet former;   // rows of earlier releases that have since been removed or moved
 };
 
 // The files of the sheets, in the order in which they are read.

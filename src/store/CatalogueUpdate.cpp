@@ -60,8 +60,8 @@ std::optional<Release> ReleaseOf(const std::string& folder) {
     return release;
 }
 
-// Returns the release delivered last; nullopt if none is remembered, for example
-// because the first update failed.
+// Returns the release delivered last; nullopt if none is remembered, for example because the first
+// update failed.
 std::optional<Release> LastRelease(Database& database) {
     if (!Deliveries::AreIn(database)) return std::nullopt;
     const Recordset row = database.OpenRecordset(
@@ -150,8 +150,8 @@ class Update {
         UpdateEntry(database_, entry, id, when_);
         changed_ = true;
     }
-    // Returns the folder to which the first release, which did not remember it, delivered a
-    // style that has moved since.
+    // Returns the folder to which the first release, which did not remember it, delivered a style that has
+    // moved since.
     std::string FormerFolder(const CatalogueEntry& entry) const {
         if (entry.table != kStyles) return {};
         for (const CatalogueRow& row : former_.rows)

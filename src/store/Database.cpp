@@ -144,8 +144,8 @@ std::unique_ptr<Database> Database::CreateDatabase(const std::string& path, std:
 
 sqlite3_stmt* Database::Prepare(std::string_view sql, const SqlValues& values, bool select) {
     if (hook_) hook_(WithLiterals(sql, values));
-    // A disk error may have undone the unit of work midway; this statement must not be
-    // executed without the others.
+    // A disk error may have undone the unit of work midway; this statement must not be executed without
+    // the others.
     if (unitDepth_ > 0 && sqlite3_get_autocommit(handle_) != 0) RaiseUndone();
     const DialectStatement translated = TranslateSql(sql, values.size());
     if ((translated.kind == StatementKind::Select) != select)
@@ -219,8 +219,8 @@ UnitOfWork::~UnitOfWork() {
     try {
         Commit();
     } catch (const Error&) {
-        // Either another exception is already in flight, or the caller did not call
-        // Commit: the old state remains.
+        // Either another exception is already in flight, or the caller did not call Commit: the old
+        // state remains.
     }
 }
 

@@ -40,8 +40,8 @@ enum class FieldType : int {
     Float = 21,
 };
 
-// Returns the type that a column's declaration names, such as "TEXT(50)", ignoring
-// case; Binary if it is unknown.
+// Returns the type that a column's declaration names, such as "TEXT(50)", ignoring case; Binary if it
+// is unknown.
 FieldType FieldTypeOf(std::string_view declared);
 
 // The value of a field: NULL, a boolean, a number, or text. A date is text in the form of DateText.
@@ -94,8 +94,8 @@ class Recordset {
     int FieldCount() const;
     // By index from 0. Raises Error at the end, or for an index out of range.
     Field Fields(int index) const;
-    // By name, ignoring case; a field of a join also by "TABLE.NAME". Raises Error at the
-    // end, or for an unknown name.
+    // By name, ignoring case; a field of a join also by "TABLE.NAME". Raises Error at the end, or for an
+    // unknown name.
     Field Fields(std::string_view name) const;
     const std::string& FieldName(int index) const;
     FieldType TypeOf(int index) const;
@@ -125,9 +125,9 @@ class Database {
     // Creates a new empty database file, without tables, and opens it. Raises Error if path exists or cannot
     // be written. locale is accepted but ignored: all text is UTF-8.
     static std::unique_ptr<Database> CreateDatabase(const std::string& path, std::string_view locale);
-    // Opens somebody else's file for import or for adding to it: like OpenDatabase without exclusive
-    // use, but nothing in the file is trusted (store/ForeignFile.h). now is a monotonic clock for
-    // the time limit on reading.
+    // Opens somebody else's file for import or for adding to it: like OpenDatabase without exclusive use,
+    // but nothing in the file is trusted (store/ForeignFile.h). now is a monotonic clock for the time limit
+    // on reading.
     using Clock = MonotonicClock;
     static std::unique_ptr<Database> OpenForeign(const std::string& path, Clock now = SteadyNow);
     // Creates a database in memory from the bytes of a file; an empty one if image is empty. Raises Error if
@@ -135,7 +135,7 @@ class Database {
     static std::unique_ptr<Database> FromImage(std::string_view image);
     // Like FromImage for the bytes of somebody else's file: nothing in it is trusted, as with OpenForeign.
     static std::unique_ptr<Database> ForeignFromImage(std::string_view image, Clock now = SteadyNow);
-    // Returns the bytes that a file with this database has. Raises Error if memory runs out.
+    // Returns the bytes of a file that contains this database. Raises Error if memory runs out.
     std::string Image() const;
 
     ~Database();
@@ -180,8 +180,8 @@ class Database {
     // Takes ownership of handle.
     Database(sqlite3* handle, std::string path, bool readOnly = false);
     static std::chrono::milliseconds SteadyNow();
-    // Limits the statements of a file that is not trusted, and raises Error if a table
-    // in it is not a real table.
+    // Limits the statements of a file that is not trusted, and raises Error if a table in it is not a
+    // real table.
     void GuardForeign(Clock now);
     void CheckWritable() const;
     // Raises the error that has undone the current unit.

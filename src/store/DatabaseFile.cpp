@@ -148,8 +148,8 @@ SqliteHandle OpenHandle(const std::string& path, int flags) {
     // SQLite never mistakes an absolute path for a URI or for the name of a database in memory.
     const std::string name = (flags & SQLITE_OPEN_MEMORY) != 0 ? path : fs::absolute(path, failure).string();
     if (failure) Refuse(path, "cannot be opened: " + failure.message() + ".", SQLITE_CANTOPEN);
-    // The name alone makes a database in memory; with the flag, databases attached to
-    // it would be in memory, too.
+    // The name alone makes a database in memory; with the flag, databases attached to it would be in
+    // memory, too.
     const int openFlags = (flags & ~SQLITE_OPEN_MEMORY) | kOpenFlags;
     const int result = sqlite3_open_v2(name.c_str(), &handle, openFlags, nullptr);
     SqliteHandle owner(handle);

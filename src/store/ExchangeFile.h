@@ -25,8 +25,8 @@ class ExchangeCopy {
   public:
     // A new file with the tables of main. Raises the store's error.
     explicit ExchangeCopy(Database& main);
-    // The content of an existing file, which no other program can change while this object
-    // lives. Raises the store's error.
+    // The content of an existing file, which no other program can change while this object lives. Raises the
+    // store's error.
     explicit ExchangeCopy(std::unique_ptr<Database> old);
 
     Database& Contents() { return *contents_; }

@@ -35,8 +35,8 @@ constexpr std::string_view kFunctions[] = {"COUNT", "GLOB", "LCASE", "LIKE", "SU
 // The pragmas that the store and its copy of a whole file use.
 constexpr std::string_view kPragmas[] = {"journal_mode", "page_count", "synchronous"};
 
-// Permits what the program does, which is to read tables and add rows to them; anything
-// else was planted in the file.
+// Permits what the program does, which is to read tables and add rows to them; anything else was planted in
+// the file.
 int Authorize(void*, int action, const char* first, const char* function, const char*, const char*) noexcept {
     switch (action) {
         case SQLITE_SELECT:

@@ -7,8 +7,8 @@ struct sqlite3;
 
 namespace tw {
 
-// Forbids everything that a recipe file does not need. REQUIRES: nothing has been
-// read through the handle yet.
+// Forbids everything that a recipe file does not need. REQUIRES: nothing has been read through the
+// handle yet.
 void Distrust(sqlite3* handle);
 
 }  // namespace tw

@@ -107,8 +107,8 @@ bool MayBeOf(const DatabaseState& state, const fs::path& path) {
         if (const auto counter = journal.ChangeCounter())
             return *counter == state.changeCounter || *counter + 1 == state.changeCounter;
     }
-    // The journal does not contain the first page, so that has not been written and
-    // still has the old page count.
+    // The journal does not contain the first page, so that has not been written and still has the old
+    // page count.
     return hasRecords && journal.PageCount() == state.pageCount;
 }
 

@@ -1,5 +1,5 @@
-// Maps the columns of a recipe's tables to its values: the rules of fields and cells
-// in the order of the schema.
+// Maps the columns of a recipe's tables to its values: the rules of fields and cells in the order of
+// the schema.
 #pragma once
 
 #include <cstddef>

@@ -26,8 +26,8 @@ struct ConflictAnswer {
 class CopyHost {
   public:
     virtual ~CopyHost() = default;
-    // Called before each recipe with its index, from 0, and the total number of
-    // recipes. Returns false to stop.
+    // Called before each recipe with its index, from 0, and the total number of recipes. Returns false
+    // to stop.
     virtual bool Continue(const std::string& name, int number, int total) = 0;
     virtual ConflictAnswer ResolveConflict(const std::string& name) = 0;
     // Called if a recipe cannot be copied; text says why. Returns true to continue with the next recipe,
@@ -49,8 +49,8 @@ using StylesNotImported = std::vector<StyleNotImported>;
 // UCASE(TRIM(NAME)) would read the whole table for each recipe copied.
 class RecipeNames {
   public:
-    // Reads all names, replacing earlier ones. Rows without a name or ID are
-    // skipped. Raises the store's error.
+    // Reads all names, replacing earlier ones. Rows without a name or ID are skipped. Raises the
+    // store's error.
     void Read(Database& database);
     // Returns the ID of the recipe of that name, the lowest ID of several; nullopt if there is none.
     std::optional<std::int64_t> Find(std::string_view name) const;
@@ -91,8 +91,8 @@ class RecipeCopier {
     std::optional<std::int64_t> NewestInDest(const std::string& name);
     void InsertRecipe(const Recordset& source, const std::string& newName);
     void InsertLine(const std::string& table, const Recordset& source, std::int64_t newId);
-    // Returns the ID of a style in the main database. If it is missing, returns 0 and adds an
-    // entry to stylesNotImported.
+    // Returns the ID of a style in the main database. If it is missing, returns 0 and adds an entry
+    // to stylesNotImported.
     std::int64_t StyleIdOf(const std::string& style, const std::string& recipe);
     void CopyLines(const std::string& table, std::optional<std::int64_t> oldId, std::int64_t sourceId,
                    std::int64_t newId);

@@ -170,8 +170,8 @@ struct IndexDef {
     std::string_view columns;
 };
 
-// For finding the rows of one recipe, looking up names, and reading the nodes of the tree
-// in the order of their names.
+// For finding the rows of one recipe, looking up names, and reading the nodes of the tree in the order of
+// their names.
 constexpr IndexDef kIndexes[] = {
     {"RECIPE_GRAINS", "RECIPE_ID"},
     {"RECIPE_HOPS", "RECIPE_ID"},

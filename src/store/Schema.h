@@ -1,5 +1,5 @@
-// The schema of the program's database: tables, columns, types, counter keys, and the
-// indexes that reading needs.
+// The schema of the program's database: tables, columns, types, counter keys, and the indexes that
+// reading needs.
 #pragma once
 
 #include <memory>

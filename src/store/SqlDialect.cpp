@@ -208,8 +208,8 @@ class Translator {
 
     char Next() const { return at_ + 1 < sql_.size() ? sql_[at_ + 1] : '\0'; }
 
-    // The result of a text function is compared like a text column, ignoring case; SQLite would
-    // compare it case-sensitively.
+    // The result of a text function is compared like a text column, ignoring case; SQLite would compare
+    // it case-sensitively.
     void TakeClosing() {
         ++at_;
         if (!collations_.empty() && collations_.back() == parenDepth_) {

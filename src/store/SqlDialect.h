@@ -1,5 +1,5 @@
-// Translates the program's SQL to SQLite's. Statements are written as designed; no other
-// file knows how the two differ.
+// Translates the program's SQL to SQLite's. Statements are written as designed; no other file knows how the
+// two differ.
 #pragma once
 
 #include <cstddef>

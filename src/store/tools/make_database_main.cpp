@@ -46,8 +46,8 @@ int MakeDatabase(const std::string& folder, const fs::path& target) {
     {
         const auto database = tw::Database::CreateDatabase(part.Path(), "");
         tw::CreateSchema(*database);
-        // Without dates: no brewer has created these rows at any time, and every build
-        // must give the same database.
+        // Without dates: no brewer has created these rows at any time, and every build must give the
+        // same database.
         problems = tw::LoadCatalogue(folder, *database, std::nullopt);
     }
     for (const tw::CatalogueProblem& problem : problems) std::cerr << problem.Text() << '\n';
