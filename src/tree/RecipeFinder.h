@@ -30,8 +30,8 @@ class RecipeFinder {
 
     // Returns the recipes that contain every word of text, in the order of the list of recipes; all of them
     // for a text without a word. Words are separated by blanks. They match anywhere, even within a longer
-    // word, ignoring case even outside ASCII; each may be in another part of the recipe. The result is valid
-    // until the next Find. Raises the store's error if the database cannot be read; the next Find
+    // word, ignoring case even outside ASCII; each may be in another part of the recipe. The result is
+    // valid until the next Find. Raises the store's error if the database cannot be read; the next Find
     // tries again.
     const std::vector<FoundRecipe>& Find(std::string_view text);
 

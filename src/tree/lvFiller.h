@@ -37,10 +37,10 @@ class lvFiller {
     void AddStyleRow(ListTable& list, TWNode& style) const;
     void AddRecipeRow(ListTable& list, TWNode& recipe) const;
 
-    // The rows of a catalogue under its own columns, sorted by name; their keys are their names. They include
-    // codes and other names, as do styles among the nodes. Grains and extracts are grouped: each type that
-    // has any is a group row with its name, in the order of the types, and those without a type follow the
-    // groups without a group row.
+    // The functions below set the columns of a catalogue and fill the list with its rows, sorted by name; the
+    // keys of the rows are their names. The rows include codes and other names, as do styles among the nodes.
+    // Grains and extracts are grouped: each type that has any is a group row with its name, in the order of
+    // the types, and those without a type follow the groups without a group row.
     //
     // FillStyles shows the styles directly in that folder; for -1 all styles.
     void FillStyles(ListTable& list, std::int64_t folderId) const;

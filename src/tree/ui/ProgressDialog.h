@@ -1,5 +1,5 @@
-// Shows the progress of an operation on many objects. A short operation shows no window, just
-// the wait cursor.
+// Shows the progress of an operation on many objects. A short operation shows no window, just the
+// wait cursor.
 #pragma once
 
 #include <QDialog>

@@ -22,8 +22,8 @@ namespace tw {
 template <class View>
 class RowView : public View, protected ListTableObserver {
   public:
-    // name: the name of the list for screen readers. REQUIRES: list outlives the view and has
-    // no other observer.
+    // name: the name of the list for screen readers. REQUIRES: list outlives the view and has no
+    // other observer.
     RowView(ListTable& list, const QString& name, QWidget* parent)
         : View(parent), list_(list), model_(new ListPaneModel(list, this)) {
         this->setAccessibleName(name);
@@ -129,8 +129,8 @@ class RowView : public View, protected ListTableObserver {
     void keyPressEvent(QKeyEvent* event) override {
         const int key = event->key();
         const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
-        // Enter that ends the editing of a name neither opens the row nor presses the
-        // window's default button.
+        // Enter that ends the editing of a name neither opens the row nor presses the window's
+        // default button.
         if (enter && this->state() == View::EditingState) return event->accept();
         if (enter && list_.Selected() != ListTable::kNoRow) return TellActivated();
         View::keyPressEvent(event);
