@@ -1,5 +1,5 @@
-// Reads C++ sources as far as the checks of the layout need it: what is code, and which functions a class
-// declares.
+// Reads C++ sources for the checks of the architecture: separates code from comments, and finds the functions
+// that a class declares.
 #pragma once
 
 #include <filesystem>
@@ -9,20 +9,21 @@
 
 namespace tw::test {
 
-// The bytes of a file. Raises std::runtime_error when it cannot be read.
+// Returns the contents of a file. Raises std::runtime_error if it cannot be read.
 std::string ReadSource(const std::filesystem::path& file);
 
-// The source with blanks in place of its comments. Line breaks stay, so that places keep their lines.
+// Returns the source with comments replaced by blanks. Line breaks are kept, so that line numbers stay the
+// same.
 std::string WithoutComments(std::string_view source);
 
-// The source with blanks in place of comments, of what stands between quotes, and of preprocessor lines.
+// Returns the source with comments, quoted texts and preprocessor lines replaced by blanks.
 std::string CodeOf(std::string_view source);
 
-// The line of a place in a text, counted from 1.
+// Returns the line of a position in a text, counted from 1.
 int LineAt(std::string_view text, std::size_t place);
 
-// A class, struct or union of a header and how many functions its body declares, those of nested classes
-// apart. Constructors, destructors and operators count; friends, aliases and data members do not.
+// A class, struct or union and the number of functions that its body declares, without those of nested
+// classes. Constructors, destructors and operators count; friends, aliases and data members do not.
 struct DeclaredClass {
     std::string name;  // with the names of the classes around it: "Shell::ActionRow"
     int line = 0;      // of its keyword
