@@ -29,6 +29,28 @@ enum class CellTakes : std::uint8_t {
     YesNo         // nothing but a check box
 };
 
+// Returns the unit in which a text that names none is read, in the words of the printed recipe; empty if a
+// column takes no amount in a unit.
+constexpr std::string_view DefaultUnit(CellTakes takes) {
+    switch (takes) {
+        case CellTakes::Pounds:
+            return "pounds";
+        case CellTakes::Ounces:
+        case CellTakes::HopAmount:
+            return "ounces";
+        case CellTakes::Grams:
+            return "grams";
+        case CellTakes::Minutes:
+            return "minutes";
+        case CellTakes::Percent:
+            return "percent";
+        case CellTakes::KegPsi:
+            return "PSI";
+        default:
+            return {};
+    }
+}
+
 // The names offered by the drop-down list of a cell.
 enum class CellNames : std::uint8_t {
     None,

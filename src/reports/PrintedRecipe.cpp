@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+#include "record/CellRules.h"
+#include "record/FieldRules.h"
 #include "reports/PrintLayout.h"
 #include "values/Text.h"
 
@@ -26,6 +28,15 @@ std::vector<int> DataRows(const Grid& grid, int ignoredCol = -1) {
     for (int row = Grid::FixedRows(); row < grid.EndOfData(); ++row)
         if (!IsBlankRow(grid, row, ignoredCol)) rows.push_back(row);
     return rows;
+}
+
+std::string Label(FieldId id) {
+    return PlainCaption(RuleOf(id)) + ": ";
+}
+
+// Returns "Amounts are in pounds by default", for the unit of that column.
+std::string UnitNote(const std::string& what, const Grid& grid, int col) {
+    return "  " + what + " in " + std::string(DefaultUnit(RuleOf(grid, col).takes)) + " by default";
 }
 
 // Returns "{name} - {amount}" for each data row.
@@ -103,14 +114,14 @@ void RecipePrinter::PrintHead() {
 
 void RecipePrinter::PrintGeneral() {
     layout_.PrintSection("General");
-    layout_.PrintLabel("Final Volume: ");
+    layout_.PrintLabel(Label(FieldId::FinalVol));
     const std::string& finalVol = recipe_.txtFinalVol.Text();
     layout_.PrintLine(finalVol.empty() ? recipe_.txtTotalVol.Text() : finalVol);
 
     layout_.PrintLabel("OG: ");
     layout_.PrintText(recipe_.txtOG.Text());
     layout_.SecondColumn();
-    layout_.PrintLabel("IBUs: ");
+    layout_.PrintLabel(Label(FieldId::IBU));
     layout_.PrintLine(recipe_.txtIBU.Text());
 
     layout_.PrintLabel("FG: ");
@@ -121,10 +132,10 @@ void RecipePrinter::PrintGeneral() {
     layout_.PrintLabel(" Amount: ");
     layout_.PrintLine(recipe_.txtCO2.Text());
 
-    layout_.PrintLabel("Alcohol Content: ");
+    layout_.PrintLabel(Label(FieldId::ABV));
     layout_.PrintText(recipe_.txtABV.Text());
     layout_.SecondColumn();
-    layout_.PrintLabel("Color: ");
+    layout_.PrintLabel(Label(FieldId::Color));
     layout_.PrintText(recipe_.txtColor.Text() + " ");
     layout_.PrintSwatch(recipe_.Swatch());
     layout_.NewLine();
@@ -141,7 +152,7 @@ void RecipePrinter::PrintWater() {
         layout_.PrintLine(source);
     }
     if (!salts.empty()) {
-        layout_.PrintSmallNote("  Amounts are in grams by default");
+        layout_.PrintSmallNote(UnitNote("Amounts are", recipe_.gridTreatment, TreatmentCol::Amount));
         layout_.PrintTwoColumns(salts);
     }
     layout_.PrintRule();
@@ -153,7 +164,7 @@ void RecipePrinter::PrintGrains() {
     const std::vector<std::string> extracts = NamesAndAmounts(recipe_.gridExtract, GrainCol::Amount);
     if (grains.empty() && extracts.empty()) return;
     layout_.PrintSection("Grains and Extracts");
-    layout_.PrintSmallNote("  Amounts are in pounds by default");
+    layout_.PrintSmallNote(UnitNote("Amounts are", recipe_.gridGrain, GrainCol::Amount));
     if (!grains.empty()) layout_.PrintTwoColumns(grains);
     const std::string& boilVol = recipe_.txtBoilVol.Text();
     if (!boilVol.empty())
@@ -170,7 +181,7 @@ void RecipePrinter::PrintHops() {
     const std::vector<int> rows = DataRows(hops, HopCol::Form);
     if (rows.empty()) return;
     layout_.PrintSection("Hops");
-    layout_.PrintSmallNote("  Amounts are in ounces by default");
+    layout_.PrintSmallNote(UnitNote("Amounts are", hops, HopCol::Amount));
     for (const int row : rows) layout_.PrintLine(HopLine(hops, row));
     layout_.PrintRule();
 }
@@ -195,11 +206,11 @@ void RecipePrinter::PrintCarbonation() {
             layout_.NewLine();
         } else {
             layout_.PrintLine(" and prime with the following");
-            layout_.PrintSmallNote("  Amounts are in ounces by default");
+            layout_.PrintSmallNote(UnitNote("Amounts are", recipe_.gridPriming, PrimingCol::Amount));
             layout_.PrintTwoColumns(sugars);
         }
     } else {
-        layout_.PrintSmallNote("  Pressure is in PSI by default");
+        layout_.PrintSmallNote(UnitNote("Pressure is", recipe_.gridPressure, PressureCol::Pressure));
         layout_.PrintLine("Keg beer - store at a temperature of " + temperature + " and a pressure of " +
                           recipe_.gridPressure.Text(1, PressureCol::Pressure));
     }
