@@ -81,14 +81,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         .write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
     Program program;
     if (!program.shell.PerformSplashScreenInit(":memory:")) std::abort();
-    program.shell.Files().ImportRecipes(file, 0, std::nullopt);
+    program.shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     CheckWhole(*program.shell.DB());
     // Export the recipes, appended to what the file contains.
     std::vector<std::string> names;
     for (Recordset rows = program.shell.DB()->OpenRecordset("SELECT NAME FROM RECIPES"); !rows.AtEnd();
          rows.MoveNext())
         names.push_back(rows.Fields(0).Text());
-    program.shell.Files().ExportRecipes(file, true, names);
+    program.shell.Opened()->files.ExportRecipes(file, true, names);
     unlink(file.c_str());
     unlink((file + "-journal").c_str());
     return 0;

@@ -142,15 +142,15 @@ bool SaveChoosers(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     bool ok = true;
     for (const CatalogueKind list :
          {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Yeast, CatalogueKind::Water}) {
-        CataloguePickerModel picker(list, *shell.DB(), shell.Data().tree, "");
+        CataloguePickerModel picker(list, *shell.DB(), shell.Opened()->data.tree, "");
         ok &= SaveDialog(dialogs, picker, parent,
                          QStringLiteral("%1pick-%2.png").arg(prefix).arg(static_cast<int>(list)));
     }
-    ChooseFolderModel folders(shell.Data().tree, shell.Data().objects);
+    ChooseFolderModel folders(shell.Opened()->data.tree, shell.Opened()->data.objects);
     folders.SetStyleFolders(true);
     ok &= SaveDialog(dialogs, folders, parent, prefix + QStringLiteral("choose-folder.png"));
     RecipeChooser recipes;
-    recipes.SetTree(&shell.Data().tree);
+    recipes.SetTree(&shell.Opened()->data.tree);
     recipes.SetAction("Export");
     recipes.Initialize();
     recipes.Add(kAllRecipesKey);
@@ -177,7 +177,7 @@ bool SaveHelp(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
 // The dialogs of import and export.
 bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     PrintedMessages messages;
-    ImportExportModel recipes(shell.Data().tree, false);
+    ImportExportModel recipes(shell.Opened()->data.tree, false);
     recipes.Recipes().Add(kAllRecipesKey);
     NameConflictModel conflict("Dry Stout", true, messages);
     StylesNotImportedModel styles({{"Dry Stout", "Irish Stout"}, {"Copper Lantern Bitter", "Best Bitter"}});
@@ -194,7 +194,7 @@ bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
 
 // Database setup on every catalogue, with the editor of a row, editable and read-only.
 bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
-    const CatalogueContext context = shell.Catalogue().Context();
+    const CatalogueContext context = shell.Opened()->catalogue.Context();
     bool ok = true;
     for (int i = 0; i < kCatalogueKinds; ++i) {
         const auto catalogue = kSetupOrder[static_cast<std::size_t>(i)];
@@ -231,7 +231,7 @@ bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
     ok &= SaveDialog(dialogs, noPrinter, parent, prefix + QStringLiteral("no-printer.png"));
     PrintedMessages messages;
     PrintWizardModel wizard(
-        {*shell.DB(), shell.Data().tree, shell.Store(), messages, dialogs, nullptr, shell.Own()}, 0);
+        {*shell.DB(), shell.Opened()->data.tree, shell.Store(), messages, dialogs, nullptr, shell.Own()}, 0);
     wizard.Chooser().Add(kAllRecipesKey);
     for (int page = 0; page < PrintWizardModel::kPages; ++page) {
         ok &= SaveDialog(dialogs, wizard, parent, QStringLiteral("%1report-%2.png").arg(prefix).arg(page));
@@ -250,7 +250,7 @@ bool SaveReports(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStrin
 bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     bool ok = true;
     for (int view = 0; view <= static_cast<int>(ListViewType::Details); ++view) {
-        ExplorerModel explorer(shell.Data().Access(), {});
+        ExplorerModel explorer(shell.Opened()->data.Access(), {});
         explorer.SetLook({static_cast<ListViewType>(view), 0, false});
         explorer.SetControl("lvNames", explorer.List(explorer.Shown()).Rows().Count() > 0
                                            ? explorer.List(explorer.Shown()).Rows().Row(0).key
@@ -258,7 +258,7 @@ bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
         ok &=
             SaveDialog(dialogs, explorer, parent, QStringLiteral("%1explorer-%2.png").arg(prefix).arg(view));
     }
-    ExplorerModel styles(shell.Data().Access(), {}), search(shell.Data().Access(), {});
+    ExplorerModel styles(shell.Opened()->data.Access(), {}), search(shell.Opened()->data.Access(), {});
     styles.Show(ExplorerModel::Page::Styles);
     styles.SetLook({ListViewType::Details, 0, false});
     ok &= SaveDialog(dialogs, styles, parent, prefix + QStringLiteral("explorer-styles.png"));
@@ -268,9 +268,9 @@ bool SaveBrowsing(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     if (auto* find = searching->findChild<QLineEdit*>(QStringLiteral("txtFind")))
         find->setText(QStringLiteral("ale"));
     ok &= SaveWidget(*searching, prefix + QStringLiteral("explorer-find.png"));
-    OpenSaveModel open(OpenSaveModel::Style::Open, shell.Data().Access(), {});
+    OpenSaveModel open(OpenSaveModel::Style::Open, shell.Opened()->data.Access(), {});
     ok &= SaveDialog(dialogs, open, parent, prefix + QStringLiteral("open.png"));
-    OpenSaveModel save(OpenSaveModel::Style::Save, shell.Data().Access(),
+    OpenSaveModel save(OpenSaveModel::Style::Save, shell.Opened()->data.Access(),
                        {std::string(kRecipeFoldersKey), {ListViewType::Details, 0, false}});
     save.SetRecipe("Harvest Ale", 0);
     return SaveDialog(dialogs, save, parent, prefix + QStringLiteral("save-as.png")) && ok;

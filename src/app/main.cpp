@@ -56,7 +56,7 @@ bool SettingsFileIsFine(const ProgramOptions& options, MessagePort& messages) {
 
 void OpenRecipes(MainWindow& window, Shell& shell, MessagePort& messages, const ProgramOptions& options) {
     for (const QString& name : options.open)
-        RunShowingErrors(messages, [&] { shell.Recipes().OpenByName(FromQt(name)); });
+        RunShowingErrors(messages, [&] { shell.Opened()->recipes.OpenByName(FromQt(name)); });
     RecipeWindow* document = window.ActiveWindow();
     if (document && options.tab >= 0 && options.tab < kTabs) document->ShowTab(static_cast<Tab>(options.tab));
 }
@@ -131,7 +131,7 @@ int Run(int argc, char** argv) {
         environment.recoveryFolder = FromQt(
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/unsaved"));
     Shell shell(std::move(environment));
-    if (!photographing) shell.DDE().SetChannel(&channel);
+    if (!photographing) shell.Instance().SetChannel(&channel);
     QtBrowser browser;
     SystemTextFiles files(shell.Own());
     Help help(programFolder, messages, browser, files);
@@ -147,7 +147,7 @@ int Run(int argc, char** argv) {
     DesktopColors colors;
     window.show();
     if (!window.StartUp(DatabaseOf(options), FromQt(options.file)))
-        return shell.DDE().HandedOver() ? EXIT_SUCCESS : EXIT_FAILURE;
+        return shell.Instance().HandedOver() ? EXIT_SUCCESS : EXIT_FAILURE;
     OpenRecipes(window, shell, messages, options);
     if (photographing) return Photograph(window, shell, dialogs, options);
     colors.Follow();

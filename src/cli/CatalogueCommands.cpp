@@ -33,7 +33,7 @@ void Entry(Session& session, Arguments& arguments) {
     const bool showsOnly = arguments.AtEnd();
     const DialogAnswer answer = showsOnly ? DialogAnswer() : ReadDialogAnswer(arguments.Text());
     Shell& program = session.Program();
-    const CatalogueContext context = program.Catalogue().Context();
+    const CatalogueContext context = program.Opened()->catalogue.Context();
     const std::unique_ptr<CatalogueEditor> editor = MakeEditor(catalogue, context);
     editor->SetName(name);
     if (showsOnly) return PrintControls(session, *editor);
@@ -46,7 +46,7 @@ void Drop(Session& session, Arguments& arguments) {
     const CatalogueKind catalogue = TakeCatalogue(arguments);
     const std::string name = arguments.LastName("NAME");
     Shell& program = session.Program();
-    const CatalogueContext context = program.Catalogue().Context();
+    const CatalogueContext context = program.Opened()->catalogue.Context();
     DatabaseSetupModel setup(context);
     setup.Choose(catalogue);
     if (!setup.ShowName(name))
@@ -72,7 +72,7 @@ void Navigate(Session& session, Arguments& arguments) {
     arguments.End();
     const auto step = std::ranges::find(kSteps, word, &StepRow::word);
     if (step == std::end(kSteps)) throw ScriptError("there is no step '" + word + "'");
-    const CatalogueContext context = session.Program().Catalogue().Context();
+    const CatalogueContext context = session.Program().Opened()->catalogue.Context();
     DatabaseSetupModel setup(context);
     setup.Choose(catalogue);
     if (!setup.ShowName(name))

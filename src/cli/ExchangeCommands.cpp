@@ -21,7 +21,7 @@ void Export(Session& session, Arguments& arguments) {
     const bool isNew = arguments.TakeWord("new");
     const std::string file = arguments.Word("FILE");
     const std::vector<std::string> names = TakeNames(arguments);
-    session.Program().Files().ExportRecipes(file, !isNew, names);
+    session.Program().Opened()->files.ExportRecipes(file, !isNew, names);
 }
 
 void Import(Session& session, Arguments& arguments) {
@@ -32,7 +32,7 @@ void Import(Session& session, Arguments& arguments) {
     Shell& program = session.Program();
     std::error_code failure;
     // Every import by an unquoted path ignores a missing file silently, so this one does too.
-    if (std::filesystem::exists(file, failure)) program.Files().ImportRecipes(file, folderId, names);
+    if (std::filesystem::exists(file, failure)) program.Opened()->files.ImportRecipes(file, folderId, names);
 }
 
 void FileSql(Session& session, Arguments& arguments) {

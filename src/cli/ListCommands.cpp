@@ -47,13 +47,13 @@ void PrintList(Session& session, const ListTable& list, std::string_view titles)
 
 lvFiller FillerOf(Session& session) {
     Shell& program = session.Program();
-    return {*program.DB(), program.Data().tree};
+    return {*program.DB(), program.Opened()->data.tree};
 }
 
 void List(Session& session, Arguments& arguments) {
     const std::string key = arguments.Word("KEY");
     const std::string columns = arguments.Text();
-    if (!session.Program().Data().tree.NodeExists(key))
+    if (!session.Program().Opened()->data.tree.NodeExists(key))
         throw ScriptError("there is no entry '" + key + "' in the tree");
     ListTable list;
     lvFiller::SetUpExplorerColumns(list);
@@ -83,7 +83,7 @@ void PickFrom(Session& session, Arguments& arguments) {
         if (!dialog.Press(button)) throw ScriptError("the picker has no button '" + button + "'");
         if (isOff) session.Out().Line("off");
     });
-    session.Program().Services().PickFromCatalogue(document, type, name);
+    session.Program().Opened()->services.PickFromCatalogue(document, type, name);
 }
 
 constexpr Command kCommands[] = {

@@ -5,7 +5,7 @@ namespace tw {
 namespace {
 
 void ReceiveCommands(Session& session, Arguments& arguments) {
-    if (!session.Program().DDE().Receive(ChannelMessage::Commands, arguments.Text()))
+    if (!session.Program().Instance().Receive(ChannelMessage::Commands, arguments.Text()))
         session.Out().Line("refused");
 }
 

@@ -12,38 +12,38 @@ namespace {
 
 void New(Session& session, Arguments& arguments) {
     arguments.End();
-    session.Program().Recipes().Create("");
+    session.Program().Opened()->recipes.Create("");
 }
 
 void Open(Session& session, Arguments& arguments) {
     const std::string name = arguments.LastName("NAME");
-    session.Program().Recipes().OpenByName(name);
+    session.Program().Opened()->recipes.OpenByName(name);
 }
 
 void Save(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
-    session.Program().Saver().Save(document);
+    session.Program().Opened()->saver.Save(document);
 }
 
 void SaveAs(Session& session, Arguments& arguments) {
     const int folder = arguments.Integer("FOLDERID", 0, std::numeric_limits<int>::max());
     const std::string name = arguments.LastName("NAME");
     RecipeDocument& document = session.Document();
-    session.Program().Saver().SaveUnder(document, name, folder);
+    session.Program().Opened()->saver.SaveUnder(document, name, folder);
 }
 
 void Close(Session& session, Arguments& arguments) {
     arguments.End();
     RecipeDocument& document = session.Document();
-    session.Program().Saver().Close(document);
+    session.Program().Opened()->saver.Close(document);
 }
 
 void Documents(Session& session, Arguments& arguments) {
     arguments.End();
     Shell& program = session.Program();
     for (const auto& document : program.Documents().All())
-        session.Out().Line((program.Services().IsActive(*document) ? "*" : "") +
+        session.Out().Line((program.Opened()->services.IsActive(*document) ? "*" : "") +
                            EscapeText(document->Caption()));
 }
 

@@ -46,7 +46,7 @@ Shell& Session::Program() {
         throw StartFailure();
     }
     shell_ = std::move(shell);
-    shell_->DDE().SetTicking(true);
+    shell_->Instance().SetTicking(true);
     return *shell_;
 }
 

@@ -96,7 +96,7 @@ void Tick(Session& session, Arguments& arguments) {
     arguments.End();
     if (timer == "autosave") return session.Program().TickAutoSave();
     if (timer != "dde") throw ScriptError("there is no timer '" + timer + "'");
-    session.Program().DDE().TickDDE();
+    session.Program().Instance().TickDDE();
 }
 
 constexpr Command kCommands[] = {

@@ -11,7 +11,7 @@ namespace tw {
 namespace {
 
 TWNode& NodeAt(Session& session, const std::string& key) {
-    TWNode* const node = session.Program().Data().tree.Nodes(key);
+    TWNode* const node = session.Program().Opened()->data.tree.Nodes(key);
     if (node == nullptr) throw ScriptError("there is no entry '" + key + "' in the tree");
     return *node;
 }
@@ -40,7 +40,7 @@ void PrintTree(Session& session, Arguments& arguments) {
 void CreateFolder(Session& session, Arguments& arguments) {
     const std::string parentKey = arguments.Word("PARENTKEY");
     const std::string name = arguments.Text();
-    const std::string key = session.Program().Data().objects.CreateFolderObject(parentKey, name);
+    const std::string key = session.Program().Opened()->data.objects.CreateFolderObject(parentKey, name);
     if (!key.empty()) session.Out().Line(key);
 }
 
@@ -48,19 +48,19 @@ void Move(Session& session, Arguments& arguments) {
     const std::string source = arguments.Word("the KEY to move");
     const std::string dest = arguments.Word("the KEY to move to");
     arguments.End();
-    session.Program().Data().objects.MoveObject(source, dest);
+    session.Program().Opened()->data.objects.MoveObject(source, dest);
 }
 
 void Rename(Session& session, Arguments& arguments) {
     const std::string key = arguments.Word("KEY");
     const std::string name = arguments.LastName("NAME");
-    session.Program().Data().objects.RenameObject(key, name);
+    session.Program().Opened()->data.objects.RenameObject(key, name);
 }
 
 void Remove(Session& session, Arguments& arguments) {
     const std::string key = arguments.Word("KEY");
     arguments.End();
-    session.Program().Data().objects.DeleteObject(key);
+    session.Program().Opened()->data.objects.DeleteObject(key);
 }
 
 void Can(Session& session, Arguments& arguments) {

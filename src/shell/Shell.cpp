@@ -43,7 +43,7 @@ Shell::OpenParts::OpenParts(Shell& shell, std::unique_ptr<Database> database)
       recipes(data, shell.documents_, services, shell.states_, catalogue, shell.browse_, shell.view_),
       saver(data, shell.documents_, notices, shell.browse_),
       files(data, shell.documents_, shell.states_, shell.own_, shell.notice_, shell.view_),
-      paper(shell.environment_, shell.dde_, data, shell.documents_, shell.store_, shell.own_),
+      paper(shell.environment_, shell.instance_, data, shell.documents_, shell.store_, shell.own_),
       autoSaver(shell.CurrentSettings(), shell.minutes_, data, shell.documents_, saver, files),
       actions({shell.environment_.platform, shell.bar_, shell.view_, shell.recent_, shell.settings_,
                shell.documents_, shell.states_, data, recipes, saver, catalogue, files, paper, shell.help_}) {
@@ -51,7 +51,7 @@ Shell::OpenParts::OpenParts(Shell& shell, std::unique_ptr<Database> database)
 
 Shell::Shell(ShellEnvironment environment)
     : environment_(std::move(environment)),
-      dde_(*this, environment_.platform.messages),
+      instance_(*this, environment_.platform.messages),
       store_(environment_.platform.settings),
       recent_(bar_),
       states_(bar_, environment_.platform.clipboard,
@@ -127,7 +127,7 @@ void Shell::Unload(bool storeGeometry) {
     settings_.Keep(storeGeometry);
     recent_.Store(store_);
     while (!documents_.All().empty()) documents_.Remove(*documents_.All().back());
-    dde_.ShutdownDDE();
+    instance_.ShutdownDDE();
     unsaved_.End();
     notice_.Watch(nullptr);
     open_.reset();

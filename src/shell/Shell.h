@@ -83,25 +83,11 @@ class Shell final : private InstanceHost {
     HelpDesk& Helping() { return help_; }
     // Keeps one instance on a desktop and receives commands from outside. They wait while its ticking is off:
     // until the start is complete, and while a print job runs.
-    InstanceService& DDE() { return dde_; }
+    InstanceService& Instance() { return instance_; }
     // The last state of the open and save dialog and of the explorer.
     const OpenSaveFields& BrowseFields() const { return browse_; }
 
-    // Returns nullptr while the database is not open.
-    Database* DB();
-    // The parts that need the database. REQUIRES: the database is open.
-    OpenedDatabase& Data() { return open_->data; }
-    DatabaseNotices& Notices() { return open_->notices; }
-    CatalogueDesk& Catalogue() { return open_->catalogue; }
-    RecipeServices& Services() { return open_->services; }
-    RecipeDesk& Recipes() { return open_->recipes; }
-    RecipeSaver& Saver() { return open_->saver; }
-    ExchangeDesk& Files() { return open_->files; }
-    PrintDesk& Paper() { return open_->paper; }
-    AutoSaver& AutoSaving() { return open_->autoSaver; }
-
-  private:
-    // Each part depends only on parts declared above it.
+    // The parts that need the database. Each depends only on parts declared above it.
     struct OpenParts {
         OpenParts(Shell& shell, std::unique_ptr<Database> database);
         DatabaseNotices notices;
@@ -115,7 +101,11 @@ class Shell final : private InstanceHost {
         AutoSaver autoSaver;
         ShellActions actions;
     };
+    // Each returns nullptr while the database is not open.
+    OpenParts* Opened() { return open_.get(); }
+    Database* DB();
 
+  private:
     // InstanceHost
     bool IsDialogOpen() const override { return view_->IsDialogOpen(); }
     void BringToFront() override { view_->BringToFront(); }
@@ -126,7 +116,7 @@ class Shell final : private InstanceHost {
 
     ShellEnvironment environment_;
     ViewSlot view_;
-    InstanceService dde_;
+    InstanceService instance_;
     SettingsStore store_;
     OpenSaveFields browse_;
     OwnFiles own_;

@@ -22,7 +22,7 @@ class AutoSaveWindow : public GuiTest {
     RecipeDocument& Stored(const char* name) {
         NewRecipe();
         RecipeDocument& document = *shell.Documents().Active();
-        EXPECT_TRUE(shell.Saver().SaveUnder(document, name, 0, Asking::Quietly));
+        EXPECT_TRUE(shell.Opened()->saver.SaveUnder(document, name, 0, Asking::Quietly));
         return document;
     }
     std::string StoredNotes() {
@@ -30,7 +30,7 @@ class AutoSaveWindow : public GuiTest {
     }
     // Shows the real window of autosave instead of the recorded one.
     void RunAutoSave() {
-        AutoSaveModel model = shell.AutoSaving().Progress();
+        AutoSaveModel model = shell.Opened()->autoSaver.Progress();
         AutoSaveDialog progress(model, &window);
         progress.exec();
         EXPECT_FALSE(model.IsOpen());
@@ -72,7 +72,7 @@ TEST_F(AutoSaveWindow, TheWindowSavesAndGoesByItself) {
 TEST_F(AutoSaveWindow, ShowsTheRecipeAndHowFarItIs) {
     Stored("Stout");
     Stored("Porter");
-    AutoSaveModel model = shell.AutoSaving().Progress();
+    AutoSaveModel model = shell.Opened()->autoSaver.Progress();
     AutoSaveDialog progress(model, &window);
     EXPECT_EQ(progress.findChild<QLabel*>(QStringLiteral("lblRecipe"))->text(), QString());
     progress.exec();
@@ -84,7 +84,7 @@ TEST_F(AutoSaveWindow, ShowsTheRecipeAndHowFarItIs) {
 }
 
 TEST_F(AutoSaveWindow, SaysWhatItIsSaving) {
-    AutoSaveModel model = shell.AutoSaving().Progress();
+    AutoSaveModel model = shell.Opened()->autoSaver.Progress();
     const AutoSaveDialog progress(model, &window);
     for (const auto& [name, text] :
          {std::pair("Label1", "Saving your open recipes."), std::pair("Label2", "Recipe:")}) {
@@ -130,7 +130,7 @@ TEST_F(AutoSaveWindow, EditsAreKeptSomeSecondsLater) {
     ASSERT_TRUE(other.StartUp(FromQt(database)));
     EXPECT_TRUE(outside.dialogs.shown.empty());
     auto* timer = other.findChild<QTimer*>(QStringLiteral("tmrKeepUnsaved"));
-    RecipeDocument& document = second.Recipes().Create("");
+    RecipeDocument& document = second.Opened()->recipes.Create("");
     EXPECT_FALSE(timer->isActive());
     document.Fields().SetText(document.Record().txtNotes, "typed");
     EXPECT_TRUE(timer->isActive());
@@ -159,7 +159,7 @@ TEST_F(AutoSaveWindow, TheStatusBarSaysWhileWorkIsNotKept) {
     auto* notice = other.findChild<QLabel*>(QStringLiteral("lblNotice"));
     auto* timer = other.findChild<QTimer*>(QStringLiteral("tmrKeepUnsaved"));
     ASSERT_NE(notice, nullptr);
-    RecipeDocument& document = second.Recipes().Create("");
+    RecipeDocument& document = second.Opened()->recipes.Create("");
     document.Fields().SetText(document.Record().txtNotes, "typed");
     EXPECT_EQ(notice->text(), QString());
     const auto tick = [&] {
@@ -195,7 +195,7 @@ TEST_F(AutoSaveWindow, TheRecoveryWindowRestoresWhatIsChosen) {
         lost.Environment().recoveryFolder = root;
         ASSERT_TRUE(lost.PerformSplashScreenInit(FromQt(database)));
         for (const char* name : {"Stout", "Porter"}) {
-            RecipeDocument& document = lost.Recipes().Create("");
+            RecipeDocument& document = lost.Opened()->recipes.Create("");
             document.Fields().SetText(document.Record().txtName, name);
         }
         lost.Unsaved().Keep();

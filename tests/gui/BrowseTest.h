@@ -16,7 +16,7 @@ class BrowseTest : public GuiTest {
     // the root, 3 Porter in Winter.
     void SetUp() override {
         GuiTest::SetUp();
-        DB_IO& objects = shell.Data().objects;
+        DB_IO& objects = shell.Opened()->data.objects;
         objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
         objects.CreateRecipeFolder(1, "Dark", Asking::Quietly);
         objects.CreateStyleFolder(0, "British", Asking::Quietly);

@@ -26,7 +26,7 @@ class CatalogueWindows : public GuiTest {
         for (const char* name : {"Cascade", "Fuggle", "Saaz"})
             shell.DB()->Execute(std::string("INSERT INTO HOPS (NAME, AA_LO, AA_HI) VALUES ('") + name +
                                 "', 4, 6)");
-        context.emplace(shell.Catalogue().Context());
+        context.emplace(shell.Opened()->catalogue.Context());
     }
     // Shows a window and makes it the active one.
     template <class Window>
@@ -144,7 +144,7 @@ TEST_F(CatalogueWindows, StepsShowOtherRowsAndDropWhatIsTyped) {
 }
 
 TEST_F(CatalogueWindows, AStyleHasItsListsItsFolderAndItsColour) {
-    shell.Data().objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
+    shell.Opened()->data.objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
     shell.DB()->Execute("INSERT INTO WATER_PROFILES (NAME) VALUES ('Dublin')");
     const auto model = MakeEditor(CatalogueKind::Style, *context);
     model->SetName("Stout");
@@ -305,7 +305,7 @@ TEST_F(CatalogueWindows, SetupTakesItsKeysAlsoBesideTheList) {
 
 TEST_F(CatalogueWindows, SetupIsOffOnAFolderAndEntersIt) {
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0");
-    shell.Data().objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
+    shell.Opened()->data.objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
     DatabaseSetupModel model(*context);
     DatabaseSetupDialog setup(model, nullptr);
     Up(setup);
@@ -323,7 +323,7 @@ TEST_F(CatalogueWindows, AFolderOfStylesShowsItsColumnsInFull) {
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 0, TYPE = 0");
     // So many that there is a scroll bar next to them, which disappears inside the folder.
     for (int i = 0; i < 60; ++i)
-        shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), Asking::Quietly);
+        shell.Opened()->data.objects.CreateStyleFolder(0, "Folder " + std::to_string(i), Asking::Quietly);
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1");
     DatabaseSetupModel model(*context);
     DatabaseSetupDialog setup(model, nullptr);
@@ -407,7 +407,7 @@ TEST_F(CatalogueWindows, APickerShowsItsRowToBeRead) {
         picker.Press("cmdView");
         picker.Press("cmdOK");
     });
-    shell.Services().PickFromCatalogue(*shell.Documents().Active(), CatalogueKind::Hop, "Fuggle");
+    shell.Opened()->services.PickFromCatalogue(*shell.Documents().Active(), CatalogueKind::Hop, "Fuggle");
     EXPECT_THAT(outside.dialogs.shown, ElementsAre("frmLvShow", "frmHop"));
     EXPECT_EQ(shell.Documents().Active()->Record().gridHops.Text(1, 0), "Saaz");
 }

@@ -70,7 +70,7 @@ TEST_F(DocumentWindow, KeepsARecipeThroughSavingClosingAndOpening) {
     EXPECT_EQ(window.ActiveWindow(), nullptr);
     EXPECT_EQ(outside.messages.log, Strings{});
 
-    shell.Recipes().OpenByName("Night Shift");
+    shell.Opened()->recipes.OpenByName("Night Shift");
     ASSERT_NE(window.ActiveWindow(), nullptr);
     EXPECT_EQ(Text("txtName"), "Night Shift");
     EXPECT_EQ(Text("txtTotalVol"), "5 gal");

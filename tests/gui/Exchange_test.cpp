@@ -25,7 +25,7 @@ class Exchange : public GuiTest {
         for (const char* name : {"Ale", "Mild"}) {
             shell.DB()->Execute(std::string("INSERT INTO RECIPES (NAME, FOLDER_ID, STYLE_ID) VALUES ('") +
                                 name + "', 0, 0)");
-            shell.Data().objects.AddRecipeNodesByName(name);
+            shell.Opened()->data.objects.AddRecipeNodesByName(name);
         }
     }
     static void Show(QDialog& dialog) {
@@ -47,7 +47,7 @@ class Exchange : public GuiTest {
 };
 
 TEST_F(Exchange, RecipesArePickedAndTakenOnWithTheKeyboardAlone) {
-    ImportExportModel model(shell.Data().tree, false);
+    ImportExportModel model(shell.Opened()->data.tree, false);
     ImportExportDialog dialog(model, nullptr);
     Show(dialog);
     EXPECT_EQ(FromQt(dialog.windowTitle()), "Export Recipes");
@@ -66,7 +66,7 @@ TEST_F(Exchange, RecipesArePickedAndTakenOnWithTheKeyboardAlone) {
 }
 
 TEST_F(Exchange, NextGoesDarkWhenTheLastRecipeIsTakenOut) {
-    ImportExportModel model(shell.Data().tree, true);
+    ImportExportModel model(shell.Opened()->data.tree, true);
     ImportExportDialog dialog(model, nullptr);
     Show(dialog);
     EXPECT_EQ(FromQt(dialog.windowTitle()), "Import Recipes");
@@ -153,7 +153,7 @@ TEST_F(Exchange, EveryDialogHasAWindowOfItsOwn) {
     QtDialogs dialogs(outside.settings);
     QtColorChooser colors;
     RegisterDialogWindows(dialogs, colors);
-    ImportExportModel recipes(shell.Data().tree, true);
+    ImportExportModel recipes(shell.Opened()->data.tree, true);
     NameConflictModel conflict("Mild", true, outside.messages);
     StylesNotImportedModel styles({});
     FileDialogModel file({}, outside.messages);

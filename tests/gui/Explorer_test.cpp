@@ -15,7 +15,7 @@ class ExplorerWindowTest : public BrowseTest {
     void SetUp() override {
         BrowseTest::SetUp();
         model = std::make_unique<ExplorerModel>(
-            shell.Data().Access(),
+            shell.Opened()->data.Access(),
             ExplorerModel::Hooks{[this](const std::string& name) { opened.push_back(name); },
                                  [this](const std::string& name, std::int64_t) {
                                      edited.push_back(name);
@@ -91,11 +91,11 @@ TEST_F(ExplorerWindowTest, F2EditsANameInTheList) {
         List().setFocus();
         QTest::keyClick(&List(), Qt::Key_F2);
         TypeName(List(), "Brown");
-        EXPECT_EQ(shell.Data().tree.Nodes("R:2:3")->Name(), "Brown");
+        EXPECT_EQ(shell.Opened()->data.tree.Nodes("R:2:3")->Name(), "Brown");
         EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "Brown"}));
         EXPECT_TRUE(List().hasFocus());
         EXPECT_TRUE(dialog->isVisible());
-        shell.Data().objects.RenameObject("R:2:3", "mild", Asking::Quietly);
+        shell.Opened()->data.objects.RenameObject("R:2:3", "mild", Asking::Quietly);
         model->Settle();
     }
     EXPECT_EQ(Boxes(), Strings{});
@@ -135,7 +135,7 @@ TEST_F(ExplorerWindowTest, ARefusedNameLeavesTheFocusWhereItWas) {
         Key(Qt::Key_Home);
         EXPECT_EQ(model->List(Page::Recipes).SelectedKey(), "F:1") << look;
     }
-    shell.Data().objects.CreateRecipeFolder(0, "Zwickl", Asking::Quietly);
+    shell.Opened()->data.objects.CreateRecipeFolder(0, "Zwickl", Asking::Quietly);
     model->Settle();
     Click(Tree(), Node("F:1"));
     refuse(Tree(), "zwickl");
@@ -175,15 +175,15 @@ TEST_F(ExplorerWindowTest, AFolderIsMadeAndNamedInTheTree) {
     QTest::keyClick(&Tree(), Qt::Key_Insert);
     TypeName(Tree(), "Autumn");
     EXPECT_EQ(model->NodeKey(), "F:4");
-    EXPECT_EQ(shell.Data().tree.Nodes("F:4")->Name(), "Autumn");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("F:4")->Name(), "Autumn");
     EXPECT_EQ(FromQt(Tree().currentIndex().data().toString()), "Autumn");
     EXPECT_EQ(Tree().currentIndex().row(), 0);  // at its place in the sort order
     QTest::keyClick(&Tree(), Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
     TypeName(Tree(), "Late");
-    EXPECT_EQ(shell.Data().tree.Nodes("F:5")->Parent()->Key(), "F:4");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("F:5")->Parent()->Key(), "F:4");
     QTest::keyClick(&Tree(), Qt::Key_F2);
     TypeName(Tree(), "Later");
-    EXPECT_EQ(shell.Data().tree.Nodes("F:5")->Name(), "Later");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("F:5")->Name(), "Later");
 }
 
 TEST_F(ExplorerWindowTest, KeysThatEditANameMakeNoFolder) {
@@ -239,16 +239,16 @@ TEST_F(ExplorerWindowTest, ObjectsAreDraggedFromListToTree) {
     EXPECT_FALSE(Drop(Tree(), Node("F:-1"), {"R:1:3"}));
     EXPECT_FALSE(Drop(Tree(), Node("X:DB"), {"F:1"}));
     EXPECT_FALSE(Drop(Tree(), Node("F:1"), {"F:1"}));
-    EXPECT_EQ(shell.Data().tree.Nodes("R:1:3")->Parent()->Key(), "F:1");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("R:1:3")->Parent()->Key(), "F:1");
 }
 
 TEST_F(ExplorerWindowTest, ObjectsAreDraggedOnFoldersOfTheList) {
     for (const char* view : {"mnuDetails", "mnuLargeIcons", "mnuList"}) {
         Press(view);
         EXPECT_TRUE(Drop(List(), RowOf(List(), "Winter"), {"R:1:3"})) << view;
-        EXPECT_EQ(shell.Data().tree.Nodes("R:1:3")->Parent()->Key(), "F:1");
+        EXPECT_EQ(shell.Opened()->data.tree.Nodes("R:1:3")->Parent()->Key(), "F:1");
         EXPECT_FALSE(Drop(List(), RowOf(List(), "mild"), {"F:2"}));
-        shell.Data().objects.MoveObject("R:1:3", "F:0", Asking::Quietly);
+        shell.Opened()->data.objects.MoveObject("R:1:3", "F:0", Asking::Quietly);
         model->Settle();
     }
 }
@@ -277,7 +277,7 @@ TEST_F(ExplorerWindowTest, AFolderDroppedOnItsOwnChildIsToldOf) {
     EXPECT_TRUE(Drop(Tree(), Node("F:2"), {"F:1"}));
     EXPECT_EQ(Boxes(), Strings{"[Could not move folder] The destination folder is a sub-folder of the source "
                                "folder"});
-    EXPECT_EQ(shell.Data().tree.Nodes("F:1")->Parent()->Key(), "F:0");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("F:1")->Parent()->Key(), "F:0");
 }
 
 TEST_F(ExplorerWindowTest, AStrangerIsNotTaken) {
@@ -313,7 +313,7 @@ TEST_F(ExplorerWindowTest, TheMenuOfARowIsLitByItsKey) {
     Item(*menu, "mnuRename")->trigger();
     Close(menu);
     TypeName(List(), "Bitter");
-    EXPECT_EQ(shell.Data().tree.Nodes("R:1:3")->Name(), "Bitter");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("R:1:3")->Name(), "Bitter");
 }
 
 TEST_F(ExplorerWindowTest, TheMenuOfAnEntryOfTheTreeIsLitByItsKey) {
@@ -350,8 +350,8 @@ TEST_F(ExplorerWindowTest, ARecipeIsDraggedToAnotherStyle) {
     EXPECT_EQ(Rows(List()), (Strings{"Ale", "mild", "Porter"}));
     EXPECT_TRUE(Drop(Tree(), Node("S:1:1"), {"R:3:2"}));
     EXPECT_EQ(Rows(List()), (Strings{"Ale", "mild"}));
-    EXPECT_EQ(shell.Data().tree.Nodes("R:3:3")->Parent()->Key(), "F:1");
-    EXPECT_EQ(shell.Data().tree.Nodes("R:3:1")->Parent()->Key(), "S:1:0");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("R:3:3")->Parent()->Key(), "F:1");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("R:3:1")->Parent()->Key(), "S:1:0");
 }
 
 TEST_F(ExplorerWindowTest, EachPageKeepsItsPlace) {
@@ -366,7 +366,7 @@ TEST_F(ExplorerWindowTest, EachPageKeepsItsPlace) {
 
 TEST_F(ExplorerWindowTest, TheStylesOpenWithTheirFirstRowsInSight) {
     for (int i = 0; i < 60; ++i)
-        shell.Data().objects.CreateStyleFolder(0, "Folder " + std::to_string(i), Asking::Quietly);
+        shell.Opened()->data.objects.CreateStyleFolder(0, "Folder " + std::to_string(i), Asking::Quietly);
     model->Settle();
     Button("optStyles").click();
     QApplication::processEvents();
@@ -384,7 +384,7 @@ TEST_F(ExplorerWindowTest, TheStylesOpenWithTheirFirstRowsInSight) {
 
 TEST_F(ExplorerWindowTest, TheTreeTellsInATipWhatItCuts) {
     EXPECT_EQ(FromQt(Node("F:1").data(Qt::ToolTipRole).toString()), "Winter");
-    shell.Data().objects.RenameObject("F:1", "<b>Winter</b>", Asking::Quietly);
+    shell.Opened()->data.objects.RenameObject("F:1", "<b>Winter</b>", Asking::Quietly);
     model->Settle();
     EXPECT_THAT(FromQt(Node("F:1").data(Qt::ToolTipRole).toString()), testing::HasSubstr("&lt;b&gt;"));
 }
@@ -407,7 +407,7 @@ TEST_F(ExplorerWindowTest, TheButtonsAreAboutTheRowsOrTheEntry) {
     EXPECT_TRUE(Button("cmdDelete").isEnabled());
     Button("cmdRename").click();
     TypeName(Tree(), "Cold");
-    EXPECT_EQ(shell.Data().tree.Nodes("F:1")->Name(), "Cold");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("F:1")->Name(), "Cold");
     Click(List(), RowOf(List(), "Porter"));
     Button("cmdDelete").click();
     EXPECT_EQ(Boxes(), Strings{"[Confirm Delete] Are you sure you want to delete 'Porter'? -> No"});

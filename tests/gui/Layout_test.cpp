@@ -65,8 +65,8 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         AboutModel about;
         DetailsModel strength = StrengthDetails(1.05, 1.01), hops = HopDetails(1.05, 30);
         DetailsModel volume = FinalVolDetails({5, 0, 5, 1.05, 1.01});
-        OpenSaveModel openSave(OpenSaveModel::Style::Open, shell.Data().Access(), {});
-        ExplorerModel recipes(shell.Data().Access(), {}), styles(shell.Data().Access(), {});
+        OpenSaveModel openSave(OpenSaveModel::Style::Open, shell.Opened()->data.Access(), {});
+        ExplorerModel recipes(shell.Opened()->data.Access(), {}), styles(shell.Opened()->data.Access(), {});
         styles.Show(ExplorerModel::Page::Styles);
         CannotUndoModel cannotUndo;
         AboutDialog aboutWindow(about, nullptr);
@@ -133,16 +133,16 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
     void ForEachChooser(const std::function<void(QWidget&)>& visit) {
         for (const CatalogueKind list :
              {CatalogueKind::Style, CatalogueKind::Grain, CatalogueKind::Hop, CatalogueKind::Yeast}) {
-            CataloguePickerModel picker(list, *shell.DB(), shell.Data().tree, "");
+            CataloguePickerModel picker(list, *shell.DB(), shell.Opened()->data.tree, "");
             CataloguePickerDialog pickerWindow(picker, nullptr);
             pickerWindow.show();
             QApplication::processEvents();
             visit(pickerWindow);
         }
-        ChooseFolderModel folders(shell.Data().tree, shell.Data().objects);
+        ChooseFolderModel folders(shell.Opened()->data.tree, shell.Opened()->data.objects);
         ChooseFolderDialog folderWindow(folders, nullptr);
         RecipeChooser recipes;
-        recipes.SetTree(&shell.Data().tree);
+        recipes.SetTree(&shell.Opened()->data.tree);
         recipes.SetAction("Export");
         recipes.Initialize();
         RecipeChooserView chooser(recipes, nullptr);
@@ -156,7 +156,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
     // Visits the dialogs of import and export, with names that are longer than any window.
     void ForEachExchange(const std::function<void(QWidget&)>& visit) {
         const std::string name(1000, 'W');
-        ImportExportModel in(shell.Data().tree, true), out(shell.Data().tree, false);
+        ImportExportModel in(shell.Opened()->data.tree, true), out(shell.Opened()->data.tree, false);
         NameConflictModel conflict(name, false, outside.messages);
         StylesNotImportedModel styles({{name, "Stout"}});
         ProgressModel progress("Importing Recipes", {});
@@ -176,7 +176,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
 
     // Visits database setup and the editor of each catalogue, both for a new entry and for an existing one.
     void ForEachEditor(const std::function<void(QWidget&)>& visit) {
-        const CatalogueContext context = shell.Catalogue().Context();
+        const CatalogueContext context = shell.Opened()->catalogue.Context();
         for (const CatalogueKind catalogue : kSetupOrder) {
             DatabaseSetupModel setup(context);
             setup.Choose(catalogue);
@@ -214,7 +214,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         NoPrinterModel noPrinter;
         NoPrinterDialog noPrinterWindow(noPrinter, nullptr);
         show(noPrinterWindow);
-        PrintWizardModel wizard({*shell.DB(), shell.Data().tree, shell.Store(), outside.messages,
+        PrintWizardModel wizard({*shell.DB(), shell.Opened()->data.tree, shell.Store(), outside.messages,
                                  outside.dialogs, nullptr, shell.Own()},
                                 0);
         wizard.Chooser().Add("F:-1");

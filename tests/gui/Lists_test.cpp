@@ -231,7 +231,7 @@ TEST_F(Choosers, TheStyleBoxTakesACode) {
 
 TEST_F(Choosers, TheStylePickerNamesTheGuidesOfItsCodes) {
     const auto guides = [this] {
-        CataloguePickerModel model(CatalogueKind::Style, *shell.DB(), shell.Data().tree, "");
+        CataloguePickerModel model(CatalogueKind::Style, *shell.DB(), shell.Opened()->data.tree, "");
         CataloguePickerDialog picker(model, nullptr);
         picker.show();
         auto* label = picker.findChild<QLabel*>(QStringLiteral("lblGuides"));
@@ -283,7 +283,7 @@ TEST_F(Choosers, ADoubleClickElsewhereOpensTheEditor) {
 }
 
 TEST_F(Choosers, ThePickerOpensOnItsNameAndEnterTakesIt) {
-    CataloguePickerModel model(CatalogueKind::Hop, *shell.DB(), shell.Data().tree, "saaz");
+    CataloguePickerModel model(CatalogueKind::Hop, *shell.DB(), shell.Opened()->data.tree, "saaz");
     CataloguePickerDialog picker(model, nullptr);
     picker.show();
     QApplication::setActiveWindow(&picker);
@@ -299,7 +299,7 @@ TEST_F(Choosers, ThePickerOpensOnItsNameAndEnterTakesIt) {
 }
 
 TEST_F(Choosers, AnEmptyPickerOffersNothing) {
-    CataloguePickerModel model(CatalogueKind::Sugar, *shell.DB(), shell.Data().tree, "Corn");
+    CataloguePickerModel model(CatalogueKind::Sugar, *shell.DB(), shell.Opened()->data.tree, "Corn");
     CataloguePickerDialog picker(model, nullptr);
     picker.show();
     EXPECT_FALSE(picker.findChild<QPushButton*>(QStringLiteral("cmdOK"))->isEnabled());
@@ -316,7 +316,7 @@ TEST_F(Choosers, AYeastShowsItsFiguresFromTheFirst) {
         "the Long Street WLP099 Super High Gravity Ale Yeast', 'Ferments a strong wort dry and leaves it "
         "clean "
         "of nearly everything', 4, 'Very High', 65, 100.5, 61.5, 68.5)");
-    CataloguePickerModel model(CatalogueKind::Yeast, *shell.DB(), shell.Data().tree, "");
+    CataloguePickerModel model(CatalogueKind::Yeast, *shell.DB(), shell.Opened()->data.tree, "");
     CataloguePickerDialog picker(model, nullptr);
     picker.show();
     QApplication::processEvents();
@@ -335,9 +335,9 @@ TEST_F(Choosers, AYeastShowsItsFiguresFromTheFirst) {
 }
 
 TEST_F(Choosers, TheStyleListFollowsTheFolderByKey) {
-    shell.Data().objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
+    shell.Opened()->data.objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
     shell.DB()->Execute("UPDATE STYLES SET FOLDER_ID = 1 WHERE NAME = 'Bock'");
-    CataloguePickerModel model(CatalogueKind::Style, *shell.DB(), shell.Data().tree, "");
+    CataloguePickerModel model(CatalogueKind::Style, *shell.DB(), shell.Opened()->data.tree, "");
     CataloguePickerDialog picker(model, nullptr);
     picker.show();
     QApplication::setActiveWindow(&picker);
@@ -351,7 +351,7 @@ TEST_F(Choosers, TheStyleListFollowsTheFolderByKey) {
 }
 
 TEST_F(Choosers, AFolderIsMadeAndNamedInPlace) {
-    ChooseFolderModel model(shell.Data().tree, shell.Data().objects);
+    ChooseFolderModel model(shell.Opened()->data.tree, shell.Opened()->data.objects);
     ChooseFolderDialog dialog(model, nullptr);
     dialog.show();
     QApplication::setActiveWindow(&dialog);
@@ -364,7 +364,7 @@ TEST_F(Choosers, AFolderIsMadeAndNamedInPlace) {
     QTest::keyClick(editor, Qt::Key_Return);
     QApplication::processEvents();
     EXPECT_EQ(model.FolderChooser1().FolderID(), 1);
-    EXPECT_EQ(shell.Data().tree.Nodes("F:1")->Name(), "Winter");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("F:1")->Name(), "Winter");
     EXPECT_EQ(FromQt(tree->currentIndex().data().toString()), "Winter");
     EXPECT_TRUE(dialog.isVisible());
     dialog.findChild<QPushButton*>(QStringLiteral("cmdOK"))->click();
@@ -373,9 +373,9 @@ TEST_F(Choosers, AFolderIsMadeAndNamedInPlace) {
 }
 
 TEST_F(Choosers, ARefusedNameOfAFolderIsTakenBackAfterOneBox) {
-    shell.Data().objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
-    shell.Data().objects.CreateRecipeFolder(0, "Autumn", Asking::Quietly);
-    FolderChooser chooser(shell.Data().tree, shell.Data().objects);
+    shell.Opened()->data.objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
+    shell.Opened()->data.objects.CreateRecipeFolder(0, "Autumn", Asking::Quietly);
+    FolderChooser chooser(shell.Opened()->data.tree, shell.Opened()->data.objects);
     FolderChooserView view(chooser, nullptr);
     view.show();
     QApplication::setActiveWindow(&view);
@@ -395,8 +395,8 @@ TEST_F(Choosers, ARefusedNameOfAFolderIsTakenBackAfterOneBox) {
 }
 
 TEST_F(Choosers, ALockedFolderStaysChosen) {
-    shell.Data().objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
-    FolderChooser chooser(shell.Data().tree, shell.Data().objects);
+    shell.Opened()->data.objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
+    FolderChooser chooser(shell.Opened()->data.tree, shell.Opened()->data.objects);
     chooser.SetFolderID(1);
     chooser.SetLocked(true);
     FolderChooserView view(chooser, nullptr);
@@ -417,9 +417,9 @@ class RecipePicking : public GuiTest {
         for (const char* name : {"Ale", "Mild"}) {
             shell.DB()->Execute(std::string("INSERT INTO RECIPES (NAME, FOLDER_ID, STYLE_ID) VALUES ('") +
                                 name + "', 0, 0)");
-            shell.Data().objects.AddRecipeNodesByName(name);
+            shell.Opened()->data.objects.AddRecipeNodesByName(name);
         }
-        chooser.SetTree(&shell.Data().tree);
+        chooser.SetTree(&shell.Opened()->data.tree);
         chooser.SetAction("Export");
         chooser.Initialize();
     }

@@ -11,7 +11,7 @@ class OpenSaveWindow : public BrowseTest {
   protected:
     void Open(Style style, const char* name = "") {
         dialog.reset();
-        model = std::make_unique<OpenSaveModel>(style, shell.Data().Access(), OpenSaveFields());
+        model = std::make_unique<OpenSaveModel>(style, shell.Opened()->data.Access(), OpenSaveFields());
         if (style == Style::Save) model->SetRecipe(name, 0);
         dialog = std::make_unique<OpenSaveDialog>(*model, nullptr);
         Front(*dialog);
@@ -130,7 +130,7 @@ TEST_F(OpenSaveWindow, AFolderIsMadeAndNamedOnTheSpot) {
     TypeName(List(), "Autumn");
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "mild", "Autumn"}));
-    EXPECT_EQ(shell.Data().tree.Nodes("F:4")->Name(), "Autumn");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("F:4")->Name(), "Autumn");
     EXPECT_EQ(FromQt(Name().text()), "Harvest");
     QTest::keyClick(&List(), Qt::Key_Return);
     EXPECT_EQ(model->NodeKey(), "F:4");
@@ -216,7 +216,7 @@ TEST_F(OpenSaveWindow, EscapeAndTheCloseBoxCancel) {
 }
 
 TEST_F(OpenSaveWindow, AnEmptyListSaysWhatToDo) {
-    for (const char* key : {"R:1:0", "R:2:0", "R:3:0", "F:1"}) shell.Data().objects.DeleteObject(key);
+    for (const char* key : {"R:1:0", "R:2:0", "R:3:0", "F:1"}) shell.Opened()->data.objects.DeleteObject(key);
     Open(Style::Save, "First");
     EXPECT_EQ(Rows(List()), Strings{});
     EXPECT_EQ(model->List().Hint().substr(0, 8), "There is");

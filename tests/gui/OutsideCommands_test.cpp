@@ -10,7 +10,7 @@ class OutsideCommands : public GuiTest {
     // Makes the timer tick now.
     void Tick() { QMetaObject::invokeMethod(&Timer(), "timeout", Qt::DirectConnection); }
     // Receives a command whose only effect is the message box below.
-    void Receive() { shell.DDE().Receive(ChannelMessage::Commands, "[import(\"/no/a.twr\")]"); }
+    void Receive() { shell.Instance().Receive(ChannelMessage::Commands, "[import(\"/no/a.twr\")]"); }
     const std::string box =
         "[Invalid Import File] An error occurred trying to import a file:\r\n  /NO/A.TWR\r\nThis file could "
         "not "
@@ -60,11 +60,11 @@ TEST_F(OutsideCommands, RunWhileARecipeIsOpen) {
 }
 
 TEST_F(OutsideCommands, WaitWhileTheTimerIsOff) {
-    shell.DDE().SetTicking(false);
+    shell.Instance().SetTicking(false);
     Receive();
     Tick();
     EXPECT_EQ(outside.messages.TakeLog(), Strings{});
-    shell.DDE().SetTicking(true);
+    shell.Instance().SetTicking(true);
     Tick();
     EXPECT_EQ(outside.messages.TakeLog(), Strings{box});
 }
@@ -72,7 +72,7 @@ TEST_F(OutsideCommands, WaitWhileTheTimerIsOff) {
 TEST_F(OutsideCommands, BringAMinimisedWindowBackAsItWas) {
     window.showMaximized();
     window.setWindowState(window.windowState() | Qt::WindowMinimized);
-    shell.DDE().Receive(ChannelMessage::Commands, "Activate");
+    shell.Instance().Receive(ChannelMessage::Commands, "Activate");
     EXPECT_FALSE(window.isMinimized());
     EXPECT_TRUE(window.isMaximized());
     EXPECT_TRUE(window.isVisible());
@@ -90,15 +90,15 @@ TEST(StartWithAFile, ImportsItAndThenTakesWhatCameFromOutside) {
     RecordingPlatform outside;
     Shell shell({outside.platform});
     MainWindow window(shell, outside.platform);
-    shell.DDE().Receive(ChannelMessage::Commands, "[IMPORT(\"/no/b\")]");
-    shell.DDE().TickDDE();
+    shell.Instance().Receive(ChannelMessage::Commands, "[IMPORT(\"/no/b\")]");
+    shell.Instance().TickDDE();
     EXPECT_EQ(outside.messages.TakeLog(), Strings{});
     ASSERT_TRUE(window.StartUp(":memory:", " \"/no/a\" "));
     EXPECT_EQ(
         outside.messages.TakeLog(),
         Strings{"[Invalid Import File] An error occurred trying to import a file:\r\n  /no/a\r\nThis file "
                 "could not be found."});
-    shell.DDE().TickDDE();
+    shell.Instance().TickDDE();
     EXPECT_EQ(
         outside.messages.TakeLog(),
         Strings{"[Invalid Import File] An error occurred trying to import a file:\r\n  /NO/B\r\nThis file "
@@ -122,9 +122,9 @@ TEST(SecondStart, EndsBeforeItTouchesAnything) {
     Shell shell({outside.platform});
     MainWindow window(shell, outside.platform);
     window.show();
-    shell.DDE().SetChannel(&channel);
+    shell.Instance().SetChannel(&channel);
     EXPECT_FALSE(window.StartUp("/no/such/database.mdb"));
-    EXPECT_TRUE(shell.DDE().HandedOver());
+    EXPECT_TRUE(shell.Instance().HandedOver());
     EXPECT_FALSE(window.isVisible());
     EXPECT_EQ(
         outside.messages.TakeLog(),

@@ -58,7 +58,7 @@ TEST_F(AutoSaveTest, EveryMinuteSavesAtEachTick) {
 
 TEST_F(AutoSaveTest, NothingOpenShowsNothing) {
     Tick(3);
-    shell.AutoSaving().Run();
+    shell.Opened()->autoSaver.Run();
     EXPECT_EQ(Runs(), 0u);
 }
 
@@ -79,7 +79,7 @@ TEST_F(AutoSaveTest, ClosingTheLastDocumentStartsTheCountAgain) {
     shell.CurrentSettings().doAutoSaveEvery = 2;
     RecipeDocument& stout = NewSaved("Stout");
     Tick();
-    shell.Saver().Close(stout);
+    shell.Opened()->saver.Close(stout);
     Tick();
     NewSaved("Porter");
     Tick();
@@ -145,7 +145,7 @@ TEST_F(AutoSaveTest, TheStartTakesTheStoredSetting) {
 }
 
 TEST_F(AutoSaveTest, ANewRecipeIsPassedOverSilently) {
-    RecipeDocument& unnamed = shell.Recipes().Create("");
+    RecipeDocument& unnamed = shell.Opened()->recipes.Create("");
     Note(unnamed, "sour");
     RecipeDocument& named = NewNamed("Stout");
     Tick();
@@ -158,7 +158,7 @@ TEST_F(AutoSaveTest, ANewRecipeIsPassedOverSilently) {
 
 TEST_F(AutoSaveTest, ADetachedRecipeIsPassedOver) {
     RecipeDocument& stout = NewSaved("Stout");
-    shell.Services().DeleteRecipe("Stout");
+    shell.Opened()->services.DeleteRecipe("Stout");
     Tick();
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
     EXPECT_TRUE(stout.Changed());
@@ -206,9 +206,9 @@ TEST_F(AutoSaveTest, AnErrorHasItsBoxAndTheOthersAreSaved) {
 
 TEST_F(AutoSaveTest, TheProgressNamesEachRecipeAndCountsThePassedOver) {
     NewSaved("Stout");
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     NewSaved("Porter");
-    AutoSaveModel progress = shell.AutoSaving().Progress();
+    AutoSaveModel progress = shell.Opened()->autoSaver.Progress();
     EXPECT_EQ(progress.Controls()[0].text, "");
     Strings seen;
     progress.SetObserver([&] {
@@ -222,7 +222,7 @@ TEST_F(AutoSaveTest, TheProgressNamesEachRecipeAndCountsThePassedOver) {
 }
 
 TEST_F(AutoSaveTest, TheProgressWindowTakesNoEntryAndClosesByItself) {
-    AutoSaveModel progress = shell.AutoSaving().Progress();
+    AutoSaveModel progress = shell.Opened()->autoSaver.Progress();
     EXPECT_FALSE(progress.SetControl("lblRecipe", "x"));
     EXPECT_FALSE(progress.Press("cmdOK"));
     EXPECT_TRUE(progress.IsOpen());
@@ -232,7 +232,7 @@ TEST_F(AutoSaveTest, TheProgressWindowTakesNoEntryAndClosesByItself) {
 
 TEST_F(AutoSaveTest, ItsCloseBoxDoesNotStopARun) {
     NewSaved("Stout");
-    AutoSaveModel progress = shell.AutoSaving().Progress();
+    AutoSaveModel progress = shell.Opened()->autoSaver.Progress();
     std::vector<bool> open;
     progress.SetObserver([&] {
         progress.CloseBox();
@@ -246,7 +246,7 @@ TEST_F(AutoSaveTest, ADocumentThatGoesDuringTheRunIsLeftOut) {
     RecipeDocument& first = NewSaved("Stout");
     NewSaved("Porter");
     Note(first, "late");
-    AutoSaveModel progress = shell.AutoSaving().Progress();
+    AutoSaveModel progress = shell.Opened()->autoSaver.Progress();
     bool closed = false;
     progress.SetObserver([&] {
         if (!closed) shell.Documents().Remove(first);
@@ -271,7 +271,7 @@ TEST_F(AutoSaveTest, ATickBehindAQuestionSavesAsUsual) {
     Note(stout, "kept");
     outside.messages.answers = {Answer::Cancel};
     outside.messages.whileAsking = [&] { Tick(); };
-    EXPECT_FALSE(shell.Saver().Close(stout));
+    EXPECT_FALSE(shell.Opened()->saver.Close(stout));
     EXPECT_EQ(StoredNotes("Stout"), "kept");
     EXPECT_FALSE(stout.Changed());
 }

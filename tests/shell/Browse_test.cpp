@@ -9,7 +9,7 @@ class Browsing : public ShellTest {
   protected:
     void SetUp() override {
         ShellTest::SetUp();
-        shell.Data().objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
+        shell.Opened()->data.objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
     }
     // The next dialog gets these entries and a press of the button.
     void AnswerWith(const std::vector<DialogControl>& controls, const std::string& button) {
@@ -79,26 +79,26 @@ TEST_F(Browsing, SavingKeepsFolderAndViewToo) {
         dialog.Press("cmdDetails");
         dialog.Press("cmdOK");
     });
-    EXPECT_TRUE(shell.Saver().SaveAs(document));
+    EXPECT_TRUE(shell.Opened()->saver.SaveAs(document));
     EXPECT_EQ(document.FolderID(), 1);
     EXPECT_EQ(shell.BrowseFields().nodeKey, "F:1");
     EXPECT_EQ(shell.BrowseFields().look.viewType, ListViewType::Details);
-    EXPECT_FALSE(shell.Saver().SaveAs(document));  // cancelled
+    EXPECT_FALSE(shell.Opened()->saver.SaveAs(document));  // cancelled
     EXPECT_EQ(shell.BrowseFields().nodeKey, "F:1");
 }
 
 TEST_F(Browsing, ADeletedFolderIsNotTheOneToStartIn) {
     NewSaved("Ale");
-    shell.Data().objects.CreateRecipeFolder(1, "Dark", Asking::Quietly);
+    shell.Opened()->data.objects.CreateRecipeFolder(1, "Dark", Asking::Quietly);
     AnswerWith({{"icmbFolder", "F:2"}, {"txtName", "Ale"}}, "cmdOK");
     shell.RunMenu("mnuFileOpen");
     EXPECT_EQ(shell.BrowseFields().nodeKey, "F:2");
-    shell.Data().objects.DeleteObject("F:1");
+    shell.Opened()->data.objects.DeleteObject("F:1");
     EXPECT_EQ(shell.BrowseFields().nodeKey, "F:0");
 }
 
 TEST_F(Browsing, TheExplorerOpensRecipesAndStays) {
-    EXPECT_TRUE(shell.Saver().Close(NewSaved("Ale")));
+    EXPECT_TRUE(shell.Opened()->saver.Close(NewSaved("Ale")));
     outside.dialogs.scripts.push_back([](DialogModel& dialog) {
         EXPECT_EQ(dialog.FormName(), "frmExplorer");
         EXPECT_TRUE(dialog.SetControl("lvNames", "Ale"));
@@ -133,10 +133,10 @@ TEST_F(Browsing, AnAutosaveMeanwhileGivesTheRowsTheirNewKeys) {
     RecipeDocument& ale = NewSaved("Ale");
     outside.dialogs.scripts.push_back([&](DialogModel& dialog) {
         dialog.SetControl("lvNames", "Ale");
-        EXPECT_TRUE(shell.Saver().Save(ale, Asking::Quietly));  // R:2:3 from now on
+        EXPECT_TRUE(shell.Opened()->saver.Save(ale, Asking::Quietly));  // R:2:3 from now on
         dialog.Press("mnuRename");
         EXPECT_TRUE(dialog.SetControl("txtLabel", "Bitter"));
-        EXPECT_TRUE(shell.Saver().Save(ale, Asking::Quietly));
+        EXPECT_TRUE(shell.Opened()->saver.Save(ale, Asking::Quietly));
         EXPECT_EQ(dialog.Controls()[3].text, "Bitter");
         dialog.Press("mnuDelete");
     });

@@ -23,13 +23,13 @@ class ImportExportModelTest : public ShellTest {
 };
 
 TEST_F(ImportExportModelTest, TheTextsSayWhichWayTheRecipesGo) {
-    const ImportExportModel in(shell.Data().tree, true);
+    const ImportExportModel in(shell.Opened()->data.tree, true);
     EXPECT_EQ(in.Caption(), "Import Recipes");
     EXPECT_EQ(in.Recipes().ListCaption(), "Recipes to Import:");
     EXPECT_EQ(in.Recipes().RootName(), "Import File");
     EXPECT_EQ(in.Recipes().treeRecipes().SelectedKey(), "F:0");
     EXPECT_FALSE(in.Append());
-    const ImportExportModel out(shell.Data().tree, false);
+    const ImportExportModel out(shell.Opened()->data.tree, false);
     EXPECT_EQ(out.Caption(), "Export Recipes");
     EXPECT_EQ(out.Recipes().ListCaption(), "Recipes to Export:");
     EXPECT_EQ(out.Recipes().RootName(), "");
@@ -37,7 +37,7 @@ TEST_F(ImportExportModelTest, TheTextsSayWhichWayTheRecipesGo) {
 }
 
 TEST_F(ImportExportModelTest, RecipesArePickedWithTheButtonsOfTheChooser) {
-    ImportExportModel dialog(shell.Data().tree, false);
+    ImportExportModel dialog(shell.Opened()->data.tree, false);
     EXPECT_TRUE(dialog.SetControl("treeRecipes", "F:0"));
     EXPECT_TRUE(dialog.Press("cmdAdd"));
     EXPECT_EQ(ControlOf(dialog, "lstRecipes"), "Bock\nMild\n");
@@ -51,7 +51,7 @@ TEST_F(ImportExportModelTest, RecipesArePickedWithTheButtonsOfTheChooser) {
 }
 
 TEST_F(ImportExportModelTest, NextIsOffWhileNothingIsPicked) {
-    ImportExportModel dialog(shell.Data().tree, false);
+    ImportExportModel dialog(shell.Opened()->data.tree, false);
     EXPECT_FALSE(dialog.NextEnabled());
     EXPECT_TRUE(dialog.Press("cmdNext"));
     EXPECT_TRUE(dialog.IsOpen());
@@ -61,17 +61,17 @@ TEST_F(ImportExportModelTest, NextIsOffWhileNothingIsPicked) {
 }
 
 TEST_F(ImportExportModelTest, OnlyAnExportCanBeAppended) {
-    ImportExportModel out(shell.Data().tree, false);
+    ImportExportModel out(shell.Opened()->data.tree, false);
     EXPECT_TRUE(out.SetControl("chkAppend", "no"));
     EXPECT_FALSE(out.Append());
     EXPECT_FALSE(out.SetControl("chkAppend", "perhaps"));
-    ImportExportModel in(shell.Data().tree, true);
+    ImportExportModel in(shell.Opened()->data.tree, true);
     EXPECT_FALSE(in.SetControl("chkAppend", "yes"));
     EXPECT_EQ(ControlOf(in, "chkAppend"), "no");
 }
 
 TEST_F(ImportExportModelTest, WhatIsNotThereTakesNoEntry) {
-    ImportExportModel dialog(shell.Data().tree, false);
+    ImportExportModel dialog(shell.Opened()->data.tree, false);
     EXPECT_FALSE(dialog.SetControl("treeRecipes", "R:99:0"));
     EXPECT_FALSE(dialog.SetControl("lstRecipes", "Bock"));
     EXPECT_FALSE(dialog.SetControl("Frame1", "x"));

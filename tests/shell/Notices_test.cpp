@@ -15,7 +15,7 @@ class Notices : public ShellTest {
     // Opens two windows of the same recipe: a name in another case opens a second one.
     void OpenTwice(const std::string& name, const std::string& other) {
         NewSaved(name);
-        shell.Recipes().Load(other);
+        shell.Opened()->recipes.Load(other);
         ASSERT_EQ(shell.Documents().All().size(), 2u);
     }
 };
@@ -23,7 +23,7 @@ class Notices : public ShellTest {
 TEST_F(Notices, AMovedRecipeTakesItsFolderInEveryWindow) {
     OpenTwice("Mild", "MILD");
     RecipeDocument& other = NewSaved("Porter");
-    shell.Notices().NotifyRecipeMoved("mild ", 4);
+    shell.Opened()->notices.NotifyRecipeMoved("mild ", 4);
     EXPECT_EQ(shell.Documents().All()[0]->FolderID(), 4);
     EXPECT_EQ(shell.Documents().All()[1]->FolderID(), 4);
     EXPECT_EQ(other.FolderID(), 0);
@@ -33,7 +33,7 @@ TEST_F(Notices, AMovedRecipeTakesItsFolderInEveryWindow) {
 TEST_F(Notices, ANewStyleShowsInEveryWindowOfTheRecipe) {
     OpenTwice("Mild", "MILD");
     RecipeDocument& other = NewSaved("Porter");
-    shell.Notices().NotifyRecipeNewStyle("MILD", 7);
+    shell.Opened()->notices.NotifyRecipeNewStyle("MILD", 7);
     for (int i : {0, 1}) {
         EXPECT_EQ(shell.Documents().All()[static_cast<std::size_t>(i)]->StyleID(), 7);
         EXPECT_EQ(shell.Documents().All()[static_cast<std::size_t>(i)]->BeerStyle(), "Stout");
@@ -55,7 +55,7 @@ TEST_F(Notices, ARenamedRecipeIsRenamedInTheRecentListFirst) {
         std::function<void()> look_;
     } watcher([&] { seen = Mru(1); });
     mild.Record().SetObserver(&watcher);
-    shell.Notices().NotifyRecipeRenamed("MILD", " Dark Mild ");
+    shell.Opened()->notices.NotifyRecipeRenamed("MILD", " Dark Mild ");
     mild.Record().SetObserver(nullptr);
     EXPECT_EQ(seen, "&2 Dark Mild");
     EXPECT_EQ(mild.OrigName(), "Dark Mild");
@@ -69,9 +69,9 @@ TEST_F(Notices, ANameThatTheBrewerHasEditedStaysAndIsSavedOverTheRenamedRecipe) 
     RecipeDocument& mild = NewSaved("Mild");
     mild.Fields().SetText(mild.Record().txtName, "Best Mild");
     shell.DB()->Execute("UPDATE RECIPES SET NAME = 'Dark Mild'");
-    shell.Notices().NotifyRecipeRenamed("Mild", "Dark Mild");
+    shell.Opened()->notices.NotifyRecipeRenamed("Mild", "Dark Mild");
     EXPECT_EQ(mild.BeerName(), "Best Mild");
-    EXPECT_TRUE(shell.Saver().Save(mild));
+    EXPECT_TRUE(shell.Opened()->saver.Save(mild));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Best Mild"});
     EXPECT_EQ(outside.messages.log, Strings{});
 }
@@ -81,7 +81,7 @@ TEST_F(Notices, ARenamedStyleIsShownWithItsNewName) {
     RecipeDocument& none = NewSaved("Porter");
     mild.Style().SetId(7);
     shell.DB()->Execute("UPDATE STYLES SET NAME = 'Dry Stout' WHERE ID = 7");
-    shell.Notices().NotifyStyleRenamed(7, "Dry Stout");
+    shell.Opened()->notices.NotifyStyleRenamed(7, "Dry Stout");
     EXPECT_EQ(mild.BeerStyle(), "Dry Stout");
     EXPECT_EQ(mild.StyleID(), 7);
     EXPECT_EQ(none.BeerStyle(), "(None)");
@@ -93,7 +93,7 @@ TEST_F(Notices, ADeletedStyleLeavesNoneAndNoRanges) {
     mild.Style().SetId(7);
     EXPECT_NE(mild.Record().lblOGStyle.Text(), "");
     shell.DB()->Execute("DELETE FROM STYLES WHERE ID = 7");
-    shell.Notices().NotifyStyleDeleted(7);
+    shell.Opened()->notices.NotifyStyleDeleted(7);
     EXPECT_EQ(mild.StyleID(), 0);
     EXPECT_EQ(mild.BeerStyle(), "(None)");
     EXPECT_EQ(mild.Record().lblOGStyle.Text(), "");
@@ -103,8 +103,8 @@ TEST_F(Notices, ADeletedStyleLeavesNoneAndNoRanges) {
 // Changes styles by the operations of the explorer while one document has another style and one has none.
 TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
     shell.DB()->Execute("INSERT INTO STYLES (ID, NAME, FOLDER_ID) VALUES (8, 'Porter', 0)");
-    for (const char* style : {"Stout", "Porter"}) shell.Data().objects.AddStyleNodesByName(style);
-    const std::int64_t dark = shell.Data().objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
+    for (const char* style : {"Stout", "Porter"}) shell.Opened()->data.objects.AddStyleNodesByName(style);
+    const std::int64_t dark = shell.Opened()->data.objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
     RecipeDocument& stout = NewSaved("Mild");
     stout.Style().SetId(7);
     RecipeDocument& none = NewSaved("Bitter");
@@ -118,13 +118,13 @@ TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
         }
         return names;
     };
-    ASSERT_TRUE(shell.Data().objects.RenameStyle(8, "Baltic Porter", Asking::Quietly));
+    ASSERT_TRUE(shell.Opened()->data.objects.RenameStyle(8, "Baltic Porter", Asking::Quietly));
     EXPECT_EQ(lists(), Strings(2, "(None); Baltic Porter; Stout; "));
-    ASSERT_TRUE(shell.Data().objects.MoveStyleToFolder(8, dark, Asking::Quietly));
-    shell.Data().objects.DeleteStyleFolder(dark);
+    ASSERT_TRUE(shell.Opened()->data.objects.MoveStyleToFolder(8, dark, Asking::Quietly));
+    shell.Opened()->data.objects.DeleteStyleFolder(dark);
     EXPECT_EQ(lists(), Strings(2, "(None); Stout; "));
     EXPECT_EQ(stout.BeerStyle(), "Stout");
-    shell.Data().objects.DeleteStyleById(7);
+    shell.Opened()->data.objects.DeleteStyleById(7);
     EXPECT_EQ(lists(), Strings(2, "(None); "));
     EXPECT_EQ(stout.BeerStyle() + none.BeerStyle(), "(None)(None)");
     EXPECT_FALSE(stout.Changed() || none.Changed());
@@ -132,7 +132,7 @@ TEST_F(Notices, EveryDocumentListsTheStylesThatThereAre) {
 
 TEST_F(Notices, ADeletedRecipeIsDetachedInEveryWindow) {
     OpenTwice("Mild", "MILD");
-    shell.Notices().NotifyRecipeDeleted("mild");
+    shell.Opened()->notices.NotifyRecipeDeleted("mild");
     for (const auto& document : shell.Documents().All()) {
         EXPECT_EQ(document->FolderID(), -1);
         EXPECT_EQ(document->OrigName(), "");
@@ -144,23 +144,23 @@ TEST_F(Notices, ADeletedRecipeIsDetachedInEveryWindow) {
 TEST_F(Notices, DeletingTheFolderDetachesAndClosingAsks) {
     RecipeDocument& mild = NewSaved("Mild");
     RecipeDocument& porter = NewSaved("Porter");
-    shell.Notices().NotifyRecipeMoved("Mild", 4);
-    shell.Notices().NotifyRecipeFolderDeleted(4);
+    shell.Opened()->notices.NotifyRecipeMoved("Mild", 4);
+    shell.Opened()->notices.NotifyRecipeFolderDeleted(4);
     EXPECT_TRUE(mild.Changed());
     EXPECT_EQ(mild.FolderID(), -1);
     EXPECT_FALSE(porter.Changed());
-    EXPECT_FALSE(shell.Saver().Close(mild));
+    EXPECT_FALSE(shell.Opened()->saver.Close(mild));
     EXPECT_EQ(
         outside.messages.log,
         Strings{"[Unsaved Changes] Recipe 'Mild' has changed. Do you wish to save your changes? -> Cancel"});
-    EXPECT_TRUE(shell.Saver().Close(porter));
+    EXPECT_TRUE(shell.Opened()->saver.Close(porter));
 }
 
 TEST_F(Notices, WithoutADocumentTheyReachTheRecentListAlone) {
     shell.Recent().Add("Mild");
-    shell.Notices().NotifyRecipeRenamed("Mild", "Bitter");
+    shell.Opened()->notices.NotifyRecipeRenamed("Mild", "Bitter");
     EXPECT_EQ(shell.Recent().Captions(), Strings{"&1 Bitter"});
-    shell.Notices().NotifyRecipeDeleted("BITTER ");
+    shell.Opened()->notices.NotifyRecipeDeleted("BITTER ");
     EXPECT_EQ(shell.Recent().Captions(), Strings{});
 }
 

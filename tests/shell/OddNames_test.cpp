@@ -25,7 +25,7 @@ class OddNamesTest : public ShellTest {
     Strings List(std::string_view key) {
         ListTable list;
         lvFiller::SetUpExplorerColumns(list);
-        lvFiller(*shell.DB(), shell.Data().tree).FillByKey(list, key, true);
+        lvFiller(*shell.DB(), shell.Opened()->data.tree).FillByKey(list, key, true);
         Strings names;
         for (const ListRow& row : list.Rows()) names.push_back(row.cells[0]);
         return names;
@@ -33,32 +33,33 @@ class OddNamesTest : public ShellTest {
 };
 
 TEST_F(OddNamesTest, KeepTheirLettersFromSavingToOpening) {
-    const std::int64_t folder = shell.Data().objects.CreateRecipeFolder(0, "Odd", Asking::Quietly);
+    const std::int64_t folder = shell.Opened()->data.objects.CreateRecipeFolder(0, "Odd", Asking::Quietly);
     const std::string folderKey = "F:" + std::to_string(folder);
     RecipeFinder finder(*shell.DB());
     for (const std::string& name : OddNames()) {
         shell.Documents().Remove(NewSaved(name));
         EXPECT_EQ(List("F:0"), (Strings{"Odd", name}));
-        const std::string key = "R:" + std::to_string(shell.Data().objects.IdByName(name, "RECIPES"));
-        EXPECT_TRUE(shell.Data().objects.MoveObject(key + ":3", folderKey));
+        const std::string key = "R:" + std::to_string(shell.Opened()->data.objects.IdByName(name, "RECIPES"));
+        EXPECT_TRUE(shell.Opened()->data.objects.MoveObject(key + ":3", folderKey));
         EXPECT_EQ(List(folderKey), Strings{name});
         ASSERT_EQ(finder.Find(name.substr(0, name.find_first_of(" \t"))).size(), 1U);
         EXPECT_EQ(finder.Find("")[0].name, name);
 
-        shell.Recipes().OpenByName(name);
+        shell.Opened()->recipes.OpenByName(name);
         ASSERT_NE(shell.Documents().Active(), nullptr);
         RecipeDocument& document = *shell.Documents().Active();
         EXPECT_EQ(document.BeerName(), name);
         document.Fields().SetText(document.Record().txtNotes, "changed");
-        EXPECT_TRUE(shell.Saver().Save(document));
+        EXPECT_TRUE(shell.Opened()->saver.Save(document));
         EXPECT_EQ(RecipeNames(*shell.DB()), Strings{name});
 
-        const std::string saved = "R:" + std::to_string(shell.Data().objects.IdByName(name, "RECIPES"));
-        EXPECT_TRUE(shell.Data().objects.RenameObject(saved + ":0", name + "2"));
+        const std::string saved =
+            "R:" + std::to_string(shell.Opened()->data.objects.IdByName(name, "RECIPES"));
+        EXPECT_TRUE(shell.Opened()->data.objects.RenameObject(saved + ":0", name + "2"));
         EXPECT_EQ(document.BeerName(), name + "2");
         EXPECT_EQ(List("F:-1"), Strings{name + "2"});
         shell.Documents().Remove(document);
-        shell.Services().DeleteRecipe(name + "2");
+        shell.Opened()->services.DeleteRecipe(name + "2");
         EXPECT_EQ(List(folderKey), Strings{});
     }
     EXPECT_EQ(outside.messages.log, Strings{});
@@ -67,14 +68,14 @@ TEST_F(OddNamesTest, KeepTheirLettersFromSavingToOpening) {
 TEST_F(OddNamesTest, OfRowsWithoutANameCanBeListedRenamedAndDeleted) {
     shell.DB()->Execute("INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES (NULL, 0, 0)");
     shell.DB()->Execute("INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES (NULL, 0, 0)");
-    shell.Data().objects.AddRecipeNodes(1, "", 0, 0);
-    shell.Data().objects.AddRecipeNodes(2, "", 0, 0);
+    shell.Opened()->data.objects.AddRecipeNodes(1, "", 0, 0);
+    shell.Opened()->data.objects.AddRecipeNodes(2, "", 0, 0);
     EXPECT_EQ(List("F:0"), (Strings{"  ", "  "}));
-    EXPECT_TRUE(shell.Data().objects.RenameObject("R:2:0", "Found"));
+    EXPECT_TRUE(shell.Opened()->data.objects.RenameObject("R:2:0", "Found"));
     EXPECT_EQ(List("F:0"), (Strings{"  ", "Found"}));
-    shell.Data().objects.DeleteObject("R:1:3");
+    shell.Opened()->data.objects.DeleteObject("R:1:3");
     EXPECT_EQ(List("F:0"), Strings{"Found"});
-    shell.Recipes().OpenByName("Found");
+    shell.Opened()->recipes.OpenByName("Found");
     EXPECT_EQ(Captions(), Strings{"Found"});
     EXPECT_EQ(outside.messages.log, Strings{});
 }

@@ -14,8 +14,8 @@ class OpenSaveTest : public ShellTest {
     // folder that does not exist.
     void SetUp() override {
         ShellTest::SetUp();
-        shell.Data().objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
-        shell.Data().objects.CreateRecipeFolder(1, "Dark", Asking::Quietly);
+        shell.Opened()->data.objects.CreateRecipeFolder(0, "Winter", Asking::Quietly);
+        shell.Opened()->data.objects.CreateRecipeFolder(1, "Dark", Asking::Quietly);
         Add("Stout", 1);
         Add("amber", 0);
         Add("Joe's Ale", 0);
@@ -24,10 +24,10 @@ class OpenSaveTest : public ShellTest {
     void Add(const std::string& name, std::int64_t folder) {
         shell.DB()->Execute("INSERT INTO RECIPES (NAME, STYLE_ID, FOLDER_ID) VALUES (" + SqlText(name) +
                             ", 0, " + std::to_string(folder) + ")");
-        shell.Data().objects.AddRecipeNodesByName(name);
+        shell.Opened()->data.objects.AddRecipeNodesByName(name);
     }
     OpenSaveModel& Open(Style style, const OpenSaveFields& fields = {}) {
-        model = std::make_unique<OpenSaveModel>(style, shell.Data().Access(), fields);
+        model = std::make_unique<OpenSaveModel>(style, shell.Opened()->data.Access(), fields);
         return *model;
     }
     Strings Shown() {
@@ -253,7 +253,7 @@ TEST_F(OpenSaveTest, UpLeadsToTheFolderAboveAndBackToTheOneBefore) {
 TEST_F(OpenSaveTest, BackPassesOverAFolderThatIsGone) {
     Open(Style::Open);
     for (const char* key : {"F:2", "F:-1"}) model->EnterFolder(key);
-    shell.Data().objects.DeleteObject("F:2");
+    shell.Opened()->data.objects.DeleteObject("F:2");
     Press("cmdBack");
     EXPECT_EQ(model->NodeKey(), "F:0");
     model->EnterFolder("F:0");  // it is shown already
@@ -334,13 +334,13 @@ TEST_F(OpenSaveTest, ARowDroppedOnAFolderLeavesTheList) {
     EXPECT_FALSE(model->CanDrop({}, "F:1"));
     model->Drop({"R:2:3"}, "F:1");
     EXPECT_EQ(Shown(), (Strings{"Winter", "Joe's Ale"}));
-    EXPECT_EQ(shell.Data().tree.Nodes("R:2:3")->Parent()->Key(), "F:1");
+    EXPECT_EQ(shell.Opened()->data.tree.Nodes("R:2:3")->Parent()->Key(), "F:1");
     model->Drop({"R:3:3"}, "R:2:3");
     EXPECT_EQ(Shown(), (Strings{"Winter", "Joe's Ale"}));
 }
 
 TEST_F(OpenSaveTest, ARefusedDropLeavesTheRow) {
-    shell.Data().objects.CreateRecipeFolder(0, "Dark", Asking::Quietly);  // as one in Winter
+    shell.Opened()->data.objects.CreateRecipeFolder(0, "Dark", Asking::Quietly);  // as one in Winter
     Open(Style::Open);
     model->Drop({"F:3"}, "F:1");
     EXPECT_EQ(Boxes(), Strings{"[Could not move recipe folder] The destination folder already contains a "

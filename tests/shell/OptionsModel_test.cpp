@@ -319,8 +319,8 @@ TEST_F(OptionsModelTest, WaterProfilesStandByNameBehindAnEmptyEntry) {
 }
 
 TEST_F(OptionsModelTest, LooksActAtOnceAndOnlyWhenTheyChange) {
-    shell.Recipes().Create("");
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
+    shell.Opened()->recipes.Create("");
     view.log.clear();
     OptionsModel same = Open();
     same.Press("cmdOK");
@@ -367,14 +367,14 @@ TEST_F(OptionsModelTest, TakesNoEntryThatAControlCannotHold) {
 }
 
 TEST_F(OptionsModelTest, NewRecipesTakeTheDefaultsAndOpenOnesKeepTheirs) {
-    RecipeDocument& open = shell.Recipes().Create("");
+    RecipeDocument& open = shell.Opened()->recipes.Create("");
     EXPECT_TRUE(Passes("txtTotalVol", "3 gal"));
     EXPECT_EQ(open.Record().txtTotalVol.Text(), "");
-    EXPECT_EQ(shell.Recipes().Create("").Record().txtTotalVol.Text(), "3 gal");
+    EXPECT_EQ(shell.Opened()->recipes.Create("").Record().txtTotalVol.Text(), "3 gal");
 }
 
 TEST_F(OptionsModelTest, AStoredLookActsAtOnceToo) {
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     view.log.clear();
     shell.SettingsNow().Store("Settings", "IconStyle", "1");
     shell.SettingsNow().Store("Settings", "ButtonStyle", "1");

@@ -32,7 +32,7 @@ struct ProgramRun {
         EXPECT_TRUE(shell.PerformSplashScreenInit(database));
     }
     RecipeDocument& New(std::string_view name, std::string_view notes) {
-        RecipeDocument& document = shell.Recipes().Create("");
+        RecipeDocument& document = shell.Opened()->recipes.Create("");
         document.Fields().SetText(document.Record().txtName, name);
         document.Fields().SetText(document.Record().txtNotes, notes);
         return document;
@@ -94,7 +94,7 @@ TEST_F(RecoveryTest, AFileComesSomeTimeAfterAnEditAndGoesWithTheSave) {
     EXPECT_THAT(Files(), IsEmpty());
     run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
-    EXPECT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, Asking::Quietly));
+    EXPECT_TRUE(run->shell.Opened()->saver.SaveUnder(stout, "Stout", 0, Asking::Quietly));
     EXPECT_THAT(Files(), IsEmpty());
     run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), IsEmpty());
@@ -102,14 +102,14 @@ TEST_F(RecoveryTest, AFileComesSomeTimeAfterAnEditAndGoesWithTheSave) {
     run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved"));
     run->outside.messages.answers = {Answer::No};
-    EXPECT_TRUE(run->shell.Saver().Close(stout));
+    EXPECT_TRUE(run->shell.Opened()->saver.Close(stout));
     EXPECT_THAT(Files(), IsEmpty());
 }
 
 TEST_F(RecoveryTest, EachChangedDocumentHasAFileAndAnUnchangedOneNone) {
     auto run = Start();
     run->New("Stout", "one");
-    run->shell.Recipes().Create("");
+    run->shell.Opened()->recipes.Create("");
     run->New("Porter", "two");
     run->shell.Unsaved().Keep();
     EXPECT_THAT(Files(), ElementsAre("1.unsaved", "2.unsaved"));
@@ -120,7 +120,7 @@ TEST_F(RecoveryTest, EachChangedDocumentHasAFileAndAnUnchangedOneNone) {
 TEST_F(RecoveryTest, TheNextStartRestoresAllOfIt) {
     auto run = Start();
     RecipeDocument& stored = run->New("Stout", "stored");
-    ASSERT_TRUE(run->shell.Saver().SaveUnder(stored, "Stout", 0, Asking::Quietly));
+    ASSERT_TRUE(run->shell.Opened()->saver.SaveUnder(stored, "Stout", 0, Asking::Quietly));
     stored.Cells().EditCell(stored.Record().gridGrain, 1, 0, "Pale Malt");
     run->New("", "never saved");
     run->shell.Unsaved().Keep();
@@ -154,7 +154,8 @@ TEST_F(RecoveryTest, ARestoredRecipeSurvivesTheNextCrashTooAndGoesWithItsSave) {
     run = nullptr;
     run = Start();
     EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));
-    EXPECT_TRUE(run->shell.Saver().SaveUnder(*run->shell.Documents().Active(), "Stout", 0, Asking::Quietly));
+    EXPECT_TRUE(
+        run->shell.Opened()->saver.SaveUnder(*run->shell.Documents().Active(), "Stout", 0, Asking::Quietly));
     EXPECT_THAT(Files(), IsEmpty());
 }
 
@@ -328,7 +329,7 @@ TEST_F(RecoveryTest, WhatCannotBeKeptIsToldOnceAndTriedAgainUntilItCan) {
     run->shell.Unsaved().Keep();
     EXPECT_THAT(run->view.log, ElementsAre(notice, "unsaved work", "unsaved work"));
     run->outside.messages.answers = {Answer::No};
-    EXPECT_TRUE(run->shell.Saver().Close(porter));
+    EXPECT_TRUE(run->shell.Opened()->saver.Close(porter));
     run->view.log.clear();
     fs::remove(scratch.File("unsaved"));
     run->shell.Unsaved().Keep();
@@ -345,7 +346,7 @@ TEST_F(RecoveryTest, NothingIsLeftToKeepOnceItIsSaved) {
     RecipeDocument& stout = run->New("Stout", "one");
     run->shell.Unsaved().Keep();
     run->view.log.clear();
-    EXPECT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, Asking::Quietly));
+    EXPECT_TRUE(run->shell.Opened()->saver.SaveUnder(stout, "Stout", 0, Asking::Quietly));
     EXPECT_THAT(run->view.log, testing::Contains("notice: "));
     EXPECT_THAT(run->view.log, testing::Not(testing::Contains(testing::StartsWith("news"))));
 }
@@ -478,12 +479,12 @@ TEST_F(RecoveryTest, ADatabaseInMemoryKeepsNothing) {
 TEST_F(RecoveryTest, AFailedSaveLeavesTheFile) {
     auto run = Start();
     RecipeDocument& stout = run->New("Stout", "stored");
-    ASSERT_TRUE(run->shell.Saver().SaveUnder(stout, "Stout", 0, Asking::Quietly));
+    ASSERT_TRUE(run->shell.Opened()->saver.SaveUnder(stout, "Stout", 0, Asking::Quietly));
     stout.Fields().SetText(stout.Record().txtNotes, "edited");
     run->shell.Unsaved().Keep();
     run->shell.DB()->ExecuteNative(
         "CREATE TRIGGER refuse BEFORE INSERT ON RECIPES BEGIN SELECT RAISE(ABORT, 'no'); END");
-    EXPECT_FALSE(run->shell.Saver().Save(stout));
+    EXPECT_FALSE(run->shell.Opened()->saver.Save(stout));
     run = nullptr;
     run = Start();
     EXPECT_THAT(run->Offer({"cmdRestore"}), ElementsAre("Stout"));

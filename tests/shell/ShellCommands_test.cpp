@@ -56,7 +56,7 @@ TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem
         "mnuFileClose",     "mnuFileCloseAll",         "mnuFileSaveAs",        "mnuFilePreview",
         "mnuWindowCascade", "mnuWindowTileHorizontal", "mnuWindowTileVertical"};
     for (const std::string_view item : commands) EXPECT_FALSE(Lit(item)) << item;
-    RecipeDocument& document = shell.Recipes().Create("");
+    RecipeDocument& document = shell.Opened()->recipes.Create("");
     for (const std::string_view item : commands) EXPECT_TRUE(Lit(item)) << item;
     EXPECT_TRUE(bar().FindItem("mnuFilePrint")->enabled);
     EXPECT_TRUE(bar().FindButton("Print")->enabled);
@@ -67,7 +67,7 @@ TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem
     EXPECT_TRUE(Lit("mnuEditInsert"));
     EXPECT_EQ(Button("Save").image, "Save");
     outside.messages.answers = {Answer::No};
-    EXPECT_TRUE(shell.Saver().Close(document));
+    EXPECT_TRUE(shell.Opened()->saver.Close(document));
     for (const std::string_view item : commands) EXPECT_FALSE(Lit(item)) << item;
     for (const char* item : {"mnuFileSave", "mnuFileSaveAll", "mnuFilePrint", "mnuEditInsert",
                              "mnuEditDelete", "mnuEditCopy", "mnuEditSelectAll", "mnuEditCut", "mnuEditClear",
@@ -83,13 +83,13 @@ TEST_F(ShellTest, TheFirstDocumentLightsTheDocumentCommandsAndTheLastDarkensThem
 // Without an open document, these commands depend only on the stored recipes.
 TEST_F(ShellTest, OpenAndExportFollowTheStoredRecipesNotTheDocuments) {
     RecipeDocument& document = NewSaved("Pale Ale");
-    EXPECT_TRUE(shell.Saver().Close(document));
+    EXPECT_TRUE(shell.Opened()->saver.Close(document));
     EXPECT_TRUE(Lit("mnuFileOpen"));
     EXPECT_TRUE(Button("Open").enabled);
     EXPECT_TRUE(bar().FindItem("mnuFileExport")->enabled);
     EXPECT_TRUE(bar().FindItem("mnuFileDelete")->enabled);
     EXPECT_FALSE(bar().FindItem("mnuFilePrint")->enabled);
-    shell.Services().DeleteRecipe("Pale Ale");
+    shell.Opened()->services.DeleteRecipe("Pale Ale");
     EXPECT_FALSE(Lit("mnuFileOpen"));
     EXPECT_FALSE(Button("Open").enabled);
     EXPECT_FALSE(bar().FindItem("mnuFileExport")->enabled);
@@ -108,7 +108,7 @@ TEST_F(ShellTest, TheFirstRecipeTurnsPrintOnWithoutADocument) {
 TEST_F(ShellTest, ThePreviewFollowsTheDocumentsAlone) {
     NewSaved("Pale Ale");
     EXPECT_TRUE(bar().FindItem("mnuFilePreview")->enabled);
-    shell.Services().DeleteRecipe("Pale Ale");
+    shell.Opened()->services.DeleteRecipe("Pale Ale");
     EXPECT_FALSE(bar().FindItem("mnuFilePrint")->enabled);
     EXPECT_TRUE(bar().FindItem("mnuFilePreview")->enabled);
 }
@@ -142,7 +142,7 @@ TEST_F(ShellTest, SaveAllIsOnExactlyWhileSomeDocumentIsChanged) {
     EXPECT_TRUE(Lit("mnuFileSave"));
     shell.Documents().Activate(second);
     EXPECT_FALSE(Lit("mnuFileSave"));
-    EXPECT_TRUE(shell.Saver().Save(first));
+    EXPECT_TRUE(shell.Opened()->saver.Save(first));
     EXPECT_FALSE(Lit("mnuFileSaveAll"));
 }
 
@@ -223,7 +223,7 @@ TEST_F(ShellTest, ReapplyingKeepsWhatTheDocumentRefused) {
 TEST_F(ShellTest, TheAppendFlagTogglesWhileADocumentIsOpen) {
     EXPECT_TRUE(shell.RunMenu("mnuEditAppendFlag"));
     EXPECT_FALSE(shell.SettingsNow().AppendRows());
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     EXPECT_TRUE(shell.RunMenu("mnuEditAppendFlag"));
     EXPECT_TRUE(shell.SettingsNow().AppendRows());
     EXPECT_TRUE(bar().FindItem("mnuEditAppendFlag")->checked);
@@ -232,7 +232,7 @@ TEST_F(ShellTest, TheAppendFlagTogglesWhileADocumentIsOpen) {
 }
 
 TEST_F(ShellTest, InsertAndDeleteActOnTheActiveDocument) {
-    RecipeDocument& document = shell.Recipes().Create("");
+    RecipeDocument& document = shell.Opened()->recipes.Create("");
     document.Focus().SetTab(Tab::Adjuncts);
     const int before = document.Record().gridAdjuncts.Rows();
     EXPECT_TRUE(shell.RunMenu("mnuEditInsert"));
@@ -240,7 +240,7 @@ TEST_F(ShellTest, InsertAndDeleteActOnTheActiveDocument) {
 }
 
 TEST_F(ShellTest, TheWindowMenuArranges) {
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     view.log.clear();
     EXPECT_TRUE(shell.RunMenu("mnuWindowCascade"));
     EXPECT_TRUE(shell.RunMenu("mnuWindowTileHorizontal"));
@@ -250,7 +250,7 @@ TEST_F(ShellTest, TheWindowMenuArranges) {
 
 TEST_F(ShellTest, CloseAllStopsAtTheFirstRefusal) {
     NewNamed("One");
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     EXPECT_TRUE(shell.RunMenu("mnuFileCloseAll"));
     EXPECT_EQ(shell.Documents().All().size(), 2u);
     outside.messages.answers = {Answer::No};
@@ -260,7 +260,7 @@ TEST_F(ShellTest, CloseAllStopsAtTheFirstRefusal) {
 
 TEST_F(ShellTest, OpenTakesTheNameOfTheDialog) {
     RecipeDocument& document = NewSaved("Pale Ale");
-    EXPECT_TRUE(shell.Saver().Close(document));
+    EXPECT_TRUE(shell.Opened()->saver.Close(document));
     outside.dialogs.scripts.push_back([](DialogModel& dialog) {
         dialog.SetControl("txtName", "Pale Ale");
         dialog.Press("cmdOK");
@@ -289,13 +289,13 @@ TEST_F(ShellTest, TheAboutWindowTellsTitleAndVersion) {
 
 // A row in the table is only half of a command; the other half is its effect.
 TEST_F(ShellTest, EveryCommandThatCanBeSeenDoesSomething) {
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     for (const CommandRow& row : AllCommandRows()) {
         if (row.caption == kSeparator || row.start == Start::Hidden || row.id == CommandId::FileExit)
             continue;
         shell.Bar().SetEnabled(row.id, true);
         EXPECT_TRUE(shell.RunCommand(row.id)) << row.name;
-        if (shell.Documents().All().empty()) shell.Recipes().Create("");
+        if (shell.Documents().All().empty()) shell.Opened()->recipes.Create("");
     }
 }
 

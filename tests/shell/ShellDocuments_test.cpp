@@ -12,8 +12,8 @@ std::string Unsaved(std::string_view name, std::string_view answer) {
 }
 
 TEST_F(ShellTest, ANewDocumentIsNumberedKeyedAndActive) {
-    RecipeDocument& first = shell.Recipes().Create("");
-    RecipeDocument& second = shell.Recipes().Create("  ");
+    RecipeDocument& first = shell.Opened()->recipes.Create("");
+    RecipeDocument& second = shell.Opened()->recipes.Create("  ");
     EXPECT_EQ(Captions(), (Strings{"Untitled 1", "Untitled 2"}));
     EXPECT_EQ(first.Key(), "0");
     EXPECT_EQ(second.Key(), "1");
@@ -24,21 +24,21 @@ TEST_F(ShellTest, ANewDocumentIsNumberedKeyedAndActive) {
 
 TEST_F(ShellTest, UntitledNumbersSkipTheOpenedRecipesAndAreNotReused) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    RecipeDocument& first = shell.Recipes().Create("");
-    shell.Recipes().OpenByName("Pale Ale");
-    EXPECT_TRUE(shell.Saver().Close(first));
-    RecipeDocument& next = shell.Recipes().Create("");
+    RecipeDocument& first = shell.Opened()->recipes.Create("");
+    shell.Opened()->recipes.OpenByName("Pale Ale");
+    EXPECT_TRUE(shell.Opened()->saver.Close(first));
+    RecipeDocument& next = shell.Opened()->recipes.Create("");
     EXPECT_EQ(Captions(), (Strings{"Pale Ale", "Untitled 3"}));
     EXPECT_EQ(next.Key(), "2");
 }
 
 TEST_F(ShellTest, OpeningAnOpenRecipeFocusesItsWindowWithABeep) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    shell.Recipes().Load("Pale Ale");
+    shell.Opened()->recipes.Load("Pale Ale");
     RecipeDocument* open = shell.Documents().Active();
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     view.log.clear();
-    shell.Recipes().Load("Pale Ale");
+    shell.Opened()->recipes.Load("Pale Ale");
     EXPECT_EQ(shell.Documents().Active(), open);
     EXPECT_EQ(shell.Documents().All().size(), 2u);
     EXPECT_EQ(view.log, Strings{"activated 0"});
@@ -47,24 +47,24 @@ TEST_F(ShellTest, OpeningAnOpenRecipeFocusesItsWindowWithABeep) {
 
 TEST_F(ShellTest, TheActiveRecipesWindowIsShownAgain) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    shell.Recipes().Load("Pale Ale");
+    shell.Opened()->recipes.Load("Pale Ale");
     view.log.clear();
-    shell.Recipes().Load("Pale Ale");
+    shell.Opened()->recipes.Load("Pale Ale");
     EXPECT_EQ(view.log, Strings{"activated 0"});
 }
 
 // A recipe counts as open only if the name is exactly the same.
 TEST_F(ShellTest, ANameInAnotherCaseOpensASecondWindow) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
-    shell.Recipes().OpenByName("Pale Ale");
-    shell.Recipes().OpenByName("PALE ALE");
+    shell.Opened()->recipes.OpenByName("Pale Ale");
+    shell.Opened()->recipes.OpenByName("PALE ALE");
     EXPECT_EQ(Captions(), (Strings{"Pale Ale", "Pale Ale"}));
     EXPECT_EQ(outside.messages.log, Strings{});
 }
 
 TEST_F(ShellTest, OpeningTrimsTheName) {
     AddRecipeRow(*shell.DB(), "Joe's Ale");
-    shell.Recipes().OpenByName("  Joe's Ale ");
+    shell.Opened()->recipes.OpenByName("  Joe's Ale ");
     EXPECT_EQ(Captions(), Strings{"Joe's Ale"});
     EXPECT_EQ(shell.Documents().All()[0]->OrigName(), "Joe's Ale");
     EXPECT_EQ(shell.Recent().Captions(), Strings{"&1 Joe's Ale"});
@@ -91,16 +91,16 @@ TEST_F(ShellTest, ARecipeThatCannotBeReadLeavesNoDocumentBehind) {
     shell.DB()->SetStatementHook([](std::string_view sql) {
         if (sql.find("RECIPE_HOPS") != std::string_view::npos) throw Error("Database", "disk gone", 10);
     });
-    EXPECT_FALSE(RunShowingErrors(outside.messages, [&] { shell.Recipes().OpenByName("Pale Ale"); }));
+    EXPECT_FALSE(RunShowingErrors(outside.messages, [&] { shell.Opened()->recipes.OpenByName("Pale Ale"); }));
     EXPECT_EQ(outside.messages.log, Strings{"[Error] disk gone (10)"});
     EXPECT_TRUE(shell.Documents().All().empty());
     EXPECT_EQ(shell.Documents().Active(), nullptr);
 }
 
 TEST_F(ShellTest, ACleanDocumentClosesWithoutAQuestion) {
-    RecipeDocument& document = shell.Recipes().Create("");
+    RecipeDocument& document = shell.Opened()->recipes.Create("");
     view.log.clear();
-    EXPECT_TRUE(shell.Saver().Close(document));
+    EXPECT_TRUE(shell.Opened()->saver.Close(document));
     EXPECT_TRUE(shell.Documents().All().empty());
     EXPECT_EQ(outside.messages.log, Strings{});
     EXPECT_EQ(view.log, (Strings{"closing 0", "activated none"}));
@@ -108,10 +108,10 @@ TEST_F(ShellTest, ACleanDocumentClosesWithoutAQuestion) {
 
 TEST_F(ShellTest, AChangedDocumentBecomesActiveAndAsks) {
     RecipeDocument& first = NewNamed(" Joe's Ale ");
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     RecipeDocument* activeDuringQuestion = nullptr;
     outside.messages.whileAsking = [&] { activeDuringQuestion = shell.Documents().Active(); };
-    EXPECT_FALSE(shell.Saver().Close(first));
+    EXPECT_FALSE(shell.Opened()->saver.Close(first));
     EXPECT_EQ(outside.messages.log, Strings{Unsaved(" Joe's Ale ", "Cancel")});
     EXPECT_EQ(activeDuringQuestion, &first);
     EXPECT_EQ(shell.Documents().All().size(), 2u);
@@ -121,7 +121,7 @@ TEST_F(ShellTest, AChangedDocumentBecomesActiveAndAsks) {
 TEST_F(ShellTest, NoDropsTheChanges) {
     RecipeDocument& document = NewNamed("Pale Ale");
     outside.messages.answers = {Answer::No};
-    EXPECT_TRUE(shell.Saver().Close(document));
+    EXPECT_TRUE(shell.Opened()->saver.Close(document));
     EXPECT_TRUE(shell.Documents().All().empty());
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
 }
@@ -130,7 +130,7 @@ TEST_F(ShellTest, YesSavesAStoredRecipeAndCloses) {
     RecipeDocument& document = NewSaved("Pale Ale");
     document.Fields().SetText(document.Record().txtNotes, "More hops.");
     outside.messages.answers = {Answer::Yes};
-    EXPECT_TRUE(shell.Saver().Close(document));
+    EXPECT_TRUE(shell.Opened()->saver.Close(document));
     Recordset row = shell.DB()->OpenRecordset("SELECT NOTES FROM RECIPES WHERE NAME = 'Pale Ale'");
     ASSERT_FALSE(row.AtEnd());
     EXPECT_EQ(row.Fields(0).Text(), "More hops.");
@@ -139,7 +139,7 @@ TEST_F(ShellTest, YesSavesAStoredRecipeAndCloses) {
 TEST_F(ShellTest, YesWithACancelledNameDialogKeepsTheDocument) {
     RecipeDocument& document = NewNamed("Pale Ale");
     outside.messages.answers = {Answer::Yes};
-    EXPECT_FALSE(shell.Saver().Close(document));
+    EXPECT_FALSE(shell.Opened()->saver.Close(document));
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmOpenSave"});
     EXPECT_EQ(shell.Documents().All().size(), 1u);
     EXPECT_TRUE(document.Changed());
@@ -152,7 +152,7 @@ TEST_F(ShellTest, YesWithAFailingSaveKeepsTheDocument) {
         if (sql.starts_with("INSERT INTO RECIPES")) throw Error("Database", "disk full", 13);
     });
     outside.messages.answers = {Answer::Yes};
-    EXPECT_FALSE(shell.Saver().Close(document));
+    EXPECT_FALSE(shell.Opened()->saver.Close(document));
     EXPECT_EQ(outside.messages.log,
               (Strings{Unsaved("Pale Ale", "Yes"), "[Error] Error during save:\r\ndisk full (13)"}));
     EXPECT_TRUE(document.Changed());
@@ -169,7 +169,7 @@ TEST_F(ShellTest, YesWithASaveThatLosesItsRowKeepsTheDocument) {
         database.Execute("DELETE FROM RECIPES WHERE NAME = 'Pale Ale'");
     });
     outside.messages.answers = {Answer::Yes};
-    EXPECT_FALSE(shell.Saver().Close(document));
+    EXPECT_FALSE(shell.Opened()->saver.Close(document));
     EXPECT_EQ(outside.messages.log.back(), "[UNKNOWN ERROR] Error saving recipe to database!");
     EXPECT_EQ(shell.Documents().All().size(), 1u);
 }
@@ -187,15 +187,15 @@ class PendingEntry : public DocumentView {
 };
 
 TEST_F(ShellTest, AnEntryStillBeingTypedCountsWhenClosing) {
-    RecipeDocument& document = shell.Recipes().Create("");
+    RecipeDocument& document = shell.Opened()->recipes.Create("");
     PendingEntry entry([&] { document.Fields().SetText(document.Record().txtNotes, "typed"); });
     document.SetView(&entry);
-    EXPECT_FALSE(shell.Saver().Close(document));
+    EXPECT_FALSE(shell.Opened()->saver.Close(document));
     EXPECT_EQ(outside.messages.log, Strings{Unsaved("", "Cancel")});
 }
 
 TEST_F(ShellTest, AFaultInThePendingEntryCallsTheClosingOff) {
-    RecipeDocument& document = shell.Recipes().Create("");
+    RecipeDocument& document = shell.Opened()->recipes.Create("");
     PendingEntry entry([] { RaiseDivisionByZero(); });
     document.SetView(&entry);
     EXPECT_FALSE(shell.RequestExit());
@@ -215,7 +215,7 @@ TEST_F(ShellTest, ARefusalOnTheSecondOfThreeKeepsTheSecondAndTheThird) {
 }
 
 TEST_F(ShellTest, ExitClosesEveryDocumentAndThenTheMainWindow) {
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     NewNamed("Two");
     outside.messages.answers = {Answer::No};
     EXPECT_TRUE(shell.RunMenu("mnuFileExit"));
@@ -230,13 +230,13 @@ TEST_F(ShellTest, ARefusedExitKeepsTheMainWindow) {
 }
 
 TEST_F(ShellTest, AfterAClosingTheDocumentUsedBeforeIsActive) {
-    RecipeDocument& first = shell.Recipes().Create("");
-    RecipeDocument& second = shell.Recipes().Create("");
-    RecipeDocument& third = shell.Recipes().Create("");
+    RecipeDocument& first = shell.Opened()->recipes.Create("");
+    RecipeDocument& second = shell.Opened()->recipes.Create("");
+    RecipeDocument& third = shell.Opened()->recipes.Create("");
     shell.Documents().Activate(first);
-    EXPECT_TRUE(shell.Saver().Close(first));
+    EXPECT_TRUE(shell.Opened()->saver.Close(first));
     EXPECT_EQ(shell.Documents().Active(), &third);
-    EXPECT_TRUE(shell.Saver().Close(second));
+    EXPECT_TRUE(shell.Opened()->saver.Close(second));
     EXPECT_EQ(shell.Documents().Active(), &third);
 }
 
@@ -247,7 +247,7 @@ TEST_F(ShellTest, SavingANewRecipeGoesThroughTheNameDialog) {
         dialog.SetControl("txtName", " Amber ");
         dialog.Press("cmdOK");
     });
-    EXPECT_TRUE(shell.Saver().Save(document));
+    EXPECT_TRUE(shell.Opened()->saver.Save(document));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Amber"});
     EXPECT_EQ(document.OrigName(), "Amber");
     EXPECT_EQ(document.FolderID(), 0);
@@ -256,10 +256,10 @@ TEST_F(ShellTest, SavingANewRecipeGoesThroughTheNameDialog) {
 }
 
 TEST_F(ShellTest, TheNameDialogOffersTheCaptionOfAnUntitledDocument) {
-    RecipeDocument& document = shell.Recipes().Create("");
+    RecipeDocument& document = shell.Opened()->recipes.Create("");
     outside.dialogs.scripts.push_back(
         [](DialogModel& dialog) { EXPECT_EQ(dialog.Controls()[2].text, "Untitled 1"); });
-    EXPECT_FALSE(shell.Saver().SaveAs(document));
+    EXPECT_FALSE(shell.Opened()->saver.SaveAs(document));
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmOpenSave"});
 }
 
@@ -268,7 +268,7 @@ TEST_F(ShellTest, TheNameDialogsOverwriteQuestionIsTheOnlyOne) {
     RecipeDocument& document = NewNamed("Pale Ale");
     outside.messages.answers = {Answer::Yes};
     outside.dialogs.scripts.push_back([](DialogModel& dialog) { dialog.Press("cmdOK"); });
-    EXPECT_TRUE(shell.Saver().Save(document));
+    EXPECT_TRUE(shell.Opened()->saver.Save(document));
     EXPECT_EQ(outside.messages.log,
               Strings{"[Overwrite existing recipe?] A recipe named 'Pale Ale' already exists.\r\n"
                       "Overwrite it? -> Yes"});
@@ -277,8 +277,8 @@ TEST_F(ShellTest, TheNameDialogsOverwriteQuestionIsTheOnlyOne) {
 
 TEST_F(ShellTest, AnOverwrittenRecipesWindowStaysDetached) {
     RecipeDocument& overwritten = NewSaved("Pale Ale");
-    RecipeDocument& document = shell.Recipes().Create("");
-    EXPECT_TRUE(shell.Saver().SaveUnder(document, "pale ale", 0, Asking::Quietly));
+    RecipeDocument& document = shell.Opened()->recipes.Create("");
+    EXPECT_TRUE(shell.Opened()->saver.SaveUnder(document, "pale ale", 0, Asking::Quietly));
     EXPECT_EQ(shell.Documents().All().size(), 2u);
     EXPECT_EQ(overwritten.OrigName(), "");
     EXPECT_EQ(overwritten.FolderID(), -1);
@@ -289,7 +289,7 @@ TEST_F(ShellTest, SavingUnderAnotherRecipesNameAsksAndARefusalChangesNothing) {
     NewSaved("Pale Ale");
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtName, "Pale Ale");
-    EXPECT_FALSE(shell.Saver().Save(document));
+    EXPECT_FALSE(shell.Opened()->saver.Save(document));
     EXPECT_EQ(outside.messages.log,
               Strings{"[Overwrite existing recipe?] Another recipe named 'Pale Ale' already exists.\r\n"
                       "Overwrite it? -> No"});
@@ -298,7 +298,7 @@ TEST_F(ShellTest, SavingUnderAnotherRecipesNameAsksAndARefusalChangesNothing) {
 
 TEST_F(ShellTest, ASilentSavePassesANewDocumentOver) {
     RecipeDocument& document = NewNamed("Pale Ale");
-    EXPECT_FALSE(shell.Saver().Save(document, Asking::Quietly));
+    EXPECT_FALSE(shell.Opened()->saver.Save(document, Asking::Quietly));
     EXPECT_TRUE(document.Changed());
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
     EXPECT_TRUE(outside.dialogs.shown.empty());
@@ -308,7 +308,7 @@ TEST_F(ShellTest, ASilentSavePassesADocumentOverWhoseNameIsAnotherRecipes) {
     NewSaved("Pale Ale");
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtName, " PALE ALE ");
-    EXPECT_FALSE(shell.Saver().Save(document, Asking::Quietly));
+    EXPECT_FALSE(shell.Opened()->saver.Save(document, Asking::Quietly));
     EXPECT_TRUE(document.Changed());
     EXPECT_EQ(document.OrigName(), "Stout");
     EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Pale Ale", "Stout"}));
@@ -318,14 +318,14 @@ TEST_F(ShellTest, ASilentSavePassesADocumentOverWhoseNameIsAnotherRecipes) {
 TEST_F(ShellTest, ASilentSaveTakesAnEditedNameThatIsFree) {
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtName, "Dry Stout");
-    EXPECT_TRUE(shell.Saver().Save(document, Asking::Quietly));
+    EXPECT_TRUE(shell.Opened()->saver.Save(document, Asking::Quietly));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Dry Stout"});
     EXPECT_EQ(outside.messages.log, Strings{});
 }
 
 TEST_F(ShellTest, ASilentSaveWithoutAnyEditSaves) {
     RecipeDocument& document = NewSaved("Stout");
-    EXPECT_TRUE(shell.Saver().Save(document, Asking::Quietly));
+    EXPECT_TRUE(shell.Opened()->saver.Save(document, Asking::Quietly));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Stout"});
 }
 
@@ -335,8 +335,8 @@ TEST_F(ShellTest, AnErrorDuringSaveIsShownAndReportedAsNotSaved) {
     shell.DB()->SetStatementHook([](std::string_view sql) {
         if (sql.starts_with("UPDATE RECIPES")) throw Error("Database", "disk full", 13);
     });
-    EXPECT_FALSE(shell.Saver().Save(document));
-    EXPECT_FALSE(shell.Saver().SaveUnder(document, "Porter", 0, Asking::Quietly));
+    EXPECT_FALSE(shell.Opened()->saver.Save(document));
+    EXPECT_FALSE(shell.Opened()->saver.SaveUnder(document, "Porter", 0, Asking::Quietly));
     EXPECT_EQ(outside.messages.log, (Strings{"[Error] Error during save:\r\ndisk full (13)",
                                              "[Error] Error during save:\r\ndisk full (13)"}));
     EXPECT_TRUE(document.Changed());
@@ -353,44 +353,44 @@ TEST_F(ShellTest, AFullDiskDuringSaveIsToldByItsOwnError) {
         shell.DB()->ExecuteNative("ROLLBACK");
         throw Error("Database", "database or disk is full", 13);
     });
-    EXPECT_FALSE(shell.Saver().Save(document));
+    EXPECT_FALSE(shell.Opened()->saver.Save(document));
     shell.DB()->SetStatementHook(nullptr);
     EXPECT_EQ(outside.messages.log, Strings{"[Error] Error during save:\r\ndatabase or disk is full (13)"});
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Stout"});
-    EXPECT_TRUE(shell.Data().tree.NodeExists("R:1:0"));
+    EXPECT_TRUE(shell.Opened()->data.tree.NodeExists("R:1:0"));
     EXPECT_TRUE(document.Changed());
     EXPECT_TRUE(Lit("mnuFileOpen"));
-    EXPECT_TRUE(shell.Saver().Save(document));
+    EXPECT_TRUE(shell.Opened()->saver.Save(document));
 }
 
 TEST_F(ShellTest, ADiskThatStaysDeadLeavesTheListsAndSaysThatTheyAreOld) {
     RecipeDocument& document = NewSaved("Stout");
     document.Fields().SetText(document.Record().txtNotes, "x");
-    ExplorerModel explorer(shell.Data().Access(), {});
+    ExplorerModel explorer(shell.Opened()->data.Access(), {});
     view.log.clear();
     shell.DB()->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
-    EXPECT_FALSE(shell.Saver().Save(document));
-    EXPECT_FALSE(shell.Saver().Save(document));
+    EXPECT_FALSE(shell.Opened()->saver.Save(document));
+    EXPECT_FALSE(shell.Opened()->saver.Save(document));
     EXPECT_EQ(outside.messages.log.size(), 2u);
-    EXPECT_TRUE(shell.Data().tree.NodeExists("R:1:0"));
+    EXPECT_TRUE(shell.Opened()->data.tree.NodeExists("R:1:0"));
     const std::string old = "notice: The lists are not up to date: the database cannot be read.";
     EXPECT_EQ(std::ranges::count(view.log, old), 1);
     EXPECT_EQ(explorer.Status(), "Not up to date: the database cannot be read.");
     shell.DB()->SetStatementHook(nullptr);
-    EXPECT_TRUE(shell.Saver().Save(document));
+    EXPECT_TRUE(shell.Opened()->saver.Save(document));
     EXPECT_EQ(std::ranges::count(view.log, "notice: "), 1);
     EXPECT_EQ(explorer.Status(), "1 object");
-    EXPECT_TRUE(shell.Data().tree.IsUpToDate());
+    EXPECT_TRUE(shell.Opened()->data.tree.IsUpToDate());
 }
 
 TEST_F(ShellTest, OldListsAreReadAgainWhenTheyAreLookedAt) {
     NewSaved("Stout");
     shell.DB()->SetStatementHook([](std::string_view) { throw Error("Database", "disk I/O error", 10); });
-    EXPECT_FALSE(shell.Data().objects.RenameRecipe(1, "Porter", Asking::Quietly));
+    EXPECT_FALSE(shell.Opened()->data.objects.RenameRecipe(1, "Porter", Asking::Quietly));
     shell.DB()->SetStatementHook(nullptr);
-    EXPECT_FALSE(shell.Data().tree.IsUpToDate());
+    EXPECT_FALSE(shell.Opened()->data.tree.IsUpToDate());
     EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));
-    EXPECT_TRUE(shell.Data().tree.IsUpToDate());
+    EXPECT_TRUE(shell.Opened()->data.tree.IsUpToDate());
     EXPECT_EQ(view.log.back(), "notice: ");
 }
 
@@ -414,7 +414,7 @@ TEST_F(ShellTest, SaveAllSavesEveryDocumentAndGoesOnAfterAFailure) {
 TEST_F(ShellTest, ADeletedRecipeLeavesTheRecentListAndDetachesItsWindow) {
     RecipeDocument& document = NewSaved("Pale Ale");
     RecipeDocument& other = NewSaved("Stout");
-    shell.Services().DeleteRecipe("  pale ALE ");
+    shell.Opened()->services.DeleteRecipe("  pale ALE ");
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Stout"});
     EXPECT_EQ(shell.Recent().Captions(), Strings{"&1 Stout"});
     EXPECT_EQ(document.OrigName(), "");
@@ -440,7 +440,7 @@ TEST_F(ShellTest, TheRecentListIsUpToDateBeforeTheDocumentsHear) {
     } watcher(shell, during);
     during = {"not called"};
     shell.Bar().SetObserver(&watcher);
-    shell.Notices().NotifyRecipeDeleted("Pale Ale");
+    shell.Opened()->notices.NotifyRecipeDeleted("Pale Ale");
     shell.Bar().SetObserver(nullptr);
     EXPECT_EQ(during, Strings{});
 }

@@ -38,7 +38,7 @@ class ShellExchangeTest : public ShellTest {
 
     void MakeFile(const Strings& names) {
         for (const std::string& name : names) AddRecipeRow(*shell.DB(), name);
-        shell.Files().ExportRecipes(file, false, names);
+        shell.Opened()->files.ExportRecipes(file, false, names);
         shell.DB()->Execute("DELETE FROM RECIPES");
         TakeShown();
     }
@@ -92,7 +92,7 @@ TEST_F(ShellExchangeTest, CancelInEitherDialogOfAnExportEndsIt) {
 }
 
 TEST_F(ShellExchangeTest, TheMenuImportsThePickedRecipesIntoTheFolderChosen) {
-    shell.Data().objects.CreateRecipeFolder(0, "Ales", Asking::Quietly);
+    shell.Opened()->data.objects.CreateRecipeFolder(0, "Ales", Asking::Quietly);
     MakeFile({"Mild", "Bock"});
     GiveFile(folder.File("Ales"));
     PickAll();
@@ -100,7 +100,7 @@ TEST_F(ShellExchangeTest, TheMenuImportsThePickedRecipesIntoTheFolderChosen) {
     EXPECT_TRUE(shell.RunMenu("mnuFileImport"));
     EXPECT_EQ(TakeShown(), (Strings{"CommonDialog", "frmImportExport", "frmChooseFolder", "frmProgress"}));
     EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Bock", "Mild"}));
-    TWNode& ales = *shell.Data().tree.Nodes("F:1");
+    TWNode& ales = *shell.Opened()->data.tree.Nodes("F:1");
     ASSERT_EQ(ales.Children().Count(), 2u);
     EXPECT_EQ(ales.Children().Item(0).Name(), "Bock");
 }
@@ -111,11 +111,11 @@ TEST_F(ShellExchangeTest, CancelInAnyDialogOfAnImportEndsIt) {
     shell.RunMenu("mnuFileImport");
     EXPECT_EQ(TakeShown(), Strings{"CommonDialog"});
     NextDialog({{}, {"cmdCancel"}});
-    shell.Files().ImportFile(file);
+    shell.Opened()->files.ImportFile(file);
     EXPECT_EQ(TakeShown(), Strings{"frmImportExport"});
     PickAll();
     NextDialog({{}, {"cmdCancel"}});
-    shell.Files().ImportFile(file);
+    shell.Opened()->files.ImportFile(file);
     EXPECT_EQ(TakeShown(), (Strings{"frmImportExport", "frmChooseFolder"}));
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
 }
@@ -124,7 +124,7 @@ TEST_F(ShellExchangeTest, ThePickerOfAnImportShowsTheTreeOfTheFile) {
     shell.DB()->Execute("INSERT INTO STYLES (ID, NAME) VALUES (1, 'Dry Stout')");
     AddRecipeRow(*shell.DB(), "Mild");
     shell.DB()->Execute("UPDATE RECIPES SET STYLE_ID = 1");
-    shell.Files().ExportRecipes(file, false, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, false, {"Mild"});
     AddRecipeRow(*shell.DB(), "Only Here");
     outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         auto& model = dynamic_cast<ImportExportModel&>(dialog);
@@ -136,7 +136,7 @@ TEST_F(ShellExchangeTest, ThePickerOfAnImportShowsTheTreeOfTheFile) {
         EXPECT_TRUE(model.Recipes().Add(kDatabaseKey));
         EXPECT_EQ(model.Recipes().Selection(), Strings{"Mild"});
     });
-    shell.Files().ImportFile(file);
+    shell.Opened()->files.ImportFile(file);
 }
 
 TEST_F(ShellExchangeTest, TheFirstImportLightsTheCommandsOfRecipes) {
@@ -144,7 +144,7 @@ TEST_F(ShellExchangeTest, TheFirstImportLightsTheCommandsOfRecipes) {
     EXPECT_FALSE(Lit("mnuFileOpen"));
     EXPECT_FALSE(Lit("mnuFileExport"));
     view.log.clear();
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_TRUE(Lit("mnuFileOpen"));
     EXPECT_TRUE(Lit("mnuFileExport"));
     // The empty main window shows which commands are now enabled.
@@ -153,14 +153,14 @@ TEST_F(ShellExchangeTest, TheFirstImportLightsTheCommandsOfRecipes) {
 
 TEST_F(ShellExchangeTest, WithoutNamesAllRecipesOfTheFileComeIn) {
     MakeFile({"Mild", "Bock", "Dry's \"Stout\""});
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Bock", "Dry's \"Stout\"", "Mild"}));
     EXPECT_EQ(outside.messages.log, Strings{});
 }
 
 TEST_F(ShellExchangeTest, ATakenNameIsAskedAboutWithTheWordOfTheWay) {
     NewSaved("Mild");
-    shell.Files().ExportRecipes(file, true, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, true, {"Mild"});
     TakeShown();
     Strings words;
     for (int i = 0; i < 2; ++i)
@@ -168,8 +168,8 @@ TEST_F(ShellExchangeTest, ATakenNameIsAskedAboutWithTheWordOfTheWay) {
             words.push_back(dialog.Controls().at(3).text);
             dialog.Press("cmdSkip");
         });
-    shell.Files().ExportRecipes(file, true, {"Mild"});
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ExportRecipes(file, true, {"Mild"});
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(words, (Strings{"Do not export this recipe", "Do not import this recipe"}));
     EXPECT_EQ(TakeShown(), (Strings{"frmProgress", "frmNameConflict", "frmProgress", "frmNameConflict"}));
 }
@@ -177,7 +177,7 @@ TEST_F(ShellExchangeTest, ATakenNameIsAskedAboutWithTheWordOfTheWay) {
 TEST_F(ShellExchangeTest, ClosingTheQuestionAboutANameStopsTheRun) {
     MakeFile({"Bock", "Mild"});
     AddRecipeRow(*shell.DB(), "Bock");
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Bock"});
 }
 
@@ -185,7 +185,7 @@ TEST_F(ShellExchangeTest, AnUnknownStyleIsTold) {
     shell.DB()->Execute("INSERT INTO STYLES (ID, NAME) VALUES (1, 'Dry Stout')");
     AddRecipeRow(*shell.DB(), "Mild");
     shell.DB()->Execute("UPDATE RECIPES SET STYLE_ID = 1");
-    shell.Files().ExportRecipes(file, false, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, false, {"Mild"});
     shell.DB()->Execute("DELETE FROM STYLES");
     shell.DB()->Execute("DELETE FROM RECIPES");
     TakeShown();
@@ -193,17 +193,17 @@ TEST_F(ShellExchangeTest, AnUnknownStyleIsTold) {
         EXPECT_EQ(dialog.Controls().at(0).text, "Effected Recipe\tUnrecognized Style\nMild\tDry Stout\n");
         EXPECT_TRUE(dialog.Press("cmdOK"));
     });
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(TakeShown(), (Strings{"frmProgress", "frmStylesNotImported"}));
 }
 
 TEST_F(ShellExchangeTest, AnOpenRecipeThatIsOverwrittenStaysAsItWas) {
     RecipeDocument& document = NewSaved("Mild");
-    shell.Files().ExportRecipes(file, false, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, false, {"Mild"});
     document.Fields().SetText(document.Record().txtName, "Mild");
     document.Fields().SetText(document.Record().txtNotes, "typed since");
     NextDialog({{}, {"cmdOverwrite"}});
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(document.Record().txtNotes.Text(), "typed since");
     EXPECT_EQ(Captions(), Strings{"Mild"});
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Mild"});
@@ -212,7 +212,7 @@ TEST_F(ShellExchangeTest, AnOpenRecipeThatIsOverwrittenStaysAsItWas) {
 TEST_F(ShellExchangeTest, AMissingRecipeAsksWhetherToGoOn) {
     MakeFile({"Mild"});
     outside.messages.answers = {Answer::Ok};
-    shell.Files().ImportRecipes(file, 0, Strings{"Nothing", "Mild"});
+    shell.Opened()->files.ImportRecipes(file, 0, Strings{"Nothing", "Mild"});
     EXPECT_EQ(outside.messages.log,
               Strings{"[Error] Recipe 'Nothing' does not exist in Import File ! -> OK"});
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Mild"});
@@ -221,30 +221,30 @@ TEST_F(ShellExchangeTest, AMissingRecipeAsksWhetherToGoOn) {
 TEST_F(ShellExchangeTest, AFileThatIsNoneIsToldAndLeftAlone) {
     NewSaved("Mild");
     std::ofstream(file) << "a text";
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
-    shell.Files().ExportRecipes(file, true, {"Mild"});
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ExportRecipes(file, true, {"Mild"});
     EXPECT_EQ(outside.messages.TakeLog(), (Strings{NotRecognized(file), NotRecognized(file)}));
     std::string text;
     std::getline(std::ifstream(file), text);
     EXPECT_EQ(text, "a text");
     // Here replacing the file was requested.
-    shell.Files().ExportRecipes(file, false, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, false, {"Mild"});
     EXPECT_EQ(NamesInFile(), Strings{"Mild"});
 }
 
 TEST_F(ShellExchangeTest, AFileThatIsCutShortIsNotRecognized) {
     MakeFile({"Mild"});
     std::filesystem::resize_file(file, std::filesystem::file_size(file) / 2);
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(outside.messages.log, Strings{NotRecognized(file)});
 }
 
 TEST_F(ShellExchangeTest, ADatabaseWithoutTheTablesGivesTheStoresError) {
     Database::CreateDatabase(file, "");
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] no such table: RECIPES"});
     NewSaved("Mild");
-    shell.Files().ExportRecipes(file, true, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, true, {"Mild"});
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] no such table: RECIPES"});
 }
 
@@ -256,19 +256,19 @@ TEST_F(ShellExchangeTest, AFileWithAViewInATablesPlaceIsNotRecognized) {
             "DROP TABLE RECIPES; CREATE VIEW RECIPES AS WITH RECURSIVE N(I) AS (SELECT 1 UNION ALL SELECT I "
             "+ 1 "
             "FROM N) SELECT I AS ID, 'Ale' AS NAME, '' AS STYLE_NAME FROM N");
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
-    shell.Files().ExportRecipes(file, true, {"Mild"});
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ExportRecipes(file, true, {"Mild"});
     EXPECT_EQ(outside.messages.log, (Strings{NotRecognized(file), NotRecognized(file)}));
 }
 
 TEST_F(ShellExchangeTest, AnErrorInTheMiddleKeepsWhatCameBeforeAndShowsIt) {
     MakeFile({"Bock", "Mild"});
     Database::OpenDatabase(file, false)->ExecuteNative("DROP TABLE RECIPE_LOG");
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(outside.messages.log, Strings{"[Error] no such table: RECIPE_LOG"});
     ASSERT_EQ(RecipeNames(*shell.DB()), Strings{"Bock"});
     const std::string id = shell.DB()->OpenRecordset("SELECT ID FROM RECIPES").Fields(0).Text();
-    EXPECT_TRUE(shell.Data().tree.NodeExists("R:" + id + ":3"));
+    EXPECT_TRUE(shell.Opened()->data.tree.NodeExists("R:" + id + ":3"));
     EXPECT_TRUE(Lit("mnuFileOpen"));
 }
 
@@ -277,22 +277,22 @@ TEST_F(ShellExchangeTest, ARecoveryOfTheReplacedFileDoesNotReachTheNewOne) {
     MakeFile({"Old"});
     NewSaved("Mild");
     std::ofstream(file + "-journal") << "what an interrupted run has left";
-    shell.Files().ExportRecipes(file, false, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, false, {"Mild"});
     EXPECT_EQ(NamesInFile(), Strings{"Mild"});
     EXPECT_EQ(outside.messages.log, Strings{});
 }
 
 TEST_F(ShellExchangeTest, AFileThatCannotBeWrittenIsTold) {
     NewSaved("Mild");
-    shell.Files().ExportRecipes(folder.File("none/Ales.TWR"), true, {"Mild"});
+    shell.Opened()->files.ExportRecipes(folder.File("none/Ales.TWR"), true, {"Mild"});
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + folder.File("none/Ales.TWR") +
                                                   "' cannot be opened: unable to open database file."});
-    shell.Files().ExportRecipes(folder.File(""), false, {"Mild"});
+    shell.Opened()->files.ExportRecipes(folder.File(""), false, {"Mild"});
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + folder.File("") + "' is a folder."});
     MakeFile({"Old"});
     NewSaved("Mild");
     std::filesystem::permissions(file, std::filesystem::perms::owner_read);
-    shell.Files().ExportRecipes(file, true, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, true, {"Mild"});
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + file + "' is write-protected."});
     EXPECT_EQ(NamesInFile(), Strings{"Old"});
 }
@@ -302,11 +302,11 @@ TEST_F(ShellExchangeTest, ANewFileThatFailsLeavesTheOlderOneAndNothingBeside) {
     NewSaved("Bock");
     NewSaved("Mild");
     shell.DB()->ExecuteNative("DROP TABLE RECIPE_LOG");
-    shell.Files().ExportRecipes(file, false, {"Bock", "Mild"});
+    shell.Opened()->files.ExportRecipes(file, false, {"Bock", "Mild"});
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] no such table: RECIPE_LOG"});
     EXPECT_EQ(NamesInFile(), Strings{"Old"});
     const std::string other = folder.File("Other.TWR");
-    shell.Files().ExportRecipes(other, false, {"Bock"});
+    shell.Opened()->files.ExportRecipes(other, false, {"Bock"});
     EXPECT_FALSE(std::filesystem::exists(other));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.File("")), {}), 1);
 }
@@ -317,7 +317,7 @@ TEST_F(ShellExchangeTest, WhatWasAddedBeforeAnErrorStaysInTheOlderFile) {
     for (const char* name : {"Bock", "Mild", "Porter"}) NewSaved(name);
     shell.DB()->ExecuteNative(
         "INSERT INTO RECIPE_LOG (RECIPE_ID, ROW_ID) SELECT ID, 0 FROM RECIPES WHERE NAME = 'Mild'");
-    shell.Files().ExportRecipes(file, true, {"Bock", "Mild", "Porter"});
+    shell.Opened()->files.ExportRecipes(file, true, {"Bock", "Mild", "Porter"});
     EXPECT_EQ(outside.messages.log, Strings{"[Error] no such table: RECIPE_LOG"});
     // Even the part of the recipe that failed.
     EXPECT_EQ(NamesInFile(), (Strings{"Bock", "Mild", "Old"}));
@@ -328,7 +328,7 @@ TEST_F(ShellExchangeTest, AFileThatAnotherProgramWritesIsNotReplacedUnderIt) {
     NewSaved("Mild");
     const auto other = Database::OpenDatabase(file, false);
     other->ExecuteNative("PRAGMA journal_mode=DELETE; BEGIN EXCLUSIVE; DELETE FROM RECIPES");
-    shell.Files().ExportRecipes(file, false, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, false, {"Mild"});
     EXPECT_EQ(outside.messages.TakeLog(), Strings{"[Error] '" + file + "' is in use by another program."});
     other->ExecuteNative("ROLLBACK");
     EXPECT_EQ(RecipeNames(*other), Strings{"Old"});
@@ -341,7 +341,7 @@ TEST_F(ShellExchangeTest, AnExportKeepsTheModeOfTheFileAndALinkToIt) {
     const std::string link = folder.File("Link.TWR");
     std::filesystem::create_symlink(file, link);
     for (const bool append : {true, false}) {
-        shell.Files().ExportRecipes(link, append, {"Mild"});
+        shell.Opened()->files.ExportRecipes(link, append, {"Mild"});
         EXPECT_EQ(outside.messages.log, Strings{});
         EXPECT_TRUE(std::filesystem::is_symlink(link));
         EXPECT_EQ(std::filesystem::status(file).permissions(), static_cast<std::filesystem::perms>(0640));
@@ -354,7 +354,7 @@ TEST_F(ShellExchangeTest, AFileWithALogOfItsOwnIsAddedToWhole) {
     // Another program keeps the file open, with its changes in a write-ahead log.
     Database::OpenDatabase(file, false)->ExecuteNative("PRAGMA journal_mode=WAL");
     NewSaved("Mild");
-    shell.Files().ExportRecipes(file, true, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, true, {"Mild"});
     EXPECT_EQ(outside.messages.log, Strings{});
     EXPECT_EQ(NamesInFile(), (Strings{"Mild", "Old"}));
 }
@@ -362,7 +362,7 @@ TEST_F(ShellExchangeTest, AFileWithALogOfItsOwnIsAddedToWhole) {
 TEST_F(ShellExchangeTest, AWriteProtectedFileCanBeImported) {
     MakeFile({"Mild"});
     std::filesystem::permissions(file, std::filesystem::perms::owner_read);
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Mild"});
 }
 
@@ -370,10 +370,10 @@ TEST_F(ShellExchangeTest, AutosaveWaitsWhileRecipesAreCopied) {
     RecipeDocument& document = NewSaved("Mild");
     shell.SettingsNow().SetDoAutoSave(true);
     shell.CurrentSettings().doAutoSaveEvery = 1;
-    shell.Files().ExportRecipes(file, false, {"Mild"});
+    shell.Opened()->files.ExportRecipes(file, false, {"Mild"});
     document.Fields().SetText(document.Record().txtNotes, "typed since");
     outside.dialogs.scripts.emplace_back([&](DialogModel&) { shell.TickAutoSave(); });
-    shell.Files().ImportRecipes(file, 0, std::nullopt);
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
     EXPECT_TRUE(document.Changed());
     shell.TickAutoSave();
     EXPECT_FALSE(document.Changed());
@@ -382,10 +382,10 @@ TEST_F(ShellExchangeTest, AutosaveWaitsWhileRecipesAreCopied) {
 TEST_F(ShellExchangeTest, OneImportDoesNotStartWithinAnother) {
     MakeFile({"Mild"});
     outside.dialogs.scripts.emplace_back([&](DialogModel& dialog) {
-        shell.Files().ImportFromPath(file);
+        shell.Opened()->files.ImportFromPath(file);
         dialog.CloseBox();
     });
-    shell.Files().ImportFile(file);
+    shell.Opened()->files.ImportFile(file);
     EXPECT_EQ(TakeShown(), Strings{"frmImportExport"});
 }
 
@@ -423,7 +423,7 @@ TEST(ShellExchange, CancelIsHeardWhileTheFileIsBeingRead) {
     Platform platform{outside.messages, dialogs, outside.settings, outside.clock, outside.clipboard};
     Shell shell({platform});
     ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
-    shell.Files().ImportRecipes(file, 0, Strings{"Ale 1", "Ale 2"});
+    shell.Opened()->files.ImportRecipes(file, 0, Strings{"Ale 1", "Ale 2"});
     // Stopped before the first recipe was shown, and without an error.
     EXPECT_EQ(dialogs.shownFirst.front(), "");
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{});
@@ -444,11 +444,11 @@ TEST(ShellExchange, TheDatabaseItselfIsNeverReplacedOrTakenForARecipeFile) {
     AddRecipeRow(*shell.DB(), "Mild");
     for (const char* name : {"Tunwright.mdb", "link.TWR", "hard.TWR"}) {
         const std::string target = folder.File(name);
-        shell.Files().ExportRecipes(target, false, {"Mild"});
+        shell.Opened()->files.ExportRecipes(target, false, {"Mild"});
         EXPECT_EQ(outside.messages.TakeLog(),
                   Strings{"[Error] '" + target + "' is the database of the recipes themselves."});
-        shell.Files().ExportRecipes(target, true, {"Mild"});
-        shell.Files().ImportRecipes(target, 0, std::nullopt);
+        shell.Opened()->files.ExportRecipes(target, true, {"Mild"});
+        shell.Opened()->files.ImportRecipes(target, 0, std::nullopt);
         const std::string refused =
             "[Error] File not recognized.\r\n\"" + target + "\" is not valid Tunwright Recipe file";
         EXPECT_EQ(outside.messages.TakeLog(), (Strings{refused, refused}));

@@ -42,7 +42,7 @@ class ShellHelp : public ShellTest {
 };
 
 TEST_F(ShellHelp, IsAboutTheTabInFront) {
-    shell.Recipes().Create("").Focus().SetTab(Tab::Hops);
+    shell.Opened()->recipes.Create("").Focus().SetTab(Tab::Hops);
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "hops.html");
     shell.Documents().Active()->Focus().SetTab(Tab::General);
@@ -53,14 +53,14 @@ TEST_F(ShellHelp, IsAboutTheTabInFront) {
 TEST_F(ShellHelp, IsTheHomePageWithoutADocumentOrWithAMinimisedOne) {
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "home");
-    shell.Recipes().Create("").Focus().SetTab(Tab::Hops);
+    shell.Opened()->recipes.Create("").Focus().SetTab(Tab::Hops);
     view.minimized = true;
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     EXPECT_EQ(TakePage(), "home");
 }
 
 TEST_F(ShellHelp, ATabWithoutAPageIsTold) {
-    shell.Recipes().Create("").Focus().SetTab(Tab::Notes);
+    shell.Opened()->recipes.Create("").Focus().SetTab(Tab::Notes);
     shell.RunMenu("mnuHelpAuto");
     EXPECT_EQ(outside.messages.log, Strings{"[Error Loading Help Topic] Error: Topic Not Found"});
     EXPECT_EQ(TakePage(), "");
@@ -68,7 +68,7 @@ TEST_F(ShellHelp, ATabWithoutAPageIsTold) {
 
 TEST_F(ShellHelp, AMissingDatabaseIsToldAndTheProgramGoesOn) {
     std::filesystem::remove(folder.Path() / "help.mdb");
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     EXPECT_TRUE(shell.RunMenu("mnuHelpAuto"));
     shell.Helping().ShowContextHelp("frmAbout", "?");
     const std::string box = "[Error] Could not find file '" + help.DatabasePath() + "'. (14)";

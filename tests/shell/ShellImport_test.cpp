@@ -27,7 +27,7 @@ class ShellImportTest : public ShellTest {
 
 TEST_F(ShellImportTest, ImportsAFileWithAndWithoutQuotes) {
     for (const std::string& path : {file, "\"" + file + "\"", "\"" + file}) {
-        shell.Files().ImportFromPath(path);
+        shell.Opened()->files.ImportFromPath(path);
         EXPECT_EQ(outside.messages.TakeLog(), Strings{Taken(file)}) << path;
     }
 }
@@ -36,23 +36,23 @@ TEST_F(ShellImportTest, AQuoteInTheNameOfAFileIsPartOfIt) {
     const std::filesystem::path before = std::filesystem::current_path();
     std::filesystem::current_path(folder.File(""));
     std::ofstream("\"quoted\"") << "x";
-    shell.Files().ImportFromPath("\"quoted\"");
+    shell.Opened()->files.ImportFromPath("\"quoted\"");
     std::filesystem::current_path(before);
     EXPECT_EQ(outside.messages.log, Strings{Taken("\"quoted\"")});
 }
 
 TEST_F(ShellImportTest, AMissingFileIsReportedOnlyIfItStoodInQuotes) {
-    shell.Files().ImportFromPath("/no/Such.twr");
-    shell.Files().ImportFromPath("");
+    shell.Opened()->files.ImportFromPath("/no/Such.twr");
+    shell.Opened()->files.ImportFromPath("");
     EXPECT_EQ(outside.messages.log, Strings{});
-    shell.Files().ImportFromPath("\"/no/Such.twr\"");
+    shell.Opened()->files.ImportFromPath("\"/no/Such.twr\"");
     EXPECT_EQ(outside.messages.TakeLog(), Strings{Missing("/no/Such.twr")});
-    shell.Files().ImportFromPath("\"");
+    shell.Opened()->files.ImportFromPath("\"");
     EXPECT_EQ(outside.messages.TakeLog(), Strings{Missing("")});
 }
 
 TEST_F(ShellImportTest, AFolderIsNoFile) {
-    shell.Files().ImportFromPath(folder.File(""));
+    shell.Opened()->files.ImportFromPath(folder.File(""));
     EXPECT_EQ(outside.messages.log, Strings{});
 }
 

@@ -22,14 +22,14 @@ class ShellPrintTest : public ShellTest {
         shell.Environment().saveFiles = &files;
     }
     void ExpectCommandsToWaitForTheJob() {
-        InstanceService& outsideCommands = shell.DDE();
+        InstanceService& outsideCommands = shell.Instance();
         outsideCommands.ParseDDECommand("[Import(/no/such/file)]");
         int waiting = 0;
         printer.whileShown = [&] {
             outsideCommands.TickDDE();
             waiting = outsideCommands.DDECommandCount();
         };
-        shell.Paper().PrintActive(false);
+        shell.Opened()->paper.PrintActive(false);
         EXPECT_EQ(waiting, 1);
         outsideCommands.TickDDE();
         EXPECT_EQ(outsideCommands.DDECommandCount(), 0);
@@ -121,7 +121,7 @@ TEST_F(ShellPrintTest, WithoutADocumentThereIsNothingToPrint) {
     AddRecipeRow(*shell.DB(), "Pale Ale");
     shell.States().CheckEnableDelete();
     EXPECT_TRUE(shell.RunMenu("mnuFilePrint"));
-    shell.Paper().PreviewActive();
+    shell.Opened()->paper.PreviewActive();
     EXPECT_TRUE(printer.log.empty());
     EXPECT_TRUE(outside.dialogs.shown.empty());
 }
@@ -179,12 +179,12 @@ TEST(ShellPrint, ThePdfFileNeverTakesThePlaceOfTheDatabase) {
     shell.Environment().printer = &printer;
     shell.Environment().saveFiles = &files;
     ASSERT_TRUE(shell.PerformSplashScreenInit(path));
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     printer.result = Result::NoPrinter;
     for (const char* name : {"Tunwright.mdb", "Tunwright.mdb-journal", "link.pdf"}) {
         files.answer = folder.File(name);
         outside.dialogs.scripts = {[](DialogModel& dialog) { EXPECT_TRUE(dialog.Press("cmdPDF")); }};
-        shell.Paper().PrintActive(false);
+        shell.Opened()->paper.PrintActive(false);
         EXPECT_EQ(outside.messages.TakeLog(),
                   Strings{"[Error] Could not create PDF file \"" + folder.File(name) + "\""});
         EXPECT_TRUE(outside.messages.advice.ends_with(" Please choose another name."));
@@ -242,7 +242,7 @@ TEST_F(ShellPrintTest, ThePreviewShowsSavesAndPrints) {
         printer.fails = false;
         EXPECT_TRUE(dialog.Press("cmdPrint"));
     });
-    shell.Paper().PreviewActive();
+    shell.Opened()->paper.PreviewActive();
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintPreview"}));
     EXPECT_EQ(outside.messages.log, (Strings{"[Error] Could not create PDF file \"/full/Porter.pdf\""}));
     EXPECT_EQ(printer.log.front(), "hourglass");
@@ -264,7 +264,7 @@ TEST_F(ShellPrintTest, FromThePreviewThePrinterDialogLeadsBackToIt) {
         EXPECT_TRUE(dialog.Press("cmdPrint"));
         EXPECT_TRUE(dialog.IsOpen());
     });
-    shell.Paper().PreviewActive();
+    shell.Opened()->paper.PreviewActive();
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintPreview"}));
     EXPECT_EQ(printer.log, (Strings{"new"}));
 }
@@ -273,7 +273,7 @@ TEST_F(ShellPrintTest, WithoutAPortNothingIsPrinted) {
     NewNamed("Porter");
     shell.Environment().printer = nullptr;
     EXPECT_TRUE(shell.RunMenu("mnuFilePrint"));
-    shell.Paper().PreviewActive();
+    shell.Opened()->paper.PreviewActive();
     EXPECT_TRUE(outside.dialogs.shown.empty());
 }
 
@@ -284,7 +284,7 @@ TEST_F(ShellPrintTest, TheWizardStaysBehindItsHiddenItem) {
     outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         EXPECT_EQ(dynamic_cast<PrintWizardModel&>(dialog).Type(), ReportType::Html);
     });
-    shell.Paper().ShowReportWizard(shell.CurrentSettings().reportType);
+    shell.Opened()->paper.ShowReportWizard(shell.CurrentSettings().reportType);
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmPrintWizard"}));
 }
 

@@ -24,37 +24,37 @@ class ShellSetup : public testing::Test {
 };
 
 TEST_F(ShellSetup, AStyleIsMadeInAFolderForOthers) {
-    shell.Recipes().Create("");
-    const std::int64_t dark = shell.Data().objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
+    shell.Opened()->recipes.Create("");
+    const std::int64_t dark = shell.Opened()->data.objects.CreateStyleFolder(0, "Dark", Asking::Quietly);
     Next([](DialogModel& editor) {
         EXPECT_EQ(editor.FormName(), "frmStyle");
         editor.SetControl("Text1", " Stout ");
         editor.Press("cmdOK");
     });
-    EXPECT_EQ(shell.Catalogue().EditStyle("", dark), "Stout");
-    EXPECT_TRUE(shell.Data().tree.NodeExists("S:1:1"));
+    EXPECT_EQ(shell.Opened()->catalogue.EditStyle("", dark), "Stout");
+    EXPECT_TRUE(shell.Opened()->data.tree.NodeExists("S:1:1"));
     EXPECT_TRUE(Offers("Stout"));
 }
 
 TEST_F(ShellSetup, AnEditedStyleGivesItsNameAndACancelledOneNothing) {
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
-    shell.Data().objects.AddStyleNodesByName("Stout");
+    shell.Opened()->data.objects.AddStyleNodesByName("Stout");
     Next([](DialogModel& editor) {
         EXPECT_EQ(editor.Controls().front().text, "Stout");
         editor.SetControl("Text1", "Dry Stout");
         editor.Press("cmdOK");
     });
-    EXPECT_EQ(shell.Catalogue().EditStyle("stout", 0), "Dry Stout");
+    EXPECT_EQ(shell.Opened()->catalogue.EditStyle("stout", 0), "Dry Stout");
     EXPECT_TRUE(Offers("Dry Stout"));
     EXPECT_FALSE(Offers("Stout"));
     Next([](DialogModel& editor) { editor.Press("cmdCancel"); });
-    EXPECT_EQ(shell.Catalogue().EditStyle("Dry Stout", 0), std::nullopt);
+    EXPECT_EQ(shell.Opened()->catalogue.EditStyle("Dry Stout", 0), std::nullopt);
 }
 
 // This does not depend on how the editor's window is closed afterwards.
 TEST_F(ShellSetup, AnAppliedStyleIsInTheListsAtOnce) {
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     Next([&](DialogModel& editor) {
         editor.SetControl("Text1", "Stout");
         editor.Press("cmdApply");
@@ -69,11 +69,11 @@ TEST_F(ShellSetup, AnAppliedStyleIsInTheListsAtOnce) {
         EXPECT_EQ(shell.Documents().Active()->Record().lblOGStyle.Text(), ">= 1.040");
         editor.Press("cmdCancel");
     });
-    shell.Catalogue().EditStyle("", 0);
+    shell.Opened()->catalogue.EditStyle("", 0);
 }
 
 TEST_F(ShellSetup, TheDocumentsFollowWhenDatabaseSetupCloses) {
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     Next([&](DialogModel& setup) {
         shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
         EXPECT_FALSE(Offers("Stout"));
@@ -85,7 +85,7 @@ TEST_F(ShellSetup, TheDocumentsFollowWhenDatabaseSetupCloses) {
 
 TEST_F(ShellSetup, TheRangesBesideTheFiguresFollowTheStyleWithoutAChange) {
     shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID, IBU_LO) VALUES ('Stout', 0, 20)");
-    RecipeDocument& document = shell.Recipes().Create("");
+    RecipeDocument& document = shell.Opened()->recipes.Create("");
     ASSERT_TRUE(document.Style().ChangeStyle("Stout"));
     bool saved = false;
     saved = document.Storage().SaveUnder("Mine", 0, Asking::Quietly);
@@ -94,13 +94,13 @@ TEST_F(ShellSetup, TheRangesBesideTheFiguresFollowTheStyleWithoutAChange) {
         editor.SetControl("gridInfo(4,1)", "40");
         editor.Press("cmdOK");
     });
-    shell.Catalogue().EditStyle("Stout", 0);
+    shell.Opened()->catalogue.EditStyle("Stout", 0);
     EXPECT_EQ(document.Record().lblIBUStyle.Text(), "20 - 40");
     EXPECT_FALSE(document.Changed());
 }
 
 TEST_F(ShellSetup, AnErrorInDatabaseSetupIsShownAndTheDocumentsFollow) {
-    shell.Recipes().Create("");
+    shell.Opened()->recipes.Create("");
     Next([&](DialogModel&) {
         shell.DB()->Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Stout', 0)");
         throw Error("Database", "The disk is full.", 13);

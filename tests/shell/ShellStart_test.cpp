@@ -80,17 +80,17 @@ TEST_F(ShellStartTest, AWriteProtectedDatabaseIsToldOnceAndCanBeRead) {
                 "\r\nRecipes can be read and printed, but not saved.\r\nAllow writing to this file and to "
                 "its folder, then start Tunwright again."});
     EXPECT_EQ(view.log.back(), "notice: Write-protected: recipes cannot be saved.");
-    shell.Recipes().OpenByName("Stout");
+    shell.Opened()->recipes.OpenByName("Stout");
     ASSERT_NE(shell.Documents().Active(), nullptr);
     RecipeDocument& stout = *shell.Documents().Active();
     stout.Fields().SetText(stout.Record().txtNotes, "kept all the same");
     shell.Unsaved().Keep();
-    EXPECT_FALSE(shell.Saver().Save(stout));
+    EXPECT_FALSE(shell.Opened()->saver.Save(stout));
     EXPECT_EQ(
         outside.messages.TakeLog(),
         Strings{"[Error] Error during save:\r\nThe database is write-protected: nothing can be saved in "
                 "it. (8)"});
-    EXPECT_TRUE(shell.Data().tree.NodeExists("R:1:0"));
+    EXPECT_TRUE(shell.Opened()->data.tree.NodeExists("R:1:0"));
     // Autosave does not repeat that message every few minutes.
     shell.CurrentSettings().doAutoSaveEvery = 1;
     shell.SettingsNow().SetDoAutoSave(true);
@@ -190,7 +190,7 @@ TEST_F(ShellStartTest, TheLowerSeparatorFollowsTheListAtTheStartAlone) {
     ASSERT_TRUE(next.PerformSplashScreenInit(":memory:"));
     EXPECT_TRUE(Visible(next, "mnuFileBar7"));
     EXPECT_EQ(next.Recent().Captions(), Strings{"&1 Pale Ale"});
-    next.Notices().NotifyRecipeDeleted("Pale Ale");
+    next.Opened()->notices.NotifyRecipeDeleted("Pale Ale");
     EXPECT_FALSE(Visible(next, "mnuFileBar5"));
     EXPECT_TRUE(Visible(next, "mnuFileBar7"));
 }
@@ -233,7 +233,7 @@ TEST_F(ShellStartTest, AStoredSettingActsAtOnce) {
     EXPECT_EQ(outside.settings.Read(SettingsPort::Layer::User, "MRU", "BoilVol"), "8 gal");
     EXPECT_EQ(shell.SettingsNow().Defaults().boilVol, "7 gal");
     EXPECT_TRUE(shell.SettingsNow().AppendRows());
-    EXPECT_EQ(shell.Recipes().Create("").Record().txtBoilVol.Text(), "7 gal");
+    EXPECT_EQ(shell.Opened()->recipes.Create("").Record().txtBoilVol.Text(), "7 gal");
 }
 
 TEST_F(ShellStartTest, AChoiceThatDoesNotExistCountsAsTheFirst) {

@@ -93,14 +93,14 @@ class ShellTest : public testing::Test {
 
     // Creates a changed document with that name typed in.
     RecipeDocument& NewNamed(std::string_view name) {
-        RecipeDocument& document = shell.Recipes().Create("");
+        RecipeDocument& document = shell.Opened()->recipes.Create("");
         document.Fields().SetText(document.Record().txtName, name);
         return document;
     }
     // Creates a document and saves it under that name.
     RecipeDocument& NewSaved(std::string_view name) {
-        RecipeDocument& document = shell.Recipes().Create("");
-        EXPECT_TRUE(shell.Saver().SaveUnder(document, name, 0, Asking::Quietly));
+        RecipeDocument& document = shell.Opened()->recipes.Create("");
+        EXPECT_TRUE(shell.Opened()->saver.SaveUnder(document, name, 0, Asking::Quietly));
         return document;
     }
 

@@ -64,8 +64,9 @@ class SvgIconEngine final : public QIconEngine {
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-        const QString key = QStringLiteral("%1|%2x%3|%4|%5")
+        const QString key = QStringLiteral("%1|%2|%3x%4|%5|%6")
                                 .arg(path_)
+                                .arg(static_cast<int>(ink_))
                                 .arg(size.width())
                                 .arg(size.height())
                                 .arg(mode == QIcon::Disabled)

@@ -42,7 +42,7 @@ MainWindow::MainWindow(Shell& shell, Platform& platform)
       area_(new DocumentArea(this)),
       autoSaveTimer_(new QTimer(this)),
       keepTimer_(new QTimer(this)),
-      ddeTimer_(new QTimer(this)),
+      commandsTimer_(new QTimer(this)),
       notice_(new ElidedLabel(this)) {
     setObjectName(QLatin1String(kFormName));
     setWindowTitle(QStringLiteral("Tunwright"));
@@ -66,11 +66,11 @@ MainWindow::MainWindow(Shell& shell, Platform& platform)
     keepTimer_->setSingleShot(true);
     connect(keepTimer_, &QTimer::timeout, this, [this] { shell_.Unsaved().Keep(); });
     new FileDrop(*this, [this](const QString& file) {
-        if (shell_.DB()) shell_.Files().ImportFromPath(FromQt(file));
+        if (shell_.DB()) shell_.Opened()->files.ImportFromPath(FromQt(file));
     });
-    ddeTimer_->setObjectName(QStringLiteral("tmrProcessDDE"));
-    ddeTimer_->setInterval(kDDETickMilliseconds);
-    connect(ddeTimer_, &QTimer::timeout, this, &MainWindow::TickDDE);
+    commandsTimer_->setObjectName(QStringLiteral("tmrProcessDDE"));
+    commandsTimer_->setInterval(kDDETickMilliseconds);
+    connect(commandsTimer_, &QTimer::timeout, this, &MainWindow::TickDDE);
     shell_.SetView(this);
     shell_.LoadWindowSettings();
     shell_.SettingsNow().ShowIcons();
@@ -101,7 +101,7 @@ bool MainWindow::StartUp(const std::string& databasePath, const std::string& fil
     SplashWindow splash(this);
     splash.show();
     QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    if (shell_.DDE().InitDDE(file) != StartTest::OnlyInstance) {
+    if (shell_.Instance().InitDDE(file) != StartTest::OnlyInstance) {
         hide();
         return false;
     }
@@ -113,8 +113,8 @@ bool MainWindow::StartUp(const std::string& databasePath, const std::string& fil
     ShowWelcome();
     shell_.States().ReapplyPaste();
     RunShowingErrors(platform_.messages, [this] { shell_.Unsaved().Offer(); });
-    if (!IsBlank(file)) shell_.Files().ImportFromPath(Trim(file));
-    shell_.DDE().SetTicking(true);
+    if (!IsBlank(file)) shell_.Opened()->files.ImportFromPath(Trim(file));
+    shell_.Instance().SetTicking(true);
     return true;
 }
 
@@ -148,7 +148,7 @@ void MainWindow::DocumentOpened(RecipeDocument& document) {
     RecipeDocument* opened = &document;
     connect(window, &DocumentSubWindow::CloseRequested, this, [this, window, opened] {
         if (!window->Document().Document() || !window->Document().Flush()) return;
-        RunShowingErrors(platform_.messages, [&] { shell_.Saver().Close(*opened); });
+        RunShowingErrors(platform_.messages, [&] { shell_.Opened()->saver.Close(*opened); });
     });
     connect(window, &QMdiSubWindow::windowStateChanged, this, [this](Qt::WindowStates, Qt::WindowStates now) {
         // Minimised is not remembered as the state of the next window.
@@ -246,12 +246,12 @@ void MainWindow::BringToFront() {
 }
 
 void MainWindow::OutsideCommandsWait() {
-    if (!ddeTimer_->isActive()) ddeTimer_->start();
+    if (!commandsTimer_->isActive()) commandsTimer_->start();
 }
 
 void MainWindow::TickDDE() {
-    RunShowingErrors(platform_.messages, [this] { shell_.DDE().TickDDE(); });
-    if (shell_.DDE().DDECommandCount() == 0) ddeTimer_->stop();
+    RunShowingErrors(platform_.messages, [this] { shell_.Instance().TickDDE(); });
+    if (shell_.Instance().DDECommandCount() == 0) commandsTimer_->stop();
 }
 
 void MainWindow::CloseMainWindow() {

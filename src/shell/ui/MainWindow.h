@@ -26,7 +26,7 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
 
     // Runs the start-up once the window is shown: the splash, the test for another instance on this desktop,
     // the settings, the database, and the import of file unless it is blank. False if the program must end at
-    // once: another instance is running (see the shell's DDE), or the database could not be opened. The
+    // once: another instance is running (Shell::Instance), or the database could not be opened. The
     // message has been shown then, and the window is closed or hidden.
     bool StartUp(const std::string& databasePath, const std::string& file = {});
 
@@ -79,7 +79,7 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
     DocumentArea* area_;
     QTimer* autoSaveTimer_;  // tmrAutoSave; it runs even while a dialog is open
     QTimer* keepTimer_;
-    QTimer* ddeTimer_;  // tmrProcessDDE; it runs only while commands are queued
+    QTimer* commandsTimer_;  // tmrProcessDDE; it runs only while commands are queued
     ElidedLabel* notice_;
     bool exitGranted_ = false;
     bool changing_ = false;  // true while the shell changes the windows, whose signals are then ignored
