@@ -51,9 +51,6 @@ void CatalogueEditor::DeclareCells() {
 }
 
 void CatalogueEditor::DeclareButtons() {
-    const auto step = [this](std::string (ObjectNavigator::*move)()) {
-        return [this, move] { GoTo((navigator_->*move)()); };
-    };
     const auto canStep = [this] { return navigator_ != nullptr; };
     AddButtons({
         {"cmdOK", [this] { Ok(); }},
@@ -63,10 +60,10 @@ void CatalogueEditor::DeclareButtons() {
          },
          [this] { return ApplyEnabled(); }},
         {"cmdCancel", [this] { Close(); }},
-        {"cmdFirst", step(&ObjectNavigator::GetFirst), canStep},
-        {"cmdPrevious", step(&ObjectNavigator::GetPrevious), canStep},
-        {"cmdNext", step(&ObjectNavigator::GetNext), canStep},
-        {"cmdLast", step(&ObjectNavigator::GetLast), canStep},
+        {"cmdFirst", [this] { GoTo(navigator_->GetFirst()); }, canStep},
+        {"cmdPrevious", [this] { GoTo(navigator_->GetPrevious()); }, canStep},
+        {"cmdNext", [this] { GoTo(navigator_->GetNext()); }, canStep},
+        {"cmdLast", [this] { GoTo(navigator_->GetLast()); }, canStep},
     });
 }
 
