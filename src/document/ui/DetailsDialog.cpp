@@ -1,6 +1,5 @@
 #include "document/ui/DetailsDialog.h"
 
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -8,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/Appearance.h"
+#include "platform/qt/CloseButton.h"
 #include "platform/qt/QtText.h"
 
 namespace tw {
@@ -66,16 +66,9 @@ DetailsDialog::DetailsDialog(DetailsModel& model, QWidget* parent) : QDialog(par
     if (model.FormName() == DetailsModel::kHopForm) AddBalance(*column);
     column->addSpacing(Unit(*this));
     column->addStretch();
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    QPushButton* close = buttons->button(QDialogButtonBox::Close);
-    close->setObjectName(QStringLiteral("cmdClose"));
+    QPushButton* close = AddCloseButton(*this, *column, model, "cmdClose");
     close->setDefault(true);
     close->setFocus();
-    connect(buttons, &QDialogButtonBox::rejected, this, [this] {
-        model_.Press("cmdClose");
-        QDialog::accept();
-    });
-    column->addWidget(buttons);
 }
 
 void DetailsDialog::AddFigures(QVBoxLayout& column) {

@@ -1,6 +1,5 @@
 #include "tools/ui/ColorScaleDialog.h"
 
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -8,6 +7,7 @@
 
 #include "document/ui/ColorSwatch.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/CloseButton.h"
 #include "platform/qt/QtText.h"
 #include "tools/ui/ColorScaleView.h"
 
@@ -22,16 +22,9 @@ ColorScaleDialog::ColorScaleDialog(ColorScaleModel& model, QWidget* parent)
     AddScales(*column);
     column->addWidget(view_, 1);
     AddReading(*column);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    QPushButton* close = buttons->button(QDialogButtonBox::Close);
-    close->setObjectName(QStringLiteral("cmdClose"));
+    QPushButton* close = AddCloseButton(*this, *column, model, "cmdClose");
     close->setText(tr("Close"));
     close->setDefault(true);
-    connect(buttons, &QDialogButtonBox::rejected, this, [this] {
-        model_.Press("cmdClose");
-        QDialog::accept();
-    });
-    column->addWidget(buttons);
     connect(view_, &ColorScaleView::Moved, this, &ColorScaleDialog::ShowReading);
     // Shows the first focus even before a key is pressed: here it has no text cursor.
     setAttribute(Qt::WA_KeyboardFocusChange);

@@ -1,7 +1,6 @@
 #include "tools/ui/ConvertUnitsDialog.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -10,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "platform/qt/Appearance.h"
+#include "platform/qt/CloseButton.h"
 #include "platform/qt/FocusMoves.h"
 #include "platform/qt/QtText.h"
 
@@ -43,16 +43,9 @@ ConvertUnitsDialog::ConvertUnitsDialog(ConvertUnitsModel& model, QWidget* parent
     AddBoxes(*rows);
     column->addLayout(rows);
     column->addStretch();
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    QPushButton* close = buttons->button(QDialogButtonBox::Close);
-    close->setObjectName(QStringLiteral("cmdClose"));
+    QPushButton* close = AddCloseButton(*this, *column, model, "cmdClose");
     close->setText(tr("Close"));
     close->setAutoDefault(false);
-    connect(buttons, &QDialogButtonBox::rejected, this, [this] {
-        model_.Press("cmdClose");
-        QDialog::accept();
-    });
-    column->addWidget(buttons);
     // The window has room for the kind with the most boxes, so that it never changes its size.
     resize(sizeHint());
     ShowKind();

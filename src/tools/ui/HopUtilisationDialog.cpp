@@ -1,12 +1,12 @@
 #include "tools/ui/HopUtilisationDialog.h"
 
-#include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
 #include <QVBoxLayout>
 
 #include "platform/qt/Appearance.h"
+#include "platform/qt/CloseButton.h"
 #include "platform/qt/QtText.h"
 #include "tools/ui/CurveSample.h"
 #include "tools/ui/UtilisationGraphView.h"
@@ -41,16 +41,9 @@ HopUtilisationDialog::HopUtilisationDialog(HopUtilisationModel& model, QWidget* 
     middle->addWidget(graph_, 1);
     column->addLayout(middle, 1);
     column->addLayout(FigureRow());
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    QPushButton* close = buttons->button(QDialogButtonBox::Close);
-    close->setObjectName(QStringLiteral("cmdClose"));
+    QPushButton* close = AddCloseButton(*this, *column, model, "cmdClose");
     close->setText(tr("Close"));
     close->setDefault(true);
-    connect(buttons, &QDialogButtonBox::rejected, this, [this] {
-        model_.Press("cmdClose");
-        QDialog::accept();
-    });
-    column->addWidget(buttons);
     connect(graph_, &UtilisationGraphView::Moved, this, &HopUtilisationDialog::ShowFigures);
     ShowGravity();
     slider_->setFocus();

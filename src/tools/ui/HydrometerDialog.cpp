@@ -1,7 +1,6 @@
 #include "tools/ui/HydrometerDialog.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -11,6 +10,7 @@
 
 #include "document/ui/PageBuilder.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/CloseButton.h"
 #include "platform/qt/FocusMoves.h"
 #include "platform/qt/QtText.h"
 
@@ -38,18 +38,11 @@ HydrometerDialog::HydrometerDialog(HydrometerModel& model, QWidget* parent) : QD
     AddRow(*rows, tr("Corrected &Gravity:"), Result());
     column->addLayout(rows);
     column->addStretch();
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    QPushButton* close = buttons->button(QDialogButtonBox::Close);
-    close->setObjectName(QStringLiteral("cmdEscape"));
+    QPushButton* close = AddCloseButton(*this, *column, model, "cmdEscape");
     close->setText(tr("Close"));
     close->setAutoDefault(false);
     // A click closes without checking the box that has the focus.
     close->setFocusPolicy(Qt::TabFocus);
-    connect(buttons, &QDialogButtonBox::rejected, this, [this] {
-        model_.Press("cmdEscape");
-        QDialog::accept();
-    });
-    column->addWidget(buttons);
     LookComputed();
     EditOf(QStringLiteral("txtActRead"))->setFocus();
 }
