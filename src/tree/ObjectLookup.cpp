@@ -6,18 +6,6 @@
 
 namespace tw {
 
-std::string FolderKey(FolderKind kind, std::int64_t id) {
-    return kind == FolderKind::Styles ? StyleFolderKey(id) : RecipeFolderKey(id);
-}
-
-std::string FolderWord(FolderKind kind) {
-    return kind == FolderKind::Styles ? "style folder" : "recipe folder";
-}
-
-std::string FolderCondition(FolderKind kind) {
-    return kind == FolderKind::Styles ? "STYLE" : "NOT STYLE";
-}
-
 std::int64_t ObjectLookup::IdByName(std::string_view name, std::string_view table) const {
     return tw::IdByName(database_, table, name);
 }

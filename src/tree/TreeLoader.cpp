@@ -108,20 +108,19 @@ void TreeLoader::LoadMainDatabase() {
 // Proceeds folder by folder from the root. Folders that cannot be reached from it, such as folders that
 // contain each other in a cycle, are not loaded.
 TreeLoader::NodesById TreeLoader::AddFolders(FolderKind kind, TWNode* root) {
-    const bool forStyles = kind == FolderKind::Styles;
     std::unordered_map<std::int64_t, std::vector<ObjectRow>> rowsByParent;
-    for (Recordset rows = database_.OpenRecordset(
-             forStyles ? "SELECT NAME, ID, PARENT_ID FROM FOLDERS WHERE STYLE ORDER BY NAME"
-                       : "SELECT NAME, ID, PARENT_ID FROM FOLDERS WHERE NOT STYLE ORDER BY NAME");
+    for (Recordset rows = database_.OpenRecordset("SELECT NAME, ID, PARENT_ID FROM FOLDERS WHERE " +
+                                                  FolderCondition(kind) + " ORDER BY NAME");
          !rows.AtEnd(); rows.MoveNext())
         if (const auto parent = rows.Fields(2).WholeNumber()) rowsByParent[*parent].emplace_back(rows);
 
+    const char letter = kind == FolderKind::Styles ? 'G' : 'F';
     NodesById nodes = {{0, root}};
     std::deque<std::int64_t> open = {0};
     for (; !open.empty(); open.pop_front()) {
         TWNode* const parent = nodes[open.front()];
         for (const ObjectRow& row : rowsByParent[open.front()]) {
-            TWNode* const node = Add(parent, row.Folder(forStyles ? 'G' : 'F'));
+            TWNode* const node = Add(parent, row.Folder(letter));
             if (node != nullptr && nodes.try_emplace(row.id, node).second) open.push_back(row.id);
         }
     }

@@ -7,6 +7,7 @@
 #include <unordered_map>
 
 #include "store/Database.h"
+#include "tree/FolderKind.h"
 #include "tree/TWTree.h"
 
 namespace tw {
@@ -29,7 +30,6 @@ class TreeLoader {
 
   private:
     using NodesById = std::unordered_map<std::int64_t, TWNode*>;
-    enum class FolderKind { Recipes, Styles };
 
     // Adds the root, and "All Recipes" and "By Style" below it.
     void AddRoots();
