@@ -56,6 +56,7 @@ double PssKib(pid_t pid) {
 pid_t Start(const Program& program) {
     std::vector<std::string> words = program.words;
     std::vector<char*> argv;
+    argv.reserve(words.size() + 1);
     for (std::string& word : words) argv.push_back(word.data());
     argv.push_back(nullptr);
     const pid_t pid = fork();

@@ -45,6 +45,7 @@ StoredValue Number(double number) {
 
 std::vector<StoredValue> Texts(const std::vector<std::string>& texts) {
     std::vector<StoredValue> values;
+    values.reserve(texts.size());
     for (const std::string& text : texts) values.push_back(Text(text));
     return values;
 }
@@ -255,6 +256,7 @@ class NoQuestions : public CopyHost {
 void CopyAll(Database& main, Database& file, bool isImport) {
     NoQuestions host;
     std::vector<std::string> names;
+    names.reserve(kRecipes);
     for (int i = 0; i < kRecipes; ++i) names.push_back(NameOf(i));
     RecipeCopier copier(main, file, host);
     StylesNotImported unknown;

@@ -8,7 +8,6 @@
 namespace {
 
 using tw::Grid;
-using tw::bench::kGrains;
 using tw::bench::Recipe;
 
 void Require(bool done) {

@@ -56,7 +56,10 @@ class CellGrid {
 
     Cell& At(int row, int col) { return cells_[Index(row, col)]; }
     const Cell& At(int row, int col) const { return cells_[Index(row, col)]; }
-    std::size_t Index(int row, int col) const { return static_cast<std::size_t>(row * Cols() + col); }
+    std::size_t Index(int row, int col) const {
+        return static_cast<std::size_t>(row) * static_cast<std::size_t>(Cols()) +
+               static_cast<std::size_t>(col);
+    }
 
     std::span<const RangeRow> rows_;
     std::vector<Cell> cells_;

@@ -50,6 +50,7 @@ void DatabaseSetupModel::DeclareForm() {
 const std::vector<std::string>& DatabaseSetupModel::Entries() {
     static const std::vector<std::string> entries = [] {
         std::vector<std::string> plurals;
+        plurals.reserve(kSetupOrder.size());
         for (const CatalogueKind kind : kSetupOrder) plurals.emplace_back(WordsOf(kind).plural);
         return plurals;
     }();

@@ -11,7 +11,7 @@
 namespace tw {
 
 struct TabRule {
-    const char* caption;
+    const char* caption = nullptr;
     // The control that gets the focus when the tab is shown: a text box or a grid.
     std::optional<FieldId> firstBox;
     std::optional<GridId> firstGrid;

@@ -38,6 +38,7 @@ void WaterTreatment::CalcTreatment() {
         return;
     }
     std::vector<Ions> added;
+    added.reserve(salts.size());
     for (const SaltIons& salt : salts) added.push_back(salt.ppm);
     const auto doses = FindDoses(NeededOf(recipe_.record.gridWater), added, recipe_.host.LPMaxIter());
     if (!doses) {

@@ -108,7 +108,7 @@ class BesideFile {
     bool Copy(const std::string& path) {
         const Descriptor from(open(path.c_str(), O_RDONLY | O_CLOEXEC));
         if (!from.IsOpen()) return false;
-        std::array<char, 1 << 16> buffer;
+        std::array<char, 1 << 16> buffer{};
         for (;;) {
             const ssize_t got = read(from.Number(), buffer.data(), buffer.size());
             if (got < 0 && errno == EINTR) continue;

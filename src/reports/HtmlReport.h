@@ -1,6 +1,8 @@
 // A report as HTML.
 #pragma once
 
+#include <utility>
+
 #include "reports/ReportOptions.h"
 #include "reports/ReportWriter.h"
 
@@ -8,7 +10,7 @@ namespace tw {
 
 class HtmlReport final : public ReportWriter {
   public:
-    HtmlReport(const ReportOptions& options, ReportStream& stream) : options_(options), stream_(stream) {}
+    HtmlReport(ReportOptions options, ReportStream& stream) : options_(std::move(options)), stream_(stream) {}
 
     void BeginReport() override;
     void EndReport() override;

@@ -138,6 +138,7 @@ void PrintLayout::DrawLine() {
     }
     for (std::size_t line = 0; line < count; ++line) {
         std::vector<const PrintRuns*> pieces;
+        pieces.reserve(columns.size());
         for (const auto& column : columns) pieces.push_back(line < column.size() ? &column[line] : nullptr);
         const double height = LineHeight(pieces);
         if (height > 0 && cursorY_ + height > printableBottom_) NextPage();

@@ -1,6 +1,8 @@
 // A report as rich text (RTF).
 #pragma once
 
+#include <utility>
+
 #include "reports/ReportOptions.h"
 #include "reports/ReportWriter.h"
 
@@ -8,7 +10,8 @@ namespace tw {
 
 class RichTextReport final : public ReportWriter {
   public:
-    RichTextReport(const ReportOptions& options, ReportStream& stream) : options_(options), stream_(stream) {}
+    RichTextReport(ReportOptions options, ReportStream& stream)
+        : options_(std::move(options)), stream_(stream) {}
 
     void BeginReport() override;
     void EndReport() override;

@@ -105,7 +105,7 @@ std::unique_ptr<Database> RecipeExchange::Open(const std::string& path) {
 }
 
 TargetFile RecipeExchange::Target(const std::string& path) const {
-    const TargetFile target(path, own_);
+    TargetFile target(path, own_);
     std::error_code failure;
     if (!fs::is_directory(fs::path(target.Path()).parent_path(), failure))
         Refuse(path, "cannot be opened: unable to open database file.", Database::kCannotOpenNumber);

@@ -69,7 +69,8 @@ void RecipeSaver::FollowUnfinished(const RecipeDocument& document, bool saved) {
 }
 
 void RecipeSaver::SaveAll() {
-    for (std::size_t i = 0; i < documents_.All().size(); ++i) {
+    // By index: while a message is shown, a document may be closed.
+    for (std::size_t i = 0; i < documents_.All().size(); ++i) {  // NOLINT(modernize-loop-convert)
         RunShowingErrors(data_.platform.messages, [&] {
             documents_.All()[i]->Focus().FlushEdits();
             Save(*documents_.All()[i]);

@@ -11,8 +11,8 @@ namespace tw {
 
 inline constexpr std::string_view kJournalSuffix = "-journal";
 
-// True if the file is a journal with pages to be restored; false if it is missing or cannot be read.
-bool HasUnfinishedWork(const std::filesystem::path& journal);
+// True if the file at path is a journal with pages to be restored; false if it is missing or cannot be read.
+bool HasUnfinishedWork(const std::filesystem::path& path);
 
 // The state of a database as its header describes it.
 struct DatabaseState {

@@ -16,6 +16,9 @@
 namespace tw {
 namespace {
 
+// What a cell contains, in the order in which a column is sorted.
+enum class Content : std::uint8_t { Blank, Figure, Text };
+
 // The key by which rows are sorted. Members are compared in order.
 struct SortKey {
     int group = 0;
@@ -23,14 +26,12 @@ struct SortKey {
     bool isObject = false;  // follows the folders
     // The value of the cell, the only part that a descending order reverses.
     struct Value {
-        int rank = 0;  // Rank: blank, number or date, text
+        Content content = Content::Blank;
         double first = 0, second = 0;
         std::string text;
         auto operator<=>(const Value&) const = default;
     } value;
 };
-
-enum Rank { kBlank, kFigure, kText };
 
 // Removes the number at the beginning of text and returns it; nullopt if there is none.
 std::optional<double> TakeNumber(std::string_view& text) {
@@ -49,10 +50,10 @@ SortKey::Value ValueOf(std::string_view cell, ListColumnKind kind) {
     SortKey::Value value;
     std::string_view text = Trim(cell);
     if (text.empty()) return value;
-    value.rank = kText;
+    value.content = Content::Text;
     if (kind == ListColumnKind::Number) {
         if (const auto low = TakeNumber(text)) {
-            value.rank = kFigure;
+            value.content = Content::Figure;
             value.first = value.second = *low;
             if (text.starts_with('-')) {
                 text.remove_prefix(1);
@@ -63,7 +64,7 @@ SortKey::Value ValueOf(std::string_view cell, ListColumnKind kind) {
     } else if (kind == ListColumnKind::Date) {
         if (const auto when = ReadListDate(text)) {
             constexpr double kMonths = 12, kDays = 31, kHours = 24, kMinutes = 60;
-            value.rank = kFigure;
+            value.content = Content::Figure;
             value.first =
                 ((((when->year * kMonths) + when->month) * kDays + when->day) * kHours + when->hour) *
                     kMinutes +

@@ -218,6 +218,7 @@ std::vector<FormButton> LookButtons(ListLook& look, const std::function<void()>&
     for (int column = 0; column <= ExplorerColumns(); ++column)
         choices.emplace_back(PopupCommand::ArrangeBy, column);
     std::vector<FormButton> buttons;
+    buttons.reserve(choices.size());
     for (const PopupChoice choice : choices)
         buttons.push_back({NameOf(choice), [&look, changed, choice] {
                                TakeLookCommand(look, choice);

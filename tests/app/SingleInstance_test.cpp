@@ -3,8 +3,8 @@
 // message, which proves that the text has arrived.
 #include <QProcess>
 #include <algorithm>
+#include <csignal>
 #include <memory>
-#include <signal.h>
 
 #include "app/AppTest.h"
 #include "platform/qt/LocalChannel.h"

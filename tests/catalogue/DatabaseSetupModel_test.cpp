@@ -35,7 +35,9 @@ class Setup : public EditorTest {
         io.AddStyleNodesByName(name);
     }
     // Sets what the brewer does in the next dialog.
-    void Next(std::function<void(DialogModel&)> work) { outside.dialogs.scripts.push_back(std::move(work)); }
+    void Next(std::function<void(DialogModel&)> work) {
+        outside.dialogs.scripts.emplace_back(std::move(work));
+    }
 
     std::unique_ptr<DatabaseSetupModel> model;
 };

@@ -24,16 +24,16 @@ class StyleNotices : public ObjectListener {
   public:
     void NotifyRecipeMoved(const std::string&, std::int64_t) override {}
     void NotifyRecipeNewStyle(const std::string& name, std::int64_t id) override {
-        log.push_back("new style " + name + " " + std::to_string(id));
+        log.emplace_back("new style " + name + " " + std::to_string(id));
     }
     void NotifyRecipeRenamed(const std::string&, const std::string&) override {}
     void NotifyStyleRenamed(std::int64_t id, const std::string& name) override {
-        log.push_back("style renamed " + std::to_string(id) + " to " + name);
+        log.emplace_back("style renamed " + std::to_string(id) + " to " + name);
     }
     void NotifyRecipeDeleted(const std::string&) override {}
     void NotifyRecipeFolderDeleted(std::int64_t) override {}
     void NotifyStyleDeleted(std::int64_t id) override {
-        log.push_back("style deleted " + std::to_string(id));
+        log.emplace_back("style deleted " + std::to_string(id));
     }
 
     Lines log;

@@ -3,7 +3,6 @@
 namespace tw::test {
 namespace {
 
-using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -40,7 +40,7 @@ std::string TextOf(const fs::path& file) {
     return text.str();
 }
 
-std::string Replaced(std::string text, const char* pattern, const char* by) {
+std::string Replaced(const std::string& text, const char* pattern, const char* by) {
     return std::regex_replace(text, std::regex(pattern), by);
 }
 
@@ -208,7 +208,7 @@ Strings UnknownNumbers(const std::string& html, const Strings& given) {
     for (const std::string& phrase : given) {
         const std::size_t at = text.find(phrase);
         if (at == std::string::npos)
-            unknown.push_back("not on the page: " + phrase);
+            unknown.emplace_back("not on the page: " + phrase);
         else
             text.replace(at, phrase.size(), "");
     }

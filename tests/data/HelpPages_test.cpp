@@ -79,22 +79,22 @@ class Markup {
             Take(*match);
         }
         Between(html.substr(at));
-        for (const std::string& open : open_) faults_.push_back("<" + open + "> is not closed");
+        for (const std::string& open : open_) faults_.emplace_back("<" + open + "> is not closed");
     }
     void Between(std::string text) {
         constexpr std::string_view kDocType = "<!DOCTYPE html>";
         if (text.starts_with(kDocType)) text.erase(0, kDocType.size());
-        if (text.find_first_of("<>") != std::string::npos) faults_.push_back("a bare < or > in: " + text);
+        if (text.find_first_of("<>") != std::string::npos) faults_.emplace_back("a bare < or > in: " + text);
         if (std::regex_search(text, std::regex("&(?!(amp|lt|gt|quot|#[0-9]+);)")))
-            faults_.push_back("a bare & in: " + text);
+            faults_.emplace_back("a bare & in: " + text);
     }
     void Take(const std::smatch& tag) {
         const std::string name = tag[2];
         for (const std::string& id : Matches(tag[3], "\\bid=\"([^\"]*)\""))
-            if (!ids_.insert(id).second) faults_.push_back("the id '" + id + "' twice");
+            if (!ids_.insert(id).second) faults_.emplace_back("the id '" + id + "' twice");
         if (tag[1].length() > 0) {
             if (open_.empty() || open_.back() != name)
-                faults_.push_back("</" + name + "> closes nothing");
+                faults_.emplace_back("</" + name + "> closes nothing");
             else
                 open_.pop_back();
         } else if (tag[4].length() == 0) {

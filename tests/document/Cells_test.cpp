@@ -185,15 +185,14 @@ TEST_F(CellsTest, EveryGridKnowsOtherNames) {
     AddOtherNames(*database);
     for (const char* insert :
          {"GRAINS (NAME, GRAIN, PPG_LO, PPG_HI, COLOR_LO, COLOR_HI) VALUES ('Malt', TRUE, 30, 30, 3, 3)",
-          "GRAINS (NAME, GRAIN, PPG_LO, PPG_HI, COLOR_LO, COLOR_HI) VALUES ('Sweet Syrup', FALSE, 36, 36, 5, "
-          "5)",
+          "GRAINS (NAME, GRAIN, PPG_LO, PPG_HI, COLOR_LO, COLOR_HI) VALUES ('Syrup B', FALSE, 36, 36, 5, 5)",
           "SUGARS (NAME, FERMENT_LO, FERMENT_HI) VALUES ('Honeydew', 70, 70)",
           "WATER_PROFILES (NAME, CA, CO3, CL, MG, NA, SO4) VALUES ('Spring', 11, 0, 0, 0, 0, 0)",
           "SALTS (NAME, CA, CO3, CL, MG, NA, SO4) VALUES ('Lime', 143, 0, 0, 0, 0, 0)",
           "YEAST (NAME, AA_LO, AA_HI) VALUES ('Acme A1', 80, 80)"})
         database->Execute(std::string("INSERT INTO ") + insert);
     AddAlias(*database, CatalogueKind::Grain, "Other Malt", "Malt");
-    AddAlias(*database, CatalogueKind::Extract, "Other Syrup", "Sweet Syrup");
+    AddAlias(*database, CatalogueKind::Extract, "Other Syrup", "Syrup B");
     AddAlias(*database, CatalogueKind::Sugar, "Other Sugar", "Honeydew");
     AddAlias(*database, CatalogueKind::Water, "Other Water", "Spring");
     AddAlias(*database, CatalogueKind::Salt, "Other Salt", "Lime");

@@ -60,7 +60,7 @@ Log DocumentTest::Shown() const {
     const RecipeRecord& r = document->Record();
     Log shown;
     for (const TextBox* box : r.TextBoxes()) shown.push_back(box->Name() + "=" + box->Text());
-    shown.push_back("cmbStyle=" + r.cmbStyle.Text());
+    shown.emplace_back("cmbStyle=" + r.cmbStyle.Text());
     for (const Label* label : r.Labels()) shown.push_back(label->Name() + "=" + label->Text());
     for (const Button* button : r.Buttons())
         shown.push_back(button->Name() + (button->Enabled() ? " on" : " off"));

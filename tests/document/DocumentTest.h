@@ -17,7 +17,7 @@
 namespace tw::test {
 
 // The ids of the styles that FillCatalogue adds.
-enum : int { kStout = 1, kLager, kOddWater, kHalfOpen };
+inline constexpr int kStout = 1, kLager = 2, kOddWater = 3, kHalfOpen = 4;
 
 void FillCatalogue(Database& database);
 // Returns the entries of FillCatalogue for the plain calculation.

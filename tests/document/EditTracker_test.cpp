@@ -8,9 +8,9 @@ namespace tw::test {
 namespace {
 
 struct Case {
-    const char* from;
-    const char* to;
-    TextSpan span;
+    const char* from = nullptr;
+    const char* to = nullptr;
+    TextSpan span = {};
 };
 
 TEST(ChangedSpan, IsWhatTheNewTextHasReplaced) {

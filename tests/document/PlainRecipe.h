@@ -45,11 +45,11 @@ class PlainRecipe {
     explicit PlainRecipe(const PlainCatalogue& catalogue, int hopForm, bool hopSock);
 
     // Edits as the brewer makes them. Refused and Raised leave everything unchanged.
-    Outcome Commit(const std::string& box, const std::string& text);
-    Outcome Edit(const std::string& grid, int row, int col, const std::string& text);
+    Outcome Commit(const std::string& box, const std::string& typed);
+    Outcome Edit(const std::string& grid, int row, int col, const std::string& typed);
     Outcome Check(int hopRow, int col, bool checked);
-    Outcome ChooseMethod(int method);
-    Outcome ChoosePackaging(int packaging);
+    Outcome ChooseMethod(int chosen);
+    Outcome ChoosePackaging(int chosen);
     void ChooseStyle(int id);
     // row is counted from 0 among the data rows.
     void InsertRow(const std::string& grid, int row);

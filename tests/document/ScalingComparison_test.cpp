@@ -113,7 +113,7 @@ Outcome RandomScaling::ScalePlainly(int what, double value, bool first, bool sec
 void RandomScaling::ScaleDocument(int what, double value, bool first, bool second, bool third) {
     host.askBefore = what == 0 && !third;
     platform.dialogs.scripts.clear();
-    platform.dialogs.scripts.push_back([](DialogModel& dialog) { dialog.Press("cmdYes"); });
+    platform.dialogs.scripts.emplace_back([](DialogModel& dialog) { dialog.Press("cmdYes"); });
     // The question about the carbonation.
     platform.messages.answers = {Answer::No};
     if (what == 0)

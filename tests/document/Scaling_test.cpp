@@ -29,10 +29,10 @@ class Scaling : public DocumentTest {
         Put(R().gridPriming, 1, PrimingCol::Fermentable, fermentable);
         Put(R().gridPriming, 1, PrimingCol::Amount, amount);
     }
-    void AnswerQuestions(std::vector<const char*> buttons) {
+    void AnswerQuestions(const std::vector<const char*>& buttons) {
         host.askBefore = true;
         for (const char* button : buttons)
-            platform.dialogs.scripts.push_back([button](DialogModel& dialog) { dialog.Press(button); });
+            platform.dialogs.scripts.emplace_back([button](DialogModel& dialog) { dialog.Press(button); });
     }
     // Expects that the document is changed, its history is empty and the commands are updated.
     void ExpectEnding() {
@@ -65,7 +65,7 @@ TEST_F(Scaling, WithoutAYesNothingHappens) {
 
 TEST_F(Scaling, AYesToAllOfThemIsAskedForOnce) {
     host.askBefore = true;
-    platform.dialogs.scripts.push_back([](DialogModel& dialog) {
+    platform.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         dialog.SetControl("chkDontShow", "yes");
         dialog.Press("cmdYes");
     });
@@ -214,7 +214,7 @@ TEST_F(Scaling, BothQuestionsComeBeforeAnythingChanges) {
         ++asked;
         EXPECT_EQ(State(), before);
     };
-    platform.dialogs.scripts.push_back([&](DialogModel& dialog) {
+    platform.dialogs.scripts.emplace_back([&](DialogModel& dialog) {
         look();
         dialog.Press("cmdYes");
     });

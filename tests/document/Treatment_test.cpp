@@ -288,7 +288,7 @@ TEST_F(TreatmentOf, GoesBackAndForthOnRandomWaters) {
             const double grams = (*doses)[i] * R().txtTotalVol.Value();
             if (grams < 0.001) continue;
             const RoundedQuantity rounded = FormatQuantity(grams, 3);
-            wanted.push_back("Salt " + std::to_string(i) + " " + rounded.text + " grams");
+            wanted.emplace_back("Salt " + std::to_string(i) + " " + rounded.text + " grams");
             EXPECT_EQ(R().gridTreatment.Number(static_cast<int>(wanted.size()), TreatmentCol::Amount),
                       rounded.value);
         }

@@ -203,7 +203,7 @@ TEST_F(AutoSaveWindow, TheRecoveryWindowRestoresWhatIsChosen) {
     Shell next({outside.platform});
     next.Environment().recoveryFolder = root;
     MainWindow other(next, outside.platform);
-    outside.dialogs.scripts.push_back([&](DialogModel& model) {
+    outside.dialogs.scripts.emplace_back([&](DialogModel& model) {
         RecoveryDialog dialog(dynamic_cast<RecoveryModel&>(model), &other);
         dialog.show();
         auto* list = dialog.findChild<QListWidget*>(QStringLiteral("lstRecipes"));

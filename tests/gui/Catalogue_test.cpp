@@ -252,7 +252,7 @@ TEST_F(CatalogueWindows, SetupDeletesAndAddsByItsKeys) {
     outside.messages.answers = {Answer::Yes};
     Key(Qt::Key_Delete);
     EXPECT_EQ(model.Items().SelectedText(), "Fuggle");
-    outside.dialogs.scripts.push_back([](DialogModel& editor) {
+    outside.dialogs.scripts.emplace_back([](DialogModel& editor) {
         editor.SetControl("Text1", "Zeus");
         editor.Press("cmdOK");
     });
@@ -382,8 +382,8 @@ TEST_F(CatalogueWindows, TheFilterLeavesWhatHoldsItsWords) {
 
 TEST_F(CatalogueWindows, TheMenuOpensSetupAndTheRecipesFollow) {
     NewRecipe();
-    outside.dialogs.scripts.push_back([&](DialogModel& setup) {
-        outside.dialogs.scripts.push_back([](DialogModel& editor) {
+    outside.dialogs.scripts.emplace_back([&](DialogModel& setup) {
+        outside.dialogs.scripts.emplace_back([](DialogModel& editor) {
             editor.SetControl("Text1", "Altbier");
             editor.Press("cmdOK");
         });
@@ -397,8 +397,8 @@ TEST_F(CatalogueWindows, TheMenuOpensSetupAndTheRecipesFollow) {
 
 TEST_F(CatalogueWindows, APickerShowsItsRowToBeRead) {
     NewRecipe();
-    outside.dialogs.scripts.push_back([&](DialogModel& picker) {
-        outside.dialogs.scripts.push_back([](DialogModel& editor) {
+    outside.dialogs.scripts.emplace_back([&](DialogModel& picker) {
+        outside.dialogs.scripts.emplace_back([](DialogModel& editor) {
             EXPECT_EQ(editor.Controls().front().text, "Fuggle");
             EXPECT_FALSE(editor.SetControl("Text1", "x"));
             editor.Press("cmdNext");

@@ -61,7 +61,7 @@ TEST_F(DocumentWindow, KeepsARecipeThroughSavingClosingAndOpening) {
     Type("Pale Malt");
     Key(Qt::Key_Tab);
     Type("8 lb");
-    outside.dialogs.scripts.push_back([](DialogModel& dialog) { dialog.Press("cmdOK"); });
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) { dialog.Press("cmdOK"); });
     // The amount is still in its editor: saving commits it first.
     Key(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmOpenSave"});
@@ -148,7 +148,7 @@ TEST_F(DocumentWindow, RefusesToSaveOrCloseOverABadEntry) {
 
 TEST_F(DocumentWindow, CommitsOnEnterAndRestoresOnEscape) {
     NewRecipe();
-    QLineEdit& box = Find<QLineEdit>("txtBoilVol");
+    auto& box = Find<QLineEdit>("txtBoilVol");
     box.setFocus();
     Type("6 gal");
     Key(Qt::Key_Return);

@@ -166,7 +166,7 @@ TEST_F(Exchange, EveryDialogHasAWindowOfItsOwn) {
 class ExchangeFiles : public Exchange {
   protected:
     QString File(const char* name) {
-        const QString path = folder.filePath(QLatin1String(name));
+        QString path = folder.filePath(QLatin1String(name));
         std::ofstream(FromQt(path)) << "a text";
         return path;
     }

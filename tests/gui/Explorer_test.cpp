@@ -470,7 +470,7 @@ TEST_F(ExplorerWindowTest, ChoosingAFolderEndsTheSearch) {
 }
 
 TEST_F(ExplorerWindowTest, ARecipeOpensBehindItInTheMainWindow) {
-    outside.dialogs.scripts.push_back([](DialogModel& explorer) {
+    outside.dialogs.scripts.emplace_back([](DialogModel& explorer) {
         ExplorerWindow explorerWindow(dynamic_cast<ExplorerModel&>(explorer), nullptr);
         explorerWindow.show();
         explorer.SetControl("lvNames", "Ale");

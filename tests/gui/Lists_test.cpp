@@ -187,7 +187,7 @@ class Choosers : public GuiTest {
     // Answers the next picker: records its title and selection, selects an entry of lvItems
     // and presses the button.
     void Answer(const std::string& name, const std::string& button = "cmdOK") {
-        outside.dialogs.scripts.push_back([this, name, button](DialogModel& dialog) {
+        outside.dialogs.scripts.emplace_back([this, name, button](DialogModel& dialog) {
             auto& picker = dynamic_cast<CataloguePickerModel&>(dialog);
             started = picker.Title() + ": " + picker.Items().SelectedText();
             EXPECT_TRUE(dialog.SetControl("lvItems", name));

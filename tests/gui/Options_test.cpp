@@ -252,7 +252,7 @@ TEST_F(OptionsWindow, TheMouseOffersResetOnTheGroupAlone) {
     Tabs().setCurrentIndex(2);
     auto* menu = dialog->findChild<QMenu*>();
     const auto rightClick = [&](const char* name) {
-        QWidget& at = In<QWidget>(name);
+        auto& at = In<QWidget>(name);
         QContextMenuEvent event(QContextMenuEvent::Mouse, at.rect().center(),
                                 at.mapToGlobal(at.rect().center()));
         QApplication::sendEvent(&at, &event);

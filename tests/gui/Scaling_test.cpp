@@ -29,7 +29,7 @@ class ScalingWindows : public GuiTest {
     RecipeRecord& R() { return shell.Documents().Active()->Record(); }
     // Shows the next dialog in its real window and calls work with it.
     void Work(std::function<void(ScalingDialog&)> work) {
-        outside.dialogs.scripts.push_back([work = std::move(work)](DialogModel& model) {
+        outside.dialogs.scripts.emplace_back([work = std::move(work)](DialogModel& model) {
             ScalingDialog dialog(dynamic_cast<ScalingModel&>(model), nullptr);
             dialog.show();
             QApplication::setActiveWindow(&dialog);
@@ -178,7 +178,7 @@ TEST_F(ScalingWindows, AQuestionStandsBeforeIt) {
         Type("40");
         Key(Qt::Key_Return);
     });
-    outside.dialogs.scripts.push_back([](DialogModel& model) { model.Press("cmdNo"); });
+    outside.dialogs.scripts.emplace_back([](DialogModel& model) { model.Press("cmdNo"); });
     EXPECT_TRUE(window.RunCommand(CommandId::ToolsChangeBitterness));
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmChangeIBU", "frmCannotUndo"}));
     EXPECT_EQ(R().gridHops.Text(1, HopCol::Amount), "20 IBU");

@@ -13,6 +13,7 @@ constexpr std::size_t kHeader = alignof(std::max_align_t);
 
 }  // namespace
 
+// NOLINTBEGIN(cppcoreguidelines-no-malloc): what new and delete themselves call
 void* operator new(std::size_t size) {
     void* const block = std::malloc(size + kHeader);
     if (!block) throw std::bad_alloc();
@@ -27,6 +28,7 @@ void operator delete(void* memory) noexcept {
     held -= *static_cast<std::size_t*>(block);
     std::free(block);
 }
+// NOLINTEND(cppcoreguidelines-no-malloc)
 
 void operator delete(void* memory, std::size_t) noexcept {
     operator delete(memory);

@@ -11,10 +11,10 @@ struct Recorder : RecordObserver {
     void CellChanged(const Grid& grid, int row, int col) override {
         log.push_back(std::to_string(row) + "," + std::to_string(col) + "=" + grid.Text(row, col));
     }
-    void RowInserted(const Grid&, int row) override { log.push_back("in " + std::to_string(row)); }
-    void RowRemoved(const Grid&, int row) override { log.push_back("out " + std::to_string(row)); }
+    void RowInserted(const Grid&, int row) override { log.emplace_back("in " + std::to_string(row)); }
+    void RowRemoved(const Grid&, int row) override { log.emplace_back("out " + std::to_string(row)); }
     void CurrentCellChanged(const Grid& grid) override {
-        log.push_back("at " + std::to_string(grid.CurrentRow()) + "," + std::to_string(grid.CurrentCol()));
+        log.emplace_back("at " + std::to_string(grid.CurrentRow()) + "," + std::to_string(grid.CurrentCol()));
     }
     std::vector<std::string> log;
 };

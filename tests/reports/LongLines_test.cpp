@@ -150,7 +150,7 @@ TEST_F(LongLinesTest, AWideFooterTakesTheLineAboveAndStillEndsAtTheMargin) {
 }
 
 TEST_F(LongLinesTest, AFooterKeepsToTheLowerMarginAndKeepsItsPageNumber) {
-    Begin(Letters(112 * 6, 'a') + Letters(20, 'z'));
+    Begin(Letters(std::size_t{6} * 112, 'a') + Letters(20, 'z'));
     layout.EndPrint();
     EXPECT_EQ(Texts(), (Strings{Letters(112, 'a'), Letters(112, 'a'), Letters(20, 'z') + " - Page 1"}));
 }

@@ -13,7 +13,7 @@ class Browsing : public ShellTest {
     }
     // The next dialog gets these entries and a press of the button.
     void AnswerWith(const std::vector<DialogControl>& controls, const std::string& button) {
-        outside.dialogs.scripts.push_back([controls, button](DialogModel& dialog) {
+        outside.dialogs.scripts.emplace_back([controls, button](DialogModel& dialog) {
             for (const DialogControl& control : controls)
                 EXPECT_TRUE(dialog.SetControl(control.name, control.text)) << control.name;
             EXPECT_TRUE(dialog.Press(button));
@@ -52,7 +52,7 @@ TEST_F(Browsing, ACancelledDeletionDeletesNothing) {
 TEST_F(Browsing, FolderAndViewAreKeptFromOneUseToTheNext) {
     NewSaved("Ale");
     EXPECT_EQ(shell.BrowseFields().look, ListLook());
-    outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         for (const char* command : {"mnuDetails", "mnuArrangeBy(3)", "mnuArrangeBy(3)"})
             dialog.Press(command);
         dialog.SetControl("icmbFolder", "F:1");
@@ -62,7 +62,7 @@ TEST_F(Browsing, FolderAndViewAreKeptFromOneUseToTheNext) {
     EXPECT_TRUE(shell.RunMenu("mnuFileOpen"));
     EXPECT_EQ(shell.BrowseFields().nodeKey, "F:1");
     EXPECT_EQ(shell.BrowseFields().look, (ListLook{ListViewType::Details, 3, true}));
-    outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         EXPECT_EQ(dialog.Controls()[0].text, "Winter");
         dialog.SetControl("icmbFolder", "F:-1");
         dialog.Press("mnuList");
@@ -74,7 +74,7 @@ TEST_F(Browsing, FolderAndViewAreKeptFromOneUseToTheNext) {
 
 TEST_F(Browsing, SavingKeepsFolderAndViewToo) {
     RecipeDocument& document = NewNamed("Ale");
-    outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         dialog.SetControl("FolderID", "1");
         dialog.Press("cmdDetails");
         dialog.Press("cmdOK");
@@ -99,7 +99,7 @@ TEST_F(Browsing, ADeletedFolderIsNotTheOneToStartIn) {
 
 TEST_F(Browsing, TheExplorerOpensRecipesAndStays) {
     EXPECT_TRUE(shell.Opened()->saver.Close(NewSaved("Ale")));
-    outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         EXPECT_EQ(dialog.FormName(), "frmExplorer");
         EXPECT_TRUE(dialog.SetControl("lvNames", "Ale"));
         EXPECT_TRUE(dialog.Press("mnuOpen"));
@@ -110,7 +110,7 @@ TEST_F(Browsing, TheExplorerOpensRecipesAndStays) {
 }
 
 TEST_F(Browsing, TheExplorerKeepsItsViewButNoFolder) {
-    outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         dialog.SetControl("treeFolders", "F:1");
         dialog.Press("mnuSmallIcons");
     });
@@ -131,7 +131,7 @@ TEST_F(Browsing, WhatTheExplorerDeletesDarkensTheCommands) {
 
 TEST_F(Browsing, AnAutosaveMeanwhileGivesTheRowsTheirNewKeys) {
     RecipeDocument& ale = NewSaved("Ale");
-    outside.dialogs.scripts.push_back([&](DialogModel& dialog) {
+    outside.dialogs.scripts.emplace_back([&](DialogModel& dialog) {
         dialog.SetControl("lvNames", "Ale");
         EXPECT_TRUE(shell.Opened()->saver.Save(ale, Asking::Quietly));  // R:2:3 from now on
         dialog.Press("mnuRename");
@@ -157,7 +157,7 @@ TEST_F(Browsing, ANewStyleIsMadeInTheStyleEditor) {
 
 TEST_F(Browsing, AnErrorInTheExplorerIsShown) {
     NewSaved("Ale");
-    outside.dialogs.scripts.push_back([&](DialogModel& dialog) {
+    outside.dialogs.scripts.emplace_back([&](DialogModel& dialog) {
         dialog.SetControl("lvNames", "Ale");
         shell.DB()->SetStatementHook([](std::string_view sql) {
             if (sql.starts_with("DELETE")) throw Error("Database", "disk gone", 10);

@@ -1,5 +1,6 @@
 #include "shell/InstanceService.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -19,7 +20,7 @@ class RecordingHost : public InstanceHost {
     bool IsDialogOpen() const override { return dialogOpen; }
     void BringToFront() override { log.emplace_back("front"); }
     void ImportFromPath(std::string_view path) override {
-        log.push_back("import " + std::string(path));
+        log.emplace_back("import " + std::string(path));
         if (whileImporting) whileImporting();
     }
 

@@ -40,7 +40,7 @@ struct ProgramRun {
     // Returns what OfferRecovery shows. Presses the buttons and then closes the dialog with "Later".
     Strings Offer(const std::vector<std::string>& press = {}) {
         Strings entries;
-        outside.dialogs.scripts.push_back([&entries, press](DialogModel& dialog) {
+        outside.dialogs.scripts.emplace_back([&entries, press](DialogModel& dialog) {
             for (const std::string& entry : dynamic_cast<RecoveryModel&>(dialog).Entries())
                 entries.push_back(entry.substr(0, entry.find(',')));
             for (const std::string& button : press) EXPECT_TRUE(dialog.Press(button)) << button;
@@ -216,7 +216,7 @@ TEST_F(RecoveryTest, TheListIsChosenFromByItsEntries) {
     run->shell.Unsaved().Keep();
     run = nullptr;
     run = Start();
-    run->outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+    run->outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         const std::string first = dialog.Controls()[0].text;
         const std::string second = dynamic_cast<RecoveryModel&>(dialog).Entries()[1];
         EXPECT_FALSE(dialog.SetControl("lstRecipes", "Mild"));

@@ -261,7 +261,7 @@ TEST_F(ShellTest, CloseAllStopsAtTheFirstRefusal) {
 TEST_F(ShellTest, OpenTakesTheNameOfTheDialog) {
     RecipeDocument& document = NewSaved("Pale Ale");
     EXPECT_TRUE(shell.Opened()->saver.Close(document));
-    outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         dialog.SetControl("txtName", "Pale Ale");
         dialog.Press("cmdOK");
     });
@@ -272,7 +272,7 @@ TEST_F(ShellTest, OpenTakesTheNameOfTheDialog) {
 }
 
 TEST_F(ShellTest, TheAboutWindowTellsTitleAndVersion) {
-    outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         EXPECT_EQ(dialog.FormName(), "frmAbout");
         ASSERT_EQ(dialog.Controls().size(), 2u);
         EXPECT_EQ(dialog.Controls()[0].text, "Tunwright");

@@ -242,7 +242,7 @@ TEST_F(ShellTest, AfterAClosingTheDocumentUsedBeforeIsActive) {
 
 TEST_F(ShellTest, SavingANewRecipeGoesThroughTheNameDialog) {
     RecipeDocument& document = NewNamed("Pale Ale");
-    outside.dialogs.scripts.push_back([](DialogModel& dialog) {
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {
         EXPECT_EQ(dialog.Controls()[2].text, "Pale Ale");
         dialog.SetControl("txtName", " Amber ");
         dialog.Press("cmdOK");
@@ -257,7 +257,7 @@ TEST_F(ShellTest, SavingANewRecipeGoesThroughTheNameDialog) {
 
 TEST_F(ShellTest, TheNameDialogOffersTheCaptionOfAnUntitledDocument) {
     RecipeDocument& document = shell.Opened()->recipes.Create("");
-    outside.dialogs.scripts.push_back(
+    outside.dialogs.scripts.emplace_back(
         [](DialogModel& dialog) { EXPECT_EQ(dialog.Controls()[2].text, "Untitled 1"); });
     EXPECT_FALSE(shell.Opened()->saver.SaveAs(document));
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmOpenSave"});
@@ -267,7 +267,7 @@ TEST_F(ShellTest, TheNameDialogsOverwriteQuestionIsTheOnlyOne) {
     NewSaved("Pale Ale");
     RecipeDocument& document = NewNamed("Pale Ale");
     outside.messages.answers = {Answer::Yes};
-    outside.dialogs.scripts.push_back([](DialogModel& dialog) { dialog.Press("cmdOK"); });
+    outside.dialogs.scripts.emplace_back([](DialogModel& dialog) { dialog.Press("cmdOK"); });
     EXPECT_TRUE(shell.Opened()->saver.Save(document));
     EXPECT_EQ(outside.messages.log,
               Strings{"[Overwrite existing recipe?] A recipe named 'Pale Ale' already exists.\r\n"

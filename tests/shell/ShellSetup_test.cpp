@@ -11,7 +11,9 @@ namespace {
 class ShellSetup : public testing::Test {
   protected:
     void SetUp() override { ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:")); }
-    void Next(std::function<void(DialogModel&)> work) { outside.dialogs.scripts.push_back(std::move(work)); }
+    void Next(std::function<void(DialogModel&)> work) {
+        outside.dialogs.scripts.emplace_back(std::move(work));
+    }
     // True if the active document's list of styles contains the name.
     bool Offers(const std::string& name) {
         for (const auto& entry : shell.Documents().Active()->Record().cmbStyle.Entries())

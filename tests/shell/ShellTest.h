@@ -15,23 +15,23 @@ namespace tw::test {
 
 class RecordingView : public ShellView {
   public:
-    void DocumentOpened(RecipeDocument& document) override { log.push_back("opened " + document.Key()); }
-    void DocumentClosing(RecipeDocument& document) override { log.push_back("closing " + document.Key()); }
+    void DocumentOpened(RecipeDocument& document) override { log.emplace_back("opened " + document.Key()); }
+    void DocumentClosing(RecipeDocument& document) override { log.emplace_back("closing " + document.Key()); }
     void DocumentActivated(RecipeDocument* document) override {
-        log.push_back("activated " + (document ? document->Key() : "none"));
+        log.emplace_back("activated " + (document ? document->Key() : "none"));
     }
     void ArrangeDocuments(Arrangement arrangement) override {
-        log.push_back("arrange " + std::to_string(static_cast<int>(arrangement)));
+        log.emplace_back("arrange " + std::to_string(static_cast<int>(arrangement)));
     }
     void ToolbarIconsChanged() override { log.emplace_back("icons"); }
     void ToolbarButtonStyleChanged() override { log.emplace_back("button style"); }
     void GridColorsChanged(const RecipeDocument& document) override {
-        log.push_back("colors of " + document.Key());
+        log.emplace_back("colors of " + document.Key());
     }
     void UnsavedWorkWaits() override { log.emplace_back("unsaved work"); }
     void AutoSaveSwitched(bool on) override { log.emplace_back(on ? "autosave on" : "autosave off"); }
-    void NoticeChanged(const std::string& notice) override { log.push_back("notice: " + notice); }
-    void SayBriefly(const std::string& text) override { log.push_back("news: " + text); }
+    void NoticeChanged(const std::string& notice) override { log.emplace_back("notice: " + notice); }
+    void SayBriefly(const std::string& text) override { log.emplace_back("news: " + text); }
     void CloseMainWindow() override { log.emplace_back("close main window"); }
 
     std::vector<std::string> log;
@@ -80,10 +80,10 @@ class ShellTest : public testing::Test {
         ASSERT_TRUE(shell.PerformSplashScreenInit(":memory:"));
     }
 
-    bool Lit(std::string_view item) const { return bar().FindItem(item)->enabled; }
-    bool Visible(std::string_view item) const { return bar().FindItem(item)->visible; }
-    const ToolButton& Button(std::string_view key) const { return *bar().FindButton(key); }
-    const CommandBar& bar() const { return const_cast<Shell&>(shell).Bar(); }
+    bool Lit(std::string_view item) { return bar().FindItem(item)->enabled; }
+    bool Visible(std::string_view item) { return bar().FindItem(item)->visible; }
+    const ToolButton& Button(std::string_view key) { return *bar().FindButton(key); }
+    const CommandBar& bar() { return shell.Bar(); }
 
     std::vector<std::string> Captions() {
         std::vector<std::string> captions;

@@ -161,7 +161,7 @@ TEST_P(BadRowTest, IsReportedByFileAndLineAndNothingIsWritten) {
     ExpectNothingWritten();
 }
 
-std::vector<BadRow> BadRows() {
+std::vector<BadRow> BadRows() {  // NOLINT(readability-function-size): a table
     const std::string control = std::string("\x01");
     return {
         {"EmptyLine", "hops.tsv", "", "hops.tsv:4: the row has 1 cells, not 8"},

@@ -11,7 +11,6 @@
 namespace tw {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Optional;
 using testing::UnorderedElementsAre;

@@ -395,7 +395,7 @@ TEST_F(CatalogueUpdateTest, AFirstLookThatIsBrokenOffBringsNothingBackLater) {
 class WholeUpdateTest : public CatalogueUpdateTest {
   protected:
     void SetUp() override {
-        SmallCatalogue::SetUp();
+        SmallCatalogue::SetUp();  // NOLINT(bugprone-parent-virtual-call): without its parent's
         Append("version.txt", "1\n");
         database_ = Database::CreateDatabase(First(), "");
         CreateSchema(*database_);

@@ -81,7 +81,7 @@ inline std::vector<std::string> OutOfBounds(const PrintSteps& steps, const TextM
         const double limit = step.x1 < middle && halved.contains({page, step.y1}) ? middle : right;
         if (step.x1 < kMargin - kRounding || end > limit + kRounding || step.y1 < kMargin - kRounding ||
             foot > steps.page.height + kRounding)
-            faults.push_back("page " + std::to_string(page) + ": " + step.text);
+            faults.emplace_back("page " + std::to_string(page) + ": " + step.text);
     }
     return faults;
 }

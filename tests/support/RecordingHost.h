@@ -49,19 +49,19 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     bool AskBeforeNonUndoableChange() const override { return askBefore; }
     void StopAskingBeforeNonUndoableChange() override { askBefore = false; }
     void DeleteRecipe(std::string_view name) override {
-        log.push_back("DeleteRecipe " + std::string(name));
+        log.emplace_back("DeleteRecipe " + std::string(name));
         io_.DeleteRecipeByName(name);
     }
     void RecipeStored(std::string_view name) override {
-        log.push_back("RecipeStored " + std::string(name));
+        log.emplace_back("RecipeStored " + std::string(name));
         io_.AddRecipeNodesByName(name);
     }
-    void AddToMRU(std::string_view name) override { log.push_back("AddToMRU " + std::string(name)); }
+    void AddToMRU(std::string_view name) override { log.emplace_back("AddToMRU " + std::string(name)); }
     void PickFromCatalogue(RecipeDocument&, CatalogueKind list, const std::string& name) override {
-        log.push_back("Pick " + std::to_string(static_cast<int>(list)) + " '" + name + "'");
+        log.emplace_back("Pick " + std::to_string(static_cast<int>(list)) + " '" + name + "'");
     }
     void DocumentRenamed(const RecipeDocument& document) override {
-        log.push_back("DocumentRenamed " + document.Caption());
+        log.emplace_back("DocumentRenamed " + document.Caption());
     }
 
     void EnableResizeRecipe(bool on) override { Set("EnableResizeRecipe", on); }
@@ -83,8 +83,8 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
         Set("EnableRedo", on);
         redoName = description;
     }
-    void CheckEnableSaveAll() override { log.push_back("CheckEnableSaveAll"); }
-    void CheckEnableDelete() override { log.push_back("CheckEnableDelete"); }
+    void CheckEnableSaveAll() override { log.emplace_back("CheckEnableSaveAll"); }
+    void CheckEnableDelete() override { log.emplace_back("CheckEnableDelete"); }
 
   private:
     void Set(const std::string& command, bool on) {
@@ -131,7 +131,7 @@ class ChangeRecorder : public RecordObserver {
     }
     void ListChanged(const ListBox& list) override { log_.push_back(list.Name() + "=" + list.Text()); }
     void OptionChanged(const OptionGroup& group) override { log_.push_back(group.Value() + " chosen"); }
-    void SwatchChanged(Rgb) override { log_.push_back("swatch"); }
+    void SwatchChanged(Rgb) override { log_.emplace_back("swatch"); }
     void CellChanged(const Grid& grid, int row, int col) override {
         log_.push_back(grid.Name() + " " + std::to_string(row) + "," + std::to_string(col) + "=" +
                        grid.Text(row, col));

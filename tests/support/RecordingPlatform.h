@@ -42,7 +42,7 @@ class MessageRecorder : public MessagePort {
         return answer;
     }
 
-    void Beep() override { log.push_back("beep"); }
+    void Beep() override { log.emplace_back("beep"); }
 
     // Returns the log and empties it.
     std::vector<std::string> TakeLog() { return std::exchange(log, {}); }

@@ -21,8 +21,8 @@ class RecordingPrinter : public PrinterPort {
     }
     void ShowHourglass(bool on) override { log.emplace_back(on ? "hourglass" : "pointer"); }
     std::unique_ptr<PrinterDevice> MakePdf(const TargetFile& target, Paper paper) override {
-        log.push_back("pdf " + target.Name() + " " +
-                      std::string(kPaperNames[static_cast<std::size_t>(paper)]));
+        log.emplace_back("pdf " + target.Name() + " " +
+                         std::string(kPaperNames[static_cast<std::size_t>(paper)]));
         return MakeDevice();
     }
     const TextMeasure& Measure() const override { return measure; }

@@ -139,7 +139,7 @@ class ObjectModel : public Objects {
         EXPECT_EQ(io.MoveObject(key, dest, asking), model.Move(key, dest));
         return Done("move " + key + " " + dest, asking);
     }
-    std::string Done(std::string what, Asking asking) {
+    std::string Done(const std::string& what, Asking asking) {
         if (asking == Asking::Quietly) model.boxes.clear();
         return what.substr(0, 100);
     }

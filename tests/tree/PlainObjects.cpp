@@ -57,7 +57,7 @@ std::string KeyOf(char kind, Id id) {
 }  // namespace
 
 bool PlainObjects::Say(const std::string& title, const std::string& text) {
-    boxes.push_back("[" + title + "] " + text);
+    boxes.emplace_back("[" + title + "] " + text);
     return false;
 }
 
@@ -163,7 +163,7 @@ bool PlainObjects::MoveItem(char kind, Id id, Id folder) {
     Touch(folderKind, above);
     Touch(folderKind, KeyOf(folderKind, folder));
     items.at(id).folder = folder;
-    if (kind == 'R') notices.push_back("moved " + ShownName('R', id) + " " + std::to_string(folder));
+    if (kind == 'R') notices.emplace_back("moved " + ShownName('R', id) + " " + std::to_string(folder));
     return true;
 }
 
@@ -172,7 +172,7 @@ bool PlainObjects::SetStyle(Id recipe, Id style) {
     if (!recipes.contains(recipe)) return SayMissing(title, "recipe");
     if (style != 0 && !styles.contains(style)) return SayMissing(title, "style");
     recipes.at(recipe).style = style;
-    notices.push_back("new style " + ShownName('R', recipe) + " " + std::to_string(style));
+    notices.emplace_back("new style " + ShownName('R', recipe) + " " + std::to_string(style));
     return true;
 }
 
@@ -199,8 +199,8 @@ bool PlainObjects::Rename(const std::string& key, const std::string& name) {
     Touch(kind == 'R' || kind == 'F' ? 'F' : 'G', ParentOf(KeyOf(kind, id) + suffix));
     (isFolder ? folders.at(id).name : items.at(id).name) = trimmed;
     typed[{kind, id}] = name;
-    if (kind == 'R') notices.push_back("renamed " + old + " to " + name);
-    if (kind == 'S') notices.push_back("style renamed " + std::to_string(id) + " to " + name);
+    if (kind == 'R') notices.emplace_back("renamed " + old + " to " + name);
+    if (kind == 'S') notices.emplace_back("style renamed " + std::to_string(id) + " to " + name);
     return true;
 }
 
@@ -228,17 +228,17 @@ void PlainObjects::RemoveFolder(char kind, Id id) {
         if (row.folder == id) RemoveItem(itemKind, item);
     folders.erase(id);
     typed.erase({kind, id});
-    if (kind == 'F') notices.push_back("folder deleted " + std::to_string(id));
+    if (kind == 'F') notices.emplace_back("folder deleted " + std::to_string(id));
 }
 
 void PlainObjects::RemoveItem(char kind, Id id) {
     if (kind == 'R') {
-        notices.push_back("deleted " + ShownName('R', id));
+        notices.emplace_back("deleted " + ShownName('R', id));
         recipes.erase(id);
     } else {
         for (const auto& [recipe, row] : std::map(recipes))
             if (row.style == id) SetStyle(recipe, 0);
-        notices.push_back("style deleted " + std::to_string(id));
+        notices.emplace_back("style deleted " + std::to_string(id));
         styles.erase(id);
     }
     typed.erase({kind, id});

@@ -12,7 +12,7 @@ using Strings = std::vector<std::string>;
 
 std::vector<std::string> Names(std::size_t count) {
     std::vector<std::string> names;
-    for (std::size_t i = 0; i < count; ++i) names.push_back("object " + std::to_string(i));
+    for (std::size_t i = 0; i < count; ++i) names.emplace_back("object " + std::to_string(i));
     return names;
 }
 

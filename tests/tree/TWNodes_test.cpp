@@ -12,10 +12,10 @@ class RecordingOwner : public TWNodesOwner {
   public:
     void AddingNode(TWNode& node) override {
         if (refuses) throw Error("Owner", "refused", 1);
-        log.push_back("adding " + std::string(node.Name()) + " to " + std::to_string(nodes.Count()));
+        log.emplace_back("adding " + std::string(node.Name()) + " to " + std::to_string(nodes.Count()));
     }
     void NodeRemoved(TWNode& node) override {
-        log.push_back("removed " + std::string(node.Name()) + " leaves " + std::to_string(nodes.Count()));
+        log.emplace_back("removed " + std::string(node.Name()) + " leaves " + std::to_string(nodes.Count()));
     }
     bool Sorted() const override { return sorted; }
 

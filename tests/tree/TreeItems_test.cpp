@@ -11,8 +11,8 @@ using testing::IsEmpty;
 class Recorder : public TreeItemsObserver {
   public:
     void TreeReset(bool done) override { log.push_back(done ? "filled" : "filling"); }
-    void TreeItemChanged(int item) override { log.push_back("changed " + std::to_string(item)); }
-    void TreeItemExpanded(int item) override { log.push_back("expanded " + std::to_string(item)); }
+    void TreeItemChanged(int item) override { log.emplace_back("changed " + std::to_string(item)); }
+    void TreeItemExpanded(int item) override { log.emplace_back("expanded " + std::to_string(item)); }
     void TreeSelectionChanged() override { log.emplace_back("selected"); }
     Lines Take() { return std::exchange(log, {}); }
     Lines log;

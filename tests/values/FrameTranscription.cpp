@@ -314,7 +314,7 @@ std::string PlainGetToken(std::string& text) {
             }
         }
     }
-    const std::string token = text.substr(0, end);
+    std::string token = text.substr(0, end);
     text = TrimLeft(text.substr(end));
     return token;
 }

@@ -129,7 +129,7 @@ QWidget* GridDelegate::MakeListEditor(QWidget* parent, const CellList& list) con
     completer->popup()->setMinimumWidth(widest);
     combo->view()->setMinimumWidth(widest);
     // createEditor is const in Qt, but the editor's signals must change this object.
-    auto* self = const_cast<GridDelegate*>(this);
+    auto* self = const_cast<GridDelegate*>(this);  // NOLINT(cppcoreguidelines-pro-type-const-cast)
     // While the list of matches is open, Enter arrives as one of these two signals: a match was chosen, or
     // the text remains as typed.
     connect(completer, qOverload<const QString&>(&QCompleter::activated), combo,

@@ -35,9 +35,8 @@ class GridDelegate final : public QStyledItemDelegate {
     // of the totals has its own delegate, which only paints. All must outlive the delegate's last event.
     GridDelegate(QWidget& body, CellHost& cells, DocumentBinding& binding, QObject* parent);
 
-    void paint(QPainter* painter, const QStyleOptionViewItem& option,
-               const QModelIndex& index) const override;
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+    void paint(QPainter* painter, const QStyleOptionViewItem& plain, const QModelIndex& index) const override;
+    QSize sizeHint(const QStyleOptionViewItem& plain, const QModelIndex& index) const override;
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
                           const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;

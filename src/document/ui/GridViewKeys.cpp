@@ -48,7 +48,8 @@ void GridView::keyPressEvent(QKeyEvent* event) {
 bool GridView::focusNextPrevChild(bool next) {
     if (!CommitEditor()) return true;
     if (hasFocus() && cursor_.Step(next ? 1 : -1)) return true;
-    return QAbstractScrollArea::focusNextPrevChild(next);
+    // The focus leaves the grid here; QAbstractItemView's own function would move within it.
+    return QAbstractScrollArea::focusNextPrevChild(next);  // NOLINT(bugprone-parent-virtual-call)
 }
 
 }  // namespace tw

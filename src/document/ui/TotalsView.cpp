@@ -1,6 +1,7 @@
 #include "document/ui/TotalsView.h"
 
 #include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QScrollBar>

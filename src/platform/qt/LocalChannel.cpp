@@ -29,7 +29,7 @@ class Conversation {
     void Read() {
         buffer_ += socket_.readAll();
         while (!ended_ && buffer_.size() >= kHeadBytes) {
-            const quint32 length = qFromBigEndian<quint32>(buffer_.constData() + 1);
+            const auto length = qFromBigEndian<quint32>(buffer_.constData() + 1);
             if (length > kMostFrameBytes) return End();
             if (buffer_.size() - kHeadBytes < static_cast<qsizetype>(length)) return;
             const char kind = buffer_[0];
