@@ -4,6 +4,7 @@
 
 #include "cli/Command.h"
 #include "cli/ScriptFormat.h"
+#include "store/CatalogueNames.h"
 #include "tree/CataloguePickerModel.h"
 #include "tree/lvFiller.h"
 #include "values/Text.h"
@@ -86,11 +87,42 @@ void PickFrom(Session& session, Arguments& arguments) {
     session.Program().Opened()->services.PickFromCatalogue(document, type, name);
 }
 
+// Returns the word without the "s" of a plural.
+std::string_view Singular(std::string_view word) {
+    return word.ends_with('s') ? word.substr(0, word.size() - 1) : word;
+}
+
+// Takes the name of a catalogue as one says it: "hop variety", "hops", "salt".
+CatalogueKind TakeList(Arguments& arguments) {
+    const std::string list = arguments.Word("LIST");
+    for (const CatalogueKind catalogue : kSetupOrder) {
+        const std::string_view word = WordOf(catalogue);
+        const std::size_t blank = word.find(' ');
+        if (blank == std::string_view::npos) {
+            if (SameName(word, Singular(list))) return catalogue;
+            continue;
+        }
+        const std::string_view second = word.substr(blank + 1);
+        if (SameName(second, Singular(list))) return catalogue;
+        if (!SameName(word.substr(0, blank), Singular(list))) continue;
+        arguments.TakeWord(second) || arguments.TakeWord(WordsOf(catalogue).plural.substr(blank + 1));
+        return catalogue;
+    }
+    throw ScriptError("there is no list '" + list + "'");
+}
+
+void Match(Session& session, Arguments& arguments) {
+    const CatalogueKind list = TakeList(arguments);
+    const NameList names = CatalogueNames(*session.Program().DB()).NamesOf(list);
+    for (const FoundName& found : names.Find(arguments.Text())) session.Out().Text(names.Name(found.index));
+}
+
 constexpr Command kCommands[] = {
     {"list", "KEY [COLUMN; COLUMN...]", "what stands directly below an entry of the tree, as a list", List},
     {"catalogue", "WORD [COLUMN; COLUMN...]", "a catalogue as a list, by its word", PrintCatalogue},
     {"pickfrom", "TYPE \"NAME\" BUTTON", "the picker of a catalogue (0 to 7): its choice goes to the recipe",
      PickFrom},
+    {"match", "LIST TEXT", "the names of a catalogue that fit a typed text, best first", Match},
 };
 
 }  // namespace

@@ -10,32 +10,17 @@ std::optional<double> NumberOf(const Field& field) {
     return field.Number();
 }
 
-// Returns the query of a list of names; nullptr for a list that is not read from the database.
-const char* QueryOf(CellNames names) {
-    switch (names) {
-        case CellNames::Grains:
-            return "SELECT NAME FROM GRAINS WHERE GRAIN ORDER BY 1";
-        case CellNames::Extracts:
-            return "SELECT NAME FROM GRAINS WHERE NOT GRAIN ORDER BY 1";
-        case CellNames::Hops:
-            return "SELECT NAME FROM HOPS ORDER BY 1";
-        case CellNames::Sugars:
-            return "SELECT NAME FROM SUGARS ORDER BY 1";
-        case CellNames::Salts:
-            return "SELECT NAME FROM SALTS ORDER BY 1";
-        case CellNames::Waters:
-            return "SELECT NAME FROM WATER_PROFILES ORDER BY 1";
-        case CellNames::UsedAdjuncts:
-            return "SELECT DISTINCT NAME FROM RECIPE_ADJUNCTS ORDER BY NAME";
-        case CellNames::None:
-        case CellNames::HopForms:
-        case CellNames::TimesToAdd:
-        case CellNames::LogActions:
-        case CellNames::PitchedYeast:
-            break;
-    }
-    return nullptr;
-}
+struct Catalogue {
+    CellNames names;
+    CatalogueKind kind;
+};
+
+constexpr Catalogue kCatalogues[] = {
+    {CellNames::Grains, CatalogueKind::Grain}, {CellNames::Extracts, CatalogueKind::Extract},
+    {CellNames::Hops, CatalogueKind::Hop},     {CellNames::PitchedYeast, CatalogueKind::Yeast},
+    {CellNames::Waters, CatalogueKind::Water}, {CellNames::Salts, CatalogueKind::Salt},
+    {CellNames::Sugars, CatalogueKind::Sugar},
+};
 
 Ions IonsIn(const Recordset& row) {
     Ions ions;
@@ -49,12 +34,31 @@ FigureRange RangeIn(const Recordset& row, std::string_view low, std::string_view
 
 }  // namespace
 
-std::vector<std::string> CatalogueLookup::Names(CellNames list) const {
-    std::vector<std::string> names;
-    if (const char* const query = QueryOf(list))
-        for (Recordset rows = database_.OpenRecordset(query); !rows.AtEnd(); rows.MoveNext())
-            names.push_back(rows.Fields(0).Text());
+std::optional<CatalogueKind> CatalogueOf(CellNames list) {
+    for (const Catalogue& catalogue : kCatalogues)
+        if (catalogue.names == list) return catalogue.kind;
+    return std::nullopt;
+}
+
+std::optional<CellNames> CellNamesOf(CatalogueKind kind) {
+    for (const Catalogue& catalogue : kCatalogues)
+        if (catalogue.kind == kind) return catalogue.names;
+    return std::nullopt;
+}
+
+NameList CatalogueLookup::Names(CellNames list) const {
+    if (const auto kind = CatalogueOf(list)) return CatalogueNames(database_).NamesOf(*kind);
+    NameList names;
+    if (list == CellNames::UsedAdjuncts)
+        for (Recordset rows =
+                 database_.OpenRecordset("SELECT DISTINCT NAME FROM RECIPE_ADJUNCTS ORDER BY NAME");
+             !rows.AtEnd(); rows.MoveNext())
+            names.Add(rows.Fields(0).Text());
     return names;
+}
+
+NameList CatalogueLookup::StyleNames(std::span<const std::string> names) const {
+    return CatalogueNames(database_).WithOtherNames(CatalogueKind::Style, names);
 }
 
 // Returns the name of the row that typed means, or typed itself if there is none.

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,6 +13,7 @@
 #include "record/CellRules.h"
 #include "store/CatalogueKind.h"
 #include "store/Database.h"
+#include "values/NameMatch.h"
 
 namespace tw {
 
@@ -51,14 +53,20 @@ struct SaltIons {
     Ions ppm;
 };
 
+// Returns the catalogue that contains the names of a list; nullopt for a list with other names.
+std::optional<CatalogueKind> CatalogueOf(CellNames list);
+// Returns the list of the names in a catalogue; nullopt for the styles, which no cell contains.
+std::optional<CellNames> CellNamesOf(CatalogueKind kind);
+
 class CatalogueLookup {
   public:
     // REQUIRES: database outlives this object. Nothing is cached: each call reads the database. All functions
     // raise the store's errors.
     explicit CatalogueLookup(Database& database) : database_(database) {}
 
-    // Returns the names that a cell's list reads from the database, sorted; empty for every other list.
-    std::vector<std::string> Names(CellNames list) const;
+    // Returns the names that a cell's list reads from the database, sorted, each with the other names that
+    // the catalogue knows for it; empty for every other list.
+    NameList Names(CellNames list) const;
 
     // Return the figures of the row that name means: its own name, an alias or its code
     // (CatalogueNames::RowOf). nullopt if there is no such row. REQUIRES for Fermentable: kind is Grain
@@ -76,6 +84,8 @@ class CatalogueLookup {
 
     // Returns all styles, sorted by name.
     std::vector<StyleName> Styles() const;
+    // Returns the given names in their order, to be searched by the other names and the codes of styles, too.
+    NameList StyleNames(std::span<const std::string> names) const;
     // nullopt if no style has that id, and for 0, which means no style.
     std::optional<StyleFigures> Style(std::int64_t id) const;
     // Returns the name of the style that typed means (CatalogueNames::RowOf); nullopt if there is none.

@@ -8,36 +8,13 @@
 #include "values/Text.h"
 
 namespace tw {
-namespace {
-
-struct Catalogue {
-    CellNames names;
-    CatalogueKind list;
-};
-
-constexpr Catalogue kCatalogues[] = {
-    {CellNames::Grains, CatalogueKind::Grain}, {CellNames::Extracts, CatalogueKind::Extract},
-    {CellNames::Hops, CatalogueKind::Hop},     {CellNames::PitchedYeast, CatalogueKind::Yeast},
-    {CellNames::Waters, CatalogueKind::Water}, {CellNames::Salts, CatalogueKind::Salt},
-    {CellNames::Sugars, CatalogueKind::Sugar},
-};
-
-std::optional<CellNames> NamesOf(CatalogueKind list) {
-    for (const Catalogue& catalogue : kCatalogues)
-        if (catalogue.list == list) return catalogue.names;
-    return std::nullopt;
-}
-
-}  // namespace
 
 std::optional<CatalogueKind> CataloguePicks::ListOf(const Grid& grid, int row, int col) const {
     if (!cells_.CanEdit(grid, row, col)) return std::nullopt;
     const CellNames names = RuleOf(grid, col).names;
     // Notes contain a name only if their row pitches a yeast.
     if (names == CellNames::PitchedYeast && !PitchesYeast(grid, row)) return std::nullopt;
-    for (const Catalogue& catalogue : kCatalogues)
-        if (catalogue.names == names) return catalogue.list;
-    return std::nullopt;
+    return CatalogueOf(names);
 }
 
 void CataloguePicks::BrowseStyles() {
@@ -60,7 +37,7 @@ void CataloguePicks::Take(CatalogueKind list, std::string_view name) {
         style_.ChangeStyle(name);
         return;
     }
-    const std::optional<CellNames> names = NamesOf(list);
+    const std::optional<CellNames> names = CellNamesOf(list);
     for (Grid* const grid : recipe_.record.Grids())
         for (int col = 0; col < grid->Cols(); ++col)
             if (RuleOf(*grid, col).names == names) {

@@ -10,21 +10,21 @@
 namespace tw {
 namespace {
 
-constexpr const char* kWhenAdded[] = {"During Boil",
-                                      "After Boil while Wort cools",
-                                      "After cooled Wort placed in Fermentor",
-                                      "After pitching Yeast to Primary",
-                                      "After racking to Secondary",
-                                      "Before Bottling"};
-constexpr const char* kLogActions[] = {"Steeped Specialty Grains",
-                                       "Added Extracts or Sugars",
-                                       "Added Hops",
-                                       "Removed Wort from Heat",
-                                       "Pitched Yeast",
-                                       "Racked",
-                                       "Dry-Hopped",
-                                       "Bottled",
-                                       "Tasted"};
+constexpr std::string_view kWhenAdded[] = {"During Boil",
+                                           "After Boil while Wort cools",
+                                           "After cooled Wort placed in Fermentor",
+                                           "After pitching Yeast to Primary",
+                                           "After racking to Secondary",
+                                           "Before Bottling"};
+constexpr std::string_view kLogActions[] = {"Steeped Specialty Grains",
+                                            "Added Extracts or Sugars",
+                                            "Added Hops",
+                                            "Removed Wort from Heat",
+                                            "Pitched Yeast",
+                                            "Racked",
+                                            "Dry-Hopped",
+                                            "Bottled",
+                                            "Tasted"};
 
 // True for a read-only column whose cells are stored as a number without its text: what one gram of a salt
 // adds to one gallon (PPM), behind a computed text.
@@ -74,16 +74,19 @@ bool RecipeCells::CanEdit(const Grid& grid, int row, int col) const {
 CellList RecipeCells::ListOf(const Grid& grid, int row, int col) const {
     CellList list;
     if (!CanEdit(grid, row, col)) return list;
-    const CellNames names = RuleOf(grid, col).names;
-    if (names == CellNames::HopForms) {
-        list.freeText = false;
-        for (const HopForm& form : kHopForms) list.entries.emplace_back(form.name);
-    } else if (names == CellNames::TimesToAdd) {
-        list.entries.assign(std::begin(kWhenAdded), std::end(kWhenAdded));
-    } else if (names == CellNames::LogActions) {
-        list.entries.assign(std::begin(kLogActions), std::end(kLogActions));
-    } else {
-        list.entries = catalogue_.Names(names);
+    switch (const CellNames names = RuleOf(grid, col).names) {
+        case CellNames::HopForms:
+            list.freeText = false;
+            for (const HopForm& form : kHopForms) list.names.Add(form.name);
+            break;
+        case CellNames::TimesToAdd:
+            list.names = NameList(kWhenAdded);
+            break;
+        case CellNames::LogActions:
+            list.names = NameList(kLogActions);
+            break;
+        default:
+            list.names = catalogue_.Names(names);
     }
     return list;
 }

@@ -16,8 +16,8 @@ namespace tw {
 
 // The list that the editor of a cell offers.
 struct CellList {
-    std::vector<std::string> entries;
-    bool freeText = true;  // texts other than the entries may be typed
+    NameList names;
+    bool freeText = true;  // texts other than the names may be typed
 };
 
 class RecipeCells {

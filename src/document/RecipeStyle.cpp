@@ -77,6 +77,12 @@ int RecipeStyle::EntryOf(std::string_view name) const {
     return row ? entryNamed(*row) : -1;
 }
 
+NameList RecipeStyle::Names() const {
+    std::vector<std::string> names;
+    for (const ListBox::Entry& entry : recipe_.record.cmbStyle.Entries()) names.push_back(entry.text);
+    return catalogue_.StyleNames(names);
+}
+
 bool RecipeStyle::ChangeStyle(std::string_view name) {
     Reload();
     const int entry = EntryOf(name);

@@ -29,6 +29,8 @@ class RecipeStyle {
     // Returns the index of the style of that name (trimmed, ignoring case), else of the style with that alias
     // or code; -1 if there is none.
     int EntryOf(std::string_view name) const;
+    // Returns the entries of the list for a search, in their order.
+    NameList Names() const;
     // Reads the list again and selects the style that EntryOf finds. False if there is none.
     bool ChangeStyle(std::string_view name);
 

@@ -28,6 +28,12 @@ void WriteFacts(Database& database, std::string_view table, const CatalogueSheet
 
 }  // namespace
 
+std::vector<std::string> CatalogueFacts::OtherNames() const {
+    std::vector<std::string> names = aliases;
+    if (!code.empty()) names.push_back(code);
+    return names;
+}
+
 bool CatalogueNames::HasTables() const {
     return !database_
                 .OpenRecordset(
@@ -77,6 +83,25 @@ std::map<std::string, CatalogueFacts> CatalogueNames::FactsOf(CatalogueKind kind
          !rows.AtEnd(); rows.MoveNext())
         facts[Upper(rows.Fields(0).Text())].aliases.push_back(rows.Fields(1).Text());
     return facts;
+}
+
+NameList CatalogueNames::NamesOf(CatalogueKind kind) const {
+    std::string sql("SELECT NAME FROM ");
+    sql.append(TableOf(kind)).append(" WHERE NAME IS NOT NULL").append(WordsOf(kind).condition);
+    std::vector<std::string> names;
+    for (Recordset rows = database_.OpenRecordset(sql + " ORDER BY 1"); !rows.AtEnd(); rows.MoveNext())
+        names.push_back(rows.Fields(0).Text());
+    return WithOtherNames(kind, names);
+}
+
+NameList CatalogueNames::WithOtherNames(CatalogueKind kind, std::span<const std::string> names) const {
+    const auto facts = FactsOf(kind);
+    NameList list;
+    for (const std::string& name : names) {
+        const auto known = facts.find(Upper(name));
+        list.Add(name, known == facts.end() ? std::vector<std::string>() : known->second.OtherNames());
+    }
+    return list;
 }
 
 std::vector<std::string> CatalogueNames::SourcesOf(CatalogueKind kind) const {

@@ -13,6 +13,7 @@
 
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,7 @@
 #include "store/CatalogueKind.h"
 #include "store/CatalogueSheets.h"
 #include "store/Database.h"
+#include "values/NameMatch.h"
 
 namespace tw {
 
@@ -29,6 +31,9 @@ struct CatalogueFacts {
     std::string source;  // "Beer 2021", "Slovenia", "White Labs"
     std::string form;    // "Cryo", "Dry"
     std::vector<std::string> aliases;
+
+    // The aliases and the code: the other names under which the row is found.
+    std::vector<std::string> OtherNames() const;
 };
 
 class CatalogueNames {
@@ -45,6 +50,11 @@ class CatalogueNames {
     // facts are absent. Grains and extracts, which share a table, are returned together. For code that needs
     // all names at once, such as lists and matching.
     std::map<std::string, CatalogueFacts> FactsOf(CatalogueKind kind) const;
+
+    // Returns the names of all rows, sorted, to be searched by those facts, too.
+    NameList NamesOf(CatalogueKind kind) const;
+    // Returns the given names in their order; those of catalogue rows have the rows' other names.
+    NameList WithOtherNames(CatalogueKind kind, std::span<const std::string> names) const;
 
     // Returns the distinct non-empty sources of those facts, in alphabetical order.
     std::vector<std::string> SourcesOf(CatalogueKind kind) const;

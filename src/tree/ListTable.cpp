@@ -9,7 +9,6 @@
 
 #include "platform/Error.h"
 #include "tree/ListFormats.h"
-#include "tree/WordIndex.h"
 #include "values/NumberText.h"
 #include "values/Text.h"
 
@@ -103,16 +102,6 @@ std::vector<ListRow> Arranged(std::vector<ListRow> rows, const std::vector<std::
     return arranged;
 }
 
-// True if a word of text begins with upperBeginning. Codes and other names are not visible in the row, so a
-// match within one of their words would be misleading; and 5A is not 15A.
-bool BeginsAWord(std::string_view text, std::string_view upperBeginning) {
-    const std::string upper = Upper(text);
-    for (std::size_t at = upper.find(upperBeginning); at != std::string::npos;
-         at = upper.find(upperBeginning, at + 1))
-        if (at == 0 || upper[at - 1] == ' ') return true;
-    return false;
-}
-
 bool BeginsWith(std::string_view text, std::string_view upperBeginning) {
     const std::size_t length = CodePointOffset(text, CodePointCount(upperBeginning));
     return Upper(text.substr(0, length)) == upperBeginning;
@@ -146,7 +135,8 @@ void ListTable::SetRows(std::vector<ListRow> rows) {
     for (ListRow& row : rows_) Fit(row);
     if (!filter_.empty()) {
         unfiltered_ = std::move(rows_);
-        rows_ = Filtered();
+        searched_.reset();
+        rows_ = Filtered().rows;
     }
     selected_ = kNoRow;
     chosen_.clear();
@@ -159,7 +149,8 @@ void ListTable::Add(ListRow row) {
     Fit(row);
     if (!filter_.empty()) {
         unfiltered_.push_back(std::move(row));
-        rows_ = Filtered();
+        searched_.reset();
+        rows_ = Filtered().rows;
     } else {
         rows_.push_back(std::move(row));
     }
@@ -172,6 +163,7 @@ void ListTable::Remove(int row) {
             return other.key == Row(row).key && other.cells == Row(row).cells;
         };
         unfiltered_.erase(std::ranges::find_if(unfiltered_, same));
+        searched_.reset();
     }
     rows_.erase(rows_.begin() + row);
     std::erase(chosen_, row);
@@ -183,44 +175,29 @@ void ListTable::Remove(int row) {
     TellChanged();
 }
 
-bool ListTable::PassesFilter(const ListRow& row, const std::vector<std::string>& words) const {
-    return std::ranges::all_of(words, [&](const std::string& word) {
-        const auto holds = [&](const std::string& cell) {
-            return Upper(cell).find(word) != std::string::npos;
-        };
-        const auto begins = [&](const std::string& text) { return BeginsAWord(text, word); };
-        return std::ranges::any_of(row.cells, holds) || begins(row.code) ||
-               std::ranges::any_of(row.otherNames, begins);
-    });
-}
-
-std::vector<ListRow> ListTable::Filtered() const {
-    const std::vector<std::string> words = WordsOf(filter_);
-    std::vector<ListRow> shown;
-    for (const ListRow& row : unfiltered_) {
-        if (!row.isGroup && !PassesFilter(row, words)) continue;
-        // A heading without rows is replaced by what follows it.
-        if (row.isGroup && !shown.empty() && shown.back().isGroup) shown.pop_back();
-        if (!row.isGroup && !shown.empty() && shown.back().isGroup && shown.back().group != row.group)
-            shown.pop_back();
-        shown.push_back(row);
-    }
-    if (!shown.empty() && shown.back().isGroup) shown.pop_back();
-    return shown;
+FilteredRows ListTable::Filtered() {
+    if (!searched_) searched_ = SearchedNames(unfiltered_);
+    return FilterRows(unfiltered_, *searched_, filter_);
 }
 
 void ListTable::SetFilter(std::string_view text) {
     const std::string filter(Trim(text));
     if (filter == filter_) return;
-    const std::optional<ListRow> chosen = selected_ == kNoRow ? std::nullopt : std::optional(Row(selected_));
-    if (filter_.empty()) unfiltered_ = std::move(rows_);
+    const std::string chosen = selected_ == kNoRow ? std::string() : Row(selected_).key;
+    if (filter_.empty()) {
+        unfiltered_ = std::move(rows_);
+        searched_.reset();
+    }
     filter_ = filter;
-    if (filter_.empty())
+    if (filter_.empty()) {
         rows_ = std::move(unfiltered_);
-    else
-        rows_ = Filtered();
-    selected_ = chosen ? FindKey(chosen->key) : kNoRow;
-    if (selected_ == kNoRow) selected_ = FirstRow();
+        selected_ = chosen.empty() ? kNoRow : FindKey(chosen);
+        if (selected_ == kNoRow) selected_ = FirstRow();
+    } else {
+        FilteredRows filtered = Filtered();
+        selected_ = BestRow(filtered, chosen);
+        rows_ = std::move(filtered.rows);
+    }
     chosen_.clear();
     if (selected_ != kNoRow) chosen_.push_back(selected_);
     TellChanged();
@@ -299,6 +276,7 @@ void ListTable::Sort(int column, bool descending) {
     rows_ = Arranged(std::move(rows_), order);
     order = SortedOrder(unfiltered_, column, kind, descending);
     unfiltered_ = Arranged(std::move(unfiltered_), order);
+    searched_.reset();
     sortColumn_ = column;
     sortDescending_ = descending;
     TellChanged();

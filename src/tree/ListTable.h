@@ -7,38 +7,11 @@
 #include <string_view>
 #include <vector>
 
-#include "tree/NodeIcon.h"
+#include "tree/ListFilter.h"
+#include "tree/ListRow.h"
+#include "values/NameMatch.h"
 
 namespace tw {
-
-// What a column contains, for sorting.
-enum class ListColumnKind {
-    Text,
-    Number,  // numbers, ranges "{lo}-{hi}", numbers followed by a unit
-    Date,    // the form of ListDate
-};
-
-struct ListColumn {
-    std::string title;
-    ListColumnKind kind = ListColumnKind::Text;
-    bool showsColor = false;  // the cell shows the colour of the row
-    std::string note = {};    // what the title omits, such as the unit
-};
-
-struct ListRow {
-    std::string key;  // identifies the row in its list; empty for a group row
-    // One text per column, the name first. A cell without a value contains blanks; it is never empty.
-    std::vector<std::string> cells;
-    NodeIcon icon = NodeIcon::None;
-    bool isFolder = false;  // always sorted before the others
-    bool isGroup = false;   // a heading over rows, which cannot be selected
-    int group = 0;          // rows are sorted within their group; a heading belongs to the group below it
-    std::optional<double> hcu = std::nullopt;  // colour of the malt or beer, in homebrew colour units (HCU)
-    // What a window shows or the filter searches in addition to the cells.
-    std::string code = {};                     // shown before the name
-    std::string origin = {};                   // the source of the row, such as "Beer style guide of 2021"
-    std::vector<std::string> otherNames = {};  // other names of the row, and other texts by which it is found
-};
 
 class ListTableObserver {
   public:
@@ -80,10 +53,9 @@ class ListTable {
     // Returns the first row of exactly that key, or kNoRow.
     int FindKey(std::string_view key) const;
 
-    // Shows only rows that contain every word of text, ignoring case, either in any cell or at the beginning
-    // of a word of the code or of another name, and the headings over them; shows all rows if text is blank.
-    // Rows added later are filtered too. The selected row stays selected if it is still shown; otherwise the
-    // first one is.
+    // Shows only rows that fit text (ListFilter), best first, and the headings over them; shows all rows if
+    // text is blank. Rows added later are filtered too. The row that fits best is selected; of several
+    // equally good ones, the one selected before or else the first.
     void SetFilter(std::string_view text);
     const std::string& Filter() const { return filter_; }
 
@@ -126,17 +98,17 @@ class ListTable {
     void Fit(ListRow& row) const;
     // Keeps the selected rows selected at the positions that order gives them.
     void FollowOrder(const std::vector<std::size_t>& order);
-    // Returns the rows that pass the filter.
-    std::vector<ListRow> Filtered() const;
-    bool PassesFilter(const ListRow& row, const std::vector<std::string>& words) const;
+    // Returns the rows that fit the filter.
+    FilteredRows Filtered();
     void TellChanged();
 
     std::vector<ListColumn> columns_;
     std::vector<ListRow> rows_;
     std::string filter_;
-    std::vector<ListRow> unfiltered_;  // all rows, while there is a filter
-    int selected_ = kNoRow;            // one of chosen_
-    std::vector<int> chosen_;          // in ascending order
+    std::vector<ListRow> unfiltered_;   // all rows, while there is a filter
+    std::optional<NameList> searched_;  // the names of unfiltered_; nullopt after a change
+    int selected_ = kNoRow;             // one of chosen_
+    std::vector<int> chosen_;           // in ascending order
     int sortColumn_ = -1;
     bool sortDescending_ = false;
     ListTableObserver* observer_ = nullptr;

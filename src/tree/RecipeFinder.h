@@ -28,11 +28,11 @@ class RecipeFinder {
     RecipeFinder(const RecipeFinder&) = delete;
     RecipeFinder& operator=(const RecipeFinder&) = delete;
 
-    // Returns the recipes that contain every word of text, in the order of the list of recipes; all of them
-    // for a text without a word. Words are separated by blanks. They match anywhere, even within a longer
-    // word, ignoring case even outside ASCII; each may be in another part of the recipe. The result is
-    // valid until the next Find. Raises the store's error if the database cannot be read; the next Find
-    // tries again.
+    // Returns the recipes that contain every word of text (MatchWords), in the order of the list of recipes;
+    // all of them for a text without a word. Letters match even within a longer word, a number from its
+    // beginning; each word may be in another part of the recipe. Ingredients and styles are also found by
+    // the other names that the catalogue knows for them. The result is valid until the next Find. Raises the
+    // store's error if the database cannot be read; the next Find tries again.
     const std::vector<FoundRecipe>& Find(std::string_view text);
 
   private:

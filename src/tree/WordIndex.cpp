@@ -6,8 +6,7 @@
 #include <numeric>
 #include <utility>
 
-#include "values/Split.h"
-#include "values/Text.h"
+#include "values/NameMatch.h"
 
 namespace tw {
 namespace {
@@ -44,23 +43,14 @@ void Order(std::vector<std::uint32_t>& numbers, BitSet& scratch) {
 
 }  // namespace
 
-std::vector<std::string> WordsOf(std::string_view text) {
-    std::vector<std::string> words;
-    ForEachWord(text, [&](std::string_view word) { words.push_back(Upper(word)); });
-    return words;
-}
-
 std::vector<std::uint32_t> WordIndex::Builder::NumbersOf(std::string_view text) {
     std::vector<std::uint32_t> numbers;
-    const std::string upper = Upper(text);
-    ForEachWord(upper, [&](std::string_view word) {
-        auto found = numbers_.find(word);
-        if (found == numbers_.end()) {
-            found = numbers_.emplace(word, static_cast<std::uint32_t>(texts_.size())).first;
-            texts_.emplace_back();
-        }
+    for (std::string& word : MatchWords(text)) {
+        const auto [found, isNew] =
+            numbers_.try_emplace(std::move(word), static_cast<std::uint32_t>(texts_.size()));
+        if (isNew) texts_.emplace_back();
         numbers.push_back(found->second);
-    });
+    }
     return numbers;
 }
 
@@ -153,16 +143,20 @@ std::uint32_t WordIndex::Collect(std::size_t entry, BitSet& found) const {
 }
 
 BitSet WordIndex::Find(std::string_view part) const {
+    const bool isNumber = part.front() >= '0' && part.front() <= '9';
+    const std::string wanted = (isNumber ? "\n" : "") + std::string(part);
     BitSet found(SetSize(texts_));
     std::uint32_t missing = texts_;
     std::size_t entry = 0;
     for (std::size_t place = 0; missing > 0 && place < words_.size();) {
         const void* const hit =
-            memmem(words_.data() + place, words_.size() - place, part.data(), part.size());
+            memmem(words_.data() + place, words_.size() - place, wanted.data(), wanted.size());
         if (hit == nullptr) break;
-        entry = EntryAt(static_cast<std::size_t>(static_cast<const char*>(hit) - words_.data()), entry);
+        const auto at = static_cast<std::size_t>(static_cast<const char*>(hit) - words_.data());
+        entry = EntryAt(isNumber ? at + 1 : at, entry);
         missing -= Collect(entry, found);
-        place = entries_[entry + 1].word;
+        // Includes the line break before the next word.
+        place = entries_[entry + 1].word - 1;
     }
     return found;
 }

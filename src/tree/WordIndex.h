@@ -15,16 +15,12 @@ namespace tw {
 // A set of numbers from 0, with one bit per number.
 using BitSet = std::vector<std::uint64_t>;
 
-// Returns the words of text in upper case, as separated by blanks, tabs and line breaks, including
-// repeated words.
-std::vector<std::string> WordsOf(std::string_view text);
-
 class WordIndex {
   public:
     // Collects the words of the texts.
     class Builder {
       public:
-        // Returns the numbers that identify the words of text in this builder, for Add.
+        // Returns the numbers that identify the words of text (MatchWords) in this builder, for Add.
         std::vector<std::uint32_t> NumbersOf(std::string_view text);
         // Records that the text of that number contains those words.
         void Add(const std::vector<std::uint32_t>& words, std::uint32_t text);
@@ -42,7 +38,8 @@ class WordIndex {
         std::vector<std::vector<std::uint32_t>> texts_;  // the texts of each word, unsorted, with duplicates
     };
 
-    // Returns the texts in which a word contains part. REQUIRES: part is in upper case and contains no blank.
+    // Returns the texts in which a word contains part, or begins with it if part is a number: 05 is not meant
+    // by 1.050. REQUIRES: part is a word (MatchWords).
     BitSet Find(std::string_view part) const;
 
   private:
@@ -58,7 +55,7 @@ class WordIndex {
     std::uint32_t Collect(std::size_t entry, BitSet& found) const;
 
     std::uint32_t texts_ = 0;
-    std::string words_;  // one per line, the most frequent first
+    std::string words_ = "\n";  // a line break before and after each, the most frequent first
     std::vector<Entry> entries_;
     std::size_t frequentWords_ = 0;
     std::vector<std::uint64_t> frequent_;  // a bit set for each of the frequent words, concatenated

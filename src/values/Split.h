@@ -25,23 +25,4 @@ inline std::vector<std::string_view> Split(std::string_view text, char separator
     return parts;
 }
 
-// True for the characters between words: blanks, tabs and line ends.
-constexpr bool SeparatesWords(char c) {
-    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
-// Calls action with each word of text, in order.
-template <typename Action>
-void ForEachWord(std::string_view text, Action action) {
-    const char* at = text.data();
-    const char* const end = at + text.size();
-    for (;;) {
-        at = std::find_if_not(at, end, SeparatesWords);
-        if (at == end) return;
-        const char* const begin = at;
-        at = std::find_if(at, end, SeparatesWords);
-        action(std::string_view(begin, static_cast<std::size_t>(at - begin)));
-    }
-}
-
 }  // namespace tw

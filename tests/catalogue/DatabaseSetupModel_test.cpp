@@ -228,13 +228,13 @@ TEST_F(Setup, AFolderThatWasMadeInACancelledEditorIsShown) {
 TEST_F(Setup, AFilterFindsTheStylesOfAllFolders) {
     const std::int64_t dark = io.CreateStyleFolder(0, "Dark", Asking::Quietly);
     Style("Dry Stout", dark);
-    Style("Bock", 0);
+    Style("Double Bock", 0);
     DatabaseSetupModel& setup = Show(CatalogueKind::Style);
     EXPECT_TRUE(setup.SetControl("txtFilter", "stout"));
     EXPECT_THAT(Names(), ElementsAre("Dry Stout"));
     EXPECT_TRUE(setup.EditEnabled());
-    setup.SetFilter("o");
-    EXPECT_THAT(Names(), ElementsAre("Bock", "Dry Stout"));
+    setup.SetFilter("d");
+    EXPECT_THAT(Names(), ElementsAre("Double Bock", "Dry Stout"));
     // Without the filter, the selected style is shown in its folder.
     setup.SetControl("lvItems", "Dry Stout");
     setup.SetFilter("");

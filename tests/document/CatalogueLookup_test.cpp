@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "store/Schema.h"
+#include "support/NamesIn.h"
 
 namespace tw::test {
 namespace {
@@ -52,8 +53,8 @@ TEST_F(Lookup, LeavesOutWhatTheCatalogueLeavesOpen) {
 TEST_F(Lookup, TellsGrainsFromExtracts) {
     EXPECT_FALSE(lookup.Fermentable(CatalogueKind::Extract, "Pale Malt"));
     EXPECT_FALSE(lookup.Fermentable(CatalogueKind::Grain, "Syrup"));
-    EXPECT_THAT(lookup.Names(CellNames::Grains), ElementsAre("Pale Malt"));
-    EXPECT_THAT(lookup.Names(CellNames::Extracts), ElementsAre("Syrup"));
+    EXPECT_THAT(NamesIn(lookup.Names(CellNames::Grains)), ElementsAre("Pale Malt"));
+    EXPECT_THAT(NamesIn(lookup.Names(CellNames::Extracts)), ElementsAre("Syrup"));
 }
 
 TEST_F(Lookup, KnowsNothingOfOtherNames) {
@@ -62,8 +63,8 @@ TEST_F(Lookup, KnowsNothingOfOtherNames) {
     EXPECT_FALSE(lookup.Yeast(""));
     EXPECT_FALSE(lookup.Water("Nowhere"));
     EXPECT_FALSE(lookup.Salt("Nothing"));
-    EXPECT_THAT(lookup.Names(CellNames::None), IsEmpty());
-    EXPECT_THAT(lookup.Names(CellNames::HopForms), IsEmpty());
+    EXPECT_THAT(NamesIn(lookup.Names(CellNames::None)), IsEmpty());
+    EXPECT_THAT(NamesIn(lookup.Names(CellNames::HopForms)), IsEmpty());
 }
 
 TEST_F(Lookup, GivesTheIonsInTheirOrder) {

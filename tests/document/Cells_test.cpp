@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "DocumentTest.h"
+#include "support/NamesIn.h"
 #include "support/OtherNames.h"
 
 namespace tw::test {
@@ -316,7 +317,7 @@ TEST_F(CellsTest, PitchedYeastSetsTheFinalGravity) {
 TEST_F(CellsTest, OffersTheListsOfTheCatalogue) {
     RecipeRecord& r = R();
     const auto list = [&](const Grid& grid, int col) {
-        return document->Cells().ListOf(grid, 1, col).entries;
+        return NamesIn(document->Cells().ListOf(grid, 1, col).names);
     };
     EXPECT_THAT(list(r.gridGrain, 0), ElementsAre("Half Known", "O'Brien's", "Pale Malt"));
     EXPECT_THAT(list(r.gridExtract, 0), ElementsAre("Pale Malt", "Syrup"));
@@ -327,7 +328,7 @@ TEST_F(CellsTest, OffersTheListsOfTheCatalogue) {
     EXPECT_THAT(list(r.gridPriming, 0), ElementsAre("Corn Sugar", "Honey", "Riddle"));
     EXPECT_THAT(list(r.gridWater, 1), ElementsAre("Burton", "Soft"));
     EXPECT_THAT(list(r.gridGrain, 1), IsEmpty());
-    EXPECT_THAT(document->Cells().ListOf(r.gridGrain, 2, 0).entries, IsEmpty());  // the totals row
+    EXPECT_TRUE(document->Cells().ListOf(r.gridGrain, 2, 0).names.IsEmpty());  // the totals row
     for (Grid* grid : {&r.gridTreatment, &r.gridAdjuncts, &r.gridLog})
         document->Lines().InsertRowForGrid(*grid);
     EXPECT_THAT(list(r.gridTreatment, 0), ElementsAre("Chalk", "Gypsum"));

@@ -1,5 +1,6 @@
 // Tests of a recipe's window as a brewer uses it: the keyboard, the figures, refused entries, saving.
 #include "GuiTest.h"
+#include "document/ui/NamePopup.h"
 #include "platform/qt/Appearance.h"
 
 namespace tw::test {
@@ -174,7 +175,7 @@ TEST_F(DocumentWindow, WalksThroughAllTabsByKey) {
     EXPECT_EQ(Focus(), "gridLog");
 }
 
-TEST_F(DocumentWindow, ChoosesAStyleByAnyPartOfItsName) {
+TEST_F(DocumentWindow, ChoosesAStyleByTheBeginningOfAWord) {
     NewRecipe();
     shell.Documents().Active()->Style().Reload();
     auto& styles = Find<QComboBox>("cmbStyle");
@@ -184,17 +185,17 @@ TEST_F(DocumentWindow, ChoosesAStyleByAnyPartOfItsName) {
     EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "Stout");
     EXPECT_EQ(Find<QLabel>("lblOGStyle").text(), QStringLiteral("1.020 - 1.030"));
     EXPECT_EQ(Find<QLabel>("lblIBUStyle").text(), QStringLiteral(">= 25"));
-    // Text that only one style contains selects that style.
+    // Text that only one style fits selects that style.
     styles.setFocus();
     Type("(no");
     Key(Qt::Key_Return);
     EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "(None)");
-    Type("tou");
+    Type("sto");
     // The choice is not committed yet and the list of matches is open; anything that
     // leaves the box commits it.
-    EXPECT_TRUE(styles.completer()->popup()->isVisible());
+    EXPECT_TRUE(styles.findChild<NamePopup*>()->isVisible());
     EXPECT_TRUE(window.ActiveWindow()->Flush());
-    EXPECT_FALSE(styles.completer()->popup()->isVisible());
+    EXPECT_FALSE(styles.findChild<NamePopup*>()->isVisible());
     EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "Stout");
     // A text that matches no style is replaced by the current choice.
     Type("no such beer");

@@ -287,15 +287,31 @@ TEST_F(Choosers, ThePickerOpensOnItsNameAndEnterTakesIt) {
     CataloguePickerDialog picker(model, nullptr);
     picker.show();
     QApplication::setActiveWindow(&picker);
-    auto* list = picker.findChild<ListPane*>(QStringLiteral("lvItems"));
-    ASSERT_NE(list, nullptr);
-    EXPECT_TRUE(list->hasFocus());
+    auto* filter = picker.findChild<QLineEdit*>(QStringLiteral("txtFilter"));
+    ASSERT_NE(filter, nullptr);
+    EXPECT_TRUE(filter->hasFocus());
     EXPECT_FALSE(picker.findChild<QPushButton*>(QStringLiteral("cmdView"))->isEnabled());
     EXPECT_EQ(FromQt(picker.windowTitle()), "Select Hop Variety");
     EXPECT_EQ(picker.findChild<TreePane*>(), nullptr);
-    QTest::keyClick(list, Qt::Key_Return);
+    QTest::keyClick(filter, Qt::Key_Return);
     EXPECT_FALSE(picker.isVisible());
     EXPECT_EQ(model.Answer(), "Saaz");
+}
+
+TEST_F(Choosers, WhatIsTypedIntoThePickerFiltersAndEnterTakesTheBestRow) {
+    for (const char* name : {"Saaz (US)", "Late Saaz", "Zeus"})
+        shell.DB()->Execute("INSERT INTO HOPS (NAME) VALUES (" + SqlText(name) + ")");
+    CataloguePickerModel model(CatalogueKind::Hop, *shell.DB(), shell.Opened()->data.tree, "Zeus");
+    CataloguePickerDialog picker(model, nullptr);
+    picker.show();
+    QApplication::setActiveWindow(&picker);
+    auto* filter = picker.findChild<QLineEdit*>(QStringLiteral("txtFilter"));
+    QTest::keyClicks(filter, QStringLiteral("saaz"));
+    EXPECT_EQ(model.Items().SelectedText(), "Saaz");
+    QTest::keyClick(filter, Qt::Key_Down);
+    EXPECT_EQ(model.Items().SelectedText(), "Saaz (US)");
+    QTest::keyClick(filter, Qt::Key_Return);
+    EXPECT_EQ(model.Answer(), "Saaz (US)");
 }
 
 TEST_F(Choosers, AnEmptyPickerOffersNothing) {

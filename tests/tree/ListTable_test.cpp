@@ -310,7 +310,29 @@ TEST(ListTable, AFilterKeepsTheHeadingsOverItsRows) {
     EXPECT_THAT(Names(list), ElementsAre("Roasted", "Black"));
 }
 
-TEST(ListTable, TheChosenRowStaysChosenWhileAFilterShowsIt) {
+TEST(ListTable, AFilterPutsTheBestRowsFirst) {
+    ListRow alias = Row({"Goldings", "5"}), cell = Row({"Saaz", "kent"});
+    alias.otherNames = {"Kent Golding"};
+    ListTable list = ListOf({cell, alias, Row({"East Kent", "4"}), Row({"Kent 2", "4"}), Row({"Kent", "4"})});
+    list.SetFilter("kent");
+    EXPECT_THAT(Names(list), ElementsAre("Kent", "Kent 2", "East Kent", "Goldings", "Saaz"));
+    EXPECT_EQ(list.SelectedText(), "Kent");
+    list.SetFilter("kent ea");
+    EXPECT_THAT(Names(list), ElementsAre("East Kent"));
+    // The words stand in several cells.
+    list.SetFilter("kent saa");
+    EXPECT_THAT(Names(list), ElementsAre("Saaz"));
+}
+
+TEST(ListTable, AFilterSelectsTheBestRowOfAllGroups) {
+    ListTable list = ListOf({Heading("Base", 1), Member("Dark Malt", 1), Heading("Roasted", 2),
+                             Member("Pale Dark", 2), Member("Dark", 2)});
+    list.SetFilter("dark");
+    EXPECT_THAT(Names(list), ElementsAre("Base", "Dark Malt", "Roasted", "Dark", "Pale Dark"));
+    EXPECT_EQ(list.SelectedText(), "Dark");
+}
+
+TEST(ListTable, TheChosenRowStaysChosenWhileNoOtherFitsBetter) {
     const auto named = [](const char* name) {
         ListRow row = Row({name});
         row.key = name;
@@ -322,6 +344,7 @@ TEST(ListTable, TheChosenRowStaysChosenWhileAFilterShowsIt) {
     EXPECT_EQ(list.SelectedText(), "Saphir");
     list.SetFilter("saaz");
     EXPECT_EQ(list.SelectedText(), "Saaz");
+    EXPECT_EQ(list.Selected(), 0);
     list.SetFilter("");
     EXPECT_EQ(list.Selected(), 1);
 }

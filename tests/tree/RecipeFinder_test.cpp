@@ -4,6 +4,7 @@
 
 #include "TreeTest.h"
 #include "store/Schema.h"
+#include "support/OtherNames.h"
 
 namespace tw::test {
 namespace {
@@ -55,7 +56,8 @@ TEST_F(RecipeFinderTest, FindsPartsOfTheNameWithoutRegardToCase) {
     EXPECT_EQ(Find("badger"), Lines{"Old Badger"});
     EXPECT_EQ(Find("STÖUT"), Lines{"Ænigma Stöut"});
     EXPECT_EQ(Find("ænig"), Lines{"Ænigma Stöut"});
-    EXPECT_EQ(Find("stout"), Lines{});
+    EXPECT_EQ(Find("stout"), Lines{"Ænigma Stöut"});
+    EXPECT_EQ(Find("enig st"), Lines{"Ænigma Stöut"});
 }
 
 TEST_F(RecipeFinderTest, WantsEveryWordSomewhere) {
@@ -84,6 +86,31 @@ TEST_F(RecipeFinderTest, SearchesEveryPartOfARecipe) {
                              "yeast", "1318", "one"})
         EXPECT_EQ(Find(word), Lines{"one"}) << word;
     EXPECT_EQ(Find("2024"), Lines{});
+}
+
+TEST_F(RecipeFinderTest, FindsIngredientsAndStylesByTheirOtherNames) {
+    AddOtherNames(*db);
+    AddAlias(*db, CatalogueKind::Hop, "EKG", "East Kent Goldings");
+    AddFacts(*db, CatalogueKind::Hop, "East Kent Goldings", "", "United Kingdom");
+    AddFacts(*db, CatalogueKind::Style, "Best Bitter", "11B", "Beer 2021");
+    Execute("INSERT INTO STYLES (NAME, FOLDER_ID) VALUES ('Best Bitter', 0)");
+    Recipe("one", 1);
+    Recipe("two", 0, "ekg would be better");
+    Recipe("three");
+    Row("RECIPE_HOPS", 2, "Saaz");
+    Row("RECIPE_HOPS", 1, "East Kent Goldings");
+    Row("RECIPE_HOPS", 3, " ekg");
+    EXPECT_EQ(Find("ekg"), (Lines{"one", "three", "two"}));
+    EXPECT_EQ(Find("east kent"), (Lines{"one", "three"}));
+    EXPECT_EQ(Find("11b"), Lines{"one"});
+}
+
+TEST_F(RecipeFinderTest, TakesHyphensSlashesAndBlanksForTheSame) {
+    Recipe("Ale", 0, "SafAle US-05, w-34/70");
+    Recipe("Stout", 0, "used 05/06");
+    EXPECT_EQ(Find("us05"), (Lines{"Ale", "Stout"}));
+    EXPECT_EQ(Find("safale us05"), Lines{"Ale"});
+    EXPECT_EQ(Find("34 70"), Lines{"Ale"});
 }
 
 TEST_F(RecipeFinderTest, DoesNotJoinTheEndOfOnePartWithTheNext) {

@@ -25,16 +25,5 @@ TEST(Split, CutsThePartBeforeASeparator) {
     EXPECT_EQ(CutPart(text, ';'), "");
 }
 
-TEST(Split, FindsTheWordsBetweenBlanksTabsAndLineEnds) {
-    std::vector<std::string> words;
-    const auto keep = [&](std::string_view word) { words.emplace_back(word); };
-    ForEachWord(" pale\tale\r\n  malt ", keep);
-    EXPECT_THAT(words, ElementsAre("pale", "ale", "malt"));
-    words.clear();
-    ForEachWord(" \t", keep);
-    ForEachWord("", keep);
-    EXPECT_TRUE(words.empty());
-}
-
 }  // namespace
 }  // namespace tw

@@ -3,13 +3,13 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
-#include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
 
 #include "document/ui/DocumentBinding.h"
 #include "document/ui/GridModel.h"
+#include "document/ui/NamePopup.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/GridHeader.h"
 #include "platform/qt/ProgramStyle.h"
@@ -95,7 +95,7 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
                                     const QModelIndex& index) const {
     const CellList list = cells_.ListOf(index);
     QWidget* editor = nullptr;
-    if (list.entries.empty()) {
+    if (list.names.IsEmpty()) {
         auto* line = new QLineEdit(parent);
         line->setTextMargins(CellPadding(body_) / 2, 0, CellPadding(body_) / 2, 0);
         line->setAlignment(Qt::Alignment(index.data(Qt::TextAlignmentRole).toInt()));
@@ -113,34 +113,18 @@ QWidget* GridDelegate::MakeListEditor(QWidget* parent, const CellList& list) con
     auto* combo = new QComboBox(parent);
     combo->setMaxVisibleItems(16);
     QStringList entries;
-    entries.reserve(static_cast<qsizetype>(list.entries.size()));
-    for (const std::string& entry : list.entries) entries.append(ToQt(entry));
+    entries.reserve(static_cast<qsizetype>(list.names.Count()));
+    for (std::size_t i = 0; i < list.names.Count(); ++i) entries.append(ToQt(list.names.Name(i)));
     combo->addItems(entries);
     if (!list.freeText) return combo;
     combo->setEditable(true);
     combo->setInsertPolicy(QComboBox::NoInsert);
-    QCompleter* completer = combo->completer();
-    completer->setCompletionMode(QCompleter::PopupCompletion);
-    completer->setFilterMode(Qt::MatchContains);
-    completer->setCaseSensitivity(Qt::CaseInsensitive);
-    // The popups are as wide as their widest entry, even in a narrow column.
-    const int widest = completer->popup()->sizeHintForColumn(0) +
-                       2 * combo->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    completer->popup()->setMinimumWidth(widest);
-    combo->view()->setMinimumWidth(widest);
-    // createEditor is const in Qt, but the editor's signals must change this object.
-    auto* self = const_cast<GridDelegate*>(this);  // NOLINT(cppcoreguidelines-pro-type-const-cast)
-    // While the list of matches is open, Enter arrives as one of these two signals: a match was chosen, or
-    // the text remains as typed.
-    connect(completer, qOverload<const QString&>(&QCompleter::activated), combo,
-            [self, combo](const QString& text) {
-                combo->setEditText(text);
-                self->Close(*combo, SubmitModelCache);
-            });
-    connect(combo->lineEdit(), &QLineEdit::returnPressed, combo, [self, combo, completer] {
-        const bool picking = completer->popup()->isVisible() && completer->popup()->currentIndex().isValid();
-        if (!picking) self->Close(*combo, SubmitModelCache);
-    });
+    combo->setCompleter(nullptr);
+    // The list is as wide as its widest entry, even in a narrow column.
+    combo->view()->setMinimumWidth(combo->view()->sizeHintForColumn(0) +
+                                   2 * combo->style()->pixelMetric(QStyle::PM_ScrollBarExtent));
+    auto* popup = new NamePopup(*combo->lineEdit(), [names = list.names] { return names; });
+    connect(popup, &NamePopup::Taken, this, &GridDelegate::StayInCell);
     return combo;
 }
 
@@ -177,7 +161,37 @@ void GridDelegate::Close(QWidget& editor, EndEditHint hint) {
     emit closeEditor(&editor, hint);
 }
 
+void GridDelegate::StayInCell(QWidget* editor) {
+    Close(*editor, NoHint);
+}
+
+// Handles the keys of the open list of names. Enter takes the highlighted name and stays in the cell, Tab
+// takes it and goes on, Escape keeps what was typed.
+bool GridDelegate::HandleListKey(QWidget& editor, const QKeyEvent& key) {
+    auto* const popup = editor.findChild<NamePopup*>();
+    if (!popup || popup->isHidden()) return false;
+    if (popup->MoveBy(key)) return true;
+    switch (key.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (key.modifiers().testFlag(Qt::ControlModifier)) return false;
+            popup->Take();
+            StayInCell(&editor);
+            return true;
+        case Qt::Key_Tab:
+        case Qt::Key_Backtab:
+            popup->Take();
+            return false;
+        case Qt::Key_Escape:
+            popup->Close();
+            return true;
+        default:
+            return false;
+    }
+}
+
 bool GridDelegate::HandleKey(QWidget& editor, const QKeyEvent& key) {
+    if (HandleListKey(editor, key)) return true;
     switch (key.key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:

@@ -50,7 +50,10 @@ class GridDelegate final : public QStyledItemDelegate {
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
+    // Commits the editor, and the cell stays current.
+    void StayInCell(QWidget* editor);
     bool HandleKey(QWidget& editor, const QKeyEvent& key);
+    bool HandleListKey(QWidget& editor, const QKeyEvent& key);
     void Close(QWidget& editor, QAbstractItemDelegate::EndEditHint hint);
     QWidget* MakeListEditor(QWidget* parent, const CellList& list) const;
 

@@ -1,8 +1,6 @@
 #include "document/ui/ListField.h"
 
-#include <QAbstractItemView>
 #include <QApplication>
-#include <QCompleter>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -18,12 +16,8 @@ constexpr int kUsualCharacters = 12;
 
 ListField::ListField(DocumentBinding& binding, const ListBox& list, const QString& name, QWidget* parent,
                      std::function<void(RecipeDocument&, int)> select,
-                     std::function<int(const RecipeDocument&, std::string_view)> entryOf)
-    : QComboBox(parent),
-      binding_(binding),
-      list_(list),
-      select_(std::move(select)),
-      entryOf_(std::move(entryOf)) {
+                     std::function<NameList(const RecipeDocument&)> namesOf)
+    : QComboBox(parent), binding_(binding), list_(list), select_(std::move(select)) {
     setObjectName(ToQt(list.Name()));
     setAccessibleName(name);
     setFocusPolicy(Qt::StrongFocus);
@@ -32,14 +26,14 @@ ListField::ListField(DocumentBinding& binding, const ListBox& list, const QStrin
     setMinimumContentsLength(kUsualCharacters);
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
+    setCompleter(nullptr);
     lineEdit()->setAccessibleName(name);
-    completer()->setCompletionMode(QCompleter::PopupCompletion);
-    completer()->setFilterMode(Qt::MatchContains);
-    completer()->setCaseSensitivity(Qt::CaseInsensitive);
-    completer()->setMaxVisibleItems(kVisibleEntries);
-    completer()->popup()->installEventFilter(this);
-    // Runs before the completer's own filter, which hides the loss of focus from the box.
-    installEventFilter(this);
+    const auto names = [this, namesOf = std::move(namesOf)] {
+        const RecipeDocument* const document = binding_.Document();
+        return document ? namesOf(*document) : NameList();
+    };
+    names_ = new NamePopup(*lineEdit(), names);
+    connect(names_, &NamePopup::Taken, this, &ListField::Settle);
     ShowList();
     binding_.Watch(&list_, [this] { ShowList(); });
     connect(this, &QComboBox::activated, this, &ListField::Choose);
@@ -69,28 +63,11 @@ void ListField::Choose(int index) {
     ShowList();
 }
 
-// Returns the index of the entry that the typed text names or, if only one entry contains the text, of that
-// one; -1 if there is none.
-int ListField::TypedEntry() const {
-    const QString typed = currentText().trimmed();
-    if (typed.isEmpty()) return -1;
-    const int named = entryOf_(*binding_.Document(), FromQt(typed));
-    if (named >= 0) return named;
-    const auto holds = [&](int i) { return itemText(i).contains(typed, Qt::CaseInsensitive); };
-    int only = -1;
-    for (int i = 0; i < count(); ++i) {
-        if (!holds(i)) continue;
-        if (only >= 0) return -1;
-        only = i;
-    }
-    return only;
-}
-
 void ListField::Settle() {
     if (!binding_.Document()) return;
-    // If it stayed open, the list of matches would still catch the keys.
-    completer()->popup()->hide();
-    const int typed = TypedEntry();
+    const QString text = currentText().trimmed();
+    const int typed = text.isEmpty() || text == ToQt(list_.Text()) ? -1 : names_->Meant();
+    names_->Forget();
     if (typed >= 0) Choose(typed);
     ShowList();
     if (hasFocus()) lineEdit()->selectAll();
@@ -122,23 +99,7 @@ bool ListField::GoesToOwnPopup(const QFocusEvent& event) const {
 }
 
 bool ListField::IsOwnPopup(const QWidget& popup) const {
-    return &popup == completer()->popup() || isAncestorOf(&popup);
-}
-
-// Watches for menus that open while the list of matches is open, because these do not take the focus
-// from the box.
-bool ListField::eventFilter(QObject* object, QEvent* event) {
-    if (object == this) {
-        const bool out = event->type() == QEvent::FocusOut;
-        if (out && IsLeft(*static_cast<QFocusEvent*>(event))) completer()->popup()->hide();
-    } else if (object == completer()->popup()) {
-        if (event->type() == QEvent::Show) qApp->installEventFilter(this);
-        if (event->type() == QEvent::Hide) qApp->removeEventFilter(this);
-    } else if (event->type() == QEvent::Show && completer()->popup()->isVisible()) {
-        const auto* opened = qobject_cast<QWidget*>(object);
-        if (opened && opened->windowType() == Qt::Popup && !IsOwnPopup(*opened)) Settle();
-    }
-    return QComboBox::eventFilter(object, event);
+    return isAncestorOf(&popup);
 }
 
 bool ListField::GoesToAnotherProgram(const QFocusEvent& event) const {
@@ -153,7 +114,30 @@ void ListField::wheelEvent(QWheelEvent* event) {
         event->ignore();
 }
 
+// Enter takes the highlighted name and stays in the box, Tab takes it and goes on, Escape keeps what was
+// typed.
+bool ListField::HandleNameKey(const QKeyEvent& key) {
+    if (names_->isHidden()) return false;
+    switch (key.key()) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            names_->Take();
+            Settle();
+            return true;
+        case Qt::Key_Escape:
+            return names_->Close();
+        default:
+            return names_->MoveBy(key);
+    }
+}
+
+bool ListField::focusNextPrevChild(bool next) {
+    names_->Take();
+    return QComboBox::focusNextPrevChild(next);
+}
+
 void ListField::keyPressEvent(QKeyEvent* event) {
+    if (HandleNameKey(*event)) return;
     // While a name is being typed, Undo applies to its letters.
     const bool typing = lineEdit()->isUndoAvailable() && event->matches(QKeySequence::Undo);
     if (!typing && binding_.HandleListKey(*event)) return;

@@ -85,9 +85,7 @@ QComboBox* PageBuilder::StyleList(const QString& name) {
     return new ListField(
         binding_, record_.cmbStyle, name, &page_,
         [](RecipeDocument& document, int index) { document.Style().Select(index); },
-        [](const RecipeDocument& document, std::string_view typed) {
-            return document.Style().EntryOf(typed);
-        });
+        [](const RecipeDocument& document) { return document.Style().Names(); });
 }
 
 QRadioButton* PageBuilder::Option(const OptionGroup& group, const QString& option, const QString& caption) {

@@ -42,7 +42,8 @@ CataloguePickerDialog::CataloguePickerDialog(CataloguePickerModel& model, QWidge
     splitter->addWidget(items_);
     splitter->setStretchFactor(splitter->count() - 1, 1);
     splitter->setSizes({Unit(*this) * kFolderUnits, Unit(*this) * kWidestUnits});
-    column->addWidget(new ListFilterBox(model.Items(), *items_, this));
+    auto* filter = new ListFilterBox(model.Items(), *items_, this);
+    column->addWidget(filter);
     column->addWidget(splitter, 1);
     auto* guides = new GuidesLabel(this);
     guides->Show(model.Guides());
@@ -52,7 +53,8 @@ CataloguePickerDialog::CataloguePickerDialog(CataloguePickerModel& model, QWidge
     connect(items_, &ListPane::RowsChanged, this, &CataloguePickerDialog::ShowButtons);
     connect(items_, &ListPane::RowActivated, this, [this] { Press("cmdOK"); });
     resize(FirstWidth(), Unit(*this) * kHeightUnits);
-    items_->setFocus();
+    // What is typed filters, so that Enter takes a row that has been seen.
+    filter->setFocus();
     ShowButtons();
 }
 

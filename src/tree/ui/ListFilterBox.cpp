@@ -1,5 +1,6 @@
 #include "tree/ui/ListFilterBox.h"
 
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QShortcut>
 
@@ -31,9 +32,15 @@ ListFilterBox::ListFilterBox(ListTable& list, ListPane& pane, QWidget* parent, S
 }
 
 void ListFilterBox::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Down) {
-        pane_.setFocus(Qt::TabFocusReason);
-        return;
+    switch (event->key()) {
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+            QCoreApplication::sendEvent(&pane_, event);
+            return;
+        default:
+            break;
     }
     if (event->key() == Qt::Key_Escape && !text().isEmpty()) {
         clear();

@@ -18,7 +18,8 @@ class ListFilterBox final : public QLineEdit {
     ListFilterBox(ListTable& list, ListPane& pane, QWidget* parent, SetFilter setFilter = {});
 
   protected:
-    // Down moves the focus to the list. Escape clears the box; in an empty box, the window handles it.
+    // The keys that move up and down do so in the list. Escape clears the box; in an empty box, the window
+    // handles it.
     void keyPressEvent(QKeyEvent* event) override;
     bool event(QEvent* event) override;
 
