@@ -101,6 +101,20 @@ void CatalogueEditor::SetName(std::string_view name) {
     }
 }
 
+void CatalogueEditor::StartWith(const CatalogueDraft& draft) {
+    Clear();
+    entry_.name = draft.name;
+    for (const DraftFigure& figure : draft.figures)
+        for (int row = 0; row < Cells().Rows(); ++row) {
+            const RangeRow& range = form_->rows[static_cast<std::size_t>(row)];
+            const std::string low = std::string(figure.column) + (range.high.empty() ? "" : "_LO");
+            if (range.low != low) continue;
+            TypeCell(row, 0, figure.text);
+            if (!range.high.empty()) TypeCell(row, 1, figure.text);
+        }
+    MarkChanged();
+}
+
 void CatalogueEditor::GoTo(const std::string& name) {
     if (!name.empty()) SetName(name);
 }

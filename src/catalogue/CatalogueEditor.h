@@ -12,6 +12,7 @@
 #include "catalogue/EditorForm.h"
 #include "catalogue/ObjectNavigator.h"
 #include "platform/FormModel.h"
+#include "store/CatalogueDraft.h"
 
 namespace tw {
 
@@ -32,6 +33,8 @@ class CatalogueEditor : public FormModel {
     // or, after a message, if the table has no such row. Raises the store's error, which also leaves the
     // form blank.
     void SetName(std::string_view name);
+    // Shows a new row with what is known of it.
+    void StartWith(const CatalogueDraft& draft);
     // The name under which the row is stored; empty for a new row.
     const std::string& LoadedName() const { return loadedName_; }
     // The name saved last; empty before the first save.

@@ -61,6 +61,10 @@ NameList CatalogueLookup::StyleNames(std::span<const std::string> names) const {
     return CatalogueNames(database_).WithOtherNames(CatalogueKind::Style, names);
 }
 
+bool CatalogueLookup::Knows(CatalogueKind kind, std::string_view name) const {
+    return CatalogueNames(database_).RowOf(kind, name).has_value();
+}
+
 // Returns the name of the row that typed means, or typed itself if there is none.
 std::string CatalogueLookup::RowName(CatalogueKind kind, std::string_view typed) const {
     return CatalogueNames(database_).RowOf(kind, typed).value_or(std::string(typed));

@@ -68,6 +68,9 @@ class CatalogueLookup {
     // the catalogue knows for it; empty for every other list.
     NameList Names(CellNames list) const;
 
+    // True if the catalogue has a row that name means (CatalogueNames::RowOf).
+    bool Knows(CatalogueKind kind, std::string_view name) const;
+
     // Return the figures of the row that name means: its own name, an alias or its code
     // (CatalogueNames::RowOf). nullopt if there is no such row. REQUIRES for Fermentable: kind is Grain
     // or Extract.

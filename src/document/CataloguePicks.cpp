@@ -32,16 +32,34 @@ bool CataloguePicks::BrowseCell(Grid& grid) {
     return true;
 }
 
+bool CataloguePicks::CanAdd(const Grid& grid) const {
+    return missing_.DraftOf(grid, grid.CurrentRow()).has_value();
+}
+
+void CataloguePicks::AddCurrent(const Grid& grid) {
+    if (const auto draft = missing_.DraftOf(grid, grid.CurrentRow())) recipe_.AddToCatalogue(*draft);
+}
+
 void CataloguePicks::Take(CatalogueKind list, std::string_view name) {
-    if (list == CatalogueKind::Style) {
+    if (list == CatalogueKind::Style)
         style_.ChangeStyle(name);
-        return;
-    }
+    else
+        Enter(list, name, false);
+}
+
+void CataloguePicks::TakeAdded(CatalogueKind list, std::string_view name) {
+    Enter(list, name, true);
+}
+
+// again: fills the row even if it has that name already.
+void CataloguePicks::Enter(CatalogueKind list, std::string_view name, bool again) {
     const std::optional<CellNames> names = CellNamesOf(list);
     for (Grid* const grid : recipe_.record.Grids())
         for (int col = 0; col < grid->Cols(); ++col)
             if (RuleOf(*grid, col).names == names) {
                 OneStep step(recipe_, ChangeType::Selection);
+                // An unchanged text would not be looked up.
+                if (again) cells_.EditCell(*grid, grid->CurrentRow(), col, "", Asking::Quietly);
                 cells_.EditCell(*grid, grid->CurrentRow(), col, name, Asking::Quietly);
                 step.Keep();
             }

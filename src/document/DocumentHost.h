@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "record/RecipeCalculator.h"
+#include "store/CatalogueDraft.h"
 #include "store/CatalogueKind.h"
 
 namespace tw {
@@ -67,6 +68,9 @@ class DocumentHost {
     // Lets the brewer choose from a catalogue, starting at name. The choice goes to the
     // document's CataloguePicks::Take.
     virtual void PickFromCatalogue(RecipeDocument&, CatalogueKind, const std::string& /*name*/) {}
+    // Lets the brewer complete a row and add it to the catalogue. The name added then goes to the document's
+    // CataloguePicks::TakeAdded.
+    virtual void AddToCatalogue(RecipeDocument&, const CatalogueDraft&) {}
     // The recipe has been edited and is marked as changed.
     virtual void DocumentEdited(const RecipeDocument&) {}
     // The caption or the modified flag has changed.

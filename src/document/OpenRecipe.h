@@ -60,6 +60,8 @@ class OpenRecipe {
     void PickFromCatalogue(CatalogueKind list, const std::string& name) {
         host.PickFromCatalogue(document_, list, name);
     }
+    // Lets the brewer add a row to the catalogue.
+    void AddToCatalogue(const CatalogueDraft& draft) { host.AddToCatalogue(document_, draft); }
     // Updates the undo and redo commands from the history, if the recipe is the active one.
     void RefreshUndoCommands();
 

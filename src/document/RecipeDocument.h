@@ -11,6 +11,7 @@
 #include "document/CataloguePicks.h"
 #include "document/EditCommands.h"
 #include "document/EditReplay.h"
+#include "document/MissingFigures.h"
 #include "document/OpenRecipe.h"
 #include "document/RecipeCells.h"
 #include "document/RecipeFields.h"
@@ -67,6 +68,7 @@ class RecipeDocument {
     const RecipeLines& Lines() const { return lines_; }
     RecipeStyle& Style() { return style_; }
     const RecipeStyle& Style() const { return style_; }
+    const MissingFigures& Missing() const { return missing_; }
     CataloguePicks& Picks() { return picks_; }
     const CataloguePicks& Picks() const { return picks_; }
     EditCommands& Edit() { return edit_; }
@@ -89,6 +91,7 @@ class RecipeDocument {
     RecipeCells cells_;
     RecipeLines lines_;
     RecipeStyle style_;
+    MissingFigures missing_;
     CataloguePicks picks_;
     EditCommands edit_;
     EditReplay replay_;

@@ -64,6 +64,7 @@ class RecipeRecord {
     // Constant time.
     TextBox& operator[](FieldId id) { return *textBoxes_[static_cast<std::size_t>(id)]; }
     Grid& operator[](GridId id) { return *grids_[static_cast<std::size_t>(id)]; }
+    const Grid& operator[](GridId id) const { return *grids_[static_cast<std::size_t>(id)]; }
     // Find a control by its name; nullptr if no control of that kind has this name.
     TextBox* FindTextBox(std::string_view name);
     Grid* FindGrid(std::string_view name);

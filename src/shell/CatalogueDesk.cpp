@@ -42,6 +42,16 @@ void CatalogueDesk::Pick(RecipeDocument& document, CatalogueKind list, const std
     if (!picker.Cancelled()) document.Picks().Take(list, picker.Answer());
 }
 
+void CatalogueDesk::Add(RecipeDocument& document, const CatalogueDraft& draft) {
+    const CatalogueContext context = Context();
+    const auto editor = MakeEditor(draft.kind, context);
+    editor->StartWith(draft);
+    context.dialogs.ShowModal(*editor);
+    if (editor->Selection().empty()) return;
+    documents_.CatalogueChanged();
+    document.Picks().TakeAdded(draft.kind, editor->Selection());
+}
+
 void CatalogueDesk::ViewRow(CatalogueKind type, ListTable& items) {
     const CatalogueContext context = Context();
     const auto editor = MakeEditor(type, context);

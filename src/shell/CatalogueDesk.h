@@ -10,6 +10,7 @@
 #include "platform/Ports.h"
 #include "shell/DocumentManager.h"
 #include "shell/OpenedDatabase.h"
+#include "store/CatalogueDraft.h"
 #include "store/CatalogueKind.h"
 #include "tree/ListTable.h"
 
@@ -29,6 +30,9 @@ class CatalogueDesk {
     // Lets the brewer choose from a catalogue, with the row of that name selected first, and passes the
     // choice to the document.
     void Pick(RecipeDocument& document, CatalogueKind list, const std::string& name);
+    // Shows the editor of a new catalogue row with what is known of it. If it is saved, passes its name to
+    // the document.
+    void Add(RecipeDocument& document, const CatalogueDraft& draft);
 
   private:
     // Shows the selected row of a picker's list in a read-only editor, whose navigator reaches the other

@@ -44,6 +44,9 @@ class RecipeServices final : public DocumentHost {
     void PickFromCatalogue(RecipeDocument& document, CatalogueKind list, const std::string& name) override {
         to_.catalogue.Pick(document, list, name);
     }
+    void AddToCatalogue(RecipeDocument& document, const CatalogueDraft& draft) override {
+        to_.catalogue.Add(document, draft);
+    }
     void DocumentEdited(const RecipeDocument& document) override { to_.unsaved.Edited(document); }
     void DocumentRenamed(const RecipeDocument& document) override;
 

@@ -1,5 +1,6 @@
 // The list of matching names below a cell and below the style.
 #include "GuiTest.h"
+#include "document/ui/GapMark.h"
 #include "document/ui/NamePopup.h"
 #include "support/OtherNames.h"
 
@@ -35,6 +36,11 @@ class NameLists : public GuiTest {
         for (int row = 0; row < List().model()->rowCount(); ++row)
             entries.push_back(FromQt(List().model()->index(row, 0).data().toString()));
         return entries;
+    }
+    static std::string ControlText(const DialogModel& dialog, std::string_view name) {
+        for (const DialogControl& control : dialog.Controls())
+            if (control.name == name) return control.text;
+        return "no control";
     }
     static std::string Highlighted() { return FromQt(List().currentIndex().data().toString()); }
 };
@@ -149,6 +155,58 @@ TEST_F(NameLists, EscapeInTheStyleClosesTheListFirst) {
     Key(Qt::Key_Escape);
     EXPECT_EQ(FromQt(styles.currentText()), "(None)");
     EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "(None)");
+}
+
+TEST_F(NameLists, AnUnknownNameIsMarkedUntilItsFiguresAreEntered) {
+    GridView& view = GridAt(Tab::Grains, "gridGrain", 1, 0);
+    Type("hull malt\t2 lb\t");
+    const QModelIndex name = view.Model().index(0, 0);
+    const auto reason = QStringLiteral("Not in the catalogue: gives no gravity until you enter its PPG");
+    EXPECT_EQ(name.data(GridModel::kGapRole).toString(), reason);
+    EXPECT_TRUE(name.data(Qt::ToolTipRole).toString().startsWith(reason + QLatin1Char('\n')));
+    EXPECT_EQ(name.data(Qt::AccessibleDescriptionRole).toString(), reason);
+    QApplication::processEvents();
+    const auto marks = [this](const char* figure) {
+        for (GapMark* mark : window.ActiveWindow()->findChildren<GapMark*>())
+            if (mark->accessibleName().startsWith(QLatin1String(figure))) return mark->toolTip();
+        return QString();
+    };
+    EXPECT_EQ(marks("Original Gravity"),
+              QStringLiteral("hull malt gives no gravity until you enter its PPG"));
+    EXPECT_EQ(marks("IBUs"), QString());
+    Type("36\t");
+    view.setCurrentIndex(view.Model().index(0, GrainCol::Color));
+    Type("3\t");
+    QApplication::processEvents();
+    EXPECT_EQ(name.data(GridModel::kGapRole).toString(), QString());
+    EXPECT_EQ(marks("Original Gravity"), QString());
+}
+
+TEST_F(NameLists, TheMenuOfAnUnknownNameAddsItToTheCatalogue) {
+    GridView& view = GridAt(Tab::Grains, "gridGrain", 1, 0);
+    Type("hull malt\t2 lb\t36\t");
+    view.setCurrentIndex(view.Model().index(0, 0));
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(view.viewport(), &menu);
+    auto* add = view.findChild<QAction*>(QStringLiteral("AddToCatalogue"));
+    ASSERT_NE(add, nullptr);
+    outside.dialogs.scripts.emplace_back([](DialogModel& editor) {
+        EXPECT_EQ(ControlText(editor, "Text1"), "hull malt");
+        EXPECT_EQ(ControlText(editor, "gridInfo(0,1)"), "36");
+        EXPECT_TRUE(editor.SetControl("gridInfo(1,0)", "4"));
+        EXPECT_TRUE(editor.SetControl("gridInfo(1,1)", "4"));
+        EXPECT_TRUE(editor.Press("cmdOK"));
+    });
+    add->trigger();
+    QApplication::activePopupWidget()->close();
+    EXPECT_EQ(Shown(view, 1, GrainCol::Color), "4");
+    EXPECT_EQ(view.Model().index(0, 0).data(GridModel::kGapRole).toString(), QString());
+    EXPECT_FALSE(shell.DB()->OpenRecordset("SELECT * FROM GRAINS WHERE NAME = 'hull malt'").AtEnd());
+    // A name that the catalogue knows has no such item.
+    QApplication::sendEvent(view.viewport(), &menu);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(view.findChild<QAction*>(QStringLiteral("AddToCatalogue")), nullptr);
+    QApplication::activePopupWidget()->close();
 }
 
 }  // namespace

@@ -348,7 +348,7 @@ TEST_F(RecoveryTest, NothingIsLeftToKeepOnceItIsSaved) {
     run->view.log.clear();
     EXPECT_TRUE(run->shell.Opened()->saver.SaveUnder(stout, "Stout", 0, Asking::Quietly));
     EXPECT_THAT(run->view.log, testing::Contains("notice: "));
-    EXPECT_THAT(run->view.log, testing::Not(testing::Contains(testing::StartsWith("news"))));
+    EXPECT_THAT(run->view.log, testing::Not(testing::Contains(testing::StartsWith("news: Unsaved"))));
 }
 
 TEST_F(RecoveryTest, ADatabaseThatWasMovedFindsItsFiles) {

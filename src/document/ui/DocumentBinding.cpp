@@ -46,6 +46,7 @@ void DocumentBinding::Detach() {
     document_->Record().SetObserver(nullptr);
     document_ = nullptr;
     watchers_.clear();
+    allWatchers_.clear();
     selectionWatchers_.clear();
     commitActiveField_ = nullptr;
     for (const auto& [grid, view] : grids_) view->Detach();
@@ -173,16 +174,28 @@ void DocumentBinding::SwatchChanged(Rgb color) {
     if (showSwatch_) showSwatch_(color);
 }
 
+void DocumentBinding::FireAll() const {
+    for (const auto& show : allWatchers_) show();
+}
+
+void DocumentBinding::TextBoxChanged(const TextBox& box) {
+    Fire(&box);
+    FireAll();
+}
+
 void DocumentBinding::CellChanged(const Grid& grid, int row, int col) {
     if (GridWidget* view = ViewOf(grid)) view->ShowCell(row, col);
+    FireAll();
 }
 
 void DocumentBinding::RowInserted(const Grid& grid, int row) {
     if (GridWidget* view = ViewOf(grid)) view->ShowRowInserted(row);
+    FireAll();
 }
 
 void DocumentBinding::RowRemoved(const Grid& grid, int row) {
     if (GridWidget* view = ViewOf(grid)) view->ShowRowRemoved(row);
+    FireAll();
 }
 
 void DocumentBinding::CurrentCellChanged(const Grid& grid) {
@@ -191,6 +204,7 @@ void DocumentBinding::CurrentCellChanged(const Grid& grid) {
 
 void DocumentBinding::GridFilled(const Grid& grid) {
     if (GridWidget* view = ViewOf(grid)) view->FitGridColumns();
+    FireAll();
 }
 
 }  // namespace tw

@@ -38,6 +38,8 @@ class DocumentBinding final : public RecordObserver {
     // Calls show at every change of that object of the record: a TextBox, Label, Button, ListBox
     // or OptionGroup.
     void Watch(const void* object, std::function<void()> show);
+    // Calls show at every change of a text box or of a grid's rows or cells.
+    void WatchAll(std::function<void()> show) { allWatchers_.push_back(std::move(show)); }
     // Calls show when the selection in a text box has changed. At most one callback per text box.
     void WatchSelection(const TextBox& box, std::function<void()> show);
     void WatchSwatch(std::function<void(Rgb)> show) { showSwatch_ = std::move(show); }
@@ -83,7 +85,7 @@ class DocumentBinding final : public RecordObserver {
     // Commits the open cell editor and the active text box. Returns false if an entry was refused.
     bool Flush();
 
-    void TextBoxChanged(const TextBox& box) override { Fire(&box); }
+    void TextBoxChanged(const TextBox& box) override;
     void TextSelectionChanged(const TextBox& box) override;
     void LabelChanged(const Label& label) override { Fire(&label); }
     void ButtonChanged(const Button& button) override { Fire(&button); }
@@ -98,12 +100,14 @@ class DocumentBinding final : public RecordObserver {
 
   private:
     void Fire(const void* object);
+    void FireAll() const;
     void LeaveActiveField();
 
     RecipeDocument* document_;
     Platform& platform_;
     DocumentFrame& frame_;
     std::unordered_map<const void*, std::vector<std::function<void()>>> watchers_;
+    std::vector<std::function<void()>> allWatchers_;
     std::unordered_map<const TextBox*, std::function<void()>> selectionWatchers_;
     std::unordered_map<const Grid*, GridWidget*> grids_;
     int holds_ = 0;

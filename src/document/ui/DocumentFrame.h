@@ -6,6 +6,8 @@
 #include "commands/Commands.h"
 #include "platform/qt/CellColors.h"
 
+class QAction;
+
 namespace tw {
 
 // The two colour pairs of the settings. A colour that the brewer has not chosen is invalid.
@@ -19,8 +21,8 @@ class DocumentFrame {
     // Runs a command of the main window. Returns false if the command is disabled; its key may then have its
     // usual effect.
     virtual bool RunCommand(CommandId command) = 0;
-    // Opens the Edit menu as a popup.
-    virtual void ShowEditMenu(const QPoint& globalPosition) = 0;
+    // Opens the Edit menu as a popup, with first above its items; first is deleted when the menu closes.
+    virtual void ShowEditMenu(const QPoint& globalPosition, QAction* first = nullptr) = 0;
     virtual GridColors Colors() const = 0;
 };
 

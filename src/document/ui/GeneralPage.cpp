@@ -11,6 +11,7 @@
 #include "document/ui/ColorSwatch.h"
 #include "document/ui/FancyLabel.h"
 #include "document/ui/FieldBox.h"
+#include "document/ui/GapMark.h"
 #include "document/ui/PageBuilder.h"
 #include "document/ui/RangeBar.h"
 #include "platform/qt/Appearance.h"
@@ -25,7 +26,7 @@ constexpr int kColorDigits = 15;
 constexpr int kGravityDigits = 7;
 
 // The columns of the layout of the figures.
-enum FigureColumn { Caption, Box, Extra, Range, Bar, FigureColumns };
+enum FigureColumn { Caption, Box, Mark, Extra, Range, Bar, FigureColumns };
 
 QString Tr(const char* text) {
     return QCoreApplication::translate("GeneralPage", text);
@@ -88,6 +89,7 @@ void AddFigure(PageBuilder& b, QGridLayout& grid, const FigureRow& figure, QWidg
     FieldBox* box = b.Figure(figure.box, figure.digits);
     grid.addWidget(b.LabelFor(box), row, Caption);
     grid.addWidget(box, row, Box, Qt::AlignLeft);
+    grid.addWidget(b.Gaps(figure.box.Id(), what), row, Mark);
     if (extra) {
         grid.addWidget(extra, row, Extra, Qt::AlignLeft);
         QWidget::setTabOrder(box, extra);

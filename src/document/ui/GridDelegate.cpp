@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include "document/ui/DocumentBinding.h"
+#include "document/ui/GapMark.h"
 #include "document/ui/GridModel.h"
 #include "document/ui/NamePopup.h"
 #include "platform/qt/Appearance.h"
@@ -70,7 +71,9 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& plain,
         painter->setPen(ink);
         painter->setFont(option.font);
         const int padding = CellPadding(body_);
-        const QRect place = option.rect.adjusted(padding, 0, -padding, 0);
+        QRect place = option.rect.adjusted(padding, 0, -padding, 0);
+        if (!index.data(GridModel::kGapRole).toString().isEmpty())
+            place.adjust(0, 0, -PaintGapMark(*painter, place, option.palette), 0);
         const QString text = option.fontMetrics.elidedText(option.text, Qt::ElideRight, place.width());
         painter->drawText(place, static_cast<int>(option.displayAlignment) | Qt::TextSingleLine, text);
     }
@@ -87,7 +90,9 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& plain,
 QSize GridDelegate::sizeHint(const QStyleOptionViewItem& plain, const QModelIndex& index) const {
     QStyleOptionViewItem option = plain;
     initStyleOption(&option, index);
-    return {option.fontMetrics.horizontalAdvance(option.text) + 2 * CellPadding(body_) + 2,
+    const bool marked = !index.data(GridModel::kGapRole).toString().isEmpty();
+    return {option.fontMetrics.horizontalAdvance(option.text) + 2 * CellPadding(body_) + 2 +
+                (marked ? GapMarkWidth(option.fontMetrics) : 0),
             cells_.RowHeight()};
 }
 

@@ -107,6 +107,18 @@ QString GridModel::Spoken(int row, int col) const {
     return tr("Row %1, %2: %3").arg(row).arg(ToQt(grid_->ColumnAt(col).header), value);
 }
 
+QString GridModel::GapOf(const QModelIndex& index) const {
+    if (!HasCatalogue(index)) return {};
+    return ToQt(binding_.Document()->Missing().ReasonOf(*grid_, GridRow(index.row())));
+}
+
+QVariant GridModel::TipOf(const QModelIndex& index) const {
+    if (!HasCatalogue(index)) return {};
+    const QString gap = GapOf(index);
+    const QString tip = tr("A double click or Ctrl+Enter opens the catalogue to choose from");
+    return gap.isEmpty() ? tip : gap + QLatin1Char('\n') + tip;
+}
+
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!grid_ || !index.isValid()) return {};
     const int row = GridRow(index.row()), col = index.column();
@@ -129,9 +141,11 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
             return grid_->Checked(row, col) ? Qt::Checked : Qt::Unchecked;
         case Qt::AccessibleTextRole:
             return Spoken(row, col);
+        case Qt::AccessibleDescriptionRole:
+        case kGapRole:
+            return GapOf(index);
         case Qt::ToolTipRole:
-            if (!HasCatalogue(index)) return {};
-            return tr("A double click or Ctrl+Enter opens the catalogue to choose from");
+            return TipOf(index);
         default:
             return {};
     }
@@ -155,6 +169,10 @@ void GridModel::CellChanged(int gridRow, int col) {
     if (row < 0) return;
     const QModelIndex cell = index(row, col);
     emit dataChanged(cell, cell);
+    // Whether the row lacks something depends on its other cells.
+    for (int other = 0; other < grid_->Cols(); ++other)
+        if (other != col && RuleOf(*grid_, other).names != CellNames::None)
+            emit dataChanged(index(row, other), index(row, other));
 }
 
 void GridModel::RowInserted(int gridRow) {

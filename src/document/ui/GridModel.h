@@ -12,6 +12,9 @@ class GridModel final : public QAbstractTableModel {
     Q_OBJECT
   public:
     enum class Part { Data, Totals };
+    // The role of the reason why a row gives nothing to the figures, in the cell with its name: a QString, or
+    // nothing.
+    static constexpr int kGapRole = Qt::UserRole;
 
     // view shows the rows and owns the model; the colours are derived from its palette. binding and grid must
     // outlive the model, unless Detach is called first.
@@ -52,6 +55,8 @@ class GridModel final : public QAbstractTableModel {
     CellColors ColorsOf(int row, int col) const;
     QVariant FontOf(int row, int col) const;
     QString Spoken(int row, int col) const;
+    QString GapOf(const QModelIndex& index) const;
+    QVariant TipOf(const QModelIndex& index) const;
 
     DocumentBinding& binding_;
     const QWidget& view_;

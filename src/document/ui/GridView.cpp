@@ -1,6 +1,7 @@
 #include "document/ui/GridView.h"
 
 #include <QAccessible>
+#include <QAction>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QScrollBar>
@@ -431,7 +432,20 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
     QPoint place = event->globalPos();
     if (event->reason() == QContextMenuEvent::Keyboard) place = PlaceOfCurrentCell();
-    binding_.Frame().ShowEditMenu(place);
+    binding_.Frame().ShowEditMenu(place, MakeAddAction());
+}
+
+// Returns the menu item that adds the current row's name to the catalogue; nullptr if it cannot be added.
+QAction* GridView::MakeAddAction() {
+    const RecipeDocument* const document = binding_.Document();
+    if (!grid_ || !document || !document->Picks().CanAdd(*grid_)) return nullptr;
+    auto* add = new QAction(tr("Add to the catalo&gue..."), this);
+    add->setObjectName(QStringLiteral("AddToCatalogue"));
+    connect(add, &QAction::triggered, this, [this] {
+        if (!grid_ || !binding_.Flush()) return;
+        binding_.Run([this](RecipeDocument& recipe) { recipe.Picks().AddCurrent(*grid_); });
+    });
+    return add;
 }
 
 QPoint GridView::PlaceOfCurrentCell() const {

@@ -106,6 +106,7 @@ class GridView final : public QTableView, public GridWidget, private CellHost {
     // Returns true if the key has been handled.
     bool HandleOwnKey(const QKeyEvent& key);
     void ShowFocus();
+    QAction* MakeAddAction();
     // Returns the lower left corner of the current cell, in screen coordinates.
     QPoint PlaceOfCurrentCell() const;
     void FollowRows(const std::function<void()>& change);

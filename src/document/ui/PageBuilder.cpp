@@ -6,6 +6,7 @@
 #include <QRadioButton>
 
 #include "document/ui/FieldBox.h"
+#include "document/ui/GapMark.h"
 #include "document/ui/GridPanel.h"
 #include "document/ui/ListField.h"
 #include "document/ui/RangeBar.h"
@@ -62,6 +63,14 @@ RangeBar* PageBuilder::Bar(const TextBox& figure, const Label& range, const QStr
     binding_.Watch(&range, show);
     show();
     return bar;
+}
+
+GapMark* PageBuilder::Gaps(FieldId figure, const QString& what) {
+    const auto reasons = [&binding = binding_, figure] {
+        const RecipeDocument* const document = binding.Document();
+        return document ? document->Missing().ReasonsOf(figure) : std::vector<std::string>();
+    };
+    return new GapMark(binding_, what, reasons, &page_);
 }
 
 QPushButton* PageBuilder::CommandButton(const Button& button, const QString& caption, const QString& name,

@@ -16,6 +16,7 @@ namespace tw {
 
 class FieldBox;
 class GridPanel;
+class GapMark;
 class RangeBar;
 
 class PageBuilder {
@@ -41,6 +42,8 @@ class PageBuilder {
     QLabel* RecordLabel(const Label& label, const QString& name);
     // Creates the bar for a figure and its range. what: the name of the figure.
     RangeBar* Bar(const TextBox& figure, const Label& range, const QString& what);
+    // Creates the mark for what a figure lacks. what: the name of the figure.
+    GapMark* Gaps(FieldId figure, const QString& what);
     QPushButton* CommandButton(const Button& button, const QString& caption, const QString& name,
                                std::function<void(RecipeDocument&)> action);
     QComboBox* StyleList(const QString& name);

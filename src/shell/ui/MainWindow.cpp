@@ -310,8 +310,14 @@ void MainWindow::FocusAfter(CommandId command) {
     if (window && command == CommandId::EditInsert) window->FocusRow();
 }
 
-void MainWindow::ShowEditMenu(const QPoint& globalPosition) {
-    menus_->Menu(TopMenu::Edit)->popup(globalPosition);
+void MainWindow::ShowEditMenu(const QPoint& globalPosition, QAction* first) {
+    QMenu& menu = *menus_->Menu(TopMenu::Edit);
+    if (first) {
+        menu.insertAction(menu.actions().value(0), first);
+        // Later, since a chosen item is triggered after the menu has closed.
+        connect(&menu, &QMenu::aboutToHide, first, &QObject::deleteLater);
+    }
+    menu.popup(globalPosition);
 }
 
 GridColors MainWindow::Colors() const {

@@ -35,7 +35,7 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
 
     // DocumentFrame
     bool RunCommand(CommandId command) override;
-    void ShowEditMenu(const QPoint& globalPosition) override;
+    void ShowEditMenu(const QPoint& globalPosition, QAction* first) override;
     GridColors Colors() const override;
 
   protected:
