@@ -1,7 +1,9 @@
 #include "document/EditCommands.h"
 
 #include <algorithm>
+#include <utility>
 
+#include "record/CellRules.h"
 #include "values/NumberText.h"
 #include "values/Text.h"
 
@@ -62,6 +64,38 @@ GridRange TargetOf(const Grid& grid, const ClipboardBlock& block) {
     if (target.Rows() == 1) target.row2 = std::min(grid.Rows(), target.row1 + Height(block)) - 1;
     if (target.Cols() == 1) target.col2 = std::min(grid.Cols(), target.col1 + Width(block)) - 1;
     return target;
+}
+
+// Returns what a column takes, as a word for messages.
+std::string_view WordFor(CellTakes takes) {
+    switch (takes) {
+        case CellTakes::Pounds:
+        case CellTakes::Ounces:
+        case CellTakes::Grams:
+            return "a weight";
+        case CellTakes::Percent:
+            return "a percentage";
+        case CellTakes::Minutes:
+            return "a length of time";
+        case CellTakes::HopAmount:
+            return "a weight, AAUs or IBUs";
+        case CellTakes::HopForm:
+            return "a form of hops";
+        case CellTakes::KegPsi:
+            return "a possible pressure";
+        default:
+            return "a possible number";
+    }
+}
+
+// Names the cell that refuses a paste: "Row 3, Amount: 'abc' is not a weight".
+Refusal PasteRefusal(const Grid& grid, int row, int col, std::string_view text) {
+    const CellRule& rule = RuleOf(grid, col);
+    const std::string_view column = rule.header.substr(0, rule.header.find(" ("));
+    std::string advice = "Row " + std::to_string(row) + ", ";
+    advice.append(column).append(": '").append(text).append("' is not ").append(WordFor(rule.takes));
+    return {kPasteFailed, "The clipboard contains data which are not valid entries for this grid",
+            std::move(advice)};
 }
 
 template <class Visit>
@@ -138,14 +172,13 @@ bool EditCommands::CanPaste(const Grid& grid, const GridRange& target, const Cli
         recipe_.Tell(kPasteFailed, "The data in the clipboard has a different size/shape than the selection");
         return false;
     }
-    const bool valid = EveryCell(target, [&](int row, int col) {
-        return !cells_.CanEdit(grid, row, col) || grid.IsCheckBox(row, col) ||
-               cells_.ReadCell(grid, row, col, BlockCell(block, row - target.row1, col - target.col1))
-                   .Accepted();
+    return EveryCell(target, [&](int row, int col) {
+        if (!cells_.CanEdit(grid, row, col) || grid.IsCheckBox(row, col)) return true;
+        const std::string& text = BlockCell(block, row - target.row1, col - target.col1);
+        const Reading<CellValue> read = cells_.ReadCell(grid, row, col, text);
+        if (!read) recipe_.Tell(PasteRefusal(grid, row, col, text));
+        return read.Accepted();
     });
-    if (!valid)
-        recipe_.Tell(kPasteFailed, "The clipboard contains data which are not valid entries for this grid");
-    return valid;
 }
 
 void EditCommands::ApplyBlock(Grid& grid, const GridRange& target, const ClipboardBlock& block,

@@ -12,8 +12,8 @@
 namespace tw {
 namespace {
 
-Refusal Refused(std::string text) {
-    return {kInvalidEntry, std::move(text)};
+Refusal Refused(std::string text, std::string_view examples) {
+    return {kInvalidEntry, std::move(text), ForExample(examples)};
 }
 
 Reading<CellValue> AsCell(const Reading<double>& read) {
@@ -24,8 +24,9 @@ Reading<CellValue> AsCell(const Reading<double>& read) {
 // kind is the word for the number in the messages.
 Reading<CellValue> ReadPlainNumber(std::string_view text, std::string_view kind) {
     const std::optional<double> number = ParseReal(text);
-    if (!number) return Refused("Please enter a valid " + std::string(kind) + " value");
-    if (*number < 0) return Refused("Please enter a positive " + std::string(kind) + " value");
+    constexpr std::string_view kExamples = "36, 1.5";
+    if (!number) return Refused("Please enter a valid " + std::string(kind) + " value", kExamples);
+    if (*number < 0) return Refused("Please enter a positive " + std::string(kind) + " value", kExamples);
     return CellValue::Of(*number);
 }
 
@@ -33,26 +34,29 @@ Reading<CellValue> ReadPlainNumber(std::string_view text, std::string_view kind)
 Reading<CellValue> ReadHopForm(std::string_view text) {
     for (std::size_t i = 0; i < kHopForms.size(); ++i)
         if (SameName(text, kHopForms[i].name)) return CellValue::Of(static_cast<double>(i));
-    return Refused({});
+    return Refusal{};
 }
+
+constexpr std::string_view kHopAmounts = "1 oz, 28 g, 8 AAU, 20 IBU";
 
 Reading<CellValue> ReadHopAmount(std::string_view text) {
     using Kind = CellValue::Kind;
     const auto notNegative = [](Kind kind, double number, std::string_view word) -> Reading<CellValue> {
-        if (number < 0) return Refused("Please enter a positive " + std::string(word));
+        if (number < 0) return Refused("Please enter a positive " + std::string(word), kHopAmounts);
         return CellValue{kind, number};
     };
     if (const auto ounces = ParseOuncesAnyUnit(text)) return notNegative(Kind::Number, *ounces, "weight");
     if (const auto units = ParseAAU(text)) return notNegative(Kind::AlphaAcidUnits, *units, "AAU value");
     if (const auto units = ParseIBU(text)) return notNegative(Kind::BitternessUnits, *units, "IBU value");
-    return Refused("Please enter a valid hopping unit (weight, AAUs, or IBUs)");
+    return Refused("Please enter a valid hopping unit (weight, AAUs, or IBUs)", kHopAmounts);
 }
 
 Reading<double> ReadMultiplier(std::string_view text) {
     if (IsBlank(text)) return 1.0;
     const std::optional<double> number = ParseReal(text);
-    if (!number) return Refused("Please enter a valid decimal number");
-    if (*number < 0) return Refused("Please enter a positive decimal number");
+    constexpr std::string_view kExamples = "1, 0.9";
+    if (!number) return Refused("Please enter a valid decimal number", kExamples);
+    if (*number < 0) return Refused("Please enter a positive decimal number", kExamples);
     return *number;
 }
 

@@ -18,12 +18,19 @@ inline constexpr std::string_view kInvalidEntry = "Invalid Entry";
 struct Refusal {
     std::string_view title = kInvalidEntry;  // must be a constant
     std::string text;
+    // What would be accepted, for one more line of the box; may be empty.
+    std::string advice = {};
     bool operator==(const Refusal&) const = default;
 };
 
+// Returns the advice "For example 5 gal, 20 L". examples are separated by ", ".
+inline std::string ForExample(std::string_view examples) {
+    return "For example " + std::string(examples);
+}
+
 // Shows the box, unless the refusal has no text.
 inline void ShowRefusal(MessagePort& messages, const Refusal& refusal) {
-    if (!refusal.text.empty()) messages.ShowMessage(refusal.title, refusal.text);
+    if (!refusal.text.empty()) messages.ShowMessageWithAdvice(refusal.title, refusal.text, refusal.advice);
 }
 
 // A value, or why there is none.

@@ -119,33 +119,36 @@ struct Quantity {
     bool (*inRange)(double);
     std::string_view notUnderstood;
     std::string_view outOfRange;
+    std::string_view examples;
 };
 
 Reading<double> Validate(const Quantity& quantity, std::string_view text) {
     if (IsBlank(text)) return 0.0;
     const std::optional<double> read = quantity.read(text);
     if (read && quantity.inRange(*read)) return *read;
-    return Refusal{kInvalidEntry, std::string(read ? quantity.outOfRange : quantity.notUnderstood)};
+    return Refusal{kInvalidEntry, std::string(read ? quantity.outOfRange : quantity.notUnderstood),
+                   ForExample(quantity.examples)};
 }
 
 constexpr std::string_view kValidWeight = "Please enter a valid weight";
 constexpr std::string_view kPositiveWeight = "Please enter a positive weight";
 
 constexpr Quantity kVolume{ReadGallons, IsAboveZero, "Please enter a valid volume",
-                           "Please enter a positive volume"};
+                           "Please enter a positive volume", "5 gal, 20 L, 2 1/2 qt"};
 constexpr Quantity kGravity{ReadGravity, IsAboveZero, "Please enter a valid gravity",
-                            "Please enter a positive gravity"};
+                            "Please enter a positive gravity", "1.050, 12.5 P"};
 constexpr Quantity kPercent{ParsePercent, IsPercentage, "Please enter a valid percentage",
-                            "Please enter a percentage (0 to 100)"};
-constexpr Quantity kPounds{ReadPounds, IsNotNegative, kValidWeight, kPositiveWeight};
-constexpr Quantity kGrams{ReadGrams, IsNotNegative, kValidWeight, kPositiveWeight};
-constexpr Quantity kOunces{ParseOuncesAnyUnit, IsNotNegative, kValidWeight, kPositiveWeight};
+                            "Please enter a percentage (0 to 100)", "72, 5.5%"};
+constexpr Quantity kPounds{ReadPounds, IsNotNegative, kValidWeight, kPositiveWeight,
+                           "9 lb 4 oz, 4.2 kg, 300 g"};
+constexpr Quantity kGrams{ReadGrams, IsNotNegative, kValidWeight, kPositiveWeight, "4 g, 0.2 oz"};
+constexpr Quantity kOunces{ParseOuncesAnyUnit, IsNotNegative, kValidWeight, kPositiveWeight, "3/4 oz, 28 g"};
 constexpr Quantity kTime{ReadMinutes, IsNotNegative, "Please enter a valid length of time",
-                         "Please enter a positive time"};
+                         "Please enter a positive time", "60 min, 1.5 h"};
 constexpr Quantity kTemperature{ReadFahrenheit, IsReasonableTemperature, "Please enter a valid temperature",
-                                "Please enter a reasonable temperature"};
+                                "Please enter a reasonable temperature", "68 F, 20 C"};
 constexpr Quantity kPressure{ReadPSI, IsNotNegative, "Please enter a valid pressure",
-                             "Please enter a positive pressure"};
+                             "Please enter a positive pressure", "12 psi, 83 kPa"};
 
 }  // namespace
 

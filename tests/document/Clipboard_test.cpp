@@ -61,6 +61,16 @@ TEST_F(ClipboardTest, ASquareTilesALargerSquare) {
     EXPECT_THAT(Boxes(), IsEmpty());
 }
 
+TEST_F(ClipboardTest, ARefusedPasteNamesTheCellAndWhatItIsNot) {
+    Grid& grain = R().gridGrain;
+    Rows(grain, 3);
+    Paste(grain, {1, 0, 3, 1}, "a\t1 lb\rb\t2 lb\rc\tabc\r");
+    EXPECT_THAT(Boxes(), ElementsAre(kInvalid));
+    EXPECT_EQ(platform.messages.advice, "Row 3, Amount: 'abc' is not a weight");
+    Paste(grain, {1, 2, 1, 2}, "-1\r");
+    EXPECT_EQ(platform.messages.advice, "Row 1, PPG: '-1' is not a possible number");
+}
+
 TEST_F(ClipboardTest, AnotherShapeIsFilledOnlyWithTheSetting) {
     Grid& adjuncts = R().gridAdjuncts;
     Rows(adjuncts, 3);

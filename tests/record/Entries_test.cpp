@@ -22,6 +22,15 @@ TEST_F(Entries, AFieldTellsItsNumberInTheUnitOfItsRule) {
     EXPECT_EQ(*ReadEntry(r.txtNotes, "any words"), 7);
 }
 
+TEST_F(Entries, ARefusalSaysWhatWouldBeAccepted) {
+    EXPECT_EQ(ReadEntry(r.gridHops, 1, HopCol::Amount, "much").Why().advice,
+              "For example 1 oz, 28 g, 8 AAU, 20 IBU");
+    for (const char* const amount : {"1 oz", "28 g", "8 AAU", "20 IBU"})
+        EXPECT_TRUE(ReadEntry(r.gridHops, 1, HopCol::Amount, amount)) << amount;
+    EXPECT_EQ(ReadEntry(r.gridGrain, 1, GrainCol::Ppg, "-1").Why().advice, "For example 36, 1.5");
+    EXPECT_EQ(ReadEntry(r.txtHopExtraction, "x").Why().advice, "For example 1, 0.9");
+}
+
 TEST_F(Entries, ABlankCellHasNoNumber) {
     EXPECT_EQ(*ReadEntry(r.gridHops, 1, HopCol::Amount, "  "), CellValue{});
 }

@@ -4,6 +4,8 @@
 #include "values/Converter.h"
 #include "values/QuantityParsers.h"
 #include "values/RecordingMessages.h"
+#include "values/Split.h"
+#include "values/Text.h"
 
 namespace tw {
 namespace {
@@ -38,6 +40,26 @@ void ExpectRefused(Validator validator, std::string_view message,
 const Validator kAll[] = {ValidateVolume,  ValidateGravity,     ValidatePercent,
                           ValidatePounds,  ValidateGrams,       ValidateOunces,
                           ValidateMinutes, ValidateTemperature, ValidatePressure};
+
+// Returns the examples of an advice.
+std::vector<std::string_view> ExamplesIn(std::string_view advice) {
+    constexpr std::string_view kBeginning = "For example ";
+    if (!advice.starts_with(kBeginning)) return {};
+    advice.remove_prefix(kBeginning.size());
+    std::vector<std::string_view> examples = Split(advice, ',');
+    for (std::string_view& example : examples) example = Trim(example);
+    return examples;
+}
+
+TEST(Validators, AdviseExamplesThatTheyAccept) {
+    for (const Validator validator : kAll) {
+        const Reading<double> read = validator("what");
+        ASSERT_FALSE(read);
+        const auto examples = ExamplesIn(read.Why().advice);
+        EXPECT_GE(examples.size(), 2U) << read.Why().advice;
+        for (const std::string_view example : examples) EXPECT_TRUE(validator(example)) << example;
+    }
+}
 
 TEST(Validators, TakeABlankTextForZero) {
     for (const Validator validator : kAll) ExpectAccepted(validator, {{"", 0}, {" ", 0}, {"      ", 0}});

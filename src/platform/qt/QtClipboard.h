@@ -5,6 +5,9 @@
 
 namespace tw {
 
+// Other programs of this desktop end lines with a line feed. Text read has carriage return and line feed at
+// the end of each line, text written a line feed. A block of cells (tabs between cells, a carriage return
+// behind each row) is also offered as a table in HTML and as tab-separated values.
 class QtClipboard final : public ClipboardPort {
   public:
     bool HasText() override;
