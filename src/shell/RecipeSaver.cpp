@@ -35,7 +35,7 @@ bool RecipeSaver::Save(RecipeDocument& document, Asking asking) {
         if (asking == Asking::Quietly && renamed && RecipeExists(*data_.database, document.BeerName()))
             return false;
         const bool saved = document.Storage().Save(tw::SaveAs::No, asking);
-        FollowUnfinished(document, saved);
+        Follow(document, saved, asking);
         return saved;
     });
 }
@@ -59,13 +59,18 @@ bool RecipeSaver::SaveUnder(RecipeDocument& document, std::string_view name, std
     return Try([&] {
         document.Focus().FlushEdits();
         const bool saved = document.Storage().SaveUnder(name, folderId, asking);
-        FollowUnfinished(document, saved);
+        // The brewer has answered the dialog, even if nothing else is asked.
+        Follow(document, saved, Asking::Aloud);
         return saved;
     });
 }
 
-void RecipeSaver::FollowUnfinished(const RecipeDocument& document, bool saved) {
-    if (saved && document.Changed()) data_.treeObjects.Reload();
+void RecipeSaver::Follow(const RecipeDocument& document, bool saved, Asking asking) {
+    if (!saved) return;
+    if (document.Changed())
+        data_.treeObjects.Reload();
+    else if (asking == Asking::Aloud)
+        view_->SayBriefly("Saved " + document.OrigName());
 }
 
 void RecipeSaver::SaveAll() {

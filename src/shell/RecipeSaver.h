@@ -8,6 +8,7 @@
 #include "shell/DocumentManager.h"
 #include "shell/OpenSaveModel.h"
 #include "shell/OpenedDatabase.h"
+#include "shell/ShellView.h"
 #include "tree/DB_IO.h"
 
 namespace tw {
@@ -16,9 +17,9 @@ class RecipeSaver {
   public:
     // notices is notified when a failed save may have deleted recipes; browse is the last state of the open
     // and save dialog. All arguments must outlive the object.
-    RecipeSaver(OpenedDatabase& data, DocumentManager& documents, ObjectListener& notices,
+    RecipeSaver(OpenedDatabase& data, DocumentManager& documents, ObjectListener& notices, ViewSlot& view,
                 OpenSaveFields& browse)
-        : data_(data), documents_(documents), notices_(notices), browse_(browse) {}
+        : data_(data), documents_(documents), notices_(notices), view_(view), browse_(browse) {}
 
     // Save, SaveAs and SaveUnder return true if the recipe was saved, and show an error in a box titled
     // "Error". Asking::Quietly asks nothing and skips a document that was never saved, or that was given the
@@ -41,12 +42,14 @@ class RecipeSaver {
   private:
     // Runs a save. If it raises an error, shows it and returns false.
     bool Try(const std::function<bool()>& save);
-    // Updates the tree after a save that could not write everything.
-    void FollowUnfinished(const RecipeDocument& document, bool saved);
+    // Tells the brewer that the document was saved, unless the save was not asked for, or updates the tree if
+    // it could not write everything. Does nothing after a save that failed.
+    void Follow(const RecipeDocument& document, bool saved, Asking asking);
 
     OpenedDatabase& data_;
     DocumentManager& documents_;
     ObjectListener& notices_;
+    ViewSlot& view_;
     OpenSaveFields& browse_;
 };
 

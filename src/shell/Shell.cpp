@@ -41,7 +41,7 @@ Shell::OpenParts::OpenParts(Shell& shell, std::unique_ptr<Database> database)
       services({shell.settings_, shell.documents_, shell.states_, shell.recent_, shell.unsaved_, shell.view_,
                 data, catalogue}),
       recipes(data, shell.documents_, services, shell.states_, catalogue, shell.browse_, shell.view_),
-      saver(data, shell.documents_, notices, shell.browse_),
+      saver(data, shell.documents_, notices, shell.view_, shell.browse_),
       files(data, shell.documents_, shell.states_, shell.own_, shell.notice_, shell.view_),
       paper(shell.environment_, shell.instance_, data, shell.documents_, shell.store_, shell.own_),
       autoSaver(shell.CurrentSettings(), shell.minutes_, data, shell.documents_, saver, files),
