@@ -1,7 +1,7 @@
 #include "shell/RecentList.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
-#include <ranges>
 
 #include "support/RecordingPlatform.h"
 
@@ -13,7 +13,7 @@ using Strings = std::vector<std::string>;
 class RecentListTest : public testing::Test {
   protected:
     void Fill(const Strings& topFirst) {
-        for (const std::string& name : topFirst | std::views::reverse) list.Add(name);
+        std::for_each(topFirst.rbegin(), topFirst.rend(), [&](const std::string& name) { list.Add(name); });
     }
     bool Visible(std::string_view item) const { return bar.FindItem(item)->visible; }
     std::string Stored(const std::string& key) {
