@@ -12,12 +12,12 @@ namespace {
 
 // A cell without which a row gives nothing to a figure of the recipe.
 struct Need {
-    GridId grid;
-    int nameCol;
-    int amountCol;
-    int neededCol;
+    GridId grid = GridId::Grain;
+    int nameCol = 0;
+    int amountCol = 0;
+    int neededCol = 0;
     std::optional<FieldId> figure;  // nullopt for the salts, which no figure counts
-    const char* lack;
+    const char* lack = nullptr;
 };
 
 // In the order in which they are told: a row says only the first that it lacks.

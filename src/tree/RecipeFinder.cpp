@@ -16,7 +16,7 @@ namespace {
 // A statement that reads the recipe's id and a text to search, and the catalogue that may know other names
 // for that text.
 struct RowRead {
-    const char* sql;
+    const char* sql = nullptr;
     std::optional<CatalogueKind> names = std::nullopt;
 };
 

@@ -1,5 +1,7 @@
 #include "document/MissingFigures.h"
 
+#include <gmock/gmock.h>
+
 #include "DocumentTest.h"
 
 namespace tw::test {

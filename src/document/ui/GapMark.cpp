@@ -37,9 +37,9 @@ int PaintGapMark(QPainter& painter, const QRect& place, const QPalette& palette)
     return GapMarkWidth(metrics);
 }
 
-GapMark::GapMark(DocumentBinding& binding, const QString& what,
-                 std::function<std::vector<std::string>()> reasons, QWidget* parent)
-    : QWidget(parent), what_(what), reasons_(std::move(reasons)) {
+GapMark::GapMark(DocumentBinding& binding, QString what, std::function<std::vector<std::string>()> reasons,
+                 QWidget* parent)
+    : QWidget(parent), what_(std::move(what)), reasons_(std::move(reasons)) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     // One operation may change many cells.
     binding.WatchAll([this] {

@@ -24,7 +24,7 @@ class GapMark final : public QWidget {
   public:
     // what: the figure's name, for screen readers. reasons returns what the figure lacks; it is called again
     // after changes of the recipe.
-    GapMark(DocumentBinding& binding, const QString& what, std::function<std::vector<std::string>()> reasons,
+    GapMark(DocumentBinding& binding, QString what, std::function<std::vector<std::string>()> reasons,
             QWidget* parent);
 
     QSize sizeHint() const override;
