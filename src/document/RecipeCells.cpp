@@ -85,6 +85,10 @@ CellList RecipeCells::ListOf(const Grid& grid, int row, int col) const {
         case CellNames::LogActions:
             list.names = NameList(kLogActions);
             break;
+        case CellNames::PitchedYeast:
+            // The notes of any other row are prose.
+            if (PitchesYeast(grid, row)) list.names = catalogue_.Names(names);
+            break;
         default:
             list.names = catalogue_.Names(names);
     }

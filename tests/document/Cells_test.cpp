@@ -314,6 +314,14 @@ TEST_F(CellsTest, PitchedYeastSetsTheFinalGravity) {
     EXPECT_EQ(R().txtFG.Text(), "1.015");
 }
 
+TEST_F(CellsTest, OffersYeastsOnlyInRowsThatPitchOne) {
+    document->Lines().InsertRowForGrid(R().gridLog);
+    Put(R().gridLog, 1, LogCol::Action, "Racked");
+    EXPECT_TRUE(document->Cells().ListOf(R().gridLog, 1, LogCol::Notes).names.IsEmpty());
+    Put(R().gridLog, 1, LogCol::Action, "Pitched Yeast");
+    EXPECT_FALSE(document->Cells().ListOf(R().gridLog, 1, LogCol::Notes).names.IsEmpty());
+}
+
 TEST_F(CellsTest, OffersTheListsOfTheCatalogue) {
     RecipeRecord& r = R();
     const auto list = [&](const Grid& grid, int col) {

@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QWidget>
 
+#include "platform/Error.h"
 #include "platform/qt/QtText.h"
 #include "record/CellRules.h"
 
@@ -109,7 +110,12 @@ QString GridModel::Spoken(int row, int col) const {
 
 QString GridModel::GapOf(const QModelIndex& index) const {
     if (!HasCatalogue(index)) return {};
-    return ToQt(binding_.Document()->Missing().ReasonOf(*grid_, GridRow(index.row())));
+    try {
+        return ToQt(binding_.Document()->Missing().ReasonOf(*grid_, GridRow(index.row())));
+    } catch (const Error&) {
+        // A cell is painted even if the catalogue cannot be read.
+        return {};
+    }
 }
 
 QVariant GridModel::TipOf(const QModelIndex& index) const {

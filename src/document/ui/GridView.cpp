@@ -437,8 +437,9 @@ void GridView::contextMenuEvent(QContextMenuEvent* event) {
 
 // Returns the menu item that adds the current row's name to the catalogue; nullptr if it cannot be added.
 QAction* GridView::MakeAddAction() {
-    const RecipeDocument* const document = binding_.Document();
-    if (!grid_ || !document || !document->Picks().CanAdd(*grid_)) return nullptr;
+    bool canAdd = false;
+    if (grid_) binding_.Run([&](RecipeDocument& recipe) { canAdd = recipe.Picks().CanAdd(*grid_); });
+    if (!canAdd) return nullptr;
     auto* add = new QAction(tr("Add to the catalo&gue..."), this);
     add->setObjectName(QStringLiteral("AddToCatalogue"));
     connect(add, &QAction::triggered, this, [this] {

@@ -29,8 +29,9 @@ ListField::ListField(DocumentBinding& binding, const ListBox& list, const QStrin
     setCompleter(nullptr);
     lineEdit()->setAccessibleName(name);
     const auto names = [this, namesOf = std::move(namesOf)] {
-        const RecipeDocument* const document = binding_.Document();
-        return document ? namesOf(*document) : NameList();
+        NameList found;
+        binding_.Run([&](RecipeDocument& document) { found = namesOf(document); });
+        return found;
     };
     names_ = new NamePopup(*lineEdit(), names);
     connect(names_, &NamePopup::Taken, this, &ListField::Settle);
