@@ -82,6 +82,12 @@ constexpr std::array kKeys = std::to_array<KeyRow>({
     {"GridReadOnlyFg", "1", Color{&Settings::gridReadOnlyFg}},
     {"GridTotalFg", "1", Color{&Settings::gridTotalFg}},
     {"LPMaxIter", "1000", Long(&Settings::lpMaxIter)},
+    {"UndoScaling", "0", Flag{&Settings::undoScaling}},
+    {"KeepTypedUnits", "0", Flag{&Settings::keepTypedUnits}},
+    {"ScaleBoilVol", "1", Flag{&Settings::scaleBoilVol}},
+    {"KeepBitterness", "1", Flag{&Settings::keepBitterness}},
+    {"KeepCarbonation", "1", Flag{&Settings::keepCarbonation}},
+    {"FigureStrip", "1", Flag{&Settings::figureStrip}},
 });
 
 using KeyRows = std::span<const KeyRow>;
@@ -92,7 +98,9 @@ constexpr KeyRows kWindowKeys = kAllKeys.first(6);
 constexpr KeyRows kProgramKeys = kAllKeys.subspan(6);
 constexpr KeyRows kColorKeys = kAllKeys.subspan(25, 4);
 constexpr KeyRows kPreferenceKeys = kAllKeys.subspan(6, 19);
+constexpr KeyRows kAddedKeys = kAllKeys.subspan(30);
 static_assert(kColorKeys.front().key == "GridReadOnlyBg" && kColorKeys.back().key == "GridTotalFg");
+static_assert(kAddedKeys.front().key == "UndoScaling");
 
 // Reads the text into the field. False if the text does not have the form of the field.
 struct Reader {
@@ -167,6 +175,18 @@ void StoreColors(const Settings& settings, const SettingsStore& store) {
     }
 }
 
+void StoreAddedKeys(const Settings& settings, const SettingsStore& store) {
+    Settings usual;
+    for (const KeyRow& row : kAddedKeys) {
+        TakeText(usual, row, row.fallback);
+        const std::string text = std::visit(Writer{settings}, row.field);
+        if (text == std::visit(Writer{usual}, row.field))
+            store.ForgetSetting(kSettingsSection, row.key);
+        else
+            store.SaveSetting(kSettingsSection, row.key, text, false);
+    }
+}
+
 std::optional<std::string> RecentDefault(std::string_view key) {
     for (int slot = 0; slot < kRecentSlots; ++slot) {
         if (key == "File" + std::to_string(slot)) return "";
@@ -189,6 +209,7 @@ void Settings::Store(const SettingsStore& store) const {
     StoreKeys(*this, store, kPreferenceKeys);
     StoreKeys(*this, store, kStyleKeys);
     StoreColors(*this, store);
+    StoreAddedKeys(*this, store);
 }
 
 void Settings::StoreGeometry(const SettingsStore& store) const {

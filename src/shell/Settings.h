@@ -31,13 +31,20 @@ struct Settings {
     // the desktop's colours, and the colour is not stored.
     std::optional<int> gridReadOnlyBg, gridTotalBg, gridReadOnlyFg, gridTotalFg;
     int lpMaxIter = 1000;  // of the water solver; read, but never written by the program
+    // Keys that newer versions added. Each is stored only while it differs from its default, so that a store
+    // without them means the program as it was before them.
+    bool undoScaling = false;     // scaling is one step of the history, and nothing is asked before it
+    bool keepTypedUnits = false;  // scaling keeps the units of the amounts as they were typed
+    // The check boxes of the windows that scale a recipe, as they were last accepted.
+    bool scaleBoilVol = true, keepBitterness = true, keepCarbonation = true;
+    bool figureStrip = true;  // the strip of figures below the tabs of a recipe is shown
 
     // Loads the keys of the window's geometry and style, before the database is opened.
     void LoadWindowKeys(const SettingsStore& store);
     // Loads all other keys, in the order of the table.
     void LoadProgramKeys(const SettingsStore& store);
     // Stores every key except those of the geometry and LPMaxIter, which is never written, in a fixed order.
-    // Removes colours that were never chosen from the store.
+    // Removes colours that were never chosen, and added keys with their default, from the store.
     void Store(const SettingsStore& store) const;
     void StoreGeometry(const SettingsStore& store) const;
     // Sets the field of a key from its text; a text of the wrong form sets the default. False for an

@@ -54,6 +54,30 @@ TEST_F(SettingsTest, AnEmptyStoreGivesTheDefaults) {
     EXPECT_EQ(s.gridReadOnlyFg, std::nullopt);
     EXPECT_EQ(s.gridTotalFg, std::nullopt);
     EXPECT_EQ(s.lpMaxIter, 1000);
+    EXPECT_FALSE(s.undoScaling);
+    EXPECT_FALSE(s.keepTypedUnits);
+    EXPECT_TRUE(s.scaleBoilVol);
+    EXPECT_TRUE(s.keepBitterness);
+    EXPECT_TRUE(s.keepCarbonation);
+    EXPECT_TRUE(s.figureStrip);
+}
+
+// Whoever never touches what a newer version added keeps a store that older versions know whole.
+TEST_F(SettingsTest, AnAddedKeyIsStoredOnlyWhileItDiffersFromItsDefault) {
+    Settings s = Load();
+    s.Store(store);
+    EXPECT_EQ(store.GetSetting("Settings", "UndoScaling", "missing"), "missing");
+    EXPECT_EQ(store.GetSetting("Settings", "KeepBitterness", "missing"), "missing");
+    s.undoScaling = true;
+    s.keepBitterness = false;
+    s.Store(store);
+    EXPECT_EQ(store.GetSetting("Settings", "UndoScaling", "missing"), "True");
+    EXPECT_EQ(store.GetSetting("Settings", "KeepBitterness", "missing"), "False");
+    EXPECT_TRUE(Load().undoScaling);
+    EXPECT_FALSE(Load().keepBitterness);
+    s.undoScaling = false;
+    s.Store(store);
+    EXPECT_EQ(store.GetSetting("Settings", "UndoScaling", "missing"), "missing");
 }
 
 TEST_F(SettingsTest, EveryKeyHasItsDefaultText) {
