@@ -4,6 +4,7 @@
 
 #include "document/DocumentHost.h"
 #include "document/RowFiller.h"
+#include "platform/ScopeGuard.h"
 #include "record/CellRules.h"
 #include "values/Text.h"
 
@@ -19,6 +20,11 @@ std::optional<CatalogueKind> CataloguePicks::ListOf(const Grid& grid, int row, i
 
 void CataloguePicks::BrowseStyles() {
     recipe_.PickFromCatalogue(CatalogueKind::Style, recipe_.record.cmbStyle.Text());
+}
+
+void CataloguePicks::BrowseYeast() {
+    const ScopedValue choosing(choosesYeast_, true);
+    recipe_.PickFromCatalogue(CatalogueKind::Yeast, yeast_.Name());
 }
 
 bool CataloguePicks::BrowseCell(Grid& grid) {
@@ -43,6 +49,8 @@ void CataloguePicks::AddCurrent(const Grid& grid) {
 void CataloguePicks::Take(CatalogueKind list, std::string_view name) {
     if (list == CatalogueKind::Style)
         style_.ChangeStyle(name);
+    else if (choosesYeast_)
+        yeast_.Choose(name);
     else
         Enter(list, name, false);
 }

@@ -6,6 +6,7 @@
 
 #include "document/MissingFigures.h"
 #include "document/OpenRecipe.h"
+#include "document/PitchedYeast.h"
 #include "document/RecipeCells.h"
 #include "document/RecipeStyle.h"
 #include "store/CatalogueKind.h"
@@ -14,8 +15,9 @@ namespace tw {
 
 class CataloguePicks {
   public:
-    CataloguePicks(OpenRecipe& recipe, RecipeStyle& style, RecipeCells& cells, const MissingFigures& missing)
-        : recipe_(recipe), style_(style), cells_(cells), missing_(missing) {}
+    CataloguePicks(OpenRecipe& recipe, RecipeStyle& style, RecipeCells& cells, const MissingFigures& missing,
+                   PitchedYeast& yeast)
+        : recipe_(recipe), style_(style), cells_(cells), missing_(missing), yeast_(yeast) {}
 
     // Returns the catalogue that lists the names of a cell; nullopt if the cell does not contain such
     // a name or cannot be edited. In gridLog, that is the catalogue of yeasts for the notes of a row
@@ -23,8 +25,10 @@ class CataloguePicks {
     std::optional<CatalogueKind> ListOf(const Grid& grid, int row, int col) const;
     // Let the brewer choose from a catalogue, starting at the present name; Take enters the choice.
     // BrowseCell does this for the current cell. It returns false, without asking, if that has no catalogue
-    // or if more than one cell is selected.
+    // or if more than one cell is selected. BrowseYeast lets the brewer choose the recipe's yeast, wherever
+    // the current cell is.
     void BrowseStyles();
+    void BrowseYeast();
     bool BrowseCell(Grid& grid);
     // True if the name in the current cell's row is not in its catalogue.
     bool CanAdd(const Grid& grid) const;
@@ -46,6 +50,8 @@ class CataloguePicks {
     RecipeStyle& style_;
     RecipeCells& cells_;
     const MissingFigures& missing_;
+    PitchedYeast& yeast_;
+    bool choosesYeast_ = false;  // while BrowseYeast asks
 };
 
 }  // namespace tw

@@ -6,6 +6,7 @@ namespace tw {
 
 void EditRecorder::Clear() {
     stack_.Clear();
+    ForgetAwaited();
     EndCompoundEdit();
     changed_();
 }
@@ -17,6 +18,7 @@ void EditRecorder::PutBackRedo(std::vector<EditTracker> edits) {
 }
 
 EditTracker* EditRecorder::Store(EditTracker edit) {
+    if (awaited_) return StoreBehindAwaited(std::move(edit));
     if (awaitedHead_) {
         EditTracker head;
         head.SetChangeType(*std::exchange(awaitedHead_, std::nullopt));
@@ -26,6 +28,27 @@ EditTracker* EditRecorder::Store(EditTracker edit) {
     edit.SetTabNumber(-1);
     compoundTail_ = compoundTail_->AddNext(std::move(edit));
     return compoundTail_;
+}
+
+EditTracker* EditRecorder::StoreAwaited() {
+    EditTracker awaited = std::move(*awaited_);
+    awaited_.reset();
+    return Store(std::move(awaited));
+}
+
+void EditRecorder::RecordAwaited() {
+    if (awaited_) StoreAwaited();
+}
+
+EditTracker* EditRecorder::StoreBehindAwaited(EditTracker edit) {
+    EditTracker* const first = StoreAwaited();
+    const CompoundEdit step(*this, first);
+    return Store(std::move(edit));
+}
+
+void EditRecorder::Await(const std::string& controlName, EditValue oldValue, EditValue newValue,
+                         const Edit& edit) {
+    awaited_ = MakeRecord(controlName, std::move(oldValue), std::move(newValue), edit);
 }
 
 EditTracker* EditRecorder::StoreStep(EditTracker edit) {
@@ -38,6 +61,11 @@ EditTracker* EditRecorder::StoreStep(EditTracker edit) {
 EditTracker* EditRecorder::RecordEdit(const std::string& controlName, EditValue oldValue, EditValue newValue,
                                       const Edit& edit) {
     if (!trackEdits_ || oldValue.SameAs(newValue)) return nullptr;
+    return Store(MakeRecord(controlName, std::move(oldValue), std::move(newValue), edit));
+}
+
+EditTracker EditRecorder::MakeRecord(const std::string& controlName, EditValue oldValue, EditValue newValue,
+                                     const Edit& edit) const {
     EditTracker record;
     record.SetControlID(controlName, -1);
     record.SetControlType(edit.controlType);
@@ -45,7 +73,7 @@ EditTracker* EditRecorder::RecordEdit(const std::string& controlName, EditValue 
     record.SetSelection(edit.selection);
     record.SetLocation(edit.row, edit.col);
     record.SetValues(std::move(oldValue), std::move(newValue));
-    return Store(std::move(record));
+    return record;
 }
 
 bool EditRecorder::BeginCompoundEdit(ChangeType type) {

@@ -53,17 +53,30 @@ class EditRecorder {
     bool BeginCompoundBehind(EditTracker* head);
     // REQUIRES: the matching Begin returned true.
     void EndCompoundEdit();
+    // Holds an edit back until the next one is recorded, whose step it then begins: what has been prepared
+    // for an edit is a step only if the edit comes. REQUIRES: tracking is on. Parameters as those of
+    // RecordEdit.
+    void Await(const std::string& controlName, EditValue oldValue, EditValue newValue, const Edit& edit);
+    bool Awaits() const { return awaited_.has_value(); }
+    void ForgetAwaited() { awaited_.reset(); }
+    // Records the edit held back, if any.
+    void RecordAwaited();
     bool InCompound() const { return compoundHead_ || awaitedHead_; }
 
     EditTracker* RecordGridCell(const Grid& grid, int row, int col, EditValue oldValue, EditValue newValue);
 
   private:
+    EditTracker MakeRecord(const std::string& controlName, EditValue oldValue, EditValue newValue,
+                           const Edit& edit) const;
     EditTracker* Store(EditTracker edit);
+    EditTracker* StoreAwaited();
+    EditTracker* StoreBehindAwaited(EditTracker edit);
     EditTracker* StoreStep(EditTracker edit);
 
     std::function<void()> changed_;
     UndoStack stack_;
     std::optional<ChangeType> awaitedHead_;  // the type of an open compound that has no edit yet
+    std::optional<EditTracker> awaited_;
     EditTracker* compoundHead_ = nullptr;
     EditTracker* compoundTail_ = nullptr;
     int tab_ = 0;

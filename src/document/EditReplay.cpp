@@ -31,11 +31,15 @@ bool EditReplay::FlushBeforeStep() {
 }
 
 bool EditReplay::Undo() {
-    return FlushBeforeStep() && Apply(recipe_.recorder.Stack().StepBack(), true);
+    if (!FlushBeforeStep()) return false;
+    parts_.lines.WithdrawRow();
+    return Apply(recipe_.recorder.Stack().StepBack(), true);
 }
 
 bool EditReplay::Redo() {
-    return FlushBeforeStep() && Apply(recipe_.recorder.Stack().StepForward(), false);
+    if (!FlushBeforeStep()) return false;
+    parts_.lines.WithdrawRow();
+    return Apply(recipe_.recorder.Stack().StepForward(), false);
 }
 
 void EditReplay::TakeBack(const EditTracker& step) {

@@ -129,7 +129,9 @@ std::vector<std::string> MissingFigures::ReasonsOf(FieldId figure) const {
     }
     const bool needsFinished = figure == FieldId::ABV || figure == FieldId::FG;
     if (needsFinished && IsBlank(record_.txtFG.Text()) && !IsBlank(record_.txtOG.Text()))
-        reasons.emplace_back("The finished gravity is missing: enter it, or pitch a yeast");
+        reasons.emplace_back(PitchingRow(record_.gridLog)
+                                 ? "The finished gravity is missing: enter it, or choose the yeast again"
+                                 : "The finished gravity is missing: enter it, or choose a yeast");
     return reasons;
 }
 

@@ -13,6 +13,7 @@
 #include "document/EditReplay.h"
 #include "document/MissingFigures.h"
 #include "document/OpenRecipe.h"
+#include "document/PitchedYeast.h"
 #include "document/RecipeCells.h"
 #include "document/RecipeFields.h"
 #include "document/RecipeFocus.h"
@@ -53,6 +54,7 @@ class RecipeDocument {
     void SetFolderID(std::int64_t id) { recipe_.place.folderId = id; }
     std::int64_t StyleID() const { return style_.Id(); }
     bool Changed() const { return recipe_.Changed(); }
+    const RecipeCalculator& Calculator() const { return recipe_.calculator; }
     // Returns the window's caption: the trimmed name, else "Untitled {number}", or "Untitled" without
     // a number.
     std::string Caption() const;
@@ -69,6 +71,7 @@ class RecipeDocument {
     RecipeStyle& Style() { return style_; }
     const RecipeStyle& Style() const { return style_; }
     const MissingFigures& Missing() const { return missing_; }
+    const PitchedYeast& Yeast() const { return yeast_; }
     CataloguePicks& Picks() { return picks_; }
     const CataloguePicks& Picks() const { return picks_; }
     EditCommands& Edit() { return edit_; }
@@ -92,6 +95,7 @@ class RecipeDocument {
     RecipeLines lines_;
     RecipeStyle style_;
     MissingFigures missing_;
+    PitchedYeast yeast_;
     CataloguePicks picks_;
     EditCommands edit_;
     EditReplay replay_;

@@ -25,6 +25,10 @@ std::vector<int> InverseOf(const std::vector<int>& order) {
     return inverse;
 }
 
+EditRecorder::Edit InsertionOf(const Grid& grid, bool append) {
+    return {ControlType::Grid, ChangeType::InsertRow, {}, grid.CurrentRow(), append ? 1 : 0};
+}
+
 }  // namespace
 
 void RecipeLines::InsertRow() {
@@ -50,11 +54,14 @@ void RecipeLines::AddBlankRow(Grid& grid, int row) {
 }
 
 void RecipeLines::InsertRowForGrid(Grid& grid) {
+    InsertRowForGrid(grid, recipe_.host.AppendRows());
+}
+
+void RecipeLines::InsertRowForGrid(Grid& grid, bool append) {
     if (!grid.RowsCanChange()) return;
-    const bool append = recipe_.host.AppendRows();
-    recipe_.recorder.RecordEdit(
-        grid.Name(), EditValue::OfBoolean(false), EditValue::OfBoolean(true),
-        {ControlType::Grid, ChangeType::InsertRow, {}, grid.CurrentRow(), append ? 1 : 0});
+    if (Offered() == &grid) return KeepOffered();
+    recipe_.recorder.RecordEdit(grid.Name(), EditValue::OfBoolean(false), EditValue::OfBoolean(true),
+                                InsertionOf(grid, append));
     const int row =
         append ? grid.EndOfData() : std::clamp(grid.CurrentRow(), Grid::FixedRows(), grid.EndOfData());
     AddBlankRow(grid, row);
@@ -63,8 +70,47 @@ void RecipeLines::InsertRowForGrid(Grid& grid) {
     focus_.RefreshRowCommands();
 }
 
+bool RecipeLines::OfferRow(Grid& grid) {
+    const int last = grid.EndOfData() - 1;
+    if (!focus_.CanInsertRow(grid) || (grid.IsDataRow(last) && IsBlankRow(grid, last))) return false;
+    WithdrawRow();
+    recipe_.recorder.Await(grid.Name(), EditValue::OfBoolean(false), EditValue::OfBoolean(true),
+                           InsertionOf(grid, true));
+    offered_ = &grid;
+    AddBlankRow(grid, grid.EndOfData());
+    grid.SetCurrent(grid.EndOfData() - 1, 0);
+    focus_.RefreshRowCommands();
+    return true;
+}
+
+// Inserts the row that is offered already.
+void RecipeLines::KeepOffered() {
+    recipe_.recorder.RecordAwaited();
+    recipe_.MarkChanged();
+}
+
+void RecipeLines::WithdrawRow() {
+    Grid* const grid = Offered();
+    if (!grid) return;
+    recipe_.recorder.ForgetAwaited();
+    const int row = grid->EndOfData() - 1;
+    // The row above it becomes the current one, not the totals.
+    if (grid->CurrentRow() == row) grid->SetCurrent(row - 1, grid->CurrentCol());
+    grid->RemoveRow(row);
+    focus_.RefreshRowCommands();
+}
+
+OfferPause::OfferPause(RecipeLines& lines) : lines_(lines), offered_(lines.Offered()) {
+    lines_.WithdrawRow();
+}
+
+OfferPause::~OfferPause() {
+    if (offered_) lines_.OfferRow(*offered_);
+}
+
 void RecipeLines::DeleteRowForGrid(Grid& grid) {
     const int row = grid.CurrentRow();
+    if (Offered() == &grid && row == grid.EndOfData() - 1) return WithdrawRow();
     if (!grid.RowsCanChange() || !grid.IsDataRow(row) || grid.DataRows() <= grid.LeastDataRows()) return;
     OneStep step(recipe_, ChangeType::DeleteRow);
     ClearCells(grid, row);

@@ -21,6 +21,16 @@ class RecipeLines {
     // Inserts a blank row at the current row, or after the last data row if the settings say so. Does nothing
     // in a grid with a fixed number of rows.
     void InsertRowForGrid(Grid& grid);
+    // Adds a blank row after the last data row, whatever the settings say.
+    void AppendRow(Grid& grid) { InsertRowForGrid(grid, true); }
+    // Offers the brewer a blank row after the last data row, which becomes the current one. It counts as an
+    // edit, and can be undone, only once something is entered into it; until then WithdrawRow takes it back.
+    // False, with nothing changed, if the grid takes no rows now or its last row is blank.
+    bool OfferRow(Grid& grid);
+    // Removes a row that was offered and into which nothing has been entered. Does nothing without one.
+    void WithdrawRow();
+    // Returns the grid whose last data row was offered, while nothing has been entered into it; else nullptr.
+    Grid* Offered() const { return recipe_.recorder.Awaits() ? offered_ : nullptr; }
     // Deletes the current row. Does nothing if it is not a data row, or if the grid must keep it.
     void DeleteRowForGrid(Grid& grid);
     // Inserts a row with the defaults of a new one: in gridHops the form and the sock from the settings;
@@ -41,6 +51,8 @@ class RecipeLines {
     void PutBackOrder(Grid& grid, const std::vector<int>& order, int col);
 
   private:
+    void InsertRowForGrid(Grid& grid, bool append);
+    void KeepOffered();
     void RemoveRow(Grid& grid, int row);
     void ClearCells(Grid& grid, int row);
     std::vector<int> SortedOrder(const Grid& grid, int col) const;
@@ -48,8 +60,23 @@ class RecipeLines {
     OpenRecipe& recipe_;
     RecipeFocus& focus_;
     RecipeCells& cells_;
+    Grid* offered_ = nullptr;  // the grid whose last row was offered, while the recorder awaits an edit
     int sortColumn_ = -1;
     bool sortDescending_ = false;
+};
+
+// Withdraws an offered row during a scope that must not see it, such as a save, and offers it again
+// afterwards.
+class OfferPause {
+  public:
+    explicit OfferPause(RecipeLines& lines);
+    ~OfferPause();
+    OfferPause(const OfferPause&) = delete;
+    OfferPause& operator=(const OfferPause&) = delete;
+
+  private:
+    RecipeLines& lines_;
+    Grid* offered_;
 };
 
 }  // namespace tw

@@ -51,6 +51,8 @@ bool RecipeStorage::Save(SaveAs way, Asking asking) {
     const bool sameName = SameName(name, place.origName);
     const bool replacesOther = !sameName && RecipeExists(recipe_.database, name);
     if ((replacesOther || (saveAs && sameName)) && asking == Asking::Aloud && !AskOverwrite()) return false;
+    // A row that is still to be typed is not part of the recipe.
+    const OfferPause pause(lines_);
     UnitOfWork unit(recipe_.database);
     if (replacesOther) recipe_.host.DeleteRecipe(name);
     // Save As with another name makes a copy and leaves the old recipe as it is; a plain save with an edited

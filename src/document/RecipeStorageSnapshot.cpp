@@ -63,6 +63,8 @@ RecipeSnapshot RecipeStorage::TakeSnapshot() const {
     for (const Grid* grid : recipe_.record.Grids()) {
         s.grids.push_back({grid->Name(), {}});
         for (int row = Grid::FixedRows(); row < grid->Rows(); ++row) {
+            // A row that is still to be typed is not part of the recipe.
+            if (grid == lines_.Offered() && row == grid->EndOfData() - 1) continue;
             s.grids.back().rows.push_back(grid->CellsOf(row));
             // Not part of a snapshot: Restore determines it again.
             for (Cell& cell : s.grids.back().rows.back()) cell.ownNumber = false;

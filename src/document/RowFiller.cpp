@@ -25,7 +25,13 @@ void PutFigure(Grid& grid, int row, int col, std::optional<double> number) {
 }  // namespace
 
 bool PitchesYeast(const Grid& log, int row) {
-    return SameName(log.Text(row, LogCol::Action), "PITCHED YEAST");
+    return SameName(log.Text(row, LogCol::Action), kPitchedYeast);
+}
+
+std::optional<int> PitchingRow(const Grid& log) {
+    for (int row = log.EndOfData() - 1; row >= Grid::FixedRows(); --row)
+        if (PitchesYeast(log, row)) return row;
+    return std::nullopt;
 }
 
 std::string_view PitchedYeastName(std::string_view notes) {

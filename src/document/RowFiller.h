@@ -9,6 +9,9 @@
 
 namespace tw {
 
+// The action of the brew log whose notes name the yeast.
+inline constexpr std::string_view kPitchedYeast = "Pitched Yeast";
+
 // What a commit has changed besides its own cell.
 struct FillEffects {
     bool rowFilled = false;  // other cells of the row have been filled or emptied
@@ -41,6 +44,8 @@ class RowFiller {
 
 // True if that row of the brew log pitches a yeast, so that its notes begin with a yeast's name.
 bool PitchesYeast(const Grid& log, int row);
+// Returns the last row that pitches a yeast; nullopt if no row does.
+std::optional<int> PitchingRow(const Grid& log);
 // Returns the name at the beginning of such notes, before " - " and the yeast's description; trimmed.
 std::string_view PitchedYeastName(std::string_view notes);
 

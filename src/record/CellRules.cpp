@@ -11,29 +11,37 @@ using enum CellTakes;
 using Stored = CellStored;
 using Names = CellNames;
 
+// Returns the rule of a column at which Tab stops as told.
+constexpr CellRule Stopping(CellStop stop, CellRule rule) {
+    rule.stop = stop;
+    return rule;
+}
+
 constexpr CellRule Figure(std::string_view header, std::string_view pattern) {
     return {header, Computed, {}, Stored::No, Names::None, {}, pattern};
 }
 
 // The columns of the two fermentable grids, which differ in the heading and in the list of names.
 constexpr std::array<CellRule, 6> Fermentables(std::string_view heading, Names names) {
-    return {{{heading, AnyText, "NAME", Stored::Text, names},
-             {"Amount (lbs)", Pounds, "AMOUNT", Stored::Quantity},
-             {"PPG", PlainNumber, "PPG", Stored::Quantity, Names::None, "PPG"},
-             Figure("Points", "#.0"),
-             {"Color (°L)", PlainNumber, "COLOR", Stored::Quantity, Names::None, "Color"},
-             Figure("HCU", "#.0")}};
+    return {
+        {{heading, AnyText, "NAME", Stored::Text, names},
+         {"Amount (lbs)", Pounds, "AMOUNT", Stored::Quantity},
+         Stopping(CellStop::WhileBlank, {"PPG", PlainNumber, "PPG", Stored::Quantity, Names::None, "PPG"}),
+         Figure("Points", "#.0"),
+         Stopping(CellStop::WhileBlank,
+                  {"Color (°L)", PlainNumber, "COLOR", Stored::Quantity, Names::None, "Color"}),
+         Figure("HCU", "#.0")}};
 }
 constexpr auto kGrain = Fermentables("Grain", Names::Grains);
 constexpr auto kExtract = Fermentables("Extract", Names::Extracts);
 
 constexpr CellRule kHops[] = {
     {"Hop Variety", AnyText, "NAME", Stored::Text, Names::Hops},
-    {"AA%", Percent, "AA", Stored::Quantity},
-    {"Hop Form", HopForm, "HOP_FORM", Stored::Form, Names::HopForms},
-    {"Hop Socks?", YesNo, "HOP_SOCK", Stored::Flag},
+    Stopping(CellStop::Never, {"AA%", Percent, "AA", Stored::Quantity}),
+    Stopping(CellStop::Never, {"Hop Form", HopForm, "HOP_FORM", Stored::Form, Names::HopForms}),
+    Stopping(CellStop::Never, {"Hop Socks?", YesNo, "HOP_SOCK", Stored::Flag}),
     {"Amount (oz)", HopAmount, "AMOUNT", Stored::Quantity},
-    {"Dry Hopped?", YesNo, "DRY", Stored::Flag},
+    Stopping(CellStop::Never, {"Dry Hopped?", YesNo, "DRY", Stored::Flag}),
     {"Time (min)", Minutes, "DURATION", Stored::Quantity},
     Figure("IBU", "#.0"),
 };
@@ -63,7 +71,7 @@ constexpr auto kTreatment =
 
 constexpr CellRule kPriming[] = {
     {"Priming Sugar", AnyText, "NAME", Stored::Text, Names::Sugars},
-    {"Fermentable%", Percent, "FERMENT", Stored::Quantity},
+    Stopping(CellStop::WhileBlank, {"Fermentable%", Percent, "FERMENT", Stored::Quantity}),
     {"Amount (oz)", Ounces, "AMOUNT", Stored::Quantity},
     Figure("CO2 Volumes", "#.00"),
 };
@@ -200,6 +208,18 @@ std::span<const GridRule> GridRules() {
 
 const GridRule& RuleOf(GridId id) {
     return kGridRules[static_cast<std::size_t>(id)];
+}
+
+bool IsTabStop(const Grid& grid, int row, int col) {
+    if (!grid.IsDataRow(row) || grid.IsReadOnly(row, col)) return false;
+    const CellStop stop = RuleOf(grid, col).stop;
+    return stop == CellStop::Always || (stop == CellStop::WhileBlank && grid.Empty(row, col));
+}
+
+bool IsBlankRow(const Grid& grid, int row) {
+    for (int col = 0; col < grid.Cols(); ++col)
+        if (!grid.Empty(row, col) && RuleOf(grid, col).takes != CellTakes::HopForm) return false;
+    return true;
 }
 
 }  // namespace tw

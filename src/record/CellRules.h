@@ -78,6 +78,13 @@ enum class CellStored : std::uint8_t {
     Flag
 };
 
+// When Tab stops at a column. Shift+Tab and the cursor keys reach every cell.
+enum class CellStop : std::uint8_t {
+    Always,
+    WhileBlank,  // the catalogue usually fills the cell
+    Never        // the catalogue or the settings fill the cell
+};
+
 struct CellRule {
     std::string_view header;
     CellTakes takes = CellTakes::AnyText;
@@ -86,6 +93,7 @@ struct CellRule {
     CellNames names = CellNames::None;
     std::string_view numberWord = {};  // for a PlainNumber: the word for the number in messages
     std::string_view pattern = {};     // for a Computed number: the format in which it is shown
+    CellStop stop = CellStop::Always;
 
     // True if the cells contain words, which are aligned left; numbers are aligned right.
     bool HoldsWords() const {
@@ -137,5 +145,10 @@ inline const GridRule& RuleOf(const Grid& grid) {
 inline const CellRule& RuleOf(const Grid& grid, int col) {
     return RuleOf(grid.Id()).columns[static_cast<std::size_t>(col)];
 }
+
+// True if Tab stops at the cell. REQUIRES: grid.HasCell(row, col).
+bool IsTabStop(const Grid& grid, int row, int col);
+// True if all cells of a row are empty; the form of a hop does not count as text.
+bool IsBlankRow(const Grid& grid, int row);
 
 }  // namespace tw

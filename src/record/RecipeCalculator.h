@@ -60,6 +60,9 @@ class RecipeCalculator {
     void CalcHCU(Grid& grid, int row, bool skipTotal);
     void CalcHopIBU(Grid& grid, int row, bool skipTotal);
     void CalcPrimingVolumes(int row, bool skipTotal);
+    // Returns the weight in ounces of the hops in a row of gridHops, whether they were entered by weight, as
+    // AAUs or as IBUs; nullopt if it is unknown, or the hops give no bitterness from which to calculate it.
+    std::optional<double> HopOunces(int row) const;
     void UpdateTreatmentRow(int row, bool skipTotals);
 
     // Column totals: the sum over all data rows whose cell is not empty; empty if there is no such row.
@@ -115,6 +118,7 @@ class RecipeCalculator {
   private:
     void RefreshCarbonationCommand() { commands_.EnableChangeCarbonation(CanEnableCO2()); }
     void TotalColumn(Grid& grid, int col);
+    double HopRowBitterness(int row, double alphaAcidOunces) const;
     void ShowHopTotal();
     void MarkTreatmentTotal(int col);
 

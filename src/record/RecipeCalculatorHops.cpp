@@ -36,13 +36,35 @@ void RecipeCalculator::CalcHopIBU(Grid& grid, int row, bool skipTotal) {
     } else {
         const double alphaAcid =
             isAau ? amount.number / 100 : amount.number * grid.Number(row, HopCol::AlphaAcid) / 100;
-        grid.SetComputed(
-            row, HopCol::Ibu,
-            HopBitterness(static_cast<IbuMethod>(r_.grpIBUMethod.Selected()),
-                          {alphaAcid, FormFactor(grid, row), grid.Number(row, HopCol::Time)},
-                          {r_.txtBG.Value(), r_.txtTotalVol.Value(), r_.txtHopExtraction.Value()}));
+        grid.SetComputed(row, HopCol::Ibu, HopRowBitterness(row, alphaAcid));
     }
     if (!skipTotal) TotalIBU(grid);
+}
+
+// Returns the IBUs that a weight of alpha acid would give as the hops of that row.
+double RecipeCalculator::HopRowBitterness(int row, double alphaAcidOunces) const {
+    const Grid& hops = r_.gridHops;
+    return HopBitterness(static_cast<IbuMethod>(r_.grpIBUMethod.Selected()),
+                         {alphaAcidOunces, FormFactor(hops, row), hops.Number(row, HopCol::Time)},
+                         {r_.txtBG.Value(), r_.txtTotalVol.Value(), r_.txtHopExtraction.Value()});
+}
+
+std::optional<double> RecipeCalculator::HopOunces(int row) const {
+    const Grid& hops = r_.gridHops;
+    const CellValue amount = hops.At(row, HopCol::Amount).value;
+    if (amount.kind == CellValue::Kind::Number) return amount.number;
+    const double alphaAcid = hops.Number(row, HopCol::AlphaAcid);
+    if (amount.kind == CellValue::Kind::None || alphaAcid <= 0) return std::nullopt;
+    if (amount.kind == CellValue::Kind::AlphaAcidUnits) return amount.number / alphaAcid;
+    const bool unknown = hops.Checked(row, HopCol::DryHopped) || hops.Empty(row, HopCol::Time) ||
+                         r_.txtBG.Empty() || r_.txtTotalVol.Empty();
+    if (unknown) return std::nullopt;
+    try {
+        const double perOunce = HopRowBitterness(row, alphaAcid / 100);
+        return perOunce > 0 ? std::optional(amount.number / perOunce) : std::nullopt;
+    } catch (const Error&) {
+        return std::nullopt;
+    }
 }
 
 void RecipeCalculator::TotalIBU(Grid& grid) {

@@ -25,6 +25,7 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     bool appendRows = false;
     bool copyHeaders = false, pasteMismatchSize = false, askBefore = true;
     int lpMaxIter = 1000;
+    std::string picks;                       // what the brewer chooses from a catalogue; empty to cancel
     const RecipeDocument* active = nullptr;  // the active document
     std::vector<RecipeDocument*> documents;  // those that receive the notices
 
@@ -57,8 +58,9 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
         io_.AddRecipeNodesByName(name);
     }
     void AddToMRU(std::string_view name) override { log.emplace_back("AddToMRU " + std::string(name)); }
-    void PickFromCatalogue(RecipeDocument&, CatalogueKind list, const std::string& name) override {
+    void PickFromCatalogue(RecipeDocument& document, CatalogueKind list, const std::string& name) override {
         log.emplace_back("Pick " + std::to_string(static_cast<int>(list)) + " '" + name + "'");
+        if (!picks.empty()) document.Picks().Take(list, picks);
     }
     void DocumentRenamed(const RecipeDocument& document) override {
         log.emplace_back("DocumentRenamed " + document.Caption());

@@ -7,6 +7,7 @@
 
 #include "document/ui/DocumentBinding.h"
 #include "document/ui/GridModel.h"
+#include "record/CellRules.h"
 
 namespace tw {
 
@@ -94,7 +95,8 @@ bool GridCursor::MoveThroughTotals(const QKeyEvent& key) {
 }
 
 bool GridCursor::Step(int direction) {
-    const int cols = model_.columnCount();
+    if (!grid_) return false;
+    const int cols = grid_->Cols();
     if (!InTotals())
         return StepFrom(view_.currentIndex().row() * cols + view_.currentIndex().column(), direction);
     // Totals cannot be edited: steps through all of their cells, and back into the data rows.
@@ -107,14 +109,22 @@ bool GridCursor::Step(int direction) {
 }
 
 bool GridCursor::StepFrom(int place, int direction) {
-    const int cols = model_.columnCount(), cells = model_.rowCount() * cols;
+    const int cols = grid_->Cols(), cells = model_.rowCount() * cols;
     for (place += direction; place >= 0 && place < cells; place += direction) {
         const QModelIndex cell = model_.index(place / cols, place % cols);
         if (!model_.CanEdit(cell)) continue;
+        if (direction > 0 && !IsTabStop(*grid_, model_.GridRow(cell.row()), cell.column())) continue;
         view_.setCurrentIndex(cell);
         return true;
     }
     return false;
+}
+
+bool GridCursor::IsAtEnd() const {
+    if (!grid_ || grid_->CurrentRow() != grid_->EndOfData() - 1) return false;
+    for (int col = grid_->CurrentCol() + 1; col < grid_->Cols(); ++col)
+        if (IsTabStop(*grid_, grid_->CurrentRow(), col)) return false;
+    return true;
 }
 
 void GridCursor::StepDown() {

@@ -31,9 +31,11 @@ class GridCursor {
     // Handles the cursor keys within the totals and across the border between them and the data rows. Returns
     // false for any other key.
     bool MoveThroughTotals(const QKeyEvent& key);
-    // Moves to the next (+1) or previous (-1) cell that can be edited or, within the totals, to the adjacent
-    // total. Returns false if there is none.
+    // Moves to the next cell at which Tab stops (+1), or to the previous cell that can be edited (-1); within
+    // the totals, to the adjacent total. Returns false if there is none.
     bool Step(int direction);
+    // True if the current cell is in the last data row, and Tab stops at no cell behind it.
+    bool IsAtEnd() const;
     // Moves to the cell below.
     void StepDown();
 

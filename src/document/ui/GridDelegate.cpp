@@ -31,6 +31,24 @@ void PaintSumLine(QPainter& painter, const QRect& cell, const QColor& ink) {
     painter.drawLine(cell.topLeft(), cell.topRight());
 }
 
+// Returns the width in pixels of the quiet text behind that of a cell, and of the gap before it; 0 without
+// one.
+int AsideWidth(const QFontMetrics& metrics, const QString& aside) {
+    return aside.isEmpty() ? 0 : metrics.horizontalAdvance(aside) + metrics.averageCharWidth();
+}
+
+// Paints that text at the right end of a place, and returns its width.
+int PaintAside(QPainter& painter, const QRect& place, const QStyleOptionViewItem& option,
+               const QModelIndex& index) {
+    const QString aside = index.data(GridModel::kAsideRole).toString();
+    if (aside.isEmpty()) return 0;
+    const QColor ink = painter.pen().color();
+    painter.setPen(HintColor(option.palette));
+    painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, aside);
+    painter.setPen(ink);
+    return AsideWidth(option.fontMetrics, aside);
+}
+
 // Paints the frame of the current cell: thick while the grid has the focus, thin otherwise.
 void PaintCurrentFrame(QPainter& painter, const QStyleOptionViewItem& option, bool focused) {
     const int width = focused ? 2 : 1;
@@ -74,6 +92,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& plain,
         QRect place = option.rect.adjusted(padding, 0, -padding, 0);
         if (!index.data(GridModel::kGapRole).toString().isEmpty())
             place.adjust(0, 0, -PaintGapMark(*painter, place, option.palette), 0);
+        place.adjust(0, 0, -PaintAside(*painter, place, option, index), 0);
         const QString text = option.fontMetrics.elidedText(option.text, Qt::ElideRight, place.width());
         painter->drawText(place, static_cast<int>(option.displayAlignment) | Qt::TextSingleLine, text);
     }
@@ -92,7 +111,8 @@ QSize GridDelegate::sizeHint(const QStyleOptionViewItem& plain, const QModelInde
     initStyleOption(&option, index);
     const bool marked = !index.data(GridModel::kGapRole).toString().isEmpty();
     return {option.fontMetrics.horizontalAdvance(option.text) + 2 * CellPadding(body_) + 2 +
-                (marked ? GapMarkWidth(option.fontMetrics) : 0),
+                (marked ? GapMarkWidth(option.fontMetrics) : 0) +
+                AsideWidth(option.fontMetrics, index.data(GridModel::kAsideRole).toString()),
             cells_.RowHeight()};
 }
 

@@ -3,8 +3,11 @@
 #include <QBrush>
 #include <QFont>
 #include <QWidget>
+#include <algorithm>
 
+#include "document/GridAsides.h"
 #include "platform/Error.h"
+#include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
 #include "record/CellRules.h"
 
@@ -14,6 +17,20 @@ namespace {
 // True for the ion cells of "Treatment Needed" and "Treatment Totals".
 bool IsItalic(const Grid& grid, int row, int col) {
     return grid.Id() == GridId::Water && row >= WaterRow::Needed && col >= WaterCol::FirstIon;
+}
+
+QVariant SharesHeader(int role) {
+    switch (role) {
+        case Qt::DisplayRole:
+            return QStringLiteral("%");
+        case Qt::TextAlignmentRole:
+            return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
+        case Qt::ToolTipRole:
+        case Qt::AccessibleTextRole:
+            return GridModel::tr("Share of the weight of all malts, grains, extracts and sugars");
+        default:
+            return {};
+    }
 }
 
 // Returns the colour as the value of a role; an invalid variant for an invalid colour.
@@ -44,7 +61,12 @@ int GridModel::rowCount(const QModelIndex& parent) const {
 }
 
 int GridModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() || !grid_ ? 0 : grid_->Cols();
+    if (parent.isValid() || !grid_) return 0;
+    return grid_->Cols() + (ShowsShares(*grid_) ? 1 : 0);
+}
+
+bool GridModel::IsShares(int col) const {
+    return grid_ && col == grid_->Cols();
 }
 
 int GridModel::ModelRow(int gridRow) const {
@@ -53,7 +75,8 @@ int GridModel::ModelRow(int gridRow) const {
 }
 
 bool GridModel::IsCheckBox(const QModelIndex& index) const {
-    return grid_ && index.isValid() && grid_->IsCheckBox(GridRow(index.row()), index.column());
+    return grid_ && index.isValid() && !IsShares(index.column()) &&
+           grid_->IsCheckBox(GridRow(index.row()), index.column());
 }
 
 bool GridModel::CanEdit(const QModelIndex& index) const {
@@ -74,7 +97,9 @@ bool GridModel::HasCatalogue(const QModelIndex& index) const {
 }
 
 bool GridModel::IsTotal(const QModelIndex& index) const {
-    return grid_ && index.isValid() && grid_->Paint(GridRow(index.row()), index.column()) == CellPaint::Total;
+    if (!grid_ || !index.isValid()) return false;
+    const int col = std::min(index.column(), grid_->Cols() - 1);
+    return grid_->Paint(GridRow(index.row()), col) == CellPaint::Total;
 }
 
 CellColors GridModel::ColorsOf(int row, int col) const {
@@ -105,6 +130,7 @@ QString GridModel::Spoken(int row, int col) const {
     QString value = ToQt(grid_->Shown(row, col));
     if (grid_->IsCheckBox(row, col)) value = grid_->Checked(row, col) ? tr("yes") : tr("no");
     if (value.isEmpty()) value = tr("empty");
+    if (const QString aside = AsideOf(row, col); !aside.isEmpty()) value += QLatin1Char(' ') + aside;
     return tr("Row %1, %2: %3").arg(row).arg(ToQt(grid_->ColumnAt(col).header), value);
 }
 
@@ -125,9 +151,35 @@ QVariant GridModel::TipOf(const QModelIndex& index) const {
     return gap.isEmpty() ? tip : gap + QLatin1Char('\n') + tip;
 }
 
+QVariant GridModel::ShareOf(int row, int role) const {
+    const RecipeDocument* document = binding_.Document();
+    const bool isTotal = part_ == Part::Totals;
+    const QString share = document ? ToQt(ShareText(document->Record(), *grid_, row)) : QString();
+    switch (role) {
+        case Qt::DisplayRole:
+            return share;
+        case Qt::TextAlignmentRole:
+            return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
+        case Qt::BackgroundRole:
+            return isTotal ? BrushOf(ColorsOf(row, grid_->Cols() - 1).ground) : QVariant();
+        case Qt::ForegroundRole:
+            return BrushOf(HintColor(view_.palette()));
+        case Qt::AccessibleTextRole:
+            return tr("Row %1, share of the weight: %2").arg(row).arg(share.isEmpty() ? tr("none") : share);
+        default:
+            return {};
+    }
+}
+
+QString GridModel::AsideOf(int row, int col) const {
+    const RecipeDocument* document = binding_.Document();
+    return document ? ToQt(HopWeightText(document->Calculator(), *grid_, row, col)) : QString();
+}
+
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!grid_ || !index.isValid()) return {};
     const int row = GridRow(index.row()), col = index.column();
+    if (IsShares(col)) return ShareOf(row, role);
     if (!grid_->HasCell(row, col)) return {};
     switch (role) {
         case Qt::DisplayRole:
@@ -150,6 +202,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         case Qt::AccessibleDescriptionRole:
         case kGapRole:
             return GapOf(index);
+        case kAsideRole:
+            return AsideOf(row, col);
         case Qt::ToolTipRole:
             return TipOf(index);
         default:
@@ -158,27 +212,27 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (!grid_ || orientation != Qt::Horizontal || section < 0 || section >= grid_->Cols()) return {};
+    if (!grid_ || orientation != Qt::Horizontal || section < 0 || section >= columnCount()) return {};
+    if (IsShares(section)) return SharesHeader(role);
     if (role == Qt::DisplayRole) return ToQt(grid_->ColumnAt(section).header);
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AlignmentOf(*grid_, section));
     return {};
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
+    // The cursor keys and the mouse pass it over.
+    if (IsShares(index.column())) return Qt::NoItemFlags;
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
     if (CanEdit(index)) flags |= IsCheckBox(index) ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
     return flags;
 }
 
-void GridModel::CellChanged(int gridRow, int col) {
+void GridModel::CellChanged(int gridRow) {
     const int row = ModelRow(gridRow);
     if (row < 0) return;
-    const QModelIndex cell = index(row, col);
-    emit dataChanged(cell, cell);
-    // Whether the row lacks something depends on its other cells.
-    for (int other = 0; other < grid_->Cols(); ++other)
-        if (other != col && RuleOf(*grid_, other).names != CellNames::None)
-            emit dataChanged(index(row, other), index(row, other));
+    // What other cells of the row show beside their texts may depend on this one.
+    emit dataChanged(index(row, 0), index(row, grid_->Cols() - 1));
+    SharesChanged();
 }
 
 void GridModel::RowInserted(int gridRow) {
@@ -195,10 +249,16 @@ void GridModel::RowRemoved(int gridRow) {
     beginRemoveRows({}, row, row);
     --rows_;
     endRemoveRows();
+    SharesChanged();
+}
+
+void GridModel::SharesChanged() {
+    if (grid_ && ShowsShares(*grid_) && rows_ > 0)
+        emit dataChanged(index(0, grid_->Cols()), index(rows_ - 1, grid_->Cols()));
 }
 
 void GridModel::AllChanged() {
-    if (grid_ && rows_ > 0) emit dataChanged(index(0, 0), index(rows_ - 1, grid_->Cols() - 1));
+    if (grid_ && rows_ > 0) emit dataChanged(index(0, 0), index(rows_ - 1, columnCount() - 1));
 }
 
 void GridModel::Detach() {

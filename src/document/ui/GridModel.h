@@ -15,6 +15,8 @@ class GridModel final : public QAbstractTableModel {
     // The role of the reason why a row gives nothing to the figures, in the cell with its name: a QString, or
     // nothing.
     static constexpr int kGapRole = Qt::UserRole;
+    // The role of a quiet text behind that of a cell, such as the weight behind an amount in IBUs: a QString.
+    static constexpr int kAsideRole = Qt::UserRole + 1;
 
     // view shows the rows and owns the model; the colours are derived from its palette. binding and grid must
     // outlive the model, unless Detach is called first.
@@ -32,6 +34,8 @@ class GridModel final : public QAbstractTableModel {
     int ModelRow(int gridRow) const;
     bool IsCheckBox(const QModelIndex& index) const;
     bool CanEdit(const QModelIndex& index) const;
+    // True for the column behind those of the grid, which shows the shares of the rows (GridAsides.h).
+    bool IsShares(int col) const;
     // True if the cell is painted as a total.
     bool IsTotal(const QModelIndex& index) const;
     // True if the cell's name can be chosen from a catalogue.
@@ -40,7 +44,7 @@ class GridModel final : public QAbstractTableModel {
     static Qt::Alignment AlignmentOf(const Grid& grid, int col);
 
     // Call these after the grid has changed.
-    void CellChanged(int gridRow, int col);
+    void CellChanged(int gridRow);
     void RowInserted(int gridRow);
     void RowRemoved(int gridRow);
     // Everything but the row count may have changed, including the colours.
@@ -55,6 +59,9 @@ class GridModel final : public QAbstractTableModel {
     CellColors ColorsOf(int row, int col) const;
     QVariant FontOf(int row, int col) const;
     QString Spoken(int row, int col) const;
+    QVariant ShareOf(int row, int role) const;
+    QString AsideOf(int row, int col) const;
+    void SharesChanged();
     QString GapOf(const QModelIndex& index) const;
     QVariant TipOf(const QModelIndex& index) const;
 

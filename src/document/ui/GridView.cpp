@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QAction>
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QScrollBar>
@@ -134,8 +135,8 @@ void GridView::ShowCell(int row, int col) {
         stale_ = true;
         return;
     }
-    model_->CellChanged(row, col);
-    if (totals_) totalsModel_->CellChanged(row, col);
+    model_->CellChanged(row);
+    if (totals_) totalsModel_->CellChanged(row);
     if (!widthsChosen_ && WantsMoreRoom(row, col)) FitGridColumns();
     emit ContentChanged();
 }
@@ -151,8 +152,11 @@ void GridView::ShowHeldChanges() {
 bool GridView::WantsMoreRoom(int row, int col) const {
     if (!grid_ || !isVisible()) return false;
     const int modelRow = model_->ModelRow(row);
-    const int wanted = modelRow >= 0 ? sizeHintForIndex(model_->index(modelRow, col)).width() : 0;
-    return wanted > columnWidth(col);
+    const auto wants = [&](int each) {
+        return modelRow >= 0 && sizeHintForIndex(model_->index(modelRow, each)).width() > columnWidth(each);
+    };
+    // The weight behind the amount of a hop appears with the last figure that it needs.
+    return wants(col) || (grid_->Id() == GridId::Hops && wants(HopCol::Amount));
 }
 
 void GridView::ShowRowInserted(int row) {
@@ -245,8 +249,7 @@ void GridView::FitGridColumns() {
 bool GridView::IsBlankGrid() const {
     if (!grid_) return false;
     for (int row = Grid::FixedRows(); row < grid_->EndOfData(); ++row)
-        for (int col = 0; col < grid_->Cols(); ++col)
-            if (!grid_->Empty(row, col) && RuleOf(*grid_, col).takes != CellTakes::HopForm) return false;
+        if (!IsBlankRow(*grid_, row)) return false;
     return true;
 }
 
@@ -321,7 +324,7 @@ void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint h
     if (hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem)
         focusNextPrevChild(hint == QAbstractItemDelegate::EditNextItem);
     else if (hint == QAbstractItemDelegate::SubmitModelCache)
-        cursor_.StepDown();
+        StepDown();
 }
 
 // The editor of a refused entry stays open, with its text selected.
@@ -342,6 +345,7 @@ void GridView::KeepEditor() {
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
     if (!following_) TellSelection();
+    WithdrawSoon();
 }
 
 void GridView::TellSelection() {
@@ -375,6 +379,8 @@ void GridView::BrowseCatalogue() {
 
 void GridView::SortBy(int col) {
     if (!grid_ || !grid_->RowsCanChange() || col < 0) return;
+    // The shares have the order of the amounts.
+    if (model_->IsShares(col)) col = GrainCol::Amount;
     sorting_ = true;
     binding_.Run([&](RecipeDocument& document) { document.Lines().ClickHeader(*grid_, col); });
     sorting_ = false;
@@ -404,6 +410,35 @@ void GridView::focusInEvent(QFocusEvent* event) {
 void GridView::focusOutEvent(QFocusEvent* event) {
     QTableView::focusOutEvent(event);
     ShowFocus();
+    WithdrawSoon();
+}
+
+bool GridView::Grow() {
+    bool grown = false;
+    if (grid_ && !cursor_.InTotals())
+        binding_.Run([&](RecipeDocument& document) { grown = document.Lines().OfferRow(*grid_); });
+    return grown;
+}
+
+void GridView::StepDown() {
+    if (!cursor_.IsAtEnd() || !Grow()) cursor_.StepDown();
+}
+
+// Later, because rows must not go while Qt changes the current cell or the focus.
+void GridView::WithdrawSoon() {
+    const RecipeDocument* const document = binding_.Document();
+    if (!document || document->Lines().Offered() != grid_ || !grid_) return;
+    const auto withdraw = [this] {
+        const RecipeDocument* const recipe = binding_.Document();
+        if (!recipe || !grid_ || recipe->Lines().Offered() != grid_) return;
+        const QWidget* const focus = QApplication::focusWidget();
+        // A dialog or a menu may be about to fill the row.
+        const bool stays = !focus || focus->window() != window() || focus == this || isAncestorOf(focus) ||
+                           QApplication::activePopupWidget();
+        if (!stays || grid_->CurrentRow() != grid_->EndOfData() - 1)
+            binding_.Run([](RecipeDocument& open) { open.Lines().WithdrawRow(); });
+    };
+    QMetaObject::invokeMethod(this, withdraw, Qt::QueuedConnection);
 }
 
 // Repaints the current cell, whose frame is thicker while the grid has the focus.

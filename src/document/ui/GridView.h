@@ -103,6 +103,12 @@ class GridView final : public QTableView, public GridWidget, private CellHost {
     void Toggle(const QModelIndex& cell);
     void BrowseCatalogue();
     void SortBy(int col);
+    // Adds a row below the last one for typing, and moves to its first cell. False if the grid takes none.
+    bool Grow();
+    // Moves as Enter does: to the cell below, or from the end of the last row to a new one.
+    void StepDown();
+    // Takes back a row added for typing that the brewer has left without typing.
+    void WithdrawSoon();
     // Returns true if the key has been handled.
     bool HandleOwnKey(const QKeyEvent& key);
     void ShowFocus();
