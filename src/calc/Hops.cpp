@@ -86,6 +86,10 @@ double HopBitterness(IbuMethod method, const HopAddition& hop, const HopKettle& 
                   GravityAdjustment(kettle.boilGravity) * kettle.totalVolume);
 }
 
+double BitternessPerGravity(double ibu, double originalSG) {
+    return Divide(ibu, (originalSG - 1) * 1000);
+}
+
 UtilisationFigures UtilisationAt(double boilSG, double minutes) {
     const double adjustment = GravityAdjustment(boilSG);
     return {Finite(Bigness(boilSG) * (1 - std::exp(-0.04 * minutes)) / 4.15 * 100),

@@ -43,6 +43,11 @@ struct HopKettle {
 // total volume of 0, "Overflow" where the result is not finite.
 double HopBitterness(IbuMethod method, const HopAddition& hop, const HopKettle& kettle);
 
+// Returns the balance of bitterness and gravity as Ray Daniels defines it (Designing Great Beers, 1996): IBUs
+// divided by gravity units, (originalSG - 1) * 1000. Most beers lie between 0.2 and 1.2; nothing is limited.
+// Raises "Division by zero" for an original gravity of 1.
+double BitternessPerGravity(double ibu, double originalSG);
+
 // The utilisation by all three methods.
 struct UtilisationFigures {
     double tinseth, rager, garetz;  // percent

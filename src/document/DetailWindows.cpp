@@ -5,6 +5,7 @@
 #include <functional>
 
 #include "calc/Figures.h"
+#include "calc/Hops.h"
 #include "values/Converter.h"
 #include "values/NumberText.h"
 
@@ -115,7 +116,7 @@ DetailsModel HopDetails(double originalSG, double ibu) {
     std::vector<DialogControl> labels{{"lblBU", FormatNumber(ibu, "0.0")},
                                       {"lblGU", FormatNumber(gravityUnits, "0.0")},
                                       {"lblRatio", Show([&] {
-                                           const double ratio = Divide(ibu, gravityUnits);
+                                           const double ratio = BitternessPerGravity(ibu, originalSG);
                                            slider = BalancePosition(ratio);
                                            return FormatNumber(ratio, "0.##0");
                                        })}};

@@ -47,7 +47,7 @@ constexpr FieldRule kFieldRules[] = {
     {FieldId::Extract, "txtExtract", &RecipeRecord::txtExtract, Percent, "E&xtraction Rate (%):",
      "GRAIN_EXTRACT", Stored::Quantity, kTyped, kZeroToo, Run<&Calc::ExtractCommitted>},
     {FieldId::HopExtraction, "txtHopExtraction", &RecipeRecord::txtHopExtraction, Multiplier,
-     "Extraction &Constant:", "HOP_EXTRACT", Stored::Quantity, kTyped, kZeroToo,
+     "E&xtraction Constant:", "HOP_EXTRACT", Stored::Quantity, kTyped, kZeroToo,
      Run<&Calc::HopExtractionCommitted>},
     {FieldId::BG, "txtBG", &RecipeRecord::txtBG, SpecificGravity, "Boil Gravity:", "BG", Stored::Quantity,
      kComputed, kNotZero},

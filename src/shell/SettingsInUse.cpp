@@ -36,12 +36,18 @@ void SettingsInUse::Store(std::string_view section, std::string_view key, std::s
     if (key == "IconStyle") ShowIcons();
     if (key == "ButtonStyle") ShowButtonStyle();
     if (key.starts_with("Grid")) ShowGridColors();
+    if (key == "FigureStrip") view_->FigureStripSwitched();
 }
 
 void SettingsInUse::SetDoAutoSave(bool on) {
     const bool wasOn = values_.doAutoSave;
     values_.doAutoSave = on;
     SwitchAutoSave(wasOn);
+}
+
+void SettingsInUse::SetFigureStrip(bool on) {
+    values_.figureStrip = on;
+    view_->FigureStripSwitched();
 }
 
 void SettingsInUse::SwitchAutoSave(bool wasOn) {

@@ -36,6 +36,8 @@ class SettingsInUse {
     void SetAppendRows(bool append) { bar_.SetChecked(CommandId::EditAppendFlag, append); }
     // Switching autosave on restarts its count of minutes from 0.
     void SetDoAutoSave(bool on);
+    // Shows or hides the strips of figures in the recipe windows.
+    void SetFigureStrip(bool on);
     // Make the windows show the current icon set, button style and, in all documents, grid colours.
     void ShowIcons() { view_->ToolbarIconsChanged(); }
     void ShowButtonStyle() { view_->ToolbarButtonStyleChanged(); }

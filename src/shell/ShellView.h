@@ -28,6 +28,8 @@ class ShellView {
     virtual void ToolbarButtonStyleChanged() {}
     // The grid colours in the settings have changed: the document's grids must be repainted.
     virtual void GridColorsChanged(const RecipeDocument&) {}
+    // The strips of figures in all recipe windows must be shown or hidden, as the settings say.
+    virtual void FigureStripSwitched() {}
     // The autosave timer must be started or stopped.
     virtual void AutoSaveSwitched(bool /*on*/) {}
     // A recipe has edits that are not yet kept: UnsavedWork::Keep must be called within a few seconds.

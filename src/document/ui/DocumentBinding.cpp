@@ -47,6 +47,7 @@ void DocumentBinding::Detach() {
     document_ = nullptr;
     watchers_.clear();
     allWatchers_.clear();
+    swatchWatchers_.clear();
     selectionWatchers_.clear();
     commitActiveField_ = nullptr;
     for (const auto& [grid, view] : grids_) view->Detach();
@@ -171,7 +172,7 @@ void DocumentBinding::Fire(const void* object) {
 }
 
 void DocumentBinding::SwatchChanged(Rgb color) {
-    if (showSwatch_) showSwatch_(color);
+    for (const auto& show : swatchWatchers_) show(color);
 }
 
 void DocumentBinding::FireAll() const {

@@ -42,7 +42,7 @@ class DocumentBinding final : public RecordObserver {
     void WatchAll(std::function<void()> show) { allWatchers_.push_back(std::move(show)); }
     // Calls show when the selection in a text box has changed. At most one callback per text box.
     void WatchSelection(const TextBox& box, std::function<void()> show);
-    void WatchSwatch(std::function<void(Rgb)> show) { showSwatch_ = std::move(show); }
+    void WatchSwatch(std::function<void(Rgb)> show) { swatchWatchers_.push_back(std::move(show)); }
     void AddGrid(const Grid& grid, GridWidget& view) { grids_[&grid] = &view; }
     // Returns nullptr for a grid without a widget.
     GridWidget* ViewOf(const Grid& grid) const;
@@ -111,7 +111,7 @@ class DocumentBinding final : public RecordObserver {
     std::unordered_map<const TextBox*, std::function<void()>> selectionWatchers_;
     std::unordered_map<const Grid*, GridWidget*> grids_;
     int holds_ = 0;
-    std::function<void(Rgb)> showSwatch_;
+    std::vector<std::function<void(Rgb)>> swatchWatchers_;
     QPointer<QWidget> activeField_;
     std::function<bool()> commitActiveField_;
     QPointer<QWidget> refused_;

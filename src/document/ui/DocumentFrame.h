@@ -24,6 +24,9 @@ class DocumentFrame {
     // Opens the Edit menu as a popup, with first above its items; first is deleted when the menu closes.
     virtual void ShowEditMenu(const QPoint& globalPosition, QAction* first = nullptr) = 0;
     virtual GridColors Colors() const = 0;
+    // True if the recipes show the strip of figures below their tabs; HideFigures removes it from all.
+    virtual bool ShowsFigures() const = 0;
+    virtual void HideFigures() = 0;
 };
 
 }  // namespace tw

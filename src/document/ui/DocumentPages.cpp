@@ -69,7 +69,7 @@ void BuildHops(PageBuilder& b) {
     column->addLayout(
         RowOf(b, {heading, b.Option(r.grpIBUMethod, QStringLiteral("optTinseth"), Tr("Ti&nseth")),
                   b.Option(r.grpIBUMethod, QStringLiteral("optRager"), Tr("&Rager")),
-                  b.Option(r.grpIBUMethod, QStringLiteral("optGaretz"), Tr("&Garetz"))}));
+                  b.Option(r.grpIBUMethod, QStringLiteral("optGaretz"), Tr("Garet&z"))}));
     FieldBox* extraction = b.Field(r.txtHopExtraction, 8);
     FieldBox* boil = b.Field(r.txtBG, 8);
     column->addLayout(RowOf(b, {b.LabelFor(extraction), extraction, b.LabelFor(boil), boil}));
@@ -141,7 +141,7 @@ void BuildCarbonation(PageBuilder& b) {
     auto* method = new QLabel(Tr("Method:"), &b.Page());
     column->addLayout(
         RowOf(b, {method, b.Option(r.grpPkgMethod, QStringLiteral("optBottle"), Tr("&Bottling")),
-                  b.Option(r.grpPkgMethod, QStringLiteral("optKeg"), Tr("&Kegging"))}));
+                  b.Option(r.grpPkgMethod, QStringLiteral("optKeg"), Tr("Keggi&ng"))}));
     column->addWidget(MakePackaging(b), 1);
 }
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "document/DetailWindows.h"
+#include "document/FigureRules.h"
 #include "document/ui/ColorSwatch.h"
 #include "document/ui/FancyLabel.h"
 #include "document/ui/FieldBox.h"
@@ -15,6 +16,8 @@
 #include "document/ui/PageBuilder.h"
 #include "document/ui/RangeBar.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/ElidedLabel.h"
+#include "platform/qt/QtText.h"
 
 namespace tw {
 namespace {
@@ -77,27 +80,24 @@ QGridLayout* MakeSizes(PageBuilder& b) {
     return grid;
 }
 
-struct FigureRow {
-    TextBox& box;
-    const Label& range;
-    int digits;
-};
-
-void AddFigure(PageBuilder& b, QGridLayout& grid, const FigureRow& figure, QWidget* extra) {
+void AddFigure(PageBuilder& b, QGridLayout& grid, FieldId id, int digits, QWidget* extra) {
+    const FigureRule& figure = RuleOfFigure(id);
+    const Label& range = b.Record().*figure.range;
+    TextBox& shown = b.Record().*figure.box;
     const int row = grid.rowCount();
-    const QString what = PlainCaption(PageBuilder::CaptionOf(figure.box));
-    FieldBox* box = b.Figure(figure.box, figure.digits);
+    const QString what = PlainCaption(PageBuilder::CaptionOf(shown));
+    FieldBox* box = b.Figure(shown, digits);
     grid.addWidget(b.LabelFor(box), row, Caption);
     grid.addWidget(box, row, Box, Qt::AlignLeft);
-    grid.addWidget(b.Gaps(figure.box.Id(), what), row, Mark);
+    grid.addWidget(b.Gaps(id, what), row, Mark);
     if (extra) {
         grid.addWidget(extra, row, Extra, Qt::AlignLeft);
         QWidget::setTabOrder(box, extra);
     }
-    QLabel* range = b.RecordLabel(figure.range, Tr("%1 of the style").arg(what));
-    range->setMinimumWidth(range->fontMetrics().horizontalAdvance(QStringLiteral("0.000 - 0.000")));
-    grid.addWidget(range, row, Range);
-    grid.addWidget(b.Bar(figure.box, figure.range, what), row, Bar);
+    QLabel* rangeLabel = b.RecordLabel(range, Tr("%1 of the style").arg(what));
+    rangeLabel->setMinimumWidth(rangeLabel->fontMetrics().horizontalAdvance(QStringLiteral("0.000 - 0.000")));
+    grid.addWidget(rangeLabel, row, Range);
+    grid.addWidget(b.Bar(shown, range, what), row, Bar);
 }
 
 QPushButton* MoreInfo(PageBuilder& b, const Button& button, const QString& caption, const QString& about,
@@ -109,26 +109,67 @@ QPushButton* MoreInfo(PageBuilder& b, const Button& button, const QString& capti
     });
 }
 
+QPushButton* YeastButton(PageBuilder& b) {
+    DocumentBinding& binding = b.Binding();
+    auto* button = new QPushButton(Tr("&Yeast..."), &b.Page());
+    button->setObjectName(QStringLiteral("cmdYeast"));
+    button->setAccessibleName(Tr("Choose the yeast"));
+    button->setToolTip(Tr("Choose the yeast that is pitched; it gives the finished gravity"));
+    button->setAutoDefault(false);
+    QObject::connect(button, &QPushButton::clicked, button, [&binding] {
+        if (binding.Flush()) binding.Run([](RecipeDocument& document) { document.Picks().BrowseYeast(); });
+    });
+    return button;
+}
+
+// Adds a line with a quiet text below a figure, which is worked out anew after every change of the recipe.
+void AddNote(PageBuilder& b, QGridLayout& grid, const QString& caption, const QString& name,
+             QString (*textOf)(const RecipeDocument&)) {
+    const int row = grid.rowCount();
+    auto* label = new ElidedLabel(&b.Page());
+    label->setObjectName(name);
+    grid.addWidget(b.LabelFor(caption, nullptr), row, Caption);
+    grid.addWidget(label, row, Box, 1, FigureColumns - Box);
+    DocumentBinding& binding = b.Binding();
+    const auto show = [label, caption, textOf, &binding] {
+        const QString text = textOf(*binding.Document());
+        const QString spoken = caption + QLatin1Char(' ') + text;
+        if (label->accessibleName() == spoken) return;
+        label->SetFullText(text);
+        label->setAccessibleName(spoken);
+    };
+    binding.WatchAll(show);
+    show();
+}
+
 QGridLayout* MakeFigures(PageBuilder& b) {
     RecipeRecord& r = b.Record();
     auto* grid = new QGridLayout;
     grid->setSpacing(Unit(b.Page()) * kGapUnits);
     AddRule(b, *grid, FigureColumns, 3, Tr("Strength"));
-    AddFigure(b, *grid, {r.txtOG, r.lblOGStyle, kGravityDigits},
+    AddFigure(b, *grid, FieldId::OG, kGravityDigits,
               MoreInfo(b, r.cmdStrengthDetails, Tr("&More Info"), Tr("More about the strength"),
                        StrengthDetailsOf));
-    AddFigure(b, *grid, {r.txtFG, r.lblFGStyle, kGravityDigits}, nullptr);
-    AddFigure(b, *grid, {r.txtABV, r.lblABVStyle, kFigureDigits}, nullptr);
+    AddFigure(b, *grid, FieldId::FG, kGravityDigits, YeastButton(b));
+    AddNote(b, *grid, Tr("Yeast:"), QStringLiteral("lblYeast"), [](const RecipeDocument& document) {
+        const std::string name = document.Yeast().Name();
+        return name.empty() ? Tr("No yeast yet") : ToQt(name);
+    });
+    AddFigure(b, *grid, FieldId::ABV, kFigureDigits, nullptr);
     AddRule(b, *grid, FigureColumns, 4, Tr("Appearance"));
     auto* swatch = new ColorSwatch(&b.Page());
     swatch->SetColor(r.Swatch());
     b.Binding().WatchSwatch([swatch](Rgb color) { swatch->SetColor(color); });
-    AddFigure(b, *grid, {r.txtColor, r.lblColorStyle, kColorDigits}, swatch);
+    AddFigure(b, *grid, FieldId::Color, kColorDigits, swatch);
     AddRule(b, *grid, FigureColumns, 5, Tr("Bitterness"));
-    AddFigure(b, *grid, {r.txtIBU, r.lblIBUStyle, kGravityDigits},
+    AddFigure(b, *grid, FieldId::IBU, kGravityDigits,
               MoreInfo(b, r.cmdIBUDetails, Tr("More &Info"), Tr("More about the bitterness"), HopDetailsOf));
+    AddNote(b, *grid, Tr("BU:GU:"), QStringLiteral("lblBalance"), [](const RecipeDocument& document) {
+        const std::string balance = BalanceText(document.Record());
+        return balance.empty() ? QStringLiteral("\u2013") : ToQt(balance);
+    });
     AddRule(b, *grid, FigureColumns, 6, Tr("Carbonation"));
-    AddFigure(b, *grid, {r.txtCO2, r.lblCO2Style, kFigureDigits}, nullptr);
+    AddFigure(b, *grid, FieldId::CO2, kFigureDigits, nullptr);
     grid->setColumnStretch(Bar, 1);
     grid->setRowStretch(grid->rowCount(), 1);
     return grid;

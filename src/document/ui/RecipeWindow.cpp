@@ -7,16 +7,19 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "document/TabRules.h"
 #include "document/ui/DocumentPages.h"
 #include "document/ui/FieldBox.h"
+#include "document/ui/FigureStrip.h"
 #include "document/ui/GridPanel.h"
 #include "document/ui/GridWidget.h"
 #include "document/ui/NotesBox.h"
 #include "document/ui/PageBuilder.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
+#include "record/FieldRules.h"
 
 namespace tw {
 
@@ -27,7 +30,8 @@ RecipeWindow::RecipeWindow(RecipeDocument& document, Platform& platform, Documen
     setAccessibleName(tr("Recipe"));
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(tabs_);
+    column->setSpacing(0);
+    column->addWidget(tabs_, 1);
     tabs_->setObjectName(QStringLiteral("SSTab1"));
     tabs_->setAccessibleName(tr("Parts of the recipe"));
     tabs_->setDocumentMode(true);
@@ -43,6 +47,7 @@ RecipeWindow::RecipeWindow(RecipeDocument& document, Platform& platform, Documen
         tabs_->addTab(page, tr(RuleOf(static_cast<Tab>(i)).caption));
     }
     BuildTab(0);
+    ShowStrip();
     setFocusProxy(FirstField());
     document.SetView(this);
     connect(tabs_, &QTabWidget::currentChanged, this, &RecipeWindow::TabChosen);
@@ -75,12 +80,41 @@ RecipeWindow::~RecipeWindow() {
     Detach();
     // The controls refer to the binding, so they must be destroyed first.
     delete tabs_;
+    delete strip_;
 }
 
 void RecipeWindow::Detach() {
     if (!binding_.Document()) return;
     binding_.Document()->SetView(nullptr);
     binding_.Detach();
+}
+
+void RecipeWindow::ShowStrip() {
+    const bool wanted = binding_.Frame().ShowsFigures() && binding_.Document();
+    if (wanted == (strip_ != nullptr)) return;
+    if (!wanted) {
+        // This function may run within the strip's own menu.
+        strip_->setParent(nullptr);
+        std::exchange(strip_, nullptr)->deleteLater();
+        return;
+    }
+    PageBuilder builder(binding_, *this);
+    strip_ = new FigureStrip(builder, *this);
+    layout()->addWidget(strip_);
+    connect(strip_, &FigureStrip::Wanted, this, &RecipeWindow::GoToFigure);
+    connect(strip_, &FigureStrip::HidingWanted, this, [this] { binding_.Frame().HideFigures(); });
+    YieldKeys();
+}
+
+// The label of the finished gravity has a key on the first tab, which is that of the strip on all others.
+void RecipeWindow::YieldKeys() {
+    if (strip_) strip_->YieldKey(shown_ == 0 ? 'G' : '\0');
+}
+
+void RecipeWindow::GoToFigure(FieldId figure) {
+    ShowTab(Tab::General);
+    if (shown_ != static_cast<int>(Tab::General)) return;
+    ControlWanted(std::string(RuleOf(figure).name));
 }
 
 void RecipeWindow::BuildTab(int index) {
@@ -104,6 +138,7 @@ void RecipeWindow::TabChosen(int index) {
         return;
     }
     shown_ = index;
+    YieldKeys();
     BuildTab(index);
     binding_.Run([index](RecipeDocument& document) { document.Focus().SetTab(static_cast<Tab>(index)); });
     QWidget* first = FirstField();
@@ -113,6 +148,7 @@ void RecipeWindow::TabChosen(int index) {
 
 void RecipeWindow::TabWanted(Tab tab) {
     shown_ = static_cast<int>(tab);
+    YieldKeys();
     BuildTab(shown_);
     tabs_->setCurrentIndex(shown_);
     setFocusProxy(FirstField());
@@ -174,7 +210,9 @@ QSize RecipeWindow::sizeHint() const {
     const QWidget* general = pages_[0]->widget();
     const QSize page = general ? general->sizeHint() : QSize();
     const int tabs = tabs_->tabBar()->sizeHint().width();
-    return {qMax(page.width(), tabs) + Unit(*this), page.height() + tabs_->tabBar()->sizeHint().height()};
+    const int strip = strip_ ? strip_->sizeHint().height() : 0;
+    return {qMax(page.width(), tabs) + Unit(*this),
+            page.height() + tabs_->tabBar()->sizeHint().height() + strip};
 }
 
 }  // namespace tw

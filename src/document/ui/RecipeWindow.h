@@ -12,6 +12,8 @@ class QTabWidget;
 
 namespace tw {
 
+class FigureStrip;
+
 class RecipeWindow final : public QWidget, private DocumentView {
     Q_OBJECT
   public:
@@ -38,6 +40,8 @@ class RecipeWindow final : public QWidget, private DocumentView {
     bool Flush() { return binding_.Flush(); }
     // To be called when the colours in the settings have changed.
     void GridColorsChanged();
+    // Shows the strip of figures below the tabs, or removes it, as the frame says.
+    void ShowStrip();
 
     QSize sizeHint() const override;
 
@@ -55,10 +59,14 @@ class RecipeWindow final : public QWidget, private DocumentView {
     // Creates the contents of a tab, when it is first shown.
     void BuildTab(int index);
     void TabChosen(int index);
+    void YieldKeys();
+    // Goes to a figure's box on the first tab. If an entry is refused, the present tab stays.
+    void GoToFigure(FieldId figure);
 
     DocumentBinding binding_;
     QTabWidget* tabs_;
     std::array<QScrollArea*, kTabs> pages_{};
+    FigureStrip* strip_ = nullptr;  // nullptr while hidden
     int shown_ = 0;
 };
 

@@ -280,6 +280,11 @@ void MainWindow::GridColorsChanged(const RecipeDocument& document) {
     if (DocumentSubWindow* window = WindowOf(document)) window->Document().GridColorsChanged();
 }
 
+void MainWindow::FigureStripSwitched() {
+    for (QMdiSubWindow* window : area_->subWindowList())
+        if (auto* frame = qobject_cast<DocumentSubWindow*>(window)) frame->Document().ShowStrip();
+}
+
 bool MainWindow::FlushBefore(CommandId command) {
     RecipeWindow* window = ActiveWindow();
     if (!window || !RowOf(command).commitsEntry) return true;
@@ -324,6 +329,14 @@ GridColors MainWindow::Colors() const {
     const Settings& settings = shell_.CurrentSettings();
     return {{ColorOf(settings.gridReadOnlyBg), ColorOf(settings.gridReadOnlyFg)},
             {ColorOf(settings.gridTotalBg), ColorOf(settings.gridTotalFg)}};
+}
+
+bool MainWindow::ShowsFigures() const {
+    return shell_.CurrentSettings().figureStrip;
+}
+
+void MainWindow::HideFigures() {
+    shell_.SettingsNow().SetFigureStrip(false);
 }
 
 void MainWindow::FillWindowMenu() {

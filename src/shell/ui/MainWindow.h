@@ -37,6 +37,8 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
     bool RunCommand(CommandId command) override;
     void ShowEditMenu(const QPoint& globalPosition, QAction* first) override;
     GridColors Colors() const override;
+    bool ShowsFigures() const override;
+    void HideFigures() override;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -61,6 +63,7 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
     void ToolbarIconsChanged() override;
     void ToolbarButtonStyleChanged() override;
     void GridColorsChanged(const RecipeDocument& document) override;
+    void FigureStripSwitched() override;
 
     void ShowWelcome();
     void PlaceSubWindow(DocumentSubWindow& window);
