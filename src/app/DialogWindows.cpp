@@ -20,6 +20,7 @@
 #include "shell/AboutModel.h"
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/AutoSaveDialog.h"
+#include "shell/ui/BrewhouseDialog.h"
 #include "shell/ui/ImportExportDialog.h"
 #include "shell/ui/NameConflictDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
@@ -67,6 +68,7 @@ void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors) {
     dialogs.Register<ColorScaleModel, ColorScaleDialog>();
     // The program.
     dialogs.Register<AboutModel, AboutDialog>();
+    dialogs.Register<BrewhouseModel, BrewhouseDialog>();
     dialogs.Register<OptionsModel, OptionsDialog>(colors);
     dialogs.Register<OpenSaveModel, OpenSaveDialog>();
     dialogs.Register<AutoSaveModel, AutoSaveDialog>();

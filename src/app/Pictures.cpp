@@ -31,6 +31,7 @@
 #include "reports/PrintedRecipe.h"
 #include "reports/qt/PaperPainter.h"
 #include "shell/AboutModel.h"
+#include "shell/BrewhouseModel.h"
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
 #include "shell/OptionsModel.h"
@@ -161,7 +162,7 @@ bool SaveChoosers(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     return ok && SaveWidget(chooser, prefix + QStringLiteral("choose-recipes.png"));
 }
 
-bool SaveHelp(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
+bool SaveHelp(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     PrintedMessages messages;
     QtBrowser browser;
     const OwnFiles none;  // a picture opens no page and writes no file
@@ -171,6 +172,8 @@ bool SaveHelp(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
     bool ok = SaveDialog(dialogs, contents, parent, prefix + QStringLiteral("help-contents.png"));
     AssistantModel assistant(true);
     ok &= SaveDialog(dialogs, assistant, parent, prefix + QStringLiteral("assistant.png"));
+    BrewhouseModel brewhouse(shell.SettingsNow(), *shell.DB(), messages, BrewhouseModel::Start::SuggestUS);
+    ok &= SaveDialog(dialogs, brewhouse, parent, prefix + QStringLiteral("brewhouse.png"));
     return ok;
 }
 
@@ -294,7 +297,7 @@ bool SaveDialogs(MainWindow& window, Shell& shell, QtDialogs& dialogs, const QSt
     ok &= SaveDialog(dialogs, cannotUndo, window, prefix + QStringLiteral("cannot-undo.png"));
     ok &= SaveOptions(dialogs, shell, window, prefix);
     ok &= SaveTools(dialogs, window, prefix);
-    ok &= SaveHelp(dialogs, window, prefix);
+    ok &= SaveHelp(dialogs, shell, window, prefix);
     ok &= SaveChoosers(dialogs, shell, window, prefix);
     ok &= SaveExchange(dialogs, shell, window, prefix);
     ok &= SaveCatalogue(dialogs, shell, window, prefix);

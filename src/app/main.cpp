@@ -127,6 +127,7 @@ int Run(int argc, char** argv) {
     LocalChannel channel(DesktopName());
     const std::string programFolder = FromQt(QCoreApplication::applicationDirPath());
     ShellEnvironment environment{platform, programFolder};
+    environment.metricDesktop = QLocale().measurementSystem() == QLocale::MetricSystem;
     if (!photographing)
         environment.recoveryFolder = FromQt(
             QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/unsaved"));

@@ -75,6 +75,7 @@ enum class CommandId : std::uint8_t {
     ToolsHopUtil,
     ToolBar3,
     ToolsOptions,
+    ToolsBrewhouse,
     // The Window menu
     WindowCascade,
     WindowTileHorizontal,
@@ -82,6 +83,7 @@ enum class CommandId : std::uint8_t {
     // The Help menu
     HelpContents,
     HelpAuto,
+    HelpSample,
     HelpBar,
     HelpAbout,
     Count

@@ -1,5 +1,6 @@
 #include "document/RecipeDocument.h"
 
+#include "platform/ScopeGuard.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -49,6 +50,19 @@ void RecipeDocument::ApplyDefaults() {
     options_.ChooseDefaults(defaults.ibuMethod, defaults.packaging);
     recipe_.calculator.RecalcHops();
     recipe_.calculator.ShowCO2();
+}
+
+void RecipeDocument::FillFrom(const std::function<void()>& fill) {
+    const RedrawHold hold(recipe_.view);
+    recipe_.recorder.SetTracking(false);
+    recipe_.SetFilled(false);
+    const ScopeGuard filled([this] {
+        recipe_.SetFilled(true);
+        recipe_.recorder.SetTracking(true);
+        recipe_.recorder.Clear();
+    });
+    fill();
+    recipe_.Renamed();
 }
 
 std::string RecipeDocument::Caption() const {

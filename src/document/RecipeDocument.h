@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -59,6 +60,10 @@ class RecipeDocument {
     // a number.
     std::string Caption() const;
 
+    // Runs fill, whose changes of the recipe are not edits: afterwards it is unchanged, without a history.
+    // Passes on what fill raises.
+    void FillFrom(const std::function<void()>& fill);
+
     // The parts, which do what the brewer asks for.
     RecipeFields& Fields() { return fields_; }
     RecipeFocus& Focus() { return focus_; }
@@ -71,6 +76,7 @@ class RecipeDocument {
     RecipeStyle& Style() { return style_; }
     const RecipeStyle& Style() const { return style_; }
     const MissingFigures& Missing() const { return missing_; }
+    PitchedYeast& Yeast() { return yeast_; }
     const PitchedYeast& Yeast() const { return yeast_; }
     CataloguePicks& Picks() { return picks_; }
     const CataloguePicks& Picks() const { return picks_; }

@@ -17,7 +17,7 @@ AssistantModel::AssistantModel(bool showAtStartup) : FormModel(kFormName), showA
     AddControls({CheckBox("chkShowAtStartup", showAtStartup_)});
     for (const AssistantLink& link : kAssistantLinks) {
         const std::string name(link.name);
-        AddControls({{"lbl" + name, [&link] { return WithoutMark(link.caption); }}});
+        if (link.original) AddControls({{"lbl" + name, [&link] { return WithoutMark(link.caption); }}});
         for (const char* const kind : {"img", "lbl"})
             AddButtons({{kind + name, [this, &link] { Follow(link); }}});
     }

@@ -1,4 +1,4 @@
-// The welcome window (frmAssistant): five ways to start, and whether to show the window when the
+// The welcome window (frmAssistant): seven ways to start, and whether to show the window when the
 // program starts.
 #pragma once
 
@@ -16,14 +16,18 @@ struct AssistantLink {
     std::string_view name;
     std::string_view caption;  // "&" marks the access key
     CommandId command;         // what a click runs after the window has closed
+    std::string_view image;    // the name of its picture
+    bool original = true;      // false for a link that came later, whose caption is not listed by Controls
 };
 
 inline constexpr AssistantLink kAssistantLinks[] = {
-    {"New", "&Start a new recipe", CommandId::FileNew},
-    {"Open", "&Open a recipe", CommandId::FileOpen},
-    {"Explore", "&Explore recipes, styles and folders", CommandId::ToolsExplorer},
-    {"Database", "Set up the &database of ingredients", CommandId::ToolsDataSetup},
-    {"Help", "Read the &help", CommandId::HelpAuto},
+    {"New", "&Start a new recipe", CommandId::FileNew, "high/New"},
+    {"Sample", "Open the &first recipe, a finished pale ale", CommandId::HelpSample, "tunwright", false},
+    {"Open", "&Open a recipe", CommandId::FileOpen, "high/Open"},
+    {"Explore", "&Explore recipes, styles and folders", CommandId::ToolsExplorer, "high/Explorer"},
+    {"Brewhouse", "Your &brewhouse: sizes, yield, water", CommandId::ToolsBrewhouse, "high/Gal", false},
+    {"Database", "Set up the &database of ingredients", CommandId::ToolsDataSetup, "high/Setup"},
+    {"Help", "Read the &help", CommandId::HelpAuto, "help"},
 };
 
 // Controls: chkShowAtStartup and the captions of the links. Buttons: cmdOK and each link, by either of its

@@ -21,15 +21,23 @@ RecipeDesk::RecipeDesk(OpenedDatabase& data, DocumentManager& documents, Documen
 
 RecipeDocument& RecipeDesk::Create(std::string_view name) {
     RecipeDocument& document = documents_.Create(host_, *data_.database);
-    if (IsBlank(name)) return document;
+    if (!IsBlank(name)) FillOrRemove(document, [&] { document.Storage().Open(name); });
+    return document;
+}
+
+void RecipeDesk::FillOrRemove(RecipeDocument& document, const std::function<void()>& fill) {
     try {
-        document.Storage().Open(name);
+        fill();
     } catch (...) {
         // A partly read recipe must never be saved over the complete one.
         documents_.Remove(document);
         throw;
     }
-    return document;
+}
+
+void RecipeDesk::OpenSample(TypingUnits units) {
+    RecipeDocument& document = documents_.Create(host_, *data_.database);
+    FillOrRemove(document, [&] { FillSample(document, units); });
 }
 
 void RecipeDesk::Load(std::string_view name) {

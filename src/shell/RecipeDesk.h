@@ -1,9 +1,11 @@
 // Opens and deletes recipes: new ones, by name, and through the dialogs that list them.
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 #include "document/DocumentHost.h"
+#include "document/SampleRecipe.h"
 #include "shell/CatalogueDesk.h"
 #include "shell/CommandStates.h"
 #include "shell/DocumentManager.h"
@@ -23,6 +25,9 @@ class RecipeDesk {
     // recipe of that name. Raises the error of a recipe that cannot be read, and leaves no document behind.
     // REQUIRES: the database contains the recipe.
     RecipeDocument& Create(std::string_view name);
+    // Opens a new document with the sample recipe and makes it the active one. Raises the store's errors and
+    // leaves no document behind.
+    void OpenSample(TypingUnits units);
     // Opens the recipe, or activates its window and beeps if a document of exactly that name is open. A name
     // that differs in case opens a second window, on purpose, as DocumentManager::Find compares exactly.
     void Load(std::string_view name);
@@ -35,6 +40,8 @@ class RecipeDesk {
     void ShowExplorer();
 
   private:
+    // Fills a new document. If that raises an error, removes the document and passes the error on.
+    void FillOrRemove(RecipeDocument& document, const std::function<void()>& fill);
     // Updates what depends on whether there are any recipes.
     void FollowRecipes();
 

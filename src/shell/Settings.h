@@ -37,7 +37,8 @@ struct Settings {
     bool keepTypedUnits = false;  // scaling keeps the units of the amounts as they were typed
     // The check boxes of the windows that scale a recipe, as they were last accepted.
     bool scaleBoilVol = true, keepBitterness = true, keepCarbonation = true;
-    bool figureStrip = true;  // the strip of figures below the tabs of a recipe is shown
+    bool figureStrip = true;      // the strip of figures below the tabs of a recipe is shown
+    bool metricExamples = false;  // examples of what can be typed, and the sample recipe, are metric
 
     // Loads the keys of the window's geometry and style, before the database is opened.
     void LoadWindowKeys(const SettingsStore& store);

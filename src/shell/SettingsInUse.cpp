@@ -27,6 +27,11 @@ void SettingsInUse::Keep(bool geometry) {
     values_.Store(store_);
 }
 
+bool SettingsInUse::AreNew() const {
+    // Every end of the program stores this key.
+    return store_.GetSetting(kSettingsSection, "GrainExtraction", "").empty();
+}
+
 void SettingsInUse::Store(std::string_view section, std::string_view key, std::string_view text) {
     store_.SaveSetting(section, key, text, false);
     const bool wasSaving = values_.doAutoSave;

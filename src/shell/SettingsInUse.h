@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "document/DocumentHost.h"
+#include "document/SampleRecipe.h"
 #include "platform/SettingsStore.h"
 #include "shell/AutoSave.h"
 #include "shell/CommandBar.h"
@@ -31,6 +32,10 @@ class SettingsInUse {
     // Stores a setting permanently; one of the section "Settings" also takes effect at once.
     void Store(std::string_view section, std::string_view key, std::string_view text);
 
+    // True if no settings have been stored yet: this is the brewer's first start.
+    bool AreNew() const;
+    // The units of the examples and of the sample recipe.
+    TypingUnits Units() const { return values_.metricExamples ? TypingUnits::Metric : TypingUnits::US; }
     // True if new rows are added after the last one: the check mark of the menu item.
     bool AppendRows() const { return bar_.Item(CommandId::EditAppendFlag).checked; }
     void SetAppendRows(bool append) { bar_.SetChecked(CommandId::EditAppendFlag, append); }

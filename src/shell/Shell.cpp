@@ -116,7 +116,7 @@ std::string Shell::DatabasePath(std::string_view programFolder) {
 }
 
 void Shell::ShowAssistantAtStartup() {
-    if (open_) open_->actions.ShowAssistantAtStartup();
+    if (open_) open_->actions.ShowAssistantAtStartup(environment_.metricDesktop);
 }
 
 bool Shell::RequestExit() {

@@ -7,6 +7,7 @@
 #include "help/AssistantModel.h"
 #include "platform/ErrorBox.h"
 #include "shell/AboutModel.h"
+#include "shell/BrewhouseModel.h"
 #include "shell/OptionsModel.h"
 #include "tools/ColorScaleModel.h"
 #include "tools/ConvertUnitsModel.h"
@@ -95,6 +96,11 @@ void ShowOptions(On on) {
     on.platform.dialogs.ShowModal(options);
 }
 
+void ShowBrewhouse(On on, BrewhouseModel::Start start) {
+    BrewhouseModel brewhouse(on.settings, *on.data.database, on.platform.messages, start);
+    on.platform.dialogs.ShowModal(brewhouse);
+}
+
 void ShowAbout(On on) {
     AboutModel about;
     on.platform.dialogs.ShowModal(about);
@@ -140,11 +146,13 @@ const ShellActions::Row ShellActions::kRows[] = {
     {CommandId::ToolsColorScale, ShowColorScales},
     {CommandId::ToolsHopUtil, ShowHopUtilization},
     {CommandId::ToolsOptions, ShowOptions},
+    {CommandId::ToolsBrewhouse, [](On on) { ShowBrewhouse(on, BrewhouseModel::Start::ShowSettings); }},
     {CommandId::WindowCascade, [](On on) { on.view->ArrangeDocuments(Arrangement::Cascade); }},
     {CommandId::WindowTileHorizontal, [](On on) { on.view->ArrangeDocuments(Arrangement::TileHorizontal); }},
     {CommandId::WindowTileVertical, [](On on) { on.view->ArrangeDocuments(Arrangement::TileVertical); }},
     {CommandId::HelpContents, [](On on) { on.help.ShowContents(); }},
     {CommandId::HelpAuto, [](On on) { on.help.ShowForActive(); }},
+    {CommandId::HelpSample, [](On on) { on.recipes.OpenSample(on.settings.Units()); }},
     {CommandId::HelpAbout, ShowAbout},
 };
 
@@ -187,8 +195,14 @@ bool ShellActions::Press(CommandId command) {
     return Carry(command);
 }
 
-void ShellActions::ShowAssistantAtStartup() {
-    if (on_.settings.Values().showAssistantAtStartup) ShowAssistant();
+void ShellActions::ShowAssistantAtStartup(bool metricDesktop) {
+    if (!on_.settings.Values().showAssistantAtStartup) return;
+    using Brewhouse = BrewhouseModel::Start;
+    if (on_.settings.AreNew())
+        RunShowingErrors(on_.platform.messages, [&] {
+            ShowBrewhouse(on_, metricDesktop ? Brewhouse::SuggestMetric : Brewhouse::SuggestUS);
+        });
+    ShowAssistant();
 }
 
 void ShellActions::ShowAssistant() {

@@ -48,8 +48,8 @@ class ShellActions {
     // has no button or the button is disabled.
     bool Press(CommandId command);
     // Shows the assistant if the settings ask for it at the start, keeps the state of its check box, and runs
-    // the link that was chosen.
-    void ShowAssistantAtStartup();
+    // the link that was chosen. If the settings are new, asks about the brewhouse before.
+    void ShowAssistantAtStartup(bool metricDesktop);
 
   private:
     using Action = void (*)(const Parts& on);

@@ -19,6 +19,8 @@ struct ShellEnvironment {
     // Unsaved work is kept in files below this folder, separately for each database, but not for one in
     // memory. Empty: nothing is kept.
     std::string recoveryFolder = {};
+    // True if the desktop measures in liters and kilograms: the suggestion of a first start.
+    bool metricDesktop = false;
     // The source of the help pages; without it the help shows nothing.
     Help* help = nullptr;
     // Without a printer nothing is printed or previewed; without save files no PDF file is created.

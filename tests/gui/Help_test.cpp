@@ -144,9 +144,9 @@ class AssistantWindow : public HelpWindows {
     AssistantDialog window{model, nullptr};
 };
 
-TEST_F(AssistantWindow, IsNamedAndOffersFiveLinks) {
+TEST_F(AssistantWindow, IsNamedAndOffersItsLinks) {
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Tunwright Assistant"));
-    EXPECT_EQ(Links().size(), 5);
+    EXPECT_EQ(Links().size(), 7);
     for (const AssistantLinkButton* link : Links()) {
         EXPECT_FALSE(link->icon().isNull());
         EXPECT_EQ(link->cursor().shape(), Qt::PointingHandCursor);
@@ -160,7 +160,7 @@ TEST_F(AssistantWindow, OneLinkAtATimeIsHighlighted) {
     SendLeave(Link("lblExplore"));
     EXPECT_EQ(Highlighted(), Strings{"lblNew"});
     Key(Qt::Key_Tab);
-    EXPECT_EQ(Highlighted(), Strings{"lblOpen"});
+    EXPECT_EQ(Highlighted(), Strings{"lblSample"});
     window.findChild<QCheckBox*>()->setFocus();
     EXPECT_EQ(Highlighted(), Strings{});
 }
@@ -179,7 +179,7 @@ TEST_F(AssistantWindow, EnterAndSpaceFollowTheLinkWithTheFocus) {
         Key(Qt::Key_Tab);
         Key(key);
         EXPECT_FALSE(dialog.isVisible()) << key;
-        EXPECT_EQ(RowOf(other.Chosen().value()).name, "mnuFileOpen") << key;
+        EXPECT_EQ(RowOf(other.Chosen().value()).name, "mnuHelpSample") << key;
     }
 }
 

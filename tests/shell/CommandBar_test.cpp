@@ -94,6 +94,7 @@ TEST(CommandBar, TheToolsMenu) {
                   {"mnuToolsColorScale", "Co&lor Scales...", "", ""},
                   {"mnuToolsHopUtil", "Hop Utilization &Graphs...", "", ""},
                   {"mnuToolsOptions", "&Options...", "F6", ""},
+                  {"mnuToolsBrewhouse", "Your Bre&whouse...", "", ""},
               }));
 }
 
@@ -105,6 +106,7 @@ TEST(CommandBar, TheWindowAndHelpMenus) {
     EXPECT_EQ(ItemsOf(CommandBar(), "mnuHelp"),
               (std::vector<ItemRow>{{"mnuHelpContents", "&Contents...", "", ""},
                                     {"mnuHelpAuto", "&Help...", "F1", ""},
+                                    {"mnuHelpSample", "Open a &Sample Recipe", "", ""},
                                     {"mnuHelpAbout", "&About Tunwright...", "", ""}}));
 }
 

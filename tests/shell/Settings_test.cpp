@@ -60,6 +60,7 @@ TEST_F(SettingsTest, AnEmptyStoreGivesTheDefaults) {
     EXPECT_TRUE(s.keepBitterness);
     EXPECT_TRUE(s.keepCarbonation);
     EXPECT_TRUE(s.figureStrip);
+    EXPECT_FALSE(s.metricExamples);
 }
 
 // Whoever never touches what a newer version added keeps a store that older versions know whole.

@@ -113,6 +113,8 @@ TEST_F(ShellHelp, TheAssistantsOpenLinkWorksOnAnEmptyDatabase) {
 }
 
 TEST_F(ShellHelp, TheAssistantComesUpAtTheStartAsTheSettingSays) {
+    // Not the first start, which asks about the brewhouse before.
+    shell.SettingsNow().Store("Settings", "GrainExtraction", "72%");
     shell.ShowAssistantAtStartup();
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmAssistant"});
     outside.dialogs.scripts.emplace_back([](DialogModel& dialog) {

@@ -4,6 +4,7 @@
 #include <QPoint>
 
 #include "commands/Commands.h"
+#include "document/SampleRecipe.h"
 #include "platform/qt/CellColors.h"
 
 class QAction;
@@ -24,6 +25,8 @@ class DocumentFrame {
     // Opens the Edit menu as a popup, with first above its items; first is deleted when the menu closes.
     virtual void ShowEditMenu(const QPoint& globalPosition, QAction* first = nullptr) = 0;
     virtual GridColors Colors() const = 0;
+    // The units of the examples in hints.
+    virtual TypingUnits Units() const = 0;
     // True if the recipes show the strip of figures below their tabs; HideFigures removes it from all.
     virtual bool ShowsFigures() const = 0;
     virtual void HideFigures() = 0;

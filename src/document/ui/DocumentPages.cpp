@@ -25,6 +25,12 @@ QString Tr(const char* text) {
     return QCoreApplication::translate("DocumentPages", text);
 }
 
+// Returns a hint with an example for "%1" in the brewer's units.
+QString Hint(const PageBuilder& b, const char* text, const char* us, const char* metric) {
+    const bool isMetric = b.Binding().Frame().Units() == TypingUnits::Metric;
+    return Tr(text).arg(QLatin1String(isMetric ? metric : us));
+}
+
 QVBoxLayout* ColumnOf(PageBuilder& b) {
     auto* column = new QVBoxLayout(&b.Page());
     SetSpacing(*column, b.Page(), true);
@@ -42,8 +48,9 @@ QHBoxLayout* RowOf(PageBuilder& b, std::initializer_list<QWidget*> widgets) {
 
 void BuildGrains(PageBuilder& b) {
     QVBoxLayout* column = ColumnOf(b);
-    GridPanel* grid = b.GridOf(b.Record().gridGrain,
-                               Tr("Type a grain's name, Tab, then its amount: 8 lb. Ctrl and + adds a row."));
+    GridPanel* grid = b.GridOf(
+        b.Record().gridGrain,
+        Hint(b, "Type a grain's name, Tab, then its amount: %1. Tab goes on in a new row.", "8 lb", "4 kg"));
     column->addWidget(grid, 1);
     FieldBox* rate = b.Field(b.Record().txtExtract, 8);
     column->addLayout(RowOf(b, {b.LabelFor(rate), rate}));
@@ -53,7 +60,9 @@ void BuildExtracts(PageBuilder& b) {
     ColumnOf(b)->addWidget(
         b.GridOf(
             b.Record().gridExtract,
-            Tr("Type an extract's or a sugar's name, Tab, then its amount: 3.3 lb. Ctrl and + adds a row.")),
+            Hint(b,
+                 "Type an extract's or a sugar's name, Tab, then its amount: %1. Tab goes on in a new row.",
+                 "3.3 lb", "1.5 kg")),
         1);
 }
 
@@ -61,9 +70,10 @@ void BuildHops(PageBuilder& b) {
     RecipeRecord& r = b.Record();
     QVBoxLayout* column = ColumnOf(b);
     column->addWidget(
-        b.GridOf(r.gridHops, Tr("Type a hop's name, its amount (1 oz, 8 AAU or 20 IBU) and its minutes in "
-                                "the boil. Ctrl and + "
-                                "adds a row.")),
+        b.GridOf(r.gridHops, Hint(b,
+                                  "Type a hop's name, its amount (%1, 8 AAU or 20 IBU) and its minutes in "
+                                  "the boil. Tab goes on in a new row.",
+                                  "1 oz", "25 g")),
         1);
     auto* heading = new QLabel(Tr("IBU Method:"), &b.Page());
     column->addLayout(
@@ -84,9 +94,7 @@ void BuildWater(PageBuilder& b) {
                                   [](RecipeDocument& document) { document.Water().CalcTreatment(); });
     treat->setAccessibleName(Tr("Calculate Treatment"));
     column->addLayout(RowOf(b, {treat}));
-    column->addWidget(
-        b.GridOf(r.gridTreatment, Tr("Ctrl and + adds a row; then type a salt's name and its amount: 4 g.")),
-        1);
+    column->addWidget(b.GridOf(r.gridTreatment, Tr("Type a salt's name, Tab, then its amount: 4 g.")), 1);
 }
 
 QWidget* MakePackaging(PageBuilder& b) {
@@ -94,8 +102,8 @@ QWidget* MakePackaging(PageBuilder& b) {
     auto* place = new QWidget(&b.Page());
     auto* column = new QVBoxLayout(place);
     SetSpacing(*column, *place, false);
-    GridPanel* priming = b.GridOf(
-        r.gridPriming, Tr("Type a sugar's name, Tab, then its amount: 4 oz. Ctrl and + adds a row."));
+    GridPanel* priming =
+        b.GridOf(r.gridPriming, Hint(b, "Type a sugar's name, Tab, then its amount: %1.", "4 oz", "115 g"));
     GridPanel* pressure = b.GridOf(r.gridPressure, {});
     auto* heading = new FancyLabel({}, place);
     heading->setObjectName(QStringLiteral("FancyLabel8"));
@@ -147,17 +155,14 @@ void BuildCarbonation(PageBuilder& b) {
 
 void BuildAdjuncts(PageBuilder& b) {
     ColumnOf(b)->addWidget(
-        b.GridOf(b.Record().gridAdjuncts,
-                 Tr("Ctrl and + adds a row; then type the adjunct, as Irish moss, and its amount.")),
-        1);
+        b.GridOf(b.Record().gridAdjuncts, Tr("Type the adjunct, as Irish moss, Tab, then its amount.")), 1);
 }
 
 void BuildLog(PageBuilder& b) {
     QVBoxLayout* column = ColumnOf(b);
     GridPanel* grid =
         b.GridOf(b.Record().gridLog,
-                 Tr("Ctrl and + adds a row; then type the date, what was done, and notes. Alt and Down "
-                    "shows a calendar."));
+                 Tr("Type the date, Tab, then what was done, and notes. Alt and Down shows a calendar."));
     grid->View().SetHasDates();
     column->addWidget(grid, 1);
     auto* calendar = new LogCalendar(b.Binding(), grid->View(), &b.Page());

@@ -16,12 +16,7 @@ namespace tw {
 namespace {
 
 QIcon PictureOf(const AssistantLink& link) {
-    const std::string_view image = link.name == "Explore"    ? "high/Explorer"
-                                   : link.name == "Database" ? "high/Setup"
-                                   : link.name == "Help"     ? "help"
-                                   : link.name == "Open"     ? "high/Open"
-                                                             : "high/New";
-    return SvgIcon(QStringLiteral(":/icons/%1.svg").arg(ToQt(image)), SvgInk::AsDrawn);
+    return SvgIcon(QStringLiteral(":/icons/%1.svg").arg(ToQt(link.image)), SvgInk::AsDrawn);
 }
 
 }  // namespace

@@ -331,6 +331,10 @@ GridColors MainWindow::Colors() const {
             {ColorOf(settings.gridTotalBg), ColorOf(settings.gridTotalFg)}};
 }
 
+TypingUnits MainWindow::Units() const {
+    return shell_.SettingsNow().Units();
+}
+
 bool MainWindow::ShowsFigures() const {
     return shell_.CurrentSettings().figureStrip;
 }

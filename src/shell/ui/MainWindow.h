@@ -37,6 +37,7 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
     bool RunCommand(CommandId command) override;
     void ShowEditMenu(const QPoint& globalPosition, QAction* first) override;
     GridColors Colors() const override;
+    TypingUnits Units() const override;
     bool ShowsFigures() const override;
     void HideFigures() override;
 

@@ -1,0 +1,16 @@
+// A finished pale ale for a brewer who wants to look around before typing a recipe.
+#pragma once
+
+namespace tw {
+
+class RecipeDocument;
+
+// Which units amounts are typed in: in what the program itself types, and in its examples.
+enum class TypingUnits { US, Metric };
+
+// Fills a new recipe. Ingredients that the catalogue no longer has under these names keep their names without
+// figures. Afterwards the recipe is unchanged, and there is nothing to undo. Raises the store's errors.
+// REQUIRES: the document is new.
+void FillSample(RecipeDocument& document, TypingUnits units);
+
+}  // namespace tw
