@@ -1,4 +1,6 @@
 // Commands on the lists of the windows: the contents of a folder, the catalogues and the picker.
+#include <algorithm>
+#include <array>
 #include <string>
 #include <vector>
 
@@ -87,26 +89,44 @@ void PickFrom(Session& session, Arguments& arguments) {
     session.Program().Opened()->services.PickFromCatalogue(document, type, name);
 }
 
-// Returns the word without the "s" of a plural.
-std::string_view Singular(std::string_view word) {
-    return word.ends_with('s') ? word.substr(0, word.size() - 1) : word;
+// The words that name a list: "yeast", or "hop" and "variety".
+struct ListWords {
+    CatalogueKind kind{};
+    std::string_view first, second;
+};
+
+constexpr ListWords SplitWords(CatalogueKind kind) {
+    const std::string_view word = WordOf(kind);
+    const std::size_t blank = word.find(' ');
+    if (blank == std::string_view::npos) return {kind, word, {}};
+    return {kind, word.substr(0, blank), word.substr(blank + 1)};
 }
 
-// Takes the name of a catalogue as one says it: "hop variety", "hops", "salt".
+constexpr auto kListWords = [] {
+    std::array<ListWords, kCatalogueKinds> all;
+    std::ranges::transform(kSetupOrder, all.begin(), SplitWords);
+    return all;
+}();
+
+std::string PluralOf(std::string_view word) {
+    if (word.ends_with('y')) return std::string(word.substr(0, word.size() - 1)) + "ies";
+    return std::string(word) + "s";
+}
+
+// True if a text is the word or its plural, in any case.
+bool Means(std::string_view text, std::string_view word) {
+    return !word.empty() && (SameName(text, word) || SameName(text, PluralOf(word)));
+}
+
+// Takes the name of a list as TakeCatalogue does, or as one says it: "hops", "hop varieties", "Salt".
 CatalogueKind TakeList(Arguments& arguments) {
     const std::string list = arguments.Word("LIST");
-    for (const CatalogueKind catalogue : kSetupOrder) {
-        const std::string_view word = WordOf(catalogue);
-        const std::size_t blank = word.find(' ');
-        if (blank == std::string_view::npos) {
-            if (SameName(word, Singular(list))) return catalogue;
-            continue;
-        }
-        const std::string_view second = word.substr(blank + 1);
-        if (SameName(second, Singular(list))) return catalogue;
-        if (!SameName(word.substr(0, blank), Singular(list))) continue;
-        arguments.TakeWord(second) || arguments.TakeWord(WordsOf(catalogue).plural.substr(blank + 1));
-        return catalogue;
+    for (const ListWords& words : kListWords) {
+        if (Means(list, words.second)) return words.kind;
+        if (!Means(list, words.first)) continue;
+        if (!words.second.empty() && !arguments.TakeWord(words.second))
+            arguments.TakeWord(PluralOf(words.second));
+        return words.kind;
     }
     throw ScriptError("there is no list '" + list + "'");
 }
@@ -129,14 +149,9 @@ constexpr Command kCommands[] = {
 
 CatalogueKind TakeCatalogue(Arguments& arguments) {
     const std::string first = arguments.Word("WORD");
-    for (const CatalogueKind catalogue : kSetupOrder) {
-        const std::string_view word = WordOf(catalogue);
-        if (word == first) return catalogue;
-        const std::size_t blank = word.find(' ');
-        if (blank != std::string_view::npos && word.substr(0, blank) == first &&
-            arguments.TakeWord(word.substr(blank + 1)))
-            return catalogue;
-    }
+    for (const ListWords& words : kListWords)
+        if (words.first == first && (words.second.empty() || arguments.TakeWord(words.second)))
+            return words.kind;
     throw ScriptError("'" + first + "' begins the name of no catalogue");
 }
 
