@@ -13,7 +13,7 @@ TEST_F(DocumentWindow, StartsInTheNameOfAnUnnamedRecipe) {
     EXPECT_EQ(Focus(), "txtName");
     Type("Amber");
     EXPECT_EQ(shell.Documents().Active()->BeerName(), "Amber");
-    EXPECT_EQ(window.ActiveWindow()->parentWidget()->windowTitle(), QStringLiteral("Amber"));
+    EXPECT_EQ(window.ActiveWindow()->parentWidget()->windowTitle(), QStringLiteral("Amber[*]"));
 }
 
 // 8 lb at 36 PPG, 40 % extraction (the default), 5 gallons: 8 * 36 * 0.4 / 5 = 23.04 points.

@@ -98,9 +98,58 @@ TEST_F(MainWindow, ListsTheOpenRecipesInTheWindowMenu) {
     QStringList titles;
     for (const QAction* action : menu->actions())
         if (action->isCheckable()) titles << action->text();
-    EXPECT_EQ(titles, (QStringList{QStringLiteral("&1 Bock && Co"), QStringLiteral("&2 Untitled 2")}));
+    EXPECT_EQ(titles, (QStringList{QStringLiteral("&1 Bock && Co*"), QStringLiteral("&2 Untitled 2")}));
     menu->actions().at(menu->actions().size() - 2)->trigger();
     EXPECT_EQ(shell.Documents().Active()->BeerName(), "Bock & Co");
+}
+
+// Returns what the desktop shows as the title of the main window.
+QString TitleShown(const QWidget& window) {
+    return window.windowHandle()->title();
+}
+
+TEST_F(MainWindow, MarksARecipeThatHasChangesToSave) {
+    NewRecipe();
+    QWidget& frame = *window.ActiveWindow()->parentWidget();
+    frame.showMaximized();
+    EXPECT_FALSE(frame.isWindowModified());
+    EXPECT_EQ(TitleShown(window), QStringLiteral("Tunwright - [Untitled 1]"));
+    EXPECT_EQ(window.accessibleName(), QStringLiteral("Tunwright - Untitled 1"));
+    Type("Bock");
+    EXPECT_TRUE(frame.isWindowModified());
+    EXPECT_EQ(TitleShown(window), QStringLiteral("Tunwright - [Bock*]"));
+    EXPECT_EQ(window.accessibleName(), QStringLiteral("Tunwright - Bock, modified"));
+    EXPECT_EQ(window.ActiveWindow()->accessibleName(), QStringLiteral("Bock, modified"));
+    // The caption itself has no mark.
+    EXPECT_EQ(shell.Documents().Active()->Caption(), "Bock");
+    ASSERT_TRUE(shell.Documents().Active()->Storage().SaveUnder("Bock", 0, Asking::Quietly));
+    EXPECT_FALSE(frame.isWindowModified());
+    EXPECT_EQ(TitleShown(window), QStringLiteral("Tunwright - [Bock]"));
+    EXPECT_EQ(window.accessibleName(), QStringLiteral("Tunwright - Bock"));
+}
+
+// In a window's title, Qt replaces these characters by the mark.
+TEST_F(MainWindow, ShowsANameThatLooksLikeTheMark) {
+    NewRecipe();
+    window.ActiveWindow()->parentWidget()->showMaximized();
+    Type("[*] Bock [*][*]");
+    EXPECT_EQ(TitleShown(window), QStringLiteral("Tunwright - [[*] Bock [*][*]*]"));
+    EXPECT_EQ(window.ActiveWindow()->accessibleName(), QStringLiteral("[*] Bock [*][*], modified"));
+}
+
+TEST_F(MainWindow, MarksTheRecipeThatIsInFront) {
+    NewRecipe();
+    Type("Bock");
+    NewRecipe();
+    window.ActiveWindow()->parentWidget()->showMaximized();
+    EXPECT_EQ(window.accessibleName(), QStringLiteral("Tunwright - Untitled 2"));
+    EXPECT_EQ(TitleShown(window), QStringLiteral("Tunwright - [Untitled 2]"));
+    ASSERT_TRUE(window.RunCommand(CommandId::FileClose));
+    EXPECT_EQ(window.accessibleName(), QStringLiteral("Tunwright - Bock, modified"));
+    outside.messages.answers = {Answer::No};
+    ASSERT_TRUE(window.RunCommand(CommandId::FileClose));
+    EXPECT_EQ(window.accessibleName(), QStringLiteral("Tunwright"));
+    EXPECT_EQ(TitleShown(window), QStringLiteral("Tunwright"));
 }
 
 TEST_F(MainWindow, TilesAcrossAndDown) {

@@ -191,7 +191,8 @@ void Monkey::CheckGrid(const GridView& view, const Grid& grid) {
 
 void Monkey::CheckDocument(const RecipeWindow& view, RecipeDocument& document) {
     const RecipeRecord& record = document.Record();
-    EXPECT_EQ(FromQt(view.parentWidget()->windowTitle()), document.Caption());
+    EXPECT_EQ(FromQt(view.parentWidget()->windowTitle()), document.Caption() + "[*]");
+    EXPECT_EQ(view.parentWidget()->isWindowModified(), document.Changed());
     for (const TextBox* box : record.TextBoxes()) {
         if (const auto* line = view.findChild<QLineEdit*>(ToQt(box->Name()))) {
             EXPECT_EQ(FromQt(line->text()), box->Text()) << box->Name();

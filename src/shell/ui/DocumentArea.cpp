@@ -17,6 +17,9 @@ constexpr int kSteps = 6;
 constexpr int kStepUnits = 4;
 constexpr double kRoomyFactor = 1.4;
 
+// Where Qt puts the mark of a modified window into its title; doubled, it stands for itself.
+constexpr QLatin1String kMarkPlace("[*]");
+
 }  // namespace
 
 DocumentArea::DocumentArea(QWidget* parent) : QMdiArea(parent) {
@@ -105,6 +108,23 @@ DocumentSubWindow::DocumentSubWindow(RecipeWindow* document, QWidget* parent)
     : QMdiSubWindow(parent), document_(document) {
     setWidget(document);
     setWindowIcon(ProgramIcon());
+}
+
+void DocumentSubWindow::ShowCaption(const QString& caption, bool modified) {
+    caption_ = caption;
+    QString title = caption;
+    title.replace(kMarkPlace, kMarkPlace + kMarkPlace);
+    setWindowTitle(title + kMarkPlace);
+    setWindowModified(modified);
+    document_->setAccessibleName(SpokenCaption());
+}
+
+QString DocumentSubWindow::MarkedCaption() const {
+    return isWindowModified() ? caption_ + QLatin1Char('*') : caption_;
+}
+
+QString DocumentSubWindow::SpokenCaption() const {
+    return isWindowModified() ? tr("%1, modified").arg(caption_) : caption_;
 }
 
 void DocumentSubWindow::closeEvent(QCloseEvent* event) {

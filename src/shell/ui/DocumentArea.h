@@ -42,6 +42,12 @@ class DocumentSubWindow final : public QMdiSubWindow {
   public:
     DocumentSubWindow(RecipeWindow* document, QWidget* parent);
     RecipeWindow& Document() const { return *document_; }
+    // Shows the caption in the title, with the desktop's mark for unsaved documents if it is modified.
+    void ShowCaption(const QString& caption, bool modified);
+    // Returns the caption with that mark, as a menu shows it.
+    QString MarkedCaption() const;
+    // Returns the caption as a screen reader says it.
+    QString SpokenCaption() const;
 
   signals:
     void CloseRequested();
@@ -51,6 +57,7 @@ class DocumentSubWindow final : public QMdiSubWindow {
 
   private:
     RecipeWindow* document_;
+    QString caption_;
 };
 
 }  // namespace tw

@@ -47,7 +47,7 @@ MainWindow::MainWindow(Shell& shell, Platform& platform)
     setObjectName(QLatin1String(kFormName));
     setWindowTitle(QStringLiteral("Tunwright"));
     setWindowIcon(ProgramIcon());
-    setAccessibleName(windowTitle());
+    SpeakTitle();
     menus_ = new CommandMenus(
         shell.Bar(), *this, [this](CommandId command) { RunCommand(command); },
         [this](CommandId command) { PressButton(command); });
@@ -140,7 +140,7 @@ DocumentSubWindow* MainWindow::WindowOf(const RecipeDocument& document) const {
 
 void MainWindow::DocumentOpened(RecipeDocument& document) {
     auto* window = new DocumentSubWindow(new RecipeWindow(document, platform_, *this), area_);
-    window->setWindowTitle(ToQt(document.Caption()));
+    ShowCaption(*window);
     {
         const ScopedValue changing(changing_, true);
         area_->addSubWindow(window);
@@ -184,6 +184,7 @@ void MainWindow::DocumentClosing(RecipeDocument& document) {
 }
 
 void MainWindow::DocumentActivated(RecipeDocument* document) {
+    SpeakTitle();
     if (!document) {
         ShowWelcome();
         return;
@@ -200,7 +201,20 @@ void MainWindow::DocumentActivated(RecipeDocument* document) {
 }
 
 void MainWindow::DocumentRenamed(const RecipeDocument& document) {
-    if (DocumentSubWindow* window = WindowOf(document)) window->setWindowTitle(ToQt(document.Caption()));
+    if (DocumentSubWindow* window = WindowOf(document)) ShowCaption(*window);
+    if (&document == shell_.Documents().Active()) SpeakTitle();
+}
+
+void MainWindow::ShowCaption(DocumentSubWindow& window) {
+    const RecipeDocument& document = *window.Document().Document();
+    window.ShowCaption(ToQt(document.Caption()), document.Changed());
+}
+
+void MainWindow::SpeakTitle() {
+    const RecipeDocument* document = shell_.Documents().Active();
+    const DocumentSubWindow* window = document ? WindowOf(*document) : nullptr;
+    const QString program = QStringLiteral("Tunwright");
+    setAccessibleName(window ? tr("%1 - %2").arg(program, window->SpokenCaption()) : program);
 }
 
 void MainWindow::AutoSaveSwitched(bool on) {
@@ -348,10 +362,12 @@ void MainWindow::FillWindowMenu() {
     for (QAction* action : menu.actions())
         if (action->property("openRecipe").toBool()) delete action;
     int number = 0;
-    for (QMdiSubWindow* window : area_->subWindowList(QMdiArea::CreationOrder)) {
+    for (QMdiSubWindow* frame : area_->subWindowList(QMdiArea::CreationOrder)) {
+        auto* window = qobject_cast<DocumentSubWindow*>(frame);
+        if (!window) continue;
         if (number == 0) menu.addSeparator()->setProperty("openRecipe", true);
         ++number;
-        QString title = window->windowTitle();
+        QString title = window->MarkedCaption();
         title.replace(QLatin1Char('&'), QStringLiteral("&&"));
         QAction* action =
             menu.addAction(number < 10 ? QStringLiteral("&%1 %2").arg(number).arg(title) : title);

@@ -67,6 +67,10 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
     void FigureStripSwitched() override;
 
     void ShowWelcome();
+    // Shows the caption of a recipe and whether it has changes to save.
+    static void ShowCaption(DocumentSubWindow& window);
+    // Tells assistive programs which recipe is in front.
+    void SpeakTitle();
     void PlaceSubWindow(DocumentSubWindow& window);
     void PressButton(CommandId command);
     // Commits a pending entry before a command that requires that. False if the entry was refused.
