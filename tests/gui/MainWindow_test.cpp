@@ -206,6 +206,39 @@ TEST_F(MainWindow, RemembersWhetherRecipesAreMaximized) {
     EXPECT_EQ(shell.CurrentSettings().childState, 0);
 }
 
+TEST_F(MainWindow, OpensRecipesMaximizedWhereThatIsRemembered) {
+    shell.CurrentSettings().childState = 2;
+    NewRecipe();
+    Type("Bock");
+    EXPECT_TRUE(window.ActiveWindow()->parentWidget()->isMaximized());
+    NewRecipe();
+    EXPECT_TRUE(window.ActiveWindow()->parentWidget()->isMaximized());
+    auto* area = window.findChild<DocumentArea*>();
+    for (QMdiSubWindow* frame : area->subWindowList()) {
+        area->setActiveSubWindow(frame);
+        EXPECT_TRUE(frame->isMaximized());
+        EXPECT_EQ(shell.CurrentSettings().childState, 2);
+        const RecipeDocument& front = *shell.Documents().Active();
+        EXPECT_EQ(FromQt(TitleShown(window)),
+                  "Tunwright - [" + front.Caption() + (front.Changed() ? "*]" : "]"));
+    }
+    // The recipe behind the closed one comes to the front as it was.
+    ASSERT_TRUE(window.RunCommand(CommandId::FileClose));
+    EXPECT_TRUE(window.ActiveWindow()->parentWidget()->isMaximized());
+    EXPECT_EQ(TitleShown(window), QStringLiteral("Tunwright - [Bock*]"));
+    EXPECT_EQ(shell.CurrentSettings().childState, 2);
+    // So does a normal state.
+    NewRecipe();
+    window.ActiveWindow()->parentWidget()->showNormal();
+    EXPECT_EQ(shell.CurrentSettings().childState, 0);
+    area->activateNextSubWindow();
+    EXPECT_EQ(shell.Documents().Active()->Caption(), "Bock");
+    EXPECT_FALSE(window.ActiveWindow()->parentWidget()->isMaximized());
+    EXPECT_EQ(FromQt(TitleShown(window)), "Tunwright");
+    NewRecipe();
+    EXPECT_FALSE(window.ActiveWindow()->parentWidget()->isMaximized());
+}
+
 TEST_F(MainWindow, StaysWhenARecipeRefusesToClose) {
     NewRecipe();
     Type("Draft");

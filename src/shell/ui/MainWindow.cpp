@@ -150,12 +150,15 @@ void MainWindow::DocumentOpened(RecipeDocument& document) {
         if (!window->Document().Document() || !window->Document().Flush()) return;
         RunShowingErrors(platform_.messages, [&] { shell_.Opened()->saver.Close(*opened); });
     });
-    connect(window, &QMdiSubWindow::windowStateChanged, this, [this](Qt::WindowStates, Qt::WindowStates now) {
-        // Minimised is not remembered as the state of the next window.
-        if (changing_ || now.testFlag(Qt::WindowMinimized)) return;
-        shell_.CurrentSettings().childState =
-            now.testFlag(Qt::WindowMaximized) ? kStateMaximized : kStateNormal;
-    });
+    connect(window, &QMdiSubWindow::windowStateChanged, this,
+            [this](Qt::WindowStates before, Qt::WindowStates now) {
+                // Minimised is not remembered as the state of the next window.
+                if (changing_ || now.testFlag(Qt::WindowMinimized)) return;
+                // Becoming active changes a state, too, and Qt tells that after it has maximised the window.
+                if (!((before ^ now) & (Qt::WindowMaximized | Qt::WindowMinimized))) return;
+                shell_.CurrentSettings().childState =
+                    now.testFlag(Qt::WindowMaximized) ? kStateMaximized : kStateNormal;
+            });
     PlaceSubWindow(*window);
 }
 
@@ -168,6 +171,14 @@ void MainWindow::PlaceSubWindow(DocumentSubWindow& window) {
         area_->PlaceAt(window, static_cast<int>(area_->subWindowList().size()) - 1);
         window.show();
     }
+}
+
+// The window in front has the remembered state, however it was left.
+void MainWindow::ShowInState(DocumentSubWindow& window) {
+    const bool maximized = shell_.CurrentSettings().childState == kStateMaximized;
+    if (!window.isMinimized() && window.isMaximized() == maximized) return;
+    const ScopedValue changing(changing_, true);
+    maximized ? window.showMaximized() : window.showNormal();
 }
 
 void MainWindow::DocumentClosing(RecipeDocument& document) {
@@ -191,10 +202,8 @@ void MainWindow::DocumentActivated(RecipeDocument* document) {
     }
     DocumentSubWindow* window = WindowOf(*document);
     if (!window) return;
-    if (window->isMinimized())
-        shell_.CurrentSettings().childState == kStateMaximized ? window->showMaximized()
-                                                               : window->showNormal();
     if (area_->activeSubWindow() != window) area_->setActiveSubWindow(window);
+    ShowInState(*window);
     // Qt first gives the focus to the frame or to the tabs.
     const QWidget* focus = QApplication::focusWidget();
     if (!focus || !window->Document().IsEditing(*focus)) window->Document().setFocus();

@@ -72,6 +72,7 @@ class MainWindow final : public QMainWindow, private ShellView, private Document
     // Tells assistive programs which recipe is in front.
     void SpeakTitle();
     void PlaceSubWindow(DocumentSubWindow& window);
+    void ShowInState(DocumentSubWindow& window);
     void PressButton(CommandId command);
     // Commits a pending entry before a command that requires that. False if the entry was refused.
     bool FlushBefore(CommandId command);
