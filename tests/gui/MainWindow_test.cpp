@@ -171,6 +171,23 @@ TEST_F(MainWindow, CascadesEveryFrameWithinSight) {
         EXPECT_TRUE(area->viewport()->rect().contains(child->geometry())) << FromQt(child->windowTitle());
 }
 
+// The room on a screen of 960 by 540 pixels.
+TEST_F(MainWindow, ANewRecipeIsWhollyInSightOnASmallScreen) {
+    window.resize(950, 500);
+    QApplication::processEvents();
+    ASSERT_EQ(window.size(), QSize(950, 500));
+    auto* area = window.findChild<DocumentArea*>();
+    for (int i = 0; i < 3; ++i) {
+        NewRecipe();
+        const QWidget& frame = *window.ActiveWindow()->parentWidget();
+        EXPECT_FALSE(frame.isMaximized());
+        EXPECT_TRUE(area->viewport()->rect().contains(frame.geometry()));
+    }
+    BuildAllTabs();
+    QApplication::processEvents();
+    EXPECT_TRUE(area->viewport()->rect().contains(window.ActiveWindow()->parentWidget()->geometry()));
+}
+
 TEST_F(MainWindow, DialogsComeUpInTheSizeTheyWereLeftIn) {
     QtDialogs dialogs(outside.settings);
     QSize left, found;

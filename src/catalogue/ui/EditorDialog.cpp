@@ -16,6 +16,7 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/FocusMoves.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/ScrollingContents.h"
 #include "tree/ListFormats.h"
 #include "tree/ui/FolderChooserView.h"
 #include "tree/ui/TreePane.h"
@@ -28,7 +29,7 @@ constexpr int kNameDigits = 34;
 constexpr int kListDigits = 20;
 constexpr int kCellDigits = 9;
 constexpr int kDescriptionLines = 6;
-constexpr int kFolderUnits = 40;
+constexpr int kFolderUnits = 28;
 
 // Describes what a cell accepts, for its tool tip.
 const char* HintOf(CellCheck check) {
@@ -63,8 +64,10 @@ EditorDialog::EditorDialog(CatalogueEditor& model, QWidget* parent) : QDialog(pa
     setWindowTitle(ToQt(model.Form().title));
     // The access keys of the buttons and of the folder chooser.
     taken_ = model.Folders() != nullptr ? QStringLiteral("ASNR") : QStringLiteral("A");
-    auto* column = new QVBoxLayout(this);
-    SetSpacing(*column, *this, true);
+    auto* contents = new QWidget(this);
+    contents->setAccessibleName(windowTitle());
+    auto* column = new QVBoxLayout(contents);
+    SetSpacing(*column, *this, false);
     AddHead(*column);
     auto* middle = new QHBoxLayout;
     middle->setSpacing(Unit(*this) * kGroupUnits);
@@ -76,7 +79,10 @@ EditorDialog::EditorDialog(CatalogueEditor& model, QWidget* parent) : QDialog(pa
     column->addSpacing(Unit(*this));
     column->addLayout(middle);
     AddDescription(*column);
-    AddButtons(*column);
+    auto* frame = new QVBoxLayout(this);
+    SetSpacing(*frame, *this, true);
+    frame->addWidget(new ScrollingContents(contents, this), 1);
+    AddButtons(*frame);
     ShowModel();
     LookReadOnly();
     auto* name = findChild<QLineEdit*>(QStringLiteral("Text1"));

@@ -27,7 +27,7 @@
 namespace tw {
 namespace {
 
-constexpr QSize kLeastUnits(84, 60);
+constexpr QSize kLeastUnits(84, 44);
 constexpr int kStateMaximized = 2;
 constexpr int kStateNormal = 0;
 // How long an edit may exist in its window alone before it is kept.

@@ -15,6 +15,7 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/ColorButton.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/ScrollingContents.h"
 #include "shell/ui/IconStrip.h"
 #include "shell/ui/OptionsDialog.h"
 #include "shell/ui/UpDown.h"
@@ -49,7 +50,7 @@ QWidget* OptionsDialog::AddPage(const QString& caption) {
     auto* page = new QWidget(tabs_);
     page->setObjectName(QStringLiteral("ContainerBox(%1)").arg(tabs_->count()));
     page->setAccessibleName(caption);
-    tabs_->addTab(page, caption);
+    tabs_->addTab(new ScrollingContents(page, tabs_), caption);
     return page;
 }
 
