@@ -17,8 +17,11 @@ constexpr int kSteps = 6;
 constexpr int kStepUnits = 4;
 constexpr double kRoomyFactor = 1.4;
 
-// Where Qt puts the mark of a modified window into its title; doubled, it stands for itself.
+// Where Qt puts the mark of a modified window into its title.
 constexpr QLatin1String kMarkPlace("[*]");
+// The same characters to the eye. Doubling kMarkPlace would protect it in the title of the main window but
+// not in that of a recipe inside it, where Qt replaces both.
+constexpr QStringView kLooksLikeMarkPlace(u"[\u2060*]");
 
 }  // namespace
 
@@ -113,7 +116,7 @@ DocumentSubWindow::DocumentSubWindow(RecipeWindow* document, QWidget* parent)
 void DocumentSubWindow::ShowCaption(const QString& caption, bool modified) {
     caption_ = caption;
     QString title = caption;
-    title.replace(kMarkPlace, kMarkPlace + kMarkPlace);
+    title.replace(kMarkPlace, kLooksLikeMarkPlace.toString());
     setWindowTitle(title + kMarkPlace);
     setWindowModified(modified);
     document_->setAccessibleName(SpokenCaption());
