@@ -2,6 +2,7 @@
 #include "GuiTest.h"
 #include "document/ui/GapMark.h"
 #include "document/ui/NamePopup.h"
+#include "platform/qt/Appearance.h"
 #include "support/OtherNames.h"
 
 namespace tw::test {
@@ -54,6 +55,20 @@ TEST_F(NameLists, ShowsWhatFitsBestFirst) {
     EXPECT_FALSE(IsOpen());
     Type("pale m");
     EXPECT_EQ(Entries(), (Strings{"Pale Malt", "Pale Ale Malt"}));
+}
+
+TEST_F(NameLists, StandsOutFromTheCellsBelowInTheDark) {
+    QApplication::setPalette(DarkPalette());
+    QApplication::processEvents();
+    GridView& view = GridAt(Tab::Grains, "gridGrain", 1, 0);
+    Type("malt");
+    const QImage list = List().grab().toImage();
+    const QColor cell = view.palette().color(QPalette::Base);
+    for (const QPoint edge :
+         {QPoint(0, list.height() / 2), QPoint(list.width() / 2, 0),
+          QPoint(list.width() - 1, list.height() / 2), QPoint(list.width() / 2, list.height() - 1)})
+        EXPECT_GE(ContrastRatio(list.pixelColor(edge), cell), 3);
+    QApplication::setPalette(QPalette());
 }
 
 TEST_F(NameLists, TabTakesTheOnlyNameThatFits) {
@@ -207,6 +222,79 @@ TEST_F(NameLists, TheMenuOfAnUnknownNameAddsItToTheCatalogue) {
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(view.findChild<QAction*>(QStringLiteral("AddToCatalogue")), nullptr);
     QApplication::activePopupWidget()->close();
+}
+
+// While it exists, every statement fails, as on a disk that is gone.
+class DeadDatabase {
+  public:
+    explicit DeadDatabase(Database& database) : database_(database) {
+        database.SetStatementHook([](std::string_view) { throw Error("Store", "the disk is gone", 3024); });
+    }
+    ~DeadDatabase() { database_.SetStatementHook(nullptr); }
+    DeadDatabase(const DeadDatabase&) = delete;
+    DeadDatabase& operator=(const DeadDatabase&) = delete;
+
+  private:
+    Database& database_;
+};
+
+// Asks for all that a view, a tip or a screen reader may ask of a grid.
+void ReadAll(const GridView& view) {
+    for (int row = 0; row < view.Model().rowCount(); ++row)
+        for (int col = 0; col < view.Model().columnCount(); ++col)
+            for (const int role :
+                 {static_cast<int>(Qt::DisplayRole), static_cast<int>(Qt::ToolTipRole),
+                  static_cast<int>(Qt::AccessibleTextRole), static_cast<int>(Qt::AccessibleDescriptionRole),
+                  static_cast<int>(Qt::FontRole), static_cast<int>(GridModel::kGapRole)})
+                view.Model().index(row, col).data(role);
+}
+
+TEST_F(NameLists, ShowsARecipeEvenIfTheCatalogueCannotBeRead) {
+    GridView& grain = GridAt(Tab::Grains, "gridGrain", 1, 0);
+    Type("hull malt\t2 lb\t");
+    GridView& log = GridAt(Tab::Log, "gridLog", 1, LogCol::Action);
+    Type("Pitched Yeast\tNo such yeast\t");
+    const DeadDatabase dead(*shell.DB());
+    for (const GridView* view : {&grain, &log}) ReadAll(*view);
+    for (int tab = 0; tab < kTabs; ++tab) {
+        window.ActiveWindow()->ShowTab(static_cast<Tab>(tab));
+        EXPECT_FALSE(window.grab().isNull());
+    }
+    // The marks of the figures look again.
+    window.ActiveWindow()->ShowTab(Tab::General);
+    Find<QLineEdit>("txtNumBatches").setFocus();
+    Type("2\t");
+    QApplication::processEvents();
+    EXPECT_EQ(Text("txtNumBatches"), "2");
+    EXPECT_EQ(outside.messages.log, Strings());
+}
+
+TEST_F(NameLists, TheMenuOpensEvenIfTheCatalogueCannotBeRead) {
+    GridView& view = GridAt(Tab::Grains, "gridGrain", 1, 0);
+    Type("hull malt\t2 lb\t36\t");
+    view.setCurrentIndex(view.Model().index(0, 0));
+    const DeadDatabase dead(*shell.DB());
+    QContextMenuEvent menu(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(view.viewport(), &menu);
+    EXPECT_TRUE(window.findChild<QMenu*>(QStringLiteral("mnuEdit"))->isVisible());
+    EXPECT_EQ(view.findChild<QAction*>(QStringLiteral("AddToCatalogue")), nullptr);
+    EXPECT_EQ(outside.messages.log, Strings{"[Error] the disk is gone (3024)"});
+}
+
+TEST_F(NameLists, TypingAStyleSaysOnceThatTheCatalogueCannotBeRead) {
+    auto& styles = Find<QComboBox>("cmbStyle");
+    styles.setFocus();
+    {
+        const DeadDatabase dead(*shell.DB());
+        Type("sweet s");
+        EXPECT_FALSE(IsOpen());
+        EXPECT_EQ(outside.messages.log, Strings{"[Error] the disk is gone (3024)"});
+        Key(Qt::Key_Tab);
+        EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "(None)");
+    }
+    styles.setFocus();
+    Type("sweet s");
+    EXPECT_EQ(Entries(), Strings{"Sweet Stout"});
 }
 
 }  // namespace

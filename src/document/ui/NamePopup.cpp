@@ -1,6 +1,7 @@
 #include "document/ui/NamePopup.h"
 
 #include <QAbstractListModel>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
@@ -95,6 +96,7 @@ NamePopup::NamePopup(QLineEdit& edit, std::function<NameList()> names)
     setModel(matches_);
     setItemDelegate(new Painter(this));
     setUniformItemSizes(true);
+    setFrameStyle(QFrame::Box | QFrame::Plain);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -136,6 +138,11 @@ void NamePopup::Show(const QString& typed) {
     scrollToTop();
     Place();
     if (isHidden()) {
+        // The frame sets the list off from the cells below it, which have the same background. The desktop's
+        // colours may have changed since the last time.
+        QPalette frame;
+        frame.setColor(QPalette::WindowText, HintColor(QApplication::palette(this)));
+        setPalette(frame);
         edit_.window()->installEventFilter(this);
         show();
     }
