@@ -115,6 +115,30 @@ TEST_F(WindowSizes, TheMainWindowFitsAtTheFirstStartAndLater) {
     EXPECT_EQ(place(larger), room);
 }
 
+// The build runs this test on a desktop of two screens.
+TEST_F(WindowSizes, TheMainWindowComesBackToTheScreenOnWhichItWasLeft) {
+    if (QGuiApplication::screens().size() < 2) GTEST_SKIP() << "needs two screens";
+    outside.settings.Write(SettingsPort::Layer::User, "Settings", "MainWidth", "9000");
+    const QScreen& first = *QGuiApplication::screens()[0];
+    const QScreen& second = *QGuiApplication::screens()[1];
+    const double dots = first.logicalDotsPerInch();
+    const auto place = [&](const QPoint& corner) {
+        Settings settings;
+        settings.mainLeft = TwipsOfPixels(corner.x(), dots),
+        settings.mainTop = TwipsOfPixels(corner.y(), dots);
+        settings.mainWidth = TwipsOfPixels(600, dots), settings.mainHeight = TwipsOfPixels(400, dots);
+        QMainWindow main;
+        ApplyGeometry(main, settings, shell.Store());
+        return QRect(main.pos(), main.size());
+    };
+    EXPECT_EQ(place(second.geometry().topLeft() + QPoint(50, 60)),
+              QRect(second.geometry().topLeft() + QPoint(50, 60), QSize(600, 400)));
+    EXPECT_EQ(place(first.geometry().topLeft() + QPoint(50, 60)),
+              QRect(first.geometry().topLeft() + QPoint(50, 60), QSize(600, 400)));
+    // Nowhere, since a screen is gone.
+    EXPECT_TRUE(first.geometry().contains(place(second.geometry().topRight() + QPoint(900, 60))));
+}
+
 TEST_F(WindowSizes, AMaximizedWindowKeepsThePlaceThatItHadBefore) {
     window.resize(700, 450);
     window.move(30, 40);

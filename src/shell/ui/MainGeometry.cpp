@@ -1,5 +1,6 @@
 #include "shell/ui/MainGeometry.h"
 
+#include <QGuiApplication>
 #include <QMainWindow>
 #include <QScreen>
 
@@ -23,6 +24,12 @@ bool IsFirstStart(const SettingsStore& store) {
     return store.GetSetting(kSettingsSection, "MainWidth", {}).empty();
 }
 
+QRect StoredGeometry(const Settings& settings, double dotsPerInch) {
+    const auto pixels = [&](double twips) { return PixelsOfTwips(twips, dotsPerInch); };
+    return {pixels(settings.mainLeft), pixels(settings.mainTop), pixels(settings.mainWidth),
+            pixels(settings.mainHeight)};
+}
+
 }  // namespace
 
 QSize FirstSize(const QWidget& window) {
@@ -30,12 +37,13 @@ QSize FirstSize(const QWidget& window) {
 }
 
 QRect GeometryOf(const Settings& settings, double dotsPerInch, const QSize& least, const QRect& room) {
-    const auto pixels = [&](double twips) { return PixelsOfTwips(twips, dotsPerInch); };
-    const QSize wanted = QSize(pixels(settings.mainWidth), pixels(settings.mainHeight)).expandedTo(least);
-    return FittedInto({QPoint(pixels(settings.mainLeft), pixels(settings.mainTop)), wanted}, room);
+    const QRect stored = StoredGeometry(settings, dotsPerInch);
+    return FittedInto({stored.topLeft(), stored.size().expandedTo(least)}, room);
 }
 
 void ApplyGeometry(QMainWindow& window, const Settings& settings, const SettingsStore& store) {
+    const QPoint center = StoredGeometry(settings, window.screen()->logicalDotsPerInch()).center();
+    if (QScreen* const screen = QGuiApplication::screenAt(center)) window.setScreen(screen);
     const QScreen& screen = *window.screen();
     const QSize least = IsFirstStart(store) ? FirstSize(window) : window.minimumSize();
     const QRect geometry = GeometryOf(settings, screen.logicalDotsPerInch(), least, RoomOf(window));
