@@ -16,6 +16,7 @@
 #include "help/ui/AssistantDialog.h"
 #include "help/ui/HelpContentsDialog.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/FileDialog.h"
 #include "reports/NoPrinterModel.h"
 #include "reports/ui/ChooseFontDialog.h"
 #include "reports/ui/NoPrinterDialog.h"
@@ -23,13 +24,17 @@
 #include "reports/ui/PrintPreviewDialog.h"
 #include "reports/ui/PrintWizardDialog.h"
 #include "shell/AboutModel.h"
+#include "shell/AutoSave.h"
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
+#include "shell/RecoveryModel.h"
 #include "shell/ui/AboutDialog.h"
+#include "shell/ui/AutoSaveDialog.h"
 #include "shell/ui/ImportExportDialog.h"
 #include "shell/ui/NameConflictDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
 #include "shell/ui/OptionsDialog.h"
+#include "shell/ui/RecoveryDialog.h"
 #include "shell/ui/StylesNotImportedDialog.h"
 #include "support/RecordingHelp.h"
 #include "tools/ui/ColorScaleDialog.h"
@@ -88,6 +93,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         ForEachTool(visit);
         ForEachChooser(visit);
         ForEachExchange(visit);
+        ForEachKeeper(visit);
         ForEachEditor(visit);
         ForEachReport(visit);
         for (const Scaling what :
@@ -150,6 +156,22 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             widget->show();
             QApplication::processEvents();
             visit(*widget);
+        }
+    }
+
+    // Visits the windows that appear by themselves: of a recovery and of an autosave.
+    void ForEachKeeper(const std::function<void(QWidget&)>& visit) {
+        std::vector<LostRecipe> lost(1);
+        lost[0].snapshot.fields = {{"txtName", std::string(1000, 'W'), std::string(1000, 'W')}};
+        RecoveryModel recovery(shell.Unsaved(), outside.messages, std::move(lost));
+        AutoSaveModel saves(shell.Documents(), [](RecipeDocument&) {});
+        RecoveryDialog recoveryWindow(recovery, nullptr);
+        AutoSaveDialog savesWindow(saves, nullptr);
+        for (QDialog* dialog :
+             {static_cast<QDialog*>(&recoveryWindow), static_cast<QDialog*>(&savesWindow)}) {
+            dialog->show();
+            QApplication::processEvents();
+            visit(*dialog);
         }
     }
 
@@ -290,11 +312,20 @@ constexpr QSize kSmallRoom(950, 500);
 TEST_P(Layout, EveryWindowCanBeMadeToFitASmallScreen) {
     if (qEnvironmentVariable("TUNWRIGHT_TEST_FONT_SCALE").toDouble() > 1.25)
         GTEST_SKIP() << "for the fonts of usual desktops";
-    ForEachWindow([](QWidget& top) {
+    const auto check = [](QWidget& top) {
         const QSize least = top.minimumSizeHint().expandedTo(top.minimumSize());
         EXPECT_LE(least.width(), kSmallRoom.width()) << NameOf(top, top.windowTitle());
         EXPECT_LE(least.height(), kSmallRoom.height()) << NameOf(top, top.windowTitle());
-    });
+    };
+    ForEachWindow(check);
+    // Qt's own windows.
+    FileDialogModel files({}, outside.messages);
+    FileDialog filesWindow(files, nullptr);
+    QColorDialog colors;
+    for (QDialog* dialog : {static_cast<QDialog*>(&filesWindow), static_cast<QDialog*>(&colors)}) {
+        dialog->show();
+        check(*dialog);
+    }
 }
 
 TEST_P(Layout, NoHeadingOfAGridIsCut) {

@@ -34,7 +34,7 @@ RecoveryDialog::RecoveryDialog(RecoveryModel& model, QWidget* parent)
     auto* column = new QVBoxLayout(this);
     SetSpacing(*column, *this, true);
     auto* text =
-        new QLabel(tr("The program ended before these &recipes were saved. Restored ones open with their "
+        new QLabel(tr("The program ended before these re&cipes were saved. Restored ones open with their "
                       "changes; what is stored stays as it is until you save them."),
                    this);
     text->setWordWrap(true);
