@@ -5,6 +5,7 @@
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/ScreenRoom.h"
+#include "platform/qt/ScrollingContents.h"
 #include "shell/AboutModel.h"
 #include "shell/ui/MainGeometry.h"
 
@@ -153,6 +154,37 @@ TEST_F(WindowSizes, AMaximizedWindowKeepsThePlaceThatItHadBefore) {
     EXPECT_EQ(PixelsOfTwips(kept.mainTop, dots), 40);
     EXPECT_EQ(PixelsOfTwips(kept.mainWidth, dots), 700);
     EXPECT_EQ(PixelsOfTwips(kept.mainHeight, dots), 450);
+}
+
+TEST(ScrollingContents, AreShownWholeWhereThereIsRoomAndScrollToTheFocus) {
+    QWidget window;
+    auto* frame = new QVBoxLayout(&window);
+    auto* contents = new QWidget;
+    auto* column = new QVBoxLayout(contents);
+    std::vector<QLineEdit*> boxes;
+    for (int i = 0; i < 20; ++i) column->addWidget(boxes.emplace_back(new QLineEdit(contents)));
+    auto* scrolling = new ScrollingContents(contents, &window);
+    frame->addWidget(scrolling);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    window.resize(window.sizeHint());
+    QApplication::processEvents();
+    EXPECT_FALSE(scrolling->verticalScrollBar()->isVisible());
+    window.resize(window.width(), 200);
+    QApplication::processEvents();
+    ASSERT_EQ(window.height(), 200);
+    EXPECT_TRUE(scrolling->verticalScrollBar()->isVisible());
+    EXPECT_FALSE(scrolling->horizontalScrollBar()->isVisible());
+    const auto isInSight = [&](const QLineEdit& box) {
+        return scrolling->viewport()->rect().contains(
+            QRect(box.mapTo(scrolling->viewport(), QPoint(0, 0)), box.size()));
+    };
+    EXPECT_FALSE(isInSight(*boxes.back()));
+    // As by the access key of its label.
+    boxes.back()->setFocus(Qt::ShortcutFocusReason);
+    EXPECT_TRUE(isInSight(*boxes.back()));
+    boxes.front()->setFocus(Qt::ShortcutFocusReason);
+    EXPECT_TRUE(isInSight(*boxes.front()));
 }
 
 TEST(ScreenRoom, MovesBeforeItShrinks) {
