@@ -248,7 +248,7 @@ BENCHMARK(BM_OpenRecipe)->UseManualTime()->Unit(benchmark::kMicrosecond);
 class NoQuestions : public CopyHost {
   public:
     bool Continue(const std::string&, int, int) override { return true; }
-    ConflictAnswer ResolveConflict(const std::string&) override { return {}; }
+    ConflictAnswer ResolveConflict(const std::string&, const std::string&) override { return {}; }
     bool ContinueAfter(const std::string&) override { return false; }
 };
 

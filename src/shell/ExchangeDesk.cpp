@@ -17,8 +17,9 @@ void ExchangeDesk::RebuildTree() {
 
 void ExchangeDesk::Run(const std::function<void(RecipeExchange&)>& operation) {
     if (running_) return;
-    RecipeExchange files(data_.platform, *data_.database, data_.objects, data_.tree, own_,
-                         [this] { RebuildTree(); });
+    RecipeExchange files(
+        data_.platform, *data_.database, data_.objects, data_.tree, own_,
+        {[this] { RebuildTree(); }, [this](const std::string& text) { view_->SayBriefly(text); }});
     const ScopedValue running(running_, true);
     operation(files);
 }

@@ -1,7 +1,5 @@
 #include "shell/NameConflictModel.h"
 
-#include <utility>
-
 #include "values/Text.h"
 
 namespace tw {

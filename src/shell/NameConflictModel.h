@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "platform/FormModel.h"
 #include "platform/Ports.h"
@@ -19,6 +20,12 @@ class NameConflictModel final : public FormModel {
 
     // dirIn is true for an import, false for an export. messages must outlive the dialog.
     NameConflictModel(std::string recipeName, bool dirIn, MessagePort& messages);
+
+    // Sets a free name, which the window puts into txtNewName when it opens. Without a window, txtNewName
+    // begins with the name of the recipe, on which scripts rely.
+    void SetProposal(std::string freeName) { proposal_ = std::move(freeName); }
+    // Empty if none has been set.
+    const std::string& Proposal() const { return proposal_; }
 
     const ConflictAnswer& Result() const { return answer_; }
     const std::string& RecipeName() const { return recipeName_; }
@@ -39,6 +46,7 @@ class NameConflictModel final : public FormModel {
 
     std::string recipeName_;
     std::string newName_;
+    std::string proposal_;
     bool dirIn_;
     MessagePort& messages_;
     ConflictAnswer answer_;

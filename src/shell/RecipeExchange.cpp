@@ -63,8 +63,9 @@ class RecipeExchange::Host final : public CopyHost {
         return progress_.Show(name, number, total);
     }
 
-    ConflictAnswer ResolveConflict(const std::string& name) override {
+    ConflictAnswer ResolveConflict(const std::string& name, const std::string& freeName) override {
         NameConflictModel dialog(name, isImport_, platform_.messages);
+        dialog.SetProposal(freeName);
         const auto pause = Pause(progress_);
         platform_.dialogs.ShowModal(dialog);
         return dialog.Result();
@@ -146,21 +147,24 @@ std::optional<RecipeExchange::Choice> RecipeExchange::AskWhatToImport(const TWTr
 void RecipeExchange::ExportTo(const std::string& path, bool append, std::span<const std::string> names) {
     std::unique_ptr<Database> old;
     if (append && FileExists(path) && !(old = Open(path))) return;
+    int exported = 0;
     ProgressModel progress("Exporting Recipes", [&](ProgressModel& shown) {
-        Trap([&] { CopyOut(path, std::move(old), names, shown); });
+        Trap([&] { exported = CopyOut(path, std::move(old), names, shown); });
     });
     platform_.dialogs.ShowModal(progress);
+    SayWhatCame("Exported", exported, " to " + fs::path(path).filename().string());
 }
 
-void RecipeExchange::CopyOut(const std::string& path, std::unique_ptr<Database> old,
-                             std::span<const std::string> names, ProgressModel& progress) {
+int RecipeExchange::CopyOut(const std::string& path, std::unique_ptr<Database> old,
+                            std::span<const std::string> names, ProgressModel& progress) {
     const TargetFile target = Target(path);
     const bool isNew = old == nullptr;
     ExchangeCopy file = isNew ? ExchangeCopy(main_) : ExchangeCopy(std::move(old));
     UnitOfWork unit(file.Contents());
     Host host(platform_, progress, false);
+    int exported = 0;
     try {
-        RecipeCopier(main_, file.Contents(), host).ExportRecipes(names);
+        exported = RecipeCopier(main_, file.Contents(), host).ExportRecipes(names);
     } catch (const Error&) {
         // A new file is written completely or not at all; an existing one keeps what was added before
         // the error.
@@ -169,6 +173,7 @@ void RecipeExchange::CopyOut(const std::string& path, std::unique_ptr<Database> 
     }
     unit.Commit();
     file.Save(target);
+    return exported;
 }
 
 void RecipeExchange::SaveWhatCame(UnitOfWork& unit, const ExchangeCopy& file, const TargetFile& target) {
@@ -198,36 +203,49 @@ void RecipeExchange::ImportChosen(const std::string& path, const Chooser& choose
         choice = choose(tree);
     });
     if (!choice) return;
-    ProgressModel progress("Importing Recipes", [&](ProgressModel& shown) { CopyIn(*file, *choice, shown); });
+    int imported = 0;
+    ProgressModel progress("Importing Recipes",
+                           [&](ProgressModel& shown) { imported = CopyIn(*file, *choice, shown); });
     platform_.dialogs.ShowModal(progress);
+    SayWhatCame("Imported", imported);
 }
 
 // Updates the progress window while the file is being read. Cancelling interrupts the search for recipes at
 // once; later it takes effect after the current recipe, so that none is imported in part.
-void RecipeExchange::CopyWatched(Database& file, const Choice& choice, ProgressModel& progress,
-                                 StylesNotImported& stylesNotImported) {
+int RecipeExchange::CopyWatched(Database& file, const Choice& choice, ProgressModel& progress,
+                                StylesNotImported& stylesNotImported) {
     Host host(platform_, progress, true);
     const ScopeGuard end([&file] { file.SetWatch({}); });
     const int total = static_cast<int>(choice.names.size());
     file.SetWatch([&] { return progress.Show(progress.Name(), progress.Done(), total) || host.HasBegun(); });
     try {
-        RecipeCopier(main_, file, host).ImportRecipes(choice.names, choice.folderId, stylesNotImported);
+        return RecipeCopier(main_, file, host)
+            .ImportRecipes(choice.names, choice.folderId, stylesNotImported);
     } catch (const Error& error) {
         const bool calledOff = error.Number() == Database::kInterruptedNumber && progress.IsCancelled();
         if (!calledOff) throw;
+        return 0;
     }
 }
 
-void RecipeExchange::CopyIn(Database& file, const Choice& choice, ProgressModel& progress) {
+int RecipeExchange::CopyIn(Database& file, const Choice& choice, ProgressModel& progress) {
     StylesNotImported unknown;
-    const bool copied = Trap([&] { CopyWatched(file, choice, progress, unknown); });
+    int imported = 0;
+    const bool copied = Trap([&] { imported = CopyWatched(file, choice, progress, unknown); });
     if (copied && !unknown.empty()) {
         StylesNotImportedModel dialog(std::move(unknown));
         const auto pause = Pause(progress);
         platform_.dialogs.ShowModal(dialog);
     }
     // Even after an error, so that the tree shows what has been copied before it.
-    Trap(rebuildTree_);
+    Trap(hooks_.rebuildTree);
+    return imported;
+}
+
+void RecipeExchange::SayWhatCame(std::string_view done, int count, const std::string& where) {
+    if (count == 0) return;
+    const std::string recipes = std::to_string(count) + (count == 1 ? " recipe" : " recipes");
+    hooks_.sayBriefly(std::string(done) + " " + recipes + where);
 }
 
 }  // namespace tw

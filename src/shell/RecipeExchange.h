@@ -7,6 +7,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/OwnFiles.h"
@@ -26,16 +27,21 @@ class ProgressModel;
 // that is not a database is reported in other words.
 class RecipeExchange {
   public:
-    // rebuildTree brings the program's tree in line with the database. REQUIRES: all arguments outlive
-    // the object.
+    struct Hooks {
+        // Brings the program's tree in line with the database.
+        std::function<void()> rebuildTree;
+        // Told how many recipes were exported or imported, unless none was.
+        std::function<void(const std::string& text)> sayBriefly;
+    };
+    // REQUIRES: all arguments outlive the object.
     RecipeExchange(Platform& platform, Database& main, DB_IO& objects, const TWTree& tree, OwnFiles& own,
-                   std::function<void()> rebuildTree)
+                   Hooks hooks)
         : platform_(platform),
           main_(main),
           objects_(objects),
           tree_(tree),
           own_(own),
-          rebuildTree_(std::move(rebuildTree)) {}
+          hooks_(std::move(hooks)) {}
 
     // Export and import with all dialogs; cancelling one ends the operation without a message.
     void Export();
@@ -63,15 +69,18 @@ class RecipeExchange {
     std::unique_ptr<Database> Open(const std::string& path);
     // Returns the file that an export is to write. Raises Error if it must not be written.
     TargetFile Target(const std::string& path) const;
-    // old is the file to add to; nullptr for a new one.
-    void CopyOut(const std::string& path, std::unique_ptr<Database> old, std::span<const std::string> names,
-                 ProgressModel& progress);
+    // Returns the number of recipes written. old is the file to add to; nullptr for a new one.
+    int CopyOut(const std::string& path, std::unique_ptr<Database> old, std::span<const std::string> names,
+                ProgressModel& progress);
     static void SaveWhatCame(UnitOfWork& unit, const ExchangeCopy& file, const TargetFile& target);
     void ImportChosen(const std::string& path, const Chooser& choose);
     std::optional<Choice> AskWhatToImport(const TWTree& tree);
-    void CopyIn(Database& file, const Choice& choice, ProgressModel& progress);
-    void CopyWatched(Database& file, const Choice& choice, ProgressModel& progress,
-                     StylesNotImported& stylesNotImported);
+    // Both return the number of recipes imported, 0 after an error.
+    int CopyIn(Database& file, const Choice& choice, ProgressModel& progress);
+    int CopyWatched(Database& file, const Choice& choice, ProgressModel& progress,
+                    StylesNotImported& stylesNotImported);
+    // Says, unless count is 0, what has been done to so many recipes.
+    void SayWhatCame(std::string_view done, int count, const std::string& where = {});
     // Runs operation. If it raises an error, shows it and returns false.
     bool Trap(const std::function<void()>& operation);
 
@@ -80,7 +89,7 @@ class RecipeExchange {
     DB_IO& objects_;
     const TWTree& tree_;
     OwnFiles& own_;
-    std::function<void()> rebuildTree_;
+    Hooks hooks_;
 };
 
 }  // namespace tw

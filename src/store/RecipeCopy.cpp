@@ -166,21 +166,40 @@ void RecipeNames::Put(std::string_view name, std::int64_t id) {
     ids_[NameKey(name)] = id;
 }
 
-void RecipeCopier::ExportRecipes(std::span<const std::string> names) {
-    isImport_ = false;
-    CopyRecipes(names);
+std::string RecipeNames::FreeName(std::string_view name) const {
+    constexpr std::size_t kMostDigits = 2;
+    std::string_view base = Trim(name);
+    int number = 2;
+    const std::size_t open = base.rfind(" (");
+    if (open != std::string_view::npos && base.ends_with(')')) {
+        const std::string_view digits = base.substr(open + 2, base.size() - open - 3);
+        if (!digits.empty() && digits.size() <= kMostDigits &&
+            digits.find_first_not_of("0123456789") == std::string_view::npos) {
+            number = std::stoi(std::string(digits)) + 1;
+            base = base.substr(0, open);
+        }
+    }
+    const auto numbered = [&] { return std::string(base) + " (" + std::to_string(number) + ")"; };
+    while (Find(numbered())) ++number;
+    return numbered();
 }
 
-void RecipeCopier::ImportRecipes(std::span<const std::string> names, std::int64_t destFolderId,
-                                 StylesNotImported& stylesNotImported) {
+int RecipeCopier::ExportRecipes(std::span<const std::string> names) {
+    isImport_ = false;
+    return CopyRecipes(names);
+}
+
+int RecipeCopier::ImportRecipes(std::span<const std::string> names, std::int64_t destFolderId,
+                                StylesNotImported& stylesNotImported) {
     isImport_ = true;
     destFolderId_ = destFolderId;
     stylesNotImported_ = &stylesNotImported;
     stylesNotImported.clear();
-    CopyRecipes(names);
+    return CopyRecipes(names);
 }
 
-void RecipeCopier::CopyRecipes(std::span<const std::string> names) {
+int RecipeCopier::CopyRecipes(std::span<const std::string> names) {
+    copied_ = 0;
     UnitOfWork unit(Dest());
     std::optional<ReadingUnit> reading;
     if (isImport_) reading.emplace(file_);
@@ -193,6 +212,7 @@ void RecipeCopier::CopyRecipes(std::span<const std::string> names) {
         if (CopyRecipe(name) == Step::Stop) break;
     }
     unit.Commit();
+    return copied_;
 }
 
 RecipeCopier::Step RecipeCopier::CopyRecipe(const std::string& name) {
@@ -225,12 +245,13 @@ RecipeCopier::Step RecipeCopier::CopyRows(std::int64_t sourceId, std::optional<s
     destNames_.Put(newName, *newId);
     for (const std::string& table : kLineTables) CopyLines(table, oldId, sourceId, *newId);
     if (replacement) replacement->Keep();
+    ++copied_;
     return Step::Next;
 }
 
 std::optional<std::string> RecipeCopier::ResolveName(std::string newName) {
     while (destNames_.Find(newName)) {
-        const ConflictAnswer answer = host_.ResolveConflict(newName);
+        const ConflictAnswer answer = host_.ResolveConflict(newName, destNames_.FreeName(newName));
         switch (answer.response) {
             case ConflictResponse::Overwrite:
                 return newName;

@@ -29,7 +29,8 @@ class CopyHost {
     // Called before each recipe with its index, from 0, and the total number of recipes. Returns false
     // to stop.
     virtual bool Continue(const std::string& name, int number, int total) = 0;
-    virtual ConflictAnswer ResolveConflict(const std::string& name) = 0;
+    // freeName is a similar name that the destination does not have.
+    virtual ConflictAnswer ResolveConflict(const std::string& name, const std::string& freeName) = 0;
     // Called if a recipe cannot be copied; text says why. Returns true to continue with the next recipe,
     // false to stop.
     virtual bool ContinueAfter(const std::string& text) = 0;
@@ -55,6 +56,9 @@ class RecipeNames {
     // Returns the ID of the recipe of that name, the lowest ID of several; nullopt if there is none.
     std::optional<std::int64_t> Find(std::string_view name) const;
     void Put(std::string_view name, std::int64_t id);
+    // Returns a name that is not among them: the name with the first free number, "Mild (2)" for "Mild" and
+    // "Mild (3)" for "Mild (2)". A number of more than two digits, such as a year, belongs to the name.
+    std::string FreeName(std::string_view name) const;
 
   private:
     std::unordered_map<std::string, std::int64_t> ids_;
@@ -69,19 +73,21 @@ class RecipeCopier {
     // main, file and host must outlive the copier.
     RecipeCopier(Database& main, Database& file, CopyHost& host) : main_(main), file_(file), host_(host) {}
 
+    // Both functions return the number of recipes that were copied.
+    //
     // Copies from the main database to the file, replacing style IDs by style names.
-    void ExportRecipes(std::span<const std::string> names);
+    int ExportRecipes(std::span<const std::string> names);
     // Copies from the file into that folder of the main database. A recipe whose style the main database does
     // not have gets no style and an entry in stylesNotImported, which is cleared first.
-    void ImportRecipes(std::span<const std::string> names, std::int64_t destFolderId,
-                       StylesNotImported& stylesNotImported);
+    int ImportRecipes(std::span<const std::string> names, std::int64_t destFolderId,
+                      StylesNotImported& stylesNotImported);
 
   private:
     enum class Step { Next, Stop };
 
     Database& Source() { return isImport_ ? file_ : main_; }
     Database& Dest() { return isImport_ ? main_ : file_; }
-    void CopyRecipes(std::span<const std::string> names);
+    int CopyRecipes(std::span<const std::string> names);
     Step CopyRecipe(const std::string& name);
     // Returns the name to copy under, empty to leave the recipe out; nullopt to stop the run.
     std::optional<std::string> ResolveName(std::string newName);
@@ -102,6 +108,7 @@ class RecipeCopier {
     CopyHost& host_;
     RecipeNames sourceNames_, destNames_;
     bool isImport_ = false;
+    int copied_ = 0;  // recipes of the present run
     std::int64_t destFolderId_ = 0;
     StylesNotImported* stylesNotImported_ = nullptr;
 };

@@ -102,6 +102,22 @@ TEST_F(Exchange, ANewNameIsTypedOverTheOldOneAndTakenWithEnter) {
     EXPECT_EQ(model.Result().response, ConflictResponse::Rename);
 }
 
+TEST_F(Exchange, AFreeNameIsProposedAndTakenWithEnterOrTypedOver) {
+    for (const bool typed : {false, true}) {
+        NameConflictModel model("Mild", true, outside.messages);
+        model.SetProposal("Mild (2)");
+        NameConflictDialog dialog(model, nullptr);
+        Show(dialog);
+        const auto& box = *dialog.findChild<QLineEdit*>(QStringLiteral("txtNewName"));
+        EXPECT_EQ(FromQt(box.selectedText()), "Mild (2)");
+        if (typed) Type("Dark");
+        Key(Qt::Key_Return);
+        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_EQ(model.Result().newName, typed ? "Dark" : "Mild (2)");
+    }
+    EXPECT_EQ(outside.messages.log, Strings{});
+}
+
 TEST_F(Exchange, EachAnswerToATakenNameHasItsKey) {
     const auto answerTo = [&](const char* button, Qt::Key key) {
         NameConflictModel model("Mild", false, outside.messages);

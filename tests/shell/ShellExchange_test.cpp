@@ -2,6 +2,7 @@
 #include <fstream>
 
 #include "shell/ImportExportModel.h"
+#include "shell/NameConflictModel.h"
 #include "shell/ShellTest.h"
 #include "store/ExchangeFile.h"
 #include "store/Schema.h"
@@ -34,6 +35,13 @@ class ShellExchangeTest : public ShellTest {
     }
     void GiveFile(const std::string& path) { NextDialog({{{"FileName", path}}, {"cmdOK"}}); }
     void GiveFolder(int id) { NextDialog({{{"FolderChooser1", std::to_string(id)}}, {"cmdOK"}}); }
+    // What the status bar has said since the last call.
+    Strings News() {
+        Strings news;
+        for (const std::string& line : std::exchange(view.log, {}))
+            if (line.starts_with("news: ")) news.push_back(line.substr(6));
+        return news;
+    }
     Strings TakeShown() { return std::exchange(outside.dialogs.shown, {}); }
 
     void MakeFile(const Strings& names) {
@@ -148,7 +156,7 @@ TEST_F(ShellExchangeTest, TheFirstImportLightsTheCommandsOfRecipes) {
     EXPECT_TRUE(Lit("mnuFileOpen"));
     EXPECT_TRUE(Lit("mnuFileExport"));
     // The empty main window shows which commands are now enabled.
-    EXPECT_EQ(view.log, Strings{"activated none"});
+    EXPECT_EQ(view.log, (Strings{"activated none", "news: Imported 1 recipe"}));
 }
 
 TEST_F(ShellExchangeTest, WithoutNamesAllRecipesOfTheFileComeIn) {
@@ -207,6 +215,53 @@ TEST_F(ShellExchangeTest, AnOpenRecipeThatIsOverwrittenStaysAsItWas) {
     EXPECT_EQ(document.Record().txtNotes.Text(), "typed since");
     EXPECT_EQ(Captions(), Strings{"Mild"});
     EXPECT_EQ(RecipeNames(*shell.DB()), Strings{"Mild"});
+}
+
+TEST_F(ShellExchangeTest, TheStatusBarSaysHowManyRecipesCame) {
+    MakeFile({"Bock", "Mild", "Stout"});
+    EXPECT_EQ(News(), Strings{"Exported 3 recipes to Ales.TWR"});
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
+    EXPECT_EQ(News(), Strings{"Imported 3 recipes"});
+    NextDialog({{}, {"cmdSkip"}});
+    NextDialog({{}, {"cmdOverwrite"}});
+    shell.Opened()->files.ExportRecipes(file, true, {"Bock", "Mild"});
+    EXPECT_EQ(News(), Strings{"Exported 1 recipe to Ales.TWR"});
+    PickAll();
+    GiveFolder(0);
+    for (const char* answer : {"cmdOverwrite", "cmdOverwrite", "cmdAbort"}) NextDialog({{}, {answer}});
+    shell.Opened()->files.ImportFromPath("\"" + file + "\"");
+    EXPECT_EQ(News(), Strings{"Imported 2 recipes"});
+}
+
+TEST_F(ShellExchangeTest, NothingIsSaidOfRecipesThatDidNotCome) {
+    MakeFile({"Mild"});
+    AddRecipeRow(*shell.DB(), "Mild");
+    News();
+    NextDialog({{}, {"cmdSkip"}});
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
+    NextDialog({{}, {"cmdAbort"}});
+    shell.Opened()->files.ExportRecipes(file, true, {"Mild"});
+    NextDialog({{}, {"cmdCancel"}});
+    shell.Opened()->files.ImportFile(file);
+    shell.Opened()->files.ExportRecipes(folder.File("none/Ales.TWR"), true, {"Mild"});
+    EXPECT_EQ(outside.messages.TakeLog().size(), 1u);
+    EXPECT_EQ(News(), Strings{});
+}
+
+TEST_F(ShellExchangeTest, TheQuestionAboutANameProposesAFreeOne) {
+    NewSaved("Mild");
+    NewSaved("Mild (2)");
+    shell.Opened()->files.ExportRecipes(file, true, {"Mild"});
+    outside.dialogs.scripts.emplace_back([&](DialogModel& dialog) {
+        const auto& conflict = dynamic_cast<NameConflictModel&>(dialog);
+        EXPECT_EQ(conflict.Proposal(), "Mild (3)");
+        EXPECT_EQ(conflict.NewName(), "Mild");
+    });
+    shell.Opened()->files.ImportRecipes(file, 0, std::nullopt);
+    outside.dialogs.scripts.emplace_back([&](DialogModel& dialog) {
+        EXPECT_EQ(dynamic_cast<NameConflictModel&>(dialog).Proposal(), "Mild (2)");
+    });
+    shell.Opened()->files.ExportRecipes(file, true, {"Mild"});
 }
 
 TEST_F(ShellExchangeTest, AMissingRecipeAsksWhetherToGoOn) {

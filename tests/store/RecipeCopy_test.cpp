@@ -22,8 +22,9 @@ class Host : public CopyHost {
         log.push_back(std::to_string(number) + "/" + std::to_string(total) + " " + name);
         return number != stopAt;
     }
-    ConflictAnswer ResolveConflict(const std::string& name) override {
+    ConflictAnswer ResolveConflict(const std::string& name, const std::string& freeName) override {
         conflicts.push_back(name);
+        freeNames.push_back(freeName);
         if (answers.empty()) return {};
         ConflictAnswer answer = answers.front();
         answers.pop_front();
@@ -38,7 +39,7 @@ class Host : public CopyHost {
     std::deque<ConflictAnswer> answers;
     bool goOn = true;
     int stopAt = -1;
-    Strings log, conflicts, errors, debug;
+    Strings log, conflicts, freeNames, errors, debug;
 };
 
 const ConflictAnswer kOverwrite{ConflictResponse::Overwrite, ""};
@@ -235,6 +236,41 @@ TEST_F(RecipeCopyTest, ARenamedRecipeIsAskedAboutUntilItsNameIsFree) {
     Import({"Mild"});
     EXPECT_EQ(host.conflicts, (Strings{"Mild", "STOUT"}));
     EXPECT_EQ(Names(*main), (Rows{{"Mild"}, {"Stout"}, {"Mild 2"}}));
+}
+
+TEST_F(RecipeCopyTest, EachQuestionComesWithANameThatIsFreeAtTheDestination) {
+    for (const char* name : {"Mild", "mild (2)", "Porter (2)"}) PutIntoMain(name);
+    for (const char* name : {"Mild", "Porter (2)", "Mild (4)"}) PutIntoFile(name);
+    host.answers = {RenameTo("Mild (3)"), kSkip, kSkip};
+    Import({"Mild", "Porter (2)"});
+    EXPECT_EQ(host.freeNames, (Strings{"Mild (3)", "Porter (3)"}));
+    // The next question also counts the names that this run has given.
+    Import({"Mild"});
+    EXPECT_EQ(host.freeNames.back(), "Mild (4)");
+}
+
+TEST(RecipeNamesTest, AFreeNameCountsOnFromTheNumberOfTheName) {
+    RecipeNames names;
+    names.Put("Mild", 1);
+    EXPECT_EQ(names.FreeName("Mild"), "Mild (2)");
+    EXPECT_EQ(names.FreeName(" Mild (7) "), "Mild (8)");
+    names.Put("MILD (8)", 2);
+    EXPECT_EQ(names.FreeName("Mild (7)"), "Mild (9)");
+    // Only a short number counts.
+    EXPECT_EQ(names.FreeName("Vintage (2019)"), "Vintage (2019) (2)");
+    EXPECT_EQ(names.FreeName("Mild (dark)"), "Mild (dark) (2)");
+    EXPECT_EQ(names.FreeName("Mild ()"), "Mild () (2)");
+    EXPECT_EQ(names.FreeName("(2)"), "(2) (2)");
+}
+
+TEST_F(RecipeCopyTest, ARunReturnsHowManyRecipesWereCopied) {
+    for (const char* name : {"Bock", "Mild", "Stout"}) PutIntoFile(name);
+    PutIntoMain("Mild");
+    host.answers = {kSkip};
+    EXPECT_EQ(Copier().ImportRecipes(Strings{"Bock", "Mild", "Nothing", "Stout"}, 0, unknown), 2);
+    host.answers = {kOverwrite, kAbort};
+    EXPECT_EQ(Copier().ImportRecipes(Strings{"Bock", "Mild", "Stout"}, 0, unknown), 1);
+    EXPECT_EQ(Copier().ExportRecipes(Strings{}), 0);
 }
 
 TEST_F(RecipeCopyTest, ARenamedRecipeMayOverwriteTheOneOfItsNewName) {

@@ -18,7 +18,9 @@ constexpr int kNameUnits = 44;
 }  // namespace
 
 NameConflictDialog::NameConflictDialog(NameConflictModel& model, QWidget* parent)
-    : QDialog(parent), model_(model), newName_(new QLineEdit(ToQt(model.NewName()), this)) {
+    : QDialog(parent), model_(model), newName_(new QLineEdit(this)) {
+    if (!model.Proposal().empty()) model.SetControl("txtNewName", model.Proposal());
+    newName_->setText(ToQt(model.NewName()));
     setObjectName(ToQt(model.FormName()));
     setWindowTitle(tr("Name Conflict"));
     auto* column = new QVBoxLayout(this);
@@ -34,7 +36,7 @@ NameConflictDialog::NameConflictDialog(NameConflictModel& model, QWidget* parent
     grid->setHorizontalSpacing(Unit(*this) * kMarginUnits);
     grid->setVerticalSpacing(Unit(*this) * kGapUnits);
     grid->setColumnStretch(1, 1);
-    // Enter renames, which keeps both recipes, and requires that a new name has been typed.
+    // Enter renames, which keeps both recipes.
     AddChoice(*grid, "cmdRename", tr("&Rename"), "lblRename", ToQt(model.RenameText()))->setDefault(true);
     AddNewName(*grid);
     AddChoice(*grid, "cmdOverwrite", tr("&Overwrite"), "lblOverwrite",
