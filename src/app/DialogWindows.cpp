@@ -38,7 +38,7 @@
 
 namespace tw {
 
-void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors) {
+void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors, SettingsPort& settings) {
     // Recipes.
     for (const char* form :
          {DetailsModel::kStrengthForm, DetailsModel::kFinalVolForm, DetailsModel::kHopForm})
@@ -46,7 +46,7 @@ void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors) {
     for (const char* form : ScalingModel::kFormNames) dialogs.RegisterForm<ScalingModel, ScalingDialog>(form);
     dialogs.Register<CannotUndoModel, CannotUndoDialog>();
     dialogs.Register<CataloguePickerModel, CataloguePickerDialog>();
-    dialogs.Register<ExplorerModel, ExplorerWindow>();
+    dialogs.Register<ExplorerModel, ExplorerWindow>(settings);
     dialogs.Register<ChooseFolderModel, ChooseFolderDialog>();
     dialogs.Register<ProgressModel, ProgressDialog>();
     // The catalogue.
@@ -70,7 +70,7 @@ void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors) {
     dialogs.Register<AboutModel, AboutDialog>();
     dialogs.Register<BrewhouseModel, BrewhouseDialog>();
     dialogs.Register<OptionsModel, OptionsDialog>(colors);
-    dialogs.Register<OpenSaveModel, OpenSaveDialog>();
+    dialogs.Register<OpenSaveModel, OpenSaveDialog>(settings);
     dialogs.Register<AutoSaveModel, AutoSaveDialog>();
     dialogs.Register<RecoveryModel, RecoveryDialog>();
     // Import and export.

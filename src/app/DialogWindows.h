@@ -5,8 +5,9 @@ namespace tw {
 
 class ColorChooser;
 class QtDialogs;
+class SettingsPort;
 
-// colors must outlive the windows.
-void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors);
+// Both services must outlive the windows.
+void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors, SettingsPort& settings);
 
 }  // namespace tw

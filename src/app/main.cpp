@@ -119,7 +119,7 @@ int Run(int argc, char** argv) {
         options.settings.isEmpty() ? QtSettings::OfUser() : QtSettings::OfFile(FromQt(options.settings));
     QtDialogs dialogs(*settings);
     QtColorChooser colorChooser;
-    RegisterDialogWindows(dialogs, colorChooser);
+    RegisterDialogWindows(dialogs, colorChooser, *settings);
     SystemClock clock;
     QtClipboard clipboard;
     Platform platform{messages, dialogs, *settings, clock, clipboard};

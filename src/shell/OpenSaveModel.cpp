@@ -18,6 +18,7 @@ constexpr std::array<std::string_view, 3> kOkCaptions = {"&Open", "&Save", "&Del
 
 OpenSaveModel::OpenSaveModel(Style style, const ObjectAccess& access, const OpenSaveFields& fields)
     : FormModel(kFormName), style_(style), access_(access), look_(fields.look), list_(access, look_, false) {
+    if (style == Style::Save) list_.OmitAdvice();
     DeclareControls();
     DeclareButtons();
     const std::string_view first = style == Style::Save ? kRecipeFoldersKey : kAllRecipesKey;
@@ -78,6 +79,11 @@ void OpenSaveModel::SetRecipe(std::string_view name, std::int64_t folderId) {
     recipe_ = Trim(name);
     const std::string key = RecipeFolderKey(folderId);
     GoTo(folderId >= 0 && HasFolder(key) ? std::string_view(key) : kRecipeFoldersKey);
+}
+
+void OpenSaveModel::SetLook(const ListLook& look) {
+    look_ = look;
+    list_.Sort();
 }
 
 std::string OpenSaveModel::Caption() const {

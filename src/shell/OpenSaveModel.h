@@ -61,6 +61,7 @@ class OpenSaveModel final : public FormModel {
     // The displayed state.
     NodeList& List() { return list_; }
     const ListLook& Look() const { return look_; }
+    void SetLook(const ListLook& look);
     std::vector<FolderEntry> Folders() const;
     const std::string& NameText() const { return text_; }
     using FormModel::IsEnabled;

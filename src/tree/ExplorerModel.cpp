@@ -195,7 +195,9 @@ std::vector<std::string> ExplorerModel::NamesOf(const std::vector<std::string>& 
 std::string ExplorerModel::Status() const {
     if (!access_.tree.IsUpToDate()) return "Not up to date: the database cannot be read.";
     if (!opened_.empty()) return "'" + opened_ + "' is open in the main window.";
-    const ListTable& rows = At(shown_).list.Rows();
+    const NodeList& list = At(shown_).list;
+    const ListTable& rows = list.Rows();
+    if (list.IsFinding() && rows.Chosen().size() < 2) return list.FoundText();
     const std::string all = Counted(rows.Rows().size());
     return rows.Chosen().size() < 2 ? all : std::to_string(rows.Chosen().size()) + " of " + all + " chosen";
 }

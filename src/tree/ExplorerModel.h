@@ -58,8 +58,8 @@ class ExplorerModel final : public FormModel {
     // Runs the command. Does nothing while it is disabled; false if it belongs to another window. The error
     // of a deletion is raised after the remaining objects are shown.
     bool Run(PopupChoice choice) { return Press(tw::NameOf(choice)); }
-    // Returns how many objects are shown and selected, or what has just been opened, or that the tree is not
-    // up to date.
+    // Returns how many objects are shown and selected, or what a search has found, or what has just been
+    // opened, or that the tree is not up to date.
     std::string Status() const;
 
     // The brewer's actions on the current page.

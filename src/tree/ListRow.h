@@ -1,6 +1,7 @@
 // The columns and rows of a list.
 #pragma once
 
+#include <limits>
 #include <optional>
 #include <string>
 #include <vector>
@@ -21,6 +22,13 @@ struct ListColumn {
     ListColumnKind kind = ListColumnKind::Text;
     bool showsColor = false;  // the cell shows the colour of the row
     std::string note = {};    // what the title omits, such as the unit
+    // How windows show the column. Scripts see the columns in their order, with their titles.
+    std::string caption = {};  // shorter than the title; empty if the title is shown
+    int place = kNoPlace;      // the columns with a place are shown first, in its order
+    bool hidden = false;
+
+    static constexpr int kNoPlace = std::numeric_limits<int>::max();
+    const std::string& Caption() const { return caption.empty() ? title : caption; }
 };
 
 struct ListRow {

@@ -124,6 +124,14 @@ int ListTable::ColumnOf(std::string_view title) const {
     return found == columns_.end() ? -1 : static_cast<int>(found - columns_.begin());
 }
 
+std::vector<int> ListTable::ColumnsByPlace() const {
+    std::vector<int> order(columns_.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::ranges::stable_sort(order, {},
+                             [&](int column) { return columns_[static_cast<std::size_t>(column)].place; });
+    return order;
+}
+
 void ListTable::Fit(ListRow& row) const {
     row.cells.resize(columns_.size());
     for (std::string& cell : row.cells)

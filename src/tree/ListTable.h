@@ -35,6 +35,9 @@ class ListTable {
     // Returns the index of the column with that title, ignoring case; -1 if there is none.
     int ColumnOf(std::string_view title) const;
 
+    // Returns the columns in the order in which windows show them at first, including hidden ones.
+    std::vector<int> ColumnsByPlace() const;
+
     const std::vector<ListRow>& Rows() const { return rows_; }
     int Count() const { return static_cast<int>(rows_.size()); }
     // REQUIRES: the row exists.

@@ -24,6 +24,7 @@ inline constexpr std::string_view kNoStyleFolderKey = "S:0:1";  // below kStyleF
 
 // A recipe has entries below "All Recipes", below both entries of its style, and in its folder.
 inline constexpr int kRecipeCopies = 4;
+inline constexpr int kCopyOfStyle = 1;  // below its style in "All Styles"
 inline constexpr int kCopyInFolder = 3;
 // A style has entries below "All Styles" and in its folder.
 inline constexpr int kStyleCopies = 2;

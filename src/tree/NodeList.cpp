@@ -1,7 +1,6 @@
 #include "tree/NodeList.h"
 
 #include <algorithm>
-#include <iterator>
 
 #include "tree/NodeKey.h"
 #include "tree/lvFiller.h"
@@ -9,18 +8,6 @@
 #include "values/Text.h"
 
 namespace tw {
-namespace {
-
-int ExplorerColumns() {
-    static const int count = [] {
-        ListTable list;
-        lvFiller::SetUpExplorerColumns(list);
-        return static_cast<int>(list.Columns().size());
-    }();
-    return count;
-}
-
-}  // namespace
 
 std::string KeyNow(const ObjectAccess& access, const std::string& key, std::string_view name) {
     if (!IsRecipeKey(key) || access.tree.NodeExists(key)) return key;
@@ -35,7 +22,7 @@ NodeList::NodeList(const ObjectAccess& access, const ListLook& look, bool showSt
       showStyles_(showStyles),
       filler_(std::make_unique<lvFiller>(access.database, access.tree)),
       finder_(access.database) {
-    lvFiller::SetUpExplorerColumns(rows_);
+    lvFiller::SetUpWindowColumns(rows_, false);
 }
 
 NodeList::~NodeList() = default;
@@ -43,7 +30,7 @@ NodeList::~NodeList() = default;
 void NodeList::Show(std::string_view key, bool force) {
     if (key == key_ && !force && !IsFinding()) return;
     key_ = key;
-    if (IsFinding()) lvFiller::SetUpExplorerColumns(rows_);
+    if (IsFinding()) lvFiller::SetUpWindowColumns(rows_, false);
     findText_.clear();
     CancelEdit();
     filler_->FillByKey(rows_, key_, showStyles_);
@@ -54,25 +41,22 @@ void NodeList::Find(std::string_view text) {
     const std::string wanted(Trim(text));
     if (wanted == findText_) return;
     if (wanted.empty()) return Show(key_, true);
+    if (!IsFinding()) lvFiller::SetUpWindowColumns(rows_, true);
     findText_ = wanted;
     CancelEdit();
     FillFound();
 }
 
 void NodeList::FillFound() {
-    if (static_cast<int>(rows_.Columns().size()) == ExplorerColumns()) {
-        std::vector<ListColumn> columns = rows_.Columns();
-        columns.push_back({std::string(kFolderColumn)});
-        rows_.SetColumns(std::move(columns));
-    }
     std::vector<TWNode*> nodes;
     for (const FoundRecipe& found : finder_.Find(findText_))
         if (TWNode* const node = access_.tree.Nodes(RecipeKey(found.id, 0))) nodes.push_back(node);
     ListTable found;
-    lvFiller::SetUpExplorerColumns(found);
+    lvFiller::SetUpWindowColumns(found, true);
     filler_->FillNodes(found, nodes);
     std::vector<ListRow> rows = found.Rows();
-    for (std::size_t i = 0; i < rows.size(); ++i) rows[i].cells.push_back(FolderOf(*nodes[i]));
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        rows[i].cells[lvFiller::kFolderColumn] = rows[i].origin = FolderOf(*nodes[i]);
     rows_.SetRows(std::move(rows));
     Sort();
 }
@@ -192,11 +176,20 @@ std::string NodeList::Hint() const {
     if (IsFinding()) return "No recipe holds \"" + findText_ + "\".";
     const TWNode* const all = access_.tree.Nodes(kAllRecipesKey);
     const bool anyRecipe = all && all->HasChildren();
-    if (!showStyles_ && !anyRecipe)
+    if (!showStyles_ && !anyRecipe && advises_)
         return "There is no recipe yet. Ctrl+N in the main window starts your first one; once it is saved, "
                "it stands here.";
     if (!IsStyleKey(key_)) return "This folder is empty.";
     return IdOfKey(key_) == 0 ? "There is no recipe without a style." : "No recipe has this style yet.";
+}
+
+std::string NodeList::FoundText() const {
+    if (!IsFinding()) return {};
+    const int found = rows_.Count();
+    const std::string recipes = found == 0   ? "No recipe in any folder contains"
+                                : found == 1 ? "1 recipe in all folders contains"
+                                             : std::to_string(found) + " recipes in all folders contain";
+    return recipes + " \"" + findText_ + "\"";
 }
 
 bool TakeLookCommand(ListLook& look, PopupChoice choice) {
@@ -214,8 +207,7 @@ bool TakeLookCommand(ListLook& look, PopupChoice choice) {
 std::vector<FormButton> LookButtons(ListLook& look, const std::function<void()>& changed) {
     std::vector<PopupChoice> choices = {PopupCommand::LargeIcons, PopupCommand::SmallIcons,
                                         PopupCommand::List, PopupCommand::Details};
-    // During a search, the folder's column follows those of the explorer.
-    for (int column = 0; column <= ExplorerColumns(); ++column)
+    for (int column = 0; column < lvFiller::kWindowColumns; ++column)
         choices.emplace_back(PopupCommand::ArrangeBy, column);
     std::vector<FormButton> buttons;
     buttons.reserve(choices.size());

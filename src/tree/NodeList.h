@@ -43,9 +43,6 @@ struct ListLook {
 // an operation. Returns key itself if the tree still has it, or if there is no recipe of that name.
 std::string KeyNow(const ObjectAccess& access, const std::string& key, std::string_view name);
 
-// The column that shows the folder of a found recipe; it follows those of the explorer.
-inline constexpr std::string_view kFolderColumn = "Folder";
-
 class NodeList {
   public:
     // Creates an empty list; showStyles says whether it includes the branch of the styles. REQUIRES: all
@@ -99,6 +96,10 @@ class NodeList {
 
     // Returns the text to show in an empty list.
     std::string Hint() const;
+    // From now on, an empty list does not say how to get a first recipe, because one is about to be saved.
+    void OmitAdvice() { advises_ = false; }
+    // Returns how many recipes a search has found, and where it has searched; empty without a search.
+    std::string FoundText() const;
 
   private:
     void FillFound();
@@ -113,6 +114,7 @@ class NodeList {
     std::string key_;
     std::string findText_;
     std::string editedKey_;
+    bool advises_ = true;
 };
 
 // Applies a command of the menus "View" and "Arrange" to the look; choosing the present sort column again

@@ -5,6 +5,7 @@
 #include <array>
 #include <map>
 #include <optional>
+#include <span>
 
 #include "tree/ListFormats.h"
 #include "tree/NodeKey.h"
@@ -30,8 +31,52 @@ enum Column {
     Bitterness,
     Carbonation,
     WaterProfile,
+    // In windows only.
+    InFolder,
+    OfStyle,
     Columns
 };
+static_assert(InFolder == lvFiller::kFolderColumn && Columns == lvFiller::kWindowColumns);
+
+// A column, and how windows show it: what a brewer looks for first stands at the left.
+struct ColumnRow {
+    const char* title;
+    ListColumnKind kind = ListColumnKind::Text;
+    const char* caption = "";
+    int place = ListColumn::kNoPlace;
+};
+
+using enum ListColumnKind;
+
+constexpr std::array<ColumnRow, Columns> kColumns = {{
+    {"Name", Text, "", 0},
+    {"Size", Number},
+    {"Type", Text},
+    {"Modified When", Date, "Changed", 6},
+    {"Created When", Date, "Created"},
+    {"Number of Batches", Number, "Batches"},
+    {"Batch Size", Number},
+    {"Original Gravity", Number, "OG", 3},
+    {"Finished Gravity", Number, "FG"},
+    {"Alcohol Content", Number, "ABV"},
+    {"Color", Number, "", 5},
+    {"Bitterness", Number, "IBU", 4},
+    {"Carbonation", Number, "CO2"},
+    {"Water Profile", Text},
+    {"Folder", Text, "", 1},
+    {"Style", Text, "", 2},
+}};
+
+std::vector<ListColumn> FirstColumns(std::size_t count) {
+    std::vector<ListColumn> columns;
+    for (const ColumnRow& row : std::span(kColumns).first(count)) {
+        ListColumn column{row.title, row.kind};
+        column.caption = row.caption;
+        column.place = row.place;
+        columns.push_back(std::move(column));
+    }
+    return columns;
+}
 
 // The shown fields of a row, looked up by name once for all rows of a recordset.
 template <std::size_t kCount>
@@ -136,9 +181,12 @@ ListRow StyleRow(TWNode& node) {
     return row;
 }
 
-ListRow RecipeRow(const TWNode& node) {
+ListRow RecipeRow(const TWNode& node, const TWTree& tree) {
     ListRow row = BlankRow(node);
     Cell(row, Type) = "Recipe";
+    const TWNode* const copy = tree.Nodes(RecipeKey(IdOfKey(row.key), kCopyOfStyle));
+    const TWNode* const style = copy ? copy->Parent() : nullptr;
+    if (style && style->Key() != kNoStyleKey) Cell(row, OfStyle) = style->Name();
     return row;
 }
 
@@ -263,21 +311,13 @@ bool BelongsToStyles(const TWNode& node) {
 }  // namespace
 
 void lvFiller::SetUpExplorerColumns(ListTable& list) {
-    using enum ListColumnKind;
-    list.SetColumns({{"Name", Text},
-                     {"Size", Number},
-                     {"Type", Text},
-                     {"Modified When", Date},
-                     {"Created When", Date},
-                     {"Number of Batches", Number},
-                     {"Batch Size", Number},
-                     {"Original Gravity", Number},
-                     {"Finished Gravity", Number},
-                     {"Alcohol Content", Number},
-                     {"Color", Number},
-                     {"Bitterness", Number},
-                     {"Carbonation", Number},
-                     {"Water Profile", Text}});
+    list.SetColumns(FirstColumns(InFolder));
+}
+
+void lvFiller::SetUpWindowColumns(ListTable& list, bool showFolder) {
+    std::vector<ListColumn> columns = FirstColumns(Columns);
+    columns[InFolder].hidden = !showFolder;
+    list.SetColumns(std::move(columns));
 }
 
 void lvFiller::FillByKey(ListTable& list, std::string_view key, bool showStyles) const {
@@ -299,7 +339,7 @@ void lvFiller::FillNodes(ListTable& list, const std::vector<TWNode*>& nodes) con
     Batch<RecipeFields> recipes("RECIPES", "", kRecipeNames, ShowRecipe);
     std::optional<RowFacts> styleFacts;
     for (TWNode* const node : nodes) {
-        rows.push_back(node->IsDocument() ? RecipeRow(*node)
+        rows.push_back(node->IsDocument() ? RecipeRow(*node, tree_)
                        : node->IsStyle()  ? StyleRow(*node)
                                           : FolderRow(*node));
         if (node->IsStyle()) {
@@ -346,7 +386,7 @@ void lvFiller::AddStyleRow(ListTable& list, TWNode& style) const {
 }
 
 void lvFiller::AddRecipeRow(ListTable& list, TWNode& recipe) const {
-    ListRow row = RecipeRow(recipe);
+    ListRow row = RecipeRow(recipe, tree_);
     const std::int64_t id = IdOfKey(row.key);
     if (HasRow(recipe, id))
         ShowOne(database_, "SELECT * FROM RECIPES WHERE ID = ?", id, kRecipeNames, row, ShowRecipe);

@@ -22,6 +22,11 @@ class lvFiller {
 
     // Sets the columns for recipes and folders, "Name" to "Water Profile", and empties the list.
     static void SetUpExplorerColumns(ListTable& list);
+    // Sets the columns that windows show, and empties the list. The same ones are followed by "Folder", which
+    // is hidden unless showFolder is true and left blank by the functions below, and by a recipe's "Style".
+    static void SetUpWindowColumns(ListTable& list, bool showFolder);
+    static constexpr int kFolderColumn = 14;
+    static constexpr int kWindowColumns = 16;
 
     // Fills the list with a row for each child of the node of that key, in the order of TWNode::Compare; the
     // keys of the rows are those of the nodes. Leaves out what belongs to the styles unless showStyles is

@@ -168,7 +168,7 @@ TEST_F(Exchange, UnknownStylesAreListedAndEnterClosesTheList) {
 TEST_F(Exchange, EveryDialogHasAWindowOfItsOwn) {
     QtDialogs dialogs(outside.settings);
     QtColorChooser colors;
-    RegisterDialogWindows(dialogs, colors);
+    RegisterDialogWindows(dialogs, colors, outside.settings);
     ImportExportModel recipes(shell.Opened()->data.tree, true);
     NameConflictModel conflict("Mild", true, outside.messages);
     StylesNotImportedModel styles({});

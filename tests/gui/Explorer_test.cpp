@@ -21,7 +21,7 @@ class ExplorerWindowTest : public BrowseTest {
                                      edited.push_back(name);
                                      return std::optional<std::string>();
                                  }});
-        dialog = std::make_unique<ExplorerWindow>(*model, nullptr);
+        dialog = std::make_unique<ExplorerWindow>(*model, outside.settings, nullptr);
         Front(*dialog);
     }
     TreePane& Tree() { return Shown<TreePane>("treeFolders"); }
@@ -41,6 +41,25 @@ class ExplorerWindowTest : public BrowseTest {
         QMenu* menu = MenuAt(*dialog, List(), List().model()->index(0, 0), "mnuPopupList");
         Item(*menu, command)->trigger();
         Close(menu);
+    }
+    // The captions of the first visible columns, from the left.
+    static Strings Headers(const ListPane& pane, int most = 99) {
+        Strings captions;
+        for (int place = 0; place < pane.header()->count(); ++place) {
+            const int column = pane.header()->logicalIndex(place);
+            if (!pane.isColumnHidden(column) && static_cast<int>(captions.size()) < most)
+                captions.push_back(FromQt(pane.model()->headerData(column, Qt::Horizontal).toString()));
+        }
+        return captions;
+    }
+    ListPane& Details() { return dynamic_cast<ListPane&>(List()); }
+    // Closes the window and opens another one, as the next F5 does.
+    void OpenAgain() {
+        dialog->close();
+        dialog.reset();
+        model = std::make_unique<ExplorerModel>(shell.Opened()->data.Access(), ExplorerModel::Hooks{});
+        dialog = std::make_unique<ExplorerWindow>(*model, outside.settings, nullptr);
+        Front(*dialog);
     }
     QModelIndex Node(const char* key) {
         return Tree().Model().IndexOf(model->Tree(model->Shown()).Find(key));
@@ -401,6 +420,113 @@ TEST_F(ExplorerWindowTest, AClickOnAHeaderSortsBothLists) {
     EXPECT_EQ(Rows(List()), (Strings{"British", "Stout", "(None)"}));
 }
 
+TEST_F(ExplorerWindowTest, WhatABrewerLooksForStandsAtTheLeft) {
+    Press("mnuDetails");
+    EXPECT_EQ(Headers(Details(), 7), (Strings{"Name", "Style", "OG", "IBU", "Color", "Changed", "Size"}));
+    const QAbstractItemModel& rows = *List().model();
+    EXPECT_EQ(FromQt(rows.headerData(7, Qt::Horizontal, Qt::ToolTipRole).toString()),
+              "Original Gravity\nA click sorts the rows by it.");
+    EXPECT_TRUE(Details().isColumnHidden(14));
+    // The menu has the same order, and each item keeps the number of its column.
+    QMenu* menu = MenuAt(*dialog, List(), RowOf(List(), "Ale"), "mnuPopupList");
+    Strings items;
+    for (const QAction* action : Item(*menu, "mnuArrange")->menu()->actions())
+        items.push_back(FromQt(action->text()) + " " + FromQt(action->objectName()));
+    ASSERT_EQ(items.size(), 15u);
+    EXPECT_EQ(items[0], "by Name mnuArrangeBy(0)");
+    EXPECT_EQ(items[1], "by Style mnuArrangeBy(15)");
+    EXPECT_EQ(items[5], "by Changed mnuArrangeBy(3)");
+    Close(menu);
+}
+
+TEST_F(ExplorerWindowTest, TheSortKeyGoesFromColumnToColumnAsTheyAreSeen) {
+    Press("mnuDetails");
+    List().setFocus();
+    const auto sort = [&] {
+        QTest::keyClick(&List(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        return model->Look().arrangeKey;
+    };
+    EXPECT_EQ(sort(), 15);  // Style, right of Name
+    EXPECT_EQ(sort(), 7);   // OG
+    for (int i = 0; i < 12; ++i) sort();
+    EXPECT_EQ(model->Look().arrangeKey, 13);  // Water Profile, the last one
+    EXPECT_EQ(sort(), 0);
+}
+
+TEST_F(ExplorerWindowTest, TheViewIsRememberedFromOneOpeningToTheNext) {
+    Press("mnuDetails");
+    QHeaderView* header = Details().header();
+    header->moveSection(header->visualIndex(7), 15);  // OG
+    header->resizeSection(0, 300);
+    Press("mnuArrangeBy(3)");
+    Click(Tree(), Node("F:1"));
+    auto& splitter = Shown<QSplitter>("Splitter");
+    QTest::mousePress(splitter.handle(1), Qt::LeftButton);
+    QTest::mouseMove(splitter.handle(1), splitter.handle(1)->rect().center() + QPoint(60, 0));
+    QTest::mouseRelease(splitter.handle(1), Qt::LeftButton, {},
+                        splitter.handle(1)->rect().center() + QPoint(60, 0));
+    const int tree = Tree().width();
+    Button("optStyles").click();
+    Click(Tree(), Node("S:1:1"));
+    EXPECT_EQ(Headers(Details()).back(), "OG");  // both pages show the same columns
+    OpenAgain();
+    EXPECT_TRUE(Button("optStyles").isChecked());
+    EXPECT_EQ(model->NodeKey(), "S:1:1");
+    EXPECT_EQ(FromQt(Tree().currentIndex().data().toString()), "Stout");
+    EXPECT_EQ(model->Look().arrangeKey, 3);
+    EXPECT_EQ(Headers(Details(), 3), (Strings{"Name", "Style", "IBU"}));
+    EXPECT_EQ(Headers(Details()).back(), "OG");
+    EXPECT_NEAR(Details().columnWidth(0), 300, 1);
+    EXPECT_NEAR(Tree().width(), tree, 1);
+    Button("optRecipes").click();
+    EXPECT_EQ(model->NodeKey(), "F:1");
+    EXPECT_EQ(Rows(List()), (Strings{"Dark", "Porter"}));
+    EXPECT_NEAR(Tree().width(), tree, 1);
+    // A search still shows the folder, and leaves the widths alone.
+    FindBox().setText(QStringLiteral("por"));
+    EXPECT_EQ(Headers(Details(), 3), (Strings{"Name", "Folder", "Style"}));
+    EXPECT_GT(Details().columnWidth(14), 0);
+    EXPECT_NEAR(Details().columnWidth(0), 300, 1);
+}
+
+TEST_F(ExplorerWindowTest, AWindowThatIsOnlyLookedAtLeavesNoTrace) {
+    OpenAgain();
+    for (const char* key : {"ListView", "ListOrder", "ListColumns", "ExplorerPage", "ExplorerRecipeEntry",
+                            "ExplorerStyleEntry", "ExplorerTreeWidth"})
+        EXPECT_EQ(outside.settings.Read(SettingsPort::Layer::User, "Windows", key), std::nullopt) << key;
+}
+
+TEST_F(ExplorerWindowTest, AFolderThatIsGoneIsNotShownAgain) {
+    Click(Tree(), Node("F:1"));
+    dialog->close();
+    shell.Opened()->data.objects.DeleteObject("F:1");
+    OpenAgain();
+    EXPECT_EQ(model->NodeKey(), "F:0");
+    EXPECT_EQ(Rows(List()), (Strings{"Ale", "mild"}));
+}
+
+TEST_F(ExplorerWindowTest, TheMenusShowTheKeysThatWork) {
+    const auto keyOf = [](const QMenu& menu, const char* name) {
+        return FromQt(Item(menu, name)->shortcut().toString());
+    };
+    QMenu* menu = MenuAt(*dialog, List(), RowOf(List(), "Ale"), "mnuPopupList");
+    EXPECT_EQ(keyOf(*menu, "mnuOpen"), "Enter");
+    EXPECT_EQ(keyOf(*menu, "mnuDelete"), "Del");
+    EXPECT_EQ(keyOf(*menu, "mnuRename"), "F2");
+    EXPECT_EQ(keyOf(*menu, "mnuNewFolder"), "Ctrl+Shift+N");
+    EXPECT_EQ(keyOf(*menu, "mnuDetails"), "Ctrl+2");
+    EXPECT_EQ(keyOf(*menu, "mnuLineUp"), "");
+    Close(menu);
+    menu = MenuAt(*dialog, Tree(), Node("F:1"), "mnuPopupTree");
+    EXPECT_EQ(keyOf(*menu, "mnuRenameFolder"), "F2");
+    EXPECT_EQ(keyOf(*menu, "mnuDeleteFolder"), "Del");
+    Close(menu);
+    QTest::keyClick(dialog.get(), Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(model->Look().viewType, ListViewType::Details);
+    QTest::keyClick(dialog.get(), Qt::Key_1, Qt::ControlModifier);
+    EXPECT_EQ(model->Look().viewType, ListViewType::List);
+}
+
 TEST_F(ExplorerWindowTest, TheButtonsAreAboutTheRowsOrTheEntry) {
     EXPECT_FALSE(Button("cmdDelete").isEnabled());
     Click(Tree(), Node("F:1"));
@@ -440,10 +566,11 @@ TEST_F(ExplorerWindowTest, TheFindBoxFiltersAndEscapeFirstClearsIt) {
     EXPECT_EQ(FromQt(RowOf(List(), "Porter").data(Qt::ToolTipRole).toString()),
               "Porter\nMy Recipe Folders / Winter");
     auto& pane = dynamic_cast<ListPane&>(List());
-    EXPECT_EQ(FromQt(pane.model()->headerData(pane.header()->logicalIndex(1), Qt::Horizontal).toString()),
-              "Folder");
+    EXPECT_EQ(Headers(pane, 3), (Strings{"Name", "Folder", "Style"}));
     EXPECT_EQ(FromQt(pane.model()->index(0, pane.header()->logicalIndex(1)).data().toString()),
               "My Recipe Folders / Winter");
+    EXPECT_EQ(FromQt(dialog->findChild<QLabel*>(QStringLiteral("lblStatus"))->text()),
+              "1 recipe in all folders contains \"por\"");
     QTest::keyClick(&FindBox(), Qt::Key_Down);
     EXPECT_TRUE(List().hasFocus());
     QTest::keyClick(&List(), Qt::Key_Return);
@@ -452,7 +579,7 @@ TEST_F(ExplorerWindowTest, TheFindBoxFiltersAndEscapeFirstClearsIt) {
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "mild"}));
     EXPECT_EQ(FromQt(FindBox().text()), "");
-    EXPECT_EQ(pane.header()->logicalIndex(1), 1);
+    EXPECT_EQ(Headers(pane, 2), (Strings{"Name", "Style"}));
     QTest::keyClick(&List(), Qt::Key_Escape);
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_FALSE(model->IsOpen());
@@ -470,8 +597,8 @@ TEST_F(ExplorerWindowTest, ChoosingAFolderEndsTheSearch) {
 }
 
 TEST_F(ExplorerWindowTest, ARecipeOpensBehindItInTheMainWindow) {
-    outside.dialogs.scripts.emplace_back([](DialogModel& explorer) {
-        ExplorerWindow explorerWindow(dynamic_cast<ExplorerModel&>(explorer), nullptr);
+    outside.dialogs.scripts.emplace_back([this](DialogModel& explorer) {
+        ExplorerWindow explorerWindow(dynamic_cast<ExplorerModel&>(explorer), outside.settings, nullptr);
         explorerWindow.show();
         explorer.SetControl("lvNames", "Ale");
         explorerWindow.findChild<QPushButton*>(QStringLiteral("cmdOpen"))->click();

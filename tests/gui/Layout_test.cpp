@@ -78,8 +78,9 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         CannotUndoDialog cannotUndoWindow(cannotUndo, nullptr);
         DetailsDialog strengthWindow(strength, nullptr), hopsWindow(hops, nullptr),
             volumeWindow(volume, nullptr);
-        OpenSaveDialog openSaveWindow(openSave, nullptr);
-        ExplorerWindow recipesWindow(recipes, nullptr), stylesWindow(styles, nullptr);
+        OpenSaveDialog openSaveWindow(openSave, outside.settings, nullptr);
+        ExplorerWindow recipesWindow(recipes, outside.settings, nullptr),
+            stylesWindow(styles, outside.settings, nullptr);
         for (QDialog* dialog :
              {static_cast<QDialog*>(&aboutWindow), static_cast<QDialog*>(&strengthWindow),
               static_cast<QDialog*>(&hopsWindow), static_cast<QDialog*>(&volumeWindow),

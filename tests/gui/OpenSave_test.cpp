@@ -1,6 +1,7 @@
 // Tests of the open and save dialog with keyboard and mouse.
 #include "BrowseTest.h"
 #include "shell/ui/OpenSaveDialog.h"
+#include "tree/ui/ExplorerWindow.h"
 
 namespace tw::test {
 namespace {
@@ -13,7 +14,7 @@ class OpenSaveWindow : public BrowseTest {
         dialog.reset();
         model = std::make_unique<OpenSaveModel>(style, shell.Opened()->data.Access(), OpenSaveFields());
         if (style == Style::Save) model->SetRecipe(name, 0);
-        dialog = std::make_unique<OpenSaveDialog>(*model, nullptr);
+        dialog = std::make_unique<OpenSaveDialog>(*model, outside.settings, nullptr);
         Front(*dialog);
     }
     QAbstractItemView& List() { return dialog->findChild<NodeListPane*>()->View(); }
@@ -43,6 +44,39 @@ TEST_F(OpenSaveWindow, StartsInTheNameBoxWithItsTextSelected) {
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(model->BeerName(), "Harvest");
     EXPECT_EQ(model->FolderID(), 0);
+}
+
+TEST_F(OpenSaveWindow, ASearchSaysThatItLooksIntoAllFolders) {
+    Open(Style::Open);
+    auto& found = *dialog->findChild<QLabel*>(QStringLiteral("lblFound"));
+    EXPECT_FALSE(found.isVisible());
+    FindBox().setText(QStringLiteral("port"));
+    EXPECT_TRUE(found.isVisible());
+    EXPECT_EQ(FromQt(found.text()), "1 recipe in all folders contains \"port\"");
+    FindBox().clear();
+    EXPECT_FALSE(found.isVisible());
+    EXPECT_EQ(Rows(List()), (Strings{"Winter", "Ale", "mild"}));
+}
+
+TEST_F(OpenSaveWindow, TheSaveDialogGivesNoAdviceAboutAFirstRecipe) {
+    for (const char* key : {"R:1:0", "R:2:0", "R:3:0", "F:1"}) shell.Opened()->data.objects.DeleteObject(key);
+    Open(Style::Save, "First");
+    EXPECT_EQ(Rows(List()), Strings{});
+    EXPECT_EQ(model->List().Hint(), "This folder is empty.");
+}
+
+TEST_F(OpenSaveWindow, ItRemembersItsLookWithTheExplorer) {
+    Open(Style::Open);
+    QTest::keyClick(dialog.get(), Qt::Key_2, Qt::ControlModifier);
+    auto* header = dynamic_cast<ListPane&>(List()).header();
+    header->moveSection(header->visualIndex(15), 3);
+    dialog->close();
+    Open(Style::Open);
+    EXPECT_EQ(model->Look().viewType, ListViewType::Details);
+    EXPECT_EQ(dynamic_cast<ListPane&>(List()).header()->visualIndex(15), 3);
+    ExplorerModel explorer(shell.Opened()->data.Access(), {});
+    const ExplorerWindow other(explorer, outside.settings, nullptr);
+    EXPECT_EQ(explorer.Look().viewType, ListViewType::Details);
 }
 
 TEST_F(OpenSaveWindow, EachStyleHasItsTitleAndButton) {
@@ -217,7 +251,7 @@ TEST_F(OpenSaveWindow, EscapeAndTheCloseBoxCancel) {
 
 TEST_F(OpenSaveWindow, AnEmptyListSaysWhatToDo) {
     for (const char* key : {"R:1:0", "R:2:0", "R:3:0", "F:1"}) shell.Opened()->data.objects.DeleteObject(key);
-    Open(Style::Save, "First");
+    Open(Style::Open);
     EXPECT_EQ(Rows(List()), Strings{});
     EXPECT_EQ(model->List().Hint().substr(0, 8), "There is");
     // The hint is painted in the place of the rows.

@@ -141,6 +141,15 @@ TEST_F(Explorer, OpenEntersFoldersAndOpensRecipes) {
     EXPECT_EQ(model->Status(), "3 objects");
 }
 
+TEST_F(Explorer, TheStatusSaysThatASearchLooksIntoAllFolders) {
+    model->ChooseNode("F:1");
+    model->Find("badger");
+    EXPECT_EQ(model->Status(), "1 recipe in all folders contains \"badger\"");
+    model->Find("");
+    EXPECT_EQ(model->Status(), "1 object");
+    EXPECT_THAT(Shown(), ElementsAre("Dark"));
+}
+
 TEST_F(Explorer, ARenamedRecipeIsOpenedUnderItsStoredName) {
     Choose("mild");
     Press("mnuRename");

@@ -6,8 +6,10 @@
 namespace tw::test {
 namespace {
 
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 
 class NodeLists : public Objects {
   protected:
@@ -24,6 +26,16 @@ class NodeLists : public Objects {
         const auto place = static_cast<std::size_t>(list.Rows().ColumnOf(column));
         for (const ListRow& row : list.Rows().Rows()) lines.push_back(row.cells[place]);
         return lines;
+    }
+
+    // The captions of the columns in the order in which windows show them.
+    Lines ShownColumns() const {
+        Lines captions;
+        for (const int column : list.Rows().ColumnsByPlace()) {
+            const ListColumn& shown = list.Rows().Columns()[static_cast<std::size_t>(column)];
+            if (!shown.hidden) captions.push_back(shown.Caption());
+        }
+        return captions;
     }
 
     const ObjectAccess access{*main.db, main.tree, io, outside.platform};
@@ -91,13 +103,65 @@ TEST_F(NodeLists, FindsRecipesOfAllFoldersAndTellsWhereTheyLie) {
     EXPECT_THAT(Shown(), ElementsAre("Lost", "Stout"));
     EXPECT_THAT(Shown("Folder"), ElementsAre("  ", "My Recipe Folders / Winter / Dark"));
     EXPECT_EQ(list.Rows().Row(1).key, "R:1:0");
+    EXPECT_THAT(ShownColumns(), Contains("Folder"));
     list.Find("roast porter");
     EXPECT_THAT(Shown(), IsEmpty());
     EXPECT_EQ(list.Hint(), "No recipe holds \"roast porter\".");
     list.Find(" ");
     EXPECT_FALSE(list.IsFinding());
     EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
-    EXPECT_EQ(list.Rows().ColumnOf("Folder"), -1);
+    EXPECT_THAT(ShownColumns(), Not(Contains("Folder")));
+}
+
+TEST_F(NodeLists, WindowsShowFirstWhatABrewerLooksFor) {
+    const Lines first = {"Name", "Style", "OG", "IBU", "Color", "Changed"};
+    const Lines others = {"Size", "Type", "Created", "Batches",      "Batch Size",
+                          "FG",   "ABV",  "CO2",     "Water Profile"};
+    Lines all = first;
+    all.insert(all.end(), others.begin(), others.end());
+    EXPECT_EQ(ShownColumns(), all);
+    list.Find("stout");
+    all.insert(all.begin() + 1, "Folder");
+    EXPECT_EQ(ShownColumns(), all);
+    // The columns themselves, and their numbers in the menu, stay as they are.
+    EXPECT_EQ(list.Rows().ColumnOf("Name"), 0);
+    EXPECT_EQ(list.Rows().ColumnOf("Modified When"), 3);
+    EXPECT_EQ(list.Rows().ColumnOf("Water Profile"), 13);
+    EXPECT_EQ(list.Rows().ColumnOf("Folder"), 14);
+    EXPECT_EQ(list.Rows().ColumnOf("Style"), 15);
+}
+
+TEST_F(NodeLists, ARecipeShowsItsStyleByWhichItIsSorted) {
+    Style("Porter");
+    Style("Bitter");
+    io.MoveObject("R:2:0", "S:1:0");
+    list.Show("F:0", false);
+    EXPECT_THAT(Shown("Style"), ElementsAre("  ", "Porter", "  "));
+    list.Find("a");
+    list.Show("F:0", false);
+    EXPECT_THAT(Shown("Style"), ElementsAre("  ", "Porter", "  "));
+    look.arrangeKey = list.Rows().ColumnOf("Style");
+    look.descending = true;
+    list.Sort();
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "Ale", "mild"));
+    look.descending = false;
+    list.Sort();
+    EXPECT_THAT(Shown(), ElementsAre("Winter", "mild", "Ale"));
+}
+
+TEST_F(NodeLists, ASearchSaysWhatItHasFoundAndWhere) {
+    list.Show("F:2", false);
+    EXPECT_EQ(list.FoundText(), "");
+    list.Find(" roast ");
+    EXPECT_EQ(list.FoundText(), "1 recipe in all folders contains \"roast\"");
+    main.Execute("UPDATE RECIPES SET NOTES = 'roasted'");
+    list.Find("roasted");
+    EXPECT_EQ(list.FoundText(), "3 recipes in all folders contain \"roasted\"");
+    list.Find("porter");
+    EXPECT_EQ(list.FoundText(), "No recipe in any folder contains \"porter\"");
+    list.Find("");
+    EXPECT_EQ(list.FoundText(), "");
+    EXPECT_THAT(Shown(), ElementsAre("Stout"));
 }
 
 TEST_F(NodeLists, ShowingAFolderEndsTheSearch) {
@@ -176,6 +240,8 @@ TEST_F(NodeLists, AnEmptyListTellsWhatToDo) {
     EXPECT_EQ(list.Hint(), "This folder is empty.");
     for (const char* key : {"R:1:0", "R:2:0", "R:3:0"}) io.DeleteObject(key);
     EXPECT_EQ(list.Hint().substr(0, 25), "There is no recipe yet. C");
+    list.OmitAdvice();
+    EXPECT_EQ(list.Hint(), "This folder is empty.");
 }
 
 TEST_F(NodeLists, AStyleWithoutRecipesIsNoFolder) {
@@ -209,7 +275,7 @@ TEST(ListLook, TakesTheCommandsOfViewAndArrange) {
     EXPECT_FALSE(look.descending);
     EXPECT_EQ(changes, 5);
     for (const char* command :
-         {"mnuView", "mnuArrangeBy", "mnuArrangeBy(-1)", "mnuArrangeBy()", "mnuArrangeBy(15)", ""})
+         {"mnuView", "mnuArrangeBy", "mnuArrangeBy(-1)", "mnuArrangeBy()", "mnuArrangeBy(16)", ""})
         EXPECT_FALSE(buttons.Press(command)) << command;
     EXPECT_EQ(changes, 5);
     EXPECT_FALSE(TakeLookCommand(look, PopupCommand::LineUp));

@@ -76,6 +76,14 @@ TEST_F(Lists, TheExplorerHasTheColumnsInTheirOrder) {
                             "Bitterness", "Carbonation", "Water Profile"));
 }
 
+TEST_F(Lists, WindowsHaveTwoMoreColumnsBehindThem) {
+    lvFiller::SetUpExplorerColumns(list);
+    Lines titles = Titles();
+    for (const char* title : {"Folder", "Style"}) titles.emplace_back(title);
+    lvFiller::SetUpWindowColumns(list, true);
+    EXPECT_EQ(Titles(), titles);
+}
+
 TEST_F(Lists, ARecipeShowsItsFigures) {
     Recipe("Mild");
     main.Execute(

@@ -44,13 +44,19 @@ class IndentingDelegate final : public QStyledItemDelegate {
 
 }  // namespace
 
-OpenSaveDialog::OpenSaveDialog(OpenSaveModel& model, QWidget* parent)
+OpenSaveDialog::OpenSaveDialog(OpenSaveModel& model, SettingsPort& settings, QWidget* parent)
     : QDialog(parent),
       model_(model),
+      settings_(settings),
       folders_(new QComboBox(this)),
-      list_(new NodeListPane(model.List(), tr("Recipes and folders"), false, this)),
+      list_(new NodeListPane(model.List(), tr("Recipes and folders"), false, view_.columns, this)),
       name_(new QLineEdit(this)),
-      find_(new QLineEdit(this)) {
+      find_(new QLineEdit(this)),
+      found_(new QLabel(this)) {
+    view_.look = model.Look();
+    LoadBrowseView(settings_, view_);
+    opened_ = view_;
+    model.SetLook(view_.look);
     setObjectName(ToQt(model.FormName()));
     setWindowTitle(ToQt(model.Caption()));
     auto* column = new QVBoxLayout(this);
@@ -91,9 +97,9 @@ QLayout* OpenSaveDialog::MakeFolderRow() {
     });
     AddKey(*this, QKeySequence(Qt::ALT | Qt::Key_Left), "cmdBack");
     AddKey(*this, QKeySequence(Qt::ALT | Qt::Key_Up), "cmdUp");
-    AddKey(*this, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N), "cmdNewFolder");
-    AddKey(*this, QKeySequence(Qt::CTRL | Qt::Key_1), "cmdList");
-    AddKey(*this, QKeySequence(Qt::CTRL | Qt::Key_2), "cmdDetails");
+    AddKey(*this, KeyOf(PopupCommand::NewFolder), "cmdNewFolder");
+    AddKey(*this, KeyOf(PopupCommand::List), "cmdList");
+    AddKey(*this, KeyOf(PopupCommand::Details), "cmdDetails");
     return row;
 }
 
@@ -127,7 +133,7 @@ void OpenSaveDialog::MakeList() {
                         model_.Drop(keys, target);
                         ShowState();
                     }});
-    AddKey(*list_, QKeySequence(Qt::Key_F2), NameOf(PopupCommand::Rename));
+    AddKey(*list_, KeyOf(PopupCommand::Rename), NameOf(PopupCommand::Rename));
     AddKey(*list_, QKeySequence(Qt::Key_Insert), NameOf(PopupCommand::NewFolder));
     AddKey(*list_, QKeySequence(Qt::Key_Backspace), "cmdUp");
     connect(list_, &NodeListPane::ChosenChanged, this, [this] {
@@ -165,6 +171,11 @@ QLayout* OpenSaveDialog::MakeNameRows() {
     find_->setPlaceholderText(tr("Name, style, ingredient or words of the notes"));
     find_->setToolTip(tr("Shows the recipes of all folders that hold these words; Escape clears it"));
     find_->setClearButtonEnabled(true);
+    found_->setObjectName(QStringLiteral("lblFound"));
+    found_->setTextFormat(Qt::PlainText);
+    found_->setForegroundRole(QPalette::PlaceholderText);
+    found_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    grid->addWidget(found_, 2, 1);
     const auto addButton = [&](int row, const char* name, const QString& caption) {
         auto* button = new QPushButton(caption, this);
         button->setObjectName(QLatin1String(name));
@@ -224,6 +235,9 @@ void OpenSaveDialog::ShowState() {
     if (name_->text() != name) name_->setText(name);
     // Entering a folder ends the search.
     if (!model_.List().IsFinding() && !find_->text().trimmed().isEmpty()) find_->clear();
+    // A search looks into all folders, whatever the box above the list shows.
+    found_->setText(ToQt(model_.List().FoundText()));
+    found_->setVisible(model_.List().IsFinding());
     list_->SetView(model_.Look().viewType);
     list_->ShowState();
 }
@@ -273,6 +287,12 @@ void OpenSaveDialog::keyPressEvent(QKeyEvent* event) {
         find_->clear();
     else
         QDialog::keyPressEvent(event);
+}
+
+void OpenSaveDialog::done(int result) {
+    view_.look = model_.Look();
+    StoreBrowseView(settings_, view_, opened_);
+    QDialog::done(result);
 }
 
 void OpenSaveDialog::reject() {

@@ -6,9 +6,11 @@
 #include <string>
 
 #include "shell/OpenSaveModel.h"
+#include "tree/BrowseView.h"
 
 class QBoxLayout;
 class QComboBox;
+class QLabel;
 class QLineEdit;
 class QToolButton;
 
@@ -19,9 +21,11 @@ class NodeListPane;
 class OpenSaveDialog final : public QDialog {
     Q_OBJECT
   public:
-    OpenSaveDialog(OpenSaveModel& model, QWidget* parent);
+    // settings contains how such a window was last left. REQUIRES: model and settings outlive the window.
+    OpenSaveDialog(OpenSaveModel& model, SettingsPort& settings, QWidget* parent);
 
   protected:
+    void done(int result) override;
     void reject() override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -43,10 +47,13 @@ class OpenSaveDialog final : public QDialog {
     void MoveChoice(int step);
 
     OpenSaveModel& model_;
+    SettingsStore settings_;
+    BrowseView view_, opened_;  // as it is now, and as it was when the window opened
     QComboBox* folders_;
     NodeListPane* list_;
     QLineEdit* name_;
     QLineEdit* find_;
+    QLabel* found_;
     std::map<std::string, QToolButton*> buttons_;
     bool showing_ = false;
 };

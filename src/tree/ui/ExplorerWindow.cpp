@@ -8,10 +8,12 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "platform/ScopeGuard.h"
 #include "platform/qt/Appearance.h"
@@ -30,14 +32,16 @@ constexpr int kFindUnits = 34;
 
 }  // namespace
 
-ExplorerWindow::ExplorerWindow(ExplorerModel& model, QWidget* parent)
+ExplorerWindow::ExplorerWindow(ExplorerModel& model, SettingsPort& settings, QWidget* parent)
     : QDialog(parent),
       model_(model),
+      settings_(settings),
       stack_(new QStackedWidget(this)),
       find_(new QLineEdit(this)),
       status_(new QLabel(this)) {
     setObjectName(ToQt(model.FormName()));
     setWindowTitle(tr("Recipe Explorer"));
+    RestoreModel();
     auto* column = new QVBoxLayout(this);
     SetSpacing(*column, *this, true);
     column->addLayout(MakePageRow());
@@ -45,10 +49,46 @@ ExplorerWindow::ExplorerWindow(ExplorerModel& model, QWidget* parent)
     for (const Page page : {Page::Recipes, Page::Styles}) MakePage(page);
     column->addWidget(stack_, 1);
     column->addLayout(MakeBottomRow());
-    AddKey(*this, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N), PopupCommand::NewFolder);
+    for (const PopupCommand command : {PopupCommand::NewFolder, PopupCommand::List, PopupCommand::Details})
+        AddKey(*this, KeyOf(command), command);
     resize(Unit(*this) * kWidthUnits, Unit(*this) * kHeightUnits);
+    RestoreTreeWidth();
     ShowState();
     Shown().tree->setFocus();
+}
+
+void ExplorerWindow::RestoreModel() {
+    ReadView();
+    LoadBrowseView(settings_, view_);
+    opened_ = view_;
+    model_.SetLook(view_.look);
+    // An entry that no longer exists leaves the root folder selected.
+    for (const Page page : {Page::Recipes, Page::Styles}) {
+        model_.Show(page);
+        model_.ChooseNode(page == Page::Recipes ? view_.recipeEntry : view_.styleEntry);
+    }
+    model_.Show(view_.stylesPage ? Page::Styles : Page::Recipes);
+}
+
+// Both pages have the border at the same place.
+void ExplorerWindow::RestoreTreeWidth() {
+    if (view_.treeWidth == 0) return;
+    const int tree = PixelsOfTwips(view_.treeWidth, screen()->logicalDotsPerInch());
+    for (PageWidgets& widgets : pages_)
+        if (widgets.splitter->sizes().front() != tree)
+            widgets.splitter->setSizes({tree, std::max(1, width() - tree)});
+}
+
+void ExplorerWindow::ReadView() {
+    view_.look = model_.Look();
+    view_.stylesPage = model_.Shown() == Page::Styles;
+    view_.recipeEntry = model_.Tree(Page::Recipes).SelectedKey();
+    view_.styleEntry = model_.Tree(Page::Styles).SelectedKey();
+}
+
+void ExplorerWindow::KeepView() {
+    ReadView();
+    StoreBrowseView(settings_, view_, opened_);
 }
 
 QRadioButton* ExplorerWindow::AddOption(QBoxLayout& row, const char* name, const QString& caption,
@@ -155,11 +195,15 @@ void ExplorerWindow::MakePage(Page page) {
                                 widgets.splitter);
     widgets.tree->setObjectName(QStringLiteral("treeFolders"));
     widgets.list = new NodeListPane(model_.List(page), styles ? tr("Styles and recipes") : tr("Recipes"),
-                                    true, widgets.splitter);
+                                    true, view_.columns, widgets.splitter);
     widgets.splitter->addWidget(widgets.tree);
     widgets.splitter->addWidget(widgets.list);
     widgets.splitter->setStretchFactor(1, 1);
     widgets.splitter->setSizes({Unit(*this) * kTreeUnits, Unit(*this) * (kWidthUnits - kTreeUnits)});
+    connect(widgets.splitter, &QSplitter::splitterMoved, this, [this](int pixels) {
+        view_.treeWidth = static_cast<int>(TwipsOfPixels(pixels, screen()->logicalDotsPerInch()));
+        RestoreTreeWidth();
+    });
     stack_->addWidget(widgets.splitter);
     const KeyDrag drag{[this](const auto& keys, const auto& target) { return model_.CanDrop(keys, target); },
                        [this](const auto& keys, const auto& target) {
@@ -187,8 +231,8 @@ void ExplorerWindow::ConnectTree(Page page, PageWidgets& widgets) {
     connect(tree.itemDelegate(), &QAbstractItemDelegate::closeEditor, this, &ExplorerWindow::EndEdit);
     connect(&tree, &QWidget::customContextMenuRequested, this,
             [this, &tree](const QPoint& place) { ShowTreePopup(tree.viewport()->mapToGlobal(place)); });
-    AddKey(tree, QKeySequence(Qt::Key_F2), PopupCommand::RenameFolder);
-    AddKey(tree, QKeySequence(Qt::Key_Delete), PopupCommand::DeleteFolder);
+    for (const PopupCommand command : {PopupCommand::RenameFolder, PopupCommand::DeleteFolder})
+        AddKey(tree, KeyOf(command), command);
     AddKey(tree, QKeySequence(Qt::Key_Insert), PopupCommand::NewFolder);
 }
 
@@ -211,8 +255,8 @@ void ExplorerWindow::ConnectList(PageWidgets& widgets) {
         Run({PopupCommand::ArrangeBy, column});
     });
     connect(list, &NodeListPane::MenuAsked, this, &ExplorerWindow::ShowListPopup);
-    AddKey(*list, QKeySequence(Qt::Key_F2), PopupCommand::Rename);
-    AddKey(*list, QKeySequence(Qt::Key_Delete), PopupCommand::Delete);
+    for (const PopupCommand command : {PopupCommand::Rename, PopupCommand::Delete})
+        AddKey(*list, KeyOf(command), command);
     AddKey(*list, QKeySequence(Qt::Key_Insert), PopupCommand::NewFolder);
 }
 
@@ -356,6 +400,11 @@ void ExplorerWindow::keyPressEvent(QKeyEvent* event) {
         find_->clear();
     else
         QDialog::keyPressEvent(event);
+}
+
+void ExplorerWindow::done(int result) {
+    KeepView();
+    QDialog::done(result);
 }
 
 void ExplorerWindow::reject() {

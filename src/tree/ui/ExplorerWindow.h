@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 
+#include "tree/BrowseView.h"
 #include "tree/ExplorerModel.h"
 
 class QBoxLayout;
@@ -24,10 +25,12 @@ class TreePane;
 class ExplorerWindow final : public QDialog {
     Q_OBJECT
   public:
-    ExplorerWindow(ExplorerModel& model, QWidget* parent);
+    // settings contains how the window was last left. REQUIRES: model and settings outlive the window.
+    ExplorerWindow(ExplorerModel& model, SettingsPort& settings, QWidget* parent);
     ~ExplorerWindow() override;
 
   protected:
+    void done(int result) override;
     void reject() override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -44,6 +47,12 @@ class ExplorerWindow final : public QDialog {
     QLayout* MakeCommandRow();
     QLayout* MakeBottomRow();
     void MakePage(Page page);
+    // Brings the model, or the widgets, into the state in which the window was last left.
+    void RestoreModel();
+    void RestoreTreeWidth();
+    // Updates view_ from the model.
+    void ReadView();
+    void KeepView();
     void ConnectTree(Page page, PageWidgets& widgets);
     void ConnectList(PageWidgets& widgets);
     QRadioButton* AddOption(QBoxLayout& row, const char* name, const QString& caption, Page page);
@@ -63,6 +72,8 @@ class ExplorerWindow final : public QDialog {
     void SearchFor(const QString& text);
 
     ExplorerModel& model_;
+    SettingsStore settings_;
+    BrowseView view_, opened_;  // as it is now, and as it was when the window opened
     std::array<PageWidgets, 2> pages_;
     QStackedWidget* stack_;
     QRadioButton* recipes_ = nullptr;

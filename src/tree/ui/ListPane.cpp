@@ -1,6 +1,7 @@
 #include "tree/ui/ListPane.h"
 
 #include <QHeaderView>
+#include <QScreen>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
@@ -70,29 +71,82 @@ ListPane::ListPane(ListTable& list, const QString& name, QWidget* parent) : RowV
     // A tree view switches this off unless it sorts by itself.
     header->setSectionsClickable(true);
     connect(header, &QHeaderView::sectionClicked, this, &ListPane::SortBy);
-    connect(header, &QHeaderView::sectionResized, this,
-            [this] { widthsChosen_ = widthsChosen_ || !fitting_; });
+    connect(header, &QHeaderView::sectionResized, this, [this] {
+        if (fitting_) return;
+        widthsChosen_ = true;
+        KeepLayout();
+    });
+    connect(header, &QHeaderView::sectionMoved, this, [this] {
+        if (!fitting_) KeepLayout();
+    });
     ListChanged();
 }
 
-// Shows the folders of the recipes found by a search beside their names.
-void ListPane::PlaceFolderColumn() {
-    const int last = model_->columnCount() - 1;
-    const bool found = last > 1 && list_.Columns().back().title == kFolderColumn;
-    if (found)
-        header()->moveSection(header()->visualIndex(last), 1);
-    else if (header()->sectionsMoved())
-        for (int col = 0; col <= last; ++col) header()->moveSection(header()->visualIndex(col), col);
+void ListPane::SetLayout(ColumnLayout& layout) {
+    layout_ = &layout;
+    header()->setSectionsMovable(true);
+    header()->setFirstSectionMovable(false);
+    PlaceColumns();
+}
+
+double ListPane::DotsPerInch() const {
+    return screen()->logicalDotsPerInch();
+}
+
+std::vector<int> ListPane::ColumnOrder() const {
+    const std::vector<int> usual = list_.ColumnsByPlace();
+    std::vector<int> order;
+    const auto add = [&](int column) {
+        const bool exists = column < static_cast<int>(usual.size());
+        if (exists && std::ranges::find(order, column) == order.end()) order.push_back(column);
+    };
+    if (layout_ && !layout_->empty()) {
+        add(0);
+        for (const ShownColumn& shown : *layout_) add(shown.column);
+    }
+    for (const int column : usual) add(column);
+    return order;
+}
+
+void ListPane::PlaceColumns() {
+    const ScopedValue placing(fitting_, true);
+    const std::vector<int> order = ColumnOrder();
+    for (std::size_t place = 0; place < order.size(); ++place)
+        header()->moveSection(header()->visualIndex(order[place]), static_cast<int>(place));
+    for (const int column : order) header()->setSectionHidden(column, IsHidden(column));
+    if (!layout_) return;
+    const auto hasWidth = [](const ShownColumn& shown) { return shown.width > 0; };
+    widthsChosen_ = std::ranges::any_of(*layout_, hasWidth);
+    if (!widthsChosen_ || !isVisible()) return;
+    std::vector<int> widths = WantedWidths();
+    for (const ShownColumn& shown : *layout_)
+        if (hasWidth(shown) && shown.column < static_cast<int>(widths.size()))
+            widths[static_cast<std::size_t>(shown.column)] = PixelsOfTwips(shown.width, DotsPerInch());
+    for (const int column : order)
+        if (!IsHidden(column)) setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+}
+
+void ListPane::KeepLayout() {
+    if (!layout_) return;
+    ColumnLayout layout;
+    for (int place = 0; place < header()->count(); ++place) {
+        const int column = header()->logicalIndex(place);
+        const bool hasWidth = widthsChosen_ && !IsHidden(column);
+        layout.push_back({column, 0});
+        if (hasWidth)
+            layout.back().width = static_cast<int>(TwipsOfPixels(columnWidth(column), DotsPerInch()));
+    }
+    *layout_ = std::move(layout);
 }
 
 void ListPane::ShowRows() {
-    PlaceFolderColumn();
     header()->setSortIndicator(list_.SortColumn(),
                                list_.SortDescending() ? Qt::DescendingOrder : Qt::AscendingOrder);
     header()->setSortIndicatorShown(list_.SortColumn() >= 0);
     const QString title = list_.Columns().empty() ? QString() : ToQt(list_.Columns().front().title);
     if (title != firstTitle_) widthsChosen_ = false;
     firstTitle_ = title;
+    PlaceColumns();
     if (!widthsChosen_) FitColumns();
     emit RowsChanged();
 }
@@ -101,6 +155,16 @@ void ListPane::SortBy(int column) {
     if (column < 0 || column >= model_->columnCount()) return;
     if (sort_) return sort_(column);
     list_.Sort(column, list_.SortColumn() == column && !list_.SortDescending());
+}
+
+int ListPane::NextColumn(int column) const {
+    const int columns = header()->count();
+    int place = column < 0 ? -1 : header()->visualIndex(column);
+    for (int tries = 0; tries < columns; ++tries) {
+        place = (place + 1) % columns;
+        if (!IsHidden(header()->logicalIndex(place))) return header()->logicalIndex(place);
+    }
+    return -1;
 }
 
 void ListPane::FitColumns() {
@@ -117,6 +181,10 @@ std::vector<int> ListPane::WantedWidths() const {
     const int widest = DigitsWidth(*this, kWidestInDigits);
     std::vector<int> widths;
     for (int col = 0; col < model_->columnCount(); ++col) {
+        if (IsHidden(col)) {
+            widths.push_back(0);
+            continue;
+        }
         const int title = header()->sectionSizeHint(col);
         const int wanted = std::max(sizeHintForColumn(col) + Unit(*this), title);
         widths.push_back(std::min(wanted, std::max(widest, title)));
@@ -152,13 +220,14 @@ void ListPane::FitColumnsInto(int room) {
     std::vector<int> widths = WantedWidths();
     NarrowTexts(widths, room);
     widths[0] = std::max(widths[0], room - std::accumulate(widths.begin() + 1, widths.end(), 0));
-    for (std::size_t col = 0; col < widths.size(); ++col) setColumnWidth(static_cast<int>(col), widths[col]);
+    for (int col = 0; col < model_->columnCount(); ++col)
+        if (!IsHidden(col)) setColumnWidth(col, widths[static_cast<std::size_t>(col)]);
 }
 
 void ListPane::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
     if (key == Qt::Key_S && event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier)) {
-        SortBy((list_.SortColumn() + 1) % std::max(1, model_->columnCount()));
+        SortBy(NextColumn(list_.SortColumn()));
         return;
     }
     RowView::keyPressEvent(event);
@@ -166,6 +235,7 @@ void ListPane::keyPressEvent(QKeyEvent* event) {
 
 void ListPane::showEvent(QShowEvent* event) {
     QTreeView::showEvent(event);
+    PlaceColumns();
     if (!widthsChosen_) FitColumns();
     ShowSelection();
 }

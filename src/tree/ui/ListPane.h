@@ -6,7 +6,7 @@
 #include <functional>
 #include <vector>
 
-#include "tree/NodeList.h"
+#include "tree/BrowseView.h"
 #include "tree/ui/RowView.h"
 
 namespace tw {
@@ -20,6 +20,10 @@ class ListPane final : public RowView<QTreeView> {
     // Sets what a click on a column's header does. Without it, the list is sorted by the column, and in
     // reverse by a second click.
     void SetSort(std::function<void(int column)> sort) { sort_ = std::move(sort); }
+    // Lets the brewer drag columns to other places, all but the first. Shows the columns as layout says, now
+    // and whenever the list is shown or filled, and changes it when the brewer moves or resizes one.
+    // REQUIRES: layout outlives the widget; it may be shared with other lists of the same columns.
+    void SetLayout(ColumnLayout& layout);
     // Makes the columns as wide as their contents; the first gets the rest of the width. If they do
     // not fit, the widest texts are cut off in favour of the numbers, unless not even that would make
     // all columns visible.
@@ -52,13 +56,23 @@ class ListPane final : public RowView<QTreeView> {
     void TellActivated() override { emit RowActivated(); }
     void TellChosen() override { emit ChosenChanged(); }
     void ShowRows() override;
-    void PlaceFolderColumn();
+    // Puts the columns into their places, hides those that are hidden, and gives those their width that the
+    // brewer has chosen.
+    void PlaceColumns();
+    // Returns all columns from the left: those of the layout, then the others in their usual order.
+    std::vector<int> ColumnOrder() const;
+    void KeepLayout();
+    double DotsPerInch() const;
     void SortBy(int column);
+    // The column right of that one, or the leftmost one if there is none.
+    int NextColumn(int column) const;
+    bool IsHidden(int column) const { return list_.Columns()[static_cast<std::size_t>(column)].hidden; }
 
     std::function<void(int)> sort_;
-    QString firstTitle_;  // the title of the first column, by which a change of catalogue is noticed
-    bool fitting_ = false;
-    bool widthsChosen_ = false;  // the brewer has dragged a column
+    ColumnLayout* layout_ = nullptr;
+    QString firstTitle_;         // the title of the first column, by which a change of catalogue is noticed
+    bool fitting_ = false;       // the columns are being placed or resized, not by the brewer
+    bool widthsChosen_ = false;  // the brewer has dragged the border of a column
 };
 
 }  // namespace tw

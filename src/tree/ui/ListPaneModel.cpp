@@ -9,7 +9,6 @@
 #include "platform/qt/QtText.h"
 #include "tree/DB_IO.h"
 #include "tree/ListFormats.h"
-#include "tree/NodeList.h"
 #include "tree/ui/NameTip.h"
 #include "tree/ui/NodePictures.h"
 
@@ -62,13 +61,11 @@ QString ListPaneModel::NameOf(const ListRow& row) {
     return ToQt(CodedName(row.code, row.cells.front())).trimmed();
 }
 
-// Returns the tooltip. That of the name includes the folder of a recipe found by a search, because a list of
-// icons has no folder column.
+// Returns the tooltip. That of the name includes the origin of the row, which may be the folder of a recipe
+// found by a search.
 QString ListPaneModel::TipOf(const ListRow& row, std::size_t col) const {
     QString tip = col == 0 ? NameOf(row) : ToQt(row.cells[col]).trimmed();
     if (col == 0 && !row.origin.empty()) tip += QLatin1Char('\n') + ToQt(row.origin);
-    if (col == 0 && list_.Columns().back().title == kFolderColumn)
-        tip += QLatin1Char('\n') + ToQt(row.cells.back()).trimmed();
     return NameTip(tip);
 }
 
@@ -96,7 +93,7 @@ QVariant ListPaneModel::data(const QModelIndex& index, int role) const {
             return row.isGroup ? QVariant(QApplication::palette().brush(QPalette::AlternateBase))
                                : QVariant();
         case Qt::AccessibleTextRole:
-            return QStringLiteral("%1: %2").arg(ToQt(list_.Columns()[col].title),
+            return QStringLiteral("%1: %2").arg(ToQt(list_.Columns()[col].Caption()),
                                                 data(index, Qt::DisplayRole).toString());
         default:
             return {};
@@ -111,9 +108,12 @@ bool ListPaneModel::setData(const QModelIndex& index, const QVariant& value, int
 QVariant ListPaneModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || section >= columnCount()) return {};
     const ListColumn& column = list_.Columns()[static_cast<std::size_t>(section)];
-    if (role == Qt::DisplayRole) return ToQt(column.title);
+    if (role == Qt::DisplayRole) return ToQt(column.Caption());
+    // A tooltip says what a caption shortens or a title omits.
     if (role == Qt::ToolTipRole && !column.note.empty())
         return tr("%1: %2\nA click sorts the rows by it.").arg(ToQt(column.title), ToQt(column.note));
+    if (role == Qt::ToolTipRole && column.Caption() != column.title)
+        return tr("%1\nA click sorts the rows by it.").arg(ToQt(column.title));
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AlignmentOf(column));
     return {};
 }

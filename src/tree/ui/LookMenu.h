@@ -1,6 +1,7 @@
 // The menus "View" and "Arrange" for lists of folders and recipes.
 #pragma once
 
+#include <QKeySequence>
 #include <QString>
 #include <functional>
 
@@ -12,6 +13,8 @@ namespace tw {
 
 using RunPopup = std::function<void(PopupChoice choice)>;
 
+// Returns the key of a command in these windows, which its menu item shows; empty if it has none.
+QKeySequence KeyOf(PopupCommand command);
 // Add the item of a command, with the caption of its row or with another one.
 void AddCommand(QMenu& menu, PopupCommand command, bool enabled, const RunPopup& run);
 void AddCommand(QMenu& menu, PopupCommand command, const QString& caption, bool enabled, const RunPopup& run);

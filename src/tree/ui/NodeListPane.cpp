@@ -9,8 +9,9 @@
 
 namespace tw {
 
-NodeListPane::NodeListPane(NodeList& list, const QString& name, bool multi, QWidget* parent)
-    : QWidget(parent), list_(list), name_(name), multi_(multi) {
+NodeListPane::NodeListPane(NodeList& list, const QString& name, bool multi, ColumnLayout& layout,
+                           QWidget* parent)
+    : QWidget(parent), list_(list), name_(name), multi_(multi), layout_(layout) {
     setAccessibleName(name);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -63,6 +64,7 @@ void NodeListPane::SetView(ListViewType type) {
     icons_ = nullptr;
     if (details) {
         details_ = new ListPane(list_.Rows(), name_, this);
+        details_->SetLayout(layout_);
         details_->SetSort([this](int column) { emit SortAsked(column); });
         Connect(*details_);
         details_->show();

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-#include "tree/NodeList.h"
+#include "tree/BrowseView.h"
 #include "tree/ui/KeyDrag.h"
 
 class QAbstractItemView;
@@ -18,9 +18,9 @@ class ListPaneModel;
 class NodeListPane final : public QWidget {
     Q_OBJECT
   public:
-    // Shows the list. name: its name for screen readers. multi: whether several rows can be selected.
-    // REQUIRES: list outlives the widget.
-    NodeListPane(NodeList& list, const QString& name, bool multi, QWidget* parent);
+    // Shows the list. name: its name for screen readers. multi: whether several rows can be selected. layout:
+    // see ListPane::SetLayout. REQUIRES: list and layout outlive the widget.
+    NodeListPane(NodeList& list, const QString& name, bool multi, ColumnLayout& layout, QWidget* parent);
     ~NodeListPane() override;
 
     // Sets what is called with the name typed for a row; it returns false to reject the name.
@@ -54,6 +54,7 @@ class NodeListPane final : public QWidget {
     NodeList& list_;
     QString name_;
     bool multi_;
+    ColumnLayout& layout_;
     std::function<bool(const QString&)> rename_;
     KeyDrag drag_;
     ListPane* details_ = nullptr;  // exactly one of the two exists
