@@ -489,6 +489,34 @@ TEST_F(ExplorerWindowTest, TheViewIsRememberedFromOneOpeningToTheNext) {
     EXPECT_NEAR(Details().columnWidth(0), 300, 1);
 }
 
+TEST_F(ExplorerWindowTest, TheMenuOfTheHeaderBringsBackTheUsualColumns) {
+    Press("mnuDetails");
+    QHeaderView* header = Details().header();
+    const auto usual = [&] {
+        QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(5, 5), header->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(header->viewport(), &asked);
+        return dialog->findChild<QMenu*>(QStringLiteral("HeaderMenu"));
+    };
+    QMenu* menu = usual();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_FALSE(menu->actions().front()->isEnabled());
+    Close(menu);
+    const Strings before = Headers(Details());
+    const int width = Details().columnWidth(15);
+    header->moveSection(header->visualIndex(15), 9);
+    header->resizeSection(15, width + 50);
+    EXPECT_NE(Headers(Details()), before);
+    menu = usual();
+    ASSERT_NE(menu, nullptr);
+    menu->actions().front()->trigger();
+    Close(menu);
+    EXPECT_EQ(Headers(Details()), before);
+    EXPECT_EQ(Details().columnWidth(15), width);
+    OpenAgain();
+    EXPECT_EQ(Headers(Details()), before);
+    EXPECT_EQ(Details().columnWidth(15), width);
+}
+
 TEST_F(ExplorerWindowTest, AWindowThatIsOnlyLookedAtLeavesNoTrace) {
     OpenAgain();
     for (const char* key : {"ListView", "ListOrder", "ListColumns", "ExplorerPage", "ExplorerRecipeEntry",

@@ -93,14 +93,20 @@ void OptionsDialog::BuildSettingsPage() {
     row->setColumnStretch(2, 1);
     column->addLayout(row);
     column->addSpacing(Unit(*this));
-    column->addWidget(
-        Check("chkCopyHeaders", tr("Include Grid &Headers When Copying Entire Rows/Columns"), page));
-    column->addWidget(
-        Check("chkPasteBlockSize", tr("Allow &Pasting Into Grid With Mismatched Selection Size"), page));
+    const auto check = [&](const char* name, const QString& caption, const QString& tip) {
+        QCheckBox* box = Check(name, caption, page);
+        box->setToolTip(tip);
+        column->addWidget(box);
+    };
+    check("chkCopyHeaders", tr("Include Grid &Headers When Copying Entire Rows/Columns"),
+          tr("The titles of the columns are copied with the cells, for a spreadsheet for example"));
+    check("chkPasteBlockSize", tr("Allow &Pasting Into Grid With Mismatched Selection Size"),
+          tr("Cells can be pasted even if another number of cells is selected than was copied"));
     column->addWidget(AutoSaveRow(page));
-    column->addWidget(
-        Check("chkAskNonUndoableChange", tr("Ask Before Applying a &Change That Cannot Be Undone"), page));
-    column->addWidget(Check("chkQuickPrint", tr("Do &Quick Print From Toolbar"), page));
+    check("chkAskNonUndoableChange", tr("Ask Before Applying a &Change That Cannot Be Undone"),
+          tr("Asks before a change that Undo cannot take back, such as scaling a recipe"));
+    check("chkQuickPrint", tr("Do &Quick Print From Toolbar"),
+          tr("The button of the toolbar prints at once, without asking for the printer"));
     column->addStretch();
 }
 
@@ -109,7 +115,9 @@ QWidget* OptionsDialog::AutoSaveRow(QWidget* page) {
     auto* row = RowIn(*holder);
     row->setContentsMargins(0, 0, 0, 0);
     holder->setLayout(row);
-    row->addWidget(Check("chkAutoSave", tr("&Auto-Save Open Documents"), holder));
+    QCheckBox* autoSave = Check("chkAutoSave", tr("&Auto-Save Open Documents"), holder);
+    autoSave->setToolTip(tr("Open recipes that have a name are saved by themselves"));
+    row->addWidget(autoSave);
     every_ = new QLabel(tr("E&very"), holder);
     QLineEdit* minutes = Field("txtSaveInc", tr("Minutes between saves"), kMinutesDigits, holder);
     minutes->setFixedWidth(minutes->minimumWidth());

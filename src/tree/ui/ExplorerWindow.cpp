@@ -160,7 +160,7 @@ QLayout* ExplorerWindow::MakeCommandRow() {
     };
     addMenu("cmdView", tr("&View"), tr("Icons, a list, or all columns"),
             [this, run](QMenu& menu) { AddViews(menu, model_.Look(), run); });
-    addMenu("cmdArrange", tr("&Arrange"), tr("What the lists are sorted by"), [this, run](QMenu& menu) {
+    addMenu("cmdArrange", tr("Sor&t"), tr("What the lists are sorted by"), [this, run](QMenu& menu) {
         AddArrangements(menu, model_.Look(), model_.List(model_.Shown()).Rows(), run);
     });
     return row;

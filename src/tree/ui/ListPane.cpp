@@ -1,6 +1,7 @@
 #include "tree/ui/ListPane.h"
 
 #include <QHeaderView>
+#include <QMenu>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -86,6 +87,8 @@ void ListPane::SetLayout(ColumnLayout& layout) {
     layout_ = &layout;
     header()->setSectionsMovable(true);
     header()->setFirstSectionMovable(false);
+    header()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(header(), &QWidget::customContextMenuRequested, this, &ListPane::ShowHeaderMenu);
     PlaceColumns();
 }
 
@@ -155,6 +158,20 @@ void ListPane::SortBy(int column) {
     if (column < 0 || column >= model_->columnCount()) return;
     if (sort_) return sort_(column);
     list_.Sort(column, list_.SortColumn() == column && !list_.SortDescending());
+}
+
+void ListPane::ShowHeaderMenu(const QPoint& place) {
+    auto* menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->setObjectName(QStringLiteral("HeaderMenu"));
+    QAction* usual = menu->addAction(tr("&Usual Columns"));
+    usual->setEnabled(!layout_->empty());
+    connect(usual, &QAction::triggered, this, [this] {
+        layout_->clear();
+        PlaceColumns();
+        FitColumns();
+    });
+    menu->popup(header()->viewport()->mapToGlobal(place));
 }
 
 int ListPane::NextColumn(int column) const {

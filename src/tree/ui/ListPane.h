@@ -62,6 +62,8 @@ class ListPane final : public RowView<QTreeView> {
     // Returns all columns from the left: those of the layout, then the others in their usual order.
     std::vector<int> ColumnOrder() const;
     void KeepLayout();
+    // Opens the menu of the header, which brings back the usual places and widths.
+    void ShowHeaderMenu(const QPoint& place);
     double DotsPerInch() const;
     void SortBy(int column);
     // The column right of that one, or the leftmost one if there is none.

@@ -92,7 +92,7 @@ void AddLookMenus(QMenu& menu, const ListLook& look, const ListTable& list, bool
     QMenu* view = menu.addMenu(Text("&View"));
     view->menuAction()->setObjectName(QLatin1String(kViewMenu));
     AddViews(*view, look, run);
-    QMenu* arrange = menu.addMenu(Text("&Arrange Icons"));
+    QMenu* arrange = menu.addMenu(Text("Sor&t"));
     arrange->menuAction()->setObjectName(QLatin1String(kArrangeMenu));
     AddArrangements(*arrange, look, list, run);
     AddCommand(menu, PopupCommand::LineUp, lineUpEnabled, run);

@@ -1,4 +1,4 @@
-// The menus "View" and "Arrange" for lists of folders and recipes.
+// The menus "View" and "Sort" for lists of folders and recipes.
 #pragma once
 
 #include <QKeySequence>
@@ -18,7 +18,7 @@ QKeySequence KeyOf(PopupCommand command);
 // Add the item of a command, with the caption of its row or with another one.
 void AddCommand(QMenu& menu, PopupCommand command, bool enabled, const RunPopup& run);
 void AddCommand(QMenu& menu, PopupCommand command, const QString& caption, bool enabled, const RunPopup& run);
-// Adds the submenus "View" and "Arrange", and the item LineUp.
+// Adds the submenus "View" and "Sort", and the item LineUp.
 void AddLookMenus(QMenu& menu, const ListLook& look, const ListTable& list, bool lineUpEnabled,
                   const RunPopup& run);
 // Add the contents of the two submenus.
