@@ -83,6 +83,7 @@ enum class CommandId : std::uint8_t {
     // The Help menu
     HelpContents,
     HelpAuto,
+    HelpNews,
     HelpSample,
     HelpBar,
     HelpAbout,

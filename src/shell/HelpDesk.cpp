@@ -20,6 +20,12 @@ void HelpDesk::ShowForActive() {
         ShowContextHelp("", kWholeWindow);
 }
 
+void HelpDesk::ShowNews() {
+    Help* const help = environment_.help;
+    if (help == nullptr) return;
+    RunShowingErrors(environment_.platform.messages, [&] { help->ShowHelpPage("news.html"); });
+}
+
 void HelpDesk::ShowContents() {
     if (environment_.help == nullptr) return;
     HelpContentsModel contents(*environment_.help, environment_.platform.messages);

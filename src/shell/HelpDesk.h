@@ -21,6 +21,8 @@ class HelpDesk {
     // window is minimised.
     void ShowForActive();
     void ShowContents();
+    // Shows the page about what is new, or its error.
+    void ShowNews();
 
   private:
     const ShellEnvironment& environment_;

@@ -88,6 +88,7 @@ constexpr std::array kKeys = std::to_array<KeyRow>({
     {"KeepBitterness", "1", Flag{&Settings::keepBitterness}},
     {"KeepCarbonation", "1", Flag{&Settings::keepCarbonation}},
     {"FigureStrip", "1", Flag{&Settings::figureStrip}},
+    {"NewsSeen", "0", Short(&Settings::newsSeen)},
     {"MetricExamples", "0", Flag{&Settings::metricExamples}},
 });
 

@@ -38,6 +38,7 @@ struct Settings {
     // The check boxes of the windows that scale a recipe, as they were last accepted.
     bool scaleBoilVol = true, keepBitterness = true, keepCarbonation = true;
     bool figureStrip = true;      // the strip of figures below the tabs of a recipe is shown
+    int newsSeen = 0;             // the last edition of the news that the brewer was told of
     bool metricExamples = false;  // examples of what can be typed, and the sample recipe, are metric
 
     // Loads the keys of the window's geometry and style, before the database is opened.

@@ -106,6 +106,9 @@ void ShowAbout(On on) {
     on.platform.dialogs.ShowModal(about);
 }
 
+// Counts the releases whose news are worth a line in the status bar.
+constexpr int kNewsEdition = 1;
+
 }  // namespace
 
 // Actions of commands that need a recipe run only if one is active.
@@ -152,6 +155,7 @@ const ShellActions::Row ShellActions::kRows[] = {
     {CommandId::WindowTileVertical, [](On on) { on.view->ArrangeDocuments(Arrangement::TileVertical); }},
     {CommandId::HelpContents, [](On on) { on.help.ShowContents(); }},
     {CommandId::HelpAuto, [](On on) { on.help.ShowForActive(); }},
+    {CommandId::HelpNews, [](On on) { on.help.ShowNews(); }},
     {CommandId::HelpSample, [](On on) { on.recipes.OpenSample(on.settings.Units()); }},
     {CommandId::HelpAbout, ShowAbout},
 };
@@ -196,6 +200,7 @@ bool ShellActions::Press(CommandId command) {
 }
 
 void ShellActions::ShowAssistantAtStartup(bool metricDesktop) {
+    TellOfNews();
     if (!on_.settings.Values().showAssistantAtStartup) return;
     using Brewhouse = BrewhouseModel::Start;
     if (on_.settings.AreNew())
@@ -203,6 +208,14 @@ void ShellActions::ShowAssistantAtStartup(bool metricDesktop) {
             ShowBrewhouse(on_, metricDesktop ? Brewhouse::SuggestMetric : Brewhouse::SuggestUS);
         });
     ShowAssistant();
+}
+
+// Says once that there is something new, to a brewer who has used an earlier version.
+void ShellActions::TellOfNews() {
+    int& seen = on_.settings.Values().newsSeen;
+    if (seen < kNewsEdition && !on_.settings.AreNew())
+        on_.view->SayBriefly("This version has new ways to work: see Help, What's New.");
+    seen = kNewsEdition;
 }
 
 void ShellActions::ShowAssistant() {

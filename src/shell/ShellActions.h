@@ -66,6 +66,7 @@ class ShellActions {
     bool Carry(CommandId command);
     bool Carry(CommandId command, Action action);
     void ShowAssistant();
+    void TellOfNews();
 
     Parts on_;
 };

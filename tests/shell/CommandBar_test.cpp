@@ -106,6 +106,7 @@ TEST(CommandBar, TheWindowAndHelpMenus) {
     EXPECT_EQ(ItemsOf(CommandBar(), "mnuHelp"),
               (std::vector<ItemRow>{{"mnuHelpContents", "&Contents...", "", ""},
                                     {"mnuHelpAuto", "&Help...", "F1", ""},
+                                    {"mnuHelpNews", "What's &New", "", ""},
                                     {"mnuHelpSample", "Open a &Sample Recipe", "", ""},
                                     {"mnuHelpAbout", "&About Tunwright...", "", ""}}));
 }

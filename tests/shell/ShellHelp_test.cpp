@@ -112,6 +112,24 @@ TEST_F(ShellHelp, TheAssistantsOpenLinkWorksOnAnEmptyDatabase) {
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmAssistant", "frmOpenSave"}));
 }
 
+TEST_F(ShellHelp, NewsAreToldOnceToABrewerWhoKnewAnEarlierVersion) {
+    shell.SettingsNow().Store("Settings", "GrainExtraction", "72%");
+    view.log.clear();
+    shell.ShowAssistantAtStartup();
+    EXPECT_EQ(view.log, Strings{"news: This version has new ways to work: see Help, What's New."});
+    view.log.clear();
+    shell.ShowAssistantAtStartup();
+    EXPECT_EQ(view.log, Strings{});
+    EXPECT_TRUE(shell.RunMenu("mnuHelpNews"));
+    EXPECT_EQ(TakePage(), "news.html");
+}
+
+TEST_F(ShellHelp, AFirstStartHasNoNews) {
+    view.log.clear();
+    shell.ShowAssistantAtStartup();
+    EXPECT_EQ(view.log, Strings{});
+}
+
 TEST_F(ShellHelp, TheAssistantComesUpAtTheStartAsTheSettingSays) {
     // Not the first start, which asks about the brewhouse before.
     shell.SettingsNow().Store("Settings", "GrainExtraction", "72%");
