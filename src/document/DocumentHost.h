@@ -26,6 +26,12 @@ struct RecipeDefaults {
     bool hopSocks = true;
 };
 
+// How the settings want a whole recipe to be scaled.
+struct ScalingPreferences {
+    bool undoable = false;        // scaling is one step of the history, and nothing is asked before it
+    bool keepTypedUnits = false;  // amounts keep the units in which they were typed
+};
+
 // The main window's commands whose state depends on documents. A call that changes no state does nothing.
 class DocumentCommands : public RecipeCommands {
   public:
@@ -60,6 +66,7 @@ class DocumentHost {
     // that off.
     virtual bool AskBeforeNonUndoableChange() const = 0;
     virtual void StopAskingBeforeNonUndoableChange() = 0;
+    virtual ScalingPreferences Scaling() const { return {}; }
     // Deletes a stored recipe. The open documents are notified before this returns.
     virtual void DeleteRecipe(std::string_view name) = 0;
     // Called by a save that has just written the recipe of that name.

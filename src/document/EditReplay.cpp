@@ -59,6 +59,10 @@ bool EditReplay::Apply(const EditTracker* head, bool undo) {
     const TrackingPause pause(recipe_);
     const RedrawHold hold(recipe_.view);
     WantTab(head->TabNumber());
+    if (IsScaling(head->ChangeType())) {
+        parts_.scaling.PutBack(*head, undo);
+        return true;
+    }
     for (const EditTracker* edit : chain) ApplyEdit(*edit, undo);
     return true;
 }

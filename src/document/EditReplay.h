@@ -8,6 +8,7 @@
 #include "document/RecipeFocus.h"
 #include "document/RecipeLines.h"
 #include "document/RecipeOptions.h"
+#include "document/RecipeScaling.h"
 #include "document/RecipeStyle.h"
 
 namespace tw {
@@ -22,10 +23,12 @@ class EditReplay final : public StepReplay {
         RecipeStyle& style;
         RecipeCells& cells;
         RecipeLines& lines;
+        RecipeScaling& scaling;
     };
     EditReplay(OpenRecipe& recipe, Parts parts) : recipe_(recipe), parts_(parts) {}
 
-    // Undo or redo one step of the history, which is emptied when the recipe is opened, saved or scaled.
+    // Undo or redo one step of the history, which is emptied when the recipe is opened or saved, and when it
+    // is scaled unless the settings let that be undone.
     // False if there is none, or if the cell being edited has an entry that is refused. An arithmetic fault
     // ends the step early and raises Error.
     bool Undo();

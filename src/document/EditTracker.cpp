@@ -9,9 +9,9 @@
 namespace tw {
 
 std::string_view ChangeTypeName(ChangeType type) {
-    static constexpr std::array<std::string_view, 10> kNames{
-        "Typing", "Selection",  "Cut",        "Delete",      "Paste",
-        "Abort",  "Insert Row", "Delete Row", "Calculation", "Sort"};
+    static constexpr auto kNames = std::to_array<std::string_view>(
+        {"Typing", "Selection", "Cut", "Delete", "Paste", "Abort", "Insert Row", "Delete Row", "Calculation",
+         "Sort", "Resize Recipe", "Adjust Strength", "Adjust Bitterness", "Adjust Carbonation"});
     const auto index = static_cast<std::size_t>(type);
     return index < kNames.size() ? kNames[index] : std::string_view();
 }

@@ -26,8 +26,18 @@ enum class ChangeType : std::int8_t {
     InsertRow,
     DeleteRow,
     Calculation,
-    Sort
+    Sort,
+    // A change of the whole recipe, if the settings let it be undone.
+    Resize,
+    Strength,
+    Bitterness,
+    Carbonation
 };
+
+// True for a change of the whole recipe.
+constexpr bool IsScaling(ChangeType type) {
+    return type >= ChangeType::Resize;
+}
 
 // Returns the name shown in the menus, such as "Delete Row".
 std::string_view ChangeTypeName(ChangeType type);

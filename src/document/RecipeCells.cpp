@@ -32,21 +32,6 @@ bool HoldsFactors(const CellRule& rule) {
     return rule.ReadOnly() && rule.stored == CellStored::Number;
 }
 
-// Returns what the history stores for a cell: its check mark, or its text, together with the number if the
-// text would give another one.
-EditValue StateOf(const Cell& cell) {
-    if (cell.check != CheckState::None) return EditValue::OfBoolean(cell.check == CheckState::Checked);
-    return cell.ownNumber ? EditValue::OfTextAndNumber(cell.text, cell.value) : EditValue::OfText(cell.text);
-}
-
-// Returns what the history stores for a cell that has become now. The same text may have had another number
-// before: the time of a hop before the hop was boiled.
-EditValue StateBefore(const Cell& cell, const Cell& now) {
-    if (cell.check == CheckState::None && cell.text == now.text && cell.value != now.value)
-        return EditValue::OfTextAndNumber(cell.text, cell.value);
-    return StateOf(cell);
-}
-
 EditValue FactorOf(const Cell& cell) {
     return cell.value.kind == CellValue::Kind::None ? EditValue() : EditValue::OfNumber(cell.value.number);
 }
@@ -211,15 +196,30 @@ void RecipeCells::PutBack(Grid& grid, int row, int col, const EditValue& value) 
     } else if (!value.IsText()) {
         grid.SetValue(row, col, value.IsNumber() ? CellValue::Of(value.AsNumber()) : CellValue{});
     } else {
-        const CellValue* const number = value.OwnNumber();
-        grid.SetValue(row, col,
-                      number ? *number : NumberTold(grid, row, col, value.AsText()).value_or(CellValue{}));
-        grid.SetText(row, col, value.AsText());
-        grid.SetOwnNumber(row, col, number != nullptr);
+        Restore(grid, row, col, value);
     }
     if (grid.At(row, col) != before) recipe_.MarkChanged();
     // Without look-ups, because the cells that these filled have been recorded themselves.
     Recalculate(grid, row);
+}
+
+void RecipeCells::Restore(Grid& grid, int row, int col, const EditValue& value) {
+    const CellValue* const number = value.OwnNumber();
+    grid.SetValue(row, col,
+                  number ? *number : NumberTold(grid, row, col, value.AsText()).value_or(CellValue{}));
+    grid.SetText(row, col, value.AsText());
+    grid.SetOwnNumber(row, col, number != nullptr);
+}
+
+EditValue RecipeCells::StateOf(const Cell& cell) {
+    if (cell.check != CheckState::None) return EditValue::OfBoolean(cell.check == CheckState::Checked);
+    return cell.ownNumber ? EditValue::OfTextAndNumber(cell.text, cell.value) : EditValue::OfText(cell.text);
+}
+
+EditValue RecipeCells::StateBefore(const Cell& cell, const Cell& now) {
+    if (cell.check == CheckState::None && cell.text == now.text && cell.value != now.value)
+        return EditValue::OfTextAndNumber(cell.text, cell.value);
+    return StateOf(cell);
 }
 
 void RecipeCells::PickLogDate(const DateTime& day) {

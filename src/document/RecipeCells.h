@@ -48,6 +48,14 @@ class RecipeCells {
     // For an undo or redo: puts a value back into the cell and recalculates the row, without looking
     // up the catalogue.
     void PutBack(Grid& grid, int row, int col, const EditValue& value);
+    // Puts a text back into the cell, with its number, and recalculates nothing.
+    static void Restore(Grid& grid, int row, int col, const EditValue& value);
+    // Returns what the history stores for a cell: its check mark, or its text, together with the number if
+    // the text would give another one.
+    static EditValue StateOf(const Cell& cell);
+    // Returns what the history stores for a cell that has become now. The same text may have had another
+    // number before: the time of a hop before the hop was boiled.
+    static EditValue StateBefore(const Cell& cell, const Cell& now);
 
   private:
     void ChangeRow(Grid& grid, int row, int col, const std::function<FillEffects()>& change);

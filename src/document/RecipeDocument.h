@@ -104,8 +104,8 @@ class RecipeDocument {
     PitchedYeast yeast_;
     CataloguePicks picks_;
     EditCommands edit_;
-    EditReplay replay_;
     RecipeScaling scaling_;
+    EditReplay replay_;
     WaterTreatment water_;
     RecipeStorage storage_;
     RecipeNotices notices_;

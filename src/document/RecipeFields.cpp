@@ -154,18 +154,23 @@ void RecipeFields::PutBack(TextBox& box, const EditValue& value) {
         return;
     }
     // There is nothing to validate, but the same text may have had another number.
-    const double number = own ? own->number : NumberTold(box, box.Text()).value_or(box.Value());
-    const bool differs = !committed || number != box.Value();
-    box.SetCommitted(box.Text());
-    box.SetValue(number);
-    box.SetOwnNumber(own != nullptr);
-    if (!differs) return;
+    const double before = box.Value();
+    Restore(box, value);
+    if (committed && box.Value() == before) return;
     recipe_.MarkChanged();
     try {
         (void)RunChain(box);
     } catch (const Error&) {
         // A figure that cannot be calculated stays as it is; the box has had that number before.
     }
+}
+
+void RecipeFields::Restore(TextBox& box, const EditValue& value) {
+    const CellValue* const own = value.OwnNumber();
+    box.SetText(value.AsText());
+    box.SetCommitted(value.AsText());
+    box.SetValue(own ? own->number : NumberTold(box, value.AsText()).value_or(box.Value()));
+    box.SetOwnNumber(own != nullptr);
 }
 
 }  // namespace tw

@@ -32,6 +32,8 @@ class RecipeFields {
     void PutBack(TextBox& box, const EditValue& value);
     // Returns what the history stores for the box.
     static EditValue StateOf(const TextBox& box);
+    // Puts a committed text back into the box, with its number, and recalculates nothing.
+    static void Restore(TextBox& box, const EditValue& value);
     // Commits the text without a message. If it cannot be read, such as a bad default in the settings,
     // restores the last committed text, which is empty in a new recipe.
     void CommitDefault(TextBox& box, std::string_view text);

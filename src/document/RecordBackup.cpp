@@ -40,4 +40,24 @@ bool RecordBackup::TextsChanged(const RecipeRecord& record) const {
     return false;
 }
 
+void RecordBackup::VisitBoxes(const RecipeRecord& record, const BoxVisit& visit) const {
+    auto before = boxes_.begin();
+    for (const TextBox* const box : record.TextBoxes()) {
+        if (!box->Computed()) visit(*box, *before);
+        ++before;
+    }
+}
+
+void RecordBackup::VisitCells(const RecipeRecord& record, const CellVisit& visit) const {
+    auto before = rows_.begin();
+    for (const Grid* const grid : record.Grids()) {
+        for (int row = 0; row < grid->Rows(); ++row, ++before) {
+            if (!grid->IsDataRow(row)) continue;
+            for (int col = 0; col < grid->Cols(); ++col)
+                if (!grid->IsReadOnly(row, col))
+                    visit(*grid, row, col, (*before)[static_cast<std::size_t>(col)]);
+        }
+    }
+}
+
 }  // namespace tw

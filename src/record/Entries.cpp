@@ -139,8 +139,9 @@ void MarkOwnNumber(Grid& grid, int row, int col) {
 }
 
 void MarkOwnNumbers(RecipeRecord& record) {
+    // A text that cannot be read, such as a volume that was rounded to "0 gal.", tells no number at all.
     for (TextBox* const box : record.TextBoxes())
-        box->SetOwnNumber(NumberTold(*box, box->Committed()).value_or(box->Value()) != box->Value());
+        box->SetOwnNumber(NumberTold(*box, box->Committed()) != box->Value());
     for (Grid* const grid : record.Grids())
         for (int row = Grid::FixedRows(); row < grid->EndOfData(); ++row)
             for (int col = 0; col < grid->Cols(); ++col)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "record/RecipeCalculator.h"
@@ -9,13 +10,15 @@
 
 namespace tw {
 
-// Each amount is rounded to the precision shown in its cell. The caller must recalculate the figures that
-// depend on the amounts, except that the total amount of a grid and the carbonation from sugars or keg
-// pressure are updated here.
+// Each amount is rounded to the precision shown in its cell, and its number is that of the text shown. The
+// caller must recalculate the figures that depend on the amounts, except that the total amount of a grid and
+// the carbonation from sugars or keg pressure are updated here.
 class RecipeScaler {
   public:
-    // record and calculator must outlive the scaler.
-    RecipeScaler(RecipeRecord& record, RecipeCalculator& calculator) : r_(record), calculator_(calculator) {}
+    // record and calculator must outlive the scaler. If keepUnits is true, each amount keeps the unit in
+    // which it was typed as far as that can be read (ScaledText); else it is shown in the unit of its column.
+    RecipeScaler(RecipeRecord& record, RecipeCalculator& calculator, bool keepUnits)
+        : r_(record), calculator_(calculator), keepUnits_(keepUnits) {}
 
     // Multiply the amounts in the rows of a grid by factor. REQUIRES for ScaleGrainGrid: gridGrain
     // or gridExtract.
@@ -39,10 +42,23 @@ class RecipeScaler {
     CO2Outcome ScalePressure(double volumes);
     CO2Outcome ScaleSugars(double volumes);
     CO2Outcome FillFirstSugar(double volumes);
-    void PutSugar(int row, double ounces);
+
+    // An amount and the text that shows it.
+    struct Amount {
+        CellValue value;
+        std::string text;
+    };
+    static Amount InUnitOfColumn(const Grid& grid, int col, CellValue wanted);
+    Amount AmountFor(const Grid& grid, int row, int col, CellValue wanted, double factor) const;
+    static void Put(Grid& grid, int row, int col, const Amount& amount);
+    void ScaleAmount(Grid& grid, int row, int col, double factor);
+    void ScaleColumn(Grid& grid, int col, double factor);
+    double ExactFinalVolume(double newGallons) const;
+    void PutRoundedVolume(TextBox& box, double gallons);
 
     RecipeRecord& r_;
     RecipeCalculator& calculator_;
+    bool keepUnits_;
 };
 
 }  // namespace tw

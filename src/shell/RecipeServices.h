@@ -38,6 +38,7 @@ class RecipeServices final : public DocumentHost {
     int LPMaxIter() const override { return Values().lpMaxIter; }
     bool AskBeforeNonUndoableChange() const override { return Values().askBeforeNonUndoableChange; }
     void StopAskingBeforeNonUndoableChange() override { Values().askBeforeNonUndoableChange = false; }
+    ScalingPreferences Scaling() const override { return {Values().undoScaling, Values().keepTypedUnits}; }
     void DeleteRecipe(std::string_view name) override;
     void RecipeStored(std::string_view name) override;
     void AddToMRU(std::string_view name) override { to_.recent.Add(name); }

@@ -44,11 +44,23 @@ TEST(ChangedSpan, NeverCutsACharacter) {
 }
 
 TEST(ChangeTypeName, IsTheWordOfTheMenu) {
-    const char* const names[] = {"Typing", "Selection",  "Cut",        "Delete",      "Paste",
-                                 "Abort",  "Insert Row", "Delete Row", "Calculation", "Sort"};
-    for (int type = 0; type < 10; ++type)
+    const char* const names[] = {"Typing",
+                                 "Selection",
+                                 "Cut",
+                                 "Delete",
+                                 "Paste",
+                                 "Abort",
+                                 "Insert Row",
+                                 "Delete Row",
+                                 "Calculation",
+                                 "Sort",
+                                 "Resize Recipe",
+                                 "Adjust Strength",
+                                 "Adjust Bitterness",
+                                 "Adjust Carbonation"};
+    for (int type = 0; type < 14; ++type)
         EXPECT_EQ(ChangeTypeName(static_cast<ChangeType>(type)), names[type]);
-    EXPECT_EQ(ChangeTypeName(static_cast<ChangeType>(10)), "");
+    EXPECT_EQ(ChangeTypeName(static_cast<ChangeType>(14)), "");
     EXPECT_EQ(ChangeTypeName(static_cast<ChangeType>(-1)), "");
 }
 

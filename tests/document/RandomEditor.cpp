@@ -1,5 +1,7 @@
 #include "RandomEditor.h"
 
+#include "document/ScalingModel.h"
+#include "values/NumberText.h"
 #include "values/Text.h"
 
 namespace tw::test {
@@ -410,9 +412,36 @@ void RandomEditor::MoveAbout() {
         grid, {Below(grid.Rows()), Below(grid.Cols()), Below(grid.Rows()), Below(grid.Cols())});
 }
 
+void RandomEditor::Scale() {
+    static const char* const kNames[] = {"Resize Recipe", "Adjust Strength", "Adjust Bitterness",
+                                         "Adjust Carbonation"};
+    if (!Leave([&] { document->Focus().FocusElsewhere(); })) return;
+    const int what = Below(4);
+    // A command is disabled while the recipe has no such figure.
+    if (!CurrentFigure(*document, static_cast<tw::Scaling>(what))) return;
+    host.scaling.keepTypedUnits = Chance(60);
+    const bool first = Chance(50), second = Chance(50), third = Chance(70);
+    const double by = Chance(10) ? 1e300 : 0.2 + Below(40) / 10.0;
+    Note(kNames[what] + (" by " + std::to_string(by)));
+    const DocumentState before = StateOf(*document, host);
+    RecipeScaling& scaling = document->Scaling();
+    const bool fault = Faults([&] {
+        if (what == 0) scaling.ScaleRecipe(5 * by, NumberText(5 * by) + " gal", first, second, third);
+        if (what == 1) scaling.ScaleOG(1 + by / 40, first);
+        if (what == 2) scaling.ScaleIBU(by * 20);
+        if (what == 3) scaling.ScaleCO2(by + 0.5, Asking::Quietly);
+    });
+    if (fault)
+        ASSERT_EQ(Differences(before.all, StateOf(*document, host).all), "") << Trace();
+    else
+        RecordedIfChanged(before, {kNames[what], TabNow()});
+}
+
 void RandomEditor::EditOnce() {
     const int kind = Below(100);
-    if (kind < 22)
+    if (host.scaling.undoable && Chance(10))
+        Scale();
+    else if (kind < 22)
         TypeInBox();
     else if (kind < 26)
         CutOrPasteInBox();

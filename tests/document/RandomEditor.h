@@ -82,6 +82,8 @@ class RandomEditor : public DocumentTest {
     void PasteCells();
     void PickFromCatalogue();
     void PickDate();
+    // Scales the recipe. REQUIRES: the host lets scaling be undone.
+    void Scale();
     void MoveAbout();
     std::string Block(const Grid& grid, int col, int rows, int cols);
 

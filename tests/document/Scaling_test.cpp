@@ -479,5 +479,161 @@ TEST_F(Scaling, HoldsTheWindowUntilItIsDone) {
     document->SetView(nullptr);
 }
 
+// With the setting for it, a scaling is one step of the history.
+class UndoableScaling : public Scaling {
+  protected:
+    UndoableScaling() {
+        host.askBefore = true;
+        host.scaling.undoable = true;
+    }
+};
+
+TEST_F(UndoableScaling, AsksNothingAndIsOneStepBackAndForth) {
+    AddIbus("20 IBU");
+    Prime("100", "4 oz");
+    Set(R().txtFinalVol, "4.5 gal");
+    document->Lines().InsertRowForGrid(R().gridTreatment);
+    Put(R().gridTreatment, 1, TreatmentCol::Name, "Gypsum");
+    Put(R().gridTreatment, 1, TreatmentCol::Amount, "5 g");
+    SaveAs("Once");
+    const DocumentState before = State();
+    document->Scaling().ScaleRecipe(10, "10 gal", true, true);
+    const DocumentState after = State();
+    EXPECT_EQ(Grain(), "20 lbs.");
+    // The question about the carbonation has not been asked either: it is kept.
+    EXPECT_EQ(R().txtCO2.Text(), [&] {
+        document->Replay().Undo();
+        return R().txtCO2.Text();
+    }());
+    EXPECT_EQ(Differences(before.all, State().all), "");
+    EXPECT_FALSE(host.IsOn("EnableUndo"));
+    EXPECT_EQ(host.redoName, "Resize Recipe");
+    EXPECT_TRUE(document->Changed());
+    EXPECT_TRUE(document->Replay().Redo());
+    EXPECT_EQ(Differences(after.all, State().all), "");
+    EXPECT_EQ(host.undoName, "Resize Recipe");
+    EXPECT_EQ(platform.dialogs.shown, Log{});
+    EXPECT_EQ(Boxes(), Log{});
+}
+
+TEST_F(UndoableScaling, EachKindHasItsName) {
+    AddIbus("20 IBU");
+    Prime("100", "4 oz");
+    document->Scaling().ScaleOG(1.06, false);
+    EXPECT_EQ(host.undoName, "Adjust Strength");
+    document->Scaling().ScaleIBU(40);
+    EXPECT_EQ(host.undoName, "Adjust Bitterness");
+    document->Scaling().ScaleCO2(2.5, Asking::Aloud);
+    EXPECT_EQ(host.undoName, "Adjust Carbonation");
+    for (int step = 0; step < 3; ++step) EXPECT_TRUE(document->Replay().Undo());
+    EXPECT_EQ(Grain(), "10 lb");
+    EXPECT_EQ(Hops(), "20 IBU");
+    EXPECT_EQ(Sugar(), "4 oz");
+}
+
+TEST_F(UndoableScaling, APressureComesBack) {
+    document->Options().Choose("optKeg");
+    Set(R().txtTemp, "38 F");
+    Put(R().gridPressure, 1, PressureCol::Pressure, "10 psi");
+    const DocumentState before = State();
+    document->Scaling().ScaleCO2(2.8, Asking::Aloud);
+    EXPECT_NE(R().gridPressure.Text(1, PressureCol::Pressure), "10 psi");
+    EXPECT_TRUE(document->Replay().Undo());
+    EXPECT_EQ(Differences(before.all, State().all), "");
+}
+
+TEST_F(UndoableScaling, WhatChangesNothingLeavesNoStepAndKeepsTheRedo) {
+    Prime("100", "4 oz");
+    SaveAs("Whole");
+    Put(R().gridGrain, 1, GrainCol::Color, "3");
+    document->Replay().Undo();
+    const std::size_t position = document->History().StackPosition();
+    const DocumentState before = State();
+    // 0.8614872 volumes are in the beer.
+    document->Scaling().ScaleCO2(0.5, Asking::Quietly);
+    EXPECT_THROW(document->Scaling().ScaleRecipe(1e308, "much", true, false), Error);
+    document->Scaling().ScaleIBU(40);
+    EXPECT_EQ(State(), before);
+    EXPECT_EQ(document->History().StackPosition(), position);
+    EXPECT_TRUE(host.IsOn("EnableRedo"));
+}
+
+TEST_F(UndoableScaling, WithoutTheSettingStillEndsTheHistory) {
+    document->Scaling().ScaleRecipe(10, "10 gal", true, false);
+    host.scaling.undoable = false;
+    host.askBefore = false;
+    document->Scaling().ScaleRecipe(5, "5 gal", true, false);
+    ExpectEnding();
+}
+
+// With the setting for it, amounts keep the units in which they were typed.
+class TypedUnits : public Scaling {
+  protected:
+    TypedUnits() { host.scaling.keepTypedUnits = true; }
+};
+
+TEST_F(TypedUnits, StayInEveryGridAndVolume) {
+    Put(R().gridGrain, 1, GrainCol::Amount, "8 lb 4 oz");
+    Put(R().gridExtract, 1, GrainCol::Amount, "250 g");
+    AddIbus("8 AAU");
+    document->Lines().InsertRowForGrid(R().gridTreatment);
+    Put(R().gridTreatment, 1, TreatmentCol::Amount, "0.1 oz");
+    Prime("100", "113 g");
+    Set(R().txtTotalVol, "20 L");
+    Set(R().txtBoilVol, "25 L");
+    Set(R().txtFinalVol, "18 L");
+    document->Scaling().ScaleRecipe(40 / 3.785, "40 L", true, false);
+    EXPECT_EQ(Grain(), "16 lb 8 oz");
+    EXPECT_EQ(R().gridGrain.Number(1, GrainCol::Amount), 16.5);
+    EXPECT_EQ(R().gridExtract.Text(1, GrainCol::Amount), "500 g");
+    EXPECT_EQ(R().gridExtract.Number(1, GrainCol::Amount), 500 / 453.59);
+    EXPECT_EQ(Hops(), "16 AAU");
+    EXPECT_EQ(R().gridTreatment.Text(1, TreatmentCol::Amount), "0.2 oz");
+    // 113 g in 18 L; the final volume of 42 L needs 42 / 18 times that: 263.67 g.
+    EXPECT_EQ(Sugar(), "263.7 g");
+    EXPECT_EQ(R().txtBoilVol.Text(), "50 L");
+    // The 2 L lost are added to the new size.
+    EXPECT_EQ(R().txtFinalVol.Text(), "42 L");
+    EXPECT_EQ(R().txtFinalVol.Value(), 42 / 3.785);
+    EXPECT_FALSE(R().gridGrain.At(1, GrainCol::Amount).ownNumber);
+    // The total stays in the unit of its column.
+    EXPECT_EQ(R().gridGrain.Text(2, GrainCol::Amount), "16.5 lbs.");
+}
+
+TEST_F(TypedUnits, StayForAPressure) {
+    document->Options().Choose("optKeg");
+    Set(R().txtTemp, "38 F");
+    Put(R().gridPressure, 1, PressureCol::Pressure, "70 kPa");
+    // 2.5 volumes need 11.246 psi, which are 77.5 kPa.
+    document->Scaling().ScaleCO2(2.5, Asking::Aloud);
+    EXPECT_EQ(R().gridPressure.Text(1, PressureCol::Pressure), "77.5 kPa");
+    EXPECT_NEAR(R().gridPressure.Number(1, PressureCol::Pressure), 77.5 / 6.894757, 1e-9);
+}
+
+TEST_F(TypedUnits, AnAmountWithoutOneTakesTheUsualForm) {
+    // The first sugar gets an amount: (2.5 - 0.8614872) / 0.27027 * 0.133 * 5 = 4.03 oz.
+    Prime("100", "");
+    document->Scaling().ScaleCO2(2.5, Asking::Aloud);
+    EXPECT_EQ(Sugar(), "4.03 oz.");
+}
+
+// An imported amount may have another number than its text tells; the number counts.
+TEST_F(TypedUnits, FollowTheNumberBehindTheText) {
+    R().gridGrain.SetValue(1, GrainCol::Amount, CellValue::Of(12));
+    document->Scaling().ScaleRecipe(10, "10 gal", true, false);
+    EXPECT_EQ(Grain(), "24 lb");
+}
+
+// Where the choice about the carbonation is made with the size, it is not asked for.
+TEST_F(Scaling, AChoiceAboutTheCarbonationNeedsNoQuestion) {
+    Prime("100", "4 oz");
+    AnswerQuestions({"cmdYes", "cmdYes"});
+    document->Scaling().ScaleRecipe(10, "10", false, false, false);
+    EXPECT_EQ(Sugar(), "4 oz");
+    document->Scaling().ScaleRecipe(20, "20", false, false, true);
+    EXPECT_EQ(Sugar(), "8 oz.");
+    EXPECT_EQ(Boxes(), Log{});
+}
+
 }  // namespace
 }  // namespace tw::test

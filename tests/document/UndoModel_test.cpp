@@ -53,6 +53,13 @@ TEST_P(UndoModelTest, EveryPointOfAFullRecipeComesBack) {
     EXPECT_FALSE(HasFailure()) << "seed " << Seed();
 }
 
+TEST_P(UndoModelTest, EveryPointOfAScaledRecipeComesBack) {
+    host.scaling.undoable = true;
+    StartWith(Seed() + 2000, true);
+    Run(Steps(1000), 400);
+    EXPECT_FALSE(HasFailure()) << "seed " << Seed();
+}
+
 INSTANTIATE_TEST_SUITE_P(Seeds, UndoModelTest, testing::Range(1, 7));
 
 }  // namespace

@@ -67,7 +67,12 @@ TEST_F(Entries, OwnNumbersAreThoseThatTheTextDoesNotTell) {
     r.gridHops.SetValue(1, HopCol::Time, CellValue::Of(61));
     r.gridHops.SetText(1, HopCol::Amount, "2 oz");
     r.gridHops.SetValue(1, HopCol::Amount, CellValue::Of(2));
+    // No volume is 0, so this text tells no number.
+    r.txtBoilVol.SetText("0 gal.");
+    r.txtBoilVol.SetCommitted("0 gal.");
+    r.txtBoilVol.SetValue(0);
     MarkOwnNumbers(r);
+    EXPECT_TRUE(r.txtBoilVol.HasOwnNumber());
     EXPECT_TRUE(r.txtFG.HasOwnNumber());
     EXPECT_FALSE(r.txtTotalVol.HasOwnNumber());
     EXPECT_TRUE(r.gridHops.At(1, HopCol::Time).ownNumber);

@@ -24,6 +24,7 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     RecipeDefaults defaults;
     bool appendRows = false;
     bool copyHeaders = false, pasteMismatchSize = false, askBefore = true;
+    ScalingPreferences scaling;
     int lpMaxIter = 1000;
     std::string picks;                       // what the brewer chooses from a catalogue; empty to cancel
     const RecipeDocument* active = nullptr;  // the active document
@@ -49,6 +50,7 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     int LPMaxIter() const override { return lpMaxIter; }
     bool AskBeforeNonUndoableChange() const override { return askBefore; }
     void StopAskingBeforeNonUndoableChange() override { askBefore = false; }
+    ScalingPreferences Scaling() const override { return scaling; }
     void DeleteRecipe(std::string_view name) override {
         log.emplace_back("DeleteRecipe " + std::string(name));
         io_.DeleteRecipeByName(name);
