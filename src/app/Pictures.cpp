@@ -95,6 +95,7 @@ bool SaveScalings(QtDialogs& dialogs, const RecipeDocument& document, QWidget& p
     bool ok = true;
     for (const Scaling what : {Scaling::Size, Scaling::Strength, Scaling::Bitterness, Scaling::Carbonation}) {
         ScalingModel model(what, CurrentFigure(document, what).value_or(""), messages);
+        model.SetRemembered({}, document.Scaling().HasCarbonation());
         const QString file = prefix + QString::fromStdString(model.FormName()) + QStringLiteral(".png");
         ok &= SaveDialog(dialogs, model, parent, file);
     }

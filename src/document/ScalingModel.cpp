@@ -43,6 +43,7 @@ ScalingModel::ScalingModel(Scaling what, std::string current, MessagePort& messa
         {{std::string(form.label), [this] { return current_; }}, TextEntry(std::string(form.box), entry_)});
     if (form.scalesBoilVol) AddControls({Switch("chkScaleBV", scaleBoilVol_)});
     if (form.preservesIBU) AddControls({Switch("chkPreserveIBU", preserveIBU_)});
+    if (what == Scaling::Size) AddControls({CarbonationSwitch()});
     AddButtons({{"OKButton", [this] { Ok(); }}, {"CancelButton", [this] { Close(); }}});
 }
 
@@ -55,6 +56,42 @@ FormControl ScalingModel::Switch(std::string_view name, bool& checked) {
         return true;
     };
     return box;
+}
+
+// The box is not listed, since only a window shows it.
+FormControl ScalingModel::CarbonationSwitch() {
+    return {"chkKeepCarbonation",
+            {},
+            [this](std::string_view text) {
+                if (text != "yes" && text != "no") return false;
+                LeaveBox();
+                keepCarbonation_ = text == "yes";
+                return true;
+            },
+            [this] { return hasCarbonation_; }};
+}
+
+void ScalingModel::SetRemembered(const ScalingChoices& choices, bool hasCarbonation) {
+    remembered_ = choices;
+    hasCarbonation_ = hasCarbonation;
+}
+
+void ScalingModel::StartWithRemembered() {
+    const Form& form = FormOf(what_);
+    scaleBoilVol_ = form.scalesBoilVol && remembered_.scaleBoilVol;
+    preserveIBU_ = form.preservesIBU && remembered_.keepBitterness;
+    if (what_ == Scaling::Size && hasCarbonation_) keepCarbonation_ = remembered_.keepCarbonation;
+    startedWithRemembered_ = true;
+}
+
+std::optional<ScalingChoices> ScalingModel::ChoicesToRemember() const {
+    if (!startedWithRemembered_) return std::nullopt;
+    const Form& form = FormOf(what_);
+    ScalingChoices choices = remembered_;
+    if (form.scalesBoilVol) choices.scaleBoilVol = scaleBoilVol_;
+    if (form.preservesIBU) choices.keepBitterness = preserveIBU_;
+    choices.keepCarbonation = keepCarbonation_.value_or(choices.keepCarbonation);
+    return choices;
 }
 
 std::string_view ScalingModel::LabelName() const {
@@ -135,7 +172,7 @@ void Scale(RecipeDocument& document, const ScalingModel& dialog) {
     switch (dialog.What()) {
         case Scaling::Size:
             document.Scaling().ScaleRecipe(dialog.NewValue(), dialog.NewText(), dialog.ScaleBoilVol(),
-                                           dialog.PreserveIBU());
+                                           dialog.PreserveIBU(), dialog.KeepCarbonation());
             break;
         case Scaling::Strength:
             document.Scaling().ScaleOG(dialog.NewValue(), dialog.PreserveIBU());

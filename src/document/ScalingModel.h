@@ -1,4 +1,4 @@
-// The dialogs of the changes that cannot be undone: frmResizeRecipe, frmChangeOG, frmChangeIBU and
+// The dialogs of the changes of a whole recipe: frmResizeRecipe, frmChangeOG, frmChangeIBU and
 // frmChangeCO2. Each shows the present figure and accepts the new one.
 #pragma once
 
@@ -21,6 +21,14 @@ class RecipeDocument;
 // The quantities to which a recipe can be scaled.
 enum class Scaling { Size, Strength, Bitterness, Carbonation };
 
+// The check boxes of the dialogs, as a window starts with them and as they are remembered.
+struct ScalingChoices {
+    bool scaleBoilVol = true;
+    bool keepBitterness = true;
+    bool keepCarbonation = true;
+    bool operator==(const ScalingChoices&) const = default;
+};
+
 // The controls are the label with the present figure, the entry box, and chkScaleBV and chkPreserveIBU if the
 // form has them; setting a check box first leaves the entry box. The buttons are OKButton, which keeps the
 // dialog open if the entry is blank or refused, and CancelButton.
@@ -35,6 +43,15 @@ class ScalingModel final : public FormModel {
     // Sets a check of the new size, called after it has been read: returns the text of a refusal, or
     // an empty one.
     void SetSizeCheck(std::function<std::string(double gallons)> refusal) { refusal_ = std::move(refusal); }
+
+    // Sets the choices of the last time, and whether the recipe has a carbonation that a new size can keep.
+    void SetRemembered(const ScalingChoices& choices, bool hasCarbonation);
+    // Starts with the remembered choices; called by a window. Without that call all boxes start unchecked, as
+    // for a script, and a new size asks separately whether to keep the carbonation.
+    void StartWithRemembered();
+    // Returns the choices to remember, once OKButton has accepted the entry; nullopt if the dialog did not
+    // start with remembered ones.
+    std::optional<ScalingChoices> ChoicesToRemember() const;
 
     Scaling What() const { return what_; }
     const std::string& Current() const { return current_; }
@@ -57,10 +74,13 @@ class ScalingModel final : public FormModel {
     const std::string& NewText() const { return goodText_; }
     bool ScaleBoilVol() const { return scaleBoilVol_; }
     bool PreserveIBU() const { return preserveIBU_; }
+    // nullopt if that was not chosen: the brewer must be asked.
+    std::optional<bool> KeepCarbonation() const { return keepCarbonation_; }
 
   private:
     // Returns a check box that leaves the entry box before it changes.
     FormControl Switch(std::string_view name, bool& checked);
+    FormControl CarbonationSwitch();
     bool Check();
     Reading<double> Read() const;
     Reading<double> ReadSize() const;
@@ -75,6 +95,10 @@ class ScalingModel final : public FormModel {
     double value_ = 0;
     bool scaleBoilVol_ = false;
     bool preserveIBU_ = false;
+    std::optional<bool> keepCarbonation_;
+    ScalingChoices remembered_;
+    bool hasCarbonation_ = false;
+    bool startedWithRemembered_ = false;
 };
 
 // Returns the text of the figure from which a scaling starts; nullopt if the recipe has none.

@@ -65,8 +65,17 @@ void ShowScaling(On on, Scaling what) {
     if (!current) return;
     ScalingModel dialog(what, *current, on.platform.messages);
     dialog.SetSizeCheck([&document](double gallons) { return document.Scaling().RefusalOfSize(gallons); });
+    Settings& settings = on.settings.Values();
+    dialog.SetRemembered({settings.scaleBoilVol, settings.keepBitterness, settings.keepCarbonation},
+                         document.Scaling().HasCarbonation());
     on.platform.dialogs.ShowModal(dialog);
-    if (!dialog.Cancelled()) Scale(document, dialog);
+    if (dialog.Cancelled()) return;
+    if (const std::optional<ScalingChoices> choices = dialog.ChoicesToRemember()) {
+        settings.scaleBoilVol = choices->scaleBoilVol;
+        settings.keepBitterness = choices->keepBitterness;
+        settings.keepCarbonation = choices->keepCarbonation;
+    }
+    Scale(document, dialog);
 }
 
 void ConvertUnits(On on) {

@@ -205,5 +205,48 @@ TEST_F(ScalingStart, DoesWhatTheDialogSays) {
     EXPECT_EQ(R().txtBoilVol.Text(), "12 gal.");
 }
 
+// A window starts with the choices of the last time.
+TEST_F(ScalingDialogs, StartWithTheRememberedChoices) {
+    ScalingModel size(Scaling::Size, "5 gal", messages);
+    size.SetRemembered({true, false, true}, true);
+    EXPECT_EQ(size.ChoicesToRemember(), std::nullopt);
+    size.StartWithRemembered();
+    EXPECT_TRUE(size.ScaleBoilVol());
+    EXPECT_FALSE(size.PreserveIBU());
+    EXPECT_EQ(size.KeepCarbonation(), true);
+    EXPECT_TRUE(size.SetControl("chkScaleBV", "no"));
+    EXPECT_TRUE(size.SetControl("chkKeepCarbonation", "no"));
+    EXPECT_EQ(Enter(size, "10 gal"), "");
+    EXPECT_EQ(size.ChoicesToRemember(), (ScalingChoices{false, false, false}));
+}
+
+TEST_F(ScalingDialogs, LeaveAloneWhatTheyDoNotShow) {
+    ScalingModel strength(Scaling::Strength, "1.050", messages);
+    strength.SetRemembered({false, true, false}, true);
+    strength.StartWithRemembered();
+    EXPECT_TRUE(strength.PreserveIBU());
+    EXPECT_FALSE(strength.SetControl("chkKeepCarbonation", "yes"));
+    EXPECT_EQ(Enter(strength, "1.060"), "");
+    EXPECT_EQ(strength.ChoicesToRemember(), (ScalingChoices{false, true, false}));
+    ScalingModel flat(Scaling::Size, "5 gal", messages);
+    flat.SetRemembered({}, false);
+    flat.StartWithRemembered();
+    EXPECT_EQ(flat.KeepCarbonation(), std::nullopt);
+    EXPECT_FALSE(flat.SetControl("chkKeepCarbonation", "no"));
+    EXPECT_EQ(flat.ChoicesToRemember(), ScalingChoices());
+}
+
+// A script finds the described controls, and may answer the question about the carbonation in advance.
+TEST_F(ScalingDialogs, DoNotListTheCarbonation) {
+    ScalingModel size(Scaling::Size, "5 gal", messages);
+    size.SetRemembered({}, true);
+    EXPECT_EQ(ControlsOf(size),
+              "frmResizeRecipe: lblCurSize=5 gal txtNewSize= chkScaleBV=no chkPreserveIBU=no");
+    EXPECT_EQ(size.KeepCarbonation(), std::nullopt);
+    EXPECT_FALSE(size.SetControl("chkKeepCarbonation", "maybe"));
+    EXPECT_TRUE(size.SetControl("chkKeepCarbonation", "yes"));
+    EXPECT_EQ(size.KeepCarbonation(), true);
+}
+
 }  // namespace
 }  // namespace tw::test

@@ -58,8 +58,16 @@ TEST_F(ScalingWindows, ResizeIsWorkedByKeysAlone) {
         EXPECT_EQ(In<QLabel>(dialog, "lblCurSize").text(), QStringLiteral("5 gal"));
         EXPECT_EQ(Focus(), "txtNewSize");
         Type("10 gal");
-        Mnemonic(In<QCheckBox>(dialog, "chkScaleBV"), Qt::Key_B);
-        Mnemonic(In<QCheckBox>(dialog, "chkPreserveIBU"), Qt::Key_K);
+        auto& boil = In<QCheckBox>(dialog, "chkScaleBV");
+        auto& bitterness = In<QCheckBox>(dialog, "chkPreserveIBU");
+        auto& carbonation = In<QCheckBox>(dialog, "chkKeepCarbonation");
+        EXPECT_TRUE(boil.isChecked() && bitterness.isChecked() && carbonation.isChecked());
+        Mnemonic(boil, Qt::Key_B);
+        Mnemonic(bitterness, Qt::Key_K);
+        Mnemonic(carbonation, Qt::Key_R);
+        EXPECT_FALSE(boil.isChecked() || bitterness.isChecked() || carbonation.isChecked());
+        Mnemonic(boil, Qt::Key_B);
+        Mnemonic(bitterness, Qt::Key_K);
         QTest::keyClick(&dialog, Qt::Key_N, Qt::AltModifier);
         EXPECT_EQ(Focus(), "txtNewSize");
         Key(Qt::Key_Return);
@@ -71,6 +79,83 @@ TEST_F(ScalingWindows, ResizeIsWorkedByKeysAlone) {
     EXPECT_EQ(R().gridGrain.Text(1, GrainCol::Amount), "20 lbs.");
     // The hops of 40 IBUs are scaled to 20 IBUs.
     EXPECT_EQ(R().gridHops.Text(1, HopCol::Amount), "20 IBUs");
+}
+
+TEST_F(ScalingWindows, RememberTheirBoxesWhenAccepted) {
+    const auto untick = [](ScalingDialog& dialog) {
+        In<QCheckBox>(dialog, "chkPreserveIBU").setChecked(false);
+        if (auto* carbonation = dialog.findChild<QCheckBox*>(QStringLiteral("chkKeepCarbonation")))
+            carbonation->setChecked(false);
+    };
+    Work([&](ScalingDialog& dialog) {
+        untick(dialog);
+        Key(Qt::Key_Escape);
+    });
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsResizeRecipe));
+    EXPECT_TRUE(shell.CurrentSettings().keepBitterness);
+    Work([&](ScalingDialog& dialog) {
+        EXPECT_TRUE(In<QCheckBox>(dialog, "chkPreserveIBU").isChecked());
+        untick(dialog);
+        Type("10 gal");
+        Key(Qt::Key_Return);
+    });
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsResizeRecipe));
+    const Settings& settings = shell.CurrentSettings();
+    EXPECT_TRUE(settings.scaleBoilVol);
+    EXPECT_FALSE(settings.keepBitterness);
+    EXPECT_FALSE(settings.keepCarbonation);
+    Work([](ScalingDialog& dialog) {
+        EXPECT_FALSE(In<QCheckBox>(dialog, "chkPreserveIBU").isChecked());
+        Key(Qt::Key_Escape);
+    });
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsChangeStrength));
+}
+
+TEST_F(ScalingWindows, OfferNoCarbonationThatARecipeLacks) {
+    RecipeDocument& document = *shell.Documents().Active();
+    document.Fields().SetText(R().txtTemp, "");
+    document.Fields().CommitField(R().txtTemp);
+    Work([](ScalingDialog& dialog) {
+        EXPECT_EQ(dialog.findChild<QCheckBox*>(QStringLiteral("chkKeepCarbonation")), nullptr);
+        Key(Qt::Key_Escape);
+    });
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsResizeRecipe));
+}
+
+// The carbonation is chosen in the window itself, so that just the warning comes before a resize.
+TEST_F(ScalingWindows, AResizeHasOneQuestion) {
+    shell.CurrentSettings().askBeforeNonUndoableChange = true;
+    Work([](ScalingDialog&) {
+        Type("10 gal");
+        Key(Qt::Key_Return);
+    });
+    outside.dialogs.scripts.emplace_back([](DialogModel& model) { model.Press("cmdYes"); });
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsResizeRecipe));
+    EXPECT_EQ(outside.dialogs.shown, (Strings{"frmResizeRecipe", "frmCannotUndo"}));
+    EXPECT_EQ(outside.messages.TakeLog(), Strings{});
+    EXPECT_EQ(Text("txtTotalVol"), "10 gal");
+}
+
+TEST_F(ScalingWindows, AreUndoneInOneStepIfTheSettingsSaySo) {
+    shell.CurrentSettings().askBeforeNonUndoableChange = true;
+    shell.CurrentSettings().undoScaling = true;
+    shell.CurrentSettings().keepTypedUnits = true;
+    Work([](ScalingDialog&) {
+        Type("10 gal");
+        Key(Qt::Key_Return);
+    });
+    EXPECT_TRUE(window.RunCommand(CommandId::ToolsResizeRecipe));
+    EXPECT_EQ(outside.dialogs.shown, Strings{"frmResizeRecipe"});
+    const auto grain = [&] { return R().gridGrain.Text(1, GrainCol::Amount); };
+    EXPECT_EQ(grain(), "20 lb");
+    EXPECT_EQ(Text("txtBoilVol"), "12 gal");
+    EXPECT_EQ(shell.Bar().Item(CommandId::EditUndo).caption, "&Undo Resize Recipe");
+    EXPECT_TRUE(window.RunCommand(CommandId::EditUndo));
+    EXPECT_EQ(grain(), "10 lb");
+    EXPECT_EQ(Text("txtTotalVol"), "5 gal");
+    EXPECT_EQ(Text("txtBoilVol"), "6 gal");
+    EXPECT_TRUE(window.RunCommand(CommandId::EditRedo));
+    EXPECT_EQ(grain(), "20 lb");
 }
 
 TEST_F(ScalingWindows, TheToolbarOpensAllOfThem) {

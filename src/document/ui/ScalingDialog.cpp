@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 
 #include "platform/qt/Appearance.h"
@@ -37,13 +38,14 @@ constexpr std::array<Texts, 4> kTexts{
       QT_TRANSLATE_NOOP("ScalingDialog", "&New carbonation (volumes):"), "2.5"}}};
 
 struct CheckText {
-    const char* name;
+    std::string_view name;
     const char* caption;
 };
 
-constexpr std::array<CheckText, 2> kChecks{
-    {{"chkScaleBV", QT_TRANSLATE_NOOP("ScalingDialog", "Scale the &boil volume too")},
-     {"chkPreserveIBU", QT_TRANSLATE_NOOP("ScalingDialog", "&Keep the bitterness")}}};
+constexpr std::array<CheckText, 3> kChecks{
+    {{"chkScaleBV", QT_TRANSLATE_NOOP("ScalingDialog", "Scale the &boil volume")},
+     {"chkPreserveIBU", QT_TRANSLATE_NOOP("ScalingDialog", "&Keep the bitterness")},
+     {"chkKeepCarbonation", QT_TRANSLATE_NOOP("ScalingDialog", "Keep the ca&rbonation")}}};
 
 constexpr int kEntryDigits = 14;
 
@@ -57,6 +59,7 @@ bool IsMove(const QFocusEvent& event) {
 
 ScalingDialog::ScalingDialog(ScalingModel& model, QWidget* parent)
     : QDialog(parent), model_(model), box_(new QLineEdit(this)) {
+    model_.StartWithRemembered();
     setObjectName(ToQt(model.FormName()));
     setWindowTitle(tr(kTexts[static_cast<std::size_t>(model.What())].title));
     auto* column = new QVBoxLayout(this);
@@ -102,19 +105,20 @@ void ScalingDialog::AddFigures(QGridLayout& grid) {
 }
 
 void ScalingDialog::AddChecks(QVBoxLayout& column) {
-    for (const DialogControl& control : model_.Controls()) {
-        for (const CheckText& text : kChecks) {
-            if (control.name != text.name) continue;
-            auto* check = new QCheckBox(tr(text.caption), this);
-            check->setObjectName(QLatin1String(text.name));
-            check->setChecked(control.text == "yes");
-            connect(check, &QCheckBox::toggled, this, [this, name = text.name](bool on) {
-                model_.SetControl(name, on ? "yes" : "no");
-                ShowEntry();
-            });
-            column.addWidget(check);
-        }
-    }
+    const auto add = [&](std::string_view name, bool on) {
+        const auto text = std::ranges::find(kChecks, name, &CheckText::name);
+        if (text == kChecks.end()) return;
+        auto* check = new QCheckBox(tr(text->caption), this);
+        check->setObjectName(ToQt(text->name));
+        check->setChecked(on);
+        connect(check, &QCheckBox::toggled, this, [this, box = text->name](bool checked) {
+            model_.SetControl(box, checked ? "yes" : "no");
+            ShowEntry();
+        });
+        column.addWidget(check);
+    };
+    for (const DialogControl& control : model_.Controls()) add(control.name, control.text == "yes");
+    if (const std::optional<bool> keep = model_.KeepCarbonation()) add("chkKeepCarbonation", *keep);
 }
 
 void ScalingDialog::AddButtons(QVBoxLayout& column) {
