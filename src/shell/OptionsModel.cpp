@@ -91,6 +91,8 @@ void OptionsModel::FillSettingsTab() {
     AddText("txtSaveInc", std::to_string(s.doAutoSaveEvery));
     AddCheck("chkAskNonUndoableChange", s.askBeforeNonUndoableChange);
     AddCheck("chkQuickPrint", s.quickPrintFromToolbar);
+    AddLaterCheck("chkUndoScaling", s.undoScaling);
+    AddLaterCheck("chkKeepTypedUnits", s.keepTypedUnits);
 }
 
 void OptionsModel::FillAppearanceTab() {
@@ -129,6 +131,15 @@ void OptionsModel::AddList(std::string_view name, std::vector<std::string> entri
 
 void OptionsModel::AddCheck(std::string_view name, bool checked) {
     Add({Kind::Check, std::string(name), YesNo(checked)});
+}
+
+// Adds a check box that is listed only if it starts checked.
+void OptionsModel::AddLaterCheck(std::string_view name, bool checked) {
+    const std::string own(name);
+    FormControl control{own, {}, [this, own](std::string_view text) { return TakeEntry(own, text); }};
+    if (checked) control.show = [this, own] { return Text(own); };
+    AddControls({std::move(control)});
+    options_.push_back({Kind::Check, own, YesNo(checked)});
 }
 
 void OptionsModel::AddText(std::string_view name, std::string_view text) {
@@ -350,6 +361,8 @@ void OptionsModel::ApplySettings() {
         s.doAutoSaveEvery = static_cast<int>(*minutes);
     s.askBeforeNonUndoableChange = Checked("chkAskNonUndoableChange");
     s.quickPrintFromToolbar = Checked("chkQuickPrint");
+    s.undoScaling = Checked("chkUndoScaling");
+    s.keepTypedUnits = Checked("chkKeepTypedUnits");
 }
 
 void OptionsModel::ApplyAppearance() {

@@ -22,7 +22,8 @@ class SettingsInUse;
 // "down". An entry moves the focus to its control, so that the field that had it is checked. A disabled
 // control accepts entries all the same, so that scripts can name controls in any order. cmdOK keeps the
 // dialog open if it refuses the field with the focus. cmdCancel closes it. mnuResetColors resets the four
-// pictures to the defaults, as if no color had been chosen.
+// pictures to the defaults, as if no color had been chosen. chkUndoScaling and chkKeepTypedUnits, which later
+// versions added, are listed only if they are checked when the dialog opens.
 class OptionsModel final : public FormModel {
   public:
     static constexpr const char* kFormName = "frmOptions";
@@ -78,6 +79,7 @@ class OptionsModel final : public FormModel {
     void Add(Control entry);
     void AddList(std::string_view name, std::vector<std::string> entries, int index);
     void AddCheck(std::string_view name, bool checked);
+    void AddLaterCheck(std::string_view name, bool checked);
     void AddText(std::string_view name, std::string_view text);
 
     const Control& Find(std::string_view name) const;

@@ -1,6 +1,7 @@
 // Tests of the options dialog: what it shows, what it refuses, and what reaches the settings and when.
 #include "shell/OptionsModel.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 
 #include "shell/ShellTest.h"
@@ -63,6 +64,19 @@ TEST_F(OptionsModelTest, ShowsTheDefaultsOfAnEmptyStore) {
               "picSumForeground=1\n");
 }
 
+// The boxes that later versions added are listed only while they are on.
+TEST_F(OptionsModelTest, ListsLaterBoxesOnlyWhileTheyAreOn) {
+    const auto lists = [&](std::string_view name) {
+        const std::vector<DialogControl> controls = Open().Controls();
+        return std::ranges::find(controls, name, &DialogControl::name) != controls.end();
+    };
+    EXPECT_FALSE(lists("chkUndoScaling"));
+    EXPECT_FALSE(lists("chkKeepTypedUnits"));
+    S().keepTypedUnits = true;
+    EXPECT_FALSE(lists("chkUndoScaling"));
+    EXPECT_TRUE(lists("chkKeepTypedUnits"));
+}
+
 TEST_F(OptionsModelTest, IsShownByItsMenuItem) {
     EXPECT_TRUE(shell.RunMenu("mnuToolsOptions"));
     EXPECT_EQ(outside.dialogs.shown, Strings{"frmOptions"});
@@ -88,6 +102,8 @@ TEST_F(OptionsModelTest, OkTakesEveryControlIntoTheSettings) {
                                                           {"txtSaveInc", "12"},
                                                           {"chkAskNonUndoableChange", "no"},
                                                           {"chkQuickPrint", "no"},
+                                                          {"chkUndoScaling", "yes"},
+                                                          {"chkKeepTypedUnits", "yes"},
                                                           {"optIcons(2)", "yes"},
                                                           {"optButtons(1)", "yes"},
                                                           {"picCalcBackground", "255"},
@@ -107,6 +123,8 @@ TEST_F(OptionsModelTest, OkTakesEveryControlIntoTheSettings) {
     EXPECT_EQ(S().hopExtraction, "0.9");
     EXPECT_EQ(S().boilVol, "6 gal");
     EXPECT_EQ(S().totalVol, "19 l");
+    EXPECT_TRUE(S().undoScaling);
+    EXPECT_TRUE(S().keepTypedUnits);
     EXPECT_EQ(S().waterProfile, "Pilsen");
     EXPECT_EQ(S().packaging, 1);
     EXPECT_EQ(S().reportType, 2);

@@ -105,6 +105,10 @@ void OptionsDialog::BuildSettingsPage() {
     column->addWidget(AutoSaveRow(page));
     check("chkAskNonUndoableChange", tr("Ask Before Applying a &Change That Cannot Be Undone"),
           tr("Asks before a change that Undo cannot take back, such as scaling a recipe"));
+    check("chkUndoScaling", tr("Make Scaling a Recipe &Undoable, Without Asking"),
+          tr("Resizing and adjusting a recipe becomes one step of Undo"));
+    check("chkKeepTypedUnits", tr("&Keep the Units of Typed Amounts When Scaling"),
+          tr("8 lb 4 oz doubled is 16 lb 8 oz; otherwise it becomes 16.5 lbs."));
     check("chkQuickPrint", tr("Do &Quick Print From Toolbar"),
           tr("The button of the toolbar prints at once, without asking for the printer"));
     column->addStretch();
