@@ -78,6 +78,8 @@ class DocumentHost {
     // Lets the brewer complete a row and add it to the catalogue. The name added then goes to the document's
     // CataloguePicks::TakeAdded.
     virtual void AddToCatalogue(RecipeDocument&, const CatalogueDraft&) {}
+    // Shows good news about a recipe for a few seconds, if there is a window.
+    virtual void SayBriefly(const std::string& /*text*/) {}
     // The recipe has been edited and is marked as changed.
     virtual void DocumentEdited(const RecipeDocument&) {}
     // The caption or the modified flag has changed.

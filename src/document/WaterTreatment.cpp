@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "document/TreatmentSummary.h"
 #include "values/NumberText.h"
 #include "water/Treatment.h"
 
@@ -65,6 +66,7 @@ void WaterTreatment::CalcTreatment() {
     step.Keep();
     grid.NotifyFilled();
     focus_.RefreshRowCommands();
+    recipe_.host.SayBriefly(TreatmentSummary(recipe_.record));
 }
 
 void WaterTreatment::Clear() {

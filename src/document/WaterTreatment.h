@@ -16,9 +16,9 @@ class WaterTreatment {
         : recipe_(recipe), catalogue_(catalogue), focus_(focus), cells_(cells), lines_(lines) {}
 
     // The button below gridWater; does nothing while that is disabled. Replaces all rows of gridTreatment by
-    // the salts that bring the source water closest to the target water, as one step of the history. Shows a
-    // message and changes nothing if the catalogue has no salts or neither linear program has a solution.
-    // Raises Error for an arithmetic fault, with nothing changed.
+    // the salts that bring the source water closest to the target water, as one step of the history, and
+    // tells the host what they reach. Shows a message and changes nothing if the catalogue has no salts or
+    // neither linear program has a solution. Raises Error for an arithmetic fault, with nothing changed.
     void CalcTreatment();
 
   private:

@@ -48,6 +48,7 @@ class RecipeServices final : public DocumentHost {
     void AddToCatalogue(RecipeDocument& document, const CatalogueDraft& draft) override {
         to_.catalogue.Add(document, draft);
     }
+    void SayBriefly(const std::string& text) override { to_.view->SayBriefly(text); }
     void DocumentEdited(const RecipeDocument& document) override { to_.unsaved.Edited(document); }
     void DocumentRenamed(const RecipeDocument& document) override;
 

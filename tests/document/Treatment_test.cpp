@@ -7,6 +7,8 @@
 
 #include "DocumentState.h"
 #include "DocumentTest.h"
+#include "document/BriefCell.h"
+#include "document/TreatmentSummary.h"
 #include "values/NumberText.h"
 
 namespace tw::test {
@@ -333,6 +335,105 @@ TEST_F(TreatmentOf, WaitsForAnEntryThatWasRefused) {
     document->Water().CalcTreatment();
     EXPECT_EQ(Rows(), Log{});
     document->SetView(nullptr);
+}
+
+// What the salts reach, in one sentence.
+class TreatmentSummaryOf : public TreatmentOf {
+  protected:
+    void Have(const Ions& ppm) {
+        for (int ion = 0; ion < kIons; ++ion)
+            Put(R().gridWater, WaterRow::Source, WaterCol::FirstIon + ion,
+                NumberText(ppm[static_cast<std::size_t>(ion)]));
+    }
+    std::string Summary() { return TreatmentSummary(R()); }
+};
+
+TEST_F(TreatmentSummaryOf, IsNewsForTheHost) {
+    Set(R().txtTotalVol, "20 L");
+    Need({114.4, 79.2, 0, 0, 0, 147.4});
+    host.log.clear();
+    document->Water().CalcTreatment();
+    EXPECT_EQ(host.log.back(), "news: Salts for 20 L. All ions within 3 %");
+}
+
+TEST_F(TreatmentSummaryOf, TellsWhatIsShortAndWhatIsOver) {
+    // 5 g of gypsum in 5 gal: 61.5 ppm of calcium, 147.4 of sulfate.
+    AddRow("Gypsum", "5 g");
+    Have({0, 50, 0, 0, 12, 0});
+    // Sulfate 147.4 of 160 is 7.875 % short, calcium 61.5 of 60 is 2.5 % over.
+    Need({60, 50, 0, 0, 12, 160});
+    EXPECT_EQ(Summary(), "Salts for 5 gal. All other ions within 3 %, sulfate 8 % short");
+    // Sodium 12 of 10 is 20 % over.
+    Need({60, 50, 0, 0, 10, 160});
+    EXPECT_EQ(Summary(), "Salts for 5 gal. All other ions within 3 %, sodium 20 % over, sulfate 8 % short");
+    // What nobody wants has no percentage.
+    Need({60, 50, 0, 0, 0, 147});
+    EXPECT_EQ(Summary(), "Salts for 5 gal. All other ions within 3 %, sodium 12 ppm over");
+    Need({20, 20, 5, 5, 5, 20});
+    // 41.5 of 20, 30 of 20, 5 of 5, 5 of 5, 7 of 5, 127.4 of 20
+    EXPECT_EQ(
+        Summary(),
+        "Salts for 5 gal. Calcium 208 % over, carbonate 150 % over, chloride 100 % short, magnesium 100 % "
+        "short, sodium 140 % over, sulfate 637 % over");
+}
+
+TEST_F(TreatmentSummaryOf, CountsWhatReportsRoundAwayAsReached) {
+    Have({1.3, 0, 0, 0, 0, 96.6});
+    // 0.3 ppm are 30 % of 1, 3.4 % are 3 %, and nothing of nothing is enough.
+    Need({1, 0, 0, 0, 0, 100});
+    EXPECT_EQ(Summary(), "No salts for 5 gal. All ions within 3 %");
+    Need({1, 0, 0, 0, 0, 101});
+    EXPECT_EQ(Summary(), "No salts for 5 gal. All other ions within 3 %, sulfate 4 % short");
+}
+
+TEST_F(TreatmentSummaryOf, WritesTheVolumeAsTyped) {
+    Need({1, 0, 0, 0, 0, 0});
+    Have({1, 0, 0, 0, 0, 0});
+    Set(R().txtTotalVol, "5");
+    EXPECT_EQ(Summary(), "No salts for 5 gal. All ions within 3 %");
+    Set(R().txtTotalVol, " 5.25 gal.");
+    EXPECT_EQ(Summary(), "No salts for 5.25 gal. All ions within 3 %");
+    Need({0, 0, 0, 0, 0, 0});
+    EXPECT_EQ(Summary(), "No salts for 5.25 gal. No target water is given");
+}
+
+// A window paints no digits that nobody can weigh; the cells keep them.
+TEST_F(TreatmentOf, PaintsWhatAScaleShows) {
+    AddRow("Gypsum", "3.417 grams");
+    Grid& grid = R().gridTreatment;
+    const auto brief = [&](std::string_view text) {
+        Put(grid, 1, TreatmentCol::Amount, text);
+        return BriefCell(grid, 1, TreatmentCol::Amount);
+    };
+    EXPECT_EQ(brief("3.417 grams"), "3.4 grams");
+    EXPECT_EQ(brief("3.95 g"), "4 g");
+    EXPECT_EQ(brief("3.4 g"), "3.4 g");
+    EXPECT_EQ(brief("12"), "12");
+    EXPECT_EQ(brief("0.05 grams"), "0.1 grams");
+    EXPECT_EQ(brief("0.0468 grams"), "0.047 grams");
+    EXPECT_EQ(brief("0.00468 grams"), "0.0047 grams");
+    EXPECT_EQ(brief("0.123 oz"), "0.123 oz");
+    EXPECT_EQ(brief("1/3 g"), "1/3 g");
+    EXPECT_EQ(brief("2 1/3 g"), "2 1/3 g");
+    EXPECT_EQ(brief(""), "");
+    EXPECT_EQ(grid.Text(1, TreatmentCol::Name), BriefCell(grid, 1, TreatmentCol::Name));
+}
+
+TEST_F(TreatmentOf, PaintsIonsAsReportsDo) {
+    // 3.417 g of gypsum in 5 gal: 42.03 ppm of calcium and 100.73 of sulfate.
+    AddRow("Gypsum", "3.417 grams");
+    Grid& water = R().gridWater;
+    Put(water, WaterRow::Source, WaterCol::FirstIon, "10.44");
+    Put(water, WaterRow::Target, WaterCol::FirstIon, "1.23");
+    EXPECT_EQ(R().gridTreatment.Text(1, TreatmentCol::FirstIon), "42.03");
+    EXPECT_EQ(BriefCell(R().gridTreatment, 1, TreatmentCol::FirstIon), "42");
+    EXPECT_EQ(water.Text(WaterRow::Totals, WaterCol::FirstIon + 5), "100.73");
+    EXPECT_EQ(BriefCell(water, WaterRow::Totals, WaterCol::FirstIon + 5), "101");
+    // 1.23 - 10.44
+    EXPECT_EQ(water.Text(WaterRow::Needed, WaterCol::FirstIon), "-9.21");
+    EXPECT_EQ(BriefCell(water, WaterRow::Needed, WaterCol::FirstIon), "-9.2");
+    EXPECT_EQ(BriefCell(water, WaterRow::Source, WaterCol::FirstIon), "10.44");
+    EXPECT_EQ(BriefCell(water, 0, WaterCol::FirstIon), "Calcium (Ca)");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <random>
 
 #include "GuiTest.h"
+#include "document/BriefCell.h"
 #include "platform/qt/QtMessages.h"
 #include "shell/ui/DocumentArea.h"
 
@@ -186,7 +187,7 @@ void Monkey::CheckGrid(const GridView& view, const Grid& grid) {
     for (int row = 0; row < grid.DataRows(); ++row)
         for (int col = 0; col < grid.Cols(); ++col)
             EXPECT_EQ(FromQt(view.Model().index(row, col).data().toString()),
-                      grid.Shown(row + Grid::FixedRows(), col));
+                      BriefCell(grid, row + Grid::FixedRows(), col));
 }
 
 void Monkey::CheckDocument(const RecipeWindow& view, RecipeDocument& document) {

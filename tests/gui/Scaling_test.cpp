@@ -291,6 +291,27 @@ TEST_F(ScalingWindows, TheTreatmentIsAButtonAndOneUndo) {
     EXPECT_EQ(Shown(treatment, 1, TreatmentCol::Amount), "5 grams");
 }
 
+TEST_F(ScalingWindows, TheTreatmentSaysWhatItReaches) {
+    shell.DB()->Execute("INSERT INTO SALTS (NAME, CA, SO4) VALUES ('Gypsum', 60, 150)");
+    GridAt(Tab::Water, "gridWater", WaterRow::Target, WaterCol::FirstIon);
+    RecipeDocument& document = *shell.Documents().Active();
+    document.Cells().EditCell(R().gridWater, WaterRow::Target, WaterCol::FirstIon, "41");
+    document.Cells().EditCell(R().gridWater, WaterRow::Target, WaterCol::FirstIon + 5, "111");
+    QTest::mouseClick(&Find<QPushButton>("cmdCalcTreatment"), Qt::LeftButton);
+    // 41 / 60 * 5 = 3.417 g, which bring 0.6833 * 150 = 102.5 ppm of sulfate, 7.6 % less than 111.
+    EXPECT_EQ(window.statusBar()->currentMessage(),
+              QStringLiteral("Salts for 5 gal. All other ions within 3 %, sulfate 8 % short"));
+    auto& treatment = Find<GridView>("gridTreatment");
+    const QModelIndex amount = treatment.Model().index(0, TreatmentCol::Amount);
+    EXPECT_EQ(Shown(treatment, 1, TreatmentCol::Amount), "3.4 grams");
+    EXPECT_EQ(amount.data(Qt::EditRole).toString(), QStringLiteral("3.417 grams"));
+    EXPECT_EQ(amount.data(Qt::ToolTipRole).toString(), QStringLiteral("3.417 grams"));
+    EXPECT_EQ(R().gridTreatment.Text(1, TreatmentCol::Amount), "3.417 grams");
+    // 3.417 * 150 / 5 = 102.51
+    EXPECT_EQ(Shown(treatment, 1, TreatmentCol::FirstIon + 5), "103");
+    EXPECT_EQ(R().gridTreatment.Text(1, TreatmentCol::FirstIon + 5), "102.51");
+}
+
 TEST_F(ScalingWindows, TheTreatmentIsOffWithoutAVolume) {
     window.ActiveWindow()->ShowTab(Tab::Water);
     RecipeDocument& document = *shell.Documents().Active();

@@ -64,6 +64,7 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
         log.emplace_back("Pick " + std::to_string(static_cast<int>(list)) + " '" + name + "'");
         if (!picks.empty()) document.Picks().Take(list, picks);
     }
+    void SayBriefly(const std::string& text) override { log.push_back("news: " + text); }
     void DocumentRenamed(const RecipeDocument& document) override {
         log.emplace_back("DocumentRenamed " + document.Caption());
     }

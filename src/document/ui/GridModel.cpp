@@ -5,6 +5,7 @@
 #include <QWidget>
 #include <algorithm>
 
+#include "document/BriefCell.h"
 #include "document/GridAsides.h"
 #include "platform/Error.h"
 #include "platform/qt/Appearance.h"
@@ -127,7 +128,7 @@ QVariant GridModel::FontOf(int row, int col) const {
 
 // Returns the accessible text of a cell: its row, its column and its value.
 QString GridModel::Spoken(int row, int col) const {
-    QString value = ToQt(grid_->Shown(row, col));
+    QString value = ToQt(BriefCell(*grid_, row, col));
     if (grid_->IsCheckBox(row, col)) value = grid_->Checked(row, col) ? tr("yes") : tr("no");
     if (value.isEmpty()) value = tr("empty");
     if (const QString aside = AsideOf(row, col); !aside.isEmpty()) value += QLatin1Char(' ') + aside;
@@ -144,8 +145,14 @@ QString GridModel::GapOf(const QModelIndex& index) const {
     }
 }
 
+// Returns the text of a cell that is painted rounded; nothing for any other cell.
+QVariant GridModel::ExactText(int row, int col) const {
+    const std::string exact = grid_->Shown(row, col);
+    return exact == BriefCell(*grid_, row, col) ? QVariant() : ToQt(exact);
+}
+
 QVariant GridModel::TipOf(const QModelIndex& index) const {
-    if (!HasCatalogue(index)) return {};
+    if (!HasCatalogue(index)) return ExactText(GridRow(index.row()), index.column());
     const QString gap = GapOf(index);
     const QString tip = tr("A double click or Ctrl+Enter opens the catalogue to choose from");
     return gap.isEmpty() ? tip : gap + QLatin1Char('\n') + tip;
@@ -183,7 +190,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     if (!grid_->HasCell(row, col)) return {};
     switch (role) {
         case Qt::DisplayRole:
-            return ToQt(grid_->Shown(row, col));
+            return ToQt(BriefCell(*grid_, row, col));
         case Qt::EditRole:
             return ToQt(grid_->Text(row, col));
         case Qt::TextAlignmentRole:

@@ -63,6 +63,7 @@ class GridModel final : public QAbstractTableModel {
     QString AsideOf(int row, int col) const;
     void SharesChanged();
     QString GapOf(const QModelIndex& index) const;
+    QVariant ExactText(int row, int col) const;
     QVariant TipOf(const QModelIndex& index) const;
 
     DocumentBinding& binding_;
