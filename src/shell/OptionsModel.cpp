@@ -113,6 +113,7 @@ void OptionsModel::FillAppearanceTab() {
              {},
              color.has_value()});
     }
+    AddLaterCheck("chkFigureStrip", s.figureStrip, true);
 }
 
 void OptionsModel::Add(Control entry) {
@@ -133,11 +134,11 @@ void OptionsModel::AddCheck(std::string_view name, bool checked) {
     Add({Kind::Check, std::string(name), YesNo(checked)});
 }
 
-// Adds a check box that is listed only if it starts checked.
-void OptionsModel::AddLaterCheck(std::string_view name, bool checked) {
+// Adds a check box of a newer version, which is listed only if it does not start as it usually does.
+void OptionsModel::AddLaterCheck(std::string_view name, bool checked, bool usually) {
     const std::string own(name);
     FormControl control{own, {}, [this, own](std::string_view text) { return TakeEntry(own, text); }};
-    if (checked) control.show = [this, own] { return Text(own); };
+    if (checked != usually) control.show = [this, own] { return Text(own); };
     AddControls({std::move(control)});
     options_.push_back({Kind::Check, own, YesNo(checked)});
 }
@@ -378,6 +379,7 @@ void OptionsModel::ApplyAppearance() {
         s.buttonStyle = buttons;
         settings_.ShowButtonStyle();
     }
+    if (s.figureStrip != Checked("chkFigureStrip")) settings_.SetFigureStrip(!s.figureStrip);
     for (const ColorRow& row : kColors) s.*row.field = ChosenColor(row.picture);
     settings_.ShowGridColors();
 }

@@ -79,7 +79,7 @@ class OptionsModel final : public FormModel {
     void Add(Control entry);
     void AddList(std::string_view name, std::vector<std::string> entries, int index);
     void AddCheck(std::string_view name, bool checked);
-    void AddLaterCheck(std::string_view name, bool checked);
+    void AddLaterCheck(std::string_view name, bool checked, bool usually = false);
     void AddText(std::string_view name, std::string_view text);
 
     const Control& Find(std::string_view name) const;

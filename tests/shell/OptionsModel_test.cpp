@@ -64,8 +64,8 @@ TEST_F(OptionsModelTest, ShowsTheDefaultsOfAnEmptyStore) {
               "picSumForeground=1\n");
 }
 
-// The boxes that later versions added are listed only while they are on.
-TEST_F(OptionsModelTest, ListsLaterBoxesOnlyWhileTheyAreOn) {
+// The boxes that later versions added are listed only while they differ from their defaults.
+TEST_F(OptionsModelTest, ListsLaterBoxesOnlyWhileTheyDiffer) {
     const auto lists = [&](std::string_view name) {
         const std::vector<DialogControl> controls = Open().Controls();
         return std::ranges::find(controls, name, &DialogControl::name) != controls.end();
@@ -75,6 +75,12 @@ TEST_F(OptionsModelTest, ListsLaterBoxesOnlyWhileTheyAreOn) {
     S().keepTypedUnits = true;
     EXPECT_FALSE(lists("chkUndoScaling"));
     EXPECT_TRUE(lists("chkKeepTypedUnits"));
+    EXPECT_FALSE(lists("chkFigureStrip"));
+    OptionsModel dialog = Open();
+    EXPECT_TRUE(dialog.SetControl("chkFigureStrip", "no"));
+    dialog.Press("cmdOK");
+    EXPECT_FALSE(S().figureStrip);
+    EXPECT_TRUE(lists("chkFigureStrip"));
 }
 
 TEST_F(OptionsModelTest, IsShownByItsMenuItem) {

@@ -148,6 +148,8 @@ void OptionsDialog::BuildAppearancePage() {
     QVBoxLayout* column = ColumnOf(*page);
     AddIconChoices(page, *column);
     AddButtonChoices(page, *column);
+    AddHeading(*column, tr("Recipes"), page);
+    column->addWidget(Check("chkFigureStrip", tr("Show the &Figures Below the Tabs"), page));
     AddHeading(*column, tr("Grid Colors"), page);
     column->addWidget(ColorGroup(page));
     column->addStretch();
@@ -249,6 +251,8 @@ QLineEdit* OptionsDialog::Field(const char* name, const QString& caption, int di
 QCheckBox* OptionsDialog::Check(const char* name, const QString& caption, QWidget* page) {
     auto* box = new QCheckBox(caption, page);
     box->setObjectName(QLatin1String(name));
+    // ShowModel reaches only the boxes that the model lists.
+    box->setChecked(model_.Text(name) == "yes");
     connect(box, &QCheckBox::clicked, this, [this, box](bool on) {
         Enter(box->objectName(), on ? QStringLiteral("yes") : QStringLiteral("no"));
     });
