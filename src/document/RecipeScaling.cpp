@@ -48,6 +48,8 @@ void RecipeScaling::Change(ChangeType type, const std::function<bool()>& change)
 // Records everything that differs from before as one step of the history. False if nothing does.
 bool RecipeScaling::Record(ChangeType type, const RecordBackup& before) {
     EditRecorder& recorder = recipe_.recorder;
+    // The step of a scaling holds nothing but texts, as PutBack expects.
+    recorder.RecordAwaited();
     bool any = false;
     OneStep step(recipe_, type);
     before.VisitBoxes(recipe_.record, [&](const TextBox& now, const RecordBackup::Box& old) {

@@ -28,8 +28,6 @@ struct Suggestion {
 constexpr std::array kSuggestions{Suggestion{"Gallons, pounds, ounces", "5 gal", "6.5 gal"},
                                   Suggestion{"Liters, kilograms, grams", "20 L", "26 L"}};
 
-constexpr int kMaximized = 2;
-
 const Suggestion& SuggestionOf(std::string_view units) {
     return *std::ranges::find(kSuggestions, units, &Suggestion::units);
 }
@@ -119,7 +117,7 @@ void BrewhouseModel::ShowSettings() {
         std::ranges::find_if(waters_, [&](const auto& w) { return SameName(w, s.waterProfile); });
     if (water != waters_.end()) water_ = *water;
     appendRows_ = settings_.AppendRows();
-    maximize_ = s.childState == kMaximized;
+    maximize_ = s.childState == kStateMaximized;
     undoScaling_ = s.undoScaling;
     keepUnits_ = s.keepTypedUnits;
     desktopColors_ = !s.gridReadOnlyBg && !s.gridReadOnlyFg && !s.gridTotalBg && !s.gridTotalFg;
@@ -169,8 +167,8 @@ void BrewhouseModel::Ok() {
     s.metricExamples = units_ == kSuggestions[1].units;
     s.undoScaling = undoScaling_;
     s.keepTypedUnits = keepUnits_;
-    if (maximize_) s.childState = kMaximized;
-    if (!maximize_ && s.childState == kMaximized) s.childState = 0;
+    if (maximize_) s.childState = kStateMaximized;
+    if (!maximize_ && s.childState == kStateMaximized) s.childState = 0;
     if (desktopColors_) s.gridReadOnlyBg = s.gridReadOnlyFg = s.gridTotalBg = s.gridTotalFg = std::nullopt;
     settings_.SetAppendRows(appendRows_);
     settings_.ShowGridColors();

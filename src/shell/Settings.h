@@ -12,6 +12,9 @@
 
 namespace tw {
 
+// The value of Settings::childState for recipes that fill the main window.
+inline constexpr int kStateMaximized = 2;
+
 struct Settings {
     // Geometry of the main window in twips (a twentieth of a point).
     double mainLeft = 1000, mainTop = 1000, mainWidth = 6500, mainHeight = 6500;

@@ -61,6 +61,8 @@ void Copy(On on) {
 void ShowScaling(On on, Scaling what) {
     if (on.documents.Active() == nullptr || !Active(on).Focus().FlushEdits()) return;
     RecipeDocument& document = Active(on);
+    // A row that is still to be typed has no amount to scale.
+    document.Lines().WithdrawRow();
     const std::optional<std::string> current = CurrentFigure(document, what);
     if (!current) return;
     ScalingModel dialog(what, *current, on.platform.messages);

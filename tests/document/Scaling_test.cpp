@@ -516,6 +516,18 @@ TEST_F(UndoableScaling, AsksNothingAndIsOneStepBackAndForth) {
     EXPECT_EQ(Boxes(), Log{});
 }
 
+// The step of a scaling holds amounts only, whatever was prepared before it.
+TEST_F(UndoableScaling, ARowThatIsStillToBeTypedStaysOutOfTheStep) {
+    const int rows = R().gridGrain.DataRows();
+    ASSERT_TRUE(document->Lines().OfferRow(R().gridGrain));
+    document->Scaling().ScaleRecipe(10, "10 gal", true, false, true);
+    ASSERT_TRUE(document->Replay().Undo());
+    EXPECT_EQ(document->History().UndoType(), "Insert Row");
+    EXPECT_EQ(R().gridGrain.DataRows(), rows + 1);
+    ASSERT_TRUE(document->Replay().Undo());
+    EXPECT_EQ(R().gridGrain.DataRows(), rows);
+}
+
 TEST_F(UndoableScaling, EachKindHasItsName) {
     AddIbus("20 IBU");
     Prime("100", "4 oz");

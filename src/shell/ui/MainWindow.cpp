@@ -28,7 +28,6 @@ namespace tw {
 namespace {
 
 constexpr QSize kLeastUnits(84, 44);
-constexpr int kStateMaximized = 2;
 constexpr int kStateNormal = 0;
 // How long an edit may exist in its window alone before it is kept.
 constexpr int kKeepMilliseconds = 3000;
