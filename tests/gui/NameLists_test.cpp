@@ -144,6 +144,16 @@ TEST_F(NameLists, AClickTakesTheName) {
     EXPECT_TRUE(view.hasFocus());
 }
 
+TEST_F(NameLists, AStyleThatNobodyKnowsGoesAwayButNotInSilence) {
+    auto& styles = Find<QComboBox>("cmbStyle");
+    styles.setFocus();
+    Type("stout\rno such\t");
+    EXPECT_EQ(shell.Documents().Active()->BeerStyle(), "Stout");
+    EXPECT_EQ(FromQt(styles.currentText()), "Stout");
+    EXPECT_EQ(FromQt(window.statusBar()->currentMessage()),
+              "There is no \"no such\" in the list; the recipe keeps \"Stout\".");
+}
+
 TEST_F(NameLists, AStyleIsTakenByEnterAndStays) {
     auto& styles = Find<QComboBox>("cmbStyle");
     styles.setFocus();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPoint>
+#include <string>
 
 #include "commands/Commands.h"
 #include "document/SampleRecipe.h"
@@ -25,6 +26,8 @@ class DocumentFrame {
     // Opens the Edit menu as a popup, with first above its items; first is deleted when the menu closes.
     virtual void ShowEditMenu(const QPoint& globalPosition, QAction* first = nullptr) = 0;
     virtual GridColors Colors() const = 0;
+    // Shows a text in the status bar for a few seconds.
+    virtual void SayBriefly(const std::string& text) = 0;
     // The units of the examples in hints.
     virtual TypingUnits Units() const = 0;
     // True if the recipes show the strip of figures below their tabs; HideFigures removes it from all.

@@ -67,11 +67,21 @@ void ListField::Choose(int index) {
 void ListField::Settle() {
     if (!binding_.Document()) return;
     const QString text = currentText().trimmed();
-    const int typed = text.isEmpty() || text == ToQt(list_.Text()) ? -1 : names_->Meant();
+    const bool isName = text.isEmpty() || text == ToQt(list_.Text());
+    const int typed = isName ? -1 : names_->Meant();
     names_->Forget();
-    if (typed >= 0) Choose(typed);
+    if (typed >= 0)
+        Choose(typed);
+    else if (!isName)
+        TellUnknown(text);
     ShowList();
     if (hasFocus()) lineEdit()->selectAll();
+}
+
+// A text that is no name goes away again, but not in silence.
+void ListField::TellUnknown(const QString& text) {
+    binding_.Frame().SayBriefly(
+        FromQt(tr("There is no \"%1\" in the list; the recipe keeps \"%2\".").arg(text, ToQt(list_.Text()))));
 }
 
 void ListField::focusInEvent(QFocusEvent* event) {

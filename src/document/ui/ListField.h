@@ -39,6 +39,7 @@ class ListField final : public QComboBox {
     bool GoesToAnotherProgram(const QFocusEvent& event) const;
     // Chooses the entry that the typed text can only mean; if there is none, shows the present entry again.
     void Settle();
+    void TellUnknown(const QString& text);
 
     DocumentBinding& binding_;
     const ListBox& list_;
