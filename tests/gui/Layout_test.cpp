@@ -30,6 +30,7 @@
 #include "shell/RecoveryModel.h"
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/AutoSaveDialog.h"
+#include "shell/ui/BrewhouseDialog.h"
 #include "shell/ui/ImportExportDialog.h"
 #include "shell/ui/NameConflictDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
@@ -105,6 +106,12 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
             QApplication::processEvents();
             visit(scalingWindow);
         }
+        BrewhouseModel brewhouse(shell.SettingsNow(), *shell.DB(), outside.messages,
+                                 BrewhouseModel::Start::SuggestUS);
+        BrewhouseDialog brewhouseWindow(brewhouse, nullptr);
+        brewhouseWindow.show();
+        QApplication::processEvents();
+        visit(brewhouseWindow);
         OptionsModel options(shell.SettingsNow(), *shell.DB(), outside.messages);
         QtColorChooser colors;
         OptionsDialog optionsWindow(options, colors, nullptr);

@@ -11,6 +11,7 @@
 #include "document/ui/PageBuilder.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/QtText.h"
+#include "platform/qt/ScrollingContents.h"
 
 namespace tw {
 namespace {
@@ -44,10 +45,15 @@ BrewhouseDialog::BrewhouseDialog(BrewhouseModel& model, QWidget* parent) : QDial
     setWindowTitle(tr("Your Brewhouse"));
     auto* column = new QVBoxLayout(this);
     SetSpacing(*column, *this, true);
-    AddHeading(*column);
-    AddEntries(*column);
-    AddChecks(*column);
-    column->addStretch(1);
+    auto* contents = new QWidget(this);
+    contents->setAccessibleName(windowTitle());
+    auto* entries = new QVBoxLayout(contents);
+    SetSpacing(*entries, *this, false);
+    AddHeading(*entries);
+    AddEntries(*entries);
+    AddChecks(*entries);
+    entries->addStretch(1);
+    column->addWidget(new ScrollingContents(contents, this), 1);
     AddButtons(*column);
     ShowModel();
     findChild<QComboBox*>(QStringLiteral("cmbMethod"))->setFocus();
