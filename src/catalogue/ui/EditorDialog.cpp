@@ -14,6 +14,7 @@
 #include "document/ui/PageBuilder.h"
 #include "platform/ScopeGuard.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/DecimalComma.h"
 #include "platform/qt/FocusMoves.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/ScrollingContents.h"
@@ -173,8 +174,8 @@ QLineEdit* EditorDialog::CellBox(int row, int col) {
     cell->setFixedWidth(DigitsWidth(*cell, kCellDigits) + 2 * Unit(*cell));
     cell->setReadOnly(model_.ReadOnly());
     cell->installEventFilter(this);
-    connect(cell, &QLineEdit::textEdited, this, [this, row, col](const QString& text) {
-        model_.TypeCell(row, col, FromQt(text));
+    connect(cell, &QLineEdit::textEdited, this, [this, cell, row, col] {
+        model_.TypeCell(row, col, FromQt(TypedQuantity(*cell)));
         ShowState();
     });
     cells_.push_back(cell);

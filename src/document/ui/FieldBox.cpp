@@ -5,13 +5,21 @@
 #include <QKeyEvent>
 #include <QStyleOptionFrame>
 
+#include "platform/ScopeGuard.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/DecimalComma.h"
 #include "platform/qt/QtText.h"
+#include "record/FieldRules.h"
 
 namespace tw {
 
 FieldBox::FieldBox(DocumentBinding& binding, TextBox& box, const QString& name, int digits, QWidget* parent)
-    : QLineEdit(parent), binding_(binding), box_(box), computed_(box.Computed()), digits_(digits) {
+    : QLineEdit(parent),
+      binding_(binding),
+      box_(box),
+      computed_(box.Computed()),
+      quantity_(RuleOf(box).takes != FieldTakes::FreeText),
+      digits_(digits) {
     setObjectName(ToQt(box.Name()));
     setAccessibleName(name);
     if (digits_ > 0) setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -27,9 +35,7 @@ FieldBox::FieldBox(DocumentBinding& binding, TextBox& box, const QString& name, 
     binding_.WatchSelection(box_, [this] { ShowSelection(); });
     connect(this, &QLineEdit::selectionChanged, this, &FieldBox::TellSelection);
     connect(this, &QLineEdit::cursorPositionChanged, this, &FieldBox::TellSelection);
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& text) {
-        binding_.Run([&](RecipeDocument& document) { document.Fields().SetText(box_, FromQt(text)); });
-    });
+    connect(this, &QLineEdit::textEdited, this, &FieldBox::TakeText);
 }
 
 QSize FieldBox::sizeHint() const {
@@ -86,6 +92,17 @@ void FieldBox::LookComputed() {
 void FieldBox::changeEvent(QEvent* event) {
     QLineEdit::changeEvent(event);
     if (computed_ && event->type() == QEvent::PaletteChange) LookComputed();
+}
+
+void FieldBox::TakeText(const QString& edited) {
+    QString typed = edited;
+    if (quantity_) {
+        // As with any key, the document learns of the new text before it learns of the cursor.
+        const ScopedValue showing(showing_, true);
+        typed = TypedQuantity(*this);
+    }
+    binding_.Run([&](RecipeDocument& document) { document.Fields().SetText(box_, FromQt(typed)); });
+    TellSelection();
 }
 
 bool FieldBox::Commit() {

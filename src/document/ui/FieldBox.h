@@ -30,12 +30,15 @@ class FieldBox final : public QLineEdit {
     void ShowSelection();
     void TellSelection();
     void LookComputed();
+    // Passes what the brewer has typed to the document.
+    void TakeText(const QString& edited);
     // False if the entry was refused.
     bool Commit();
 
     DocumentBinding& binding_;
     TextBox& box_;  // dangling once the binding is detached
     const bool computed_;
+    const bool quantity_;  // the text means a number
     int digits_;
     bool showing_ = false;  // true while the selection is copied from or to the document
 };

@@ -12,6 +12,7 @@
 #include "document/ui/GridModel.h"
 #include "document/ui/NamePopup.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/DecimalComma.h"
 #include "platform/qt/GridHeader.h"
 #include "platform/qt/ProgramStyle.h"
 #include "platform/qt/QtText.h"
@@ -173,6 +174,12 @@ QString GridDelegate::EditorText(const QWidget& editor) {
     if (const auto* line = qobject_cast<const QLineEdit*>(&editor)) return line->text();
     const auto* combo = qobject_cast<const QComboBox*>(&editor);
     return combo ? combo->currentText() : QString();
+}
+
+void GridDelegate::ShowDecimalPoint(QWidget& editor) {
+    // A text that came with the recipe stays until it is edited.
+    auto* line = qobject_cast<QLineEdit*>(&editor);
+    if (line && line->isModified()) line->setText(WithDecimalPoint(line->text()));
 }
 
 void GridDelegate::SelectEditorText(QWidget& editor) {

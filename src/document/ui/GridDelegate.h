@@ -44,6 +44,8 @@ class GridDelegate final : public QStyledItemDelegate {
                               const QModelIndex& index) const override;
 
     static QString EditorText(const QWidget& editor);
+    // Shows the decimal commas that the brewer has typed into the editor of a quantity as points.
+    static void ShowDecimalPoint(QWidget& editor);
     static void SelectEditorText(QWidget& editor);
 
   protected:

@@ -302,6 +302,7 @@ bool GridView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event
 void GridView::commitData(QWidget* editor) {
     if (!grid_ || !editor || editor != editor_ || refused_ || committing_ || !editedCell_.isValid()) return;
     const int row = model_->GridRow(editedCell_.row()), col = editedCell_.column();
+    if (!RuleOf(*grid_, col).HoldsWords()) GridDelegate::ShowDecimalPoint(*editor);
     const std::string text = FromQt(GridDelegate::EditorText(*editor));
     bool accepted = true;
     committing_ = true;

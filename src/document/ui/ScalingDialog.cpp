@@ -11,6 +11,7 @@
 #include <array>
 
 #include "platform/qt/Appearance.h"
+#include "platform/qt/DecimalComma.h"
 #include "platform/qt/QtText.h"
 
 namespace tw {
@@ -93,7 +94,7 @@ void ScalingDialog::AddFigures(QGridLayout& grid) {
     box_->setMinimumWidth(DigitsWidth(*this, kEntryDigits));
     box_->installEventFilter(this);
     connect(box_, &QLineEdit::textEdited, this,
-            [this](const QString& text) { model_.SetControl(model_.BoxName(), FromQt(text)); });
+            [this] { model_.SetControl(model_.BoxName(), FromQt(TypedQuantity(*box_))); });
     int row = 0;
     for (const auto& [name, value] : {std::pair(currentName, static_cast<QWidget*>(current)),
                                       std::pair(entryName, static_cast<QWidget*>(box_))}) {

@@ -11,6 +11,7 @@
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/ColorButton.h"
+#include "platform/qt/DecimalComma.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/StoredColor.h"
 #include "reports/ui/ReportFace.h"
@@ -61,8 +62,10 @@ void ChooseFontDialog::AddList(QComboBox& list, const char* name, const QString&
     label->setBuddy(&list);
     grid.addWidget(label, row, 0, Qt::AlignRight | Qt::AlignVCenter);
     grid.addWidget(&list, row, 1);
-    connect(&list, &QComboBox::editTextChanged, this,
-            [this, name](const QString& text) { Enter(name, text); });
+    connect(&list, &QComboBox::editTextChanged, this, [this, &list, name](const QString& text) {
+        const bool size = std::string_view(name) == "cmbFontSize";
+        Enter(name, size ? TypedQuantity(*list.lineEdit()) : text);
+    });
 }
 
 void ChooseFontDialog::AddLists(QGridLayout& grid) {

@@ -10,6 +10,7 @@
 
 #include "document/ui/PageBuilder.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/DecimalComma.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/ScrollingContents.h"
 
@@ -89,7 +90,7 @@ QLineEdit* BrewhouseDialog::Box(const char* name, const QString& example) {
     box->setPlaceholderText(tr("e.g. %1").arg(example));
     box->setMinimumWidth(DigitsWidth(*this, kBoxDigits));
     connect(box, &QLineEdit::textEdited, this,
-            [this, box](const QString& text) { Enter(box->objectName(), text); });
+            [this, box] { Enter(box->objectName(), TypedQuantity(*box)); });
     return box;
 }
 

@@ -14,6 +14,7 @@
 #include "document/ui/PageBuilder.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/ColorButton.h"
+#include "platform/qt/DecimalComma.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/ScrollingContents.h"
 #include "shell/ui/IconStrip.h"
@@ -242,7 +243,7 @@ QLineEdit* OptionsDialog::Field(const char* name, const QString& caption, int di
     field->setAccessibleName(PlainCaption(caption));
     field->setMinimumWidth(DigitsWidth(*field, digits) + Unit(*field) * 2 + 4);
     connect(field, &QLineEdit::textEdited, this,
-            [this, field](const QString& text) { Enter(field->objectName(), text); });
+            [this, field] { Enter(field->objectName(), TypedQuantity(*field)); });
     field->installEventFilter(this);
     fields_.insert(field->objectName(), field);
     return field;

@@ -10,6 +10,7 @@
 
 #include "platform/qt/Appearance.h"
 #include "platform/qt/CloseButton.h"
+#include "platform/qt/DecimalComma.h"
 #include "platform/qt/FocusMoves.h"
 #include "platform/qt/QtText.h"
 
@@ -79,8 +80,8 @@ void ConvertUnitsDialog::AddBoxes(QGridLayout& rows) {
         edit->setObjectName(QStringLiteral("Text%1").arg(box + 1));
         edit->setMinimumWidth(DigitsWidth(*edit, kBoxDigits));
         edit->installEventFilter(this);
-        connect(edit, &QLineEdit::textEdited, this, [this, box](const QString& text) {
-            model_.TypeInto(box, FromQt(text));
+        connect(edit, &QLineEdit::textEdited, this, [this, edit, box] {
+            model_.TypeInto(box, FromQt(TypedQuantity(*edit)));
             ShowTexts();
         });
         auto* label = new QLabel(this);

@@ -11,6 +11,7 @@
 #include "document/ui/PageBuilder.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/CloseButton.h"
+#include "platform/qt/DecimalComma.h"
 #include "platform/qt/FocusMoves.h"
 #include "platform/qt/QtText.h"
 
@@ -64,7 +65,7 @@ QLineEdit* HydrometerDialog::Entry(const char* name, const QString& hint) {
     entry->setMinimumWidth(DigitsWidth(*entry, kEntryDigits));
     entry->installEventFilter(this);
     connect(entry, &QLineEdit::textEdited, this,
-            [this, name](const QString& text) { model_.TypeInto(name, FromQt(text)); });
+            [this, entry, name] { model_.TypeInto(name, FromQt(TypedQuantity(*entry))); });
     return entry;
 }
 
@@ -80,7 +81,7 @@ QComboBox* HydrometerDialog::Calibration() {
     list->lineEdit()->setAccessibleName(tr("Calibration Temperature (F)"));
     list->installEventFilter(this);
     connect(list, &QComboBox::editTextChanged, this,
-            [this](const QString& text) { model_.TypeInto("cmbCalTemp", FromQt(text)); });
+            [this, list] { model_.TypeInto("cmbCalTemp", FromQt(TypedQuantity(*list->lineEdit()))); });
     connect(list, &QComboBox::activated, this, &HydrometerDialog::Update);
     return list;
 }
