@@ -17,8 +17,7 @@ QString WithDecimalPoint(const QString& text);
 
 // Shows the text that the brewer is typing into a box with decimal points, and returns it. A comma at the
 // cursor counts although its digit is yet to come, so that no key makes a text which is not the beginning of
-// a number. The cursor stays where it is. Call it when the
-// text has been edited.
+// a number. The cursor stays where it is. Call it when the text has been edited.
 QString TypedQuantity(QLineEdit& box);
 
 }  // namespace tw
