@@ -337,7 +337,6 @@ constexpr std::array<CommandRow, kCommandCount> kCommands = {{
     {.id = HelpNews,
      .name = "mnuHelpNews",
      .caption = "What's &New",
-     .commitsEntry = true,
      .tip = "Tells what this version does that earlier ones did not."},
     {.id = HelpSample,
      .name = "mnuHelpSample",
