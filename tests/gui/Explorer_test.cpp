@@ -78,6 +78,15 @@ TEST_F(ExplorerWindowTest, StartsInTheTreeOnTheRecipes) {
     EXPECT_FALSE(Button("cmdNewStyle").isVisible());
 }
 
+TEST_F(ExplorerWindowTest, TheTreeHasNoMoreThanItsShareOfANarrowWindow) {
+    dialog->hide();
+    const QSize wanted = dialog->size();
+    dialog->resize(wanted.width() / 2, wanted.height());
+    Front(*dialog);
+    const QList<int> sizes = Shown<QSplitter>("Splitter").sizes();
+    EXPECT_LT(sizes[0], sizes[1]);
+}
+
 TEST_F(ExplorerWindowTest, TheKeysWalkThroughTheFolders) {
     QTest::keyClick(&Tree(), Qt::Key_Down);
     EXPECT_EQ(Rows(List()), (Strings{"Dark", "Porter"}));

@@ -79,6 +79,19 @@ void ExplorerWindow::RestoreTreeWidth() {
             widgets.splitter->setSizes({tree, std::max(1, width() - tree)});
 }
 
+// On a small screen the window is narrower than it asked for, and the tree gets no more than its share.
+void ExplorerWindow::FitTreeWidth() {
+    if (view_.treeWidth != 0) return;
+    const int tree = std::min(Unit(*this) * kTreeUnits, stack_->width() * kTreeUnits / kWidthUnits);
+    for (PageWidgets& widgets : pages_)
+        widgets.splitter->setSizes({tree, std::max(1, stack_->width() - tree)});
+}
+
+void ExplorerWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    FitTreeWidth();
+}
+
 void ExplorerWindow::ReadView() {
     view_.look = model_.Look();
     view_.stylesPage = model_.Shown() == Page::Styles;

@@ -31,6 +31,7 @@ class ExplorerWindow final : public QDialog {
 
   protected:
     void done(int result) override;
+    void showEvent(QShowEvent* event) override;
     void reject() override;
     void keyPressEvent(QKeyEvent* event) override;
     bool eventFilter(QObject* object, QEvent* event) override;
@@ -50,6 +51,7 @@ class ExplorerWindow final : public QDialog {
     // Brings the model, or the widgets, into the state in which the window was last left.
     void RestoreModel();
     void RestoreTreeWidth();
+    void FitTreeWidth();
     // Updates view_ from the model.
     void ReadView();
     void KeepView();
