@@ -23,6 +23,11 @@ ScrollingContents::ScrollingContents(QWidget* contents, QWidget* parent) : QScro
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { ShowFocused(now); });
 }
 
+// The contents are destroyed after this object, and the one with the focus then loses it.
+ScrollingContents::~ScrollingContents() {
+    qApp->disconnect(this);
+}
+
 QSize ScrollingContents::sizeHint() const {
     return widget()->sizeHint().expandedTo(minimumSizeHint());
 }

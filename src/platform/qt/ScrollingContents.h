@@ -11,6 +11,7 @@ class ScrollingContents final : public QScrollArea {
   public:
     // Owns contents, and has its accessible name. REQUIRES: contents is laid out by a layout.
     ScrollingContents(QWidget* contents, QWidget* parent);
+    ~ScrollingContents() override;
 
     // As large as the contents ask for.
     QSize sizeHint() const override;
