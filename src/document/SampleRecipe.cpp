@@ -7,15 +7,15 @@ namespace {
 
 // What is typed, in US and in metric units.
 struct Typed {
-    const char* us;
-    const char* metric;
+    const char* us = nullptr;
+    const char* metric = nullptr;
     const char* In(TypingUnits units) const { return units == TypingUnits::US ? us : metric; }
 };
 
 struct Line {
-    GridId grid;
-    const char* name;
-    Typed amount;
+    GridId grid = GridId::Grain;
+    const char* name = nullptr;
+    Typed amount{};
     const char* minutes = nullptr;  // of a hop
     bool dry = false;
 };

@@ -64,6 +64,7 @@ BrewhouseModel::BrewhouseModel(SettingsInUse& settings, Database& database, Mess
 const std::vector<std::string>& BrewhouseModel::Methods() {
     static const std::vector<std::string> names = [] {
         std::vector<std::string> found;
+        found.reserve(kMethods.size());
         for (const Method& method : kMethods) found.emplace_back(method.name);
         return found;
     }();
@@ -73,6 +74,7 @@ const std::vector<std::string>& BrewhouseModel::Methods() {
 const std::vector<std::string>& BrewhouseModel::Units() {
     static const std::vector<std::string> names = [] {
         std::vector<std::string> found;
+        found.reserve(kSuggestions.size());
         for (const Suggestion& suggestion : kSuggestions) found.emplace_back(suggestion.units);
         return found;
     }();
