@@ -95,6 +95,16 @@ bool HasDisplay() {
     return false;
 }
 
+ShellEnvironment EnvironmentFor(Platform& platform, const std::string& programFolder, bool photographing) {
+    ShellEnvironment environment{platform, programFolder};
+    environment.metricDesktop = QLocale().measurementSystem() == QLocale::MetricSystem;
+    // A picture keeps no unsaved work.
+    if (!photographing)
+        environment.recoveryFolder = FromQt(
+            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/unsaved"));
+    return environment;
+}
+
 int Run(int argc, char** argv) {
     AnswerWithoutDisplay(argc, argv);
     if (!HasDisplay()) {
@@ -126,12 +136,7 @@ int Run(int argc, char** argv) {
     // Destroyed after the shell, so that the next program waits until this one has closed its files.
     LocalChannel channel(DesktopName());
     const std::string programFolder = FromQt(QCoreApplication::applicationDirPath());
-    ShellEnvironment environment{platform, programFolder};
-    environment.metricDesktop = QLocale().measurementSystem() == QLocale::MetricSystem;
-    if (!photographing)
-        environment.recoveryFolder = FromQt(
-            QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + QStringLiteral("/unsaved"));
-    Shell shell(std::move(environment));
+    Shell shell(EnvironmentFor(platform, programFolder, photographing));
     if (!photographing) shell.Instance().SetChannel(&channel);
     QtBrowser browser;
     SystemTextFiles files(shell.Own());

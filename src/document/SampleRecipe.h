@@ -1,12 +1,11 @@
 // A finished pale ale for a brewer who wants to look around before typing a recipe.
 #pragma once
 
+#include "document/TypingUnits.h"
+
 namespace tw {
 
 class RecipeDocument;
-
-// Which units amounts are typed in: in what the program itself types, and in its examples.
-enum class TypingUnits { US, Metric };
 
 // Fills a new recipe. Ingredients that the catalogue no longer has under these names keep their names without
 // figures. Afterwards the recipe is unchanged, and there is nothing to undo. Raises the store's errors.

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "shell/SettingsInUse.h"
-#include "store/Database.h"
+#include "store/CatalogueNames.h"
 #include "values/QuantityParsers.h"
 #include "values/Text.h"
 
@@ -94,9 +94,8 @@ FormControl BrewhouseModel::List(std::string name, const std::vector<std::string
 
 void BrewhouseModel::ReadWaters(Database& database) {
     waters_ = {""};
-    for (Recordset rows = database.OpenRecordset("SELECT NAME FROM WATER_PROFILES ORDER BY NAME");
-         !rows.AtEnd(); rows.MoveNext())
-        waters_.push_back(rows.Fields(0).Text());
+    const NameList names = CatalogueNames(database).NamesOf(CatalogueKind::Water);
+    for (std::size_t i = 0; i < names.Count(); ++i) waters_.push_back(names.Name(i));
 }
 
 void BrewhouseModel::Suggest(bool metric) {

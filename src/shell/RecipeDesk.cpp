@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "document/SampleRecipe.h"
 #include "store/RecipeRows.h"
 #include "tree/ExplorerModel.h"
 #include "values/Text.h"

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "document/DocumentHost.h"
-#include "document/SampleRecipe.h"
+#include "document/TypingUnits.h"
 #include "shell/CatalogueDesk.h"
 #include "shell/CommandStates.h"
 #include "shell/DocumentManager.h"

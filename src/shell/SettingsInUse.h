@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "document/DocumentHost.h"
-#include "document/SampleRecipe.h"
+#include "document/TypingUnits.h"
 #include "platform/SettingsStore.h"
 #include "shell/AutoSave.h"
 #include "shell/CommandBar.h"

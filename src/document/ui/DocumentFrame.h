@@ -5,7 +5,7 @@
 #include <string>
 
 #include "commands/Commands.h"
-#include "document/SampleRecipe.h"
+#include "document/TypingUnits.h"
 #include "platform/qt/CellColors.h"
 
 class QAction;
