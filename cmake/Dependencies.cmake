@@ -3,9 +3,12 @@
 find_package(PkgConfig REQUIRED)
 find_package(SQLite3 3.40 REQUIRED)
 pkg_check_modules(UTF8PROC REQUIRED IMPORTED_TARGET libutf8proc)
+find_package(nlohmann_json 3.11.2 REQUIRED)
+find_package(pugixml 1.13 REQUIRED)
 # The library of a core folder; no other folder may include it.
-set(TW_LIBRARIES_OF_values PkgConfig::UTF8PROC)
+set(TW_LIBRARIES_OF_values PkgConfig::UTF8PROC nlohmann_json::nlohmann_json)
 set(TW_LIBRARIES_OF_store SQLite::SQLite3)
+set(TW_LIBRARIES_OF_exchange pugixml::static)
 
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core)
 if(TUNWRIGHT_WINDOWS)

@@ -1,7 +1,7 @@
 # The folders of the core, from the lowest layer up. A folder may include itself and the folders before it in this list, but
 # none after it; tests/architecture/CheckLayers.cmake fails otherwise.
-set(TW_CORE_FOLDERS platform commands values calc record water store tree document catalogue reports help tools
-  shell)
+set(TW_CORE_FOLDERS platform commands values calc record water store exchange tree document catalogue doctor reports help
+  tools shell)
 
 # tw_core_folder(NAME): builds the logic of src/NAME, without its ui/ and qt/ folders, as the object library tw_NAME. Does
 # nothing if the folder has no sources of its own.

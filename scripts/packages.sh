@@ -12,8 +12,11 @@ build|library|Qt6Widgets|6.4|qt6-base-dev|windows, printing, settings
 build|library|Qt6Svg|6.4|qt6-svg-dev|icons
 build|library|sqlite3|3.40|libsqlite3-dev|the database
 build|library|libutf8proc||libutf8proc-dev|names beyond ASCII
+build|library|pugixml|1.13|libpugixml-dev|recipes in XML from other programs
+build|library|nlohmann_json|3.11.2|nlohmann-json3-dev|recipes in JSON from other programs
 tests|library|gtest||libgtest-dev|unit tests
 tests|library|gmock||libgmock-dev|unit tests
+tests|command|xmllint||libxml2-utils|checks exported XML
 wayland|file|/usr/lib/*/qt6/plugins/platforms/libqwayland*||qt6-wayland|windows without an X server
 vnc|command|Xvfb||xvfb|a display in memory
 vnc|command|xauth||xauth|keeps other users off that display
