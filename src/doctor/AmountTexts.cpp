@@ -1,0 +1,241 @@
+#include "doctor/AmountTexts.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <optional>
+#include <string_view>
+
+#include "exchange/AsciiCase.h"
+#include "platform/Error.h"
+#include "values/QuantityParsers.h"
+#include "values/Text.h"
+
+namespace tw {
+namespace {
+
+constexpr double kKilogramsPerPound = 0.45359237;
+constexpr double kOuncesPerPound = 16;
+constexpr double kKilogramsPerOunce = kKilogramsPerPound / kOuncesPerPound;
+constexpr double kLitresPerGallon = 3.785411784;
+constexpr double kKept = 0.0002;  // the relative error allowed to a text
+
+bool IsNear(double value, double to, double relative) {
+    return std::abs(value - to) <= relative * std::abs(to);
+}
+
+std::string Fixed(double value, int decimals) {
+    // A double has at most 309 digits before its point.
+    std::array<char, 330> digits{};
+    const auto end =
+        std::to_chars(digits.begin(), digits.end(), value, std::chars_format::fixed, decimals).ptr;
+    std::string text(digits.begin(), end);
+    if (decimals > 0) text.erase(text.find_last_not_of('0') + 1);
+    if (text.ends_with('.')) text.pop_back();
+    return text;
+}
+
+// A unit as files write it, the word that the program writes, and its size in kilograms or litres.
+struct Unit {
+    std::string_view written;
+    std::string_view word;
+    double size;
+};
+
+constexpr Unit kWeights[] = {
+    {"KG", "kg", 1},
+    {"KGS", "kg", 1},
+    {"KILOGRAM", "kg", 1},
+    {"KILOGRAMS", "kg", 1},
+    {"G", "g", 0.001},
+    {"GR", "g", 0.001},
+    {"GRAM", "g", 0.001},
+    {"GRAMS", "g", 0.001},
+    {"MG", "g", 0.001},
+    {"LB", "lb", kKilogramsPerPound},
+    {"LBS", "lb", kKilogramsPerPound},
+    {"POUND", "lb", kKilogramsPerPound},
+    {"POUNDS", "lb", kKilogramsPerPound},
+    {"OZ", "oz", kKilogramsPerOunce},
+    {"OUNCE", "oz", kKilogramsPerOunce},
+    {"OUNCES", "oz", kKilogramsPerOunce},
+};
+
+constexpr Unit kVolumes[] = {
+    {"L", "L", 1},
+    {"LITER", "L", 1},
+    {"LITERS", "L", 1},
+    {"LITRE", "L", 1},
+    {"LITRES", "L", 1},
+    {"ML", "ml", 0.001},
+    {"GAL", "gal", kLitresPerGallon},
+    {"GALS", "gal", kLitresPerGallon},
+    {"GALLON", "gal", kLitresPerGallon},
+    {"GALLONS", "gal", kLitresPerGallon},
+    {"QT", "qt", kLitresPerGallon / 4},
+    {"QUARTS", "qt", kLitresPerGallon / 4},
+    {"PT", "pt", kLitresPerGallon / 8},
+    {"PINTS", "pt", kLitresPerGallon / 8},
+    {"CUP", "cup", kLitresPerGallon / 16},
+    {"CUPS", "cup", kLitresPerGallon / 16},
+    {"FLOZ", "floz", kLitresPerGallon / 128},
+    {"TBSP", "tbsp", kLitresPerGallon / 256},
+    {"TSP", "tsp", kLitresPerGallon / 768},
+};
+
+// Returns the unit whose word ends the text; nullptr if there is none.
+template <std::size_t N>
+const Unit* UnitOf(std::string_view written, const Unit (&units)[N]) {
+    std::string_view word = Trim(written);
+    if (word.ends_with('.')) word.remove_suffix(1);
+    const std::size_t letters = word.find_last_of("0123456789 ./");
+    if (letters != std::string_view::npos) word.remove_prefix(letters + 1);
+    for (const Unit& unit : units)
+        if (EqualAscii(unit.written, word)) return &unit;
+    return nullptr;
+}
+
+// Returns what a validator reads; nothing if it refuses the text.
+std::optional<double> Read(Validator validator, std::string_view text) {
+    try {
+        const Reading<double> reading = validator(text);
+        if (reading) return *reading;
+    } catch (const Error&) {
+        // A text that breaks the arithmetic is refused, too.
+    }
+    return std::nullopt;
+}
+
+// True if the text of the file, as the program reads it, is that quantity.
+bool Says(std::string_view written, Validator validator, double quantity) {
+    const std::optional<double> read = Read(validator, written);
+    return read && IsNear(*read, quantity, kKept);
+}
+
+std::string With(double value, std::string_view unit) {
+    return FewestDecimals(value).append(" ").append(unit);
+}
+
+// Returns "9 lb 4 oz" for whole and quarter ounces; nothing for other weights and below a pound.
+std::optional<std::string> PoundsAndOunces(double kilograms) {
+    constexpr double kParts = 4;
+    const double quarters = std::round(kilograms / kKilogramsPerOunce * kParts);
+    if (!IsNear(quarters * kKilogramsPerOunce / kParts, kilograms, kKept)) return std::nullopt;
+    const double pounds = std::floor(quarters / (kParts * kOuncesPerPound));
+    if (pounds < 1) return std::nullopt;
+    const double ounces = quarters / kParts - pounds * kOuncesPerPound;
+    std::string text = Fixed(pounds, 0) + " lb";
+    if (ounces > 0) text += " " + Fixed(ounces, 2) + " oz";
+    return text;
+}
+
+bool IsMultiple(double value, double of) {
+    constexpr double kBatchKept = 0.002;
+    const double count = std::round(value / of);
+    return count > 0 && IsNear(count * of, value, kBatchKept);
+}
+
+bool IsBatchOfGallons(const ForeignRecipe& recipe) {
+    constexpr double kHalf = 0.5;
+    if (!recipe.batchSize) return false;
+    const double litres = recipe.batchSize->value;
+    return IsMultiple(litres, kHalf * kLitresPerGallon) && !IsMultiple(litres, kHalf);
+}
+
+// True if the file shows its batch in US units; nothing if it shows no unit.
+std::optional<bool> ShownInUS(const ForeignRecipe& recipe) {
+    if (!recipe.batchSize) return std::nullopt;
+    const Unit* const unit = UnitOf(recipe.batchSize->written, kVolumes);
+    if (!unit) return std::nullopt;
+    return unit->word != "L" && unit->word != "ml";
+}
+
+}  // namespace
+
+std::string FewestDecimals(double value) {
+    constexpr int kMost = 4;
+    for (int decimals = 0; decimals < kMost; ++decimals) {
+        const std::string text = Fixed(value, decimals);
+        double read = 0;
+        std::from_chars(text.data(), text.data() + text.size(), read);
+        if (IsNear(read, value, kKept)) return text;
+    }
+    return Fixed(value, kMost);
+}
+
+std::string GravityText(double gravity) {
+    constexpr int kUsual = 3;
+    constexpr double kHalfTenthOfAPoint = 0.00005;
+    const double rounded = std::round(gravity * 1000) / 1000;
+    if (std::abs(rounded - gravity) >= kHalfTenthOfAPoint) return Fixed(gravity, kUsual + 1);
+    std::array<char, 32> digits{};
+    const auto end =
+        std::to_chars(digits.begin(), digits.end(), rounded, std::chars_format::fixed, kUsual).ptr;
+    return {digits.begin(), end};
+}
+
+std::string TimeText(double minutes) {
+    constexpr double kMinutesPerDay = 1440;
+    if (minutes < kMinutesPerDay) return With(minutes, "min");
+    const std::string days = FewestDecimals(minutes / kMinutesPerDay);
+    return days + (days == "1" ? " day" : " days");
+}
+
+AmountTexts::AmountTexts(ImportUnits units, const ForeignRecipe& recipe)
+    : asInFile_(units == ImportUnits::AsInFile), us_(units == ImportUnits::US) {
+    if (asInFile_) us_ = ShownInUS(recipe).value_or(IsBatchOfGallons(recipe));
+}
+
+std::string AmountTexts::Volume(const ForeignAmount& amount) const {
+    constexpr double kSmallLitres = 0.5;
+    const double litres = amount.value;
+    if (asInFile_ && !amount.written.empty()) {
+        if (Says(amount.written, ValidateVolume, litres / kLitresPerGallon))
+            return std::string(Trim(amount.written));
+        if (const Unit* const unit = UnitOf(amount.written, kVolumes))
+            return With(litres / unit->size, unit->word);
+    }
+    if (us_) return With(litres / kLitresPerGallon, "gal");
+    return litres < kSmallLitres ? With(litres * 1000, "ml") : With(litres, "L");
+}
+
+std::string AmountTexts::WeightIn(bool us, double kilograms, Weighed what) const {
+    const bool small = what != Weighed::Malt;
+    if (what == Weighed::Salt || !us) {
+        if (what == Weighed::Malt && kilograms >= 1) return With(kilograms, "kg");
+        return With(kilograms * 1000, "g");
+    }
+    if (small || kilograms < kKilogramsPerPound) return With(kilograms / kKilogramsPerOunce, "oz");
+    if (auto both = PoundsAndOunces(kilograms)) return *both;
+    return With(kilograms / kKilogramsPerPound, "lb");
+}
+
+std::string AmountTexts::Weight(const ForeignAmount& amount, Weighed what) const {
+    const double kilograms = amount.value;
+    if (asInFile_ && !amount.written.empty()) {
+        if (Says(amount.written, ValidateOunces, kilograms / kKilogramsPerOunce))
+            return std::string(Trim(amount.written));
+        if (const Unit* const unit = UnitOf(amount.written, kWeights))
+            return With(kilograms / unit->size, unit->word);
+    }
+    return WeightIn(us_, kilograms, what);
+}
+
+std::string AmountTexts::Any(const ForeignAmount& amount, Weighed what) const {
+    switch (amount.of) {
+        case ForeignAmount::Of::Mass:
+            return Weight(amount, what);
+        case ForeignAmount::Of::Volume:
+            return Volume(amount);
+        case ForeignAmount::Of::Pieces:
+            break;
+    }
+    return amount.written.empty() ? FewestDecimals(amount.value) : std::string(Trim(amount.written));
+}
+
+std::string AmountTexts::Temperature(double celsius) const {
+    constexpr double kFreezing = 32, kDegrees = 1.8;
+    return us_ ? With(celsius * kDegrees + kFreezing, "F") : With(celsius, "C");
+}
+
+}  // namespace tw

@@ -1,0 +1,215 @@
+#include "doctor/PlausibilityCheck.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <string>
+
+#include "calc/Figures.h"
+#include "doctor/AmountTexts.h"
+#include "doctor/PlanContext.h"
+#include "platform/Error.h"
+
+namespace tw {
+namespace {
+
+constexpr double kGramsPerKilogram = 1000;
+constexpr double kHopSlip = 300, kMaltSlip = 3000;  // grams a litre
+
+// Returns the grams of all lines in a litre of the batch; nullopt without a batch size or amounts.
+template <class Line>
+std::optional<double> GramsPerLitre(const std::vector<Line>& lines, const ForeignRecipe& recipe) {
+    if (!recipe.batchSize || recipe.batchSize->value <= 0) return std::nullopt;
+    double kilograms = 0;
+    for (const Line& line : lines)
+        if (line.amount && line.amount->of == ForeignAmount::Of::Mass) kilograms += line.amount->value;
+    if (kilograms <= 0) return std::nullopt;
+    return kilograms * kGramsPerKilogram / recipe.batchSize->value;
+}
+
+std::string Rounded(double value, int decimals) {
+    constexpr double kShown = 1e9;  // everything beyond is nonsense, of which the beginning is enough
+    std::array<char, 32> text{};
+    const auto end = std::to_chars(text.begin(), text.end(), std::clamp(value, -kShown, kShown),
+                                   std::chars_format::fixed, decimals)
+                         .ptr;
+    return {text.begin(), end};
+}
+
+class AmountCheck {
+  public:
+    AmountCheck(const ForeignRecipe& recipe, Findings& findings) : recipe_(recipe), findings_(findings) {}
+
+    void Hops() {
+        constexpr double kMost = 40, kMostAlpha = 25;
+        const auto perLitre = GramsPerLitre(recipe_.hops, recipe_);
+        if (perLitre && *perLitre > kHopSlip)
+            Report(FindingCode::ThousandSlip, "Hops",
+                   "There are " + Rounded(*perLitre, 0) +
+                       " g of hops in a liter: probably grams were written as kilograms.");
+        else if (perLitre && *perLitre > kMost)
+            Report(FindingCode::TooMuchHops, "Hops",
+                   "There are " + Rounded(*perLitre, 0) + " g of hops in a liter.");
+        for (std::size_t i = 0; i < recipe_.hops.size(); ++i)
+            if (recipe_.hops[i].alpha.value_or(0) > kMostAlpha)
+                Report(FindingCode::Implausible, PlaceOf("Hops", i, recipe_.hops[i].name),
+                       "The alpha acid is " + FewestDecimals(*recipe_.hops[i].alpha) + "%.");
+    }
+
+    void Grist() {
+        constexpr double kLeast = 60, kMost = 800;
+        const auto perLitre = GramsPerLitre(recipe_.fermentables, recipe_);
+        if (!perLitre) return;
+        const std::string amount = "There are " + Rounded(*perLitre, 0) + " g of fermentables in a liter";
+        if (*perLitre > kMaltSlip)
+            Report(FindingCode::ThousandSlip, "Fermentables",
+                   amount + ": probably grams were written as kilograms.");
+        else if (*perLitre > kMost || *perLitre < kLeast)
+            Report(FindingCode::Grist, "Fermentables", amount + ".");
+    }
+
+    void Boil() {
+        // A boil as large as the batch, rounded, is common.
+        constexpr double kRounding = 0.999;
+        if (recipe_.boilSize && recipe_.batchSize &&
+            recipe_.boilSize->value < kRounding * recipe_.batchSize->value)
+            Report(FindingCode::Implausible, "Boil size",
+                   "The boil of " + FewestDecimals(recipe_.boilSize->value) +
+                       " L is smaller than the batch of " + FewestDecimals(recipe_.batchSize->value) + " L.");
+    }
+
+    void Attenuation() {
+        constexpr double kLeast = 40, kMost = 100;
+        for (std::size_t i = 0; i < recipe_.yeasts.size(); ++i) {
+            const auto attenuation = recipe_.yeasts[i].attenuation;
+            if (attenuation && *attenuation > 0 && (*attenuation < kLeast || *attenuation > kMost))
+                Report(FindingCode::Implausible, PlaceOf("Yeasts", i, recipe_.yeasts[i].name),
+                       "The attenuation is " + FewestDecimals(*attenuation) + "%.");
+        }
+    }
+
+  private:
+    void Report(FindingCode code, std::string place, std::string text) {
+        findings_.Add({Severity::Suspicious, code, recipe_.name, std::move(place), std::move(text)});
+    }
+
+    const ForeignRecipe& recipe_;
+    Findings& findings_;
+};
+
+// How far a calculated figure may be from the stated one: beyond note it is noted, beyond suspicious it
+// is that.
+struct Limits {
+    double note, suspicious;
+};
+constexpr Limits kOg{0.002, 0.010}, kFg{0.002, 0.006}, kAbv{0.2, 0.5}, kRelative{0.10, 0.25};
+
+class FigureCheck {
+  public:
+    FigureCheck(const ForeignRecipe& recipe, const TypedFigures& typed, Findings& findings)
+        : recipe_(recipe), typed_(typed), findings_(findings) {}
+
+    // True if the difference is worth a finding.
+    bool Gravity() {
+        return Compare(FindingCode::OgDiffers, "Original gravity", recipe_.stated.og, typed_.calculated.og,
+                       kOg, 4);
+    }
+
+    void FinishedGravity() {
+        if (!recipe_.stated.fg || !typed_.calculated.og || !typed_.attenuation) return;
+        try {
+            Compare(FindingCode::FgDiffers, "Finished gravity", recipe_.stated.fg,
+                    AttenuatedGravity(*typed_.calculated.og, *typed_.attenuation), kFg, 4);
+        } catch (const Error&) {
+            // A gravity beyond the formula is not comparable.
+        }
+    }
+
+    void Alcohol() {
+        Compare(FindingCode::AbvDiffers, "Alcohol", recipe_.stated.abv, typed_.calculated.abv, kAbv, 2);
+    }
+
+    bool Bitterness() {
+        return CompareRatio(FindingCode::IbuDiffers, "Bitterness", recipe_.stated.ibu, typed_.ibuWithoutForm,
+                            " without the factor for the form of the hops");
+    }
+
+    // True if colours are probably EBC.
+    bool Color() {
+        // 1.97 EBC are one SRM; malt colours in EBC make a calculated colour larger by nearly the same
+        // factor.
+        constexpr double kLeast = 1.85, kMost = 2.1;
+        const auto stated = recipe_.stated.srm, calculated = typed_.calculated.srm;
+        if (!stated || !calculated || *stated <= 0 || *calculated <= 0) return false;
+        const double ratio = std::max(*stated / *calculated, *calculated / *stated);
+        const bool ebc = ratio >= kLeast && ratio <= kMost;
+        CompareRatio(FindingCode::ColourDiffers, "Color", stated, calculated,
+                     ebc ? std::string("; this looks like EBC") : std::string());
+        return ebc && *calculated > *stated;
+    }
+
+  private:
+    bool Compare(FindingCode code, std::string place, std::optional<double> stated,
+                 std::optional<double> calculated, Limits limits, int decimals) {
+        if (!stated || !calculated) return false;
+        const double apart = std::abs(*stated - *calculated);
+        if (!(apart > limits.note)) return false;
+        Add(apart > limits.suspicious, code, std::move(place),
+            "The file states " + Rounded(*stated, decimals) + "; the recipe gives " +
+                Rounded(*calculated, decimals) + ".");
+        return true;
+    }
+
+    bool CompareRatio(FindingCode code, std::string place, std::optional<double> stated,
+                      std::optional<double> calculated, const std::string& remark) {
+        if (!stated || !calculated || *stated <= 0) return false;
+        const double apart = std::abs(*stated - *calculated) / *stated;
+        if (!(apart > kRelative.note)) return false;
+        Add(apart > kRelative.suspicious, code, std::move(place),
+            "The file states " + Rounded(*stated, 1) + "; the recipe gives " + Rounded(*calculated, 1) +
+                remark + ".");
+        return true;
+    }
+
+    void Add(bool suspicious, FindingCode code, std::string place, std::string text) {
+        findings_.Add({suspicious ? Severity::Suspicious : Severity::Note, code, recipe_.name,
+                       std::move(place), std::move(text)});
+    }
+
+    const ForeignRecipe& recipe_;
+    const TypedFigures& typed_;
+    Findings& findings_;
+};
+
+}  // namespace
+
+bool HasMaltSlip(const ForeignRecipe& recipe) {
+    return GramsPerLitre(recipe.fermentables, recipe).value_or(0) > kMaltSlip;
+}
+
+bool HasHopSlip(const ForeignRecipe& recipe) {
+    return GramsPerLitre(recipe.hops, recipe).value_or(0) > kHopSlip;
+}
+
+void CheckAmounts(const ForeignRecipe& recipe, Findings& findings) {
+    AmountCheck check(recipe, findings);
+    check.Hops();
+    check.Grist();
+    check.Boil();
+    check.Attenuation();
+}
+
+RemediesOffered CheckFigures(const ForeignRecipe& recipe, const TypedFigures& typed, Findings& findings) {
+    FigureCheck check(recipe, typed, findings);
+    RemediesOffered offered;
+    offered.grams = HasMaltSlip(recipe) || HasHopSlip(recipe);
+    offered.gravity = check.Gravity();
+    check.FinishedGravity();
+    check.Alcohol();
+    offered.bitterness = check.Bitterness();
+    offered.ebc = check.Color();
+    return offered;
+}
+
+}  // namespace tw

@@ -1,0 +1,50 @@
+// The program around a document that has no window and that the brewer never sees: it is filled, looked at
+// or saved, and thrown away.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "document/DocumentHost.h"
+
+namespace tw {
+
+class ScratchHost final : public DocumentHost, private DocumentCommands {
+  public:
+    // deleteRecipe deletes the stored recipe that a save overwrites.
+    ScratchHost(RecipeDefaults defaults, std::function<void(std::string_view name)> deleteRecipe)
+        : defaults_(std::move(defaults)), deleteRecipe_(std::move(deleteRecipe)) {}
+
+    DocumentCommands& Commands() override { return *this; }
+    bool IsActive(const RecipeDocument&) const override { return false; }
+    RecipeDefaults Defaults() const override { return defaults_; }
+    bool AppendRows() const override { return true; }
+    bool CopyHeaders() const override { return false; }
+    bool PasteMismatchSize() const override { return false; }
+    int LPMaxIter() const override { return 0; }
+    bool AskBeforeNonUndoableChange() const override { return false; }
+    void StopAskingBeforeNonUndoableChange() override {}
+    void DeleteRecipe(std::string_view name) override { deleteRecipe_(name); }
+    void RecipeStored(std::string_view) override {}
+    void AddToMRU(std::string_view) override {}
+    void DocumentRenamed(const RecipeDocument&) override {}
+
+  private:
+    void EnableResizeRecipe(bool) override {}
+    void EnableChangeStrength(bool) override {}
+    void EnableChangeBitterness(bool) override {}
+    void EnableChangeCarbonation(bool) override {}
+    void EnableSave(bool) override {}
+    void EnableInsert(bool) override {}
+    void EnableDelete(bool) override {}
+    void EnableCopyPaste(bool, bool) override {}
+    void EnableUndo(bool, std::string_view) override {}
+    void EnableRedo(bool, std::string_view) override {}
+    void CheckEnableSaveAll() override {}
+    void CheckEnableDelete() override {}
+
+    RecipeDefaults defaults_;
+    std::function<void(std::string_view name)> deleteRecipe_;
+};
+
+}  // namespace tw
