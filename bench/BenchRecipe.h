@@ -78,7 +78,7 @@ class QuietHost : public DocumentHost, public DocumentCommands {
     int LPMaxIter() const override { return 1000; }
     bool AskBeforeNonUndoableChange() const override { return false; }
     void StopAskingBeforeNonUndoableChange() override {}
-    void DeleteRecipe(std::string_view) override {}
+    std::optional<std::int64_t> DeleteRecipe(std::string_view, RecipeEnd) override { return {}; }
     void RecipeStored(std::string_view) override {}
     void AddToMRU(std::string_view) override {}
     void DocumentRenamed(const RecipeDocument&) override {}

@@ -1,12 +1,15 @@
 // What a recipe document needs from the program around it.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "record/RecipeCalculator.h"
 #include "store/CatalogueDraft.h"
 #include "store/CatalogueKind.h"
+#include "store/RecipeFollowers.h"
 
 namespace tw {
 
@@ -67,8 +70,10 @@ class DocumentHost {
     virtual bool AskBeforeNonUndoableChange() const = 0;
     virtual void StopAskingBeforeNonUndoableChange() = 0;
     virtual ScalingPreferences Scaling() const { return {}; }
-    // Deletes a stored recipe. The open documents are notified before this returns.
-    virtual void DeleteRecipe(std::string_view name) = 0;
+    // Deletes a stored recipe and returns its id; nullopt if there is none. The open documents are notified
+    // before this returns; why is passed on to what follows the recipe.
+    virtual std::optional<std::int64_t> DeleteRecipe(std::string_view name,
+                                                     RecipeEnd why = RecipeEnd::Deleted) = 0;
     // Called by a save that has just written the recipe of that name.
     virtual void RecipeStored(std::string_view name) = 0;
     virtual void AddToMRU(std::string_view name) = 0;

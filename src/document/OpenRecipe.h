@@ -22,7 +22,11 @@ class RecipeDocument;
 
 // Where a recipe is stored in the database.
 struct RecipePlace {
-    std::string origName;        // the stored recipe's name, trimmed; empty if the recipe is not stored
+    std::string origName;  // the stored recipe's name, trimmed; empty if the recipe is not stored
+    // The id of the row that was read or written last, even if an error then ended the save; nullopt if there
+    // was none. After a save that failed, the row may be gone, but what hangs on the recipe still hangs on
+    // this id.
+    std::optional<std::int64_t> id;
     std::int64_t folderId = -1;  // -1 for none, 0 for the top level
     std::optional<DateTime> createdWhen;
 };

@@ -39,9 +39,33 @@ bool RecipeStorage::AskOverwrite() {
                               Question::YesNo);
 }
 
-void RecipeStorage::DeleteOwnRow() {
+std::optional<std::int64_t> RecipeStorage::DeleteOwnRow() {
     const ScopedValue savingOver(savingOver_, true);
-    recipe_.host.DeleteRecipe(std::string(recipe_.place.origName));
+    return recipe_.host.DeleteRecipe(std::string(recipe_.place.origName), RecipeEnd::SavedAnew);
+}
+
+bool RecipeStorage::Write(const StoredRecipe& stored, SaveAs way, std::optional<std::int64_t> otherId) {
+    RecipePlace& place = recipe_.place;
+    const bool sameName = SameName(stored.name, place.origName);
+    // An earlier save that failed halfway may have written the row that has the name now.
+    const bool otherIsOwn = otherId && otherId == place.id;
+    if (otherId)
+        recipe_.host.DeleteRecipe(stored.name, otherIsOwn ? RecipeEnd::SavedAnew : RecipeEnd::Overwritten);
+    // Save As with another name makes a copy and leaves the old recipe as it is; a plain save with an edited
+    // name renames the recipe, and nothing is left under the old name.
+    const bool copies = way == SaveAs::Yes && !sameName && !otherIsOwn;
+    std::optional<std::int64_t> replacedId;
+    if (way == SaveAs::Yes ? sameName : !place.origName.empty()) replacedId = DeleteOwnRow();
+    const auto tell = [&](std::int64_t newId) {
+        if (copies && place.id) return RecipeCopied(recipe_.database, *place.id, newId);
+        // The row differs from the one known here if an import has overwritten the stored recipe.
+        if (replacedId && replacedId != place.id) RecipeSaved(recipe_.database, replacedId, newId);
+        RecipeSaved(recipe_.database, place.id, newId);
+        place.id = newId;
+    };
+    const std::optional<std::int64_t> newId = InsertRecipe(recipe_.database, stored, tell);
+    if (newId) place.id = newId;
+    return newId.has_value();
 }
 
 bool RecipeStorage::Save(SaveAs way, Asking asking) {
@@ -49,15 +73,11 @@ bool RecipeStorage::Save(SaveAs way, Asking asking) {
     const std::string name(Trim(recipe_.record.txtName.Text()));
     const bool saveAs = way == SaveAs::Yes;
     const bool sameName = SameName(name, place.origName);
-    const bool replacesOther = !sameName && RecipeExists(recipe_.database, name);
-    if ((replacesOther || (saveAs && sameName)) && asking == Asking::Aloud && !AskOverwrite()) return false;
+    const std::optional<std::int64_t> otherId = sameName ? std::nullopt : RecipeId(recipe_.database, name);
+    if ((otherId || (saveAs && sameName)) && asking == Asking::Aloud && !AskOverwrite()) return false;
     // A row that is still to be typed is not part of the recipe.
     const OfferPause pause(lines_);
     UnitOfWork unit(recipe_.database);
-    if (replacesOther) recipe_.host.DeleteRecipe(name);
-    // Save As with another name makes a copy and leaves the old recipe as it is; a plain save with an edited
-    // name renames the recipe, and nothing is left under the old name.
-    if ((saveAs && sameName) || (!saveAs && !place.origName.empty())) DeleteOwnRow();
     const DateTime now = recipe_.platform.clock.Now();
     if (!place.createdWhen) place.createdWhen = now;
     StoredRecipe stored = StoredFrom(recipe_.record);
@@ -66,7 +86,7 @@ bool RecipeStorage::Save(SaveAs way, Asking asking) {
     stored.folderId = place.folderId;
     stored.createdWhen = place.createdWhen;
     stored.modifiedWhen = now;
-    if (!InsertRecipe(recipe_.database, stored)) {
+    if (!Write(stored, way, otherId)) {
         unit.Commit();
         recipe_.Tell("UNKNOWN ERROR", "Error saving recipe to database!");
         return true;
@@ -123,6 +143,7 @@ void RecipeStorage::Open(std::string_view name) {
 }
 
 void RecipeStorage::Fill(const StoredRecipe& stored) {
+    recipe_.place.id = stored.id;
     recipe_.place.createdWhen = stored.createdWhen;
     TextBox& name = recipe_.record.txtName;
     name.SetText(stored.name);
@@ -192,6 +213,7 @@ void RecipeStorage::Detach() {
     if (savingOver_) return;
     recipe_.place.folderId = -1;
     recipe_.place.origName.clear();
+    recipe_.place.id.reset();
     recipe_.MarkChanged();
 }
 

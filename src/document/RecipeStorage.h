@@ -3,7 +3,9 @@
 // its name is what identifies it.
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -56,7 +58,11 @@ class RecipeStorage {
 
   private:
     bool AskOverwrite();
-    void DeleteOwnRow();
+    // Returns the id of the deleted row; nullopt if it was gone.
+    std::optional<std::int64_t> DeleteOwnRow();
+    // Deletes the rows that the save replaces, writes the new one, and tells what follows the recipe. False
+    // if the new row could not be written. otherId is that of the recipe that has the name already.
+    bool Write(const StoredRecipe& stored, SaveAs way, std::optional<std::int64_t> otherId);
     void Fill(const StoredRecipe& stored);
     std::vector<std::string> FillGrids(const StoredRecipe& stored);
     void TellUnusableNumbers(const std::vector<std::string>& figures);

@@ -75,7 +75,8 @@ RecipeSnapshot RecipeStorage::TakeSnapshot() const {
 
 void RecipeStorage::RestorePlace(const RecipeSnapshot& s) {
     recipe_.place.createdWhen = s.createdWhen;
-    const bool gone = !s.origName.empty() && !RecipeExists(recipe_.database, s.origName);
+    if (!s.origName.empty()) recipe_.place.id = RecipeId(recipe_.database, s.origName);
+    const bool gone = !s.origName.empty() && !recipe_.place.id;
     recipe_.place.origName = gone ? std::string() : s.origName;
     recipe_.place.folderId =
         gone || s.folderId < 0 || !FolderExists(recipe_.database, s.folderId) ? -1 : s.folderId;

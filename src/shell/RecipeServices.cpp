@@ -4,8 +4,8 @@
 
 namespace tw {
 
-void RecipeServices::DeleteRecipe(std::string_view name) {
-    to_.data.objects.DeleteRecipeByName(Trim(name));
+std::optional<std::int64_t> RecipeServices::DeleteRecipe(std::string_view name, RecipeEnd why) {
+    return to_.data.objects.DeleteRecipeByName(Trim(name), why);
 }
 
 void RecipeServices::RecipeStored(std::string_view name) {

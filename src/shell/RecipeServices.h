@@ -39,7 +39,8 @@ class RecipeServices final : public DocumentHost {
     bool AskBeforeNonUndoableChange() const override { return Values().askBeforeNonUndoableChange; }
     void StopAskingBeforeNonUndoableChange() override { Values().askBeforeNonUndoableChange = false; }
     ScalingPreferences Scaling() const override { return {Values().undoScaling, Values().keepTypedUnits}; }
-    void DeleteRecipe(std::string_view name) override;
+    std::optional<std::int64_t> DeleteRecipe(std::string_view name,
+                                             RecipeEnd why = RecipeEnd::Deleted) override;
     void RecipeStored(std::string_view name) override;
     void AddToMRU(std::string_view name) override { to_.recent.Add(name); }
     void PickFromCatalogue(RecipeDocument& document, CatalogueKind list, const std::string& name) override {

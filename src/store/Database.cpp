@@ -180,6 +180,11 @@ std::int64_t Database::ChangeCount() const {
     return sqlite3_total_changes64(handle_);
 }
 
+bool Database::HasColumn(const char* table, const char* column) const {
+    return sqlite3_table_column_metadata(handle_, "main", table, column, nullptr, nullptr, nullptr, nullptr,
+                                         nullptr) == SQLITE_OK;
+}
+
 void Database::ExecuteNative(const std::string& sql) {
     RunNative(handle_, sql);
 }

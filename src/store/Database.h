@@ -152,6 +152,8 @@ class Database {
     // A number that increases with every row that this connection writes, so an unchanged number means that
     // nothing was written.
     std::int64_t ChangeCount() const;
+    // True if there is a table, not a view, with that column, both ignoring case. Runs no statement.
+    bool HasColumn(const char* table, const char* column) const;
     const std::string& Path() const { return path_; }
     // True if the database was opened exclusively but cannot be written; writing raises Error.
     bool ReadOnly() const { return readOnly_; }

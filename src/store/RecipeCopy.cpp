@@ -5,6 +5,7 @@
 #include <sqlite3.h>
 
 #include "platform/Error.h"
+#include "store/RecipeFollowers.h"
 #include "store/RowNames.h"
 #include "values/Text.h"
 
@@ -234,7 +235,9 @@ RecipeCopier::Step RecipeCopier::CopyRows(std::int64_t sourceId, std::optional<s
     std::optional<Replacement> replacement;
     if (oldId) {
         replacement.emplace(Dest());
+        if (isImport_) RecipeEnds(main_, *oldId, RecipeEnd::Overwritten);
         Dest().Execute("DELETE FROM RECIPES WHERE ID = ?", {*oldId});
+        if (isImport_) RecipeEnded(main_, *oldId, RecipeEnd::Overwritten);
     }
     {
         const Recordset source = Source().OpenRecordset("SELECT * FROM RECIPES WHERE ID = ?", {sourceId});
@@ -244,6 +247,7 @@ RecipeCopier::Step RecipeCopier::CopyRows(std::int64_t sourceId, std::optional<s
     if (!newId) return host_.ContinueAfter("Unknown error inserting recipe !") ? Step::Next : Step::Stop;
     destNames_.Put(newName, *newId);
     for (const std::string& table : kLineTables) CopyLines(table, oldId, sourceId, *newId);
+    if (isImport_) RecipeImported(main_, *newId);
     if (replacement) replacement->Keep();
     ++copied_;
     return Step::Next;

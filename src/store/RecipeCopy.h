@@ -91,7 +91,8 @@ class RecipeCopier {
     Step CopyRecipe(const std::string& name);
     // Returns the name to copy under, empty to leave the recipe out; nullopt to stop the run.
     std::optional<std::string> ResolveName(std::string newName);
-    // Puts the source's row, with its lines, in the place of the old one if there is one.
+    // Puts the source's row, with its lines, in the place of the old one if there is one. In the main
+    // database, tells the followers of both recipes.
     Step CopyRows(std::int64_t sourceId, std::optional<std::int64_t> oldId, const std::string& newName);
     // Returns the newest row of exactly that name in the destination; nullopt if there is none.
     std::optional<std::int64_t> NewestInDest(const std::string& name);

@@ -100,8 +100,14 @@ std::optional<StoredRecipe> ReadRecipe(Database& database, std::string_view name
     return recipe;
 }
 
+std::optional<std::int64_t> RecipeId(Database& database, std::string_view name) {
+    const Recordset rows = database.OpenRecordset("SELECT * FROM RECIPES WHERE NAME = ?", {Trim(name)});
+    if (rows.AtEnd()) return std::nullopt;
+    return rows.Fields("ID").Integer();
+}
+
 bool RecipeExists(Database& database, std::string_view name) {
-    return !database.OpenRecordset("SELECT * FROM RECIPES WHERE NAME = ?", {Trim(name)}).AtEnd();
+    return RecipeId(database, name).has_value();
 }
 
 }  // namespace tw

@@ -124,14 +124,16 @@ StoredLine EmptyLine(GridId grid, int rowId) {
     return {rowId, std::vector<StoredValue>(RuleOf(grid).columns.size())};
 }
 
-bool InsertRecipe(Database& database, const StoredRecipe& recipe) {
+std::optional<std::int64_t> InsertRecipe(Database& database, const StoredRecipe& recipe,
+                                         const RowWritten& rowWritten) {
     UnitOfWork unit(database);
-    const std::optional<std::int64_t> id = InsertRow(database, recipe);
-    const bool found = id && UpdateRow(database, recipe, *id);
-    if (found)
+    std::optional<std::int64_t> id = InsertRow(database, recipe);
+    if (id && rowWritten) rowWritten(*id);
+    if (id && !UpdateRow(database, recipe, *id)) id.reset();
+    if (id)
         for (const GridRule& grid : GridRules()) InsertLines(database, recipe, grid, *id);
     unit.Commit();
-    return found;
+    return id;
 }
 
 }  // namespace tw

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -57,16 +58,22 @@ struct StoredRecipe {
 // Returns a line with that rowId and an empty cell for each column of the grid.
 StoredLine EmptyLine(GridId grid, int rowId);
 
-// Writes a recipe as a new row with its lines. An absent number is written as 0. Returns false if the new row
-// cannot be found again or an UPDATE changes no row; what was written before stays. Raises the store's
-// errors. REQUIRES: createdWhen is set.
-bool InsertRecipe(Database& database, const StoredRecipe& recipe);
+// Writes a recipe as a new row with its lines and returns the id of the row. An absent number is written as
+// 0. rowWritten is called with the id as soon as the row exists, since an error later leaves the row there.
+// Returns nullopt if the new row cannot be found again or an UPDATE changes no row; what was written before
+// stays. Raises the store's errors and those of rowWritten. REQUIRES: createdWhen is set.
+using RowWritten = std::function<void(std::int64_t id)>;
+std::optional<std::int64_t> InsertRecipe(Database& database, const StoredRecipe& recipe,
+                                         const RowWritten& rowWritten = {});
 
 // Reads the recipe of that name, ignoring case, with all its lines, those of each grid table in descending
 // order of rowId; nullopt if there is none.
 std::optional<StoredRecipe> ReadRecipe(Database& database, std::string_view name);
 
-// True if a recipe of that name exists, ignoring case and spaces at the ends of name.
+// Returns the id of the recipe of that name, ignoring case and spaces at the ends of name; nullopt if there
+// is none.
+std::optional<std::int64_t> RecipeId(Database& database, std::string_view name);
+// True if a recipe of that name exists, compared as by RecipeId.
 bool RecipeExists(Database& database, std::string_view name);
 
 }  // namespace tw

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -125,9 +126,15 @@ class DB_IO {
     void DeleteStyleFolder(std::int64_t id) { deletions_.DeleteFolder(FolderKind::Styles, id); }
     // Deletes the recipe with its rows in RECIPE_GRAINS, RECIPE_HOPS, RECIPE_ADJUNCTS and RECIPE_LOG. Leaves
     // its rows in RECIPE_SALTS and RECIPE_SUGARS, on purpose: the stored form must not change. Does nothing
-    // if there is no such recipe.
-    void DeleteRecipeById(std::int64_t id) { deletions_.DeleteRecipeById(id); }
-    void DeleteRecipeByName(std::string_view name) { deletions_.DeleteRecipeByName(name); }
+    // if there is no such recipe. why is passed on to what follows the recipe (store/RecipeFollowers.h).
+    void DeleteRecipeById(std::int64_t id, RecipeEnd why = RecipeEnd::Deleted) {
+        deletions_.DeleteRecipeById(id, why);
+    }
+    // Returns the id of the recipe; nullopt if there is none.
+    std::optional<std::int64_t> DeleteRecipeByName(std::string_view name,
+                                                   RecipeEnd why = RecipeEnd::Deleted) {
+        return deletions_.DeleteRecipeByName(name, why);
+    }
     // Deletes the style; its recipes lose their style.
     void DeleteStyleById(std::int64_t id) { deletions_.DeleteStyleById(id); }
 

@@ -48,26 +48,30 @@ void ObjectDeletions::DeleteEmptied(FolderKind kind, std::int64_t id) {
         if (forStyles)
             DeleteStyle(object);
         else
-            DeleteRecipe(object, to_.lookup.RecipeName(object).value_or(""));
+            DeleteRecipe(object, to_.lookup.RecipeName(object).value_or(""), RecipeEnd::Deleted);
     }
     to_.database.Execute("DELETE FROM FOLDERS WHERE " + FolderCondition(kind) + " AND ID = ?", {id});
     to_.tree.Remove(FolderKey(kind, id));
     if (!forStyles) to_.listener.NotifyRecipeFolderDeleted(id);
 }
 
-void ObjectDeletions::DeleteRecipeById(std::int64_t id) {
+void ObjectDeletions::DeleteRecipeById(std::int64_t id, RecipeEnd why) {
     const std::optional<std::string> name = to_.lookup.RecipeName(id);
-    if (name) to_.runner.RunDeletion([&] { DeleteRecipe(id, *name); });
+    if (name) to_.runner.RunDeletion([&] { DeleteRecipe(id, *name, why); });
 }
 
-void ObjectDeletions::DeleteRecipeByName(std::string_view name) {
+std::optional<std::int64_t> ObjectDeletions::DeleteRecipeByName(std::string_view name, RecipeEnd why) {
     // The id 0 can mean that there is no such recipe, but can also be that of a recipe.
     const std::int64_t id = to_.lookup.IdByName(name, "RECIPES");
-    if (id != 0 || to_.lookup.NameExists(name, "RECIPES")) DeleteRecipeById(id);
+    if (id == 0 && !to_.lookup.NameExists(name, "RECIPES")) return std::nullopt;
+    DeleteRecipeById(id, why);
+    return id;
 }
 
-void ObjectDeletions::DeleteRecipe(std::int64_t id, const std::string& name) {
+void ObjectDeletions::DeleteRecipe(std::int64_t id, const std::string& name, RecipeEnd why) {
+    RecipeEnds(to_.database, id, why);
     to_.database.Execute("DELETE FROM RECIPES WHERE ID = ?", {id});
+    RecipeEnded(to_.database, id, why);
     for (const char* lines : {"RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_ADJUNCTS", "RECIPE_LOG"})
         to_.database.Execute("DELETE FROM " + std::string(lines) + " WHERE RECIPE_ID = ?", {id});
     for (int copy = 0; copy < kRecipeCopies; ++copy) to_.tree.Remove(RecipeKey(id, copy));

@@ -3,9 +3,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "store/RecipeFollowers.h"
 #include "tree/ObjectMoves.h"
 #include "tree/ObjectServices.h"
 
@@ -21,9 +23,11 @@ class ObjectDeletions {
     // lose their style.
     void DeleteFolder(FolderKind kind, std::int64_t id);
     // Deletes the recipe with its rows in RECIPE_GRAINS, RECIPE_HOPS, RECIPE_ADJUNCTS and RECIPE_LOG. Leaves
-    // its rows in RECIPE_SALTS and RECIPE_SUGARS, on purpose: the stored form must not change.
-    void DeleteRecipeById(std::int64_t id);
-    void DeleteRecipeByName(std::string_view name);
+    // its rows in RECIPE_SALTS and RECIPE_SUGARS, on purpose: the stored form must not change. why is passed
+    // on to what follows the recipe.
+    void DeleteRecipeById(std::int64_t id, RecipeEnd why = RecipeEnd::Deleted);
+    // Returns the id of the recipe; nullopt if there is none.
+    std::optional<std::int64_t> DeleteRecipeByName(std::string_view name, RecipeEnd why = RecipeEnd::Deleted);
     // Deletes the style; its recipes lose their style.
     void DeleteStyleById(std::int64_t id);
 
@@ -31,7 +35,7 @@ class ObjectDeletions {
     void DeleteTree(FolderKind kind, std::int64_t id);
     // Deletes the recipes or styles of a folder without subfolders, then its row and its entry.
     void DeleteEmptied(FolderKind kind, std::int64_t id);
-    void DeleteRecipe(std::int64_t id, const std::string& name);
+    void DeleteRecipe(std::int64_t id, const std::string& name, RecipeEnd why);
     void DeleteStyle(std::int64_t id);
 
     ObjectServices to_;

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "store/RecipeFollowers.h"
 #include "tree/NodeKey.h"
 #include "values/Text.h"
 
@@ -47,6 +48,7 @@ bool ObjectRenames::RenameRecipe(std::int64_t id, std::string_view newName, Aski
         if (!CheckNewName("recipe", *oldName, newName, nameExists, asking)) return false;
         UnitOfWork unit(to_.database);
         to_.database.Execute("UPDATE RECIPES SET NAME = ? WHERE ID = ?", {Trim(newName), id});
+        RecipeRenamed(to_.database, id);
         to_.dates.TouchFolderOf(FolderKind::Recipes, RecipeKey(id, kCopyInFolder));
         unit.Commit();
         const std::string text(newName);

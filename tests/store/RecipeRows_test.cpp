@@ -249,6 +249,18 @@ TEST_F(RecipeRows, AreWrittenByTheDesignedStatements) {
     EXPECT_EQ(seen, expected);
 }
 
+TEST_F(RecipeRows, TellTheirIdBeforeTheyAreFilled) {
+    std::vector<std::int64_t> told;
+    const auto id = InsertRecipe(*db, FullRecipe("Mild"), [&](std::int64_t row) {
+        told.push_back(row);
+        EXPECT_EQ(Select(*db, "SELECT ID, OG FROM RECIPES"), (Rows{{"1", "NULL"}}));
+    });
+    EXPECT_EQ(id, 1);
+    EXPECT_EQ(told, std::vector<std::int64_t>{1});
+    EXPECT_EQ(RecipeId(*db, " mild "), 1);
+    EXPECT_EQ(RecipeId(*db, "Stout"), std::nullopt);
+}
+
 TEST_F(RecipeRows, AreReadByTheDesignedStatements) {
     InsertRecipe(*db, FullRecipe("Baker's"));
     const auto seen = StatementsOf([&] { ReadRecipe(*db, "Baker's"); });

@@ -51,9 +51,10 @@ class RecordingHost : public DocumentHost, public DocumentCommands, private Obje
     bool AskBeforeNonUndoableChange() const override { return askBefore; }
     void StopAskingBeforeNonUndoableChange() override { askBefore = false; }
     ScalingPreferences Scaling() const override { return scaling; }
-    void DeleteRecipe(std::string_view name) override {
+    std::optional<std::int64_t> DeleteRecipe(std::string_view name,
+                                             RecipeEnd why = RecipeEnd::Deleted) override {
         log.emplace_back("DeleteRecipe " + std::string(name));
-        io_.DeleteRecipeByName(name);
+        return io_.DeleteRecipeByName(name, why);
     }
     void RecipeStored(std::string_view name) override {
         log.emplace_back("RecipeStored " + std::string(name));
