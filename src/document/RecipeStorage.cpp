@@ -6,6 +6,7 @@
 #include "document/UnusableNumbers.h"
 #include "platform/ScopeGuard.h"
 #include "record/Entries.h"
+#include "store/RowNames.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -44,7 +45,8 @@ std::optional<std::int64_t> RecipeStorage::DeleteOwnRow() {
     return recipe_.host.DeleteRecipe(std::string(recipe_.place.origName), RecipeEnd::SavedAnew);
 }
 
-bool RecipeStorage::Write(const StoredRecipe& stored, SaveAs way, std::optional<std::int64_t> otherId) {
+std::optional<std::int64_t> RecipeStorage::Write(const StoredRecipe& stored, SaveAs way,
+                                                 std::optional<std::int64_t> otherId) {
     RecipePlace& place = recipe_.place;
     const bool sameName = SameName(stored.name, place.origName);
     // An earlier save that failed halfway may have written the row that has the name now.
@@ -63,9 +65,19 @@ bool RecipeStorage::Write(const StoredRecipe& stored, SaveAs way, std::optional<
         RecipeSaved(recipe_.database, place.id, newId);
         place.id = newId;
     };
-    const std::optional<std::int64_t> newId = InsertRecipe(recipe_.database, stored, tell);
-    if (newId) place.id = newId;
-    return newId.has_value();
+    return InsertRecipe(recipe_.database, stored, tell);
+}
+
+// If the disk has undone the save, no row has that id, and another recipe will get it.
+void RecipeStorage::ForgetUndoneId(std::optional<std::int64_t> idBefore) {
+    std::optional<std::int64_t>& id = recipe_.place.id;
+    if (id == idBefore) return;
+    try {
+        if (id && NameById(recipe_.database, "RECIPES", *id)) return;
+    } catch (const Error&) {
+        // The error of the save is already being reported; whether the new row is there remains unknown.
+    }
+    id = idBefore;
 }
 
 bool RecipeStorage::Save(SaveAs way, Asking asking) {
@@ -77,6 +89,10 @@ bool RecipeStorage::Save(SaveAs way, Asking asking) {
     if ((otherId || (saveAs && sameName)) && asking == Asking::Aloud && !AskOverwrite()) return false;
     // A row that is still to be typed is not part of the recipe.
     const OfferPause pause(lines_);
+    bool committed = false;
+    const ScopeGuard settle([this, &committed, before = place.id] {
+        if (!committed) ForgetUndoneId(before);
+    });
     UnitOfWork unit(recipe_.database);
     const DateTime now = recipe_.platform.clock.Now();
     if (!place.createdWhen) place.createdWhen = now;
@@ -86,14 +102,18 @@ bool RecipeStorage::Save(SaveAs way, Asking asking) {
     stored.folderId = place.folderId;
     stored.createdWhen = place.createdWhen;
     stored.modifiedWhen = now;
-    if (!Write(stored, way, otherId)) {
+    const std::optional<std::int64_t> newId = Write(stored, way, otherId);
+    if (!newId) {
         unit.Commit();
+        committed = true;
         recipe_.Tell("UNKNOWN ERROR", "Error saving recipe to database!");
         return true;
     }
     recipe_.host.RecipeStored(name);
     unit.Commit();
+    committed = true;
     place.origName = name;
+    place.id = newId;
     for (TextBox* const box : recipe_.record.TextBoxes())
         if (RuleOf(*box).takes == FieldTakes::FreeText && !box->Computed()) box->SetCommitted(box->Text());
     recipe_.ClearChanged();

@@ -60,9 +60,13 @@ class RecipeStorage {
     bool AskOverwrite();
     // Returns the id of the deleted row; nullopt if it was gone.
     std::optional<std::int64_t> DeleteOwnRow();
-    // Deletes the rows that the save replaces, writes the new one, and tells what follows the recipe. False
-    // if the new row could not be written. otherId is that of the recipe that has the name already.
-    bool Write(const StoredRecipe& stored, SaveAs way, std::optional<std::int64_t> otherId);
+    // Deletes the rows that the save replaces, writes the new one, and tells what follows the recipe. Returns
+    // the id of the new row; nullopt if it could not be written. otherId is that of the recipe that has the
+    // name already.
+    std::optional<std::int64_t> Write(const StoredRecipe& stored, SaveAs way,
+                                      std::optional<std::int64_t> otherId);
+    // Called after a save that failed, with the id from before it.
+    void ForgetUndoneId(std::optional<std::int64_t> idBefore);
     void Fill(const StoredRecipe& stored);
     std::vector<std::string> FillGrids(const StoredRecipe& stored);
     void TellUnusableNumbers(const std::vector<std::string>& figures);
