@@ -39,7 +39,7 @@ RecipeDoctor::RecipeDoctor(Database& database, Platform& platform, const ColorTa
     : database_(database),
       platform_(platform),
       colors_(colors),
-      host_(std::move(defaults), [](std::string_view) {}),
+      host_(std::move(defaults)),
       figures_(database),
       catalogue_(database) {}
 

@@ -2,7 +2,8 @@
 // or saved, and thrown away.
 #pragma once
 
-#include <functional>
+#include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "document/DocumentHost.h"
@@ -11,9 +12,7 @@ namespace tw {
 
 class ScratchHost final : public DocumentHost, private DocumentCommands {
   public:
-    // deleteRecipe deletes the stored recipe that a save overwrites.
-    ScratchHost(RecipeDefaults defaults, std::function<void(std::string_view name)> deleteRecipe)
-        : defaults_(std::move(defaults)), deleteRecipe_(std::move(deleteRecipe)) {}
+    explicit ScratchHost(RecipeDefaults defaults) : defaults_(std::move(defaults)) {}
 
     DocumentCommands& Commands() override { return *this; }
     bool IsActive(const RecipeDocument&) const override { return false; }
@@ -24,7 +23,8 @@ class ScratchHost final : public DocumentHost, private DocumentCommands {
     int LPMaxIter() const override { return 0; }
     bool AskBeforeNonUndoableChange() const override { return false; }
     void StopAskingBeforeNonUndoableChange() override {}
-    void DeleteRecipe(std::string_view name) override { deleteRecipe_(name); }
+    // Nothing is deleted: such a document is saved only under a name that is free.
+    std::optional<std::int64_t> DeleteRecipe(std::string_view, RecipeEnd) override { return std::nullopt; }
     void RecipeStored(std::string_view) override {}
     void AddToMRU(std::string_view) override {}
     void DocumentRenamed(const RecipeDocument&) override {}
@@ -44,7 +44,6 @@ class ScratchHost final : public DocumentHost, private DocumentCommands {
     void CheckEnableDelete() override {}
 
     RecipeDefaults defaults_;
-    std::function<void(std::string_view name)> deleteRecipe_;
 };
 
 }  // namespace tw

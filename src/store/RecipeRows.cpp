@@ -136,4 +136,12 @@ std::optional<std::int64_t> InsertRecipe(Database& database, const StoredRecipe&
     return id;
 }
 
+void DeleteRecipeRows(Database& database, std::int64_t id, RecipeEnd why) {
+    RecipeEnds(database, id, why);
+    database.Execute("DELETE FROM RECIPES WHERE ID = ?", {id});
+    RecipeEnded(database, id, why);
+    for (const char* const lines : {"RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_ADJUNCTS", "RECIPE_LOG"})
+        database.Execute("DELETE FROM " + std::string(lines) + " WHERE RECIPE_ID = ?", {id});
+}
+
 }  // namespace tw

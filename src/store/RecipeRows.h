@@ -14,6 +14,7 @@
 #include "record/CellRules.h"
 #include "record/FieldRules.h"
 #include "store/Database.h"
+#include "store/RecipeFollowers.h"
 
 namespace tw {
 
@@ -65,6 +66,11 @@ StoredLine EmptyLine(GridId grid, int rowId);
 using RowWritten = std::function<void(std::int64_t id)>;
 std::optional<std::int64_t> InsertRecipe(Database& database, const StoredRecipe& recipe,
                                          const RowWritten& rowWritten = {});
+
+// Deletes the recipe's row and its lines in RECIPE_GRAINS, RECIPE_HOPS, RECIPE_ADJUNCTS and RECIPE_LOG, and
+// tells what follows it. Leaves its lines in RECIPE_SALTS and RECIPE_SUGARS, on purpose: the stored form must
+// not change. Raises the store's errors.
+void DeleteRecipeRows(Database& database, std::int64_t id, RecipeEnd why);
 
 // Reads the recipe of that name, ignoring case, with all its lines, those of each grid table in descending
 // order of rowId; nullopt if there is none.

@@ -4,6 +4,7 @@
 #include <unordered_set>
 #include <vector>
 
+#include "store/RecipeRows.h"
 #include "tree/NodeKey.h"
 
 namespace tw {
@@ -69,11 +70,7 @@ std::optional<std::int64_t> ObjectDeletions::DeleteRecipeByName(std::string_view
 }
 
 void ObjectDeletions::DeleteRecipe(std::int64_t id, const std::string& name, RecipeEnd why) {
-    RecipeEnds(to_.database, id, why);
-    to_.database.Execute("DELETE FROM RECIPES WHERE ID = ?", {id});
-    RecipeEnded(to_.database, id, why);
-    for (const char* lines : {"RECIPE_GRAINS", "RECIPE_HOPS", "RECIPE_ADJUNCTS", "RECIPE_LOG"})
-        to_.database.Execute("DELETE FROM " + std::string(lines) + " WHERE RECIPE_ID = ?", {id});
+    DeleteRecipeRows(to_.database, id, why);
     for (int copy = 0; copy < kRecipeCopies; ++copy) to_.tree.Remove(RecipeKey(id, copy));
     to_.listener.NotifyRecipeDeleted(name);
 }
