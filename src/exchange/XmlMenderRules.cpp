@@ -1,0 +1,183 @@
+// Where a tag belongs in a damaged file.
+#include <algorithm>
+
+#include "exchange/AsciiCase.h"
+#include "exchange/HtmlWords.h"
+#include "exchange/XmlMender.h"
+
+namespace tw {
+bool XmlMender::ClosesNext(std::string_view name, std::size_t from) {
+    return isBalanced_ || lookahead_.NextOf(name, from) == XmlNext::Closes;
+}
+
+// An unknown element that the end of the file may have cut off counts as closed if it holds no text.
+bool XmlMender::IsClosedLater(const Element& element, std::size_t from) {
+    if (isBalanced_) return true;
+    const XmlNext next = lookahead_.NextOf(element.name, from);
+    if (next != XmlNext::None || element.known != nullptr) return next == XmlNext::Closes;
+    return !element.hasText && !endsWhole_;
+}
+
+// A field holds no elements of BeerXML. Only where both it and the tag are closed in due course, the file
+// really has one in the other.
+bool XmlMender::IsTextInLeaf(const XmlToken& tag, const KnownTag* known) {
+    if (known == nullptr && IsHtmlTag(tag.name)) return true;
+    const Element& leaf = open_.back();
+    const bool isLeafClosed = IsClosedLater(leaf, tag.begin);
+    const bool isClosed = tag.selfClosing || ClosesNext(tag.name, tag.end);
+    const bool hasSmallLetter = HasSmallLetter(tag.name);
+    if (isLeafClosed) {
+        const bool isWord = known != nullptr ? hasSmallLetter && !leaf.isLower : hasSmallLetter;
+        return isWord || !isClosed;
+    }
+    if (known == nullptr) return !isClosed;
+    const bool isHeld = std::ranges::any_of(
+        open_, [&](const Element& each) { return each.known != nullptr && MayHold(*each.known, *known); });
+    return !isClosed && !isHeld && !MayBeRoot(*known);
+}
+
+// "<NAME>Cascade<NAME>", "<NAME>Cascade<NAME/>".
+bool XmlMender::ClosesWithoutSlash(const XmlToken& tag, const KnownTag* known) {
+    if (isBalanced_ || known == nullptr || known != open_.back().known || !open_.back().hasText) return false;
+    const XmlToken& next = lookahead_.NextTag(tokens_, tag.end);
+    const bool isClosedItself = next.kind == XmlTokenKind::Close && EqualAscii(next.name, tag.name);
+    return !isClosedItself && IsXmlBlank(text_.substr(tag.end, next.begin - tag.end));
+}
+
+// Returns the number of blanks before the tag; -1 if it does not begin its line.
+int XmlMender::IndentOf(std::size_t offset) const {
+    constexpr int kMost = 256;
+    int count = 0;
+    while (offset > 0 && count < kMost && (text_[offset - 1] == ' ' || text_[offset - 1] == '\t')) {
+        --offset;
+        ++count;
+    }
+    const bool beginsLine = offset == 0 || text_[offset - 1] == '\n' || text_[offset - 1] == '\r';
+    return beginsLine ? count : -1;
+}
+
+// True if an element around that of the index may hold the tag and has none yet.
+bool XmlMender::IsWantedFurtherOut(std::size_t index, const KnownTag& known) const {
+    return std::any_of(
+        open_.begin(), open_.begin() + static_cast<std::ptrdiff_t>(index), [&](const Element& each) {
+            return each.known != nullptr && MayHold(*each.known, known) && !each.has.test(known.number);
+        });
+}
+
+// True if the tag is certainly meant to stand in that open element, if the element is still open.
+bool XmlMender::Suits(std::size_t index, const KnownTag* known, int indent) const {
+    const Element& element = open_[index];
+    if (element.Is(TagKind::Leaf)) return false;
+    if (element.known == nullptr) return index == 0;
+    const bool isBeside = indent >= 0 && element.indent >= 0 && indent <= element.indent;
+    if (known == nullptr) return element.Is(TagKind::Record) && !isBeside;
+    if (!MayHold(*element.known, *known)) return false;
+    const bool isDoubtful = element.Is(TagKind::Record) && (isBeside || element.has.test(known->number));
+    return !isDoubtful || !IsWantedFurtherOut(index, *known);
+}
+
+// True if the tag may be a root behind the one that is open: a set, or one more record of that kind.
+bool XmlMender::MayFollowAsRoot(const KnownTag& known) const {
+    return known.kind == TagKind::Set || (known.kind == TagKind::Record && &known == open_.front().known);
+}
+
+// Returns the open element in which the tag belongs. Those within it were not closed: an element is left
+// before its end only if no closing tag of its name comes before the next opening one.
+XmlMender::Place XmlMender::HolderOf(const XmlToken& tag, const KnownTag* known) {
+    const std::size_t last = open_.size() - 1;
+    if (isBalanced_) return last;
+    const int indent = IndentOf(tag.begin);
+    for (std::size_t i = open_.size(); i-- > 0;)
+        if (Suits(i, known, indent) || IsClosedLater(open_[i], tag.begin)) return i;
+    if (known != nullptr && MayFollowAsRoot(*known)) return std::nullopt;
+    if (!open_[last].Is(TagKind::Leaf)) return last;
+    return last == 0 ? Place() : last - 1;
+}
+
+XmlMender::Place XmlMender::IndexOf(std::string_view name) const {
+    for (std::size_t i = open_.size(); i-- > 0;)
+        if (EqualAscii(open_[i].name, name)) return i;
+    return std::nullopt;
+}
+
+// True if the next tag is right where that element is the innermost one.
+bool XmlMender::Fits(const XmlToken& next, Place place) const {
+    const bool opens = next.kind == XmlTokenKind::Open;
+    const KnownTag* known = opens ? FindTag(next.name) : nullptr;
+    if (!place) return next.kind == XmlTokenKind::End || (known != nullptr && MayFollowAsRoot(*known));
+    const Element& element = open_[*place];
+    if (next.kind == XmlTokenKind::Close) return EqualAscii(next.name, element.name);
+    if (!opens || element.Is(TagKind::Leaf)) return false;
+    if (element.known == nullptr) return true;
+    return known != nullptr ? MayHold(*element.known, *known) : element.Is(TagKind::Record);
+}
+
+// Returns the element that a closing tag ends, which need not be the innermost one, nor have that name.
+// Nothing if it ends none. open is the element of that name, if one is open.
+XmlMender::Place XmlMender::EndedBy(const XmlToken& tag, Place open) {
+    const std::size_t last = open_.size() - 1;
+    const auto around = [](std::size_t index) { return index == 0 ? Place() : index - 1; };
+    const auto resembles = [&](std::size_t index) {
+        return tag.name.empty() || Resembles(tag.name, open_[index].name);
+    };
+    const XmlToken& next = lookahead_.NextTag(tokens_, tag.end);
+    if (open && Fits(next, around(*open))) return open;
+    const bool resemblesLast = resembles(last);
+    if (resemblesLast && Fits(next, around(last))) return last;
+    if (Fits(next, last)) return std::nullopt;
+    if (open) return open;
+    if (resemblesLast) return last;
+    for (std::size_t i = last; i-- > 0;)
+        if (resembles(i)) return i;
+    if (open_[last].Is(TagKind::Leaf) && Fits(next, around(last))) return last;
+    return std::nullopt;
+}
+
+// "<NMAE>Cascade</NAME>": the opening tag was the misspelt one.
+void XmlMender::RenameIfMeant(const XmlToken& tag) {
+    constexpr std::size_t kLongest = 65'536;
+    Element& element = open_.back();
+    const KnownTag* known = FindTag(tag.name);
+    if (element.known != nullptr || known == nullptr || known->kind != TagKind::Leaf) return;
+    if (open_.size() < 2 || element.children > 0 || out_.size() - element.begin > kLongest) return;
+    Element& around = open_[open_.size() - 2];
+    if (around.known == nullptr || !MayHold(*around.known, *known)) return;
+    out_.replace(element.begin + 1, element.name.size(), known->name);
+    element.name = known->name;
+    around.has.set(known->number);
+}
+
+void XmlMender::TakeClose(const XmlToken& tag) {
+    const auto stray = [&] {
+        log_.Repaired(FindingCode::StrayClose, tag.begin, [&] {
+            return "The tag \"/" + std::string(tag.name) + "\" closes nothing; it was left out.";
+        });
+    };
+    if (open_.empty()) return stray();
+    const KnownTag* known = FindTag(tag.name);
+    const Place open = IndexOf(tag.name);
+    const Element& last = open_.back();
+    const bool isInLeaf = last.Is(TagKind::Leaf);
+    if (isInLeaf && !open && known == nullptr && IsHtmlTag(tag.name)) return TakeTagAsText(tag);
+    const bool isRight = open == open_.size() - 1;
+    const Place ended = isRight ? open : EndedBy(tag, open);
+    if (!ended) {
+        const bool isWord = isInLeaf && HasSmallLetter(tag.name) && (known == nullptr || !last.isLower);
+        return isWord ? TakeTagAsText(tag) : stray();
+    }
+    CloseUnclosed(open_.size() - 1 - *ended);
+    const bool isMisspelt = ended != open;
+    if (isMisspelt || !tag.closed)
+        log_.Repaired(FindingCode::MisspeltClose, tag.begin, [&] {
+            const std::string meant(open_.back().name);
+            return isMisspelt ? "The tag \"/" + std::string(tag.name) + "\" was read as \"/" + meant + "\"."
+                              : "The tag \"/" + meant + "\" lacked its \">\".";
+        });
+    if (isMisspelt)
+        RenameIfMeant(tag);
+    else
+        NoteCase(tag.name, known, log_.LineAt(tag.begin));
+    WriteClose();
+}
+
+}  // namespace tw
