@@ -18,6 +18,8 @@ namespace {
 
 using Of = ForeignAmount::Of;
 
+constexpr std::string_view kFormat = "BeerXML";
+
 ForeignFermentable ReadFermentable(BeerXmlRecord& record) {
     using Type = ForeignFermentable::Type;
     ForeignFermentable read;
@@ -215,7 +217,7 @@ Lists ListsOf(Owner& owner) {
 
 template <class Line>
 void AddLine(std::vector<Line>& list, Line (*read)(BeerXmlRecord&), pugi::xml_node element,
-             std::string_view placeWord, const XmlRecordRule& rule, XmlTelling& telling) {
+             std::string_view placeWord, const XmlRecordRule& rule, ForeignTelling& telling) {
     BeerXmlRecord record(element, rule.record, telling,
                          LinePlace(placeWord, list.size() + 1, NameOf(element)),
                          std::string(rule.setTag) + "/" + std::string(rule.tag));
@@ -224,7 +226,7 @@ void AddLine(std::vector<Line>& list, Line (*read)(BeerXmlRecord&), pugi::xml_no
 }
 
 // Appends the line that an element is. Returns false for every other kind of record.
-bool AddLine(const Lists& lists, const XmlRecordRule& rule, pugi::xml_node element, XmlTelling& telling) {
+bool AddLine(const Lists& lists, const XmlRecordRule& rule, pugi::xml_node element, ForeignTelling& telling) {
     switch (rule.record) {
         case XmlRecord::Fermentable:
             AddLine(lists.fermentables, ReadFermentable, element, kFermentablesPlace, rule, telling);
@@ -251,6 +253,21 @@ bool AddLine(const Lists& lists, const XmlRecordRule& rule, pugi::xml_node eleme
     return false;
 }
 
+// Appends the noted paths below an element in the order of the file. path leads to the element, whose tags
+// may be in any case.
+void ListKeptAside(pugi::xml_node element, const std::string& path, int depth, ForeignTelling& telling,
+                   std::vector<std::string>& paths) {
+    for (const pugi::xml_node child : element.children()) {
+        if (child.type() != pugi::node_element || telling.KeptAside().empty()) continue;
+        const std::string tag = IsXmlTag(child.name()) ? UpperAscii(child.name()) : child.name();
+        std::string inner = path.empty() ? tag : path + "/" + tag;
+        if (telling.TakeKeptAside(inner))
+            paths.push_back(std::move(inner));
+        else if (depth < kMostForeignDepth)
+            ListKeptAside(child, inner, depth + 1, telling, paths);
+    }
+}
+
 class Reader {
   public:
     Reader(const ElementText& text, ForeignFile& file)
@@ -271,7 +288,7 @@ class Reader {
 
     // Tells what holds for the file as a whole. Returns false if it has too many records.
     bool End() {
-        library_.End();
+        library_.TellUnknown(kFormat);
         if (!homeless_.empty())
             file_.findings.Add(
                 {Severity::NotCarried, FindingCode::Carried, "", "",
@@ -301,7 +318,7 @@ class Reader {
     // around it: of many, each would keep all within it as its text.
     void ReadRecipe(pugi::xml_node element, int nesting) {
         constexpr int kMostNested = 4;
-        XmlTelling telling(file_.findings, NameOf(element));
+        ForeignTelling telling(file_.findings, NameOf(element));
         ForeignRecipe recipe;
         BeerXmlRecord record(element, XmlRecord::Recipe, telling, {}, "RECIPE");
         ReadFields(record, recipe);
@@ -315,7 +332,11 @@ class Reader {
         record.End();
         Keep(record.Element("EQUIPMENT"), XmlRecord::Equipment, recipe, telling);
         Keep(record.Element("MASH"), XmlRecord::Mash, recipe, telling);
-        recipe.keptAside = telling.End();
+        telling.TellUnknown(kFormat);
+        ListKeptAside(element, {}, 0, telling, recipe.keptAside);
+        // Lines that stand elsewhere than the format wants them.
+        recipe.keptAside.insert(recipe.keptAside.end(), telling.KeptAside().begin(),
+                                telling.KeptAside().end());
         recipe.fragment = text_.Of(element);
         file_.recipes.push_back(std::move(recipe));
         for (const pugi::xml_node each : nested)
@@ -350,7 +371,7 @@ class Reader {
         recipe.stated.srm = record.Figure("EST_COLOR");
     }
 
-    static ForeignStyle ReadStyleOf(pugi::xml_node element, XmlTelling& telling) {
+    static ForeignStyle ReadStyleOf(pugi::xml_node element, ForeignTelling& telling) {
         BeerXmlRecord record(element, XmlRecord::Style, telling, NamedPlace("Style", NameOf(element)),
                              "STYLE");
         ForeignStyle style = ReadStyle(record);
@@ -359,7 +380,7 @@ class Reader {
     }
 
     // Reads the lines of a recipe, wherever in it they stand.
-    void ReadLists(pugi::xml_node parent, ForeignRecipe& recipe, XmlTelling& telling, int depth,
+    void ReadLists(pugi::xml_node parent, ForeignRecipe& recipe, ForeignTelling& telling, int depth,
                    std::vector<pugi::xml_node>& nested) {
         if (depth > kMostForeignDepth) return;
         for (const pugi::xml_node child : parent.children()) {
@@ -370,7 +391,7 @@ class Reader {
             } else if (RecordOfSet(tag) != nullptr || FieldOf(XmlRecord::Recipe, tag) == nullptr) {
                 if (RecordOfSet(parent.name()) != nullptr && RecordOfSet(tag) == nullptr) {
                     telling.NoteUnknown(tag);
-                    telling.KeepAside(std::string(parent.name()) + "/" + std::string(tag), child);
+                    telling.KeepAside(std::string(parent.name()) + "/" + std::string(tag));
                 }
                 ReadLists(child, recipe, telling, depth + 1, nested);
             }
@@ -378,7 +399,7 @@ class Reader {
     }
 
     void ReadPart(const XmlRecordRule& rule, pugi::xml_node element, ForeignRecipe& recipe,
-                  XmlTelling& telling, std::vector<pugi::xml_node>& nested) {
+                  ForeignTelling& telling, std::vector<pugi::xml_node>& nested) {
         if (rule.record == XmlRecord::Recipe) {
             nested.push_back(element);
         } else if (rule.record == XmlRecord::Style) {
@@ -389,7 +410,7 @@ class Reader {
     }
 
     // Takes what the recipe needs from a record that is kept aside as a whole, and checks the rest.
-    static void Keep(pugi::xml_node element, XmlRecord kind, ForeignRecipe& recipe, XmlTelling& telling) {
+    static void Keep(pugi::xml_node element, XmlRecord kind, ForeignRecipe& recipe, ForeignTelling& telling) {
         if (!element.first_child()) return;
         const bool isEquipment = kind == XmlRecord::Equipment;
         BeerXmlRecord record(element, kind, telling,
@@ -410,7 +431,7 @@ class Reader {
 
     const ElementText& text_;
     ForeignFile& file_;
-    XmlTelling library_;
+    ForeignTelling library_;
     std::size_t count_ = 0;
     std::string homeless_;  // the sets of records that are read nowhere
 };

@@ -95,22 +95,8 @@ FieldUnit UnitOf(XmlRecord record, const XmlField& field) {
     return {record, field.tag, field.holds == XmlHolds::Percent ? FigureUnit::Percent : FigureUnit::Plain};
 }
 
-bool AddOnce(std::vector<std::string>& list, std::string_view text) {
-    if (std::ranges::find(list, text) != list.end()) return false;
-    list.emplace_back(text);
-    return true;
-}
-
-// "A, B and 3 more"
-std::string Listed(std::span<const std::string> words) {
-    constexpr std::size_t kMost = 30;
-    std::string text;
-    for (std::size_t i = 0; i < std::min(words.size(), kMost); ++i) {
-        if (i > 0) text += ", ";
-        text += words[i];
-    }
-    if (words.size() > kMost) text += " and " + std::to_string(words.size() - kMost) + " more";
-    return text;
+void AddOnce(std::vector<std::string>& list, std::string_view text) {
+    if (std::ranges::find(list, text) == list.end()) list.emplace_back(text);
 }
 
 // Returns the node behind node, in the order of the file, within root; nullptr behind the last one.
@@ -118,6 +104,18 @@ pugi::xml_node Following(pugi::xml_node node, pugi::xml_node root) {
     if (node.first_child()) return node.first_child();
     while (node != root && !node.next_sibling()) node = node.parent();
     return node == root ? pugi::xml_node() : node.next_sibling();
+}
+
+// Returns the only text of an element; nothing if it has several parts.
+std::optional<std::string_view> OnlyText(pugi::xml_node element) {
+    const pugi::xml_node first = element.first_child();
+    if (first.next_sibling() || first.type() == pugi::node_element) return std::nullopt;
+    return TrimSpace(first.value());
+}
+
+bool IsBlank(pugi::xml_node element) {
+    const auto only = OnlyText(element);
+    return only ? only->empty() : TrimmedText(element).empty();
 }
 
 // A field that only shows another one again.
@@ -139,47 +137,16 @@ bool IsText(const XmlField& field) {
 
 }  // namespace
 
-void XmlTelling::Tell(Severity severity, FindingCode code, std::string place, std::string text) const {
-    findings_.Add({severity, code, recipe_, std::move(place), std::move(text)});
-}
-
-void XmlTelling::TellFigure(std::string_view place, std::string_view field, std::string_view text,
-                            const ForeignFigure& figure, FigureUnit unit) const {
-    tw::TellFigure(findings_, {recipe_, place, field}, text, figure, WordOf(unit));
-}
-
-void XmlTelling::KeepAside(std::string path, pugi::xml_node element) {
-    keptAside_.try_emplace(std::move(path), element.offset_debug());
-}
-
-void XmlTelling::NoteUnknown(std::string_view tag) {
-    if (knownUnknown_.emplace(tag).second) unknownTags_.push_back(Quoted(tag));
-}
-
-std::vector<std::string> XmlTelling::End() {
-    if (!unknownTags_.empty())
-        Tell(Severity::Note, FindingCode::UnknownTag, "",
-             "These fields are not part of BeerXML and are kept aside: " + Listed(unknownTags_) + ".");
-    std::vector<std::pair<std::ptrdiff_t, std::string>> sorted;
-    for (const auto& [path, offset] : keptAside_) sorted.emplace_back(offset, path);
-    std::ranges::sort(sorted);
-    std::vector<std::string> paths;
-    for (auto& each : sorted) paths.push_back(std::move(each.second));
-    return paths;
-}
-
 std::string TrimmedText(pugi::xml_node element) {
-    const pugi::xml_node first = element.first_child();
-    if (!first.next_sibling() && first.type() != pugi::node_element)
-        return std::string(TrimSpace(first.value()));
+    if (const auto only = OnlyText(element)) return std::string(*only);
     std::string text;
-    for (pugi::xml_node node = first; node; node = Following(node, element))
+    for (pugi::xml_node node = element.first_child(); node; node = Following(node, element))
         if (node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata) text += node.value();
     return std::string(TrimSpace(text));
 }
 
-BeerXmlRecord::BeerXmlRecord(pugi::xml_node element, XmlRecord record, XmlTelling& telling, std::string place,
-                             std::string path)
+BeerXmlRecord::BeerXmlRecord(pugi::xml_node element, XmlRecord record, ForeignTelling& telling,
+                             std::string place, std::string path)
     : rule_(RuleOf(record)),
       telling_(telling),
       place_(std::move(place)),
@@ -223,7 +190,7 @@ std::optional<bool> BeerXmlRecord::Boolean(std::string_view tag) {
 
 std::string BeerXmlRecord::FreeWord(std::string_view tag) {
     std::string text = Text(tag);
-    if (!text.empty()) TellWord(tag, text, std::nullopt);
+    if (!text.empty()) TellWord(tag, text, {});
     return text;
 }
 
@@ -242,8 +209,8 @@ std::optional<ForeignAmount> BeerXmlRecord::Amount(std::string_view tag, std::st
     if (written.empty()) written = WrittenAmount(text);
     if (!amount.amount && !amount.figure.value && !written.empty() && unit.zero == ZeroMeans::Zero) {
         amount = ReadAmount(written, of);
-        Tell(Severity::Approximated, FindingCode::AmountUnit,
-             "The amount was taken from " + std::string(displayTag) + " " + Quoted(written) + ".");
+        telling_.Tell(Severity::Approximated, FindingCode::AmountUnit, place_,
+                      "The amount was taken from " + std::string(displayTag) + " " + Quoted(written) + ".");
     }
     if (amount.amount) amount.amount->written = std::move(written);
     return amount.amount;
@@ -281,7 +248,7 @@ void BeerXmlRecord::End() {
         Check(field, slot);
         const bool isEmpty = !slot.element.first_child();
         if (!path_.empty() && !isEmpty && !IsForDisplay(field) && field.tag != "VERSION")
-            telling_.KeepAside(PathOf(field.tag), slot.element);
+            telling_.KeepAside(PathOf(field.tag));
     }
 }
 
@@ -296,7 +263,7 @@ void BeerXmlRecord::Index(pugi::xml_node element) {
             const bool isRecipe = rule_.record == XmlRecord::Recipe;
             if (isRecipe && (RecordOfTag(tag) != nullptr || RecordOfSet(tag) != nullptr)) continue;
             telling_.NoteUnknown(tag);
-            if (!path_.empty()) telling_.KeepAside(PathOf(tag), child);
+            if (!path_.empty()) telling_.KeepAside(PathOf(tag));
             continue;
         }
         Slot& slot = slots_[static_cast<std::size_t>(field - rule_.fields.data())];
@@ -305,9 +272,8 @@ void BeerXmlRecord::Index(pugi::xml_node element) {
         else if (field->holds != XmlHolds::RecordSet)
             AddOnce(twice, field->tag);
     }
-    if (!twice.empty())
-        Tell(Severity::Repaired, FindingCode::Duplicate,
-             "Fields that stand here more than once, of which the first was taken: " + Listed(twice) + ".");
+    telling_.TellFields(Severity::Repaired, FindingCode::Duplicate, place_,
+                        "Fields that stand here more than once, of which the first was taken", twice);
 }
 
 bool BeerXmlRecord::IsNeeded(const XmlField& field) const {
@@ -335,15 +301,13 @@ void BeerXmlRecord::TellMissing() const {
     for (std::size_t i = 0; i < slots_.size(); ++i) {
         const XmlField& field = rule_.fields[i];
         const pugi::xml_node element = slots_[i].element;
-        if ((element && (!IsText(field) || !TrimmedText(element).empty())) || !IsNeeded(field)) continue;
+        if (!IsNeeded(field) || (element && (!IsText(field) || !IsBlank(element)))) continue;
         (element ? empty : missing).emplace_back(field.tag);
     }
-    if (!missing.empty())
-        Tell(Severity::Note, FindingCode::Missing,
-             "Fields that the format requires are missing: " + Listed(missing) + ".");
-    if (!empty.empty())
-        Tell(Severity::Note, FindingCode::EmptyRequired,
-             "Fields that the format requires are empty: " + Listed(empty) + ".");
+    telling_.TellFields(Severity::Note, FindingCode::Missing, place_,
+                        "Fields that the format requires are missing", missing);
+    telling_.TellFields(Severity::Note, FindingCode::EmptyRequired, place_,
+                        "Fields that the format requires are empty", empty);
 }
 
 std::size_t BeerXmlRecord::IndexOf(std::string_view tag) const {
@@ -359,7 +323,7 @@ void BeerXmlRecord::Check(const XmlField& field, const Slot& slot) {
         const FieldUnit unit = UnitOf(rule_.record, field);
         TellOdd(field.tag, text, ReadFigure(text, unit.unit, unit.zero), unit.unit);
     } else if (!text.empty()) {
-        TellWord(field.tag, text, std::nullopt);
+        TellWord(field.tag, text, {});
     }
 }
 
@@ -368,31 +332,12 @@ std::string BeerXmlRecord::PathOf(std::string_view tag) const {
     return rule_.record == XmlRecord::Recipe ? std::string(tag) : path_ + "/" + std::string(tag);
 }
 
-void BeerXmlRecord::Tell(Severity severity, FindingCode code, std::string text) const {
-    telling_.Tell(severity, code, place_, std::move(text));
-}
-
-void BeerXmlRecord::TellWord(std::string_view tag, std::string_view text,
-                             std::optional<std::string_view> readAs) const {
+void BeerXmlRecord::TellWord(std::string_view tag, std::string_view text, std::string_view readAs) const {
     static constexpr std::string_view kBooleans[] = {"TRUE", "FALSE"};
     const XmlField& field = rule_.fields[IndexOf(tag)];
     if (!IsWord(field)) return;
-    const std::string start = std::string(tag) + " " + Quoted(text);
-    switch (FitOf(text, field.holds == XmlHolds::Word ? field.words : std::span(kBooleans))) {
-        case WordFit::Listed:
-            return;
-        case WordFit::Folded:
-            Tell(Severity::Repaired, FindingCode::WordCase, start + " is not spelled as in the format.");
-            return;
-        case WordFit::None:
-            if (readAs)
-                Tell(Severity::Approximated, FindingCode::UnknownWord,
-                     start + " is not a word of the format and was read as " + std::string(*readAs) + ".");
-            else
-                Tell(Severity::Note, FindingCode::UnknownWord,
-                     start + " is not a word of the format and says nothing here.");
-            return;
-    }
+    telling_.TellWord(place_, tag, text, field.holds == XmlHolds::Word ? field.words : std::span(kBooleans),
+                      readAs);
 }
 
 void BeerXmlRecord::TellOdd(std::string_view tag, std::string_view text, const ForeignFigure& figure,

@@ -2,44 +2,18 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
-#include <map>
 #include <optional>
 #include <pugixml.hpp>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "exchange/BeerXmlTags.h"
 #include "exchange/ForeignFigure.h"
+#include "exchange/ForeignTelling.h"
 #include "exchange/ForeignWords.h"
 
 namespace tw {
-
-// What the records of one recipe, or all records outside of recipes, have in common.
-class XmlTelling {
-  public:
-    // recipe is its name, as in a Finding.
-    XmlTelling(Findings& findings, std::string recipe) : findings_(findings), recipe_(std::move(recipe)) {}
-
-    void Tell(Severity severity, FindingCode code, std::string place, std::string text) const;
-    void TellFigure(std::string_view place, std::string_view field, std::string_view text,
-                    const ForeignFigure& figure, FigureUnit unit) const;
-    // Notes the path of something that no structure takes, whose first occurrence is element.
-    void KeepAside(std::string path, pugi::xml_node element);
-    // Notes a tag that the format does not have.
-    void NoteUnknown(std::string_view tag);
-    // Tells of all unknown tags in one finding, and returns the paths in the order of the file.
-    std::vector<std::string> End();
-
-  private:
-    Findings& findings_;
-    std::string recipe_;
-    std::map<std::string, std::ptrdiff_t, std::less<>> keptAside_;  // with the offset in the file
-    std::vector<std::string> unknownTags_;
-    std::set<std::string, std::less<>> knownUnknown_;  // the same for look-up
-};
 
 // Returns the text of an element and of the elements in it, without blanks and line ends around it.
 std::string TrimmedText(pugi::xml_node element);
@@ -49,7 +23,7 @@ class BeerXmlRecord {
     // Indexes the fields and tells of those that are missing, empty, unknown, or there twice. place is as in
     // a Finding, path leads to the record: "HOPS/HOP". An empty path means that the record is kept aside as a
     // whole. A recipe takes records and record sets at any depth: they are not told as unknown tags.
-    BeerXmlRecord(pugi::xml_node element, XmlRecord record, XmlTelling& telling, std::string place,
+    BeerXmlRecord(pugi::xml_node element, XmlRecord record, ForeignTelling& telling, std::string place,
                   std::string path);
 
     // In all of these, tag is a field of the record, in upper case. What is odd about the text is told once.
@@ -70,7 +44,7 @@ class BeerXmlRecord {
         const std::string text = Text(tag);
         if (text.empty()) return std::nullopt;
         const auto meaning = meaningOf(text);
-        TellWord(tag, text, meaning ? std::optional(meaning->shown) : std::nullopt);
+        TellWord(tag, text, meaning ? meaning->shown : "");
         if (!meaning) return std::nullopt;
         return meaning->value;
     }
@@ -101,13 +75,12 @@ class BeerXmlRecord {
     std::string PathOf(std::string_view tag) const;
     std::size_t IndexOf(std::string_view tag) const;
     void Check(const XmlField& field, const Slot& slot);
-    void Tell(Severity severity, FindingCode code, std::string text) const;
-    void TellWord(std::string_view tag, std::string_view text, std::optional<std::string_view> readAs) const;
+    void TellWord(std::string_view tag, std::string_view text, std::string_view readAs) const;
     void TellOdd(std::string_view tag, std::string_view text, const ForeignFigure& figure,
                  FigureUnit unit) const;
 
     const XmlRecordRule& rule_;
-    XmlTelling& telling_;
+    ForeignTelling& telling_;
     std::string place_;
     std::string path_;
     std::vector<Slot> slots_;  // as many as the record has fields

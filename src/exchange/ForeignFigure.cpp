@@ -405,7 +405,7 @@ void TellFigure(Findings& findings, const FigurePlace& place, std::string_view t
     if (figure.isImplausible)
         tell(Severity::Suspicious, FindingCode::Implausible,
              "is not a gravity on any scale and was left out.");
-    if (!figure.value) return;
+    if (!figure.value || (!figure.hasComma && figure.unitWritten.empty() && !figure.isRescaled)) return;
     constexpr int kDecimals = 5;
     std::string read = FormatQuantity(*figure.value, kDecimals).text;
     if (!unitWord.empty()) read += " " + std::string(unitWord);

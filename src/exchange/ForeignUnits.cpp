@@ -5,9 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "exchange/AsciiCase.h"
 #include "values/Converter.h"
-#include "values/Text.h"
 
 namespace tw {
 namespace {
@@ -100,12 +98,18 @@ constexpr std::array kRows = {
     Row{"|bar|", {Pressure, "bar", 100}},
 };
 
+// Lower case without blanks, points, degree signs and the word for them.
 std::string Folded(std::string_view word) {
-    std::string folded = UpperAscii(word);
-    for (char& c : folded)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    for (const std::string_view blank : {" ", "\t", "\n", "\r", ".", "\xC2\xB0", "\xC2\xBA", "\xC2\xA0"})
-        folded = ReplaceAll(folded, blank, "");
+    constexpr std::string_view kDropped = " \t\r\n.";
+    std::string folded;
+    while (!word.empty()) {
+        const bool isSign =
+            word.starts_with("\xC2\xB0") || word.starts_with("\xC2\xBA") || word.starts_with("\xC2\xA0");
+        const char c = word.front();
+        if (!isSign && kDropped.find(c) == std::string_view::npos)
+            folded += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+        word.remove_prefix(isSign ? 2 : 1);
+    }
     for (const std::string_view degrees : {"degrees", "degree", "deg"})
         if (folded.starts_with(degrees)) folded.erase(0, degrees.size());
     return folded;
@@ -115,7 +119,7 @@ std::string Folded(std::string_view word) {
 
 const ForeignUnit* FindUnit(UnitKind kind, std::string_view word) {
     constexpr std::size_t kLongest = 40;
-    if (word.size() > kLongest || word.find('|') != std::string_view::npos) return nullptr;
+    if (word.empty() || word.size() > kLongest || word.find('|') != std::string_view::npos) return nullptr;
     const std::string folded = Folded(word);
     if (folded.empty()) return nullptr;
     const std::string between = "|" + folded + "|";
