@@ -253,21 +253,6 @@ bool AddLine(const Lists& lists, const XmlRecordRule& rule, pugi::xml_node eleme
     return false;
 }
 
-// Appends the noted paths below an element in the order of the file. path leads to the element, whose tags
-// may be in any case.
-void ListKeptAside(pugi::xml_node element, const std::string& path, int depth, ForeignTelling& telling,
-                   std::vector<std::string>& paths) {
-    for (const pugi::xml_node child : element.children()) {
-        if (child.type() != pugi::node_element || telling.KeptAside().empty()) continue;
-        const std::string tag = IsXmlTag(child.name()) ? UpperAscii(child.name()) : child.name();
-        std::string inner = path.empty() ? tag : path + "/" + tag;
-        if (telling.TakeKeptAside(inner))
-            paths.push_back(std::move(inner));
-        else if (depth < kMostForeignDepth)
-            ListKeptAside(child, inner, depth + 1, telling, paths);
-    }
-}
-
 class Reader {
   public:
     Reader(const ElementText& text, ForeignFile& file)
@@ -333,10 +318,7 @@ class Reader {
         Keep(record.Element("EQUIPMENT"), XmlRecord::Equipment, recipe, telling);
         Keep(record.Element("MASH"), XmlRecord::Mash, recipe, telling);
         telling.TellUnknown(kFormat);
-        ListKeptAside(element, {}, 0, telling, recipe.keptAside);
-        // Lines that stand elsewhere than the format wants them.
-        recipe.keptAside.insert(recipe.keptAside.end(), telling.KeptAside().begin(),
-                                telling.KeptAside().end());
+        recipe.keptAside = telling.KeptAside();
         recipe.fragment = text_.Of(element);
         file_.recipes.push_back(std::move(recipe));
         for (const pugi::xml_node each : nested)
@@ -391,7 +373,8 @@ class Reader {
             } else if (RecordOfSet(tag) != nullptr || FieldOf(XmlRecord::Recipe, tag) == nullptr) {
                 if (RecordOfSet(parent.name()) != nullptr && RecordOfSet(tag) == nullptr) {
                     telling.NoteUnknown(tag);
-                    telling.KeepAside(std::string(parent.name()) + "/" + std::string(tag));
+                    telling.KeepAside(std::string(parent.name()) + "/" + std::string(tag),
+                                      child.offset_debug());
                 }
                 ReadLists(child, recipe, telling, depth + 1, nested);
             }

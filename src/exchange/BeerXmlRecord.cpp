@@ -248,7 +248,7 @@ void BeerXmlRecord::End() {
         Check(field, slot);
         const bool isEmpty = !slot.element.first_child();
         if (!path_.empty() && !isEmpty && !IsForDisplay(field) && field.tag != "VERSION")
-            telling_.KeepAside(PathOf(field.tag));
+            telling_.KeepAside(PathOf(field.tag), slot.element.offset_debug());
     }
 }
 
@@ -263,7 +263,7 @@ void BeerXmlRecord::Index(pugi::xml_node element) {
             const bool isRecipe = rule_.record == XmlRecord::Recipe;
             if (isRecipe && (RecordOfTag(tag) != nullptr || RecordOfSet(tag) != nullptr)) continue;
             telling_.NoteUnknown(tag);
-            if (!path_.empty()) telling_.KeepAside(PathOf(tag));
+            if (!path_.empty()) telling_.KeepAside(PathOf(tag), child.offset_debug());
             continue;
         }
         Slot& slot = slots_[static_cast<std::size_t>(field - rule_.fields.data())];

@@ -1,6 +1,7 @@
 #include "exchange/ForeignTelling.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tw {
 namespace {
@@ -57,6 +58,15 @@ void ForeignTelling::TellUnknown(std::string_view formatName) const {
     TellFields(Severity::Note, FindingCode::UnknownTag, "",
                "These fields are not part of " + std::string(formatName) + " and are kept aside",
                unknownTags_);
+}
+
+std::vector<std::string> ForeignTelling::KeptAside() const {
+    std::vector<std::pair<std::ptrdiff_t, std::string>> sorted;
+    for (const auto& [path, order] : keptAside_) sorted.emplace_back(order, path);
+    std::ranges::sort(sorted);
+    std::vector<std::string> paths;
+    for (auto& each : sorted) paths.push_back(std::move(each.second));
+    return paths;
 }
 
 }  // namespace tw

@@ -2,6 +2,9 @@
 // the recipe's name, tags that the format does not have, and paths of what has no place here.
 #pragma once
 
+#include <cstddef>
+#include <functional>
+#include <map>
 #include <set>
 #include <span>
 #include <string>
@@ -35,17 +38,15 @@ class ForeignTelling {
     // Tells of all of them in one finding. formatName is "BeerXML".
     void TellUnknown(std::string_view formatName) const;
 
-    // Notes the path of something that no structure takes.
-    void KeepAside(std::string path) { keptAside_.insert(std::move(path)); }
-    // Returns true for a noted path, but only once.
-    bool TakeKeptAside(const std::string& path) { return keptAside_.erase(path) > 0; }
-    // Returns the noted paths that have not been taken.
-    const std::set<std::string>& KeptAside() const { return keptAside_; }
+    // Notes the path of something that no structure takes. Of two orders of a path the first counts.
+    void KeepAside(std::string path, std::ptrdiff_t order) { keptAside_.try_emplace(std::move(path), order); }
+    // Returns the noted paths by their orders.
+    std::vector<std::string> KeptAside() const;
 
   private:
     Findings& findings_;
     std::string recipe_;
-    std::set<std::string> keptAside_;
+    std::map<std::string, std::ptrdiff_t> keptAside_;
     std::vector<std::string> unknownTags_;
     std::set<std::string, std::less<>> knownUnknown_;  // the same for look-up
 };
