@@ -3,6 +3,7 @@
 #include "catalogue/EditorForm.h"
 #include "catalogue/ui/DatabaseSetupDialog.h"
 #include "catalogue/ui/EditorDialog.h"
+#include "doctor/ui/CarriedDataDialog.h"
 #include "document/CannotUndo.h"
 #include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
@@ -78,6 +79,7 @@ void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors, SettingsPor
     dialogs.Register<ImportExportModel, ImportExportDialog>();
     dialogs.Register<NameConflictModel, NameConflictDialog>();
     dialogs.Register<StylesNotImportedModel, StylesNotImportedDialog>();
+    dialogs.Register<CarriedDataModel, CarriedDataDialog>();
 }
 
 }  // namespace tw

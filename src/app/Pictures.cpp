@@ -11,6 +11,7 @@
 #include "app/PrintedMessages.h"
 #include "catalogue/CatalogueEditor.h"
 #include "catalogue/DatabaseSetupModel.h"
+#include "doctor/CarriedDataModel.h"
 #include "document/CannotUndo.h"
 #include "document/DetailWindows.h"
 #include "document/ScalingModel.h"
@@ -21,6 +22,7 @@
 #include "help/qt/QtBrowser.h"
 #include "platform/TargetFile.h"
 #include "platform/qt/Appearance.h"
+#include "platform/qt/QtClipboard.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtText.h"
 #include "reports/ChooseFontModel.h"
@@ -40,6 +42,7 @@
 #include "shell/StylesNotImportedModel.h"
 #include "shell/ui/MainGeometry.h"
 #include "shell/ui/MainWindow.h"
+#include "store/Schema.h"
 #include "tools/ColorScaleModel.h"
 #include "tools/ConvertUnitsModel.h"
 #include "tools/HopUtilisationModel.h"
@@ -196,6 +199,24 @@ bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     return ok;
 }
 
+// What a recipe carries that came from another program. The database of the picture has no such recipe.
+bool SaveCarried(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
+    const std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
+    CarriedData(*database).Keep(
+        1, kCarriedBeerXml, "harvest.xml", {2026, 5, 2, 19, 40, 0},
+        "<RECIPE><NAME>Harvest Ale</NAME><VERSION>1</VERSION><TYPE>All Grain</TYPE><BREWER>Ann</BREWER>"
+        "<MASH><NAME>Two rests</NAME><GRAIN_TEMP>18</GRAIN_TEMP><MASH_STEPS>"
+        "<MASH_STEP><NAME>Beta</NAME><STEP_TEMP>63</STEP_TEMP><STEP_TIME>40</STEP_TIME></MASH_STEP>"
+        "<MASH_STEP><NAME>Alpha</NAME><STEP_TEMP>72</STEP_TEMP><STEP_TIME>20</STEP_TIME></MASH_STEP>"
+        "</MASH_STEPS></MASH><EQUIPMENT><NAME>Kettle of 30 l</NAME><TUN_VOLUME>30</TUN_VOLUME></EQUIPMENT>"
+        "<PRIMARY_AGE>7</PRIMARY_AGE><PRIMARY_TEMP>18.5</PRIMARY_TEMP></RECIPE>");
+    PrintedMessages messages;
+    QtClipboard clipboard;
+    CarriedDataModel carried(*database, 1, "Harvest Ale", messages, clipboard);
+    carried.SetControl("treeFields", "MASH_STEP: Alpha");
+    return SaveDialog(dialogs, carried, parent, prefix + QStringLiteral("carried-data.png"));
+}
+
 // Database setup on every catalogue, with the editor of a row, editable and read-only.
 bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     const CatalogueContext context = shell.Opened()->catalogue.Context();
@@ -301,6 +322,7 @@ bool SaveDialogs(MainWindow& window, Shell& shell, QtDialogs& dialogs, const QSt
     ok &= SaveHelp(dialogs, shell, window, prefix);
     ok &= SaveChoosers(dialogs, shell, window, prefix);
     ok &= SaveExchange(dialogs, shell, window, prefix);
+    ok &= SaveCarried(dialogs, window, prefix);
     ok &= SaveCatalogue(dialogs, shell, window, prefix);
     ok &= SaveReports(dialogs, shell, window, prefix);
     ok &= SaveBrowsing(dialogs, shell, window, prefix);

@@ -7,6 +7,9 @@
 #include <vector>
 
 #include "cli/Command.h"
+#include "doctor/CarriedFields.h"
+#include "store/CarriedData.h"
+#include "store/RecipeRows.h"
 
 namespace tw {
 namespace {
@@ -41,9 +44,24 @@ void FileSql(Session& session, Arguments& arguments) {
     RunSql(session, *Database::OpenDatabase(file, false), text);
 }
 
+void Carried(Session& session, Arguments& arguments) {
+    const std::string name = arguments.LastName("NAME");
+    Database& database = *session.Program().Opened()->data.database;
+    const std::optional<std::int64_t> id = RecipeId(database, name);
+    if (!id) return session.Messages().ShowMessage("Error", "Recipe '" + name + "' no longer exists!");
+    for (const CarriedFragment& fragment : CarriedData(database).Of(*id)) {
+        session.Out().Line(EscapeText(fragment.format) + "\t" + EscapeText(fragment.source) + "\t" +
+                           EscapeText(fragment.imported));
+        for (const CarriedField& field : ReadCarriedFields({&fragment, 1}))
+            session.Out().Line(std::string(static_cast<std::size_t>(field.level) * 2, ' ') +
+                               EscapeText(field.Line()));
+    }
+}
+
 constexpr Command kCommands[] = {
     {"export", "[new] FILE NAME...", "copies recipes into a recipe file", Export},
     {"import", "FOLDERID FILE [NAME...]", "copies recipes of a recipe file into a folder", Import},
+    {"carried", "NAME", "what a recipe carries from another program, as a tree", Carried},
     {"filesql", "FILE TEXT", "runs a statement on a recipe file", FileSql},
 };
 

@@ -25,6 +25,7 @@ enum class CommandId : std::uint8_t {
     FileBar2,
     FileImport,
     FileExport,
+    FileCarried,
     FileBar3,
     FileDelete,
     FileBar4,

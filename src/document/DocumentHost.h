@@ -9,7 +9,7 @@
 #include "record/RecipeCalculator.h"
 #include "store/CatalogueDraft.h"
 #include "store/CatalogueKind.h"
-#include "store/RecipeFollowers.h"
+#include "store/RecipeFollower.h"
 
 namespace tw {
 

@@ -6,6 +6,7 @@
 #include "document/UnusableNumbers.h"
 #include "platform/ScopeGuard.h"
 #include "record/Entries.h"
+#include "store/RecipeFollowers.h"
 #include "store/RowNames.h"
 #include "values/Text.h"
 

@@ -26,6 +26,7 @@ void CommandStates::DisableAll() {
     EnableChangeStrength(false);
     EnableChangeBitterness(false);
     EnableChangeCarbonation(false);
+    bar_.SetEnabled(CommandId::FileCarried, false);
 }
 
 void CommandStates::EnableResizeRecipe(bool enabled) {
@@ -99,6 +100,10 @@ void CommandStates::EnableWindowMenu(bool enabled) {
 
 void CommandStates::CheckEnableSaveAll() {
     bar_.SetEnabled(CommandId::FileSaveAll, questions_.anyChanged());
+}
+
+void CommandStates::CheckEnableCarried() {
+    bar_.SetEnabled(CommandId::FileCarried, questions_.activeCarries());
 }
 
 void CommandStates::CheckEnableDelete() {

@@ -17,6 +17,8 @@ class CommandStates final : public DocumentCommands {
     struct Questions {
         std::function<bool()> anyChanged;  // true if an open document has changes
         std::function<bool()> anyRecipe;   // true if the database contains a recipe
+        // True if the active document is that of a stored recipe that carries data of another program.
+        std::function<bool()> activeCarries;
     };
     // bar and clipboard must outlive the object, and so must what questions refer to.
     CommandStates(CommandBar& bar, ClipboardPort& clipboard, Questions questions);
@@ -27,6 +29,9 @@ class CommandStates final : public DocumentCommands {
     void DisableAll();
     // Updates cut, clear and paste after the clipboard may have changed.
     void ReapplyPaste();
+    // Updates the command that shows carried data, after the active document, its stored recipe, or what that
+    // carries may have changed.
+    void CheckEnableCarried();
 
     // DocumentCommands
     void EnableResizeRecipe(bool enabled) override;

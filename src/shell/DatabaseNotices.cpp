@@ -28,6 +28,9 @@ void DatabaseNotices::NotifyStyleRenamed(std::int64_t styleId, const std::string
 void DatabaseNotices::NotifyRecipeDeleted(const std::string& name) {
     recent_.Remove(name);
     documents_.ForEach([&](RecipeDocument& document) { document.Notices().NotifyRecipeDeleted(name); });
+    // Not for each of a thousand recipes of a folder.
+    const RecipeDocument* const active = documents_.Active();
+    if (active != nullptr && active->OrigName().empty()) states_.CheckEnableCarried();
 }
 
 void DatabaseNotices::NotifyRecipeFolderDeleted(std::int64_t folderId) {

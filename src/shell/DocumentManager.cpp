@@ -39,6 +39,7 @@ void DocumentManager::Activate(RecipeDocument& document) {
         std::erase(useOrder_, &document);
         useOrder_.push_back(&document);
         document.Focus().Activate();
+        states_.CheckEnableCarried();
     }
     view_->DocumentActivated(&document);
 }

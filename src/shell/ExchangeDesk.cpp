@@ -11,6 +11,7 @@ void ExchangeDesk::RebuildTree() {
     const ScopeGuard update([this] { notice_.Update(); });
     data_.tree.Reload();
     states_.CheckEnableDelete();
+    states_.CheckEnableCarried();
     // The empty main window suggests what to do next, which may have changed.
     if (documents_.Active() == nullptr) view_->DocumentActivated(nullptr);
 }

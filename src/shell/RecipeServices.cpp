@@ -15,6 +15,7 @@ void RecipeServices::RecipeStored(std::string_view name) {
 
 void RecipeServices::DocumentRenamed(const RecipeDocument& document) {
     to_.states.CheckEnableSaveAll();
+    if (IsActive(document)) to_.states.CheckEnableCarried();
     if (!document.Changed()) to_.unsaved.Forget(document);
     to_.view->DocumentRenamed(document);
 }

@@ -43,11 +43,12 @@ Shell::OpenParts::OpenParts(Shell& shell, std::unique_ptr<Database> database)
       recipes(data, shell.documents_, services, shell.states_, catalogue, shell.browse_, shell.view_),
       saver(data, shell.documents_, notices, shell.view_, shell.browse_),
       files(data, shell.documents_, shell.states_, shell.own_, shell.notice_, shell.view_),
+      carried(data, shell.documents_, shell.states_),
       paper(shell.environment_, shell.instance_, data, shell.documents_, shell.store_, shell.own_),
       autoSaver(shell.CurrentSettings(), shell.minutes_, data, shell.documents_, saver, files),
       actions({shell.environment_.platform, shell.bar_, shell.view_, shell.recent_, shell.settings_,
-               shell.documents_, shell.states_, data, recipes, saver, catalogue, files, paper, shell.help_}) {
-}
+               shell.documents_, shell.states_, data, recipes, saver, catalogue, files, carried, paper,
+               shell.help_}) {}
 
 Shell::Shell(ShellEnvironment environment)
     : environment_(std::move(environment)),
@@ -55,7 +56,8 @@ Shell::Shell(ShellEnvironment environment)
       store_(environment_.platform.settings),
       recent_(bar_),
       states_(bar_, environment_.platform.clipboard,
-              {[this] { return documents_.AnyChanged(); }, [this] { return open_->data.HasRecipes(); }}),
+              {[this] { return documents_.AnyChanged(); }, [this] { return open_->data.HasRecipes(); },
+               [this] { return open_ && open_->carried.ActiveCarries(); }}),
       documents_(environment_.platform, colors_, states_, view_,
                  [this](const RecipeDocument& document) { unsaved_.Forget(document); }),
       settings_(store_, bar_, view_, documents_, minutes_),

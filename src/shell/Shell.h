@@ -10,6 +10,7 @@
 #include "platform/OwnFiles.h"
 #include "platform/SettingsStore.h"
 #include "shell/AutoSaver.h"
+#include "shell/CarriedDesk.h"
 #include "shell/CatalogueDesk.h"
 #include "shell/CommandBar.h"
 #include "shell/CommandStates.h"
@@ -97,6 +98,7 @@ class Shell final : private InstanceHost {
         RecipeDesk recipes;
         RecipeSaver saver;
         ExchangeDesk files;
+        CarriedDesk carried;
         PrintDesk paper;
         AutoSaver autoSaver;
         ShellActions actions;

@@ -3,6 +3,7 @@
 
 #include "commands/Commands.h"
 #include "document/ScalingModel.h"
+#include "shell/CarriedDesk.h"
 #include "shell/CatalogueDesk.h"
 #include "shell/CommandBar.h"
 #include "shell/CommandStates.h"
@@ -35,6 +36,7 @@ class ShellActions {
         RecipeSaver& saver;
         CatalogueDesk& catalogue;
         ExchangeDesk& files;
+        CarriedDesk& carried;
         PrintDesk& paper;
         HelpDesk& help;
     };

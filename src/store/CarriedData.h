@@ -10,7 +10,7 @@
 
 #include "platform/DateTime.h"
 #include "store/Database.h"
-#include "store/RecipeFollowers.h"
+#include "store/RecipeFollower.h"
 
 namespace tw {
 

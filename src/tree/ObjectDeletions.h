@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "store/RecipeFollowers.h"
+#include "store/RecipeFollower.h"
 #include "tree/ObjectMoves.h"
 #include "tree/ObjectServices.h"
 

@@ -16,7 +16,9 @@
 #include "platform/Error.h"
 #include "platform/TargetFile.h"
 #include "shell/Recovery.h"
+#include "store/CarriedData.h"
 #include "store/Database.h"
+#include "store/RecipeRows.h"
 #include "store/Schema.h"
 
 namespace tw::test {
@@ -151,6 +153,11 @@ class FaultTest : public testing::Test {
         const FaultyRun setup = RunWithFault(Console(), root / "old", kSetup, Fault::None, 0);
         EXPECT_EQ(setup.status, 0) << setup.output;
         EXPECT_THAT(setup.output, testing::Not(testing::HasSubstr("[Error]")));
+        // What the recipes carry must be as old or new as they are.
+        const auto database = Database::OpenDatabase((root / "old" / "beer.mdb").string(), false);
+        for (const char* recipe : {"Mild", "Bock"})
+            CarriedData(*database).Keep(RecipeId(*database, recipe).value(), kCarriedBeerXml, "old.xml",
+                                        {2026, 5, 4, 9, 30, 5}, "<RECIPE/>");
     }
     ~FaultTest() override {
         std::error_code ignored;

@@ -8,6 +8,7 @@
 #include "catalogue/DatabaseSetupModel.h"
 #include "catalogue/ui/DatabaseSetupDialog.h"
 #include "catalogue/ui/EditorDialog.h"
+#include "doctor/ui/CarriedDataDialog.h"
 #include "document/CannotUndo.h"
 #include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
@@ -191,13 +192,20 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         StylesNotImportedModel styles({{name, "Stout"}});
         ProgressModel progress("Importing Recipes", {});
         progress.Show(name, 1, 100);
+        CarriedData(*shell.DB())
+            .Keep(1, kCarriedBeerXml, name, {2026, 5, 4, 9, 30, 5},
+                  "<RECIPE><NAME>" + name + "</NAME><NOTES>" + name + "</NOTES></RECIPE>");
+        CarriedDataModel carried(*shell.DB(), 1, name, outside.messages, outside.clipboard),
+            nothing(*shell.DB(), 2, name, outside.messages, outside.clipboard);
         ImportExportDialog inWindow(in, nullptr), outWindow(out, nullptr);
         NameConflictDialog conflictWindow(conflict, nullptr);
         StylesNotImportedDialog stylesWindow(styles, nullptr);
         ProgressDialog progressWindow(progress, nullptr);
+        CarriedDataDialog carriedWindow(carried, nullptr), nothingWindow(nothing, nullptr);
         for (QDialog* dialog : {static_cast<QDialog*>(&inWindow), static_cast<QDialog*>(&outWindow),
                                 static_cast<QDialog*>(&conflictWindow), static_cast<QDialog*>(&stylesWindow),
-                                static_cast<QDialog*>(&progressWindow)}) {
+                                static_cast<QDialog*>(&progressWindow), static_cast<QDialog*>(&carriedWindow),
+                                static_cast<QDialog*>(&nothingWindow)}) {
             dialog->show();
             QApplication::processEvents();
             visit(*dialog);

@@ -17,8 +17,11 @@ class CommandStatesTest : public testing::Test {
     CommandBar bar;
     bool anyChanged = false;
     bool anyRecipe = false;
+    bool activeCarries = false;
     CommandStates states{
-        bar, outside.clipboard, {[this] { return anyChanged; }, [this] { return anyRecipe; }}};
+        bar,
+        outside.clipboard,
+        {[this] { return anyChanged; }, [this] { return anyRecipe; }, [this] { return activeCarries; }}};
 };
 
 TEST_F(CommandStatesTest, SaveAllAsksWhetherAnyDocumentIsChanged) {
@@ -40,6 +43,20 @@ TEST_F(CommandStatesTest, WithoutARecipeInTheDatabaseNoneCanBeOpenedDeletedOrExp
     states.CheckEnableDelete();
     EXPECT_TRUE(IsEnabled(CommandId::FileOpen));
     EXPECT_TRUE(IsButtonEnabled(CommandId::FileOpen));
+}
+
+TEST_F(CommandStatesTest, CarriedDataIsShownWhileTheActiveRecipeHasSome) {
+    EXPECT_FALSE(IsEnabled(CommandId::FileCarried));
+    activeCarries = true;
+    states.CheckEnableCarried();
+    EXPECT_TRUE(IsEnabled(CommandId::FileCarried));
+    activeCarries = false;
+    states.CheckEnableCarried();
+    EXPECT_FALSE(IsEnabled(CommandId::FileCarried));
+    activeCarries = true;
+    states.CheckEnableCarried();
+    states.DisableAll();
+    EXPECT_FALSE(IsEnabled(CommandId::FileCarried));
 }
 
 // The menu item of printing is updated only when the first recipe appears or the last one

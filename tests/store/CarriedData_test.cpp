@@ -6,6 +6,7 @@
 #include "StoreSupport.h"
 #include "store/ExchangeFile.h"
 #include "store/RecipeCopy.h"
+#include "store/RecipeFollowers.h"
 #include "store/Schema.h"
 #include "support/DiesIn.h"
 
