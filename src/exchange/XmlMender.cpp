@@ -185,11 +185,11 @@ void XmlMender::Push(const XmlToken& tag, const KnownTag* known) {
     element.isLower = HasSmallLetter(tag.name);
     element.line = log_.LineAt(tag.begin);
     element.begin = out_.size();
-    if (element.Is(TagKind::Record)) element.indent = IndentOf(tag.begin);
+    element.indent = IndentOf(tag.begin);
     NoteCase(tag.name, known, element.line);
     NoteRoot(known, element.line);
     if (!open_.empty()) {
-        ++open_.back().children;
+        if (++open_.back().children == 1) open_.back().inner = element.indent;
         if (known != nullptr) open_.back().has.set(known->number);
     }
     (out_ += '<').append(element.name);

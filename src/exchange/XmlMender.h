@@ -24,6 +24,9 @@ class XmlMender {
     std::string Mend();
 
   private:
+    // The blanks before a tag; nothing if it does not begin its line.
+    using Indent = std::optional<std::string_view>;
+
     struct Element {
         const KnownTag* known = nullptr;  // nullptr if the tag is none of BeerXML
         std::string_view name;            // as it is written out
@@ -32,7 +35,8 @@ class XmlMender {
         std::size_t line = 0;
         std::size_t begin = 0;     // where its opening tag begins in out_
         std::size_t children = 0;  // elements in it
-        int indent = -1;           // blanks before it; -1 if it does not begin its line
+        Indent indent;             // its own
+        Indent inner;              // of the first element in it
         KnownTags has;             // the tags of its children
 
         bool Is(TagKind kind) const { return known != nullptr && known->kind == kind; }
@@ -50,13 +54,14 @@ class XmlMender {
 
     bool IsTextInLeaf(const XmlToken& tag, const KnownTag* known);
     bool ClosesWithoutSlash(const XmlToken& tag, const KnownTag* known);
-    bool IsClosedLater(const Element& element, std::size_t from);
-    bool ClosesNext(std::string_view name, std::size_t from);
+    bool IsClosedBehind(const XmlToken& tag, const Element& element);
+    bool IsClosedItself(const XmlToken& tag, const KnownTag* known);
     Place HolderOf(const XmlToken& tag, const KnownTag* known);
-    bool Suits(std::size_t index, const KnownTag* known, int indent) const;
+    bool Suits(std::size_t index, const KnownTag* known, bool isBeside) const;
+    Place BesideOf(const XmlToken& tag);
     bool IsWantedFurtherOut(std::size_t index, const KnownTag& known) const;
     bool MayFollowAsRoot(const KnownTag& known) const;
-    int IndentOf(std::size_t offset) const;
+    Indent IndentOf(std::size_t offset) const;
 
     Place IndexOf(std::string_view name) const;
     bool Fits(const XmlToken& next, Place place) const;

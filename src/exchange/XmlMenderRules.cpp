@@ -6,16 +6,22 @@
 #include "exchange/XmlMender.h"
 
 namespace tw {
-bool XmlMender::ClosesNext(std::string_view name, std::size_t from) {
-    return isBalanced_ || lookahead_.NextOf(name, from) == XmlNext::Closes;
-}
-
 // An unknown element that the end of the file may have cut off counts as closed if it holds no text.
-bool XmlMender::IsClosedLater(const Element& element, std::size_t from) {
+bool XmlMender::IsClosedBehind(const XmlToken& tag, const Element& element) {
     if (isBalanced_) return true;
-    const XmlNext next = lookahead_.NextOf(element.name, from);
+    if (EqualAscii(element.name, tag.name)) return false;
+    const XmlNext next = lookahead_.NextOf(element.name, tag.end);
     if (next != XmlNext::None || element.known != nullptr) return next == XmlNext::Closes;
     return !element.hasText && !endsWhole_;
+}
+
+// True if the opening tag seems to have a closing one, which may be misspelt.
+bool XmlMender::IsClosedItself(const XmlToken& tag, const KnownTag* known) {
+    if (tag.selfClosing || isBalanced_) return true;
+    if (lookahead_.NextOf(tag.name, tag.end) == XmlNext::Closes) return true;
+    if (known != nullptr) return false;
+    const XmlToken& next = lookahead_.NextTag(tokens_, tag.end);
+    return next.kind == XmlTokenKind::Close && Resembles(next.name, tag.name);
 }
 
 // A field holds no elements of BeerXML. Only where both it and the tag are closed in due course, the file
@@ -23,14 +29,17 @@ bool XmlMender::IsClosedLater(const Element& element, std::size_t from) {
 bool XmlMender::IsTextInLeaf(const XmlToken& tag, const KnownTag* known) {
     if (known == nullptr && IsHtmlTag(tag.name)) return true;
     const Element& leaf = open_.back();
-    const bool isLeafClosed = IsClosedLater(leaf, tag.begin);
-    const bool isClosed = tag.selfClosing || ClosesNext(tag.name, tag.end);
+    const bool isLeafClosed = IsClosedBehind(tag, leaf);
+    const bool isClosed = IsClosedItself(tag, known);
     const bool hasSmallLetter = HasSmallLetter(tag.name);
     if (isLeafClosed) {
         const bool isWord = known != nullptr ? hasSmallLetter && !leaf.isLower : hasSmallLetter;
         return isWord || !isClosed;
     }
-    if (known == nullptr) return !isClosed;
+    if (known == nullptr) {
+        const Indent indent = IndentOf(tag.begin);
+        return !isClosed && (!indent || indent != leaf.indent);
+    }
     const bool isHeld = std::ranges::any_of(
         open_, [&](const Element& each) { return each.known != nullptr && MayHold(*each.known, *known); });
     return !isClosed && !isHeld && !MayBeRoot(*known);
@@ -44,16 +53,27 @@ bool XmlMender::ClosesWithoutSlash(const XmlToken& tag, const KnownTag* known) {
     return !isClosedItself && IsXmlBlank(text_.substr(tag.end, next.begin - tag.end));
 }
 
-// Returns the number of blanks before the tag; -1 if it does not begin its line.
-int XmlMender::IndentOf(std::size_t offset) const {
-    constexpr int kMost = 256;
-    int count = 0;
-    while (offset > 0 && count < kMost && (text_[offset - 1] == ' ' || text_[offset - 1] == '\t')) {
-        --offset;
-        ++count;
+XmlMender::Indent XmlMender::IndentOf(std::size_t offset) const {
+    constexpr std::size_t kMost = 256;
+    std::size_t begin = offset;
+    while (begin > 0 && offset - begin < kMost && (text_[begin - 1] == ' ' || text_[begin - 1] == '\t'))
+        --begin;
+    const bool beginsLine = begin == 0 || text_[begin - 1] == '\n' || text_[begin - 1] == '\r';
+    return beginsLine ? Indent(text_.substr(begin, offset - begin)) : std::nullopt;
+}
+
+// Returns the innermost open element that has the indentation of the tag, if what stands in it has another.
+// A file that may be cut off says nothing about an element of which no other tag follows.
+XmlMender::Place XmlMender::BesideOf(const XmlToken& tag) {
+    const Indent indent = IndentOf(tag.begin);
+    if (!indent) return std::nullopt;
+    for (std::size_t i = open_.size(); i-- > 0;) {
+        const Element& each = open_[i];
+        if (each.indent != indent || !each.inner || each.inner == indent) continue;
+        const bool maybeCut = !endsWhole_ && lookahead_.NextOf(each.name, tag.end) == XmlNext::None;
+        return maybeCut ? Place() : i;
     }
-    const bool beginsLine = offset == 0 || text_[offset - 1] == '\n' || text_[offset - 1] == '\r';
-    return beginsLine ? count : -1;
+    return std::nullopt;
 }
 
 // True if an element around that of the index may hold the tag and has none yet.
@@ -65,11 +85,10 @@ bool XmlMender::IsWantedFurtherOut(std::size_t index, const KnownTag& known) con
 }
 
 // True if the tag is certainly meant to stand in that open element, if the element is still open.
-bool XmlMender::Suits(std::size_t index, const KnownTag* known, int indent) const {
+bool XmlMender::Suits(std::size_t index, const KnownTag* known, bool isBeside) const {
     const Element& element = open_[index];
     if (element.Is(TagKind::Leaf)) return false;
     if (element.known == nullptr) return index == 0;
-    const bool isBeside = indent >= 0 && element.indent >= 0 && indent <= element.indent;
     if (known == nullptr) return element.Is(TagKind::Record) && !isBeside;
     if (!MayHold(*element.known, *known)) return false;
     const bool isDoubtful = element.Is(TagKind::Record) && (isBeside || element.has.test(known->number));
@@ -86,9 +105,12 @@ bool XmlMender::MayFollowAsRoot(const KnownTag& known) const {
 XmlMender::Place XmlMender::HolderOf(const XmlToken& tag, const KnownTag* known) {
     const std::size_t last = open_.size() - 1;
     if (isBalanced_) return last;
-    const int indent = IndentOf(tag.begin);
-    for (std::size_t i = open_.size(); i-- > 0;)
-        if (Suits(i, known, indent) || IsClosedLater(open_[i], tag.begin)) return i;
+    const Place beside = BesideOf(tag);
+    const Indent indent = IndentOf(tag.begin);
+    for (std::size_t i = open_.size(); i-- > 0;) {
+        const bool isBeside = beside && i >= *beside && open_[i].inner != indent;
+        if (Suits(i, known, isBeside) || IsClosedBehind(tag, open_[i])) return i;
+    }
     if (known != nullptr && MayFollowAsRoot(*known)) return std::nullopt;
     if (!open_[last].Is(TagKind::Leaf)) return last;
     return last == 0 ? Place() : last - 1;
@@ -158,12 +180,13 @@ void XmlMender::TakeClose(const XmlToken& tag) {
     const Place open = IndexOf(tag.name);
     const Element& last = open_.back();
     const bool isInLeaf = last.Is(TagKind::Leaf);
-    if (isInLeaf && !open && known == nullptr && IsHtmlTag(tag.name)) return TakeTagAsText(tag);
+    const bool isHtml = isInLeaf && !open && known == nullptr && IsHtmlTag(tag.name);
+    if (isHtml && !Resembles(tag.name, last.name)) return TakeTagAsText(tag);
     const bool isRight = open == open_.size() - 1;
     const Place ended = isRight ? open : EndedBy(tag, open);
     if (!ended) {
-        const bool isWord = isInLeaf && HasSmallLetter(tag.name) && (known == nullptr || !last.isLower);
-        return isWord ? TakeTagAsText(tag) : stray();
+        const bool isWord = HasSmallLetter(tag.name) && (known == nullptr || !last.isLower);
+        return isInLeaf && (isHtml || isWord) ? TakeTagAsText(tag) : stray();
     }
     CloseUnclosed(open_.size() - 1 - *ended);
     const bool isMisspelt = ended != open;

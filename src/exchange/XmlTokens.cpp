@@ -74,6 +74,10 @@ void XmlTokens::ReadMarkup(XmlToken& token) {
     token.kind = XmlTokenKind::LessThan;
     token.begin = at_;
     token.end = at_ + 1;
+    const std::string_view rest = text_.substr(at_);
+    for (const std::string_view begin : {kCommentBegin, kCDataBegin, kDoctypeBegin, std::string_view("<?")})
+        if (rest.size() < begin.size() && EqualAscii(rest, begin.substr(0, rest.size())))
+            return CutOff(token);
     while (token.end + 1 < text_.size() && text_[token.end] == '<' && text_[token.end + 1] == '<')
         ++token.end;
 }

@@ -229,6 +229,8 @@ TEST(XmlMend, CutFiles) {
         {"<HOPS><HOP><NAME>a</NAME></HOP><!-- ", "<HOPS><HOP><NAME>a</NAME></HOP></HOPS>", "truncated 1"},
         {"<HOPS><HOP><NAME>a</NAME><NOTES><![CDATA[b", "<HOPS><HOP><NAME>a</NAME></HOP></HOPS>",
          "truncated 1"},
+        {"<HOPS><HOP><NAME>a</NAME><", "<HOPS><HOP><NAME>a</NAME></HOP></HOPS>", "truncated 1"},
+        {"<HOPS><HOP><NAME>a</NAME><!-", "<HOPS><HOP><NAME>a</NAME></HOP></HOPS>", "truncated 1"},
         {"<HOPS/><!-- a", "<HOPS/>", "truncated 1"},
         {"<RECIPES><RECIPE><NAME>a</NAME><OWN><NAME>x</NAME>",
          "<RECIPES><RECIPE><NAME>a</NAME><OWN><NAME>x</NAME></OWN></RECIPE></RECIPES>", "truncated 1"},
