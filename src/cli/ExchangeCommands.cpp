@@ -38,6 +38,37 @@ void Import(Session& session, Arguments& arguments) {
     if (std::filesystem::exists(file, failure)) program.Opened()->files.ImportRecipes(file, folderId, names);
 }
 
+std::string OrDash(const std::string& text) {
+    return text.empty() ? "-" : text;
+}
+
+void Doctor(Session& session, Arguments& arguments) {
+    const std::string file = arguments.Word("FILE");
+    arguments.End();
+    const Diagnosis diagnosis = session.Program().Opened()->doctor.Examine(file);
+    for (const Finding& finding : diagnosis.findings.All())
+        session.Out().Line(std::string(WordOf(finding.severity)) + "\t" + std::string(WordOf(finding.code)) +
+                           "\t" + EscapeText(finding.recipe) + "\t" + EscapeText(finding.place) + "\t" +
+                           EscapeText(finding.text));
+    for (const ExaminedFigures& figures : diagnosis.figures) {
+        std::string line = "figures\t" + EscapeText(figures.recipe);
+        for (const ExaminedFigures::Pair& pair : figures.pairs)
+            line.append("\t")
+                .append(pair.word)
+                .append("\t")
+                .append(OrDash(pair.stated))
+                .append("\t")
+                .append(OrDash(pair.calculated));
+        session.Out().Line(line);
+    }
+}
+
+void Remedy(Session& session, Arguments& arguments) {
+    const std::string word = arguments.Word("WORD");
+    arguments.End();
+    if (!session.Program().Opened()->doctor.Remedy(word)) throw ScriptError("no remedy '" + word + "'");
+}
+
 void FileSql(Session& session, Arguments& arguments) {
     const std::string file = arguments.Word("FILE");
     const std::string text = arguments.Text();
@@ -62,6 +93,8 @@ constexpr Command kCommands[] = {
     {"export", "[new] FILE NAME...", "copies recipes into a recipe file", Export},
     {"import", "FOLDERID FILE [NAME...]", "copies recipes of a recipe file into a folder", Import},
     {"carried", "NAME", "what a recipe carries from another program, as a tree", Carried},
+    {"doctor", "FILE", "examines a file of another brewing program", Doctor},
+    {"remedy", "WORD", "chooses a remedy for the next import of such a file", Remedy},
     {"filesql", "FILE TEXT", "runs a statement on a recipe file", FileSql},
 };
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-#include "exchange/AsciiCase.h"
+#include "doctor/ExactUnits.h"
 #include "platform/Error.h"
 #include "values/QuantityParsers.h"
 #include "values/Text.h"
@@ -14,10 +14,7 @@
 namespace tw {
 namespace {
 
-constexpr double kKilogramsPerPound = 0.45359237;
 constexpr double kOuncesPerPound = 16;
-constexpr double kKilogramsPerOunce = kKilogramsPerPound / kOuncesPerPound;
-constexpr double kLitresPerGallon = 3.785411784;
 constexpr double kKept = 0.0002;  // the relative error allowed to a text
 
 bool IsNear(double value, double to, double relative) {
@@ -33,66 +30,6 @@ std::string Fixed(double value, int decimals) {
     if (decimals > 0) text.erase(text.find_last_not_of('0') + 1);
     if (text.ends_with('.')) text.pop_back();
     return text;
-}
-
-// A unit as files write it, the word that the program writes, and its size in kilograms or litres.
-struct Unit {
-    std::string_view written;
-    std::string_view word;
-    double size;
-};
-
-constexpr Unit kWeights[] = {
-    {"KG", "kg", 1},
-    {"KGS", "kg", 1},
-    {"KILOGRAM", "kg", 1},
-    {"KILOGRAMS", "kg", 1},
-    {"G", "g", 0.001},
-    {"GR", "g", 0.001},
-    {"GRAM", "g", 0.001},
-    {"GRAMS", "g", 0.001},
-    {"MG", "g", 0.001},
-    {"LB", "lb", kKilogramsPerPound},
-    {"LBS", "lb", kKilogramsPerPound},
-    {"POUND", "lb", kKilogramsPerPound},
-    {"POUNDS", "lb", kKilogramsPerPound},
-    {"OZ", "oz", kKilogramsPerOunce},
-    {"OUNCE", "oz", kKilogramsPerOunce},
-    {"OUNCES", "oz", kKilogramsPerOunce},
-};
-
-constexpr Unit kVolumes[] = {
-    {"L", "L", 1},
-    {"LITER", "L", 1},
-    {"LITERS", "L", 1},
-    {"LITRE", "L", 1},
-    {"LITRES", "L", 1},
-    {"ML", "ml", 0.001},
-    {"GAL", "gal", kLitresPerGallon},
-    {"GALS", "gal", kLitresPerGallon},
-    {"GALLON", "gal", kLitresPerGallon},
-    {"GALLONS", "gal", kLitresPerGallon},
-    {"QT", "qt", kLitresPerGallon / 4},
-    {"QUARTS", "qt", kLitresPerGallon / 4},
-    {"PT", "pt", kLitresPerGallon / 8},
-    {"PINTS", "pt", kLitresPerGallon / 8},
-    {"CUP", "cup", kLitresPerGallon / 16},
-    {"CUPS", "cup", kLitresPerGallon / 16},
-    {"FLOZ", "floz", kLitresPerGallon / 128},
-    {"TBSP", "tbsp", kLitresPerGallon / 256},
-    {"TSP", "tsp", kLitresPerGallon / 768},
-};
-
-// Returns the unit whose word ends the text; nullptr if there is none.
-template <std::size_t N>
-const Unit* UnitOf(std::string_view written, const Unit (&units)[N]) {
-    std::string_view word = Trim(written);
-    if (word.ends_with('.')) word.remove_suffix(1);
-    const std::size_t letters = word.find_last_of("0123456789 ./");
-    if (letters != std::string_view::npos) word.remove_prefix(letters + 1);
-    for (const Unit& unit : units)
-        if (EqualAscii(unit.written, word)) return &unit;
-    return nullptr;
 }
 
 // Returns what a validator reads; nothing if it refuses the text.
@@ -145,7 +82,7 @@ bool IsBatchOfGallons(const ForeignRecipe& recipe) {
 // True if the file shows its batch in US units; nothing if it shows no unit.
 std::optional<bool> ShownInUS(const ForeignRecipe& recipe) {
     if (!recipe.batchSize) return std::nullopt;
-    const Unit* const unit = UnitOf(recipe.batchSize->written, kVolumes);
+    const ExactUnit* const unit = VolumeUnit(UnitWordOf(recipe.batchSize->written));
     if (!unit) return std::nullopt;
     return unit->word != "L" && unit->word != "ml";
 }
@@ -192,7 +129,7 @@ std::string AmountTexts::Volume(const ForeignAmount& amount) const {
     if (asInFile_ && !amount.written.empty()) {
         if (Says(amount.written, ValidateVolume, litres / kLitresPerGallon))
             return std::string(Trim(amount.written));
-        if (const Unit* const unit = UnitOf(amount.written, kVolumes))
+        if (const ExactUnit* const unit = VolumeUnit(UnitWordOf(amount.written)))
             return With(litres / unit->size, unit->word);
     }
     if (us_) return With(litres / kLitresPerGallon, "gal");
@@ -215,8 +152,10 @@ std::string AmountTexts::Weight(const ForeignAmount& amount, Weighed what) const
     if (asInFile_ && !amount.written.empty()) {
         if (Says(amount.written, ValidateOunces, kilograms / kKilogramsPerOunce))
             return std::string(Trim(amount.written));
-        if (const Unit* const unit = UnitOf(amount.written, kWeights))
-            return With(kilograms / unit->size, unit->word);
+        const ExactUnit* const unit = WeightUnit(UnitWordOf(amount.written));
+        // No recipe has milligrams.
+        if (unit && unit->word == "mg") return With(kilograms * 1000, "g");
+        if (unit) return With(kilograms / unit->size, unit->word);
     }
     return WeightIn(us_, kilograms, what);
 }

@@ -1,5 +1,7 @@
 #include "doctor/KnownFigures.h"
 
+#include "values/Text.h"
+
 namespace tw {
 namespace {
 
@@ -24,6 +26,13 @@ std::optional<Known<FermentableFigures>> KnownFigures::Fermentable(CatalogueKind
 std::optional<Known<HopFigures>> KnownFigures::Hop(const NameSought& sought) {
     return Remembered(matcher_.Find(CatalogueKind::Hop, sought), hops_,
                       [&](const std::string& name) { return catalogue_.Hop(name); });
+}
+
+const CatalogueFacts* KnownFigures::Facts(CatalogueKind kind, std::string_view name) {
+    auto facts = facts_.find(kind);
+    if (facts == facts_.end()) facts = facts_.emplace(kind, CatalogueNames(database_).FactsOf(kind)).first;
+    const auto known = facts->second.find(Upper(name));
+    return known == facts->second.end() ? nullptr : &known->second;
 }
 
 std::optional<Known<SugarFigures>> KnownFigures::Sugar(const NameSought& sought) {

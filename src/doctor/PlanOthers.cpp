@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "calc/Figures.h"
+#include "doctor/ExactUnits.h"
 #include "doctor/PlanContext.h"
 #include "document/RowFiller.h"
 #include "exchange/AsciiCase.h"
@@ -13,9 +14,6 @@
 
 namespace tw {
 namespace {
-
-constexpr double kLitresPerGallon = 3.785411784;
-constexpr double kOuncesPerKilogram = 35.27396194958041;  // of 28.349523125 g
 
 // True for what changes the water, by the word that both formats have for it.
 bool IsWaterAgent(const ForeignMisc& misc) {
@@ -169,7 +167,7 @@ void PlanCarbonation(PlanContext& c) {
     const double ounces =
         PrimingOunces(volumes, *sugar->figures.fermentable, recipe.batchSize->value / kLitresPerGallon);
     const std::string text =
-        c.texts.Weight({ForeignAmount::Of::Mass, ounces / kOuncesPerKilogram, {}}, Weighed::PrimingSugar);
+        c.texts.Weight({ForeignAmount::Of::Mass, ounces * kKilogramsPerOunce, {}}, Weighed::PrimingSugar);
     c.Report(Severity::Approximated, FindingCode::Priming, "Carbonation",
              text + " of " + sugar->match.name + " give the " + FewestDecimals(*recipe.carbonation) +
                  " volumes of the file.");

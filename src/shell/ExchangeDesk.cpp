@@ -2,8 +2,10 @@
 
 #include "platform/ErrorBox.h"
 #include "platform/ScopeGuard.h"
+#include "shell/CopyDialogs.h"
 #include "shell/ImportPath.h"
 #include "shell/RecipeExchange.h"
+#include "tree/ProgressModel.h"
 
 namespace tw {
 
@@ -39,7 +41,26 @@ void ExchangeDesk::ImportFile(const std::string& path) {
 
 void ExchangeDesk::ImportRecipes(const std::string& path, std::int64_t folderId,
                                  const std::optional<std::vector<std::string>>& names) {
-    Run([&](RecipeExchange& files) { files.ImportFrom(path, folderId, names); });
+    Run([&](RecipeExchange& files) {
+        if (DoctorDesk::Takes(path))
+            ImportForeign(path, folderId, names);
+        else
+            files.ImportFrom(path, folderId, names);
+    });
+}
+
+void ExchangeDesk::ImportForeign(const std::string& path, std::int64_t folderId,
+                                 const std::optional<std::vector<std::string>>& names) {
+    ProgressModel progress("Importing Recipes", [&](ProgressModel& shown) {
+        CopyDialogs host(data_.platform, shown, true);
+        try {
+            doctor_.Import(path, folderId, names, host);
+        } catch (const Error& error) {
+            data_.platform.messages.ShowMessage("Error", error.Description());
+        }
+    });
+    data_.platform.dialogs.ShowModal(progress);
+    RebuildTree();
 }
 
 void ExchangeDesk::ExportRecipes(const std::string& path, bool append,

@@ -10,6 +10,7 @@
 
 #include "platform/OwnFiles.h"
 #include "shell/CommandStates.h"
+#include "shell/DoctorDesk.h"
 #include "shell/DocumentManager.h"
 #include "shell/OpenedDatabase.h"
 #include "shell/StatusNotice.h"
@@ -21,9 +22,15 @@ class RecipeExchange;
 class ExchangeDesk {
   public:
     // All arguments must outlive the object.
-    ExchangeDesk(OpenedDatabase& data, DocumentManager& documents, CommandStates& states, OwnFiles& own,
-                 StatusNotice& notice, ViewSlot& view)
-        : data_(data), documents_(documents), states_(states), own_(own), notice_(notice), view_(view) {}
+    ExchangeDesk(OpenedDatabase& data, DoctorDesk& doctor, DocumentManager& documents, CommandStates& states,
+                 OwnFiles& own, StatusNotice& notice, ViewSlot& view)
+        : data_(data),
+          doctor_(doctor),
+          documents_(documents),
+          states_(states),
+          own_(own),
+          notice_(notice),
+          view_(view) {}
 
     // All of these functions show their errors in message boxes, and do nothing while another of them
     // is running.
@@ -33,7 +40,7 @@ class ExchangeDesk {
     void Export();
     // Shows the dialogs that ask for the recipes and the folder.
     void ImportFile(const std::string& path);
-    // Without names, imports all recipes of the file.
+    // Without names, imports all recipes of the file. A file of another brewing program is imported, too.
     void ImportRecipes(const std::string& path, std::int64_t folderId,
                        const std::optional<std::vector<std::string>>& names);
     // If append is true, adds to an existing file instead of replacing it.
@@ -46,12 +53,15 @@ class ExchangeDesk {
     bool IsRunning() const { return running_; }
 
   private:
+    void ImportForeign(const std::string& path, std::int64_t folderId,
+                       const std::optional<std::vector<std::string>>& names);
     // Runs one import or export, unless another one is running.
     void Run(const std::function<void(RecipeExchange&)>& operation);
     // Reads the tree from the database again, and updates whatever depends on it.
     void RebuildTree();
 
     OpenedDatabase& data_;
+    DoctorDesk& doctor_;
     DocumentManager& documents_;
     CommandStates& states_;
     OwnFiles& own_;

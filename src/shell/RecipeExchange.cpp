@@ -1,12 +1,11 @@
 #include "shell/RecipeExchange.h"
 
 #include <filesystem>
-#include <iostream>
 
 #include "platform/FileDialogModel.h"
 #include "platform/ScopeGuard.h"
+#include "shell/CopyDialogs.h"
 #include "shell/ImportExportModel.h"
-#include "shell/NameConflictModel.h"
 #include "shell/StylesNotImportedModel.h"
 #include "store/ExchangeFile.h"
 #include "store/RecipeCopy.h"
@@ -42,48 +41,7 @@ std::vector<std::string> AllRecipesOf(const TWTree& tree) {
     return names;
 }
 
-// Pauses the progress window until the end of a scope in which another dialog is open.
-auto Pause(ProgressModel& progress) {
-    progress.SetBusy(false);
-    return ScopeGuard([&progress] { progress.SetBusy(true); });
-}
-
 }  // namespace
-
-// Asks through dialogs, while the progress window pauses.
-class RecipeExchange::Host final : public CopyHost {
-  public:
-    Host(Platform& platform, ProgressModel& progress, bool isImport)
-        : platform_(platform), progress_(progress), isImport_(isImport) {}
-
-    bool HasBegun() const { return begun_; }
-
-    bool Continue(const std::string& name, int number, int total) override {
-        begun_ = true;
-        return progress_.Show(name, number, total);
-    }
-
-    ConflictAnswer ResolveConflict(const std::string& name, const std::string& freeName) override {
-        NameConflictModel dialog(name, isImport_, platform_.messages);
-        dialog.SetProposal(freeName);
-        const auto pause = Pause(progress_);
-        platform_.dialogs.ShowModal(dialog);
-        return dialog.Result();
-    }
-
-    bool ContinueAfter(const std::string& text) override {
-        const auto pause = Pause(progress_);
-        return platform_.messages.Ask("Error", text, Question::OkCancel) == Answer::Ok;
-    }
-
-    void DebugText(const std::string& text) override { std::clog << text << '\n'; }
-
-  private:
-    Platform& platform_;
-    ProgressModel& progress_;
-    bool isImport_;
-    bool begun_ = false;  // true once the first recipe is being copied
-};
 
 bool RecipeExchange::Trap(const std::function<void()>& operation) {
     try {
@@ -161,7 +119,7 @@ int RecipeExchange::CopyOut(const std::string& path, std::unique_ptr<Database> o
     const bool isNew = old == nullptr;
     ExchangeCopy file = isNew ? ExchangeCopy(main_) : ExchangeCopy(std::move(old));
     UnitOfWork unit(file.Contents());
-    Host host(platform_, progress, false);
+    CopyDialogs host(platform_, progress, false);
     int exported = 0;
     try {
         exported = RecipeCopier(main_, file.Contents(), host).ExportRecipes(names);
@@ -214,7 +172,7 @@ void RecipeExchange::ImportChosen(const std::string& path, const Chooser& choose
 // once; later it takes effect after the current recipe, so that none is imported in part.
 int RecipeExchange::CopyWatched(Database& file, const Choice& choice, ProgressModel& progress,
                                 StylesNotImported& stylesNotImported) {
-    Host host(platform_, progress, true);
+    CopyDialogs host(platform_, progress, true);
     const ScopeGuard end([&file] { file.SetWatch({}); });
     const int total = static_cast<int>(choice.names.size());
     file.SetWatch([&] { return progress.Show(progress.Name(), progress.Done(), total) || host.HasBegun(); });

@@ -56,7 +56,6 @@ class RecipeExchange {
                     const std::optional<std::vector<std::string>>& names);
 
   private:
-    class Host;
     // What to import, and into which folder.
     struct Choice {
         std::vector<std::string> names;

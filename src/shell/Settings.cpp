@@ -90,6 +90,7 @@ constexpr std::array kKeys = std::to_array<KeyRow>({
     {"FigureStrip", "1", Flag{&Settings::figureStrip}},
     {"NewsSeen", "0", Short(&Settings::newsSeen)},
     {"MetricExamples", "0", Flag{&Settings::metricExamples}},
+    {"ImportUnits", "0", Integer{&Settings::importUnits, 0, 2}},
 });
 
 using KeyRows = std::span<const KeyRow>;

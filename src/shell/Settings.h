@@ -43,6 +43,7 @@ struct Settings {
     bool figureStrip = true;      // the strip of figures below the tabs of a recipe is shown
     int newsSeen = 0;             // the last edition of the news that the brewer was told of
     bool metricExamples = false;  // examples of what can be typed, and the sample recipe, are metric
+    int importUnits = 0;          // the units of recipes from other programs: an index of ImportUnits
 
     // Loads the keys of the window's geometry and style, before the database is opened.
     void LoadWindowKeys(const SettingsStore& store);

@@ -15,6 +15,7 @@
 #include "shell/CommandBar.h"
 #include "shell/CommandStates.h"
 #include "shell/DatabaseNotices.h"
+#include "shell/DoctorDesk.h"
 #include "shell/DocumentManager.h"
 #include "shell/ExchangeDesk.h"
 #include "shell/HelpDesk.h"
@@ -97,6 +98,7 @@ class Shell final : private InstanceHost {
         RecipeServices services;
         RecipeDesk recipes;
         RecipeSaver saver;
+        DoctorDesk doctor;
         ExchangeDesk files;
         CarriedDesk carried;
         PrintDesk paper;

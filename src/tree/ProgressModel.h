@@ -10,6 +10,7 @@
 
 #include "platform/FormModel.h"
 #include "platform/Ports.h"
+#include "platform/ScopeGuard.h"
 
 namespace tw {
 
@@ -62,6 +63,12 @@ class ProgressModel final : public FormModel {
     bool busy_ = false;
     bool cancelled_ = false;
 };
+
+// Pauses the progress window until the end of a scope in which another dialog is open.
+inline auto Pause(ProgressModel& progress) {
+    progress.SetBusy(false);
+    return ScopeGuard([&progress] { progress.SetBusy(true); });
+}
 
 // Runs step for each of the objects, in order, until it returns false; with the progress window if there are
 // more than kWithoutWindow. Raises the error of a step; the steps before it remain done.

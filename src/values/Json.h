@@ -44,7 +44,7 @@ class Json {
     Array* AsArray() { return std::get_if<Array>(&value_); }
     const Object* AsObject() const { return std::get_if<Object>(&value_); }
     Object* AsObject() { return std::get_if<Object>(&value_); }
-    // Returns the number, an integer or not; nothing for every other kind.
+    // Returns the number without its unit, an integer or not; nothing for every other kind.
     std::optional<double> AsNumber() const;
 
     // Returns the value of the first member of that name; nullptr if there is none or this is no object.

@@ -463,7 +463,7 @@ TEST(Damage, WhatCannotBeKnown) {
               (Facts{"/HOP1/NOTES1=wait", "/HOP1/TIME1=minutes"}));
 }
 
-class Samples : public testing::Test {
+class DamagedSamples : public testing::Test {
   protected:
     void SetUp() override {
         const char* folder = std::getenv("TW_EXCHANGE_FILES");
@@ -482,7 +482,7 @@ class Samples : public testing::Test {
     std::vector<std::filesystem::path> paths_;
 };
 
-TEST_F(Samples, KeepTheirFactsAndTags) {
+TEST_F(DamagedSamples, KeepTheirFactsAndTags) {
     for (const auto& path : paths_) {
         const std::string bytes = Read(path);
         pugi::xml_document document;
@@ -499,7 +499,7 @@ TEST_F(Samples, KeepTheirFactsAndTags) {
     }
 }
 
-TEST_F(Samples, RandomDamagesAndPairs) {
+TEST_F(DamagedSamples, RandomDamagesAndPairs) {
     std::mt19937 random(7);
     for (const auto& path : paths_) {
         SCOPED_TRACE(path);
