@@ -22,8 +22,9 @@ std::size_t MendLog::LineAt(std::size_t offset) {
     return line_;
 }
 
-void MendLog::CountFault() {
-    if (++faults_ > kMostFaults)
+void MendLog::CountFaults(std::size_t count) {
+    faults_ += count;
+    if (faults_ > kMostFaults)
         RefuseFile(
             "The file has more than 250,000 faults. It is no file with recipes, or it was damaged on its "
             "way: "
@@ -31,7 +32,7 @@ void MendLog::CountFault() {
 }
 
 bool MendLog::Count(FindingCode code) {
-    CountFault();
+    CountFaults(1);
     return ++ofCode_[static_cast<std::size_t>(code)] <= Findings::kKeptOfOneCode;
 }
 

@@ -41,8 +41,8 @@ class MendLog {
         Add(code, Severity::Repaired, offset, makeText);
     }
 
-    // Counts a fault that needs no finding of its own. Raises the refusal of a file with too many.
-    void CountFault();
+    // Counts faults that need no findings of their own. Raises the refusal of a file with too many.
+    void CountFaults(std::size_t count);
 
   private:
     // Returns true if the next finding of the code is kept.

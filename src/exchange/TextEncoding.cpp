@@ -176,14 +176,18 @@ constexpr std::uint16_t kFirst1252[] = {0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 
                                         0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                         0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0xFFFD, 0x017E, 0x0178};
 
-void Append1252(std::string& out, char byte) {
-    const auto value = static_cast<unsigned char>(byte);
-    const bool tabled = value >= 0x80 && value < 0x80 + std::size(kFirst1252);
-    AppendCodePoint(out, tabled ? kFirst1252[value - 0x80] : value);
+// Returns the bytes from 0x80 on in UTF-8.
+std::array<std::string, 128> Make1252() {
+    std::array<std::string, 128> letters;
+    for (std::size_t i = 0; i < letters.size(); ++i)
+        AppendCodePoint(letters[i],
+                        i < std::size(kFirst1252) ? kFirst1252[i] : static_cast<std::int32_t>(0x80 + i));
+    return letters;
 }
 
 // Reads the bytes that are not UTF-8 as Windows-1252, or all of them beyond ASCII.
 std::string From1252(std::string_view bytes, bool keepUtf8) {
+    static const std::array<std::string, 128> letters = Make1252();
     std::string out;
     out.reserve(bytes.size() + bytes.size() / 8);
     for (std::size_t i = 0; i < bytes.size();) {
@@ -191,12 +195,12 @@ std::string From1252(std::string_view bytes, bool keepUtf8) {
         out.append(bytes.substr(i, end - i));
         i = end;
         if (i == bytes.size()) break;
-        const CodePoint front = FrontCodePoint(bytes.substr(i));
-        if (keepUtf8 && front.value != kNoCodePoint) {
+        const CodePoint front = keepUtf8 ? FrontCodePoint(bytes.substr(i)) : CodePoint();
+        if (front.value != kNoCodePoint) {
             out.append(bytes.substr(i, front.bytes));
             i += front.bytes;
         } else {
-            Append1252(out, bytes[i++]);
+            out += letters[static_cast<unsigned char>(bytes[i++]) - 0x80];
         }
     }
     return out;

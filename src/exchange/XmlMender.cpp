@@ -20,11 +20,13 @@ std::string Quoted(std::string_view name) {
 
 // True if the last closing tag is that of the first element.
 bool EndsWhole(std::string_view text) {
+    constexpr int kMostBefore = 1000;
     XmlTokens tokens(text);
     XmlToken first = tokens.Next();
-    while (first.kind != XmlTokenKind::Open && first.kind != XmlTokenKind::End) first = tokens.Next();
+    for (int i = 0; i < kMostBefore && first.kind != XmlTokenKind::Open; ++i) first = tokens.Next();
     const std::size_t close = text.rfind("</");
-    return close != std::string_view::npos && EqualAscii(FrontName(text.substr(close + 2)), first.name);
+    return first.kind == XmlTokenKind::Open && close != std::string_view::npos &&
+           EqualAscii(FrontName(text.substr(close + 2)), first.name);
 }
 
 [[noreturn]] void RefuseDepth() {
@@ -84,7 +86,7 @@ void XmlMender::Take(const XmlToken& token) {
         case XmlTokenKind::Doctype:
             return TakeDoctype(token);
         case XmlTokenKind::Instruction:
-            log_.CountFault();
+            log_.CountFaults(1);
             return writer_.AppendLineBreaks(text_.substr(token.begin, token.end - token.begin));
         case XmlTokenKind::End:
             return;
@@ -107,6 +109,7 @@ void XmlMender::TakeText(const XmlToken& token) {
     } else if (token.kind == XmlTokenKind::CData) {
         writer_.AppendLiteral(token.content);
     } else {
+        log_.CountFaults(text.size());
         writer_.AppendLiteral(text);
         log_.Repaired(FindingCode::BareLessThan, token.begin,
                       [] { return "\"<\" that begins no tag was kept as text."; });
@@ -117,7 +120,7 @@ void XmlMender::TakeText(const XmlToken& token) {
 void XmlMender::LeaveOut(const XmlToken& token) {
     const std::string_view text = text_.substr(token.begin, token.end - token.begin);
     writer_.AppendLineBreaks(text);
-    log_.CountFault();
+    log_.CountFaults(1);
     if (saidOutside_) return;
     saidOutside_ = true;
     log_.Repaired(FindingCode::Wrapped, token.begin, [&] {
@@ -138,7 +141,7 @@ void XmlMender::TakeComment(const XmlToken& token) {
         out_.append(text);
         return;
     }
-    log_.CountFault();
+    log_.CountFaults(1);
     writer_.AppendLineBreaks(text);
 }
 
@@ -149,8 +152,13 @@ void XmlMender::TakeDoctype(const XmlToken& token) {
 }
 
 void XmlMender::TakeTagAsText(const XmlToken& tag) {
-    out_ += "&lt;";
-    writer_.Append(text_.substr(tag.begin + 1, tag.end - tag.begin - 1), tag.begin + 1);
+    // Its attributes may hold "<" as well.
+    for (std::size_t begin = tag.begin; begin < tag.end;) {
+        const std::size_t end = std::min(text_.find('<', begin + 1), tag.end);
+        out_ += "&lt;";
+        writer_.Append(text_.substr(begin + 1, end - begin - 1), begin + 1);
+        begin = end;
+    }
     open_.back().hasText = true;
     log_.Repaired(FindingCode::BareLessThan, tag.begin, [&] {
         return "The tag " + Quoted(tag.name) + " in the text of " + std::string(open_.back().name) +

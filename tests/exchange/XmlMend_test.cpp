@@ -104,6 +104,8 @@ TEST(XmlMend, LessThanInTexts) {
         {"<HOP><NOTES>a<a href='x&y'>b</a></NOTES></HOP>",
          "<HOP><NOTES>a&lt;a href='x&amp;y'>b&lt;/a></NOTES></HOP>",
          "bare-ampersand 1, bare-less-than 1, bare-less-than 1"},
+        {"<HOP><NOTES><a b=\"<\">c</NOTES></HOP>", "<HOP><NOTES>&lt;a b=\"&lt;\">c</NOTES></HOP>",
+         "bare-less-than 1"},
         // The word in brackets is no tag, since nothing closes it and NOTES is closed.
         {"<HOP><NOTES>wait <TIME> minutes</NOTES><TIME>5</TIME></HOP>",
          "<HOP><NOTES>wait &lt;TIME> minutes</NOTES><TIME>5</TIME></HOP>", "bare-less-than 1"},
@@ -297,6 +299,7 @@ TEST(XmlMend, LimitsRefuseTheFile) {
     EXPECT_THAT(Refusal("<HOPS>" + Repeated("<HOP/>", kMostExchangeRecords + 1) + "</HOPS>"),
                 testing::HasSubstr("100,000"));
     EXPECT_THAT(Refusal("<HOPS>" + Repeated("&", 250'001) + "</HOPS>"), testing::HasSubstr("faults"));
+    EXPECT_THAT(Refusal("<HOPS>" + Repeated("<", 250'001) + "</HOPS>"), testing::HasSubstr("faults"));
 }
 
 // What would take hours if any of it were looked at again and again. A test that hangs is one that fails.
