@@ -7,7 +7,7 @@
 
 #include "exchange/BeerJsonRecord.h"
 #include "exchange/BeerJsonTiming.h"
-#include "exchange/ForeignLimits.h"
+#include "exchange/ExchangeLimits.h"
 #include "exchange/ForeignPlace.h"
 #include "exchange/TextEncoding.h"
 
@@ -217,8 +217,10 @@ class Reader {
 
     void Read(const Json& beer) {
         BeerJsonRecord record(beer, JsonRecord::File, library_, {}, {});
-        for (const Json& recipe : record.Elements("recipes"))
-            if (Count()) ReadRecipe(recipe);
+        for (const Json& recipe : record.Elements("recipes")) {
+            Count();
+            ReadRecipe(recipe);
+        }
         const RecipeFrame none;
         AddLines(file_.fermentables, ReadFermentable, JsonRecord::Fermentable, kFermentablesPlace, record,
                  "fermentables", none, library_, {});
@@ -240,17 +242,17 @@ class Reader {
                             "Records outside of recipes that have no place here were left out", homeless);
     }
 
-    bool HasTooManyRecords() const { return count_ > kMostForeignRecords; }
-
   private:
-    bool Count() { return ++count_ <= kMostForeignRecords; }
+    void Count() {
+        if (++count_ > kMostExchangeRecords) RefuseRecords();
+    }
 
     template <class Line>
     void AddLines(std::vector<Line>& list, Line (*read)(BeerJsonRecord&, const LineFrame&), JsonRecord kind,
                   std::string_view placeWord, BeerJsonRecord& owner, std::string_view key,
                   const RecipeFrame& frame, ForeignTelling& telling, const std::string& ownerPath) {
         for (const Json& element : owner.Elements(key)) {
-            if (!Count()) return;
+            Count();
             const Json* const name = element.Find("name");
             const bool hasName = name != nullptr && name->AsText() != nullptr;
             const LineFrame line{frame, telling,
@@ -396,12 +398,6 @@ class Reader {
     std::size_t count_ = 0;
 };
 
-void Refuse(ForeignFile& file, std::string text) {
-    file = ForeignFile();
-    file.format = ExchangeFormat::BeerJson;
-    file.findings.Add({Severity::Refused, FindingCode::Truncated, "", "", std::move(text)});
-}
-
 void TellText(const DecodedText& decoded, const JsonReading& reading, Findings& findings) {
     const auto line = [](int number) { return "line " + std::to_string(number); };
     if (!decoded.remark.empty())
@@ -421,23 +417,14 @@ void TellText(const DecodedText& decoded, const JsonReading& reading, Findings& 
 
 void ReadBeerJson(std::string_view bytes, ForeignFile& file) {
     file.format = ExchangeFormat::BeerJson;
-    if (bytes.size() > kMostJsonBytes) return Refuse(file, "The file is larger than 64 megabytes.");
-    JsonReading reading;
+    if (bytes.size() > kMostExchangeBytes) RefuseFile("The file is larger than 64 megabytes.");
     const DecodedText decoded = Decode(bytes);
-    try {
-        reading = SalvageJson(decoded.text);
-    } catch (const Error& error) {
-        return Refuse(file, error.Description());
-    }
-    TellText(decoded, reading, file.findings);
+    const JsonReading reading = SalvageJson(decoded.text);
     const Json* const beer = reading.value.Find("beerjson");
     if (beer == nullptr || beer->AsObject() == nullptr)
-        return Refuse(file, "The file has no object with the name \"beerjson\".");
-    Reader reader(file);
-    reader.Read(*beer);
-    if (reader.HasTooManyRecords())
-        Refuse(file, "The file has more than " + std::to_string(kMostForeignRecords) +
-                         " records and was not read.");
+        RefuseFile("The file has no object with the name \"beerjson\".");
+    TellText(decoded, reading, file.findings);
+    Reader(file).Read(*beer);
 }
 
 }  // namespace tw

@@ -10,7 +10,7 @@
 
 #include "exchange/AsciiCase.h"
 #include "exchange/BeerXmlRecord.h"
-#include "exchange/ForeignLimits.h"
+#include "exchange/ExchangeLimits.h"
 #include "exchange/ForeignPlace.h"
 
 namespace tw {
@@ -259,30 +259,33 @@ class Reader {
         : text_(text), file_(file), library_(file.findings, {}) {}
 
     // Reads all records below a node. depth is the number of elements around it.
-    void ReadAll(pugi::xml_node parent, int depth) {
-        if (depth > kMostForeignDepth) return;
+    void ReadAll(pugi::xml_node parent, std::size_t depth) {
+        if (depth > kMostExchangeDepth) return;
         for (const pugi::xml_node child : parent.children()) {
             if (child.type() != pugi::node_element) continue;
             const XmlRecordRule* const rule = RecordOfTag(child.name());
-            if (rule == nullptr)
+            if (rule == nullptr) {
                 ReadAll(child, depth + 1);
-            else if (Count())
+            } else {
+                Count();
                 ReadEntry(*rule, child);
+            }
         }
     }
 
-    // Tells what holds for the file as a whole. Returns false if it has too many records.
-    bool End() {
+    // Tells what holds for the file as a whole.
+    void End() {
         library_.TellUnknown(kFormat);
         if (!homeless_.empty())
             file_.findings.Add(
                 {Severity::NotCarried, FindingCode::Carried, "", "",
                  "Records outside of recipes that have no place here were left out: " + homeless_ + "."});
-        return count_ <= kMostForeignRecords;
     }
 
   private:
-    bool Count() { return ++count_ <= kMostForeignRecords; }
+    void Count() {
+        if (++count_ > kMostExchangeRecords) RefuseRecords();
+    }
 
     void ReadEntry(const XmlRecordRule& rule, pugi::xml_node element) {
         if (rule.record == XmlRecord::Recipe) {
@@ -321,8 +324,11 @@ class Reader {
         recipe.keptAside = telling.KeptAside();
         recipe.fragment = text_.Of(element);
         file_.recipes.push_back(std::move(recipe));
-        for (const pugi::xml_node each : nested)
-            if (nesting < kMostNested && Count()) ReadRecipe(each, nesting + 1);
+        for (const pugi::xml_node each : nested) {
+            if (nesting >= kMostNested) continue;
+            Count();
+            ReadRecipe(each, nesting + 1);
+        }
     }
 
     static void ReadFields(BeerXmlRecord& record, ForeignRecipe& recipe) {
@@ -362,9 +368,9 @@ class Reader {
     }
 
     // Reads the lines of a recipe, wherever in it they stand.
-    void ReadLists(pugi::xml_node parent, ForeignRecipe& recipe, ForeignTelling& telling, int depth,
+    void ReadLists(pugi::xml_node parent, ForeignRecipe& recipe, ForeignTelling& telling, std::size_t depth,
                    std::vector<pugi::xml_node>& nested) {
-        if (depth > kMostForeignDepth) return;
+        if (depth > kMostExchangeDepth) return;
         for (const pugi::xml_node child : parent.children()) {
             if (child.type() != pugi::node_element) continue;
             const std::string_view tag = child.name();
@@ -387,7 +393,8 @@ class Reader {
             nested.push_back(element);
         } else if (rule.record == XmlRecord::Style) {
             if (!recipe.style && element.first_child()) recipe.style = ReadStyleOf(element, telling);
-        } else if (Count()) {
+        } else {
+            Count();
             AddLine(ListsOf(recipe), rule, element, telling);
         }
     }
@@ -427,20 +434,6 @@ void TellDamage(const pugi::xml_parse_result& result, std::string_view text, Fin
                   "The file is damaged here; only what stands before was read."});
 }
 
-// Tells how the records are arranged.
-void TellShape(const pugi::xml_document& document, Findings& findings) {
-    for (const pugi::xml_node root : document.children()) {
-        if (root.type() != pugi::node_element) continue;
-        if (RecordOfTag(root.name()) != nullptr)
-            findings.Add({Severity::Repaired, FindingCode::RecipeAsRoot, "", "",
-                          Quoted(root.name()) + " stands alone, without the list around it."});
-        else if (RecordOfSet(root.name()) == nullptr)
-            findings.Add({Severity::Repaired, FindingCode::Wrapped, "", "",
-                          "The records stand within an element " + Quoted(root.name()) +
-                              ", which the format does not have."});
-    }
-}
-
 }  // namespace
 
 void ReadBeerXml(std::string_view text, ForeignFile& file) {
@@ -449,15 +442,10 @@ void ReadBeerXml(std::string_view text, ForeignFile& file) {
     const pugi::xml_parse_result result =
         document.load_buffer(text.data(), text.size(), pugi::parse_default, pugi::encoding_utf8);
     if (!result) TellDamage(result, text, file.findings);
-    TellShape(document, file.findings);
     const ElementText source(text, static_cast<bool>(result));
     Reader reader(source, file);
     reader.ReadAll(document, 0);
-    if (reader.End()) return;
-    file = ForeignFile();
-    file.findings.Add(
-        {Severity::Refused, FindingCode::Truncated, "", "",
-         "The file has more than " + std::to_string(kMostForeignRecords) + " records and was not read."});
+    reader.End();
 }
 
 }  // namespace tw

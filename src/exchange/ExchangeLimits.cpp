@@ -13,4 +13,8 @@ void RefuseFile(const std::string& message) {
     throw Error("Import", message, kRefused);
 }
 
+void RefuseRecords() {
+    RefuseFile("The file has more than 100,000 recipes and ingredients. Export them in several files.");
+}
+
 }  // namespace tw

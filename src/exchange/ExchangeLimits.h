@@ -12,5 +12,7 @@ inline constexpr std::size_t kMostExchangeRecords = 100'000;
 
 // Raises the error that refuses a file, with a message that says what to do.
 [[noreturn]] void RefuseFile(const std::string& message);
+// Raises it for a file of more than kMostExchangeRecords.
+[[noreturn]] void RefuseRecords();
 
 }  // namespace tw
