@@ -308,6 +308,21 @@ struct JsonWriting {
     }
 };
 
+Json::Json() = default;
+Json::Json(bool value) : value_(value) {}
+Json::Json(std::int64_t value) : value_(value) {}
+Json::Json(double value) : value_(value) {}
+Json::Json(std::string value) : value_(std::move(value)) {}
+Json::Json(std::string_view value) : value_(std::string(value)) {}
+Json::Json(const char* value) : value_(std::string(value)) {}
+Json::Json(Array value) : value_(std::move(value)) {}
+Json::Json(Object value) : value_(std::move(value)) {}
+Json::Json(const Json& other) = default;
+Json::Json(Json&& other) noexcept = default;
+Json& Json::operator=(const Json& other) = default;
+Json& Json::operator=(Json&& other) noexcept = default;
+Json::~Json() = default;
+
 std::optional<double> Json::AsNumber() const {
     if (const auto* const number = std::get_if<double>(&value_)) return *number;
     if (const std::int64_t* const integer = AsInteger()) return static_cast<double>(*integer);

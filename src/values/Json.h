@@ -23,17 +23,22 @@ class Json {
     // In the order of the file. A name may occur twice.
     using Object = std::vector<JsonMember>;
 
-    // Null.
-    Json() = default;
-    explicit Json(bool value) : value_(value) {}
-    explicit Json(std::int64_t value) : value_(value) {}
+    // Null. These are defined where JsonMember is complete.
+    Json();
+    explicit Json(bool value);
+    explicit Json(std::int64_t value);
     // REQUIRES: value is finite.
-    explicit Json(double value) : value_(value) {}
-    explicit Json(std::string value) : value_(std::move(value)) {}
-    explicit Json(std::string_view value) : value_(std::string(value)) {}
-    explicit Json(const char* value) : value_(std::string(value)) {}
-    explicit Json(Array value) : value_(std::move(value)) {}
-    explicit Json(Object value) : value_(std::move(value)) {}
+    explicit Json(double value);
+    explicit Json(std::string value);
+    explicit Json(std::string_view value);
+    explicit Json(const char* value);
+    explicit Json(Array value);
+    explicit Json(Object value);
+    Json(const Json& other);
+    Json(Json&& other) noexcept;
+    Json& operator=(const Json& other);
+    Json& operator=(Json&& other) noexcept;
+    ~Json();
 
     bool IsNull() const { return std::holds_alternative<std::monostate>(value_); }
     // nullptr if the value is of another kind.
