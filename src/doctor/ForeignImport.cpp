@@ -1,5 +1,6 @@
 #include "doctor/ForeignImport.h"
 
+#include "doctor/CatalogueAdditions.h"
 #include "store/CarriedData.h"
 #include "store/RecipeRows.h"
 #include "values/Text.h"
@@ -40,7 +41,16 @@ void ForeignImport::Store(const ForeignFile& file, std::string_view source, cons
     if (!id) return;
     names_.Put(name, *id);
     if (!recipe.fragment.empty())
-        CarriedData(database).Keep(*id, FormatWord(file.format), source, clock_.Now(), recipe.fragment);
+        CarriedData(database).Keep(*id, FormatWord(file.format), source, catalogue_.clock.Now(),
+                                   recipe.fragment);
+}
+
+void ForeignImport::Extend(const ForeignFile& file, const ImportOptions& options, Findings& findings) {
+    CatalogueAdditions additions(catalogue_, doctor_.Figures());
+    int added = 0;
+    if (options.addStyles) added += additions.AddStyles(file, findings);
+    if (options.addIngredients) added += additions.AddIngredients(file, findings);
+    if (added > 0) doctor_.Figures().Forget();
 }
 
 int ForeignImport::Run(const ForeignFile& file, std::string_view source, const ForeignChoice& choice,
@@ -51,6 +61,7 @@ int ForeignImport::Run(const ForeignFile& file, std::string_view source, const F
     int imported = 0, number = 0;
     const auto total = static_cast<int>(choice.recipes.size());
     try {
+        Extend(file, choice.options, findings);
         for (const std::size_t index : choice.recipes) {
             const ForeignRecipe& recipe = file.recipes[index];
             const ExaminedRecipe examined = doctor_.Examine(recipe, choice.options);

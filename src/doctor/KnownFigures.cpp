@@ -28,6 +28,15 @@ std::optional<Known<HopFigures>> KnownFigures::Hop(const NameSought& sought) {
                       [&](const std::string& name) { return catalogue_.Hop(name); });
 }
 
+void KnownFigures::Forget() {
+    matcher_.Forget();
+    grains_.clear();
+    extracts_.clear();
+    hops_.clear();
+    sugars_.clear();
+    facts_.clear();
+}
+
 const CatalogueFacts* KnownFigures::Facts(CatalogueKind kind, std::string_view name) {
     auto facts = facts_.find(kind);
     if (facts == facts_.end()) facts = facts_.emplace(kind, CatalogueNames(database_).FactsOf(kind)).first;

@@ -36,6 +36,9 @@ class KnownFigures {
         return matcher_.Find(kind, sought);
     }
 
+    // Forgets all answers, after the catalogue has changed.
+    void Forget();
+
   private:
     Database& database_;
     NameMatcher matcher_;

@@ -247,6 +247,11 @@ std::optional<CatalogueMatch> NameMatcher::Find(CatalogueKind kind, const NameSo
     return found_[key] = FindIn(*list, sought);
 }
 
+void NameMatcher::Forget() {
+    for (std::unique_ptr<List>& list : lists_) list.reset();
+    found_.clear();
+}
+
 std::optional<CatalogueMatch> NameMatcher::FindIn(const List& list, const NameSought& sought) {
     const Sought whole(sought);
     if (whole.words.joined.empty() && whole.code.empty()) return list.Find(whole);

@@ -53,6 +53,8 @@ class NameMatcher {
 
     // Returns the entry, nullopt if there is none or if it could be several. Raises the store's errors.
     std::optional<CatalogueMatch> Find(CatalogueKind kind, const NameSought& sought);
+    // Forgets the lists, after the catalogue has changed.
+    void Forget();
 
   private:
     class List;

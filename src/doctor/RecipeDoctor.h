@@ -36,6 +36,7 @@ class RecipeDoctor {
     ExaminedRecipe Examine(const ForeignRecipe& recipe, const ImportOptions& options);
 
     Database& Store() const { return database_; }
+    KnownFigures& Figures() { return figures_; }
 
   private:
     // Plans and types the recipe, and replaces what an earlier attempt has left in examined.

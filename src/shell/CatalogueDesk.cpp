@@ -10,8 +10,7 @@
 namespace tw {
 
 CatalogueContext CatalogueDesk::Context() {
-    const Platform& platform = data_.platform;
-    return {*data_.database, data_.tree, data_.objects, platform.messages, platform.dialogs, platform.clock};
+    return data_.Catalogue();
 }
 
 void CatalogueDesk::ShowSetup() {

@@ -99,7 +99,7 @@ int DoctorDesk::Import(const std::string& path, std::int64_t folderId,
     if (!chosen) return 0;
     RecipeDoctor doctor = Doctor();
     Findings findings = file.findings;
-    return ForeignImport(doctor, data_.platform.clock, host)
+    return ForeignImport(doctor, data_.Catalogue(), host)
         .Run(file, std::filesystem::path(path).filename().string(), {*chosen, folderId, options}, findings);
 }
 

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "catalogue/CatalogueContext.h"
 #include "platform/Ports.h"
 #include "store/Database.h"
 #include "tree/DB_IO.h"
@@ -27,6 +28,11 @@ struct OpenedDatabase {
     bool HasRecipes() { return !database->OpenRecordset("SELECT * FROM RECIPES").AtEnd(); }
     // Returns what the dialogs for folders, recipes and styles need.
     ObjectAccess Access() { return {*database, tree, objects, platform}; }
+
+    // Returns what the dialogs and editors of the catalogue need.
+    CatalogueContext Catalogue() {
+        return {*database, tree, objects, platform.messages, platform.dialogs, platform.clock};
+    }
 
     Platform& platform;
     const std::unique_ptr<Database> database;

@@ -6,9 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/CatalogueContext.h"
 #include "doctor/RecipeDoctor.h"
 #include "store/Schema.h"
 #include "support/RecordingPlatform.h"
+#include "support/SilentStore.h"
+#include "tree/DB_IO.h"
+#include "tree/TWTree.h"
+#include "tree/TreeObjects.h"
 
 namespace tw::test {
 
@@ -59,6 +64,11 @@ class DoctorTest : public testing::Test {
 
     RecordingPlatform platform;
     std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
+    TWTree tree{database.get()};
+    TreeObjects treeObjects{tree};
+    NoListener listener;
+    DB_IO objects{*database, treeObjects, platform.messages, platform.clock, listener};
+    CatalogueContext catalogue{*database, tree, objects, platform.messages, platform.dialogs, platform.clock};
     ColorTable colors;
     RecipeDoctor doctor{*database, platform.platform, colors, {"75%", "1", "", "6 gal", "5 gal"}};
     ForeignRecipe recipe;

@@ -42,7 +42,7 @@ class ForeignImporting : public DoctorTest {
     }
     int Import(std::vector<std::size_t> which = {0, 1}) {
         Findings findings;
-        return ForeignImport(doctor, platform.clock, host)
+        return ForeignImport(doctor, catalogue, host)
             .Run(file, "club.json", {std::move(which), 7, {}}, findings);
     }
     std::vector<std::string> Stored() {
