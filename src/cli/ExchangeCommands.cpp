@@ -45,7 +45,12 @@ std::string OrDash(const std::string& text) {
 void Doctor(Session& session, Arguments& arguments) {
     const std::string file = arguments.Word("FILE");
     arguments.End();
-    const Diagnosis diagnosis = session.Program().Opened()->doctor.Examine(file);
+    Diagnosis diagnosis;
+    try {
+        diagnosis = session.Program().Opened()->doctor.Examine(file);
+    } catch (const Error& error) {
+        return session.Messages().ShowMessage("Error", error.Description());
+    }
     for (const Finding& finding : diagnosis.findings.All())
         session.Out().Line(std::string(WordOf(finding.severity)) + "\t" + std::string(WordOf(finding.code)) +
                            "\t" + EscapeText(finding.recipe) + "\t" + EscapeText(finding.place) + "\t" +

@@ -80,14 +80,25 @@ std::optional<IbuMethod> MethodOf(const ForeignRecipe& recipe) {
     return IbuMethod::Garetz;
 }
 
+// Returns what is understood but has no field in a recipe here, and what is not even understood.
+std::vector<std::string> KeptAside(const ForeignRecipe& recipe) {
+    std::vector<std::string> kept;
+    if (!recipe.brewer.empty()) kept.emplace_back("brewer");
+    if (!recipe.assistant.empty()) kept.emplace_back("assistant brewer");
+    if (!recipe.date.empty()) kept.emplace_back("date");
+    if (recipe.tasteRating) kept.emplace_back("taste rating");
+    kept.insert(kept.end(), recipe.keptAside.begin(), recipe.keptAside.end());
+    return kept;
+}
+
 void ReportKeptAside(PlanContext& c) {
-    if (c.recipe.keptAside.empty()) return;
+    const std::vector<std::string> kept = KeptAside(c.recipe);
+    if (kept.empty()) return;
     constexpr std::size_t kNamed = 12;
     std::string names;
-    for (std::size_t i = 0; i < c.recipe.keptAside.size() && i < kNamed; ++i)
-        names.append(names.empty() ? "" : ", ").append(c.recipe.keptAside[i]);
-    if (c.recipe.keptAside.size() > kNamed)
-        names += " and " + std::to_string(c.recipe.keptAside.size() - kNamed) + " more";
+    for (std::size_t i = 0; i < kept.size() && i < kNamed; ++i)
+        names.append(names.empty() ? "" : ", ").append(kept[i]);
+    if (kept.size() > kNamed) names += " and " + std::to_string(kept.size() - kNamed) + " more";
     c.Report(Severity::NotCarried, FindingCode::Carried, "Recipe",
              "These have no place in a recipe here and are kept beside it: " + names + ".");
 }

@@ -27,7 +27,9 @@ constexpr RemedyWord kRemedies[] = {
 
 ForeignFile ReadFile(const std::string& path) {
     std::optional<ForeignFile> file = ReadForeignFile(ReadForeignBytes(path));
-    if (!file) throw Error("ForeignFile", "'" + path + "' is no file of another brewing program.", 0);
+    if (!file)
+        throw Error("ForeignFile",
+                    "File not recognized.\r\n\"" + path + "\" is not valid Tunwright Recipe file", 0);
     return std::move(*file);
 }
 

@@ -5,6 +5,7 @@
 #     NAME.status  its exit status (otherwise 0)
 #     NAME.args    the arguments before the script (otherwise an empty database and settings in memory); a line holds
 #                  arguments separated by blanks, @WORK@ stands for the folder that the script runs in
+#     NAME.files/  the files that the script reads, copied into the folder that it runs in
 # The script runs in a folder of its own, which holds a copy of it and is empty otherwise.
 cmake_minimum_required(VERSION 3.25)
 cmake_path(GET SCRIPT PARENT_PATH folder)
@@ -29,6 +30,9 @@ if(EXISTS ${expected}.status)
 endif()
 set(run ${WORK}/run)
 file(COPY ${SCRIPT} DESTINATION ${run})
+if(IS_DIRECTORY ${expected}.files)
+  file(COPY ${expected}.files/ DESTINATION ${run})
+endif()
 file(TOUCH ${WORK}/empty)
 set(expected_err ${WORK}/empty)
 if(EXISTS ${expected}.err)
