@@ -137,6 +137,10 @@ bool IsText(const XmlField& field) {
 
 }  // namespace
 
+FigureUnit XmlFigureUnit(XmlRecord record, const XmlField& field) {
+    return UnitOf(record, field).unit;
+}
+
 std::string TrimmedText(pugi::xml_node element) {
     if (const auto only = OnlyText(element)) return std::string(*only);
     std::string text;

@@ -17,6 +17,8 @@ namespace tw {
 
 // Returns the text of an element and of the elements in it, without blanks and line ends around it.
 std::string TrimmedText(pugi::xml_node element);
+// Returns the unit in which the format wants a field's figure.
+FigureUnit XmlFigureUnit(XmlRecord record, const XmlField& field);
 
 class BeerXmlRecord {
   public:
