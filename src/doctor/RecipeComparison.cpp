@@ -40,8 +40,12 @@ bool SaysTheSame(const Grid& grid, int row, const PlannedLine& line) {
 }
 
 bool IsWritten(const Grid& grid, int row) {
-    if (grid.Id() == GridId::Water) return row == WaterRow::Source && !IsBlankRow(grid, row);
-    return !IsBlankRow(grid, row);
+    if (grid.Id() != GridId::Water) return !IsBlankRow(grid, row);
+    if (row != WaterRow::Source) return false;
+    // The first cell is the name of the row.
+    for (int col = WaterCol::Profile; col < grid.Cols(); ++col)
+        if (!grid.Empty(row, col)) return true;
+    return false;
 }
 
 }  // namespace

@@ -10,7 +10,7 @@
 #include "exchange/BeerXmlEditor.h"
 #include "exchange/BeerXmlRecord.h"
 #include "exchange/ExchangeText.h"
-#include "exchange/ForeignLimits.h"
+#include "exchange/ExchangeLimits.h"
 #include "exchange/ForeignPlace.h"
 
 namespace tw {
@@ -77,8 +77,8 @@ struct Cleaner : pugi::xml_tree_walker {
 using Elements = std::array<std::vector<pugi::xml_node>, kXmlRecords>;
 
 // Finds records as the reading does: at any depth, but not within each other or within fields.
-void FindRecords(pugi::xml_node parent, int depth, Elements& found) {
-    if (depth > kMostForeignDepth) return;
+void FindRecords(pugi::xml_node parent, std::size_t depth, Elements& found) {
+    if (depth > kMostExchangeDepth) return;
     for (const pugi::xml_node child : parent.children()) {
         if (child.type() != pugi::node_element) continue;
         if (const XmlRecordRule* const rule = RecordOfTag(child.name()))
