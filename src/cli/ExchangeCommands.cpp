@@ -42,6 +42,26 @@ std::string OrDash(const std::string& text) {
     return text.empty() ? "-" : text;
 }
 
+void Print(Session& session, const Findings& findings) {
+    for (const Finding& finding : findings.All())
+        session.Out().Line(std::string(WordOf(finding.severity)) + "\t" + std::string(WordOf(finding.code)) +
+                           "\t" + EscapeText(finding.recipe) + "\t" + EscapeText(finding.place) + "\t" +
+                           EscapeText(finding.text));
+}
+
+void ExportAs(Session& session, Arguments& arguments) {
+    const std::string word = arguments.Word("beerxml|beerjson");
+    const std::string file = arguments.Word("FILE");
+    const std::vector<std::string> names = TakeNames(arguments);
+    if (word != "beerxml" && word != "beerjson") throw ScriptError("no format '" + word + "'");
+    const ExchangeFormat format = word == "beerxml" ? ExchangeFormat::BeerXml : ExchangeFormat::BeerJson;
+    try {
+        Print(session, session.Program().Opened()->doctor.Export(format, file, names));
+    } catch (const Error& error) {
+        session.Messages().ShowMessage("Error", error.Description());
+    }
+}
+
 void Doctor(Session& session, Arguments& arguments) {
     const std::string file = arguments.Word("FILE");
     arguments.End();
@@ -51,10 +71,7 @@ void Doctor(Session& session, Arguments& arguments) {
     } catch (const Error& error) {
         return session.Messages().ShowMessage("Error", error.Description());
     }
-    for (const Finding& finding : diagnosis.findings.All())
-        session.Out().Line(std::string(WordOf(finding.severity)) + "\t" + std::string(WordOf(finding.code)) +
-                           "\t" + EscapeText(finding.recipe) + "\t" + EscapeText(finding.place) + "\t" +
-                           EscapeText(finding.text));
+    Print(session, diagnosis.findings);
     for (const ExaminedFigures& figures : diagnosis.figures) {
         std::string line = "figures\t" + EscapeText(figures.recipe);
         for (const ExaminedFigures::Pair& pair : figures.pairs)
@@ -98,6 +115,7 @@ constexpr Command kCommands[] = {
     {"export", "[new] FILE NAME...", "copies recipes into a recipe file", Export},
     {"import", "FOLDERID FILE [NAME...]", "copies recipes of a recipe file into a folder", Import},
     {"carried", "NAME", "what a recipe carries from another program, as a tree", Carried},
+    {"exportas", "beerxml|beerjson FILE NAME...", "writes recipes for other brewing programs", ExportAs},
     {"doctor", "FILE", "examines a file of another brewing program", Doctor},
     {"remedy", "WORD", "chooses a remedy for the next import of such a file", Remedy},
     {"filesql", "FILE TEXT", "runs a statement on a recipe file", FileSql},

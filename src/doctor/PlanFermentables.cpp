@@ -65,17 +65,16 @@ std::string AmountText(PlanContext& c, const ForeignFermentable& line, const std
 // Returns the points that yield and potential state; nullopt if the file has neither.
 std::optional<double> StatedPoints(PlanContext& c, const ForeignFermentable& line, const std::string& place) {
     constexpr double kApart = 2, kFull = 100;
-    const std::optional<double> byYield =
-        line.yield ? std::optional(*line.yield / kFull * kPointsOfFullYield) : std::nullopt;
-    const std::optional<double> byPotential =
-        line.potential ? std::optional((*line.potential - 1) * 1000) : std::nullopt;
-    if (!byYield || !byPotential) return byYield ? byYield : byPotential;
-    if (std::abs(*byYield - *byPotential) < kApart) return byYield;
+    if (!line.yield && !line.potential) return std::nullopt;
+    const double byYield = line.yield.value_or(0) / kFull * kPointsOfFullYield;
+    const double byPotential = (line.potential.value_or(1) - 1) * 1000;
+    if (!line.yield) return byPotential;
+    if (!line.potential || std::abs(byYield - byPotential) < kApart) return byYield;
     const bool potentialWins = *line.yield == kFull;
-    const double used = potentialWins ? *byPotential : *byYield;
+    const double used = potentialWins ? byPotential : byYield;
     c.Report(Severity::Suspicious, FindingCode::YieldPotential, place,
-             "The yield of " + FewestDecimals(*line.yield) + "% means " + FewestDecimals(*byYield) +
-                 " points, the potential " + FewestDecimals(*byPotential) + "; " + FewestDecimals(used) +
+             "The yield of " + FewestDecimals(*line.yield) + "% means " + FewestDecimals(byYield) +
+                 " points, the potential " + FewestDecimals(byPotential) + "; " + FewestDecimals(used) +
                  " was taken.");
     return used;
 }

@@ -200,6 +200,24 @@ void CheckAmounts(const ForeignRecipe& recipe, Findings& findings) {
     check.Attenuation();
 }
 
+void NoteHopForms(const ForeignFile& file, Findings& findings) {
+    const auto isPressed = [](const ForeignHop& hop) {
+        const auto form = hop.form.value_or(ForeignHop::Form::Pellet);
+        return form == ForeignHop::Form::Pellet || form == ForeignHop::Form::Powder;
+    };
+    const bool concerned = std::ranges::any_of(file.recipes, [&](const ForeignRecipe& recipe) {
+        return recipe.stated.ibu.value_or(0) > 0 && std::ranges::any_of(recipe.hops, isPressed);
+    });
+    if (concerned)
+        findings.Add(
+            {Severity::Note,
+             FindingCode::IbuDiffers,
+             {},
+             "Bitterness",
+             "Pellets count 15% more here than in most other programs; stated bitterness is compared "
+             "without that."});
+}
+
 RemediesOffered CheckFigures(const ForeignRecipe& recipe, const TypedFigures& typed, Findings& findings) {
     FigureCheck check(recipe, typed, findings);
     RemediesOffered offered;

@@ -24,6 +24,9 @@ struct RemediesOffered {
 // smaller than the batch, an attenuation outside of 40 to 100 %.
 void CheckAmounts(const ForeignRecipe& recipe, Findings& findings);
 
+// Adds one note if a recipe of the file states a bitterness and has hops that are no leaf hops.
+void NoteHopForms(const ForeignFile& file, Findings& findings);
+
 // What a recipe says after it has been typed here.
 struct TypedFigures {
     StatedFigures calculated;

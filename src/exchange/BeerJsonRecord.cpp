@@ -25,8 +25,9 @@ QuantityText TextOf(const Json& value) {
     if (number == nullptr || (!number->AsNumber() && number->AsText() == nullptr))
         return {.text = {}, .isOther = number == nullptr || !number->IsNull()};
     QuantityText quantity = TextOf(*number);
-    if (unit == nullptr || unit->AsText() == nullptr || TrimSpace(*unit->AsText()).empty()) return quantity;
-    quantity.text += " " + *unit->AsText();
+    const std::string* const word = unit == nullptr ? nullptr : unit->AsText();
+    if (word == nullptr || TrimSpace(*word).empty()) return quantity;
+    quantity.text += " " + *word;
     quantity.hasUnit = quantity.isBare;
     quantity.isBare = false;
     return quantity;
@@ -196,7 +197,9 @@ void BeerJsonRecord::TellKeys(JsonRecord record, bool isInRecipe) const {
             empty.emplace_back(key.key);
     }
     std::set<std::string_view> names;
-    for (const JsonMember& member : *value_.AsObject()) {
+    const Json::Object* const members = value_.AsObject();
+    if (members == nullptr) return;
+    for (const JsonMember& member : *members) {
         if (!names.insert(member.name).second) twice.push_back(Quoted(member.name));
         if (std::ranges::find(keys, std::string_view(member.name), &JsonKey::key) == keys.end())
             telling_.NoteUnknown(member.name);

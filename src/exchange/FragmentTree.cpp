@@ -67,7 +67,8 @@ bool IsScalar(const Json* value) {
 std::optional<std::string> AmountText(const Json& value) {
     const Json* const amount = value.Find("value");
     const Json* const unit = value.Find("unit");
-    if (value.AsObject()->size() != 2 || !IsScalar(amount) || !IsScalar(unit)) return std::nullopt;
+    const Json::Object* const members = value.AsObject();
+    if (members == nullptr || members->size() != 2 || !IsScalar(amount) || !IsScalar(unit)) return std::nullopt;
     return ScalarText(*amount) + " " + ScalarText(*unit);
 }
 

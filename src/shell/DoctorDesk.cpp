@@ -4,7 +4,11 @@
 #include <filesystem>
 
 #include "doctor/AmountTexts.h"
+#include "doctor/RecipeExporter.h"
+#include "exchange/BeerJsonWriter.h"
+#include "exchange/BeerXmlWriter.h"
 #include "exchange/ForeignFileReader.h"
+#include "platform/TargetFile.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -84,6 +88,7 @@ ImportOptions DoctorDesk::Options() const {
 Diagnosis DoctorDesk::Examine(const std::string& path) {
     const ForeignFile file = ReadFile(path);
     Diagnosis diagnosis{file.findings, {}};
+    NoteHopForms(file, diagnosis.findings);
     RecipeDoctor doctor = Doctor();
     for (const ForeignRecipe& recipe : file.recipes) {
         const ExaminedRecipe examined = doctor.Examine(recipe, Options());
@@ -103,6 +108,19 @@ int DoctorDesk::Import(const std::string& path, std::int64_t folderId,
     Findings findings = file.findings;
     return ForeignImport(doctor, data_.Catalogue(), host)
         .Run(file, std::filesystem::path(path).filename().string(), {*chosen, folderId, options}, findings);
+}
+
+Findings DoctorDesk::Export(ExchangeFormat format, const std::string& path,
+                            std::span<const std::string> names) {
+    const TargetFile target(path, own_);
+    Findings findings;
+    RecipeExporter exporter(*data_.database, data_.platform, colors_, Options().units);
+    std::vector<ExportedRecipe> recipes;
+    recipes.reserve(names.size());
+    for (const std::string& name : names) recipes.push_back(exporter.Prepare(name, format, findings));
+    target.Replace(format == ExchangeFormat::BeerXml ? WriteBeerXml(recipes, findings)
+                                                     : WriteBeerJson(recipes, findings));
+    return findings;
 }
 
 bool DoctorDesk::Remedy(std::string_view word) {

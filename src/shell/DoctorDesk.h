@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,7 @@
 #include "doctor/ForeignImport.h"
 #include "doctor/RecipeDoctor.h"
 #include "exchange/ForeignRecipe.h"
+#include "platform/OwnFiles.h"
 #include "shell/OpenedDatabase.h"
 #include "shell/SettingsInUse.h"
 
@@ -36,8 +38,8 @@ struct Diagnosis {
 class DoctorDesk {
   public:
     // All arguments must outlive the object.
-    DoctorDesk(OpenedDatabase& data, SettingsInUse& settings, const ColorTable& colors)
-        : data_(data), settings_(settings), colors_(colors) {}
+    DoctorDesk(OpenedDatabase& data, SettingsInUse& settings, const ColorTable& colors, OwnFiles& own)
+        : data_(data), settings_(settings), colors_(colors), own_(own) {}
 
     // Returns true if the file is one of another brewing program that can be imported, or nearly so.
     static bool Takes(const std::string& path);
@@ -50,6 +52,11 @@ class DoctorDesk {
     // nothing of the file is stored. The tree is not brought in line.
     int Import(const std::string& path, std::int64_t folderId,
                const std::optional<std::vector<std::string>>& names, CopyHost& host);
+
+    // Writes the stored recipes of these names as a new file of that format, which replaces an older one as a
+    // whole, and returns what the format cannot say. Raises Error if there is no such recipe or the file
+    // cannot be written; an older file then remains.
+    Findings Export(ExchangeFormat format, const std::string& path, std::span<const std::string> names);
 
     // Chooses a remedy for the next import by its word: "grams", "gravity", "bitterness", "ebc", "styles",
     // "catalogue", "no-catalogue-figures". False if there is none of that word.
@@ -65,6 +72,7 @@ class DoctorDesk {
     OpenedDatabase& data_;
     SettingsInUse& settings_;
     const ColorTable& colors_;
+    OwnFiles& own_;
     std::optional<ImportOptions> next_;  // with the remedies chosen for the next import
 };
 

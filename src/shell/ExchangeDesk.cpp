@@ -1,8 +1,12 @@
 #include "shell/ExchangeDesk.h"
 
+#include <filesystem>
+
 #include "platform/ErrorBox.h"
+#include "platform/FileDialogModel.h"
 #include "platform/ScopeGuard.h"
 #include "shell/CopyDialogs.h"
+#include "shell/ExportOtherModel.h"
 #include "shell/ImportPath.h"
 #include "shell/RecipeExchange.h"
 #include "tree/ProgressModel.h"
@@ -33,6 +37,41 @@ void ExchangeDesk::Import() {
 
 void ExchangeDesk::Export() {
     Run([](RecipeExchange& files) { files.Export(); });
+}
+
+void ExchangeDesk::ExportOther() {
+    Run([this](RecipeExchange&) {
+        ExportOtherModel recipes(data_.tree);
+        data_.platform.dialogs.ShowModal(recipes);
+        if (recipes.Cancelled()) return;
+        FileDialogModel file(recipes.FileDialog(), data_.platform.messages);
+        data_.platform.dialogs.ShowModal(file);
+        if (!file.Cancelled())
+            WriteForOthers(recipes.Format(), file.FileName(), recipes.Recipes().Selection());
+    });
+}
+
+void ExchangeDesk::WriteForOthers(ExchangeFormat format, const std::string& path,
+                                  const std::vector<std::string>& names) {
+    MessagePort& messages = data_.platform.messages;
+    Findings findings;
+    try {
+        findings = doctor_.Export(format, path, names);
+    } catch (const Error& error) {
+        return messages.ShowMessage("Error", error.Description());
+    }
+    const std::string count = std::to_string(names.size()) + (names.size() == 1 ? " recipe" : " recipes");
+    view_->SayBriefly("Exported " + count + " to " + std::filesystem::path(path).filename().string());
+    if (findings.IsEmpty()) return;
+    constexpr std::size_t kShown = 10;
+    std::string text = "The format cannot say everything:";
+    for (std::size_t i = 0; i < findings.All().size() && i < kShown; ++i) {
+        const Finding& finding = findings.All()[i];
+        text.append("\r\n").append(finding.recipe).append(": ").append(finding.text);
+    }
+    if (findings.All().size() > kShown)
+        text += "\r\nand " + std::to_string(findings.All().size() - kShown) + " more.";
+    messages.ShowMessage("Export for Other Programs", text);
 }
 
 void ExchangeDesk::ImportFile(const std::string& path) {

@@ -38,6 +38,8 @@ class ExchangeDesk {
     // Both show all their dialogs, beginning with that of the file or of the recipes.
     void Import();
     void Export();
+    // Exports for other brewing programs, with its dialogs.
+    void ExportOther();
     // Shows the dialogs that ask for the recipes and the folder.
     void ImportFile(const std::string& path);
     // Without names, imports all recipes of the file. A file of another brewing program is imported, too.
@@ -53,6 +55,8 @@ class ExchangeDesk {
     bool IsRunning() const { return running_; }
 
   private:
+    void WriteForOthers(ExchangeFormat format, const std::string& path,
+                        const std::vector<std::string>& names);
     void ImportForeign(const std::string& path, std::int64_t folderId,
                        const std::optional<std::vector<std::string>>& names);
     // Runs one import or export, unless another one is running.

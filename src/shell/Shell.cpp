@@ -42,7 +42,7 @@ Shell::OpenParts::OpenParts(Shell& shell, std::unique_ptr<Database> database)
                 data, catalogue}),
       recipes(data, shell.documents_, services, shell.states_, catalogue, shell.browse_, shell.view_),
       saver(data, shell.documents_, notices, shell.view_, shell.browse_),
-      doctor(data, shell.settings_, shell.colors_),
+      doctor(data, shell.settings_, shell.colors_, shell.own_),
       files(data, doctor, shell.documents_, shell.states_, shell.own_, shell.notice_, shell.view_),
       carried(data, shell.documents_, shell.states_),
       paper(shell.environment_, shell.instance_, data, shell.documents_, shell.store_, shell.own_),

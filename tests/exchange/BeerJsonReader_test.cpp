@@ -87,7 +87,8 @@ constexpr const char* kWhole = R"({"beerjson": {"version": 2.06, "recipes": [{
 }]}})";
 
 TEST(BeerJsonReader, AWholeRecipeLeavesNoFinding) {
-    for (const Finding& finding : Read(kWhole).findings.All())
+    const ForeignFile file = Read(kWhole);
+    for (const Finding& finding : file.findings.All())
         ADD_FAILURE() << finding.place << ": " << finding.text;
 }
 

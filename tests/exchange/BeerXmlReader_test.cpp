@@ -101,7 +101,8 @@ constexpr const char* kWhole = R"(<?xml version="1.0" encoding="UTF-8"?>
 )";
 
 TEST(BeerXmlReader, AWholeRecipeLeavesNoFinding) {
-    for (const Finding& finding : Read(kWhole).findings.All())
+    const ForeignFile file = Read(kWhole);
+    for (const Finding& finding : file.findings.All())
         ADD_FAILURE() << finding.place << ": " << finding.text;
 }
 
