@@ -40,30 +40,6 @@ bool HasElements(pugi::xml_node element) {
 
 }  // namespace
 
-void XmlWriteTelling::NoteLost(const std::vector<std::string>& what) {
-    for (const std::string& each : what) AddOnce(lost_, each);
-}
-
-void XmlWriteTelling::End() const {
-    telling_.TellFields(Severity::Note, FindingCode::Missing, "",
-                        "The format requires figures that are unknown, which were written as 0 or as the "
-                        "usual word",
-                        filled_);
-    telling_.TellFields(Severity::Note, FindingCode::NoNumber, "",
-                        "Fields without a usable value, which the format does not allow, were left out",
-                        dropped_);
-    telling_.TellFields(Severity::Repaired, FindingCode::WordCase, "",
-                        "Fields were written as the format spells them", respelled_);
-    telling_.TellFields(Severity::Repaired, FindingCode::Duplicate, "",
-                        "Of fields that a record had more than once, the first was written", twice_);
-    telling_.TellFields(Severity::NotCarried, FindingCode::Carried, "",
-                        "BeerXML has no place for what was left out", lost_);
-}
-
-void XmlWriteTelling::AddOnce(std::vector<std::string>& list, const std::string& text) {
-    if (std::ranges::find(list, text) == list.end()) list.push_back(text);
-}
-
 bool RemoveStrayText(pugi::xml_node element) {
     bool isStray = false;
     pugi::xml_node next;
@@ -76,7 +52,7 @@ bool RemoveStrayText(pugi::xml_node element) {
     return isStray;
 }
 
-BeerXmlEditor::BeerXmlEditor(pugi::xml_node element, XmlRecord record, XmlWriteTelling& telling,
+BeerXmlEditor::BeerXmlEditor(pugi::xml_node element, XmlRecord record, WriteTelling& telling,
                              std::string place)
     : element_(element),
       rule_(RuleOf(record)),

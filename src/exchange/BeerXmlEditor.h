@@ -8,34 +8,9 @@
 
 #include "exchange/BeerXmlTags.h"
 #include "exchange/BeerXmlValues.h"
-#include "exchange/ForeignTelling.h"
+#include "exchange/WriteTelling.h"
 
 namespace tw {
-
-// What writing one recipe has to tell; what occurs in many lines is told once.
-class XmlWriteTelling {
-  public:
-    XmlWriteTelling(Findings& findings, std::string recipe) : telling_(findings, std::move(recipe)) {}
-
-    void Tell(Severity severity, FindingCode code, std::string_view place, std::string text) const {
-        telling_.Tell(severity, code, place, std::move(text));
-    }
-    // Each notes a field by its path: "HOP/ALPHA".
-    void NoteFilled(const std::string& path) { AddOnce(filled_, path); }
-    void NoteDropped(const std::string& path) { AddOnce(dropped_, path); }
-    void NoteRespelled(const std::string& path) { AddOnce(respelled_, path); }
-    void NoteTwice(const std::string& path) { AddOnce(twice_, path); }
-    // Notes facts for which the format has no field.
-    void NoteLost(const std::vector<std::string>& what);
-    // Tells of everything noted.
-    void End() const;
-
-  private:
-    static void AddOnce(std::vector<std::string>& list, const std::string& text);
-
-    ForeignTelling telling_;
-    std::vector<std::string> filled_, dropped_, respelled_, twice_, lost_;
-};
 
 // Removes texts that stand directly in an element that holds only others, such as a record. Returns true if
 // there were any but blanks.
@@ -45,7 +20,7 @@ class BeerXmlEditor {
   public:
     // Spells the tags of the element's fields as the format does. Of a field that it has twice the first
     // stays; record sets are left alone. Removes stray text. place is as in a Finding.
-    BeerXmlEditor(pugi::xml_node element, XmlRecord record, XmlWriteTelling& telling, std::string place);
+    BeerXmlEditor(pugi::xml_node element, XmlRecord record, WriteTelling& telling, std::string place);
 
     // In all of these, tag is a field of the record.
 
@@ -77,7 +52,7 @@ class BeerXmlEditor {
 
     pugi::xml_node element_;
     const XmlRecordRule& rule_;
-    XmlWriteTelling& telling_;
+    WriteTelling& telling_;
     std::string place_;
     std::vector<pugi::xml_node> slots_;  // as many as the record has fields
 };

@@ -8,6 +8,7 @@
 #include "exchange/BeerXmlWords.h"
 #include "exchange/ExchangeText.h"
 #include "exchange/ForeignFigure.h"
+#include "exchange/RecipeKind.h"
 
 namespace tw {
 namespace {
@@ -161,19 +162,6 @@ void AddUse(Fields& fields, const std::optional<ForeignUse>& use, std::string_vi
         fields.Word("USE", {"Boil", false}, FindingCode::HopUse, written);
 }
 
-ForeignRecipe::Type TypeOf(const ForeignRecipe& recipe) {
-    using Type = ForeignFermentable::Type;
-    if (recipe.type) return *recipe.type;
-    bool hasGrain = false;
-    bool hasExtract = false;
-    for (const ForeignFermentable& line : recipe.fermentables) {
-        hasGrain = hasGrain || !line.type || *line.type == Type::Grain || *line.type == Type::Adjunct;
-        hasExtract = hasExtract || line.type == Type::Extract || line.type == Type::DryExtract;
-    }
-    if (!hasExtract) return ForeignRecipe::Type::AllGrain;
-    return hasGrain ? ForeignRecipe::Type::PartialMash : ForeignRecipe::Type::Extract;
-}
-
 // The figures that the format has for a reader only.
 void AddStated(Fields& fields, const ForeignRecipe& recipe) {
     const StatedFigures& stated = recipe.stated;
@@ -307,7 +295,7 @@ XmlValues XmlValuesOf(const ForeignRecipe& recipe) {
     Fields fields;
     fields.Text("NAME", recipe.name);
     fields.Text("VERSION", "1");
-    fields.Text("TYPE", XmlRecipeType(TypeOf(recipe)));
+    fields.Text("TYPE", XmlRecipeType(RecipeKindOf(recipe)));
     fields.Text("BREWER", recipe.brewer);
     fields.Text("ASST_BREWER", recipe.assistant);
     fields.Volume("BATCH_SIZE", "DISPLAY_BATCH_SIZE", recipe.batchSize);

@@ -95,7 +95,7 @@ class RecipeWriter {
         : recipe_(recipe),
           exported_(exported),
           isNew_(!recipe.first_child()),
-          telling_(findings, exported.facts.name) {}
+          telling_(findings, exported.facts.name, "BeerXML") {}
 
     void Write() {
         Gather();
@@ -282,7 +282,7 @@ class RecipeWriter {
     pugi::xml_node recipe_;
     const ExportedRecipe& exported_;
     const bool isNew_;
-    XmlWriteTelling telling_;
+    WriteTelling telling_;
     Elements elements_;
 };
 
