@@ -10,6 +10,7 @@
 #include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 #include "exchange/BeerJsonReader.h"
 #include "exchange/BeerJsonWriter.h"
@@ -215,6 +216,81 @@ TEST(WrittenSamples, XmlKeepsItsLinesThroughJsonAndBack) {
                 EXPECT_NEAR(after.stated.ibu.value_or(0), facts.stated.ibu.value_or(0), 1e-4) << sample.name;
             }
         }
+    }
+}
+
+// Of all damages, every so many-th is tried: each field of each kind is among them in some file.
+constexpr std::size_t kEvery = 11;
+
+// Calls visit for every value within value, which it may replace.
+template <class Visit>
+void VisitAll(Json& value, const Visit& visit) {
+    if (Json::Object* const members = value.AsObject())
+        for (JsonMember& member : *members) {
+            VisitAll(member.value, visit);
+            visit(member.value);
+        }
+    if (Json::Array* const elements = value.AsArray())
+        for (Json& element : *elements) {
+            VisitAll(element, visit);
+            visit(element);
+        }
+}
+
+TEST(WrittenSamples, AnyDamagedValueOfAJsonOriginalIsWrittenValid) {
+    const auto samples = Samples();
+    if (samples.empty()) GTEST_SKIP() << "TW_EXCHANGE_FILES names no folder with samples";
+    std::vector<std::string> written;
+    std::size_t count = 0;
+    for (const Sample& sample : samples) {
+        if (sample.isXml || sample.file.recipes.empty()) continue;
+        std::vector<ExportedRecipe> damaged;
+        Json recipe = ParseJson(sample.file.recipes[0].fragment).value;
+        for (const char* replacement : {"null", "\"odd\"", "-1.5", "[]", "{}", "[7]", "true"}) {
+            VisitAll(recipe, [&](Json& value) {
+                if (++count % kEvery != 0) return;
+                const Json sound = std::exchange(value, ParseJson(replacement).value);
+                ForeignFile file;
+                ReadBeerJson(R"({"beerjson": {"version": 1, "recipes": [)" + DumpJson(recipe) + "]}}", file);
+                for (const ForeignRecipe& facts : file.recipes) damaged.push_back(Original(facts));
+                value = sound;
+            });
+        }
+        Findings findings;
+        written.push_back(WriteBeerJson(damaged, findings));
+    }
+    const Checked checked = CheckJson(written);
+    if (checked.status == 77) GTEST_SKIP() << checked.faults;
+    EXPECT_EQ(checked.status, 0) << checked.faults.substr(0, 4000);
+}
+
+TEST(WrittenSamples, AnyDamagedFieldOfAnXmlOriginalIsWrittenValid) {
+    const auto samples = Samples();
+    if (samples.empty()) GTEST_SKIP() << "TW_EXCHANGE_FILES names no folder with samples";
+    std::size_t count = 0;
+    for (const Sample& sample : samples) {
+        if (!sample.isXml || sample.file.recipes.empty()) continue;
+        std::vector<ExportedRecipe> damaged;
+        pugi::xml_document recipe;
+        ASSERT_TRUE(recipe.load_string(sample.file.recipes[0].fragment.c_str()));
+        for (const char* replacement : {"", "odd", "NaN", "-1.5", "1e400", "10 %", "<A>1</A>"}) {
+            for (const pugi::xpath_node& found : recipe.select_nodes("//*[not(*)]")) {
+                if (++count % kEvery != 0) continue;
+                pugi::xml_node element = found.node();
+                const std::string sound = element.child_value();
+                element.remove_children();
+                element.append_buffer(replacement, std::string(replacement).size());
+                std::ostringstream text;
+                recipe.save(text);
+                ForeignFile file;
+                ReadBeerXml("<RECIPES>" + text.str().substr(text.str().find("<RECIPE")) + "</RECIPES>", file);
+                for (const ForeignRecipe& facts : file.recipes) damaged.push_back(Original(facts));
+                element.remove_children();
+                element.append_child(pugi::node_pcdata).set_value(sound.c_str());
+            }
+        }
+        Findings findings;
+        EXPECT_EQ(test::XmlSchemaErrors(WriteBeerXml(damaged, findings)).substr(0, 2000), "") << sample.name;
     }
 }
 
