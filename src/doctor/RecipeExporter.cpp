@@ -104,22 +104,35 @@ class ExportAssembly {
         origins.push_back({from ? std::optional(from->index) : std::nullopt, unchanged});
     }
 
+    // Returns a line of the original with the amount as it was typed here, for a format that has units; the
+    // original may have shown none.
+    template <class Line>
+    static Line Shown(Line line, const PlannedLine& planned) {
+        // In every other grid of lines it is the second column.
+        int col = GrainCol::Amount;
+        if (planned.grid == GridId::Hops) col = HopCol::Amount;
+        const auto amount = std::ranges::find(planned.cells, col, &PlannedCell::col);
+        if (line.amount && line.amount->written.empty() && amount != planned.cells.end())
+            line.amount->written = amount->text;
+        return line;
+    }
+
     // The lines go back as they came.
     void Keep(const PlannedLine& line) {
         for (const ForeignLine& from : line.from) {
             switch (from.kind) {
                 case Kind::Fermentable:
-                    Put(out_.facts.fermentables, out_.fermentables, base_.fermentables[from.index], &from,
-                        true);
+                    Put(out_.facts.fermentables, out_.fermentables,
+                        Shown(base_.fermentables[from.index], line), &from, true);
                     break;
                 case Kind::Hop:
-                    Put(out_.facts.hops, out_.hops, base_.hops[from.index], &from, true);
+                    Put(out_.facts.hops, out_.hops, Shown(base_.hops[from.index], line), &from, true);
                     break;
                 case Kind::Yeast:
                     Put(out_.facts.yeasts, out_.yeasts, base_.yeasts[from.index], &from, true);
                     break;
                 case Kind::Misc:
-                    Put(out_.facts.miscs, out_.miscs, base_.miscs[from.index], &from, true);
+                    Put(out_.facts.miscs, out_.miscs, Shown(base_.miscs[from.index], line), &from, true);
                     break;
                 case Kind::Water:
                     Put(out_.facts.waters, out_.waters, base_.waters[from.index], &from, true);
@@ -157,8 +170,11 @@ class ExportAssembly {
             TakeLines(now);
             out_.facts = std::move(now);
             out_.facts.type = TypeOf();
+            out_.facts.boilMinutes = LongestBoil();
             return;
         }
+        ShowVolume(out_.facts.batchSize, now.batchSize);
+        ShowVolume(out_.facts.boilSize, now.boilSize);
         Take(ExportedField::Name, SameText(plan_->name, now.name), &ForeignRecipe::name, now);
         Take(ExportedField::BatchSize, Unchanged(FieldId::TotalVol), &ForeignRecipe::batchSize, now);
         Take(ExportedField::BoilSize, Unchanged(FieldId::BoilVol), &ForeignRecipe::boilSize, now);
@@ -171,6 +187,11 @@ class ExportAssembly {
              &ForeignRecipe::style, now);
         Carbonation(now);
         Figures(now);
+    }
+
+    static void ShowVolume(std::optional<ForeignAmount>& original,
+                           const std::optional<ForeignAmount>& typed) {
+        if (original && typed && original->written.empty()) original->written = typed->written;
     }
 
     // Moves the lines that have been put together to recipe.
@@ -193,6 +214,15 @@ class ExportAssembly {
         });
         if (!mashes && extracts) return ForeignRecipe::Type::Extract;
         return extracts ? ForeignRecipe::Type::PartialMash : ForeignRecipe::Type::AllGrain;
+    }
+
+    // The boil lasts as long as the first hop in it; a recipe without boiled hops does not tell.
+    std::optional<double> LongestBoil() const {
+        std::optional<double> longest;
+        for (const ForeignHop& hop : out_.facts.hops)
+            if (hop.use == ForeignUse::Boil && hop.minutes)
+                longest = std::max(longest.value_or(0), *hop.minutes);
+        return longest;
     }
 
     bool Unchanged(FieldId field) const {

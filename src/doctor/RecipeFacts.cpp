@@ -210,7 +210,7 @@ ForeignRecipe RecipeFacts::Fields() const {
     facts.batchSize = VolumeOf(r.txtTotalVol);
     facts.boilSize = VolumeOf(r.txtBoilVol);
     if (!r.txtExtract.Empty()) facts.efficiency = r.txtExtract.Value();
-    facts.hopUtilization = r.txtHopExtraction.Value() * kFull;
+    if (r.txtHopExtraction.Value() != 1) facts.hopUtilization = r.txtHopExtraction.Value() * kFull;
     facts.stated = CalculatedFigures(r);
     constexpr std::array kMethods = {ForeignIbuMethod::Tinseth, ForeignIbuMethod::Rager,
                                      ForeignIbuMethod::Garetz};
