@@ -9,8 +9,8 @@
 #include "exchange/AsciiCase.h"
 #include "exchange/BeerXmlEditor.h"
 #include "exchange/BeerXmlRecord.h"
-#include "exchange/ExchangeText.h"
 #include "exchange/ExchangeLimits.h"
+#include "exchange/ExchangeText.h"
 #include "exchange/ForeignPlace.h"
 
 namespace tw {
@@ -205,11 +205,11 @@ class RecipeWriter {
         std::vector<pugi::xml_node> originals = std::move(Of(record));
         std::vector<pugi::xml_node> written;
         for (std::size_t i = 0; i < lines.size(); ++i) {
-            const LineOrigin origin = i < origins.size() ? origins[i] : LineOrigin();
+            const LineOrigin* const origin = i < origins.size() ? &origins[i] : nullptr;
             pugi::xml_node element;
-            if (origin.element && *origin.element < originals.size())
-                element = std::exchange(originals[*origin.element], pugi::xml_node());
-            const bool keeps = element && origin.unchanged;
+            if (origin != nullptr && origin->element.value_or(originals.size()) < originals.size())
+                element = std::exchange(originals[*origin->element], pugi::xml_node());
+            const bool keeps = element && origin->unchanged;
             if (!element) element = set.append_child(tag.c_str());
             element.set_name(tag.c_str());
             BeerXmlEditor line(element, record, telling_, LinePlace(place, i + 1, lines[i].name));

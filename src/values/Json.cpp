@@ -323,6 +323,34 @@ Json& Json::operator=(const Json& other) = default;
 Json& Json::operator=(Json&& other) noexcept = default;
 Json::~Json() = default;
 
+const bool* Json::AsBool() const {
+    return std::get_if<bool>(&value_);
+}
+
+const std::int64_t* Json::AsInteger() const {
+    return std::get_if<std::int64_t>(&value_);
+}
+
+const std::string* Json::AsText() const {
+    return std::get_if<std::string>(&value_);
+}
+
+const Json::Array* Json::AsArray() const {
+    return std::get_if<Array>(&value_);
+}
+
+Json::Array* Json::AsArray() {
+    return std::get_if<Array>(&value_);
+}
+
+const Json::Object* Json::AsObject() const {
+    return std::get_if<Object>(&value_);
+}
+
+Json::Object* Json::AsObject() {
+    return std::get_if<Object>(&value_);
+}
+
 std::optional<double> Json::AsNumber() const {
     if (const auto* const number = std::get_if<double>(&value_)) return *number;
     if (const std::int64_t* const integer = AsInteger()) return static_cast<double>(*integer);

@@ -42,13 +42,13 @@ class Json {
 
     bool IsNull() const { return std::holds_alternative<std::monostate>(value_); }
     // nullptr if the value is of another kind.
-    const bool* AsBool() const { return std::get_if<bool>(&value_); }
-    const std::int64_t* AsInteger() const { return std::get_if<std::int64_t>(&value_); }
-    const std::string* AsText() const { return std::get_if<std::string>(&value_); }
-    const Array* AsArray() const { return std::get_if<Array>(&value_); }
-    Array* AsArray() { return std::get_if<Array>(&value_); }
-    const Object* AsObject() const { return std::get_if<Object>(&value_); }
-    Object* AsObject() { return std::get_if<Object>(&value_); }
+    const bool* AsBool() const;
+    const std::int64_t* AsInteger() const;
+    const std::string* AsText() const;
+    const Array* AsArray() const;
+    Array* AsArray();
+    const Object* AsObject() const;
+    Object* AsObject();
     // Returns the number without its unit, an integer or not; nothing for every other kind.
     std::optional<double> AsNumber() const;
 

@@ -476,7 +476,9 @@ class DamagedSamples : public testing::Test {
     }
     static std::string Read(const std::filesystem::path& path) {
         std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        std::ostringstream bytes;
+        bytes << file.rdbuf();
+        return bytes.str();
     }
 
     std::vector<std::filesystem::path> paths_;
