@@ -10,6 +10,7 @@
 #include <pugixml.hpp>
 #include <random>
 #include <set>
+#include <sstream>
 
 #include "exchange/AsciiCase.h"
 #include "exchange/TextEncoding.h"
