@@ -1,6 +1,7 @@
 #include "platform/FileDialogModel.h"
 
 #include <filesystem>
+#include <utility>
 
 namespace tw {
 
@@ -10,14 +11,14 @@ FileDialogModel::FileDialogModel(Options options, MessagePort& messages)
     AddButtons({{"cmdOK", [this] { Ok(); }}, {"cmdCancel", [this] { Close(); }}});
 }
 
-void FileDialogModel::Take(std::string_view fileName) {
-    fileName_ = fileName;
+void FileDialogModel::Take(std::vector<std::string> fileNames) {
+    fileNames_ = std::move(fileNames);
     Accept();
 }
 
 void FileDialogModel::Ok() {
     const std::string fileName = WithExtension();
-    if (Accepts(fileName)) Take(fileName);
+    if (Accepts(fileName)) Take({fileName});
 }
 
 std::string FileDialogModel::WithExtension() const {

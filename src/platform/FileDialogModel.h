@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/FormModel.h"
 #include "platform/Ports.h"
@@ -21,19 +22,21 @@ class FileDialogModel final : public FormModel {
         Kind kind = Kind::Open;
         std::string title;
         std::string extension;     // without a dot; added to a name that has none
-        std::string filterName;    // "Tunwright Recipes (*.TWR)"
+        std::string filterName;    // "Tunwright Recipes (*.TWR)"; ";;" before another one
         std::string filter;        // "*.TWR"
         bool askToReplace = true;  // when saving: asks before an existing file is chosen
+        bool several = false;      // when opening: the desktop's dialog takes more than one file
     };
 
     // messages must outlive the dialog.
     FileDialogModel(Options options, MessagePort& messages);
 
     const Options& Settings() const { return options_; }
-    // The name chosen, with its extension; empty until the dialog has been accepted.
-    const std::string& FileName() const { return fileName_; }
-    // Accepts a name that the desktop's dialog has checked, and closes the dialog.
-    void Take(std::string_view fileName);
+    // The name chosen, with its extension; the first of several. Empty until the dialog has been accepted.
+    std::string FileName() const { return fileNames_.empty() ? std::string() : fileNames_.front(); }
+    const std::vector<std::string>& FileNames() const { return fileNames_; }
+    // Accepts names that the desktop's dialog has checked, and closes the dialog.
+    void Take(std::vector<std::string> fileNames);
 
   private:
     void Ok();
@@ -43,7 +46,7 @@ class FileDialogModel final : public FormModel {
     Options options_;
     MessagePort& messages_;
     std::string text_;
-    std::string fileName_;
+    std::vector<std::string> fileNames_;
 };
 
 }  // namespace tw

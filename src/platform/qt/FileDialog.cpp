@@ -10,12 +10,15 @@ FileDialog::FileDialog(FileDialogModel& model, QWidget* parent) : QFileDialog(pa
     setObjectName(ToQt(model.FormName()));
     setWindowTitle(ToQt(options.title));
     setAcceptMode(saves ? AcceptSave : AcceptOpen);
-    setFileMode(saves ? AnyFile : ExistingFile);
+    setFileMode(saves ? AnyFile : options.several ? ExistingFiles : ExistingFile);
     setOption(DontConfirmOverwrite, !options.askToReplace);
     setNameFilter(ToQt(options.filterName));
     setDefaultSuffix(ToQt(options.extension));
-    connect(this, &QFileDialog::fileSelected, this, [&model](const QString& file) {
-        if (!file.isEmpty()) model.Take(FromQt(file));
+    connect(this, &QFileDialog::filesSelected, this, [&model](const QStringList& files) {
+        std::vector<std::string> names;
+        for (const QString& file : files)
+            if (!file.isEmpty()) names.push_back(FromQt(file));
+        if (!names.empty()) model.Take(std::move(names));
     });
 }
 
