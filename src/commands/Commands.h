@@ -25,6 +25,7 @@ enum class CommandId : std::uint8_t {
     FileBar2,
     FileImport,
     FileExport,
+    FileDoctor,
     FileCarried,
     FileBar3,
     FileDelete,

@@ -12,10 +12,13 @@ bool CopyDialogs::Continue(const std::string& name, int number, int total) {
 }
 
 ConflictAnswer CopyDialogs::ResolveConflict(const std::string& name, const std::string& freeName) {
+    if (forAll_) return {*forAll_, freeName};
     NameConflictModel dialog(name, isImport_, platform_.messages);
     dialog.SetProposal(freeName);
+    if (offersAll_) dialog.OfferAll();
     const auto pause = Pause(progress_);
     platform_.dialogs.ShowModal(dialog);
+    if (dialog.ForAll()) forAll_ = dialog.Result().response;
     return dialog.Result();
 }
 

@@ -17,6 +17,9 @@ class CopyDialogs final : public CopyHost {
     CopyDialogs(Platform& platform, ProgressModel& progress, bool isImport)
         : platform_(platform), progress_(progress), isImport_(isImport) {}
 
+    // From now on, the question about a name that exists can be answered for all the rest.
+    void OfferAll() { offersAll_ = true; }
+
     // True once the first recipe is being copied.
     bool HasBegun() const { return begun_; }
 
@@ -30,6 +33,8 @@ class CopyDialogs final : public CopyHost {
     ProgressModel& progress_;
     bool isImport_;
     bool begun_ = false;
+    bool offersAll_ = false;
+    std::optional<ConflictResponse> forAll_;
 };
 
 }  // namespace tw

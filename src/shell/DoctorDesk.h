@@ -64,6 +64,8 @@ class DoctorDesk {
 
     // The options of an import without remedies.
     ImportOptions Options() const;
+    // Makes the units of an import those of the next ones.
+    void KeepUnits(ImportUnits units) { settings_.Values().importUnits = static_cast<int>(units); }
     RecipeDoctor Doctor() const {
         return RecipeDoctor(*data_.database, data_.platform, colors_, settings_.Defaults());
     }

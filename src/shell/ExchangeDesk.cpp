@@ -1,6 +1,9 @@
 #include "shell/ExchangeDesk.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <iterator>
+#include <utility>
 
 #include "platform/ErrorBox.h"
 #include "platform/FileDialogModel.h"
@@ -32,7 +35,9 @@ void ExchangeDesk::Run(const std::function<void(RecipeExchange&)>& operation) {
 }
 
 void ExchangeDesk::Import() {
-    Run([](RecipeExchange& files) { files.Import(); });
+    std::optional<std::string> path;
+    Run([&](RecipeExchange& files) { path = files.AskForFile(); });
+    if (path) ImportFile(*path);
 }
 
 void ExchangeDesk::Export() {
@@ -75,7 +80,27 @@ void ExchangeDesk::WriteForOthers(ExchangeFormat format, const std::string& path
 }
 
 void ExchangeDesk::ImportFile(const std::string& path) {
+    if (DoctorDesk::Takes(path)) return ShowDoctor({path});
     Run([&](RecipeExchange& files) { files.ImportFile(path); });
+}
+
+DoctorDialogs ExchangeDesk::Doctoring() {
+    return {data_,
+            doctor_,
+            own_,
+            {[this] { RebuildTree(); }, [this](const std::string& text) { view_->SayBriefly(text); }}};
+}
+
+void ExchangeDesk::ImportForeign() {
+    if (running_) return;
+    const ScopedValue running(running_, true);
+    Doctoring().AskAndShow();
+}
+
+void ExchangeDesk::ShowDoctor(const std::vector<std::string>& paths) {
+    if (running_) return;
+    const ScopedValue running(running_, true);
+    Doctoring().Show(paths);
 }
 
 void ExchangeDesk::ImportRecipes(const std::string& path, std::int64_t folderId,
@@ -105,6 +130,17 @@ void ExchangeDesk::ImportForeign(const std::string& path, std::int64_t folderId,
 void ExchangeDesk::ExportRecipes(const std::string& path, bool append,
                                  const std::vector<std::string>& names) {
     Run([&](RecipeExchange& files) { files.ExportTo(path, append, names); });
+}
+
+void ExchangeDesk::ImportFromPaths(const std::vector<std::string>& paths) {
+    std::vector<std::string> foreign;
+    std::ranges::copy_if(paths, std::back_inserter(foreign), &DoctorDesk::Takes);
+    for (const std::string& path : paths) {
+        if (!foreign.empty() && path == foreign.front())
+            RunShowingErrors(data_.platform.messages, [&] { ShowDoctor(std::exchange(foreign, {})); });
+        else if (!DoctorDesk::Takes(path))
+            ImportFromPath(path);
+    }
 }
 
 void ExchangeDesk::ImportFromPath(std::string_view path) {

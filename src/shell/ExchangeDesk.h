@@ -11,6 +11,7 @@
 #include "platform/OwnFiles.h"
 #include "shell/CommandStates.h"
 #include "shell/DoctorDesk.h"
+#include "shell/DoctorDialogs.h"
 #include "shell/DocumentManager.h"
 #include "shell/OpenedDatabase.h"
 #include "shell/StatusNotice.h"
@@ -40,8 +41,11 @@ class ExchangeDesk {
     void Export();
     // Exports for other brewing programs, with its dialogs.
     void ExportOther();
-    // Shows the dialogs that ask for the recipes and the folder.
+    // Shows the dialogs that ask for the recipes and the folder. A file of another brewing program is shown
+    // in the window of ImportForeign instead.
     void ImportFile(const std::string& path);
+    // Shows the window that imports from other programs, after a dialog that asks for files.
+    void ImportForeign();
     // Without names, imports all recipes of the file. A file of another brewing program is imported, too.
     void ImportRecipes(const std::string& path, std::int64_t folderId,
                        const std::optional<std::vector<std::string>>& names);
@@ -51,14 +55,20 @@ class ExchangeDesk {
     // path are removed if there is no file under the path as given. Reports a missing file only if the path
     // began with a quote; scripts rely on that. Shows errors as RunShowingErrors does.
     void ImportFromPath(std::string_view path);
+    // ImportFromPath for each of several files, in order; those of other brewing programs are shown in one
+    // window.
+    void ImportFromPaths(const std::vector<std::string>& paths);
     // True while recipes are being imported or exported.
     bool IsRunning() const { return running_; }
 
   private:
     void WriteForOthers(ExchangeFormat format, const std::string& path,
                         const std::vector<std::string>& names);
+    // Imports without the window.
     void ImportForeign(const std::string& path, std::int64_t folderId,
                        const std::optional<std::vector<std::string>>& names);
+    void ShowDoctor(const std::vector<std::string>& paths);
+    DoctorDialogs Doctoring();
     // Runs one import or export, unless another one is running.
     void Run(const std::function<void(RecipeExchange&)>& operation);
     // Reads the tree from the database again, and updates whatever depends on it.

@@ -1,5 +1,7 @@
 #include "shell/NameConflictModel.h"
 
+#include <utility>
+
 #include "values/Text.h"
 
 namespace tw {
@@ -17,6 +19,9 @@ NameConflictModel::NameConflictModel(std::string recipeName, bool dirIn, Message
         {"lblSkip", [this] { return SkipText(); }},
         {"lblAbort", [this] { return AbortText(); }},
     });
+    FormControl forAll = CheckBox("chkAll", forAll_);
+    forAll.isThere = [this] { return offersAll_; };
+    AddControls({std::move(forAll)});
     AddButtons({
         {"cmdOverwrite", [this] { EndWith(ConflictResponse::Overwrite); }},
         {"cmdAbort", [this] { EndWith(ConflictResponse::Abort); }},

@@ -11,7 +11,8 @@
 
 namespace tw {
 
-// The controls are lblName, txtNewName, lblRename, lblSkip and lblAbort. The buttons are cmdOverwrite,
+// The controls are lblName, txtNewName, lblRename, lblSkip and lblAbort, and chkAll if all the rest can be
+// answered at once. The buttons are cmdOverwrite,
 // cmdAbort, cmdSkip, and cmdRename, which keeps the dialog open if the new name is blank or unchanged. The
 // close box aborts.
 class NameConflictModel final : public FormModel {
@@ -26,6 +27,12 @@ class NameConflictModel final : public FormModel {
     void SetProposal(std::string freeName) { proposal_ = std::move(freeName); }
     // Empty if none has been set.
     const std::string& Proposal() const { return proposal_; }
+
+    // Shows chkAll, with which the answer holds for the rest of the recipes.
+    void OfferAll() { offersAll_ = true; }
+    bool OffersAll() const { return offersAll_; }
+    // True if the answer holds for the rest of the recipes.
+    bool ForAll() const { return forAll_; }
 
     const ConflictAnswer& Result() const { return answer_; }
     const std::string& RecipeName() const { return recipeName_; }
@@ -48,6 +55,8 @@ class NameConflictModel final : public FormModel {
     std::string newName_;
     std::string proposal_;
     bool dirIn_;
+    bool offersAll_ = false;
+    bool forAll_ = false;
     MessagePort& messages_;
     ConflictAnswer answer_;
 };

@@ -81,11 +81,12 @@ void RecipeExchange::Export() {
     if (!file.Cancelled()) ExportTo(file.FileName(), recipes.Append(), recipes.Recipes().Selection());
 }
 
-void RecipeExchange::Import() {
+std::optional<std::string> RecipeExchange::AskForFile() {
     FileDialogModel file(FileDialog(FileDialogModel::Kind::Open, "Import Recipes", false),
                          platform_.messages);
     platform_.dialogs.ShowModal(file);
-    if (!file.Cancelled()) ImportFile(file.FileName());
+    if (file.Cancelled()) return std::nullopt;
+    return file.FileName();
 }
 
 void RecipeExchange::ImportFile(const std::string& path) {

@@ -43,9 +43,10 @@ class RecipeExchange {
           own_(own),
           hooks_(std::move(hooks)) {}
 
-    // Export and import with all dialogs; cancelling one ends the operation without a message.
+    // With all dialogs; cancelling one ends the operation without a message.
     void Export();
-    void Import();
+    // Asks for a file to import. Returns nullopt if the brewer cancels.
+    std::optional<std::string> AskForFile();
     // Imports from path, with the dialogs that follow that of the file.
     void ImportFile(const std::string& path);
 

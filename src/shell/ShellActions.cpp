@@ -133,6 +133,7 @@ const ShellActions::Row ShellActions::kRows[] = {
     {CommandId::FileSaveAll, [](On on) { on.saver.SaveAll(); }},
     {CommandId::FileImport, [](On on) { on.files.Import(); }},
     {CommandId::FileExport, [](On on) { on.files.Export(); }},
+    {CommandId::FileDoctor, [](On on) { on.files.ImportForeign(); }},
     {CommandId::FileCarried, [](On on) { on.carried.Show(); }},
     {CommandId::FileDelete, [](On on) { on.recipes.ShowDeleteDialog(); }},
     {CommandId::FilePrint, [](On on) { on.paper.PrintActive(false); },

@@ -45,6 +45,7 @@ TEST(CommandBar, TheFileMenu) {
                   {"mnuFileSaveAll", "Save A&ll", "", "off"},
                   {"mnuFileImport", "&Import...", "", ""},
                   {"mnuFileExport", "Expo&rt...", "", ""},
+                  {"mnuFileDoctor", "Import from &Other Programs...", "", ""},
                   {"mnuFileCarried", "Carried &Data...", "", "off"},
                   {"mnuFileDelete", "&Delete...", "Ctrl+D", ""},
                   {"mnuFilePrint", "&Print...", "Ctrl+P", "off"},

@@ -14,11 +14,11 @@
 #include "platform/ScopeGuard.h"
 #include "platform/qt/Appearance.h"
 #include "platform/qt/ElidedLabel.h"
+#include "platform/qt/FileDrop.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/StoredColor.h"
 #include "shell/ui/CommandMenus.h"
 #include "shell/ui/DocumentArea.h"
-#include "shell/ui/FileDrop.h"
 #include "shell/ui/Icons.h"
 #include "shell/ui/MainGeometry.h"
 #include "shell/ui/SplashWindow.h"
@@ -64,8 +64,10 @@ MainWindow::MainWindow(Shell& shell, Platform& platform)
     keepTimer_->setInterval(kKeepMilliseconds);
     keepTimer_->setSingleShot(true);
     connect(keepTimer_, &QTimer::timeout, this, [this] { shell_.Unsaved().Keep(); });
-    new FileDrop(*this, [this](const QString& file) {
-        if (shell_.DB()) shell_.Opened()->files.ImportFromPath(FromQt(file));
+    new FileDrop(*this, [this](const QStringList& files) {
+        std::vector<std::string> paths;
+        for (const QString& file : files) paths.push_back(FromQt(file));
+        if (shell_.DB()) shell_.Opened()->files.ImportFromPaths(paths);
     });
     commandsTimer_->setObjectName(QStringLiteral("tmrProcessDDE"));
     commandsTimer_->setInterval(kDDETickMilliseconds);

@@ -1,5 +1,6 @@
 #include "shell/ui/NameConflictDialog.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -44,6 +45,7 @@ NameConflictDialog::NameConflictDialog(NameConflictModel& model, QWidget* parent
     AddChoice(*grid, "cmdSkip", tr("&Skip"), "lblSkip", ToQt(model.SkipText()));
     AddChoice(*grid, "cmdAbort", tr("&Abort"), "lblAbort", ToQt(model.AbortText()));
     column->addLayout(grid);
+    if (model.OffersAll()) AddForAll(*column);
     column->addStretch();
     newName_->setFocus();
     newName_->selectAll();
@@ -77,6 +79,16 @@ void NameConflictDialog::AddNewName(QGridLayout& grid) {
     grid.addWidget(label, row, 0);
     grid.addWidget(newName_, row, 1);
     grid.setRowMinimumHeight(row + 1, Unit(*this) * kGapUnits);
+}
+
+void NameConflictDialog::AddForAll(QVBoxLayout& column) {
+    auto* forAll = new QCheckBox(tr("Do the same for all &the rest"), this);
+    forAll->setObjectName(QStringLiteral("chkAll"));
+    forAll->setToolTip(tr("Further recipes are not asked about; to rename them, each gets a free name"));
+    connect(forAll, &QCheckBox::toggled, this,
+            [this](bool on) { model_.SetControl("chkAll", on ? "yes" : "no"); });
+    column.addSpacing(Unit(*this) * kGapUnits);
+    column.addWidget(forAll);
 }
 
 void NameConflictDialog::Press(const char* button) {

@@ -9,6 +9,7 @@ class QGridLayout;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QVBoxLayout;
 
 namespace tw {
 
@@ -25,6 +26,8 @@ class NameConflictDialog final : public QDialog {
     QPushButton* AddChoice(QGridLayout& grid, const char* button, const QString& caption, const char* label,
                            const QString& text);
     void AddNewName(QGridLayout& grid);
+    // Adds the check box that answers for the rest of the recipes.
+    void AddForAll(QVBoxLayout& column);
     void Press(const char* button);
 
     NameConflictModel& model_;

@@ -1,4 +1,4 @@
-#include "shell/ui/FileDrop.h"
+#include "platform/qt/FileDrop.h"
 
 #include <QApplication>
 #include <QDropEvent>
@@ -18,6 +18,11 @@ QStringList FileDrop::FilesOf(const QMimeData& data) {
     for (const QUrl& url : data.urls())
         if (url.isLocalFile()) files.append(url.toLocalFile());
     return files;
+}
+
+bool FileDrop::IsBlocked() const {
+    const QWidget* const modal = QApplication::activeModalWidget();
+    return modal && modal != &window_;
 }
 
 bool FileDrop::eventFilter(QObject* object, QEvent* event) {
@@ -48,19 +53,15 @@ void FileDrop::Follow(QDragMoveEvent& event) {
     window_.setCursor(hasFiles ? Qt::ArrowCursor : Qt::WaitCursor);
     // A drag without files is accepted so that its end is reported, but with IgnoreAction, so that it cannot
     // be dropped.
-    event.setDropAction(hasFiles && !QApplication::activeModalWidget() ? Qt::CopyAction : Qt::IgnoreAction);
+    event.setDropAction(hasFiles && !IsBlocked() ? Qt::CopyAction : Qt::IgnoreAction);
     event.accept();
 }
 
 // Queued, because the other program waits until the drop has ended: no dialog may open during it.
 void FileDrop::TakeLater(const QStringList& files) {
-    if (QApplication::activeModalWidget()) return;
+    if (files.isEmpty() || IsBlocked()) return;
     QMetaObject::invokeMethod(
-        this,
-        [this, files] {
-            for (const QString& file : files) take_(file);
-        },
-        Qt::QueuedConnection);
+        this, [this, files] { take_(files); }, Qt::QueuedConnection);
 }
 
 }  // namespace tw
