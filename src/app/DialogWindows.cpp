@@ -4,6 +4,7 @@
 #include "catalogue/ui/DatabaseSetupDialog.h"
 #include "catalogue/ui/EditorDialog.h"
 #include "doctor/ui/CarriedDataDialog.h"
+#include "doctor/ui/ImportDoctorDialog.h"
 #include "document/CannotUndo.h"
 #include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
@@ -80,6 +81,7 @@ void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors, SettingsPor
     dialogs.Register<NameConflictModel, NameConflictDialog>();
     dialogs.Register<StylesNotImportedModel, StylesNotImportedDialog>();
     dialogs.Register<CarriedDataModel, CarriedDataDialog>();
+    dialogs.Register<ImportDoctorModel, ImportDoctorDialog>();
 }
 
 }  // namespace tw

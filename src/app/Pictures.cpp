@@ -7,11 +7,13 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QTabWidget>
+#include <QTemporaryDir>
 
 #include "app/PrintedMessages.h"
 #include "catalogue/CatalogueEditor.h"
 #include "catalogue/DatabaseSetupModel.h"
 #include "doctor/CarriedDataModel.h"
+#include "doctor/ImportDoctorModel.h"
 #include "document/CannotUndo.h"
 #include "document/DetailWindows.h"
 #include "document/ScalingModel.h"
@@ -217,6 +219,41 @@ bool SaveCarried(QtDialogs& dialogs, QWidget& parent, const QString& prefix) {
     return SaveDialog(dialogs, carried, parent, prefix + QStringLiteral("carried-data.png"));
 }
 
+// A file of another program with a sound recipe and a doubtful one.
+constexpr std::string_view kForeignFile =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<RECIPES>\n"
+    "<RECIPE><NAME>Harvest Ale</NAME><VERSION>1</VERSION><TYPE>All Grain</TYPE><BREWER>Ann</BREWER>"
+    "<BATCH_SIZE>20</BATCH_SIZE><BOIL_SIZE>24</BOIL_SIZE><EFFICIENCY>75</EFFICIENCY><OG>1.050</OG>"
+    "<FG>1.012</FG><IBU>34</IBU><HOPS><HOP><NAME>Cascade</NAME><VERSION>1</VERSION><ALPHA>5,5</ALPHA>"
+    "<AMOUNT>0.04</AMOUNT><USE>Boil</USE><TIME>60</TIME></HOP><HOP><NAME>Cascade</NAME><VERSION>1</VERSION>"
+    "<ALPHA>5,5</ALPHA><AMOUNT>0.03</AMOUNT><USE>Aroma</USE><TIME>10</TIME></HOP></HOPS><FERMENTABLES>"
+    "<FERMENTABLE><NAME>Pale Malt</NAME><VERSION>1</VERSION><TYPE>Grain</TYPE><AMOUNT>4.4</AMOUNT>"
+    "<YIELD>78</YIELD><COLOR>3</COLOR></FERMENTABLE></FERMENTABLES></RECIPE>\n"
+    "<RECIPE><NAME>Cellar Porter</NAME><VERSION>1</VERSION><TYPE>All Grain</TYPE><BATCH_SIZE>20</BATCH_SIZE>"
+    "<BOIL_SIZE>24</BOIL_SIZE><EFFICIENCY>75</EFFICIENCY><OG>1.066</OG><FERMENTABLES><FERMENTABLE>"
+    "<NAME>Pale Malt</NAME><VERSION>1</VERSION><TYPE>Grain</TYPE><AMOUNT>4.8</AMOUNT><YIELD>78</YIELD>"
+    "<COLOR>6</COLOR></FERMENTABLE></FERMENTABLES></RECIPE>\n</RECIPES>\n";
+
+// The import from another program. Nothing is imported.
+bool SaveDoctor(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
+    class Nobody final : public ImportDoctorHost {
+        std::unique_ptr<CopyHost> Copying(ProgressModel&) override { return nullptr; }
+        void Imported(int, ImportUnits) override {}
+    } nobody;
+    const QTemporaryDir folder;
+    const std::string path = FromQt(folder.filePath(QStringLiteral("harvest.xml")));
+    TargetFile(path, {}).Replace(kForeignFile);
+    RecipeDoctor doctor = shell.Opened()->doctor.Doctor();
+    OwnFiles own;
+    ImportDoctorModel model(doctor, shell.Opened()->data.Access(), own, nobody, {});
+    bool ok = SaveDialog(dialogs, model, parent, prefix + QStringLiteral("import-doctor-empty.png"));
+    model.AddFiles({path});
+    ok &= SaveDialog(dialogs, model, parent, prefix + QStringLiteral("import-doctor.png"));
+    NameConflictModel conflict("Harvest Ale", true, shell.Environment().platform.messages);
+    conflict.OfferAll();
+    return SaveDialog(dialogs, conflict, parent, prefix + QStringLiteral("name-conflict-all.png")) && ok;
+}
+
 // Database setup on every catalogue, with the editor of a row, editable and read-only.
 bool SaveCatalogue(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QString& prefix) {
     const CatalogueContext context = shell.Opened()->catalogue.Context();
@@ -323,6 +360,7 @@ bool SaveDialogs(MainWindow& window, Shell& shell, QtDialogs& dialogs, const QSt
     ok &= SaveChoosers(dialogs, shell, window, prefix);
     ok &= SaveExchange(dialogs, shell, window, prefix);
     ok &= SaveCarried(dialogs, window, prefix);
+    ok &= SaveDoctor(dialogs, shell, window, prefix);
     ok &= SaveCatalogue(dialogs, shell, window, prefix);
     ok &= SaveReports(dialogs, shell, window, prefix);
     ok &= SaveBrowsing(dialogs, shell, window, prefix);

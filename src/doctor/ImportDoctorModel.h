@@ -76,6 +76,8 @@ class ImportDoctorModel final : public FormModel {
     const std::optional<DoctorItem>& Selected() const { return selected_; }
     // REQUIRES: the list has that item.
     void Select(const DoctorItem& item) { selected_ = item; }
+    // Returns the name of the file or recipe.
+    std::string NameOf(const DoctorItem& item) const;
     Choice ChoiceOf(const DoctorItem& item) const;
     void Choose(const DoctorItem& item, bool chosen);
     // Returns the findings of the selected item.
@@ -91,7 +93,6 @@ class ImportDoctorModel final : public FormModel {
     bool HasImported() const { return !account_.empty(); }
 
   private:
-    std::string NameOf(const DoctorItem& item) const;
     std::string FindingsText() const;
     bool SelectNamed(std::string_view name);
     bool ChooseSelected(std::string_view text);

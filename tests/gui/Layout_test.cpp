@@ -1,5 +1,6 @@
 // Checks that no widget is cut off, overlaps another or has no name, with light and dark colours. The build
 // runs these tests twice, the second time on a display of twice the density with a larger font.
+#include <fstream>
 #include <functional>
 #include <map>
 #include <set>
@@ -9,6 +10,7 @@
 #include "catalogue/ui/DatabaseSetupDialog.h"
 #include "catalogue/ui/EditorDialog.h"
 #include "doctor/ui/CarriedDataDialog.h"
+#include "doctor/ui/ImportDoctorDialog.h"
 #include "document/CannotUndo.h"
 #include "document/ui/CannotUndoDialog.h"
 #include "document/ui/DetailsDialog.h"
@@ -96,6 +98,7 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         ForEachTool(visit);
         ForEachChooser(visit);
         ForEachExchange(visit);
+        ForEachDoctor(visit);
         ForEachKeeper(visit);
         ForEachEditor(visit);
         ForEachReport(visit);
@@ -206,6 +209,33 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
                                 static_cast<QDialog*>(&conflictWindow), static_cast<QDialog*>(&stylesWindow),
                                 static_cast<QDialog*>(&progressWindow), static_cast<QDialog*>(&carriedWindow),
                                 static_cast<QDialog*>(&nothingWindow)}) {
+            dialog->show();
+            QApplication::processEvents();
+            visit(*dialog);
+        }
+    }
+
+    // Visits the window of the import from other programs, empty and with a file.
+    void ForEachDoctor(const std::function<void(QWidget&)>& visit) {
+        class Nobody final : public ImportDoctorHost {
+            std::unique_ptr<CopyHost> Copying(ProgressModel&) override { return nullptr; }
+            void Imported(int, ImportUnits) override {}
+        } nobody;
+        const TemporaryFolder folder;
+        const std::string name(200, 'W'), path = (folder.Path() / (name + ".xml")).string();
+        std::ofstream(path) << "<RECIPES><RECIPE><NAME>" << std::string(1000, 'W')
+                            << "</NAME><OG>1.052</OG><ODD>1</ODD></RECIPE></RECIPES>";
+        RecipeDoctor doctor = shell.Opened()->doctor.Doctor();
+        OwnFiles own;
+        ImportDoctorModel empty(doctor, shell.Opened()->data.Access(), own, nobody, {}),
+            filled(doctor, shell.Opened()->data.Access(), own, nobody, {});
+        filled.AddFiles({path});
+        NameConflictModel conflict("Mild", true, outside.messages);
+        conflict.OfferAll();
+        ImportDoctorDialog emptyWindow(empty, nullptr), filledWindow(filled, nullptr);
+        NameConflictDialog conflictWindow(conflict, nullptr);
+        for (QDialog* dialog : {static_cast<QDialog*>(&emptyWindow), static_cast<QDialog*>(&filledWindow),
+                                static_cast<QDialog*>(&conflictWindow)}) {
             dialog->show();
             QApplication::processEvents();
             visit(*dialog);
