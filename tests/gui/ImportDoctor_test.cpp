@@ -48,9 +48,10 @@ class ImportDoctorWindow : public GuiTest, private ImportDoctorHost {
 
     void SetUp() override {
         GuiTest::SetUp();
-        doctor = std::make_unique<RecipeDoctor>(shell.Opened()->doctor.Doctor());
-        made = std::make_unique<ImportDoctorModel>(*doctor, shell.Opened()->data.Access(), own, *this,
-                                                   ImportOptions{});
+        // Not movable, so it is created in its place.
+        doctor.reset(new RecipeDoctor(shell.Opened()->doctor.Doctor()));
+        made = std::make_unique<ImportDoctorModel>(*doctor, shell.Opened()->data.Access(), own,
+                                                   static_cast<ImportDoctorHost&>(*this), ImportOptions{});
     }
 
     // ImportDoctorHost
