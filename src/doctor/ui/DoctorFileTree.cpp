@@ -16,20 +16,19 @@ namespace {
 enum Column : int { kName, kFound, kFirstFigure };
 enum Role : int { kKindRole = Qt::UserRole, kFileRole, kRecipeRole };
 
-constexpr int kFoundDigits = 18;
-constexpr int kFigureMargin = 3;  // digits
+constexpr int kFoundDigits = 16;
 
-// In the order of FigureColumns: what the figures are, and the digits of the widest pair.
+// In the order of FigureColumns: what the figures are, and the width of a pair of them in digits.
 struct FigureHeading {
     const char* tip;
     int digits;
 };
 constexpr FigureHeading kHeadings[] = {
-    {QT_TR_NOOP("Original gravity"), 11},
-    {QT_TR_NOOP("Final gravity"), 11},
-    {QT_TR_NOOP("Alcohol, percent by volume"), 9},
-    {QT_TR_NOOP("Bitterness, IBU"), 7},
-    {QT_TR_NOOP("Color, SRM"), 9},
+    {QT_TR_NOOP("Original gravity"), 13},
+    {QT_TR_NOOP("Final gravity"), 13},
+    {QT_TR_NOOP("Alcohol, percent by volume"), 10},
+    {QT_TR_NOOP("Bitterness, IBU"), 9},
+    {QT_TR_NOOP("Color, SRM"), 11},
 };
 
 DoctorItem ItemOf(const QTreeWidgetItem& item) {
@@ -74,7 +73,7 @@ DoctorFileTree::DoctorFileTree(ImportDoctorModel& model, QWidget* parent)
     headerItem()->setToolTip(kFound, tr("The worst of what was found"));
     for (int i = 0; i < static_cast<int>(std::size(kHeadings)); ++i) {
         const FigureHeading& heading = kHeadings[i];
-        header()->resizeSection(kFirstFigure + i, DigitsWidth(*this, heading.digits + kFigureMargin + 3));
+        header()->resizeSection(kFirstFigure + i, DigitsWidth(*this, heading.digits));
         headerItem()->setToolTip(kFirstFigure + i,
                                  tr("%1: stated in the file / calculated here").arg(tr(heading.tip)));
         headerItem()->setTextAlignment(kFirstFigure + i, Qt::AlignRight | Qt::AlignVCenter);

@@ -10,9 +10,9 @@
 namespace tw {
 namespace {
 
-enum Column : int { kSeverity, kPlace, kText, kColumns };
+enum Column : int { kSeverity, kPlace, kText };
 
-constexpr int kSeverityDigits = 22;
+constexpr int kSeverityDigits = 20;
 constexpr int kPlaceDigits = 24;
 
 // Makes rows as high as their texts, which are broken into lines as wide as their columns.
@@ -41,8 +41,6 @@ QTreeWidgetItem* MakeItem(Severity severity, const std::string& place, const std
     item->setText(kSeverity, ToQt(std::string(WordOf(severity))));
     item->setText(kPlace, ToQt(place).simplified());
     item->setText(kText, ToQt(text).simplified());
-    for (int column = 0; column < kColumns; ++column)
-        item->setTextAlignment(column, Qt::AlignLeft | Qt::AlignTop);
     return item;
 }
 

@@ -20,7 +20,7 @@
 namespace tw {
 namespace {
 
-constexpr QSize kUsualUnits(118, 84);
+constexpr QSize kUsualUnits(130, 84);
 constexpr int kLeastListUnits = 11;
 constexpr int kFolderDigits = 18;
 
