@@ -196,7 +196,6 @@ TEST_F(ImportDoctorWindow, IsReadByAScreenReader) {
     };
     EXPECT_EQ(name("treeRecipes"), "Files and recipes");
     EXPECT_EQ(name("treeFindings"), "Findings");
-    EXPECT_EQ(name("cmbUnits"), "Units:");
     EXPECT_EQ(name("lblFolder"), "Folder: My Recipe Folders");
     // The severity is a word, not only a shape.
     const QTreeWidgetItem& recipe = *In<QTreeWidget>(dialog, "treeRecipes").topLevelItem(0)->child(0);
