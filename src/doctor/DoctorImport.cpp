@@ -130,7 +130,7 @@ ImportOutcome DoctorImport::Run(DoctorFiles& files, std::int64_t folderId, const
     FileByFile account(files, options, host);
     const auto import = [&](const DoctorFile& file, const std::vector<std::size_t>& recipes) {
         Findings ignored;  // the window shows those of the examination already
-        return ForeignImport(doctor_, clock_, host)
+        return ForeignImport(doctor_, catalogue_, host)
             .Run(*file.content, file.name, {recipes, folderId, options}, ignored);
     };
     for (std::size_t i = 0; i < files.All().size(); ++i) account.Take(i, import);

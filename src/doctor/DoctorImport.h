@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "catalogue/CatalogueContext.h"
 #include "doctor/DoctorFiles.h"
 #include "doctor/FindingList.h"
 #include "doctor/ImportOptions.h"
@@ -26,8 +27,8 @@ class DoctorImport {
   public:
     // host decides about names that exist and may cancel the import. REQUIRES: all arguments outlive this
     // object.
-    DoctorImport(RecipeDoctor& doctor, ClockPort& clock, CopyHost& host)
-        : doctor_(doctor), clock_(clock), host_(host) {}
+    DoctorImport(RecipeDoctor& doctor, const CatalogueContext& catalogue, CopyHost& host)
+        : doctor_(doctor), catalogue_(catalogue), host_(host) {}
 
     // True if there is something that an import with these options would bring: a recipe, or an entry for
     // the catalogue.
@@ -40,7 +41,7 @@ class DoctorImport {
 
   private:
     RecipeDoctor& doctor_;
-    ClockPort& clock_;
+    CatalogueContext catalogue_;
     CopyHost& host_;
 };
 

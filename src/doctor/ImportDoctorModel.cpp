@@ -43,6 +43,12 @@ std::string Counted(std::size_t findings) {
     return std::to_string(findings) + (findings == 1 ? " finding" : " findings");
 }
 
+CatalogueContext CatalogueOf(const ObjectAccess& access) {
+    const Platform& platform = access.platform;
+    return {access.database,   access.tree,      access.objects,
+            platform.messages, platform.dialogs, platform.clock};
+}
+
 }  // namespace
 
 const std::vector<std::string>& ImportDoctorModel::UnitWords() {
@@ -264,8 +270,7 @@ void ImportDoctorModel::Import() {
         ImportOutcome outcome;
         ProgressModel progress("Importing Recipes", [&](ProgressModel& shown) {
             const std::unique_ptr<CopyHost> copying = host_.Copying(shown);
-            outcome =
-                DoctorImport(doctor_, access_.platform.clock, *copying).Run(files_, folderId_, options_);
+            outcome = DoctorImport(doctor_, CatalogueOf(access_), *copying).Run(files_, folderId_, options_);
         });
         access_.platform.dialogs.ShowModal(progress);
         account_ = std::move(outcome.lines);

@@ -94,7 +94,7 @@ TEST_F(FileDialogModelTest, AFileIsTakenWithoutAQuestionWhereItIsNotReplaced) {
 
 TEST_F(FileDialogModelTest, ANameThatTheDesktopHasCheckedIsTakenAsItIs) {
     FileDialogModel dialog = Dialog(Kind::Save);
-    dialog.Take(Path(".hidden"));
+    dialog.Take({Path(".hidden")});
     EXPECT_EQ(dialog.FileName(), Path(".hidden"));
     EXPECT_FALSE(dialog.Cancelled());
     EXPECT_FALSE(dialog.IsOpen());
