@@ -27,7 +27,7 @@ class Json {
     Json();
     explicit Json(bool value);
     explicit Json(std::int64_t value);
-    // REQUIRES: value is finite.
+    // The number has no unit. REQUIRES: value is finite.
     explicit Json(double value);
     explicit Json(std::string value);
     explicit Json(std::string_view value);
@@ -49,7 +49,7 @@ class Json {
     Array* AsArray();
     const Object* AsObject() const;
     Object* AsObject();
-    // Returns the number without its unit, an integer or not; nothing for every other kind.
+    // Returns the number, which has no unit, an integer or not; nothing for every other kind.
     std::optional<double> AsNumber() const;
 
     // Returns the value of the first member of that name; nullptr if there is none or this is no object.
