@@ -4,6 +4,7 @@
 #include <deque>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 #include "DoctorTest.h"
 #include "support/SilentStore.h"
@@ -70,7 +71,9 @@ class ImportDoctor : public DoctorTest, private ImportDoctorHost {
     }
     std::string Content(const std::string& name) {
         std::ifstream file(folder / name, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
+        std::ostringstream bytes;
+        bytes << file.rdbuf();
+        return bytes.str();
     }
     Strings Stored() {
         Strings names;

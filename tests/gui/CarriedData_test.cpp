@@ -61,12 +61,12 @@ TEST_F(CarriedDataWindow, ShowsTheFieldsWithTheirValues) {
     EXPECT_EQ(FromQt(root.text(0)), "RECIPE");
     EXPECT_EQ(FromQt(root.text(1)), "Mild");
     ASSERT_EQ(root.childCount(), 3);
-    const QAbstractItemModel& model = *tree.model();
-    const QModelIndex top = model.index(0, 0);
-    const QModelIndex second = model.index(1, 0, top);
-    EXPECT_EQ(FromQt(model.index(1, 1, second).data().toString()), "5.4");
+    const QAbstractItemModel& shown = *tree.model();
+    const QModelIndex top = shown.index(0, 0);
+    const QModelIndex second = shown.index(1, 0, top);
+    EXPECT_EQ(FromQt(shown.index(1, 1, second).data().toString()), "5.4");
     // A row is one line; the tool tip shows all of them, and no markup.
-    const QModelIndex third = model.index(2, 1, top);
+    const QModelIndex third = shown.index(2, 1, top);
     EXPECT_EQ(FromQt(third.data().toString()), "<b>two</b> lines");
     EXPECT_NE(third.data(Qt::ToolTipRole).toString().indexOf(QStringLiteral("&lt;b&gt;")), -1);
 }
