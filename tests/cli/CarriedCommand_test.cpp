@@ -47,7 +47,10 @@ class CarriedCommand : public testing::Test {
 
   private:
     const std::string path_ =
-        (std::filesystem::path(testing::TempDir()) / "tunwright_carried_command.mdb").string();
+        (std::filesystem::path(testing::TempDir()) /
+         ("tunwright_carried_" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()) +
+          ".mdb"))
+            .string();
 };
 
 TEST_F(CarriedCommand, PrintsTheTreeOfEachFragmentTheNewestFirst) {

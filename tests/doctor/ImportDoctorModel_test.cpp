@@ -122,7 +122,9 @@ class ImportDoctor : public DoctorTest, private ImportDoctorHost {
     };
 
     const std::filesystem::path folder =
-        std::filesystem::path(testing::TempDir()) / "tunwright_import_doctor";
+        std::filesystem::path(testing::TempDir()) /
+        ("tunwright_import_doctor_" +
+         std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
     bool cancelling = false;
     int stopAfter = 1000;
     Strings log, told;

@@ -97,7 +97,7 @@ QCheckBox* ImportDoctorDialog::MakeBox(const char* name, const QString& text, co
 // Column by column, as the tab key goes.
 void ImportDoctorDialog::AddOptions(QBoxLayout& column) {
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(Unit(*this) * kMarginUnits);
+    grid->setHorizontalSpacing(Unit(*this) * kGapUnits);
     grid->setVerticalSpacing(Unit(*this) * kGapUnits);
     grid->setColumnStretch(2, 1);
     grid->addWidget(MakeBox("chkCatalogue", tr("&Take unknown figures from the catalogue"),
@@ -109,10 +109,10 @@ void ImportDoctorDialog::AddOptions(QBoxLayout& column) {
     grid->addWidget(
         MakeBox("chkEbc", tr("&Colors are EBC"), tr("For recipes whose colors look like EBC, not Lovibond")),
         2, 0);
-    grid->addWidget(MakeBox("chkGravity", tr("&Extraction that gives the stated gravity"),
+    grid->addWidget(MakeBox("chkGravity", tr("&Extraction for the stated gravity"),
                             tr("For recipes whose gravity differs from the stated one")),
                     0, 1);
-    grid->addWidget(MakeBox("chkBitterness", tr("Constant that gives the stated &bitterness"),
+    grid->addWidget(MakeBox("chkBitterness", tr("Constant for the stated &bitterness"),
                             tr("For recipes whose bitterness differs from the stated one")),
                     1, 1);
     grid->addWidget(MakeBox("chkAddStyles", tr("Add new &styles"),
