@@ -53,6 +53,16 @@ std::string With(double value, std::string_view unit) {
     return FewestDecimals(value).append(" ").append(unit);
 }
 
+// Returns the quantity in the unit of the file's text, if the program can read a text with that unit.
+std::optional<std::string> InUnitOf(std::string_view written, UnitKind kind, double quantity,
+                                    Validator validator) {
+    const ForeignUnit* const unit = FindUnit(kind, UnitWordOf(written));
+    if (!unit || unit->shown.empty()) return std::nullopt;
+    const std::string_view word = unit->shown == "l" ? "L" : unit->shown;
+    std::string text = With(quantity / unit->factor, word);
+    return Read(validator, text) ? std::optional(std::move(text)) : std::nullopt;
+}
+
 // Returns "9 lb 4 oz" for whole and quarter ounces; nothing for other weights and below a pound.
 std::optional<std::string> PoundsAndOunces(double kilograms) {
     constexpr double kParts = 4;
@@ -82,9 +92,9 @@ bool IsBatchOfGallons(const ForeignRecipe& recipe) {
 // True if the file shows its batch in US units; nothing if it shows no unit.
 std::optional<bool> ShownInUS(const ForeignRecipe& recipe) {
     if (!recipe.batchSize) return std::nullopt;
-    const ExactUnit* const unit = VolumeUnit(UnitWordOf(recipe.batchSize->written));
+    const ForeignUnit* const unit = FindUnit(UnitKind::Volume, UnitWordOf(recipe.batchSize->written));
     if (!unit) return std::nullopt;
-    return unit->word != "L" && unit->word != "ml";
+    return unit->shown != "l" && unit->shown != "ml" && unit->shown != "hl";
 }
 
 }  // namespace
@@ -129,8 +139,7 @@ std::string AmountTexts::Volume(const ForeignAmount& amount) const {
     if (asInFile_ && !amount.written.empty()) {
         if (Says(amount.written, ValidateVolume, litres / kLitresPerGallon))
             return std::string(Trim(amount.written));
-        if (const ExactUnit* const unit = VolumeUnit(UnitWordOf(amount.written)))
-            return With(litres / unit->size, unit->word);
+        if (auto text = InUnitOf(amount.written, UnitKind::Volume, litres, ValidateVolume)) return *text;
     }
     if (us_) return With(litres / kLitresPerGallon, "gal");
     return litres < kSmallLitres ? With(litres * 1000, "ml") : With(litres, "L");
@@ -152,10 +161,9 @@ std::string AmountTexts::Weight(const ForeignAmount& amount, Weighed what) const
     if (asInFile_ && !amount.written.empty()) {
         if (Says(amount.written, ValidateOunces, kilograms / kKilogramsPerOunce))
             return std::string(Trim(amount.written));
-        const ExactUnit* const unit = WeightUnit(UnitWordOf(amount.written));
+        if (auto text = InUnitOf(amount.written, UnitKind::Mass, kilograms, ValidateOunces)) return *text;
         // No recipe has milligrams.
-        if (unit && unit->word == "mg") return With(kilograms * 1000, "g");
-        if (unit) return With(kilograms / unit->size, unit->word);
+        if (UnitWordOf(amount.written) == "mg") return With(kilograms * 1000, "g");
     }
     return WeightIn(us_, kilograms, what);
 }

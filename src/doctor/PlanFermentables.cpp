@@ -3,6 +3,7 @@
 
 #include "doctor/PlanContext.h"
 #include "doctor/RecipePlanner.h"
+#include "exchange/ForeignUnits.h"
 #include "record/RecipeRecord.h"
 #include "values/NumberText.h"
 
@@ -80,10 +81,8 @@ std::optional<double> StatedPoints(PlanContext& c, const ForeignFermentable& lin
 }
 
 std::optional<double> StatedColor(const PlanContext& c, const ForeignFermentable& line) {
-    // EBC is 1.97 SRM, and malt has 1.3546 L - 0.76 SRM (the Morey conversion of malt colours).
-    constexpr double kEbcPerSrm = 1.97, kSlope = 1.3546, kOffset = 0.76;
     if (!line.lovibond || !c.options.ebc) return line.lovibond;
-    return (*line.lovibond / kEbcPerSrm + kOffset) / kSlope;
+    return LovibondOfSrm(*line.lovibond / kEbcPerSrm);
 }
 
 // Returns the text of a figure: as stated, else that of the catalogue; empty if neither has one.
