@@ -4,6 +4,7 @@
 #include "catalogue/ui/DatabaseSetupDialog.h"
 #include "catalogue/ui/EditorDialog.h"
 #include "doctor/ui/CarriedDataDialog.h"
+#include "doctor/ui/ExportFindingsDialog.h"
 #include "doctor/ui/ImportDoctorDialog.h"
 #include "document/CannotUndo.h"
 #include "document/ui/CannotUndoDialog.h"
@@ -23,6 +24,7 @@
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/AutoSaveDialog.h"
 #include "shell/ui/BrewhouseDialog.h"
+#include "shell/ui/ExportOtherDialog.h"
 #include "shell/ui/ImportExportDialog.h"
 #include "shell/ui/NameConflictDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
@@ -78,6 +80,8 @@ void RegisterDialogWindows(QtDialogs& dialogs, ColorChooser& colors, SettingsPor
     // Import and export.
     dialogs.Register<FileDialogModel, FileDialog>();
     dialogs.Register<ImportExportModel, ImportExportDialog>();
+    dialogs.Register<ExportOtherModel, ExportOtherDialog>();
+    dialogs.Register<ExportFindingsModel, ExportFindingsDialog>();
     dialogs.Register<NameConflictModel, NameConflictDialog>();
     dialogs.Register<StylesNotImportedModel, StylesNotImportedDialog>();
     dialogs.Register<CarriedDataModel, CarriedDataDialog>();

@@ -13,6 +13,7 @@
 #include "catalogue/CatalogueEditor.h"
 #include "catalogue/DatabaseSetupModel.h"
 #include "doctor/CarriedDataModel.h"
+#include "doctor/ExportFindingsModel.h"
 #include "doctor/ImportDoctorModel.h"
 #include "document/CannotUndo.h"
 #include "document/DetailWindows.h"
@@ -36,6 +37,7 @@
 #include "reports/qt/PaperPainter.h"
 #include "shell/AboutModel.h"
 #include "shell/BrewhouseModel.h"
+#include "shell/ExportOtherModel.h"
 #include "shell/ImportExportModel.h"
 #include "shell/NameConflictModel.h"
 #include "shell/OptionsModel.h"
@@ -188,12 +190,20 @@ bool SaveExchange(QtDialogs& dialogs, Shell& shell, QWidget& parent, const QStri
     PrintedMessages messages;
     ImportExportModel recipes(shell.Opened()->data.tree, false);
     recipes.Recipes().Add(kAllRecipesKey);
+    ExportOtherModel other(shell.Opened()->data.tree);
+    Findings notSaid;
+    notSaid.Add({Severity::Approximated, FindingCode::HopUse, "Dry Stout", "Hops 2: Cascade",
+                 "The hops in socks are written as loose ones."});
+    notSaid.Add({Severity::NotCarried, FindingCode::Carried, "Dry Stout", "Log 1: Tasted",
+                 "The format has no place for this entry of the log."});
+    ExportFindingsModel findings("stouts.xml", notSaid);
     NameConflictModel conflict("Dry Stout", true, messages);
     StylesNotImportedModel styles({{"Dry Stout", "Irish Stout"}, {"Copper Lantern Bitter", "Best Bitter"}});
     ProgressModel progress("Importing Recipes", {});
     progress.Show("Copper Lantern Bitter", 40, 100);
     bool ok = true;
-    for (DialogModel* model : {static_cast<DialogModel*>(&recipes), static_cast<DialogModel*>(&conflict),
+    for (DialogModel* model : {static_cast<DialogModel*>(&recipes), static_cast<DialogModel*>(&other),
+                               static_cast<DialogModel*>(&findings), static_cast<DialogModel*>(&conflict),
                                static_cast<DialogModel*>(&styles), static_cast<DialogModel*>(&progress)}) {
         const QString file = prefix + QString::fromStdString(model->FormName()) + QStringLiteral(".png");
         ok &= SaveDialog(dialogs, *model, parent, file);

@@ -56,7 +56,8 @@ void ExportAs(Session& session, Arguments& arguments) {
     if (word != "beerxml" && word != "beerjson") throw ScriptError("no format '" + word + "'");
     const ExchangeFormat format = word == "beerxml" ? ExchangeFormat::BeerXml : ExchangeFormat::BeerJson;
     try {
-        Print(session, session.Program().Opened()->doctor.Export(format, file, names));
+        const auto findings = session.Program().Opened()->doctor.Export(format, file, names);
+        if (findings) Print(session, *findings);
     } catch (const Error& error) {
         session.Messages().ShowMessage("Error", error.Description());
     }

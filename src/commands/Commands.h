@@ -26,6 +26,7 @@ enum class CommandId : std::uint8_t {
     FileImport,
     FileExport,
     FileDoctor,
+    FileExportOther,
     FileCarried,
     FileBar3,
     FileDelete,

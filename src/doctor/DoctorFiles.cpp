@@ -15,10 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-FindingLine LineOf(const Finding& finding) {
-    return {finding.severity, finding.place, finding.text};
-}
-
 // Broken files can have millions of findings, of which the list keeps some.
 void AddDropped(const Findings& findings, std::vector<FindingLine>& lines) {
     for (std::size_t i = 0; i < kFindingCodes; ++i) {
@@ -106,7 +102,7 @@ std::vector<FindingLine> DoctorFile::AllFindings() const {
     std::vector<FindingLine> all = findings;
     for (const DoctorRecipe& recipe : recipes) {
         for (FindingLine line : recipe.findings) {
-            line.place = line.place.empty() ? recipe.name : recipe.name + ", " + line.place;
+            line.place = PlaceWithRecipe(recipe.name, line.place);
             all.push_back(std::move(line));
         }
     }

@@ -69,6 +69,14 @@ void Name(FoldedFinding& finding) {
 
 }  // namespace
 
+FindingLine LineOf(const Finding& finding) {
+    return {finding.severity, finding.place, finding.text};
+}
+
+std::string PlaceWithRecipe(const std::string& recipe, const std::string& place) {
+    return place.empty() ? recipe : recipe + ", " + place;
+}
+
 std::vector<FoldedFinding> Fold(const std::vector<FindingLine>& lines) {
     std::vector<FoldedFinding> folded;
     std::map<std::pair<Severity, std::string>, std::size_t> places;
@@ -88,6 +96,16 @@ std::vector<FoldedFinding> Unfolded(const std::vector<FindingLine>& lines) {
     std::vector<FoldedFinding> findings;
     for (const FindingLine& line : lines) findings.push_back(Single(line));
     return findings;
+}
+
+std::string TextOf(const std::vector<FoldedFinding>& findings) {
+    std::string text;
+    for (const FoldedFinding& finding : findings) {
+        text.append(WordOf(finding.severity)).append(": ");
+        if (!finding.place.empty()) text.append(finding.place).append(": ");
+        text.append(finding.text).append("\n");
+    }
+    return text;
 }
 
 std::optional<Severity> WorstOf(const std::vector<FindingLine>& lines) {

@@ -17,6 +17,11 @@ struct FindingLine {
     bool operator==(const FindingLine&) const = default;
 };
 
+// Returns the line of a finding, without the name of its recipe.
+FindingLine LineOf(const Finding& finding);
+// Returns the place with the name of the recipe before it: "Stout, Hops 2: Cascade".
+std::string PlaceWithRecipe(const std::string& recipe, const std::string& place);
+
 // Findings of one severity whose texts differ in nothing but numbers and quoted words.
 struct FoldedFinding {
     Severity severity = Severity::Note;
@@ -29,6 +34,9 @@ struct FoldedFinding {
 std::vector<FoldedFinding> Fold(const std::vector<FindingLine>& lines);
 // Returns each line as a finding of its own, in the same order.
 std::vector<FoldedFinding> Unfolded(const std::vector<FindingLine>& lines);
+
+// Returns the findings, each as "severity: place: text" and a line feed.
+std::string TextOf(const std::vector<FoldedFinding>& findings);
 
 // Returns the worst severity of the lines; nullopt if there are none.
 std::optional<Severity> WorstOf(const std::vector<FindingLine>& lines);

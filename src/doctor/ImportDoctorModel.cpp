@@ -85,7 +85,7 @@ ImportDoctorModel::ImportDoctorModel(RecipeDoctor& doctor, const ObjectAccess& a
          },
          [this](std::string_view text) { return ChooseSelected(text); }},
         {"lblFindings", [this] { return SelectionText(); }},
-        {"treeFindings", [this] { return FindingsText(); }},
+        {"treeFindings", [this] { return TextOf(SelectedFindings()); }},
     });
     for (const Remedy& remedy : kRemedies)
         AddControls({OptionBox(std::string(remedy.control), remedy.option)});
@@ -183,16 +183,6 @@ std::string ImportDoctorModel::SelectionText() const {
                                   ? file.AllFindings().size()
                                   : file.recipes[selected_->recipe].findings.size();
     return NameOf(*selected_) + ": " + Counted(count);
-}
-
-std::string ImportDoctorModel::FindingsText() const {
-    std::string text;
-    for (const FoldedFinding& finding : SelectedFindings()) {
-        text.append(WordOf(finding.severity)).append(": ");
-        if (!finding.place.empty()) text.append(finding.place).append(": ");
-        text.append(finding.text).append("\n");
-    }
-    return text;
 }
 
 bool ImportDoctorModel::IsOffered(std::string_view control) const {

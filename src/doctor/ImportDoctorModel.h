@@ -93,7 +93,6 @@ class ImportDoctorModel final : public FormModel {
     bool HasImported() const { return !account_.empty(); }
 
   private:
-    std::string FindingsText() const;
     bool SelectNamed(std::string_view name);
     bool ChooseSelected(std::string_view text);
     FormControl OptionBox(std::string name, bool ImportOptions::*option);

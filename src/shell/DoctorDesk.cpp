@@ -9,6 +9,7 @@
 #include "exchange/BeerXmlWriter.h"
 #include "exchange/ForeignFileReader.h"
 #include "platform/TargetFile.h"
+#include "tree/ProgressModel.h"
 #include "values/Text.h"
 
 namespace tw {
@@ -110,14 +111,19 @@ int DoctorDesk::Import(const std::string& path, std::int64_t folderId,
         .Run(file, std::filesystem::path(path).filename().string(), {*chosen, folderId, options}, findings);
 }
 
-Findings DoctorDesk::Export(ExchangeFormat format, const std::string& path,
-                            std::span<const std::string> names) {
+std::optional<Findings> DoctorDesk::Export(ExchangeFormat format, const std::string& path,
+                                           const std::vector<std::string>& names) {
     const TargetFile target(path, own_);
     Findings findings;
     RecipeExporter exporter(*data_.database, data_.platform, colors_, Options().units);
     std::vector<ExportedRecipe> recipes;
     recipes.reserve(names.size());
-    for (const std::string& name : names) recipes.push_back(exporter.Prepare(name, format, findings));
+    RunSteps(data_.platform.dialogs, "Exporting Recipes", names, [&](std::size_t i) {
+        recipes.push_back(exporter.Prepare(names[i], format, findings));
+        return true;
+    });
+    const bool cancelled = recipes.size() < names.size();
+    if (cancelled) return std::nullopt;
     target.Replace(format == ExchangeFormat::BeerXml ? WriteBeerXml(recipes, findings)
                                                      : WriteBeerJson(recipes, findings));
     return findings;

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -54,9 +53,11 @@ class DoctorDesk {
                const std::optional<std::vector<std::string>>& names, CopyHost& host);
 
     // Writes the stored recipes of these names as a new file of that format, which replaces an older one as a
-    // whole, and returns what the format cannot say. Raises Error if there is no such recipe or the file
-    // cannot be written; an older file then remains.
-    Findings Export(ExchangeFormat format, const std::string& path, std::span<const std::string> names);
+    // whole, and returns what the format cannot say. Shows its progress; nullopt if the brewer cancelled.
+    // Raises Error if there is no such recipe or the file cannot be written. In both cases an older file
+    // remains.
+    std::optional<Findings> Export(ExchangeFormat format, const std::string& path,
+                                   const std::vector<std::string>& names);
 
     // Chooses a remedy for the next import by its word: "grams", "gravity", "bitterness", "ebc", "styles",
     // "catalogue", "no-catalogue-figures". False if there is none of that word.

@@ -1,15 +1,12 @@
 #include "shell/ExchangeDesk.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iterator>
 #include <utility>
 
 #include "platform/ErrorBox.h"
-#include "platform/FileDialogModel.h"
 #include "platform/ScopeGuard.h"
 #include "shell/CopyDialogs.h"
-#include "shell/ExportOtherModel.h"
 #include "shell/ImportPath.h"
 #include "shell/RecipeExchange.h"
 #include "tree/ProgressModel.h"
@@ -44,41 +41,6 @@ void ExchangeDesk::Export() {
     Run([](RecipeExchange& files) { files.Export(); });
 }
 
-void ExchangeDesk::ExportOther() {
-    Run([this](RecipeExchange&) {
-        ExportOtherModel recipes(data_.tree);
-        data_.platform.dialogs.ShowModal(recipes);
-        if (recipes.Cancelled()) return;
-        FileDialogModel file(recipes.FileDialog(), data_.platform.messages);
-        data_.platform.dialogs.ShowModal(file);
-        if (!file.Cancelled())
-            WriteForOthers(recipes.Format(), file.FileName(), recipes.Recipes().Selection());
-    });
-}
-
-void ExchangeDesk::WriteForOthers(ExchangeFormat format, const std::string& path,
-                                  const std::vector<std::string>& names) {
-    MessagePort& messages = data_.platform.messages;
-    Findings findings;
-    try {
-        findings = doctor_.Export(format, path, names);
-    } catch (const Error& error) {
-        return messages.ShowMessage("Error", error.Description());
-    }
-    const std::string count = std::to_string(names.size()) + (names.size() == 1 ? " recipe" : " recipes");
-    view_->SayBriefly("Exported " + count + " to " + std::filesystem::path(path).filename().string());
-    if (findings.IsEmpty()) return;
-    constexpr std::size_t kShown = 10;
-    std::string text = "The format cannot say everything:";
-    for (std::size_t i = 0; i < findings.All().size() && i < kShown; ++i) {
-        const Finding& finding = findings.All()[i];
-        text.append("\r\n").append(finding.recipe).append(": ").append(finding.text);
-    }
-    if (findings.All().size() > kShown)
-        text += "\r\nand " + std::to_string(findings.All().size() - kShown) + " more.";
-    messages.ShowMessage("Export for Other Programs", text);
-}
-
 void ExchangeDesk::ImportFile(const std::string& path) {
     if (DoctorDesk::Takes(path)) return ShowDoctor({path});
     Run([&](RecipeExchange& files) { files.ImportFile(path); });
@@ -95,6 +57,12 @@ void ExchangeDesk::ImportForeign() {
     if (running_) return;
     const ScopedValue running(running_, true);
     Doctoring().AskAndShow();
+}
+
+void ExchangeDesk::ExportOther() {
+    if (running_) return;
+    const ScopedValue running(running_, true);
+    Doctoring().Export();
 }
 
 void ExchangeDesk::ShowDoctor(const std::vector<std::string>& paths) {

@@ -62,8 +62,6 @@ class ExchangeDesk {
     bool IsRunning() const { return running_; }
 
   private:
-    void WriteForOthers(ExchangeFormat format, const std::string& path,
-                        const std::vector<std::string>& names);
     // Imports without the window.
     void ImportForeign(const std::string& path, std::int64_t folderId,
                        const std::optional<std::vector<std::string>>& names);

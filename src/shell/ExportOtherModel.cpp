@@ -2,8 +2,7 @@
 
 #include <algorithm>
 #include <array>
-
-#include "tree/NodeKey.h"
+#include <string_view>
 
 namespace tw {
 namespace {
@@ -22,15 +21,9 @@ constexpr std::array kFormats = {
 
 }  // namespace
 
-ExportOtherModel::ExportOtherModel(const TWTree& tree) : FormModel(kFormName) {
-    recipes_.SetTree(&tree);
-    recipes_.SetAction("Export");
-    recipes_.Initialize();
-    TreeItems& items = recipes_.treeRecipes();
-    if (!items.SelectKey(kRecipeFoldersKey)) items.SelectKey(kAllRecipesKey);
+ExportOtherModel::ExportOtherModel(const TWTree& tree)
+    : RecipePickModel(kFormName, tree, {"Export for Other Programs", "Export", {}}) {
     AddControls({
-        {"treeRecipes", [this] { return recipes_.treeRecipes().SelectedKey(); },
-         [this](std::string_view key) { return recipes_.treeRecipes().SelectKey(key); }},
         {"cmbFormat", [this] { return std::string(kFormats[static_cast<std::size_t>(format_)].name); },
          [this](std::string_view name) {
              const auto found = std::ranges::find(kFormats, name, &FormatRow::name);
@@ -39,9 +32,6 @@ ExportOtherModel::ExportOtherModel(const TWTree& tree) : FormModel(kFormName) {
              return true;
          }},
     });
-    AddButtons(recipes_.Buttons());
-    AddButtons({{"cmdNext", [this] { Accept(); }, [this] { return NextEnabled(); }},
-                {"cmdCancel", [this] { Close(); }}});
 }
 
 std::vector<std::string> ExportOtherModel::Formats() {

@@ -134,6 +134,7 @@ const ShellActions::Row ShellActions::kRows[] = {
     {CommandId::FileImport, [](On on) { on.files.Import(); }},
     {CommandId::FileExport, [](On on) { on.files.Export(); }},
     {CommandId::FileDoctor, [](On on) { on.files.ImportForeign(); }},
+    {CommandId::FileExportOther, [](On on) { on.files.ExportOther(); }},
     {CommandId::FileCarried, [](On on) { on.carried.Show(); }},
     {CommandId::FileDelete, [](On on) { on.recipes.ShowDeleteDialog(); }},
     {CommandId::FilePrint, [](On on) { on.paper.PrintActive(false); },

@@ -10,6 +10,7 @@
 #include "catalogue/ui/DatabaseSetupDialog.h"
 #include "catalogue/ui/EditorDialog.h"
 #include "doctor/ui/CarriedDataDialog.h"
+#include "doctor/ui/ExportFindingsDialog.h"
 #include "doctor/ui/ImportDoctorDialog.h"
 #include "document/CannotUndo.h"
 #include "document/ui/CannotUndoDialog.h"
@@ -34,6 +35,7 @@
 #include "shell/ui/AboutDialog.h"
 #include "shell/ui/AutoSaveDialog.h"
 #include "shell/ui/BrewhouseDialog.h"
+#include "shell/ui/ExportOtherDialog.h"
 #include "shell/ui/ImportExportDialog.h"
 #include "shell/ui/NameConflictDialog.h"
 #include "shell/ui/OpenSaveDialog.h"
@@ -191,6 +193,10 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
     void ForEachExchange(const std::function<void(QWidget&)>& visit) {
         const std::string name(1000, 'W');
         ImportExportModel in(shell.Opened()->data.tree, true), out(shell.Opened()->data.tree, false);
+        ExportOtherModel other(shell.Opened()->data.tree);
+        Findings notSaid;
+        notSaid.Add({Severity::NotCarried, FindingCode::Carried, name, name, name});
+        ExportFindingsModel findings(name, notSaid);
         NameConflictModel conflict(name, false, outside.messages);
         StylesNotImportedModel styles({{name, "Stout"}});
         ProgressModel progress("Importing Recipes", {});
@@ -201,11 +207,14 @@ class Layout : public GuiTest, public testing::WithParamInterface<bool> {
         CarriedDataModel carried(*shell.DB(), 1, name, outside.messages, outside.clipboard),
             nothing(*shell.DB(), 2, name, outside.messages, outside.clipboard);
         ImportExportDialog inWindow(in, nullptr), outWindow(out, nullptr);
+        ExportOtherDialog otherWindow(other, nullptr);
+        ExportFindingsDialog findingsWindow(findings, nullptr);
         NameConflictDialog conflictWindow(conflict, nullptr);
         StylesNotImportedDialog stylesWindow(styles, nullptr);
         ProgressDialog progressWindow(progress, nullptr);
         CarriedDataDialog carriedWindow(carried, nullptr), nothingWindow(nothing, nullptr);
         for (QDialog* dialog : {static_cast<QDialog*>(&inWindow), static_cast<QDialog*>(&outWindow),
+                                static_cast<QDialog*>(&otherWindow), static_cast<QDialog*>(&findingsWindow),
                                 static_cast<QDialog*>(&conflictWindow), static_cast<QDialog*>(&stylesWindow),
                                 static_cast<QDialog*>(&progressWindow), static_cast<QDialog*>(&carriedWindow),
                                 static_cast<QDialog*>(&nothingWindow)}) {

@@ -46,6 +46,7 @@ TEST(CommandBar, TheFileMenu) {
                   {"mnuFileImport", "&Import...", "", ""},
                   {"mnuFileExport", "Expo&rt...", "", ""},
                   {"mnuFileDoctor", "Import from &Other Programs...", "", ""},
+                  {"mnuFileExportOther", "Export for Other Pro&grams...", "", ""},
                   {"mnuFileCarried", "Carried &Data...", "", "off"},
                   {"mnuFileDelete", "&Delete...", "Ctrl+D", ""},
                   {"mnuFilePrint", "&Print...", "Ctrl+P", "off"},

@@ -1,9 +1,13 @@
-// How files of other brewing programs reach the window that imports them.
+// How files of other brewing programs reach the window that imports them, and how recipes leave for them.
+#include <filesystem>
 #include <fstream>
 
+#include "exchange/ForeignFileReader.h"
 #include "shell/CopyDialogs.h"
 #include "shell/NameConflictModel.h"
 #include "shell/ShellTest.h"
+#include "tree/NodeKey.h"
+#include "tree/ProgressModel.h"
 
 namespace tw::test {
 namespace {
@@ -29,6 +33,17 @@ class ShellDoctorTest : public ShellTest {
             EXPECT_EQ(dialog.FormName(), form);
             for (const auto& [control, text] : fill) EXPECT_TRUE(dialog.SetControl(control, text)) << control;
             EXPECT_TRUE(dialog.Press(button));
+        });
+    }
+    // Picks all recipes in the next dialog, which must be that of the export, and continues.
+    void PickAllFor(const std::string& format) {
+        outside.dialogs.scripts.push_back([=](DialogModel& dialog) {
+            EXPECT_EQ(dialog.FormName(), "frmExportOther");
+            EXPECT_TRUE(dialog.SetControl("treeRecipes", kAllRecipesKey));
+            EXPECT_TRUE(dialog.Press("cmdAdd"));
+            EXPECT_TRUE(dialog.SetControl("cmbFormat", format));
+            EXPECT_FALSE(dialog.SetControl("cmbFormat", "Word"));
+            EXPECT_TRUE(dialog.Press("cmdNext"));
         });
     }
     // Closes the next dialog, which must be the window of the import, and keeps what it listed first.
@@ -99,6 +114,79 @@ TEST_F(ShellDoctorTest, TheSameAnswerHoldsForAllTheRest) {
     // One question for two names that exist.
     EXPECT_EQ(outside.dialogs.shown, (Strings{"frmImportDoctor", "frmProgress", "frmNameConflict"}));
     EXPECT_EQ(RecipeNames(*shell.DB()), (Strings{"Mild", "mild (2)", "Old Mild"}));
+}
+
+TEST_F(ShellDoctorTest, TheOtherMenuItemExportsForOtherPrograms) {
+    NewSaved("Mild");
+    NewSaved("Stout");
+    PickAllFor("BeerJSON 1.0");
+    Answer("CommonDialog", "cmdOK", {{"FileName", folder.File("club")}});
+    // Neither recipe has a volume, which the format requires.
+    Answer("frmExportFindings", "cmdOK");
+    EXPECT_TRUE(shell.RunMenu("mnuFileExportOther"));
+    EXPECT_EQ(outside.dialogs.shown, (Strings{"frmExportOther", "CommonDialog", "frmExportFindings"}));
+    EXPECT_EQ(view.log.back(), "news: Exported 2 recipes to club.json");
+    EXPECT_EQ(KindOfFile(folder.File("club.json")), FileKind::BeerJson);
+    EXPECT_EQ(outside.messages.log, Strings{});
+    EXPECT_FALSE(shell.Opened()->files.IsRunning());
+}
+
+TEST_F(ShellDoctorTest, AnExportAsksBeforeItReplacesAFile) {
+    NewSaved("Mild");
+    const std::string path = NoRecipes("club.xml");
+    PickAllFor("BeerXML 1.0");
+    Answer("CommonDialog", "cmdOK", {{"FileName", path}});
+    outside.messages.answers = {tw::Answer::No};
+    shell.RunMenu("mnuFileExportOther");
+    EXPECT_EQ(outside.messages.log, Strings{"[Export for Other Programs] " + path +
+                                            " already exists.\r\nDo you want to replace it? -> No"});
+    EXPECT_EQ(KindOfFile(path), FileKind::Other);
+}
+
+TEST_F(ShellDoctorTest, AnExportThatCannotBeWrittenSaysWhy) {
+    NewSaved("Mild");
+    const std::string path = folder.File("none/club.xml");
+    PickAllFor("BeerXML 1.0");
+    Answer("CommonDialog", "cmdOK", {{"FileName", path}});
+    shell.RunMenu("mnuFileExportOther");
+    EXPECT_EQ(outside.messages.log,
+              Strings{"[Error] '" + path + "' cannot be written: No such file or directory."});
+    EXPECT_EQ(outside.dialogs.shown, (Strings{"frmExportOther", "CommonDialog"}));
+}
+
+// Cancels each progress as soon as it is shown.
+class HastyDialogs final : public DialogPort {
+  public:
+    void ShowModal(DialogModel& dialog) override {
+        auto* const progress = dynamic_cast<ProgressModel*>(&dialog);
+        ASSERT_NE(progress, nullptr);
+        progress->SetObserver([progress] { progress->CloseBox(); });
+        dialog.FirstShown();
+        progress->SetObserver({});
+        ++cancelled;
+    }
+    int cancelled = 0;
+};
+
+TEST_F(ShellDoctorTest, AnExportOfManyRecipesCanBeCancelled) {
+    HastyDialogs dialogs;
+    Platform platform{outside.messages, dialogs, outside.settings, outside.clock, outside.clipboard};
+    Shell other({platform});
+    ASSERT_TRUE(other.PerformSplashScreenInit(":memory:"));
+    Strings names;
+    for (int i = 0; i <= ProgressModel::kWithoutWindow; ++i) {
+        names.push_back("Mild " + std::to_string(i));
+        AddRecipeRow(*other.DB(), names.back());
+    }
+    const std::string path = folder.File("club.xml");
+    EXPECT_EQ(other.Opened()->doctor.Export(ExchangeFormat::BeerXml, path, names), std::nullopt);
+    EXPECT_EQ(dialogs.cancelled, 1);
+    EXPECT_FALSE(std::filesystem::exists(path));
+    // Few need no window.
+    names.pop_back();
+    EXPECT_NE(other.Opened()->doctor.Export(ExchangeFormat::BeerXml, path, names), std::nullopt);
+    EXPECT_EQ(dialogs.cancelled, 1);
+    EXPECT_EQ(KindOfFile(path), FileKind::BeerXml);
 }
 
 TEST_F(ShellDoctorTest, OnlyThisImportOffersTheSameAnswer) {

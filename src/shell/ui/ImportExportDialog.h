@@ -1,27 +1,15 @@
 // The dialog that selects recipes to import or export (frmImportExport).
 #pragma once
 
-#include <QDialog>
-
 #include "shell/ImportExportModel.h"
-
-class QPushButton;
+#include "shell/ui/RecipePickDialog.h"
 
 namespace tw {
 
-class ImportExportDialog final : public QDialog {
+class ImportExportDialog final : public RecipePickDialog {
     Q_OBJECT
   public:
     ImportExportDialog(ImportExportModel& model, QWidget* parent);
-
-  protected:
-    void reject() override;
-
-  private:
-    void ShowButtons();
-
-    ImportExportModel& model_;
-    QPushButton* next_;
 };
 
 }  // namespace tw
