@@ -80,6 +80,7 @@ constexpr std::array<CommandRow, kCommandCount> kCommands = {{
     {.id = FileDoctor,
      .name = "mnuFileDoctor",
      .caption = "Import from &Other Programs...",
+     .ownLetter = 'm',
      .commitsEntry = true,
      .tip = "Examines recipe files of other brewing programs and imports their recipes."},
     {.id = FileExportOther,
@@ -90,6 +91,7 @@ constexpr std::array<CommandRow, kCommandCount> kCommands = {{
     {.id = FileCarried,
      .name = "mnuFileCarried",
      .caption = "Carried &Data...",
+     .ownLetter = 't',
      .start = Start::Disabled,
      .commitsEntry = true,
      .tip = "Shows what the recipe in front brought along from another program."},
@@ -234,6 +236,7 @@ constexpr std::array<CommandRow, kCommandCount> kCommands = {{
     {.id = EditAppendFlag,
      .name = "mnuEditAppendFlag",
      .caption = "&Append on Insert",
+     .ownLetter = 'o',
      .keys = "Ctrl+I",
      .needs = Needs::ActiveRecipe,
      .checkable = true,
@@ -386,6 +389,14 @@ std::span<const CommandRow> AllCommandRows() {
 
 const CommandRow& RowOf(CommandId id) {
     return kCommands[static_cast<std::size_t>(id)];
+}
+
+std::string ShownCaption(const CommandRow& row, std::string_view caption) {
+    std::string shown(caption);
+    if (row.ownLetter == 0) return shown;
+    std::erase(shown, '&');
+    shown.insert(shown.find(row.ownLetter), 1, '&');
+    return shown;
 }
 
 TopMenu MenuOf(CommandId id) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace tw {
@@ -130,8 +131,11 @@ inline constexpr std::string_view kSeparator = "-";
 
 struct CommandRow {
     CommandId id;
-    std::string_view name;       // of the control; separators have one, too
-    std::string_view caption;    // "&" marks the access key; kSeparator for a separator
+    std::string_view name;     // of the control; separators have one, too
+    std::string_view caption;  // "&" marks the access key; kSeparator for a separator
+    // The access key that a window marks if that of caption would hide another item of the menu; 0 for that
+    // of caption, which scripts know.
+    char ownLetter = 0;
     std::string_view keys = {};  // "Ctrl+N"; empty for none
     Start start = Start::Enabled;
     Needs needs = Needs::Database;
@@ -146,6 +150,8 @@ std::span<const TopMenuRow> AllTopMenus();
 std::span<const CommandRow> AllCommandRows();
 const CommandRow& RowOf(CommandId id);
 TopMenu MenuOf(CommandId id);
+// Returns the caption of the command's menu item with the access key that a window marks.
+std::string ShownCaption(const CommandRow& row, std::string_view caption);
 // Returns the command of that control name, for scripts and other programs; nullopt for an unknown name.
 std::optional<CommandId> FindCommandId(std::string_view name);
 

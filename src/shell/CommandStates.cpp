@@ -116,6 +116,7 @@ void CommandStates::CheckEnableDelete() {
     bar_.SetEnabled(CommandId::FilePrint, anyRecipe);
     bar_.SetEnabled(CommandId::FileOpen, anyRecipe);
     bar_.SetEnabled(CommandId::FileExport, anyRecipe);
+    bar_.SetEnabled(CommandId::FileExportOther, anyRecipe);
     bar_.SetButtonEnabled(CommandId::FileOpen, anyRecipe);
 }
 

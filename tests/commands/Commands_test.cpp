@@ -1,8 +1,11 @@
 // Tests of the command tables for errors that no compiler detects.
 #include "commands/Commands.h"
 
+#include <cctype>
 #include <gtest/gtest.h>
 #include <set>
+#include <string>
+#include <utility>
 
 #include "commands/PopupCommands.h"
 
@@ -52,6 +55,26 @@ TEST(Commands, NoTwoShareAKeyOrAPlaceInTheToolbar) {
     EXPECT_EQ(buttons.size(), 17u);
 }
 
+char AccessKeyOf(std::string_view caption) {
+    const std::size_t mark = caption.find('&');
+    if (mark == std::string_view::npos) return 0;
+    return static_cast<char>(std::tolower(static_cast<unsigned char>(caption[mark + 1])));
+}
+
+// Of two items with the same access key, neither could be chosen by it.
+TEST(Commands, NoTwoItemsOfAMenuShowTheSameAccessKey) {
+    std::set<std::pair<TopMenu, char>> used;
+    for (const CommandRow& row : AllCommandRows()) {
+        const char key = AccessKeyOf(ShownCaption(row, row.caption));
+        if (key != 0) {
+            EXPECT_TRUE(used.emplace(MenuOf(row.id), key).second) << row.name;
+        }
+    }
+    EXPECT_EQ(ShownCaption(RowOf(CommandId::FileDoctor), RowOf(CommandId::FileDoctor).caption),
+              "I&mport from Other Programs...");
+    EXPECT_EQ(ShownCaption(RowOf(CommandId::FileOpen), "&Open..."), "&Open...");
+}
+
 TEST(Commands, EveryCommandOnARecipeWaitsForOne) {
     for (const CommandRow& row : AllCommandRows()) {
         if (row.caption == kSeparator) continue;
@@ -65,7 +88,8 @@ TEST(Commands, EntriesAreCommittedBeforeWhatLooksAtThem) {
         const bool onRows = row.id == CommandId::EditInsert || row.id == CommandId::EditDelete;
         const bool opensRecipe = row.id == CommandId::HelpSample;
         const TopMenu menu = MenuOf(row.id);
-        EXPECT_EQ(row.commitsEntry, onRows || opensRecipe || (menu != TopMenu::Edit && menu != TopMenu::Help)) << row.name;
+        EXPECT_EQ(row.commitsEntry, onRows || opensRecipe || (menu != TopMenu::Edit && menu != TopMenu::Help))
+            << row.name;
     }
 }
 

@@ -87,12 +87,14 @@ TEST_F(ShellTest, OpenAndExportFollowTheStoredRecipesNotTheDocuments) {
     EXPECT_TRUE(Lit("mnuFileOpen"));
     EXPECT_TRUE(Button("Open").enabled);
     EXPECT_TRUE(bar().FindItem("mnuFileExport")->enabled);
+    EXPECT_TRUE(bar().FindItem("mnuFileExportOther")->enabled);
     EXPECT_TRUE(bar().FindItem("mnuFileDelete")->enabled);
     EXPECT_FALSE(bar().FindItem("mnuFilePrint")->enabled);
     shell.Opened()->services.DeleteRecipe("Pale Ale");
     EXPECT_FALSE(Lit("mnuFileOpen"));
     EXPECT_FALSE(Button("Open").enabled);
     EXPECT_FALSE(bar().FindItem("mnuFileExport")->enabled);
+    EXPECT_FALSE(bar().FindItem("mnuFileExportOther")->enabled);
 }
 
 // The first recipe enables Print even while no document is open.

@@ -106,7 +106,7 @@ void CommandMenus::SetFlat(bool flat) {
 }
 
 void CommandMenus::Show(QAction& action, const MenuItem& item) {
-    if (!item.IsSeparator()) action.setText(ToQt(item.caption));
+    if (!item.IsSeparator()) action.setText(ToQt(ShownCaption(RowOf(item.id), item.caption)));
     action.setEnabled(item.enabled);
     action.setVisible(item.visible);
     if (action.isCheckable()) action.setChecked(item.checked);
