@@ -6,6 +6,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "doctor/PlausibilityCheck.h"
 #include "exchange/ForeignFileReader.h"
 #include "platform/Error.h"
 #include "tree/ProgressModel.h"
@@ -60,10 +61,12 @@ DoctorFile Read(const std::string& path) {
     } catch (const Error& error) {
         why = error.Description();
     }
-    if (file.content)
+    if (file.content) {
+        NoteHopForms(*file.content, file.content->findings);
         SortOut(*file.content, file);
-    else
+    } else {
         file.findings.push_back({Severity::Refused, {}, std::move(why)});
+    }
     return file;
 }
 

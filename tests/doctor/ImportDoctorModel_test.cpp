@@ -1,6 +1,7 @@
 // The window of the import from other programs without its window: what it lists, its remedies, its import.
 #include "doctor/ImportDoctorModel.h"
 
+#include <algorithm>
 #include <deque>
 #include <filesystem>
 #include <fstream>
@@ -222,6 +223,25 @@ TEST_F(ImportDoctor, FindingsAreThoseOfTheSelection) {
     EXPECT_EQ(WorstOf(Recipe(0, 1).findings), Severity::Suspicious);
     const std::size_t count = model.Files().All()[0].AllFindings().size();
     EXPECT_EQ(model.Text("lblFindings"), "club.xml: " + std::to_string(count) + " findings");
+}
+
+TEST_F(ImportDoctor, AFileTellsOnceThatPelletsCountMoreHere) {
+    const auto hopped = [](const std::string& name, const std::string& form) {
+        return XmlRecipe(name,
+                         "<IBU>30</IBU><HOPS><HOP><NAME>Cascade</NAME><VERSION>1</VERSION><ALPHA>6</ALPHA>"
+                         "<AMOUNT>0.04</AMOUNT><USE>Boil</USE><TIME>60</TIME><FORM>" +
+                             form + "</FORM></HOP></HOPS>");
+    };
+    model.AddFiles({File("pellets.xml", Xml(hopped("Pale", "Pellet") + hopped("Mild", "Pellet"))),
+                    File("leaf.xml", Xml(hopped("Stout", "Leaf")))});
+    const auto notes = [&](const std::vector<FindingLine>& lines) {
+        return std::ranges::count_if(lines, [](const FindingLine& line) {
+            return line.text.starts_with("Pellets count 15% more here");
+        });
+    };
+    EXPECT_EQ(notes(model.Files().All()[0].findings), 1);
+    EXPECT_EQ(notes(model.Files().All()[0].AllFindings()), 1);
+    EXPECT_EQ(notes(model.Files().All()[1].AllFindings()), 0);
 }
 
 TEST_F(ImportDoctor, AFileThatCannotBeReadStaysInTheList) {
