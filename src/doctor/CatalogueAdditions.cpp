@@ -153,7 +153,7 @@ bool CatalogueAdditions::Save(CatalogueEditor& editor, const std::string& name, 
     findings.Add({saved ? Severity::Note : Severity::Refused,
                   FindingCode::NewEntry,
                   {},
-                  "Catalog",
+                  "Catalogue",
                   saved ? "The " + kind + " '" + name + "' was added."
                         : "The " + kind + " '" + name + "' was not added: " + refusals_.last});
     return saved;

@@ -73,8 +73,9 @@ class FileByFile {
     FileByFile(DoctorFiles& files, const ImportOptions& options, CountingHost& host)
         : files_(files), options_(options), host_(host) {}
 
-    // import stores the recipes of these indexes, and returns how many it stored.
-    using Import = std::function<int(const DoctorFile& file, const std::vector<std::size_t>& recipes)>;
+    // import stores the recipes of these indexes, adds its findings, and returns how many it stored.
+    using Import = std::function<int(const DoctorFile& file, const std::vector<std::size_t>& recipes,
+                                     Findings& findings)>;
     void Take(std::size_t index, const Import& import) {
         const DoctorFile& file = files_.All()[index];
         if (file.IsRefused()) return Say(Severity::Refused, file, "This file could not be read.");
@@ -83,10 +84,12 @@ class FileByFile {
         const std::vector<std::size_t> chosen = files_.ChosenOf(index);
         host_.Begin(static_cast<int>(chosen.size()));
         try {
-            const int imported = import(file, chosen);
+            Findings findings;
+            const int imported = import(file, chosen, findings);
             if (host_.HasCancelled()) return SayCancelled(file);
             outcome_.imported += imported;
-            Say(Severity::Note, file, "Imported " + Counted(imported) + ".");
+            if (!chosen.empty()) Say(Severity::Note, file, "Imported " + Counted(imported) + ".");
+            SayEntries(file, findings);
         } catch (const Error& error) {
             return Say(Severity::Refused, file, "Nothing was imported: " + error.Description());
         }
@@ -102,6 +105,12 @@ class FileByFile {
     }
     void SayCancelled(const DoctorFile& file) {
         Say(Severity::Refused, file, "Nothing was imported, because you cancelled.");
+    }
+    // What became of the new entries of the catalogue. The window shows all other findings since the
+    // examination.
+    void SayEntries(const DoctorFile& file, const Findings& findings) {
+        for (const Finding& finding : findings.All())
+            if (finding.code == FindingCode::NewEntry) Say(finding.severity, file, finding.text);
     }
     // The recipe stays chosen, so that it can be imported under another name.
     void SaySkipped(std::size_t index, std::size_t recipe) {
@@ -128,10 +137,10 @@ ImportOutcome DoctorImport::Run(DoctorFiles& files, std::int64_t folderId, const
     for (std::size_t i = 0; i < files.All().size(); ++i) total += static_cast<int>(files.ChosenOf(i).size());
     CountingHost host(host_, total);
     FileByFile account(files, options, host);
-    const auto import = [&](const DoctorFile& file, const std::vector<std::size_t>& recipes) {
-        Findings ignored;  // the window shows those of the examination already
+    const auto import = [&](const DoctorFile& file, const std::vector<std::size_t>& recipes,
+                            Findings& findings) {
         return ForeignImport(doctor_, catalogue_, host)
-            .Run(*file.content, file.name, {recipes, folderId, options}, ignored);
+            .Run(*file.content, file.name, {recipes, folderId, options}, findings);
     };
     for (std::size_t i = 0; i < files.All().size(); ++i) account.Take(i, import);
     return std::move(account).Outcome();

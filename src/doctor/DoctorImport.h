@@ -18,7 +18,8 @@ namespace tw {
 struct ImportOutcome {
     int imported = 0;  // recipes
     // True if something that was listed to be imported was not: a file that was refused or that failed, a
-    // recipe that the brewer skipped, or whatever was left when the import was cancelled.
+    // recipe that the brewer skipped, an entry that the catalogue refused, or whatever was left when the
+    // import was cancelled.
     bool leftOut = false;
     std::vector<FindingLine> lines;  // what was imported and what was not, in the order of the files
 };

@@ -387,7 +387,7 @@ JsonValues JsonValuesOf(const ForeignRecipe& recipe) {
     members.Quantity("apparent_attenuation", recipe.attenuation, "%");
     members.Text("notes", recipe.notes);
     AddTaste(members, recipe);
-    if (recipe.forced) members.Lose("how the beer is carbonated");
+    if (recipe.forced && recipe.carbonation) members.Lose("how the beer is carbonated");
     if (recipe.carbonationCelsius) members.Lose("the temperature of carbonation");
     if (!recipe.primingSugar.empty()) members.Lose("the priming sugar");
     if (recipe.hopUtilization) members.Lose("the utilization of hops");

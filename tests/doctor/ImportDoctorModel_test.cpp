@@ -343,6 +343,23 @@ TEST_F(ImportDoctor, StylesAndIngredientsAreOfferedIfAFileHasSuch) {
     EXPECT_FALSE(model.IsEnabled("cmdImport"));
 }
 
+// The editor of hops takes percentages up to 100.
+TEST_F(ImportDoctor, TheAccountTellsWhatBecameOfNewEntries) {
+    const std::string rest = "<VERSION>1</VERSION><AMOUNT>0</AMOUNT><USE>Boil</USE><TIME>0</TIME></HOP>";
+    model.AddFiles(
+        {File("hops.xml", "<HOPS><HOP><NAME>Moonleaf</NAME><ALPHA>4.5</ALPHA>" + rest +
+                              "<HOP><NAME>Sunleaf</NAME><ALPHA>45000</ALPHA>" + rest + "</HOPS>")});
+    ASSERT_TRUE(model.SetControl("chkAddIngredients", "yes"));
+    EXPECT_TRUE(model.Press("cmdImport"));
+    EXPECT_EQ(model.Account(),
+              (std::vector<FindingLine>{
+                  {Severity::Note, "hops.xml", "The hop variety 'Moonleaf' was added."},
+                  {Severity::Refused, "hops.xml",
+                   "The hop variety 'Sunleaf' was not added: Please enter a percentage (0 to 100)"}}));
+    // Something was left out.
+    EXPECT_TRUE(model.IsOpen());
+}
+
 TEST_F(ImportDoctor, TheFolderIsChosenInItsDialog) {
     model.AddFiles({File("club.xml", Xml(XmlRecipe("Pale")))});
     platform.dialogs.scripts.push_back([](DialogModel& dialog) {
