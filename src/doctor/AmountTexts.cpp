@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "doctor/ExactUnits.h"
@@ -53,6 +54,37 @@ std::string With(double value, std::string_view unit) {
     return FewestDecimals(value).append(" ").append(unit);
 }
 
+// True if the decimals that a text can have keep the value.
+bool IsKept(double value) {
+    double read = 0;
+    const std::string text = FewestDecimals(value);
+    std::from_chars(text.data(), text.data() + text.size(), read);
+    return IsNear(read, value, kKept);
+}
+
+struct UnitChoice {
+    double factor;   // litres or kilograms of one
+    double atLeast;  // in the unit; smaller quantities have a later one
+    std::string_view word;
+};
+
+// Returns the quantity in the first unit that suits its size and keeps it, else in the last one.
+std::string InFirstFit(double quantity, std::span<const UnitChoice> choices) {
+    for (const UnitChoice& choice : choices.first(choices.size() - 1)) {
+        const double value = quantity / choice.factor;
+        if (value >= choice.atLeast && IsKept(value)) return With(value, choice.word);
+    }
+    return With(quantity / choices.back().factor, choices.back().word);
+}
+
+constexpr double kLitresPerFluidOunce = kLitresPerGallon / 128;
+constexpr double kLitresPerTeaspoon = kLitresPerGallon / 768;
+constexpr std::array kVolumesUS = {UnitChoice{kLitresPerGallon, 0.25, "gal"},
+                                   UnitChoice{kLitresPerFluidOunce, 1, "fl oz"},
+                                   UnitChoice{kLitresPerTeaspoon, 0, "tsp"}, UnitChoice{0.001, 0, "ml"}};
+constexpr std::array kVolumesMetric = {UnitChoice{1, 0.5, "L"}, UnitChoice{0.001, 0, "ml"}};
+constexpr std::array kSmallWeightsUS = {UnitChoice{kKilogramsPerOunce, 0, "oz"}, UnitChoice{0.001, 0, "g"}};
+
 // Returns the quantity in the unit of the file's text, if the program can read a text with that unit.
 std::optional<std::string> InUnitOf(std::string_view written, UnitKind kind, double quantity,
                                     Validator validator) {
@@ -60,7 +92,7 @@ std::optional<std::string> InUnitOf(std::string_view written, UnitKind kind, dou
     if (!unit || unit->shown.empty()) return std::nullopt;
     const std::string_view word = unit->shown == "l" ? "L" : unit->shown;
     std::string text = With(quantity / unit->factor, word);
-    return Read(validator, text) ? std::optional(std::move(text)) : std::nullopt;
+    return Says(text, validator, quantity) ? std::optional(std::move(text)) : std::nullopt;
 }
 
 // Returns "9 lb 4 oz" for whole and quarter ounces; nothing for other weights and below a pound.
@@ -134,15 +166,13 @@ AmountTexts::AmountTexts(ImportUnits units, const ForeignRecipe& recipe)
 }
 
 std::string AmountTexts::Volume(const ForeignAmount& amount) const {
-    constexpr double kSmallLitres = 0.5;
     const double litres = amount.value;
     if (asInFile_ && !amount.written.empty()) {
         if (Says(amount.written, ValidateVolume, litres / kLitresPerGallon))
             return std::string(Trim(amount.written));
         if (auto text = InUnitOf(amount.written, UnitKind::Volume, litres, ValidateVolume)) return *text;
     }
-    if (us_) return With(litres / kLitresPerGallon, "gal");
-    return litres < kSmallLitres ? With(litres * 1000, "ml") : With(litres, "L");
+    return us_ ? InFirstFit(litres, kVolumesUS) : InFirstFit(litres, kVolumesMetric);
 }
 
 std::string AmountTexts::WeightIn(bool us, double kilograms, Weighed what) const {
@@ -151,7 +181,7 @@ std::string AmountTexts::WeightIn(bool us, double kilograms, Weighed what) const
         if (what == Weighed::Malt && kilograms >= 1) return With(kilograms, "kg");
         return With(kilograms * 1000, "g");
     }
-    if (small || kilograms < kKilogramsPerPound) return With(kilograms / kKilogramsPerOunce, "oz");
+    if (small || kilograms < kKilogramsPerPound) return InFirstFit(kilograms, kSmallWeightsUS);
     if (auto both = PoundsAndOunces(kilograms)) return *both;
     return With(kilograms / kKilogramsPerPound, "lb");
 }

@@ -1,5 +1,6 @@
 #include "doctor/ExactUnits.h"
 
+#include "exchange/AsciiCase.h"
 #include "platform/Error.h"
 #include "values/QuantityParsers.h"
 #include "values/Text.h"
@@ -17,6 +18,14 @@ std::optional<double> CutNumber(std::string_view& text) {
     }
 }
 
+// Returns the next unit of the text, which is cut off. "fl oz" has two words.
+std::string CutUnit(std::string_view& text) {
+    std::string unit(GetToken(text));
+    if (EqualAscii(Trim(unit), "fl") || EqualAscii(Trim(unit), "fl."))
+        unit.append(" ").append(GetToken(text));
+    return unit;
+}
+
 // Returns the sum of numbers, each with its unit.
 std::optional<double> SumIn(std::string_view text, UnitKind kind) {
     double sum = 0;
@@ -24,7 +33,7 @@ std::optional<double> SumIn(std::string_view text, UnitKind kind) {
     if (text.empty()) return std::nullopt;
     while (!text.empty()) {
         const std::optional<double> number = CutNumber(text);
-        const ForeignUnit* const unit = number ? FindUnit(kind, GetToken(text)) : nullptr;
+        const ForeignUnit* const unit = number ? FindUnit(kind, CutUnit(text)) : nullptr;
         if (!unit) return std::nullopt;
         sum += unit->ToBase(*number);
     }
@@ -37,8 +46,13 @@ std::string_view UnitWordOf(std::string_view amount) {
     std::string_view word = Trim(amount);
     if (word.ends_with('.')) word.remove_suffix(1);
     const std::size_t before = word.find_last_of("0123456789 ./");
-    if (before != std::string_view::npos) word.remove_prefix(before + 1);
-    return word;
+    if (before == std::string_view::npos) return word;
+    const std::string_view last = word.substr(before + 1);
+    // "fl oz" has two words.
+    if (const std::string_view front = Trim(word.substr(0, before));
+        word[before] == ' ' && front.size() >= 2 && EqualAscii(front.substr(front.size() - 2), "fl"))
+        return word.substr(front.size() - 2);
+    return last;
 }
 
 std::optional<double> KilogramsIn(std::string_view text) {

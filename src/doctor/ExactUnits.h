@@ -12,7 +12,7 @@ namespace tw {
 
 inline constexpr double kKilogramsPerOunce = kKilogramsPerPound / 16;
 
-// Returns the word at the end of an amount: "lb" for "9.25 lb".
+// Returns the word at the end of an amount: "lb" for "9.25 lb", "fl oz" for "8 fl oz".
 std::string_view UnitWordOf(std::string_view amount);
 
 // Each returns the quantity that a text states with a unit, such as "9 lb 4 oz" or "1 1/2 gal"; nullopt for

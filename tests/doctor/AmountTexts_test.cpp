@@ -71,6 +71,24 @@ TEST(AmountTexts, VolumesTemperaturesAndPieces) {
     EXPECT_EQ(us.Any({Of::Pieces, 2, {}}, Weighed::Other), "2");
 }
 
+TEST(AmountTexts, SmallAmountsHaveAUnitThatKeepsThem) {
+    const AmountTexts us(ImportUnits::US, Batch(20));
+    // 1 g is 0.035274 oz, and 0.0353 oz would be 0.07 % more.
+    EXPECT_EQ(Hops(ImportUnits::US, 0.001), "1 g");
+    EXPECT_EQ(Malt(ImportUnits::US, 0.002), "2 g");
+    // 5 g are 0.17637 oz, and 0.1764 oz is 0.017 % more.
+    EXPECT_EQ(Malt(ImportUnits::US, 0.005), "0.1764 oz");
+    // 10 ml are 2.02884 tsp and 0.00264 gal; 250 ml are 8.4535 fl oz; a gallon has 128 fl oz or 768 tsp.
+    EXPECT_EQ(us.Volume({Of::Volume, 0.01, {}}), "2.029 tsp");
+    EXPECT_EQ(us.Volume({Of::Volume, 0.25, {}}), "8.454 fl oz");
+    EXPECT_EQ(us.Volume({Of::Volume, 3.785411784 / 4, {}}), "0.25 gal");
+    // A hundredth of a milliliter is 0.0020 tsp, with too few digits to be exact.
+    EXPECT_EQ(us.Volume({Of::Volume, 0.00001, {}}), "0.01 ml");
+    // The file's own unit would lose it, too: 0.0002 kg would be 0.2 g.
+    EXPECT_EQ(Hops(ImportUnits::AsInFile, 0.000234, "0.00 kg"), "0.234 g");
+    EXPECT_EQ(AmountTexts(ImportUnits::AsInFile, Batch(20)).Volume({Of::Volume, 0.01, "0.0 gal"}), "10 ml");
+}
+
 TEST(AmountTexts, DecimalsAreTheFewestThatKeepTheQuantity) {
     EXPECT_EQ(FewestDecimals(36.9712), "36.97");
     EXPECT_EQ(FewestDecimals(5), "5");

@@ -20,7 +20,17 @@ TEST(ExactUnits, VolumesWithTheirUnits) {
     EXPECT_DOUBLE_EQ(LitresIn("5 gal").value(), 18.92705892);
     EXPECT_DOUBLE_EQ(LitresIn("23 L").value(), 23);
     EXPECT_DOUBLE_EQ(LitresIn("1 gal 2 qt").value(), 1.5 * 3.785411784);
+    EXPECT_DOUBLE_EQ(LitresIn("128 fl oz").value(), 3.785411784);
+    EXPECT_DOUBLE_EQ(LitresIn("1 pt 112 Fl. Oz").value(), 3.785411784);
+    EXPECT_FALSE(LitresIn("8 fl"));
     EXPECT_FALSE(LitresIn("5"));
+}
+
+TEST(ExactUnits, TheUnitAtTheEndOfAnAmount) {
+    EXPECT_EQ(UnitWordOf("9.25 lb"), "lb");
+    EXPECT_EQ(UnitWordOf(" 9 lb 4 oz. "), "oz");
+    EXPECT_EQ(UnitWordOf("8 fl oz"), "fl oz");
+    EXPECT_EQ(UnitWordOf("8"), "");
 }
 
 TEST(ExactUnits, TimesWithAndWithoutAUnit) {
