@@ -74,7 +74,11 @@ void RecipeTypist::TypeCell(Grid& grid, int row, const PlannedLine& line, const 
 
 void RecipeTypist::FinishGravity(const RecipePlan& plan) {
     RecipeRecord& r = document_.Record();
-    if (!plan.finishedGravity.empty()) return TypeField(r.txtFG, plan.finishedGravity);
+    if (!plan.finishedGravity.empty()) {
+        // The yeast may have given the same text, with a number that has more decimals.
+        TypeField(r.txtFG, "");
+        return TypeField(r.txtFG, plan.finishedGravity);
+    }
     if (plan.attenuation && !r.txtOG.Empty()) {
         Accepted([&] {
             TypeField(r.txtFG, GravityText(AttenuatedGravity(r.txtOG.Value(), *plan.attenuation)));

@@ -240,6 +240,10 @@ TEST_F(PaleAle, YeastsStandInTheLogAndGiveTheFinishedGravity) {
     // What is stated goes before both.
     recipe.stated.fg = 1.011;
     EXPECT_EQ(Examine().txtFG.Text(), "1.011");
+    // Even if the yeast leads to the same text, the number is the one that the file states.
+    recipe.yeasts[0].attenuation.reset();
+    recipe.stated.fg = 1.012;
+    EXPECT_EQ(Examine().txtFG.Value(), 1.012);
 }
 
 TEST_F(PaleAle, AYeastThatTheCatalogueDoesNotKnowKeepsItsName) {
