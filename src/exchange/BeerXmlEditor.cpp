@@ -60,12 +60,14 @@ BeerXmlEditor::BeerXmlEditor(pugi::xml_node element, XmlRecord record, WriteTell
       place_(std::move(place)),
       slots_(rule_.fields.size()) {
     if (RemoveStrayText(element)) telling_.NoteDropped("text in " + std::string(rule_.tag));
+    RemoveAttributes(element);
     pugi::xml_node next;
     for (pugi::xml_node child = element.first_child(); child; child = next) {
         next = child.next_sibling();
         if (child.type() != pugi::node_element) continue;
         const XmlField* const field = FieldOf(record, child.name());
         if (field == nullptr) continue;
+        RemoveAttributes(child);
         if (child.name() != field->tag) child.set_name(std::string(field->tag).c_str());
         pugi::xml_node& slot = slots_[IndexOf(field->tag)];
         if (!slot) {
@@ -75,6 +77,13 @@ BeerXmlEditor::BeerXmlEditor(pugi::xml_node element, XmlRecord record, WriteTell
             element.remove_child(child);
         }
     }
+}
+
+// The tags of the format have none.
+void BeerXmlEditor::RemoveAttributes(pugi::xml_node element) {
+    for (const pugi::xml_attribute attribute : element.attributes())
+        telling_.NoteLost({"attribute " + std::string(attribute.name())});
+    element.remove_attributes();
 }
 
 pugi::xml_node BeerXmlEditor::Element(std::string_view tag) const {
@@ -155,7 +164,6 @@ bool BeerXmlEditor::SaysTheSame(const XmlField& field, const XmlValue& value) co
     return before && now && IsWithin(*before, *now, ToleranceOf(field.tag));
 }
 
-// Keeps the attributes.
 void BeerXmlEditor::Set(std::size_t index, std::string_view text) {
     pugi::xml_node& slot = slots_[index];
     if (!slot) slot = element_.append_child(std::string(rule_.fields[index].tag).c_str());

@@ -19,7 +19,8 @@ bool RemoveStrayText(pugi::xml_node element);
 class BeerXmlEditor {
   public:
     // Spells the tags of the element's fields as the format does. Of a field that it has twice the first
-    // stays; record sets are left alone. Removes stray text. place is as in a Finding.
+    // stays; record sets are left alone. Removes stray text and the attributes of the element and its fields.
+    // place is as in a Finding.
     BeerXmlEditor(pugi::xml_node element, XmlRecord record, WriteTelling& telling, std::string place);
 
     // In all of these, tag is a field of the record.
@@ -49,6 +50,7 @@ class BeerXmlEditor {
     bool MendFigure(std::size_t index, const std::string& text);
     bool MendWord(std::size_t index, const std::string& text);
     void Fill(std::size_t index, const XmlValues& values);
+    void RemoveAttributes(pugi::xml_node element);
 
     pugi::xml_node element_;
     const XmlRecordRule& rule_;

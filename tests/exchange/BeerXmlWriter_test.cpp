@@ -121,8 +121,8 @@ Texts TextsOf(const std::string& xml) {
     return texts;
 }
 
-// A recipe that satisfies the schema, with a tag and an attribute that the format does not have.
-constexpr const char* kValid = R"(<RECIPE id="7"><NAME>Mild</NAME><VERSION>1</VERSION><TYPE>All Grain</TYPE>
+// A recipe that satisfies the schema, with a tag that the format does not have.
+constexpr const char* kValid = R"(<RECIPE><NAME>Mild</NAME><VERSION>1</VERSION><TYPE>All Grain</TYPE>
 <STYLE><NAME>Dark</NAME><CATEGORY>Mild</CATEGORY><VERSION>1</VERSION><CATEGORY_NUMBER>13</CATEGORY_NUMBER>
 <STYLE_LETTER>A</STYLE_LETTER><STYLE_GUIDE>Own</STYLE_GUIDE><TYPE>Ale</TYPE><OG_MIN>1.030</OG_MIN>
 <OG_MAX>1.038</OG_MAX><FG_MIN>1.008</FG_MIN><FG_MAX>1.013</FG_MAX><IBU_MIN>10</IBU_MIN><IBU_MAX>25</IBU_MAX>
@@ -528,6 +528,19 @@ TEST(BeerXmlWriter, FiguresWithoutAnExponent) {
     EXPECT_EQ(written->At("HOPS/HOP/BETA"), "0.3333333333");
     EXPECT_EQ(written->At("HOPS/HOP/TIME"), "1000000000");
     EXPECT_EQ(written->At("HOPS/HOP/AMOUNT"), "0");
+}
+
+TEST(BeerXmlWriter, TagsOfTheFormatLoseTheirAttributes) {
+    const auto written =
+        Write(Original("<NAME lang=\"en\">Mild</NAME><MASH id=\"3\"><NAME>Single</NAME></MASH>"
+                       "<HOPS count=\"1\"><HOP id=\"4\"><NAME>Fuggle</NAME></HOP></HOPS><OWN id=\"5\"/>"));
+    EXPECT_EQ(written->text.find("lang"), std::string::npos);
+    EXPECT_EQ(written->text.find("count"), std::string::npos);
+    EXPECT_STREQ(written->Recipe().child("OWN").attribute("id").value(), "5");
+    EXPECT_FALSE(written->Recipe().child("MASH").attribute("id"));
+    EXPECT_FALSE(written->Recipe().child("HOPS").child("HOP").attribute("id"));
+    EXPECT_THAT(written->Told(),
+                Contains(HasSubstr("left out: attribute lang, attribute id, attribute count")));
 }
 
 TEST(BeerXmlWriter, AnUnchangedOriginalComesBackToTheLetter) {
