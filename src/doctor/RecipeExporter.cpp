@@ -30,12 +30,66 @@ bool SameText(std::string_view a, std::string_view b) {
     return Trim(a) == Trim(b);
 }
 
+const std::string& TextOf(const RecipeRecord& record, FieldId field) {
+    return const_cast<RecipeRecord&>(record)[field].Text();
+}
+
+// True if the row of priming or pressure still is as planned; true for any other line.
+bool SaysTheSameCarbonation(const RecipeRecord& record, const PlannedLine& line) {
+    if (line.grid != GridId::Priming && line.grid != GridId::Pressure) return true;
+    return std::ranges::all_of(line.cells, [&](const PlannedCell& cell) {
+        return SameText(record[line.grid].Text(Grid::FixedRows(), cell.col), cell.text);
+    });
+}
+
+// Returns how many rows and fields of the recipe are not as planned.
+std::size_t Differences(const RecipeRecord& record, const RecipePlan& plan) {
+    const RecipeComparison compared = Compare(record, plan);
+    std::size_t count = compared.rows.size() - compared.Unchanged();
+    for (const PlannedField& field : plan.fields)
+        if (!SameText(field.text, TextOf(record, field.field))) ++count;
+    for (const PlannedLine& line : plan.lines)
+        if (!SaysTheSameCarbonation(record, line)) ++count;
+    return count;
+}
+
+// The lines of one kind. They come by grids, but a file lists them in one order: lines of different grids are
+// put as in the original, a new one behind the line that precedes it in its grid.
+template <class Line>
+class ExportedLines {
+  public:
+    // To be called before the rows of each grid.
+    void BeginGrid() { reached_ = 0; }
+    void Put(Line line, const ForeignLine* from, bool unchanged) {
+        if (from) reached_ = std::max(reached_, from->index + 1);
+        entries_.push_back(
+            {reached_, std::move(line), {from ? std::optional(from->index) : std::nullopt, unchanged}});
+    }
+    void MoveTo(std::vector<Line>& lines, std::vector<LineOrigin>& origins) {
+        std::ranges::stable_sort(entries_, {}, &Entry::place);
+        for (Entry& entry : entries_) {
+            lines.push_back(std::move(entry.line));
+            origins.push_back(entry.origin);
+        }
+    }
+
+  private:
+    struct Entry {
+        std::size_t place;  // 1 for the first line of the original
+        Line line;
+        LineOrigin origin;
+    };
+    std::vector<Entry> entries_;
+    std::size_t reached_ = 0;
+};
+
 // Puts one recipe together: what was there before, and what has changed.
 class ExportAssembly {
   public:
+    // defaults are those of a new recipe.
     ExportAssembly(const RecipeDocument& document, const RecipeFacts& rows, const ForeignRecipe* original,
-                   const RecipePlan* plan, Findings& findings)
-        : document_(document), rows_(rows), plan_(plan), findings_(findings) {
+                   const RecipePlan* plan, RecipeDefaults defaults, Findings& findings)
+        : document_(document), rows_(rows), plan_(plan), defaults_(std::move(defaults)), findings_(findings) {
         if (original) {
             base_ = *original;
             out_.facts = *original;
@@ -50,7 +104,12 @@ class ExportAssembly {
     ExportedRecipe Assemble() {
         const RecipePlan none;
         const RecipeComparison compared = Compare(document_.Record(), plan_ ? *plan_ : none);
-        for (const ComparedRow& row : compared.rows) Add(row);
+        const Grid* grid = nullptr;
+        for (const ComparedRow& row : compared.rows) {
+            if (std::exchange(grid, row.grid) != row.grid) BeginGrid();
+            Add(row);
+        }
+        MoveLines();
         linesChanged_ = compared.Unchanged() != compared.rows.size() || !compared.gone.empty();
         Fields();
         return std::move(out_);
@@ -61,27 +120,39 @@ class ExportAssembly {
 
     const RecipeRecord& R() const { return document_.Record(); }
 
+    void BeginGrid() {
+        fermentables_.BeginGrid();
+        hops_.BeginGrid();
+        yeasts_.BeginGrid();
+        miscs_.BeginGrid();
+        waters_.BeginGrid();
+    }
+
+    void MoveLines() {
+        fermentables_.MoveTo(out_.facts.fermentables, out_.fermentables);
+        hops_.MoveTo(out_.facts.hops, out_.hops);
+        yeasts_.MoveTo(out_.facts.yeasts, out_.yeasts);
+        miscs_.MoveTo(out_.facts.miscs, out_.miscs);
+        waters_.MoveTo(out_.facts.waters, out_.waters);
+    }
+
     void Add(const ComparedRow& row) {
         if (row.unchanged && row.line) return Keep(*row.line);
         const ForeignLine* const from =
             row.line && !row.line->from.empty() ? &row.line->from.front() : nullptr;
         switch (row.grid->Id()) {
             case GridId::Grain:
-            case GridId::Extract:
-                return Put(
-                    out_.facts.fermentables, out_.fermentables,
-                    rows_.Fermentable(*row.grid, row.row, Base(base_.fermentables, from, Kind::Fermentable)),
-                    from);
+            case GridId::Extract: {
+                const ForeignFermentable base = Base(base_.fermentables, from, Kind::Fermentable);
+                return fermentables_.Put(rows_.Fermentable(*row.grid, row.row, base), from, false);
+            }
             case GridId::Hops:
-                return Put(out_.facts.hops, out_.hops, rows_.Hop(row.row, Base(base_.hops, from, Kind::Hop)),
-                           from);
+                return hops_.Put(rows_.Hop(row.row, Base(base_.hops, from, Kind::Hop)), from, false);
             case GridId::Treatment:
-                return Put(out_.facts.miscs, out_.miscs,
-                           rows_.Salt(row.row, Base(base_.miscs, from, Kind::Misc)), from);
+                return miscs_.Put(rows_.Salt(row.row, Base(base_.miscs, from, Kind::Misc)), from, false);
             case GridId::Adjuncts:
-                return Put(out_.facts.miscs, out_.miscs,
-                           rows_.Adjunct(row.row, Base(base_.miscs, from, Kind::Misc)),
-                           from && from->kind == Kind::Misc ? from : nullptr);
+                return miscs_.Put(rows_.Adjunct(row.row, Base(base_.miscs, from, Kind::Misc)),
+                                  from && from->kind == Kind::Misc ? from : nullptr, false);
             case GridId::Water:
                 return AddWater(row);
             case GridId::Log:
@@ -95,13 +166,6 @@ class ExportAssembly {
     template <class Line>
     static Line Base(const std::vector<Line>& lines, const ForeignLine* from, Kind kind) {
         return from && from->kind == kind && from->index < lines.size() ? lines[from->index] : Line();
-    }
-
-    template <class Line>
-    static void Put(std::vector<Line>& lines, std::vector<LineOrigin>& origins, Line line,
-                    const ForeignLine* from, bool unchanged = false) {
-        lines.push_back(std::move(line));
-        origins.push_back({from ? std::optional(from->index) : std::nullopt, unchanged});
     }
 
     // Returns a line of the original with the amount as it was typed here, for a format that has units; the
@@ -122,20 +186,19 @@ class ExportAssembly {
         for (const ForeignLine& from : line.from) {
             switch (from.kind) {
                 case Kind::Fermentable:
-                    Put(out_.facts.fermentables, out_.fermentables,
-                        Shown(base_.fermentables[from.index], line), &from, true);
+                    fermentables_.Put(Shown(base_.fermentables[from.index], line), &from, true);
                     break;
                 case Kind::Hop:
-                    Put(out_.facts.hops, out_.hops, Shown(base_.hops[from.index], line), &from, true);
+                    hops_.Put(Shown(base_.hops[from.index], line), &from, true);
                     break;
                 case Kind::Yeast:
-                    Put(out_.facts.yeasts, out_.yeasts, base_.yeasts[from.index], &from, true);
+                    yeasts_.Put(base_.yeasts[from.index], &from, true);
                     break;
                 case Kind::Misc:
-                    Put(out_.facts.miscs, out_.miscs, Shown(base_.miscs[from.index], line), &from, true);
+                    miscs_.Put(Shown(base_.miscs[from.index], line), &from, true);
                     break;
                 case Kind::Water:
-                    Put(out_.facts.waters, out_.waters, base_.waters[from.index], &from, true);
+                    waters_.Put(base_.waters[from.index], &from, true);
                     break;
             }
         }
@@ -145,14 +208,13 @@ class ExportAssembly {
     void AddWater(const ComparedRow& row) {
         const bool one = row.line && row.line->from.size() == 1;
         const ForeignLine* const from = one ? &row.line->from.front() : nullptr;
-        Put(out_.facts.waters, out_.waters, rows_.SourceWater(Base(base_.waters, from, Kind::Water)), from);
+        waters_.Put(rows_.SourceWater(Base(base_.waters, from, Kind::Water)), from, false);
     }
 
     void AddLog(const ComparedRow& row, const ForeignLine* from) {
         const Grid& log = *row.grid;
         if (PitchesYeast(log, row.row))
-            return Put(out_.facts.yeasts, out_.yeasts,
-                       rows_.Yeast(row.row, Base(base_.yeasts, from, Kind::Yeast)), from);
+            return yeasts_.Put(rows_.Yeast(row.row, Base(base_.yeasts, from, Kind::Yeast)), from, false);
         if (SameName(log.Text(row.row, LogCol::Action), "Tasted")) {
             out_.facts.tasteNotes = log.Text(row.row, LogCol::Notes);
             out_.changed.insert(ExportedField::TasteNotes);
@@ -175,16 +237,17 @@ class ExportAssembly {
         }
         ShowVolume(out_.facts.batchSize, now.batchSize);
         ShowVolume(out_.facts.boilSize, now.boilSize);
-        Take(ExportedField::Name, SameText(plan_->name, now.name), &ForeignRecipe::name, now);
-        Take(ExportedField::BatchSize, Unchanged(FieldId::TotalVol), &ForeignRecipe::batchSize, now);
-        Take(ExportedField::BoilSize, Unchanged(FieldId::BoilVol), &ForeignRecipe::boilSize, now);
-        Take(ExportedField::Efficiency, Unchanged(FieldId::Extract), &ForeignRecipe::efficiency, now);
-        const bool usual = !PlannedText(*plan_, FieldId::HopExtraction) && R().txtHopExtraction.Value() == 1;
-        Take(ExportedField::HopUtilization, usual || Unchanged(FieldId::HopExtraction),
-             &ForeignRecipe::hopUtilization, now);
-        Take(ExportedField::Notes, Unchanged(FieldId::Notes), &ForeignRecipe::notes, now);
-        Take(ExportedField::Style, plan_->style.value_or("(None)") == document_.BeerStyle(),
-             &ForeignRecipe::style, now);
+        if (!SameText(plan_->name, now.name)) Take(ExportedField::Name, &ForeignRecipe::name, now);
+        TakeField(ExportedField::BatchSize, FieldId::TotalVol, &ForeignRecipe::batchSize, now);
+        TakeField(ExportedField::BoilSize, FieldId::BoilVol, &ForeignRecipe::boilSize, now);
+        TakeField(ExportedField::Efficiency, FieldId::Extract, &ForeignRecipe::efficiency, now);
+        if (PlannedText(*plan_, FieldId::HopExtraction) || R().txtHopExtraction.Value() != 1)
+            TakeField(ExportedField::HopUtilization, FieldId::HopExtraction, &ForeignRecipe::hopUtilization,
+                      now);
+        if (!Unchanged(FieldId::Notes)) Take(ExportedField::Notes, &ForeignRecipe::notes, now);
+        // A style that the catalogue did not know when the recipe came stays the one of the file.
+        if (now.style && plan_->style != document_.BeerStyle())
+            Take(ExportedField::Style, &ForeignRecipe::style, now);
         Carbonation(now);
         Figures(now);
     }
@@ -227,25 +290,41 @@ class ExportAssembly {
 
     bool Unchanged(FieldId field) const {
         const std::string* const planned = PlannedText(*plan_, field);
-        const std::string& text = const_cast<RecipeRecord&>(R())[field].Text();
-        return SameText(planned ? *planned : std::string(), text);
+        return SameText(planned ? *planned : std::string(), TextOf(R(), field));
     }
 
-    template <class Field>
-    void Take(ExportedField field, bool unchanged, Field ForeignRecipe::*member, ForeignRecipe& now) {
-        if (unchanged) return;
+    template <class Member>
+    void Take(ExportedField field, Member ForeignRecipe::*member, ForeignRecipe& now) {
         out_.facts.*member = std::move(now.*member);
         out_.changed.insert(field);
-        fieldsChanged_ = true;
+    }
+
+    // What the file does not state is written as it is here, but only an edit makes its figures obsolete.
+    template <class Member>
+    void TakeField(ExportedField field, FieldId id, Member ForeignRecipe::*member, ForeignRecipe& now) {
+        if (Unchanged(id)) return;
+        Take(field, member, now);
+        figuresChanged_ |= PlannedText(*plan_, id) || !SameText(TextOf(R(), id), DefaultOf(id));
+    }
+
+    const std::string& DefaultOf(FieldId field) const {
+        static const std::string kNone;
+        switch (field) {
+            case FieldId::TotalVol:
+                return defaults_.totalVol;
+            case FieldId::BoilVol:
+                return defaults_.boilVol;
+            case FieldId::Extract:
+                return defaults_.grainExtraction;
+            case FieldId::HopExtraction:
+                return defaults_.hopExtraction;
+            default:
+                return kNone;
+        }
     }
 
     void Carbonation(ForeignRecipe& now) {
-        const auto same = [&](const PlannedLine& line) {
-            if (line.grid != GridId::Priming && line.grid != GridId::Pressure) return true;
-            return std::ranges::all_of(line.cells, [&](const PlannedCell& cell) {
-                return SameText(R()[line.grid].Text(Grid::FixedRows(), cell.col), cell.text);
-            });
-        };
+        const auto same = [&](const PlannedLine& line) { return SaysTheSameCarbonation(R(), line); };
         const bool unchanged = std::ranges::all_of(plan_->lines, same) && Unchanged(FieldId::Temp) &&
                                plan_->bottled.value_or(R().Bottled()) == R().Bottled() &&
                                (base_.carbonation || !now.carbonation);
@@ -261,7 +340,7 @@ class ExportAssembly {
     void Figures(const ForeignRecipe& now) {
         const bool finished =
             !plan_->finishedGravity.empty() && !SameText(plan_->finishedGravity, R().txtFG.Text());
-        if (!linesChanged_ && !fieldsChanged_ && !finished) return;
+        if (!linesChanged_ && !figuresChanged_ && !finished) return;
         out_.facts.stated = now.stated;
         out_.facts.ibuMethod = now.ibuMethod;
         for (const ExportedField field :
@@ -273,22 +352,28 @@ class ExportAssembly {
     const RecipeDocument& document_;
     const RecipeFacts& rows_;
     const RecipePlan* plan_;
+    RecipeDefaults defaults_;
     Findings& findings_;
     ForeignRecipe base_;
     ExportedRecipe out_;
+    ExportedLines<ForeignFermentable> fermentables_;
+    ExportedLines<ForeignHop> hops_;
+    ExportedLines<ForeignYeast> yeasts_;
+    ExportedLines<ForeignMisc> miscs_;
+    ExportedLines<ForeignWater> waters_;
     bool linesChanged_ = false;
-    bool fieldsChanged_ = false;
+    bool figuresChanged_ = false;
 };
 
 }  // namespace
 
 RecipeExporter::RecipeExporter(Database& database, Platform& platform, const ColorTable& colors,
-                               ImportUnits units)
+                               ImportUnits units, RecipeDefaults defaults)
     : database_(database),
       platform_(platform),
       colors_(colors),
       units_(units),
-      host_(RecipeDefaults{}),
+      host_(std::move(defaults)),
       figures_(database) {}
 
 RecipePlan RecipeExporter::PlanOf(const ForeignRecipe& recipe, ImportUnits units) {
@@ -307,17 +392,15 @@ std::optional<RecipeExporter::Original> RecipeExporter::OriginalOf(const RecipeD
     Original original{std::move(file->recipes.front()), file->format, {}};
     original.recipe.fragment = carried.front().content;
     // The setting may have been another one when the recipe was imported.
-    std::size_t best = 0;
+    std::optional<std::size_t> fewest;
     for (const ImportUnits units : {units_, ImportUnits::AsInFile, ImportUnits::US, ImportUnits::Metric}) {
         RecipePlan plan = PlanOf(original.recipe, units);
-        const RecipeComparison compared = Compare(document.Record(), plan);
-        const std::size_t unchanged = compared.Unchanged();
-        if (unchanged < best || (unchanged == best && best > 0)) continue;
-        best = unchanged;
+        const std::size_t differences = Differences(document.Record(), plan);
+        if (fewest && differences >= *fewest) continue;
+        fewest = differences;
         original.plan = std::move(plan);
-        if (unchanged == compared.rows.size()) break;
+        if (differences == 0) break;
     }
-    if (original.plan.name.empty()) original.plan = PlanOf(original.recipe, units_);
     return original;
 }
 
@@ -328,7 +411,7 @@ ExportedRecipe RecipeExporter::Prepare(const std::string& name, ExchangeFormat f
     const std::optional<Original> original = id ? OriginalOf(document, *id) : std::nullopt;
     const RecipeFacts rows(document, database_, figures_, findings);
     ExportedRecipe exported = ExportAssembly(document, rows, original ? &original->recipe : nullptr,
-                                             original ? &original->plan : nullptr, findings)
+                                             original ? &original->plan : nullptr, host_.Defaults(), findings)
                                   .Assemble();
     if (!original || original->format != format) exported.facts.fragment.clear();
     return exported;

@@ -23,8 +23,10 @@ namespace tw {
 
 class RecipeExporter {
   public:
-    // units is the setting with which recipes are imported. REQUIRES: all arguments outlive this object.
-    RecipeExporter(Database& database, Platform& platform, const ColorTable& colors, ImportUnits units);
+    // units is the setting with which recipes are imported, defaults what a new recipe has. REQUIRES: the
+    // other arguments outlive this object.
+    RecipeExporter(Database& database, Platform& platform, const ColorTable& colors, ImportUnits units,
+                   RecipeDefaults defaults);
 
     // Returns the stored recipe of that name for a file of that format, and adds what the format cannot say
     // to findings. Raises Error if there is no such recipe, or if it cannot be read.

@@ -115,7 +115,7 @@ std::optional<Findings> DoctorDesk::Export(ExchangeFormat format, const std::str
                                            const std::vector<std::string>& names) {
     const TargetFile target(path, own_);
     Findings findings;
-    RecipeExporter exporter(*data_.database, data_.platform, colors_, Options().units);
+    RecipeExporter exporter(*data_.database, data_.platform, colors_, Options().units, settings_.Defaults());
     std::vector<ExportedRecipe> recipes;
     recipes.reserve(names.size());
     RunSteps(data_.platform.dialogs, "Exporting Recipes", names, [&](std::size_t i) {

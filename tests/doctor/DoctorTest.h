@@ -2,24 +2,17 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include "catalogue/CatalogueContext.h"
-#include "doctor/RecipeDoctor.h"
+#include "SmallProgram.h"
 #include "store/Schema.h"
-#include "support/RecordingPlatform.h"
-#include "support/SilentStore.h"
-#include "tree/DB_IO.h"
-#include "tree/TWTree.h"
-#include "tree/TreeObjects.h"
 
 namespace tw::test {
 
-class DoctorTest : public testing::Test {
+class DoctorTest : public testing::Test, protected SmallProgram {
   protected:
-    DoctorTest() {
+    DoctorTest() : SmallProgram(CreateMainDatabaseInMemory()) {
         for (const char* const row :
              {"GRAINS (GRAIN, NAME, PPG_LO, PPG_HI, COLOR_LO, COLOR_HI) VALUES (TRUE, 'Pale Malt', 36, 38, "
               "3, 3)",
@@ -62,15 +55,6 @@ class DoctorTest : public testing::Test {
         return cells;
     }
 
-    RecordingPlatform platform;
-    std::unique_ptr<Database> database = CreateMainDatabaseInMemory();
-    TWTree tree{database.get()};
-    TreeObjects treeObjects{tree};
-    NoListener listener;
-    DB_IO objects{*database, treeObjects, platform.messages, platform.clock, listener};
-    CatalogueContext catalogue{*database, tree, objects, platform.messages, platform.dialogs, platform.clock};
-    ColorTable colors;
-    RecipeDoctor doctor{*database, platform.platform, colors, {"75%", "1", "", "6 gal", "5 gal"}};
     ForeignRecipe recipe;
     ExaminedRecipe examined;
 };

@@ -63,7 +63,8 @@ class Exporting : public DoctorTest {
         editing.documents.clear();
     }
     ExportedRecipe Prepare(ExchangeFormat format = ExchangeFormat::BeerXml) {
-        return RecipeExporter(*database, platform.platform, colors, ImportUnits::AsInFile)
+        return RecipeExporter(*database, platform.platform, colors, ImportUnits::AsInFile,
+                              {"75%", "1", "", "6 gal", "5 gal"})
             .Prepare("Visitor", format, findings);
     }
     // Returns the origins as "0=" for an unchanged element 0, "1" for a changed one, "new" for none.
