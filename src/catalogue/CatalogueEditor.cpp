@@ -150,24 +150,43 @@ bool CatalogueEditor::CheckName(const std::string& name) {
     return false;
 }
 
-bool CatalogueEditor::Save() {
+bool CatalogueEditor::LeaveCells() {
     for (int row = 0; row < Cells().Rows(); ++row)
         for (int col = 0; col < Cells().Cols(); ++col) {
             refusedControl_ = CellGrid::NameOf(row, col);
             if (!LeaveCell(row, col)) return false;
         }
     refusedControl_ = "Text1";
+    return true;
+}
+
+bool CatalogueEditor::WriteEntry() {
     const std::string name(Trim(entry_.name));
+    return CheckName(name) && Write(name);
+}
+
+void CatalogueEditor::MarkSaved() {
+    refusedControl_.clear();
+    entry_.name = loadedName_ = selection_ = Trim(entry_.name);
+    applyEnabled_ = false;
+    if (onSaved_) onSaved_(selection_);
+}
+
+bool CatalogueEditor::Save() {
+    if (!LeaveCells()) return false;
     try {
-        if (!CheckName(name) || !Write(name)) return false;
+        if (!WriteEntry()) return false;
     } catch (const Error& error) {
         ShowError(error.Description());
         return false;
     }
-    refusedControl_.clear();
-    entry_.name = loadedName_ = selection_ = name;
-    applyEnabled_ = false;
-    if (onSaved_) onSaved_(selection_);
+    MarkSaved();
+    return true;
+}
+
+bool CatalogueEditor::SaveOrRaise() {
+    if (!LeaveCells() || !WriteEntry()) return false;
+    MarkSaved();
     return true;
 }
 

@@ -65,6 +65,10 @@ class CatalogueEditor : public FormModel {
     // To be called when another folder has been chosen.
     void FolderChanged() { MarkChanged(); }
 
+    // Saves as cmdApply does, but raises the store's errors, for a unit of work of which the entry is a part.
+    // False if the entry was refused, which a message has said.
+    bool SaveOrRaise();
+
     // The control whose text the last cmdOK or cmdApply refused; empty if it saved.
     const std::string& RefusedControl() const { return refusedControl_; }
 
@@ -110,6 +114,11 @@ class CatalogueEditor : public FormModel {
     void MarkChanged() { applyEnabled_ = true; }
     void Clear();
     void Ok();
+    // Checks the texts of all cells. False if one was refused.
+    bool LeaveCells();
+    // Checks the name and writes the row. Raises the store's errors.
+    bool WriteEntry();
+    void MarkSaved();
     bool Save();
     // True if the row may be stored under that name; otherwise shows a message.
     bool CheckName(const std::string& name);

@@ -147,8 +147,7 @@ std::vector<std::string> CatalogueAdditions::NewIngredients(const ForeignFile& f
 
 bool CatalogueAdditions::Save(CatalogueEditor& editor, const std::string& name, Findings& findings) {
     refusals_.last.clear();
-    editor.Press("cmdOK");
-    const bool saved = !editor.Selection().empty();
+    const bool saved = editor.SaveOrRaise();
     const std::string kind(WordOf(editor.Form().catalogue));
     findings.Add({saved ? Severity::Note : Severity::Refused,
                   FindingCode::NewEntry,
@@ -165,7 +164,9 @@ std::int64_t CatalogueAdditions::ImportedFolderId() {
                                                                " AND PARENT_ID = 0 AND NAME = ?",
                                                            {kImportedFolder});
     if (!rows.AtEnd()) return rows.Fields(0).Integer();
-    return std::max<std::int64_t>(0, context_.objects.CreateStyleFolder(0, kImportedFolder, Asking::Quietly));
+    const std::int64_t id = context_.objects.CreateStyleFolder(0, kImportedFolder, Asking::Quietly);
+    if (id < 0) throw Error("Catalogue", "The folder 'Imported' cannot be created.", 0);
+    return id;
 }
 
 int CatalogueAdditions::AddStyles(const ForeignFile& file, Findings& findings) {

@@ -53,6 +53,12 @@ void ForeignImport::Extend(const ForeignFile& file, const ImportOptions& options
     if (added > 0) doctor_.Figures().Forget();
 }
 
+void ForeignImport::Undo(UnitOfWork& unit) {
+    unit.Abandon();
+    // What was added to the catalogue is gone, too.
+    doctor_.Figures().Forget();
+}
+
 int ForeignImport::Run(const ForeignFile& file, std::string_view source, const ForeignChoice& choice,
                        Findings& findings) {
     Database& database = doctor_.Store();
@@ -68,7 +74,7 @@ int ForeignImport::Run(const ForeignFile& file, std::string_view source, const F
             const bool goOn = host_.Continue(examined.plan.name, number++, total);
             const auto name = goOn ? NameFor(examined.plan.name) : std::nullopt;
             if (!name) {
-                unit.Abandon();
+                Undo(unit);
                 return 0;
             }
             for (const Finding& finding : examined.findings) findings.Add(finding);
@@ -76,11 +82,11 @@ int ForeignImport::Run(const ForeignFile& file, std::string_view source, const F
             Store(file, source, recipe, *examined.document, *name, choice.folderId);
             ++imported;
         }
+        unit.Commit();
     } catch (...) {
-        unit.Abandon();
+        Undo(unit);
         throw;
     }
-    unit.Commit();
     return imported;
 }
 

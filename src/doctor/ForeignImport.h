@@ -41,6 +41,8 @@ class ForeignImport {
     // Returns the name to import under, empty to leave the recipe out; nullopt to stop.
     std::optional<std::string> NameFor(std::string name);
     void Extend(const ForeignFile& file, const ImportOptions& options, Findings& findings);
+    // Undoes everything that the import has written.
+    void Undo(UnitOfWork& unit);
     void Store(const ForeignFile& file, std::string_view source, const ForeignRecipe& recipe,
                RecipeDocument& document, const std::string& name, std::int64_t folderId);
 
