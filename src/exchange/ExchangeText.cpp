@@ -20,11 +20,6 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-bool IsXmlCharacter(std::int32_t value) {
-    return value == 0x9 || value == 0xA || value == 0xD || (value >= 0x20 && value <= 0xD7FF) ||
-           (value >= 0xE000 && value <= 0xFFFD) || value >= 0x10000;
-}
-
 // Splits a date at its marks: "22", "May", "2014".
 std::vector<std::string_view> WordsOf(std::string_view text) {
     constexpr std::string_view kMarks = " \t\r\n,./-T:";
@@ -82,6 +77,12 @@ std::optional<std::string> DateOf(std::optional<int> year, std::optional<int> mo
 
 }  // namespace
 
+bool IsXmlCharacter(std::uint32_t codePoint) {
+    return codePoint == 0x9 || codePoint == 0xA || codePoint == 0xD ||
+           (codePoint >= 0x20 && codePoint <= 0xD7FF) || (codePoint >= 0xE000 && codePoint <= 0xFFFD) ||
+           (codePoint >= 0x10000 && codePoint <= 0x10FFFF);
+}
+
 std::string PlainNumber(double value) {
     constexpr int kDigits = 10;
     if (!std::isfinite(value) || value == 0) return "0";
@@ -107,7 +108,7 @@ std::string CleanText(std::string_view text) {
         const CodePoint point = FrontCodePoint(text);
         if (point.value == kNoCodePoint)
             clean += kReplacement;
-        else if (IsXmlCharacter(point.value))
+        else if (IsXmlCharacter(static_cast<std::uint32_t>(point.value)))
             clean += text.substr(0, point.bytes);
         text.remove_prefix(point.bytes);
     }

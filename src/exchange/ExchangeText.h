@@ -1,11 +1,15 @@
 // Numbers and texts as the writers of both formats put them into a file.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace tw {
+
+// True if the character may stand in XML.
+bool IsXmlCharacter(std::uint32_t codePoint);
 
 // Returns a number of any unit in decimal digits, without an exponent, rounded to ten significant ones:
 // "0.0283495231". "0" for a value that is no finite number.

@@ -265,7 +265,8 @@ Scanned Begin(ForeignFigure& figure, std::string_view text) {
     figure.isEmpty = text.empty();
     figure.saysUnknown = SaysUnknown(text);
     if (figure.isEmpty || figure.saysUnknown) return {};
-    Scanned scanned = Scan(text);
+    constexpr std::size_t kLongest = 1000;
+    Scanned scanned = text.size() > kLongest ? Scanned() : Scan(text);
     figure.isNoNumber = scanned.parts.empty();
     figure.hasComma = scanned.hasComma;
     if (!scanned.parts.empty()) figure.unitWritten = scanned.parts.front().unit;

@@ -1,7 +1,9 @@
 #include "exchange/HtmlWords.h"
 
 #include <algorithm>
+#include <charconv>
 #include <iterator>
+#include <string>
 
 #include "exchange/AsciiCase.h"
 
@@ -68,15 +70,32 @@ constexpr Entity kEntities[] = {
 static_assert(std::size(kEntities) == 248);
 static_assert(std::ranges::is_sorted(kEntities, {}, &Entity::name));
 
-constexpr std::string_view kTags[] = {
-    "A",      "ABBR", "ADDRESS", "ARTICLE", "ASIDE", "B",   "BIG",      "BLOCKQUOTE", "BR",   "BUTTON",
-    "CENTER", "CITE", "CODE",    "DD",      "DEL",   "DIV", "DL",       "DT",         "EM",   "FIGCAPTION",
-    "FIGURE", "FONT", "FOOTER",  "H1",      "H2",    "H3",  "H4",       "H5",         "H6",   "HEADER",
-    "HR",     "I",    "IFRAME",  "IMG",     "INPUT", "INS", "KBD",      "LABEL",      "LI",   "MARK",
-    "NOBR",   "OL",   "P",       "PRE",     "Q",     "S",   "SECTION",  "SMALL",      "SPAN", "STRIKE",
-    "STRONG", "SUB",  "SUP",     "TABLE",   "TBODY", "TD",  "TEXTAREA", "TFOOT",      "TH",   "THEAD",
-    "TR",     "TT",   "U",       "UL",      "VIDEO", "WBR"};
-static_assert(std::ranges::is_sorted(kTags));
+struct TagRow {
+    std::string_view name;
+    HtmlTag tag;
+};
+using enum HtmlTag;
+
+// The tags that mark up text, by name.
+constexpr TagRow kTags[] = {
+    {"A", WithinLine},         {"ABBR", WithinLine},  {"ADDRESS", LineBreak},   {"ARTICLE", LineBreak},
+    {"ASIDE", LineBreak},      {"B", WithinLine},     {"BIG", WithinLine},      {"BLOCKQUOTE", LineBreak},
+    {"BODY", WithinLine},      {"BR", LineBreak},     {"BUTTON", WithinLine},   {"CENTER", WithinLine},
+    {"CITE", WithinLine},      {"CODE", WithinLine},  {"DD", LineBreak},        {"DEL", WithinLine},
+    {"DIV", LineBreak},        {"DL", LineBreak},     {"DT", LineBreak},        {"EM", WithinLine},
+    {"FIGCAPTION", LineBreak}, {"FIGURE", LineBreak}, {"FONT", WithinLine},     {"FOOTER", LineBreak},
+    {"H1", LineBreak},         {"H2", LineBreak},     {"H3", LineBreak},        {"H4", LineBreak},
+    {"H5", LineBreak},         {"H6", LineBreak},     {"HEADER", LineBreak},    {"HR", LineBreak},
+    {"HTML", WithinLine},      {"I", WithinLine},     {"IFRAME", WithinLine},   {"IMG", WithinLine},
+    {"INPUT", WithinLine},     {"INS", WithinLine},   {"KBD", WithinLine},      {"LABEL", WithinLine},
+    {"LI", LineBreak},         {"MARK", WithinLine},  {"NOBR", WithinLine},     {"OL", LineBreak},
+    {"P", ParagraphBreak},     {"PRE", WithinLine},   {"Q", WithinLine},        {"S", WithinLine},
+    {"SECTION", LineBreak},    {"SMALL", WithinLine}, {"SPAN", WithinLine},     {"STRIKE", WithinLine},
+    {"STRONG", WithinLine},    {"SUB", WithinLine},   {"SUP", WithinLine},      {"TABLE", LineBreak},
+    {"TBODY", WithinLine},     {"TD", WithinLine},    {"TEXTAREA", WithinLine}, {"TFOOT", WithinLine},
+    {"TH", WithinLine},        {"THEAD", WithinLine}, {"TR", LineBreak},        {"TT", WithinLine},
+    {"U", WithinLine},         {"UL", LineBreak},     {"VIDEO", WithinLine},    {"WBR", WithinLine}};
+static_assert(std::ranges::is_sorted(kTags, {}, &TagRow::name));
 
 }  // namespace
 
@@ -86,9 +105,25 @@ std::optional<std::int32_t> CharacterOfEntity(std::string_view name) {
     return found->codePoint;
 }
 
-bool IsHtmlTag(std::string_view name) {
+std::optional<std::uint32_t> NumberOfReference(std::string_view name) {
+    if (name.size() < 2 || name.front() != '#') return std::nullopt;
+    name.remove_prefix(1);
+    const bool isHex = name.front() == 'x' || name.front() == 'X';
+    if (isHex) name.remove_prefix(1);
+    if (name.empty()) return std::nullopt;
+    std::uint32_t value = 0;
+    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), value, isHex ? 16 : 10);
+    if (end != name.data() + name.size()) return std::nullopt;
+    return error == std::errc() ? value : UINT32_MAX;
+}
+
+std::optional<HtmlTag> FindHtmlTag(std::string_view name) {
     constexpr std::size_t kLongest = 10;
-    return name.size() <= kLongest && std::ranges::binary_search(kTags, UpperAscii(name));
+    if (name.size() > kLongest) return std::nullopt;
+    const std::string upper = UpperAscii(name);
+    const auto* const found = std::ranges::lower_bound(kTags, upper, {}, &TagRow::name);
+    if (found == std::end(kTags) || found->name != upper) return std::nullopt;
+    return found->tag;
 }
 
 }  // namespace tw

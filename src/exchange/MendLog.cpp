@@ -5,12 +5,13 @@
 namespace tw {
 
 std::size_t CountLineBreaks(std::string_view text) {
-    std::size_t count = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool loneReturn = text[i] == '\r' && (i + 1 == text.size() || text[i + 1] != '\n');
-        if (text[i] == '\n' || loneReturn) ++count;
-    }
-    return count;
+    if (text.empty()) return 0;
+    // Every line feed, and every carriage return that none follows.
+    std::size_t count = text.back() == '\r' ? 1 : 0;
+    for (std::size_t i = 0; i + 1 < text.size(); ++i)
+        count += static_cast<std::size_t>(text[i] == '\n') |
+                 (static_cast<std::size_t>(text[i] == '\r') & static_cast<std::size_t>(text[i + 1] != '\n'));
+    return count + (text.back() == '\n' ? 1 : 0);
 }
 
 std::size_t MendLog::LineAt(std::size_t offset) {

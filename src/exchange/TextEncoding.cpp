@@ -151,7 +151,11 @@ struct Sequences {
 
 Sequences CountSequences(std::string_view bytes) {
     Sequences count;
-    for (std::size_t i = AsciiEnd(bytes, 0); i < bytes.size(); i = AsciiEnd(bytes, i)) {
+    for (std::size_t i = 0; i < bytes.size();) {
+        if (IsAscii(bytes[i])) {
+            i = AsciiEnd(bytes, i);
+            continue;
+        }
         const CodePoint front = FrontCodePoint(bytes.substr(i));
         ++(front.value == kNoCodePoint ? count.broken : count.whole);
         i += front.bytes;
@@ -191,10 +195,12 @@ std::string From1252(std::string_view bytes, bool keepUtf8) {
     std::string out;
     out.reserve(bytes.size() + bytes.size() / 8);
     for (std::size_t i = 0; i < bytes.size();) {
-        const std::size_t end = AsciiEnd(bytes, i);
-        out.append(bytes.substr(i, end - i));
-        i = end;
-        if (i == bytes.size()) break;
+        if (IsAscii(bytes[i])) {
+            const std::size_t end = AsciiEnd(bytes, i);
+            out.append(bytes.substr(i, end - i));
+            i = end;
+            continue;
+        }
         const CodePoint front = keepUtf8 ? FrontCodePoint(bytes.substr(i)) : CodePoint();
         if (front.value != kNoCodePoint) {
             out.append(bytes.substr(i, front.bytes));
@@ -212,6 +218,7 @@ std::optional<std::string> FromPage(std::string_view bytes, const char* page) {
     if (converter == reinterpret_cast<iconv_t>(-1)) return std::nullopt;
     std::string input(bytes);
     std::string out;
+    out.reserve(input.size() + input.size() / 8);
     std::array<char, 16384> buffer{};
     char* from = input.data();
     std::size_t left = input.size();

@@ -14,10 +14,10 @@ namespace {
 constexpr std::size_t kMostLooks = 8'000'000;
 
 // Takes the element that a tag closes off the open ones, with unclosed tags of HTML in it. False if the tag
-// closes none and is not of HTML itself.
+// closes none.
 bool TakeOff(std::vector<std::string_view>& open, std::string_view name) {
     if (open.empty() || !EqualAscii(open.back(), name)) {
-        if (IsHtmlTag(name)) return true;
+        if (IsHtmlTag(name)) return false;
         while (!open.empty() && IsHtmlTag(open.back())) open.pop_back();
         if (open.empty() || !EqualAscii(open.back(), name)) return false;
     }
@@ -45,7 +45,8 @@ XmlSurvey Survey(std::string_view text, std::size_t mostDepth, std::size_t mostT
             survey.depth = std::max(survey.depth, open.size());
             if (survey.depth > mostDepth) return survey;
         } else if (!TakeOff(open, token.name)) {
-            return survey;
+            const bool becomesText = IsHtmlTag(token.name) && ++faults <= kMostFaults;
+            if (!becomesText) return survey;
         }
     }
     while (!open.empty() && IsHtmlTag(open.back())) open.pop_back();
@@ -76,11 +77,12 @@ XmlNext XmlLookahead::NextOf(std::string_view name, std::size_t from) {
 const XmlToken& XmlLookahead::NextTag(const XmlTokens& tokens, std::size_t from) {
     if (hasNextTag_ && nextTag_.begin >= from) return nextTag_;
     XmlTokens ahead = tokens;
-    do {
-        nextTag_ = ahead.Next();
-    } while (nextTag_.kind != XmlTokenKind::End &&
-             ((nextTag_.kind != XmlTokenKind::Open && nextTag_.kind != XmlTokenKind::Close) ||
-              IsHtmlTag(nextTag_.name)));
+    std::size_t passed = 0;
+    for (nextTag_ = ahead.Next(); nextTag_.kind != XmlTokenKind::End; nextTag_ = ahead.Next()) {
+        if (nextTag_.kind != XmlTokenKind::Open && nextTag_.kind != XmlTokenKind::Close) continue;
+        // A file with so many of them is refused in any case.
+        if (!IsHtmlTag(nextTag_.name) || ++passed > kMostFaults) break;
+    }
     hasNextTag_ = true;
     return nextTag_;
 }

@@ -1,11 +1,11 @@
 #include "exchange/XmlText.h"
 
 #include <algorithm>
-#include <charconv>
 #include <optional>
 #include <vector>
 
 #include "exchange/ExchangeLimits.h"
+#include "exchange/ExchangeText.h"
 #include "exchange/HtmlWords.h"
 #include "exchange/XmlTokens.h"
 #include "values/Utf8.h"
@@ -15,11 +15,6 @@ namespace {
 
 constexpr std::size_t kNone = std::string_view::npos;
 constexpr std::size_t kMostAttributes = 64;
-
-bool IsXmlCharacter(std::uint32_t value) {
-    return value == 0x9 || value == 0xA || value == 0xD || (value >= 0x20 && value <= 0xD7FF) ||
-           (value >= 0xE000 && value <= 0xFFFD) || (value >= 0x10000 && value <= 0x10FFFF);
-}
 
 // Returns the number of bytes of the forbidden character at that place; 0 if it is allowed.
 std::size_t ForbiddenAt(std::string_view text, std::size_t at) {
@@ -41,19 +36,6 @@ void ReportRemoved(MendLog& log, std::size_t line, std::size_t count) {
         return count == 1 ? std::string("A control character, which XML forbids, was removed.")
                           : std::to_string(count) + " control characters, which XML forbids, were removed.";
     });
-}
-
-// Returns the number of a reference such as "#65" or "#x41"; nothing if it is none.
-std::optional<std::uint32_t> NumberOf(std::string_view name) {
-    if (name.size() < 2 || name.front() != '#') return std::nullopt;
-    name.remove_prefix(1);
-    const bool isHex = name.front() == 'x' || name.front() == 'X';
-    if (isHex) name.remove_prefix(1);
-    if (name.empty()) return std::nullopt;
-    std::uint32_t value = 0;
-    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), value, isHex ? 16 : 10);
-    if (end != name.data() + name.size()) return std::nullopt;
-    return error == std::errc() ? value : UINT32_MAX;
 }
 
 struct Attribute {
@@ -151,25 +133,32 @@ void RemoveControlCharacters(std::string& text, Findings& findings) {
 }
 
 void XmlText::Append(std::string_view text, std::size_t place) {
-    constexpr std::string_view kSectionEnd = "]]>";
+    // Of all ">", only that of "]]>" is wrong in a text; its brackets may have been written before.
+    Seeker ends(text, "]>");
+    const auto findEnd = [&](std::size_t from) {
+        if (text.substr(from).starts_with('>')) return from;
+        const std::size_t bracket = ends.From(from);
+        return bracket == kNone ? kNone : bracket + 1;
+    };
     std::size_t written = 0;
     std::size_t reference = text.find('&');
-    std::size_t bracket = text.find('>');
-    while (reference != kNone || bracket != kNone) {
-        const std::size_t at = std::min(reference, bracket);
+    std::size_t end = findEnd(0);
+    while (reference != kNone || end != kNone) {
+        const std::size_t at = std::min(reference, end);
         out_.append(text.substr(written, at - written));
         if (at == reference) {
             written = AppendReference(text, at, place);
             reference = text.find('&', written);
-            continue;
+        } else {
+            const bool endsSection = out_.ends_with("]]");
+            out_ += endsSection ? "&gt;" : ">";
+            if (endsSection)
+                log_.Repaired(FindingCode::BareLessThan, place + at,
+                              [] { return "\"]]>\" stands in a text; it was kept as text."; });
+            written = std::min(text.find_first_not_of('>', at), text.size());
+            out_.append(text.substr(at + 1, written - at - 1));
         }
-        const bool endsSection = out_.ends_with(kSectionEnd.substr(0, 2));
-        out_ += endsSection ? "&gt;" : ">";
-        if (endsSection)
-            log_.Repaired(FindingCode::BareLessThan, place + at,
-                          [] { return "\"]]>\" stands in a text; it was kept as text."; });
-        written = at + 1;
-        bracket = text.find('>', written);
+        end = findEnd(written);
     }
     out_.append(text.substr(written));
 }
@@ -202,7 +191,7 @@ std::size_t XmlText::AppendReference(std::string_view text, std::size_t at, std:
 
 // True if the name is a number, whether the character may stand in XML or not.
 bool XmlText::AppendCharacterReference(std::string_view name, std::size_t place) {
-    const std::optional<std::uint32_t> number = NumberOf(name);
+    const std::optional<std::uint32_t> number = NumberOfReference(name);
     if (!number) return false;
     if (IsXmlCharacter(*number)) {
         // XML writes the x of a hexadecimal number in lower case only.

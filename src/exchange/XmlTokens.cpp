@@ -1,6 +1,7 @@
 #include "exchange/XmlTokens.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "exchange/AsciiCase.h"
 #include "exchange/XmlVocabulary.h"
@@ -28,7 +29,11 @@ std::string_view FrontName(std::string_view text) {
 std::size_t Seeker::From(std::size_t begin) {
     if (begin < searched_ || begin > found_ || searched_ == found_) {
         searched_ = begin;
-        found_ = text_.find(pattern_, begin);
+        // Where the first character is frequent, find of the standard library takes many times as long.
+        const void* const found =
+            memmem(text_.data() + begin, text_.size() - begin, pattern_.data(), pattern_.size());
+        found_ = found == nullptr ? kNone
+                                  : static_cast<std::size_t>(static_cast<const char*>(found) - text_.data());
     }
     return found_;
 }

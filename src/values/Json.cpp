@@ -46,6 +46,7 @@ class Blanking {
                 comma = kNone;
                 last = c;
                 at = EndOfText(at);
+                if (at <= text_.size()) end_ = at;
                 continue;
             }
             if ((c == ']' || c == '}') && comma != kNone) {
@@ -56,14 +57,15 @@ class Blanking {
             if (!IsSpace(c)) {
                 comma = c == ',' && last != '[' && last != '{' && last != ',' ? at : kNone;
                 last = c;
+                end_ = at + 1;
             }
             ++at;
         }
         return copy_.empty() ? text_ : std::string_view(copy_);
     }
 
-    // True if the text ends before the closing mark of a text in it.
-    bool EndsInText() const { return endsInText_; }
+    // Returns the offset behind all but blanks, comments and a text at the end that is not closed.
+    std::size_t End() const { return end_; }
 
   private:
     static constexpr std::size_t kNone = std::string_view::npos;
@@ -76,12 +78,18 @@ class Blanking {
         const std::size_t end = text_.find("*/", at + 2);
         return end == kNone ? text_.size() : end + 2;
     }
+    // Returns an offset beyond the end for a text that is not closed.
     std::size_t EndOfText(std::size_t at) {
-        for (++at; at < text_.size() && text_[at] != '"'; ++at) {
+        const std::size_t quote = std::min(text_.find('"', ++at), text_.size());
+        const std::string_view simple = text_.substr(at, quote - at);
+        if (simple.find('\\') == kNone) {
+            line_ += static_cast<int>(std::ranges::count(simple, '\n'));
+            return quote + 1;
+        }
+        for (; at < text_.size() && text_[at] != '"'; ++at) {
             if (text_[at] == '\n') ++line_;
             if (text_[at] == '\\') ++at;
         }
-        endsInText_ = at >= text_.size();
         return at + 1;
     }
     void Erase(std::size_t from, std::size_t to) {
@@ -98,7 +106,7 @@ class Blanking {
     std::string copy_;
     int line_ = 1;
     int commaLine_ = 1;
-    bool endsInText_ = false;
+    std::size_t end_ = 0;
 };
 
 // Builds a value from the events of the library's reader, which raise nothing but an Error of the program.
@@ -217,14 +225,16 @@ JsonReading Read(std::string_view text, bool salvage) {
     if (text.starts_with(kMark)) text.remove_prefix(kMark.size());
     JsonReading reading;
     Blanking blanking(text);
-    const std::string_view plain = blanking.Blank(reading);
-    Builder builder(text);
+    std::string_view plain = blanking.Blank(reading);
+    // The library would copy what stands behind, only to describe an error there.
+    const bool endsAtOnce = plain.size() == blanking.End();
+    plain = plain.substr(0, blanking.End());
+    Builder builder(plain);
     if (!nlohmann::json::sax_parse(plain.begin(), plain.end(), &builder)) {
         if (!salvage || !builder.HasBegun()) throw Error("JSON", builder.Why(), kJsonNumber);
         reading.brokenOff = builder.Why();
         // The next digits of a number at the very end may be missing.
-        if (!plain.empty() && plain.back() >= '0' && plain.back() <= '9' && !blanking.EndsInText())
-            builder.DropLast();
+        if (endsAtOnce && !plain.empty() && plain.back() >= '0' && plain.back() <= '9') builder.DropLast();
     }
     reading.value = builder.Result();
     return reading;
@@ -245,8 +255,13 @@ struct JsonWriting {
     }
     void Write(std::string_view text) const {
         constexpr std::string_view kDigits = "0123456789abcdef";
+        const auto isPlain = [](char c) { return IsAscii(c) && c >= ' ' && c != '"' && c != '\\'; };
         out += '"';
         while (!text.empty()) {
+            const auto run = static_cast<std::size_t>(std::ranges::find_if_not(text, isPlain) - text.begin());
+            out += text.substr(0, run);
+            text.remove_prefix(run);
+            if (text.empty()) break;
             const CodePoint front = FrontCodePoint(text);
             const char c = text.front();
             if (front.value == kNoCodePoint) {

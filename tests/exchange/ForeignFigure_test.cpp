@@ -93,6 +93,12 @@ TEST(ForeignFigure, WordsForUnknownAndImpossibleNumbersAreAbsent) {
     EXPECT_TRUE(ReadFigure("", Plain).isEmpty);
 }
 
+TEST(ForeignFigure, LongTextsAreNoNumbers) {
+    ExpectAll({{"1" + std::string(900, ' ') + "kg", Kilograms, 1.0, "unit-in-number"},
+               {"1" + std::string(1000, ' ') + "kg", Kilograms, {}, "no-number"},
+               {std::string(1'000'000, '0') + "1", Plain, {}, "no-number"}});
+}
+
 TEST(ForeignFigure, UnitsAreConverted) {
     // 68 F = (68 - 32) / 1.8 C; 79 EBC = 79 / 1.97 SRM; a malt of 40.1015 SRM has (40.1015 + 0.76) / 1.3546
     // L.

@@ -5,6 +5,8 @@
 
 #include "exchange/ExchangeLimits.h"
 #include "exchange/HtmlWords.h"
+#include "exchange/MendLog.h"
+#include "exchange/XmlLookahead.h"
 #include "exchange/XmlVocabulary.h"
 #include "platform/Error.h"
 
@@ -85,6 +87,7 @@ TEST(XmlMend, Characters) {
          "bare-ampersand 2, bare-ampersand 2, bare-ampersand 2"},
         {"<HOPS>66&deg;\n&frac12;&nbsp;&Eacute;&eacute;</HOPS>", "<HOPS>66°\n½\u00A0Éé</HOPS>",
          "html-entity 1, html-entity 2, html-entity 2, html-entity 2, html-entity 2"},
+        {"<HOPS>]>]]&#1;>></HOPS>", "<HOPS>]>]]&gt;></HOPS>", "control-character 1, bare-less-than 1"},
         {"<HOPS>a]]>b]]<!-- -- -->></HOPS>", "<HOPS>a]]&gt;b]]&gt;</HOPS>",
          "bare-less-than 1, bare-less-than 1"},
     });
@@ -338,6 +341,28 @@ TEST(HtmlWords, EntitiesAndTags) {
     EXPECT_TRUE(IsHtmlTag("br"));
     EXPECT_TRUE(IsHtmlTag("Span"));
     EXPECT_FALSE(IsHtmlTag("HOP"));
+    EXPECT_EQ(FindHtmlTag("b"), HtmlTag::WithinLine);
+    EXPECT_EQ(FindHtmlTag("li"), HtmlTag::LineBreak);
+    EXPECT_EQ(FindHtmlTag("P"), HtmlTag::ParagraphBreak);
+    EXPECT_EQ(NumberOfReference("#65"), 65U);
+    EXPECT_EQ(NumberOfReference("#X41"), 0x41U);
+    EXPECT_EQ(NumberOfReference("#99999999999"), UINT32_MAX);
+    EXPECT_EQ(NumberOfReference("#6a"), std::nullopt);
+    EXPECT_EQ(NumberOfReference("amp"), std::nullopt);
+}
+
+// What is refused in any case is not looked through to its end.
+TEST(XmlSurvey, CountsStrayTagsOfHtmlAsFaults) {
+    constexpr std::size_t kMany = 1'000'000;
+    EXPECT_TRUE(Survey("<HOPS></b></b></HOPS>", kMany, kMany).balanced);
+    EXPECT_FALSE(Survey("<HOPS>" + Repeated("</b>", kMostFaults + 1) + "</HOPS>", kMany, kMany).balanced);
+}
+
+TEST(CountLineBreaks, CountsEveryKindOnce) {
+    EXPECT_EQ(CountLineBreaks(""), 0U);
+    EXPECT_EQ(CountLineBreaks("a\nb\r\nc\rd"), 3U);
+    EXPECT_EQ(CountLineBreaks("\r\r\n\n\r"), 4U);
+    EXPECT_EQ(CountLineBreaks("\n"), 1U);
 }
 
 TEST(XmlVocabulary, SlipsOfTyping) {

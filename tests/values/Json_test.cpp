@@ -78,6 +78,15 @@ TEST(Json, AcceptsAndReportsCommentsAndSpareCommas) {
     EXPECT_EQ(ParseJson("{\"a\": \"\\\",]\"\n,\n}").spareCommaLine, 2);
 }
 
+TEST(Json, CountsTheLinesWithinTexts) {
+    EXPECT_EQ(ParseJson("{\n\"a\": \"b\\\"\",\n\"c\": \"d\",\n}").spareCommaLine, 3);
+}
+
+TEST(Json, WritesTextsBetweenTheirMarks) {
+    EXPECT_EQ(DumpJson(Json("plain \"quoted\" \\ back\nline\t\xC3\xA9\xFF end")),
+              "\"plain \\\"quoted\\\" \\\\ back\\nline\\u0009\xC3\xA9\xEF\xBF\xBD end\"");
+}
+
 TEST(Json, AcceptsAByteOrderMark) {
     EXPECT_EQ(DumpJson(ParseJson("\xEF\xBB\xBF[1]").value), "[1]");
 }
@@ -109,6 +118,10 @@ TEST(Json, SalvagesWhatStandsBeforeTheEnd) {
     EXPECT_EQ(Salvaged("{} x"), "{}");
     EXPECT_EQ(Salvaged(R"({"a": 1, "b": 12)"), R"({"a":1})");
     EXPECT_EQ(Salvaged("[1, 2"), "[1]");
+    EXPECT_EQ(Salvaged("[1, 2 "), "[1,2]");
+    EXPECT_EQ(Salvaged("[1, 2// 3"), "[1,2]");
+    EXPECT_EQ(Salvaged("[1, 2 \n\n\""), "[1,2]");
+    EXPECT_EQ(Salvaged(R"([1, "a\"2)"), "[1]");
     EXPECT_EQ(Salvaged(R"({"a": 1, "b": "x, 1)"), R"({"a":1})");
     EXPECT_EQ(Salvaged("[1, \"2\""), R"([1,"2"])");
     EXPECT_NE(SalvageJson("[1").brokenOff, "");
