@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "exchange/ExchangeLimits.h"
+#include "exchange/Originals.h"
 #include "values/Json.h"
 
 namespace tw {
@@ -49,12 +50,8 @@ ForeignFermentable FermentableWith(const std::string& members) {
     return recipe.fermentables.empty() ? ForeignFermentable() : recipe.fermentables.front();
 }
 
-// The findings of a code as "recipe|place|text".
 std::vector<std::string> Told(const ForeignFile& file, FindingCode code) {
-    std::vector<std::string> told;
-    for (const Finding& finding : file.findings.All())
-        if (finding.code == code) told.push_back(finding.recipe + "|" + finding.place + "|" + finding.text);
-    return told;
+    return test::Told(file.findings, code);
 }
 
 constexpr const char* kWhole = R"({"beerjson": {"version": 2.06, "recipes": [{

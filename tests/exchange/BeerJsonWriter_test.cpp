@@ -6,9 +6,10 @@
 
 #include "exchange/BeerJsonReader.h"
 #include "exchange/ExchangeText.h"
+#include "exchange/Originals.h"
 #include "values/Json.h"
 
-namespace tw {
+namespace tw::test {
 namespace {
 
 using testing::Contains;
@@ -40,13 +41,7 @@ struct Written {
         }
         return value == nullptr ? "(none)" : DumpJson(*value);
     }
-    std::vector<std::string> Told() const {
-        std::vector<std::string> told;
-        for (const Finding& each : findings.All())
-            told.push_back(std::string(WordOf(each.severity)) + " " + std::string(WordOf(each.code)) + " " +
-                           each.place + ": " + each.text);
-        return told;
-    }
+    std::vector<std::string> Told() const { return test::Told(findings); }
 };
 
 Written Write(const ExportedRecipe& recipe) {
@@ -86,22 +81,8 @@ ForeignRecipe ReadOne(const std::string& text) {
     return file.recipes.empty() ? ForeignRecipe() : file.recipes.front();
 }
 
-std::vector<LineOrigin> Unchanged(std::size_t count) {
-    std::vector<LineOrigin> origins;
-    for (std::size_t i = 0; i < count; ++i) origins.push_back({i, true});
-    return origins;
-}
-
-// A recipe of a file in which nothing has changed.
 ExportedRecipe Original(const std::string& recipe) {
-    const ForeignRecipe facts = ReadOne(R"({"beerjson": {"version": 1, "recipes": [)" + recipe + "]}}");
-    return {facts,
-            {},
-            Unchanged(facts.fermentables.size()),
-            Unchanged(facts.hops.size()),
-            Unchanged(facts.yeasts.size()),
-            Unchanged(facts.miscs.size()),
-            Unchanged(facts.waters.size())};
+    return test::Original(ReadOne(R"({"beerjson": {"version": 1, "recipes": [)" + recipe + "]}}"));
 }
 
 // A recipe that satisfies the schema, with a member in a line that the format does not name.
@@ -455,4 +436,4 @@ TEST(BeerJsonWriter, AnOriginalThatCannotBeReadIsTold) {
 }
 
 }  // namespace
-}  // namespace tw
+}  // namespace tw::test

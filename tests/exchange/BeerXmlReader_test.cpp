@@ -6,6 +6,7 @@
 #include <pugixml.hpp>
 
 #include "exchange/ExchangeLimits.h"
+#include "exchange/Originals.h"
 #include "platform/Error.h"
 
 namespace tw {
@@ -43,12 +44,8 @@ ForeignFermentable ReadFermentable(const std::string& inner) {
     return recipe.fermentables.empty() ? ForeignFermentable() : recipe.fermentables.front();
 }
 
-// The findings of a code as "recipe|place|text".
 std::vector<std::string> Told(const ForeignFile& file, FindingCode code) {
-    std::vector<std::string> told;
-    for (const Finding& finding : file.findings.All())
-        if (finding.code == code) told.push_back(finding.recipe + "|" + finding.place + "|" + finding.text);
-    return told;
+    return test::Told(file.findings, code);
 }
 
 std::vector<std::string> ToldOfRecipe(const std::string& inner, FindingCode code) {

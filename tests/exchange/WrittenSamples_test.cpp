@@ -16,11 +16,12 @@
 #include "exchange/BeerJsonWriter.h"
 #include "exchange/BeerXmlReader.h"
 #include "exchange/BeerXmlWriter.h"
+#include "exchange/Originals.h"
 #include "exchange/XmlMend.h"
 #include "exchange/XmlSchema.h"
 #include "values/Json.h"
 
-namespace tw {
+namespace tw::test {
 namespace {
 
 struct Sample {
@@ -46,22 +47,6 @@ std::vector<Sample> Samples() {
         samples.push_back(std::move(sample));
     }
     return samples;
-}
-
-std::vector<LineOrigin> Unchanged(std::size_t count) {
-    std::vector<LineOrigin> origins;
-    for (std::size_t i = 0; i < count; ++i) origins.push_back({i, true});
-    return origins;
-}
-
-ExportedRecipe Original(const ForeignRecipe& facts) {
-    return {facts,
-            {},
-            Unchanged(facts.fermentables.size()),
-            Unchanged(facts.hops.size()),
-            Unchanged(facts.yeasts.size()),
-            Unchanged(facts.miscs.size()),
-            Unchanged(facts.waters.size())};
 }
 
 ExportedRecipe WithoutOriginal(ForeignRecipe facts) {
@@ -110,7 +95,7 @@ TEST(WrittenSamples, SatisfyBothSchemas) {
     for (const Sample& sample : samples) {
         for (const ForeignRecipe& facts : sample.file.recipes) {
             const ExportedRecipe fresh = WithoutOriginal(facts);
-            EXPECT_EQ(test::XmlSchemaErrors(WriteOne(fresh, true)), "") << sample.name;
+            EXPECT_EQ(XmlSchemaErrors(WriteOne(fresh, true)), "") << sample.name;
             json.push_back(WriteOne(fresh, false));
             if (!sample.isXml) json.push_back(WriteOne(Original(facts), false));
         }
@@ -290,9 +275,9 @@ TEST(WrittenSamples, AnyDamagedFieldOfAnXmlOriginalIsWrittenValid) {
             }
         }
         Findings findings;
-        EXPECT_EQ(test::XmlSchemaErrors(WriteBeerXml(damaged, findings)).substr(0, 2000), "") << sample.name;
+        EXPECT_EQ(XmlSchemaErrors(WriteBeerXml(damaged, findings)).substr(0, 2000), "") << sample.name;
     }
 }
 
 }  // namespace
-}  // namespace tw
+}  // namespace tw::test
