@@ -1,69 +1,101 @@
 #include "doctor/PlainText.h"
 
 #include <algorithm>
-#include <array>
+#include <cstdint>
+#include <optional>
 
-#include "exchange/AsciiCase.h"
+#include "exchange/ExchangeText.h"
+#include "exchange/HtmlWords.h"
+#include "exchange/XmlTokens.h"
 #include "values/Text.h"
+#include "values/Utf8.h"
 
 namespace tw {
 namespace {
 
-constexpr std::array<std::string_view, 16> kLineTags = {"BR", "P",  "DIV", "LI", "TR", "H1",    "H2", "H3",
-                                                        "H4", "UL", "OL",  "DL", "DT", "TABLE", "DD", "HR"};
-constexpr std::array<std::string_view, 21> kWordTags = {
-    "B",   "I",  "U",  "A",   "EM",   "STRONG", "SPAN",  "FONT", "SMALL", "BIG",   "SUB",
-    "SUP", "TD", "TH", "IMG", "CODE", "PRE",    "TBODY", "HTML", "BODY",  "CENTER"};
+constexpr std::size_t kNone = std::string_view::npos;
+// Of the names of tags and references; a longer one is none.
+constexpr std::size_t kLongestWord = 16;
 
-struct Entity {
-    std::string_view name, character;
-};
-constexpr Entity kEntities[] = {{"&nbsp;", " "}, {"&lt;", "<"},       {"&gt;", ">"},   {"&quot;", "\""},
-                                {"&#39;", "'"},  {"&deg;", "\u00B0"}, {"&apos;", "'"}, {"&amp;", "&"}};
-
-// A tag of HTML at the beginning of a text.
+// A tag of HTML in a text.
 struct Tag {
-    std::size_t size = 0;  // 0 if there is none
+    std::size_t end = 0;  // the offset behind it; 0 if there is none
     bool breaksLine = false;
 };
 
-Tag TagAt(std::string_view text) {
-    const std::size_t end = text.find('>');
-    if (end == std::string_view::npos) return {};
-    std::string_view name = text.substr(1, end - 1);
-    const bool closes = name.starts_with('/');
-    if (closes) name.remove_prefix(1);
-    name = name.substr(0, name.find_first_of(" \t\r\n/"));
-    const std::string upper = UpperAscii(name);
-    // A list or a row begins a line where it opens, a paragraph ends one where it closes, too.
-    if (std::ranges::find(kLineTags, upper) != kLineTags.end()) return {end + 1, !closes || upper == "P"};
-    if (std::ranges::find(kWordTags, upper) != kWordTags.end()) return {end + 1, false};
-    return {};
-}
+// Goes through a text that may have tags of HTML.
+class HtmlText {
+  public:
+    explicit HtmlText(std::string_view text) : text_(text), tagEnds_(text, ">") {}
 
-bool HasHtml(std::string_view text) {
-    for (std::size_t at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1))
-        if (TagAt(text.substr(at)).size > 0) return true;
-    return false;
-}
-
-std::string WithoutHtml(std::string_view text) {
-    std::string plain;
-    while (!text.empty()) {
-        const std::size_t tagAt = text.find('<');
-        plain.append(text.substr(0, tagAt));
-        if (tagAt == std::string_view::npos) break;
-        text.remove_prefix(tagAt);
-        const Tag tag = TagAt(text);
-        if (tag.size == 0) {
-            plain += '<';
-            text.remove_prefix(1);
-            continue;
-        }
-        if (tag.breaksLine && !plain.empty() && !plain.ends_with('\n')) plain += '\n';
-        text.remove_prefix(tag.size);
+    bool HasTags() {
+        for (std::size_t at = text_.find('<'); at != kNone; at = text_.find('<', at + 1))
+            if (TagAt(at).end > 0) return true;
+        return false;
     }
-    for (const Entity& entity : kEntities) plain = ReplaceAll(plain, entity.name, entity.character);
+
+    std::string WithoutTags() {
+        std::string plain;
+        for (std::size_t at = 0; at < text_.size();) {
+            const std::size_t next = std::min(text_.find('<', at), text_.size());
+            plain.append(text_.substr(at, next - at));
+            if (next == text_.size()) break;
+            const Tag tag = TagAt(next);
+            at = tag.end > 0 ? tag.end : next + 1;
+            if (tag.end == 0) plain += '<';
+            if (tag.breaksLine && !plain.empty() && !plain.ends_with('\n')) plain += '\n';
+        }
+        return plain;
+    }
+
+  private:
+    // REQUIRES: at is not below that of the call before.
+    Tag TagAt(std::size_t at) {
+        std::string_view name = text_.substr(at + 1, kLongestWord);
+        const bool closes = name.starts_with('/');
+        if (closes) name.remove_prefix(1);
+        name = name.substr(0, name.find_first_of(" \t\r\n/>"));
+        const std::optional<HtmlTag> tag = FindHtmlTag(name);
+        if (!tag) return {};
+        const std::size_t end = tagEnds_.From(at);
+        if (end == kNone) return {};
+        return {end + 1, *tag == HtmlTag::ParagraphBreak || (*tag == HtmlTag::LineBreak && !closes)};
+    }
+
+    std::string_view text_;
+    Seeker tagEnds_;
+};
+
+// Appends what the name between "&" and ";" stands for. False if it stands for nothing.
+bool AppendReference(std::string& out, std::string_view name) {
+    struct OfXml {
+        std::string_view name;
+        char character;
+    };
+    constexpr OfXml kOfXml[] = {{"amp", '&'}, {"apos", '\''}, {"gt", '>'}, {"lt", '<'}, {"quot", '"'}};
+    constexpr std::int32_t kNoBreakSpace = 0xA0;
+    const auto* const known = std::ranges::find(kOfXml, name, &OfXml::name);
+    std::optional<std::int32_t> character = CharacterOfEntity(name);
+    if (known != std::end(kOfXml)) character = known->character;
+    if (const auto number = NumberOfReference(name); number && IsXmlCharacter(*number))
+        character = static_cast<std::int32_t>(*number);
+    if (!character) return false;
+    AppendCodePoint(out, *character == kNoBreakSpace ? ' ' : *character);
+    return true;
+}
+
+std::string WithoutReferences(std::string_view text) {
+    std::string plain;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t begin = std::min(text.find('&', at), text.size());
+        plain.append(text.substr(at, begin - at));
+        if (begin == text.size()) break;
+        const std::string_view name = text.substr(begin + 1, kLongestWord);
+        const std::size_t length = name.find(';');
+        const bool isKnown = length != kNone && AppendReference(plain, name.substr(0, length));
+        if (!isKnown) plain += '&';
+        at = begin + 1 + (isKnown ? length + 1 : 0);
+    }
     return plain;
 }
 
@@ -71,7 +103,7 @@ std::string WithoutHtml(std::string_view text) {
 
 std::string PlainText(std::string_view text) {
     std::string plain = ReplaceAll(ReplaceAll(text, "\r\n", "\n"), "\r", "\n");
-    if (HasHtml(plain)) plain = WithoutHtml(plain);
+    if (HtmlText(plain).HasTags()) plain = WithoutReferences(HtmlText(plain).WithoutTags());
     const std::size_t first = plain.find_first_not_of(" \t\n");
     if (first == std::string::npos) return {};
     plain = plain.substr(first, plain.find_last_not_of(" \t\n") + 1 - first);
