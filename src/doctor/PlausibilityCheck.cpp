@@ -42,7 +42,7 @@ class AmountCheck {
     AmountCheck(const ForeignRecipe& recipe, Findings& findings) : recipe_(recipe), findings_(findings) {}
 
     void Hops() {
-        constexpr double kMost = 40, kMostAlpha = 25;
+        constexpr double kMost = 40, kLeastAlpha = 1, kMostAlpha = 25, kPercent = 100;
         const auto perLitre = GramsPerLitre(recipe_.hops, recipe_);
         if (perLitre && *perLitre > kHopSlip)
             Report(FindingCode::ThousandSlip, "Hops",
@@ -51,10 +51,17 @@ class AmountCheck {
         else if (perLitre && *perLitre > kMost)
             Report(FindingCode::TooMuchHops, "Hops",
                    "There are " + Rounded(*perLitre, 0) + " g of hops in a liter.");
-        for (std::size_t i = 0; i < recipe_.hops.size(); ++i)
-            if (recipe_.hops[i].alpha.value_or(0) > kMostAlpha)
-                Report(FindingCode::Implausible, PlaceOf("Hops", i, recipe_.hops[i].name),
-                       "The alpha acid is " + FewestDecimals(*recipe_.hops[i].alpha) + "%.");
+        for (std::size_t i = 0; i < recipe_.hops.size(); ++i) {
+            const double alpha = recipe_.hops[i].alpha.value_or(0);
+            const std::string place = PlaceOf("Hops", i, recipe_.hops[i].name);
+            const std::string text = "The alpha acid is " + FewestDecimals(alpha) + "%";
+            if (alpha > kMostAlpha)
+                Report(FindingCode::Implausible, place, text + ".");
+            else if (alpha > 0 && alpha < kLeastAlpha)
+                Report(FindingCode::Implausible, place,
+                       text + ": probably " + FewestDecimals(alpha * kPercent) +
+                           "% was written as a fraction. It was taken as it stands.");
+        }
     }
 
     void Grist() {
@@ -113,7 +120,7 @@ class FigureCheck {
     // True if the difference is worth a finding.
     bool Gravity() {
         return Compare(FindingCode::OgDiffers, "Original gravity", recipe_.stated.og, typed_.calculated.og,
-                       kOg, 4);
+                       kOg, 4, typed_.canMeetGravity ? "" : "; no extraction gives the stated one");
     }
 
     void FinishedGravity() {
@@ -151,13 +158,14 @@ class FigureCheck {
 
   private:
     bool Compare(FindingCode code, std::string place, std::optional<double> stated,
-                 std::optional<double> calculated, Limits limits, int decimals) {
+                 std::optional<double> calculated, Limits limits, int decimals,
+                 std::string_view remark = {}) {
         if (!stated || !calculated) return false;
         const double apart = std::abs(*stated - *calculated);
         if (!(apart > limits.note)) return false;
         Add(apart > limits.suspicious, code, std::move(place),
             "The file states " + Rounded(*stated, decimals) + "; the recipe gives " +
-                Rounded(*calculated, decimals) + ".");
+                Rounded(*calculated, decimals) + std::string(remark) + ".");
         return true;
     }
 
@@ -222,10 +230,10 @@ RemediesOffered CheckFigures(const ForeignRecipe& recipe, const TypedFigures& ty
     FigureCheck check(recipe, typed, findings);
     RemediesOffered offered;
     offered.grams = HasMaltSlip(recipe) || HasHopSlip(recipe);
-    offered.gravity = check.Gravity();
+    offered.gravity = check.Gravity() && typed.canMeetGravity;
     check.FinishedGravity();
     check.Alcohol();
-    offered.bitterness = check.Bitterness();
+    offered.bitterness = check.Bitterness() && typed.canMeetBitterness;
     offered.ebc = check.Color();
     return offered;
 }

@@ -20,8 +20,8 @@ struct RemediesOffered {
 };
 
 // Adds what is suspicious about amounts: more than 40 g of hops a litre (above 300 probably grams written as
-// kilograms), a grist below 60 or above 800 g a litre (above 3,000 likewise), alpha acids above 25 %, a boil
-// smaller than the batch, an attenuation outside of 40 to 100 %.
+// kilograms), a grist below 60 or above 800 g a litre (above 3,000 likewise), alpha acids above 25 %
+// or below 1 %, a boil smaller than the batch, an attenuation outside of 40 to 100 %.
 void CheckAmounts(const ForeignRecipe& recipe, Findings& findings);
 
 // Adds one note if a recipe of the file states a bitterness and has hops that are no leaf hops.
@@ -32,6 +32,8 @@ struct TypedFigures {
     StatedFigures calculated;
     std::optional<double> ibuWithoutForm;  // bitterness without the factors of the hops' forms
     std::optional<double> attenuation;     // apparent, percent, that the file or the catalogue expects
+    // False if no extraction gives the stated gravity, or no hop constant the stated bitterness.
+    bool canMeetGravity = true, canMeetBitterness = true;
 };
 
 // Adds what differs between the figures that the file states and the calculated ones, and returns the

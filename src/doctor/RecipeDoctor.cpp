@@ -88,7 +88,10 @@ void RecipeDoctor::Type(ExaminedRecipe& examined, Findings& findings) {
 
 TypedFigures RecipeDoctor::FiguresOf(const ForeignRecipe& recipe, const ExaminedRecipe& examined) {
     const RecipeRecord& record = examined.document->Record();
-    TypedFigures figures{CalculatedFigures(record), BitternessWithoutForm(record), examined.plan.attenuation};
+    const StatedFigures& stated = recipe.stated;
+    TypedFigures figures{CalculatedFigures(record), BitternessWithoutForm(record), examined.plan.attenuation,
+                         stated.og && ExtractionFor(record, *stated.og),
+                         stated.ibu && HopConstantFor(record, *stated.ibu)};
     if (figures.attenuation || recipe.yeasts.empty()) return figures;
     if (const auto yeast = catalogue_.Yeast(examined.document->Yeast().Name()))
         figures.attenuation = yeast->attenuation;

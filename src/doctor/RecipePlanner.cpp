@@ -2,20 +2,24 @@
 
 #include "doctor/PlainText.h"
 #include "doctor/PlanContext.h"
+#include "exchange/ForeignPlace.h"
 #include "values/Text.h"
 
 namespace tw {
 namespace {
 
-// Returns the name in one line without blanks at its ends.
-std::string NameOf(const ForeignRecipe& recipe) {
-    std::string name = ReplaceAll(ReplaceAll(recipe.name, "\r", ""), "\n", " ");
-    name = Trim(ReplaceAll(name, "\t", " "));
-    return name.empty() ? "Untitled" : name;
+// Returns how the file calls the style: by its name, else by guide and number, "BJCP 2015 18B"; empty if it
+// does neither.
+std::string WordsFor(const ForeignStyle& style) {
+    const std::string name(Trim(style.name));
+    const std::string number = style.categoryNumber + style.letter;
+    if (!name.empty() || number.empty()) return name;
+    return std::string(Trim(style.guide + " " + number));
 }
 
 void PlanStyle(PlanContext& c) {
-    if (!c.recipe.style || Trim(c.recipe.style->name).empty()) return;
+    const std::string words = c.recipe.style ? WordsFor(*c.recipe.style) : std::string();
+    if (words.empty()) return;
     const ForeignStyle& style = *c.recipe.style;
     const auto match = c.figures.Match(CatalogueKind::Style,
                                        {style.name, {}, style.guide, style.categoryNumber + style.letter});
@@ -23,11 +27,11 @@ void PlanStyle(PlanContext& c) {
         c.plan.style = match->name;
         if (!match->IsOwnName())
             c.Report(Severity::Note, FindingCode::CatalogueFigure, "Style",
-                     "The style '" + style.name + "' was read as " + match->name + ".");
+                     "The style '" + words + "' was read as " + match->name + ".");
         return;
     }
     c.Report(Severity::NotCarried, FindingCode::StyleUnknown, "Style",
-             "The catalogue does not know the style '" + style.name + "'; the recipe has no style.");
+             "The catalogue does not know the style '" + words + "'; the recipe has no style.");
 }
 
 // Returns the boil volume, or what is nearest to it; nullptr if the file has none.
@@ -109,7 +113,7 @@ RecipePlan RecipePlanner::Plan(const ForeignRecipe& recipe, const ImportOptions&
                                Findings& findings) {
     RecipePlan plan;
     PlanContext c{recipe, options, figures_, AmountTexts(options.units, recipe), plan, findings};
-    plan.name = NameOf(recipe);
+    plan.name = RecipeName(recipe.name);
     plan.ibuMethod = MethodOf(recipe);
     plan.catalogueAttenuation = options.catalogueFigures;
     plan.attenuation = recipe.attenuation;

@@ -5,6 +5,7 @@
 #include <map>
 #include <utility>
 
+#include "exchange/AsciiCase.h"
 #include "exchange/BeerJsonRecord.h"
 #include "exchange/BeerJsonTiming.h"
 #include "exchange/ExchangeLimits.h"
@@ -59,10 +60,25 @@ void ReadLateness(BeerJsonRecord& record, ForeignFermentable& read, const LineFr
     if (record.Peek("timing") == nullptr) return;
     const JsonTiming timing = ReadTiming(record, line.recipe.boilSteps, line.telling, line.place, line.path);
     const auto boil = line.recipe.boilMinutes;
-    read.afterBoil = timing.use == ForeignUse::Whirlpool ||
-                     (timing.use == ForeignUse::Boil && timing.minutes && boil && *timing.minutes < *boil);
+    // Minutes count from the end of the boil: none of them is late however long it is.
+    const bool isLateInBoil = timing.use == ForeignUse::Boil && timing.minutes &&
+                              (*timing.minutes == 0 || (boil && *timing.minutes < *boil));
+    read.afterBoil = timing.use == ForeignUse::Whirlpool || isLateInBoil;
     if (!read.afterBoil && timing.use != ForeignUse::Mash && timing.use)
         line.telling.KeepAside(Joined(line.path, "timing"), 0);
+}
+
+// Adjuncts are a group of grains, or of other fermentables if they are not to be mashed. The other groups say
+// nothing here.
+void ReadGrainGroup(BeerJsonRecord& record, ForeignFermentable& read) {
+    using Type = ForeignFermentable::Type;
+    const Json* const group = record.Peek("grain_group");
+    const std::string* const word = group == nullptr ? nullptr : group->AsText();
+    if (word == nullptr || !EqualAscii(TrimSpace(*word), "adjunct")) return;
+    const bool isMashed = read.recommendMash.value_or(true);
+    if (read.type != (isMashed ? Type::Grain : Type::Other)) return;
+    record.Value("grain_group");
+    read.type = Type::Adjunct;
 }
 
 ForeignFermentable ReadFermentable(BeerJsonRecord& record, const LineFrame& line) {
@@ -77,6 +93,7 @@ ForeignFermentable ReadFermentable(BeerJsonRecord& record, const LineFrame& line
     const bool isGrain = !read.type || *read.type == Type::Grain;
     if (isGrain && !read.yield && read.lovibond == 0.0) read.lovibond.reset();
     read.recommendMash = record.Boolean("recommend_mash");
+    ReadGrainGroup(record, read);
     ReadLateness(record, read, line);
     read.origin = record.Text("origin");
     read.supplier = record.Text("producer");
@@ -269,8 +286,7 @@ class Reader {
     void ReadRecipe(const Json& value) {
         const Json* const name = value.Find("name");
         const std::string* const text = name == nullptr ? nullptr : name->AsText();
-        ForeignTelling telling(file_.findings,
-                               text == nullptr ? std::string() : std::string(TrimSpace(*text)));
+        ForeignTelling telling(file_.findings, RecipeName(text == nullptr ? std::string_view() : *text));
         BeerJsonRecord record(value, JsonRecord::Recipe, telling, {}, {});
         if (value.AsObject() == nullptr) return;
         ForeignRecipe recipe;
@@ -301,7 +317,7 @@ class Reader {
     }
 
     static void ReadFields(BeerJsonRecord& record, ForeignRecipe& recipe) {
-        recipe.name = record.Text("name");
+        recipe.name = RecipeName(record.Text("name"));
         recipe.type = record.Word("type", JsonRecipeTypes(), RecipeTypeOfWord);
         recipe.brewer = record.Text("author");
         recipe.assistant = record.Text("coauthor");

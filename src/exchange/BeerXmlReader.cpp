@@ -306,7 +306,7 @@ class Reader {
     // around it: of many, each would keep all within it as its text.
     void ReadRecipe(pugi::xml_node element, int nesting) {
         constexpr int kMostNested = 4;
-        ForeignTelling telling(file_.findings, NameOf(element));
+        ForeignTelling telling(file_.findings, RecipeName(NameOf(element)));
         ForeignRecipe recipe;
         BeerXmlRecord record(element, XmlRecord::Recipe, telling, {}, "RECIPE");
         ReadFields(record, recipe);
@@ -332,7 +332,7 @@ class Reader {
     }
 
     static void ReadFields(BeerXmlRecord& record, ForeignRecipe& recipe) {
-        recipe.name = record.Text("NAME");
+        recipe.name = RecipeName(record.Text("NAME"));
         recipe.type = record.Word("TYPE", RecipeTypeOfWord);
         recipe.brewer = record.Text("BREWER");
         recipe.assistant = record.Text("ASST_BREWER");

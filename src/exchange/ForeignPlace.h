@@ -1,9 +1,11 @@
-// How findings name a line of a foreign recipe or an entry of a library.
+// How findings name a foreign recipe, a line of it, or an entry of a library.
 #pragma once
 
 #include <cstddef>
 #include <string>
 #include <string_view>
+
+#include "values/Text.h"
 
 namespace tw {
 
@@ -13,6 +15,13 @@ inline constexpr std::string_view kYeastsPlace = "Yeasts";
 inline constexpr std::string_view kMiscsPlace = "Miscellaneous";
 inline constexpr std::string_view kWatersPlace = "Waters";
 inline constexpr std::string_view kStylesPlace = "Styles";
+
+// Returns the name of a recipe in one line without blanks at its ends; "Untitled" if the file has none.
+inline std::string RecipeName(std::string_view written) {
+    std::string name = ReplaceAll(ReplaceAll(written, "\r", ""), "\n", " ");
+    name = Trim(ReplaceAll(name, "\t", " "));
+    return name.empty() ? "Untitled" : name;
+}
 
 // Returns the place of something that a recipe has once: "Style: Mild", "Style" without a name.
 inline std::string NamedPlace(std::string_view what, std::string_view name) {

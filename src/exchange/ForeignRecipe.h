@@ -109,7 +109,7 @@ enum class ForeignIbuMethod : std::uint8_t { Tinseth, Rager, Garetz };
 struct ForeignRecipe {
     enum class Type : std::uint8_t { Extract, PartialMash, AllGrain };
 
-    std::string name;
+    std::string name;  // in one line; "Untitled" if the file has none
     std::optional<Type> type;
     std::string brewer, assistant, date;                                  // the date as written
     std::optional<ForeignAmount> batchSize, boilSize, equipmentBoilSize;  // volumes

@@ -6,6 +6,9 @@
 #include <vector>
 
 #include "SmallProgram.h"
+#include "catalogue/CatalogueContext.h"
+#include "doctor/RecipeDoctor.h"
+#include "store/CatalogueNames.h"
 #include "store/Schema.h"
 
 namespace tw::test {
@@ -24,6 +27,14 @@ class DoctorTest : public testing::Test, protected SmallProgram {
               "SUGARS (NAME, FERMENT_LO, FERMENT_HI) VALUES ('Corn Sugar (Dextrose)', 90, 90)",
               "STYLES (NAME, FOLDER_ID) VALUES ('Pale Ale', 0)"})
             database->Execute(std::string("INSERT INTO ") + row);
+    }
+
+    // Gives a style of the catalogue its code in a guide, as the delivered catalogue has it.
+    void GiveStyleCode(const std::string& style, const std::string& code, const std::string& guide) {
+        WriteCatalogueNames({}, *database);
+        database->Execute(
+            "INSERT INTO CATALOGUE_FACTS (SHEET, NAME, CODE, SOURCE, FORM) VALUES ('STYLES', ?, ?, ?, '')",
+            {style, code, guide});
     }
 
     // Examines the recipe and keeps the result.

@@ -244,6 +244,16 @@ TEST_F(ImportDoctor, AFileTellsOnceThatPelletsCountMoreHere) {
     EXPECT_EQ(notes(model.Files().All()[1].AllFindings()), 0);
 }
 
+TEST_F(ImportDoctor, ANamelessRecipeHasTheNameOfItsFindings) {
+    std::string nameless = XmlRecipe("", "<OG>1,052</OG>");
+    model.AddFiles({File("club.xml", Xml(nameless))});
+    EXPECT_EQ(Recipe(0, 0).name, "Untitled");
+    // The comma is one of its findings, not one of the file.
+    EXPECT_TRUE(model.SetControl("treeRecipes", "Untitled"));
+    EXPECT_THAT(model.Text("treeFindings"), testing::HasSubstr("with a comma"));
+    EXPECT_TRUE(model.Files().All()[0].findings.empty());
+}
+
 TEST_F(ImportDoctor, AFileThatCannotBeReadStaysInTheList) {
     model.AddFiles({File("page.xml", "<html><body>no beer</body></html>"), (folder / "missing.xml").string(),
                     File("draft.xml", "<beer_xml><version>2.06</version></beer_xml>"),

@@ -329,6 +329,44 @@ TEST_F(PaleAle, AnUnknownStyleIsTold) {
                                     "'Galactic Ale'; the recipe has no style."));
 }
 
+TEST_F(PaleAle, AStyleWithoutANameIsFoundByGuideAndNumber) {
+    GiveStyleCode("Pale Ale", "18B", "Beer 2021");
+    recipe.style = ForeignStyle();
+    recipe.style->name = " ";
+    recipe.style->guide = "BJCP 2021";
+    recipe.style->categoryNumber = "18";
+    recipe.style->letter = "B";
+    EXPECT_EQ(Examine().cmbStyle.Text(), "Pale Ale");
+    EXPECT_THAT(Told(), ElementsAre("note catalogue-figure Style: The style 'BJCP 2021 18B' was read as Pale "
+                                    "Ale."));
+    // The numbers of another edition mean other styles.
+    recipe.style->guide = "BJCP 2015";
+    EXPECT_EQ(Examine().cmbStyle.Text(), "(None)");
+    EXPECT_THAT(Told(), ElementsAre("not carried style-unknown Style: The catalogue does not know the style "
+                                    "'BJCP 2015 18B'; the recipe has no style."));
+    // A guide alone says nothing.
+    recipe.style->categoryNumber.clear();
+    recipe.style->letter.clear();
+    EXPECT_EQ(Examine().cmbStyle.Text(), "(None)");
+    EXPECT_THAT(Told(), IsEmpty());
+}
+
+TEST_F(PaleAle, SizesThatTheFileDoesNotStateAreTaken) {
+    recipe.batchSize.reset();
+    recipe.boilSize.reset();
+    recipe.equipmentBoilSize = ForeignAmount{Of::Volume, 25, {}};
+    RecipeRecord& r = Examine();
+    EXPECT_EQ(r.txtTotalVol.Text(), "5 gal");
+    EXPECT_EQ(r.txtBoilVol.Text(), "25 L");
+    // An equipment without volumes says as little as none.
+    recipe.equipmentBoilSize.reset();
+    EXPECT_EQ(Examine().txtBoilVol.Text(), "6 gal");
+    EXPECT_THAT(Told(), ElementsAre("note missing Recipe: The file does not state: batch size, boil size. "
+                                    "What a new recipe has was kept."));
+    recipe.batchSize = ForeignAmount{Of::Volume, 20, "20 L"};
+    EXPECT_EQ(Examine().txtBoilVol.Text(), "20 L");
+}
+
 TEST_F(PaleAle, WhatTheFileDoesNotStateStaysAsInANewRecipe) {
     recipe.efficiency.reset();
     recipe.hopUtilization.reset();
@@ -390,6 +428,44 @@ TEST_F(PaleAle, TheExtractionCanMeetTheStatedGravity) {
     // 72 % give 49.975 points, so 60 points take 86.44 %.
     EXPECT_EQ(r.txtExtract.Text(), "86.44%");
     EXPECT_EQ(r.txtOG.Text(), "1.060");
+}
+
+TEST_F(PaleAle, AGravityThatNoExtractionGivesIsNotOffered) {
+    // 72 % give 49.975 points, so that 100 % give 69.41 and 70 points take 100.85 %.
+    recipe.stated.og = 1.07;
+    Examine();
+    EXPECT_FALSE(examined.offered.gravity);
+    EXPECT_THAT(
+        Told(),
+        ElementsAre("suspicious og-differs Original gravity: The file states 1.0700; the recipe gives "
+                    "1.0500; no extraction gives the stated one."));
+    ImportOptions options;
+    options.gravity = true;
+    EXPECT_EQ(Examine(options).txtExtract.Text(), "72%");
+    recipe.stated.og = 1.069;
+    Examine();
+    EXPECT_TRUE(examined.offered.gravity);
+    // All of the gravity of an extract beer comes without mashing.
+    recipe.fermentables[0].type = ForeignFermentable::Type::Extract;
+    Examine();
+    EXPECT_FALSE(examined.offered.gravity);
+}
+
+TEST_F(PaleAle, ABitternessThatNoConstantGivesIsNotOffered) {
+    recipe.hops[0].amount.reset();
+    recipe.stated.ibu = 30;
+    Examine();
+    EXPECT_FALSE(examined.offered.bitterness);
+}
+
+TEST_F(PaleAle, AnAlphaAcidBelowOnePercentIsSuspicious) {
+    recipe.hops[0].alpha = 0.055;
+    EXPECT_EQ(Examine().gridHops.Text(1, HopCol::AlphaAcid), "0.055");
+    EXPECT_THAT(Told(), ElementsAre("suspicious implausible Hops 1: Some Hop: The alpha acid is 0.055%: "
+                                    "probably 5.5% was written as a fraction. It was taken as it stands."));
+    recipe.hops[0].alpha = 1;
+    Examine();
+    EXPECT_FALSE(Has(FindingCode::Implausible));
 }
 
 TEST_F(PaleAle, TheHopConstantCanMeetTheStatedBitterness) {

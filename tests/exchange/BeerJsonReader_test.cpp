@@ -54,6 +54,40 @@ std::vector<std::string> Told(const ForeignFile& file, FindingCode code) {
     return test::Told(file.findings, code);
 }
 
+TEST(BeerJsonReader, AdjunctsAreAGroupOfGrains) {
+    using Type = ForeignFermentable::Type;
+    const auto typeOf = [](const std::string& members) { return FermentableWith(members).type; };
+    EXPECT_EQ(typeOf(R"("type": "grain", "grain_group": "adjunct")"), Type::Adjunct);
+    EXPECT_EQ(typeOf(R"("type": "grain", "grain_group": "Adjunct", "recommend_mash": true)"), Type::Adjunct);
+    EXPECT_EQ(typeOf(R"("type": "other", "grain_group": "adjunct", "recommend_mash": false)"),
+              Type::Adjunct);
+    EXPECT_EQ(typeOf(R"("type": "grain", "grain_group": "adjunct", "recommend_mash": false)"), Type::Grain);
+    EXPECT_EQ(typeOf(R"("type": "sugar", "grain_group": "adjunct")"), Type::Sugar);
+    EXPECT_EQ(typeOf(R"("type": "grain", "grain_group": "base")"), Type::Grain);
+    // What is read has a place; the other groups are kept aside.
+    const auto keptAside = [](const std::string& group) {
+        return RecipeWith(R"("ingredients": {"fermentable_additions": [{"type": "grain", "grain_group": ")" +
+                          group + "\"}]}")
+            .keptAside;
+    };
+    EXPECT_THAT(keptAside("adjunct"), IsEmpty());
+    EXPECT_THAT(keptAside("base"), ElementsAre("ingredients/fermentable_additions/grain_group"));
+}
+
+TEST(BeerJsonReader, ARecipeWithoutANameIsUntitled) {
+    for (const char* const members : {R"("name": "")", R"("name": null)", R"("notes": "x")"}) {
+        const ForeignFile file =
+            Read(R"({"beerjson": {"version": 1, "recipes": [{)" + std::string(members) + "}]}}");
+        EXPECT_EQ(file.recipes.at(0).name, "Untitled");
+        for (const Finding& finding : file.findings.All()) EXPECT_EQ(finding.recipe, "Untitled");
+        EXPECT_FALSE(file.findings.IsEmpty());
+    }
+    EXPECT_EQ(Read(R"({"beerjson": {"version": 1, "recipes": [{"name": " Dark\tor\nPale "}]}})")
+                  .recipes.at(0)
+                  .name,
+              "Dark or Pale");
+}
+
 constexpr const char* kWhole = R"({"beerjson": {"version": 2.06, "recipes": [{
   "name": " Dark Mild ", "type": "all grain", "author": "Ann", "coauthor": "Bob", "created": "2020-03-01",
   "batch_size": {"unit": "gal", "value": 5}, "efficiency": {"brewhouse": {"unit": "%", "value": 71}},

@@ -246,6 +246,26 @@ TEST(BeerJsonWriter, TypesOfFermentables) {
     }
 }
 
+// Whatever is written as a type and a group is read as the type that it was.
+TEST(BeerJsonWriter, TypesOfFermentablesComeBack) {
+    using Type = ForeignFermentable::Type;
+    for (const Type type : {Type::Grain, Type::Adjunct, Type::Sugar, Type::Extract, Type::DryExtract,
+                            Type::Fruit, Type::Juice, Type::Honey, Type::Other})
+        for (const std::optional<bool> mash :
+             {std::optional<bool>(), std::optional(true), std::optional(false)})
+            for (const bool late : {false, true}) {
+                ForeignRecipe facts;
+                facts.fermentables.emplace_back();
+                facts.fermentables[0].type = type;
+                facts.fermentables[0].recommendMash = mash;
+                facts.fermentables[0].afterBoil = late;
+                const ForeignFermentable read = ReadOne(WriteFacts(facts).text).fermentables.at(0);
+                EXPECT_EQ(read.type, type) << static_cast<int>(type);
+                EXPECT_EQ(read.recommendMash, mash);
+                EXPECT_EQ(read.afterBoil, late);
+            }
+}
+
 TEST(BeerJsonWriter, WordsOfTheOtherFormat) {
     ForeignRecipe facts;
     facts.yeasts.resize(2);

@@ -52,6 +52,15 @@ std::vector<std::string> ToldOfRecipe(const std::string& inner, FindingCode code
     return Told(Read("<RECIPES><RECIPE><NAME>Ale</NAME>" + inner + "</RECIPE></RECIPES>"), code);
 }
 
+TEST(BeerXmlReader, ARecipeWithoutANameIsUntitled) {
+    for (const char* const inner : {"", "<NAME></NAME>", "<NAME> </NAME><BATCH_SIZE>x</BATCH_SIZE>"}) {
+        const ForeignFile file = Read("<RECIPES><RECIPE>" + std::string(inner) + "</RECIPE></RECIPES>");
+        EXPECT_EQ(file.recipes.at(0).name, "Untitled");
+        for (const Finding& finding : file.findings.All()) EXPECT_EQ(finding.recipe, "Untitled");
+        EXPECT_FALSE(file.findings.IsEmpty());
+    }
+}
+
 // A recipe with all that the format requires.
 constexpr const char* kWhole = R"(<?xml version="1.0" encoding="UTF-8"?>
 <!-- made by hand -->
