@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "document/RecipeDocument.h"
+#include "document/ScratchHost.h"
 #include "platform/DialogModel.h"
 #include "store/Schema.h"
 
@@ -67,33 +68,11 @@ class Nothing : public MessagePort,
     std::string clipboard_;
 };
 
-class QuietHost : public DocumentHost, public DocumentCommands {
+class BenchHost final : public ScratchHost {
   public:
-    DocumentCommands& Commands() override { return *this; }
+    BenchHost() : ScratchHost({"72%", "1.0", "", "6.5 gal", "5 gal", 0, 0, 0, true}) {}
     bool IsActive(const RecipeDocument&) const override { return true; }
-    RecipeDefaults Defaults() const override { return {"72%", "1.0", "", "6.5 gal", "5 gal", 0, 0, 0, true}; }
-    bool AppendRows() const override { return true; }
-    bool CopyHeaders() const override { return false; }
-    bool PasteMismatchSize() const override { return false; }
     int LPMaxIter() const override { return 1000; }
-    bool AskBeforeNonUndoableChange() const override { return false; }
-    void StopAskingBeforeNonUndoableChange() override {}
-    std::optional<std::int64_t> DeleteRecipe(std::string_view, RecipeEnd) override { return {}; }
-    void RecipeStored(std::string_view) override {}
-    void AddToMRU(std::string_view) override {}
-    void DocumentRenamed(const RecipeDocument&) override {}
-    void EnableResizeRecipe(bool) override {}
-    void EnableChangeStrength(bool) override {}
-    void EnableChangeBitterness(bool) override {}
-    void EnableChangeCarbonation(bool) override {}
-    void EnableSave(bool) override {}
-    void EnableInsert(bool) override {}
-    void EnableDelete(bool) override {}
-    void EnableCopyPaste(bool, bool) override {}
-    void EnableUndo(bool, std::string_view) override {}
-    void EnableRedo(bool, std::string_view) override {}
-    void CheckEnableSaveAll() override {}
-    void CheckEnableDelete() override {}
 };
 
 class Recipe {
@@ -145,7 +124,7 @@ class Recipe {
 
     Nothing nothing_;
     Platform platform_{nothing_, nothing_, nothing_, nothing_, nothing_};
-    QuietHost host_;
+    BenchHost host_;
     std::unique_ptr<Database> database_ = CreateMainDatabaseInMemory();
     ColorTable colors_;
     RecipeDocument document_{host_, platform_, *database_, colors_, 1};

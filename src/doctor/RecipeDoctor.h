@@ -10,8 +10,8 @@
 #include "doctor/ImportOptions.h"
 #include "doctor/PlausibilityCheck.h"
 #include "doctor/RecipePlanner.h"
-#include "doctor/ScratchHost.h"
 #include "document/RecipeDocument.h"
+#include "document/ScratchHost.h"
 #include "platform/Ports.h"
 #include "store/Database.h"
 

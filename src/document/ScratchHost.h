@@ -10,7 +10,7 @@
 
 namespace tw {
 
-class ScratchHost final : public DocumentHost, private DocumentCommands {
+class ScratchHost : public DocumentHost, private DocumentCommands {
   public:
     explicit ScratchHost(RecipeDefaults defaults) : defaults_(std::move(defaults)) {}
 
