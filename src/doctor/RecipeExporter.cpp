@@ -392,8 +392,11 @@ std::optional<RecipeExporter::Original> RecipeExporter::OriginalOf(const RecipeD
     Original original{std::move(file->recipes.front()), file->format, {}};
     original.recipe.fragment = carried.front().content;
     // The setting may have been another one when the recipe was imported.
+    std::vector<ImportUnits> possible = {units_};
+    for (const ImportUnits units : {ImportUnits::AsInFile, ImportUnits::US, ImportUnits::Metric})
+        if (units != units_) possible.push_back(units);
     std::optional<std::size_t> fewest;
-    for (const ImportUnits units : {units_, ImportUnits::AsInFile, ImportUnits::US, ImportUnits::Metric}) {
+    for (const ImportUnits units : possible) {
         RecipePlan plan = PlanOf(original.recipe, units);
         const std::size_t differences = Differences(document.Record(), plan);
         if (fewest && differences >= *fewest) continue;
