@@ -3,7 +3,7 @@
 #include <array>
 #include <filesystem>
 
-#include "doctor/AmountTexts.h"
+#include "doctor/FigureTexts.h"
 #include "doctor/RecipeExporter.h"
 #include "exchange/BeerJsonWriter.h"
 #include "exchange/BeerXmlWriter.h"
@@ -38,19 +38,12 @@ ForeignFile ReadFile(const std::string& path) {
     return std::move(*file);
 }
 
-std::string TextOf(const std::optional<double>& figure) {
-    return figure ? FewestDecimals(*figure) : std::string();
-}
-
 ExaminedFigures FiguresOf(const ForeignRecipe& recipe, const ExaminedRecipe& examined) {
-    const RecipeRecord& r = examined.document->Record();
-    const StatedFigures& stated = recipe.stated;
-    return {examined.plan.name,
-            {{"og", stated.og ? GravityText(*stated.og) : "", r.txtOG.Text()},
-             {"fg", stated.fg ? GravityText(*stated.fg) : "", r.txtFG.Text()},
-             {"abv", TextOf(stated.abv), r.txtABV.Text()},
-             {"ibu", TextOf(stated.ibu), r.txtIBU.Text()},
-             {"srm", TextOf(stated.srm), r.txtColor.Text()}}};
+    ExaminedFigures figures{examined.plan.name, {}};
+    for (const FigureColumn& column : FigureColumns())
+        figures.pairs.push_back({column.word, WholeFigureText(column, recipe.stated),
+                                 (examined.document->Record().*column.box).Text()});
+    return figures;
 }
 
 // Returns the indexes of the recipes of these names. Asks the host what to do about a name that the file does
