@@ -57,13 +57,13 @@ class Completer {
                 valid.push_back(std::move(member));
             } else {
                 // A required field is added again below.
-                if (field == nullptr || !field->isRequired) telling_.NoteDropped(inner);
+                if (field == nullptr || !field->IsRequired(true)) telling_.NoteDropped(inner);
                 names.erase(member.name);
             }
         }
         members = std::move(valid);
         for (const JsonField& field : shape.fields)
-            if (field.isRequired && object.Find(field.key) == nullptr) Fill(object, field, known, path);
+            if (field.IsRequired(true) && object.Find(field.key) == nullptr) Fill(object, field, known, path);
         if (members.empty() && !shape.least.empty()) Fill(object, *FieldOf(shape, shape.least), known, path);
     }
 
@@ -71,6 +71,8 @@ class Completer {
     // Returns false if the value cannot be made valid.
     bool Mend(Json& value, const JsonField& field, const Json& known, const std::string& path) {
         switch (field.holds) {
+            case JsonHolds::Anything:
+                return true;
             case JsonHolds::Text:
                 return MendText(value);
             case JsonHolds::Number:
@@ -248,6 +250,8 @@ class Completer {
             case JsonHolds::Letter:
             case JsonHolds::Date:
                 return Json("");
+            case JsonHolds::Anything:  // required in no recipe
+                return {};
         }
         return {};
     }

@@ -85,7 +85,7 @@ ForeignFermentable ReadFermentable(BeerJsonRecord& record, const LineFrame& line
     using Type = ForeignFermentable::Type;
     ForeignFermentable read;
     read.name = record.Text("name");
-    read.type = record.Word("type", JsonFermentableTypes(), FermentableTypeOfWord);
+    read.type = record.Word("type", FermentableTypeOfWord);
     read.amount = record.Amount("amount", Of::Mass);
     ReadYield(record, read, line);
     read.lovibond = record.Figure("color", FigureUnit::Lovibond);
@@ -114,7 +114,7 @@ ForeignHop ReadHop(BeerJsonRecord& record, const LineFrame& line) {
     read.minutes = timing.minutes;
     if (const Json* const form = record.Peek("form"); form != nullptr && form->AsText() != nullptr)
         read.formWritten = std::string(TrimSpace(*form->AsText()));
-    read.form = record.Word("form", JsonHopForms(), HopFormOfWord);
+    read.form = record.Word("form", HopFormOfWord);
     read.origin = record.Text("origin");
     read.supplier = record.Text("producer");
     read.productId = record.Text("product_id");
@@ -318,7 +318,7 @@ class Reader {
 
     static void ReadFields(BeerJsonRecord& record, ForeignRecipe& recipe) {
         recipe.name = RecipeName(record.Text("name"));
-        recipe.type = record.Word("type", JsonRecipeTypes(), RecipeTypeOfWord);
+        recipe.type = record.Word("type", RecipeTypeOfWord);
         recipe.brewer = record.Text("author");
         recipe.assistant = record.Text("coauthor");
         recipe.date = record.Text("created");
@@ -340,8 +340,7 @@ class Reader {
             return;
         }
         BeerJsonRecord ibus(*estimate, JsonRecord::IbuEstimate, telling, {}, "ibu_estimate");
-        static constexpr std::string_view kMethods[] = {"Rager", "Tinseth", "Garetz", "Other"};
-        recipe.ibuMethod = ibus.Word("method", kMethods, IbuMethodOfWord);
+        recipe.ibuMethod = ibus.Word("method", IbuMethodOfWord);
         // Files also call it "ibu".
         const bool hasValue = ibus.Peek("value") != nullptr;
         recipe.stated.ibu = ibus.Figure(hasValue ? "value" : "ibu", FigureUnit::Ibus);

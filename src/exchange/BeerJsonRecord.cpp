@@ -52,12 +52,16 @@ std::string Joined(const std::string& path, std::string_view key) {
 
 BeerJsonRecord::BeerJsonRecord(const Json& value, JsonRecord record, ForeignTelling& telling,
                                std::string place, std::string path, bool isInRecipe)
-    : value_(value), telling_(telling), place_(std::move(place)), path_(std::move(path)) {
+    : value_(value),
+      shape_(ShapeOf(record)),
+      telling_(telling),
+      place_(std::move(place)),
+      path_(std::move(path)) {
     if (value.AsObject() == nullptr)
         Tell(Severity::Suspicious, FindingCode::NoNumber,
              Quoted(path_.empty() ? "recipe" : path_) + " is not an object and was left out.");
     else
-        TellKeys(record, isInRecipe);
+        TellKeys(isInRecipe);
 }
 
 const Json* BeerJsonRecord::Value(std::string_view key) {
@@ -183,26 +187,24 @@ void BeerJsonRecord::End() {
 }
 
 // Tells of the keys that are missing, empty, unknown or there twice.
-void BeerJsonRecord::TellKeys(JsonRecord record, bool isInRecipe) const {
+void BeerJsonRecord::TellKeys(bool isInRecipe) const {
     std::vector<std::string> missing;
     std::vector<std::string> empty;
     std::vector<std::string> twice;
-    const std::span<const JsonKey> keys = KeysOf(record);
-    for (const JsonKey& key : keys) {
-        if (key.need == JsonNeed::Optional || (key.need == JsonNeed::InRecipe && !isInRecipe)) continue;
-        const Json* const value = value_.Find(key.key);
+    for (const JsonField& field : shape_.fields) {
+        if (!field.IsRequired(isInRecipe)) continue;
+        const Json* const value = value_.Find(field.key);
         if (value == nullptr)
-            missing.emplace_back(key.key);
+            missing.emplace_back(field.key);
         else if (IsEmptyValue(*value))
-            empty.emplace_back(key.key);
+            empty.emplace_back(field.key);
     }
     std::set<std::string_view> names;
     const Json::Object* const members = value_.AsObject();
     if (members == nullptr) return;
     for (const JsonMember& member : *members) {
         if (!names.insert(member.name).second) twice.push_back(Quoted(member.name));
-        if (std::ranges::find(keys, std::string_view(member.name), &JsonKey::key) == keys.end())
-            telling_.NoteUnknown(member.name);
+        if (FieldOf(shape_, member.name) == nullptr) telling_.NoteUnknown(member.name);
     }
     telling_.TellFields(Severity::Note, FindingCode::Missing, place_,
                         "Fields that the format requires are missing", missing);

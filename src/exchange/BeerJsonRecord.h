@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "exchange/BeerJsonKeys.h"
+#include "exchange/BeerJsonSchema.h"
 #include "exchange/ForeignFigure.h"
 #include "exchange/ForeignTelling.h"
 #include "exchange/ForeignWords.h"
@@ -42,13 +42,14 @@ class BeerJsonRecord {
                                         ZeroMeans zero = ZeroMeans::Zero);
     std::optional<ForeignAmount> Volume(std::string_view key);
     std::optional<bool> Boolean(std::string_view key);
+    // REQUIRES: the field has a closed list.
     template <class T>
-    std::optional<T> Word(std::string_view key, std::span<const std::string_view> list,
+    std::optional<T> Word(std::string_view key,
                           std::optional<WordMeaning<T>> (*meaningOf)(std::string_view)) {
         const std::string text = Text(key);
         if (text.empty()) return std::nullopt;
         const auto meaning = meaningOf(text);
-        telling_.TellWord(place_, key, text, list, meaning ? meaning->shown : "");
+        telling_.TellWord(place_, key, text, FieldOf(shape_, key)->words, meaning ? meaning->shown : "");
         if (!meaning) return std::nullopt;
         return meaning->value;
     }
@@ -60,9 +61,10 @@ class BeerJsonRecord {
     void End();
 
   private:
-    void TellKeys(JsonRecord record, bool isInRecipe) const;
+    void TellKeys(bool isInRecipe) const;
 
     const Json& value_;
+    const JsonShape& shape_;
     ForeignTelling& telling_;
     std::string place_;
     std::string path_;

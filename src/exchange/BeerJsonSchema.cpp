@@ -6,8 +6,7 @@ namespace tw {
 namespace {
 
 using enum JsonHolds;
-
-constexpr bool kRequired = true;
+using enum JsonNeed;
 
 // Units. Where a file states a bare number, the first is meant.
 constexpr std::string_view kMassUnits[] = {"kg", "g", "mg", "lb", "oz"};
@@ -63,14 +62,14 @@ constexpr std::string_view kPictureWords[] = {"png", "svg", "svgz", "ai",  "cdr"
                                               "odg", "eps", "pdf",  "jpg", "gif"};
 constexpr std::string_view kUnitsWords[] = {"mm", "in"};
 
-constexpr JsonField kEfficiencyFields[] = {{"brewhouse", Quantity, kPercentUnits, nullptr, kRequired},
+constexpr JsonField kEfficiencyFields[] = {{"brewhouse", Quantity, kPercentUnits, nullptr, Required},
                                            {"conversion", Quantity, kPercentUnits},
                                            {"lauter", Quantity, kPercentUnits},
                                            {"mash", Quantity, kPercentUnits}};
 constexpr JsonShape kEfficiencyShape = {kEfficiencyFields, true};
 
-constexpr JsonField kTasteFields[] = {{"notes", Text, {}, nullptr, kRequired},
-                                      {"rating", Number, {}, nullptr, kRequired}};
+constexpr JsonField kTasteFields[] = {{"notes", Text, {}, nullptr, Required},
+                                      {"rating", Number, {}, nullptr, Required}};
 constexpr JsonShape kTasteShape = {kTasteFields, true};
 
 constexpr JsonField kIbuEstimateFields[] = {{"method", Word, kIbuMethodWords},
@@ -90,57 +89,98 @@ constexpr JsonField kTimingFields[] = {
     {"pH", Quantity, kAcidityUnits}};
 constexpr JsonShape kTimingShape = {kTimingFields, true};
 
-constexpr JsonField kFermentableFields[] = {{"name", Text, {}, nullptr, kRequired},
-                                            {"type", Word, kFermentableTypeWords, nullptr, kRequired},
-                                            {"yield", Object, {}, &kYieldShape, kRequired},
-                                            {"color", Quantity, kMaltColorUnits, nullptr, kRequired},
-                                            {"amount", Quantity, kMassOrVolumeUnits, nullptr, kRequired},
+constexpr JsonField kFermentableFields[] = {{"name", Text, {}, nullptr, Required},
+                                            {"type", Word, kFermentableTypeWords, nullptr, Required},
+                                            {"yield", Object, {}, &kYieldShape, Required},
+                                            {"color", Quantity, kMaltColorUnits, nullptr, Required},
+                                            {"amount", Quantity, kMassOrVolumeUnits, nullptr, InRecipe},
                                             {"timing", Object, {}, &kTimingShape},
                                             {"grain_group", Word, kGrainGroupWords},
                                             {"origin", Text},
                                             {"producer", Text},
-                                            {"product_id", Text}};
+                                            {"product_id", Text},
+                                            {"recommend_mash", Anything},
+                                            {"notes", Anything},
+                                            {"moisture", Anything},
+                                            {"alpha_amylase", Anything},
+                                            {"diastatic_power", Anything},
+                                            {"protein", Anything},
+                                            {"kolbach_index", Anything},
+                                            {"max_in_batch", Anything},
+                                            {"inventory", Anything},
+                                            {"glassy", Anything},
+                                            {"plump", Anything},
+                                            {"half", Anything},
+                                            {"mealy", Anything},
+                                            {"thru", Anything},
+                                            {"friability", Anything},
+                                            {"di_ph", Anything},
+                                            {"viscosity", Anything},
+                                            {"dms_p", Anything},
+                                            {"fan", Anything},
+                                            {"fermentability", Anything},
+                                            {"beta_glucan", Anything}};
 constexpr JsonShape kFermentableShape = {kFermentableFields, false};
 
-constexpr JsonField kHopFields[] = {{"name", Text, {}, nullptr, kRequired},
-                                    {"alpha_acid", Quantity, kPercentUnits, nullptr, kRequired},
-                                    {"amount", Quantity, kMassOrVolumeUnits, nullptr, kRequired},
-                                    {"timing", Object, {}, &kTimingShape, kRequired},
+constexpr JsonField kHopFields[] = {{"name", Text, {}, nullptr, Required},
+                                    {"alpha_acid", Quantity, kPercentUnits, nullptr, Required},
+                                    {"amount", Quantity, kMassOrVolumeUnits, nullptr, InRecipe},
+                                    {"timing", Object, {}, &kTimingShape, InRecipe},
                                     {"beta_acid", Quantity, kPercentUnits},
                                     {"form", Word, kHopFormWords},
                                     {"origin", Text},
                                     {"producer", Text},
                                     {"product_id", Text},
-                                    {"year", Text}};
+                                    {"year", Text},
+                                    {"type", Anything},
+                                    {"notes", Anything},
+                                    {"percent_lost", Anything},
+                                    {"substitutes", Anything},
+                                    {"oil_content", Anything},
+                                    {"inventory", Anything}};
 constexpr JsonShape kHopShape = {kHopFields, false};
 
-constexpr JsonField kCultureFields[] = {{"name", Text, {}, nullptr, kRequired},
-                                        {"type", Word, kCultureTypeWords, nullptr, kRequired},
-                                        {"form", Word, kCultureFormWords, nullptr, kRequired},
-                                        {"amount", Quantity, kAnythingUnits, nullptr, kRequired},
+constexpr JsonField kCultureFields[] = {{"name", Text, {}, nullptr, Required},
+                                        {"type", Word, kCultureTypeWords, nullptr, Required},
+                                        {"form", Word, kCultureFormWords, nullptr, Required},
+                                        {"amount", Quantity, kAnythingUnits, nullptr, InRecipe},
                                         {"timing", Object, {}, &kTimingShape},
                                         {"attenuation", Quantity, kPercentUnits},
                                         {"cell_count_billions", Integer},
                                         {"times_cultured", Integer},
                                         {"producer", Text},
-                                        {"product_id", Text}};
+                                        {"product_id", Text},
+                                        {"temperature_range", Anything},
+                                        {"alcohol_tolerance", Anything},
+                                        {"flocculation", Anything},
+                                        {"attenuation_range", Anything},
+                                        {"notes", Anything},
+                                        {"best_for", Anything},
+                                        {"max_reuse", Anything},
+                                        {"pof", Anything},
+                                        {"glucoamylase", Anything},
+                                        {"inventory", Anything},
+                                        {"zymocide", Anything}};
 constexpr JsonShape kCultureShape = {kCultureFields, false};
 
-constexpr JsonField kMiscFields[] = {{"name", Text, {}, nullptr, kRequired},
-                                     {"type", Word, kMiscTypeWords, nullptr, kRequired},
-                                     {"amount", Quantity, kAnythingUnits, nullptr, kRequired},
+constexpr JsonField kMiscFields[] = {{"name", Text, {}, nullptr, Required},
+                                     {"type", Word, kMiscTypeWords, nullptr, Required},
+                                     {"amount", Quantity, kAnythingUnits, nullptr, InRecipe},
                                      {"timing", Object, {}, &kTimingShape},
                                      {"producer", Text},
-                                     {"product_id", Text}};
+                                     {"product_id", Text},
+                                     {"use_for", Anything},
+                                     {"notes", Anything},
+                                     {"inventory", Anything}};
 constexpr JsonShape kMiscShape = {kMiscFields, false};
 
-constexpr JsonField kWaterFields[] = {{"name", Text, {}, nullptr, kRequired},
-                                      {"calcium", Quantity, kConcentrationUnits, nullptr, kRequired},
-                                      {"bicarbonate", Quantity, kConcentrationUnits, nullptr, kRequired},
-                                      {"sulfate", Quantity, kConcentrationUnits, nullptr, kRequired},
-                                      {"chloride", Quantity, kConcentrationUnits, nullptr, kRequired},
-                                      {"sodium", Quantity, kConcentrationUnits, nullptr, kRequired},
-                                      {"magnesium", Quantity, kConcentrationUnits, nullptr, kRequired},
+constexpr JsonField kWaterFields[] = {{"name", Text, {}, nullptr, Required},
+                                      {"calcium", Quantity, kConcentrationUnits, nullptr, Required},
+                                      {"bicarbonate", Quantity, kConcentrationUnits, nullptr, Required},
+                                      {"sulfate", Quantity, kConcentrationUnits, nullptr, Required},
+                                      {"chloride", Quantity, kConcentrationUnits, nullptr, Required},
+                                      {"sodium", Quantity, kConcentrationUnits, nullptr, Required},
+                                      {"magnesium", Quantity, kConcentrationUnits, nullptr, Required},
                                       {"amount", Quantity, kVolumeUnits},
                                       {"carbonate", Quantity, kConcentrationUnits},
                                       {"flouride", Quantity, kConcentrationUnits},
@@ -148,26 +188,42 @@ constexpr JsonField kWaterFields[] = {{"name", Text, {}, nullptr, kRequired},
                                       {"nitrate", Quantity, kConcentrationUnits},
                                       {"nitrite", Quantity, kConcentrationUnits},
                                       {"potassium", Quantity, kConcentrationUnits},
-                                      {"producer", Text}};
+                                      {"producer", Text},
+                                      {"pH", Anything},
+                                      {"notes", Anything}};
 constexpr JsonShape kWaterShape = {kWaterFields, false};
 
 constexpr JsonField kIngredientsFields[] = {
-    {"fermentable_additions", Array, {}, &kFermentableShape, kRequired},
+    {"fermentable_additions", Array, {}, &kFermentableShape, Required},
     {"hop_additions", Array, {}, &kHopShape},
     {"miscellaneous_additions", Array, {}, &kMiscShape},
     {"culture_additions", Array, {}, &kCultureShape},
     {"water_additions", Array, {}, &kWaterShape}};
 constexpr JsonShape kIngredientsShape = {kIngredientsFields, true};
 
-constexpr JsonField kStyleFields[] = {{"name", Text, {}, nullptr, kRequired},
-                                      {"category", Text, {}, nullptr, kRequired},
-                                      {"style_guide", Text, {}, nullptr, kRequired},
-                                      {"type", Word, kStyleTypeWords, nullptr, kRequired},
+constexpr JsonField kStyleFields[] = {{"name", Text, {}, nullptr, Required},
+                                      {"category", Text, {}, nullptr, Required},
+                                      {"style_guide", Text, {}, nullptr, Required},
+                                      {"type", Word, kStyleTypeWords, nullptr, Required},
                                       {"category_number", Integer},
-                                      {"style_letter", Letter}};
+                                      {"style_letter", Letter},
+                                      {"original_gravity", Anything},
+                                      {"final_gravity", Anything},
+                                      {"international_bitterness_units", Anything},
+                                      {"color", Anything},
+                                      {"carbonation", Anything},
+                                      {"alcohol_by_volume", Anything},
+                                      {"notes", Anything},
+                                      {"aroma", Anything},
+                                      {"appearance", Anything},
+                                      {"flavor", Anything},
+                                      {"mouthfeel", Anything},
+                                      {"overall_impression", Anything},
+                                      {"ingredients", Anything},
+                                      {"examples", Anything}};
 constexpr JsonShape kStyleShape = {kStyleFields, false};
 
-constexpr JsonField kBoilStepFields[] = {{"name", Text, {}, nullptr, kRequired},
+constexpr JsonField kBoilStepFields[] = {{"name", Text, {}, nullptr, Required},
                                          {"description", Text},
                                          {"start_temperature", Quantity, kCelsiusUnits},
                                          {"end_temperature", Quantity, kCelsiusUnits},
@@ -180,7 +236,7 @@ constexpr JsonField kBoilStepFields[] = {{"name", Text, {}, nullptr, kRequired},
                                          {"chilling_type", Word, kChillingWords}};
 constexpr JsonShape kBoilStepShape = {kBoilStepFields, true};
 
-constexpr JsonField kBoilFields[] = {{"boil_time", Time, kTimeUnits, nullptr, kRequired},
+constexpr JsonField kBoilFields[] = {{"boil_time", Time, kTimeUnits, nullptr, Required},
                                      {"name", Text},
                                      {"description", Text},
                                      {"notes", Text},
@@ -188,10 +244,10 @@ constexpr JsonField kBoilFields[] = {{"boil_time", Time, kTimeUnits, nullptr, kR
                                      {"boil_steps", Array, {}, &kBoilStepShape}};
 constexpr JsonShape kBoilShape = {kBoilFields, true};
 
-constexpr JsonField kMashStepFields[] = {{"name", Text, {}, nullptr, kRequired},
-                                         {"type", Word, kMashStepTypeWords, nullptr, kRequired},
-                                         {"step_temperature", Quantity, kCelsiusUnits, nullptr, kRequired},
-                                         {"step_time", Time, kTimeUnits, nullptr, kRequired},
+constexpr JsonField kMashStepFields[] = {{"name", Text, {}, nullptr, Required},
+                                         {"type", Word, kMashStepTypeWords, nullptr, Required},
+                                         {"step_temperature", Quantity, kCelsiusUnits, nullptr, Required},
+                                         {"step_time", Time, kTimeUnits, nullptr, Required},
                                          {"amount", Quantity, kVolumeUnits},
                                          {"description", Text},
                                          {"end_ph", Quantity, kAcidityUnits},
@@ -202,13 +258,13 @@ constexpr JsonField kMashStepFields[] = {{"name", Text, {}, nullptr, kRequired},
                                          {"water_grain_ratio", Quantity, kSpecificVolumeUnits}};
 constexpr JsonShape kMashStepShape = {kMashStepFields, true};
 
-constexpr JsonField kMashFields[] = {{"name", Text, {}, nullptr, kRequired},
-                                     {"grain_temperature", Quantity, kCelsiusUnits, nullptr, kRequired},
-                                     {"mash_steps", FullArray, {}, &kMashStepShape, kRequired},
+constexpr JsonField kMashFields[] = {{"name", Text, {}, nullptr, Required},
+                                     {"grain_temperature", Quantity, kCelsiusUnits, nullptr, Required},
+                                     {"mash_steps", FullArray, {}, &kMashStepShape, Required},
                                      {"notes", Text}};
 constexpr JsonShape kMashShape = {kMashFields, true};
 
-constexpr JsonField kFermentationStepFields[] = {{"name", Text, {}, nullptr, kRequired},
+constexpr JsonField kFermentationStepFields[] = {{"name", Text, {}, nullptr, Required},
                                                  {"description", Text},
                                                  {"start_temperature", Quantity, kCelsiusUnits},
                                                  {"end_temperature", Quantity, kCelsiusUnits},
@@ -223,14 +279,14 @@ constexpr JsonField kFermentationStepFields[] = {{"name", Text, {}, nullptr, kRe
 constexpr JsonShape kFermentationStepShape = {kFermentationStepFields, true};
 
 constexpr JsonField kFermentationFields[] = {
-    {"name", Text, {}, nullptr, kRequired},
-    {"fermentation_steps", FullArray, {}, &kFermentationStepShape, kRequired},
+    {"name", Text, {}, nullptr, Required},
+    {"fermentation_steps", FullArray, {}, &kFermentationStepShape, Required},
     {"description", Text},
     {"notes", Text}};
 constexpr JsonShape kFermentationShape = {kFermentationFields, true};
 
-constexpr JsonField kGraphicFields[] = {{"position", Word, kPositionWords, nullptr, kRequired},
-                                        {"type", Word, kPictureWords, nullptr, kRequired},
+constexpr JsonField kGraphicFields[] = {{"position", Word, kPositionWords, nullptr, Required},
+                                        {"type", Word, kPictureWords, nullptr, Required},
                                         {"base64_data", Text},
                                         {"dpi", Number},
                                         {"height", Number},
@@ -239,7 +295,7 @@ constexpr JsonField kGraphicFields[] = {{"position", Word, kPositionWords, nullp
                                         {"URLS", Texts}};
 constexpr JsonShape kGraphicShape = {kGraphicFields, true};
 
-constexpr JsonField kVesselFields[] = {{"name", Text, {}, nullptr, kRequired},
+constexpr JsonField kVesselFields[] = {{"name", Text, {}, nullptr, Required},
                                        {"type", Word, kVesselWords},
                                        {"description", Text},
                                        {"carbonation", Number},
@@ -256,19 +312,19 @@ constexpr JsonField kVesselFields[] = {{"name", Text, {}, nullptr, kRequired},
                                        {"graphics", Array, {}, &kGraphicShape}};
 constexpr JsonShape kVesselShape = {kVesselFields, true};
 
-constexpr JsonField kPackagingFields[] = {{"name", Text, {}, nullptr, kRequired},
+constexpr JsonField kPackagingFields[] = {{"name", Text, {}, nullptr, Required},
                                           {"description", Text},
                                           {"notes", Text},
                                           {"packaged_volume", Quantity, kVolumeUnits},
                                           {"packaging_vessels", Array, {}, &kVesselShape}};
 constexpr JsonShape kPackagingShape = {kPackagingFields, true};
 
-constexpr JsonField kRecipeFields[] = {{"name", Text, {}, nullptr, kRequired},
-                                       {"type", Word, kRecipeTypeWords, nullptr, kRequired},
-                                       {"author", Text, {}, nullptr, kRequired},
-                                       {"efficiency", Object, {}, &kEfficiencyShape, kRequired},
-                                       {"batch_size", Quantity, kVolumeUnits, nullptr, kRequired},
-                                       {"ingredients", Object, {}, &kIngredientsShape, kRequired},
+constexpr JsonField kRecipeFields[] = {{"name", Text, {}, nullptr, Required},
+                                       {"type", Word, kRecipeTypeWords, nullptr, Required},
+                                       {"author", Text, {}, nullptr, Required},
+                                       {"efficiency", Object, {}, &kEfficiencyShape, Required},
+                                       {"batch_size", Quantity, kVolumeUnits, nullptr, Required},
+                                       {"ingredients", Object, {}, &kIngredientsShape, Required},
                                        {"coauthor", Text},
                                        {"created", Date},
                                        {"style", Object, {}, &kStyleShape},
@@ -289,10 +345,59 @@ constexpr JsonField kRecipeFields[] = {{"name", Text, {}, nullptr, kRequired},
                                        {"packaging", Object, {}, &kPackagingShape}};
 constexpr JsonShape kRecipeShape = {kRecipeFields, true};
 
+constexpr JsonField kFileFields[] = {{"version", Anything, {}, nullptr, Required},
+                                     {"fermentables", Anything},
+                                     {"miscellaneous_ingredients", Anything},
+                                     {"hop_varieties", Anything},
+                                     {"cultures", Anything},
+                                     {"profiles", Anything},
+                                     {"styles", Anything},
+                                     {"mashes", Anything},
+                                     {"fermentations", Anything},
+                                     {"recipes", Anything},
+                                     {"equipments", Anything},
+                                     {"boil", Anything},
+                                     {"packaging", Anything}};
+constexpr JsonShape kFileShape = {kFileFields, true};
+
 }  // namespace
 
-const JsonShape& JsonRecipeShape() {
-    return kRecipeShape;
+const JsonShape& ShapeOf(JsonRecord record) {
+    switch (record) {
+        case JsonRecord::File:
+            return kFileShape;
+        case JsonRecord::Recipe:
+            return kRecipeShape;
+        case JsonRecord::Efficiency:
+            return kEfficiencyShape;
+        case JsonRecord::Ingredients:
+            return kIngredientsShape;
+        case JsonRecord::Taste:
+            return kTasteShape;
+        case JsonRecord::IbuEstimate:
+            return kIbuEstimateShape;
+        case JsonRecord::Fermentable:
+            return kFermentableShape;
+        case JsonRecord::Yield:
+            return kYieldShape;
+        case JsonRecord::Hop:
+            return kHopShape;
+        case JsonRecord::Culture:
+            return kCultureShape;
+        case JsonRecord::Misc:
+            return kMiscShape;
+        case JsonRecord::Water:
+            return kWaterShape;
+        case JsonRecord::Style:
+            return kStyleShape;
+        case JsonRecord::Boil:
+            return kBoilShape;
+        case JsonRecord::BoilStep:
+            return kBoilStepShape;
+        case JsonRecord::Timing:
+            return kTimingShape;
+    }
+    return kFileShape;
 }
 
 const JsonField* FieldOf(const JsonShape& shape, std::string_view key) {

@@ -1,5 +1,5 @@
-// The shapes of BeerJSON 1.0 that a recipe can contain: the only description of what its schema allows, by
-// which written files are made valid.
+// The shapes of BeerJSON 1.0: the only description of its records. By it, reading tells a key that is missing
+// from one that is unknown, and written recipes are made valid.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,33 @@
 
 namespace tw {
 
+enum class JsonRecord : std::uint8_t {
+    File,  // the object behind "beerjson"
+    Recipe,
+    Efficiency,
+    Ingredients,
+    Taste,
+    IbuEstimate,
+    Fermentable,
+    Yield,
+    Hop,
+    Culture,
+    Misc,
+    Water,
+    Style,
+    Boil,
+    BoilStep,
+    Timing
+};
+
+enum class JsonNeed : std::uint8_t {
+    Optional,
+    InRecipe,  // required in a recipe, not in a library
+    Required
+};
+
 enum class JsonHolds : std::uint8_t {
+    Anything,  // written as it is
     Text,
     Number,
     Integer,
@@ -31,7 +57,11 @@ struct JsonField {
     JsonHolds holds;
     std::span<const std::string_view> words = {};
     const JsonShape* shape = nullptr;  // of an object or of the elements of an array
-    bool isRequired = false;
+    JsonNeed need = JsonNeed::Optional;
+
+    bool IsRequired(bool isInRecipe) const {
+        return need == JsonNeed::Required || (isInRecipe && need == JsonNeed::InRecipe);
+    }
 };
 
 struct JsonShape {
@@ -41,7 +71,7 @@ struct JsonShape {
     std::string_view least = {};
 };
 
-const JsonShape& JsonRecipeShape();
+const JsonShape& ShapeOf(JsonRecord record);
 // Returns nullptr if the shape has no such field.
 const JsonField* FieldOf(const JsonShape& shape, std::string_view key);
 

@@ -45,7 +45,8 @@ class Timing {
             timing.useWritten = std::string(TrimSpace(*use->AsText()));
             const auto meaning = UseOfWord(timing.useWritten);
             if (!timing.useWritten.empty())
-                telling_.TellWord(place_, "use", timing.useWritten, JsonUses(),
+                telling_.TellWord(place_, "use", timing.useWritten,
+                                  FieldOf(ShapeOf(JsonRecord::Timing), "use")->words,
                                   meaning ? meaning->shown : "");
             if (meaning) timing.use = meaning->value;
         }

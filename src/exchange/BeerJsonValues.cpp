@@ -211,10 +211,9 @@ std::string_view MethodWord(ForeignIbuMethod method) {
     return method == ForeignIbuMethod::Garetz ? "Garetz" : "Tinseth";
 }
 
-// Returns the closed list of a field of a record that stands in a list of ingredients.
-std::span<const std::string_view> WordsOf(std::string_view list, std::string_view key) {
-    const JsonShape& ingredients = *FieldOf(JsonRecipeShape(), "ingredients")->shape;
-    return FieldOf(*FieldOf(ingredients, list)->shape, key)->words;
+// Returns the closed list of a field.
+std::span<const std::string_view> WordsOf(JsonRecord record, std::string_view key) {
+    return FieldOf(ShapeOf(record), key)->words;
 }
 
 // The format wants an integer and a single letter.
@@ -299,11 +298,10 @@ JsonValues JsonValuesOf(const ForeignHop& line, StandStep stand) {
 }
 
 JsonValues JsonValuesOf(const ForeignYeast& line, StandStep /*stand*/) {
-    constexpr std::string_view kList = "culture_additions";
     Members members;
     members.Text("name", line.name);
-    members.WordOfFile("type", line.type, WordsOf(kList, "type"), kCultureTypes, true);
-    members.WordOfFile("form", line.form, WordsOf(kList, "form"), kNone, true);
+    members.WordOfFile("type", line.type, WordsOf(JsonRecord::Culture, "type"), kCultureTypes, true);
+    members.WordOfFile("form", line.form, WordsOf(JsonRecord::Culture, "form"), kNone, true);
     members.Amount("amount", line.amount);
     members.Text("producer", line.laboratory);
     members.Text("product_id", line.productId);
@@ -321,7 +319,7 @@ JsonValues JsonValuesOf(const ForeignYeast& line, StandStep /*stand*/) {
 JsonValues JsonValuesOf(const ForeignMisc& line, StandStep stand) {
     Members members;
     members.Text("name", line.name);
-    members.WordOfFile("type", line.type, WordsOf("miscellaneous_additions", "type"), kNone, true);
+    members.WordOfFile("type", line.type, WordsOf(JsonRecord::Misc, "type"), kNone, true);
     members.Amount("amount", line.amount);
     if (line.use || line.minutes || !line.useWritten.empty())
         members.Timing(line.use, line.useWritten, line.minutes, stand);
@@ -348,13 +346,12 @@ JsonValues JsonValuesOf(const ForeignWater& line, StandStep /*stand*/) {
 }
 
 JsonValues JsonValuesOf(const ForeignStyle& style) {
-    const JsonShape& shape = *FieldOf(JsonRecipeShape(), "style")->shape;
     Members members;
     members.Text("name", style.name);
     members.Text("category", style.category);
     AddNumbers(members, style);
     members.Text("style_guide", style.guide);
-    members.WordOfFile("type", style.type, FieldOf(shape, "type")->words, kStyleTypes, true);
+    members.WordOfFile("type", style.type, WordsOf(JsonRecord::Style, "type"), kStyleTypes, true);
     members.Range("original_gravity", style.og, "sg");
     members.Range("final_gravity", style.fg, "sg");
     members.Range("international_bitterness_units", style.ibu, "IBUs");

@@ -121,7 +121,7 @@ class RecipeWriter {
         WriteLines(lists, "water_additions", kWatersPlace, facts_.waters, exported_.waters, before_.waters);
         for (JsonMember& list : *lists.AsObject())
             SetMember(*MemberOf(recipe_, "ingredients"), list.name, std::move(list.value));
-        CompleteJson(recipe_, JsonRecipeShape(), values.object, {}, telling_);
+        CompleteJson(recipe_, ShapeOf(JsonRecord::Recipe), values.object, {}, telling_);
         telling_.End();
         return std::move(recipe_);
     }
@@ -264,7 +264,7 @@ class RecipeWriter {
     template <class Line>
     void WriteLines(Json& lists, std::string_view key, std::string_view place, const std::vector<Line>& lines,
                     const std::vector<LineOrigin>& origins, const std::vector<Line>& before) {
-        const JsonShape& ingredients = *FieldOf(JsonRecipeShape(), "ingredients")->shape;
+        const JsonShape& ingredients = ShapeOf(JsonRecord::Ingredients);
         const JsonShape& shape = *FieldOf(ingredients, key)->shape;
         Json::Array& originals =
             originals_[static_cast<std::size_t>(std::ranges::find(kLists, key) - kLists.begin())];
@@ -291,7 +291,7 @@ class RecipeWriter {
             written.push_back(std::move(element));
         }
         // An empty list says nothing, but for the one that the format requires.
-        if (!written.empty() || wasThere || FieldOf(ingredients, key)->isRequired)
+        if (!written.empty() || wasThere || FieldOf(ingredients, key)->IsRequired(true))
             lists.Add(key, Json(std::move(written)));
     }
 
