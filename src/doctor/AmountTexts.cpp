@@ -153,9 +153,12 @@ std::string GravityText(double gravity) {
     return {digits.begin(), end};
 }
 
+std::string MinutesText(double minutes) {
+    return With(minutes, "min");
+}
+
 std::string TimeText(double minutes) {
-    constexpr double kMinutesPerDay = 1440;
-    if (minutes < kMinutesPerDay) return With(minutes, "min");
+    if (minutes < kMinutesPerDay) return MinutesText(minutes);
     const std::string days = FewestDecimals(minutes / kMinutesPerDay);
     return days + (days == "1" ? " day" : " days");
 }

@@ -43,7 +43,9 @@ class AmountTexts {
 std::string FewestDecimals(double value);
 // Returns a specific gravity with three decimals, or four if three lose a tenth of a point or more.
 std::string GravityText(double gravity);
-// Returns a time: whole days as "7 days" from one day on, else minutes: "60 min".
+inline constexpr double kMinutesPerDay = 1440;
+std::string MinutesText(double minutes);  // "60 min"
+// Returns a time: whole days as "7 days" from one day on, else minutes.
 std::string TimeText(double minutes);
 
 }  // namespace tw

@@ -65,6 +65,15 @@ class HopPlan {
                       "No hop of the recipe is boiled, and this one stands " +
                           TimeText(hop_.minutes.value_or(0)) + "; it was read as boiled.");
         }
+        if (!hop_.use && hop_.minutes.value_or(0) >= kMinutesPerDay) {
+            use_ = ForeignUse::Primary;
+            c_.Report(Severity::Approximated, FindingCode::HopUse, place_,
+                      "When it is added is not known; for its " + TimeText(*hop_.minutes) +
+                          " it was read as a dry hop.");
+        } else if (!hop_.use) {
+            c_.Report(Severity::Approximated, FindingCode::HopUse, place_,
+                      "When it is added is not known; it was read as boiled.");
+        }
     }
 
     PlannedLine Planned() {
@@ -161,7 +170,9 @@ class HopPlan {
     std::string Time() {
         if (IsStand(use_)) return NoMinutes();
         if (use_ == ForeignUse::FirstWort) return FirstWortTime();
-        return hop_.minutes ? TimeText(*hop_.minutes) : std::string();
+        if (!hop_.minutes) return {};
+        // The time of a boiled hop has no days.
+        return IsDry(use_) ? TimeText(*hop_.minutes) : MinutesText(*hop_.minutes);
     }
 
     std::string NoMinutes() {
@@ -169,12 +180,16 @@ class HopPlan {
         if (hop_.minutes && *hop_.minutes > 0) text += " for " + TimeText(*hop_.minutes);
         c_.Report(Severity::Approximated, FindingCode::HopUse, place_,
                   text + "; here it counts as 0 min of the boil.");
+        if (hop_.minutes && *hop_.minutes > 0)
+            c_.Report(Severity::Approximated, FindingCode::HopTime, place_,
+                      "The " + TimeText(*hop_.minutes) +
+                          " that it stays have no cell here; they are kept beside the recipe.");
         return "0 min";
     }
 
     std::string FirstWortTime() {
         const std::optional<double> minutes = c_.recipe.boilMinutes ? c_.recipe.boilMinutes : hop_.minutes;
-        const std::string text = minutes ? TimeText(*minutes) : std::string();
+        const std::string text = minutes ? MinutesText(*minutes) : std::string();
         c_.Report(Severity::Approximated, FindingCode::HopUse, place_,
                   "It is added to the first wort; here it is boiled for " +
                       (text.empty() ? std::string("the whole boil") : text) + ".");

@@ -180,6 +180,10 @@ TEST_F(PaleAle, HopsThatDoNotBoilHaveNoMinutes) {
         EXPECT_EQ(r.gridHops.Text(row, HopCol::Time), times[row - 1]) << row;
         EXPECT_EQ(r.gridHops.Checked(row, HopCol::DryHopped), row > 5) << row;
     }
+    EXPECT_THAT(
+        Told(),
+        Contains("approximated hop-time Hops 4: Some Hop: The 20 min that it stays have no cell here; "
+                 "they are kept beside the recipe."));
     EXPECT_THAT(Told(),
                 Contains("approximated hop-use Hops 4: Some Hop: It is added in the whirlpool for 20 min; "
                          "here it counts as 0 min of the boil."));
@@ -220,6 +224,22 @@ TEST_F(PaleAle, AHopThatIsNoneBecomesAnAdjunct) {
     // With alpha acid it is a hop, whatever its name.
     recipe.hops[1].alpha = 3;
     EXPECT_EQ(Examine().gridHops.Text(2, HopCol::Variety), "Cold Brew Coffee");
+}
+
+TEST_F(PaleAle, BoiledHopsHaveMinutesAndDaysMeanDryHops) {
+    recipe.hops = {Hop(ForeignUse::Boil, 4320), Hop(ForeignUse::Boil, 4320)};
+    recipe.hops[1].use.reset();
+    RecipeRecord& r = Examine();
+    EXPECT_EQ(r.gridHops.Text(1, HopCol::Time), "4320 min");
+    EXPECT_FALSE(r.gridHops.Checked(1, HopCol::DryHopped));
+    EXPECT_EQ(r.gridHops.Text(2, HopCol::Time), "3 days");
+    EXPECT_TRUE(r.gridHops.Checked(2, HopCol::DryHopped));
+    EXPECT_THAT(Told(), Contains(HasSubstr("approximated hop-use Hops 2: Some Hop")));
+    recipe.hops[1].minutes = 60;
+    EXPECT_FALSE(Examine().gridHops.Checked(2, HopCol::DryHopped));
+    EXPECT_THAT(Told(),
+                Contains("approximated hop-use Hops 2: Some Hop: When it is added is not known; it was "
+                         "read as boiled."));
 }
 
 TEST_F(PaleAle, YeastsStandInTheLogAndGiveTheFinishedGravity) {
