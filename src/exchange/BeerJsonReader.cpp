@@ -102,6 +102,11 @@ ForeignFermentable ReadFermentable(BeerJsonRecord& record, const LineFrame& line
     return read;
 }
 
+void TellTimes(const JsonTiming& timing, const LineFrame& line) {
+    if (!timing.timesRemark.empty())
+        line.telling.Tell(Severity::Approximated, FindingCode::HopTime, line.place, timing.timesRemark);
+}
+
 ForeignHop ReadHop(BeerJsonRecord& record, const LineFrame& line) {
     ForeignHop read;
     read.name = record.Text("name");
@@ -112,6 +117,7 @@ ForeignHop ReadHop(BeerJsonRecord& record, const LineFrame& line) {
     read.use = timing.use;
     read.useWritten = std::move(timing.useWritten);
     read.minutes = timing.minutes;
+    TellTimes(timing, line);
     if (const Json* const form = record.Peek("form"); form != nullptr && form->AsText() != nullptr)
         read.formWritten = std::string(TrimSpace(*form->AsText()));
     read.form = record.Word("form", HopFormOfWord);
@@ -159,6 +165,7 @@ ForeignMisc ReadMisc(BeerJsonRecord& record, const LineFrame& line) {
     read.use = timing.use;
     read.useWritten = std::move(timing.useWritten);
     read.minutes = timing.minutes;
+    TellTimes(timing, line);
     read.useFor = record.Text("use_for");
     read.notes = record.Text("notes");
     return read;

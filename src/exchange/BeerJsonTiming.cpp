@@ -4,6 +4,7 @@
 #include <array>
 
 #include "exchange/AsciiCase.h"
+#include "values/NumberText.h"
 
 namespace tw {
 namespace {
@@ -24,8 +25,12 @@ bool IsBelowBoiling(const JsonBoilStep& step) {
     return NameHas(step, "WHIRLPOOL") || NameHas(step, "STAND") || NameHas(step, "STEEP");
 }
 
+bool IsOneOf(const std::vector<JsonBoilStep>& steps, double number) {
+    return number >= 1 && number <= static_cast<double>(steps.size());
+}
+
 ForeignUse UseInBoil(std::optional<double> number, const std::vector<JsonBoilStep>& steps) {
-    if (!number || *number < 1 || *number > static_cast<double>(steps.size())) return ForeignUse::Boil;
+    if (!number || !IsOneOf(steps, *number)) return ForeignUse::Boil;
     const auto index = static_cast<std::size_t>(*number) - 1;
     const JsonBoilStep& step = steps[index];
     if (index == 0 && Heats(step)) return ForeignUse::FirstWort;
@@ -53,15 +58,45 @@ class Timing {
         const auto step = Figure("step", FigureUnit::Plain);
         const auto time = Figure("time", FigureUnit::Minutes);
         const auto duration = Figure("duration", FigureUnit::Minutes);
-        if (timing.use == ForeignUse::Boil) timing.use = UseInBoil(step, boilSteps);
+        if (timing.use == ForeignUse::Boil) {
+            if (step && !boilSteps.empty() && !IsOneOf(boilSteps, *step))
+                Tell(FindingCode::HopUse,
+                     "The boil has no step " + NumberText(*step) + "; it was read as added to the boil.");
+            timing.use = UseInBoil(step, boilSteps);
+        }
         if (timing.use == ForeignUse::Primary && step && *step >= 2) timing.use = ForeignUse::Secondary;
         const bool countsBackward = timing.use == ForeignUse::Boil || timing.use == ForeignUse::FirstWort;
         timing.minutes = countsBackward ? (time ? time : duration) : (duration ? duration : time);
+        timing.timesRemark = TimesRemark(time, duration, countsBackward);
         KeepRest();
         return timing;
     }
 
   private:
+    // Returns what the brewer is told of the two times, of which a recipe here has one: for the boil the one
+    // before its end, else how long it stays.
+    std::string TimesRemark(std::optional<double> time, std::optional<double> duration, bool countsBackward) {
+        const auto minutes = [](double value) { return NumberText(value) + " min"; };
+        if (time && duration && *time != *duration && (countsBackward || *time > 0)) {
+            telling_.KeepAside(Joined(path_, countsBackward ? "duration" : "time"), 0);
+            if (!countsBackward)
+                return "Its time of " + minutes(*time) +
+                       " from the start of the step has no place; its duration of " + minutes(*duration) +
+                       " was taken.";
+            return "Its duration of " + minutes(*duration) + " has no place; its time of " + minutes(*time) +
+                   " before the end of the boil was taken.";
+        }
+        if (!countsBackward && time && !duration && *time > 0)
+            return "Its duration is not stated; its time of " + minutes(*time) +
+                   " from the start of the step was read as how long it stays.";
+        if (countsBackward && duration && !time)
+            return "When it is added is not stated; its duration of " + minutes(*duration) +
+                   " was read as boiled to the end.";
+        return {};
+    }
+    void Tell(FindingCode code, std::string text) const {
+        telling_.Tell(Severity::Approximated, code, place_, std::move(text));
+    }
     std::optional<double> Figure(std::string_view key, FigureUnit unit) {
         const Json* const value = value_.Find(key);
         if (value == nullptr) return std::nullopt;

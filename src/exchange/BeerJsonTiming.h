@@ -19,6 +19,7 @@ struct JsonTiming {
     std::optional<ForeignUse> use;
     std::string useWritten;  // the word of the file
     std::optional<double> minutes;
+    std::string timesRemark;  // a sentence if the minutes are not all that the file says, or a guess
 };
 
 // Reads the field "timing" of a record, and the word "use" that older files have beside it. What is odd about
