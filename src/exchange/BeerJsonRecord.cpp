@@ -27,7 +27,8 @@ QuantityText TextOf(const Json& value) {
     QuantityText quantity = TextOf(*number);
     const std::string* const word = unit == nullptr ? nullptr : unit->AsText();
     if (word == nullptr || TrimSpace(*word).empty()) return quantity;
-    quantity.text += " " + *word;
+    // The unit of plain numbers. Behind a number it would be a second one.
+    quantity.text += TrimSpace(*word) == "1" ? " each" : " " + *word;
     quantity.hasUnit = quantity.isBare;
     quantity.isBare = false;
     return quantity;
@@ -42,6 +43,12 @@ ForeignFigure WithoutUnit(ForeignFigure figure) {
 bool IsEmptyValue(const Json& value) {
     if (const std::string* const text = value.AsText()) return TrimSpace(*text).empty();
     return value.IsNull();
+}
+
+// True if the value, or the number of a quantity, says nothing.
+bool SaysNothing(const Json& value) {
+    const Json* const number = value.Find("value");
+    return IsEmptyValue(value) || (number != nullptr && IsEmptyValue(*number));
 }
 
 }  // namespace
@@ -196,7 +203,7 @@ void BeerJsonRecord::TellKeys(bool isInRecipe) const {
         const Json* const value = value_.Find(field.key);
         if (value == nullptr)
             missing.emplace_back(field.key);
-        else if (IsEmptyValue(*value))
+        else if (SaysNothing(*value))
             empty.emplace_back(field.key);
     }
     std::set<std::string_view> names;

@@ -119,8 +119,7 @@ constexpr const char* kWhole = R"({"beerjson": {"version": 2.06, "recipes": [{
 
 TEST(BeerJsonReader, AWholeRecipeLeavesNoFinding) {
     const ForeignFile file = Read(kWhole);
-    for (const Finding& finding : file.findings.All())
-        ADD_FAILURE() << finding.place << ": " << finding.text;
+    for (const Finding& finding : file.findings.All()) ADD_FAILURE() << finding.place << ": " << finding.text;
 }
 
 TEST(BeerJsonReader, FieldsOfARecipe) {
@@ -233,6 +232,60 @@ TEST(BeerJsonReader, TheTimingSaysWhenAHopIsAdded) {
     EXPECT_FALSE(timed("{}").use);
     EXPECT_FALSE(timed("null").use);
     EXPECT_FALSE(timed(R"({"use": 5})").use);
+}
+
+TEST(BeerJsonReader, ATimeThatIsGuessedOrHasNoPlaceIsTold) {
+    const auto told = [](const std::string& timing) {
+        return Told(ReadWith(Hops(R"({"name": "Saaz", "timing": {)" + timing + "}}")), FindingCode::HopTime);
+    };
+    const std::string time = R"("time": {"unit": "day", "value": 3})";
+    const std::string duration = R"("duration": {"unit": "min", "value": 90})";
+    const std::string both = time + ", " + duration;
+    EXPECT_THAT(told(R"("use": "add_to_boil", )" + time), IsEmpty());
+    EXPECT_THAT(told(R"("use": "add_to_fermentation", )" + duration), IsEmpty());
+    EXPECT_THAT(told(R"("use": "add_to_fermentation", "time": {"unit": "day", "value": 0})"), IsEmpty());
+    EXPECT_THAT(
+        told(R"("use": "add_to_fermentation", )" + time),
+        ElementsAre("Ale|Hops 1: Saaz|Its duration is not stated; its time of 4320 min from the start of "
+                    "the step was read as how long it stays."));
+    EXPECT_THAT(
+        told(R"("use": "add_to_fermentation", )" + both),
+        ElementsAre("Ale|Hops 1: Saaz|Its time of 4320 min from the start of the step has no place; its "
+                    "duration of 90 min was taken."));
+    EXPECT_THAT(
+        told(R"("use": "add_to_boil", )" + duration),
+        ElementsAre("Ale|Hops 1: Saaz|When it is added is not stated; its duration of 90 min was read as "
+                    "boiled to the end."));
+    EXPECT_THAT(
+        told(R"("use": "add_to_boil", )" + both),
+        ElementsAre("Ale|Hops 1: Saaz|Its duration of 90 min has no place; its time of 4320 min before "
+                    "the end of the boil was taken."));
+}
+
+TEST(BeerJsonReader, AStepThatTheBoilDoesNotHaveIsTold) {
+    const auto told = [](const std::string& step) {
+        return Told(
+            ReadWith(
+                R"("boil": {"boil_time": {"unit": "min", "value": 60}, "boil_steps": [{"name": "Boil"}]}, )" +
+                Hops(R"({"name": "Saaz", "timing": {"use": "add_to_boil", "step": )" + step + "}}")),
+            FindingCode::HopUse);
+    };
+    EXPECT_THAT(told("1"), IsEmpty());
+    EXPECT_THAT(told("2"),
+                ElementsAre("Ale|Hops 1: Saaz|The boil has no step 2; it was read as added to the boil."));
+}
+
+TEST(BeerJsonReader, PlainNumbersAndAmountsWithoutOne) {
+    const ForeignFile file = ReadWith(R"("ingredients": {"miscellaneous_additions": [
+        {"name": "Vanilla", "amount": {"unit": "1", "value": 2}},
+        {"name": "Orange", "amount": {"unit": "g", "value": null}}]})");
+    const auto& miscs = file.recipes.at(0).miscs;
+    EXPECT_EQ(miscs.at(0).amount.value().of, Of::Pieces);
+    EXPECT_EQ(miscs.at(0).amount.value().value, 2);
+    EXPECT_FALSE(miscs.at(1).amount);
+    EXPECT_THAT(
+        Told(file, FindingCode::EmptyRequired),
+        ElementsAre("Ale|Miscellaneous 2: Orange|Fields that the format requires are empty: amount."));
 }
 
 TEST(BeerJsonReader, OlderFilesNameTheUseBesideTheTiming) {
