@@ -1,6 +1,7 @@
 #include "exchange/BeerXmlEditor.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "exchange/AsciiCase.h"
 #include "exchange/BeerXmlRecord.h"
@@ -70,7 +71,9 @@ BeerXmlEditor::BeerXmlEditor(pugi::xml_node element, XmlRecord record, WriteTell
         RemoveAttributes(child);
         if (child.name() != field->tag) child.set_name(std::string(field->tag).c_str());
         pugi::xml_node& slot = slots_[IndexOf(field->tag)];
-        if (!slot) {
+        const bool isBlank = slot && !IsStructure(*field) && TrimmedText(slot).empty();
+        if (isBlank && !TrimmedText(child).empty()) element.remove_child(std::exchange(slot, child));
+        if (!slot || slot == child) {
             slot = child;
         } else if (field->holds != XmlHolds::RecordSet) {
             telling_.NoteTwice(PathOf(*field));

@@ -81,6 +81,7 @@ ForeignMisc ReadMisc(BeerXmlRecord& record) {
     read.use = record.Word("USE", UseOfWord);
     read.minutes = record.Figure("TIME");
     read.amount = record.WeightOrVolume();
+    record.TellGuessedVolume(read.amount);
     read.useFor = record.Text("USE_FOR");
     read.notes = record.Text("NOTES");
     return read;

@@ -244,6 +244,15 @@ std::optional<ForeignAmount> BeerXmlRecord::WeightOrVolume() {
     return Amount("AMOUNT", "DISPLAY_AMOUNT", of);
 }
 
+void BeerXmlRecord::TellGuessedVolume(const std::optional<ForeignAmount>& amount) {
+    const bool isGuess = amount && amount->of == ForeignAmount::Of::Volume && amount->value > 0 &&
+                         amount->written.empty() && Text("AMOUNT_IS_WEIGHT").empty();
+    if (isGuess)
+        telling_.Tell(
+            Severity::Approximated, FindingCode::AmountUnit, place_,
+            "AMOUNT " + Quoted(Text("AMOUNT")) + " may be a weight or a volume; it was read as liters.");
+}
+
 void BeerXmlRecord::End() {
     for (std::size_t i = 0; i < slots_.size(); ++i) {
         const Slot& slot = slots_[i];
@@ -271,7 +280,7 @@ void BeerXmlRecord::Index(pugi::xml_node element) {
             continue;
         }
         Slot& slot = slots_[static_cast<std::size_t>(field - rule_.fields.data())];
-        if (!slot.element)
+        if (!slot.element || (IsText(*field) && IsBlank(slot.element) && !IsBlank(child)))
             slot.element = child;
         else if (field->holds != XmlHolds::RecordSet)
             AddOnce(twice, field->tag);

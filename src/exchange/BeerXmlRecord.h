@@ -61,6 +61,9 @@ class BeerXmlRecord {
     // Returns what AMOUNT states: kilograms or litres as AMOUNT_IS_WEIGHT says, without it as the unit of
     // DISPLAY_AMOUNT says, else litres. A number shown as pieces counts pieces.
     std::optional<ForeignAmount> WeightOrVolume();
+    // Tells if that amount is in litres for want of anything that says so: the standard contradicts itself
+    // for other ingredients.
+    void TellGuessedVolume(const std::optional<ForeignAmount>& amount);
 
     // Checks the fields that nothing has read, and lists them as kept aside.
     void End();

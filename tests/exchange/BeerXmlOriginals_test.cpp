@@ -78,6 +78,13 @@ TEST(BeerXmlOriginals, TagsOfTheFormatLoseTheirAttributes) {
                 Contains(HasSubstr("left out: attribute lang, attribute id, attribute count")));
 }
 
+TEST(BeerXmlOriginals, OfAFieldTwiceTheFirstWithATextIsWritten) {
+    const auto written = Write(Original("<NOTES/><NOTES>Kept.</NOTES><DATE>May</DATE><DATE>June</DATE>"));
+    EXPECT_EQ(written->At("NOTES"), "Kept.");
+    EXPECT_EQ(written->At("DATE"), "May");
+    EXPECT_EQ(std::ranges::distance(written->Recipe().children("NOTES")), 1);
+}
+
 TEST(BeerXmlOriginals, AChangedAmountChangesNothingElse) {
     ExportedRecipe recipe = ValidRecipe();
     const std::string before = Write(recipe)->text;

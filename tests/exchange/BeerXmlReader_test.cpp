@@ -108,8 +108,7 @@ constexpr const char* kWhole = R"(<?xml version="1.0" encoding="UTF-8"?>
 
 TEST(BeerXmlReader, AWholeRecipeLeavesNoFinding) {
     const ForeignFile file = Read(kWhole);
-    for (const Finding& finding : file.findings.All())
-        ADD_FAILURE() << finding.place << ": " << finding.text;
+    for (const Finding& finding : file.findings.All()) ADD_FAILURE() << finding.place << ": " << finding.text;
 }
 
 TEST(BeerXmlReader, FieldsOfARecipe) {
@@ -408,6 +407,9 @@ TEST(BeerXmlReader, OfAFieldThatStandsTwiceTheFirstCounts) {
     // Two record sets are two parts of one list.
     EXPECT_EQ(ReadRecipe("<HOPS><HOP/></HOPS><HOPS><HOP/></HOPS>").hops.size(), 2U);
     EXPECT_THAT(ToldOfRecipe("<HOPS><HOP/></HOPS><HOPS><HOP/></HOPS>", FindingCode::Duplicate), IsEmpty());
+    // An empty field says less than its second one.
+    EXPECT_EQ(ReadRecipe("<NOTES> </NOTES><NOTES>Kept.</NOTES>").notes, "Kept.");
+    EXPECT_THAT(ToldOfRecipe("<NOTES/><NOTES>Kept.</NOTES>", FindingCode::Duplicate), IsEmpty());
 }
 
 TEST(BeerXmlReader, TextKeepsItsLinesAndTheWordsOfMarkup) {
@@ -446,6 +448,19 @@ TEST(BeerXmlReader, DeepNestingIsHarmless) {
     for (int i = 0; i < 1000; ++i) recipes += "<RECIPE>";
     for (int i = 0; i < 1000; ++i) recipes += "</RECIPE>";
     EXPECT_EQ(Read(recipes).recipes.size(), 5U);
+}
+
+TEST(BeerXmlReader, AnAmountThatMayBeAWeightOrAVolumeIsTold) {
+    const auto told = [](const std::string& misc) {
+        return ToldOfRecipe("<MISCS><MISC>" + misc + "</MISC></MISCS>", FindingCode::AmountUnit);
+    };
+    EXPECT_THAT(told("<NAME>Moss</NAME><AMOUNT>0.01</AMOUNT>"),
+                ElementsAre("Ale|Miscellaneous 1: Moss|AMOUNT \"0.01\" may be a weight or a volume; it was "
+                            "read as liters."));
+    EXPECT_THAT(told("<AMOUNT>0</AMOUNT>"), IsEmpty());
+    EXPECT_THAT(told("<AMOUNT>0.01</AMOUNT><AMOUNT_IS_WEIGHT>FALSE</AMOUNT_IS_WEIGHT>"), IsEmpty());
+    EXPECT_THAT(told("<AMOUNT>0.01</AMOUNT><AMOUNT_IS_WEIGHT>TRUE</AMOUNT_IS_WEIGHT>"), IsEmpty());
+    EXPECT_THAT(told("<AMOUNT>0.01</AMOUNT><DISPLAY_AMOUNT>2.03 tsp</DISPLAY_AMOUNT>"), IsEmpty());
 }
 
 }  // namespace
