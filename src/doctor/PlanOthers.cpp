@@ -37,13 +37,16 @@ constexpr std::array<Ion, kIons> kIonsOfWater = {&ForeignWater::calcium,  &Forei
                                                  &ForeignWater::chloride, &ForeignWater::magnesium,
                                                  &ForeignWater::sodium,   &ForeignWater::sulfate};
 
-// Returns one ion of the waters together, by their amounts; waters without an amount count alike.
+// Returns one ion of the waters together, by their amounts; if one states none, or all of
+// them 0, they count alike.
 std::optional<double> Mixed(const std::vector<ForeignWater>& waters, Ion ion) {
     const bool weighed =
-        std::ranges::all_of(waters, [](const ForeignWater& w) { return w.litres && *w.litres > 0; });
+        std::ranges::all_of(waters, [](const ForeignWater& w) { return w.litres.has_value(); }) &&
+        std::ranges::any_of(waters, [](const ForeignWater& w) { return w.litres.value_or(0) > 0; });
     double sum = 0, weights = 0;
     for (const ForeignWater& water : waters) {
         const double weight = weighed ? *water.litres : 1;
+        if (weight == 0) continue;
         if (!(water.*ion)) return std::nullopt;
         sum += weight * *(water.*ion);
         weights += weight;

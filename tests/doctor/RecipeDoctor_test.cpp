@@ -312,7 +312,14 @@ TEST_F(PaleAle, SeveralWatersAreMixedByAmount) {
     EXPECT_EQ(r.gridWater.Text(1, WaterCol::FirstIon), "35");
     EXPECT_EQ(r.gridWater.Text(1, WaterCol::FirstIon + 1), "20");
     EXPECT_TRUE(Has(FindingCode::WaterMix));
+    // An amount of 0 adds nothing, not even ions that are unknown.
+    recipe.waters[0].litres = 0;
+    recipe.waters[0].calcium.reset();
+    EXPECT_EQ(Examine().gridWater.Text(1, WaterCol::FirstIon), "110");
     // Without amounts they count alike.
+    recipe.waters[0].calcium = 10;
+    recipe.waters[1].litres = 0;
+    EXPECT_EQ(Examine().gridWater.Text(1, WaterCol::FirstIon), "60");
     recipe.waters[0].litres.reset();
     EXPECT_EQ(Examine().gridWater.Text(1, WaterCol::FirstIon), "60");
 }
