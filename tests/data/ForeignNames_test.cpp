@@ -29,6 +29,8 @@ constexpr ForeignName kForeignNames[] = {
     {CatalogueKind::Hop, {"Hallertauer Mittelfruh"}, "Hallertauer Mittelfrüh", MatchedBy::Folded},
     {CatalogueKind::Hop, {"Saphire"}, "Saphir", MatchedBy::Alias},
     {CatalogueKind::Hop, {"Fuggles"}, "Fuggle", MatchedBy::Alias},
+    {CatalogueKind::Salt, {"Gypsum (CaSO4)"}, "Gypsum", MatchedBy::Alias},
+    {CatalogueKind::Salt, {"Epsom Salt (MgSO4)"}, "Epsom Salt", MatchedBy::Alias},
     {CatalogueKind::Hop, {"Tomahawk"}, "Columbus (CTZ)", MatchedBy::Alias},
     {CatalogueKind::Hop, {"Goldings, East Kent"}, "East Kent Goldings", MatchedBy::Alias},
     {CatalogueKind::Hop, {"Golding, Kent East"}, "East Kent Goldings", MatchedBy::Words},
