@@ -210,7 +210,8 @@ void ExpectSame(const ForeignFile& read, const SampleFile& expected, const std::
     ASSERT_EQ(read.recipes.size(), expected.recipes.size()) << where;
     for (std::size_t i = 0; i < read.recipes.size(); ++i) {
         const std::string recipe = where + " recipe " + std::to_string(i + 1);
-        EXPECT_EQ(read.recipes[i].name, expected.recipes[i].name) << recipe;
+        const std::string& name = expected.recipes[i].name;
+        EXPECT_EQ(read.recipes[i].name, name.empty() ? "Untitled" : name) << recipe;
         ExpectNear(ValueOf(read.recipes[i].batchSize), expected.recipes[i].litres, recipe);
         ExpectAllLines(read.recipes[i], expected.recipes[i], recipe);
     }
