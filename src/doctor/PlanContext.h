@@ -39,6 +39,9 @@ inline std::string PlaceOf(std::string_view list, std::size_t index, std::string
     return std::string(list) + " " + std::to_string(index + 1) + ": " + std::string(name);
 }
 
+// True if the line belongs to the mashed grains, false if to the extracts and sugars.
+bool IsMashed(const ForeignFermentable& line);
+
 // Each adds the lines of one list of the foreign recipe to the plan.
 void PlanFermentables(PlanContext& context);
 void PlanHops(PlanContext& context);

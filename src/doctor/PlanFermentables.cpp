@@ -29,18 +29,6 @@ std::optional<double> DensityOf(std::optional<Type> type) {
     }
 }
 
-bool IsMashed(const ForeignFermentable& line) {
-    switch (line.type.value_or(Type::Grain)) {
-        case Type::Grain:
-            return true;
-        case Type::Adjunct:
-        case Type::Other:
-            return line.recommendMash.value_or(true);
-        default:
-            return false;
-    }
-}
-
 std::string AmountText(PlanContext& c, const ForeignFermentable& line, const std::string& place) {
     if (!line.amount) return {};
     ForeignAmount amount = *line.amount;
@@ -101,6 +89,18 @@ std::string FigureText(PlanContext& c, const std::string& place, std::string_vie
 }
 
 }  // namespace
+
+bool IsMashed(const ForeignFermentable& line) {
+    switch (line.type.value_or(Type::Grain)) {
+        case Type::Grain:
+            return true;
+        case Type::Adjunct:
+        case Type::Other:
+            return line.recommendMash.value_or(true);
+        default:
+            return false;
+    }
+}
 
 void PlanFermentables(PlanContext& c) {
     for (std::size_t i = 0; i < c.recipe.fermentables.size(); ++i) {

@@ -15,6 +15,7 @@ namespace tw {
 namespace {
 
 constexpr double kGramsPerKilogram = 1000;
+constexpr double kWhole = 100;                      // percent
 constexpr double kHopSlip = 300, kMaltSlip = 3000;  // grams a litre
 
 // Returns the grams of all lines in a litre of the batch; nullopt without a batch size or amounts.
@@ -42,7 +43,7 @@ class AmountCheck {
     AmountCheck(const ForeignRecipe& recipe, Findings& findings) : recipe_(recipe), findings_(findings) {}
 
     void Hops() {
-        constexpr double kMost = 40, kLeastAlpha = 1, kMostAlpha = 25, kPercent = 100;
+        constexpr double kMost = 40, kLeastAlpha = 1, kMostAlpha = 25;
         const auto perLitre = GramsPerLitre(recipe_.hops, recipe_);
         if (perLitre && *perLitre > kHopSlip)
             Report(FindingCode::ThousandSlip, "Hops",
@@ -59,7 +60,7 @@ class AmountCheck {
                 Report(FindingCode::Implausible, place, text + ".");
             else if (alpha > 0 && alpha < kLeastAlpha)
                 Report(FindingCode::Implausible, place,
-                       text + ": probably " + FewestDecimals(alpha * kPercent) +
+                       text + ": probably " + FewestDecimals(alpha * kWhole) +
                            "% was written as a fraction. It was taken as it stands.");
         }
     }
@@ -84,6 +85,16 @@ class AmountCheck {
             Report(FindingCode::Implausible, "Boil size",
                    "The boil of " + FewestDecimals(recipe_.boilSize->value) +
                        " L is smaller than the batch of " + FewestDecimals(recipe_.batchSize->value) + " L.");
+    }
+
+    // An extract recipe may well state an efficiency of 0.
+    void Shares() {
+        if (recipe_.efficiency && *recipe_.efficiency <= 0 &&
+            std::ranges::any_of(recipe_.fermentables, IsMashed))
+            Report(FindingCode::Implausible, "Recipe", "The efficiency is 0%, which gives no gravity.");
+        if (recipe_.hopUtilization && *recipe_.hopUtilization <= 0 && !recipe_.hops.empty())
+            Report(FindingCode::Implausible, "Recipe",
+                   "The hop utilization is 0%, which gives no bitterness.");
     }
 
     void Attenuation() {
@@ -112,6 +123,20 @@ struct Limits {
 };
 constexpr Limits kOg{0.002, 0.010}, kFg{0.002, 0.006}, kAbv{0.2, 0.5}, kRelative{0.10, 0.25};
 
+// A figure as a finding names it.
+struct FigureName {
+    FindingCode code;
+    const char* place;
+    const char* words;  // within a sentence
+    const char* unit;
+    int decimals;
+};
+constexpr FigureName kGravity{FindingCode::OgDiffers, "Original gravity", "original gravity", "", 4};
+constexpr FigureName kFinished{FindingCode::FgDiffers, "Finished gravity", "finished gravity", "", 4};
+constexpr FigureName kAlcohol{FindingCode::AbvDiffers, "Alcohol", "alcohol", "%", 2};
+constexpr FigureName kBitterness{FindingCode::IbuDiffers, "Bitterness", "bitterness", " IBUs", 1};
+constexpr FigureName kColor{FindingCode::ColourDiffers, "Color", "color", " SRM", 1};
+
 class FigureCheck {
   public:
     FigureCheck(const ForeignRecipe& recipe, const TypedFigures& typed, Findings& findings)
@@ -119,26 +144,25 @@ class FigureCheck {
 
     // True if the difference is worth a finding.
     bool Gravity() {
-        return Compare(FindingCode::OgDiffers, "Original gravity", recipe_.stated.og, typed_.calculated.og,
-                       kOg, 4, typed_.canMeetGravity ? "" : "; no extraction gives the stated one");
+        return Compare(kGravity, recipe_.stated.og, typed_.calculated.og, kOg,
+                       typed_.canMeetGravity ? "" : "; no extraction gives the stated one");
     }
 
     void FinishedGravity() {
         if (!recipe_.stated.fg || !typed_.calculated.og || !typed_.attenuation) return;
         try {
-            Compare(FindingCode::FgDiffers, "Finished gravity", recipe_.stated.fg,
-                    AttenuatedGravity(*typed_.calculated.og, *typed_.attenuation), kFg, 4);
+            Compare(kFinished, recipe_.stated.fg,
+                    AttenuatedGravity(*typed_.calculated.og, *typed_.attenuation), kFg,
+                    " by the attenuation of the yeast");
         } catch (const Error&) {
             // A gravity beyond the formula is not comparable.
         }
     }
 
-    void Alcohol() {
-        Compare(FindingCode::AbvDiffers, "Alcohol", recipe_.stated.abv, typed_.calculated.abv, kAbv, 2);
-    }
+    void Alcohol() { Compare(kAlcohol, recipe_.stated.abv, typed_.calculated.abv, kAbv); }
 
     bool Bitterness() {
-        return CompareRatio(FindingCode::IbuDiffers, "Bitterness", recipe_.stated.ibu, typed_.ibuWithoutForm,
+        return CompareRatio(kBitterness, recipe_.stated.ibu, typed_.ibuWithoutForm,
                             " without the factor for the form of the hops");
     }
 
@@ -151,38 +175,34 @@ class FigureCheck {
         if (!stated || !calculated || *stated <= 0 || *calculated <= 0) return false;
         const double ratio = std::max(*stated / *calculated, *calculated / *stated);
         const bool ebc = ratio >= kLeast && ratio <= kMost;
-        CompareRatio(FindingCode::ColourDiffers, "Color", stated, calculated,
-                     ebc ? std::string("; this looks like EBC") : std::string());
+        CompareRatio(kColor, stated, calculated, ebc ? "; this looks like EBC" : "");
         return ebc && *calculated > *stated;
     }
 
   private:
-    bool Compare(FindingCode code, std::string place, std::optional<double> stated,
-                 std::optional<double> calculated, Limits limits, int decimals,
-                 std::string_view remark = {}) {
+    bool Compare(const FigureName& figure, std::optional<double> stated, std::optional<double> calculated,
+                 Limits limits, std::string_view remark = {}) {
         if (!stated || !calculated) return false;
-        const double apart = std::abs(*stated - *calculated);
-        if (!(apart > limits.note)) return false;
-        Add(apart > limits.suspicious, code, std::move(place),
-            "The file states " + Rounded(*stated, decimals) + "; the recipe gives " +
-                Rounded(*calculated, decimals) + std::string(remark) + ".");
-        return true;
+        return Judge(figure, *stated, *calculated, std::abs(*stated - *calculated), limits, remark);
     }
 
-    bool CompareRatio(FindingCode code, std::string place, std::optional<double> stated,
-                      std::optional<double> calculated, const std::string& remark) {
+    bool CompareRatio(const FigureName& figure, std::optional<double> stated,
+                      std::optional<double> calculated, std::string_view remark) {
         if (!stated || !calculated || *stated <= 0) return false;
         const double apart = std::abs(*stated - *calculated) / *stated;
-        if (!(apart > kRelative.note)) return false;
-        Add(apart > kRelative.suspicious, code, std::move(place),
-            "The file states " + Rounded(*stated, 1) + "; the recipe gives " + Rounded(*calculated, 1) +
-                remark + ".");
-        return true;
+        return Judge(figure, *stated, *calculated, apart, kRelative, remark);
     }
 
-    void Add(bool suspicious, FindingCode code, std::string place, std::string text) {
-        findings_.Add({suspicious ? Severity::Suspicious : Severity::Note, code, recipe_.name,
-                       std::move(place), std::move(text)});
+    bool Judge(const FigureName& figure, double stated, double calculated, double apart, Limits limits,
+               std::string_view remark) {
+        if (!(apart > limits.note)) return false;
+        std::string text = std::string("The ") + figure.words + " is " + Rounded(stated, figure.decimals) +
+                           figure.unit + " in the file and " + Rounded(calculated, figure.decimals) +
+                           figure.unit + " here";
+        text.append(remark).append(".");
+        findings_.Add({apart > limits.suspicious ? Severity::Suspicious : Severity::Note, figure.code,
+                       recipe_.name, figure.place, std::move(text)});
+        return true;
     }
 
     const ForeignRecipe& recipe_;
@@ -205,6 +225,7 @@ void CheckAmounts(const ForeignRecipe& recipe, Findings& findings) {
     check.Hops();
     check.Grist();
     check.Boil();
+    check.Shares();
     check.Attenuation();
 }
 

@@ -20,8 +20,9 @@ struct RemediesOffered {
 };
 
 // Adds what is suspicious about amounts: more than 40 g of hops a litre (above 300 probably grams written as
-// kilograms), a grist below 60 or above 800 g a litre (above 3,000 likewise), alpha acids above 25 %
-// or below 1 %, a boil smaller than the batch, an attenuation outside of 40 to 100 %.
+// kilograms), a grist below 60 or above 800 g a litre (above 3,000 likewise), alpha acids above 25 % or below
+// 1 %, a boil smaller than the batch, an efficiency of 0 with mashed grain, a hop utilization of
+// 0 with hops, an attenuation outside of 40 to 100 %.
 void CheckAmounts(const ForeignRecipe& recipe, Findings& findings);
 
 // Adds one note if a recipe of the file states a bitterness and has hops that are no leaf hops.

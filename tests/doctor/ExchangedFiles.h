@@ -4,8 +4,8 @@
 namespace tw::test {
 
 // Every use of hops and other ingredients, a grain behind a sugar, two waters, a mash, an equipment, ages,
-// display texts, and a tag of one program alone. The last recipe has no lines, so that only its fields tell in
-// which units it was typed.
+// display texts, and a tag of one program alone. The last recipe has no lines, so that only its fields tell
+// in which units it was typed.
 inline constexpr const char* kXmlFile = R"(<?xml version="1.0" encoding="UTF-8"?>
 <RECIPES>
 <RECIPE><NAME>Harvest Ale</NAME><VERSION>1</VERSION><TYPE>All Grain</TYPE>

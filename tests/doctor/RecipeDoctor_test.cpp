@@ -447,8 +447,8 @@ TEST_F(PaleAle, TheExtractionCanMeetTheStatedGravity) {
     EXPECT_TRUE(examined.offered.gravity);
     EXPECT_THAT(
         Told(),
-        ElementsAre("suspicious og-differs Original gravity: The file states 1.0600; the recipe gives "
-                    "1.0500."));
+        ElementsAre("suspicious og-differs Original gravity: The original gravity is 1.0600 in the file and "
+                    "1.0500 here."));
     ImportOptions options;
     options.gravity = true;
     RecipeRecord& r = Examine(options);
@@ -464,8 +464,8 @@ TEST_F(PaleAle, AGravityThatNoExtractionGivesIsNotOffered) {
     EXPECT_FALSE(examined.offered.gravity);
     EXPECT_THAT(
         Told(),
-        ElementsAre("suspicious og-differs Original gravity: The file states 1.0700; the recipe gives "
-                    "1.0500; no extraction gives the stated one."));
+        ElementsAre("suspicious og-differs Original gravity: The original gravity is 1.0700 in the file and "
+                    "1.0500 here; no extraction gives the stated one."));
     ImportOptions options;
     options.gravity = true;
     EXPECT_EQ(Examine(options).txtExtract.Text(), "72%");
@@ -483,6 +483,24 @@ TEST_F(PaleAle, ABitternessThatNoConstantGivesIsNotOffered) {
     recipe.stated.ibu = 30;
     Examine();
     EXPECT_FALSE(examined.offered.bitterness);
+}
+
+TEST_F(PaleAle, AnEfficiencyOrAHopUtilizationOfNothingIsSuspicious) {
+    recipe.efficiency = 0;
+    recipe.hopUtilization = 0;
+    RecipeRecord& r = Examine();
+    EXPECT_EQ(r.txtExtract.Text(), "0%");
+    EXPECT_THAT(Told(),
+                ElementsAre("suspicious implausible Recipe: The efficiency is 0%, which gives no gravity.",
+                            "suspicious implausible Recipe: The hop utilization is 0%, which gives no "
+                            "bitterness."));
+    // Neither says anything about a recipe without mashed grain and hops.
+    recipe.efficiency = 0;
+    recipe.hopUtilization = 0;
+    recipe.fermentables[0].type = ForeignFermentable::Type::Extract;
+    recipe.hops.clear();
+    Examine();
+    EXPECT_FALSE(Has(FindingCode::Implausible));
 }
 
 TEST_F(PaleAle, AnAlphaAcidBelowOnePercentIsSuspicious) {
