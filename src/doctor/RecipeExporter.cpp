@@ -413,6 +413,7 @@ ExportedRecipe RecipeExporter::Prepare(const std::string& name, ExchangeFormat f
     const std::optional<std::int64_t> id = RecipeId(database_, name);
     const std::optional<Original> original = id ? OriginalOf(document, *id) : std::nullopt;
     const RecipeFacts rows(document, database_, figures_, findings);
+    rows.ReportWithoutPlace();
     ExportedRecipe exported = ExportAssembly(document, rows, original ? &original->recipe : nullptr,
                                              original ? &original->plan : nullptr, host_.Defaults(), findings)
                                   .Assemble();

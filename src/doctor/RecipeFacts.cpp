@@ -202,6 +202,45 @@ std::optional<ForeignStyle> RecipeFacts::Style() const {
     return style;
 }
 
+// The profile of the style comes back with the style.
+bool RecipeFacts::HasOwnTargetWater() const {
+    const Grid& water = R().gridWater;
+    const std::string& profile = water.Text(WaterRow::Target, WaterCol::Profile);
+    if (Trim(profile).empty()) {
+        for (int ion = 0; ion < kIons; ++ion)
+            if (!water.Empty(WaterRow::Target, WaterCol::FirstIon + ion)) return true;
+        return false;
+    }
+    const auto style = catalogue_.Style(document_.StyleID());
+    return !style || !style->waterProfile || !SameName(profile, Trim(*style->waterProfile));
+}
+
+bool RecipeFacts::HasSecondSugar() const {
+    const Grid& priming = R().gridPriming;
+    for (int row = Grid::FixedRows() + 1; R().Bottled() && row < priming.EndOfData(); ++row)
+        if (!IsBlankRow(priming, row)) return true;
+    return false;
+}
+
+void RecipeFacts::ReportWithoutPlace() const {
+    const RecipeRecord& r = R();
+    std::string lost;
+    const auto add = [&](bool there, std::string_view words) {
+        if (there) lost.append(lost.empty() ? "" : ", ").append(words);
+    };
+    add(!r.txtNumBatches.Empty(), "number of batches");
+    add(HasOwnTargetWater(), "target water");
+    add(!r.txtDilutions.Empty(), "dilutions");
+    add(!r.txtFinalVol.Empty(), "final volume");
+    add(HasSecondSugar(), "second priming sugar");
+    if (lost.empty()) return;
+    findings_.Add({Severity::NotCarried,
+                   FindingCode::Carried,
+                   document_.Caption(),
+                   {},
+                   "Other programs have no place for: " + lost + "."});
+}
+
 ForeignRecipe RecipeFacts::Fields() const {
     constexpr double kFull = 100;
     const RecipeRecord& r = R();

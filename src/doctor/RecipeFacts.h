@@ -31,10 +31,14 @@ class RecipeFacts {
     // Returns the facts that do not stand in lines: volumes, efficiency, style, notes, figures.
     ForeignRecipe Fields() const;
     std::optional<ForeignStyle> Style() const;
+    // Adds to findings what the brewer has entered and no format has a place for.
+    void ReportWithoutPlace() const;
 
   private:
     const RecipeRecord& R() const { return document_.Record(); }
     void Report(FindingCode code, std::string place, std::string text) const;
+    bool HasOwnTargetWater() const;
+    bool HasSecondSugar() const;
 
     const RecipeDocument& document_;
     CatalogueLookup catalogue_;

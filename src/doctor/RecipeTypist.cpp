@@ -29,7 +29,8 @@ void RecipeTypist::Type(const RecipePlan& plan) {
         RecipeRecord& r = document_.Record();
         name_ = plan.name;
         TypeField(r.txtName, plan.name);
-        if (plan.style) document_.Style().ChangeStyle(*plan.style);
+        // The document is new, and so is its list of styles.
+        if (plan.style) document_.Style().Select(document_.Style().EntryOf(*plan.style));
         if (plan.ibuMethod)
             document_.Options().Choose(kMethodOptions[static_cast<std::size_t>(*plan.ibuMethod)]);
         if (plan.bottled) document_.Options().Choose(*plan.bottled ? "optBottle" : "optKeg");

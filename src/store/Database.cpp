@@ -15,11 +15,6 @@ namespace {
 
 static_assert(Database::kCannotOpenNumber == SQLITE_CANTOPEN);
 
-struct StatementFinalizer {
-    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
-};
-using StatementOwner = std::unique_ptr<sqlite3_stmt, StatementFinalizer>;
-
 // Binds a value to one parameter of a statement. Returns SQLite's result code.
 struct Binder {
     sqlite3_stmt* statement;
@@ -75,6 +70,7 @@ Database::Database(sqlite3* handle, std::string path, bool readOnly)
 Database::~Database() {
     // A recordset may outlive the database, so the watch must not be called any more.
     if (watch_) watch_->Detach(handle_);
+    statements_->Close();
     HandleCloser()(handle_);
 }
 
@@ -142,7 +138,7 @@ std::unique_ptr<Database> Database::CreateDatabase(const std::string& path, std:
     return std::unique_ptr<Database>(new Database(CreateDatabaseFile(path).release(), path));
 }
 
-sqlite3_stmt* Database::Prepare(std::string_view sql, const SqlValues& values, bool select) {
+CompiledStatement Database::Prepare(std::string_view sql, const SqlValues& values, bool select) {
     if (hook_) hook_(WithLiterals(sql, values));
     // A disk error may have undone the unit of work midway; this statement must not be executed without
     // the others.
@@ -152,22 +148,23 @@ sqlite3_stmt* Database::Prepare(std::string_view sql, const SqlValues& values, b
         throw Error(kDatabaseSource,
                     select ? "A recordset is opened on a SELECT." : "A SELECT is not executed.",
                     SQLITE_ERROR);
-    sqlite3_stmt* compiled = nullptr;
+    sqlite3_stmt* compiled = statements_->Take(translated.sql);
     // SQLite need not copy the text if the length includes the terminating NUL.
-    if (sqlite3_prepare_v3(handle_, translated.sql.c_str(), static_cast<int>(translated.sql.size() + 1), 0,
-                           &compiled, nullptr) != SQLITE_OK)
+    if (compiled == nullptr &&
+        sqlite3_prepare_v3(handle_, translated.sql.c_str(), static_cast<int>(translated.sql.size() + 1),
+                           SQLITE_PREPARE_PERSISTENT, &compiled, nullptr) != SQLITE_OK)
         RaiseStoreError(handle_, kDatabaseSource);
-    StatementOwner statement(compiled);
+    CompiledStatement statement(compiled, statements_);
     if (!BindAll(compiled, translated, values, select)) RaiseStoreError(handle_, kDatabaseSource);
-    return statement.release();
+    return statement;
 }
 
 void Database::Execute(std::string_view sql, const SqlValues& values) {
     recordsAffected_ = 0;
     CheckWritable();
-    const StatementOwner statement(Prepare(sql, values, false));
+    const CompiledStatement statement = Prepare(sql, values, false);
     int result = SQLITE_ROW;
-    while (result == SQLITE_ROW) result = sqlite3_step(statement.get());
+    while (result == SQLITE_ROW) result = sqlite3_step(statement.Get());
     if (result != SQLITE_DONE) {
         const Error error = StoreError(handle_, kDatabaseSource);
         if (unitDepth_ > 0 && sqlite3_get_autocommit(handle_) != 0 && !undoneBy_) undoneBy_.emplace(error);
@@ -186,6 +183,7 @@ bool Database::HasColumn(const char* table, const char* column) const {
 }
 
 void Database::ExecuteNative(const std::string& sql) {
+    statements_->Clear();
     RunNative(handle_, sql);
 }
 
@@ -217,6 +215,8 @@ void UnitOfWork::Commit() {
 void UnitOfWork::Abandon() {
     if (!open_ || !End()) return;
     const auto after = RunAtEnd(database_.afterUnit_);
+    // Tables that the unit has created are gone.
+    database_.statements_->Clear();
     sqlite3_exec(database_.handle_, "ROLLBACK", nullptr, nullptr, nullptr);
 }
 

@@ -15,6 +15,7 @@
 #include "platform/DateTime.h"
 #include "platform/Error.h"
 #include "store/SqlValue.h"
+#include "store/StatementCache.h"
 #include "store/StatementWatch.h"
 
 struct sqlite3;
@@ -190,9 +191,10 @@ class Database {
     [[noreturn]] void RaiseUndone() const;
     // Calls the hook, translates and compiles the statement and binds its values. select says whether a
     // SELECT is expected; any other statement must run before values is destroyed.
-    sqlite3_stmt* Prepare(std::string_view sql, const SqlValues& values, bool select);
+    CompiledStatement Prepare(std::string_view sql, const SqlValues& values, bool select);
 
     sqlite3* handle_;
+    std::shared_ptr<StatementCache> statements_ = std::make_shared<StatementCache>();
     std::string path_;
     int recordsAffected_ = 0;
     bool readOnly_;

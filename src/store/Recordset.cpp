@@ -1,6 +1,7 @@
 #include <cmath>
 #include <optional>
 #include <sqlite3.h>
+#include <utility>
 #include <vector>
 
 #include "store/Database.h"
@@ -132,10 +133,7 @@ bool Field::Boolean() const {
 
 // The compiled statement, and the names of its fields once one has been requested.
 struct Recordset::Impl {
-    explicit Impl(sqlite3_stmt* compiled) : statement(compiled) {}
-    ~Impl() { sqlite3_finalize(statement); }
-    Impl(const Impl&) = delete;
-    Impl& operator=(const Impl&) = delete;
+    explicit Impl(CompiledStatement prepared) : statement(prepared.Get()), compiled_(std::move(prepared)) {}
 
     void Step();
     const std::vector<std::string>& Names();
@@ -155,6 +153,7 @@ struct Recordset::Impl {
     bool atEnd = true;
 
   private:
+    CompiledStatement compiled_;
     std::vector<std::string> names_;
     std::vector<std::uint32_t> hashes_;
     std::vector<std::optional<FieldType>>

@@ -144,6 +144,23 @@ TEST_F(Exporting, FieldsThatWereEditedAreWrittenAnew) {
     EXPECT_EQ(exported.facts.notes, "Another line.");
 }
 
+TEST_F(Exporting, WhatNoFormatHasAPlaceForIsTold) {
+    Edit([](RecipeDocument& document) {
+        RecipeRecord& r = document.Record();
+        for (const auto& [box, text] : {std::pair(&r.txtNumBatches, "2"), std::pair(&r.txtDilutions, "1 gal"),
+                                        std::pair(&r.txtFinalVol, "6 gal")}) {
+            document.Fields().SetText(*box, text);
+            ASSERT_TRUE(document.Fields().CommitField(*box, Asking::Quietly));
+        }
+        document.Cells().EditCell(r.gridWater, WaterRow::Target, WaterCol::Profile, "Hill Spring");
+    });
+    Prepare();
+    ASSERT_EQ(findings.All().size(), 1u);
+    EXPECT_EQ(findings.All()[0].text,
+              "Other programs have no place for: number of batches, target water, dilutions, final volume.");
+    EXPECT_EQ(findings.All()[0].severity, Severity::NotCarried);
+}
+
 TEST_F(Exporting, TheOtherFormatGetsTheFactsButNotTheText) {
     const ExportedRecipe exported = Prepare(ExchangeFormat::BeerJson);
     EXPECT_TRUE(exported.facts.fragment.empty());
