@@ -36,7 +36,7 @@ class CarriedDataWindow : public GuiTest {
     }
     QAction& Item() {
         for (QAction* const action : window.findChildren<QAction*>())
-            if (action->text() == QStringLiteral("Carried &Data...")) return *action;
+            if (action->objectName() == QStringLiteral("mnuFileCarried")) return *action;
         throw Error("CarriedData_test", "there is no menu item", 0);
     }
 
