@@ -60,8 +60,8 @@ FileDialogModel::Options ImportDoctorModel::FilesToAskFor() {
     return {.kind = FileDialogModel::Kind::Open,
             .title = "Import from Other Programs",
             .extension = "xml",
-            .filterName = "Recipes of Other Programs (*.xml *.json *.beerjson);;All Files (*)",
-            .filter = "*.xml *.json *.beerjson",
+            .filterName = "Recipes of Other Programs (*.xml *.beerxml *.json *.beerjson);;All Files (*)",
+            .filter = "*.xml *.beerxml *.json *.beerjson",
             .several = true};
 }
 

@@ -72,7 +72,8 @@ bool IsOfWebPage(std::string_view tag) {
 
 FileKind KindOfTags(std::string_view text) {
     while (const auto tag = TakeTag(text)) {
-        if (EqualAscii(*tag, "beer_xml")) return FileKind::BeerXml2Draft;
+        // In capitals it is somebody's wrapper around records of the first version.
+        if (*tag == "beer_xml") return FileKind::BeerXml2Draft;
         if (EqualAscii(*tag, "!doctype")) {
             // Web pages have it; BeerXML may have one too, with the name of its root.
             const auto name = text.find_first_not_of(kSpace, tag->size());

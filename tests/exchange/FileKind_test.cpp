@@ -52,6 +52,7 @@ TEST(FileKind, WebPagesAndDrawingsAreNoBeerXml) {
 }
 
 TEST(FileKind, TheDraftOfTheSecondVersionIsKnown) {
+    EXPECT_EQ(KindOf("<BEER_XML><RECIPES><RECIPE>"), FileKind::BeerXml);
     EXPECT_EQ(KindOf("<?xml version=\"1.0\"?><beer_xml version=\"2.0\"><recipes><recipe>"),
               FileKind::BeerXml2Draft);
 }
