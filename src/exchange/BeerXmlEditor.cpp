@@ -123,22 +123,10 @@ void BeerXmlEditor::Complete(const XmlValues& values) {
 }
 
 bool BeerXmlEditor::Needs(const XmlField& field) const {
-    const auto typeIs = [&](std::string_view word) {
+    return tw::IsNeeded(field, [&](std::string_view word) {
         const pugi::xml_node type = slots_[IndexOf("TYPE")];
         return type && EqualAscii(TrimmedText(type), word);
-    };
-    switch (field.need) {
-        case XmlNeed::Required:
-            return true;
-        case XmlNeed::UnlessExtract:
-            return !typeIs("Extract");
-        case XmlNeed::WhenInfusion:
-            return typeIs("Infusion");
-        case XmlNeed::Optional:
-        case XmlNeed::Display:
-            return false;
-    }
-    return false;
+    });
 }
 
 std::size_t BeerXmlEditor::IndexOf(std::string_view tag) const {

@@ -290,22 +290,10 @@ void BeerXmlRecord::Index(pugi::xml_node element) {
 }
 
 bool BeerXmlRecord::IsNeeded(const XmlField& field) const {
-    const auto typeIs = [&](std::string_view word) {
-        const auto& type = slots_[IndexOf("TYPE")].element;
+    return tw::IsNeeded(field, [&](std::string_view word) {
+        const pugi::xml_node type = slots_[IndexOf("TYPE")].element;
         return type && EqualAscii(TrimmedText(type), word);
-    };
-    switch (field.need) {
-        case XmlNeed::Required:
-            return true;
-        case XmlNeed::UnlessExtract:
-            return !typeIs("Extract");
-        case XmlNeed::WhenInfusion:
-            return typeIs("Infusion");
-        case XmlNeed::Optional:
-        case XmlNeed::Display:
-            return false;
-    }
-    return false;
+    });
 }
 
 void BeerXmlRecord::TellMissing() const {

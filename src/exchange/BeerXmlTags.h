@@ -54,6 +54,23 @@ struct XmlRecordRule {
     std::span<const XmlField> fields;
 };
 
+// True if a record must have the field. typeIs says whether the TYPE of the record is a word of its list.
+template <class TypeIs>
+bool IsNeeded(const XmlField& field, TypeIs typeIs) {
+    switch (field.need) {
+        case XmlNeed::Required:
+            return true;
+        case XmlNeed::UnlessExtract:
+            return !typeIs("Extract");
+        case XmlNeed::WhenInfusion:
+            return typeIs("Infusion");
+        case XmlNeed::Optional:
+        case XmlNeed::Display:
+            return false;
+    }
+    return false;
+}
+
 // Indexed by record.
 std::span<const XmlRecordRule, kXmlRecords> XmlRecordRules();
 const XmlRecordRule& RuleOf(XmlRecord record);
