@@ -111,7 +111,9 @@ class WholeFiles : public testing::Test {
         return State();
     }
 
-    const fs::path folder = fs::path(testing::TempDir()) / "tunwright_whole_files";
+    const fs::path folder = fs::path(testing::TempDir()) /
+                            ("tunwright_whole_files_" +
+                             std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
     const std::string made = (folder / "made.mdb").string(), path = (folder / "used.mdb").string();
     std::vector<std::string> files;
 };
