@@ -54,6 +54,8 @@ class HtmlText {
         std::string_view name = text_.substr(at + 1, kLongestWord);
         const bool closes = name.starts_with('/');
         if (closes) name.remove_prefix(1);
+        // A text of nothing but "<" would look up each of them.
+        if (name.starts_with('<')) return {};
         name = name.substr(0, name.find_first_of(" \t\r\n/>"));
         const std::optional<HtmlTag> tag = FindHtmlTag(name);
         if (!tag) return {};
