@@ -134,7 +134,7 @@ std::optional<bool> ShownInUS(const ForeignRecipe& recipe) {
 std::string FewestDecimals(double value) {
     constexpr int kMost = 4;
     for (int decimals = 0; decimals < kMost; ++decimals) {
-        const std::string text = Fixed(value, decimals);
+        std::string text = Fixed(value, decimals);
         double read = 0;
         std::from_chars(text.data(), text.data() + text.size(), read);
         if (IsNear(read, value, kKept)) return text;

@@ -12,8 +12,8 @@ namespace tw {
 
 // A row of the recipe and the planned line that it was.
 struct ComparedRow {
-    const Grid* grid;
-    int row;
+    const Grid* grid = nullptr;  // never nullptr in a comparison
+    int row = 0;
     const PlannedLine* line = nullptr;  // nullptr for a row that the brewer has added
     bool unchanged = false;
 };

@@ -8,6 +8,7 @@
 #include "doctor/RecipePlanner.h"
 #include "document/RowFiller.h"
 #include "exchange/ForeignFileReader.h"
+#include "record/FieldRules.h"
 #include "store/CarriedData.h"
 #include "store/RecipeRows.h"
 #include "values/Text.h"
@@ -31,7 +32,7 @@ bool SameText(std::string_view a, std::string_view b) {
 }
 
 const std::string& TextOf(const RecipeRecord& record, FieldId field) {
-    return const_cast<RecipeRecord&>(record)[field].Text();
+    return (record.*RuleOf(field).box).Text();
 }
 
 // True if the row of priming or pressure still is as planned; true for any other line.
@@ -75,7 +76,7 @@ class ExportedLines {
 
   private:
     struct Entry {
-        std::size_t place;  // 1 for the first line of the original
+        std::size_t place = 0;  // 1 for the first line of the original
         Line line;
         LineOrigin origin;
     };
