@@ -54,10 +54,9 @@ std::string With(double value, std::string_view unit) {
     return FewestDecimals(value).append(" ").append(unit);
 }
 
-// True if the decimals that a text can have keep the value.
-bool IsKept(double value) {
+// True if the number that the text says is the value.
+bool Keeps(const std::string& text, double value) {
     double read = 0;
-    const std::string text = FewestDecimals(value);
     std::from_chars(text.data(), text.data() + text.size(), read);
     return IsNear(read, value, kKept);
 }
@@ -72,7 +71,7 @@ struct UnitChoice {
 std::string InFirstFit(double quantity, std::span<const UnitChoice> choices) {
     for (const UnitChoice& choice : choices.first(choices.size() - 1)) {
         const double value = quantity / choice.factor;
-        if (value >= choice.atLeast && IsKept(value)) return With(value, choice.word);
+        if (value >= choice.atLeast && Keeps(FewestDecimals(value), value)) return With(value, choice.word);
     }
     return With(quantity / choices.back().factor, choices.back().word);
 }
@@ -135,9 +134,7 @@ std::string FewestDecimals(double value) {
     constexpr int kMost = 4;
     for (int decimals = 0; decimals < kMost; ++decimals) {
         std::string text = Fixed(value, decimals);
-        double read = 0;
-        std::from_chars(text.data(), text.data() + text.size(), read);
-        if (IsNear(read, value, kKept)) return text;
+        if (Keeps(text, value)) return text;
     }
     return Fixed(value, kMost);
 }

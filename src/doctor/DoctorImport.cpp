@@ -63,10 +63,6 @@ class CountingHost final : public CopyHost {
     std::vector<std::size_t> skipped_;
 };
 
-std::string Counted(int recipes) {
-    return std::to_string(recipes) + (recipes == 1 ? " recipe" : " recipes");
-}
-
 // Imports the files one after the other and keeps the account.
 class FileByFile {
   public:
@@ -88,7 +84,9 @@ class FileByFile {
             const int imported = import(file, chosen, findings);
             if (host_.HasCancelled()) return SayCancelled(file);
             outcome_.imported += imported;
-            if (!chosen.empty()) Say(Severity::Note, file, "Imported " + Counted(imported) + ".");
+            if (!chosen.empty())
+                Say(Severity::Note, file,
+                    "Imported " + CountOfRecipes(static_cast<std::size_t>(imported)) + ".");
             SayEntries(file, findings);
         } catch (const Error& error) {
             return Say(Severity::Refused, file, "Nothing was imported: " + error.Description());

@@ -99,7 +99,7 @@ int DoctorDesk::Import(const std::string& path, std::int64_t folderId,
     const auto chosen = Chosen(file, names, host);
     if (!chosen) return 0;
     RecipeDoctor doctor = Doctor();
-    Findings findings = file.findings;
+    Findings findings;  // examining the file tells them
     return ForeignImport(doctor, data_.Catalogue(), host)
         .Run(file, std::filesystem::path(path).filename().string(), {*chosen, folderId, options}, findings);
 }

@@ -59,8 +59,7 @@ void DoctorDialogs::Export() {
 }
 
 void DoctorDialogs::Say(std::string_view done, std::size_t recipes, const std::string& where) const {
-    hooks_.sayBriefly(std::string(done) + " " + std::to_string(recipes) +
-                      (recipes == 1 ? " recipe" : " recipes") + where);
+    hooks_.sayBriefly(std::string(done) + " " + CountOfRecipes(recipes) + where);
 }
 
 }  // namespace tw

@@ -203,8 +203,7 @@ int RecipeExchange::CopyIn(Database& file, const Choice& choice, ProgressModel& 
 
 void RecipeExchange::SayWhatCame(std::string_view done, int count, const std::string& where) {
     if (count == 0) return;
-    const std::string recipes = std::to_string(count) + (count == 1 ? " recipe" : " recipes");
-    hooks_.sayBriefly(std::string(done) + " " + recipes + where);
+    hooks_.sayBriefly(std::string(done) + " " + CountOfRecipes(static_cast<std::size_t>(count)) + where);
 }
 
 }  // namespace tw

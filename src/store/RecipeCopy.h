@@ -2,6 +2,7 @@
 // determine which columns are written.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -113,5 +114,10 @@ class RecipeCopier {
     std::int64_t destFolderId_ = 0;
     StylesNotImported* stylesNotImported_ = nullptr;
 };
+
+// Returns "1 recipe" or "3 recipes", for what is said after a copy.
+inline std::string CountOfRecipes(std::size_t count) {
+    return std::to_string(count) + (count == 1 ? " recipe" : " recipes");
+}
 
 }  // namespace tw
